@@ -1,0 +1,22 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "OrvikTypeLib/IObject.h"
+
+namespace orvik {
+
+/// What a set-up control tells its host while it is edited.
+///
+/// Implemented by: the host. Optional. Since contract version 1. User-interface thread only.
+class ICallBack : public virtual IObject {
+ public:
+  /// Something happened in the control; "Change" means that the edited data were modified.
+  void Notify(const std::string& sText) { ICallBack_Notify(sText); }
+
+ private:
+  virtual void ICallBack_Notify(const std::string& sText) = 0;
+};
+
+}  // namespace orvik

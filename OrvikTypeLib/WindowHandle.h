@@ -1,0 +1,10 @@
+#pragma once
+
+#include <cstdint>
+
+namespace orvik {
+
+/// A window of the platform as a number; 0 is no window.
+using WindowHandle = std::uintptr_t;
+
+}  // namespace orvik
