@@ -2,10 +2,12 @@
 
 #include <charconv>
 #include <cmath>
+#include <cstddef>
 #include <cstdint>
 #include <limits>
 #include <string>
 #include <string_view>
+#include <system_error>
 #include <variant>
 
 #include "OrvikTypeLib/Variant.h"
@@ -34,7 +36,13 @@ inline double LeadingNumber(std::string_view sText) {
     return 0;
   double rValue = 0;
   const auto result = std::from_chars(sText.data(), sText.data() + sText.size(), rValue);
-  return result.ec == std::errc{} ? rValue : 0;
+  if (result.ec == std::errc{}) return rValue;
+  if (result.ec != std::errc::result_out_of_range) return 0;
+  const std::string_view sNumber(sText.data(), static_cast<std::size_t>(result.ptr - sText.data()));
+  const bool fTiny =
+      sNumber.find("e-") != std::string_view::npos || sNumber.find("E-") != std::string_view::npos;
+  if (fTiny) return 0;
+  return sText.front() == '-' ? std::numeric_limits<double>::lowest() : std::numeric_limits<double>::max();
 }
 
 /// Rounded to the nearest 32-bit integer, halves to the even neighbour, held within the 32-bit range;

@@ -5,7 +5,6 @@
 #include <utility>
 
 #include "OrvikTypeLib/IObject.h"
-#include "OrvikTypeLib/Variant.h"
 
 namespace orvik {
 
@@ -51,8 +50,8 @@ class ILimitData : public virtual IObject {
   void PrintReport(std::shared_ptr<IReport> Report, std::shared_ptr<IObject> Context) {
     ILimitData_PrintReport(std::move(Report), std::move(Context));
   }
-  /// Tells that a value which limits may depend on has changed.
-  void UpdateLimits(const Variant& vValue) { ILimitData_UpdateLimits(vValue); }
+  /// Tells that an object which limits may refer to has changed, for example the element itself.
+  void UpdateLimits(std::shared_ptr<IObject> Reference) { ILimitData_UpdateLimits(std::move(Reference)); }
   /// The own standards, among those given, that the measurement fails; empty when it fails none.
   std::shared_ptr<IStandardColl> FindFailedStandards(std::shared_ptr<IMeasurement> Measurement,
                                                      std::shared_ptr<IStandardColl> Standards) const {
@@ -72,7 +71,7 @@ class ILimitData : public virtual IObject {
   virtual void ILimitData_Load(std::shared_ptr<IXmlNode> Node, std::shared_ptr<IObject> Context) = 0;
   virtual std::shared_ptr<IXmlNode> ILimitData_Save(std::shared_ptr<IXmlNode> Parent) const = 0;
   virtual void ILimitData_PrintReport(std::shared_ptr<IReport> Report, std::shared_ptr<IObject> Context) = 0;
-  virtual void ILimitData_UpdateLimits(const Variant& vValue) = 0;
+  virtual void ILimitData_UpdateLimits(std::shared_ptr<IObject> Reference) = 0;
   virtual std::shared_ptr<IStandardColl> ILimitData_FindFailedStandards(
       std::shared_ptr<IMeasurement> Measurement, std::shared_ptr<IStandardColl> Standards) const = 0;
 };

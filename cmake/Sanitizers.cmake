@@ -1,0 +1,5 @@
+if(ORVIK_SANITIZE)
+  # "vptr" compares type information by address, which differs between a host and a plug-in that exports nothing but its entry points.
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize=vptr -fno-sanitize-recover=all -fno-omit-frame-pointer -g1 -O1)
+  add_link_options(-fsanitize=address,undefined)
+endif()

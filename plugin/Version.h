@@ -1,0 +1,11 @@
+#pragma once
+
+/// The library's version, and the only place where it stands: the build reads it from these lines.
+namespace keld::Version {
+
+inline constexpr int kMajor = 2;
+inline constexpr int kMinor = 2;
+inline constexpr int kBuild = 0;
+inline constexpr int kRevision = 2;
+
+}  // namespace keld::Version
