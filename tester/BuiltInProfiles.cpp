@@ -14,9 +14,9 @@ struct Row {
 };
 
 // Equipment of protection class I with type CF applied parts, in good order. Every figure keeps the strictest
-// bound in use: protective earth 0.2 Ohm with the mains cable (IEC 60601-1, 8.6.4), earth leakage 500 µA,
-// enclosure leakage 100 µA (8.7.3, normal condition), patient leakage and auxiliary current 10 µA (8.7.3,
-// CF), insulation 70 MOhm (IEC 62353, applied parts).
+// bound in use: protective earth 0.2 Ohm with the mains cable (IEC 60601-1, 8.6.4), earth leakage 500 µA (IEC
+// 62353, equipment leakage of class I), enclosure leakage 100 µA, patient leakage and auxiliary current 10 µA
+// (IEC 60601-1, 8.7.3, normal condition, CF), insulation 70 MOhm (IEC 62353, applied parts).
 constexpr Row kSoundClass1[] = {
     {210, "231.4"}, {410, "0.123"}, {420, "0.131"},                // mains, protective earth
     {610, "182"},   {620, "176"},   {630, "341"},   {640, "328"},  // earth leakage

@@ -14,7 +14,11 @@ namespace sim {
 StopSignal::StopSignal() {
   sigset_t signals;
   sigemptyset(&signals);
-  for (const int number : {SIGINT, SIGTERM, SIGHUP}) sigaddset(&signals, number);
+  for (const int number : {SIGINT, SIGTERM}) sigaddset(&signals, number);
+  // A blocked signal arrives even when it is ignored; who started us with nohup does not want that.
+  struct sigaction hangUp {};
+  sigaction(SIGHUP, nullptr, &hangUp);
+  if (hangUp.sa_handler != SIG_IGN) sigaddset(&signals, SIGHUP);
   if (sigprocmask(SIG_BLOCK, &signals, nullptr) != 0)
     throw SystemFailure("signals could not be blocked", errno);
   fd_ = UniqueFd(signalfd(-1, &signals, SFD_CLOEXEC | SFD_NONBLOCK));

@@ -4,7 +4,8 @@
 
 namespace sim {
 
-/// SIGINT, SIGTERM and SIGHUP as a descriptor that becomes readable, instead of the end of the process.
+/// SIGINT, SIGTERM and SIGHUP (unless it is ignored) as a descriptor that becomes readable, instead of the
+/// end of the process.
 class StopSignal {
  public:
   /// Blocks the signals for this process; to be made before any thread. Throws SystemFailure.

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace bench {
+
+/// UTF-8 text as ISO 8859-1 bytes; none when a letter is not in that set or the text is not UTF-8.
+std::optional<std::string> Latin1FromUtf8(std::string_view text);
+
+/// ISO 8859-1 bytes as UTF-8 text. Every byte stands for a letter.
+std::string Utf8FromLatin1(std::string_view bytes);
+
+/// The bytes as UTF-8 text in which no byte is hidden: control bytes read as "\x0D", a backslash as "\\".
+std::string VisibleText(std::string_view bytes);
+
+}  // namespace bench

@@ -1,0 +1,58 @@
+#include "host/serial/MemoryTransport.h"
+
+#include <utility>
+
+#include "OrvikTypeLib/HostError.h"
+
+namespace bench {
+
+using orvik::HostError;
+
+void MemoryLine::Deliver(std::string_view bytes) {
+  const auto receiver = receiver_;  // a handler may close the line
+  if (connected_ && receiver) receiver(bytes);
+}
+
+void MemoryLine::Unplug() {
+  if (!connected_) return;
+  connected_ = false;
+  receiver_ = nullptr;
+  const auto listener = std::exchange(failureListener_, nullptr);
+  if (listener) listener();
+}
+
+MemoryTransport::MemoryTransport(std::shared_ptr<MemoryLine> line) {
+  if (line->connected_)
+    throw HostError(HostError::kDeviceError, "OrvikComm.PortManager",
+                    "the line in memory is held by another port; close that one first");
+  line_ = std::move(line);
+  line_->connected_ = true;
+}
+
+MemoryTransport::~MemoryTransport() { Close(); }
+
+void MemoryTransport::SetReceiver(Receiver receiver) {
+  if (line_) line_->receiver_ = std::move(receiver);
+}
+
+void MemoryTransport::SetFailureListener(std::function<void()> listener) {
+  if (line_) line_->failureListener_ = std::move(listener);
+}
+
+void MemoryTransport::Write(std::string_view bytes) {
+  if (!IsOpen()) throw HostError(HostError::kDeviceError, "OrvikComm.Port", "the line in memory is closed");
+  const auto line = line_;  // a handler may close the port
+  line->sent_.Raise(bytes);
+}
+
+bool MemoryTransport::IsOpen() const { return line_ && line_->connected_; }
+
+void MemoryTransport::Close() {
+  const auto line = std::exchange(line_, nullptr);
+  if (!line) return;
+  line->connected_ = false;
+  line->receiver_ = nullptr;
+  line->failureListener_ = nullptr;
+}
+
+}  // namespace bench

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "host/serial/ITransport.h"
+#include "platform/Event.h"
+
+namespace bench {
+
+/// The far end of a line inside the process: hears what the near end sends, and answers.
+class MemoryLine {
+ public:
+  /// Bytes that the near end has sent.
+  orvik::platform::Event<std::string_view>& Sent() { return sent_; }
+  /// Whether a near end is open.
+  bool Connected() const { return connected_; }
+  /// Gives bytes to the near end; they are lost when none is open.
+  void Deliver(std::string_view bytes);
+  /// Pulls the cable: the near end fails. A later one can be opened again.
+  void Unplug();
+
+ private:
+  friend class MemoryTransport;
+
+  orvik::platform::Event<std::string_view> sent_;
+  ITransport::Receiver receiver_;
+  std::function<void()> failureListener_;
+  bool connected_ = false;
+};
+
+/// The near end of such a line.
+class MemoryTransport final : public ITransport {
+ public:
+  /// `HostError` 57 when the line has a near end already.
+  explicit MemoryTransport(std::shared_ptr<MemoryLine> line);
+  ~MemoryTransport() override;
+
+  void SetReceiver(Receiver receiver) override;
+  void SetFailureListener(std::function<void()> listener) override;
+  void Write(std::string_view bytes) override;
+  bool IsOpen() const override;
+  void Close() override;
+
+ private:
+  std::shared_ptr<MemoryLine> line_;  ///< empty once closed
+};
+
+}  // namespace bench

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "OrvikTypeLib/IMessage.h"
+
+namespace bench {
+
+/// One message of the wire: a mnemonic and its parameters, as UTF-8 text.
+class Message final : public orvik::IMessage {
+ public:
+  /// @param line the message as bytes of the wire, without its end
+  Message(std::string mnemonic, std::vector<std::string> parameters, std::string line)
+      : mnemonic_(std::move(mnemonic)), parameters_(std::move(parameters)), line_(std::move(line)) {}
+
+  const std::string& MnemonicText() const { return mnemonic_; }
+  const std::vector<std::string>& Parameters() const { return parameters_; }
+  const std::string& Line() const { return line_; }
+
+ private:
+  std::string IMessage_Mnemonic() const override { return mnemonic_; }
+  std::int32_t IMessage_ParameterCount() const override {
+    return static_cast<std::int32_t>(parameters_.size());
+  }
+  orvik::Variant IMessage_Parameter(std::int32_t lIndex) const override;
+
+  const std::string mnemonic_;
+  const std::vector<std::string> parameters_;
+  const std::string line_;
+};
+
+/// A message that can be sent. A parameter that holds a comma or a quotation mark goes out in quotation marks
+/// with inner ones doubled. `HostError` 5 for a control character, a letter outside ISO 8859-1, a mnemonic
+/// that is empty or holds a comma or a quotation mark, and a line that gets too long.
+std::shared_ptr<Message> ComposeMessage(const std::string& mnemonic, std::vector<std::string> parameters);
+
+/// Takes a line apart; empty when its quotation marks do not match.
+std::shared_ptr<Message> ParseMessage(std::string_view line);
+
+}  // namespace bench

@@ -1,0 +1,126 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "OrvikTypeLib/IBaseElement.h"
+#include "OrvikTypeLib/ITestElement.h"
+#include "model/IKELDTest.h"
+#include "platform/Event.h"
+
+namespace orvik {
+class IRunController;
+}
+
+namespace keld {
+
+class CKELDResultData;
+class CKELDTestConfiguration;
+class FTestGuide;
+class FYesNoPrompt;
+
+/// What a single test and a sequence have in common: the host's base element that each wraps, and the frame
+/// of a run.
+///
+/// Every operation ignores errors step by step: a failing call is passed over and the next step runs.
+class CKELDElement : public virtual orvik::ITestElement, public virtual IKELDTest {
+ public:
+  /// The host's element behind this one. Setting it to empty is ignored.
+  std::shared_ptr<orvik::IBaseElement> BaseElement() const { return mBaseElement; }
+  void SetBaseElement(std::shared_ptr<orvik::IBaseElement> Base);
+
+ protected:
+  CKELDElement() = default;
+  ~CKELDElement() override;
+
+  /// Makes the base element of the host's class and installs configuration and limits in it.
+  void InstallBaseElement(const std::string& sHostClass);
+  /// Tells configuration and limits that they belong to this element.
+  void OwnConfiguration();
+  void OwnLimits();
+  /// Fills a fresh element of the same class as a clone of this one; false when the host could not copy the
+  /// base element.
+  bool CloneInto(CKELDElement& Copy) const;
+
+  std::shared_ptr<orvik::ITestElement> SelfElement();
+  std::shared_ptr<CKELDTestConfiguration> TestConfiguration() const;
+
+  /// The result as the plug-in's own class; empty when there is none.
+  std::shared_ptr<CKELDResultData> ResultData() const;
+  /// The result, made first when there is none.
+  std::shared_ptr<CKELDResultData> EnsureResult();
+  /// Status 3, no measurement, owned by this element.
+  void RecordNotApplicable();
+  /// Whether the run controller lets the element start; no where nobody answers.
+  bool MayStart();
+
+  void TellFinished();
+  void HideGuide();
+  void Navigate(std::int32_t lRequest);
+  void ShowResultInGuide();
+  /// Ends the test and remote mode on the link, then lets go of it.
+  void CloseLink();
+  /// Asks with the yes/no prompt; true when the operator answered yes.
+  bool AskYesNo(const std::string& sText);
+
+  /// The instrument link of the current run, or empty.
+  const std::shared_ptr<CKELDInstrument>& Link() const { return mVTI; }
+  virtual void SetLink(std::shared_ptr<CKELDInstrument> Instrument);
+  std::shared_ptr<FTestGuide> TestGuide() const { return mTestGuide; }
+  std::shared_ptr<orvik::IRunController> RunController() const { return mRunController.lock(); }
+  bool StandaloneRun() const { return fStandaloneRun; }
+
+  bool fStopRequested = false;
+
+ private:
+  void ITestElement_Initialize(const std::string& sPlugInID, std::int32_t lElementID,
+                               std::int32_t lTestID) override;
+  void ITestElement_Terminate() override {}
+  void ITestElement_Load(std::shared_ptr<orvik::IXmlNode> Node,
+                         std::shared_ptr<orvik::IObject> Context) override;
+  std::shared_ptr<orvik::IXmlNode> ITestElement_Save(std::shared_ptr<orvik::IXmlNode> Parent) const override;
+  orvik::Variant ITestElement_Info() const override;
+  bool ITestElement_QuerySetParent(std::shared_ptr<orvik::ITestElement> iteParent) const override;
+  void ITestElement_UpdateReferences() override;
+  void ITestElement_Perform(std::shared_ptr<orvik::IRunController> RunController) override;
+  std::shared_ptr<orvik::IConfigData> ITestElement_Configuration() const override;
+  std::shared_ptr<orvik::ILimitData> ITestElement_Limits() const override;
+  std::shared_ptr<orvik::IResultData> ITestElement_Result() const override;
+  void ITestElement_PrintReport(std::shared_ptr<orvik::IReport> Report,
+                                std::shared_ptr<orvik::IObject> Context) override;
+  std::int32_t ITestElement_ID() const override;
+  void ITestElement_SetID(std::int32_t lID) override;
+  std::shared_ptr<orvik::ITestElement> ITestElement_Parent() const override;
+  void ITestElement_SetParent(std::shared_ptr<orvik::ITestElement> iteParent) override;
+  std::int32_t ITestElement_TestID() const override;
+  std::string ITestElement_PlugInID() const override;
+  orvik::Variant ITestElement_Filter() const override;
+  orvik::Variant ITestElement_GetMeasurementList() const override;
+
+  std::string IKELDTest_ExpectedUnits() const override { return sExpectedUnits; }
+  void IKELDTest_SetExpectedUnits(const std::string& sUnits) override { sExpectedUnits = sUnits; }
+  bool IKELDTest_Stopped() const override { return !mVTI; }
+  void IKELDTest_NextTest() override;
+  void IKELDTest_PrevTest() override;
+  void IKELDTest_InitAutoRun(std::shared_ptr<CKELDInstrument> Instrument, std::shared_ptr<FTestGuide> Guide,
+                             std::shared_ptr<orvik::IRunController> RunController) override;
+  void IKELDTest_ResetAutoRun() override;
+
+  /// Whether the report shows the element at all, beyond the host's own setting.
+  virtual bool Printable() const { return true; }
+  void GuideOperator(const std::shared_ptr<orvik::IRunController>& RunController);
+
+  std::shared_ptr<orvik::IBaseElement> mBaseElement;
+  std::string sExpectedUnits;
+  std::int16_t iYesNoAnswer = 2;
+  bool fStandaloneRun = false;
+  std::shared_ptr<FTestGuide> mTestGuide;
+  // Weak: whoever performs a run holds its controller, and the controller holds the document with its
+  // elements.
+  std::weak_ptr<orvik::IRunController> mRunController;
+  std::shared_ptr<CKELDInstrument> mVTI;
+  std::shared_ptr<FYesNoPrompt> mfrmYesNoPrompt;
+};
+
+}  // namespace keld

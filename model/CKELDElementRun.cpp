@@ -1,0 +1,122 @@
+#include <utility>
+
+#include "OrvikTypeLib/As.h"
+#include "OrvikTypeLib/IRunController.h"
+#include "instrument/CKELDInstrument.h"
+#include "model/CKELDElement.h"
+#include "plugin/Attempt.h"
+#include "plugin/MKELDConstants.h"
+#include "results/CKELDResultData.h"
+#include "ui/FTestGuide.h"
+#include "ui/FYesNoPrompt.h"
+
+// The frame of a run that single tests and sequences share.
+namespace keld {
+
+using orvik::As;
+using orvik::Required;
+
+void CKELDElement::ITestElement_Perform(std::shared_ptr<orvik::IRunController> RunController) {
+  const auto Self = shared_from_this();
+  mRunController = RunController;
+  Attempt([&] { EnsureResult(); });
+  fStandaloneRun = true;
+  if (MayStart()) GuideOperator(RunController);
+  fStandaloneRun = false;
+}
+
+void CKELDElement::GuideOperator(const std::shared_ptr<orvik::IRunController>& RunController) {
+  Navigate(MKELDConstants::kNavigateNext);
+  Attempt([&] { mTestGuide = FTestGuide::Create(); });
+  Attempt([&] { Required(mTestGuide).Load(); });
+  Attempt([&] { Required(mTestGuide).Initialize(SelfElement(), RunController); });
+  Attempt([&] { Required(mTestGuide).ShowModal(); });
+  Attempt([&] { Required(mTestGuide).Unload(); });
+  mTestGuide.reset();
+}
+
+bool CKELDElement::MayStart() {
+  return AttemptValue(false, [&] { return Required(mRunController)->StartQuery(SelfElement()); });
+}
+
+std::shared_ptr<CKELDResultData> CKELDElement::ResultData() const { return As<CKELDResultData>(Result()); }
+
+std::shared_ptr<CKELDResultData> CKELDElement::EnsureResult() {
+  if (!Result()) Required(BaseElement()).SetResult(CKELDResultData::Create());
+  return ResultData();
+}
+
+void CKELDElement::RecordNotApplicable() {
+  Attempt([&] { EnsureResult(); });
+  Attempt([&] { Required(ResultData()).SetStatus(MKELDConstants::kNotApplicable); });
+  Attempt([&] { Required(ResultData()).SetMeasurement(nullptr); });
+  Attempt([&] { Required(ResultData()).BuildServiceRecord(SelfElement()); });
+}
+
+void CKELDElement::TellFinished() {
+  Attempt([&] { Required(mRunController)->FinishedNotice(SelfElement()); });
+}
+
+void CKELDElement::HideGuide() {
+  Attempt([&] { Required(mTestGuide).Hide(); });
+}
+
+void CKELDElement::Navigate(std::int32_t lRequest) {
+  Attempt([&] { Required(mRunController)->NavigationRequest(lRequest); });
+}
+
+void CKELDElement::ShowResultInGuide() {
+  Attempt([&] { Required(mTestGuide).ShowResult(SelfElement()); });
+}
+
+void CKELDElement::CloseLink() {
+  const auto Closing = mVTI;
+  Attempt([&] { Required(Closing).DisconnectMTI(); });
+  SetLink(nullptr);
+}
+
+void CKELDElement::SetLink(std::shared_ptr<CKELDInstrument> Instrument) { mVTI = std::move(Instrument); }
+
+bool CKELDElement::AskYesNo(const std::string& sText) {
+  // A prompt that goes away without an answer is no consent.
+  iYesNoAnswer = 2;
+  Attempt([&] {
+    mfrmYesNoPrompt = FYesNoPrompt::Create();
+    const auto Answered = mfrmYesNoPrompt->YesNoOption().Subscribe(
+        [this](std::int32_t lOption) { iYesNoAnswer = lOption == 1 ? 1 : 2; });
+    mfrmYesNoPrompt->SetPrompt(sText);
+    mfrmYesNoPrompt->ShowModal();
+  });
+  Attempt([&] { Required(mfrmYesNoPrompt).Unload(); });
+  mfrmYesNoPrompt.reset();
+  return iYesNoAnswer == 1;
+}
+
+void CKELDElement::IKELDTest_NextTest() {
+  const auto Self = shared_from_this();
+  HideGuide();
+  Navigate(MKELDConstants::kNavigateNext);
+}
+
+void CKELDElement::IKELDTest_PrevTest() {
+  const auto Self = shared_from_this();
+  HideGuide();
+  Navigate(MKELDConstants::kNavigatePrevious);
+}
+
+void CKELDElement::IKELDTest_InitAutoRun(std::shared_ptr<CKELDInstrument> Instrument,
+                                         std::shared_ptr<FTestGuide> Guide,
+                                         std::shared_ptr<orvik::IRunController> RunController) {
+  SetLink(std::move(Instrument));
+  mTestGuide = std::move(Guide);
+  mRunController = RunController;
+  fStandaloneRun = false;
+}
+
+void CKELDElement::IKELDTest_ResetAutoRun() {
+  SetLink(nullptr);
+  mTestGuide.reset();
+  mRunController.reset();
+}
+
+}  // namespace keld

@@ -1,0 +1,85 @@
+#include "model/CKELDSequence.h"
+
+#include <utility>
+#include <vector>
+
+#include "OrvikTypeLib/As.h"
+#include "OrvikTypeLib/HostClasses.h"
+#include "OrvikTypeLib/ITestEnumerator.h"
+#include "model/Children.h"
+#include "plugin/Attempt.h"
+#include "plugin/ClassIdentifiers.h"
+#include "plugin/MKELDConstants.h"
+#include "plugin/MKELDGlobalVars.h"
+
+namespace keld {
+
+using orvik::As;
+using orvik::Required;
+
+std::shared_ptr<CKELDSequence> CKELDSequence::Create() {
+  auto Created = std::make_shared<CKELDSequence>();
+  Created->InstallBaseElement(orvik::HostClasses::kTestContainer);
+  return Created;
+}
+
+std::string CKELDSequence::IObject_ClassID() const { return ClassIdentifiers::kSequence; }
+
+std::shared_ptr<orvik::ITestContainer> CKELDSequence::Children() const {
+  return As<orvik::ITestContainer>(BaseElement());
+}
+
+// --- ITestContainer ---
+
+void CKELDSequence::ITestContainer_Add(std::shared_ptr<orvik::ITestElement> iteElement,
+                                       const orvik::Variant& vBefore, const orvik::Variant& vAfter) {
+  try {
+    Required(Children()).Add(iteElement, vBefore, vAfter);
+    Required(iteElement).SetParent(SelfElement());
+  } catch (const orvik::HostError& Error) {
+    // The host sees no error, but an element that could not be added must not vanish without a trace.
+    Attempt([&] {
+      MKELDGlobalVars::ErrorLog()->LogEntry(MKELDConstants::kPlugInID, Error.Number(), "CKELDSequence",
+                                            MKELDConstants::kLevelConfiguration, {}, {}, {}, {}, {});
+    });
+  }
+}
+
+std::int32_t CKELDSequence::ITestContainer_Count() const {
+  return AttemptValue(std::int32_t{0}, [&] { return Required(Children()).Count(); });
+}
+
+std::shared_ptr<orvik::ITestElement> CKELDSequence::ITestContainer_item(std::int32_t lIndex) const {
+  return AttemptValue(std::shared_ptr<orvik::ITestElement>(),
+                      [&] { return Required(Children()).item(lIndex); });
+}
+
+std::shared_ptr<orvik::ITestElement> CKELDSequence::ITestContainer_FindElement(
+    std::int32_t lIdentifier) const {
+  return AttemptValue(std::shared_ptr<orvik::ITestElement>(),
+                      [&] { return Required(Children()).FindElement(lIdentifier); });
+}
+
+std::shared_ptr<orvik::ITestEnumerator> CKELDSequence::ITestContainer_NewEnum() const {
+  return AttemptValue(std::shared_ptr<orvik::ITestEnumerator>(),
+                      [&] { return Required(Children()).NewEnum(); });
+}
+
+void CKELDSequence::ITestContainer_Remove(std::shared_ptr<orvik::ITestElement> iteElement) {
+  if (!iteElement) return;
+  Attempt([&] { Required(Children()).Remove(iteElement); });
+}
+
+// --- ITestElement ---
+
+std::shared_ptr<orvik::ITestElement> CKELDSequence::ITestElement_Clone() const {
+  auto Copy = CKELDSequence::Create();
+  if (!CloneInto(*Copy)) return nullptr;
+  // The host copied the children into its own container; they stand in the sequence.
+  ForEachChild(*Copy, [&](const auto& iteChild) { iteChild->SetParent(Copy); });
+  return Copy;
+}
+
+bool CKELDSequence::Printable() const { return Result() != nullptr; }
+
+}  // namespace keld

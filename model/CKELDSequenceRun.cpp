@@ -1,0 +1,143 @@
+#include <string>
+#include <utility>
+
+#include "OrvikTypeLib/As.h"
+#include "OrvikTypeLib/IRunController.h"
+#include "instrument/CKELDInstrument.h"
+#include "instrument/CKELDMeasurement.h"
+#include "model/CKELDSequence.h"
+#include "model/Children.h"
+#include "model/SequenceSummary.h"
+#include "plugin/Attempt.h"
+#include "plugin/CKELDTestConfiguration.h"
+#include "plugin/MKELDConstants.h"
+#include "plugin/MKELDLanguageConstants.h"
+#include "results/CKELDResultData.h"
+#include "ui/FTestGuide.h"
+
+// How a sequence runs its children and sums them up.
+namespace keld {
+
+using orvik::As;
+using orvik::Required;
+
+void CKELDSequence::IKELDTest_RunTest() {
+  const auto Self = shared_from_this();
+  ResetResult();
+  fStopRequested = false;
+  if (!MayStart()) {
+    Attempt([&] { Required(BaseElement()).SetResult(nullptr); });
+    return;
+  }
+  if (StandaloneRun()) Attempt([&] { SetLink(CKELDInstrument::Create()); });
+  RunChildren();
+  if (fStopRequested) {
+    ResetResult();
+  } else {
+    Summarise();
+    Attempt([&] {
+      if (const auto Summed = ResultData()) Summed->BuildServiceRecord(SelfElement());
+    });
+  }
+  ShowResultInGuide();
+  TellFinished();
+  if (StandaloneRun()) CloseLink();
+}
+
+void CKELDSequence::ResetResult() {
+  Attempt([&] {
+    if (const auto Previous = ResultData()) Previous->Reset(SelfElement(), MKELDConstants::kNotTested);
+  });
+}
+
+void CKELDSequence::RunChildren() {
+  Attempt([&] {
+    const auto Walk = Required(Children()).NewEnum();
+    while (const auto iteChild = Required(Walk).Next()) {
+      if (!RunChild(iteChild)) break;
+    }
+  });
+  mCurrentChild.reset();
+}
+
+bool CKELDSequence::RunChild(const std::shared_ptr<orvik::ITestElement>& iteChild) {
+  const auto Test = As<IKELDTest>(iteChild);
+  if (!Test) return true;
+  mCurrentChild = iteChild;
+  Test->InitAutoRun(Link(), TestGuide(), RunController());
+  Test->RunTest();
+  const bool fStopped = Test->Stopped();
+  Test->ResetAutoRun();
+  return !fStopped && !fStopRequested;
+}
+
+void CKELDSequence::Summarise() {
+  const auto Summed = Children();
+  if (!Summed || Summed->Count() == 0) return;
+  Attempt([&] { EnsureResult(); });
+  const auto Recorded = ResultData();
+  const std::int32_t lMode =
+      AttemptValue(std::int32_t{0}, [&] { return Required(TestConfiguration()).ValueFilter(); });
+  const orvik::Variant vValue = SummaryValue(*Summed, lMode);
+  const auto Measurement = CKELDMeasurement::Create();
+  Attempt([&] { Required(Recorded).SetMeasurement(Measurement); });
+  Attempt([&] { Measurement->AddValue(vValue, "", "", MKELDConstants::kLimitKey); });
+  Attempt([&] {
+    const bool fJudged = lMode != 1 && vValue != orvik::Variant(std::string());
+    // A summary that could not be judged keeps status 0: it never counts as passed.
+    const bool fFailed = fJudged && Measurement->FailsLimits(Limits(), Required(RunController()).Standards());
+    Measurement->SetStatus(fFailed ? MKELDConstants::kFailed : ChildrenStatus(*Summed));
+  });
+  Attempt([&] { Required(Recorded).SetStatus(Measurement->Status()); });
+  Attempt([&] {
+    if (Required(Recorded).Status() == MKELDConstants::kNotTested) Required(BaseElement()).SetResult(nullptr);
+  });
+}
+
+void CKELDSequence::IKELDTest_StopTest() {
+  const auto Self = shared_from_this();
+  if (const auto Test = As<IKELDTest>(mCurrentChild)) Test->StopTest();
+  fStopRequested = true;
+}
+
+void CKELDSequence::IKELDTest_AbortTest() {
+  const auto Self = shared_from_this();
+  if (!AskYesNo(MKELDLanguageConstants::kEndTest)) return;
+  // The loop over the children ends as it does after a stop, without a summary.
+  StopTest();
+  ReleaseRunningChild();
+  CloseLink();
+  // Not tested, unlike a single element, which is recorded as aborted.
+  Attempt([&] { Required(ResultData()).SetStatus(MKELDConstants::kNotTested); });
+  HideGuide();
+  Navigate(MKELDConstants::kNavigateAbort);
+}
+
+void CKELDSequence::ReleaseRunningChild() {
+  if (const auto Nested = As<CKELDSequence>(mCurrentChild)) Nested->ReleaseRunningChild();
+  if (const auto Test = As<IKELDTest>(mCurrentChild)) Test->ResetAutoRun();
+}
+
+void CKELDSequence::IKELDTest_NATest() {
+  const auto Self = shared_from_this();
+  RecordNotApplicable();
+  ForEachChild(*this, [](const auto& iteChild) {
+    if (const auto Test = As<IKELDTest>(iteChild)) Test->NATest();
+  });
+  TellFinished();
+  HideGuide();
+  Navigate(MKELDConstants::kNavigateNotApplicable);
+}
+
+void CKELDSequence::IKELDTest_SkipTest() {
+  const auto Self = shared_from_this();
+  Attempt([&] { Required(BaseElement()).SetResult(nullptr); });
+  ForEachChild(*this, [](const auto& iteChild) {
+    if (const auto Test = As<IKELDTest>(iteChild)) Test->SkipTest();
+  });
+  TellFinished();
+  HideGuide();
+  Navigate(MKELDConstants::kNavigateSkip);
+}
+
+}  // namespace keld

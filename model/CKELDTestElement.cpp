@@ -1,0 +1,119 @@
+#include "model/CKELDTestElement.h"
+
+#include <utility>
+#include <vector>
+
+#include "OrvikTypeLib/As.h"
+#include "OrvikTypeLib/HostClasses.h"
+#include "OrvikTypeLib/IInformationRecord.h"
+#include "model/TestMode.h"
+#include "plugin/Attempt.h"
+#include "plugin/CKELDTestConfiguration.h"
+#include "plugin/ClassIdentifiers.h"
+#include "plugin/MKELDConstants.h"
+#include "plugin/MKELDLanguageConstants.h"
+#include "results/CKELDResultData.h"
+
+namespace keld {
+
+using orvik::Required;
+
+std::shared_ptr<CKELDTestElement> CKELDTestElement::Create() {
+  auto Created = std::make_shared<CKELDTestElement>();
+  Created->InstallBaseElement(orvik::HostClasses::kTestElement);
+  return Created;
+}
+
+std::string CKELDTestElement::IObject_ClassID() const { return ClassIdentifiers::kTestElement; }
+
+void CKELDTestElement::ITestElement_Initialize(const std::string& sPlugInID, std::int32_t lElementID,
+                                               std::int32_t lTestID) {
+  Attempt([&] { Required(BaseElement()).Initialize(sPlugInID, lElementID, lTestID); });
+  OwnLimits();
+  const std::int32_t lID = TestID();
+  Attempt([&] {
+    auto& Configured = Required(TestConfiguration());
+    // An addition, not a bit set: a word that already has the 4 carries into the 8.
+    if (lID >= 1110 && lID <= 1165) Configured.SetOptions(Configured.Options() + 4);
+    if (lID >= 910 && lID <= 965) Configured.SetOptions(Configured.Options() | 4096);
+  });
+}
+
+std::shared_ptr<orvik::ITestElement> CKELDTestElement::ITestElement_Clone() const {
+  auto Copy = CKELDTestElement::Create();
+  if (!CloneInto(*Copy)) return nullptr;
+  return Copy;
+}
+
+orvik::Variant CKELDTestElement::ITestElement_Info() const {
+  std::vector<std::string> asInfo{"::", ""};
+  Attempt([&] {
+    const auto Information = Required(BaseElement()).Information();
+    // Second text first, as in message 20805.
+    asInfo[1] = Required(Information).SecondText();
+    const std::string sFirst = Information->FirstText();
+    if (!sFirst.empty()) asInfo[1] += " " + sFirst;
+  });
+  return asInfo;
+}
+
+// --- IKELDTest ---
+
+void CKELDTestElement::IKELDTest_RunTest() {
+  const auto Self = shared_from_this();
+  Attempt([&] { Required(ResultData()).Reset(SelfElement(), MKELDConstants::kNotTested); });
+  fStopRequested = false;
+  if (!MayStart()) {
+    Attempt([&] { Required(BaseElement()).SetResult(nullptr); });
+    return;
+  }
+  if (StandaloneRun()) Attempt([&] { SetLink(CKELDInstrument::Create()); });
+  MeasureOnLink();
+  TellFinished();
+  if (StandaloneRun()) CloseLink();
+}
+
+void CKELDTestElement::MeasureOnLink() {
+  const std::int16_t iTestNo = orvik::Narrow16(TestID());
+  const std::int16_t iTestMode = AttemptValue(
+      std::int16_t{999}, [&] { return ComputeTestMode(Required(TestConfiguration()).Options(), TestID()); });
+  const auto Instrument = Link();
+  Attempt([&] {
+    if (Required(Instrument).PortNumber() == 0) Instrument->ConnectMTI();
+  });
+  const bool fConnected = AttemptValue(false, [&] { return Required(Instrument).PortNumber() >= 1; });
+  if (fConnected) {
+    Attempt([&] { Instrument->RunMtiTest(iTestNo, iTestMode); });
+  } else {
+    SetLink(nullptr);
+  }
+}
+
+void CKELDTestElement::IKELDTest_StopTest() { fStopRequested = true; }
+
+void CKELDTestElement::IKELDTest_SkipTest() {
+  const auto Self = shared_from_this();
+  Attempt([&] { Required(BaseElement()).SetResult(nullptr); });
+  TellFinished();
+  HideGuide();
+  Navigate(MKELDConstants::kNavigateSkip);
+}
+
+void CKELDTestElement::IKELDTest_NATest() {
+  const auto Self = shared_from_this();
+  RecordNotApplicable();
+  TellFinished();
+  HideGuide();
+  Navigate(MKELDConstants::kNavigateNotApplicable);
+}
+
+void CKELDTestElement::IKELDTest_AbortTest() {
+  const auto Self = shared_from_this();
+  if (!AskYesNo(MKELDLanguageConstants::kEndTest)) return;
+  CloseLink();
+  Attempt([&] { Required(ResultData()).SetStatus(MKELDConstants::kAborted); });
+  HideGuide();
+  Navigate(MKELDConstants::kNavigateAbort);
+}
+
+}  // namespace keld

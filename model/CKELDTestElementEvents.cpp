@@ -1,0 +1,145 @@
+#include <string>
+#include <utility>
+
+#include "OrvikTypeLib/As.h"
+#include "OrvikTypeLib/Conversions.h"
+#include "OrvikTypeLib/IInformationRecord.h"
+#include "OrvikTypeLib/IRunController.h"
+#include "instrument/CKELDData.h"
+#include "instrument/CKELDMeasurement.h"
+#include "instrument/CommsState.h"
+#include "model/CKELDTestElement.h"
+#include "plugin/Attempt.h"
+#include "plugin/MKELDConstants.h"
+#include "plugin/MKELDGlobalVars.h"
+#include "plugin/MKELDLanguageConstants.h"
+#include "results/CKELDResultData.h"
+#include "ui/FPretestPrompt.h"
+#include "ui/FTestGuide.h"
+
+// What a single test does when its instrument link reports something.
+namespace keld {
+
+using orvik::Required;
+
+namespace {
+
+/// The reading as it is recorded: value and unit.
+struct Reading {
+  double rValue;
+  std::string sUnit;
+};
+
+/// Protective-earth resistance comes in ohms and is recorded a thousandfold in the element's own unit,
+/// whatever that is.
+Reading InExpectedUnits(Reading Taken, const std::string& sExpectedUnits) {
+  if (Taken.sUnit != "Ohm") return Taken;
+  return {Taken.rValue * 1000, sExpectedUnits};
+}
+
+/// The resistance of the test leads is no part of the equipment's protective earth.
+Reading WithoutLeads(Reading Taken, std::int16_t iTestNo) {
+  if (iTestNo != 410 && iTestNo != 420) return Taken;
+  Taken.rValue -= CKELDData::Shared()->CalibValue();
+  if (Taken.rValue < 0) Taken.rValue = 0;
+  return Taken;
+}
+
+}  // namespace
+
+void CKELDTestElement::SetLink(std::shared_ptr<CKELDInstrument> Instrument) {
+  mGotMtiData.End();
+  mResultReceived.End();
+  CKELDElement::SetLink(std::move(Instrument));
+  if (!Link()) return;
+  mGotMtiData = Link()->GotMtiData().Subscribe([this](const MtiDataArray& avData) { GotMtiData(avData); });
+  mResultReceived = Link()->ResultReceived().Subscribe(
+      [this](std::int32_t& lStatus, std::int16_t iTestNo) { ResultReceived(lStatus, iTestNo); });
+}
+
+void CKELDTestElement::GotMtiData(const MtiDataArray& avData) {
+  const auto Self = shared_from_this();
+  Attempt([&] {
+    CKELDData::Shared()->TakeIdentity(avData);
+    Required(TestGuide()).Refresh();
+  });
+}
+
+void CKELDTestElement::ResultReceived(std::int32_t lStatus, std::int16_t iTestNo) {
+  const auto Self = shared_from_this();
+  if (fStopRequested) {
+    fStopRequested = false;
+    CloseLink();
+    return;
+  }
+  switch (lStatus) {
+    case CommsState::kRemoteOpen:
+      return StoreInstrumentUpdate();
+    case CommsState::kResultReceived:
+      return RecordMeasurement(iTestNo);
+    case CommsState::kNoAnswer:
+      return ReportNoInstrument();
+    case CommsState::kTestNotSupported:
+      return ReportTestNotSupported();
+    default:
+      return;
+  }
+}
+
+void CKELDTestElement::StoreInstrumentUpdate() {
+  Attempt([&] { CKELDData::Shared()->SetFirmwareVersion(orvik::TextOf(Required(Link()).MtiData(2))); });
+  Attempt([&] { Required(TestGuide()).Refresh(); });
+}
+
+void CKELDTestElement::ReportNoInstrument() {
+  const std::string sText = AttemptValue(
+      std::string(), [] { return MKELDGlobalVars::Translated(MKELDLanguageConstants::kNoInstrument); });
+  ReportFailure(sText, "CommsError");
+}
+
+void CKELDTestElement::ReportTestNotSupported() {
+  const std::string sText = AttemptValue(std::string(), [&] {
+    const auto Information = Required(BaseElement()).Information();
+    return MKELDGlobalVars::Translated(MKELDLanguageConstants::kTestNotSupported,
+                                       {Required(Information).SecondText(), Information->FirstText()});
+  });
+  ReportFailure(sText, "CommsError");
+  RecordNotApplicable();
+}
+
+void CKELDTestElement::ReportFailure(const std::string& sText, const std::string& sKey) {
+  std::shared_ptr<FPretestPrompt> Prompt;
+  Attempt([&] { Prompt = FPretestPrompt::Create(); });
+  Attempt([&] { Required(Prompt).SetPrompt(sText, sKey); });
+  Attempt([&] { Required(Prompt).ShowModal(); });
+  Attempt([&] { Required(Prompt).Unload(); });
+}
+
+void CKELDTestElement::RecordMeasurement(std::int16_t iTestNo) {
+  Attempt([&] { EnsureResult(); });
+  const auto Recorded = ResultData();
+  const auto Measurement = CKELDMeasurement::Create();
+  Attempt([&] { Required(Recorded).SetMeasurement(Measurement); });
+  Attempt([&] {
+    auto& Instrument = Required(Link());
+    Reading Taken{orvik::NumericValue(Instrument.MtiData(2)), orvik::TextOf(Instrument.MtiData(4))};
+    Taken = WithoutLeads(InExpectedUnits(Taken, ExpectedUnits()), iTestNo);
+    // Field 3 is both: the flags, in which the result view looks for an overload, and the description.
+    const std::string sDescription = orvik::TextOf(Instrument.MtiData(3));
+    Measurement->AddValue(Taken.rValue, Taken.sUnit, sDescription, MKELDConstants::kLimitKey);
+    Measurement->SetDescription(sDescription);
+    // A reading that could not be judged keeps status 0: it never counts as passed.
+    const bool fFailed = Measurement->FailsLimits(Limits(), Required(RunController()).Standards());
+    Measurement->SetStatus(fFailed ? MKELDConstants::kFailed : MKELDConstants::kPassed);
+  });
+  Attempt([&] { Required(Recorded).SetStatus(Measurement->Status()); });
+  Attempt([&] { Required(Recorded).BuildServiceRecord(SelfElement()); });
+  ShowResultInGuide();
+  Attempt([&] {
+    const std::int32_t lRecord =
+        CKELDData::Shared()->UpdateInstrumentRecord(Required(RunController()).Instruments());
+    Required(Recorded).SetMTIIdentifier(lRecord);
+  });
+}
+
+}  // namespace keld

@@ -1,0 +1,171 @@
+#include <gtest/gtest.h>
+
+#include "tester/BuiltInProfiles.h"
+#include "tester/FaultScript.h"
+#include "tests/tester/TestTools.h"
+
+namespace sim {
+namespace {
+
+using test::Ask;
+using test::InputErrorOf;
+using test::TempFolder;
+
+constexpr std::string_view kIrem = "irem,KELD(IN),SIM-0001,3.10\r\n";
+
+class FaultScriptTest : public testing::Test {
+ protected:
+  void Use(const std::string& script) { tester_.UseFaults(std::make_shared<FaultScript>(script, "f")); }
+
+  Tester tester_{MakeBuiltInProfile("sound-class-1").value()};
+};
+
+TEST_F(FaultScriptTest, DropLosesTheReplyButTheCommandHasBeenObeyed) {
+  Use("at IREM 1 drop");
+  EXPECT_EQ(Ask(tester_, "IREM\r\n"), "");
+  EXPECT_TRUE(tester_.InRemoteMode());
+  EXPECT_EQ(Ask(tester_, "IREM\r\n"), kIrem) << "the second one is answered";
+}
+
+TEST_F(FaultScriptTest, WithoutACountEveryOccurrenceIsHit) {
+  Use("at IREM drop");
+  for (int i = 0; i < 3; ++i) EXPECT_EQ(Ask(tester_, "IREM\r\n"), "");
+}
+
+TEST_F(FaultScriptTest, AnyCountsAllCommands) {
+  Use("at ANY 3 drop");
+  EXPECT_EQ(Ask(tester_, "IREM\r\n"), kIrem);
+  EXPECT_EQ(Ask(tester_, "STST,410,0\r\n"), "stst,410,0\r\n");
+  EXPECT_EQ(Ask(tester_, "GRES,410,0\r\n"), "");
+  EXPECT_EQ(Ask(tester_, "GRES,410,0\r\n"), "gres,410,0,0.123,0,Ohm\r\n");
+}
+
+TEST_F(FaultScriptTest, WrongMnemonicKeepsTheParameters) {
+  Use("at STST wrong-mnemonic");
+  EXPECT_EQ(Ask(tester_, "IREM\r\nSTST,410,0\r\n"), std::string(kIrem) + "xxxx,410,0\r\n");
+}
+
+TEST_F(FaultScriptTest, ErrorAnswersWithItsNumber) {
+  Use("at STST error 1003");
+  EXPECT_EQ(Ask(tester_, "IREM\r\nSTST,410,0\r\n"), std::string(kIrem) + "ERRM,1003\r\n");
+}
+
+TEST_F(FaultScriptTest, DelayMakesAReplyLateAndLetsLaterOnesOvertakeIt) {
+  Use("at STST 1 delay 2500");
+  tester_.Receive("IREM\r\nSTST,410,0\r\n", Instant(0));
+  ASSERT_EQ(tester_.TakeDue(Instant(0))->bytes, kIrem);
+  EXPECT_EQ(tester_.NextDue(), std::chrono::milliseconds(2500));
+  EXPECT_FALSE(tester_.TakeDue(std::chrono::milliseconds(2499)));
+  tester_.Receive("QMTI\r\n", std::chrono::milliseconds(2499));
+  EXPECT_EQ(tester_.TakeDue(std::chrono::milliseconds(2499))->bytes, "qmti,KELD(IN),SIM-0001,3.10\r\n");
+  EXPECT_EQ(tester_.TakeDue(std::chrono::milliseconds(2500))->bytes, "stst,410,0\r\n");
+}
+
+TEST_F(FaultScriptTest, DelayIsDividedByTheTimeScale) {
+  Tester fast(MakeBuiltInProfile("sound-class-1").value(), 100);
+  fast.UseFaults(std::make_shared<FaultScript>("at IREM delay 2500", "f"));
+  fast.Receive("IREM\n", Instant(7));
+  EXPECT_EQ(fast.NextDue(), Instant(7) + std::chrono::milliseconds(25));
+}
+
+TEST_F(FaultScriptTest, HangUpEndsTheLineAndEverythingThatWaits) {
+  Use("at GRES hang-up");
+  tester_.Receive("IREM\r\nSTST,410,0\r\nGRES,410,0\r\nQMTI\r\n", Instant(0));
+  EXPECT_TRUE(tester_.TakeDue(Instant(0)));
+  EXPECT_TRUE(tester_.TakeDue(Instant(0)));
+  const auto last = tester_.TakeDue(std::chrono::milliseconds(900));
+  ASSERT_TRUE(last);
+  EXPECT_TRUE(last->hangUp);
+  EXPECT_EQ(last->bytes, "");
+  EXPECT_TRUE(tester_.HungUp());
+  EXPECT_EQ(tester_.NextDue(), std::nullopt);
+  EXPECT_EQ(Ask(tester_, "IREM\r\n"), "") << "a line that has been hung up is silent";
+}
+
+TEST_F(FaultScriptTest, DoubleSendsTwice) {
+  Use("at IREM double");
+  EXPECT_EQ(Ask(tester_, "IREM\r\n"), std::string(kIrem) + std::string(kIrem));
+}
+
+TEST_F(FaultScriptTest, TruncateLosesTheLineEndToo) {
+  Use("at IREM 1 truncate 6\nat IREM 2 truncate 1000");
+  EXPECT_EQ(Ask(tester_, "IREM\r\n"), "irem,K");
+  EXPECT_EQ(Ask(tester_, "IREM\r\n"), "irem,KELD(IN),SIM-0001,3.10");
+}
+
+TEST_F(FaultScriptTest, GarblePutsOneControlByteInTheMiddle) {
+  Use("at EREM garble");
+  EXPECT_EQ(Ask(tester_, "IREM\r\nEREM\r\n"), std::string(kIrem) + "er\x1Bm\r\n");
+}
+
+TEST_F(FaultScriptTest, ReplySendsAnyLineInstead) {
+  Use("at GRES reply gres,420,0,0.1,0,µA");
+  EXPECT_EQ(Ask(tester_, "IREM\r\nGRES,410,0\r\n"), std::string(kIrem) + "gres,420,0,0.1,0,\xB5" + "A\r\n");
+}
+
+TEST_F(FaultScriptTest, RulesWorkTogetherInTheirOrder) {
+  Use("at IREM error 5\nat IREM double\nat #PON drop");
+  EXPECT_EQ(Ask(tester_, "IREM\r\n#PON\r\n"), "ERRM,5\r\nERRM,5\r\n");
+}
+
+TEST_F(FaultScriptTest, EveryFaultAtEveryCommandLeavesTheTesterAlive) {
+  const std::string session = "IREM\r\nSTST,410,0\r\nGRES,410,0\r\nSTST,210,0\r\nEREM\r\n";
+  const std::string good = Ask(tester_, session);
+  for (const char* fault :
+       {"drop", "wrong-mnemonic", "error 9", "double", "truncate 3", "garble", "reply x"}) {
+    for (int nth = 1; nth <= 5; ++nth) {
+      Use("at ANY " + std::to_string(nth) + " " + fault);
+      EXPECT_NE(Ask(tester_, session), good) << fault << " at " << nth;
+      EXPECT_EQ(Ask(tester_, session), good) << fault << " at " << nth;
+    }
+  }
+}
+
+struct BadLine {
+  const char* line;
+  const char* message;
+};
+
+class FaultScriptErrorTest : public testing::TestWithParam<BadLine> {};
+
+TEST_P(FaultScriptErrorTest, NamesFileAndLineAndSaysWhatToDo) {
+  const std::string script = std::string("# faults\n") + GetParam().line;
+  EXPECT_EQ(InputErrorOf([&] { FaultScript(script, "late.faults"); }),
+            std::string("late.faults:2: ") + GetParam().message);
+}
+
+constexpr const char* kKnownFaults =
+    "use delay MS, drop, wrong-mnemonic, error N, hang-up, double, truncate N, garble or reply TEXT";
+
+INSTANTIATE_TEST_SUITE_P(
+    Lines, FaultScriptErrorTest,
+    testing::Values(
+        BadLine{"GRES drop", "'GRES drop' does not begin with 'at'; write it as: at COMMAND [NTH] FAULT"},
+        BadLine{"at", "there is no command after 'at'; name one such as GRES, or ANY"},
+        BadLine{"at GRES 0 drop", "'0' is no count; 1 is the first GRES of the session"},
+        BadLine{"at GRES 1x drop", "'1x' is no count; 1 is the first GRES of the session"},
+        BadLine{"at GRES delay", "'delay' needs a whole number from 0 to 600000 and has ''"},
+        BadLine{"at GRES delay 2.5", "'delay' needs a whole number from 0 to 600000 and has '2.5'"},
+        BadLine{"at GRES error 40000", "'error' needs a whole number from 0 to 32767 and has '40000'"},
+        BadLine{"at GRES drop 3", "'3' is too much after 'drop'; remove it"},
+        BadLine{"at GRES reply",
+                "'reply' needs the line to send instead, such as: reply gres,410,0,9,0,Ohm"}));
+
+TEST(FaultScriptFileTest, AnUnknownFaultListsTheKnownOnes) {
+  EXPECT_EQ(InputErrorOf([] { FaultScript("at GRES explode", "f"); }),
+            std::string("f:1: 'explode' is no fault; ") + kKnownFaults);
+  EXPECT_EQ(InputErrorOf([] { FaultScript("at GRES 2", "f"); }),
+            std::string("f:1: '' is no fault; ") + kKnownFaults);
+}
+
+TEST(FaultScriptFileTest, IsReadFromAFile) {
+  const TempFolder folder;
+  const auto script =
+      LoadFaultScript(folder.Write("f", "\n# nothing\n  at GRES drop\r\nat ANY 3 hang-up\r\n"));
+  EXPECT_EQ(script->Size(), 2u);
+  EXPECT_EQ(InputErrorOf([&] { LoadFaultScript(folder.Path("none")); }),
+            folder.Path("none") + ": cannot be opened: No such file or directory");
+}
+
+}  // namespace
+}  // namespace sim
