@@ -9,7 +9,6 @@ namespace orvik {
 
 class IAuxiliaryState;
 class IConfigData;
-class IInformationRecord;
 class ILimitData;
 class IResultData;
 
@@ -31,8 +30,6 @@ class IBaseElement : public virtual ITestElement {
   void SetLimits(std::shared_ptr<ILimitData> Limits) { IBaseElement_SetLimits(std::move(Limits)); }
   /// Installs the element's result; empty removes it.
   void SetResult(std::shared_ptr<IResultData> Result) { IBaseElement_SetResult(std::move(Result)); }
-  /// What people are shown of the element.
-  std::shared_ptr<IInformationRecord> Information() const { return IBaseElement_Information(); }
   /// The host's own settings of the element.
   std::shared_ptr<IAuxiliaryState> Auxiliary() const { return IBaseElement_Auxiliary(); }
   /// The plug-in's element that wraps this one: it is shown to reports and to children in this one's place.
@@ -43,7 +40,6 @@ class IBaseElement : public virtual ITestElement {
   virtual void IBaseElement_SetConfiguration(std::shared_ptr<IConfigData> Configuration) = 0;
   virtual void IBaseElement_SetLimits(std::shared_ptr<ILimitData> Limits) = 0;
   virtual void IBaseElement_SetResult(std::shared_ptr<IResultData> Result) = 0;
-  virtual std::shared_ptr<IInformationRecord> IBaseElement_Information() const = 0;
   virtual std::shared_ptr<IAuxiliaryState> IBaseElement_Auxiliary() const = 0;
   virtual void IBaseElement_SetOuter(std::shared_ptr<ITestElement> iteOuter) = 0;
 };

@@ -11,6 +11,7 @@
 namespace orvik {
 
 class IConfigData;
+class IInformationRecord;
 class ILimitData;
 class IReport;
 class IResultData;
@@ -73,6 +74,8 @@ class ITestElement : public virtual IObject {
   std::int32_t TestID() const { return ITestElement_TestID(); }
   /// The identifier of the plug-in it belongs to.
   std::string PlugInID() const { return ITestElement_PlugInID(); }
+  /// What people are shown of the element.
+  std::shared_ptr<IInformationRecord> Information() const { return ITestElement_Information(); }
   /// What the host filters element lists by: the test identifier.
   Variant Filter() const { return ITestElement_Filter(); }
   /// The keys of the element's measurements, as a list of strings.
@@ -100,6 +103,7 @@ class ITestElement : public virtual IObject {
   virtual void ITestElement_SetParent(std::shared_ptr<ITestElement> iteParent) = 0;
   virtual std::int32_t ITestElement_TestID() const = 0;
   virtual std::string ITestElement_PlugInID() const = 0;
+  virtual std::shared_ptr<IInformationRecord> ITestElement_Information() const = 0;
   virtual Variant ITestElement_Filter() const = 0;
   virtual Variant ITestElement_GetMeasurementList() const = 0;
 };

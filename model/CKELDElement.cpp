@@ -142,6 +142,11 @@ std::string CKELDElement::ITestElement_PlugInID() const {
   return AttemptValue(std::string(), [&] { return Required(mBaseElement).PlugInID(); });
 }
 
+std::shared_ptr<orvik::IInformationRecord> CKELDElement::ITestElement_Information() const {
+  return AttemptValue(std::shared_ptr<orvik::IInformationRecord>(),
+                      [&] { return Required(mBaseElement).Information(); });
+}
+
 orvik::Variant CKELDElement::ITestElement_Filter() const {
   return AttemptValue(orvik::Variant(), [&] { return Required(mBaseElement).Filter(); });
 }

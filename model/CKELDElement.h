@@ -95,6 +95,7 @@ class CKELDElement : public virtual orvik::ITestElement, public virtual IKELDTes
   void ITestElement_SetParent(std::shared_ptr<orvik::ITestElement> iteParent) override;
   std::int32_t ITestElement_TestID() const override;
   std::string ITestElement_PlugInID() const override;
+  std::shared_ptr<orvik::IInformationRecord> ITestElement_Information() const override;
   orvik::Variant ITestElement_Filter() const override;
   orvik::Variant ITestElement_GetMeasurementList() const override;
 

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "OrvikTypeLib/As.h"
+#include "OrvikTypeLib/Conversions.h"
 #include "OrvikTypeLib/HostClasses.h"
 #include "OrvikTypeLib/IInformationRecord.h"
 #include "model/TestMode.h"
@@ -48,10 +49,10 @@ std::shared_ptr<orvik::ITestElement> CKELDTestElement::ITestElement_Clone() cons
 orvik::Variant CKELDTestElement::ITestElement_Info() const {
   std::vector<std::string> asInfo{"::", ""};
   Attempt([&] {
-    const auto Information = Required(BaseElement()).Information();
+    const auto Texts = Information();
     // Second text first, as in message 20805.
-    asInfo[1] = Required(Information).SecondText();
-    const std::string sFirst = Information->FirstText();
+    asInfo[1] = Required(Texts).SecondText();
+    const std::string sFirst = Texts->FirstText();
     if (!sFirst.empty()) asInfo[1] += " " + sFirst;
   });
   return asInfo;

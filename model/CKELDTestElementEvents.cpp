@@ -99,9 +99,9 @@ void CKELDTestElement::ReportNoInstrument() {
 
 void CKELDTestElement::ReportTestNotSupported() {
   const std::string sText = AttemptValue(std::string(), [&] {
-    const auto Information = Required(BaseElement()).Information();
+    const auto Texts = Information();
     return MKELDGlobalVars::Translated(MKELDLanguageConstants::kTestNotSupported,
-                                       {Required(Information).SecondText(), Information->FirstText()});
+                                       {Required(Texts).SecondText(), Texts->FirstText()});
   });
   ReportFailure(sText, "CommsError");
   RecordNotApplicable();

@@ -57,10 +57,7 @@ std::shared_ptr<orvik::platform::IContainerSite> FElementSetup::CreateSetupCtrl(
     mControlSite = Required(mForm).AddControl(sClassID, kControlName);
     mCustomControl = As<orvik::ICustomControl>(Required(mControlSite).Object());
   });
-  Attempt([&] {
-    Required(mControlSite);
-    mForm->SetGrid(WholeForm());
-  });
+  if (mControlSite) Attempt([&] { mForm->SetGrid(WholeForm()); });
   return mControlSite;
 }
 
@@ -69,9 +66,8 @@ std::string FElementSetup::IObject_ClassID() const { return ClassIdentifiers::kE
 std::shared_ptr<orvik::platform::IForm> FElementSetup::IDialogForm_Form() const { return mForm; }
 
 std::shared_ptr<orvik::ICallBack> FElementSetup::IDialog_CallBack() const {
-  std::shared_ptr<orvik::ICallBack> CallBack;
-  Attempt([&] { CallBack = Required(mCustomControl).CallBack(); });
-  return CallBack;
+  return AttemptValue(std::shared_ptr<orvik::ICallBack>(),
+                      [&] { return Required(mCustomControl).CallBack(); });
 }
 
 void FElementSetup::IDialog_SetCallBack(std::shared_ptr<orvik::ICallBack> CallBack) {
@@ -81,9 +77,7 @@ void FElementSetup::IDialog_SetCallBack(std::shared_ptr<orvik::ICallBack> CallBa
 bool FElementSetup::IDialog_IsDocked() const { return mfDocked; }
 
 bool FElementSetup::IDialog_Locked() const {
-  bool fLocked = false;
-  Attempt([&] { fLocked = Required(mCustomControl).Locked(); });
-  return fLocked;
+  return AttemptValue(false, [&] { return Required(mCustomControl).Locked(); });
 }
 
 void FElementSetup::IDialog_SetLocked(bool fLocked) {

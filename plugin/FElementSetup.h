@@ -15,12 +15,12 @@ class IForm;
 
 namespace keld {
 
-/// The one dialog through which every editing view of the plug-in reaches the host: a form with one user control, which
-/// the host docks into a window of its own or shows as a window.
+/// The one dialog through which every editing view of the plug-in reaches the host: a form with one user
+/// control, which the host docks into a window of its own or shows as a window.
 ///
-/// Errors inside its operations are ignored; without a control the operations that need one do nothing. `Show` acts on a
-/// docked dialog alone: the host shows the window itself, through `IDialogForm`. The form is unloaded with the dialog at
-/// the latest.
+/// Errors inside its operations are ignored; without a control the operations that need one do nothing.
+/// `Show` acts on a docked dialog alone: the host shows the window itself, through `IDialogForm`. The form is
+/// unloaded with the dialog at the latest.
 class FElementSetup final : public virtual orvik::IDialog, public virtual orvik::IDialogForm {
  public:
   static std::shared_ptr<FElementSetup> Create();
@@ -45,7 +45,8 @@ class FElementSetup final : public virtual orvik::IDialog, public virtual orvik:
   void IDialog_UnDock() override;
   void IDialog_Hide() override;
   void IDialog_Show() override;
-  void IDialog_Move(std::int32_t lLeft, std::int32_t lTop, std::int32_t lWidth, std::int32_t lHeight) override;
+  void IDialog_Move(std::int32_t lLeft, std::int32_t lTop, std::int32_t lWidth,
+                    std::int32_t lHeight) override;
   void IDialog_Refresh() override;
   void IDialog_SetFocus() override;
   void IDialog_Initialize(std::shared_ptr<orvik::IObject> Data, const orvik::Variant& v1,

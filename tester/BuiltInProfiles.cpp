@@ -17,21 +17,26 @@ struct Row {
 // bound in use: protective earth 0.2 Ohm with the mains cable (IEC 60601-1, 8.6.4), earth leakage 500 µA (IEC
 // 62353, equipment leakage of class I), enclosure leakage 100 µA, patient leakage and auxiliary current 10 µA
 // (IEC 60601-1, 8.7.3, normal condition, CF), insulation 70 MOhm (IEC 62353, applied parts).
+// clang-format off
 constexpr Row kSoundClass1[] = {
-    {210, "231.4"}, {410, "0.123"}, {420, "0.131"},                // mains, protective earth
-    {610, "182"},   {620, "176"},   {630, "341"},   {640, "328"},  // earth leakage
-    {710, "18"},    {720, "17"},    {730, "34"},    {740, "36"},
-    {750, "62"},    {760, "58"},  // enclosure leakage
-    {910, "3.4"},   {915, "0.4"},   {920, "3.2"},   {925, "0.4"},
-    {930, "5.6"},   {935, "0.7"},  // patient leakage
-    {940, "5.3"},   {945, "0.6"},   {950, "7.1"},   {955, "0.9"},
-    {960, "6.8"},   {965, "0.8"},   {1010, "152"},  {1020, "128"},  // insulation
-    {1110, "3.9"},  {1115, "0.5"},  {1120, "3.7"},  {1125, "0.5"},
-    {1130, "6.2"},  {1135, "0.8"},  // patient leakage
-    {1140, "5.9"},  {1145, "0.7"},  {1150, "8.3"},  {1155, "1.1"},
-    {1160, "7.9"},  {1165, "1.0"},  {1210, "8.8"},  {1220, "8.1"},  // applied-part leakage
-    {1230, "2.3"},  {1235, "0.2"},  {1240, "3.1"},  {1245, "0.3"},  // auxiliary current
+    // mains voltage, protective earth
+    {210, "231.4"}, {410, "0.123"}, {420, "0.131"},
+    // earth leakage
+    {610, "182"}, {620, "176"}, {630, "341"}, {640, "328"},
+    // enclosure leakage
+    {710, "18"}, {720, "17"}, {730, "34"}, {740, "36"}, {750, "62"}, {760, "58"},
+    // patient leakage
+    {910, "3.4"}, {915, "0.4"}, {920, "3.2"}, {925, "0.4"}, {930, "5.6"}, {935, "0.7"},
+    {940, "5.3"}, {945, "0.6"}, {950, "7.1"}, {955, "0.9"}, {960, "6.8"}, {965, "0.8"},
+    // insulation
+    {1010, "152"}, {1020, "128"},
+    // patient leakage
+    {1110, "3.9"}, {1115, "0.5"}, {1120, "3.7"}, {1125, "0.5"}, {1130, "6.2"}, {1135, "0.8"},
+    {1140, "5.9"}, {1145, "0.7"}, {1150, "8.3"}, {1155, "1.1"}, {1160, "7.9"}, {1165, "1.0"},
+    // applied-part leakage, patient auxiliary current
+    {1210, "8.8"}, {1220, "8.1"}, {1230, "2.3"}, {1235, "0.2"}, {1240, "3.1"}, {1245, "0.3"},
 };
+// clang-format on
 
 // Class II: no protective earth; what would flow there flows through the enclosure, still below 100 µA.
 constexpr Row kClass2Changes[] = {

@@ -50,7 +50,7 @@ FaultScript::FaultScript(std::string_view content, const std::string& name) {
 FaultScript::Rule FaultScript::ParseRule(const std::string& line, const std::string& name, int number) {
   std::string_view rest = line;
   if (TakeWord(rest) != "at") {
-    FailAt(name, number, "'" + line + "' does not begin with 'at'; write it as: at COMMAND [NTH] FAULT");
+    FailAt(name, number, Quoted(line) + " does not begin with 'at'; write it as: at COMMAND [NTH] FAULT");
   }
   Rule rule;
   const std::string_view command = TakeWord(rest);
@@ -61,8 +61,7 @@ FaultScript::Rule FaultScript::ParseRule(const std::string& line, const std::str
     const std::string_view nth = TakeWord(rest);
     const auto count = ParseNumber(nth, std::numeric_limits<int>::max());
     if (!count || *count == 0) {
-      FailAt(name, number,
-             "'" + std::string(nth) + "' is no count; 1 is the first " + rule.command + " of the session");
+      FailAt(name, number, Quoted(nth) + " is no count; 1 is the first " + rule.command + " of the session");
     }
     rule.nth = static_cast<std::uint64_t>(*count);
   }
@@ -92,8 +91,8 @@ void FaultScript::ParseFault(std::string_view fault, Rule& rule, const std::stri
       std::find_if(std::begin(kForms), std::end(kForms), [&](const Form& f) { return f.word == word; });
   if (form == std::end(kForms)) {
     FailAt(name, number,
-           "'" + word +
-               "' is no fault; use delay MS, drop, wrong-mnemonic, error N, hang-up, double, "
+           Quoted(word) +
+               " is no fault; use delay MS, drop, wrong-mnemonic, error N, hang-up, double, "
                "truncate N, garble or reply TEXT");
   }
   rule.kind = form->kind;
@@ -108,13 +107,12 @@ void FaultScript::ParseFault(std::string_view fault, Rule& rule, const std::stri
     const auto value = ParseNumber(text, form->highest);
     if (!value) {
       FailAt(name, number,
-             "'" + word + "' needs a whole number from 0 to " + std::to_string(form->highest) + " and has '" +
-                 text + "'");
+             Quoted(word) + " needs a whole number from 0 to " + std::to_string(form->highest) +
+                 " and has '" + text + "'");
     }
     rule.number = *value;
   }
-  if (!fault.empty())
-    FailAt(name, number, "'" + std::string(fault) + "' is too much after '" + word + "'; remove it");
+  if (!fault.empty()) FailAt(name, number, Quoted(fault) + " is too much after '" + word + "'; remove it");
 }
 
 void FaultScript::OnReply(const Exchange& exchange, std::vector<Outgoing>& replies) {

@@ -123,8 +123,8 @@ Options ParseOptions(const std::vector<std::string>& arguments) {
     if (options.action != Options::Action::Run) return options;
   }
   if (optind < argc)
-    Fail("'" + words[static_cast<std::size_t>(optind)] +
-         "' is not understood; every setting is an option that begins with --");
+    Fail(Quoted(words[static_cast<std::size_t>(optind)]) +
+         " is not understood; every setting is an option that begins with --");
   if (options.link.empty())
     Fail("--link PATH is missing: say where the link to the pseudo-terminal is to stand");
   return options;

@@ -99,7 +99,7 @@ class Parser {
   void ReadLine(const TextLine& line) {
     const std::size_t equals = line.text.find('=');
     if (equals == std::string::npos)
-      Fail(line.number, "'" + line.text + "' has no '='; write it as: key = value");
+      Fail(line.number, Quoted(line.text) + " has no '='; write it as: key = value");
     const std::string key(Trim(std::string_view(line.text).substr(0, equals)));
     const Entry entry{line.number, std::string(Trim(std::string_view(line.text).substr(equals + 1)))};
     if (key.empty()) Fail(line.number, "there is no key before the '='; write it as: key = value");
@@ -111,8 +111,8 @@ class Parser {
       Remember(settings_, key, key, entry);
     } else {
       Fail(line.number,
-           "'" + key +
-               "' is no key; use name, based-on, type, serial, firmware, time, lacks, a test number such "
+           Quoted(key) +
+               " is no key; use name, based-on, type, serial, firmware, time, lacks, a test number such "
                "as 410, or a test number and a lead such as 910/3");
     }
   }
@@ -121,7 +121,7 @@ class Parser {
   void Remember(std::map<Key, Entry>& entries, const Key& key, const std::string& text, const Entry& entry) {
     const auto [place, isNew] = entries.emplace(key, entry);
     if (!isNew) {
-      Fail(entry.line, "'" + text + "' was given before, in line " + std::to_string(place->second.line) +
+      Fail(entry.line, Quoted(text) + " was given before, in line " + std::to_string(place->second.line) +
                            "; keep one of them");
     }
   }
@@ -130,8 +130,8 @@ class Parser {
     const auto test = ParseNumber(text, Profile::kHighestTest);
     if (!test || *test % 100 == 0) {
       Fail(line,
-           "'" + std::string(text) +
-               "' is no test number; use one from 1 to 32767 that is not a multiple of 100, such as 410");
+           Quoted(text) +
+               " is no test number; use one from 1 to 32767 that is not a multiple of 100, such as 410");
     }
     return *test;
   }
@@ -142,7 +142,7 @@ class Parser {
     if (slash == std::string::npos) return {test, 0};
     const auto setting = ParseNumber(Trim(std::string_view(key).substr(slash + 1)), Profile::kHighestSetting);
     if (!setting)
-      Fail(line, "'" + key.substr(slash + 1) + "' is no lead; use 0 (the test itself) or 1 to 10");
+      Fail(line, Quoted(key.substr(slash + 1)) + " is no lead; use 0 (the test itself) or 1 to 10");
     return {test, *setting};
   }
 
@@ -156,7 +156,7 @@ class Parser {
     if (const Entry* base = Setting("based-on")) {
       auto builtIn = MakeBuiltInProfile(base->value);
       if (!builtIn) {
-        Fail(base->line, "'" + base->value + "' is no built-in profile; use one of " + Join(BuiltInNames()));
+        Fail(base->line, Quoted(base->value) + " is no built-in profile; use one of " + Join(BuiltInNames()));
       }
       profile = *std::move(builtIn);
       profile.SetName(name_);
@@ -213,7 +213,7 @@ class Parser {
     reading.value = word();
     if (!IsNumber(reading.value)) {
       Fail(entry.line,
-           "'" + reading.value + "' is not a number; write the reading with a point, such as 0.123");
+           Quoted(reading.value) + " is not a number; write the reading with a point, such as 0.123");
     }
     ++next;
     reading.unit = ParseUnit(test, entry.line, words, next);
@@ -227,8 +227,8 @@ class Parser {
       next += 2;
     }
     if (next < words.size()) {
-      Fail(entry.line, "'" + words[next] +
-                           "' is not understood; write: VALUE UNIT [overload] [N ms], such as " +
+      Fail(entry.line, Quoted(words[next]) +
+                           " is not understood; write: VALUE UNIT [overload] [N ms], such as " +
                            "'0.123 Ohm 900 ms'");
     }
     return reading;
@@ -246,7 +246,7 @@ class Parser {
       const bool isUnit = word != "overload" && !(next + 2 == words.size() && words[next + 1] == "ms");
       if (isUnit) {
         Fail(line,
-             "'" + word + "' is no unit of test " + std::to_string(test) + "; use one of " + Join(units));
+             Quoted(word) + " is no unit of test " + std::to_string(test) + "; use one of " + Join(units));
       }
     }
     if (!usual) {
@@ -261,13 +261,13 @@ class Parser {
     if (!time) return MeasuringTimeOf(test);
     const auto words = Words(time->value);
     if (words.size() != 2 || words[1] != "ms")
-      Fail(time->line, "'" + time->value + "' is no time; write it as: time = 700 ms");
+      Fail(time->line, Quoted(time->value) + " is no time; write it as: time = 700 ms");
     return Milliseconds(time->line, words[0]);
   }
 
   std::chrono::milliseconds Milliseconds(int line, const std::string& text) const {
     const auto time = ParseNumber(text, kLongestMeasuringTime);
-    if (!time) Fail(line, "'" + text + "' is no measuring time; use whole milliseconds from 0 to 60000");
+    if (!time) Fail(line, Quoted(text) + " is no measuring time; use whole milliseconds from 0 to 60000");
     return std::chrono::milliseconds(*time);
   }
 

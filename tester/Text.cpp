@@ -74,6 +74,13 @@ std::string_view Trim(std::string_view text) {
   return text.substr(first, text.find_last_not_of(" \t") - first + 1);
 }
 
+std::string Quoted(std::string_view text) {
+  std::string quoted(1, '\'');
+  quoted += text;
+  quoted += '\'';
+  return quoted;
+}
+
 std::optional<int> ParseNumber(std::string_view text, int highest) {
   if (text.empty() || text.front() < '0' || text.front() > '9') return std::nullopt;
   int number = 0;

@@ -23,6 +23,9 @@ bool IsSendable(std::string_view utf8);
 /// The text without blanks and tabs at either end.
 std::string_view Trim(std::string_view text);
 
+/// The text in single quotation marks, for messages.
+std::string Quoted(std::string_view text);
+
 /// A whole decimal number without sign in 0...`highest`, nothing before or after it; empty otherwise.
 std::optional<int> ParseNumber(std::string_view text, int highest);
 

@@ -10,33 +10,33 @@ using orvik::HostError;
 
 void MemoryLine::Deliver(std::string_view bytes) {
   const auto receiver = receiver_;  // a handler may close the line
-  if (connected_ && receiver) receiver(bytes);
+  if (near_ && receiver) receiver(bytes);
 }
 
 void MemoryLine::Unplug() {
-  if (!connected_) return;
-  connected_ = false;
+  if (!near_) return;
+  near_ = nullptr;
   receiver_ = nullptr;
   const auto listener = std::exchange(failureListener_, nullptr);
   if (listener) listener();
 }
 
 MemoryTransport::MemoryTransport(std::shared_ptr<MemoryLine> line) {
-  if (line->connected_)
+  if (line->Connected())
     throw HostError(HostError::kDeviceError, "OrvikComm.PortManager",
                     "the line in memory is held by another port; close that one first");
   line_ = std::move(line);
-  line_->connected_ = true;
+  line_->near_ = this;
 }
 
 MemoryTransport::~MemoryTransport() { Close(); }
 
 void MemoryTransport::SetReceiver(Receiver receiver) {
-  if (line_) line_->receiver_ = std::move(receiver);
+  if (IsOpen()) line_->receiver_ = std::move(receiver);
 }
 
 void MemoryTransport::SetFailureListener(std::function<void()> listener) {
-  if (line_) line_->failureListener_ = std::move(listener);
+  if (IsOpen()) line_->failureListener_ = std::move(listener);
 }
 
 void MemoryTransport::Write(std::string_view bytes) {
@@ -45,12 +45,12 @@ void MemoryTransport::Write(std::string_view bytes) {
   line->sent_.Raise(bytes);
 }
 
-bool MemoryTransport::IsOpen() const { return line_ && line_->connected_; }
+bool MemoryTransport::IsOpen() const { return line_ && line_->near_ == this; }
 
 void MemoryTransport::Close() {
   const auto line = std::exchange(line_, nullptr);
-  if (!line) return;
-  line->connected_ = false;
+  if (!line || line->near_ != this) return;  // after a failure the line may have another near end
+  line->near_ = nullptr;
   line->receiver_ = nullptr;
   line->failureListener_ = nullptr;
 }

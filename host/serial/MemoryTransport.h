@@ -8,13 +8,15 @@
 
 namespace bench {
 
+class MemoryTransport;
+
 /// The far end of a line inside the process: hears what the near end sends, and answers.
 class MemoryLine {
  public:
   /// Bytes that the near end has sent.
   orvik::platform::Event<std::string_view>& Sent() { return sent_; }
   /// Whether a near end is open.
-  bool Connected() const { return connected_; }
+  bool Connected() const { return near_ != nullptr; }
   /// Gives bytes to the near end; they are lost when none is open.
   void Deliver(std::string_view bytes);
   /// Pulls the cable: the near end fails. A later one can be opened again.
@@ -26,7 +28,7 @@ class MemoryLine {
   orvik::platform::Event<std::string_view> sent_;
   ITransport::Receiver receiver_;
   std::function<void()> failureListener_;
-  bool connected_ = false;
+  const MemoryTransport* near_ = nullptr;
 };
 
 /// The near end of such a line.

@@ -83,7 +83,8 @@ std::shared_ptr<Message> ComposeMessage(const std::string& mnemonic, std::vector
   std::string line = Bytes(mnemonic, mnemonic);
   for (const auto& parameter : parameters) AppendField(line, Bytes(mnemonic, parameter));
   if (line.size() > LineReader::kMaxLine)
-    Refuse(mnemonic, "with its parameters it has more than " + std::to_string(LineReader::kMaxLine) + " bytes");
+    Refuse(mnemonic,
+           "with its parameters it has more than " + std::to_string(LineReader::kMaxLine) + " bytes");
   return std::make_shared<Message>(mnemonic, std::move(parameters), std::move(line));
 }
 

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include <regex>
+#include <algorithm>
 
 #include "tester/Trace.h"
 #include "tests/tester/TestTools.h"
@@ -10,17 +10,22 @@ namespace {
 
 using test::TempFolder;
 
+std::string WithDigitsAsZero(std::string text) {
+  std::replace_if(
+      text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; }, '0');
+  return text;
+}
+
 TEST(TraceTest, EachLineHasTimeDirectionAndReadableText) {
   const TempFolder folder;
   {
     Trace trace(folder.Path("trace"));
     trace.Write("recv", "IREM");
-    trace.Write("sent", "gres,\xB5\x1B");
+    trace.Write("sent", "gres,\xB5\x0B");
   }
   const std::string text = test::ReadAll(folder.Path("trace"));
-  const std::string time = R"(\d{4}-\d\d-\d\dT\d\d:\d\d:\d\d\.\d{6}Z )";
-  EXPECT_TRUE(std::regex_match(text, std::regex(time + "recv IREM\n" + time + R"(sent gres,µ\\x1B)" + "\n")))
-      << text;
+  const std::string time = "0000-00-00T00:00:00.000000Z ";
+  EXPECT_EQ(WithDigitsAsZero(text), time + "recv IREM\n" + time + "sent gres,µ\\x0B\n");
 }
 
 TEST(TraceTest, AnOlderTraceIsKept) {

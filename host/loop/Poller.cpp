@@ -1,0 +1,98 @@
+#include "host/loop/Poller.h"
+
+#include <sys/eventfd.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstddef>
+#include <cstring>
+#include <string>
+#include <utility>
+
+#include "OrvikTypeLib/HostError.h"
+
+namespace bench {
+namespace {
+
+[[noreturn]] void Fail(const std::string& what) {
+  throw orvik::HostError(orvik::HostError::kDeviceError, "orvik-bench", what + ": " + std::strerror(errno));
+}
+
+}  // namespace
+
+Poller::Poller() : wakeDescriptor_(eventfd(0, EFD_NONBLOCK | EFD_CLOEXEC)) {
+  if (wakeDescriptor_ < 0) Fail("cannot make the event loop's wake-up descriptor");
+}
+
+Poller::~Poller() { close(wakeDescriptor_); }
+
+Poller::Id Poller::Watch(int descriptor, std::function<void()> callback) {
+  const Id id = kWatchBit | nextId_++;
+  watches_.push_back({id, descriptor, std::make_shared<const std::function<void()>>(std::move(callback))});
+  return id;
+}
+
+void Poller::Forget(Id id) {
+  const auto found = std::find_if(watches_.begin(), watches_.end(), [id](const Watched& w) { return w.id == id; });
+  if (found == watches_.end()) return;
+  // What the callback holds may come back here when it is destroyed, so it goes last.
+  const auto callback = std::move(found->callback);
+  watches_.erase(found);
+}
+
+void Poller::Wake() noexcept {
+  const int error = errno;
+  woken_.store(true);
+  const std::uint64_t one = 1;
+  // A full counter refuses the write, and is awake already.
+  [[maybe_unused]] const auto written = write(wakeDescriptor_, &one, sizeof one);
+  errno = error;
+}
+
+bool Poller::TakeWake() { return woken_.exchange(false); }
+
+bool Poller::Poll(std::chrono::nanoseconds longest) {
+  if (watches_.empty() && longest <= std::chrono::nanoseconds::zero()) return false;
+  return Sleep(longest) && CallBack();
+}
+
+bool Poller::Sleep(std::chrono::nanoseconds longest) {
+  ++polls_;
+  polled_.assign(1, pollfd{wakeDescriptor_, POLLIN, 0});
+  polledIds_.assign(1, 0);
+  for (const Watched& watched : watches_) {
+    polled_.push_back({watched.descriptor, POLLIN, 0});
+    polledIds_.push_back(watched.id);
+  }
+  // The descriptor may have been emptied by a poll whose wake-up nobody has taken yet.
+  if (woken_.load()) longest = std::chrono::nanoseconds::zero();
+  const auto seconds = std::chrono::floor<std::chrono::seconds>(longest);
+  const timespec limit{static_cast<time_t>(seconds.count()), static_cast<long>((longest - seconds).count())};
+  const int ready = ppoll(polled_.data(), polled_.size(), &limit, nullptr);
+  if (ready < 0 && errno != EINTR) Fail("waiting for devices failed");
+  if (ready > 0 && polled_.front().revents != 0) {
+    std::uint64_t count = 0;
+    [[maybe_unused]] const auto taken = read(wakeDescriptor_, &count, sizeof count);
+  }
+  return ready > 0;
+}
+
+bool Poller::CallBack() {
+  const auto poll = polls_;
+  bool called = false;
+  // After a nested poll the readings are old: a descriptor may have been read dry meanwhile.
+  for (std::size_t index = 1; poll == polls_ && index < polled_.size(); ++index) {
+    if (polled_[index].revents == 0) continue;
+    const Id id = polledIds_[index];
+    const auto found =
+        std::find_if(watches_.begin(), watches_.end(), [id](const Watched& w) { return w.id == id; });
+    if (found == watches_.end()) continue;
+    const auto callback = found->callback;
+    called = true;
+    (*callback)();
+  }
+  return called;
+}
+
+}  // namespace bench

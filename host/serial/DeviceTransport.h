@@ -1,0 +1,38 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "host/loop/ILoop.h"
+#include "host/serial/ITransport.h"
+#include "host/serial/SerialDevice.h"
+
+namespace bench {
+
+/// A serial device, read while messages are processed. A device that hangs up or fails reads as closed.
+class DeviceTransport final : public ITransport {
+ public:
+  /// Opens the device; `HostError` as `SerialDevice`.
+  DeviceTransport(std::string path, const LineSettings& settings, std::shared_ptr<ILoop> loop);
+  ~DeviceTransport() override;
+
+  void SetReceiver(Receiver receiver) override;
+  void SetFailureListener(std::function<void()> listener) override;
+  void Write(std::string_view bytes) override;
+  bool IsOpen() const override { return device_.IsOpen(); }
+  void Close() override;
+
+ private:
+  void ReadArrived();
+  void Fail();
+
+  const std::shared_ptr<ILoop> loop_;
+  SerialDevice device_;
+  ILoop::Id watch_ = 0;
+  Receiver receiver_;
+  std::function<void()> failureListener_;
+  /// Expired once this object is gone: a receiver may release it.
+  std::shared_ptr<int> alive_ = std::make_shared<int>();
+};
+
+}  // namespace bench

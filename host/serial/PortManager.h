@@ -1,0 +1,56 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "OrvikTypeLib/IPortManager.h"
+#include "host/loop/ILoop.h"
+#include "host/serial/ITransport.h"
+#include "host/serial/LineSettings.h"
+#include "host/serial/Wire.h"
+
+namespace bench {
+
+/// Knows which port, and behind it which serial device, belongs to which instrument.
+class PortManager final : public orvik::IPortManager {
+ public:
+  /// Opens a way to the device; `HostError` with the reason when that fails.
+  using Opener =
+      std::function<std::unique_ptr<ITransport>(const std::string& device, const LineSettings& settings)>;
+
+  PortManager(std::shared_ptr<ILoop> loop, Opener opener);
+
+  /// Gives an instrument the device; ports are numbered from 1 in the order of their first assignment.
+  void Assign(const std::string& instrument, const std::string& device);
+  /// Takes the instrument's device away.
+  void Unassign(const std::string& instrument);
+
+  /// What happens on the wire of all ports.
+  const std::shared_ptr<Wire>& TheWire() const { return wire_; }
+  /// Why the last opening failed; empty after a good one. Callers of the interface may ignore the error.
+  const std::string& LastError() const { return lastError_; }
+
+ private:
+  struct Assignment {
+    std::string instrument;
+    std::string device;  ///< empty when it was taken away
+  };
+
+  std::int32_t IPortManager_FindPort(const std::string& sDevice) const override;
+  std::shared_ptr<orvik::IPort> IPortManager_OpenPort(std::int32_t lPort,
+                                                      const std::string& sSettings) override;
+  std::shared_ptr<orvik::IPort> Open(std::int32_t lPort, const std::string& sSettings);
+
+  const std::shared_ptr<ILoop> loop_;
+  const Opener opener_;
+  const std::shared_ptr<Wire> wire_ = std::make_shared<Wire>();
+  std::vector<Assignment> ports_;  ///< the port's number is its place, from 1
+  std::string lastError_;
+};
+
+/// Opens real serial devices.
+PortManager::Opener DeviceOpener(std::shared_ptr<ILoop> loop);
+
+}  // namespace bench

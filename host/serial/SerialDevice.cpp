@@ -1,0 +1,114 @@
+#include "host/serial/SerialDevice.h"
+
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/file.h>
+#include <sys/ioctl.h>
+#include <sys/stat.h>
+#include <sys/sysmacros.h>
+#include <termios.h>
+
+#include <cerrno>
+#include <system_error>
+
+#include "OrvikTypeLib/HostError.h"
+#include "host/serial/LineMode.h"
+
+namespace bench {
+
+namespace {
+
+constexpr int kWriteTimeoutMs = 500;
+
+[[noreturn]] void Fail(const std::string& path, const std::string& reason) {
+  throw orvik::HostError(orvik::HostError::kDeviceError, "OrvikComm.PortManager",
+                         "serial device " + path + ": " + reason);
+}
+
+[[noreturn]] void FailToOpen(const std::string& path, int error) {
+  switch (error) {
+    case ENOENT:
+    case ENOTDIR:
+    case ENXIO:
+    case ENODEV:
+      Fail(
+          path,
+          "does not exist; connect the tester's cable and give the name of its device, such as /dev/ttyUSB0");
+    case EACCES:
+    case EPERM:
+      Fail(path,
+           "no permission to use it; add your account to the device's group (often \"dialout\") and log in "
+           "anew");
+    case EBUSY:
+      Fail(path, "is held by another program; close that program and try again");
+    case EISDIR:
+      Fail(path, "is a folder, not a serial device");
+    default:
+      Fail(path, "cannot be opened: " + std::generic_category().message(error));
+  }
+}
+
+/// Whether the descriptor is the far end of a pair of pseudo-terminals.
+bool IsPseudoTerminal(int descriptor) {
+  constexpr unsigned kFirstMajor = 136;
+  constexpr unsigned kLastMajor = 143;
+  struct stat status {};
+  if (fstat(descriptor, &status) != 0 || !S_ISCHR(status.st_mode)) return false;
+  return major(status.st_rdev) >= kFirstMajor && major(status.st_rdev) <= kLastMajor;
+}
+
+}  // namespace
+
+SerialDevice::SerialDevice(std::string path, const LineSettings& settings) : path_(std::move(path)) {
+  UniqueFd opened(open(path_.c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC));
+  if (!opened) FailToOpen(path_, errno);
+  if (!isatty(opened.Get())) Fail(path_, "is no serial device; give the name of one, such as /dev/ttyUSB0");
+  if (flock(opened.Get(), LOCK_EX | LOCK_NB) != 0) {
+    if (errno == EWOULDBLOCK) FailToOpen(path_, EBUSY);
+    Fail(path_, "cannot be locked: " + std::generic_category().message(errno));
+  }
+  const bool pseudo = IsPseudoTerminal(opened.Get());
+  const auto reason = SetLineMode(opened.Get(), settings, pseudo);
+  if (!reason.empty()) Fail(path_, reason);
+  // A pseudo-terminal would stay exclusive after a killed program, since its other holder keeps it open.
+  exclusive_ = !pseudo && ioctl(opened.Get(), TIOCEXCL) == 0;
+  tcflush(opened.Get(), TCIOFLUSH);
+  descriptor_ = std::move(opened);
+}
+
+bool SerialDevice::Write(std::string_view bytes) {
+  while (!bytes.empty()) {
+    const ssize_t count = write(descriptor_.Get(), bytes.data(), bytes.size());
+    if (count > 0) {
+      bytes.remove_prefix(static_cast<std::size_t>(count));
+      continue;
+    }
+    if (count < 0 && errno == EINTR) continue;
+    if (count < 0 && errno != EAGAIN) return false;
+    pollfd room{descriptor_.Get(), POLLOUT, 0};
+    if (poll(&room, 1, kWriteTimeoutMs) <= 0 || (room.revents & POLLOUT) == 0) return false;
+  }
+  return true;
+}
+
+SerialDevice::ReadOutcome SerialDevice::Read(char* buffer, std::size_t room, std::size_t& count) {
+  while (true) {
+    const ssize_t got = read(descriptor_.Get(), buffer, room);
+    count = got > 0 ? static_cast<std::size_t>(got) : 0;
+    if (got > 0) return ReadOutcome::kBytes;
+    if (got < 0 && errno == EINTR) continue;
+    if (got < 0 && errno == EAGAIN) return ReadOutcome::kNothing;
+    return ReadOutcome::kFailed;  // end of file is a hang-up
+  }
+}
+
+void SerialDevice::Close() {
+  if (!descriptor_) return;
+  int unsent = 0;
+  // Closing would wait for bytes that a stuck line does not take.
+  if (ioctl(descriptor_.Get(), TIOCOUTQ, &unsent) == 0 && unsent > 0) tcflush(descriptor_.Get(), TCOFLUSH);
+  if (exclusive_) ioctl(descriptor_.Get(), TIOCNXCL);
+  descriptor_.Reset();
+}
+
+}  // namespace bench

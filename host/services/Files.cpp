@@ -1,0 +1,142 @@
+#include "host/services/Files.h"
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <system_error>
+#include <thread>
+
+#include "OrvikTypeLib/HostError.h"
+
+namespace bench {
+namespace {
+
+constexpr char kSource[] = "orvik-bench";
+
+std::filesystem::path FolderOf(const std::filesystem::path& file) {
+  return file.has_parent_path() ? file.parent_path() : std::filesystem::path(".");
+}
+
+void SyncFolder(const std::filesystem::path& folder) {
+  const FileDescriptor descriptor(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  if (!descriptor.Valid() || fsync(descriptor.Get()) != 0)
+    ThrowFileError(folder, "cannot be brought to the disk", errno, "check the disk");
+}
+
+mode_t ModeOf(const std::filesystem::path& file) {
+  struct stat status {};
+  return stat(file.c_str(), &status) == 0 ? status.st_mode & 07777 : 0666;
+}
+
+}  // namespace
+
+void ThrowFileError(const std::filesystem::path& file, const std::string& what, int error,
+                    const std::string& advice) {
+  std::string text = file.string() + " " + what;
+  if (error != 0) text += ": " + std::generic_category().message(error);
+  throw orvik::HostError(orvik::HostError::kPathError, kSource, text + " (" + advice + ")");
+}
+
+FileDescriptor& FileDescriptor::operator=(FileDescriptor&& other) noexcept {
+  std::swap(descriptor_, other.descriptor_);
+  return *this;
+}
+
+FileDescriptor::~FileDescriptor() {
+  if (descriptor_ >= 0) close(descriptor_);
+}
+
+std::string ReadFile(const std::filesystem::path& file) {
+  const FileDescriptor descriptor(open(file.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+  if (!descriptor.Valid())
+    ThrowFileError(file, "cannot be opened", errno, "check the name and your permissions");
+  return ReadDescriptor(descriptor.Get(), file);
+}
+
+std::string ReadDescriptor(int descriptor, const std::filesystem::path& file) {
+  struct stat status {};
+  if (fstat(descriptor, &status) != 0) ThrowFileError(file, "cannot be read", errno, "check the disk");
+  if (!S_ISREG(status.st_mode)) ThrowFileError(file, "is no file", 0, "name a file");
+  if (static_cast<std::uintmax_t>(status.st_size) > kLargestFile)
+    ThrowFileError(file, "is too large", 0, "files up to 512 MiB are read");
+  std::string contents(static_cast<std::size_t>(status.st_size), '\0');
+  std::size_t filled = 0;
+  while (filled < contents.size()) {
+    const ssize_t count =
+        pread(descriptor, contents.data() + filled, contents.size() - filled, static_cast<off_t>(filled));
+    if (count < 0 && errno == EINTR) continue;
+    if (count < 0) ThrowFileError(file, "cannot be read", errno, "check the disk");
+    if (count == 0) break;
+    filled += static_cast<std::size_t>(count);
+  }
+  contents.resize(filled);
+  return contents;
+}
+
+void WriteDescriptor(int descriptor, std::string_view contents, const std::filesystem::path& file) {
+  while (!contents.empty()) {
+    const ssize_t count = write(descriptor, contents.data(), contents.size());
+    if (count < 0 && errno == EINTR) continue;
+    if (count < 0)
+      ThrowFileError(file, "cannot be written", errno, "what was there before is kept; check the disk");
+    contents.remove_prefix(static_cast<std::size_t>(count));
+  }
+}
+
+FileDescriptor WriteFreshFile(const std::filesystem::path& fresh, std::string_view contents, mode_t mode) {
+  FileDescriptor descriptor(open(fresh.c_str(), O_WRONLY | O_CREAT | O_NOFOLLOW | O_CLOEXEC, mode));
+  if (!descriptor.Valid())
+    ThrowFileError(fresh, "cannot be created", errno, "check the folder and your permissions");
+  try {
+    if (ftruncate(descriptor.Get(), 0) != 0)
+      ThrowFileError(fresh, "cannot be written", errno, "check the disk");
+    WriteDescriptor(descriptor.Get(), contents, fresh);
+    if (fsync(descriptor.Get()) != 0)
+      ThrowFileError(fresh, "cannot be brought to the disk", errno, "check the disk");
+  } catch (const orvik::HostError&) {
+    unlink(fresh.c_str());
+    throw;
+  }
+  return descriptor;
+}
+
+void MoveIntoPlace(const std::filesystem::path& fresh, const std::filesystem::path& file) {
+  if (rename(fresh.c_str(), file.c_str()) != 0) {
+    const int error = errno;
+    unlink(fresh.c_str());
+    ThrowFileError(file, "cannot be replaced", error, "check the folder and your permissions");
+  }
+  SyncFolder(FolderOf(file));
+}
+
+void ReplaceFile(const std::filesystem::path& file, std::string_view contents) {
+  std::filesystem::path fresh = file;
+  fresh += ".new";
+  WriteFreshFile(fresh, contents, ModeOf(file));
+  MoveIntoPlace(fresh, file);
+}
+
+void CreateFolder(const std::filesystem::path& folder) {
+  std::error_code error;
+  std::filesystem::create_directories(folder, error);
+  if (error) ThrowFileError(folder, "cannot be created", error.value(), "name a folder that you may write to");
+}
+
+FileLock::FileLock(const std::filesystem::path& lockFile, std::chrono::milliseconds patience) {
+  descriptor_ = FileDescriptor(open(lockFile.c_str(), O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC, 0666));
+  if (!descriptor_.Valid())
+    ThrowFileError(lockFile, "cannot be opened", errno, "check the folder and your permissions");
+  const auto deadline = std::chrono::steady_clock::now() + patience;
+  while (flock(descriptor_.Get(), LOCK_EX | LOCK_NB) != 0) {
+    if (errno != EWOULDBLOCK && errno != EINTR)
+      ThrowFileError(lockFile, "cannot be locked", errno, "keep the folder on a local disk");
+    if (std::chrono::steady_clock::now() >= deadline)
+      ThrowFileError(lockFile, "is held by another program", 0, "close the other program and try again");
+    std::this_thread::sleep_for(std::chrono::milliseconds(2));
+  }
+}
+
+}  // namespace bench

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <initializer_list>
+#include <memory>
+#include <pugixml.hpp>
+#include <string_view>
+
+namespace bench {
+
+/// What a loader found in a node and does not know: attributes, elements, comments. Kept, and written back, so
+/// that a file which another version or another program has added to loses nothing.
+class Leftovers {
+ public:
+  Leftovers() = default;
+  Leftovers(const Leftovers& other);
+  Leftovers& operator=(const Leftovers& other);
+  Leftovers(Leftovers&&) noexcept = default;
+  Leftovers& operator=(Leftovers&&) noexcept = default;
+  ~Leftovers() = default;
+
+  /// Replaces what is kept by all of the node that is not named here.
+  void Take(pugi::xml_node node, std::initializer_list<std::string_view> knownAttributes,
+            std::initializer_list<std::string_view> knownElements);
+
+  /// Keeps one more element.
+  void Add(pugi::xml_node element);
+
+  /// Adds to the node what is kept; an attribute that the node has by now stays as it is.
+  void Restore(pugi::xml_node node) const;
+
+  bool Empty() const { return !kept_; }
+
+ private:
+  pugi::xml_node Holder();
+
+  std::unique_ptr<pugi::xml_document> kept_;
+};
+
+}  // namespace bench

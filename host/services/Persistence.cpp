@@ -1,0 +1,35 @@
+#include "host/services/Persistence.h"
+
+#include "OrvikTypeLib/As.h"
+#include "OrvikTypeLib/IXmlNode.h"
+#include "host/services/Text.h"
+
+namespace bench {
+
+std::shared_ptr<orvik::IXmlNode> Persistence::IPersistence_WriteValue(std::shared_ptr<orvik::IXmlNode> Parent,
+                                                                      const std::string& sText) {
+  auto node = orvik::Required(Parent).AddChild("Value");
+  node->SetText(sText);
+  return node;
+}
+
+std::string Persistence::IPersistence_ReadValue(std::shared_ptr<orvik::IXmlNode> Node) const {
+  return orvik::Required(Node).Text();
+}
+
+std::shared_ptr<orvik::IXmlNode> Persistence::IPersistence_WriteStatus(
+    std::shared_ptr<orvik::IXmlNode> Parent, const std::string& sName, std::int32_t lStatus) {
+  auto node = orvik::Required(Parent).AddChild("Status");
+  if (!sName.empty()) node->SetAttribute("Name", sName);
+  node->SetText(std::to_string(lStatus));
+  return node;
+}
+
+std::int32_t Persistence::IPersistence_ReadStatus(std::shared_ptr<orvik::IXmlNode> Node) const {
+  const auto text = orvik::Required(Node).Text();
+  if (const auto status = WholeNumber(text)) return *status;
+  throw orvik::HostError(orvik::HostError::kTypeMismatch, "OrvikTypeLib.Persistence",
+                         "the status \"" + text + "\" is not a whole number");
+}
+
+}  // namespace bench

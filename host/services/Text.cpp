@@ -1,0 +1,88 @@
+#include "host/services/Text.h"
+
+#include <charconv>
+#include <cmath>
+
+namespace bench {
+namespace {
+
+std::string_view WithoutPlus(std::string_view text) {
+  if (text.size() > 1 && text[0] == '+' && text[1] != '-') text.remove_prefix(1);
+  return text;
+}
+
+template <class Value>
+std::optional<Value> Whole(std::string_view text) {
+  text = WithoutPlus(text);
+  Value value{};
+  const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
+  if (result.ec != std::errc{} || result.ptr != text.data() + text.size()) return {};
+  return value;
+}
+
+/// Length of the valid UTF-8 sequence at the start of the text; 0 when there is none.
+std::size_t SequenceLength(std::string_view text) {
+  const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
+  const unsigned char lead = byte(0);
+  if (lead == 0) return 0;
+  if (lead < 0x80) return 1;
+  const std::size_t length = lead >= 0xC2 && lead <= 0xDF   ? 2
+                             : lead >= 0xE0 && lead <= 0xEF ? 3
+                             : lead >= 0xF0 && lead <= 0xF4 ? 4
+                                                            : 0;
+  if (length == 0 || text.size() < length) return 0;
+  for (std::size_t i = 1; i < length; ++i) {
+    if ((byte(i) & 0xC0) != 0x80) return 0;
+  }
+  // Overlong forms, surrogates and code points beyond U+10FFFF.
+  if (lead == 0xE0 && byte(1) < 0xA0) return 0;
+  if (lead == 0xED && byte(1) > 0x9F) return 0;
+  if (lead == 0xF0 && byte(1) < 0x90) return 0;
+  if (lead == 0xF4 && byte(1) > 0x8F) return 0;
+  return length;
+}
+
+}  // namespace
+
+std::string LowerAscii(std::string_view text) {
+  std::string lower(text);
+  for (char& letter : lower) {
+    if (letter >= 'A' && letter <= 'Z') letter = static_cast<char>(letter - 'A' + 'a');
+  }
+  return lower;
+}
+
+std::optional<std::int32_t> WholeNumber(std::string_view text) { return Whole<std::int32_t>(text); }
+
+std::optional<double> FiniteNumber(std::string_view text) {
+  const auto first = text.find_first_not_of(' ');
+  if (first == std::string_view::npos) return {};
+  text = text.substr(first, text.find_last_not_of(' ') - first + 1);
+  const auto value = Whole<double>(text);
+  if (!value || !std::isfinite(*value)) return {};
+  return value;
+}
+
+std::string ExactNumberText(double value) {
+  char buffer[40];
+  const auto result = std::to_chars(buffer, buffer + sizeof buffer, value);
+  return {buffer, result.ptr};
+}
+
+std::string ValidUtf8(std::string_view text) {
+  std::string valid;
+  valid.reserve(text.size());
+  while (!text.empty()) {
+    const std::size_t length = SequenceLength(text);
+    if (length == 0) {
+      valid += "\xEF\xBF\xBD";
+      text.remove_prefix(1);
+    } else {
+      valid += text.substr(0, length);
+      text.remove_prefix(length);
+    }
+  }
+  return valid;
+}
+
+}  // namespace bench

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+/// Small conversions of texts that the host's files and services share. None of them looks at the C locale.
+namespace bench {
+
+/// The text with the letters A to Z in lower case.
+std::string LowerAscii(std::string_view text);
+
+/// The 32-bit number that the whole text stands for (decimal, optional sign); none for anything else.
+std::optional<std::int32_t> WholeNumber(std::string_view text);
+
+/// The finite number that the whole text stands for ("." as decimal sign, optional sign and exponent, blanks
+/// around it); none for anything else.
+std::optional<double> FiniteNumber(std::string_view text);
+
+/// The shortest text that reads back as the same number.
+std::string ExactNumberText(double value);
+
+/// The text with every byte that is not part of valid UTF-8, and every NUL, replaced by U+FFFD.
+std::string ValidUtf8(std::string_view text);
+
+}  // namespace bench

@@ -1,0 +1,120 @@
+#include "host/services/XmlDocument.h"
+
+#include <algorithm>
+
+#include "host/services/XmlNode.h"
+
+namespace bench {
+namespace xml {
+namespace {
+
+constexpr int kIndentedLevels = 256;
+
+/// Fragments are parsed so that text beside the root element is seen, and refused, instead of dropped.
+constexpr unsigned kParseFlags =
+    pugi::parse_default | pugi::parse_comments | pugi::parse_pi | pugi::parse_doctype |
+    pugi::parse_ws_pcdata_single | pugi::parse_fragment;
+
+std::size_t OffsetOf(pugi::xml_node node) {
+  const auto offset = node.offset_debug();
+  return offset < 0 ? 0 : static_cast<std::size_t>(offset);
+}
+
+Fault CheckTop(const pugi::xml_document& document, std::size_t size) {
+  pugi::xml_node root;
+  for (auto node = document.first_child(); node; node = node.next_sibling()) {
+    if (node.type() == pugi::node_pcdata || node.type() == pugi::node_cdata)
+      return {OffsetOf(node), "there is text outside the root element"};
+    if (node.type() == pugi::node_doctype)
+      return {OffsetOf(node), "a document type declaration is not supported"};
+    if (node.type() != pugi::node_element) continue;
+    if (root) return {OffsetOf(node), "there is a second root element"};
+    root = node;
+  }
+  if (!root) return {size, "there is no root element"};
+  return {};
+}
+
+bool DeeperThan(const pugi::xml_document& document, int levels) {
+  struct Depth : pugi::xml_tree_walker {
+    int limit = 0;
+    bool for_each(pugi::xml_node&) override { return depth() <= limit; }
+  } walker;
+  walker.limit = levels;
+  pugi::xml_node top = document;
+  return !top.traverse(walker);
+}
+
+struct StringWriter : pugi::xml_writer {
+  std::string text;
+  void write(const void* data, std::size_t size) override { text.append(static_cast<const char*>(data), size); }
+};
+
+}  // namespace
+
+Fault Parse(std::string_view text, pugi::xml_document& document) {
+  const auto result = document.load_buffer(text.data(), text.size(), kParseFlags, pugi::encoding_utf8);
+  Fault fault;
+  if (!result) {
+    fault = {static_cast<std::size_t>(result.offset < 0 ? 0 : result.offset), result.description()};
+  } else if (text.find('\0') != std::string_view::npos) {
+    fault = {text.find('\0'), "there is a NUL byte"};
+  } else {
+    fault = CheckTop(document, text.size());
+  }
+  if (!fault.reason.empty()) document.reset();
+  return fault;
+}
+
+std::size_t LineOf(std::string_view text, std::size_t offset) {
+  const auto end = text.begin() + static_cast<std::ptrdiff_t>(std::min(offset, text.size()));
+  return 1 + static_cast<std::size_t>(std::count(text.begin(), end, '\n'));
+}
+
+std::string Write(const pugi::xml_document& document) {
+  StringWriter writer;
+  const bool deep = DeeperThan(document, kIndentedLevels);
+  document.save(writer, "  ", deep ? pugi::format_raw : pugi::format_indent, pugi::encoding_utf8);
+  return std::move(writer.text);
+}
+
+}  // namespace xml
+
+bool XmlDocument::IXmlDocument_LoadFromString(const std::string& sXml) {
+  document_ = std::make_shared<pugi::xml_document>();
+  const auto fault = xml::Parse(sXml, *document_);
+  error_.clear();
+  if (fault.reason.empty()) return true;
+  const auto offset = std::min(fault.offset, sXml.size());
+  const auto lineStart = offset == 0 ? std::string::npos : sXml.rfind('\n', offset - 1);
+  const auto column = offset - (lineStart == std::string::npos ? 0 : lineStart + 1) + 1;
+  error_ = "line " + std::to_string(xml::LineOf(sXml, offset)) + ", column " + std::to_string(column) + ": " +
+           fault.reason;
+  return false;
+}
+
+std::shared_ptr<orvik::IXmlNode> XmlDocument::Wrap(pugi::xml_node node) const {
+  return node ? std::make_shared<XmlNode>(document_, node) : nullptr;
+}
+
+std::shared_ptr<orvik::IXmlNode> XmlDocument::IXmlDocument_FindElement(const std::string& sName) const {
+  const auto root = document_->document_element();
+  for (auto node = root; node; node = xml::NextInDocument(node, root)) {
+    if (sName == node.name()) return Wrap(node);
+  }
+  return nullptr;
+}
+
+std::shared_ptr<orvik::IXmlNode> XmlDocument::IXmlDocument_CreateRoot(const std::string& sName) {
+  document_ = std::make_shared<pugi::xml_document>();
+  error_.clear();
+  return Wrap(xml::AddElement(*document_, sName));
+}
+
+std::shared_ptr<orvik::IXmlNode> XmlDocument::IXmlDocument_Root() const {
+  return Wrap(document_->document_element());
+}
+
+std::string XmlDocument::IXmlDocument_SaveToString() const { return xml::Write(*document_); }
+
+}  // namespace bench

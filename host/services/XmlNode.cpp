@@ -1,0 +1,160 @@
+#include "host/services/XmlNode.h"
+
+#include <algorithm>
+
+#include "OrvikTypeLib/As.h"
+#include "host/services/Text.h"
+
+namespace bench {
+namespace {
+
+constexpr char kSource[] = "OrvikTypeLib.XmlNode";
+
+bool IsText(pugi::xml_node node) {
+  return node.type() == pugi::node_pcdata || node.type() == pugi::node_cdata;
+}
+
+void RequireName(const std::string& name) {
+  if (!xml::IsName(name))
+    throw orvik::HostError(orvik::HostError::kInvalidArgument, kSource,
+                           "\"" + name + "\" cannot be the name of an element or attribute");
+}
+
+bool StartsName(char letter) {
+  return (letter >= 'a' && letter <= 'z') || (letter >= 'A' && letter <= 'Z') || letter == '_' ||
+         letter == ':' || static_cast<unsigned char>(letter) >= 0x80;
+}
+
+}  // namespace
+
+namespace xml {
+
+pugi::xml_node ElementFrom(pugi::xml_node node) {
+  while (node && node.type() != pugi::node_element) node = node.next_sibling();
+  return node;
+}
+
+pugi::xml_node NextInDocument(pugi::xml_node element, pugi::xml_node top) {
+  if (const auto child = FirstElement(element)) return child;
+  while (element && element != top) {
+    if (const auto next = NextElement(element)) return next;
+    element = element.parent();
+  }
+  return {};
+}
+
+std::string Text(pugi::xml_node element) {
+  std::string text;
+  for (auto child = element.first_child(); child; child = child.next_sibling()) {
+    if (IsText(child)) text += child.value();
+  }
+  return text;
+}
+
+void SetText(pugi::xml_node element, const std::string& text) {
+  for (auto child = element.first_child(); child;) {
+    const auto next = child.next_sibling();
+    if (IsText(child)) element.remove_child(child);
+    child = next;
+  }
+  if (!text.empty()) element.prepend_child(pugi::node_pcdata).set_value(ValidUtf8(text).c_str());
+}
+
+void SetAttribute(pugi::xml_node element, const char* name, const std::string& value) {
+  auto attribute = element.attribute(name);
+  if (!attribute) attribute = element.append_attribute(name);
+  attribute.set_value(ValidUtf8(value).c_str());
+}
+
+pugi::xml_node AddElement(pugi::xml_node parent, const std::string& name) {
+  RequireName(name);
+  return parent.append_child(name.c_str());
+}
+
+bool IsName(const std::string& name) {
+  return !name.empty() && StartsName(name.front()) && std::all_of(name.begin(), name.end(), [](char letter) {
+    return StartsName(letter) || (letter >= '0' && letter <= '9') || letter == '-' || letter == '.';
+  });
+}
+
+std::int32_t NumberAttribute(pugi::xml_node element, const char* name) {
+  const auto number = WholeNumber(element.attribute(name).value());
+  if (!number)
+    throw orvik::HostError(orvik::HostError::kTypeMismatch, kSource,
+                           std::string("the attribute \"") + name + "\" of \"" + element.name() +
+                               "\" is not a whole number");
+  return *number;
+}
+
+}  // namespace xml
+
+const XmlNode& XmlNode::Of(const std::shared_ptr<orvik::IXmlNode>& node) {
+  orvik::Required(node);
+  const auto own = orvik::As<XmlNode>(node);
+  if (!own)
+    throw orvik::HostError(orvik::HostError::kTypeMismatch, kSource, "the node is not one of this host's");
+  return *own;
+}
+
+std::shared_ptr<orvik::IXmlNode> XmlNode::Wrap(pugi::xml_node node) const {
+  return node ? std::make_shared<XmlNode>(document_, node) : nullptr;
+}
+
+std::string XmlNode::IXmlNode_Name() const { return node_.name(); }
+
+void XmlNode::IXmlNode_SetName(const std::string& sName) {
+  RequireName(sName);
+  node_.set_name(sName.c_str());
+}
+
+std::string XmlNode::IXmlNode_Text() const { return xml::Text(node_); }
+
+void XmlNode::IXmlNode_SetText(const std::string& sText) { xml::SetText(node_, sText); }
+
+bool XmlNode::IXmlNode_HasAttribute(const std::string& sName) const {
+  return !node_.attribute(sName.c_str()).empty();
+}
+
+std::string XmlNode::IXmlNode_Attribute(const std::string& sName) const {
+  return node_.attribute(sName.c_str()).value();
+}
+
+void XmlNode::IXmlNode_SetAttribute(const std::string& sName, const std::string& sValue) {
+  RequireName(sName);
+  xml::SetAttribute(node_, sName.c_str(), sValue);
+}
+
+std::int32_t XmlNode::IXmlNode_ChildCount() const {
+  std::int32_t count = 0;
+  for (auto child = xml::FirstElement(node_); child; child = xml::NextElement(child)) ++count;
+  return count;
+}
+
+std::shared_ptr<orvik::IXmlNode> XmlNode::IXmlNode_FirstChild() const {
+  return Wrap(xml::FirstElement(node_));
+}
+
+std::shared_ptr<orvik::IXmlNode> XmlNode::IXmlNode_NextSibling() const {
+  return Wrap(xml::NextElement(node_));
+}
+
+std::shared_ptr<orvik::IXmlNode> XmlNode::IXmlNode_FindChild(const std::string& sName) const {
+  return Wrap(node_.child(sName.c_str()));
+}
+
+std::shared_ptr<orvik::IXmlNode> XmlNode::IXmlNode_AddChild(const std::string& sName) {
+  return Wrap(xml::AddElement(node_, sName));
+}
+
+void XmlNode::IXmlNode_Append(std::shared_ptr<IXmlNode> Node) {
+  const XmlNode& added = Of(Node);
+  if (added.document_ != document_)
+    throw orvik::HostError(orvik::HostError::kInvalidArgument, kSource,
+                           "the node \"" + Node->Name() + "\" belongs to another document");
+  if (added.node_.parent() == node_ && !xml::NextElement(added.node_)) return;
+  if (!node_.append_move(added.node_))
+    throw orvik::HostError(orvik::HostError::kInvalidArgument, kSource,
+                           "the node \"" + Node->Name() + "\" stands above the one it is to be put below");
+}
+
+}  // namespace bench

@@ -1,0 +1,73 @@
+#pragma once
+
+#include <memory>
+#include <pugixml.hpp>
+#include <string>
+
+#include "OrvikTypeLib/IXmlNode.h"
+
+namespace bench {
+
+/// One element of a document. It keeps the document alive.
+class XmlNode final : public orvik::IXmlNode {
+ public:
+  XmlNode(std::shared_ptr<pugi::xml_document> document, pugi::xml_node node)
+      : document_(std::move(document)), node_(node) {}
+
+  /// The node behind a reference; `HostError` 91 for an empty one and 13 for a node of another library.
+  static const XmlNode& Of(const std::shared_ptr<orvik::IXmlNode>& node);
+
+  const std::shared_ptr<pugi::xml_document>& Document() const { return document_; }
+  pugi::xml_node Raw() const { return node_; }
+
+ private:
+  std::string IXmlNode_Name() const override;
+  void IXmlNode_SetName(const std::string& sName) override;
+  std::string IXmlNode_Text() const override;
+  void IXmlNode_SetText(const std::string& sText) override;
+  bool IXmlNode_HasAttribute(const std::string& sName) const override;
+  std::string IXmlNode_Attribute(const std::string& sName) const override;
+  void IXmlNode_SetAttribute(const std::string& sName, const std::string& sValue) override;
+  std::int32_t IXmlNode_ChildCount() const override;
+  std::shared_ptr<IXmlNode> IXmlNode_FirstChild() const override;
+  std::shared_ptr<IXmlNode> IXmlNode_NextSibling() const override;
+  std::shared_ptr<IXmlNode> IXmlNode_FindChild(const std::string& sName) const override;
+  std::shared_ptr<IXmlNode> IXmlNode_AddChild(const std::string& sName) override;
+  void IXmlNode_Append(std::shared_ptr<IXmlNode> Node) override;
+
+  std::shared_ptr<IXmlNode> Wrap(pugi::xml_node node) const;
+
+  std::shared_ptr<pugi::xml_document> document_;
+  pugi::xml_node node_;
+};
+
+/// Helpers on raw nodes that the host's own readers and writers share.
+namespace xml {
+
+/// The node itself when it is an element, else the next element after it; empty when there is none.
+pugi::xml_node ElementFrom(pugi::xml_node node);
+inline pugi::xml_node FirstElement(pugi::xml_node parent) { return ElementFrom(parent.first_child()); }
+inline pugi::xml_node NextElement(pugi::xml_node element) { return ElementFrom(element.next_sibling()); }
+
+/// The next element in document order below `top`, or empty: a walk over any depth without recursion.
+pugi::xml_node NextInDocument(pugi::xml_node element, pugi::xml_node top);
+
+/// The whole text directly below the element.
+std::string Text(pugi::xml_node element);
+void SetText(pugi::xml_node element, const std::string& text);
+
+/// Adds or replaces an attribute. What no file can hold (NUL, bytes that are not UTF-8) becomes U+FFFD.
+void SetAttribute(pugi::xml_node element, const char* name, const std::string& value);
+
+/// Adds an element; `HostError` 5 for a text that is no tag.
+pugi::xml_node AddElement(pugi::xml_node parent, const std::string& name);
+
+/// Whether the text can be a tag or the name of an attribute.
+bool IsName(const std::string& name);
+
+/// The attribute as a 32-bit number; `HostError` 13 naming attribute and element when it is missing or not
+/// one.
+std::int32_t NumberAttribute(pugi::xml_node element, const char* name);
+
+}  // namespace xml
+}  // namespace bench

@@ -1,0 +1,90 @@
+#include "host/toolkit/headless/Control.h"
+
+#include <algorithm>
+
+#include "OrvikTypeLib/HostError.h"
+#include "host/toolkit/headless/Desktop.h"
+#include "host/toolkit/headless/Form.h"
+#include "host/toolkit/headless/Panel.h"
+
+namespace bench::headless {
+
+void Fail(std::int32_t number, const std::string& description) {
+  throw orvik::HostError(number, "orvik-bench", description);
+}
+
+Control::Control(std::shared_ptr<Desktop> desktop, std::string name)
+    : desktop_(std::move(desktop)), name_(std::move(name)), handle_(desktop_->Windows().NextHandle()) {}
+
+Control::~Control() { desktop_->Windows().Remove(handle_); }
+
+void Control::SetCaption(const std::string& text) {
+  Apply([&] { caption_ = text; });
+}
+
+void Control::SetBounds(const platform::Rect& bounds) {
+  const platform::Rect old = bounds_;
+  bounds_ = {bounds.left, bounds.top, std::max(bounds.width, 0), std::max(bounds.height, 0)};
+  if (bounds_ != old) BoundsChanged(old);
+}
+
+void Control::SetVisible(bool visible) {
+  Apply([&] { visible_ = visible; });
+  LoseFocusWhenUnusable();
+}
+
+void Control::SetEnabled(bool enabled) {
+  enabled_ = enabled;
+  LoseFocusWhenUnusable();
+}
+
+void Control::SetFocus() {
+  const auto form = TopForm();
+  if (form && TakesFocus() && Usable()) form->FocusOn(shared_from_this());
+}
+
+bool Control::HasFocus() const { return desktop_->Forms().Focused().get() == this; }
+
+void Control::PlaceOn(const std::shared_ptr<Panel>& panel) {
+  container_ = panel;
+  parent_ = panel;
+}
+
+std::shared_ptr<Form> Control::TopForm() {
+  const auto parent = ParentWindow();
+  return parent ? parent->TopForm() : nullptr;
+}
+
+bool Control::Usable() const {
+  if (!visible_ || !enabled_) return false;
+  const auto parent = ParentWindow();
+  return parent && (std::dynamic_pointer_cast<Form>(parent) || parent->Usable());
+}
+
+bool Control::Answers() {
+  if (!Usable()) return false;
+  const auto form = TopForm();
+  return form && form->Answers();
+}
+
+void Control::KeyPressed(int, int) {}
+
+void Control::InnerSizeChanged() {
+  if (const auto container = Container()) container->Relayout();
+}
+
+bool Control::BeginAction() {
+  if (!Answers()) return false;
+  desktop_->NoteActivity();
+  desktop_->Forms().Activate(TopForm());
+  if (TakesFocus()) SetFocus();
+  // Handlers of activation and focus may have taken the control away.
+  return Answers();
+}
+
+void Control::LoseFocusWhenUnusable() {
+  if (visible_ && enabled_) return;
+  if (const auto form = TopForm()) form->MoveFocusOn();
+}
+
+}  // namespace bench::headless

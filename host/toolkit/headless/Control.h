@@ -1,0 +1,109 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <utility>
+
+#include "platform/IControl.h"
+
+namespace bench::headless {
+
+namespace platform = orvik::platform;
+
+class Desktop;
+class Form;
+class Panel;
+
+/// What all windows of the headless toolkit have: state, a place, and the question whether the operator can
+/// reach them.
+class Control : public virtual platform::IControl, public std::enable_shared_from_this<Control> {
+ public:
+  Control(std::shared_ptr<Desktop> desktop, std::string name);
+  ~Control() override;
+
+  std::string Name() const override { return name_; }
+  platform::WindowHandle Handle() const override { return handle_; }
+  std::string Caption() const override { return caption_; }
+  void SetCaption(const std::string& text) override;
+  std::string ToolTip() const override { return toolTip_; }
+  void SetToolTip(const std::string& text) override { toolTip_ = text; }
+  platform::Rect Bounds() const override { return bounds_; }
+  void SetBounds(const platform::Rect& bounds) override;
+  bool Visible() const override { return visible_; }
+  void SetVisible(bool visible) override;
+  bool Enabled() const override { return enabled_; }
+  void SetEnabled(bool enabled) override;
+  platform::Color BackColor() const override { return backColor_; }
+  void SetBackColor(platform::Color color) override { backColor_ = color; }
+  /// Where the control takes no focus, is hidden or disabled, nothing happens.
+  void SetFocus() override;
+  bool HasFocus() const override;
+  void Refresh() override { ++refreshCount_; }
+  int RefreshCount() const override { return refreshCount_; }
+
+  /// The size that shows everything, as the layout asks for it.
+  virtual platform::Size NaturalSize() const = 0;
+  /// The natural size, or nothing while the control is hidden.
+  platform::Size LayoutSize() const { return visible_ ? NaturalSize() : platform::Size{}; }
+  /// The control stands on that panel from now on.
+  void PlaceOn(const std::shared_ptr<Panel>& panel);
+  /// The panel that owns the control and lays it out.
+  std::shared_ptr<Panel> Container() const { return container_.lock(); }
+  /// The window that it is shown in; empty when it is in none.
+  std::shared_ptr<Control> ParentWindow() const { return parent_.lock(); }
+  void SetParentWindow(const std::shared_ptr<Control>& parent) { parent_ = parent; }
+  /// The form in which the control is shown, or empty.
+  virtual std::shared_ptr<Form> TopForm();
+
+  /// Visible and enabled up to its form, whatever the form's own state.
+  bool Usable() const;
+  /// The operator can see and use it now.
+  virtual bool Answers();
+  /// Whether the operator's actions and `SetFocus` put the focus on it.
+  virtual bool TakesFocus() const { return false; }
+  virtual void FocusArrived() {}
+  virtual void FocusLeft() {}
+  /// A key that reached this control.
+  virtual void KeyPressed(int key, int shift);
+  /// Something inside has another natural size.
+  virtual void InnerSizeChanged();
+  /// The form is unloaded: timers end, docked windows come home.
+  virtual void Stop() {}
+
+ protected:
+  /// Begins an action of the operator; false when it cannot reach the control. The form becomes active and
+  /// the focus comes here first, as with a click.
+  bool BeginAction();
+  /// Runs a change, then has the container lay itself out again if the natural size is another.
+  template <class Change>
+  void Apply(Change&& change) {
+    const auto before = LayoutSize();
+    std::forward<Change>(change)();
+    if (LayoutSize() != before) InnerSizeChanged();
+  }
+  virtual void BoundsChanged(const platform::Rect& /*old*/) {}
+  Desktop& GetDesktop() const { return *desktop_; }
+  std::shared_ptr<Desktop> SharedDesktop() const { return desktop_; }
+
+  bool visible_ = true;
+  bool enabled_ = true;
+
+ private:
+  void LoseFocusWhenUnusable();
+
+  std::shared_ptr<Desktop> desktop_;
+  std::string name_;
+  platform::WindowHandle handle_;
+  std::weak_ptr<Panel> container_;
+  std::weak_ptr<Control> parent_;
+  std::string caption_;
+  std::string toolTip_;
+  platform::Rect bounds_;
+  platform::Color backColor_ = platform::kButtonFace;
+  int refreshCount_ = 0;
+};
+
+/// A failing operation of the toolkit.
+[[noreturn]] void Fail(std::int32_t number, const std::string& description);
+
+}  // namespace bench::headless

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <utility>
+
+#include "host/loop/EventLoop.h"
+#include "host/toolkit/headless/FormStack.h"
+#include "host/toolkit/headless/Windows.h"
+#include "platform/IUserControl.h"
+
+namespace bench::headless {
+
+/// What the windows of one application share. Every window keeps it alive.
+class Desktop : public std::enable_shared_from_this<Desktop> {
+ public:
+  using ControlFactory = std::function<std::shared_ptr<platform::IUserControl>(const std::string&)>;
+
+  Desktop(ClockKind kind, double timeScale) : loop_(kind, timeScale) {}
+
+  EventLoop& Loop() { return loop_; }
+  FormStack& Forms() { return forms_; }
+  headless::Windows& Windows() { return windows_; }
+
+  /// A new window of the class, known by its handle.
+  template <class Window, class... Args>
+  std::shared_ptr<Window> Make(Args&&... args) {
+    auto window = std::make_shared<Window>(shared_from_this(), std::forward<Args>(args)...);
+    windows_.Add(window);
+    return window;
+  }
+
+  /// A new user control; `HostError` 429 for an identifier that nobody knows.
+  std::shared_ptr<platform::IUserControl> CreateUserControl(const std::string& classIdentifier) const;
+  void SetControlFactory(ControlFactory factory) { factory_ = std::move(factory); }
+
+  /// The operator has done something, or a form has come or gone: waits come back to look.
+  void NoteActivity() { ++activity_; }
+  platform::Event<>& Pumped() { return pumped_; }
+  void SetStallHandler(std::function<void()> handler) { stalled_ = std::move(handler); }
+  void ProcessMessages();
+  void WaitMessages(platform::Time deadline);
+
+  /// The application ends: forms, factory and pending work are let go of.
+  void Close();
+
+ private:
+  bool PumpedActed();
+
+  EventLoop loop_;
+  FormStack forms_;
+  headless::Windows windows_;
+  ControlFactory factory_;
+  platform::Event<> pumped_;
+  std::function<void()> stalled_;
+  std::uint64_t activity_ = 0;
+  bool cameBackEmpty_ = false;
+};
+
+}  // namespace bench::headless

@@ -1,0 +1,87 @@
+#include "host/toolkit/headless/FormStack.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "host/toolkit/headless/Form.h"
+
+namespace bench::headless {
+namespace {
+
+/// Removes the form, and whatever is gone.
+void Drop(std::vector<std::weak_ptr<Form>>& forms, const Form* form) {
+  std::erase_if(forms, [form](const std::weak_ptr<Form>& entry) {
+    const auto held = entry.lock();
+    return !held || held.get() == form;
+  });
+}
+
+}  // namespace
+
+std::string FormStack::ShownNames() const {
+  std::string names;
+  for (const auto& form : loaded_) {
+    if (form->Visible()) names += (names.empty() ? "" : ", ") + form->Name();
+  }
+  return names;
+}
+
+void FormStack::EndModal(const Form& form) { Drop(modal_, &form); }
+
+bool FormStack::IsModal(const Form& form) const {
+  return std::any_of(modal_.begin(), modal_.end(), [&](const auto& entry) { return entry.lock().get() == &form; });
+}
+
+bool FormStack::Free(const Form& form) const {
+  return std::none_of(modal_.begin(), modal_.end(), [&](const std::weak_ptr<Form>& entry) {
+    const auto modal = entry.lock();
+    return modal && modal->ShowOrder() > form.ShowOrder();
+  });
+}
+
+void FormStack::Activate(const std::shared_ptr<Form>& form) {
+  if (!form || !form->Answers() || Active() == form) return;
+  active_ = form;
+  Drop(history_, form.get());
+  history_.push_back(form);
+  form->BecomeActive();
+}
+
+void FormStack::Hidden(const std::shared_ptr<Form>& form, const std::shared_ptr<Form>& owner) {
+  EndModal(*form);
+  Drop(history_, form.get());
+  if (Active() == form) {
+    active_.reset();
+    Activate(NextActive(owner));
+  }
+  UpdateFocus();
+}
+
+std::shared_ptr<Form> FormStack::NextActive(const std::shared_ptr<Form>& owner) const {
+  if (owner && owner->Answers()) return owner;
+  for (auto entry = history_.rbegin(); entry != history_.rend(); ++entry) {
+    const auto form = entry->lock();
+    if (form && form->Answers()) return form;
+  }
+  return nullptr;
+}
+
+void FormStack::UpdateFocus() {
+  const auto active = Active();
+  const auto next = active ? active->FocusTarget() : nullptr;
+  const auto old = Focused();
+  if (old == next) return;
+  focused_ = next;
+  if (old) old->FocusLeft();
+  if (next && Focused() == next) next->FocusArrived();
+}
+
+void FormStack::Clear() {
+  active_.reset();
+  focused_.reset();
+  modal_.clear();
+  history_.clear();
+  const auto loaded = std::exchange(loaded_, {});
+}
+
+}  // namespace bench::headless

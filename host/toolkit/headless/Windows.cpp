@@ -1,0 +1,51 @@
+#include "host/toolkit/headless/Windows.h"
+
+#include <string>
+
+#include "OrvikTypeLib/HostError.h"
+#include "host/toolkit/headless/ContainerSite.h"
+#include "host/toolkit/headless/Form.h"
+#include "host/toolkit/headless/Panel.h"
+
+namespace bench::headless {
+
+using orvik::HostError;
+
+void Windows::Add(const std::shared_ptr<Control>& window) { windows_[window->Handle()] = window; }
+
+std::shared_ptr<Control> Windows::Find(platform::WindowHandle handle) const {
+  const auto found = windows_.find(handle);
+  return found == windows_.end() ? nullptr : found->second.lock();
+}
+
+void Windows::SetParent(platform::WindowHandle child, platform::WindowHandle parent) {
+  const auto moved = Movable(child);
+  if (!moved || std::dynamic_pointer_cast<Form>(moved))
+    Fail(HostError::kInvalidArgument, "window " + std::to_string(child) + " is no panel that can be docked");
+  const auto into = Find(parent);
+  if (parent != 0 && !into)
+    Fail(HostError::kInvalidArgument, "there is no window " + std::to_string(parent) + " to dock into");
+  for (auto above = into; above; above = above->ParentWindow()) {
+    if (above == moved)
+      Fail(HostError::kInvalidArgument, "window " + std::to_string(child) + " cannot be docked into itself");
+  }
+  moved->SetParentWindow(into);
+  if (const auto container = moved->Container()) container->Relayout();
+}
+
+platform::WindowHandle Windows::Parent(platform::WindowHandle child) const {
+  auto window = Movable(child);
+  if (!window) window = Find(child);
+  const auto parent = window ? window->ParentWindow() : nullptr;
+  return parent ? parent->Handle() : 0;
+}
+
+std::shared_ptr<Control> Windows::Movable(platform::WindowHandle handle) const {
+  const auto window = Find(handle);
+  if (!window || std::dynamic_pointer_cast<ContainerSite>(window)) return window;
+  if (!std::dynamic_pointer_cast<Panel>(window)) return nullptr;
+  const auto site = std::dynamic_pointer_cast<ContainerSite>(window->ParentWindow());
+  return site ? site : window;
+}
+
+}  // namespace bench::headless

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <memory>
+#include <unordered_map>
+
+#include "platform/Types.h"
+
+namespace bench::headless {
+
+namespace platform = orvik::platform;
+
+class Control;
+
+/// All windows by handle, and which stands in which. Holds none of them.
+class Windows {
+ public:
+  /// A handle that no window had before; never 0.
+  platform::WindowHandle NextHandle() { return ++lastHandle_; }
+  void Add(const std::shared_ptr<Control>& window);
+  void Remove(platform::WindowHandle handle) { windows_.erase(handle); }
+  /// The window, or empty when it is gone.
+  std::shared_ptr<Control> Find(platform::WindowHandle handle) const;
+
+  /// Makes one window the child of another; 0 leaves it in none. A site and the panel inside it are one
+  /// window: either handle moves both. `HostError` 5 for a handle that is gone, a child that is neither panel
+  /// nor site, or a parent that stands in the child.
+  void SetParent(platform::WindowHandle child, platform::WindowHandle parent);
+  platform::WindowHandle Parent(platform::WindowHandle child) const;
+
+ private:
+  std::shared_ptr<Control> Movable(platform::WindowHandle handle) const;
+
+  platform::WindowHandle lastHandle_ = 0;
+  std::unordered_map<platform::WindowHandle, std::weak_ptr<Control>> windows_;
+};
+
+}  // namespace bench::headless

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "OrvikTypeLib/IInstrumentColl.h"
+#include "OrvikTypeLib/IObject.h"
+#include "instrument/CKELDInstrument.h"
+#include "plugin/MKELDConstants.h"
+
+namespace keld {
+
+/// Who the connected tester is, and the resistance of its leads. One object for the process.
+///
+/// The serial number of the tester seen last and the calibration value of every tester are kept in the
+/// registry. A key or value that cannot be read leaves its field as it was.
+class CKELDData final : public virtual orvik::IObject {
+ public:
+  /// The one for the process, created by whoever asks first.
+  static std::shared_ptr<CKELDData> Shared();
+
+  std::string SerialNumber() const { return sSerialNumber; }
+  /// Also loads the calibration value stored for the tester (0 when there is none) and remembers it as the
+  /// tester seen last. An empty serial number is no tester: nothing is looked up or remembered.
+  void SetSerialNumber(const std::string& sNewSerialNumber);
+
+  std::string MTIType() const { return sMTIType; }
+  void SetMTIType(const std::string& sNewType) { sMTIType = sNewType; }
+
+  std::string FirmwareVersion() const { return sFirmwareVersion; }
+  void SetFirmwareVersion(const std::string& sNewVersion) { sFirmwareVersion = sNewVersion; }
+
+  /// Resistance of the test leads in milliohm; it is taken off protective-earth readings.
+  std::int32_t CalibValue() const { return lCalibValue; }
+  /// Also stores the value under the serial number; without one it is kept here alone.
+  void SetCalibValue(std::int32_t lNewValue);
+
+  /// Takes type, serial number and firmware version from an "irem" reply. An empty serial number keeps the
+  /// one that is known.
+  void TakeIdentity(const MtiDataArray& avData);
+
+  /// Finds the tester's record in the collection or adds one, fills it, and returns its index; 0 when there is
+  /// no such record and none can be made.
+  std::int32_t UpdateInstrumentRecord(const std::shared_ptr<orvik::IInstrumentColl>& Instruments) const;
+
+  /// Serial numbers with a stored calibration value, in alphabetical order.
+  std::vector<std::string> CalibratedSerialNumbers() const;
+
+ private:
+  CKELDData();
+
+  std::string sSerialNumber;
+  std::string sMTIType = MKELDConstants::kPlugInID;
+  std::string sFirmwareVersion;
+  std::int32_t lCalibValue = 0;
+};
+
+}  // namespace keld

@@ -1,0 +1,73 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "OrvikTypeLib/ILimitData.h"
+#include "OrvikTypeLib/IMeasurement.h"
+#include "OrvikTypeLib/IReport.h"
+#include "OrvikTypeLib/IStandardColl.h"
+#include "OrvikTypeLib/Variant.h"
+#include "plugin/MKELDConstants.h"
+
+namespace keld {
+
+/// One measured quantity of a result: description, value, unit, flags and status. A failing host call is
+/// skipped.
+class CKELDMeasurement final : public orvik::IMeasurement {
+ public:
+  static std::shared_ptr<CKELDMeasurement> Create();
+
+  /// Text, normally a language string.
+  void SetDescription(const std::string& sNewDescription);
+  /// 0 not judged, 1 passed, 2 failed.
+  std::int32_t Status() const { return lStatus; }
+  void SetStatus(std::int32_t lNewStatus);
+
+  /// Adds to the value, and replaces unit and flags ("O" marks an overload).
+  ///
+  /// An empty value plus x is x. Numbers add up as integers while both are and the sum fits, else as doubles;
+  /// texts count by the number that they are. A text that is no number cannot be added to a value and leaves
+  /// it as it was.
+  void AddValue(const orvik::Variant& vAdded, const std::string& sNewUnit, const std::string& sNewFlags,
+                const std::string& sIgnored);
+
+  /// The measurement as one row of a report table: empty cell, description, whole-number value, unit. What
+  /// would read as markup is made plain by the report.
+  std::string ReportLine(const std::shared_ptr<orvik::IReport>& Report) const;
+
+  /// Whether the limits find the measurement failing one of the standards. Nothing to judge by fails nothing;
+  /// a judgement that breaks off with an error counts as failed, so that it never reads as passed.
+  bool FailsLimits(const std::shared_ptr<orvik::ILimitData>& Limits,
+                   const std::shared_ptr<orvik::IStandardColl>& Standards);
+
+ private:
+  CKELDMeasurement() = default;
+
+  std::string IObject_ClassID() const override;
+  std::string IMeasurement_Description() const override { return sDescription; }
+  std::string IMeasurement_Key() const override { return "::"; }
+  std::string IMeasurement_LimitKey() const override { return sLimitKey; }
+  std::int32_t IMeasurement_Status() const override { return lStatus; }
+  std::string IMeasurement_Unit() const override { return sUnit; }
+  orvik::Variant IMeasurement_value() const override { return vValue; }
+  orvik::Variant IMeasurement_PresetValue() const override { return {}; }
+  std::int32_t IMeasurement_ValueType() const override { return 2; }
+  std::string IMeasurement_ValueFormat() const override;
+  std::string IMeasurement_Flags() const override { return sFlags; }
+  std::string IMeasurement_ToolTipText() const override { return {}; }
+  void IMeasurement_Load(std::shared_ptr<orvik::IXmlNode> Node) override;
+  std::shared_ptr<orvik::IXmlNode> IMeasurement_Save(std::shared_ptr<orvik::IXmlNode> Parent) const override;
+
+  void LoadChild(const std::shared_ptr<orvik::IXmlNode>& Child);
+
+  orvik::Variant vValue;
+  std::string sFlags;
+  std::string sUnit;
+  std::int32_t lStatus = 0;
+  std::string sDescription;
+  const std::string sLimitKey = MKELDConstants::kLimitKey;
+};
+
+}  // namespace keld

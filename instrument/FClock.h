@@ -1,0 +1,41 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+
+#include "platform/Event.h"
+#include "platform/IForm.h"
+#include "platform/ITimer.h"
+
+namespace keld {
+
+/// The timer form of an instrument link. It is never shown.
+class FClock {
+ public:
+  static std::shared_ptr<FClock> Create();
+  ~FClock();
+  FClock(const FClock&) = delete;
+  FClock& operator=(const FClock&) = delete;
+
+  void Load();
+  void Unload();
+
+  /// Has `ClockPulse` raised every so many milliseconds, the first time after a whole interval, until
+  /// `StopClock`.
+  void StartClock(std::int16_t iMilliseconds);
+  void StopClock();
+  /// Whether a pulse is still to come. Those who wait for one ask first: the form may have been taken away.
+  bool Running() const;
+
+  orvik::platform::Event<>& ClockPulse() { return mClockPulse; }
+
+ private:
+  FClock();
+
+  std::shared_ptr<orvik::platform::IForm> Form;
+  std::shared_ptr<orvik::platform::ITimer> tmrClock;
+  orvik::platform::Event<> mClockPulse;
+  orvik::platform::Subscription TickSubscription;
+};
+
+}  // namespace keld

@@ -1,0 +1,170 @@
+#include "plugin/CatalogueBuilder.h"
+
+#include <cmath>
+#include <cstdint>
+#include <limits>
+#include <utility>
+#include <vector>
+
+#include "OrvikTypeLib/As.h"
+#include "OrvikTypeLib/Conversions.h"
+#include "OrvikTypeLib/IBaseElement.h"
+#include "OrvikTypeLib/IInformationRecord.h"
+#include "OrvikTypeLib/ITestContainer.h"
+#include "OrvikTypeLib/IXmlNode.h"
+#include "model/CKELDSequence.h"
+#include "model/CKELDTestElement.h"
+#include "plugin/Attempt.h"
+#include "plugin/MKELDConstants.h"
+#include "plugin/MKELDGlobalVars.h"
+#include "plugin/MXmlConstants.h"
+
+namespace keld {
+
+using orvik::As;
+using orvik::ITestContainer;
+using orvik::ITestElement;
+using orvik::IXmlNode;
+using orvik::Required;
+
+namespace {
+
+using NodeRef = std::shared_ptr<IXmlNode>;
+
+void LogCatalogueFault() {
+  Attempt([] {
+    MKELDGlobalVars::ErrorLog()->LogEntry(MKELDConstants::kPlugInID, MKELDConstants::kErrorCatalogue,
+                                          MKELDConstants::kPlugInClass, MKELDConstants::kLevelConfiguration,
+                                          {}, {}, {}, {}, {});
+  });
+}
+
+/// "TemplateData", or empty when the text holds none or cannot be parsed.
+NodeRef TemplateData(const std::string& sXml) {
+  NodeRef Found;
+  Attempt([&] {
+    const auto Document = MKELDGlobalVars::XmlDocument();
+    if (Document->LoadFromString(sXml)) Found = Document->FindElement(MXmlConstants::kTemplateData);
+  });
+  return Found;
+}
+
+/// The first "TestElement" among the node and the siblings that follow it, or empty.
+NodeRef EntryFrom(NodeRef Node) {
+  while (Node && Node->Name() != MXmlConstants::kTestElement) Node = Node->NextSibling();
+  return Node;
+}
+
+/// The number that an identifier's text starts with; 0 for a text without one or with one beyond 32 bits.
+std::int32_t IdentifierOf(const std::string& sText) {
+  const double rValue = std::trunc(orvik::LeadingNumber(sText));
+  constexpr double rLow = std::numeric_limits<std::int32_t>::min();
+  constexpr double rHigh = std::numeric_limits<std::int32_t>::max();
+  return rValue >= rLow && rValue <= rHigh ? static_cast<std::int32_t>(rValue) : 0;
+}
+
+std::int32_t ReadIdentifier(const IXmlNode& Entry) {
+  const std::string sID = Entry.Attribute(MXmlConstants::kID);
+  if (sID.empty()) LogCatalogueFault();
+  return IdentifierOf(sID);
+}
+
+struct Fields {
+  std::string sType;
+  std::string sName;
+  std::string sParameter;
+  std::string sUnit;
+};
+
+std::string FieldText(const IXmlNode& Field) {
+  const std::string sLID = Field.Attribute(MXmlConstants::kLID);
+  return sLID.empty() ? std::string() : MKELDGlobalVars::Translated(sLID);
+}
+
+/// A later field of the same name overwrites an earlier one.
+Fields ReadFields(const IXmlNode& Entry) {
+  Fields fields;
+  for (auto Child = Entry.FirstChild(); Child; Child = Child->NextSibling()) {
+    const std::string sName = Child->Name();
+    Attempt([&] {
+      if (sName == MXmlConstants::kType) fields.sType = FieldText(*Child);
+      if (sName == MXmlConstants::kName) fields.sName = FieldText(*Child);
+      if (sName == MXmlConstants::kParameter) fields.sParameter = FieldText(*Child);
+      if (sName == MXmlConstants::kUnit) fields.sUnit = FieldText(*Child);
+    });
+  }
+  if (fields.sName.empty()) {
+    fields.sName = fields.sParameter.empty() ? fields.sType : fields.sType + " - " + fields.sParameter;
+  }
+  return fields;
+}
+
+template <class Element>
+std::shared_ptr<ITestElement> NewElement(const Fields& fields, std::int32_t lID) {
+  const auto Created = Element::Create();
+  const auto iteCreated = As<ITestElement>(Created);
+  Attempt([&] { Required(iteCreated).Initialize(MKELDConstants::kPlugInID, lID, lID); });
+  Attempt([&] { Required(Required(iteCreated).Information()).SetDisplayName(fields.sName); });
+  Attempt([&] { Required(As<IKELDTest>(Created)).SetExpectedUnits(fields.sUnit); });
+  return iteCreated;
+}
+
+/// One entry without its members; empty when the host could not make it.
+std::shared_ptr<ITestElement> NewEntry(const IXmlNode& Node) {
+  std::shared_ptr<ITestElement> iteEntry;
+  Attempt([&] {
+    const std::int32_t lID = ReadIdentifier(Node);
+    const Fields fields = ReadFields(Node);
+    iteEntry =
+        lID % 100 != 0 ? NewElement<CKELDTestElement>(fields, lID) : NewElement<CKELDSequence>(fields, lID);
+  });
+  return iteEntry;
+}
+
+/// A container that is being filled, and the entry that comes next in it.
+struct Level {
+  std::shared_ptr<ITestElement> iteContainer;
+  std::shared_ptr<ITestContainer> Container;
+  NodeRef NextEntry;
+};
+
+void AddTo(const Level& level, const std::shared_ptr<ITestElement>& iteEntry) {
+  Attempt([&] { Required(level.Container).Add(iteEntry, {}, {}); });
+}
+
+/// Fills the root from the children of "TemplateData". A list of levels instead of recursion, so that the
+/// depth of the text cannot overflow the stack; a sequence is added once it is complete, so that adding never
+/// walks up a long chain of parents.
+void Fill(const std::shared_ptr<ITestContainer>& Root, const IXmlNode& TemplateData) {
+  std::vector<Level> aLevels;
+  aLevels.push_back({nullptr, Root, EntryFrom(TemplateData.FirstChild())});
+  while (true) {
+    if (const NodeRef Entry = aLevels.back().NextEntry) {
+      aLevels.back().NextEntry = EntryFrom(Entry->NextSibling());
+      auto iteEntry = NewEntry(*Entry);
+      if (!iteEntry) continue;
+      if (auto Container = As<ITestContainer>(iteEntry)) {
+        aLevels.push_back({std::move(iteEntry), std::move(Container), EntryFrom(Entry->FirstChild())});
+      } else {
+        AddTo(aLevels.back(), iteEntry);
+      }
+    } else {
+      const Level Complete = std::move(aLevels.back());
+      aLevels.pop_back();
+      if (aLevels.empty()) return;
+      AddTo(aLevels.back(), Complete.iteContainer);
+    }
+  }
+}
+
+}  // namespace
+
+std::shared_ptr<ITestContainer> BuildCatalogue(const std::string& sXml) {
+  const NodeRef Entries = TemplateData(sXml);
+  if (!Entries) LogCatalogueFault();
+  std::shared_ptr<ITestContainer> Root = CKELDSequence::Create();
+  if (Entries) Attempt([&] { Fill(Root, *Entries); });
+  return Root;
+}
+
+}  // namespace keld

@@ -1,0 +1,102 @@
+#include "plugin/ClassLibrary.h"
+
+#include <algorithm>
+#include <iterator>
+#include <string_view>
+
+#include "OrvikTypeLib/HostError.h"
+#include "instrument/CKELDMeasurement.h"
+#include "instrument/FCalibrateLeads.h"
+#include "instrument/XKELDData.h"
+#include "model/CKELDSequence.h"
+#include "model/CKELDTestElement.h"
+#include "plugin/CKELDPlugin.h"
+#include "plugin/CKELDTestConfiguration.h"
+#include "plugin/ClassIdentifiers.h"
+#include "plugin/FElementSetup.h"
+#include "plugin/MKELDConstants.h"
+#include "plugin/XKELDSeqConfiguration.h"
+#include "plugin/XKELDTestConfiguration.h"
+#include "results/CKELDLimitData.h"
+#include "results/CKELDResultData.h"
+#include "results/XDetailedResult.h"
+#include "results/XKELDResultView.h"
+
+namespace keld {
+namespace {
+
+template <class Class>
+std::shared_ptr<orvik::IObject> New() {
+  return Class::Create();
+}
+
+struct Entry {
+  const char* sIdentifier;
+  std::shared_ptr<orvik::IObject> (*pCreate)();
+  const char* sPurpose;
+};
+
+constexpr Entry kClasses[] = {
+    {ClassIdentifiers::kPlugin, New<CKELDPlugin>,
+     "The plug-in itself: identity, icons, catalogue, new tests."},
+    {ClassIdentifiers::kTestElement, New<CKELDTestElement>, "One test of the catalogue."},
+    {ClassIdentifiers::kSequence, New<CKELDSequence>, "A group of tests, run one after the other."},
+    {ClassIdentifiers::kTestConfiguration, New<CKELDTestConfiguration>,
+     "Settings of one element: guide buttons, leads, kept values."},
+    {ClassIdentifiers::kLimitData, New<CKELDLimitData>, "The limits that a measured value is judged by."},
+    {ClassIdentifiers::kResultData, New<CKELDResultData>, "The stored outcome of one element."},
+    {ClassIdentifiers::kMeasurement, New<CKELDMeasurement>,
+     "One measured value with unit, flags and status."},
+    {ClassIdentifiers::kTestConfigurationControl, New<XKELDTestConfiguration>,
+     "Control that edits the settings of a single test."},
+    {ClassIdentifiers::kSequenceConfigurationControl, New<XKELDSeqConfiguration>,
+     "Control that edits the settings of a group."},
+    {ClassIdentifiers::kDataControl, New<XKELDData>, "Control that shows which tester is connected."},
+    {ClassIdentifiers::kResultView, New<XKELDResultView>, "Control that lists values, limits and verdicts."},
+    {ClassIdentifiers::kDetailedResult, New<XDetailedResult>, "Control that shows the operator's comment."},
+    {ClassIdentifiers::kElementSetup, New<FElementSetup>, "Dialog around one of the editing controls."},
+    {ClassIdentifiers::kCalibrateLeads, New<FCalibrateLeads>,
+     "Dialog that measures the test lead's resistance."},
+};
+
+const Entry& EntryAt(std::int32_t lIndex) {
+  if (lIndex < 1 || lIndex > static_cast<std::int32_t>(std::size(kClasses))) {
+    throw orvik::HostError(orvik::HostError::kSubscriptOutOfRange, MKELDConstants::kPlugInID,
+                           "class number " + std::to_string(lIndex) + " is not between 1 and " +
+                               std::to_string(std::size(kClasses)));
+  }
+  return kClasses[lIndex - 1];
+}
+
+// Not std::toupper: an identifier must be found under every locale.
+char ToUpper(char sLetter) {
+  return sLetter >= 'a' && sLetter <= 'z' ? static_cast<char>(sLetter - 'a' + 'A') : sLetter;
+}
+
+bool SameIdentifier(std::string_view sLeft, std::string_view sRight) {
+  return std::equal(sLeft.begin(), sLeft.end(), sRight.begin(), sRight.end(),
+                    [](char sA, char sB) { return ToUpper(sA) == ToUpper(sB); });
+}
+
+}  // namespace
+
+std::int32_t ClassLibrary::IClassLibrary_Count() const {
+  return static_cast<std::int32_t>(std::size(kClasses));
+}
+
+std::string ClassLibrary::IClassLibrary_ClassIdentifier(std::int32_t lIndex) const {
+  return EntryAt(lIndex).sIdentifier;
+}
+
+std::string ClassLibrary::IClassLibrary_Purpose(std::int32_t lIndex) const {
+  return EntryAt(lIndex).sPurpose;
+}
+
+std::shared_ptr<orvik::IObject> ClassLibrary::IClassLibrary_CreateObject(const std::string& sClassID) {
+  for (const Entry& entry : kClasses) {
+    if (SameIdentifier(entry.sIdentifier, sClassID)) return entry.pCreate();
+  }
+  return {};
+}
+
+}  // namespace keld

@@ -1,0 +1,24 @@
+#include "results/ElementName.h"
+
+#include <vector>
+
+#include "OrvikTypeLib/ITestElement.h"
+#include "plugin/MKELDGlobalVars.h"
+
+namespace keld {
+
+std::string ElementName(const orvik::ITestElement& iteElement) {
+  const orvik::Variant vInfo = iteElement.Info();
+  const auto* pasInfo = std::get_if<std::vector<std::string>>(&vInfo);
+  if (!pasInfo) return {};
+  std::string sName;
+  for (const std::string& sPart : *pasInfo) {
+    const bool fLanguageString = sPart.find("::") != std::string::npos;
+    const std::string sText = fLanguageString ? MKELDGlobalVars::Translated(sPart) : sPart;
+    if (!sName.empty() && !sText.empty()) sName += ' ';
+    sName += sText;
+  }
+  return sName;
+}
+
+}  // namespace keld

@@ -1,0 +1,59 @@
+#include <gtest/gtest.h>
+
+#include "host/serial/LineMode.h"
+#include "tests/support/PseudoTerminal.h"
+
+namespace bench {
+namespace {
+
+class LineModeTest : public testing::Test {
+ protected:
+  UniqueFd Open() { return UniqueFd(open(terminal_.Path().c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK)); }
+
+  test::PseudoTerminal terminal_;
+};
+
+// A pseudo-terminal treated as a real line stands for a device whose driver drops the parity bit: a line
+// without the parity asked for must never pass for one with it.
+TEST_F(LineModeTest, ARealLineThatDropsTheParityBitIsRefused) {
+  const auto device = Open();
+  const auto odd = ParseLineSettings("9600,O,8,1");
+  EXPECT_NE(SetLineMode(device.Get(), odd, false), "");
+  EXPECT_NE(SetLineMode(device.Get(), odd, false), "");
+}
+
+TEST_F(LineModeTest, APseudoTerminalMayDropIt) {
+  const auto device = Open();
+  const auto odd = ParseLineSettings("9600,O,8,1");
+  EXPECT_EQ(SetLineMode(device.Get(), odd, true), "");
+  EXPECT_EQ(SetLineMode(device.Get(), odd, true), "");
+}
+
+TEST_F(LineModeTest, SetsRateAndRawMode) {
+  const auto device = Open();
+  EXPECT_EQ(SetLineMode(device.Get(), ParseLineSettings("19200,N,8,2"), true), "");
+  termios mode{};
+  ASSERT_EQ(tcgetattr(device.Get(), &mode), 0);
+  EXPECT_EQ(cfgetospeed(&mode), static_cast<speed_t>(B19200));
+  EXPECT_NE(mode.c_cflag & CSTOPB, 0u);
+  EXPECT_EQ(mode.c_lflag & (ICANON | ECHO | ISIG), 0u);
+  EXPECT_EQ(mode.c_iflag & (IXON | IXOFF | ICRNL), 0u);
+  EXPECT_EQ(mode.c_cflag & CRTSCTS, 0u);
+}
+
+TEST_F(LineModeTest, ChecksTheParityOfWhatComesIn) {
+  const auto device = Open();
+  EXPECT_EQ(SetLineMode(device.Get(), ParseLineSettings("9600,O,8,1"), true), "");
+  termios mode{};
+  ASSERT_EQ(tcgetattr(device.Get(), &mode), 0);
+  EXPECT_NE(mode.c_iflag & INPCK, 0u);
+  EXPECT_EQ(mode.c_iflag & (IGNPAR | PARMRK), 0u);
+}
+
+TEST_F(LineModeTest, WhatIsNoTerminalIsToldAsSuch) {
+  UniqueFd nothing(open("/dev/null", O_RDWR));
+  EXPECT_NE(SetLineMode(nothing.Get(), ParseLineSettings("9600,O,8,1"), false), "");
+}
+
+}  // namespace
+}  // namespace bench
