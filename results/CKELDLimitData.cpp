@@ -38,8 +38,10 @@ std::vector<std::string> ReportHeader() {
   return {MKELDConstants::kLimitKey, MKELDGlobalVars::Translated(MKELDLanguageConstants::kTestLimits), "0"};
 }
 
-/// Whether a measured value fails a standard. What is no number keeps no limit: it must never come out as passed.
-bool Fails(const orvik::IStandard& Standard, const std::optional<float>& Value, const std::string& sLimitKey) {
+/// Whether a measured value fails a standard. What is no number keeps no limit: it must never come out as
+/// passed.
+bool Fails(const orvik::IStandard& Standard, const std::optional<float>& Value,
+           const std::string& sLimitKey) {
   constexpr std::int32_t kBoundBroken = 2;
   return !Value || Standard.Evaluate(*Value, sLimitKey, {}) == kBoundBroken;
 }
@@ -57,7 +59,8 @@ void CKELDLimitData::AddStandard(std::shared_ptr<orvik::IStandard> Standard) {
 
 void CKELDLimitData::CopyFrom(std::shared_ptr<const orvik::ILimitData> Source) {
   if (!Source) return;
-  // Read before the own collection goes, so that a failing source, or this object as its own source, loses nothing.
+  // Read before the own collection goes, so that a failing source, or this object as its own source, loses
+  // nothing.
   const auto Standards = Source->Standards();
   mStandards = Standards ? Standards->Clone() : nullptr;
 }
@@ -103,13 +106,15 @@ std::shared_ptr<orvik::IStandard> CKELDLimitData::ILimitData_CreateStandard(cons
   return Standard;
 }
 
-void CKELDLimitData::ILimitData_Load(std::shared_ptr<orvik::IXmlNode> Node, std::shared_ptr<orvik::IObject> Context) {
+void CKELDLimitData::ILimitData_Load(std::shared_ptr<orvik::IXmlNode> Node,
+                                     std::shared_ptr<orvik::IObject> Context) {
   const auto Loaded = NewCollection();
   Loaded->Load(std::move(Node), std::move(Context));
   mStandards = Loaded->Count() > 0 ? Loaded : nullptr;
 }
 
-std::shared_ptr<orvik::IXmlNode> CKELDLimitData::ILimitData_Save(std::shared_ptr<orvik::IXmlNode> Parent) const {
+std::shared_ptr<orvik::IXmlNode> CKELDLimitData::ILimitData_Save(
+    std::shared_ptr<orvik::IXmlNode> Parent) const {
   if (!mStandards) return {};
   auto Node = mStandards->Save(std::move(Parent));
   if (Node) Node->SetName(MXmlConstants::kExpectedResult);

@@ -13,8 +13,8 @@ class ITestElement;
 
 namespace keld {
 
-/// The limits of one element: it creates, copies, saves, prints and asks the host's collection of standards. Whether a
-/// value keeps a limit is decided by the host's standards.
+/// The limits of one element: it creates, copies, saves, prints and asks the host's collection of standards.
+/// Whether a value keeps a limit is decided by the host's standards.
 ///
 /// Errors of the host pass to the caller unchanged. A missing collection means that there are no limits.
 class CKELDLimitData final : public virtual orvik::ILimitData {
@@ -24,10 +24,11 @@ class CKELDLimitData final : public virtual orvik::ILimitData {
 
   /// Adds a standard to the collection, which is made first when there is none; empty adds nothing.
   void AddStandard(std::shared_ptr<orvik::IStandard> Standard);
-  /// Replaces the limits by a deep copy of the source's; an empty source changes nothing. The owner is not copied.
+  /// Replaces the limits by a deep copy of the source's; an empty source changes nothing. The owner is not
+  /// copied.
   void CopyFrom(std::shared_ptr<const orvik::ILimitData> Source);
-  /// Sets the element that owns the limits; it is not kept alive. Its `IKELDTest::ExpectedUnits` is the unit of new
-  /// limits.
+  /// Sets the element that owns the limits; it is not kept alive. Its `IKELDTest::ExpectedUnits` is the unit
+  /// of new limits.
   void SetOwner(std::shared_ptr<orvik::ITestElement> iteOwner);
 
   /// Raised after the limits were printed, with the report header: limit key, heading, "0".
@@ -44,7 +45,8 @@ class CKELDLimitData final : public virtual orvik::ILimitData {
   std::shared_ptr<orvik::IDialog> ILimitData_CreateDialog() override;
   std::shared_ptr<orvik::IStandard> ILimitData_CreateStandard(const std::string& sName,
                                                               const std::string& sDescription) override;
-  void ILimitData_Load(std::shared_ptr<orvik::IXmlNode> Node, std::shared_ptr<orvik::IObject> Context) override;
+  void ILimitData_Load(std::shared_ptr<orvik::IXmlNode> Node,
+                       std::shared_ptr<orvik::IObject> Context) override;
   std::shared_ptr<orvik::IXmlNode> ILimitData_Save(std::shared_ptr<orvik::IXmlNode> Parent) const override;
   void ILimitData_PrintReport(std::shared_ptr<orvik::IReport> Report,
                               std::shared_ptr<orvik::IObject> Context) override;

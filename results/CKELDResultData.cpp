@@ -70,7 +70,8 @@ void CKELDResultData::Reset(std::shared_ptr<orvik::ITestElement> iteElement, std
   }
 }
 
-void CKELDResultData::ResetThis(const std::shared_ptr<orvik::ITestElement>& iteElement, std::int32_t lNewStatus) {
+void CKELDResultData::ResetThis(const std::shared_ptr<orvik::ITestElement>& iteElement,
+                                std::int32_t lNewStatus) {
   mMeasurement.reset();
   lStatus = lNewStatus;
   BuildServiceRecord(iteElement);
@@ -83,7 +84,9 @@ void CKELDResultData::BuildServiceRecord(std::shared_ptr<orvik::ITestElement> it
   mServiceRecord = MakeServiceRecord(iteElement, lStatus, OwnValue());
 }
 
-orvik::Variant CKELDResultData::OwnValue() const { return mMeasurement ? mMeasurement->value() : orvik::Variant(); }
+orvik::Variant CKELDResultData::OwnValue() const {
+  return mMeasurement ? mMeasurement->value() : orvik::Variant();
+}
 
 // The one measurement, whatever the index.
 std::shared_ptr<orvik::IMeasurement> CKELDResultData::IResultData_Measurement(std::int32_t) const {

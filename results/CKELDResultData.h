@@ -9,10 +9,11 @@
 
 namespace keld {
 
-/// The stored outcome of one element: status, at most one measurement, the tester's record, a comment, and the host's
-/// summary.
+/// The stored outcome of one element: status, at most one measurement, the tester's record, a comment, and
+/// the host's summary.
 ///
-/// Errors of the host pass to the caller unchanged, except in `CreateDialog`, which skips the step that fails.
+/// Errors of the host pass to the caller unchanged, except in `CreateDialog`, which skips the step that
+/// fails.
 class CKELDResultData final : public virtual orvik::IResultData {
  public:
   /// A result with status 0 and nothing else.
@@ -22,19 +23,21 @@ class CKELDResultData final : public virtual orvik::IResultData {
   void SetMeasurement(std::shared_ptr<orvik::IMeasurement> Measurement);
   /// Sets the index of the tester's record in the host's instrument collection; 0 none.
   void SetMTIIdentifier(std::int32_t lIdentifier);
-  /// Sets the status: 0 not tested, 1 passed, 2 failed, 3 not applicable, 4 aborted. The service record stays.
+  /// Sets the status: 0 not tested, 1 passed, 2 failed, 3 not applicable, 4 aborted. The service record
+  /// stays.
   void SetStatus(std::int32_t lStatus);
   void SetServiceRecord(std::shared_ptr<orvik::IServiceRecord> ServiceRecord);
 
-  /// A part of what `PrintReport` printed last: 1 column format, 2 header row, 3 report row; any other is empty.
+  /// A part of what `PrintReport` printed last: 1 column format, 2 header row, 3 report row; any other is
+  /// empty.
   std::string ReportPart(int iIndex) const;
 
-  /// Back to the start of a run: no measurement, the status given, the service record that goes with it. Children of a
-  /// container are reset alike, at any depth, also below a child that has no result of its own.
+  /// Back to the start of a run: no measurement, the status given, the service record that goes with it.
+  /// Children of a container are reset alike, at any depth, also below a child that has no result of its own.
   void Reset(std::shared_ptr<orvik::ITestElement> iteElement, std::int32_t lStatus);
 
-  /// Makes the element the owner of the result: remembers it (weakly) and builds the service record for it. Status 1, 2
-  /// and 3 have a record, any other drops it.
+  /// Makes the element the owner of the result: remembers it (weakly) and builds the service record for it.
+  /// Status 1, 2 and 3 have a record, any other drops it.
   void BuildServiceRecord(std::shared_ptr<orvik::ITestElement> iteElement);
   /// The element of the last `BuildServiceRecord`; empty when it is gone.
   std::shared_ptr<orvik::ITestElement> Owner() const { return mOwner.lock(); }
@@ -50,13 +53,15 @@ class CKELDResultData final : public virtual orvik::IResultData {
   std::shared_ptr<orvik::IServiceRecord> IResultData_ServiceRecord() const override { return mServiceRecord; }
   std::int32_t IResultData_MTIID() const override { return lMTIIdentifier; }
   std::shared_ptr<orvik::IDialog> IResultData_CreateDialog() override;
-  void IResultData_Load(std::shared_ptr<orvik::IXmlNode> Node, std::shared_ptr<orvik::IObject> Context) override;
+  void IResultData_Load(std::shared_ptr<orvik::IXmlNode> Node,
+                        std::shared_ptr<orvik::IObject> Context) override;
   std::shared_ptr<orvik::IXmlNode> IResultData_Save(std::shared_ptr<orvik::IXmlNode> Parent) const override;
   void IResultData_PrintReport(std::shared_ptr<orvik::IReport> Report,
                                std::shared_ptr<orvik::ITestElement> iteElement) override;
 
   void ResetThis(const std::shared_ptr<orvik::ITestElement>& iteElement, std::int32_t lNewStatus);
-  void LoadChild(const std::shared_ptr<orvik::IXmlNode>& Child, const std::shared_ptr<orvik::IObject>& Context);
+  void LoadChild(const std::shared_ptr<orvik::IXmlNode>& Child,
+                 const std::shared_ptr<orvik::IObject>& Context);
   orvik::Variant OwnValue() const;
 
   std::shared_ptr<orvik::IMeasurement> mMeasurement;

@@ -17,7 +17,8 @@ namespace keld {
 
 using orvik::Required;
 
-std::shared_ptr<orvik::IXmlNode> CKELDResultData::IResultData_Save(std::shared_ptr<orvik::IXmlNode> Parent) const {
+std::shared_ptr<orvik::IXmlNode> CKELDResultData::IResultData_Save(
+    std::shared_ptr<orvik::IXmlNode> Parent) const {
   const auto Item = Required(Parent).AddChild(MXmlConstants::kResultItem);
   auto& Node = Required(Item);
   if (lMTIIdentifier > 0) Node.SetAttribute(MXmlConstants::kMTI, std::to_string(lMTIIdentifier));

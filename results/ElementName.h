@@ -8,8 +8,9 @@ class ITestElement;
 
 namespace keld {
 
-/// What the operator reads as the name of an element: the texts of its `Info`, translated where they are language
-/// strings, with a blank between them; empty parts ("::") are left out. A host error passes to the caller.
+/// What the operator reads as the name of an element: the texts of its `Info`, translated where they are
+/// language strings, with a blank between them; empty parts ("::") are left out. A host error passes to the
+/// caller.
 std::string ElementName(const orvik::ITestElement& iteElement);
 
 }  // namespace keld

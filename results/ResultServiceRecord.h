@@ -17,7 +17,8 @@ namespace keld {
 /// @param vOwnValue the value of the result's own measurement; empty when there is none
 /// @return the record, or empty when the status has none
 /// @throws orvik::HostError when the host cannot make the record, or the element has no information record
-std::shared_ptr<orvik::IServiceRecord> MakeServiceRecord(const std::shared_ptr<orvik::ITestElement>& iteElement,
-                                                         std::int32_t lStatus, const orvik::Variant& vOwnValue);
+std::shared_ptr<orvik::IServiceRecord> MakeServiceRecord(
+    const std::shared_ptr<orvik::ITestElement>& iteElement, std::int32_t lStatus,
+    const orvik::Variant& vOwnValue);
 
 }  // namespace keld

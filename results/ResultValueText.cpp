@@ -16,7 +16,8 @@
 namespace keld::ResultValueText {
 namespace {
 
-/// The searches start from minus and plus two to the thirtieth, so that any real reading replaces the start value.
+/// The searches start from minus and plus two to the thirtieth, so that any real reading replaces the start
+/// value.
 constexpr double kStart = 1073741824;
 
 std::string TrimmedValue(const orvik::ITestElement& iteChild) {
@@ -32,7 +33,8 @@ std::string SignedValue(const orvik::Variant& vValue) {
   return orvik::TextOf(vValue);
 }
 
-std::string Extreme(const std::string& sList, double rStart, const std::function<bool(double, double)>& Replaces) {
+std::string Extreme(const std::string& sList, double rStart,
+                    const std::function<bool(double, double)>& Replaces) {
   if (sList.empty() || sList == "/") return {};
   double rExtreme = rStart;
   std::size_t lFirst = sList.front() == '/' ? 1 : 0;

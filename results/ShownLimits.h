@@ -15,8 +15,9 @@ struct ShownLimits {
   std::string sLow = " ";
 };
 
-/// The tightest bounds that the element's standard with these identifying strings holds under the measurement's limit
-/// key: whole numbers with the measurement's unit. Blanks where element, limits, standard or key are missing.
+/// The tightest bounds that the element's standard with these identifying strings holds under the
+/// measurement's limit key: whole numbers with the measurement's unit. Blanks where element, limits, standard
+/// or key are missing.
 ShownLimits LimitsOf(const orvik::ITestElement* iteElement, const orvik::IMeasurement* Measurement,
                      const std::string& sStandardName, const std::string& sStandardText);
 

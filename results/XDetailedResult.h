@@ -14,8 +14,8 @@ class ITextBox;
 
 namespace keld {
 
-/// Shows the operator's comment of one result, read-only, under a title. Errors of the container and of the result pass
-/// to the caller.
+/// Shows the operator's comment of one result, read-only, under a title. Errors of the container and of the
+/// result pass to the caller.
 class XDetailedResult final : public virtual orvik::ICustomControl, public orvik::platform::IUserControl {
  public:
   static std::shared_ptr<XDetailedResult> Create();

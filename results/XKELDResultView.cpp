@@ -39,8 +39,12 @@ std::string ValueText(const orvik::IMeasurement& Measurement) {
   return orvik::FormatValue(Measurement.value(), Measurement.ValueFormat()) + "  " + Measurement.Unit();
 }
 
-/// An empty cell is written as a single blank.
-std::string NeverEmpty(const std::string& sText) { return sText.empty() ? " " : sText; }
+/// An empty text is written as a single blank.
+orvik::platform::ListCell CellWith(const std::string& sText) {
+  orvik::platform::ListCell Cell;
+  Cell.text = sText.empty() ? " " : sText;
+  return Cell;
+}
 
 template <class Tag>
 Tag TagOf(const std::any& Held) {
@@ -114,16 +118,17 @@ void XKELDResultView::ShowResult(const std::shared_ptr<orvik::ITestElement>& ite
 }
 
 void XKELDResultView::AddRow(const std::string& sRow, const std::shared_ptr<orvik::ITestElement>& iteElement,
-                             const std::string& sValue, const std::shared_ptr<orvik::IMeasurement>& Measurement) {
+                             const std::string& sValue,
+                             const std::shared_ptr<orvik::IMeasurement>& Measurement) {
   auto& Results = List();
   Results.AddRow(sRow);
   Results.SetRowTag(sRow, ElementTag(iteElement));
-  Results.SetCell(sRow, kNameColumn, {NeverEmpty(ElementName(*iteElement))});
-  orvik::platform::ListCell Value{sValue};
+  Results.SetCell(sRow, kNameColumn, CellWith(ElementName(*iteElement)));
+  auto Value = CellWith(sValue);
   Value.tag = MeasurementTag(Measurement);
   Results.SetCell(sRow, kValueColumn, Value);
-  Results.SetCell(sRow, kHighColumn, {" "});
-  Results.SetCell(sRow, kLowColumn, {" "});
+  Results.SetCell(sRow, kHighColumn, CellWith(" "));
+  Results.SetCell(sRow, kLowColumn, CellWith(" "));
   FillLimitCells(sRow);
 }
 

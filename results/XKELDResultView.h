@@ -15,8 +15,8 @@ class ITestElement;
 
 namespace keld {
 
-/// The list of the tests run so far: one row for each element, with the measured value and the limits of one selected
-/// standard. Host and list errors pass to the caller; whatever is missing shows a single blank.
+/// The list of the tests run so far: one row for each element, with the measured value and the limits of one
+/// selected standard. Host and list errors pass to the caller; whatever is missing shows a single blank.
 class XKELDResultView final : public virtual orvik::IObject, public orvik::platform::IUserControl {
  public:
   static std::shared_ptr<XKELDResultView> Create();
@@ -25,8 +25,8 @@ class XKELDResultView final : public virtual orvik::IObject, public orvik::platf
 
   /// Removes all rows.
   void ClearDisplay();
-  /// Shows the limits of the standard with these identifying strings from now on; the text is also the limit cells'
-  /// tool tip. An empty name selects none.
+  /// Shows the limits of the standard with these identifying strings from now on; the text is also the limit
+  /// cells' tool tip. An empty name selects none.
   void SelectStandard(const std::string& sName, const std::string& sText);
   /// Adds or updates the element's row, and selects it. An element without a measurement is not shown.
   void ShowResult(const std::shared_ptr<orvik::ITestElement>& iteElement);
@@ -34,7 +34,9 @@ class XKELDResultView final : public virtual orvik::IObject, public orvik::platf
   void ShowLimitsInRow();
 
   /// A mouse button was let go over the list: button (1 left, 2 right), shift state, place in twips.
-  orvik::platform::Event<int, int, orvik::platform::Twips, orvik::platform::Twips>& MouseUp() { return mMouseUp; }
+  orvik::platform::Event<int, int, orvik::platform::Twips, orvik::platform::Twips>& MouseUp() {
+    return mMouseUp;
+  }
 
  private:
   std::string IObject_ClassID() const override;

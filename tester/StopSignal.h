@@ -17,8 +17,9 @@ class StopSignal {
   UniqueFd fd_;
 };
 
-/// Has the system send SIGTERM to this process when its parent ends; at once when the parent has ended
-/// already. `parent` is the parent's process id as seen when the program began. Throws SystemFailure.
+/// Has the system send SIGTERM to this process when its parent (the thread that started it) ends; at once
+/// when it has ended already. `parent` is the parent's process id as seen when the program began. Throws
+/// SystemFailure.
 void ExitWithParent(int parent);
 
 }  // namespace sim

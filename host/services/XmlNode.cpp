@@ -89,8 +89,7 @@ std::int32_t NumberAttribute(pugi::xml_node element, const char* name) {
 }  // namespace xml
 
 const XmlNode& XmlNode::Of(const std::shared_ptr<orvik::IXmlNode>& node) {
-  orvik::Required(node);
-  const auto own = orvik::As<XmlNode>(node);
+  const auto* own = dynamic_cast<const XmlNode*>(&orvik::Required(node));
   if (!own)
     throw orvik::HostError(orvik::HostError::kTypeMismatch, kSource, "the node is not one of this host's");
   return *own;

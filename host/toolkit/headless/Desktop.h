@@ -7,7 +7,7 @@
 
 #include "host/loop/EventLoop.h"
 #include "host/toolkit/headless/FormStack.h"
-#include "host/toolkit/headless/Windows.h"
+#include "host/toolkit/headless/WindowTable.h"
 #include "platform/IUserControl.h"
 
 namespace bench::headless {
@@ -21,7 +21,7 @@ class Desktop : public std::enable_shared_from_this<Desktop> {
 
   EventLoop& Loop() { return loop_; }
   FormStack& Forms() { return forms_; }
-  headless::Windows& Windows() { return windows_; }
+  WindowTable& Windows() { return windows_; }
 
   /// A new window of the class, known by its handle.
   template <class Window, class... Args>
@@ -50,7 +50,7 @@ class Desktop : public std::enable_shared_from_this<Desktop> {
 
   EventLoop loop_;
   FormStack forms_;
-  headless::Windows windows_;
+  WindowTable windows_;
   ControlFactory factory_;
   platform::Event<> pumped_;
   std::function<void()> stalled_;

@@ -12,7 +12,7 @@ namespace platform = orvik::platform;
 class Control;
 
 /// All windows by handle, and which stands in which. Holds none of them.
-class Windows {
+class WindowTable {
  public:
   /// A handle that no window had before; never 0.
   platform::WindowHandle NextHandle() { return ++lastHandle_; }

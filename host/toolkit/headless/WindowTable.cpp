@@ -1,4 +1,4 @@
-#include "host/toolkit/headless/Windows.h"
+#include "host/toolkit/headless/WindowTable.h"
 
 #include <string>
 
@@ -11,14 +11,14 @@ namespace bench::headless {
 
 using orvik::HostError;
 
-void Windows::Add(const std::shared_ptr<Control>& window) { windows_[window->Handle()] = window; }
+void WindowTable::Add(const std::shared_ptr<Control>& window) { windows_[window->Handle()] = window; }
 
-std::shared_ptr<Control> Windows::Find(platform::WindowHandle handle) const {
+std::shared_ptr<Control> WindowTable::Find(platform::WindowHandle handle) const {
   const auto found = windows_.find(handle);
   return found == windows_.end() ? nullptr : found->second.lock();
 }
 
-void Windows::SetParent(platform::WindowHandle child, platform::WindowHandle parent) {
+void WindowTable::SetParent(platform::WindowHandle child, platform::WindowHandle parent) {
   const auto moved = Movable(child);
   if (!moved || std::dynamic_pointer_cast<Form>(moved))
     Fail(HostError::kInvalidArgument, "window " + std::to_string(child) + " is no panel that can be docked");
@@ -33,14 +33,14 @@ void Windows::SetParent(platform::WindowHandle child, platform::WindowHandle par
   if (const auto container = moved->Container()) container->Relayout();
 }
 
-platform::WindowHandle Windows::Parent(platform::WindowHandle child) const {
+platform::WindowHandle WindowTable::Parent(platform::WindowHandle child) const {
   auto window = Movable(child);
   if (!window) window = Find(child);
   const auto parent = window ? window->ParentWindow() : nullptr;
   return parent ? parent->Handle() : 0;
 }
 
-std::shared_ptr<Control> Windows::Movable(platform::WindowHandle handle) const {
+std::shared_ptr<Control> WindowTable::Movable(platform::WindowHandle handle) const {
   const auto window = Find(handle);
   if (!window || std::dynamic_pointer_cast<ContainerSite>(window)) return window;
   if (!std::dynamic_pointer_cast<Panel>(window)) return nullptr;

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include "OrvikTypeLib/ITestElement.h"
+#include "OrvikTypeLib/ITestEnumerator.h"
+
+namespace bench {
+
+/// The ordered children of a container. Walks over them go on correctly while children come and go.
+class ChildList : public std::enable_shared_from_this<ChildList> {
+ public:
+  using Child = std::shared_ptr<orvik::ITestElement>;
+
+  ~ChildList();
+
+  std::size_t Size() const { return children_.size(); }
+  const Child& At(std::size_t index) const { return children_[index]; }
+  std::optional<std::size_t> IndexOf(const Child& child) const;
+
+  void Insert(std::size_t index, Child child);
+  void Erase(std::size_t index);
+  /// Lets go of all children, one after the other: a tree of any depth goes without recursion.
+  void Clear();
+
+  std::shared_ptr<orvik::ITestEnumerator> Walk();
+
+ private:
+  class Walker;
+
+  std::vector<Child> children_;
+  std::vector<std::weak_ptr<Walker>> walkers_;
+};
+
+}  // namespace bench

@@ -1,0 +1,72 @@
+#include "host/elements/ElementFactory.h"
+
+#include <algorithm>
+
+#include "OrvikTypeLib/As.h"
+#include "OrvikTypeLib/ITestContainer.h"
+#include "host/services/Text.h"
+
+namespace bench {
+
+void ElementFactory::AddPlugIn(const std::shared_ptr<orvik::IPlugIn>& plugIn) {
+  const auto id = orvik::Required(plugIn).ID();
+  std::erase_if(plugIns_, [&](const auto& known) { return known->ID() == id; });
+  plugIns_.push_back(plugIn);
+  ForgetPrototypes();
+}
+
+std::shared_ptr<orvik::IPlugIn> ElementFactory::PlugIn(const std::string& id) const {
+  const auto found =
+      std::find_if(plugIns_.begin(), plugIns_.end(), [&](const auto& known) { return known->ID() == id; });
+  return found == plugIns_.end() ? nullptr : *found;
+}
+
+void ElementFactory::ReleasePlugIns() {
+  prototypes_.clear();
+  plugIns_.clear();
+}
+
+std::shared_ptr<orvik::IObject> ElementFactory::CreateObject(const std::string& classId) const {
+  try {
+    return classId.empty() ? nullptr : classes_(classId);
+  } catch (const orvik::HostError& error) {
+    if (error.Number() == orvik::HostError::kClassNotRegistered) return nullptr;
+    throw;
+  }
+}
+
+std::shared_ptr<orvik::ITestElement> ElementFactory::CreateForLoad(const Identity& identity) {
+  if (auto copy = FromCatalogue(identity)) return copy;
+  auto created = orvik::As<orvik::ITestElement>(CreateObject(identity.classId));
+  if (created) created->Initialize(identity.plugInId, 0, identity.testId);
+  return created;
+}
+
+std::shared_ptr<orvik::ITestElement> ElementFactory::FromCatalogue(const Identity& identity) {
+  const auto plugIn = PlugIn(identity.plugInId);
+  if (!plugIn) return nullptr;
+  const auto [known, added] = prototypes_.try_emplace({identity.plugInId, identity.testId});
+  auto& prototype = known->second;
+  if (added) {
+    prototype = plugIn->CreateTest(identity.testId);
+    if (const auto container = orvik::As<orvik::ITestContainer>(prototype)) {
+      while (container->Count() > 0) container->Remove(container->item(container->Count()));
+    }
+  }
+  const bool sameClass =
+      prototype && (identity.classId.empty() || LowerAscii(prototype->ClassID()) == LowerAscii(identity.classId));
+  return sameClass ? prototype->Clone() : nullptr;
+}
+
+std::shared_ptr<orvik::IBaseElement> ElementFactory::BaseOf(
+    const std::shared_ptr<orvik::ITestElement>& element) const {
+  if (auto base = orvik::As<orvik::IBaseElement>(element)) return base;
+  const auto found = bases_.find(element.get());
+  return found == bases_.end() ? nullptr : found->second.lock();
+}
+
+void ElementFactory::Wrapped(const orvik::ITestElement* outer, std::weak_ptr<orvik::IBaseElement> base) {
+  bases_[outer] = std::move(base);
+}
+
+}  // namespace bench

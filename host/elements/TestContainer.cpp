@@ -1,0 +1,175 @@
+#include "host/elements/TestContainer.h"
+
+#include "OrvikTypeLib/As.h"
+#include "OrvikTypeLib/HostClasses.h"
+#include "host/elements/ChildList.h"
+#include "host/elements/ElementTags.h"
+#include "host/elements/UnknownElement.h"
+#include "host/services/XmlNode.h"
+
+namespace bench {
+namespace {
+
+using orvik::HostError;
+
+constexpr char kSource[] = "OrvikTypeLib.TestContainer";
+
+/// A container that is being searched, and how many of its children have been looked at.
+struct Level {
+  std::shared_ptr<orvik::ITestContainer> container;
+  std::int32_t visited = 0;
+};
+
+}  // namespace
+
+TestContainer::TestContainer(std::weak_ptr<ElementFactory> factory)
+    : TestElement(std::move(factory)), children_(std::make_shared<ChildList>()) {}
+
+TestContainer::~TestContainer() { children_->Clear(); }
+
+std::string TestContainer::IObject_ClassID() const { return orvik::HostClasses::kTestContainer; }
+
+void TestContainer::ITestContainer_Add(std::shared_ptr<orvik::ITestElement> iteElement,
+                                       const orvik::Variant& vBefore, const orvik::Variant& vAfter) {
+  auto& element = orvik::Required(iteElement);
+  RefuseCycle(iteElement);
+  auto place = PlaceFor(vBefore, vAfter);
+  if (const auto present = element.Parent() == Shown() ? children_->IndexOf(iteElement) : std::nullopt) {
+    children_->Erase(*present);
+    if (*present < place) --place;
+  } else if (const auto former = orvik::As<orvik::ITestContainer>(element.Parent())) {
+    former->Remove(iteElement);
+  }
+  element.SetParent(Shown());
+  children_->Insert(place, std::move(iteElement));
+}
+
+void TestContainer::RefuseCycle(const std::shared_ptr<orvik::ITestElement>& element) const {
+  // Only something that holds elements can stand above this container.
+  const auto container = orvik::As<orvik::ITestContainer>(element);
+  if (!container) return;
+  const auto self = Shown();
+  bool above = element == self || element.get() == static_cast<const ITestElement*>(this);
+  if (!above && container->Count() > 0) {
+    for (auto parent = self->Parent(); parent && !above; parent = parent->Parent()) above = parent == element;
+  }
+  if (above)
+    throw HostError(HostError::kInvalidArgument, kSource,
+                    "element " + std::to_string(element->ID()) + " cannot be placed inside itself");
+}
+
+std::size_t TestContainer::PlaceFor(const orvik::Variant& before, const orvik::Variant& after) const {
+  const auto& wanted = orvik::IsEmpty(before) ? after : before;
+  if (orvik::IsEmpty(wanted)) return children_->Size();
+  const auto* id = std::get_if<std::int32_t>(&wanted);
+  if (!id)
+    throw HostError(HostError::kTypeMismatch, kSource, "a place in a container is named by an identifier");
+  for (std::size_t index = 0; index < children_->Size(); ++index) {
+    if (children_->At(index)->ID() == *id) return index + (&wanted == &after ? 1 : 0);
+  }
+  throw HostError(HostError::kInvalidArgument, kSource,
+                  "element " + std::to_string(*id) + " is not in the container");
+}
+
+std::int32_t TestContainer::ITestContainer_Count() const {
+  return static_cast<std::int32_t>(children_->Size());
+}
+
+std::shared_ptr<orvik::ITestElement> TestContainer::ITestContainer_item(std::int32_t lIndex) const {
+  if (lIndex < 1 || static_cast<std::size_t>(lIndex) > children_->Size())
+    throw HostError(HostError::kSubscriptOutOfRange, kSource,
+                    "there is no element " + std::to_string(lIndex) + " of " +
+                        std::to_string(children_->Size()));
+  return children_->At(static_cast<std::size_t>(lIndex) - 1);
+}
+
+std::shared_ptr<orvik::ITestElement> TestContainer::ITestContainer_FindElement(
+    std::int32_t lIdentifier) const {
+  std::vector<Level> path;
+  const ITestContainer* current = this;
+  std::int32_t visited = 0;
+  while (true) {
+    if (visited < current->Count()) {
+      const auto child = current->item(++visited);
+      if (child->ID() == lIdentifier) return child;
+      auto inner = orvik::As<orvik::ITestContainer>(child);
+      if (!inner) continue;
+      // The level above is taken up again where it was left.
+      if (!path.empty()) path.back().visited = visited;
+      const auto resume = visited;
+      path.push_back({std::move(inner), 0});
+      if (path.size() == 1) ownVisited_ = resume;
+      current = path.back().container.get();
+      visited = 0;
+    } else if (path.empty()) {
+      return nullptr;
+    } else {
+      path.pop_back();
+      current = path.empty() ? this : path.back().container.get();
+      visited = path.empty() ? ownVisited_ : path.back().visited;
+    }
+  }
+}
+
+std::shared_ptr<orvik::ITestEnumerator> TestContainer::ITestContainer_NewEnum() const {
+  return children_->Walk();
+}
+
+void TestContainer::ITestContainer_Remove(std::shared_ptr<orvik::ITestElement> iteElement) {
+  const auto index = children_->IndexOf(iteElement);
+  if (!iteElement || !index) return;
+  children_->Erase(*index);
+  iteElement->SetParent(nullptr);
+}
+
+std::shared_ptr<TestElement> TestContainer::NewOfSameClass() const {
+  return std::make_shared<TestContainer>(Factory());
+}
+
+void TestContainer::CloneChildren(TestElement& copy) const {
+  auto& container = dynamic_cast<TestContainer&>(copy);
+  for (std::size_t index = 0; index < children_->Size(); ++index) {
+    const auto child = children_->At(index)->Clone();
+    if (!child)
+      throw HostError(HostError::kInvalidArgument, kSource,
+                      "element " + std::to_string(children_->At(index)->ID()) + " could not be copied");
+    container.Add(child, {}, {});
+  }
+}
+
+void TestContainer::SaveChildren(const std::shared_ptr<orvik::IXmlNode>& node) const {
+  for (std::size_t index = 0; index < children_->Size(); ++index) {
+    if (!children_->At(index)->Save(node))
+      throw HostError(HostError::kInvalidArgument, kSource,
+                      "element " + std::to_string(children_->At(index)->ID()) + " could not be saved");
+  }
+}
+
+void TestContainer::ClearChildren() {
+  for (std::size_t index = 0; index < children_->Size(); ++index) children_->At(index)->SetParent(nullptr);
+  children_->Clear();
+}
+
+bool TestContainer::LoadChild(const std::shared_ptr<orvik::IXmlNode>& node,
+                              const std::shared_ptr<IObject>& context) {
+  const auto raw = XmlNode::Of(node).Raw();
+  auto child = Factory()->CreateForLoad({raw.attribute(tags::kPlugInID).value(),
+                                         xml::NumberAttribute(raw, tags::kTestID),
+                                         raw.attribute(tags::kClass).value()});
+  if (!child) child = std::make_shared<UnknownElement>(Factory());
+  child->Load(node, context);
+  Add(child, {}, {});
+  return true;
+}
+
+void TestContainer::PrintChildren(const std::shared_ptr<orvik::IReport>& report,
+                                  const std::shared_ptr<IObject>& context) {
+  const auto walk = NewEnum();
+  while (const auto child = walk->Next()) child->PrintReport(report, context);
+}
+
+void TestContainer::OuterChanged() {
+  for (std::size_t index = 0; index < children_->Size(); ++index) children_->At(index)->SetParent(Shown());
+}
+
+}  // namespace bench

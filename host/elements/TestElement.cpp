@@ -1,0 +1,326 @@
+#include "host/elements/TestElement.h"
+
+#include <type_traits>
+
+#include "OrvikTypeLib/As.h"
+#include "OrvikTypeLib/HostClasses.h"
+#include "OrvikTypeLib/IConfigData.h"
+#include "OrvikTypeLib/ILimitData.h"
+#include "OrvikTypeLib/IMeasurement.h"
+#include "OrvikTypeLib/IReport.h"
+#include "OrvikTypeLib/IResultData.h"
+#include "OrvikTypeLib/IStandardColl.h"
+#include "host/elements/ElementTags.h"
+#include "host/elements/Nesting.h"
+#include "host/services/XmlNode.h"
+
+namespace bench {
+namespace {
+
+using orvik::HostError;
+
+constexpr char kSource[] = "OrvikTypeLib.TestElement";
+
+std::shared_ptr<orvik::IXmlNode> ScratchRoot(const std::string& name) {
+  auto document = std::make_shared<pugi::xml_document>();
+  const auto root = document->append_child(name.c_str());
+  return std::make_shared<XmlNode>(std::move(document), root);
+}
+
+}  // namespace
+
+TestElement::~TestElement() { ForgetOuter(); }
+
+std::string TestElement::IObject_ClassID() const { return orvik::HostClasses::kTestElement; }
+
+std::shared_ptr<orvik::ITestElement> TestElement::Shown() const {
+  if (auto outer = outer_.lock()) return outer;
+  // The element is only told from others by it; nobody changes it through this reference.
+  return std::const_pointer_cast<ITestElement>(
+      std::dynamic_pointer_cast<const ITestElement>(shared_from_this()));
+}
+
+std::shared_ptr<ElementFactory> TestElement::Factory() const { return orvik::Required(factory_); }
+
+std::shared_ptr<TestElement> TestElement::NewOfSameClass() const {
+  return std::make_shared<TestElement>(factory_);
+}
+
+/// Runs a step; a failure is noted for the document, which sits beyond a plug-in that ignores it, and goes on
+/// to the caller.
+template <class Step>
+auto TestElement::Noted(std::ptrdiff_t offset, Step step) const {
+  try {
+    return step();
+  } catch (const HostError& error) {
+    if (const auto factory = factory_.lock()) factory->Trouble().Note(error.Description(), offset);
+    throw;
+  }
+}
+
+void TestElement::ITestElement_Initialize(const std::string& sPlugInID, std::int32_t lElementID,
+                                          std::int32_t lTestID) {
+  plugInId_ = sPlugInID;
+  id_ = lElementID;
+  testId_ = lTestID;
+}
+
+void TestElement::ITestElement_Terminate() {
+  ForgetOuter();
+  outer_.reset();
+}
+
+orvik::Variant TestElement::ITestElement_Info() const {
+  const auto first = information_->FirstText();
+  const auto second = information_->SecondText();
+  return std::vector<std::string>{"::", first.empty() ? second : second + " " + first};
+}
+
+bool TestElement::ITestElement_QuerySetParent(std::shared_ptr<ITestElement> iteParent) const {
+  const auto self = Shown();
+  for (auto above = std::move(iteParent); above; above = above->Parent()) {
+    if (above == self || above.get() == this) return false;
+  }
+  return true;
+}
+
+void TestElement::ITestElement_Perform(std::shared_ptr<orvik::IRunController>) {
+  throw HostError(HostError::kNoSuchProperty, kSource,
+                  "the element has no test of its own; only a plug-in's element can be run");
+}
+
+orvik::Variant TestElement::ITestElement_GetMeasurementList() const {
+  std::vector<std::string> keys;
+  const auto count = result_ ? result_->MeasurementCount() : 0;
+  for (std::int32_t index = 1; index <= count; ++index) {
+    if (const auto measurement = result_->Measurement(index)) keys.push_back(measurement->Key());
+  }
+  return keys;
+}
+
+void TestElement::ITestElement_PrintReport(std::shared_ptr<orvik::IReport> Report,
+                                           std::shared_ptr<IObject> Context) {
+  auto& report = orvik::Required(Report);
+  report.SetTableBorder(0);
+  report.SetTableIndent(0);
+  report.SetHeaderRows(0);
+  report.AddTable("<" + std::to_string(report.Metric(10)) + ";", "",
+                  "{\\b " + report.Escape(information_->DisplayName()) + "};");
+  if (configuration_) configuration_->PrintReport(Report);
+  if (limits_) limits_->PrintReport(Report, Shown());
+  if (result_) result_->PrintReport(Report, Shown());
+  PrintChildren(Report, Context);
+}
+
+void TestElement::IBaseElement_SetConfiguration(std::shared_ptr<orvik::IConfigData> Configuration) {
+  configuration_ = std::move(Configuration);
+}
+
+void TestElement::IBaseElement_SetLimits(std::shared_ptr<orvik::ILimitData> Limits) {
+  limits_ = std::move(Limits);
+}
+
+void TestElement::IBaseElement_SetResult(std::shared_ptr<orvik::IResultData> Result) {
+  // What an older file said beside a result belongs to that result alone.
+  if (Result != result_) resultLeftovers_ = {};
+  result_ = std::move(Result);
+}
+
+std::shared_ptr<orvik::IInformationRecord> TestElement::IBaseElement_Information() const {
+  return information_;
+}
+
+std::shared_ptr<orvik::IAuxiliaryState> TestElement::IBaseElement_Auxiliary() const {
+  if (!auxiliary_) auxiliary_ = std::make_shared<AuxiliaryState>();
+  return auxiliary_;
+}
+
+void TestElement::IBaseElement_SetOuter(std::shared_ptr<ITestElement> iteOuter) {
+  ForgetOuter();
+  outer_ = iteOuter;
+  if (iteOuter) {
+    outerKey_ = iteOuter.get();
+    const auto self = std::dynamic_pointer_cast<IBaseElement>(shared_from_this());
+    if (const auto factory = factory_.lock()) factory->Wrapped(outerKey_, self);
+  }
+  OuterChanged();
+}
+
+void TestElement::ForgetOuter() {
+  const auto factory = factory_.lock();
+  if (outerKey_ && factory) factory->Unwrapped(outerKey_);
+  outerKey_ = nullptr;
+}
+
+std::shared_ptr<orvik::ITestElement> TestElement::ITestElement_Clone() const {
+  return Noted(-1, [&] {
+    const Nesting level;
+    if (level.Outermost()) RequireShallow(Shown());
+    auto copy = NewOfSameClass();
+    CopyTo(*copy);
+    return std::shared_ptr<ITestElement>(std::move(copy));
+  });
+}
+
+void TestElement::CopyIdentity(TestElement& copy) const {
+  copy.id_ = id_;
+  copy.testId_ = testId_;
+  copy.plugInId_ = plugInId_;
+  copy.information_->SetFirstText(information_->FirstText());
+  copy.information_->SetDisplayName(information_->DisplayName());
+  if (information_->HasSecondText()) copy.information_->SetSecondText(information_->SecondText());
+  if (auxiliary_) copy.Auxiliary()->SetPrintElement(auxiliary_->PrintElement());
+}
+
+void TestElement::CopyTo(TestElement& copy) const {
+  CopyIdentity(copy);
+  if (configuration_) copy.configuration_ = configuration_->Clone();
+  if (limits_) copy.limits_ = limits_->Clone();
+  if (result_) copy.result_ = CopyOfResult();
+  copy.leftovers_ = leftovers_;
+  copy.informationLeftovers_ = informationLeftovers_;
+  copy.auxiliaryLeftovers_ = auxiliaryLeftovers_;
+  copy.configurationLeftovers_ = configurationLeftovers_;
+  copy.resultLeftovers_ = resultLeftovers_;
+  CloneChildren(copy);
+}
+
+std::shared_ptr<orvik::IResultData> TestElement::CopyOfResult() const {
+  const auto copy = orvik::As<orvik::IResultData>(Factory()->CreateObject(result_->ClassID()));
+  if (!copy)
+    throw HostError(HostError::kClassNotRegistered, kSource,
+                    "the result's class \"" + result_->ClassID() +
+                        "\" is not registered, so the result cannot be copied; open its plug-in first");
+  copy->Load(result_->Save(ScratchRoot(tags::kTestElement)), nullptr);
+  return copy;
+}
+
+void TestElement::ITestElement_Load(std::shared_ptr<orvik::IXmlNode> Node, std::shared_ptr<IObject> Context) {
+  const auto offset = XmlNode::Of(Node).Raw().offset_debug();
+  Noted(offset, [&] {
+    const Nesting level;
+    const auto name = Node->Name();
+    if (name == tags::kResultItem) {
+      LoadResult(Node, Context);
+    } else if (name == tags::kTestElement) {
+      LoadElement(Node, Context);
+    } else {
+      throw HostError(HostError::kInvalidArgument, kSource,
+                      "an element cannot be read from the node \"" + name + "\"");
+    }
+  });
+}
+
+void TestElement::LoadIdentity(pugi::xml_node node) {
+  id_ = xml::NumberAttribute(node, tags::kID);
+  testId_ = xml::NumberAttribute(node, tags::kTestID);
+  plugInId_ = node.attribute(tags::kPlugInID).value();
+}
+
+void TestElement::LoadElement(const std::shared_ptr<orvik::IXmlNode>& node,
+                              const std::shared_ptr<IObject>& context) {
+  const auto raw = XmlNode::Of(node).Raw();
+  LoadIdentity(raw);
+  // Every element is a part that `LoadPart` looks at.
+  leftovers_.Take(raw, {tags::kID, tags::kTestID, tags::kPlugInID, tags::kClass},
+                  {tags::kTestElement, tags::kInformation, tags::kAuxiliary, tags::kConfiguration,
+                   tags::kExpectedResult, tags::kResultItem});
+  ClearLimits();
+  IBaseElement_SetResult(nullptr);
+  ClearChildren();
+  for (auto part = node->FirstChild(); part; part = part->NextSibling()) LoadPart(part, context);
+}
+
+/// What a file has no limits for has none.
+void TestElement::ClearLimits() {
+  if (limits_ && limits_->Standards()) limits_->Load(ScratchRoot(tags::kExpectedResult), nullptr);
+}
+
+void TestElement::LoadPart(const std::shared_ptr<orvik::IXmlNode>& part,
+                           const std::shared_ptr<IObject>& context) {
+  const auto raw = XmlNode::Of(part).Raw();
+  const std::string_view name = raw.name();
+  bool known = true;
+  if (name == tags::kInformation) {
+    information_ = std::make_shared<InformationRecord>();
+    information_->SetFirstText(raw.attribute(tags::kFirstText).value());
+    information_->SetDisplayName(raw.attribute(tags::kDisplayName).value());
+    if (const auto second = raw.attribute(tags::kSecondText)) information_->SetSecondText(second.value());
+    informationLeftovers_.Take(raw, {tags::kFirstText, tags::kSecondText, tags::kDisplayName}, {});
+  } else if (name == tags::kAuxiliary) {
+    if (const auto print = raw.attribute(tags::kPrint)) Auxiliary()->SetPrintElement(print.as_bool());
+    auxiliaryLeftovers_.Take(raw, {tags::kPrint}, {});
+  } else if (name == tags::kConfiguration && configuration_) {
+    configuration_->Load(part);
+    configurationLeftovers_.Take(raw, {}, {tags::kPlugInData});
+  } else if (name == tags::kExpectedResult && limits_) {
+    limits_->Load(part, context);
+  } else if (name == tags::kResultItem && !outer_.expired()) {
+    Shown()->Load(part, context);
+    // The plug-in's element ignores errors, but a result must not vanish.
+    if (!result_) throw HostError(HostError::kInvalidArgument, kSource, "the result could not be read");
+  } else if (name == tags::kTestElement) {
+    known = LoadChild(part, context);
+  } else {
+    known = name != tags::kConfiguration && name != tags::kExpectedResult && name != tags::kResultItem;
+  }
+  if (!known) leftovers_.Add(raw);
+}
+
+void TestElement::LoadResult(const std::shared_ptr<orvik::IXmlNode>& node,
+                             const std::shared_ptr<IObject>& context) {
+  orvik::Required(result_).Load(node, context);
+  resultLeftovers_.Take(XmlNode::Of(node).Raw(), {tags::kMTI},
+                        {tags::kStatus, tags::kServiceRecord, tags::kComment, tags::kMeasurement});
+}
+
+std::shared_ptr<orvik::IXmlNode> TestElement::ITestElement_Save(
+    std::shared_ptr<orvik::IXmlNode> Parent) const {
+  return Noted(-1, [&] {
+    const Nesting level;
+    if (level.Outermost()) RequireShallow(Shown());
+    auto node = orvik::Required(Parent).AddChild(tags::kTestElement);
+    SaveTo(node);
+    return node;
+  });
+}
+
+void TestElement::SaveTo(const std::shared_ptr<orvik::IXmlNode>& node) const {
+  const auto raw = XmlNode::Of(node).Raw();
+  xml::SetAttribute(raw, tags::kID, std::to_string(id_));
+  xml::SetAttribute(raw, tags::kTestID, std::to_string(testId_));
+  xml::SetAttribute(raw, tags::kPlugInID, plugInId_);
+  xml::SetAttribute(raw, tags::kClass, Shown()->ClassID());
+
+  const auto information = raw.append_child(tags::kInformation);
+  if (!information_->FirstText().empty())
+    xml::SetAttribute(information, tags::kFirstText, information_->FirstText());
+  if (information_->HasSecondText())
+    xml::SetAttribute(information, tags::kSecondText, information_->SecondText());
+  xml::SetAttribute(information, tags::kDisplayName, information_->DisplayName());
+  informationLeftovers_.Restore(information);
+
+  const auto auxiliary = raw.append_child(tags::kAuxiliary);
+  xml::SetAttribute(auxiliary, tags::kPrint, !auxiliary_ || auxiliary_->PrintElement() ? "1" : "0");
+  auxiliaryLeftovers_.Restore(auxiliary);
+
+  if (configuration_) {
+    const auto configuration = node->AddChild(tags::kConfiguration);
+    configuration_->Save(configuration);
+    configurationLeftovers_.Restore(XmlNode::Of(configuration).Raw());
+  }
+  if (limits_) limits_->Save(node);
+  if (result_) SaveResult(node);
+  SaveChildren(node);
+  leftovers_.Restore(raw);
+}
+
+void TestElement::SaveResult(const std::shared_ptr<orvik::IXmlNode>& node) const {
+  const auto saved = result_->Save(node);
+  if (!saved)
+    throw HostError(HostError::kInvalidArgument, kSource,
+                    "the result of element " + std::to_string(id_) + " could not be saved");
+  resultLeftovers_.Restore(XmlNode::Of(saved).Raw());
+}
+
+}  // namespace bench

@@ -1,0 +1,35 @@
+#include "host/elements/UnknownElement.h"
+
+#include "OrvikTypeLib/As.h"
+#include "host/elements/ElementTags.h"
+#include "host/services/XmlNode.h"
+
+namespace bench {
+
+std::shared_ptr<orvik::ITestElement> UnknownElement::ITestElement_Clone() const {
+  const auto factory = Factory();
+  auto copy = std::make_shared<UnknownElement>(factory);
+  CopyIdentity(*copy);
+  copy->saved_.reset(saved_);
+  return copy;
+}
+
+void UnknownElement::ITestElement_Load(std::shared_ptr<orvik::IXmlNode> Node, std::shared_ptr<IObject>) {
+  const auto node = XmlNode::Of(Node).Raw();
+  LoadIdentity(node);
+  saved_.reset();
+  saved_.append_copy(node);
+  const std::string name = node.child(tags::kInformation).attribute(tags::kDisplayName).value();
+  const auto shown = name.empty() ? "test " + std::to_string(TestID()) : name;
+  Texts().SetDisplayName(shown + " (unknown: the plug-in \"" + PlugInID() + "\" is not there)");
+}
+
+std::shared_ptr<orvik::IXmlNode> UnknownElement::ITestElement_Save(
+    std::shared_ptr<orvik::IXmlNode> Parent) const {
+  const auto& parent = XmlNode::Of(Parent);
+  auto node = parent.Raw().append_copy(saved_.document_element());
+  xml::SetAttribute(node, tags::kID, std::to_string(ID()));
+  return std::make_shared<XmlNode>(parent.Document(), node);
+}
+
+}  // namespace bench

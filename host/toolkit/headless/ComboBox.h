@@ -1,0 +1,47 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "host/toolkit/headless/Control.h"
+#include "platform/Controls.h"
+
+namespace bench::headless {
+
+/// A box that is not editable shows entries only: a text that is none of them is not taken.
+class ComboBox final : public Control, public virtual platform::IComboBox {
+ public:
+  using Control::Control;
+
+  std::vector<std::string> Items() const override { return items_; }
+  void AddItem(const std::string& text) override;
+  /// The selection ends with the entries; a typed text stays.
+  void ClearItems() override;
+  int SelectedIndex() const override { return selected_; }
+  void SetSelectedIndex(int index) override;
+  std::string Text() const override { return text_; }
+  /// Selects the entry of that text; in an editable box any other text ends the selection.
+  void SetText(const std::string& text) override;
+  bool Editable() const override { return editable_; }
+  void SetEditable(bool editable) override { editable_ = editable; }
+  platform::Event<>& Selected() override { return selectedEvent_; }
+  platform::Event<>& LostFocus() override { return lostFocus_; }
+  void Choose(int index) override;
+  void TypeOver(const std::string& text) override;
+
+  platform::Size NaturalSize() const override;
+  bool TakesFocus() const override { return true; }
+  void FocusLeft() override { lostFocus_.Raise(); }
+
+ private:
+  void Select(int index, const std::string& text);
+
+  std::vector<std::string> items_;
+  int selected_ = -1;
+  std::string text_;
+  bool editable_ = true;
+  platform::Event<> selectedEvent_;
+  platform::Event<> lostFocus_;
+};
+
+}  // namespace bench::headless

@@ -1,0 +1,185 @@
+#include "host/toolkit/headless/Form.h"
+
+#include <utility>
+
+#include "OrvikTypeLib/HostError.h"
+#include "host/toolkit/headless/Desktop.h"
+#include "host/toolkit/headless/TextSize.h"
+#include "platform/Controls.h"
+
+namespace bench::headless {
+namespace {
+
+constexpr int kAlt = 4;
+
+}  // namespace
+
+Form::Form(std::shared_ptr<Desktop> desktop, std::string name) : Panel(std::move(desktop), std::move(name)) {
+  visible_ = false;
+}
+
+void Form::SetBounds(const platform::Rect& bounds) {
+  sizedByHand_ = true;
+  Panel::SetBounds(bounds);
+}
+
+void Form::SetVisible(bool visible) {
+  if (visible)
+    Show();
+  else
+    Hide();
+}
+
+void Form::SetFocus() {
+  focus_ = shared_from_this();
+  GetDesktop().Forms().Activate(SelfForm());
+  GetDesktop().Forms().UpdateFocus();
+}
+
+void Form::Load() {
+  if (loaded_) return;
+  loaded_ = true;
+  GetDesktop().Forms().AddLoaded(SelfForm());
+}
+
+void Form::Show() {
+  const auto self = SelfForm();
+  Load();
+  const bool appears = !visible_;
+  if (appears) BecomeVisible();
+  GetDesktop().Forms().Activate(self);
+  if (appears && visible_) GetDesktop().Forms().FormShown().Raise(self);
+}
+
+void Form::BecomeVisible() {
+  visible_ = true;
+  showOrder_ = GetDesktop().Forms().NextShowOrder();
+  GetDesktop().NoteActivity();
+}
+
+void Form::ShowModal(const std::shared_ptr<platform::IForm>& owner) {
+  const auto self = SelfForm();
+  auto& forms = GetDesktop().Forms();
+  if (forms.IsModal(*this))
+    Fail(orvik::HostError::kInvalidArgument, "form \"" + Name() + "\" is shown modally already");
+  owner_ = std::dynamic_pointer_cast<Form>(owner);
+  forms.BeginModal(self);
+  // A window that is open already blocks the others from now on.
+  showOrder_ = forms.NextShowOrder();
+  try {
+    RunModal();
+  } catch (...) {
+    forms.EndModal(*this);
+    Hide();
+    throw;
+  }
+}
+
+void Form::RunModal() {
+  const int hiddenBefore = hidden_;
+  Show();
+  // Whoever hides the form and shows it again has ended this wait too.
+  while (visible_ && hidden_ == hiddenBefore) GetDesktop().WaitMessages(platform::Time::max());
+}
+
+void Form::Hide() {
+  if (!visible_) return;
+  const auto self = SelfForm();
+  visible_ = false;
+  ++hidden_;
+  GetDesktop().NoteActivity();
+  GetDesktop().Forms().Hidden(self, std::exchange(owner_, {}).lock());
+}
+
+void Form::Unload() {
+  if (!loaded_ || unloadingNow_) return;
+  const auto self = SelfForm();
+  unloadingNow_ = true;
+  const auto end = [&] {
+    unloadingNow_ = false;
+    loaded_ = false;
+    GetDesktop().Forms().RemoveLoaded(self);
+    Stop();
+  };
+  try {
+    Hide();
+    unloading_.Raise();
+    Hide();
+  } catch (...) {
+    end();
+    throw;
+  }
+  end();
+}
+
+bool Form::Active() const { return GetDesktop().Forms().Active().get() == this; }
+
+void Form::Activate() {
+  if (!Answers()) return;
+  GetDesktop().NoteActivity();
+  GetDesktop().Forms().Activate(SelfForm());
+}
+
+void Form::PressKey(int key, int shift) {
+  if (!Answers()) return;
+  const auto self = SelfForm();
+  Activate();
+  if (keyPreview_ && Answers()) keyDown_.Raise(key, shift);
+  if (!Answers()) return;
+  if (shift & kAlt) return ClickAccessKey(key);
+  const auto focused = GetDesktop().Forms().Focused();
+  if (focused && focused != self && focused->TopForm() == self) focused->KeyPressed(key, shift);
+}
+
+void Form::ClickAccessKey(int key) {
+  for (const auto& control : Controls()) {
+    const auto button = std::dynamic_pointer_cast<platform::IButton>(control);
+    if (button && AccessKey(button->Caption()) == key) return button->Click();
+  }
+}
+
+void Form::Close() {
+  if (!Answers()) return;
+  const auto self = SelfForm();
+  GetDesktop().NoteActivity();
+  bool keep = false;
+  closeRequested_.Raise(keep);
+  if (!keep) Unload();
+}
+
+void Form::Resize(platform::Size inner) {
+  if (!Answers()) return;
+  GetDesktop().NoteActivity();
+  SetBounds({Bounds().left, Bounds().top, inner.width, inner.height});
+}
+
+std::shared_ptr<Form> Form::TopForm() { return SelfForm(); }
+
+bool Form::Answers() { return visible_ && enabled_ && GetDesktop().Forms().Free(*this); }
+
+void Form::BecomeActive() {
+  const auto self = SelfForm();
+  activated_.Raise();
+  GetDesktop().Forms().UpdateFocus();
+}
+
+std::shared_ptr<Control> Form::FocusTarget() {
+  const auto focus = focus_.lock();
+  if (focus && (focus.get() == this || (focus->Usable() && focus->TopForm().get() == this))) return focus;
+  const auto first = FirstFocus();
+  focus_ = first ? first : shared_from_this();
+  return focus_.lock();
+}
+
+void Form::FocusOn(const std::shared_ptr<Control>& control) {
+  focus_ = control;
+  GetDesktop().Forms().UpdateFocus();
+}
+
+void Form::MoveFocusOn() { GetDesktop().Forms().UpdateFocus(); }
+
+void Form::NaturalSizeChanged() {
+  if (!sizedByHand_) Panel::SetBounds({Bounds().left, Bounds().top, NaturalSize().width, NaturalSize().height});
+}
+
+}  // namespace bench::headless

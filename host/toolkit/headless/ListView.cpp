@@ -1,0 +1,99 @@
+#include "host/toolkit/headless/ListView.h"
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+#include "OrvikTypeLib/HostError.h"
+#include "host/toolkit/headless/TextSize.h"
+
+namespace bench::headless {
+
+using orvik::HostError;
+
+void ListView::AddColumn(const platform::ListColumn& column) {
+  for (const auto& other : columns_) {
+    if (other.key == column.key)
+      Fail(HostError::kInvalidArgument, "list \"" + Name() + "\" already has a column \"" + column.key + "\"");
+  }
+  Apply([&] { columns_.push_back(column); });
+}
+
+std::vector<std::string> ListView::RowKeys() const {
+  std::vector<std::string> keys;
+  keys.reserve(rows_.size());
+  for (const Row& row : rows_) keys.push_back(row.key);
+  return keys;
+}
+
+void ListView::AddRow(const std::string& rowKey) {
+  if (!rowIndex_.emplace(rowKey, rows_.size()).second)
+    Fail(HostError::kInvalidArgument, "list \"" + Name() + "\" already has a row \"" + rowKey + "\"");
+  rows_.push_back({rowKey, {}, {}});
+}
+
+void ListView::ClearRows() {
+  // Tags may hold what comes back here when it is destroyed, so they go last.
+  const auto rows = std::exchange(rows_, {});
+  rowIndex_.clear();
+  selectedRow_.clear();
+  firstShown_ = 0;
+}
+
+void ListView::SetRowTag(const std::string& rowKey, std::any tag) {
+  std::swap(rows_[RowIndex(rowKey)].tag, tag);
+}
+
+platform::ListCell ListView::Cell(const std::string& rowKey, const std::string& columnKey) const {
+  const Row& row = RowAt(rowKey);
+  const std::size_t column = ColumnIndex(columnKey);
+  return column < row.cells.size() ? row.cells[column] : platform::ListCell{};
+}
+
+void ListView::SetCell(const std::string& rowKey, const std::string& columnKey, const platform::ListCell& cell) {
+  Row& row = rows_[RowIndex(rowKey)];
+  const std::size_t column = ColumnIndex(columnKey);
+  if (row.cells.size() <= column) row.cells.resize(column + 1);
+  const auto old = std::exchange(row.cells[column], cell);
+}
+
+void ListView::EnsureVisible(const std::string& rowKey) {
+  const std::size_t row = RowIndex(rowKey);
+  const auto shown = static_cast<std::size_t>(std::max(1, Bounds().height / kLineHeight - 1));
+  if (row < firstShown_) firstShown_ = row;
+  if (row >= firstShown_ + shown) firstShown_ = row - shown + 1;
+}
+
+void ListView::SelectRow(const std::string& rowKey) { selectedRow_ = RowAt(rowKey).key; }
+
+void ListView::ClickAt(const platform::MouseEvent& event) {
+  const auto self = shared_from_this();
+  if (!BeginAction()) return;
+  const platform::Twips line = event.y / kLineHeight;
+  const std::size_t row = firstShown_ + static_cast<std::size_t>(std::max(line, 1)) - 1;
+  if (line >= 1 && row < rows_.size()) selectedRow_ = rows_[row].key;
+  mouseUp_.Raise(event);
+}
+
+platform::Size ListView::NaturalSize() const {
+  platform::Twips width = 0;
+  for (const auto& column : columns_) width += column.width;
+  return {std::max(width, 20 * kCharacterWidth), 8 * kLineHeight};
+}
+
+std::size_t ListView::RowIndex(const std::string& rowKey) const {
+  const auto found = rowIndex_.find(rowKey);
+  if (found == rowIndex_.end())
+    Fail(HostError::kSubscriptOutOfRange, "list \"" + Name() + "\" has no row \"" + rowKey + "\"");
+  return found->second;
+}
+
+std::size_t ListView::ColumnIndex(const std::string& columnKey) const {
+  const auto found = std::find_if(columns_.begin(), columns_.end(),
+                                  [&](const platform::ListColumn& column) { return column.key == columnKey; });
+  if (found == columns_.end())
+    Fail(HostError::kSubscriptOutOfRange, "list \"" + Name() + "\" has no column \"" + columnKey + "\"");
+  return static_cast<std::size_t>(std::distance(columns_.begin(), found));
+}
+
+}  // namespace bench::headless

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <any>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+#include "host/toolkit/headless/Control.h"
+#include "platform/IListView.h"
+
+namespace bench::headless {
+
+/// A report list. A click selects the row under the pointer; rows are one line high below a line of captions.
+class ListView final : public Control, public virtual platform::IListView {
+ public:
+  using Control::Control;
+
+  void AddColumn(const platform::ListColumn& column) override;
+  std::vector<platform::ListColumn> Columns() const override { return columns_; }
+  int RowCount() const override { return static_cast<int>(rows_.size()); }
+  std::vector<std::string> RowKeys() const override;
+  bool HasRow(const std::string& rowKey) const override { return rowIndex_.count(rowKey) != 0; }
+  void AddRow(const std::string& rowKey) override;
+  void ClearRows() override;
+  std::any RowTag(const std::string& rowKey) const override { return RowAt(rowKey).tag; }
+  void SetRowTag(const std::string& rowKey, std::any tag) override;
+  platform::ListCell Cell(const std::string& rowKey, const std::string& columnKey) const override;
+  void SetCell(const std::string& rowKey, const std::string& columnKey, const platform::ListCell& cell) override;
+  void EnsureVisible(const std::string& rowKey) override;
+  void SelectRow(const std::string& rowKey) override;
+  /// Empty when no row is selected.
+  std::string SelectedRow() const override { return selectedRow_; }
+  platform::Event<const platform::MouseEvent&>& MouseUp() override { return mouseUp_; }
+  void ClickAt(const platform::MouseEvent& event) override;
+
+  platform::Size NaturalSize() const override;
+  bool TakesFocus() const override { return true; }
+
+ private:
+  struct Row {
+    std::string key;
+    std::any tag;
+    // By the column's place; as long as the last cell that was set asks for.
+    std::vector<platform::ListCell> cells;
+  };
+
+  std::size_t RowIndex(const std::string& rowKey) const;
+  const Row& RowAt(const std::string& rowKey) const { return rows_[RowIndex(rowKey)]; }
+  std::size_t ColumnIndex(const std::string& columnKey) const;
+
+  std::vector<platform::ListColumn> columns_;
+  std::vector<Row> rows_;
+  std::unordered_map<std::string, std::size_t> rowIndex_;
+  std::string selectedRow_;
+  std::size_t firstShown_ = 0;
+  platform::Event<const platform::MouseEvent&> mouseUp_;
+};
+
+}  // namespace bench::headless

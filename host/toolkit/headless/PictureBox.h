@@ -1,0 +1,26 @@
+#pragma once
+
+#include <cstddef>
+#include <span>
+#include <vector>
+
+#include "host/toolkit/headless/Control.h"
+#include "platform/Controls.h"
+
+namespace bench::headless {
+
+class PictureBox final : public Control, public virtual platform::IPictureBox {
+ public:
+  using Control::Control;
+
+  void SetBitmap(std::span<const std::byte> bitmap) override;
+  std::vector<std::byte> Bitmap() const override { return bitmap_; }
+
+  /// The bitmap's pixels as its header counts them; nothing for bytes that are no bitmap.
+  platform::Size NaturalSize() const override;
+
+ private:
+  std::vector<std::byte> bitmap_;
+};
+
+}  // namespace bench::headless

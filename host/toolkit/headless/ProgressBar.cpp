@@ -1,0 +1,17 @@
+#include "host/toolkit/headless/ProgressBar.h"
+
+#include "OrvikTypeLib/HostError.h"
+
+namespace bench::headless {
+
+void ProgressBar::SetRange(int minimum, int maximum) {
+  if (maximum < minimum)
+    Fail(orvik::HostError::kInvalidArgument,
+         "progress bar \"" + Name() + "\" cannot run from " + std::to_string(minimum) + " to " +
+             std::to_string(maximum));
+  minimum_ = minimum;
+  maximum_ = maximum;
+  SetValue(value_);
+}
+
+}  // namespace bench::headless

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <algorithm>
+
+#include "host/toolkit/headless/Control.h"
+#include "platform/Controls.h"
+
+namespace bench::headless {
+
+/// Runs from 0 to 100 unless told otherwise.
+class ProgressBar final : public Control, public virtual platform::IProgressBar {
+ public:
+  using Control::Control;
+
+  int Minimum() const override { return minimum_; }
+  int Maximum() const override { return maximum_; }
+  /// `HostError` 5 when the maximum is below the minimum.
+  void SetRange(int minimum, int maximum) override;
+  int Value() const override { return value_; }
+  void SetValue(int value) override { value_ = std::clamp(value, minimum_, maximum_); }
+
+  platform::Size NaturalSize() const override { return {3000, 300}; }
+
+ private:
+  int minimum_ = 0;
+  int maximum_ = 100;
+  int value_ = 0;
+};
+
+}  // namespace bench::headless

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <string>
+
+#include "host/toolkit/headless/Control.h"
+#include "platform/Controls.h"
+
+namespace bench::headless {
+
+class TextBox final : public Control, public virtual platform::ITextBox {
+ public:
+  using Control::Control;
+
+  std::string Text() const override { return text_; }
+  void SetText(const std::string& text) override;
+  bool Locked() const override { return locked_; }
+  void SetLocked(bool locked) override { locked_ = locked; }
+  bool MultiLine() const override { return multiLine_; }
+  void SetMultiLine(bool multiLine) override;
+  platform::Event<>& Changed() override { return changed_; }
+  void Type(const std::string& text) override;
+  void TypeOver(const std::string& text) override;
+
+  platform::Size NaturalSize() const override;
+  bool TakesFocus() const override { return true; }
+  /// Letters, digits and the space are typed; letters small unless shift is held.
+  void KeyPressed(int key, int shift) override;
+
+ private:
+  std::string text_;
+  bool locked_ = false;
+  bool multiLine_ = false;
+  platform::Event<> changed_;
+};
+
+}  // namespace bench::headless

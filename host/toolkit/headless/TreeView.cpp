@@ -1,0 +1,62 @@
+#include "host/toolkit/headless/TreeView.h"
+
+#include <algorithm>
+
+#include "OrvikTypeLib/HostError.h"
+#include "host/toolkit/headless/TextSize.h"
+
+namespace bench::headless {
+
+using orvik::HostError;
+
+void TreeView::AddNode(const std::string& key, const std::string& caption) {
+  if (!index_.emplace(key, nodes_.size()).second)
+    Fail(HostError::kInvalidArgument, "tree \"" + Name() + "\" already has a node \"" + key + "\"");
+  Apply([&] { nodes_.push_back({key, caption, false}); });
+}
+
+void TreeView::ClearNodes() {
+  index_.clear();
+  Apply([&] { nodes_.clear(); });
+}
+
+std::vector<std::string> TreeView::NodeKeys() const {
+  std::vector<std::string> keys;
+  for (const Node& node : nodes_) keys.push_back(node.key);
+  return keys;
+}
+
+void TreeView::SetNodeCaption(const std::string& key, const std::string& caption) {
+  const std::size_t index = Index(key);
+  Apply([&] { nodes_[index].caption = caption; });
+}
+
+void TreeView::SetChecked(const std::string& key, bool checked) {
+  if (HasNode(key)) nodes_[Index(key)].checked = checked;
+}
+
+void TreeView::ClickNode(const std::string& key) {
+  const auto self = shared_from_this();
+  // The caller's key may be a node's own, and a handler may clear the nodes.
+  const std::string clicked = key;
+  if (!BeginAction() || !HasNode(clicked)) return;
+  Node& node = nodes_[Index(clicked)];
+  node.checked = !node.checked;
+  nodeClicked_.Raise(clicked);
+}
+
+platform::Size TreeView::NaturalSize() const {
+  platform::Twips widest = 20 * kCharacterWidth;
+  for (const Node& node : nodes_) widest = std::max(widest, LineSize(node.caption).width);
+  const auto lines = std::clamp<std::size_t>(nodes_.size(), 6, 14);
+  return {widest + 4 * kCharacterWidth, static_cast<platform::Twips>(lines) * kLineHeight};
+}
+
+std::size_t TreeView::Index(const std::string& key) const {
+  const auto found = index_.find(key);
+  if (found == index_.end())
+    Fail(HostError::kSubscriptOutOfRange, "tree \"" + Name() + "\" has no node \"" + key + "\"");
+  return found->second;
+}
+
+}  // namespace bench::headless

@@ -1,0 +1,94 @@
+#pragma once
+
+#include <unistd.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <memory>
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "OrvikTypeLib/IRegistryReader.h"
+#include "host/Host.h"
+#include "host/controls/RegisterControls.h"
+#include "host/toolkit/headless/Application.h"
+#include "plugin/ClassLibrary.h"
+#include "plugin/MKELDConstants.h"
+#include "plugin/MKELDGlobalVars.h"
+
+namespace support {
+
+/// A folder that goes with the object.
+class TemporaryFolder {
+ public:
+  TemporaryFolder() {
+    std::string pattern = (std::filesystem::temp_directory_path() / "keld-test-XXXXXX").string();
+    if (!mkdtemp(pattern.data())) throw std::runtime_error("no temporary folder can be made: " + pattern);
+    path_ = pattern;
+  }
+  TemporaryFolder(const TemporaryFolder&) = delete;
+  TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+  ~TemporaryFolder() {
+    std::error_code ignored;
+    std::filesystem::remove_all(path_, ignored);
+  }
+
+  const std::filesystem::path& Path() const { return path_; }
+
+ private:
+  std::filesystem::path path_;
+};
+
+/// The real host without devices: the headless toolkit on the virtual clock, a state folder of its own, and the
+/// plug-in's classes, linked into the test and opened by this host.
+class HostOnly {
+ public:
+  /// @param catalogue what stands in for the settings value "Configuration"; without it there is no settings key
+  explicit HostOnly(std::optional<std::string> catalogue = {}, std::string language = {})
+      : application_(std::make_shared<bench::headless::Application>(bench::ClockKind::kVirtual)),
+        host_(bench::Host::Create({folder_.Path(), std::move(language), std::move(catalogue)}, application_)) {
+    const auto library = std::make_shared<keld::ClassLibrary>();
+    for (std::int32_t index = 1; index <= library->Count(); ++index) {
+      const std::string id = library->ClassIdentifier(index);
+      host_->Register(id, [library, id] { return library->CreateObject(id); });
+    }
+    bench::RegisterControls(*host_);
+    bench::ConnectControls(*application_, *host_);
+    keld::MKELDGlobalVars::Open(host_);
+  }
+  HostOnly(const HostOnly&) = delete;
+  HostOnly& operator=(const HostOnly&) = delete;
+  ~HostOnly() { keld::MKELDGlobalVars::Close(); }
+
+  bench::Host& Host() { return *host_; }
+  const std::shared_ptr<bench::Host>& SharedHost() const { return host_; }
+  bench::headless::Application& Application() { return *application_; }
+  const std::filesystem::path& Folder() const { return folder_.Path(); }
+
+  /// Creates the settings key and writes the catalogue's text into it.
+  void WriteCatalogue(const std::string& text) {
+    const auto registry = keld::MKELDGlobalVars::RegistryReader();
+    if (!registry->CreateKey(keld::MKELDConstants::kHive, keld::MKELDConstants::kSettingsKey))
+      throw std::runtime_error("the settings key cannot be made");
+    registry->WriteValue(keld::MKELDConstants::kConfigurationValue, text);
+  }
+
+  /// The lines of the host's error log.
+  std::vector<std::string> ErrorLines() const {
+    std::vector<std::string> lines;
+    std::ifstream log(folder_.Path() / "error.log");
+    for (std::string line; std::getline(log, line);) lines.push_back(line);
+    return lines;
+  }
+
+ private:
+  TemporaryFolder folder_;
+  std::shared_ptr<bench::headless::Application> application_;
+  std::shared_ptr<bench::Host> host_;
+};
+
+}  // namespace support

@@ -1,0 +1,79 @@
+#include "ui/TestGuideWindow.h"
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+#include "OrvikTypeLib/As.h"
+#include "OrvikTypeLib/HostClasses.h"
+#include "OrvikTypeLib/ITgContentPane.h"
+#include "OrvikTypeLib/ITgToolbar.h"
+#include "instrument/XKELDData.h"
+#include "platform/IContainerSite.h"
+#include "platform/IForm.h"
+#include "platform/IUserControl.h"
+#include "plugin/ClassIdentifiers.h"
+#include "plugin/MKELDConstants.h"
+#include "plugin/MKELDGlobalVars.h"
+#include "plugin/MKELDLanguageConstants.h"
+#include "resources/Resources.h"
+#include "results/XKELDResultView.h"
+
+namespace keld {
+
+using orvik::As;
+using orvik::Required;
+namespace platform = orvik::platform;
+
+namespace {
+
+constexpr char kToolbarName[] = "xtbToolbar";
+constexpr char kResultViewName[] = "xrvResultView";
+constexpr char kWizardName[] = "xtwWizard";
+constexpr char kInstrumentPaneName[] = "xstShowMTI";
+constexpr char kInstrumentTab[] = "tab:MtiData";
+
+template <class View>
+std::shared_ptr<View> AddControl(platform::IForm& Form, const char* sClassID, const char* sName) {
+  const auto Site = Form.AddControl(sClassID, sName);
+  auto Control = As<View>(Required(Site).Object());
+  if (!Control)
+    throw orvik::HostError(orvik::HostError::kClassNotRegistered, MKELDConstants::kPlugInID,
+                           std::string("control class ") + sClassID + " is of another kind");
+  return Control;
+}
+
+/// The tab's picture.
+std::vector<std::byte> InstrumentPicture() {
+  const auto Bitmap = FindResource(kInstrumentTab);
+  return {Bitmap.begin(), Bitmap.end()};
+}
+
+/// The toolbar on top, guidance beside the results, the instrument data below.
+platform::Grid Layout() {
+  platform::Grid grid;
+  grid.rows = {{}, {3000, 3}, {1500, 1}};
+  grid.columns = {{2700, 1}, {8100, 3}};
+  grid.cells = {{kToolbarName, 0, 0, 1, 2},
+                {kWizardName, 1, 0},
+                {kResultViewName, 1, 1},
+                {kInstrumentPaneName, 2, 0, 1, 2}};
+  return grid;
+}
+
+}  // namespace
+
+void TestGuideWindow::Build() {
+  auto& Window = Required(Form);
+  xtbToolbar = AddControl<orvik::ITgToolbar>(Window, orvik::HostClasses::kToolbar, kToolbarName);
+  xtwWizard = AddControl<orvik::ITgContentPane>(Window, orvik::HostClasses::kContentPane, kWizardName);
+  xrvResultView = AddControl<XKELDResultView>(Window, ClassIdentifiers::kResultView, kResultViewName);
+  xstShowMTI =
+      AddControl<orvik::ITgContentPane>(Window, orvik::HostClasses::kContentPane, kInstrumentPaneName);
+  Window.SetGrid(Layout());
+  InstrumentData = As<XKELDData>(
+      xstShowMTI->AddTab(kInstrumentTab, MKELDGlobalVars::Translated(MKELDLanguageConstants::kMtiData),
+                         InstrumentPicture(), ClassIdentifiers::kDataControl));
+}
+
+}  // namespace keld

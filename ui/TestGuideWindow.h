@@ -1,0 +1,46 @@
+#pragma once
+
+#include <memory>
+
+namespace orvik {
+class ITgContentPane;
+class ITgToolbar;
+}  // namespace orvik
+
+namespace orvik::platform {
+class IForm;
+}
+
+namespace keld {
+
+class XKELDData;
+class XKELDResultView;
+
+/// Command numbers of the guide's toolbar.
+enum TestGuideCommand : int {
+  kCommandAbort = 101,
+  kCommandPrevious = 102,
+  kCommandNext = 103,
+  kCommandStop = 201,
+  kCommandPlay = 202,
+  kCommandNotApplicable = 301,
+  kCommandSkip = 302,
+  kCommandTools = 501,
+  kCommandCalibrate = 900,
+};
+
+/// The guide's form and the controls on it.
+struct TestGuideWindow {
+  std::shared_ptr<orvik::platform::IForm> Form;
+  std::shared_ptr<orvik::ITgToolbar> xtbToolbar;
+  std::shared_ptr<XKELDResultView> xrvResultView;
+  std::shared_ptr<orvik::ITgContentPane> xtwWizard;
+  std::shared_ptr<orvik::ITgContentPane> xstShowMTI;
+  /// The control on the instrument data pane's tab.
+  std::shared_ptr<XKELDData> InstrumentData;
+
+  /// Puts the controls on the form and places them. `HostError` when the host has no such control.
+  void Build();
+};
+
+}  // namespace keld
