@@ -41,8 +41,8 @@ class CKELDData final : public virtual orvik::IObject {
   /// one that is known.
   void TakeIdentity(const MtiDataArray& avData);
 
-  /// Finds the tester's record in the collection or adds one, fills it, and returns its index; 0 when there is
-  /// no such record and none can be made.
+  /// Finds the tester's record in the collection or adds one, fills it, and returns its index; 0 when there
+  /// is no such record and none can be made.
   std::int32_t UpdateInstrumentRecord(const std::shared_ptr<orvik::IInstrumentColl>& Instruments) const;
 
   /// Serial numbers with a stored calibration value, in alphabetical order.

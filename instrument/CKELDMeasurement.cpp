@@ -11,6 +11,7 @@
 #include "plugin/ClassIdentifiers.h"
 #include "plugin/MKELDGlobalVars.h"
 #include "plugin/MXmlConstants.h"
+#include "plugin/ReportMarkup.h"
 
 namespace keld {
 
@@ -70,8 +71,8 @@ std::string CKELDMeasurement::ReportLine(const std::shared_ptr<orvik::IReport>& 
     sShownDescription = Required(Report).Escape(sShownDescription);
     sShownUnit = Report->Escape(sUnit);
   });
-  return "|" + (kIndent + sShownDescription) + "|" + orvik::FormatValue(vValue, kFormat) + "|" + sShownUnit +
-         ";";
+  return ReportMarkup::Row(
+      {"", kIndent + sShownDescription, orvik::FormatValue(vValue, kFormat), sShownUnit});
 }
 
 bool CKELDMeasurement::FailsLimits(const std::shared_ptr<orvik::ILimitData>& Limits,
@@ -104,9 +105,8 @@ void CKELDMeasurement::LoadChild(const std::shared_ptr<orvik::IXmlNode>& Child) 
   if (sName == MXmlConstants::kDescription) {
     Attempt([&] { sDescription = Child->Text(); });
   } else if (sName == MXmlConstants::kValue) {
-    Attempt([&] {
-      vValue = orvik::LeadingNumber(Required(MKELDGlobalVars::Persistence()).ReadValue(Child));
-    });
+    Attempt(
+        [&] { vValue = orvik::LeadingNumber(Required(MKELDGlobalVars::Persistence()).ReadValue(Child)); });
   } else if (sName == MXmlConstants::kUnit) {
     Attempt([&] { sUnit = Child->Text(); });
   } else if (sName == MXmlConstants::kStatus) {
@@ -122,9 +122,8 @@ std::shared_ptr<orvik::IXmlNode> CKELDMeasurement::IMeasurement_Save(
 
   if (!sFlags.empty()) Attempt([&] { Node->SetAttribute(MXmlConstants::kFlags, sFlags); });
   Attempt([&] { Required(Node->AddChild(MXmlConstants::kDescription)).SetText(sDescription); });
-  Attempt([&] {
-    Required(MKELDGlobalVars::Persistence()).WriteValue(Node, orvik::Trim(orvik::TextOf(vValue)));
-  });
+  Attempt(
+      [&] { Required(MKELDGlobalVars::Persistence()).WriteValue(Node, orvik::Trim(orvik::TextOf(vValue))); });
   if (!sUnit.empty()) Attempt([&] { Required(Node->AddChild(MXmlConstants::kUnit)).SetText(sUnit); });
   Attempt([&] { Required(MKELDGlobalVars::Persistence()).WriteStatus(Node, "", lStatus); });
   return Node;

@@ -6,7 +6,6 @@
 
 #include "OrvikTypeLib/IBaseElement.h"
 #include "OrvikTypeLib/ITestElement.h"
-#include "model/IKELDElement.h"
 #include "model/IKELDTest.h"
 #include "platform/Event.h"
 
@@ -25,7 +24,7 @@ class FYesNoPrompt;
 /// of a run.
 ///
 /// Every operation ignores errors step by step: a failing call is passed over and the next step runs.
-class CKELDElement : public virtual orvik::ITestElement, public virtual IKELDTest, public virtual IKELDElement {
+class CKELDElement : public virtual orvik::ITestElement, public virtual IKELDTest {
  public:
   /// The host's element behind this one. Setting it to empty is ignored.
   std::shared_ptr<orvik::IBaseElement> BaseElement() const { return mBaseElement; }
@@ -99,8 +98,6 @@ class CKELDElement : public virtual orvik::ITestElement, public virtual IKELDTes
   std::shared_ptr<orvik::IInformationRecord> ITestElement_Information() const override;
   orvik::Variant ITestElement_Filter() const override;
   orvik::Variant ITestElement_GetMeasurementList() const override;
-
-  std::shared_ptr<orvik::IBaseElement> IKELDElement_WrappedElement() const override { return mBaseElement; }
 
   std::string IKELDTest_ExpectedUnits() const override { return sExpectedUnits; }
   void IKELDTest_SetExpectedUnits(const std::string& sUnits) override { sExpectedUnits = sUnits; }

@@ -40,7 +40,8 @@ class Tracks {
   Tracks(const std::vector<Track>& tracks, Twips gap, std::vector<Span> spans) : tracks_(tracks), gap_(gap) {
     for (const Track& track : tracks) sizes_.push_back(track.minimum);
     // Short spans first, so that a long one only takes what its tracks do not have already.
-    std::stable_sort(spans.begin(), spans.end(), [](const Span& a, const Span& b) { return a.count < b.count; });
+    std::stable_sort(spans.begin(), spans.end(),
+                     [](const Span& a, const Span& b) { return a.count < b.count; });
     for (const Span& span : spans) Fit(span);
   }
 
@@ -113,7 +114,8 @@ bool Fits(int first, int span, std::size_t count) {
 void Check(const Grid& grid, std::size_t sizes) {
   CheckTracks(grid.rows);
   CheckTracks(grid.columns);
-  if (sizes != grid.cells.size()) throw std::invalid_argument("the grid needs one natural size for each cell");
+  if (sizes != grid.cells.size())
+    throw std::invalid_argument("the grid needs one natural size for each cell");
   for (const Cell& cell : grid.cells) {
     if (!Fits(cell.row, cell.rowSpan, grid.rows.size()) ||
         !Fits(cell.column, cell.columnSpan, grid.columns.size()))
@@ -141,7 +143,8 @@ Tracks Rows(const Grid& grid, const std::vector<Size>& natural) {
   return {grid.rows, grid.gap, std::move(spans)};
 }
 
-Rect Place(const Grid& grid, const Cell& cell, const Tracks& columns, const Tracks& rows, Twips naturalWidth) {
+Rect Place(const Grid& grid, const Cell& cell, const Tracks& columns, const Tracks& rows,
+           Twips naturalWidth) {
   const auto column = static_cast<std::size_t>(cell.column);
   const auto row = static_cast<std::size_t>(cell.row);
   Rect rect{grid.margin + columns.StartOf(column), grid.margin + rows.StartOf(row),

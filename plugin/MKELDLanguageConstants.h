@@ -6,6 +6,7 @@
 namespace keld::MKELDLanguageConstants {
 
 inline constexpr char kOK[] = "1::&OK";
+inline constexpr char kCancel[] = "2::&Cancel";
 inline constexpr char kYes[] = "3::&Yes";
 inline constexpr char kNo[] = "4::&No";
 inline constexpr char kTestGuide[] = "200::TEST GUIDE";
@@ -27,6 +28,8 @@ inline constexpr char kStopping[] = "20309::Stopping safety test. Please wait...
 inline constexpr char kPerforming[] = "20310::Performing safety test. Please wait...";
 inline constexpr char kMtiType[] = "20312::MTI Type:";
 inline constexpr char kSerialNumber[] = "20313::Serial number:";
+inline constexpr char kFirmwareVersion[] = "20314::Firmware version:";
+inline constexpr char kLeadCalibration[] = "20315::Lead calibration (mOhm):";
 inline constexpr char kKELDTest[] = "20340::KELD test";
 inline constexpr char kOverload[] = "20343::OL";
 inline constexpr char kYesNoTitle[] = "20450::orvik KELD plug-in";

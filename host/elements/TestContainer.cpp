@@ -16,7 +16,7 @@ constexpr char kSource[] = "OrvikTypeLib.TestContainer";
 
 /// A container that is being searched, and how many of its children have been looked at.
 struct Level {
-  std::shared_ptr<orvik::ITestContainer> container;
+  std::shared_ptr<const orvik::ITestContainer> container;
   std::int32_t visited = 0;
 };
 
@@ -85,30 +85,18 @@ std::shared_ptr<orvik::ITestElement> TestContainer::ITestContainer_item(std::int
 
 std::shared_ptr<orvik::ITestElement> TestContainer::ITestContainer_FindElement(
     std::int32_t lIdentifier) const {
-  std::vector<Level> path;
-  const ITestContainer* current = this;
-  std::int32_t visited = 0;
-  while (true) {
-    if (visited < current->Count()) {
-      const auto child = current->item(++visited);
-      if (child->ID() == lIdentifier) return child;
-      auto inner = orvik::As<orvik::ITestContainer>(child);
-      if (!inner) continue;
-      // The level above is taken up again where it was left.
-      if (!path.empty()) path.back().visited = visited;
-      const auto resume = visited;
-      path.push_back({std::move(inner), 0});
-      if (path.size() == 1) ownVisited_ = resume;
-      current = path.back().container.get();
-      visited = 0;
-    } else if (path.empty()) {
-      return nullptr;
-    } else {
+  std::vector<Level> path{{std::dynamic_pointer_cast<const ITestContainer>(shared_from_this())}};
+  while (!path.empty()) {
+    auto& level = path.back();
+    if (level.visited == level.container->Count()) {
       path.pop_back();
-      current = path.empty() ? this : path.back().container.get();
-      visited = path.empty() ? ownVisited_ : path.back().visited;
+      continue;
     }
+    auto child = level.container->item(++level.visited);
+    if (child->ID() == lIdentifier) return child;
+    if (auto inner = orvik::As<const ITestContainer>(child)) path.push_back({std::move(inner)});
   }
+  return nullptr;
 }
 
 std::shared_ptr<orvik::ITestEnumerator> TestContainer::ITestContainer_NewEnum() const {

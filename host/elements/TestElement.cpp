@@ -1,7 +1,5 @@
 #include "host/elements/TestElement.h"
 
-#include <type_traits>
-
 #include "OrvikTypeLib/As.h"
 #include "OrvikTypeLib/HostClasses.h"
 #include "OrvikTypeLib/IConfigData.h"
@@ -53,7 +51,9 @@ auto TestElement::Noted(std::ptrdiff_t offset, Step step) const {
   try {
     return step();
   } catch (const HostError& error) {
-    if (const auto factory = factory_.lock()) factory->Trouble().Note(error.Description(), offset);
+    const auto* fault = dynamic_cast<const XmlError*>(&error);
+    if (const auto factory = factory_.lock())
+      factory->Trouble().Note(error.Description(), fault ? fault->Offset() : offset);
     throw;
   }
 }
@@ -126,10 +126,6 @@ void TestElement::IBaseElement_SetResult(std::shared_ptr<orvik::IResultData> Res
   result_ = std::move(Result);
 }
 
-std::shared_ptr<orvik::IInformationRecord> TestElement::IBaseElement_Information() const {
-  return information_;
-}
-
 std::shared_ptr<orvik::IAuxiliaryState> TestElement::IBaseElement_Auxiliary() const {
   if (!auxiliary_) auxiliary_ = std::make_shared<AuxiliaryState>();
   return auxiliary_;
@@ -169,7 +165,10 @@ void TestElement::CopyIdentity(TestElement& copy) const {
   copy.information_->SetFirstText(information_->FirstText());
   copy.information_->SetDisplayName(information_->DisplayName());
   if (information_->HasSecondText()) copy.information_->SetSecondText(information_->SecondText());
-  if (auxiliary_) copy.Auxiliary()->SetPrintElement(auxiliary_->PrintElement());
+  if (auxiliary_) {
+    copy.Auxiliary()->SetPrintElement(auxiliary_->PrintElement());
+    copy.auxiliary_->SetDoubts(auxiliary_->Doubts());
+  }
 }
 
 void TestElement::CopyTo(TestElement& copy) const {
@@ -249,7 +248,11 @@ void TestElement::LoadPart(const std::shared_ptr<orvik::IXmlNode>& part,
     informationLeftovers_.Take(raw, {tags::kFirstText, tags::kSecondText, tags::kDisplayName}, {});
   } else if (name == tags::kAuxiliary) {
     if (const auto print = raw.attribute(tags::kPrint)) Auxiliary()->SetPrintElement(print.as_bool());
-    auxiliaryLeftovers_.Take(raw, {tags::kPrint}, {});
+    std::vector<std::string> doubts;
+    for (const auto doubt : raw.children(tags::kDoubt)) doubts.emplace_back(doubt.text().get());
+    if (!doubts.empty()) Auxiliary();
+    if (auxiliary_) auxiliary_->SetDoubts(std::move(doubts));
+    auxiliaryLeftovers_.Take(raw, {tags::kPrint}, {tags::kDoubt});
   } else if (name == tags::kConfiguration && configuration_) {
     configuration_->Load(part);
     configurationLeftovers_.Take(raw, {}, {tags::kPlugInData});
@@ -302,6 +305,9 @@ void TestElement::SaveTo(const std::shared_ptr<orvik::IXmlNode>& node) const {
 
   const auto auxiliary = raw.append_child(tags::kAuxiliary);
   xml::SetAttribute(auxiliary, tags::kPrint, !auxiliary_ || auxiliary_->PrintElement() ? "1" : "0");
+  if (auxiliary_) {
+    for (const auto& doubt : auxiliary_->Doubts()) xml::SetText(auxiliary.append_child(tags::kDoubt), doubt);
+  }
   auxiliaryLeftovers_.Restore(auxiliary);
 
   if (configuration_) {

@@ -73,6 +73,7 @@ class TestElement : public orvik::IBaseElement {
   std::shared_ptr<orvik::IResultData> ITestElement_Result() const override { return result_; }
   void ITestElement_PrintReport(std::shared_ptr<orvik::IReport> Report,
                                 std::shared_ptr<IObject> Context) override;
+  std::shared_ptr<orvik::IInformationRecord> ITestElement_Information() const override { return information_; }
   std::int32_t ITestElement_ID() const override { return id_; }
   void ITestElement_SetID(std::int32_t lID) override { id_ = lID; }
   std::shared_ptr<ITestElement> ITestElement_Parent() const override { return parent_.lock(); }
@@ -85,7 +86,6 @@ class TestElement : public orvik::IBaseElement {
   void IBaseElement_SetConfiguration(std::shared_ptr<orvik::IConfigData> Configuration) override;
   void IBaseElement_SetLimits(std::shared_ptr<orvik::ILimitData> Limits) override;
   void IBaseElement_SetResult(std::shared_ptr<orvik::IResultData> Result) override;
-  std::shared_ptr<orvik::IInformationRecord> IBaseElement_Information() const override;
   std::shared_ptr<orvik::IAuxiliaryState> IBaseElement_Auxiliary() const override;
   void IBaseElement_SetOuter(std::shared_ptr<ITestElement> iteOuter) override;
 

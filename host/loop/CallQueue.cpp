@@ -33,7 +33,8 @@ CallQueue::Id CallQueue::Add(orvik::platform::Time when, std::function<void()> c
 
 void CallQueue::Remove(Id id) {
   const auto slot = static_cast<std::uint32_t>((id & 0xFFFFFFFF) - 1);
-  if (slot >= slots_.size() || slots_[slot].place == kFree || IdOf(slot, slots_[slot].generation) != id) return;
+  if (slot >= slots_.size() || slots_[slot].place == kFree || IdOf(slot, slots_[slot].generation) != id)
+    return;
   Release(slot);
 }
 

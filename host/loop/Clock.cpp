@@ -29,8 +29,9 @@ std::chrono::nanoseconds Clock::SleepUntil(Time moment) const {
   if (moment <= now) return std::chrono::nanoseconds(0);
   // Rounded up: waking a hair too early would cost a second sleep.
   const double sleep = std::ceil(static_cast<double>((moment - now).count()) * 1000 / timeScale_) + 1;
-  return sleep < static_cast<double>(longest.count()) ? std::chrono::nanoseconds(static_cast<std::int64_t>(sleep))
-                                                      : longest;
+  return sleep < static_cast<double>(longest.count())
+             ? std::chrono::nanoseconds(static_cast<std::int64_t>(sleep))
+             : longest;
 }
 
 }  // namespace bench

@@ -34,7 +34,8 @@ Poller::Id Poller::Watch(int descriptor, std::function<void()> callback) {
 }
 
 void Poller::Forget(Id id) {
-  const auto found = std::find_if(watches_.begin(), watches_.end(), [id](const Watched& w) { return w.id == id; });
+  const auto found =
+      std::find_if(watches_.begin(), watches_.end(), [id](const Watched& w) { return w.id == id; });
   if (found == watches_.end()) return;
   // What the callback holds may come back here when it is destroyed, so it goes last.
   const auto callback = std::move(found->callback);

@@ -80,9 +80,8 @@ bool IsName(const std::string& name) {
 std::int32_t NumberAttribute(pugi::xml_node element, const char* name) {
   const auto number = WholeNumber(element.attribute(name).value());
   if (!number)
-    throw orvik::HostError(orvik::HostError::kTypeMismatch, kSource,
-                           std::string("the attribute \"") + name + "\" of \"" + element.name() +
-                               "\" is not a whole number");
+    throw XmlError(element, std::string("the attribute \"") + name + "\" of \"" + element.name() +
+                                "\" is not a whole number");
   return *number;
 }
 

@@ -4,6 +4,7 @@
 #include <pugixml.hpp>
 #include <string>
 
+#include "OrvikTypeLib/HostError.h"
 #include "OrvikTypeLib/IXmlNode.h"
 
 namespace bench {
@@ -41,6 +42,19 @@ class XmlNode final : public orvik::IXmlNode {
   pugi::xml_node node_;
 };
 
+/// A fault in what a node holds, and where the node stands in the source it was read from.
+class XmlError final : public orvik::HostError {
+ public:
+  XmlError(pugi::xml_node node, const std::string& description)
+      : HostError(kTypeMismatch, "OrvikTypeLib.XmlNode", description), offset_(node.offset_debug()) {}
+
+  /// In bytes; -1 for a node that was not read from a source.
+  std::ptrdiff_t Offset() const { return offset_; }
+
+ private:
+  std::ptrdiff_t offset_;
+};
+
 /// Helpers on raw nodes that the host's own readers and writers share.
 namespace xml {
 
@@ -65,8 +79,7 @@ pugi::xml_node AddElement(pugi::xml_node parent, const std::string& name);
 /// Whether the text can be a tag or the name of an attribute.
 bool IsName(const std::string& name);
 
-/// The attribute as a 32-bit number; `HostError` 13 naming attribute and element when it is missing or not
-/// one.
+/// The attribute as a 32-bit number; `XmlError` naming attribute and element when it is missing or not one.
 std::int32_t NumberAttribute(pugi::xml_node element, const char* name);
 
 }  // namespace xml

@@ -1,6 +1,5 @@
 #include "tests/house/Folders.h"
 
-#include <algorithm>
 #include <map>
 #include <set>
 #include <string>
@@ -16,8 +15,8 @@ const Names kPlugInMayInclude = {"plugin", "model",        "instrument", "result
 
 /// What the files of a folder may include, beside the standard library and what comes from outside.
 const std::map<std::string, Names, std::less<>> kMayInclude = {
-    {"OrvikTypeLib", {"OrvikTypeLib", "platform"}},
-    {"platform", {"platform", "OrvikTypeLib"}},
+    {"OrvikTypeLib", {"OrvikTypeLib"}},
+    {"platform", {"platform"}},
     {"resources", {"resources"}},
     {"plugin", kPlugInMayInclude},
     {"model", kPlugInMayInclude},

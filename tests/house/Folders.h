@@ -10,9 +10,9 @@ Findings FolderFindings(const std::vector<SourceFile>& files);
 
 /// Includes inside the plug-in that reach up into a higher room, and plug-in files that have no room.
 ///
-/// The rooms, from the lowest: constants and services; instrument link, clock, data and calibration; configuration;
-/// limits, measurement and results; the operator's windows; the test model; the plug-in object and the class
-/// library.
+/// The rooms, from the lowest: constants and services; instrument link, clock, data and calibration;
+/// configuration; limits, measurement and results; the operator's windows; the test model; the plug-in object
+/// and the class library.
 Findings RoomFindings(const std::vector<SourceFile>& files);
 
 /// Circles among the files, a header and its sources counted as one.

@@ -93,8 +93,9 @@ class Reader {
 
   void ReadRawLiteral() {
     const std::size_t open = text_.find('(', at_);
-    const std::string closing =
-        open == std::string_view::npos ? ")\"" : ")" + std::string(text_.substr(at_ + 1, open - at_ - 1)) + "\"";
+    const std::string closing = open == std::string_view::npos
+                                    ? ")\""
+                                    : ")" + std::string(text_.substr(at_ + 1, open - at_ - 1)) + "\"";
     const std::size_t end = text_.find(closing, at_);
     const std::size_t after = end == std::string_view::npos ? text_.size() : end + closing.size();
     while (at_ < after) Pass();

@@ -46,7 +46,7 @@ class DeviceTransportTest : public testing::Test {
   }
 
   std::shared_ptr<EventLoop> loop_ = std::make_shared<EventLoop>(ClockKind::kReal, 1.0);
-  test::PseudoTerminal terminal_;
+  support::PseudoTerminal terminal_;
   std::string received_;
   int failures_ = 0;
 };

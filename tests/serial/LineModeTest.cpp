@@ -10,7 +10,7 @@ class LineModeTest : public testing::Test {
  protected:
   UniqueFd Open() { return UniqueFd(open(terminal_.Path().c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK)); }
 
-  test::PseudoTerminal terminal_;
+  support::PseudoTerminal terminal_;
 };
 
 // A pseudo-terminal treated as a real line stands for a device whose driver drops the parity bit: a line

@@ -35,7 +35,7 @@ class PortTest : public testing::Test {
 
   std::shared_ptr<EventLoop> loop_ = std::make_shared<EventLoop>(ClockKind::kVirtual, 1.0);
   std::shared_ptr<Wire> wire_ = std::make_shared<Wire>();
-  test::WireLines record_{*wire_};
+  support::WireLines record_{*wire_};
   std::shared_ptr<MemoryLine> line_ = std::make_shared<MemoryLine>();
   orvik::platform::Subscription heard_;
   std::string sent_;

@@ -67,6 +67,7 @@ class HostOnly {
   bench::Host& Host() { return *host_; }
   const std::shared_ptr<bench::Host>& SharedHost() const { return host_; }
   bench::headless::Application& Application() { return *application_; }
+  const std::shared_ptr<bench::headless::Application>& SharedApplication() const { return application_; }
   const std::filesystem::path& Folder() const { return folder_.Path(); }
 
   /// Creates the settings key and writes the catalogue's text into it.

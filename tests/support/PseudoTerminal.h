@@ -11,7 +11,7 @@
 
 #include "host/serial/UniqueFd.h"
 
-namespace bench::test {
+namespace support {
 
 /// A pair of pseudo-terminals: the test holds the near end, and the program opens the device.
 class PseudoTerminal {
@@ -22,7 +22,7 @@ class PseudoTerminal {
         ptsname_r(near_.Get(), name, sizeof name) != 0)
       throw std::runtime_error("no pseudo-terminal to be had");
     path_ = name;
-    far_ = UniqueFd(open(name, O_RDWR | O_NOCTTY | O_CLOEXEC));
+    far_ = bench::UniqueFd(open(name, O_RDWR | O_NOCTTY | O_CLOEXEC));
     termios mode{};
     tcgetattr(far_.Get(), &mode);
     cfmakeraw(&mode);
@@ -58,9 +58,9 @@ class PseudoTerminal {
   }
 
  private:
-  UniqueFd near_;
-  UniqueFd far_;
+  bench::UniqueFd near_;
+  bench::UniqueFd far_;
   std::string path_;
 };
 
-}  // namespace bench::test
+}  // namespace support

@@ -8,12 +8,12 @@
 #include "host/serial/Latin1.h"
 #include "host/serial/Wire.h"
 
-namespace bench::test {
+namespace support {
 
 /// One thing that happened on the wire, as text: "sent STST,410,0".
 struct WireLine {
   orvik::platform::Time time;
-  WireRecord::Kind kind;
+  bench::WireRecord::Kind kind;
   std::string text;
   bool replyWaiting;
 };
@@ -21,22 +21,22 @@ struct WireLine {
 /// Keeps everything that happens on a wire.
 class WireLines {
  public:
-  explicit WireLines(Wire& wire)
-      : watch_(wire.Subscribe([this](const WireRecord& record) {
-          lines_.push_back({record.time, record.kind, VisibleText(record.text), record.replyWaiting});
+  explicit WireLines(bench::Wire& wire)
+      : watch_(wire.Subscribe([this](const bench::WireRecord& record) {
+          lines_.push_back({record.time, record.kind, bench::VisibleText(record.text), record.replyWaiting});
         })) {}
 
   const std::vector<WireLine>& All() const { return lines_; }
   /// The texts of the commands sent.
-  std::vector<std::string> Sent() const { return Texts(WireRecord::Kind::kSent); }
+  std::vector<std::string> Sent() const { return Texts(bench::WireRecord::Kind::kSent); }
   /// The texts of the messages received.
-  std::vector<std::string> Received() const { return Texts(WireRecord::Kind::kReceived); }
+  std::vector<std::string> Received() const { return Texts(bench::WireRecord::Kind::kReceived); }
   /// How often that happened.
-  std::size_t Count(WireRecord::Kind kind) const { return Texts(kind).size(); }
+  std::size_t Count(bench::WireRecord::Kind kind) const { return Texts(kind).size(); }
   void Clear() { lines_.clear(); }
 
  private:
-  std::vector<std::string> Texts(WireRecord::Kind kind) const {
+  std::vector<std::string> Texts(bench::WireRecord::Kind kind) const {
     std::vector<std::string> texts;
     for (const auto& line : lines_) {
       if (line.kind == kind) texts.push_back(line.text);
@@ -48,4 +48,4 @@ class WireLines {
   orvik::platform::Subscription watch_;
 };
 
-}  // namespace bench::test
+}  // namespace support

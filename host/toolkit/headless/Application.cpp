@@ -19,7 +19,9 @@ void Application::SetControlFactory(
 
 platform::Event<>& Application::Pumped() { return desktop_->Pumped(); }
 
-void Application::SetStallHandler(std::function<void()> handler) { desktop_->SetStallHandler(std::move(handler)); }
+void Application::SetStallHandler(std::function<void()> handler) {
+  desktop_->SetStallHandler(std::move(handler));
+}
 
 void Application::Wake() noexcept { desktop_->Loop().Wake(); }
 

@@ -19,7 +19,8 @@ using bench::ClockKind;
 class Desktop;
 
 /// The platform without a screen: windows are state only, and whoever operates them does it through their
-/// operations. On the virtual clock a wait takes no time: the clock jumps to the next timer, call or deadline.
+/// operations. On the virtual clock a wait takes no time: the clock jumps to the next timer, call or
+/// deadline.
 ///
 /// Errors of the toolkit are `orvik::HostError`. When the application is destroyed its loaded forms are let
 /// go of without being unloaded.
@@ -32,7 +33,8 @@ class Application final : public orvik::platform::IApplication, public ILoop {
 
   /// Who creates user controls by class identifier; answers empty for one that is not known.
   void SetControlFactory(
-      std::function<std::shared_ptr<orvik::platform::IUserControl>(const std::string& classIdentifier)> factory);
+      std::function<std::shared_ptr<orvik::platform::IUserControl>(const std::string& classIdentifier)>
+          factory);
   /// Raised at every `ProcessMessages` and `WaitMessages`, before it does anything. A wait during which a
   /// handler operated a window comes back at once.
   orvik::platform::Event<>& Pumped();

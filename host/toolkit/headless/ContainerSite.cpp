@@ -69,7 +69,9 @@ void ContainerSite::Hold(std::shared_ptr<platform::IUserControl> object) {
   object_->AttachTo(std::static_pointer_cast<ContainerSite>(shared_from_this()));
 }
 
-platform::Size ContainerSite::NaturalSize() const { return panel_ ? panel_->NaturalSize() : platform::Size{}; }
+platform::Size ContainerSite::NaturalSize() const {
+  return panel_ ? panel_->NaturalSize() : platform::Size{};
+}
 
 void ContainerSite::Stop() {
   if (panel_) panel_->Stop();

@@ -10,7 +10,8 @@ namespace bench::headless {
 std::shared_ptr<platform::IUserControl> Desktop::CreateUserControl(const std::string& classIdentifier) const {
   auto control = factory_ ? factory_(classIdentifier) : nullptr;
   if (!control)
-    Fail(orvik::HostError::kClassNotRegistered, "no control class is registered as \"" + classIdentifier + "\"");
+    Fail(orvik::HostError::kClassNotRegistered,
+         "no control class is registered as \"" + classIdentifier + "\"");
   return control;
 }
 

@@ -179,7 +179,8 @@ void Form::FocusOn(const std::shared_ptr<Control>& control) {
 void Form::MoveFocusOn() { GetDesktop().Forms().UpdateFocus(); }
 
 void Form::NaturalSizeChanged() {
-  if (!sizedByHand_) Panel::SetBounds({Bounds().left, Bounds().top, NaturalSize().width, NaturalSize().height});
+  if (!sizedByHand_)
+    Panel::SetBounds({Bounds().left, Bounds().top, NaturalSize().width, NaturalSize().height});
 }
 
 }  // namespace bench::headless

@@ -29,7 +29,8 @@ std::string FormStack::ShownNames() const {
 void FormStack::EndModal(const Form& form) { Drop(modal_, &form); }
 
 bool FormStack::IsModal(const Form& form) const {
-  return std::any_of(modal_.begin(), modal_.end(), [&](const auto& entry) { return entry.lock().get() == &form; });
+  return std::any_of(modal_.begin(), modal_.end(),
+                     [&](const auto& entry) { return entry.lock().get() == &form; });
 }
 
 bool FormStack::Free(const Form& form) const {

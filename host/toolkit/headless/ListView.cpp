@@ -14,7 +14,8 @@ using orvik::HostError;
 void ListView::AddColumn(const platform::ListColumn& column) {
   for (const auto& other : columns_) {
     if (other.key == column.key)
-      Fail(HostError::kInvalidArgument, "list \"" + Name() + "\" already has a column \"" + column.key + "\"");
+      Fail(HostError::kInvalidArgument,
+           "list \"" + Name() + "\" already has a column \"" + column.key + "\"");
   }
   Apply([&] { columns_.push_back(column); });
 }
@@ -50,7 +51,8 @@ platform::ListCell ListView::Cell(const std::string& rowKey, const std::string& 
   return column < row.cells.size() ? row.cells[column] : platform::ListCell{};
 }
 
-void ListView::SetCell(const std::string& rowKey, const std::string& columnKey, const platform::ListCell& cell) {
+void ListView::SetCell(const std::string& rowKey, const std::string& columnKey,
+                       const platform::ListCell& cell) {
   Row& row = rows_[RowIndex(rowKey)];
   const std::size_t column = ColumnIndex(columnKey);
   if (row.cells.size() <= column) row.cells.resize(column + 1);
@@ -89,8 +91,9 @@ std::size_t ListView::RowIndex(const std::string& rowKey) const {
 }
 
 std::size_t ListView::ColumnIndex(const std::string& columnKey) const {
-  const auto found = std::find_if(columns_.begin(), columns_.end(),
-                                  [&](const platform::ListColumn& column) { return column.key == columnKey; });
+  const auto found = std::find_if(columns_.begin(), columns_.end(), [&](const platform::ListColumn& column) {
+    return column.key == columnKey;
+  });
   if (found == columns_.end())
     Fail(HostError::kSubscriptOutOfRange, "list \"" + Name() + "\" has no column \"" + columnKey + "\"");
   return static_cast<std::size_t>(std::distance(columns_.begin(), found));

@@ -25,7 +25,8 @@ class ListView final : public Control, public virtual platform::IListView {
   std::any RowTag(const std::string& rowKey) const override { return RowAt(rowKey).tag; }
   void SetRowTag(const std::string& rowKey, std::any tag) override;
   platform::ListCell Cell(const std::string& rowKey, const std::string& columnKey) const override;
-  void SetCell(const std::string& rowKey, const std::string& columnKey, const platform::ListCell& cell) override;
+  void SetCell(const std::string& rowKey, const std::string& columnKey,
+               const platform::ListCell& cell) override;
   void EnsureVisible(const std::string& rowKey) override;
   void SelectRow(const std::string& rowKey) override;
   /// Empty when no row is selected.

@@ -35,9 +35,15 @@ std::shared_ptr<platform::ILabel> Panel::AddLabel(const std::string& name) { ret
 std::shared_ptr<platform::IFrame> Panel::AddFrame(const std::string& name) { return Add<Frame>(name); }
 std::shared_ptr<platform::IButton> Panel::AddButton(const std::string& name) { return Add<Button>(name); }
 std::shared_ptr<platform::ITextBox> Panel::AddTextBox(const std::string& name) { return Add<TextBox>(name); }
-std::shared_ptr<platform::IComboBox> Panel::AddComboBox(const std::string& name) { return Add<ComboBox>(name); }
-std::shared_ptr<platform::IListView> Panel::AddListView(const std::string& name) { return Add<ListView>(name); }
-std::shared_ptr<platform::ITreeView> Panel::AddTreeView(const std::string& name) { return Add<TreeView>(name); }
+std::shared_ptr<platform::IComboBox> Panel::AddComboBox(const std::string& name) {
+  return Add<ComboBox>(name);
+}
+std::shared_ptr<platform::IListView> Panel::AddListView(const std::string& name) {
+  return Add<ListView>(name);
+}
+std::shared_ptr<platform::ITreeView> Panel::AddTreeView(const std::string& name) {
+  return Add<TreeView>(name);
+}
 std::shared_ptr<platform::IToolbar> Panel::AddToolbar(const std::string& name) { return Add<Toolbar>(name); }
 std::shared_ptr<platform::IProgressBar> Panel::AddProgressBar(const std::string& name) {
   return Add<ProgressBar>(name);

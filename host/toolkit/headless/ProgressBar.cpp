@@ -6,9 +6,8 @@ namespace bench::headless {
 
 void ProgressBar::SetRange(int minimum, int maximum) {
   if (maximum < minimum)
-    Fail(orvik::HostError::kInvalidArgument,
-         "progress bar \"" + Name() + "\" cannot run from " + std::to_string(minimum) + " to " +
-             std::to_string(maximum));
+    Fail(orvik::HostError::kInvalidArgument, "progress bar \"" + Name() + "\" cannot run from " +
+                                                 std::to_string(minimum) + " to " + std::to_string(maximum));
   minimum_ = minimum;
   maximum_ = maximum;
   SetValue(value_);

@@ -9,7 +9,8 @@
 
 namespace bench::headless {
 
-Timer::Timer(std::shared_ptr<Desktop> desktop, std::string name) : Control(std::move(desktop), std::move(name)) {
+Timer::Timer(std::shared_ptr<Desktop> desktop, std::string name)
+    : Control(std::move(desktop), std::move(name)) {
   enabled_ = false;
 }
 

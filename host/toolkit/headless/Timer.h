@@ -6,8 +6,8 @@
 
 namespace bench::headless {
 
-/// A timer starts disabled, and is disabled when its form is unloaded. One that is behind its time ticks once,
-/// not once for each interval that has passed.
+/// A timer starts disabled, and is disabled when its form is unloaded. One that is behind its time ticks
+/// once, not once for each interval that has passed.
 class Timer final : public Control, public virtual platform::ITimer {
  public:
   Timer(std::shared_ptr<Desktop> desktop, std::string name);

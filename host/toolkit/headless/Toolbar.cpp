@@ -87,8 +87,8 @@ platform::Size Toolbar::NaturalSize() const {
 }
 
 const Toolbar::Item* Toolbar::Find(int command) const {
-  const auto found =
-      std::find_if(items_.begin(), items_.end(), [command](const Item& item) { return item.command == command; });
+  const auto found = std::find_if(items_.begin(), items_.end(),
+                                  [command](const Item& item) { return item.command == command; });
   return found == items_.end() ? nullptr : &*found;
 }
 

@@ -1,0 +1,133 @@
+#include "host/standards/Limit.h"
+
+#include <cmath>
+
+#include "OrvikTypeLib/Conversions.h"
+#include "OrvikTypeLib/HostError.h"
+#include "host/services/Text.h"
+#include "host/services/XmlNode.h"
+
+namespace bench {
+namespace {
+
+using orvik::HostError;
+
+constexpr char kSource[] = "OrvikTypeLib.Limit";
+constexpr char kKey[] = "Key";
+constexpr char kUnit[] = "Unit";
+constexpr char kLow[] = "Low";
+constexpr char kHigh[] = "High";
+constexpr char kNominal[] = "Nominal";
+
+[[noreturn]] void Refuse(const std::string& reason) {
+  throw HostError(HostError::kInvalidArgument, kSource, reason);
+}
+
+}  // namespace
+
+void Limit::ILimit_Initialize(const std::string& sKey, const std::string& sUnit, const std::string& sLow,
+                              const std::string& sHigh) {
+  ILimit_SetBounds(sLow, sHigh);
+  key_ = sKey;
+  unit_ = sUnit;
+}
+
+std::optional<Limit::Bound> Limit::Parsed(const std::string& text) {
+  auto number = orvik::Trim(text);
+  if (number.empty()) return {};
+  const bool percent = number.back() == '%';
+  if (percent) number.pop_back();
+  const auto value = FiniteNumber(number);
+  if (!value)
+    Refuse("the bound \"" + text +
+           "\" is not a number; write for example 0.3 (with a point), or 110% of the nominal value");
+  return Bound{*value, percent};
+}
+
+void Limit::Check(const std::optional<Bound>& low, const std::optional<Bound>& high,
+                  std::optional<double> nominal) {
+  if (!nominal && ((low && low->percent) || (high && high->percent)))
+    Refuse("a bound in percent needs a nominal value, and the limit has none; enter the bound in its unit");
+  if (low && high && low->Resolved(nominal) > high->Resolved(nominal))
+    Refuse("the lower bound lies above the upper one; exchange them");
+}
+
+void Limit::ILimit_SetBounds(const std::string& sLow, const std::string& sHigh) {
+  const auto low = Parsed(sLow);
+  const auto high = Parsed(sHigh);
+  Check(low, high, nominal_);
+  low_ = low;
+  high_ = high;
+  lowText_ = orvik::Trim(sLow);
+  highText_ = orvik::Trim(sHigh);
+}
+
+orvik::Variant Limit::ILimit_Nominal() const {
+  return nominal_ ? orvik::Variant(*nominal_) : orvik::Variant();
+}
+
+void Limit::ILimit_SetNominal(const orvik::Variant& vNominal) {
+  std::optional<double> nominal;
+  if (const auto* number = std::get_if<double>(&vNominal)) nominal = *number;
+  if (const auto* whole = std::get_if<std::int32_t>(&vNominal)) nominal = *whole;
+  if (!nominal && !orvik::IsEmpty(vNominal))
+    throw HostError(HostError::kTypeMismatch, kSource, "a nominal value is a number");
+  if (nominal && !std::isfinite(*nominal)) Refuse("a nominal value is a finite number");
+  Check(low_, high_, nominal);
+  nominal_ = nominal;
+}
+
+std::optional<double> Limit::Resolved(const std::optional<Bound>& bound) const {
+  if (!bound) return {};
+  return bound->Resolved(nominal_);
+}
+
+int Limit::Evaluate(float value, std::optional<double> nominal) const {
+  if (!low_ && !high_) return 0;
+  if (!std::isfinite(value)) return 2;
+  const auto reference = nominal ? nominal : nominal_;
+  // The value comes in single precision: a bound is brought to the same, or 0.3 would break the bound 0.3.
+  const auto bound = [&](const Bound& entered) { return static_cast<float>(entered.Resolved(reference)); };
+  if (low_ && !(value >= bound(*low_))) return 2;
+  if (high_ && !(value <= bound(*high_))) return 2;
+  return 1;
+}
+
+std::shared_ptr<Limit> Limit::Copy() const {
+  auto copy = std::make_shared<Limit>();
+  copy->key_ = key_;
+  copy->unit_ = unit_;
+  copy->lowText_ = lowText_;
+  copy->highText_ = highText_;
+  copy->low_ = low_;
+  copy->high_ = high_;
+  copy->nominal_ = nominal_;
+  copy->leftovers_ = leftovers_;
+  return copy;
+}
+
+void Limit::Load(pugi::xml_node node) {
+  try {
+    key_ = node.attribute(kKey).value();
+    unit_ = node.attribute(kUnit).value();
+    const std::string nominal = node.attribute(kNominal).value();
+    if (!nominal.empty() && !FiniteNumber(nominal)) Refuse("the nominal value \"" + nominal + "\" is no number");
+    nominal_ = FiniteNumber(nominal);
+    ILimit_SetBounds(node.attribute(kLow).value(), node.attribute(kHigh).value());
+  } catch (const HostError& error) {
+    throw XmlError(node, error.Description());
+  }
+  leftovers_.Take(node, {kKey, kUnit, kLow, kHigh, kNominal}, {});
+}
+
+void Limit::Save(pugi::xml_node parent) const {
+  const auto node = parent.append_child("Limit");
+  xml::SetAttribute(node, kKey, key_);
+  xml::SetAttribute(node, kUnit, unit_);
+  if (low_) xml::SetAttribute(node, kLow, lowText_);
+  if (high_) xml::SetAttribute(node, kHigh, highText_);
+  if (nominal_) xml::SetAttribute(node, kNominal, ExactNumberText(*nominal_));
+  leftovers_.Restore(node);
+}
+
+}  // namespace bench

@@ -1,0 +1,88 @@
+#include "host/standards/Standard.h"
+
+#include <algorithm>
+
+#include "OrvikTypeLib/As.h"
+#include "OrvikTypeLib/Conversions.h"
+#include "host/services/XmlNode.h"
+#include "host/standards/Limit.h"
+
+namespace bench {
+namespace {
+
+using orvik::HostError;
+
+constexpr char kSource[] = "OrvikTypeLib.Standard";
+constexpr char kName[] = "Name";
+constexpr char kDescription[] = "Description";
+constexpr char kNumber[] = "Number";
+constexpr char kLimit[] = "Limit";
+
+}  // namespace
+
+void Standard::IStandard_Initialize(const std::string& sName, const std::string& sDescription,
+                                    std::int32_t lNumber) {
+  name_ = sName;
+  description_ = sDescription;
+  number_ = lNumber;
+}
+
+std::shared_ptr<orvik::ILimit> Standard::IStandard_Limit(std::int32_t lIndex) const {
+  if (lIndex < 1 || static_cast<std::size_t>(lIndex) > limits_.size())
+    throw HostError(HostError::kSubscriptOutOfRange, kSource,
+                    "there is no limit " + std::to_string(lIndex) + " of " + std::to_string(limits_.size()));
+  return limits_[static_cast<std::size_t>(lIndex) - 1];
+}
+
+void Standard::IStandard_AddLimit(std::shared_ptr<orvik::ILimit> Limit) {
+  auto limit = orvik::As<bench::Limit>(Limit);
+  if (!limit)
+    throw HostError(HostError::kTypeMismatch, kSource,
+                    "only a limit of the class \"OrvikTypeLib.Limit\" can be added");
+  limits_.push_back(std::move(limit));
+}
+
+std::int32_t Standard::IStandard_Evaluate(float rValue, const std::string& sKey,
+                                          const orvik::Variant& vNominal) const {
+  std::optional<double> nominal;
+  if (!orvik::IsEmpty(vNominal)) nominal = orvik::NumericValue(vNominal);
+  int worst = 0;
+  for (const auto& limit : limits_) {
+    if (limit->Key() == sKey) worst = std::max(worst, limit->Evaluate(rValue, nominal));
+  }
+  return worst;
+}
+
+std::shared_ptr<Standard> Standard::Copy() const {
+  auto copy = std::make_shared<Standard>();
+  copy->name_ = name_;
+  copy->description_ = description_;
+  copy->number_ = number_;
+  for (const auto& limit : limits_) copy->limits_.push_back(limit->Copy());
+  copy->leftovers_ = leftovers_;
+  return copy;
+}
+
+void Standard::Load(pugi::xml_node node) {
+  name_ = node.attribute(kName).value();
+  description_ = node.attribute(kDescription).value();
+  number_ = node.attribute(kNumber) ? xml::NumberAttribute(node, kNumber) : 1;
+  limits_.clear();
+  for (const auto child : node.children(kLimit)) {
+    const auto limit = std::make_shared<bench::Limit>();
+    limit->Load(child);
+    limits_.push_back(limit);
+  }
+  leftovers_.Take(node, {kName, kDescription, kNumber}, {kLimit});
+}
+
+void Standard::Save(pugi::xml_node parent) const {
+  const auto node = parent.append_child("Standard");
+  xml::SetAttribute(node, kName, name_);
+  xml::SetAttribute(node, kDescription, description_);
+  xml::SetAttribute(node, kNumber, std::to_string(number_));
+  for (const auto& limit : limits_) limit->Save(node);
+  leftovers_.Restore(node);
+}
+
+}  // namespace bench

@@ -1,0 +1,105 @@
+#include "plugin/XKELDSeqConfiguration.h"
+
+#include <gtest/gtest.h>
+
+#include "model/CKELDSequence.h"
+#include "tests/plugin/ConfigurationDialog.h"
+#include "tests/plugin/Recorders.h"
+#include "tests/support/HostOnly.h"
+
+namespace {
+
+using Dialog = support::ConfigurationDialog<keld::CKELDSequence>;
+using Texts = std::vector<std::string>;
+
+class SequenceConfigurationControl : public testing::Test {
+ protected:
+  support::HostOnly bench_;
+};
+
+TEST_F(SequenceConfigurationControl, ShowsTheFourFiltersInOrder) {
+  Dialog open(600);
+  EXPECT_EQ(open.control->ClassID(), "orvikKELD.XKELDSeqConfiguration");
+  EXPECT_EQ(open.list->Items(), (Texts{"No values", "All values", "Maximum value", "Minimum value"}));
+  EXPECT_EQ(open.control->GetControl("lblAssign")->Caption(), "Values of the tests in the group:");
+  EXPECT_EQ(open.control->GetControl("lblGeneralSettings")->Caption(), "General settings:");
+  EXPECT_EQ(open.control->GetControl("cmbAssign"), open.site->Panel()->Find("cmbAssign"));
+}
+
+TEST_F(SequenceConfigurationControl, KeepsTheFilterThatIsChosen) {
+  Dialog open(600, 3, 1);
+  for (const int index : {3, 0, 2, 1}) {
+    open.list->Choose(index);
+    EXPECT_EQ(open.configuration->ValueFilter(), index + 1);
+  }
+}
+
+TEST_F(SequenceConfigurationControl, KeepsCode0WhenNothingIsSelected) {
+  Dialog open(600, 3, 3);
+  open.list->SetSelectedIndex(-1);
+  EXPECT_EQ(open.configuration->ValueFilter(), 0);
+}
+
+TEST_F(SequenceConfigurationControl, TellsTheCallBackOfAnotherFilter) {
+  Dialog open(600);
+  const auto callBack = std::make_shared<recorders::CallBack>();
+  open.dialog->SetCallBack(callBack);
+  open.list->Choose(2);
+  EXPECT_EQ(callBack->notices, Texts{"Change"});
+  open.dialog->SetCallBack(nullptr);
+  EXPECT_NO_THROW(open.list->Choose(1));
+  EXPECT_EQ(callBack->notices.size(), 1U);
+  EXPECT_EQ(open.configuration->ValueFilter(), 2);
+}
+
+TEST_F(SequenceConfigurationControl, OffersTheTwoButtonsAndTellsOfThem) {
+  Dialog open(100);
+  EXPECT_EQ(open.tree->NodeKeys(), (Texts{"NA key", "Skip key"}));
+  const auto callBack = std::make_shared<recorders::CallBack>();
+  open.dialog->SetCallBack(callBack);
+  open.tree->ClickNode("NA key");
+  EXPECT_EQ(open.configuration->Options(), 2);
+  open.tree->ClickNode("Skip key");
+  EXPECT_EQ(open.configuration->Options(), 0);
+  EXPECT_EQ(callBack->notices, (Texts{"Change", "Change"}));
+}
+
+TEST_F(SequenceConfigurationControl, ChangesNoLeadBitsOfASequence) {
+  // 66700 narrowed to 16 bits is 1164: the only kind of sequence that shows leads.
+  Dialog open(66700);
+  ASSERT_TRUE(open.tree->HasNode("Lead 1 key"));
+  open.tree->ClickNode("Lead 1 key");
+  EXPECT_EQ(open.configuration->Options(), 3);
+}
+
+TEST_F(SequenceConfigurationControl, AnswersNoChoiceWhileItIsLocked) {
+  Dialog open(600);
+  open.dialog->SetLocked(true);
+  EXPECT_TRUE(open.dialog->Locked());
+  open.list->Choose(3);
+  open.tree->ClickNode("NA key");
+  EXPECT_EQ(open.configuration->ValueFilter(), 1);
+  EXPECT_EQ(open.configuration->Options(), 3);
+  open.dialog->SetLocked(false);
+  open.list->Choose(3);
+  EXPECT_EQ(open.configuration->ValueFilter(), 4);
+}
+
+TEST_F(SequenceConfigurationControl, DoesNothingWithoutAConfiguration) {
+  Dialog open(600);
+  open.control->SetOwner(nullptr);
+  EXPECT_NO_THROW(open.list->Choose(3));
+  EXPECT_EQ(open.configuration->ValueFilter(), 1);
+}
+
+TEST_F(SequenceConfigurationControl, StretchesTheTreeAndKeepsTheListsHeight) {
+  Dialog open(600);
+  const auto tree = open.tree->Bounds();
+  const auto list = open.list->Bounds();
+  const auto inner = open.form->InnerSize();
+  open.form->Resize({inner.width, inner.height + 3000});
+  EXPECT_EQ(open.tree->Bounds().height, tree.height + 3000);
+  EXPECT_EQ(open.list->Bounds().height, list.height);
+}
+
+}  // namespace

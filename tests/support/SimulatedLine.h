@@ -1,0 +1,83 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "host/loop/ILoop.h"
+#include "host/serial/LineReader.h"
+#include "host/serial/MemoryTransport.h"
+#include "tester/Tester.h"
+
+namespace support {
+
+/// The far end of a line in memory: the simulated tester, or a script of the test in its place, on the clock
+/// of a loop.
+class SimulatedLine {
+ public:
+  /// Hears each command line in the tester's place, without its end.
+  using Script = std::function<void(const std::string& command)>;
+
+  SimulatedLine(std::shared_ptr<bench::ILoop> loop, sim::Profile profile)
+      : loop_(std::move(loop)), tester_(std::move(profile)) {
+    heard_ = line_->Sent().Subscribe([this](std::string_view bytes) { Hear(bytes); });
+  }
+  SimulatedLine(const SimulatedLine&) = delete;
+  SimulatedLine& operator=(const SimulatedLine&) = delete;
+  ~SimulatedLine() { loop_->Forget(call_); }
+
+  const std::shared_ptr<bench::MemoryLine>& Line() const { return line_; }
+  sim::Tester& Tester() { return tester_; }
+
+  /// Puts a script in the tester's place; empty gives the tester the line again.
+  void AnswerBy(Script script) { script_ = std::move(script); }
+  /// Sends a line, with its end, to the host; after the delay.
+  void Reply(const std::string& line, std::chrono::microseconds delay = {}) {
+    SendBytes(line + "\r\n", delay);
+  }
+  /// Sends bytes as they are.
+  void SendBytes(const std::string& bytes, std::chrono::microseconds delay = {}) {
+    if (delay <= std::chrono::microseconds::zero())
+      line_->Deliver(bytes);
+    else
+      loop_->CallAt(loop_->Now() + delay, [line = line_, bytes] { line->Deliver(bytes); });
+  }
+  /// Pulls the cable. The port that is open fails; a later one can be opened.
+  void Unplug() { line_->Unplug(); }
+
+ private:
+  void Hear(std::string_view bytes) {
+    if (!script_) {
+      tester_.Receive(bytes, loop_->Now());
+      Schedule();
+      return;
+    }
+    const auto script = script_;
+    reader_.Feed(bytes, [&](std::string_view line, bool) { script(std::string(line)); });
+  }
+
+  void Schedule() {
+    loop_->Forget(call_);
+    if (const auto due = tester_.NextDue()) call_ = loop_->CallAt(*due, [this] { SendDue(); });
+  }
+
+  void SendDue() {
+    while (const auto output = tester_.TakeDue(loop_->Now())) {
+      if (!output->bytes.empty()) line_->Deliver(output->bytes);
+      if (output->hangUp) line_->Unplug();
+    }
+    Schedule();
+  }
+
+  const std::shared_ptr<bench::ILoop> loop_;
+  const std::shared_ptr<bench::MemoryLine> line_ = std::make_shared<bench::MemoryLine>();
+  sim::Tester tester_;
+  Script script_;
+  bench::LineReader reader_;
+  bench::ILoop::Id call_ = 0;
+  orvik::platform::Subscription heard_;
+};
+
+}  // namespace support
