@@ -1,7 +1,7 @@
-# A compiler cache, when there is one. Precompiled headers can be cached once their time stamps are left aside; the
-# compiler sees to it that one fits.
+# A compiler cache, when there is one. What uses a precompiled header can be cached when the preprocessor leaves a mark of
+# it and the cache takes it by content; CMakePresets.json sets CCACHE_SLOPPINESS for that.
 find_program(CCACHE ccache)
 if(CCACHE)
-  set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros ${CCACHE})
-  add_compile_options($<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
+  set(PRECOMPILED_HEADER_OPTIONS $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)
 endif()

@@ -14,7 +14,7 @@ set(sources)
 foreach(header IN LISTS headers)
   string(MAKE_C_IDENTIFIER ${header} name)
   set(source ${CMAKE_BINARY_DIR}/headers-compile-alone/${name}.cpp)
-  file(CONFIGURE OUTPUT ${source} CONTENT "#include \"${header}\"\n")
+  file(GENERATE OUTPUT ${source} CONTENT "#include \"${header}\"\n")
   list(APPEND sources ${source})
 endforeach()
 

@@ -14,8 +14,8 @@ PlugInLibrary::PlugInLibrary(const std::filesystem::path& file, const std::share
   if (!handle_) Refuse(dlerror());
   const auto version = Find<orvik::ContractVersionEntry>(orvik::kContractVersionEntry)();
   if (version != orvik::kContractVersion)
-    Refuse("it was built for version " + std::to_string(version) + " of the contract, and this program is for " +
-           std::to_string(orvik::kContractVersion));
+    Refuse("it was built for version " + std::to_string(version) +
+           " of the contract, and this program is for " + std::to_string(orvik::kContractVersion));
   const auto open = Find<orvik::OpenLibraryEntry>(orvik::kOpenLibraryEntry);
   close_ = Find<orvik::CloseLibraryEntry>(orvik::kCloseLibraryEntry);
   open(host, classes_);

@@ -21,8 +21,8 @@ namespace {
 constexpr std::int16_t kPauseMilliseconds = 3500;
 constexpr std::int16_t kReplyMilliseconds = 2000;
 constexpr int kMaxAttempts = 3;
-/// The clock ends every wait; the pump needs a deadline all the same.
-constexpr std::chrono::hours kFarAway{1};
+/// The clock ends every wait; the pump is given a deadline that no pulse is beyond.
+constexpr std::chrono::milliseconds kBeyondPulse{kPauseMilliseconds};
 
 }  // namespace
 
@@ -99,7 +99,7 @@ void CKELDInstrument::WaitForMessage(std::int32_t& lWaiting, bool& fOpen) {
 
 bool CKELDInstrument::Pump() {
   // A clock that stands still, or a pump that fails, would be waited for in vain: the wait is over then.
-  return mfrmClock->Running() && Attempt([&] { Application->WaitMessages(Application->Now() + kFarAway); });
+  return mfrmClock->Running() && Attempt([&] { Application->WaitMessages(Application->Now() + kBeyondPulse); });
 }
 
 void CKELDInstrument::StartClock(std::int16_t iMilliseconds) {

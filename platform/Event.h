@@ -34,8 +34,8 @@ class Event {
 
   /// The handler runs until the subscription is let go.
   Subscription Subscribe(Handler handler) {
-    auto slot = std::make_shared<Handler>(std::move(handler));
-    std::erase_if(slots_, [](const std::weak_ptr<Handler>& ended) { return ended.expired(); });
+    auto slot = std::make_shared<Slot>(std::make_shared<Handler>(std::move(handler)));
+    std::erase_if(slots_, [](const std::weak_ptr<Slot>& ended) { return ended.expired(); });
     slots_.push_back(slot);
     return Subscription(std::move(slot));
   }
@@ -44,12 +44,19 @@ class Event {
   void Raise(Args... args) const {
     const auto slots = slots_;
     for (const auto& slot : slots) {
-      if (const auto handler = slot.lock()) (*handler)(args...);
+      // The handler alone is held while it runs: once it ends its subscription, a nested raise passes it
+      // over.
+      Slot handler;
+      if (const auto subscribed = slot.lock()) handler = *subscribed;
+      if (handler) (*handler)(args...);
     }
   }
 
  private:
-  std::vector<std::weak_ptr<Handler>> slots_;
+  /// Owned by the subscription alone.
+  using Slot = std::shared_ptr<Handler>;
+
+  std::vector<std::weak_ptr<Slot>> slots_;
 };
 
 }  // namespace orvik::platform

@@ -13,8 +13,7 @@ std::string ElementName(const orvik::ITestElement& iteElement) {
   if (!pasInfo) return {};
   std::string sName;
   for (const std::string& sPart : *pasInfo) {
-    const bool fLanguageString = sPart.find("::") != std::string::npos;
-    const std::string sText = fLanguageString ? MKELDGlobalVars::Translated(sPart) : sPart;
+    const std::string sText = MKELDGlobalVars::Translated(sPart);
     if (!sName.empty() && !sText.empty()) sName += ' ';
     sName += sText;
   }

@@ -9,7 +9,6 @@
 #include "OrvikTypeLib/ITestElement.h"
 #include "OrvikTypeLib/ITgContentPane.h"
 #include "OrvikTypeLib/ITgToolbar.h"
-#include "instrument/XKELDData.h"
 #include "model/IKELDTest.h"
 #include "platform/IForm.h"
 #include "plugin/Attempt.h"
@@ -97,10 +96,7 @@ void FTestGuide::Refresh() {
   Required(mWindow.Form).Refresh();
 }
 
-void FTestGuide::RefreshInstrumentData() {
-  if (mWindow.InstrumentData) mWindow.InstrumentData->Refresh();
-  Required(mWindow.xstShowMTI).Refresh();
-}
+void FTestGuide::RefreshInstrumentData() { Required(mWindow.xstShowMTI).Refresh(); }
 
 void FTestGuide::ShowResult(std::shared_ptr<orvik::ITestElement> iteElement) {
   Required(mWindow.xrvResultView).ShowResult(iteElement);

@@ -57,6 +57,8 @@ void FYesNoPrompt::Load() {
   MKELDGlobalVars::LanguageService()->TranslateControls(MKELDConstants::kModule, mForm);
   fActivated = false;
   mForm->Load();
+  // Return or the space bar alone must not give consent.
+  cmdDecline->SetFocus();
   mYesNoStatusChanged.Raise(kStatusLoaded, Self);
 }
 

@@ -8,7 +8,6 @@
 #include "OrvikTypeLib/HostClasses.h"
 #include "OrvikTypeLib/ITgContentPane.h"
 #include "OrvikTypeLib/ITgToolbar.h"
-#include "instrument/XKELDData.h"
 #include "platform/IContainerSite.h"
 #include "platform/IForm.h"
 #include "platform/IUserControl.h"
@@ -71,9 +70,8 @@ void TestGuideWindow::Build() {
   xstShowMTI =
       AddControl<orvik::ITgContentPane>(Window, orvik::HostClasses::kContentPane, kInstrumentPaneName);
   Window.SetGrid(Layout());
-  InstrumentData = As<XKELDData>(
-      xstShowMTI->AddTab(kInstrumentTab, MKELDGlobalVars::Translated(MKELDLanguageConstants::kMtiData),
-                         InstrumentPicture(), ClassIdentifiers::kDataControl));
+  xstShowMTI->AddTab(kInstrumentTab, MKELDGlobalVars::Translated(MKELDLanguageConstants::kMtiData),
+                     InstrumentPicture(), ClassIdentifiers::kDataControl);
 }
 
 }  // namespace keld

@@ -13,7 +13,6 @@ class IForm;
 
 namespace keld {
 
-class XKELDData;
 class XKELDResultView;
 
 /// Command numbers of the guide's toolbar.
@@ -36,8 +35,6 @@ struct TestGuideWindow {
   std::shared_ptr<XKELDResultView> xrvResultView;
   std::shared_ptr<orvik::ITgContentPane> xtwWizard;
   std::shared_ptr<orvik::ITgContentPane> xstShowMTI;
-  /// The control on the instrument data pane's tab.
-  std::shared_ptr<XKELDData> InstrumentData;
 
   /// Puts the controls on the form and places them. `HostError` when the host has no such control.
   void Build();

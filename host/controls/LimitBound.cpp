@@ -1,8 +1,6 @@
 #include "host/controls/LimitBound.h"
 
 #include <algorithm>
-#include <charconv>
-#include <cmath>
 
 #include "OrvikTypeLib/Conversions.h"
 
@@ -20,6 +18,12 @@ std::string JoinBound(const LimitBound& bound) {
   return text;
 }
 
+std::string BoundWithUnit(std::string_view text, const std::string& unit) {
+  const LimitBound bound = SplitBound(text, unit);
+  if (bound.number.empty() || bound.unit.empty()) return bound.number;
+  return bound.number + " " + bound.unit;
+}
+
 std::vector<std::string> UsableUnits(std::string_view allowed, const std::string& unit) {
   std::vector<std::string> usable{unit};
   while (true) {
@@ -29,16 +33,6 @@ std::vector<std::string> UsableUnits(std::string_view allowed, const std::string
     if (end == std::string_view::npos) return usable;
     allowed.remove_prefix(end + 1);
   }
-}
-
-std::optional<double> WholeNumber(std::string_view text) {
-  const std::string trimmed = orvik::Trim(text);
-  double value = 0;
-  const char* const end = trimmed.data() + trimmed.size();
-  const auto result = std::from_chars(trimmed.data(), end, value);
-  // "inf" and "nan" would be read too.
-  if (result.ec != std::errc{} || result.ptr != end || !std::isfinite(value)) return std::nullopt;
-  return value;
 }
 
 }  // namespace bench

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -18,10 +17,10 @@ LimitBound SplitBound(std::string_view text, const std::string& unit);
 /// The bound text of an entry; empty when no number was entered.
 std::string JoinBound(const LimitBound& bound);
 
+/// A limit's bound text as people read it, with its unit; empty when there is no bound.
+std::string BoundWithUnit(std::string_view text, const std::string& unit);
+
 /// Those of the allowed units (separated by ";") that a bound can be kept in: the limit's unit and "%".
 std::vector<std::string> UsableUnits(std::string_view allowed, const std::string& unit);
-
-/// The number that the whole text is, blanks around it aside; empty when it is none.
-std::optional<double> WholeNumber(std::string_view text);
 
 }  // namespace bench

@@ -1,7 +1,5 @@
 #include "host/controls/XLimitView.h"
 
-#include <algorithm>
-
 #include "OrvikTypeLib/As.h"
 #include "OrvikTypeLib/Conversions.h"
 #include "OrvikTypeLib/HostClasses.h"
@@ -9,27 +7,34 @@
 #include "OrvikTypeLib/IStandardColl.h"
 #include "host/controls/ControlTexts.h"
 #include "host/controls/LimitBound.h"
+#include "host/services/Text.h"
 
 namespace bench {
 namespace {
 
 using orvik::Required;
 
-void ShowBound(const LimitBound& bound, orvik::platform::ITextBox& number, orvik::platform::IComboBox& unit) {
+void ShowBound(const LimitBound& bound, const std::vector<std::string>& units,
+               orvik::platform::ITextBox& number, orvik::platform::IComboBox& unit) {
   number.SetText(bound.number);
-  unit.SetSelectedIndex(-1);
+  unit.ClearItems();
+  for (const auto& item : units) unit.AddItem(item);
   unit.SetText(bound.unit);
 }
 
-/// Stores all or nothing: what a bound refuses leaves the nominal value too.
+/// Stores all or nothing. The old bounds go first: they need not fit the new nominal value.
 void StoreBounds(orvik::ILimit& limit, const orvik::Variant& nominal, const std::string& low,
                  const std::string& high) {
   const orvik::Variant nominalBefore = limit.Nominal();
+  const std::string lowBefore = limit.LowText();
+  const std::string highBefore = limit.HighText();
+  limit.SetBounds("", "");
   try {
     limit.SetNominal(nominal);
     limit.SetBounds(low, high);
   } catch (const orvik::HostError&) {
     limit.SetNominal(nominalBefore);
+    limit.SetBounds(lowBefore, highBefore);
     throw;
   }
 }
@@ -41,7 +46,7 @@ std::string XLimitView::IObject_ClassID() const { return orvik::HostClasses::kLi
 void XLimitView::Build(orvik::platform::IPanel& panel) {
   controls_ = LimitViewControls::Build(panel, [this](const std::string& text) { return Text(text); });
   ListenToControls();
-  FillUnits();
+  ShowBounds();
   controls_.SetLocked(locked_);
 }
 
@@ -65,9 +70,8 @@ void XLimitView::ICustomControl_SetCallBack(std::shared_ptr<orvik::ICallBack> Ca
 orvik::WindowHandle XLimitView::ICustomControl_hWnd() const { return Required(Site()->Panel()).Handle(); }
 
 void XLimitView::ICustomControl_SetLocked(bool fLocked) {
-  Required(controls_.lvwLimits);
   locked_ = fLocked;
-  controls_.SetLocked(fLocked);
+  if (controls_.lvwLimits) controls_.SetLocked(fLocked);
 }
 
 bool XLimitView::ICustomControl_Visible() const {
@@ -83,10 +87,12 @@ void XLimitView::ICustomControl_Initialize(std::shared_ptr<orvik::IObject> Data,
   data_ = orvik::As<orvik::ILimitData>(Data);
   shownRow_.clear();
   FillList();
+  ShowBounds();
 }
 
 void XLimitView::ICustomControl_Refresh() {
   FillList();
+  if (!pending_) ShowBounds();
   Required(Site()->Panel()).Refresh();
 }
 
@@ -98,17 +104,8 @@ void XLimitView::ILimitView_InitializeView(const std::string& sKey, const std::s
   key_ = sKey;
   unit_ = sUnit;
   allowedUnits_ = sAllowedUnits;
-  FillUnits();
   FillList();
-}
-
-void XLimitView::FillUnits() {
-  showing_ = true;
-  for (const auto& box : {controls_.cboLowUnit, controls_.cboHighUnit}) {
-    box->ClearItems();
-    for (const auto& unit : UsableUnits(allowedUnits_, unit_)) box->AddItem(unit);
-  }
-  showing_ = false;
+  ShowBounds();
 }
 
 void XLimitView::FillList() {
@@ -124,7 +121,8 @@ void XLimitView::FillList() {
   }
   shownRow_ = list.HasRow(shown) ? shown : count > 0 ? "1" : "";
   if (!shownRow_.empty()) list.SelectRow(shownRow_);
-  ShowBounds();
+  // An entry that belongs to a standard that is gone has no place to be stored in.
+  if (shownRow_ != shown) pending_ = false;
 }
 
 void XLimitView::FillRow(const std::string& row) {
@@ -137,15 +135,19 @@ void XLimitView::FillRow(const std::string& row) {
   };
   set(LimitColumns::kStandard, standard->Name());
   set(LimitColumns::kDescription, standard->Description());
-  set(LimitColumns::kLow, limit ? limit->LowText() : "");
-  set(LimitColumns::kHigh, limit ? limit->HighText() : "");
+  set(LimitColumns::kLow, limit ? BoundWithUnit(limit->LowText(), limit->Unit()) : "");
+  set(LimitColumns::kHigh, limit ? BoundWithUnit(limit->HighText(), limit->Unit()) : "");
 }
 
 void XLimitView::ShowBounds() {
   const auto limit = LimitOf(shownRow_);
+  // The limit's own unit counts: what the view was told may have changed since the bounds were entered.
+  const std::string unit = limit ? limit->Unit() : unit_;
+  const auto units = UsableUnits(allowedUnits_, unit);
   showing_ = true;
-  ShowBound(SplitBound(limit ? limit->LowText() : "", unit_), *controls_.txtLow, *controls_.cboLowUnit);
-  ShowBound(SplitBound(limit ? limit->HighText() : "", unit_), *controls_.txtHigh, *controls_.cboHighUnit);
+  ShowBound(SplitBound(limit ? limit->LowText() : "", unit), units, *controls_.txtLow, *controls_.cboLowUnit);
+  ShowBound(SplitBound(limit ? limit->HighText() : "", unit), units, *controls_.txtHigh,
+            *controls_.cboHighUnit);
   controls_.txtNominal->SetText(limit ? orvik::TextOf(limit->Nominal()) : "");
   showing_ = false;
   pending_ = false;
@@ -182,11 +184,13 @@ bool XLimitView::Store() {
   const auto limit = LimitOf(shownRow_);
   if (!limit) return refuse(Text(ControlTexts::kNoLimit));
 
-  orvik::Variant nominal;
-  if (!orvik::Trim(controls_.txtNominal->Text()).empty()) {
-    const auto number = WholeNumber(controls_.txtNominal->Text());
-    if (!number) return refuse(Text(ControlTexts::kNominalWrong));
-    nominal = *number;
+  // A number that was only shown keeps the digits that are not on the screen.
+  orvik::Variant nominal = limit->Nominal();
+  const std::string nominalText = orvik::Trim(controls_.txtNominal->Text());
+  if (nominalText != orvik::TextOf(nominal)) {
+    const auto number = FiniteNumber(nominalText);
+    if (!number && !nominalText.empty()) return refuse(Text(ControlTexts::kNominalWrong));
+    nominal = number ? orvik::Variant(*number) : orvik::Variant();
   }
   try {
     StoreBounds(*limit, nominal, JoinBound({controls_.txtLow->Text(), controls_.cboLowUnit->Text()}),
@@ -218,6 +222,7 @@ void XLimitView::AddStandard() {
   const auto grown = data_->Standards();
   shownRow_ = std::to_string(grown ? grown->Count() : 0);
   FillList();
+  ShowBounds();
   NotifyChange();
 }
 
@@ -227,6 +232,7 @@ void XLimitView::RemoveStandard() {
   if (!standard) return ShowMessage(Text(ControlTexts::kNothingSelected));
   data_->Standards()->Remove(standard);
   FillList();
+  ShowBounds();
   NotifyChange();
 }
 

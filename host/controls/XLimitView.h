@@ -43,7 +43,6 @@ class XLimitView final : public virtual orvik::ILimitView, public HostControl {
 
   void Build(orvik::platform::IPanel& panel) override;
   void ListenToControls();
-  void FillUnits();
   void FillList();
   void FillRow(const std::string& row);
   void ShowBounds();

@@ -16,8 +16,8 @@
 
 namespace bench {
 
-/// What happened inside an element while a plug-in's element, which ignores errors step by step, stood between
-/// it and the document. The document looks here, so that nothing is lost in silence.
+/// What happened inside an element while a plug-in's element, which ignores errors step by step, stood
+/// between it and the document. The document looks here, so that nothing is lost in silence.
 class Problems {
  public:
   struct Problem {
@@ -82,7 +82,8 @@ class ElementFactory {
 
   Classes classes_;
   std::vector<std::shared_ptr<orvik::IPlugIn>> plugIns_;
-  /// Childless copies of catalogue entries by plug-in and test; empty for a test that is not in the catalogue.
+  /// Childless copies of catalogue entries by plug-in and test; empty for a test that is not in the
+  /// catalogue.
   std::map<std::pair<std::string, std::int32_t>, std::shared_ptr<orvik::ITestElement>> prototypes_;
   std::unordered_map<const orvik::ITestElement*, std::weak_ptr<orvik::IBaseElement>> bases_;
   Problems problems_;

@@ -77,9 +77,9 @@ std::int32_t TestContainer::ITestContainer_Count() const {
 
 std::shared_ptr<orvik::ITestElement> TestContainer::ITestContainer_item(std::int32_t lIndex) const {
   if (lIndex < 1 || static_cast<std::size_t>(lIndex) > children_->Size())
-    throw HostError(HostError::kSubscriptOutOfRange, kSource,
-                    "there is no element " + std::to_string(lIndex) + " of " +
-                        std::to_string(children_->Size()));
+    throw HostError(
+        HostError::kSubscriptOutOfRange, kSource,
+        "there is no element " + std::to_string(lIndex) + " of " + std::to_string(children_->Size()));
   return children_->At(static_cast<std::size_t>(lIndex) - 1);
 }
 
@@ -136,6 +136,12 @@ void TestContainer::SaveChildren(const std::shared_ptr<orvik::IXmlNode>& node) c
 void TestContainer::ClearChildren() {
   for (std::size_t index = 0; index < children_->Size(); ++index) children_->At(index)->SetParent(nullptr);
   children_->Clear();
+}
+
+void TestContainer::LoadChildren(const std::shared_ptr<orvik::IXmlNode>& node) {
+  for (auto part = orvik::Required(node).FirstChild(); part; part = part->NextSibling()) {
+    if (part->Name() == tags::kTestElement) LoadChild(part, nullptr);
+  }
 }
 
 bool TestContainer::LoadChild(const std::shared_ptr<orvik::IXmlNode>& node,

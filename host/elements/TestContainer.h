@@ -10,12 +10,17 @@ namespace bench {
 
 class ChildList;
 
-/// The standard element with children. Each child stands in one container only: one that is added again, or to
-/// another container, is moved.
+/// The standard element with children. Each child stands in one container only: one that is added again, or
+/// to another container, is moved.
 class TestContainer final : public TestElement, public orvik::ITestContainer {
  public:
   explicit TestContainer(std::weak_ptr<ElementFactory> factory);
   ~TestContainer() override;
+
+  /// Adds the elements saved below the node. An element that nobody knows is kept as it is.
+  void LoadChildren(const std::shared_ptr<orvik::IXmlNode>& node);
+  /// Adds all children to the node.
+  void SaveChildren(const std::shared_ptr<orvik::IXmlNode>& node) const override;
 
  private:
   std::string IObject_ClassID() const override;
@@ -30,7 +35,6 @@ class TestContainer final : public TestElement, public orvik::ITestContainer {
 
   std::shared_ptr<TestElement> NewOfSameClass() const override;
   void CloneChildren(TestElement& copy) const override;
-  void SaveChildren(const std::shared_ptr<orvik::IXmlNode>& node) const override;
   void ClearChildren() override;
   bool LoadChild(const std::shared_ptr<orvik::IXmlNode>& node,
                  const std::shared_ptr<IObject>& context) override;

@@ -289,7 +289,7 @@ std::shared_ptr<orvik::IXmlNode> TestElement::ITestElement_Save(
 }
 
 void TestElement::SaveTo(const std::shared_ptr<orvik::IXmlNode>& node) const {
-  const auto raw = XmlNode::Of(node).Raw();
+  auto raw = XmlNode::Of(node).Raw();
   xml::SetAttribute(raw, tags::kID, std::to_string(id_));
   xml::SetAttribute(raw, tags::kTestID, std::to_string(testId_));
   xml::SetAttribute(raw, tags::kPlugInID, plugInId_);
@@ -303,7 +303,7 @@ void TestElement::SaveTo(const std::shared_ptr<orvik::IXmlNode>& node) const {
   xml::SetAttribute(information, tags::kDisplayName, information_->DisplayName());
   informationLeftovers_.Restore(information);
 
-  const auto auxiliary = raw.append_child(tags::kAuxiliary);
+  auto auxiliary = raw.append_child(tags::kAuxiliary);
   xml::SetAttribute(auxiliary, tags::kPrint, !auxiliary_ || auxiliary_->PrintElement() ? "1" : "0");
   if (auxiliary_) {
     for (const auto& doubt : auxiliary_->Doubts()) xml::SetText(auxiliary.append_child(tags::kDoubt), doubt);

@@ -55,8 +55,7 @@ class TestElement : public orvik::IBaseElement {
 
   std::shared_ptr<ITestElement> ITestElement_Clone() const override;
   void ITestElement_Load(std::shared_ptr<orvik::IXmlNode> Node, std::shared_ptr<IObject> Context) override;
-  std::shared_ptr<orvik::IXmlNode> ITestElement_Save(
-      std::shared_ptr<orvik::IXmlNode> Parent) const override;
+  std::shared_ptr<orvik::IXmlNode> ITestElement_Save(std::shared_ptr<orvik::IXmlNode> Parent) const override;
   bool ITestElement_QuerySetParent(std::shared_ptr<ITestElement> iteParent) const override;
 
  private:
@@ -73,7 +72,9 @@ class TestElement : public orvik::IBaseElement {
   std::shared_ptr<orvik::IResultData> ITestElement_Result() const override { return result_; }
   void ITestElement_PrintReport(std::shared_ptr<orvik::IReport> Report,
                                 std::shared_ptr<IObject> Context) override;
-  std::shared_ptr<orvik::IInformationRecord> ITestElement_Information() const override { return information_; }
+  std::shared_ptr<orvik::IInformationRecord> ITestElement_Information() const override {
+    return information_;
+  }
   std::int32_t ITestElement_ID() const override { return id_; }
   void ITestElement_SetID(std::int32_t lID) override { id_ = lID; }
   std::shared_ptr<ITestElement> ITestElement_Parent() const override { return parent_.lock(); }

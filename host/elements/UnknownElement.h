@@ -16,8 +16,7 @@ class UnknownElement final : public TestElement {
  private:
   std::shared_ptr<ITestElement> ITestElement_Clone() const override;
   void ITestElement_Load(std::shared_ptr<orvik::IXmlNode> Node, std::shared_ptr<IObject> Context) override;
-  std::shared_ptr<orvik::IXmlNode> ITestElement_Save(
-      std::shared_ptr<orvik::IXmlNode> Parent) const override;
+  std::shared_ptr<orvik::IXmlNode> ITestElement_Save(std::shared_ptr<orvik::IXmlNode> Parent) const override;
 
   pugi::xml_document saved_;
 };

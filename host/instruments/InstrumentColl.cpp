@@ -16,9 +16,9 @@ constexpr char kInstrument[] = "Instrument";
 
 std::shared_ptr<orvik::IInstrumentRecord> InstrumentColl::IInstrumentColl_item(std::int32_t lIndex) const {
   if (lIndex < 1 || static_cast<std::size_t>(lIndex) > records_.size())
-    throw HostError(HostError::kSubscriptOutOfRange, kSource,
-                    "there is no instrument " + std::to_string(lIndex) + " of " +
-                        std::to_string(records_.size()));
+    throw HostError(
+        HostError::kSubscriptOutOfRange, kSource,
+        "there is no instrument " + std::to_string(lIndex) + " of " + std::to_string(records_.size()));
   return records_[static_cast<std::size_t>(lIndex) - 1];
 }
 

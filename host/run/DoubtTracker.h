@@ -18,6 +18,8 @@ class DoubtTracker {
 
   /// The element runs from now on; what was noted for it before is forgotten.
   void ElementStarts(std::int32_t id);
+  /// Forgets what was noted for the element.
+  void Forget(std::int32_t id) { doubts_.erase(id); }
   /// Notes something that was not seen on the wire.
   void Add(std::int32_t id, const std::string& doubt);
   /// What was noted, oldest first, each once.

@@ -16,21 +16,6 @@ namespace {
 
 constexpr char kSource[] = "orvik-bench";
 
-std::filesystem::path FolderOf(const std::filesystem::path& file) {
-  return file.has_parent_path() ? file.parent_path() : std::filesystem::path(".");
-}
-
-void SyncFolder(const std::filesystem::path& folder) {
-  const FileDescriptor descriptor(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-  if (!descriptor.Valid() || fsync(descriptor.Get()) != 0)
-    ThrowFileError(folder, "cannot be brought to the disk", errno, "check the disk");
-}
-
-mode_t ModeOf(const std::filesystem::path& file) {
-  struct stat status {};
-  return stat(file.c_str(), &status) == 0 ? status.st_mode & 07777 : 0666;
-}
-
 }  // namespace
 
 void ThrowFileError(const std::filesystem::path& file, const std::string& what, int error,
@@ -86,12 +71,26 @@ void WriteDescriptor(int descriptor, std::string_view contents, const std::files
   }
 }
 
-FileDescriptor WriteFreshFile(const std::filesystem::path& fresh, std::string_view contents, mode_t mode) {
-  FileDescriptor descriptor(open(fresh.c_str(), O_WRONLY | O_CREAT | O_NOFOLLOW | O_CLOEXEC, mode));
+std::optional<mode_t> FileMode(const std::filesystem::path& file) {
+  struct stat status {};
+  if (stat(file.c_str(), &status) != 0) return {};
+  return status.st_mode & 07777;
+}
+
+void SyncFolderOf(const std::filesystem::path& file) {
+  const auto folder = file.has_parent_path() ? file.parent_path() : std::filesystem::path(".");
+  const FileDescriptor descriptor(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  if (!descriptor.Valid() || fsync(descriptor.Get()) != 0)
+    ThrowFileError(folder, "cannot be brought to the disk", errno, "check the disk");
+}
+
+FileDescriptor WriteFreshFile(const std::filesystem::path& fresh, std::string_view contents,
+                              std::optional<mode_t> mode) {
+  FileDescriptor descriptor(open(fresh.c_str(), O_WRONLY | O_CREAT | O_NOFOLLOW | O_CLOEXEC, 0666));
   if (!descriptor.Valid())
     ThrowFileError(fresh, "cannot be created", errno, "check the folder and your permissions");
   try {
-    if (ftruncate(descriptor.Get(), 0) != 0)
+    if (ftruncate(descriptor.Get(), 0) != 0 || (mode && fchmod(descriptor.Get(), *mode) != 0))
       ThrowFileError(fresh, "cannot be written", errno, "check the disk");
     WriteDescriptor(descriptor.Get(), contents, fresh);
     if (fsync(descriptor.Get()) != 0)
@@ -109,20 +108,21 @@ void MoveIntoPlace(const std::filesystem::path& fresh, const std::filesystem::pa
     unlink(fresh.c_str());
     ThrowFileError(file, "cannot be replaced", error, "check the folder and your permissions");
   }
-  SyncFolder(FolderOf(file));
+  SyncFolderOf(file);
 }
 
 void ReplaceFile(const std::filesystem::path& file, std::string_view contents) {
   std::filesystem::path fresh = file;
   fresh += ".new";
-  WriteFreshFile(fresh, contents, ModeOf(file));
+  WriteFreshFile(fresh, contents, FileMode(file));
   MoveIntoPlace(fresh, file);
 }
 
 void CreateFolder(const std::filesystem::path& folder) {
   std::error_code error;
   std::filesystem::create_directories(folder, error);
-  if (error) ThrowFileError(folder, "cannot be created", error.value(), "name a folder that you may write to");
+  if (error)
+    ThrowFileError(folder, "cannot be created", error.value(), "name a folder that you may write to");
 }
 
 FileLock::FileLock(const std::filesystem::path& lockFile, std::chrono::milliseconds patience) {

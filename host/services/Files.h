@@ -5,6 +5,7 @@
 #include <chrono>
 #include <cstdint>
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -41,11 +42,18 @@ std::string ReadDescriptor(int descriptor, const std::filesystem::path& file);
 /// Writes all of it at the file's end or place.
 void WriteDescriptor(int descriptor, std::string_view contents, const std::filesystem::path& file);
 
+/// The file's permission bits; none when it is not there.
+std::optional<mode_t> FileMode(const std::filesystem::path& file);
+
 /// Writes the contents into the new file `fresh`, on disk when the call returns. On an error nothing is left
 /// of it.
-/// @param mode permission bits of the file
+/// @param mode permission bits of the file; none for the usual ones of a new file
 /// @return the new file, open
-FileDescriptor WriteFreshFile(const std::filesystem::path& fresh, std::string_view contents, mode_t mode);
+FileDescriptor WriteFreshFile(const std::filesystem::path& fresh, std::string_view contents,
+                              std::optional<mode_t> mode);
+
+/// Brings the folder in which the file stands to the disk, so that its name is there after a crash.
+void SyncFolderOf(const std::filesystem::path& file);
 
 /// Puts `fresh` in the place of `file`, on disk when the call returns: a crash leaves the one or the other.
 void MoveIntoPlace(const std::filesystem::path& fresh, const std::filesystem::path& file);

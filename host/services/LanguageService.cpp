@@ -25,8 +25,8 @@ std::size_t NumberLength(std::string_view text) {
 std::vector<std::string> Candidates(const std::string& language) {
   const auto name = language.substr(0, language.find('.'));
   const bool valid = std::all_of(name.begin(), name.end(), [](char c) {
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_' || c == '-' ||
-           c == '@';
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_' ||
+           c == '-' || c == '@';
   });
   if (!valid)
     throw orvik::HostError(orvik::HostError::kInvalidArgument, "OrvikTypeLib.LanguageService",
@@ -44,8 +44,8 @@ bool IsLanguageString(std::string_view text) { return NumberLength(text) != std:
 std::string WithValues(std::string_view text, const std::vector<std::string>& values) {
   std::string result;
   for (std::size_t i = 0; i < text.size(); ++i) {
-    const bool placeholder = text.substr(i).starts_with("%%") && i + 2 < text.size() && text[i + 2] >= '1' &&
-                             text[i + 2] <= '9';
+    const bool placeholder =
+        text.substr(i).starts_with("%%") && i + 2 < text.size() && text[i + 2] >= '1' && text[i + 2] <= '9';
     const auto index = placeholder ? static_cast<std::size_t>(text[i + 2] - '1') : values.size();
     if (index < values.size()) {
       result += values[index];
@@ -92,7 +92,8 @@ std::string LanguageService::ILanguageService_Translate(const std::string& sText
                                                         const std::vector<std::string>& asValues) const {
   const auto length = NumberLength(sText);
   if (length == std::string_view::npos) return WithValues(sText, asValues);
-  const auto* translation = modules_.empty() ? nullptr : Find(sModule, std::string_view(sText).substr(0, length));
+  const auto* translation =
+      modules_.empty() ? nullptr : Find(sModule, std::string_view(sText).substr(0, length));
   return WithValues(translation ? *translation : std::string_view(sText).substr(length + 2), asValues);
 }
 

@@ -7,8 +7,8 @@
 
 namespace bench {
 
-/// What a loader found in a node and does not know: attributes, elements, comments. Kept, and written back, so
-/// that a file which another version or another program has added to loses nothing.
+/// What a loader found in a node and does not know: attributes, elements, comments. Kept, and written back,
+/// so that a file which another version or another program has added to loses nothing.
 class Leftovers {
  public:
   Leftovers() = default;

@@ -51,8 +51,8 @@ std::string KeyName(std::int32_t hive, const std::string& path) {
 }
 
 bool IsOrIsAbove(const std::string& key, const std::string& other) {
-  return other == key || (other.size() > key.size() && other.compare(0, key.size(), key) == 0 &&
-                          other[key.size()] == '\\');
+  return other == key ||
+         (other.size() > key.size() && other.compare(0, key.size(), key) == 0 && other[key.size()] == '\\');
 }
 
 [[noreturn]] void Refuse(const std::filesystem::path& file, const std::string& reason) {

@@ -16,7 +16,8 @@ class ServiceRecord final : public orvik::IServiceRecord {
   std::string IServiceRecord_Code() const override { return code_; }
   std::string IServiceRecord_Value() const override { return value_; }
   void IServiceRecord_Load(std::shared_ptr<orvik::IXmlNode> Node, std::shared_ptr<IObject> Context) override;
-  std::shared_ptr<orvik::IXmlNode> IServiceRecord_Save(std::shared_ptr<orvik::IXmlNode> Parent) const override;
+  std::shared_ptr<orvik::IXmlNode> IServiceRecord_Save(
+      std::shared_ptr<orvik::IXmlNode> Parent) const override;
 
   std::string name_;
   std::string code_;

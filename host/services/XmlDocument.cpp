@@ -11,9 +11,8 @@ namespace {
 constexpr int kIndentedLevels = 256;
 
 /// Fragments are parsed so that text beside the root element is seen, and refused, instead of dropped.
-constexpr unsigned kParseFlags =
-    pugi::parse_default | pugi::parse_comments | pugi::parse_pi | pugi::parse_doctype |
-    pugi::parse_ws_pcdata_single | pugi::parse_fragment;
+constexpr unsigned kParseFlags = pugi::parse_default | pugi::parse_comments | pugi::parse_pi |
+                                 pugi::parse_doctype | pugi::parse_ws_pcdata_single | pugi::parse_fragment;
 
 std::size_t OffsetOf(pugi::xml_node node) {
   const auto offset = node.offset_debug();
@@ -47,7 +46,9 @@ bool DeeperThan(const pugi::xml_document& document, int levels) {
 
 struct StringWriter : pugi::xml_writer {
   std::string text;
-  void write(const void* data, std::size_t size) override { text.append(static_cast<const char*>(data), size); }
+  void write(const void* data, std::size_t size) override {
+    text.append(static_cast<const char*>(data), size);
+  }
 };
 
 }  // namespace

@@ -111,7 +111,8 @@ void Limit::Load(pugi::xml_node node) {
     key_ = node.attribute(kKey).value();
     unit_ = node.attribute(kUnit).value();
     const std::string nominal = node.attribute(kNominal).value();
-    if (!nominal.empty() && !FiniteNumber(nominal)) Refuse("the nominal value \"" + nominal + "\" is no number");
+    if (!nominal.empty() && !FiniteNumber(nominal))
+      Refuse("the nominal value \"" + nominal + "\" is no number");
     nominal_ = FiniteNumber(nominal);
     ILimit_SetBounds(node.attribute(kLow).value(), node.attribute(kHigh).value());
   } catch (const HostError& error) {

@@ -10,38 +10,34 @@ namespace house {
 
 namespace {
 
-/// A header and its source: the path without its extension.
-std::string UnitOf(const std::string& path) { return path.substr(0, path.rfind('.')); }
-
 class CircleSearch {
  public:
   explicit CircleSearch(const std::vector<SourceFile>& files) {
     for (const auto& file : files)
       for (const auto& include : file.includes)
-        if (include.quoted && UnitOf(include.name) != UnitOf(file.path))
-          includes_[UnitOf(file.path)].insert(UnitOf(include.name));
+        if (include.quoted) includes_[file.path].insert(include.name);
   }
 
   Findings Search() {
-    for (const auto& [unit, includes] : includes_) Visit(unit);
+    for (const auto& entry : includes_) Visit(entry.first);
     return findings_;
   }
 
  private:
-  void Visit(const std::string& unit) {
-    if (done_.contains(unit)) return;
-    const auto onWay = std::find(way_.begin(), way_.end(), unit);
+  void Visit(const std::string& file) {
+    if (done_.contains(file)) return;
+    const auto onWay = std::find(way_.begin(), way_.end(), file);
     if (onWay != way_.end()) return Report({onWay, way_.end()});
-    way_.push_back(unit);
-    if (const auto found = includes_.find(unit); found != includes_.end())
+    way_.push_back(file);
+    if (const auto found = includes_.find(file); found != includes_.end())
       for (const auto& next : found->second) Visit(next);
     way_.pop_back();
-    done_.insert(unit);
+    done_.insert(file);
   }
 
   void Report(const std::vector<std::string>& circle) {
     std::string way;
-    for (const auto& unit : circle) way += unit + " -> ";
+    for (const auto& file : circle) way += file + " -> ";
     findings_.push_back({circle.front(), "stands in a circle: " + way + circle.front()});
   }
 

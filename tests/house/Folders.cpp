@@ -25,6 +25,7 @@ const std::map<std::string, Names, std::less<>> kMayInclude = {
     {"ui", kPlugInMayInclude},
     {"tester", {"tester"}},
     {"host", {"host", "OrvikTypeLib", "platform"}},
+    {"windows", {"windows", "OrvikTypeLib", "platform", "resources"}},
 };
 
 /// These put the parts together and may include all of them.

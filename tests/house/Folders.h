@@ -15,7 +15,7 @@ Findings FolderFindings(const std::vector<SourceFile>& files);
 /// and the class library.
 Findings RoomFindings(const std::vector<SourceFile>& files);
 
-/// Circles among the files, a header and its sources counted as one.
+/// Files that include themselves by way of others.
 Findings CircleFindings(const std::vector<SourceFile>& files);
 
 }  // namespace house

@@ -27,7 +27,8 @@ const std::vector<Room> kRooms = {
     {"the operator's windows", {"ui/"}},
     {"test model", {"model/"}},
     {"plug-in object and class library",
-     {"plugin/CKELDPlugin", "plugin/Catalogue", "plugin/ClassLibrary", "plugin/EntryPoints"}},
+     {"plugin/CKELDPlugin", "plugin/Catalogue", "plugin/ClassLibrary", "plugin/EntryPoints",
+      "plugin/IdentifierTable", "plugin/Picture"}},
 };
 
 std::optional<std::size_t> RoomOf(std::string_view path) {

@@ -1,6 +1,8 @@
 #include "tests/house/SourceText.h"
 
+#include <algorithm>
 #include <cctype>
+#include <utility>
 
 namespace house {
 
@@ -24,10 +26,12 @@ class Reader {
         ReadLiteral('"');
       else if (text_[at_] == '\'' && !IsDigitSeparator())
         ReadLiteral('\'');
+      else if (text_[at_] == '\n')
+        Pass();
       else
-        Take(parts_.code);
+        TakePlainCode();
     }
-    return parts_;
+    return std::move(parts_);
   }
 
  private:
@@ -50,6 +54,13 @@ class Reader {
 
   void Take(std::string& part) { part += text_[at_++]; }
 
+  /// Code up to where a comment, a literal or a line end may begin.
+  void TakePlainCode() {
+    const std::size_t end = std::min(text_.find_first_of("/\"'\n", at_ + 1), text_.size());
+    parts_.code += text_.substr(at_, end - at_);
+    at_ = end;
+  }
+
   /// Passes one character by; its line break stays in both parts.
   void Pass() {
     if (text_[at_] == '\n') {
@@ -60,12 +71,9 @@ class Reader {
   }
 
   void ReadLineComment() {
-    while (at_ < text_.size() && text_[at_] != '\n') Take(parts_.comments);
-    TakeLineBreak();
-  }
-
-  void TakeLineBreak() {
-    if (at_ < text_.size()) Pass();
+    const std::size_t end = std::min(text_.find('\n', at_), text_.size());
+    parts_.comments += text_.substr(at_, end - at_);
+    at_ = end;
   }
 
   void ReadBlockComment() {
@@ -138,8 +146,8 @@ std::vector<std::string> Lines(std::string_view text) {
   return lines;
 }
 
-std::vector<Include> Includes(std::string_view text) {
-  const auto code = Lines(TakeApart(text).code);
+std::vector<Include> Includes(std::string_view text, const SourceText& parts) {
+  const auto code = Lines(parts.code);
   const auto full = Lines(text);
   std::vector<Include> includes;
   for (std::size_t line = 0; line < code.size() && line < full.size(); ++line) {

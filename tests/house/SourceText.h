@@ -22,8 +22,8 @@ struct Include {
   int line = 0;         ///< from 1
 };
 
-/// The `#include` lines of a C++ text, in order; what stands in comments and literals is none.
-std::vector<Include> Includes(std::string_view text);
+/// The `#include` lines of a C++ text and its parts, in order; what stands in comments and literals is none.
+std::vector<Include> Includes(std::string_view text, const SourceText& parts);
 
 /// The lines of a text, without their ends.
 std::vector<std::string> Lines(std::string_view text);

@@ -35,8 +35,8 @@ INSTANTIATE_TEST_SUITE_P(
                     Example{"\"no end", "\"", ""}, Example{"", "", ""}));
 
 TEST(Includes, TellNameKindAndLine) {
-  const auto includes =
-      Includes("// #include <no>\n#include <string>\n  # include \"a/B.h\"  // why\nint c;\n");
+  const std::string text = "// #include <no>\n#include <string>\n  # include \"a/B.h\"  // why\nint c;\n";
+  const auto includes = Includes(text, TakeApart(text));
   ASSERT_EQ(includes.size(), 2U);
   EXPECT_EQ(includes[0].name, "string");
   EXPECT_FALSE(includes[0].quoted);

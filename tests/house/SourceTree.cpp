@@ -2,8 +2,9 @@
 
 #include <algorithm>
 #include <fstream>
-#include <iterator>
+#include <sstream>
 #include <stdexcept>
+#include <utility>
 
 namespace house {
 
@@ -22,15 +23,17 @@ bool IsSource(const std::filesystem::path& file) {
 
 std::string ReadText(const std::filesystem::path& file) {
   std::ifstream stream(file, std::ios::binary);
-  if (!stream) throw std::runtime_error("cannot read " + file.string());
-  return {std::istreambuf_iterator<char>(stream), {}};
+  std::ostringstream text;
+  if (!stream || (stream.peek() != EOF && !(text << stream.rdbuf())))
+    throw std::runtime_error("cannot read " + file.string());
+  return std::move(text).str();
 }
 
 SourceFile MakeSourceFile(std::string path, std::string text) {
   SourceFile file;
   file.path = std::move(path);
   file.parts = TakeApart(text);
-  file.includes = Includes(text);
+  file.includes = Includes(text, file.parts);
   file.text = std::move(text);
   return file;
 }

@@ -1,5 +1,3 @@
-#include "plugin/CKELDTestConfiguration.h"
-
 #include <gtest/gtest.h>
 
 #include "OrvikTypeLib/As.h"
@@ -14,6 +12,7 @@
 #include "platform/IContainerSite.h"
 #include "platform/IForm.h"
 #include "platform/ITreeView.h"
+#include "plugin/CKELDTestConfiguration.h"
 #include "plugin/FElementSetup.h"
 #include "plugin/XKELDSeqConfiguration.h"
 #include "plugin/XKELDTestConfiguration.h"
@@ -28,7 +27,8 @@ using orvik::As;
 class TestConfiguration : public testing::Test {
  protected:
   std::shared_ptr<orvik::IXmlNode> Node(const std::string& xml) {
-    document_ = keld::MKELDGlobalVars::CreateHostObject<orvik::IXmlDocument>(orvik::HostClasses::kXmlDocument);
+    document_ =
+        keld::MKELDGlobalVars::CreateHostObject<orvik::IXmlDocument>(orvik::HostClasses::kXmlDocument);
     EXPECT_TRUE(document_->LoadFromString(xml)) << document_->LastError();
     return document_->Root();
   }
@@ -112,17 +112,20 @@ TEST_F(TestConfiguration, SavesANewOneAsOptions3AndNoValues) {
 TEST_F(TestConfiguration, SavesEveryFilterByItsName) {
   const auto record = Node("<Configuration/>");
   const auto configuration = CKELDTestConfiguration::Create();
-  const std::vector<std::string> names = {"", "No values", "All values", "Maximum value", "Minimum value", ""};
+  const std::vector<std::string> names = {"", "No values", "All values", "Maximum value", "Minimum value",
+                                          ""};
   for (std::int32_t code = 0; code <= 5; ++code) {
     configuration->SetValueFilter(code);
     configuration->Save(record);
-    EXPECT_EQ(record->FindChild("PlugInData")->FindChild("KELDConfig")->Attribute("ValueFilter"), names[code]);
+    EXPECT_EQ(record->FindChild("PlugInData")->FindChild("KELDConfig")->Attribute("ValueFilter"),
+              names[code]);
   }
 }
 
 TEST_F(TestConfiguration, SavesIntoThePlugInDataThatIsThereAndReplacesAnOlderOne) {
   const auto record = Node(
-      "<Configuration><Other/><PlugInData><Kept/><KELDConfig Options=\"9\" ValueFilter=\"All values\"/></PlugInData>"
+      "<Configuration><Other/><PlugInData><Kept/><KELDConfig Options=\"9\" ValueFilter=\"All "
+      "values\"/></PlugInData>"
       "</Configuration>");
   const auto configuration = CKELDTestConfiguration::Create();
   configuration->SetOptions(-5);
@@ -157,20 +160,22 @@ TEST_F(TestConfiguration, LoadsWhatItSaved) {
 }
 
 TEST_F(TestConfiguration, LoadsEveryFilterNameAndGivesOthersCode0) {
-  const std::vector<std::pair<std::string, std::int32_t>> rows = {
-      {"No values", 1}, {"All values", 2}, {"Maximum value", 3}, {"Minimum value", 4}, {"Mean value", 0}, {"", 0}};
+  const std::vector<std::pair<std::string, std::int32_t>> rows = {{"No values", 1},     {"All values", 2},
+                                                                  {"Maximum value", 3}, {"Minimum value", 4},
+                                                                  {"Mean value", 0},    {"", 0}};
   for (const auto& [name, code] : rows) {
     const auto configuration = CKELDTestConfiguration::Create();
     configuration->SetValueFilter(2);
-    configuration->Load(Node("<PlugInData><KELDConfig Options=\"1\" ValueFilter=\"" + name + "\"/></PlugInData>"));
+    configuration->Load(
+        Node("<PlugInData><KELDConfig Options=\"1\" ValueFilter=\"" + name + "\"/></PlugInData>"));
     EXPECT_EQ(configuration->ValueFilter(), code) << name;
     EXPECT_EQ(configuration->Options(), 1);
   }
 }
 
 TEST_F(TestConfiguration, LeavesTheOptionsAsTheyWereWhenTheirTextIsMalformed) {
-  for (const char* text : {"", "abc", "12abc", "1 2", "0x10", "2147483648", "-2147483649", "99999999999999999999",
-                           "1.5", "--1", "+"}) {
+  for (const char* text : {"", "abc", "12abc", "1 2", "0x10", "2147483648", "-2147483649",
+                           "99999999999999999999", "1.5", "--1", "+"}) {
     const auto configuration = CKELDTestConfiguration::Create();
     configuration->SetOptions(77);
     configuration->Load(Node("<PlugInData><KELDConfig Options=\"" + std::string(text) +
@@ -280,9 +285,9 @@ TEST_F(TestConfiguration, EditsOneWithoutOwnerInTheTestControlWithTheTwoButtons)
 }
 
 TEST_F(TestConfiguration, ShowsTheNodesOfTheOwnersIdentifier) {
-  const std::vector<std::pair<std::int32_t, std::size_t>> rows = {{410, 2},   {909, 2},   {910, 13},  {965, 13},
-                                                                  {966, 2},   {1109, 2},  {1110, 12}, {1165, 12},
-                                                                  {1166, 2},  {1210, 2},  {65536 + 910, 13}};
+  const std::vector<std::pair<std::int32_t, std::size_t>> rows = {
+      {410, 2},   {909, 2},   {910, 13}, {965, 13}, {966, 2},         {1109, 2},
+      {1110, 12}, {1165, 12}, {1166, 2}, {1210, 2}, {65536 + 910, 13}};
   for (const auto& [id, count] : rows) {
     const auto tree = Tree(Owned<keld::CKELDTestElement>(id)->CreateDialog());
     const auto keys = tree->NodeKeys();
@@ -307,7 +312,8 @@ TEST_F(TestConfiguration, ShowsTranslatedCaptionsAndChecksTheNodesWhoseBitsAreSe
 }
 
 TEST_F(TestConfiguration, SelectsTheValueFilterInTheSequencesList) {
-  const std::vector<std::pair<std::int32_t, int>> rows = {{1, 0}, {2, 1}, {3, 2}, {4, 3}, {0, 0}, {5, 0}, {-1, 0}};
+  const std::vector<std::pair<std::int32_t, int>> rows = {{1, 0}, {2, 1}, {3, 2}, {4, 3},
+                                                          {0, 0}, {5, 0}, {-1, 0}};
   for (const auto& [code, index] : rows) {
     const auto configuration = Owned<keld::CKELDSequence>(600);
     configuration->SetValueFilter(code);

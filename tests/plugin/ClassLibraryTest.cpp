@@ -1,5 +1,3 @@
-#include "plugin/ClassLibrary.h"
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -7,16 +5,19 @@
 
 #include "OrvikTypeLib/HostError.h"
 #include "plugin/ClassIdentifiers.h"
+#include "plugin/ClassLibrary.h"
 #include "tests/support/HostOnly.h"
 
 namespace {
 
 const std::vector<std::string> kIdentifiers = {
-    "orvikKELD.CKELDPlugin",          "orvikKELD.CKELDTestElement",      "orvikKELD.CKELDSequence",
-    "orvikKELD.CKELDTestConfiguration", "orvikKELD.CKELDLimitData",      "orvikKELD.CKELDResultData",
-    "orvikKELD.CKELDMeasurement",     "orvikKELD.XKELDTestConfiguration", "orvikKELD.XKELDSeqConfiguration",
-    "orvikKELD.XKELDData",            "orvikKELD.XKELDResultView",       "orvikKELD.XDetailedResult",
-    "orvikKELD.FElementSetup",        "orvikKELD.FCalibrateLeads"};
+    "orvikKELD.CKELDPlugin",           "orvikKELD.CKELDTestElement",
+    "orvikKELD.CKELDSequence",         "orvikKELD.CKELDTestConfiguration",
+    "orvikKELD.CKELDLimitData",        "orvikKELD.CKELDResultData",
+    "orvikKELD.CKELDMeasurement",      "orvikKELD.XKELDTestConfiguration",
+    "orvikKELD.XKELDSeqConfiguration", "orvikKELD.XKELDData",
+    "orvikKELD.XKELDResultView",       "orvikKELD.XDetailedResult",
+    "orvikKELD.FElementSetup",         "orvikKELD.FCalibrateLeads"};
 
 class Library : public testing::Test {
  protected:
@@ -56,8 +57,8 @@ TEST_F(Library, MatchesIdentifiersWithoutRegardToCase) {
 }
 
 TEST_F(Library, CreatesNothingForOtherIdentifiers) {
-  for (const char* identifier : {"", "CKELDPlugin", "orvikKELD.", "orvikKELD.CKELDPlugin ", "orvikKELD.CKELDPlugi",
-                                 "orvikKELD.IKELDTest"}) {
+  for (const char* identifier : {"", "CKELDPlugin", "orvikKELD.", "orvikKELD.CKELDPlugin ",
+                                 "orvikKELD.CKELDPlugi", "orvikKELD.IKELDTest"}) {
     EXPECT_FALSE(library_->CreateObject(identifier)) << identifier;
   }
 }

@@ -1,9 +1,9 @@
-#include "plugin/ConfigurationTables.h"
-
 #include <gtest/gtest.h>
 
 #include <string>
 #include <vector>
+
+#include "plugin/ConfigurationTables.h"
 
 namespace {
 
@@ -33,7 +33,8 @@ const std::vector<OptionRow> kOptionRows = {
 
 std::vector<std::string> KeysFor(int testId) {
   std::vector<std::string> keys;
-  for (const auto& option : Tables::OptionsFor(static_cast<std::int16_t>(testId))) keys.push_back(option.sKey);
+  for (const auto& option : Tables::OptionsFor(static_cast<std::int16_t>(testId)))
+    keys.push_back(option.sKey);
   return keys;
 }
 
@@ -99,11 +100,11 @@ TEST(ConfigurationTables, HaveNoFilterOutsideTheFour) {
 
 TEST(ConfigurationTables, NameTheLeadOfEachBit) {
   const std::vector<std::pair<std::int32_t, std::string>> rows = {
-      {4, "20902::Lead number 1 tested."},     {8, "20903::Lead number 2 tested."},
-      {16, "20904::Lead number 3 tested."},    {32, "20905::Lead number 4 tested."},
-      {64, "20906::Lead number 5 tested."},    {128, "20907::Lead number 6 tested."},
-      {256, "20908::Lead number 7 tested."},   {512, "20909::Lead number 8 tested."},
-      {1024, "20910::Lead number 9 tested."},  {2048, "20911::Lead number 10 tested."},
+      {4, "20902::Lead number 1 tested."},    {8, "20903::Lead number 2 tested."},
+      {16, "20904::Lead number 3 tested."},   {32, "20905::Lead number 4 tested."},
+      {64, "20906::Lead number 5 tested."},   {128, "20907::Lead number 6 tested."},
+      {256, "20908::Lead number 7 tested."},  {512, "20909::Lead number 8 tested."},
+      {1024, "20910::Lead number 9 tested."}, {2048, "20911::Lead number 10 tested."},
       {4096, "20912::All leads tested."},
   };
   for (std::size_t i = 0; i < rows.size(); ++i) {
@@ -124,12 +125,12 @@ TEST(ConfigurationTables, TellThatNoLeadWasTested) {
 
 TEST(ConfigurationTables, TellLeadsOfSomeTestsWhateverTheOptions) {
   for (const std::int32_t options : {0, 3, 4, 20, 4096, -1}) {
-    for (const std::int16_t id : {1210, 1230, 1240}) {
+    for (const std::int16_t id : std::vector<std::int16_t>{1210, 1230, 1240}) {
       EXPECT_STREQ(Tables::LeadText(id, options), "20912::All leads tested.") << id;
     }
     EXPECT_STREQ(Tables::LeadText(1220, options), "20913::Some leads tested.") << options;
   }
-  for (const std::int16_t id : {1235, 1245, 1211, 1200}) {
+  for (const std::int16_t id : std::vector<std::int16_t>{1235, 1245, 1211, 1200}) {
     EXPECT_STREQ(Tables::LeadText(id, 4), "20902::Lead number 1 tested.") << id;
   }
 }

@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
+#include "OrvikTypeLib/HostError.h"
 #include "OrvikTypeLib/IClassLibrary.h"
 #include "OrvikTypeLib/Library.h"
-#include "OrvikTypeLib/HostError.h"
 #include "tests/support/HostOnly.h"
 
 extern "C" {

@@ -1,5 +1,3 @@
-#include "plugin/FElementSetup.h"
-
 #include <gtest/gtest.h>
 
 #include "OrvikTypeLib/As.h"
@@ -7,6 +5,7 @@
 #include "platform/IContainerSite.h"
 #include "platform/IForm.h"
 #include "platform/IUserControl.h"
+#include "plugin/FElementSetup.h"
 #include "tests/plugin/Recorders.h"
 #include "tests/support/HostOnly.h"
 

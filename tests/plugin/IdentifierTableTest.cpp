@@ -1,11 +1,11 @@
-#include "plugin/IdentifierTable.h"
-
 #include <gtest/gtest.h>
 
 #include <cstdint>
 #include <limits>
 #include <string>
 #include <vector>
+
+#include "plugin/IdentifierTable.h"
 
 namespace {
 
@@ -49,11 +49,11 @@ TEST(IconKey, OfAGroupIsTheSmallOneInEveryStyleButWide) {
 
 TEST(IconKey, OfEveryRowOfSingleTests) {
   const std::vector<Row> rows = {
-      {210, "TE:MV(32X16)", "TE:ITEM(16x16)"},           {410, "TE:PE(32X16)", "TE:ITEM(16x16)"},
-      {420, "TE:PE(32X16)_WHT", "TE:ITEM(16X16)_WHT"},   {1010, "TE:ISO(32X16)", "TE:ITEM(16x16)"},
-      {1020, "TE:ISO(32X16)", "TE:ITEM(16x16)"},         {1210, "TE:ALC(32X16)", "TE:ITEM(16X16)_WHT"},
-      {1220, "TE:ALC(32X16)", "TE:ITEM(16X16)_WHT"},     {1230, "TE:CUR(32X16)", "TE:ITEM(16X16)_WHT"},
-      {1235, "TE:CUR(32X16)", "TE:ITEM(16X16)_WHT"},     {1240, "TE:CUR(32X16)", "TE:ITEM(16X16)_WHT"},
+      {210, "TE:MV(32X16)", "TE:ITEM(16x16)"},         {410, "TE:PE(32X16)", "TE:ITEM(16x16)"},
+      {420, "TE:PE(32X16)_WHT", "TE:ITEM(16X16)_WHT"}, {1010, "TE:ISO(32X16)", "TE:ITEM(16x16)"},
+      {1020, "TE:ISO(32X16)", "TE:ITEM(16x16)"},       {1210, "TE:ALC(32X16)", "TE:ITEM(16X16)_WHT"},
+      {1220, "TE:ALC(32X16)", "TE:ITEM(16X16)_WHT"},   {1230, "TE:CUR(32X16)", "TE:ITEM(16X16)_WHT"},
+      {1235, "TE:CUR(32X16)", "TE:ITEM(16X16)_WHT"},   {1240, "TE:CUR(32X16)", "TE:ITEM(16X16)_WHT"},
       {1245, "TE:CUR(32X16)", "TE:ITEM(16X16)_WHT"},
   };
   for (const Row& row : rows) ExpectRow(row.id, row.wide, row.small);
@@ -70,7 +70,8 @@ TEST(IconKey, OfEnclosureLeakage) {
 }
 
 TEST(IconKey, OfPatientLeakage) {
-  for (const int id : {910, 911, 920, 930, 940, 950, 960, 964}) ExpectRow(id, "TE:PLC(32X16)", "TE:ITEM(16x16)");
+  for (const int id : {910, 911, 920, 930, 940, 950, 960, 964})
+    ExpectRow(id, "TE:PLC(32X16)", "TE:ITEM(16x16)");
   for (const int id : {1110, 1111, 1120, 1130, 1140, 1150, 1160, 1164}) {
     ExpectRow(id, "TE:PLC(32X16)", "TE:ITEM(16x16)");
   }
@@ -92,7 +93,8 @@ TEST(IconKey, ComparesRangesAsTexts) {
 
 TEST(IconKey, LeavesTextsOutsideTheRangesWithoutAWidePicture) {
   // "61" stands before "610", "6401" after "640", and so on.
-  for (const int id : {6, 7, 9, 11, 61, 6401, 71, 7601, 91, 9651, 111, 11651, 11660, -610, -620, 1, 99, 1211, 32767}) {
+  for (const int id :
+       {6, 7, 9, 11, 61, 6401, 71, 7601, 91, 9651, 111, 11651, 11660, -610, -620, 1, 99, 1211, 32767}) {
     ExpectRow(id, "", "TE:ITEM(16x16)");
   }
 }
@@ -108,7 +110,8 @@ TEST(IconKey, OfASingleTestIsEmptyInEveryOtherStyle) {
 }
 
 TEST(IconKey, AnswersForEveryIdentifierAndStyle) {
-  for (int id = std::numeric_limits<std::int16_t>::min(); id <= std::numeric_limits<std::int16_t>::max(); ++id) {
+  for (int id = std::numeric_limits<std::int16_t>::min(); id <= std::numeric_limits<std::int16_t>::max();
+       ++id) {
     const bool group = id % 100 == 0;
     EXPECT_FALSE(Key(id, 0).empty()) << id;
     if (group) {

@@ -1,7 +1,6 @@
-#include "plugin/MKELDConstants.h"
-
 #include <gtest/gtest.h>
 
+#include "plugin/MKELDConstants.h"
 #include "plugin/MKELDLanguageConstants.h"
 #include "plugin/MXmlConstants.h"
 

@@ -1,11 +1,10 @@
-#include "plugin/MKELDGlobalVars.h"
-
 #include <gtest/gtest.h>
 
 #include "OrvikTypeLib/HostClasses.h"
 #include "OrvikTypeLib/HostError.h"
 #include "OrvikTypeLib/ITestElement.h"
 #include "plugin/CKELDPlugin.h"
+#include "plugin/MKELDGlobalVars.h"
 #include "plugin/MKELDLanguageConstants.h"
 #include "tests/support/HostOnly.h"
 
@@ -24,7 +23,9 @@ class CountingHost final : public orvik::IHost {
     ++created[sClassID];
     return host_->CreateObject(sClassID);
   }
-  std::shared_ptr<orvik::platform::IApplication> IHost_Application() const override { return host_->Application(); }
+  std::shared_ptr<orvik::platform::IApplication> IHost_Application() const override {
+    return host_->Application();
+  }
 
   std::shared_ptr<orvik::IHost> host_;
 };
@@ -118,10 +119,9 @@ TEST(MKELDGlobalVars, StartAfreshWhenOpenedByAnotherHost) {
 
 TEST(MKELDGlobalVars, RefuseAHostObjectOfAnotherKindOrAnUnknownClass) {
   support::HostOnly bench;
-  EXPECT_EQ(ErrorOf([] {
-              Globals::CreateHostObject<orvik::ITestElement>(orvik::HostClasses::kLanguageService);
-            }),
-            orvik::HostError::kClassNotRegistered);
+  EXPECT_EQ(
+      ErrorOf([] { Globals::CreateHostObject<orvik::ITestElement>(orvik::HostClasses::kLanguageService); }),
+      orvik::HostError::kClassNotRegistered);
   EXPECT_EQ(ErrorOf([] { Globals::CreateHostObject<orvik::ITestElement>("OrvikTypeLib.Unknown"); }),
             orvik::HostError::kClassNotRegistered);
 }
@@ -134,9 +134,10 @@ TEST(MKELDGlobalVars, ShowTheEnglishTextOfANumberThatTheServiceDoesNotKnow) {
 
 TEST(MKELDGlobalVars, PutBothValuesInTheirPlacesAndKeepTheDoubleBlank) {
   support::HostOnly bench;
-  EXPECT_EQ(Globals::Translated(keld::MKELDLanguageConstants::kTestNotSupported, {"Earth leakage", "NC"}),
-            "The connected KELD does not support the test  Earth leakage NC. The test will be recorded as Not "
-            "Applicable.");
+  EXPECT_EQ(
+      Globals::Translated(keld::MKELDLanguageConstants::kTestNotSupported, {"Earth leakage", "NC"}),
+      "The connected KELD does not support the test  Earth leakage NC. The test will be recorded as Not "
+      "Applicable.");
 }
 
 }  // namespace

@@ -1,7 +1,6 @@
-#include "plugin/Picture.h"
-
 #include <gtest/gtest.h>
 
+#include "plugin/Picture.h"
 #include "resources/Resources.h"
 
 namespace {

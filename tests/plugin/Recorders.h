@@ -33,10 +33,17 @@ class Report final : public virtual orvik::IReport {
     if (!knowsMetrics || lNumber != 10) throw orvik::HostError(5, "report", "no such metric");
     return width;
   }
-  void IReport_SetTableBorder(std::int32_t lStyle) override { calls.push_back("border " + std::to_string(lStyle)); }
-  void IReport_SetTableIndent(std::int32_t lTwips) override { calls.push_back("indent " + std::to_string(lTwips)); }
-  void IReport_SetHeaderRows(std::int32_t lRows) override { calls.push_back("rows " + std::to_string(lRows)); }
-  void IReport_AddTable(const std::string& sFormat, const std::string& sHeader, const std::string& sRows) override {
+  void IReport_SetTableBorder(std::int32_t lStyle) override {
+    calls.push_back("border " + std::to_string(lStyle));
+  }
+  void IReport_SetTableIndent(std::int32_t lTwips) override {
+    calls.push_back("indent " + std::to_string(lTwips));
+  }
+  void IReport_SetHeaderRows(std::int32_t lRows) override {
+    calls.push_back("rows " + std::to_string(lRows));
+  }
+  void IReport_AddTable(const std::string& sFormat, const std::string& sHeader,
+                        const std::string& sRows) override {
     calls.insert(calls.end(), {sFormat, sHeader, sRows});
   }
   std::string IReport_Escape(const std::string& sText) const override { return "[" + sText + "]"; }

@@ -1,6 +1,6 @@
-#include "plugin/ReportMarkup.h"
-
 #include <gtest/gtest.h>
+
+#include "plugin/ReportMarkup.h"
 
 namespace {
 

@@ -1,8 +1,7 @@
-#include "plugin/XKELDSeqConfiguration.h"
-
 #include <gtest/gtest.h>
 
 #include "model/CKELDSequence.h"
+#include "plugin/XKELDSeqConfiguration.h"
 #include "tests/plugin/ConfigurationDialog.h"
 #include "tests/plugin/Recorders.h"
 #include "tests/support/HostOnly.h"

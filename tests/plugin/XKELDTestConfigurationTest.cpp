@@ -1,11 +1,10 @@
-#include "plugin/XKELDTestConfiguration.h"
-
 #include <gtest/gtest.h>
 
 #include <random>
 
 #include "OrvikTypeLib/HostError.h"
 #include "model/CKELDTestElement.h"
+#include "plugin/XKELDTestConfiguration.h"
 #include "tests/plugin/ConfigurationDialog.h"
 #include "tests/plugin/Recorders.h"
 #include "tests/support/HostOnly.h"

@@ -1,8 +1,5 @@
 #pragma once
 
-#include <unistd.h>
-
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <memory>
@@ -19,43 +16,24 @@
 #include "plugin/ClassLibrary.h"
 #include "plugin/MKELDConstants.h"
 #include "plugin/MKELDGlobalVars.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace support {
 
-/// A folder that goes with the object.
-class TemporaryFolder {
- public:
-  TemporaryFolder() {
-    std::string pattern = (std::filesystem::temp_directory_path() / "keld-test-XXXXXX").string();
-    if (!mkdtemp(pattern.data())) throw std::runtime_error("no temporary folder can be made: " + pattern);
-    path_ = pattern;
-  }
-  TemporaryFolder(const TemporaryFolder&) = delete;
-  TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-  ~TemporaryFolder() {
-    std::error_code ignored;
-    std::filesystem::remove_all(path_, ignored);
-  }
-
-  const std::filesystem::path& Path() const { return path_; }
-
- private:
-  std::filesystem::path path_;
-};
-
-/// The real host without devices: the headless toolkit on the virtual clock, a state folder of its own, and the
-/// plug-in's classes, linked into the test and opened by this host.
+/// The real host without devices: the headless toolkit on the virtual clock, a state folder of its own, and
+/// the plug-in's classes, linked into the test and opened by this host.
 class HostOnly {
  public:
-  /// @param catalogue what stands in for the settings value "Configuration"; without it there is no settings key
+  /// @param catalogue what stands in for the settings value "Configuration"; without it there is no settings
+  /// key
   explicit HostOnly(std::optional<std::string> catalogue = {}, std::string language = {})
       : application_(std::make_shared<bench::headless::Application>(bench::ClockKind::kVirtual)),
-        host_(bench::Host::Create({folder_.Path(), std::move(language), std::move(catalogue)}, application_)) {
-    const auto library = std::make_shared<keld::ClassLibrary>();
-    for (std::int32_t index = 1; index <= library->Count(); ++index) {
-      const std::string id = library->ClassIdentifier(index);
-      host_->Register(id, [library, id] { return library->CreateObject(id); });
-    }
+        host_(bench::Host::Create({.stateFolder = folder_.Path(),
+                                   .language = std::move(language),
+                                   .catalogue = std::move(catalogue),
+                                   .translationFolders = {}},
+                                  application_)) {
+    host_->AddClasses(std::make_shared<keld::ClassLibrary>());
     bench::RegisterControls(*host_);
     bench::ConnectControls(*application_, *host_);
     keld::MKELDGlobalVars::Open(host_);

@@ -46,7 +46,8 @@ class VirtualBench {
 
   static constexpr char kDevice[] = "memory";
 
-  explicit VirtualBench(Settings settings = {})
+  VirtualBench() : VirtualBench(Settings{}) {}
+  explicit VirtualBench(Settings settings)
       : host_(settings.catalogue), line_(host_.SharedApplication(), Profile(settings.profile)) {
     host_.Host().Register(orvik::HostClasses::kCommApplication, [this] { return comm_; });
     if (settings.assigned) Assign();

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <nlohmann/json.hpp>
+
+#include "host/app/DocumentView.h"
+
+namespace bench {
+
+/// What `run --json` and `show --json` print of a document.
+nlohmann::ordered_json JsonOf(const DocumentSummary& document);
+
+/// JSON text of one line; bytes that are no UTF-8 are replaced.
+std::string OneLine(const nlohmann::ordered_json& json);
+/// JSON text, indented by two blanks.
+std::string Indented(const nlohmann::ordered_json& json);
+
+}  // namespace bench

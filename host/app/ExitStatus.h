@@ -1,0 +1,14 @@
+#pragma once
+
+namespace bench {
+
+/// How the program ends.
+enum class ExitStatus {
+  kPassed = 0,      ///< everything run passed or was not applicable; done
+  kFailed = 1,      ///< something failed its limits
+  kIncomplete = 2,  ///< something was not completed: no tester, stopped, aborted, refused, doubtful
+  kBadInput = 3,    ///< the message names the file, the line or the option
+  kInternal = 4     ///< an error of the program itself
+};
+
+}  // namespace bench

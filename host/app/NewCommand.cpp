@@ -1,0 +1,50 @@
+#include "host/app/NewCommand.h"
+
+#include <iostream>
+
+#include "host/app/DocumentText.h"
+#include "host/app/InputError.h"
+#include "host/app/TextColumns.h"
+#include "host/document/Document.h"
+#include "host/elements/ElementFactory.h"
+#include "host/run/ElementText.h"
+#include "host/run/ElementWalk.h"
+
+namespace bench {
+
+CLI::App* NewCommand::Declare(CLI::App& program) {
+  auto* command =
+      program.add_subcommand("new", "Make a test document and print the identifiers of its elements");
+  command->add_option("FILE", file_, "The document to make, such as pump-7.orvik")->required();
+  command->add_option("--add", tests_, "Tests of the catalogue, in the order of testing")
+      ->required()
+      ->type_name("TESTID");
+  command->add_option("--asset", asset_, "Asset number of the equipment under test");
+  command->add_option("--serial", serial_, "Its serial number");
+  command->add_option("--maker", maker_, "Its maker");
+  command->add_option("--model", model_, "Its model");
+  return command;
+}
+
+ExitStatus NewCommand::Run(const GlobalOptions& options) {
+  Workbench workbench(options);
+  const auto document = Document::Create(workbench.Host(), file_);
+  document->equipment = {asset_, serial_, maker_, model_};
+  for (const auto testId : tests_) {
+    if (!workbench.PlugIn().CreateTest(testId))
+      throw InputError("--add " + std::to_string(testId) +
+                       ": the catalogue has no such test; \"orvik-bench tests\" prints those it has");
+    document->AddTest(testId);
+  }
+  document->Save();
+  for (const auto& top : TopElements(*document)) {
+    WalkElements(top, [&](const std::shared_ptr<orvik::ITestElement>& element) {
+      std::cout << LeftPadded(std::to_string(element->ID()), 4) << "  "
+                << LeftPadded(std::to_string(element->TestID()), 4) << "  "
+                << ElementName(*element, *workbench.Host()->Elements()) << "\n";
+    });
+  }
+  return ExitStatus::kPassed;
+}
+
+}  // namespace bench

@@ -1,0 +1,44 @@
+#include "host/app/ProgramFiles.h"
+
+#include <cstdlib>
+#include <string>
+
+#include "host/app/InputError.h"
+
+namespace bench::files {
+
+namespace {
+
+std::filesystem::path Prefix() {
+  return std::filesystem::read_symlink("/proc/self/exe").parent_path().parent_path();
+}
+
+std::string Environment(const char* name) {
+  const char* value = std::getenv(name);
+  return value ? value : "";
+}
+
+}  // namespace
+
+std::filesystem::path PlugInLibrary() { return Prefix() / "lib" / "orvik" / "orvikKELD.so"; }
+
+std::filesystem::path Catalogue() { return Prefix() / "share" / "orvik" / "catalogue.xml"; }
+
+std::filesystem::path Translations() { return Prefix() / "share" / "orvik" / "translations"; }
+
+std::filesystem::path Simulator() { return Prefix() / "bin" / "keld-sim"; }
+
+std::filesystem::path StateFolder(const std::string& option) {
+  if (!option.empty()) return option;
+  if (const auto own = Environment("ORVIK_STATE"); !own.empty()) return own;
+  // The XDG rules have a relative path ignored.
+  if (const std::filesystem::path xdg = Environment("XDG_STATE_HOME"); xdg.is_absolute())
+    return xdg / "orvik";
+  if (const auto home = Environment("HOME"); !home.empty())
+    return std::filesystem::path(home) / ".local" / "state" / "orvik";
+  throw InputError(
+      "there is no place for settings: neither ORVIK_STATE, XDG_STATE_HOME nor HOME is set; "
+      "name a folder with --state");
+}
+
+}  // namespace bench::files

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <filesystem>
+
+namespace bench::files {
+
+/// Files that come with the program, found from where the program itself lies (PREFIX/bin).
+
+/// PREFIX/lib/orvik/orvikKELD.so
+std::filesystem::path PlugInLibrary();
+/// PREFIX/share/orvik/catalogue.xml
+std::filesystem::path Catalogue();
+/// PREFIX/share/orvik/translations
+std::filesystem::path Translations();
+/// PREFIX/bin/keld-sim
+std::filesystem::path Simulator();
+
+/// Where registry and error log live: `option` (--state) when it is not empty, else ORVIK_STATE, else the
+/// folder "orvik" of the XDG state directory. `InputError` when there is none of them.
+std::filesystem::path StateFolder(const std::string& option);
+
+}  // namespace bench::files

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "OrvikTypeLib/IPlugIn.h"
+#include "host/Host.h"
+#include "host/serial/PortManager.h"
+#include "host/toolkit/headless/Application.h"
+
+namespace bench {
+
+/// The options that go with every command.
+struct GlobalOptions {
+  std::string state;
+  std::string catalogue;
+  std::string language;
+};
+
+/// The host without a screen, with its serial library and the plug-in opened.
+class Workbench {
+ public:
+  /// @param timeScale how many times faster than the wall all pauses and time-outs pass
+  explicit Workbench(const GlobalOptions& options, double timeScale = 1.0);
+  Workbench(const Workbench&) = delete;
+  Workbench& operator=(const Workbench&) = delete;
+  ~Workbench();
+
+  const std::shared_ptr<headless::Application>& Application() const { return application_; }
+  const std::shared_ptr<bench::Host>& Host() const { return host_; }
+  PortManager& Ports() { return *ports_; }
+  orvik::IPlugIn& PlugIn() { return *plugIn_; }
+
+ private:
+  void SeedCatalogue();
+
+  const std::shared_ptr<headless::Application> application_;
+  const std::shared_ptr<PortManager> ports_;
+  std::shared_ptr<bench::Host> host_;
+  std::shared_ptr<orvik::IPlugIn> plugIn_;
+};
+
+}  // namespace bench

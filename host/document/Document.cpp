@@ -1,0 +1,211 @@
+#include "host/document/Document.h"
+
+#include <limits>
+#include <vector>
+
+#include "OrvikTypeLib/As.h"
+#include "OrvikTypeLib/HostClasses.h"
+#include "OrvikTypeLib/IPlugIn.h"
+#include "host/Host.h"
+#include "host/document/SavedElements.h"
+#include "host/elements/ElementFactory.h"
+#include "host/elements/ElementTags.h"
+#include "host/elements/Nesting.h"
+#include "host/elements/TestContainer.h"
+#include "host/instruments/InstrumentColl.h"
+#include "host/services/XmlDocument.h"
+#include "host/services/XmlNode.h"
+
+namespace bench {
+namespace {
+
+using orvik::HostError;
+
+constexpr char kSource[] = "orvik-bench";
+constexpr char kRoot[] = "OrvikDocument";
+constexpr char kVersionAttribute[] = "Version";
+constexpr char kEquipment[] = "Equipment";
+constexpr char kAsset[] = "Asset";
+constexpr char kSerial[] = "Serial";
+constexpr char kMaker[] = "Maker";
+constexpr char kModel[] = "Model";
+constexpr char kStandards[] = "Standards";
+constexpr char kInstruments[] = "Instruments";
+constexpr char kElements[] = "Elements";
+
+[[noreturn]] void Refuse(const std::string& reason) {
+  throw HostError(HostError::kInvalidArgument, kSource, reason);
+}
+
+/// Refuses a file: its name, the line in which the fault shows (when that is known), and the reason.
+[[noreturn]] void RefuseFile(const std::filesystem::path& file, const std::string& text,
+                             std::ptrdiff_t offset, const std::string& reason) {
+  auto place = file.string();
+  if (offset >= 0) place += ", line " + std::to_string(xml::LineOf(text, static_cast<std::size_t>(offset)));
+  throw HostError(HostError::kPathError, kSource, place + ": " + reason);
+}
+
+void CheckVersion(pugi::xml_node root) {
+  if (std::string_view(root.name()) != kRoot) throw XmlError(root, "this is no test document");
+  const auto version = xml::NumberAttribute(root, kVersionAttribute);
+  if (version > Document::kVersion)
+    throw XmlError(root, "the document was written by a newer version of this program (format " +
+                             std::to_string(version) + ", this program reads " +
+                             std::to_string(Document::kVersion) + "); use that version");
+  if (version < 1) throw XmlError(root, "there is no document format " + std::to_string(version));
+}
+
+std::shared_ptr<orvik::IXmlNode> Wrapped(const std::shared_ptr<pugi::xml_document>& xml,
+                                         pugi::xml_node node) {
+  return std::make_shared<XmlNode>(xml, node);
+}
+
+}  // namespace
+
+Document::Document(std::shared_ptr<Host> host, DocumentFile file)
+    : host_(std::move(host)),
+      file_(std::move(file)),
+      standards_(orvik::As<orvik::IStandardColl>(host_->CreateObject(orvik::HostClasses::kStandardColl))),
+      instruments_(std::make_shared<InstrumentColl>()),
+      elements_(std::make_shared<TestContainer>(host_->Elements())) {}
+
+std::shared_ptr<Document> Document::Create(std::shared_ptr<Host> host, const std::filesystem::path& file) {
+  return std::make_shared<Document>(std::move(host), DocumentFile::New(file));
+}
+
+std::shared_ptr<Document> Document::Open(std::shared_ptr<Host> host, const std::filesystem::path& file,
+                                         DocumentFile::Use use) {
+  auto opened = DocumentFile::Existing(file, use);
+  const auto text = opened.Read();
+  auto document = std::make_shared<Document>(std::move(host), std::move(opened));
+  document->Load(text);
+  return document;
+}
+
+std::shared_ptr<orvik::ITestContainer> Document::Elements() const { return elements_; }
+
+void Document::MoveTo(const std::filesystem::path& file) { file_ = DocumentFile::New(file); }
+
+void Document::Load(const std::string& text) {
+  const auto xml = std::make_shared<pugi::xml_document>();
+  const auto fault = xml::Parse(text, *xml);
+  if (!fault.reason.empty())
+    RefuseFile(Path(), text, static_cast<std::ptrdiff_t>(fault.offset), fault.reason);
+  auto& trouble = host_->Elements()->Trouble();
+  trouble.Clear();
+  try {
+    CheckVersion(xml->document_element());
+    LoadSections(xml);
+  } catch (const XmlError& error) {
+    if (trouble.All().empty()) RefuseFile(Path(), text, error.Offset(), error.Description());
+  } catch (const HostError& error) {
+    if (trouble.All().empty()) RefuseFile(Path(), text, -1, error.Description());
+  }
+  // The innermost fault is noted first; a plug-in's element may have passed over it.
+  if (!trouble.All().empty())
+    RefuseFile(Path(), text, trouble.All().front().offset, trouble.All().front().reason);
+}
+
+void Document::LoadSections(const std::shared_ptr<pugi::xml_document>& xml) {
+  const auto root = xml->document_element();
+  topLeftovers_.Take(*xml, {}, {kRoot});
+  rootLeftovers_.Take(root, {kVersionAttribute}, {kEquipment, kStandards, kInstruments, kElements});
+
+  const auto saved = root.child(kEquipment);
+  equipment = {saved.attribute(kAsset).value(), saved.attribute(kSerial).value(),
+               saved.attribute(kMaker).value(), saved.attribute(kModel).value()};
+  equipmentLeftovers_.Take(saved, {kAsset, kSerial, kMaker, kModel}, {});
+
+  if (const auto standards = root.child(kStandards)) standards_->Load(Wrapped(xml, standards), nullptr);
+  instruments_->Load(root.child(kInstruments));
+
+  const auto elements = root.child(kElements);
+  highestId_ = CheckSavedElements(elements);
+  elementsLeftovers_.Take(elements, {}, {tags::kTestElement});
+  if (elements) elements_->LoadChildren(Wrapped(xml, elements));
+}
+
+void Document::Save() { file_.Write(Text()); }
+
+std::string Document::Text() const {
+  auto& trouble = host_->Elements()->Trouble();
+  trouble.Clear();
+  std::string reason;
+  const auto xml = std::make_shared<pugi::xml_document>();
+  try {
+    SaveTo(xml);
+  } catch (const HostError& error) {
+    reason = error.Description();
+  }
+  if (!trouble.All().empty()) reason = trouble.All().front().reason;
+  if (!reason.empty()) Refuse(Path().string() + " was not saved: " + reason);
+  return xml::Write(*xml);
+}
+
+void Document::SaveTo(const std::shared_ptr<pugi::xml_document>& xml) const {
+  RequireShallow(elements_);
+  auto declaration = xml->append_child(pugi::node_declaration);
+  declaration.append_attribute("version") = "1.0";
+  declaration.append_attribute("encoding") = "UTF-8";
+  auto root = xml->append_child(kRoot);
+  root.append_attribute(kVersionAttribute) = kVersion;
+
+  const auto saved = root.append_child(kEquipment);
+  xml::SetAttribute(saved, kAsset, equipment.asset);
+  xml::SetAttribute(saved, kSerial, equipment.serial);
+  xml::SetAttribute(saved, kMaker, equipment.maker);
+  xml::SetAttribute(saved, kModel, equipment.model);
+  equipmentLeftovers_.Restore(saved);
+
+  standards_->Save(Wrapped(xml, root));
+  instruments_->Save(root);
+
+  const auto elements = root.append_child(kElements);
+  elements_->SaveChildren(Wrapped(xml, elements));
+  elementsLeftovers_.Restore(elements);
+  rootLeftovers_.Restore(root);
+  topLeftovers_.Restore(*xml);
+}
+
+std::shared_ptr<orvik::ITestElement> Document::AddTest(std::int32_t testId,
+                                                       const std::shared_ptr<orvik::ITestElement>& parent) {
+  const auto container = parent ? orvik::As<orvik::ITestContainer>(parent) : Elements();
+  if (!container) Refuse("element " + std::to_string(parent->ID()) + " is no sequence; name one that is");
+  auto added = FromCatalogue(testId);
+  RequireShallow(added);
+  GiveIdentifiers(added);
+  container->Add(added, {}, {});
+  // A plug-in's sequence may pass over an error of the container it wraps.
+  if (added->Parent() != orvik::As<orvik::ITestElement>(container))
+    Refuse("the test could not be added to element " + std::to_string(parent ? parent->ID() : 0));
+  return added;
+}
+
+std::shared_ptr<orvik::ITestElement> Document::FromCatalogue(std::int32_t testId) const {
+  for (const auto& plugIn : host_->Elements()->PlugIns()) {
+    auto created = plugIn->CreateTest(testId);
+    if (created && created->TestID() == testId) return created;
+  }
+  Refuse("the catalogue has no test " + std::to_string(testId) + "; \"orvik-bench tests\" lists them");
+}
+
+void Document::GiveIdentifiers(const std::shared_ptr<orvik::ITestElement>& top) {
+  // Children wait in reverse order, so that identifiers are given in document order.
+  std::vector<std::shared_ptr<orvik::ITestElement>> waiting{top};
+  while (!waiting.empty()) {
+    const auto element = waiting.back();
+    waiting.pop_back();
+    if (highestId_ == std::numeric_limits<std::int32_t>::max())
+      Refuse("the document has no identifiers left");
+    element->SetID(++highestId_);
+    const auto container = orvik::As<orvik::ITestContainer>(element);
+    for (auto index = container ? container->Count() : 0; index > 0; --index)
+      waiting.push_back(container->item(index));
+  }
+}
+
+std::shared_ptr<orvik::ITestElement> Document::Find(std::int32_t id) const {
+  return elements_->FindElement(id);
+}
+
+}  // namespace bench

@@ -1,0 +1,100 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <memory>
+#include <pugixml.hpp>
+#include <string>
+
+#include "OrvikTypeLib/IStandardColl.h"
+#include "OrvikTypeLib/ITestContainer.h"
+#include "OrvikTypeLib/ITestElement.h"
+#include "host/document/DocumentFile.h"
+#include "host/services/Leftovers.h"
+
+namespace bench {
+
+class Host;
+class InstrumentColl;
+class TestContainer;
+
+/// A test document, an XML file:
+///
+///     <OrvikDocument Version="1">
+///       <Equipment Asset="..." Serial="..." Maker="..." Model="..."/>
+///       <Standards>...</Standards>        the standards by which measurements are judged
+///       <Instruments>...</Instruments>
+///       <Elements><TestElement .../></Elements>
+///     </OrvikDocument>
+///
+/// A file that cannot be read is refused with `HostError` 75 naming file, line and reason, and left as it is.
+/// What the file holds beyond this is kept and written back.
+class Document {
+ public:
+  struct Equipment {
+    std::string asset;
+    std::string serial;
+    std::string maker;
+    std::string model;
+    bool operator==(const Equipment&) const = default;
+  };
+
+  /// Version of the format that this program reads and writes.
+  static constexpr std::int32_t kVersion = 1;
+
+  /// A new document; its file comes into being when it is saved.
+  static std::shared_ptr<Document> Create(std::shared_ptr<Host> host, const std::filesystem::path& file);
+  /// Opens a document; the plug-ins of its elements are opened before.
+  static std::shared_ptr<Document> Open(std::shared_ptr<Host> host, const std::filesystem::path& file,
+                                        DocumentFile::Use use = DocumentFile::Use::kWrite);
+
+  /// Use `Create` or `Open`.
+  Document(std::shared_ptr<Host> host, DocumentFile file);
+
+  const std::filesystem::path& Path() const { return file_.Path(); }
+
+  /// Writes the document, on disk when the call returns. `HostError` when an element cannot be saved or the
+  /// file cannot be written; the file then is as it was.
+  void Save();
+
+  /// The document as it would be saved.
+  std::string Text() const;
+
+  /// Goes on under another name, which must not exist yet.
+  void MoveTo(const std::filesystem::path& file);
+
+  Equipment equipment;
+
+  /// The standards by which measurements are judged.
+  const std::shared_ptr<orvik::IStandardColl>& Standards() const { return standards_; }
+  const std::shared_ptr<InstrumentColl>& Instruments() const { return instruments_; }
+
+  /// The top-level elements; itself it has the identifier 0.
+  std::shared_ptr<orvik::ITestContainer> Elements() const;
+
+  /// Adds a copy of the catalogue's test at the end of the document, or of the sequence `parent`. It and all
+  /// below it get the next free identifiers in document order. `HostError` 5 when no opened plug-in has the
+  /// test.
+  std::shared_ptr<orvik::ITestElement> AddTest(std::int32_t testId,
+                                               const std::shared_ptr<orvik::ITestElement>& parent = nullptr);
+
+  /// The element of that identifier at any depth, or empty.
+  std::shared_ptr<orvik::ITestElement> Find(std::int32_t id) const;
+
+ private:
+  void Load(const std::string& text);
+  void LoadSections(const std::shared_ptr<pugi::xml_document>& xml);
+  void SaveTo(const std::shared_ptr<pugi::xml_document>& xml) const;
+  std::shared_ptr<orvik::ITestElement> FromCatalogue(std::int32_t testId) const;
+  void GiveIdentifiers(const std::shared_ptr<orvik::ITestElement>& top);
+
+  std::shared_ptr<Host> host_;
+  DocumentFile file_;
+  std::shared_ptr<orvik::IStandardColl> standards_;
+  std::shared_ptr<InstrumentColl> instruments_;
+  std::shared_ptr<TestContainer> elements_;
+  std::int32_t highestId_ = 0;
+  Leftovers topLeftovers_, rootLeftovers_, equipmentLeftovers_, elementsLeftovers_;
+};
+
+}  // namespace bench

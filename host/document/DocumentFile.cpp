@@ -1,0 +1,114 @@
+#include "host/document/DocumentFile.h"
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <system_error>
+
+namespace bench {
+namespace {
+
+constexpr int kOpenAttempts = 100;
+
+DocumentFile::Use constexpr kWrite = DocumentFile::Use::kWrite;
+
+std::filesystem::path Beside(const std::filesystem::path& file, const std::string& ending) {
+  auto beside = file;
+  beside += ending;
+  return beside;
+}
+
+/// Gives `fresh` the name `file`, which nobody else may have taken meanwhile.
+void MoveToNewName(const std::filesystem::path& fresh, const std::filesystem::path& file) {
+  if (renameat2(AT_FDCWD, fresh.c_str(), AT_FDCWD, file.c_str(), RENAME_NOREPLACE) == 0) return;
+  int error = errno;
+  // File systems that do not know the flag know links.
+  if (error == EINVAL || error == ENOSYS) {
+    error = link(fresh.c_str(), file.c_str()) == 0 ? 0 : errno;
+  }
+  unlink(fresh.c_str());
+  if (error == EEXIST)
+    ThrowFileError(file, "is there already", 0, "choose another name, or remove the file first");
+  if (error != 0) ThrowFileError(file, "cannot be created", error, "check the folder and your permissions");
+}
+
+}  // namespace
+
+std::optional<DocumentFile::Stamp> DocumentFile::StampOf(const std::filesystem::path& file) {
+  const FileDescriptor descriptor(open(file.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+  return descriptor.Valid() ? StampOf(descriptor.Get()) : std::nullopt;
+}
+
+std::optional<DocumentFile::Stamp> DocumentFile::StampOf(int descriptor) {
+  struct stat status {};
+  if (fstat(descriptor, &status) != 0) return {};
+  return Stamp{status.st_dev, status.st_ino, static_cast<std::uint64_t>(status.st_size),
+               status.st_mtim.tv_sec, status.st_mtim.tv_nsec};
+}
+
+DocumentFile DocumentFile::Existing(const std::filesystem::path& file, Use use) {
+  DocumentFile opened;
+  std::error_code error;
+  // A link is followed, so that what it names is replaced and not the link.
+  opened.path_ = std::filesystem::canonical(file, error);
+  if (error) ThrowFileError(file, "cannot be opened", error.value(), "check the name and your permissions");
+  // Between opening and locking the file may be replaced by a new one: then that one is meant.
+  for (int attempt = 0; attempt < kOpenAttempts; ++attempt) {
+    if (opened.TryOpen(use)) return opened;
+  }
+  ThrowFileError(opened.path_, "changes all the time", 0, "close the program that writes it and try again");
+}
+
+bool DocumentFile::TryOpen(Use use) {
+  use_ = use;
+  descriptor_ = FileDescriptor(open(path_.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+  if (!descriptor_.Valid())
+    ThrowFileError(path_, "cannot be opened", errno, "check the name and your permissions");
+  if (use == kWrite) Lock(descriptor_.Get());
+  stamp_ = StampOf(descriptor_.Get());
+  return use == Use::kRead || stamp_ == StampOf(path_);
+}
+
+DocumentFile DocumentFile::New(const std::filesystem::path& file) {
+  DocumentFile created;
+  created.path_ = std::filesystem::absolute(file);
+  created.use_ = kWrite;
+  std::error_code error;
+  if (std::filesystem::exists(std::filesystem::symlink_status(created.path_, error)))
+    ThrowFileError(file, "is there already", 0, "choose another name, or remove the file first");
+  return created;
+}
+
+void DocumentFile::Lock(int descriptor) const {
+  if (flock(descriptor, LOCK_EX | LOCK_NB) == 0) return;
+  if (errno == EWOULDBLOCK)
+    ThrowFileError(path_, "is open in another program", 0, "close it there and try again");
+  ThrowFileError(path_, "cannot be locked", errno, "keep documents on a local disk");
+}
+
+std::string DocumentFile::Read() const { return ReadDescriptor(descriptor_.Get(), path_); }
+
+void DocumentFile::Write(std::string_view contents) {
+  if (use_ != kWrite) ThrowFileError(path_, "was opened for reading only", 0, "open it for writing");
+  if (stamp_ && stamp_ != StampOf(path_))
+    ThrowFileError(path_, "was changed by another program since it was opened", 0,
+                   "save under another name, and compare the two");
+  // A new document is written beside the file of whoever else creates one of that name.
+  const auto fresh = Beside(path_, stamp_ ? ".new" : ".new." + std::to_string(getpid()));
+  auto written = WriteFreshFile(fresh, contents, FileMode(path_));
+  Lock(written.Get());
+  if (stamp_) {
+    MoveIntoPlace(fresh, path_);
+  } else {
+    MoveToNewName(fresh, path_);
+    SyncFolderOf(path_);
+  }
+  descriptor_ = std::move(written);
+  stamp_ = StampOf(descriptor_.Get());
+}
+
+}  // namespace bench

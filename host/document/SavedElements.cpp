@@ -1,0 +1,47 @@
+#include "host/document/SavedElements.h"
+
+#include <algorithm>
+#include <string>
+#include <unordered_set>
+
+#include "host/elements/ElementTags.h"
+#include "host/elements/Nesting.h"
+#include "host/services/XmlNode.h"
+
+namespace bench {
+namespace {
+
+/// The next saved element in document order below `top`; `depth` follows.
+pugi::xml_node Next(pugi::xml_node element, pugi::xml_node top, int& depth) {
+  if (const auto child = element.child(tags::kTestElement)) {
+    ++depth;
+    return child;
+  }
+  while (element != top) {
+    if (const auto next = element.next_sibling(tags::kTestElement)) return next;
+    element = element.parent();
+    --depth;
+  }
+  return {};
+}
+
+}  // namespace
+
+std::int32_t CheckSavedElements(pugi::xml_node elements) {
+  std::unordered_set<std::int32_t> known;
+  std::int32_t highest = 0;
+  int depth = 0;
+  for (auto element = Next(elements, elements, depth); element; element = Next(element, elements, depth)) {
+    if (depth > kDeepestNesting)
+      throw XmlError(element,
+                     "elements are nested more than " + std::to_string(kDeepestNesting) + " levels deep");
+    const auto id = xml::NumberAttribute(element, tags::kID);
+    if (id < 1) throw XmlError(element, "the identifier " + std::to_string(id) + " is below 1");
+    if (!known.insert(id).second)
+      throw XmlError(element, "the identifier " + std::to_string(id) + " is used twice");
+    highest = std::max(highest, id);
+  }
+  return highest;
+}
+
+}  // namespace bench

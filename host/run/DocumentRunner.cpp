@@ -1,0 +1,30 @@
+#include "host/run/DocumentRunner.h"
+
+namespace bench {
+
+DocumentRunner::End DocumentRunner::Run(const std::vector<std::shared_ptr<orvik::ITestElement>>& elements) {
+  for (std::size_t place = 0; place < elements.size();) {
+    if (stop_.Asked()) return End::kStopped;
+    reached_.Raise(place + 1, elements.size(), elements[place]);
+    Perform(elements[place]);
+    reason_ = controller_->SaveFailure();
+    if (!reason_.empty()) return End::kNotSaved;
+    if (stop_.Asked()) return End::kStopped;
+    if (controller_->Asked() == Navigation::kAbort) return End::kAborted;
+    reason_ = link_.Loss();
+    if (!reason_.empty()) return End::kTesterLost;
+    if (controller_->Asked() != Navigation::kPrevious)
+      ++place;
+    else if (place > 0)
+      --place;
+  }
+  return End::kFinished;
+}
+
+void DocumentRunner::Perform(const std::shared_ptr<orvik::ITestElement>& element) {
+  controller_->Open(*element);
+  element->Perform(controller_);
+  controller_->Settle(element);
+}
+
+}  // namespace bench

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "OrvikTypeLib/ITestElement.h"
+#include "host/run/LinkWatch.h"
+#include "host/run/RunController.h"
+#include "host/run/StopRequest.h"
+#include "platform/Event.h"
+
+namespace bench {
+
+/// Performs elements one after the other, as the operator navigates.
+class DocumentRunner {
+ public:
+  enum class End {
+    kFinished,    ///< the last element has been left
+    kStopped,     ///< a stop was asked for
+    kAborted,     ///< the operator ended the run
+    kTesterLost,  ///< the tester cannot be reached: `Reason`
+    kNotSaved     ///< the document cannot be saved: `Reason`
+  };
+
+  DocumentRunner(std::shared_ptr<RunController> controller, LinkWatch& link, const StopRequest& stop)
+      : controller_(std::move(controller)), link_(link), stop_(stop) {}
+
+  /// Raised before an element is performed: its place, counted from 1, the number of all, the element.
+  orvik::platform::Event<std::size_t, std::size_t, const std::shared_ptr<orvik::ITestElement>&>& Reached() {
+    return reached_;
+  }
+
+  End Run(const std::vector<std::shared_ptr<orvik::ITestElement>>& elements);
+  const std::string& Reason() const { return reason_; }
+
+ private:
+  void Perform(const std::shared_ptr<orvik::ITestElement>& element);
+
+  const std::shared_ptr<RunController> controller_;
+  LinkWatch& link_;
+  const StopRequest& stop_;
+  std::string reason_;
+  orvik::platform::Event<std::size_t, std::size_t, const std::shared_ptr<orvik::ITestElement>&> reached_;
+};
+
+}  // namespace bench

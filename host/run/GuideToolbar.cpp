@@ -1,0 +1,25 @@
+#include "host/run/GuideToolbar.h"
+
+#include "platform/Controls.h"
+#include "platform/IContainerSite.h"
+#include "platform/IUserControl.h"
+
+namespace bench {
+
+namespace platform = orvik::platform;
+
+std::shared_ptr<orvik::ITgToolbar> GuideToolbar(const platform::IForm& form) {
+  const auto site = std::dynamic_pointer_cast<platform::IContainerSite>(form.Find(guide::kToolbar));
+  return site ? std::dynamic_pointer_cast<orvik::ITgToolbar>(site->Object()) : nullptr;
+}
+
+std::string CaptionOf(const platform::IForm& form, const std::string& control) {
+  const auto found = form.Find(control);
+  return found ? found->Caption() : std::string();
+}
+
+void ClickButton(const platform::IForm& form, const std::string& button) {
+  if (const auto found = std::dynamic_pointer_cast<platform::IButton>(form.Find(button))) found->Click();
+}
+
+}  // namespace bench

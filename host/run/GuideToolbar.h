@@ -1,0 +1,42 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+
+#include "OrvikTypeLib/ITgToolbar.h"
+#include "platform/IForm.h"
+
+namespace bench {
+
+/// Names of the plug-in's windows and of their controls, and the guide's buttons.
+namespace guide {
+
+inline constexpr char kGuideForm[] = "FTestGuide";
+inline constexpr char kToolbar[] = "xtbToolbar";
+inline constexpr std::int32_t kAbort = 101;
+inline constexpr std::int32_t kPrevious = 102;
+inline constexpr std::int32_t kNext = 103;
+inline constexpr std::int32_t kStop = 201;
+inline constexpr std::int32_t kPlay = 202;
+inline constexpr std::int32_t kNotApplicable = 301;
+inline constexpr std::int32_t kSkip = 302;
+
+inline constexpr char kPretestForm[] = "FPretestPrompt";
+inline constexpr char kPretestOk[] = "cmdOK";
+inline constexpr char kYesNoForm[] = "FYesNoPrompt";
+inline constexpr char kYes[] = "cmdAccept";
+inline constexpr char kNo[] = "cmdDecline";
+inline constexpr char kPromptText[] = "lblPrompt";
+
+}  // namespace guide
+
+/// The toolbar of a test guide's window; empty when it has none.
+std::shared_ptr<orvik::ITgToolbar> GuideToolbar(const orvik::platform::IForm& form);
+
+/// The caption of the form's control; empty when there is none.
+std::string CaptionOf(const orvik::platform::IForm& form, const std::string& control);
+
+/// Clicks the form's button, as the operator does.
+void ClickButton(const orvik::platform::IForm& form, const std::string& button);
+
+}  // namespace bench

@@ -1,0 +1,39 @@
+#include "host/run/LinkWatch.h"
+
+#include "host/serial/Message.h"
+
+namespace bench {
+
+LinkWatch::LinkWatch(PortManager& ports)
+    : ports_(ports),
+      watch_(ports.TheWire()->Subscribe([this](const WireRecord& record) { Watch(record); })) {}
+
+std::string LinkWatch::Loss() const {
+  if (!ports_.LastError().empty()) return ports_.LastError();
+  if (failed_) return "the tester's cable was unplugged or its port has failed";
+  if (sessionAsked_) return "no tester answers; check that it is switched on and connected";
+  return {};
+}
+
+void LinkWatch::Watch(const WireRecord& record) {
+  switch (record.kind) {
+    case WireRecord::Kind::kOpened:
+      failed_ = false;
+      sessionAsked_ = false;
+      break;
+    case WireRecord::Kind::kSent:
+      if (record.message->MnemonicText() == "IREM") sessionAsked_ = true;
+      break;
+    case WireRecord::Kind::kReceived:
+    case WireRecord::Kind::kDropped:
+      sessionAsked_ = false;
+      break;
+    case WireRecord::Kind::kFailed:
+      failed_ = true;
+      break;
+    case WireRecord::Kind::kClosed:
+      break;
+  }
+}
+
+}  // namespace bench

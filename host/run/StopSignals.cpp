@@ -1,0 +1,48 @@
+#include "host/run/StopSignals.h"
+
+#include <atomic>
+#include <csignal>
+#include <utility>
+
+#include "host/toolkit/headless/Application.h"
+
+namespace bench {
+
+namespace {
+
+constexpr int kSignals[] = {SIGINT, SIGTERM, SIGHUP};
+
+// A signal handler reaches nothing but these.
+std::atomic<headless::Application*> receiver{nullptr};
+std::atomic<int> arrived{0};
+
+void Handle(int signal) {
+  arrived.store(signal);
+  if (auto* application = receiver.load()) application->Wake();
+}
+
+void Install(void (*handler)(int)) {
+  struct sigaction action {};
+  action.sa_handler = handler;
+  sigemptyset(&action.sa_mask);
+  for (const int signal : kSignals) sigaction(signal, &action, nullptr);
+}
+
+}  // namespace
+
+StopSignals::StopSignals(headless::Application& application, std::function<void(int signal)> stop)
+    : stop_(std::move(stop)), woken_(application.Woken().Subscribe([this] { Deliver(); })) {
+  receiver.store(&application);
+  Install(&Handle);
+}
+
+StopSignals::~StopSignals() {
+  Install(SIG_DFL);
+  receiver.store(nullptr);
+}
+
+void StopSignals::Deliver() {
+  if (const int signal = arrived.exchange(0)) stop_(signal);
+}
+
+}  // namespace bench

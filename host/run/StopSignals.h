@@ -1,0 +1,30 @@
+#pragma once
+
+#include <functional>
+
+#include "platform/Event.h"
+
+namespace bench {
+
+namespace headless {
+class Application;
+}
+
+/// Turns SIGINT, SIGTERM and SIGHUP into calls on the user-interface thread, for as long as it lives. One for
+/// the process.
+class StopSignals {
+ public:
+  /// `stop` is called while messages are processed, with the number of the signal: for every signal once.
+  StopSignals(headless::Application& application, std::function<void(int signal)> stop);
+  StopSignals(const StopSignals&) = delete;
+  StopSignals& operator=(const StopSignals&) = delete;
+  ~StopSignals();
+
+ private:
+  void Deliver();
+
+  std::function<void(int)> stop_;
+  orvik::platform::Subscription woken_;
+};
+
+}  // namespace bench

@@ -1,0 +1,117 @@
+#include <limits>
+
+#include "OrvikTypeLib/IDialog.h"
+#include "OrvikTypeLib/IMeasurement.h"
+#include "OrvikTypeLib/IResultData.h"
+#include "OrvikTypeLib/IServiceRecord.h"
+#include "host/report/ReportObject.h"
+#include "tests/conformance/Asked.h"
+
+namespace conformance {
+namespace {
+
+class Result : public EveryPlugIn {
+ protected:
+  std::shared_ptr<orvik::IResultData> Loaded(const std::string& xml) {
+    element_ = library_.NewTest();
+    element_->Load(library_.Parsed(xml), nullptr);
+    return element_->Result();
+  }
+  std::shared_ptr<orvik::ITestElement> element_;
+};
+FOR_EVERY_PLUG_IN(Result);
+
+TEST_P(Result, StartsAsNotTested) {
+  const auto result = Loaded("<ResultItem/>");
+  ASSERT_TRUE(result);
+  EXPECT_EQ(result->Status(), 0);
+  EXPECT_EQ(result->MeasurementCount(), 0);
+  EXPECT_FALSE(result->Measurement(1));
+  EXPECT_EQ(result->MTIID(), 0);
+  EXPECT_FALSE(result->ServiceRecord());
+  EXPECT_FALSE(result->HasDialog());
+  EXPECT_EQ(result->Comment(), "");
+}
+
+TEST_P(Result, ComesBackFromWhatItSaves) {
+  const auto result = Loaded(
+      "<ResultItem><Status>2</Status><ServiceRecord Name='n' Code='F' "
+      "Value='/1'/><Comment>c</Comment></ResultItem>");
+  result->SetComment("<&>\"' |;{}");
+  const auto root = library_.NewNode();
+  const auto node = result->Save(root);
+  ASSERT_TRUE(node);
+  EXPECT_EQ(node->Name(), "ResultItem");
+  const auto again = library_.New<orvik::IResultData>(result->ClassID());
+  ASSERT_TRUE(again) << "results are copied by their class identifier";
+  again->Load(node, nullptr);
+  EXPECT_EQ(again->Status(), 2);
+  EXPECT_EQ(again->Comment(), "<&>\"' |;{}");
+  ASSERT_TRUE(again->ServiceRecord());
+  EXPECT_EQ(again->ServiceRecord()->Code(), "F");
+}
+
+TEST_P(Result, LetsNothingButHostErrorsCrossForWrongArguments) {
+  const auto result = Loaded("<ResultItem/>");
+  EXPECT_TRUE(OnlyHostErrorCrosses([&] { result->Load(nullptr, nullptr); }));
+  EXPECT_TRUE(OnlyHostErrorCrosses([&] { result->Save(nullptr); }));
+  EXPECT_TRUE(OnlyHostErrorCrosses([&] { result->PrintReport(nullptr, nullptr); }));
+  EXPECT_TRUE(OnlyHostErrorCrosses([&] { result->PrintReport(nullptr, element_); }));
+  EXPECT_TRUE(
+      OnlyHostErrorCrosses([&] { result->PrintReport(std::make_shared<bench::ReportObject>(), nullptr); }));
+  EXPECT_TRUE(OnlyHostErrorCrosses([&] { result->Load(library_.NewNode("Alien"), nullptr); }));
+  EXPECT_TRUE(OnlyHostErrorCrosses([&] { result->CreateDialog(); }));
+  for (const auto index : {-1, 0, 2, std::numeric_limits<std::int32_t>::max()})
+    EXPECT_TRUE(OnlyHostErrorCrosses([&] { result->Measurement(index); })) << index;
+}
+
+TEST_P(Result, PrintsWhatWasTypedAsText) {
+  const auto result = Loaded("<ResultItem><Status>2</Status><Comment>|;{}</Comment></ResultItem>");
+  EXPECT_NO_THROW(result->PrintReport(std::make_shared<bench::ReportObject>(), element_));
+}
+
+TEST_F(KeldPlugInLoaded, ResultsHoldOneMeasurementUnderAnyIndex) {
+  const auto result = library_.New<orvik::IResultData>("orvikKELD.CKELDResultData");
+  result->Load(library_.Parsed("<ResultItem MTI='4'><Measurement/></ResultItem>"), nullptr);
+  EXPECT_EQ(result->MeasurementCount(), 1);
+  EXPECT_EQ(result->MTIID(), 4);
+  const auto measurement = result->Measurement(1);
+  ASSERT_TRUE(measurement);
+  EXPECT_EQ(result->Measurement(-1), measurement);
+  EXPECT_EQ(result->Measurement(99), measurement);
+}
+
+TEST_F(KeldPlugInLoaded, ResultsWithACommentHaveADialog) {
+  const auto result = library_.New<orvik::IResultData>("orvikKELD.CKELDResultData");
+  EXPECT_FALSE(result->HasDialog());
+  result->SetComment("cracked");
+  EXPECT_TRUE(result->HasDialog());
+  EXPECT_TRUE(result->CreateDialog());
+  result->SetComment("");
+  EXPECT_FALSE(result->HasDialog());
+}
+
+TEST_F(KeldPlugInLoaded, ResultsKeepTheOrderOfTheirParts) {
+  const auto result = library_.New<orvik::IResultData>("orvikKELD.CKELDResultData");
+  result->Load(library_.Parsed("<ResultItem MTI='0'><Measurement/><Comment>c</Comment>"
+                               "<ServiceRecord Code='P'/><Status>1</Status></ResultItem>"),
+               nullptr);
+  const auto node = result->Save(library_.NewNode());
+  EXPECT_FALSE(node->HasAttribute("MTI"));
+  std::string order;
+  for (auto part = node->FirstChild(); part; part = part->NextSibling()) order += part->Name() + " ";
+  EXPECT_EQ(order, "Status ServiceRecord Comment Measurement ");
+}
+
+TEST_F(KeldPlugInLoaded, ResultsPassTheHostsErrorOn) {
+  const auto result = library_.New<orvik::IResultData>("orvikKELD.CKELDResultData");
+  EXPECT_NE(ErrorNumberOf([&] {
+              result->Load(library_.Parsed("<ResultItem><Status>x</Status></ResultItem>"), nullptr);
+            }),
+            0);
+  EXPECT_NE(ErrorNumberOf([&] { result->Save(nullptr); }), 0);
+  EXPECT_EQ(result->Status(), 0);
+}
+
+}  // namespace
+}  // namespace conformance

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <ostream>
+#include <string>
+
+namespace conformance {
+
+/// A plug-in library under test, and what is known of it beforehand.
+struct Subject {
+  std::string name;
+  std::string path;
+  std::string plugInId;
+  /// What stands in for the settings value "Configuration"; none for a plug-in that has no settings.
+  std::optional<std::string> catalogue;
+  /// A test of its catalogue that can be run alone.
+  std::int32_t testId = 0;
+};
+
+/// The KELD plug-in, with a small catalogue: the group 400 of 410 and 420, the test 210.
+Subject KeldPlugIn();
+/// The checker plug-in, which is also the template for authors.
+Subject CheckerPlugIn();
+
+inline void PrintTo(const Subject& subject, std::ostream* stream) { *stream << subject.name; }
+
+}  // namespace conformance

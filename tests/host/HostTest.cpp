@@ -1,0 +1,123 @@
+#include "OrvikTypeLib/HostClasses.h"
+#include "OrvikTypeLib/IErrorLog.h"
+#include "OrvikTypeLib/ILanguageService.h"
+#include "OrvikTypeLib/IPersistence.h"
+#include "OrvikTypeLib/IRegistryReader.h"
+#include "OrvikTypeLib/IXmlDocument.h"
+#include "host/Host.h"
+#include "host/services/RegistryStore.h"
+#include "tests/host/Errors.h"
+#include "tests/host/HostFixture.h"
+
+namespace bench {
+namespace {
+
+using orvik::HostError;
+using test::ErrorNumber;
+using test::ErrorText;
+using test::Holds;
+namespace classes = orvik::HostClasses;
+
+class HostTest : public test::HostFixture {};
+
+TEST_F(HostTest, CreatesItsClassesWithoutRegardToCase) {
+  for (const auto* id :
+       {classes::kTestElement, classes::kTestContainer, classes::kStandardColl, classes::kStandard,
+        classes::kLimit, classes::kServiceRecord, classes::kInstrumentRecord, classes::kLanguageService,
+        classes::kErrorLog, classes::kXmlDocument, classes::kRegistryReader, classes::kPersistence})
+    EXPECT_NE(host_->CreateObject(id), nullptr) << id;
+  EXPECT_NE(host_->CreateObject("ORVIKTYPELIB.testelement"), nullptr);
+}
+
+TEST_F(HostTest, ObjectsHaveTheInterfacesOfTheirClass) {
+  EXPECT_NE(Make<orvik::IBaseElement>(classes::kTestElement), nullptr);
+  EXPECT_EQ(Make<orvik::ITestContainer>(classes::kTestElement), nullptr);
+  EXPECT_NE(Make<orvik::IBaseElement>(classes::kTestContainer), nullptr);
+  EXPECT_NE(Make<orvik::ITestContainer>(classes::kTestContainer), nullptr);
+  EXPECT_NE(Make<orvik::IErrorLog>(classes::kErrorLog), nullptr);
+  EXPECT_NE(Make<orvik::ILanguageService>(classes::kLanguageService), nullptr);
+  EXPECT_NE(Make<orvik::IPersistence>(classes::kPersistence), nullptr);
+}
+
+TEST_F(HostTest, DocumentsAndReadersAreNewEachTime) {
+  EXPECT_NE(host_->CreateObject(classes::kXmlDocument), host_->CreateObject(classes::kXmlDocument));
+  EXPECT_NE(host_->CreateObject(classes::kRegistryReader), host_->CreateObject(classes::kRegistryReader));
+}
+
+TEST_F(HostTest, UnknownClassIsNamed) {
+  const auto text = ErrorText([&] { host_->CreateObject("nobody.Knows"); });
+  EXPECT_TRUE(Holds(text, "\"nobody.Knows\" is not registered"));
+  EXPECT_EQ(ErrorNumber([&] { host_->CreateObject(""); }), HostError::kClassNotRegistered);
+}
+
+TEST_F(HostTest, RegisteredClassIsCreatedAndCanBeReplaced) {
+  const auto first = host_->CreateObject(classes::kLimit);
+  host_->Register("a.B", [&] { return first; });
+  EXPECT_EQ(host_->CreateObject("A.b"), first);
+  host_->Register("A.B", [] { return nullptr; });
+  EXPECT_EQ(host_->CreateObject("a.B"), nullptr);
+}
+
+TEST_F(HostTest, ClassesOfLibrariesAreCreatedToo) {
+  EXPECT_NE(Make<orvik::IResultData>(sample::kResult), nullptr);
+  EXPECT_NE(Make<orvik::ITestElement>(sample::kSequence), nullptr);
+}
+
+TEST_F(HostTest, CatalogueStandsInForTheOneInTheRegistry) {
+  const auto other = Host::Create({folder_.Path(), "", "<TemplateData/>", {}}, nullptr);
+  const auto reader = orvik::As<orvik::IRegistryReader>(other->CreateObject(classes::kRegistryReader));
+  constexpr auto kHive = static_cast<std::int32_t>(0x80000002U);
+  ASSERT_TRUE(reader->OpenKey(kHive, "Software\\Telvane\\orvik\\KELD(IN)"));
+  EXPECT_EQ(reader->ReadValue("Configuration"), orvik::Variant("<TemplateData/>"));
+  EXPECT_FALSE(std::filesystem::exists(folder_.Path() / "registry.json"));
+  const auto plain = Make<orvik::IRegistryReader>(classes::kRegistryReader);
+  EXPECT_FALSE(plain->OpenKey(kHive, "Software\\Telvane\\orvik\\KELD(IN)"));
+}
+
+TEST_F(HostTest, LanguageIsTheOneOfTheSettings) {
+  folder_.Write("KELD.da.po", "msgctxt \"1\"\nmsgid \"x\"\nmsgstr \"dansk\"\n");
+  const auto danish = Host::Create({folder_.Path(), "da", {}, {folder_.Path()}}, nullptr);
+  const auto service = orvik::As<orvik::ILanguageService>(danish->CreateObject(classes::kLanguageService));
+  EXPECT_EQ(service->Translate("1::english", "KELD", {}), "dansk");
+  EXPECT_EQ(Make<orvik::ILanguageService>(classes::kLanguageService)->Translate("1::english", "KELD", {}),
+            "english");
+}
+
+TEST_F(HostTest, ClosedHostHasNoPlugIns) {
+  EXPECT_NE(host_->Elements()->PlugIn(sample::kPlugInId), nullptr);
+  host_->Close();
+  EXPECT_EQ(host_->Elements()->PlugIn(sample::kPlugInId), nullptr);
+  EXPECT_EQ(ErrorNumber([&] { host_->CreateObject(sample::kResult); }), HostError::kClassNotRegistered);
+}
+
+TEST_F(HostTest, HostGoesWithItsLastReference) {
+  const std::weak_ptr<Host> weak = host_;
+  const auto element = Element(1);
+  host_->Close();
+  host_.reset();
+  EXPECT_TRUE(weak.expired()) << "no element and no service holds the host";
+  host_ = Host::Create({folder_.Path(), "", {}, {}}, nullptr);
+}
+
+TEST_F(HostTest, BaseElementIsFoundBehindItsOuterOne) {
+  auto element = Element(1);
+  const auto base = host_->Elements()->BaseOf(element);
+  ASSERT_NE(base, nullptr);
+  EXPECT_EQ(orvik::As<sample::ISampleTest>(element)->BaseElement, base);
+  EXPECT_EQ(host_->Elements()->BaseOf(base), base);
+  EXPECT_EQ(host_->Elements()->BaseOf(nullptr), nullptr);
+  const auto copy = element->Clone();
+  EXPECT_NE(host_->Elements()->BaseOf(copy), base);
+  EXPECT_EQ(orvik::As<sample::ISampleTest>(copy)->BaseElement, host_->Elements()->BaseOf(copy));
+}
+
+TEST_F(HostTest, FilesThatAreNoPlugInAreRefusedByName) {
+  const auto text = folder_.Write("notes.so", "just text");
+  EXPECT_TRUE(Holds(ErrorText([&] { host_->OpenPlugIn(text); }), "notes.so cannot be used as a plug-in"));
+  EXPECT_TRUE(Holds(ErrorText([&] { host_->OpenPlugIn("/nowhere/x.so"); }), "there is no such file"));
+  EXPECT_TRUE(Holds(ErrorText([&] { host_->OpenPlugIn("/lib/x86_64-linux-gnu/libm.so.6"); }),
+                    "OrvikContractVersion"));
+}
+
+}  // namespace
+}  // namespace bench

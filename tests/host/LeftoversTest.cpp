@@ -1,0 +1,67 @@
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+#include "host/services/Leftovers.h"
+
+namespace bench {
+namespace {
+
+std::string Restored(const Leftovers& leftovers, const char* into = "<a/>") {
+  pugi::xml_document document;
+  document.load_string(into);
+  leftovers.Restore(document.document_element());
+  std::ostringstream text;
+  document.document_element().print(text, "", pugi::format_raw);
+  return text.str();
+}
+
+pugi::xml_document Parsed(const char* text) {
+  pugi::xml_document document;
+  document.load_string(text, pugi::parse_default | pugi::parse_comments);
+  return document;
+}
+
+TEST(Leftovers, KeepWhatIsNotNamed) {
+  const auto document = Parsed("<a k='1' x='2'><known/><new><deep/></new><!--note-->text</a>");
+  Leftovers leftovers;
+  leftovers.Take(document.document_element(), {"k"}, {"known"});
+  EXPECT_EQ(Restored(leftovers), "<a x=\"2\"><new><deep/></new><!--note-->text</a>");
+}
+
+TEST(Leftovers, NothingIsKeptOfAKnownNode) {
+  const auto document = Parsed("<a k='1'><known/></a>");
+  Leftovers leftovers;
+  leftovers.Take(document.document_element(), {"k"}, {"known"});
+  EXPECT_TRUE(leftovers.Empty());
+  EXPECT_EQ(Restored(leftovers), "<a/>");
+}
+
+TEST(Leftovers, TakingAgainReplacesWhatWasKept) {
+  Leftovers leftovers;
+  leftovers.Take(Parsed("<a x='1'/>").document_element(), {}, {});
+  leftovers.Take(Parsed("<a y='1'/>").document_element(), {}, {});
+  EXPECT_EQ(Restored(leftovers), "<a y=\"1\"/>");
+  leftovers.Take({}, {}, {});
+  EXPECT_TRUE(leftovers.Empty());
+}
+
+TEST(Leftovers, AttributeThatIsThereByNowStays) {
+  Leftovers leftovers;
+  leftovers.Take(Parsed("<a x='old'/>").document_element(), {}, {});
+  EXPECT_EQ(Restored(leftovers, "<a x='new'/>"), "<a x=\"new\"/>");
+}
+
+TEST(Leftovers, CopiesAreIndependent) {
+  Leftovers first;
+  first.Take(Parsed("<a x='1'/>").document_element(), {}, {});
+  Leftovers second = first;
+  first = {};
+  EXPECT_TRUE(first.Empty());
+  EXPECT_EQ(Restored(second), "<a x=\"1\"/>");
+  second.Add(Parsed("<more/>").document_element());
+  EXPECT_EQ(Restored(second), "<a x=\"1\"><more/></a>");
+}
+
+}  // namespace
+}  // namespace bench

@@ -1,0 +1,65 @@
+#include <gtest/gtest.h>
+
+#include "host/services/ErrorLog.h"
+#include "host/services/RegistryReader.h"
+#include "tests/host/Errors.h"
+#include "tests/host/TestFolder.h"
+
+namespace bench {
+namespace {
+
+using orvik::HostError;
+using orvik::Variant;
+using test::ErrorNumber;
+using test::Holds;
+
+constexpr auto kHive = static_cast<std::int32_t>(0x80000002U);
+
+class RegistryReaderTest : public ::testing::Test {
+ protected:
+  RegistryReader Reader() {
+    return {std::make_shared<RegistryStore>(folder_.Path()), std::make_shared<ErrorLog>(folder_.Path())};
+  }
+
+  test::TestFolder folder_;
+};
+
+TEST_F(RegistryReaderTest, MissingKeyDoesNotOpen) {
+  auto reader = Reader();
+  EXPECT_FALSE(reader.OpenKey(kHive, "Software\\X"));
+  EXPECT_FALSE(reader.IsOpen());
+  EXPECT_EQ(reader.ReadValue("v"), Variant());
+  EXPECT_TRUE(reader.ValueNames().empty());
+  EXPECT_EQ(ErrorNumber([&] { reader.WriteValue("v", "1"); }), HostError::kInvalidArgument);
+}
+
+TEST_F(RegistryReaderTest, CreatedKeyIsOpenAndThereForOthers) {
+  auto reader = Reader();
+  EXPECT_TRUE(reader.CreateKey(kHive, "Software\\X"));
+  EXPECT_TRUE(reader.IsOpen());
+  reader.WriteValue("v", std::int32_t{5});
+  auto other = Reader();
+  EXPECT_TRUE(other.OpenKey(kHive, "Software\\X"));
+  EXPECT_EQ(other.ReadValue("v"), Variant(std::int32_t{5}));
+  EXPECT_EQ(other.ReadValue("w"), Variant());
+  EXPECT_EQ(other.ValueNames(), std::vector<std::string>{"v"});
+}
+
+TEST_F(RegistryReaderTest, FailedOpenClosesTheKeyThatWasOpen) {
+  auto reader = Reader();
+  ASSERT_TRUE(reader.CreateKey(kHive, "Software\\X"));
+  EXPECT_FALSE(reader.OpenKey(kHive, "Software\\Y"));
+  EXPECT_FALSE(reader.IsOpen());
+}
+
+TEST_F(RegistryReaderTest, DamagedStoreDoesNotOpenAndIsLogged) {
+  folder_.Write("registry.json", "{ cut");
+  auto reader = Reader();
+  EXPECT_FALSE(reader.OpenKey(kHive, "Software\\X"));
+  EXPECT_FALSE(reader.CreateKey(kHive, "Software\\X"));
+  EXPECT_TRUE(Holds(folder_.Read("error.log"), "registry.json cannot be used"));
+  EXPECT_EQ(folder_.Read("registry.json"), "{ cut");
+}
+
+}  // namespace
+}  // namespace bench

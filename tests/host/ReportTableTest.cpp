@@ -1,0 +1,143 @@
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "host/report/ReportObject.h"
+#include "host/report/Table.h"
+#include "host/report/TextReport.h"
+#include "tests/host/Errors.h"
+
+namespace bench {
+namespace {
+
+using orvik::HostError;
+using orvik::platform::Alignment;
+using report::ParseFormat;
+using report::ParseRows;
+using report::PlainText;
+using test::ErrorNumber;
+using test::ErrorText;
+using test::Holds;
+
+TEST(ReportTable, ColumnFormatNamesAlignmentRuleAndWidth) {
+  const auto columns = ParseFormat("<+560|<2240|>+1569|^+1569|<+!1569|>!7;");
+  ASSERT_EQ(columns.size(), 6U);
+  EXPECT_EQ(columns[0].alignment, Alignment::kLeft);
+  EXPECT_TRUE(columns[0].ruled);
+  EXPECT_EQ(columns[0].width, 560);
+  EXPECT_FALSE(columns[1].ruled);
+  EXPECT_EQ(columns[2].alignment, Alignment::kRight);
+  EXPECT_EQ(columns[3].alignment, Alignment::kCentre);
+  EXPECT_TRUE(columns[4].unbroken);
+  EXPECT_TRUE(columns[4].ruled);
+  EXPECT_TRUE(columns[5].unbroken);
+  EXPECT_FALSE(columns[5].ruled);
+}
+
+TEST(ReportTable, MalformedColumnFormatsAreRefused) {
+  for (const auto* format :
+       {"", ";", "<100", "100;", "<;", "<x;", "<-1;", "<100|;", "<100||<100;", "*100;", "<!+1;"})
+    EXPECT_TRUE(Holds(ErrorText([&] { ParseFormat(format); }), "malformed")) << format;
+}
+
+TEST(ReportTable, CellsAreSeparatedByBarsAndRowsEndWithSemicolons) {
+  const auto rows = ParseRows("|a|b;c;", 3);
+  ASSERT_EQ(rows.size(), 2U);
+  ASSERT_EQ(rows[0].size(), 3U);
+  EXPECT_EQ(PlainText(rows[0][0]), "");
+  EXPECT_EQ(PlainText(rows[0][2]), "b");
+  ASSERT_EQ(rows[1].size(), 1U);
+  EXPECT_TRUE(ParseRows("", 1).empty());
+}
+
+TEST(ReportTable, GroupsCarryStyles) {
+  const auto rows = ParseRows("|{\\i\\b Result:}|{\\b x} y;", 3);
+  EXPECT_EQ(rows[0][1], (report::Cell{{"Result:", true, true}}));
+  EXPECT_EQ(rows[0][2], (report::Cell{{"x", true, false}, {" y", false, false}}));
+}
+
+TEST(ReportTable, BlanksOfTheTextStay) {
+  EXPECT_EQ(PlainText(ParseRows("      text;", 1)[0][0]), "      text");
+  EXPECT_EQ(PlainText(ParseRows("{\\b  two};", 1)[0][0]), " two") << "one blank belongs to the control";
+}
+
+TEST(ReportTable, MalformedRowsAreRefused) {
+  for (const auto* rows : {"a", "a|b", "{a;", "a};", "{{a}};", "{a|b};", "\\b a;", "{\\u a};", "a;b", "a\\"})
+    EXPECT_TRUE(Holds(ErrorText([&] { ParseRows(rows, 9); }), "malformed")) << rows;
+  EXPECT_TRUE(Holds(ErrorText([] { ParseRows("a|b|c;", 2); }), "more cells"));
+}
+
+TEST(ReportTable, EscapedTextComesOutUnchangedWhateverItHolds) {
+  const auto seed = std::random_device{}();
+  SCOPED_TRACE("seed " + std::to_string(seed));
+  std::mt19937 random(seed);
+  const std::string letters = "|;{}\\ab i<>&\"\n \xC3\xB8";
+  for (int round = 0; round < 5000; ++round) {
+    std::string text;
+    for (auto left = random() % 10; left > 0; --left) text += letters[random() % letters.size()];
+    ReportObject report;
+    report.AddTable("<100|<100;", "{\\b " + report.Escape(text) + "};", "x|" + report.Escape(text) + ";");
+    ASSERT_EQ(PlainText(report.Tables()[0].rows[0][1]), text);
+    ASSERT_EQ(PlainText(report.Tables()[0].header[0][0]), text);
+  }
+}
+
+TEST(ReportObject, KnowsTheUsableWidthAndNoOtherMetric) {
+  const ReportObject report;
+  EXPECT_EQ(report.Metric(10), 9637) << "170 mm in twips";
+  EXPECT_EQ(ErrorNumber([&] { report.Metric(9); }), HostError::kInvalidArgument);
+}
+
+TEST(ReportObject, LayoutHoldsForTheTablesThatFollow) {
+  ReportObject report;
+  report.AddTable("<1;", "", "a;");
+  report.SetTableBorder(7);
+  report.SetTableIndent(30);
+  report.SetHeaderRows(1);
+  report.AddTable("<1;", "h;", "a;");
+  report.AddTable("<1;", "h;", "b;");
+  EXPECT_EQ(report.Tables()[0].border, 0);
+  for (const int index : {1, 2}) {
+    EXPECT_EQ(report.Tables()[index].border, 7);
+    EXPECT_EQ(report.Tables()[index].indent, 30);
+    EXPECT_EQ(report.Tables()[index].headerRows, 1);
+  }
+}
+
+TEST(ReportObject, RefusedTableIsNotAdded) {
+  ReportObject report;
+  EXPECT_NE(ErrorNumber([&] { report.AddTable("<1;", "a|b;", ""); }), 0);
+  EXPECT_TRUE(report.Tables().empty());
+}
+
+TEST(TextReport, AlignsColumnsAndLeavesEmptyMarginsOut) {
+  ReportObject report;
+  report.SetTableBorder(7);
+  report.AddTable("<+560|<2240|>+100|^+100|<+560;", "|{\\b Name}|{\\b Value}|{\\b Unit};",
+                  "|Earth|12|m\xCE\xA9;|Long name|3|V;");
+  EXPECT_EQ(TextReport(report),
+            "+-----------+-------+------+\n"
+            "| Name      | Value | Unit |\n"
+            "+===========+=======+======+\n"
+            "| Earth     |    12 |  m\xCE\xA9  |\n"
+            "| Long name |     3 |  V   |\n"
+            "+-----------+-------+------+\n");
+}
+
+TEST(TextReport, TablesWithoutBorderHaveNoLines) {
+  ReportObject report;
+  report.AddTable("<1|>1;", "", "a|1;bb|22;");
+  report.AddTable("<1;", "", "next;");
+  EXPECT_EQ(TextReport(report), "a    1\nbb  22\n\nnext\n");
+}
+
+TEST(TextReport, LineEndsStayInTheirCellAndControlCharactersAreShown) {
+  ReportObject report;
+  report.AddTable("<1|<1;", "", "one\ntwo|\x1B[31m\x7F;");
+  EXPECT_EQ(TextReport(report), "one  \xE2\x90\x9B[31m\xE2\x90\xA1\ntwo        \n");
+}
+
+TEST(TextReport, EmptyReportIsEmpty) { EXPECT_EQ(TextReport(ReportObject()), ""); }
+
+}  // namespace
+}  // namespace bench

@@ -1,0 +1,99 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "OrvikTypeLib/As.h"
+#include "OrvikTypeLib/ITgToolbar.h"
+#include "host/toolkit/headless/Application.h"
+#include "platform/Controls.h"
+#include "platform/IContainerSite.h"
+#include "platform/IForm.h"
+#include "platform/IUserControl.h"
+
+namespace support {
+
+/// Operates the windows of a run the way a person does: by their names and buttons.
+///
+/// Guides get the commands of `guide`, one after the other, each as soon as the one before has done its work;
+/// then, if the guide is still there, "next". Prompts are answered by `abort` and written down.
+class GuideOperator {
+ public:
+  static constexpr int kAbort = 101;
+  static constexpr int kPrevious = 102;
+  static constexpr int kNext = 103;
+  static constexpr int kStop = 201;
+  static constexpr int kPlay = 202;
+  static constexpr int kNotApplicable = 301;
+  static constexpr int kSkip = 302;
+
+  explicit GuideOperator(bench::headless::Application& application) : application_(application) {
+    shown_ = application.FormShown().Subscribe([this](const auto& form) { OnShown(form); });
+  }
+
+  std::vector<int> guide{kPlay};
+  /// The answer to the question whether to end the test.
+  bool abort = true;
+  /// The questions and messages that came up.
+  std::vector<std::string> prompts;
+  int guidesShown = 0;
+
+  /// The guide that is open, or empty.
+  std::shared_ptr<orvik::platform::IForm> Guide() const { return guideForm_.lock(); }
+
+  /// Presses a button of the open guide; nothing without one.
+  void Press(int command) const {
+    if (const auto toolbar = Toolbar()) toolbar->Click(command);
+  }
+  void CloseGuide() const {
+    if (const auto form = Guide()) form->Close();
+  }
+
+ private:
+  void OnShown(const std::shared_ptr<orvik::platform::IForm>& form) {
+    if (form->Name() == "FTestGuide") {
+      ++guidesShown;
+      guideForm_ = form;
+      application_.Post([this] { OperateGuide(); });
+    } else if (form->Name() == "FYesNoPrompt") {
+      prompts.push_back(Prompt(*form));
+      Click(form, abort ? "cmdAccept" : "cmdDecline");
+    } else if (form->Name() == "FPretestPrompt") {
+      prompts.push_back(Prompt(*form));
+      Click(form, "cmdOK");
+    }
+  }
+
+  void OperateGuide() {
+    const auto form = Guide();
+    for (const int command : guide) Press(command);
+    // Whatever came of it, a person leaves the guide in the end.
+    if (form && form->Visible()) Press(kNext);
+  }
+
+  static std::string Prompt(const orvik::platform::IForm& form) {
+    return std::dynamic_pointer_cast<orvik::platform::ILabel>(form.Find("lblPrompt"))->Caption();
+  }
+
+  void Click(const std::weak_ptr<orvik::platform::IForm>& form, const std::string& button) {
+    application_.Post([form, button] {
+      if (const auto shown = form.lock())
+        std::dynamic_pointer_cast<orvik::platform::IButton>(shown->Find(button))->Click();
+    });
+  }
+
+  std::shared_ptr<orvik::ITgToolbar> Toolbar() const {
+    const auto form = Guide();
+    if (!form) return nullptr;
+    const auto site = orvik::As<orvik::platform::IContainerSite>(form->Find("xtbToolbar"));
+    return site ? orvik::As<orvik::ITgToolbar>(site->Object()) : nullptr;
+  }
+
+  bench::headless::Application& application_;
+  std::weak_ptr<orvik::platform::IForm> guideForm_;
+  orvik::platform::Subscription shown_;
+};
+
+}  // namespace support

@@ -1,0 +1,136 @@
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/Event.h"
+
+namespace orvik::platform {
+namespace {
+
+TEST(Event, RunsHandlersInTheOrderOfTheirSubscriptions) {
+  Event<int> event;
+  std::vector<int> calls;
+  const auto first = event.Subscribe([&](int value) { calls.push_back(value); });
+  const auto second = event.Subscribe([&](int value) { calls.push_back(10 * value); });
+  event.Raise(1);
+  event.Raise(2);
+  EXPECT_EQ(calls, (std::vector<int>{1, 10, 2, 20}));
+}
+
+TEST(Event, LettingGoEndsTheSubscription) {
+  Event<> event;
+  int calls = 0;
+  {
+    const auto subscription = event.Subscribe([&] { ++calls; });
+    event.Raise();
+  }
+  event.Raise();
+  EXPECT_EQ(calls, 1);
+}
+
+TEST(Event, AHandlerMayEndItsOwnSubscription) {
+  Event<> event;
+  int calls = 0;
+  Subscription subscription;
+  subscription = event.Subscribe([&] {
+    ++calls;
+    subscription.End();
+  });
+  event.Raise();
+  event.Raise();
+  EXPECT_EQ(calls, 1);
+}
+
+TEST(Event, AHandlerThatEndedMeanwhileIsPassedOver) {
+  Event<> event;
+  int calls = 0;
+  Subscription second;
+  const auto first = event.Subscribe([&] { second.End(); });
+  second = event.Subscribe([&] { ++calls; });
+  event.Raise();
+  EXPECT_EQ(calls, 0);
+}
+
+TEST(Event, AHandlerThatSubscribedMeanwhileWaitsForTheNextTime) {
+  Event<> event;
+  int calls = 0;
+  std::vector<Subscription> added;
+  const auto first = event.Subscribe([&] {
+    if (added.empty()) added.push_back(event.Subscribe([&] { ++calls; }));
+  });
+  event.Raise();
+  EXPECT_EQ(calls, 0);
+  event.Raise();
+  EXPECT_EQ(calls, 1);
+}
+
+TEST(Event, AHandlerMayReleaseTheObjectThatRaises) {
+  auto event = std::make_unique<Event<>>();
+  int calls = 0;
+  const auto first = event->Subscribe([&] { event.reset(); });
+  const auto second = event->Subscribe([&] { ++calls; });
+  event->Raise();
+  EXPECT_FALSE(event);
+  EXPECT_EQ(calls, 1);
+}
+
+TEST(Event, WhatAHandlerHoldsLivesWhileItRuns) {
+  Event<> event;
+  std::string seen;
+  std::optional<Subscription> subscription;
+  const auto held = std::make_shared<std::string>("alive");
+  subscription = event.Subscribe([&, copy = held] {
+    subscription.reset();
+    seen = *copy;
+  });
+  event.Raise();
+  EXPECT_EQ(seen, "alive");
+  EXPECT_EQ(held.use_count(), 1);
+}
+
+TEST(Event, MayBeRaisedFromInsideAHandler) {
+  Event<int> event;
+  std::vector<int> calls;
+  const auto handler = event.Subscribe([&](int depth) {
+    calls.push_back(depth);
+    if (depth < 3) event.Raise(depth + 1);
+  });
+  event.Raise(1);
+  EXPECT_EQ(calls, (std::vector<int>{1, 2, 3}));
+}
+
+TEST(Event, AHandlerThatHasEndedIsPassedOverWhileItStillRuns) {
+  Event<> event;
+  int calls = 0;
+  Subscription subscription;
+  subscription = event.Subscribe([&] {
+    ++calls;
+    subscription.End();
+    event.Raise();
+  });
+  event.Raise();
+  EXPECT_EQ(calls, 1);
+}
+
+TEST(Event, HandlersSeeEachOthersChangesOfAReference) {
+  Event<bool&> event;
+  bool seen = false;
+  const auto first = event.Subscribe([](bool& value) { value = true; });
+  const auto second = event.Subscribe([&](bool& value) { seen = value; });
+  bool value = false;
+  event.Raise(value);
+  EXPECT_TRUE(value);
+  EXPECT_TRUE(seen);
+}
+
+TEST(Event, AnErrorOfAHandlerGoesToWhoRaised) {
+  Event<> event;
+  const auto handler = event.Subscribe([] { throw std::string("broken"); });
+  EXPECT_THROW(event.Raise(), std::string);
+}
+
+}  // namespace
+}  // namespace orvik::platform

@@ -1,0 +1,140 @@
+#include "results/ResultValueText.h"
+#include "tests/results/Tools.h"
+
+namespace {
+
+using keld::ResultValueText::CollectedList;
+using keld::ResultValueText::Largest;
+using keld::ResultValueText::Smallest;
+using keld::ResultValueText::ValueText;
+using orvik::Variant;
+
+class ResultValueTextTest : public results::ResultsTest {
+ protected:
+  /// A sequence with a passed result whose children measured these values.
+  std::shared_ptr<keld::CKELDSequence> Values(const std::vector<Variant>& values, std::int32_t filter) {
+    std::vector<std::shared_ptr<orvik::ITestElement>> children;
+    for (const Variant& value : values)
+      children.push_back(Measured(static_cast<int>(children.size()) + 2, value));
+    auto sequence = Sequence(1, children);
+    GiveResult(*sequence, 1);
+    SetFilter(*sequence, filter);
+    return sequence;
+  }
+
+  std::string TextOfTest(const Variant& value, std::int32_t filter, std::int32_t status = 1) {
+    auto element = Test(1);
+    GiveResult(*element, status);
+    SetFilter(*element, filter);
+    return ValueText(*element, value);
+  }
+};
+
+TEST_F(ResultValueTextTest, ModeDecidesWhatASequenceTells) {
+  const std::vector<Variant> values{5.3, 4.1, 5.0};
+  EXPECT_EQ(ValueText(*Values(values, 0), {}), "/5.3");
+  EXPECT_EQ(ValueText(*Values(values, 1), {}), "");
+  EXPECT_EQ(ValueText(*Values(values, 2), {}), "/5.3/4.1/5");
+  EXPECT_EQ(ValueText(*Values(values, 3), {}), "/5.3");
+  EXPECT_EQ(ValueText(*Values(values, 4), {}), "/4.1");
+  EXPECT_EQ(ValueText(*Values(values, 5), {}), "");
+  EXPECT_EQ(ValueText(*Values(values, -1), {}), "");
+}
+
+TEST_F(ResultValueTextTest, ModeDecidesWhatASingleTestTells) {
+  EXPECT_EQ(TextOfTest(5.3, 0), "/5.3");
+  EXPECT_EQ(TextOfTest(5.3, 1), "");
+  EXPECT_EQ(TextOfTest(5.3, 2), "/ 5.3");
+  EXPECT_EQ(TextOfTest(5.3, 3), "/5.3");
+  EXPECT_EQ(TextOfTest(5.3, 4), "/5.3");
+  EXPECT_EQ(TextOfTest(5.3, 5), "");
+}
+
+TEST_F(ResultValueTextTest, NotApplicableHasNoTextInAnyMode) {
+  for (std::int32_t mode = 0; mode <= 5; ++mode) EXPECT_EQ(TextOfTest(5.3, mode, 3), "") << mode;
+}
+
+TEST_F(ResultValueTextTest, StatusIsReadFromTheElementsResult) {
+  auto element = Measured(1, 5.3, 3);
+  SetFilter(*element, 2);
+  EXPECT_EQ(ValueText(*element, 5.3), "");
+  EXPECT_EQ(GiveResult(*element, 2)->Status(), 2);
+  EXPECT_EQ(ValueText(*element, 5.3), "/ 5.3");
+}
+
+TEST_F(ResultValueTextTest, SingleTestKeepsTheSignBlankAndIsNotTrimmed) {
+  const auto element = Test(1);
+  EXPECT_EQ(CollectedList(*element, 5.3), "/ 5.3");
+  EXPECT_EQ(CollectedList(*element, -5.3), "/-5.3");
+  EXPECT_EQ(CollectedList(*element, 0.0), "/ 0");
+  EXPECT_EQ(CollectedList(*element, std::int32_t{7}), "/ 7");
+  EXPECT_EQ(CollectedList(*element, std::string(" text ")), "/ text ");
+  EXPECT_EQ(CollectedList(*element, {}), "/");
+}
+
+TEST_F(ResultValueTextTest, ChildValuesAreTrimmed) {
+  EXPECT_EQ(CollectedList(*Sequence(1, {Measured(2, std::string("  5.3 ")), Measured(3, 4.1)}), {}),
+            "/5.3/4.1");
+}
+
+TEST_F(ResultValueTextTest, ChildWithoutResultOrMeasurementAddsASlashOnly) {
+  auto noMeasurement = Test(3);
+  GiveResult(*noMeasurement, 1);
+  EXPECT_EQ(CollectedList(*Sequence(1, {Test(2), noMeasurement, Measured(4, 4.1)}), {}), "///4.1");
+}
+
+TEST_F(ResultValueTextTest, SequenceIgnoresItsOwnMeasurement) {
+  EXPECT_EQ(CollectedList(*Sequence(1, {Measured(2, 4.1)}), 99.0), "/4.1");
+}
+
+TEST_F(ResultValueTextTest, ExtremeOfALoneSlashIsEmpty) {
+  EXPECT_EQ(Largest("/"), "");
+  EXPECT_EQ(Smallest("/"), "");
+}
+
+TEST_F(ResultValueTextTest, ExtremeOfNoChildrenIsEmpty) {
+  EXPECT_EQ(Largest(""), "");
+  EXPECT_EQ(Smallest(""), "");
+}
+
+TEST_F(ResultValueTextTest, PieceWithoutANumberCountsAsZero) {
+  EXPECT_EQ(Largest("//"), "/0");
+  EXPECT_EQ(Smallest("//"), "/0");
+  EXPECT_EQ(Largest("/-3/OL"), "/0");
+  EXPECT_EQ(Smallest("/3/OL"), "/0");
+  EXPECT_EQ(Largest("/7 mA/3"), "/7");
+}
+
+TEST_F(ResultValueTextTest, NegativeNumbersAreCompared) {
+  EXPECT_EQ(Largest("/-5/-4.1"), "/-4.1");
+  EXPECT_EQ(Smallest("/-5/-4.1"), "/-5");
+  EXPECT_EQ(Smallest("/ 5/-0.5"), "/-0.5");
+}
+
+TEST_F(ResultValueTextTest, ExtremeIsFoundWhereverItStands) {
+  EXPECT_EQ(Largest("/9/2/3"), "/9");
+  EXPECT_EQ(Largest("/2/9/3"), "/9");
+  EXPECT_EQ(Largest("/2/3/9"), "/9");
+  EXPECT_EQ(Smallest("/1/2/3"), "/1");
+  EXPECT_EQ(Smallest("/3/2/1"), "/1");
+  EXPECT_EQ(Largest("/3/9/9"), "/9");
+}
+
+TEST_F(ResultValueTextTest, SearchStartsAtTwoToTheThirtieth) {
+  EXPECT_EQ(Largest("/-1073741823"), "/-1073741823");
+  EXPECT_EQ(Largest("/-1073741825"), "/-1073741824");
+  EXPECT_EQ(Smallest("/1073741823"), "/1073741823");
+  EXPECT_EQ(Smallest("/1073741825"), "/1073741824");
+}
+
+TEST_F(ResultValueTextTest, NestedSequenceCountsByItsSummary) {
+  auto inner = Sequence(2, {Measured(3, 1.0), Measured(4, 2.0)});
+  GiveResult(*inner, 1)->SetMeasurement(Measurement(2.0));
+  EXPECT_EQ(CollectedList(*Sequence(1, {inner, Measured(5, 7.5)}), {}), "/2/7.5");
+}
+
+TEST_F(ResultValueTextTest, ElementWithoutResultIsAnError) {
+  EXPECT_THROW(ValueText(*Test(1), 5.3), orvik::HostError);
+}
+
+}  // namespace

@@ -1,0 +1,174 @@
+#include "instrument/XKELDData.h"
+#include "tests/ui/GuideTest.h"
+#include "ui/FTestGuide.h"
+
+// The guide as its element opens and closes it.
+namespace {
+
+using Commands = std::vector<int>;
+using Texts = std::vector<std::string>;
+using ui::GuideScreen;
+
+class FTestGuideTest : public ui::GuideTest {
+ protected:
+  std::shared_ptr<keld::FTestGuide> Opened(const std::shared_ptr<orvik::ITestElement>& element) {
+    auto guide = keld::FTestGuide::Create();
+    guide->Load();
+    guide->Initialize(element, controller_);
+    return guide;
+  }
+};
+
+TEST_F(FTestGuideTest, CaptionIsSetWhereThereIsNone) {
+  EXPECT_EQ(Opened(Element())->Form()->Caption(), "TEST GUIDE");
+  const auto named = keld::FTestGuide::Create();
+  named->Form()->SetCaption("Mine");
+  named->Initialize(Element(), controller_);
+  EXPECT_EQ(named->Form()->Caption(), "Mine");
+}
+
+TEST_F(FTestGuideTest, InstrumentPaneGetsTheElementAndTheDataTab) {
+  const auto element = Element();
+  const auto guide = Opened(element);
+  const auto pane = GuideScreen(guide->Form()).Pane("xstShowMTI");
+  EXPECT_EQ(pane->TestElement(), element);
+  EXPECT_TRUE(orvik::As<keld::XKELDData>(pane->Tab("tab:MtiData")));
+  std::shared_ptr<orvik::platform::ITabs> tabs;
+  for (const auto& control : GuideScreen(guide->Form()).Site("xstShowMTI")->Panel()->Controls()) {
+    if (auto found = orvik::As<orvik::platform::ITabs>(control)) tabs = found;
+  }
+  ASSERT_TRUE(tabs);
+  EXPECT_EQ(tabs->Keys(), Texts{"tab:MtiData"});
+  EXPECT_EQ(tabs->PageCaption("tab:MtiData"), "MTI Data");
+}
+
+TEST_F(FTestGuideTest, WizardGuidesToTheElement) {
+  const auto guide = Opened(Element());
+  EXPECT_NE(GuideScreen(guide->Form()).Pane("xtwWizard")->Guidance().find("Mains voltage"),
+            std::string::npos);
+}
+
+TEST_F(FTestGuideTest, CalibrateEntryIsAddedOnce) {
+  const auto guide = Opened(Element());
+  guide->Load();
+  guide->Initialize(Element(), controller_);
+  const auto buttons = GuideScreen(guide->Form()).Buttons();
+  const auto commands = buttons->Commands();
+  EXPECT_EQ(std::count(commands.begin(), commands.end(), 900), 1);
+  EXPECT_EQ(buttons->CommandCaption(900), "Calibrate...");
+}
+
+TEST_F(FTestGuideTest, EverythingButStopIsEnabledBeforeARun) {
+  const auto guide = Opened(Element());
+  EXPECT_EQ(GuideScreen(guide->Form()).Enabled(), (Commands{101, 102, 103, 202, 301, 302, 501, 900}));
+  EXPECT_FALSE(guide->Running());
+}
+
+TEST_F(FTestGuideTest, ConfigurationDecidesWhichButtonsAreOffered) {
+  const auto element = Element();
+  for (const std::int32_t options : {0, 1, 2, 3, 4, 4097}) {
+    SetOptions(*element, options);
+    const auto guide = Opened(element);
+    const auto buttons = GuideScreen(guide->Form()).Buttons();
+    EXPECT_EQ(buttons->CommandVisible(301), (options & 1) != 0) << options;
+    EXPECT_EQ(buttons->CommandVisible(302), (options & 2) != 0) << options;
+    EXPECT_TRUE(buttons->CommandVisible(202));
+  }
+}
+
+TEST_F(FTestGuideTest, FirstStandardIsShownAndARightClickGoesOn) {
+  controller_->standards = Standards({"A", "B"});
+  const auto element = Element();
+  const auto result = keld::CKELDResultData::Create();
+  const auto measurement = keld::CKELDMeasurement::Create();
+  measurement->AddValue(230.0, "V", "", "");
+  result->SetMeasurement(measurement);
+  element->BaseElement()->SetResult(result);
+  const auto limits = orvik::As<keld::CKELDLimitData>(element->Limits());
+  limits->AddStandard(Standard("A", "240"));
+  limits->AddStandard(Standard("B", "250"));
+
+  const auto guide = Opened(element);
+  guide->Form()->Show();
+  guide->ShowResult(element);
+  const auto list = GuideScreen(guide->Form()).Results();
+  const auto high = [&] { return list->Cell("7::", "HIL").text; };
+  EXPECT_EQ(high(), "240 V");
+  list->ClickAt({1, 0, 0, 0});
+  EXPECT_EQ(high(), "240 V");
+  list->ClickAt({2, 0, 0, 0});
+  EXPECT_EQ(high(), "250 V");
+  list->ClickAt({2, 0, 0, 0});
+  EXPECT_EQ(high(), "240 V");
+}
+
+TEST_F(FTestGuideTest, WorksWithoutRunControllerAndStandards) {
+  const auto guide = keld::FTestGuide::Create();
+  EXPECT_NO_THROW(guide->Initialize(Element(), nullptr));
+  EXPECT_NO_THROW(Opened(Element()));
+}
+
+TEST_F(FTestGuideTest, RefreshReachesTheInstrumentData) {
+  const auto guide = Opened(Element());
+  const auto panel = GuideScreen(guide->Form()).Site("xstShowMTI")->Panel();
+  const int before = panel->RefreshCount();
+  guide->Refresh();
+  EXPECT_GT(panel->RefreshCount(), before);
+}
+
+TEST_F(FTestGuideTest, KeepsNeitherElementNorControllerAlive) {
+  auto element = Element();
+  auto controller = std::make_shared<ui::RunController>();
+  const auto guide = keld::FTestGuide::Create();
+  guide->Initialize(element, controller);
+  const std::weak_ptr<orvik::ITestElement> weakElement = element;
+  const std::weak_ptr<ui::RunController> weakController = controller;
+  element.reset();
+  controller.reset();
+  EXPECT_TRUE(weakElement.expired());
+  EXPECT_TRUE(weakController.expired());
+  // Nobody is left to call.
+  orvik::As<orvik::ITgToolbarEvents>(guide)->OnCommand(202);
+  EXPECT_FALSE(guide->Running());
+}
+
+TEST_F(FTestGuideTest, LettingGoUnloadsTheWindow) {
+  auto guide = Opened(Element());
+  const auto form = guide->Form();
+  form->Show();
+  ASSERT_TRUE(form->Loaded());
+  guide.reset();
+  EXPECT_FALSE(form->Loaded());
+  EXPECT_TRUE(App().Forms().empty());
+}
+
+TEST_F(FTestGuideTest, HidingEndsTheModalDisplayAndUnloadingToo) {
+  for (const bool unload : {false, true}) {
+    const auto guide = Opened(Element());
+    App().Post([&] { unload ? guide->Unload() : guide->Hide(); });
+    guide->ShowModal();
+    EXPECT_EQ(guide->Form()->Loaded(), !unload);
+  }
+}
+
+TEST_F(FTestGuideTest, WindowWithoutATestCanBeClosed) {
+  const auto guide = keld::FTestGuide::Create();
+  guide->Load();
+  guide->Form()->Show();
+  guide->Form()->Close();
+  EXPECT_FALSE(guide->Form()->Loaded());
+  EXPECT_TRUE(windows_.empty());
+}
+
+TEST_F(FTestGuideTest, WindowThatLacksItsControlsCanStillBeLeft) {
+  App().SetControlFactory([](const std::string&) { return nullptr; });
+  const auto element = Element();
+  AnswerQuestions(true);
+  const auto opened = App().FormShown().Subscribe([&](const std::shared_ptr<orvik::platform::IForm>& form) {
+    if (form->Name() == "FTestGuide") App().Post([form] { form->Close(); });
+  });
+  element->Perform(controller_);
+  EXPECT_EQ(controller_->navigation, (std::vector<std::int32_t>{0, 2}));
+}
+
+}  // namespace
