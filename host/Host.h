@@ -34,9 +34,9 @@ class Host final : public orvik::IHost {
     /// Language of texts, for example "da"; empty for English.
     std::string language;
     /// Catalogue text that stands in for the one in the registry.
-    std::optional<std::string> catalogue;
+    std::optional<std::string> catalogue = {};
     /// Folders with translations (MODULE.LANGUAGE.po).
-    std::vector<std::filesystem::path> translationFolders;
+    std::vector<std::filesystem::path> translationFolders = {};
   };
 
   /// `HostError` when a translation cannot be read.

@@ -11,7 +11,8 @@
 
 namespace orvik {
 class IRunController;
-}
+class IStandardColl;
+}  // namespace orvik
 
 namespace keld {
 
@@ -69,6 +70,8 @@ class CKELDElement : public virtual orvik::ITestElement, public virtual IKELDTes
   virtual void SetLink(std::shared_ptr<CKELDInstrument> Instrument);
   std::shared_ptr<FTestGuide> TestGuide() const { return mTestGuide; }
   std::shared_ptr<orvik::IRunController> RunController() const { return mRunController.lock(); }
+  /// The standards to judge by; `HostError` when nobody names any, so that what was not judged does not pass.
+  std::shared_ptr<orvik::IStandardColl> SelectedStandards() const;
   bool StandaloneRun() const { return fStandaloneRun; }
 
   bool fStopRequested = false;

@@ -2,6 +2,7 @@
 
 #include "OrvikTypeLib/As.h"
 #include "OrvikTypeLib/IRunController.h"
+#include "OrvikTypeLib/IStandardColl.h"
 #include "instrument/CKELDInstrument.h"
 #include "model/CKELDElement.h"
 #include "plugin/Attempt.h"
@@ -51,6 +52,12 @@ void CKELDElement::RecordNotApplicable() {
   Attempt([&] { Required(ResultData()).SetStatus(MKELDConstants::kNotApplicable); });
   Attempt([&] { Required(ResultData()).SetMeasurement(nullptr); });
   Attempt([&] { Required(ResultData()).BuildServiceRecord(SelfElement()); });
+}
+
+std::shared_ptr<orvik::IStandardColl> CKELDElement::SelectedStandards() const {
+  auto Standards = Required(mRunController)->Standards();
+  Required(Standards);
+  return Standards;
 }
 
 void CKELDElement::TellFinished() {

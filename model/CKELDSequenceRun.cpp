@@ -85,7 +85,7 @@ void CKELDSequence::Summarise() {
   Attempt([&] {
     const bool fJudged = lMode != 1 && vValue != orvik::Variant(std::string());
     // A summary that could not be judged keeps status 0: it never counts as passed.
-    const bool fFailed = fJudged && Measurement->FailsLimits(Limits(), Required(RunController()).Standards());
+    const bool fFailed = fJudged && Measurement->FailsLimits(Limits(), SelectedStandards());
     Measurement->SetStatus(fFailed ? MKELDConstants::kFailed : ChildrenStatus(*Summed));
   });
   Attempt([&] { Required(Recorded).SetStatus(Measurement->Status()); });

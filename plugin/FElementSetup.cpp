@@ -90,8 +90,13 @@ void FElementSetup::IDialog_Dock(orvik::WindowHandle hParent) {
     MKELDGlobalVars::Application()->SetParent(Required(mCustomControl).hWnd(), hParent);
     mfDocked = true;
   });
-  // From now on the host places the control, not the form's layout.
-  if (mfDocked) Attempt([&] { mForm->SetGrid({}); });
+  // From now on the host places the control, not the form's layout; the form keeps its size.
+  if (!mfDocked) return;
+  Attempt([&] {
+    const orvik::platform::Rect Place = mForm->Bounds();
+    mForm->SetGrid({});
+    mForm->SetBounds(Place);
+  });
 }
 
 // The flag stays, on purpose: after it `Hide`, `Show` and `Move` still act on the control.

@@ -33,8 +33,8 @@ std::shared_ptr<orvik::IServiceRecord> MakeServiceRecord(
   const char* sCode = CodeOf(lStatus);
   if (!sCode) return {};
   auto Record = MKELDGlobalVars::CreateHostObject<orvik::IServiceRecord>(orvik::HostClasses::kServiceRecord);
-  Record->Initialize(orvik::Required(iteElement).Information(), sCode,
-                     ResultValueText::ValueText(*iteElement, vOwnValue));
+  const auto Information = orvik::Required(iteElement).Information();
+  Record->Initialize(Information, sCode, ResultValueText::ValueText(*iteElement, vOwnValue));
   return Record;
 }
 

@@ -1,5 +1,6 @@
 #include "tests/host/SamplePlugIn.h"
 
+#include <charconv>
 #include <utility>
 #include <vector>
 
@@ -34,6 +35,14 @@ void Try(Step step) {
   }
 }
 
+/// The number that the text is; `lDefault` when it is none.
+std::int32_t NumberOr(std::int32_t lDefault, const std::string& sText) {
+  std::int32_t lNumber = 0;
+  const auto end = sText.data() + sText.size();
+  const auto read = std::from_chars(sText.data(), end, lNumber);
+  return read.ec == std::errc{} && read.ptr == end ? lNumber : lDefault;
+}
+
 class SampleConfig final : public IConfigData {
  public:
   std::int32_t lOptions = 3;
@@ -48,7 +57,7 @@ class SampleConfig final : public IConfigData {
   bool IConfigData_HasDialog() const override { return false; }
   void IConfigData_Load(std::shared_ptr<IXmlNode> Node) override {
     const auto data = Node->FindChild("PlugInData");
-    if (data) lOptions = std::stoi(data->Attribute("Options"));
+    if (data) lOptions = NumberOr(lOptions, data->Attribute("Options"));
   }
   void IConfigData_Save(std::shared_ptr<IXmlNode> Node) const override {
     Node->AddChild("PlugInData")->SetAttribute("Options", std::to_string(lOptions));
@@ -292,10 +301,8 @@ std::shared_ptr<IDialog> SampleResult::IResultData_CreateDialog() { return nullp
 
 void SampleResult::IResultData_Load(std::shared_ptr<IXmlNode> Node, std::shared_ptr<IObject>) {
   const auto status = Node->FindChild("Status");
-  if (!status || status->Text().find_first_not_of("0123456789") != std::string::npos ||
-      status->Text().empty())
-    throw HostError(HostError::kTypeMismatch, "sample", "the status is not a number");
-  lStatus = std::stoi(status->Text());
+  lStatus = status ? NumberOr(-1, status->Text()) : -1;
+  if (lStatus < 0) throw HostError(HostError::kTypeMismatch, "sample", "the status is not a number");
   if (const auto comment = Node->FindChild("Comment")) sComment_ = comment->Text();
 }
 

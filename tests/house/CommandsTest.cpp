@@ -24,7 +24,7 @@ struct Outcome {
 };
 
 /// Runs a command of the repository's root from another folder, errors and output together.
-Outcome Run(const std::string& command) {
+Outcome RunCommand(const std::string& command) {
   Outcome outcome;
   FILE* pipe = popen(("cd / && '" SOURCE_PATH "/'" + command + " 2>&1").c_str(), "r");
   if (pipe == nullptr) return outcome;
@@ -39,13 +39,13 @@ Outcome Run(const std::string& command) {
 class CommandTest : public testing::TestWithParam<const char*> {};
 
 TEST_P(CommandTest, SaysWhatItDoesWhenAsked) {
-  const auto outcome = Run(std::string(GetParam()) + " --help");
+  const auto outcome = RunCommand(std::string(GetParam()) + " --help");
   EXPECT_EQ(outcome.status, 0);
   EXPECT_THAT(outcome.output, StartsWith(std::string("Usage: ./") + GetParam()));
 }
 
 TEST_P(CommandTest, AnswersTwoToWrongUse) {
-  const auto outcome = Run(std::string(GetParam()) + " --nonsense");
+  const auto outcome = RunCommand(std::string(GetParam()) + " --nonsense");
   EXPECT_EQ(outcome.status, 2);
   EXPECT_THAT(outcome.output, HasSubstr(std::string("Usage: ./") + GetParam()));
 }

@@ -223,6 +223,8 @@ TEST_F(ElementSetup, FillsTheFormWithItsControlWhileItIsNotDocked) {
 
 TEST_F(ElementSetup, MovesTheControlOnceItIsDocked) {
   PlaceControl();
+  form_->Show();
+  form_->Resize({9000, 6000});
   const auto form = form_->Bounds();
   dialog_->Dock(window_->Handle());
   dialog_->Move(15, 30, 4500, 3000);

@@ -78,12 +78,12 @@ TEST(MKELDGlobalVars, ShareOneLanguageServiceAmongClasses) {
 
 TEST(MKELDGlobalVars, LetGoOfEverythingWhenClosed) {
   support::HostOnly bench;
-  const std::weak_ptr<orvik::ILanguageService> language = Globals::LanguageService();
+  const std::weak_ptr<orvik::IXmlDocument> document = Globals::XmlDocument();
   const std::weak_ptr<orvik::IRegistryReader> registry = Globals::RegistryReader();
   const auto data = std::make_shared<orvik::IObject>();
   Globals::InstrumentDataSlot() = data;
   Globals::Close();
-  EXPECT_TRUE(language.expired());
+  EXPECT_TRUE(document.expired());
   EXPECT_TRUE(registry.expired());
   EXPECT_EQ(data.use_count(), 1);
   EXPECT_EQ(Globals::InstrumentDataSlot(), nullptr);

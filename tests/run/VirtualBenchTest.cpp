@@ -2,10 +2,10 @@
 
 #include "OrvikTypeLib/IMeasurement.h"
 #include "OrvikTypeLib/IResultData.h"
+#include "OrvikTypeLib/IStandardColl.h"
 #include "host/instruments/InstrumentColl.h"
 #include "host/run/AutoOperator.h"
 #include "host/run/RunController.h"
-#include "host/standards/StandardColl.h"
 #include "tests/support/VirtualBench.h"
 
 namespace support {
@@ -25,8 +25,8 @@ class VirtualBenchTest : public testing::Test {
   bench::DoubtTracker doubts_{*bench_.Ports().TheWire()};
   std::shared_ptr<bench::RunController> controller_ =
       std::make_shared<bench::RunController>(bench::RunController::Parts{
-          std::make_shared<bench::StandardColl>(), std::make_shared<bench::InstrumentColl>(),
-          *bench_.Host().Elements(), doubts_, [] {}});
+          orvik::As<orvik::IStandardColl>(bench_.Host().CreateObject(orvik::HostClasses::kStandardColl)),
+          std::make_shared<bench::InstrumentColl>(), *bench_.Host().Elements(), doubts_, [] {}});
 };
 
 TEST_F(VirtualBenchTest, RunsOneTestFromTheGuideToTheResult) {

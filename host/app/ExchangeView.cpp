@@ -1,0 +1,60 @@
+#include "host/app/ExchangeView.h"
+
+#include <algorithm>
+#include <cstdio>
+
+#include "host/serial/Latin1.h"
+
+namespace bench {
+
+namespace {
+
+std::string Seconds(orvik::platform::Time time) {
+  char text[32];
+  const auto tenths = std::max<long long>(0, (time.count() + 99'999) / 100'000);
+  std::snprintf(text, sizeof text, "%lld.%lld s", tenths / 10, tenths % 10);
+  return text;
+}
+
+}  // namespace
+
+void ExchangeView::Take(const WireRecord& record) {
+  switch (record.kind) {
+    case WireRecord::Kind::kOpened:
+      *this = {};
+      open_ = true;
+      break;
+    case WireRecord::Kind::kSent: {
+      const auto command = VisibleText(record.text);
+      attempt_ = waiting_ && command == command_ ? attempt_ + 1 : 1;
+      command_ = command;
+      waiting_ = true;
+      break;
+    }
+    case WireRecord::Kind::kReceived:
+      waiting_ = false;
+      break;
+    case WireRecord::Kind::kDropped:
+      return;
+    case WireRecord::Kind::kFailed:
+    case WireRecord::Kind::kClosed:
+      open_ = false;
+      waiting_ = false;
+      break;
+  }
+  since_ = record.time;
+}
+
+std::string ExchangeView::Text(orvik::platform::Time now) const {
+  if (!open_) return "";
+  if (Waiting(now))
+    return command_ + ", attempt " + std::to_string(attempt_) + " of " + std::to_string(kMaxAttempts) +
+           ": reply within " + Seconds(since_ + kReplyTime - now);
+  const auto next = since_ + (waiting_ ? kReplyTime : orvik::platform::Time(0)) + kPause;
+  const auto what = waiting_           ? "no reply to " + command_
+                    : command_.empty() ? "port open"
+                                       : command_ + " answered";
+  return what + ": next command in " + Seconds(next - now);
+}
+
+}  // namespace bench

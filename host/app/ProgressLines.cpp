@@ -1,0 +1,77 @@
+#include "host/app/ProgressLines.h"
+
+#include <ostream>
+
+#include "host/app/DocumentText.h"
+#include "host/serial/Latin1.h"
+
+namespace bench {
+
+namespace {
+
+constexpr std::chrono::milliseconds kRedraw{250};
+
+}  // namespace
+
+ProgressLines::ProgressLines(std::ostream& out, bool terminal, std::shared_ptr<ILoop> loop, double timeScale)
+    : out_(out),
+      terminal_(terminal),
+      loop_(std::move(loop)),
+      // Four times a second for the person who looks on, however fast the run's clock goes.
+      interval_(static_cast<std::int64_t>(static_cast<double>(orvik::platform::Time(kRedraw).count()) *
+                                          timeScale)) {
+  if (terminal_) Redraw();
+}
+
+ProgressLines::~ProgressLines() {
+  loop_->Forget(next_);
+  Erase();
+}
+
+void ProgressLines::Reached(std::size_t place, std::size_t count) {
+  place_ = "[" + std::to_string(place) + "/" + std::to_string(count) + "] ";
+}
+
+void ProgressLines::Started(const ElementSummary& element) {
+  element_ = std::to_string(element.testId) + " " + element.name;
+  Print(place_ + element_);
+}
+
+void ProgressLines::Finished(const ElementSummary& element) { Print("      " + LineOf(element)); }
+
+void ProgressLines::Wire(const WireRecord& record) {
+  exchange_.Take(record);
+  if (record.kind == WireRecord::Kind::kFailed) Print("      the line to the tester has failed");
+  if (terminal_ || record.kind != WireRecord::Kind::kSent) return;
+  Print("      " + exchange_.Command() + ", attempt " + std::to_string(exchange_.Attempt()) + " of " +
+        std::to_string(ExchangeView::kMaxAttempts));
+}
+
+void ProgressLines::Prompted(const std::string& text) { Print("      " + text); }
+
+void ProgressLines::Doubted(std::int32_t, const std::string& doubt) { Print("      doubt: " + doubt); }
+
+void ProgressLines::Remark(const std::string& text) { Print(text); }
+
+void ProgressLines::Print(const std::string& line) {
+  Erase();
+  out_ << line << std::endl;
+}
+
+void ProgressLines::Redraw() {
+  const auto text = exchange_.Text(loop_->Now());
+  Erase();
+  if (!text.empty()) {
+    out_ << place_ << element_ << " | " << text << std::flush;
+    drawn_ = true;
+  }
+  next_ = loop_->CallAt(loop_->Now() + interval_, [this] { Redraw(); });
+}
+
+void ProgressLines::Erase() {
+  if (!drawn_) return;
+  out_ << "\r\033[K" << std::flush;
+  drawn_ = false;
+}
+
+}  // namespace bench

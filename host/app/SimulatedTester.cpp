@@ -1,0 +1,107 @@
+#include "host/app/SimulatedTester.h"
+
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/wait.h>
+
+#include <cerrno>
+#include <chrono>
+#include <csignal>
+#include <cstdlib>
+#include <system_error>
+#include <vector>
+
+#include "host/app/InputError.h"
+#include "host/app/ProgramFiles.h"
+#include "host/app/TextColumns.h"
+
+namespace bench {
+
+namespace {
+
+constexpr std::chrono::seconds kPatience{10};
+constexpr char kReady[] = "keld-sim: ready";
+
+std::filesystem::path NewFolder() {
+  std::error_code none;
+  auto pattern = (std::filesystem::temp_directory_path(none) / "orvik-bench-XXXXXX").string();
+  if (none || !mkdtemp(pattern.data()))
+    throw IncompleteError(
+        "--simulate: no temporary folder can be made; set TMPDIR to one that you may write to");
+  return pattern;
+}
+
+[[noreturn]] void Become(const std::vector<std::string>& command, int output) {
+  // Ctrl-C at the terminal is for the run, which still needs its tester to end the session.
+  setpgid(0, 0);
+  dup2(output, STDOUT_FILENO);
+  dup2(output, STDERR_FILENO);
+  std::vector<char*> arguments;
+  for (const auto& word : command) arguments.push_back(const_cast<char*>(word.c_str()));
+  arguments.push_back(nullptr);
+  execv(arguments[0], arguments.data());
+  _exit(127);
+}
+
+}  // namespace
+
+SimulatedTester::SimulatedTester(const std::string& profile, double timeScale) : folder_(NewFolder()) {
+  try {
+    Start(profile, timeScale);
+    AwaitReady();
+  } catch (...) {
+    End();
+    throw;
+  }
+}
+
+SimulatedTester::~SimulatedTester() { End(); }
+
+void SimulatedTester::Start(const std::string& profile, double timeScale) {
+  std::vector<std::string> command{files::Simulator().string(), "--link",       Device(),
+                                   "--exit-with-parent",        "--time-scale", ShortNumber(timeScale)};
+  if (!profile.empty()) command.insert(command.end(), {"--profile", profile});
+  int ends[2];
+  if (pipe2(ends, O_CLOEXEC) != 0) throw IncompleteError("--simulate: no pipe can be made");
+  output_ = UniqueFd(ends[0]);
+  const UniqueFd theirs(ends[1]);
+  process_ = fork();
+  if (process_ < 0) throw IncompleteError("--simulate: no process can be started");
+  if (process_ == 0) Become(command, theirs.Get());
+}
+
+void SimulatedTester::AwaitReady() {
+  std::string said;
+  const auto deadline = std::chrono::steady_clock::now() + kPatience;
+  while (said.find('\n') == std::string::npos || !said.starts_with(kReady)) {
+    const auto left =
+        std::chrono::duration_cast<std::chrono::milliseconds>(deadline - std::chrono::steady_clock::now());
+    pollfd readable{output_.Get(), POLLIN, 0};
+    const int ready = left.count() > 0 ? poll(&readable, 1, static_cast<int>(left.count())) : 0;
+    if (ready < 0 && errno == EINTR) continue;
+    if (ready <= 0) throw IncompleteError("--simulate: the simulated tester is not ready after ten seconds");
+    char buffer[512];
+    const auto count = read(output_.Get(), buffer, sizeof buffer);
+    if (count > 0) {
+      said.append(buffer, static_cast<std::size_t>(count));
+      continue;
+    }
+    if (count < 0 && errno == EINTR) continue;
+    if (said.empty()) said = files::Simulator().string() + " cannot be started";
+    throw InputError("--simulate: " + said);
+  }
+}
+
+void SimulatedTester::End() {
+  if (process_ > 0) {
+    kill(process_, SIGTERM);
+    int status = 0;
+    while (waitpid(process_, &status, 0) < 0 && errno == EINTR) {
+    }
+    process_ = -1;
+  }
+  std::error_code gone;
+  std::filesystem::remove_all(folder_, gone);
+}
+
+}  // namespace bench

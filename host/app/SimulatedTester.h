@@ -1,0 +1,36 @@
+#pragma once
+
+#include <sys/types.h>
+
+#include <filesystem>
+#include <string>
+
+#include "host/serial/UniqueFd.h"
+
+namespace bench {
+
+/// keld-sim on a pseudo-terminal, started and ended with this object.
+class SimulatedTester {
+ public:
+  /// @param profile a built-in profile or a profile file; empty for the simulator's own choice
+  /// `InputError` with the simulator's own words when it refuses the profile; `IncompleteError` when it
+  /// cannot be started or is not ready within ten seconds.
+  SimulatedTester(const std::string& profile, double timeScale);
+  SimulatedTester(const SimulatedTester&) = delete;
+  SimulatedTester& operator=(const SimulatedTester&) = delete;
+  ~SimulatedTester();
+
+  /// The serial device that the tester answers at.
+  std::string Device() const { return (folder_ / "tester").string(); }
+
+ private:
+  void Start(const std::string& profile, double timeScale);
+  void AwaitReady();
+  void End();
+
+  std::filesystem::path folder_;
+  pid_t process_ = -1;
+  UniqueFd output_;
+};
+
+}  // namespace bench
