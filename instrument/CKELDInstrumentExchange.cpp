@@ -99,7 +99,8 @@ void CKELDInstrument::WaitForMessage(std::int32_t& lWaiting, bool& fOpen) {
 
 bool CKELDInstrument::Pump() {
   // A clock that stands still, or a pump that fails, would be waited for in vain: the wait is over then.
-  return mfrmClock->Running() && Attempt([&] { Application->WaitMessages(Application->Now() + kBeyondPulse); });
+  return mfrmClock->Running() &&
+         Attempt([&] { Application->WaitMessages(Application->Now() + kBeyondPulse); });
 }
 
 void CKELDInstrument::StartClock(std::int16_t iMilliseconds) {

@@ -25,10 +25,11 @@ inline std::optional<double> NumberIn(const orvik::Variant& vValue) {
 
   const std::string sTrimmed = orvik::Trim(*psValue);
   std::string_view sNumber = sTrimmed;
-  if (sNumber.starts_with('+')) sNumber.remove_prefix(1);
+  const bool fSigned = sNumber.starts_with('+') || sNumber.starts_with('-');
   // from_chars alone would also take "inf" and "nan", which no tester means as a number.
-  const std::string_view sDigits = sNumber.starts_with('-') ? sNumber.substr(1) : sNumber;
+  const std::string_view sDigits = fSigned ? sNumber.substr(1) : sNumber;
   if (sDigits.empty() || sDigits.find_first_of("0123456789.") != 0) return std::nullopt;
+  if (sNumber.starts_with('+')) sNumber = sDigits;
   double rValue = 0;
   const char* pcEnd = sNumber.data() + sNumber.size();
   const auto Result = std::from_chars(sNumber.data(), pcEnd, rValue);

@@ -47,7 +47,10 @@ void XKELDData::AttachTo(const std::shared_ptr<platform::IContainerSite>& site) 
   const auto Take = [this, Weak = weak_from_this()] {
     if (const auto Self = Weak.lock()) TakeSerialNumber();
   };
-  mSelectedSubscription = cboSerial->Selected().Subscribe(Take);
+  // Typing takes the selection away; what is typed counts when the box is left.
+  mSelectedSubscription = cboSerial->Selected().Subscribe([this, Take] {
+    if (cboSerial->SelectedIndex() >= 0) Take();
+  });
   mLostFocusSubscription = cboSerial->LostFocus().Subscribe(Take);
   ShowData();
 }

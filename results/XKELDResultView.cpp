@@ -62,17 +62,18 @@ void XKELDResultView::AttachTo(const std::shared_ptr<orvik::platform::IContainer
   const auto Panel = Required(site).Panel();
   lvwResults = Required(Panel).AddListView(kListName);
   ShowLimitsInRow();
-  // The list fills the whole control, at any size.
-  orvik::platform::Grid WholePanel;
-  WholePanel.rows = {{0, 1}};
-  WholePanel.columns = {{0, 1}};
-  WholePanel.cells = {{kListName, 0, 0}};
-  WholePanel.margin = 0;
-  Panel->SetGrid(WholePanel);
+  mResized = Panel->Resized().Subscribe([this, Weak = std::weak_ptr(Panel)] { FillPanel(Weak); });
+  FillPanel(Panel);
   mListMouseUp = lvwResults->MouseUp().Subscribe([this](const orvik::platform::MouseEvent& Mouse) {
     const auto Self = shared_from_this();
     mMouseUp.Raise(Mouse.button, Mouse.shift, Mouse.x, Mouse.y);
   });
+}
+
+// By hand: a layout would not make the list narrower than its columns.
+void XKELDResultView::FillPanel(const std::weak_ptr<orvik::platform::IPanel>& Panel) {
+  const orvik::platform::Size Inner = Required(Panel)->InnerSize();
+  List().SetBounds({0, 0, Inner.width, Inner.height});
 }
 
 orvik::platform::IListView& XKELDResultView::List() const { return Required(lvwResults); }

@@ -13,6 +13,10 @@ class IMeasurement;
 class ITestElement;
 }  // namespace orvik
 
+namespace orvik::platform {
+class IPanel;
+}
+
 namespace keld {
 
 /// The list of the tests run so far: one row for each element, with the measured value and the limits of one
@@ -40,6 +44,7 @@ class XKELDResultView final : public virtual orvik::IObject, public orvik::platf
 
  private:
   std::string IObject_ClassID() const override;
+  void FillPanel(const std::weak_ptr<orvik::platform::IPanel>& Panel);
   orvik::platform::IListView& List() const;
   void AddRow(const std::string& sRow, const std::shared_ptr<orvik::ITestElement>& iteElement,
               const std::string& sValue, const std::shared_ptr<orvik::IMeasurement>& Measurement);
@@ -52,6 +57,7 @@ class XKELDResultView final : public virtual orvik::IObject, public orvik::platf
   std::shared_ptr<orvik::platform::IListView> lvwResults;
   orvik::platform::Event<int, int, orvik::platform::Twips, orvik::platform::Twips> mMouseUp;
   orvik::platform::Subscription mListMouseUp;
+  orvik::platform::Subscription mResized;
 };
 
 }  // namespace keld

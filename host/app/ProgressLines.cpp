@@ -1,5 +1,8 @@
 #include "host/app/ProgressLines.h"
 
+#include <sys/ioctl.h>
+#include <unistd.h>
+
 #include <ostream>
 
 #include "host/app/DocumentText.h"
@@ -10,6 +13,20 @@ namespace bench {
 namespace {
 
 constexpr std::chrono::milliseconds kRedraw{250};
+
+/// The text cut to what fits into one line of the terminal: a second line could not be wiped out again.
+std::string Fitting(const std::string& text) {
+  winsize size{};
+  const bool known =
+      ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 || ioctl(STDERR_FILENO, TIOCGWINSZ, &size) == 0;
+  const std::size_t width = known && size.ws_col > 1 ? size.ws_col - 1U : 79;
+  std::size_t letters = 0;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const bool begins = (static_cast<unsigned char>(text[i]) & 0xC0) != 0x80;
+    if (begins && letters++ == width) return text.substr(0, i);
+  }
+  return text;
+}
 
 }  // namespace
 
@@ -62,7 +79,7 @@ void ProgressLines::Redraw() {
   const auto text = exchange_.Text(loop_->Now());
   Erase();
   if (!text.empty()) {
-    out_ << place_ << element_ << " | " << text << std::flush;
+    out_ << Fitting(place_ + text + " | " + element_) << std::flush;
     drawn_ = true;
   }
   next_ = loop_->CallAt(loop_->Now() + interval_, [this] { Redraw(); });

@@ -92,10 +92,11 @@ ExitStatus TestsCommand::Run(const GlobalOptions& options) {
     std::cout << Indented(JsonOf(entries)) << "\n";
     return ExitStatus::kPassed;
   }
-  for (const auto& entry : entries)
+  for (const auto& entry : entries) {
+    const auto name = std::string(2 * entry.depth, ' ') + entry.name;
     std::cout << LeftPadded(std::to_string(entry.testId), 5) << "  "
-              << Padded(std::string(2 * entry.depth, ' ') + entry.name, entry.unit.empty() ? 0 : 60)
-              << entry.unit << "\n";
+              << (entry.unit.empty() ? name : Padded(name, 60) + entry.unit) << "\n";
+  }
   return ExitStatus::kPassed;
 }
 

@@ -10,7 +10,8 @@
 
 namespace bench {
 
-/// The ordered children of a container. Walks over them go on correctly while children come and go.
+/// The ordered children of a container. Walks over them go on correctly while children come and go, and keep
+/// the list alive.
 class ChildList : public std::enable_shared_from_this<ChildList> {
  public:
   using Child = std::shared_ptr<orvik::ITestElement>;

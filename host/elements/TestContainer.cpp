@@ -25,7 +25,7 @@ struct Level {
 TestContainer::TestContainer(std::weak_ptr<ElementFactory> factory)
     : TestElement(std::move(factory)), children_(std::make_shared<ChildList>()) {}
 
-TestContainer::~TestContainer() { children_->Clear(); }
+TestContainer::~TestContainer() = default;
 
 std::string TestContainer::IObject_ClassID() const { return orvik::HostClasses::kTestContainer; }
 

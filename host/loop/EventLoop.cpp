@@ -16,7 +16,8 @@ ILoop::Id EventLoop::WatchReadable(int descriptor, std::function<void()> callbac
 }
 
 ILoop::Id EventLoop::CallAt(Time when, std::function<void()> callback) {
-  return calls_.Add(std::max(when, Now()), std::move(callback));
+  // Behind the calls of the round that is on, or one that renews itself in the past would keep them waiting.
+  return calls_.Add(std::max(when, lastRound_), std::move(callback));
 }
 
 void EventLoop::Forget(Id id) {
@@ -80,6 +81,7 @@ bool EventLoop::RunPosted(std::uint64_t mark) {
 
 bool EventLoop::RunCalls(std::uint64_t mark) {
   const Time now = Now();
+  lastRound_ = now;
   bool ran = false;
   while (const auto callback = calls_.TakeDue(now, mark)) {
     ran = true;

@@ -61,6 +61,8 @@ class EventLoop final : public ILoop {
   Poller poller_;
   std::deque<std::pair<std::uint64_t, std::function<void()>>> posted_;
   std::uint64_t nextPosted_ = 0;
+  // The time whose calls were run last.
+  orvik::platform::Time lastRound_{0};
   orvik::platform::Event<> woken_;
 };
 

@@ -21,11 +21,11 @@ void Handle(int signal) {
   if (auto* application = receiver.load()) application->Wake();
 }
 
-void Install(void (*handler)(int)) {
+void Install(int signal, void (*handler)(int)) {
   struct sigaction action {};
   action.sa_handler = handler;
   sigemptyset(&action.sa_mask);
-  for (const int signal : kSignals) sigaction(signal, &action, nullptr);
+  sigaction(signal, &action, nullptr);
 }
 
 }  // namespace
@@ -33,11 +33,13 @@ void Install(void (*handler)(int)) {
 StopSignals::StopSignals(headless::Application& application, std::function<void(int signal)> stop)
     : stop_(std::move(stop)), woken_(application.Woken().Subscribe([this] { Deliver(); })) {
   receiver.store(&application);
-  Install(&Handle);
+  for (const int signal : kSignals) Install(signal, &Handle);
+  Install(SIGPIPE, SIG_IGN);
 }
 
 StopSignals::~StopSignals() {
-  Install(SIG_DFL);
+  for (const int signal : kSignals) Install(signal, SIG_DFL);
+  Install(SIGPIPE, SIG_DFL);
   receiver.store(nullptr);
 }
 

@@ -11,7 +11,7 @@ class Application;
 }
 
 /// Turns SIGINT, SIGTERM and SIGHUP into calls on the user-interface thread, for as long as it lives. One for
-/// the process.
+/// the process. A reader of the output who has gone does not end the program meanwhile.
 class StopSignals {
  public:
   /// `stop` is called while messages are processed, with the number of the signal: for every signal once.

@@ -49,7 +49,7 @@ constexpr int kWriteTimeoutMs = 500;
 }
 
 /// Whether the descriptor is the far end of a pair of pseudo-terminals.
-bool IsPseudoTerminal(int descriptor) {
+bool IsFarEndOfPair(int descriptor) {
   constexpr unsigned kFirstMajor = 136;
   constexpr unsigned kLastMajor = 143;
   struct stat status {};
@@ -67,11 +67,11 @@ SerialDevice::SerialDevice(std::string path, const LineSettings& settings) : pat
     if (errno == EWOULDBLOCK) FailToOpen(path_, EBUSY);
     Fail(path_, "cannot be locked: " + std::generic_category().message(errno));
   }
-  const bool pseudo = IsPseudoTerminal(opened.Get());
-  const auto reason = SetLineMode(opened.Get(), settings, pseudo);
+  pseudo_ = IsFarEndOfPair(opened.Get());
+  const auto reason = SetLineMode(opened.Get(), settings, pseudo_);
   if (!reason.empty()) Fail(path_, reason);
   // A pseudo-terminal would stay exclusive after a killed program, since its other holder keeps it open.
-  exclusive_ = !pseudo && ioctl(opened.Get(), TIOCEXCL) == 0;
+  exclusive_ = !pseudo_ && ioctl(opened.Get(), TIOCEXCL) == 0;
   tcflush(opened.Get(), TCIOFLUSH);
   descriptor_ = std::move(opened);
 }

@@ -25,6 +25,8 @@ class SerialDevice {
   int Descriptor() const { return descriptor_.Get(); }
   bool IsOpen() const { return static_cast<bool>(descriptor_); }
   const std::string& Path() const { return path_; }
+  /// Whether there is a program at the other end instead of a cable.
+  bool IsPseudoTerminal() const { return pseudo_; }
 
   /// Sends all the bytes; false when the device has failed or takes nothing for half a second.
   bool Write(std::string_view bytes);
@@ -38,6 +40,7 @@ class SerialDevice {
  private:
   const std::string path_;
   UniqueFd descriptor_;
+  bool pseudo_ = false;
   bool exclusive_ = false;
 };
 

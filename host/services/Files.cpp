@@ -86,7 +86,7 @@ void SyncFolderOf(const std::filesystem::path& file) {
 
 FileDescriptor WriteFreshFile(const std::filesystem::path& fresh, std::string_view contents,
                               std::optional<mode_t> mode) {
-  FileDescriptor descriptor(open(fresh.c_str(), O_WRONLY | O_CREAT | O_NOFOLLOW | O_CLOEXEC, 0666));
+  FileDescriptor descriptor(open(fresh.c_str(), O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC, 0666));
   if (!descriptor.Valid())
     ThrowFileError(fresh, "cannot be created", errno, "check the folder and your permissions");
   try {

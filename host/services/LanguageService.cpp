@@ -23,7 +23,7 @@ std::size_t NumberLength(std::string_view text) {
 
 /// The languages to look for, the general one first so that the special one overwrites it.
 std::vector<std::string> Candidates(const std::string& language) {
-  const auto name = language.substr(0, language.find('.'));
+  const auto name = language.substr(0, language.find('.', 1));
   const bool valid = std::all_of(name.begin(), name.end(), [](char c) {
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_' ||
            c == '-' || c == '@';

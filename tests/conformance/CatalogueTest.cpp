@@ -31,20 +31,25 @@ TEST(Catalogue, WithoutSettingsIsEmptyAndLogged) {
   EXPECT_TRUE(IsLogged(library, kNoSettingsKey));
 }
 
-class FaultyCatalogue : public testing::TestWithParam<const char*> {};
+class FaultyCatalogue : public testing::TestWithParam<NamedText> {};
 
 TEST_P(FaultyCatalogue, GivesAContainerAndIsLogged) {
-  LoadedLibrary library(WithCatalogue(GetParam()));
+  LoadedLibrary library(WithCatalogue(GetParam().text));
   ASSERT_TRUE(library.PlugIn()->Tests());
   EXPECT_EQ(library.PlugIn()->Flags(), 1);
   EXPECT_TRUE(IsLogged(library, kCatalogueFault));
 }
 
-INSTANTIATE_TEST_SUITE_P(Loaded, FaultyCatalogue,
-                         testing::Values("", " ", "no XML at all", "<TemplateData>", "<Other/>",
-                                         "<templatedata/>", "<TemplateData><TestElement></TemplateData>",
-                                         "<TemplateData><TestElement/></TemplateData>",
-                                         "<TemplateData><TestElement ID=''/></TemplateData>", "\xFF\xFE<"));
+INSTANTIATE_TEST_SUITE_P(
+    Loaded, FaultyCatalogue,
+    testing::Values(NamedText{"Empty", ""}, NamedText{"Blank", " "}, NamedText{"NoXml", "no XML at all"},
+                    NamedText{"Unclosed", "<TemplateData>"}, NamedText{"OtherRoot", "<Other/>"},
+                    NamedText{"OtherCase", "<templatedata/>"},
+                    NamedText{"CrossedTags", "<TemplateData><TestElement></TemplateData>"},
+                    NamedText{"NoIdentifier", "<TemplateData><TestElement/></TemplateData>"},
+                    NamedText{"EmptyIdentifier", "<TemplateData><TestElement ID=''/></TemplateData>"},
+                    NamedText{"NotUtf8", "\xFF\xFE<"}),
+    [](const auto& catalogue) { return std::string(catalogue.param.name); });
 
 TEST(Catalogue, TakesWhateverElseStandsInIt) {
   LoadedLibrary library(WithCatalogue(R"(<Outer><TemplateData><!-- c --><Alien/>

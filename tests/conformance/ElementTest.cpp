@@ -129,32 +129,42 @@ TEST_P(Element, LetsNothingButHostErrorsCrossForWrongArguments) {
   ExpectDecided(*element);
 }
 
-class MalformedNode : public testing::TestWithParam<std::tuple<Subject, const char*>> {};
+class MalformedNode : public testing::TestWithParam<std::tuple<Subject, NamedText>> {};
 
 TEST_P(MalformedNode, LetsNothingButHostErrorsCross) {
   LoadedLibrary library(std::get<0>(GetParam()));
-  const auto node = library.Parsed(std::get<1>(GetParam()));
+  const auto node = library.Parsed(std::get<1>(GetParam()).text);
   const auto element = library.NewTest();
   EXPECT_TRUE(OnlyHostErrorCrosses([&] { element->Load(node, nullptr); }));
   EXPECT_TRUE(OnlyHostErrorCrosses([&] { element->Clone(); }));
   EXPECT_TRUE(OnlyHostErrorCrosses([&] { element->Save(node); }));
   // Whatever was read, it never counts as a pass that nobody gave.
-  if (const auto result = element->Result()) EXPECT_NE(result->Status(), 1);
+  const auto result = element->Result();
+  EXPECT_NE(result ? result->Status() : 0, 1);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Loaded, MalformedNode,
-    testing::Combine(
-        testing::Values(KeldPlugIn(), CheckerPlugIn()),
-        testing::Values(
-            "<TestElement/>", "<TestElement ID='x' TestID='y'/>",
-            "<TestElement ID='1' TestID='410'><ResultItem><Status>one</Status></ResultItem></TestElement>",
-            "<TestElement ID='1' TestID='410'><Configuration><PlugInData/></Configuration></TestElement>",
-            "<TestElement ID='1' TestID='410'><ExpectedResult><Standard/></ExpectedResult></TestElement>",
-            "<TestElement ID='1' TestID='410'><TestElement/></TestElement>", "<ResultItem/>",
-            "<ResultItem MTI='x'><Status/></ResultItem>", "<ResultItem><Status>1.5</Status></ResultItem>",
-            "<ResultItem><Measurement/><Measurement><Value>x</Value></Measurement></ResultItem>",
-            "<ResultItem><ServiceRecord/></ResultItem>")));
+constexpr NamedText kMalformed[] = {
+    {"Bare", "<TestElement/>"},
+    {"NoNumbers", "<TestElement ID='x' TestID='y'/>"},
+    {"StatusInWords",
+     "<TestElement ID='1' TestID='410'><ResultItem><Status>one</Status></ResultItem></TestElement>"},
+    {"EmptyConfiguration",
+     "<TestElement ID='1' TestID='410'><Configuration><PlugInData/></Configuration></TestElement>"},
+    {"EmptyStandard",
+     "<TestElement ID='1' TestID='410'><ExpectedResult><Standard/></ExpectedResult></TestElement>"},
+    {"ChildOfATest", "<TestElement ID='1' TestID='410'><TestElement/></TestElement>"},
+    {"EmptyResult", "<ResultItem/>"},
+    {"EmptyStatus", "<ResultItem MTI='x'><Status/></ResultItem>"},
+    {"FractionalStatus", "<ResultItem><Status>1.5</Status></ResultItem>"},
+    {"TwoMeasurements", "<ResultItem><Measurement/><Measurement><Value>x</Value></Measurement></ResultItem>"},
+    {"EmptyServiceRecord", "<ResultItem><ServiceRecord/></ResultItem>"}};
+
+INSTANTIATE_TEST_SUITE_P(Loaded, MalformedNode,
+                         testing::Combine(testing::Values(KeldPlugIn(), CheckerPlugIn()),
+                                          testing::ValuesIn(kMalformed)),
+                         [](const auto& malformed) {
+                           return std::get<0>(malformed.param).name + std::get<1>(malformed.param).name;
+                         });
 
 TEST_P(Element, PrintsIntoAReport) {
   const auto report = std::make_shared<bench::ReportObject>();

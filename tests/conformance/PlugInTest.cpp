@@ -111,6 +111,10 @@ struct IconCase {
   int width;  ///< 0 for none
 };
 
+void PrintTo(const IconCase& icon, std::ostream* stream) {
+  *stream << "test " << icon.testId << " style " << icon.style;
+}
+
 class KeldIcons : public KeldPlugInLoaded, public testing::WithParamInterface<IconCase> {};
 
 TEST_P(KeldIcons, HaveTheSizeOfTheirKind) {

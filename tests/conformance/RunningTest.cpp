@@ -1,4 +1,4 @@
-#include <functional>
+#include <algorithm>
 
 #include "OrvikTypeLib/ILimit.h"
 #include "OrvikTypeLib/ILimitData.h"
@@ -199,6 +199,8 @@ struct Choice {
   std::int32_t status;  ///< -1 for no result
 };
 
+void PrintTo(const Choice& choice, std::ostream* stream) { *stream << choice.name; }
+
 class Choices : public Running, public testing::WithParamInterface<Choice> {};
 
 TEST_P(Choices, LeaveTheElementAsTheOperatorSays) {
@@ -226,37 +228,51 @@ TEST_F(Running, AsksBeforeItAborts) {
   EXPECT_EQ(element->Result()->Status(), 0);
 }
 
-/// Presses a button of the guide while the pump is called for the given time since play was pressed.
-class AtEveryPump : public Running, public testing::WithParamInterface<int> {};
-
-TEST_P(AtEveryPump, ARunEndsWithoutHangAndWithoutAPass) {
-  // How many pump calls a whole run takes, learned from one.
-  int pumps = 0;
-  const auto counting = library_.Application().Pumped().Subscribe([&] { ++pumps; });
-  Perform(library_.NewTest(410));
-  const int total = pumps;
-  ASSERT_GT(total, 10);
-
-  int at = 0;
-  const auto acting = library_.Application().Pumped().Subscribe([&] {
-    if (pumps++ != at) return;
-    if (const auto guide = Guide()) Toolbar(*guide)->Click(GetParam());
-  });
-  // Every call for a short run; a long one is sampled by a step without common factor.
-  const int step = total > 300 ? total / 300 * 2 + 1 : 1;
-  for (at = 1; at < total; at += step) {
-    SCOPED_TRACE("pump call " + std::to_string(at));
-    pumps = 0;
+/// A run in which the operator presses a button of the guide at one call of the message pump.
+class AtEveryPump : public Running, public testing::WithParamInterface<int> {
+ protected:
+  /// Performs an element and presses the button at that pump call; -1 for never. Answers how many calls there
+  /// were.
+  int PerformPressingAt(int call, const std::shared_ptr<orvik::ITestElement>& element) {
+    int calls = 0;
+    const auto acting = library_.Application().Pumped().Subscribe([&] {
+      const auto guide = Guide();
+      if (calls++ == call && guide) Toolbar(*guide)->Click(GetParam());
+    });
     library_.Wire().Clear();
-    const auto element = library_.NewTest(410);
+    prompts_.clear();
     Perform(element);
-    const auto sent = library_.Wire().Sent();
-    const bool opened = std::find(sent.begin(), sent.end(), "IREM") != sent.end();
-    if (opened) EXPECT_EQ(sent.back(), "EREM") << "the session with the tester is left open";
+    return calls;
   }
+
+  bool Received(const std::string& mnemonic) {
+    const auto received = library_.Wire().Received();
+    return std::any_of(received.begin(), received.end(),
+                       [&](const std::string& line) { return line.starts_with(mnemonic); });
+  }
+};
+
+TEST_P(AtEveryPump, EndsTheRunWithoutHangAndWithoutAPassThatNobodyMeasured) {
+  const int calls = PerformPressingAt(-1, library_.NewTest(410));
+  ASSERT_GT(calls, 10);
+  int effective = 0;
+  for (int call = 0; call < calls; ++call) {
+    SCOPED_TRACE("pump call " + std::to_string(call) + " of " + std::to_string(calls));
+    const auto element = library_.NewTest(410);
+    PerformPressingAt(call, element);
+    const auto sent = library_.Wire().Sent();
+    const auto status = element->Result() ? element->Result()->Status() : 0;
+    const bool opened = std::find(sent.begin(), sent.end(), "IREM") != sent.end();
+    EXPECT_TRUE(!opened || sent.back() == "EREM") << "the session with the tester is left open";
+    EXPECT_TRUE(status != 1 || Received("gres")) << "passed without a reading";
+    EXPECT_TRUE(status != 1 || prompts_.empty()) << "passed although it was aborted";
+    if (status != 1) ++effective;
+  }
+  EXPECT_GT(effective, calls / 4) << "the button hardly ever did anything";
 }
 
-INSTANTIATE_TEST_SUITE_P(Guide, AtEveryPump, testing::Values(kStop, kAbort));
+INSTANTIATE_TEST_SUITE_P(Guide, AtEveryPump, testing::Values(kStop, kAbort),
+                         [](const auto& button) { return button.param == kStop ? "Stop" : "Abort"; });
 
 TEST(CheckerRunning, RecordsTheOperatorsVerdict) {
   LoadedLibrary library(CheckerPlugIn());

@@ -23,6 +23,14 @@ Subject KeldPlugIn();
 /// The checker plug-in, which is also the template for authors.
 Subject CheckerPlugIn();
 
+/// A text that a test is given, under a name that says what is wrong with it.
+struct NamedText {
+  const char* name;
+  const char* text;
+};
+
+inline void PrintTo(const NamedText& text, std::ostream* stream) { *stream << text.name; }
+
 inline void PrintTo(const Subject& subject, std::ostream* stream) { *stream << subject.name; }
 
 }  // namespace conformance

@@ -111,7 +111,7 @@ class SampleLimits final : public ILimitData {
   void ILimitData_PrintReport(std::shared_ptr<IReport> Report, std::shared_ptr<IObject> Context) override {
     if (Standards_) Standards_->Print(std::move(Report), std::move(Context), {"NO LIMIT KEY", "Limits", "0"});
   }
-  void ILimitData_UpdateLimits(const Variant&) override {}
+  void ILimitData_UpdateLimits(std::shared_ptr<IObject>) override {}
   std::shared_ptr<IStandardColl> ILimitData_FindFailedStandards(
       std::shared_ptr<IMeasurement>, std::shared_ptr<IStandardColl>) const override {
     return nullptr;

@@ -172,6 +172,8 @@ TEST_F(TestContainerTest, EnumerationOutlivesItsContainer) {
   auto container = WithChildren(2);
   const auto walk = container->NewEnum();
   container.reset();
+  EXPECT_EQ(walk->Next()->ID(), 1);
+  EXPECT_EQ(walk->Next()->Parent(), nullptr);
   EXPECT_EQ(walk->Next(), nullptr);
 }
 

@@ -1,11 +1,10 @@
-#include "instrument/CKELDData.h"
-
 #include <gtest/gtest.h>
 
 #include "OrvikTypeLib/HostError.h"
 #include "OrvikTypeLib/IInstrumentRecord.h"
 #include "OrvikTypeLib/IRegistryReader.h"
 #include "host/instruments/InstrumentColl.h"
+#include "instrument/CKELDData.h"
 #include "tests/support/HostOnly.h"
 
 namespace instrument_test {
@@ -29,7 +28,8 @@ class CKELDDataTest : public testing::Test {
   }
   static Variant Read(const char* key, const std::string& name) {
     const auto registry = keld::MKELDGlobalVars::RegistryReader();
-    return registry->OpenKey(static_cast<std::int32_t>(0x80000002U), key) ? registry->ReadValue(name) : Variant{};
+    return registry->OpenKey(static_cast<std::int32_t>(0x80000002U), key) ? registry->ReadValue(name)
+                                                                          : Variant{};
   }
 
   support::HostOnly host_;

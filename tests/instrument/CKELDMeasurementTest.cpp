@@ -1,5 +1,3 @@
-#include "instrument/CKELDMeasurement.h"
-
 #include <gtest/gtest.h>
 
 #include "OrvikTypeLib/HostClasses.h"
@@ -9,6 +7,7 @@
 #include "OrvikTypeLib/IXmlDocument.h"
 #include "OrvikTypeLib/IXmlNode.h"
 #include "host/report/ReportObject.h"
+#include "instrument/CKELDMeasurement.h"
 #include "plugin/MKELDGlobalVars.h"
 #include "results/CKELDLimitData.h"
 #include "tests/support/HostOnly.h"
@@ -175,8 +174,8 @@ TEST_F(CKELDMeasurementTest, TheSavedValueHasNoBlanksAround) {
 }
 
 TEST_F(CKELDMeasurementTest, ALoadedValueIsADouble) {
-  const std::pair<std::string, double> cases[] = {
-      {"12.5", 12.5}, {"OL", 0}, {"", 0}, {"7x", 7}, {" -3 ", -3}, {"1e2", 100}, {"12,5", 12}};
+  const std::pair<std::string, double> cases[] = {{"12.5", 12.5}, {"OL", 0},    {"", 0},     {"7x", 7},
+                                                  {" -3 ", -3},   {"1e2", 100}, {"12,5", 12}};
   for (const auto& [text, value] : cases) {
     Load("<Measurement><Value>" + text + "</Value></Measurement>");
     EXPECT_EQ(measurement_->value(), Variant(value)) << text;
@@ -246,12 +245,17 @@ class BrokenStandards final : public orvik::IStandardColl {
   std::shared_ptr<orvik::IStandard> IStandardColl_item(std::int32_t) const override { Fail(); }
   void IStandardColl_Add(std::shared_ptr<orvik::IStandard>) override { Fail(); }
   void IStandardColl_Remove(std::shared_ptr<orvik::IStandard>) override { Fail(); }
-  std::shared_ptr<orvik::IStandard> IStandardColl_Find(const std::string&, const std::string&) const override {
+  std::shared_ptr<orvik::IStandard> IStandardColl_Find(const std::string&,
+                                                       const std::string&) const override {
     Fail();
   }
   std::shared_ptr<orvik::IStandardColl> IStandardColl_Clone() const override { Fail(); }
-  void IStandardColl_Load(std::shared_ptr<orvik::IXmlNode>, std::shared_ptr<orvik::IObject>) override { Fail(); }
-  std::shared_ptr<orvik::IXmlNode> IStandardColl_Save(std::shared_ptr<orvik::IXmlNode>) const override { Fail(); }
+  void IStandardColl_Load(std::shared_ptr<orvik::IXmlNode>, std::shared_ptr<orvik::IObject>) override {
+    Fail();
+  }
+  std::shared_ptr<orvik::IXmlNode> IStandardColl_Save(std::shared_ptr<orvik::IXmlNode>) const override {
+    Fail();
+  }
   void IStandardColl_Print(std::shared_ptr<orvik::IReport>, std::shared_ptr<orvik::IObject>,
                            const std::vector<std::string>&) const override {
     Fail();

@@ -1,6 +1,6 @@
-#include "instrument/Number.h"
-
 #include <gtest/gtest.h>
+
+#include "instrument/Number.h"
 
 namespace instrument_test {
 namespace {

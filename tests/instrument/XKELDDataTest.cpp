@@ -1,8 +1,7 @@
-#include "instrument/XKELDData.h"
-
 #include <gtest/gtest.h>
 
 #include "instrument/CKELDData.h"
+#include "instrument/XKELDData.h"
 #include "platform/Controls.h"
 #include "platform/IForm.h"
 #include "tests/support/HostOnly.h"
@@ -85,7 +84,8 @@ TEST_F(XKELDDataTest, AnEmptiedBoxGoesBack) {
 
 TEST_F(XKELDDataTest, RefreshShowsWhatHasChanged) {
   const auto data = keld::CKELDData::Shared();
-  data->TakeIdentity({std::string("type"), std::string("new"), std::string("2.0"), std::string(), std::string()});
+  data->TakeIdentity(
+      {std::string("type"), std::string("new"), std::string("2.0"), std::string(), std::string()});
   data->SetCalibValue(99);
   EXPECT_EQ(Serial().Text(), "4711");
   Control()->Refresh();

@@ -6,6 +6,8 @@
 #include "OrvikTypeLib/IDialogForm.h"
 #include "OrvikTypeLib/IXmlDocument.h"
 #include "OrvikTypeLib/IXmlNode.h"
+#include "host/report/ReportObject.h"
+#include "host/report/TextReport.h"
 #include "model/CKELDSequence.h"
 #include "model/CKELDTestElement.h"
 #include "platform/Controls.h"
@@ -259,6 +261,21 @@ TEST_F(TestConfiguration, PrintsOnAReportNarrowerThanItsMargin) {
   CKELDTestConfiguration::Create()->PrintReport(report);
   ASSERT_EQ(report->calls.size(), 6U);
   EXPECT_EQ(report->calls[3], "<560|<0;");
+}
+
+TEST_F(TestConfiguration, PrintsItsLinesOnTheHostsReport) {
+  const auto configuration = Owned<keld::CKELDTestElement>(1110);
+  configuration->SetOptions(2048);
+  const auto report = std::make_shared<bench::ReportObject>();
+  configuration->PrintReport(report);
+  ASSERT_EQ(report->Tables().size(), 1U);
+  const std::string text = bench::TextReport(*report);
+  const auto heading = text.find("Configuration:");
+  const auto line = text.find("Lead number 10 tested.");
+  ASSERT_NE(heading, std::string::npos) << text;
+  ASSERT_NE(line, std::string::npos) << text;
+  EXPECT_LT(heading, line);
+  EXPECT_EQ(text.find("\\b"), std::string::npos) << "the heading is markup, not text\n" << text;
 }
 
 TEST_F(TestConfiguration, EditsASingleTestInTheTestControl) {

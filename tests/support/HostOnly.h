@@ -26,10 +26,10 @@ class HostOnly {
  public:
   /// @param catalogue what stands in for the settings value "Configuration"; without it there is no settings
   /// key
-  explicit HostOnly(std::optional<std::string> catalogue = {}, std::string language = {})
+  explicit HostOnly(std::optional<std::string> catalogue = {})
       : application_(std::make_shared<bench::headless::Application>(bench::ClockKind::kVirtual)),
         host_(bench::Host::Create({.stateFolder = folder_.Path(),
-                                   .language = std::move(language),
+                                   .language = {},
                                    .catalogue = std::move(catalogue),
                                    .translationFolders = {}},
                                   application_)) {

@@ -90,6 +90,16 @@ TEST_F(VirtualLoop, WorkThatRenewsItselfStarvesNobody) {
   EXPECT_EQ(calls, 11);
 }
 
+TEST_F(VirtualLoop, ACallThatRenewsItselfInThePastStarvesNobody) {
+  loop.Wait(10s);
+  loop.Process();
+  std::function<void()> renew = [&] { loop.CallAt(1s, renew); };
+  renew();
+  loop.CallAt(5s, [&] { log.push_back("other"); });
+  loop.Process();
+  EXPECT_EQ(log, (std::vector<std::string>{"other"}));
+}
+
 TEST_F(VirtualLoop, ACallThatWasForgottenMeanwhileDoesNotCome) {
   ILoop::Id second = 0;
   loop.CallAt(1s, [&] { loop.Forget(second); });

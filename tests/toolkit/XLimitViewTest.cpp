@@ -17,10 +17,10 @@ constexpr char kKey[] = "NO LIMIT KEY";
 /// An element's limits: the host's own standards in the host's own collection.
 class Limits : public orvik::ILimitData {
  public:
-  Limits(std::shared_ptr<Host> host, std::string unit)
-      : host_(std::move(host)),
+  Limits(const std::shared_ptr<Host>& host, std::string unit)
+      : host_(host),
         unit_(std::move(unit)),
-        standards_(As<orvik::IStandardColl>(host_->CreateObject(classes::kStandardColl))) {}
+        standards_(As<orvik::IStandardColl>(host->CreateObject(classes::kStandardColl))) {}
 
   std::shared_ptr<orvik::ILimit> LimitAt(int index) const { return standards_->item(index)->Limit(1); }
 
@@ -34,9 +34,10 @@ class Limits : public orvik::ILimitData {
   std::shared_ptr<orvik::IDialog> ILimitData_CreateDialog() override { return nullptr; }
   std::shared_ptr<orvik::IStandard> ILimitData_CreateStandard(const std::string& sName,
                                                               const std::string& sDescription) override {
-    auto standard = As<orvik::IStandard>(host_->CreateObject(classes::kStandard));
+    const auto host = orvik::Required(host_);
+    auto standard = As<orvik::IStandard>(host->CreateObject(classes::kStandard));
     standard->Initialize(sName, sDescription, 1);
-    auto limit = As<orvik::ILimit>(host_->CreateObject(classes::kLimit));
+    auto limit = As<orvik::ILimit>(host->CreateObject(classes::kLimit));
     limit->Initialize(kKey, unit_, "", "");
     standard->AddLimit(limit);
     standards_->Add(standard);
@@ -53,7 +54,8 @@ class Limits : public orvik::ILimitData {
     return nullptr;
   }
 
-  std::shared_ptr<Host> host_;
+  // The host keeps the windows, which keep the view and with it these limits.
+  std::weak_ptr<Host> host_;
   std::string unit_;
   std::shared_ptr<orvik::IStandardColl> standards_;
 };

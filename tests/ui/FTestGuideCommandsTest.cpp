@@ -302,22 +302,25 @@ TEST_F(FTestGuideCommandsTest, TheQuestionIsAskedOnce) {
 }
 
 TEST_F(FTestGuideCommandsTest, GuideMayBeReleasedByWhatItsButtonDoes) {
-  auto element = Element();
-  auto guide = keld::FTestGuide::Create();
-  guide->Initialize(element, controller_);
-  guide->Form()->Show();
-  element->InitAutoRun(nullptr, guide, controller_);
-  const auto form = guide->Form();
-  const auto hidden = form->Unloading().Subscribe([] {});
-  const std::weak_ptr<keld::FTestGuide> weak = guide;
-  const auto buttons = GuideScreen(form).Toolbar();
-  guide.reset();
-  // The element is the last to hold the guide, and the button's own call lets go of the element.
-  const auto finished = App().FormShown().Subscribe([](const auto&) {});
-  buttons->Click(103);
-  element->ResetAutoRun();
-  EXPECT_TRUE(weak.expired());
-  EXPECT_EQ(controller_->navigation, Codes{0});
+  for (const int command : {101, 102, 103, 301, 302}) {
+    AnswerQuestions(true);
+    const auto element = Element();
+    auto guide = keld::FTestGuide::Create();
+    guide->Initialize(element, controller_);
+    element->InitAutoRun(nullptr, guide, controller_);
+    guide->Form()->Show();
+    const auto screen = GuideScreen(guide->Form());
+    const std::weak_ptr<keld::FTestGuide> weak = std::exchange(guide, nullptr);
+    // From now on the element alone holds the guide, and lets go of it inside the button's call.
+    controller_->onNavigation = [&] {
+      weak.lock()->Unload();
+      element->ResetAutoRun();
+    };
+    screen.Click(command);
+    EXPECT_TRUE(weak.expired()) << command;
+    EXPECT_TRUE(App().Forms().empty()) << command;
+  }
+  EXPECT_EQ(controller_->navigation, (Codes{2, 1, 0, 4, 3}));
 }
 
 // --- calibrate ---

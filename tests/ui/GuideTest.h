@@ -76,6 +76,7 @@ class GuideTest : public testing::Test {
   using Operator = std::function<void(GuideScreen)>;
 
   GuideTest() {
+    controller_->standards = Standards({});
     shown_ = App().FormShown().Subscribe([this](const std::shared_ptr<orvik::platform::IForm>& form) {
       if (form->Name() != "FTestGuide") OnOtherForm(form);
     });

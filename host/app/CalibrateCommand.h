@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string>
+
+#include "host/app/Command.h"
+#include "host/app/TesterOptions.h"
+
+namespace bench {
+
+/// `calibrate`: has the tester measure the resistance of its test leads, and stores it under its serial
+/// number.
+class CalibrateCommand final : public Command {
+ public:
+  CLI::App* Declare(CLI::App& program) override;
+  ExitStatus Run(const GlobalOptions& options) override;
+
+ private:
+  TesterOptions tester_;
+  std::string serial_;
+  bool json_ = false;
+};
+
+}  // namespace bench

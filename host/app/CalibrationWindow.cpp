@@ -1,0 +1,73 @@
+#include "host/app/CalibrationWindow.h"
+
+#include "OrvikTypeLib/As.h"
+#include "host/run/GuideToolbar.h"
+#include "platform/Controls.h"
+#include "platform/IForm.h"
+
+namespace bench {
+
+namespace {
+
+constexpr char kClass[] = "orvikKELD.FCalibrateLeads";
+constexpr char kCalibrate[] = "cmdCalibrate";
+constexpr char kSave[] = "cmdSave";
+constexpr char kCancel[] = "cmdCancel";
+constexpr char kSerial[] = "txtSerial";
+constexpr char kType[] = "txtMTIType";
+constexpr char kValue[] = "lblValue";
+constexpr std::int32_t kCalibration = 0;  // stands for an element's identifier
+
+std::shared_ptr<orvik::platform::ITextBox> TextBox(const orvik::platform::IForm& form, const char* name) {
+  return std::dynamic_pointer_cast<orvik::platform::ITextBox>(form.Find(name));
+}
+
+}  // namespace
+
+CalibrationWindow::CalibrationWindow(Workbench& workbench, std::string serial)
+    : workbench_(workbench),
+      serial_(std::move(serial)),
+      doubts_(*workbench.Ports().TheWire()),
+      dialog_(orvik::As<orvik::IDialogForm>(workbench.Host()->CreateObject(kClass))),
+      form_(orvik::Required(dialog_).Form()) {}
+
+void CalibrationWindow::Run() {
+  doubts_.ElementStarts(kCalibration);
+  workbench_.Application()->Post([this] { Operate(); });
+  form_->ShowModal(nullptr);
+  form_->Unload();
+}
+
+void CalibrationWindow::Cancel() {
+  cancelled_ = true;
+  ClickButton(*form_, kCancel);
+}
+
+void CalibrationWindow::Operate() {
+  ClickButton(*form_, kCalibrate);  // returns when the session with the tester is over
+  const auto serial = TextBox(*form_, kSerial);
+  if (!serial_.empty() && serial) serial->TypeOver(serial_);
+  reason_ = Obstacle();
+  if (!reason_.empty()) return Cancel();
+  const auto type = TextBox(*form_, kType);
+  stored_ = Saved{type ? type->Text() : "", serial ? serial->Text() : "", CaptionOf(*form_, kValue)};
+  ClickButton(*form_, kSave);
+}
+
+std::string CalibrationWindow::Obstacle() const {
+  if (cancelled_) return "stopped; nothing was stored";
+  if (const auto& error = workbench_.Ports().LastError(); !error.empty()) return error;
+  const auto& doubts = doubts_.Of(kCalibration);
+  if (!doubts.empty()) return "the measurement is doubtful and was not stored: " + doubts.front();
+  const auto serial = TextBox(*form_, kSerial);
+  if (serial && serial->Text().empty())
+    return "the tester told no serial number to store the value under; give one with --serial";
+  const auto save = form_->Find(kSave);
+  if (!save || !save->Enabled())
+    return "the tester gave no reading; check that it is switched on and connected, and the clip at the "
+           "ground of its "
+           "power socket";
+  return {};
+}
+
+}  // namespace bench

@@ -1,0 +1,93 @@
+#include "tests/cli/CliTest.h"
+
+namespace cli {
+namespace {
+
+struct BadInput {
+  const char* name;
+  std::vector<std::string> words;  ///< "@x" stands for the file x in the test's folder
+  std::vector<std::string> told;   ///< what the message names
+};
+
+class BadInputTest : public CliTest, public testing::WithParamInterface<BadInput> {
+ protected:
+  std::string Resolved(const std::string& word) const { return word[0] == '@' ? Path(word.substr(1)) : word; }
+};
+
+TEST_P(BadInputTest, EndsWithThreeAndNamesWhatIsWrong) {
+  NewDocument({"410"});
+  Write("garbled.orvik", "<OrvikDocument>\n<Elements>\n</OrvikDocument>\n");
+  Write("garbled.xml", "<TemplateData>\n<TestElement>\n</TemplateData>\n");
+  Write("other.xml", "<Other/>");
+  Write("text", "text");
+  const auto document = Contents(Path("d.orvik"));
+  Words words;
+  for (const auto& word : GetParam().words) words.push_back(Resolved(word));
+  const auto refused = Bench(words);
+  EXPECT_EQ(refused.status, 3) << refused.error;
+  EXPECT_EQ(refused.out, "");
+  for (const auto& told : GetParam().told)
+    EXPECT_NE(refused.error.find(Resolved(told)), std::string::npos)
+        << told << " is not in: " << refused.error;
+  EXPECT_EQ(Contents(Path("d.orvik")), document) << "the document was changed";
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, BadInputTest,
+    testing::Values(
+        BadInput{"NoCommand", {}, {"--help"}}, BadInput{"UnknownCommand", {"fly"}, {"fly"}},
+        BadInput{"UnknownOption", {"tests", "--fast"}, {"--fast"}},
+        BadInput{"CatalogueAbsent", {"tests", "--catalogue", "@none.xml"}, {"@none.xml"}},
+        BadInput{"CatalogueGarbled", {"tests", "--catalogue", "@garbled.xml"}, {"@garbled.xml", "line 3"}},
+        BadInput{"CatalogueOther", {"tests", "--catalogue", "@other.xml"}, {"@other.xml", "TemplateData"}},
+        BadInput{"StateIsAFile", {"tests", "--state", "@text"}, {"@text"}},
+        BadInput{"NewWithoutTests", {"new", "@n.orvik"}, {"--add"}},
+        BadInput{"NewWithNoNumber", {"new", "@n.orvik", "--add", "x"}, {"--add", "x"}},
+        BadInput{"NewWithUnknownTest", {"new", "@n.orvik", "--add", "411"}, {"--add 411"}},
+        BadInput{"NewInNoFolder", {"new", "@none/n.orvik", "--add", "410"}, {"@none/n.orvik"}},
+        BadInput{"DocumentAbsent", {"show", "@none.orvik"}, {"@none.orvik"}},
+        BadInput{"DocumentGarbled", {"show", "@garbled.orvik"}, {"@garbled.orvik", "line 3"}},
+        BadInput{"DocumentIsAFolder", {"show", "@state"}, {"@state"}},
+        BadInput{"LimitWithoutBound",
+                 {"limit", "@d.orvik", "--element", "1", "--standard", "S"},
+                 {"--low", "--high"}},
+        BadInput{"LimitOfNoElement",
+                 {"limit", "@d.orvik", "--element", "9", "--standard", "S", "--high", "1"},
+                 {"--element 9"}},
+        BadInput{"LimitNoNumber",
+                 {"limit", "@d.orvik", "--element", "1", "--standard", "S", "--high", "abc"},
+                 {"--high", "abc"}},
+        BadInput{"LimitCrossed",
+                 {"limit", "@d.orvik", "--element", "1", "--standard", "S", "--low", "5", "--high", "1"},
+                 {"--low"}},
+        BadInput{"LimitPercentage",
+                 {"limit", "@d.orvik", "--element", "1", "--standard", "S", "--high", "10%"},
+                 {"10%"}},
+        BadInput{"ConfigOptions",
+                 {"config", "@d.orvik", "--element", "1", "--options", "9000"},
+                 {"--options 9000"}},
+        BadInput{
+            "ConfigFilter", {"config", "@d.orvik", "--element", "1", "--filter", "Best"}, {"--filter Best"}},
+        BadInput{"RunWithoutTester", {"run", "@d.orvik"}, {"--port", "--simulate"}},
+        BadInput{"RunWithTwoTesters", {"run", "@d.orvik", "--port", "/dev/null", "--simulate"}, {"--port"}},
+        BadInput{
+            "RunNoSuchDevice", {"run", "@d.orvik", "--port", "@none"}, {"--port", "@none", "does not exist"}},
+        BadInput{"RunNoDevice",
+                 {"run", "@d.orvik", "--port", "@text"},
+                 {"--port", "@text", "is no serial device"}},
+        BadInput{"RunNoElement", {"run", "@d.orvik", "--simulate", "--element", "7"}, {"--element 7"}},
+        BadInput{"RunNoProfile", {"run", "@d.orvik", "--simulate", "@none"}, {"--simulate", "@none"}},
+        BadInput{
+            "RunTimeScaleZero", {"run", "@d.orvik", "--simulate", "--time-scale", "0"}, {"--time-scale 0"}},
+        BadInput{
+            "RunTimeScaleText", {"run", "@d.orvik", "--simulate", "--time-scale", "x"}, {"--time-scale"}},
+        BadInput{"RunOperator", {"run", "@d.orvik", "--simulate", "--operator", "me"}, {"--operator me"}},
+        BadInput{"RunJsonAndEvents", {"run", "@d.orvik", "--simulate", "--json", "--events"}, {"--events"}},
+        BadInput{"RunWireLog",
+                 {"run", "@d.orvik", "--simulate", "--wire-log", "@none/log"},
+                 {"@none/log", "--wire-log"}},
+        BadInput{"Language", {"tests", "--lang", "../x"}, {"../x"}}),
+    [](const auto& tested) { return std::string(tested.param.name); });
+
+}  // namespace
+}  // namespace cli

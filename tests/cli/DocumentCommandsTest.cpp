@@ -1,0 +1,106 @@
+#include "tests/cli/CliTest.h"
+
+namespace cli {
+namespace {
+
+class DocumentCommandsTest : public CliTest {};
+
+TEST_F(DocumentCommandsTest, TestsPrintsTheCatalogue) {
+  const auto text = Bench({"tests"});
+  EXPECT_EQ(text.status, 0) << text.error;
+  EXPECT_NE(text.out.find("410"), std::string::npos);
+  EXPECT_NE(text.out.find("mOhm"), std::string::npos);
+  const auto json = nlohmann::json::parse(Bench({"tests", "--json"}).out);
+  EXPECT_EQ(json["tests"][0]["testId"], 100);
+  EXPECT_EQ(json["tests"][0]["kind"], "sequence");
+}
+
+TEST_F(DocumentCommandsTest, ACatalogueFileStandsInForTheRegistry) {
+  Write("own.xml",
+        R"(<TemplateData><TestElement ID="410"><Type LID=""/><Name LID="1::Mine"/><Parameter LID=""/>
+                      <Unit LID="2::mOhm"/></TestElement></TemplateData>)");
+  for (const auto& words : {Words{"--catalogue", Path("own.xml"), "tests", "--json"},
+                            Words{"tests", "--json", "--catalogue", Path("own.xml")}}) {
+    const auto json = nlohmann::json::parse(Bench(words).out);
+    ASSERT_EQ(json["tests"].size(), 1u);
+    EXPECT_EQ(json["tests"][0]["name"], "Mine");
+    EXPECT_EQ(json["tests"][0]["unit"], "mOhm");
+  }
+  EXPECT_GT(nlohmann::json::parse(Bench({"tests", "--json"}).out)["tests"].size(), 1u);
+}
+
+TEST_F(DocumentCommandsTest, NewPrintsTheIdentifiers) {
+  const auto made = Bench({"new", Path("a.orvik"), "--add", "210", "400", "--asset", "A7"});
+  EXPECT_EQ(made.status, 0) << made.error;
+  EXPECT_EQ(made.out,
+            "   1   210  Mains voltage\n"
+            "   2   400  Protective earth resistance\n"
+            "   3   410  Protective earth, with mains cord\n"
+            "   4   420  Protective earth, without mains cord\n");
+  const auto shown = Show(Path("a.orvik"));
+  EXPECT_EQ(shown["outcome"], "incomplete");
+  EXPECT_EQ(shown["instrument"], nullptr);
+  EXPECT_EQ(shown["elements"][3]["parent"], 2);
+  EXPECT_EQ(shown["elements"][3]["measurement"], nullptr);
+  EXPECT_EQ(shown["elements"][3]["statusText"], "not tested");
+}
+
+TEST_F(DocumentCommandsTest, NewNeverOverwrites) {
+  Write("a.orvik", "mine");
+  const auto refused = Bench({"new", Path("a.orvik"), "--add", "210"});
+  EXPECT_EQ(refused.status, 3);
+  EXPECT_NE(refused.error.find("a.orvik"), std::string::npos);
+  EXPECT_EQ(Contents(Path("a.orvik")), "mine");
+}
+
+TEST_F(DocumentCommandsTest, LimitTakesNegativeBoundsAndReplacesOlderOnes) {
+  const auto file = NewDocument({"410"});
+  const auto first =
+      Bench({"limit", file, "--element", "1", "--standard", "S", "--low", "-5", "--high", "7"});
+  EXPECT_EQ(first.status, 0) << first.error;
+  EXPECT_NE(first.out.find("at least -5 at most 7 mOhm"), std::string::npos) << first.out;
+  EXPECT_EQ(Bench({"limit", file, "--element", "1", "--standard", "S", "--high", "8"}).status, 0);
+  const auto text = Contents(file);
+  EXPECT_EQ(text.find("-5"), std::string::npos);
+}
+
+TEST_F(DocumentCommandsTest, ConfigShowsAndChangesSettings) {
+  const auto file = NewDocument({"910", "400"});
+  EXPECT_EQ(Bench({"config", file, "--element", "1", "--options", "4"}).out,
+            "element 1: options 4, filter No values\n");
+  EXPECT_EQ(Bench({"config", file, "--element", "2", "--filter", "Maximum value"}).status, 0);
+  EXPECT_NE(Bench({"config", file, "--element", "2"}).out.find("Maximum value"), std::string::npos);
+  EXPECT_EQ(Bench(Simulated(file, "sound-class-1")).status, 0);
+  EXPECT_EQ(SentIn(file + ".wire.log")[1], "STST,910,1");
+  EXPECT_EQ(Show(file)["elements"][1]["measurement"]["value"], 123.0);
+}
+
+TEST_F(DocumentCommandsTest, CalibrateStoresAndTheReadingIsCorrected) {
+  const auto calibrated = Bench({"calibrate", "--simulate", "--time-scale", kTimeScale, "--json"});
+  EXPECT_EQ(calibrated.status, 0) << calibrated.error;
+  EXPECT_EQ(nlohmann::json::parse(calibrated.out)["instrument"]["calibration"], 123);
+  const auto file = NewDocument({"410"});
+  EXPECT_EQ(Bench(Simulated(file, "sound-class-1")).status, 0);
+  const auto shown = Show(file);
+  EXPECT_EQ(shown["instrument"]["calibration"], 123);
+  EXPECT_EQ(shown["elements"][0]["measurement"]["value"], 0.0);
+}
+
+TEST_F(DocumentCommandsTest, AnOverloadedCalibrationIsNotStored) {
+  Write("over", "based-on = sound-class-1\n410 = 9.9 Ohm overload\n");
+  const auto refused = Bench({"calibrate", "--simulate", Path("over"), "--time-scale", kTimeScale});
+  EXPECT_EQ(refused.status, 2);
+  EXPECT_NE(refused.error.find("not stored"), std::string::npos) << refused.error;
+  const auto file = NewDocument({"410"});
+  EXPECT_EQ(Bench(Simulated(file, "sound-class-1")).status, 0);
+  EXPECT_EQ(Show(file)["instrument"]["calibration"], 0);
+}
+
+TEST_F(DocumentCommandsTest, HelpAndVersionEndWithZero) {
+  EXPECT_EQ(Bench({"--help"}).status, 0);
+  EXPECT_EQ(Bench({"run", "--help"}).status, 0);
+  EXPECT_EQ(Bench({"--version"}).out, "orvik-bench 2.2.0.2\n");
+}
+
+}  // namespace
+}  // namespace cli

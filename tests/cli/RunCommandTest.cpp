@@ -1,0 +1,227 @@
+#include "tests/cli/CliTest.h"
+#include "tests/support/PseudoTerminal.h"
+
+namespace cli {
+namespace {
+
+class RunCommandTest : public CliTest {};
+
+TEST_F(RunCommandTest, ADocumentThatPassesEndsWithZero) {
+  const auto file = NewDocument({"410", "400"});
+  SetLimit(file, "1", "300");
+  const auto run = Bench(Simulated(file, "sound-class-1"));
+  EXPECT_EQ(run.status, 0) << run.error;
+  EXPECT_NE(run.out.find("[1/2] 410 Protective earth, with mains cord"), std::string::npos) << run.out;
+  EXPECT_NE(run.out.find("d.orvik: passed"), std::string::npos) << run.out;
+  EXPECT_NE(run.out.find("divided by 10"), std::string::npos) << run.out;
+  EXPECT_EQ(SentIn(file + ".wire.log"),
+            (Words{"IREM", "STST,410,0", "GRES,410,0", "STST,210,0", "EREM", "IREM", "STST,410,0",
+                   "GRES,410,0", "STST,420,0", "GRES,420,0", "STST,210,0", "EREM"}));
+}
+
+TEST_F(RunCommandTest, ALimitThatIsBrokenEndsWithOne) {
+  const auto file = NewDocument({"410"});
+  SetLimit(file, "1", "100");
+  const auto run = Bench(Simulated(file, "sound-class-1", {"--json"}));
+  EXPECT_EQ(run.status, 1) << run.error;
+  const auto json = nlohmann::json::parse(run.out);
+  EXPECT_EQ(json["outcome"], "failed");
+  EXPECT_EQ(json["elements"][0]["failedStandards"], nlohmann::json({"IEC 62353"}));
+  EXPECT_EQ(Show(file), json);
+}
+
+TEST_F(RunCommandTest, AValueOnTheBoundPasses) {
+  const auto file = NewDocument({"410"});
+  SetLimit(file, "1", "123");
+  EXPECT_EQ(Bench(Simulated(file, "sound-class-1")).status, 0);
+}
+
+TEST_F(RunCommandTest, JsonTellsEverythingOfEachElement) {
+  const auto file = NewDocument({"400"});
+  const auto run = Bench(Simulated(file, "sound-class-1", {"--json"}));
+  ASSERT_EQ(run.status, 0) << run.error;
+  const auto json = nlohmann::json::parse(run.out);
+  EXPECT_EQ(json["instrument"], nlohmann::json::parse(R"({"type": "KELD(IN)", "serial": "SIM-0001",
+                                                           "firmware": "3.10", "calibration": 0
+})"));
+  ASSERT_EQ(json["elements"].size(), 3u);
+const auto& sequence = json["elements"][0];
+EXPECT_EQ(sequence["kind"], "sequence");
+EXPECT_EQ(sequence["parent"], 0);
+const auto& test = json["elements"][1];
+EXPECT_EQ(test, nlohmann::json::parse(R"({"id": 2, "parent": 1, "testId": 410, "kind": "test",
+      "name": "Protective earth, with mains cord", "status": 1, "statusText": "passed", "mtiId": 1,
+      "serviceCode": "P", "serviceValue": ")" +
+                                      test["serviceValue"].get<std::string>() + R"(",
+      "measurement": {"value": 123.0, "unit": "mOhm", "flags": "", "status": 1},
+      "failedStandards": [], "doubts": []})"));
+}
+
+TEST_F(RunCommandTest, EventsAreOneObjectALine) {
+  const auto file = NewDocument({"410"});
+  const auto run = Bench(Simulated(file, "sound-class-1", {"--events"}));
+  ASSERT_EQ(run.status, 0) << run.error;
+  std::istringstream lines(run.out);
+  Words events;
+  for (std::string line; std::getline(lines, line);) events.push_back(nlohmann::json::parse(line)["event"]);
+  const Words expected{"remark",  "reached", "started", "port-opened", "command",  "reply",
+                       "command", "reply",   "command", "reply",       "finished", "command",
+                       "reply",   "command", "reply",   "port-closed", "ended"};
+  EXPECT_EQ(events, expected);
+}
+
+TEST_F(RunCommandTest, AnOverloadedReadingIsNeverCountedAsPassed) {
+  Write("over", "based-on = sound-class-1\n410 = 0.001 Ohm overload\n");
+  const auto file = NewDocument({"410"});
+  SetLimit(file, "1", "300");
+  const auto run = Bench(Simulated(file, Path("over"), {"--json"}));
+  EXPECT_EQ(run.status, 2) << run.error;
+  const auto json = nlohmann::json::parse(run.out);
+  EXPECT_EQ(json["outcome"], "incomplete");
+  EXPECT_NE(json["elements"][0]["doubts"].dump().find("OL"), std::string::npos);
+  EXPECT_EQ(Show(file)["outcome"], "incomplete") << "the doubt is not kept in the document";
+  EXPECT_NE(Bench({"show", file}).out.find("OL"), std::string::npos);
+}
+
+TEST_F(RunCommandTest, ATestThatTheTesterLacksIsNotApplicable) {
+  Write("lacks", "based-on = sound-class-1\nlacks = 410\n");
+  const auto file = NewDocument({"410"});
+  const auto run = Bench(Simulated(file, Path("lacks")));
+  EXPECT_EQ(run.status, 0) << run.error;
+  EXPECT_NE(run.out.find("does not support the test"), std::string::npos) << run.out;
+  EXPECT_EQ(Show(file)["elements"][0]["serviceCode"], "NA");
+}
+
+TEST_F(RunCommandTest, RunsTheElementsThatAreNamed) {
+  const auto file = NewDocument({"410", "420", "210"});
+  const auto run = Bench(Simulated(file, "sound-class-1", {"--element", "3", "--element", "2"}));
+  EXPECT_EQ(run.status, 0) << run.error;
+  EXPECT_EQ(SentIn(file + ".wire.log"), (Words{"IREM", "STST,210,0", "GRES,210,0", "STST,210,0", "EREM",
+                                               "IREM", "STST,420,0", "GRES,420,0", "STST,210,0", "EREM"}));
+  EXPECT_EQ(Show(file)["outcome"], "incomplete");
+}
+
+TEST_F(RunCommandTest, ResumeGoesOnWithWhatHasNoResult) {
+  const auto file = NewDocument({"410", "420"});
+  EXPECT_EQ(Bench(Simulated(file, "sound-class-1", {"--element", "1"})).status, 0);
+  std::filesystem::remove(file + ".wire.log");
+  EXPECT_EQ(Bench(Simulated(file, "sound-class-1", {"--resume"})).status, 0);
+  EXPECT_EQ(SentIn(file + ".wire.log"), (Words{"IREM", "STST,420,0", "GRES,420,0", "STST,210,0", "EREM"}));
+  const auto again = Bench(Simulated(file, "sound-class-1", {"--resume"}));
+  EXPECT_EQ(again.status, 0);
+  EXPECT_NE(again.out.find("nothing to go on with"), std::string::npos);
+}
+
+TEST_F(RunCommandTest, JudgesByTheStandardThatIsNamed) {
+  const auto file = NewDocument({"410"});
+  SetLimit(file, "1", "100");
+  EXPECT_EQ(Bench({"limit", file, "--element", "1", "--standard", "Own", "--high", "200"}).status, 0);
+  EXPECT_EQ(Bench(Simulated(file, "sound-class-1", {"--standard", "Own"})).status, 0);
+  EXPECT_EQ(Bench(Simulated(file, "sound-class-1")).status, 1);
+  const auto absent = Bench(Simulated(file, "sound-class-1", {"--standard", "None"}));
+  EXPECT_EQ(absent.status, 3);
+  EXPECT_NE(absent.error.find("\"IEC 62353\", \"Own\""), std::string::npos) << absent.error;
+}
+
+TEST_F(RunCommandTest, AMuteTesterEndsTheRunAsIncomplete) {
+  const support::PseudoTerminal nobody;
+  const auto file = NewDocument({"410", "420"});
+  const auto run = Bench({"run", file, "--port", nobody.Path(), "--time-scale", "100"});
+  EXPECT_EQ(run.status, 2);
+  EXPECT_EQ(SentIn(file + ".wire.log"), (Words{"IREM", "IREM", "IREM"}));
+  EXPECT_NE(run.out.find("attempt 3 of 3"), std::string::npos) << run.out;
+  EXPECT_NE(run.out.find("Can not find a KELD"), std::string::npos) << run.out;
+  EXPECT_NE(run.out.find("no tester answers"), std::string::npos) << run.out;
+}
+
+TEST_F(RunCommandTest, ADeviceThatIsHeldIsNamed) {
+  const support::PseudoTerminal terminal;
+  const auto file = NewDocument({"410"});
+  const auto holder = Start({"run", file, "--port", terminal.Path(), "--events"});
+  ASSERT_TRUE(holder->AwaitOutput("port-opened"));
+  const auto second = Path("e.orvik");
+  EXPECT_EQ(Bench({"new", second, "--add", "410"}).status, 0);
+  const auto refused = Bench({"run", second, "--port", terminal.Path()});
+  EXPECT_EQ(refused.status, 2);
+  EXPECT_NE(refused.error.find(terminal.Path() + ": is held by another program"), std::string::npos)
+      << refused.error;
+}
+
+TEST_F(RunCommandTest, AnUnpluggedTesterEndsTheRunAndKeepsWhatWasDone) {
+  const auto file = NewDocument({"410", "420"});
+  const auto link = Path("tester");
+  RunningProgram tester(KELD_SIM_PATH, {"--link", link, "--time-scale", kTimeScale});
+  ASSERT_TRUE(tester.AwaitOutput("ready"));
+  const auto run = Start({"run", file, "--port", link, "--time-scale", kTimeScale, "--events"});
+  ASSERT_TRUE(run->AwaitOutput("STST,420,0"));
+  tester.Signal(SIGKILL);
+  const auto ended = run->Wait();
+  EXPECT_EQ(ended.status, 2) << ended.out;
+  EXPECT_NE(ended.out.find("port-failed"), std::string::npos) << ended.out;
+  const auto shown = Show(file);
+  EXPECT_EQ(shown["elements"][0]["statusText"], "passed");
+  EXPECT_EQ(shown["elements"][1]["statusText"], "not tested");
+}
+
+class Interruption : public RunCommandTest, public testing::WithParamInterface<const char*> {};
+
+// Whenever Ctrl-C comes, the session with the tester is closed, and the document holds no half result.
+TEST_P(Interruption, ClosesTheSessionAndSaves) {
+  const auto file = NewDocument({"410", "420"});
+  const auto run = Start(Simulated(file, "sound-class-1", {"--events"}));
+  ASSERT_TRUE(run->AwaitOutput(GetParam())) << run->Output();
+  run->Signal(SIGINT);
+  ASSERT_TRUE(run->AwaitOutput("Stopping")) << run->Output();
+  run->Signal(SIGINT);
+  run->Signal(SIGTERM);
+  const auto ended = run->Wait();
+  EXPECT_EQ(ended.status, 2) << ended.out;
+  const auto sent = SentIn(file + ".wire.log");
+  ASSERT_GE(sent.size(), 2u);
+  EXPECT_EQ(sent[sent.size() - 2], "STST,210,0");
+  EXPECT_EQ(sent.back(), "EREM");
+  EXPECT_NE(ended.out.find("erem"), std::string::npos) << ended.out;
+  const auto shown = Show(file);
+  EXPECT_EQ(shown["outcome"], "incomplete");
+  EXPECT_EQ(shown["elements"][1]["status"], 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(Moments, Interruption,
+                         testing::Values("irem,", "STST,410,0", "stst,410,0", "GRES,410,0", "gres,410,0"));
+
+TEST_F(RunCommandTest, TheOperatorIsAskedAtTheTerminal) {
+  const auto file = NewDocument({"410"});
+  const auto run = Start(Simulated(file, "sound-class-1", {"--operator", "ask"}));
+  ASSERT_TRUE(run->AwaitOutput("play")) << run->Output();
+  run->Type("play\n");
+  ASSERT_TRUE(run->AwaitOutput("EREM")) << run->Output();
+  run->Type("next\n");
+  const auto ended = run->Wait();
+  EXPECT_EQ(ended.status, 0) << ended.out << ended.error;
+}
+
+TEST_F(RunCommandTest, TheOperatorCanAbort) {
+  const auto file = NewDocument({"410", "420"});
+  const auto run = Start(Simulated(file, "sound-class-1", {"--operator", "ask"}));
+  ASSERT_TRUE(run->AwaitOutput("play")) << run->Output();
+  run->Type("play\n");
+  ASSERT_TRUE(run->AwaitOutput("STST,410,0")) << run->Output();
+  run->Type("abort\n");
+  ASSERT_TRUE(run->AwaitOutput("[yes, no]")) << run->Output();
+  run->Type("yes\n");
+  const auto ended = run->Wait();
+  EXPECT_EQ(ended.status, 2) << ended.out << ended.error;
+  EXPECT_EQ(SentIn(file + ".wire.log").back(), "EREM");
+  EXPECT_EQ(Show(file)["elements"][0]["statusText"], "aborted");
+}
+
+TEST_F(RunCommandTest, TheEndOfTheInputStopsAnAskedRun) {
+  const auto file = NewDocument({"410"});
+  const auto run = Start(Simulated(file, "sound-class-1", {"--operator", "ask"}));
+  ASSERT_TRUE(run->AwaitOutput("play")) << run->Output();
+  run->EndInput();
+  EXPECT_EQ(run->Wait().status, 2);
+}
+
+}  // namespace
+}  // namespace cli
