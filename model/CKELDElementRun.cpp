@@ -56,7 +56,7 @@ void CKELDElement::RecordNotApplicable() {
 
 std::shared_ptr<orvik::IStandardColl> CKELDElement::SelectedStandards() const {
   auto Standards = Required(mRunController)->Standards();
-  Required(Standards);
+  static_cast<void>(Required(Standards));
   return Standards;
 }
 

@@ -9,7 +9,7 @@ namespace orvik::platform {
 class ITimer : public virtual IControl {
  public:
   virtual int Interval() const = 0;
-  /// Milliseconds between ticks; 0 keeps an enabled timer from ticking.
+  /// Milliseconds between ticks; 0 keeps an enabled timer from ticking. A timer is made disabled.
   virtual void SetInterval(int milliseconds) = 0;
   /// `SetEnabled(true)` starts a whole interval from now.
   virtual Event<>& Tick() = 0;

@@ -28,7 +28,8 @@ constexpr char kValueColumn[] = "VAL";
 constexpr char kHighColumn[] = "HIL";
 constexpr char kLowColumn[] = "LOL";
 
-using ElementTag = std::shared_ptr<orvik::ITestElement>;
+// Weak: an element holds the guide that this list stands in.
+using ElementTag = std::weak_ptr<orvik::ITestElement>;
 using MeasurementTag = std::shared_ptr<orvik::IMeasurement>;
 
 std::string RowKey(const orvik::ITestElement& iteElement) { return std::to_string(iteElement.ID()) + "::"; }
@@ -150,7 +151,7 @@ void XKELDResultView::StyleRow(const std::string& sRow, bool fFailed) {
 }
 
 void XKELDResultView::FillLimitCells(const std::string& sRow) {
-  const auto iteElement = TagOf<ElementTag>(List().RowTag(sRow));
+  const auto iteElement = TagOf<ElementTag>(List().RowTag(sRow)).lock();
   const auto Measurement = TagOf<MeasurementTag>(List().Cell(sRow, kValueColumn).tag);
   const ShownLimits Shown = LimitsOf(iteElement.get(), Measurement.get(), sStandardName, sStandardText);
   const auto Fill = [&](const char* sColumn, const std::string& sText) {

@@ -23,7 +23,8 @@ Fault CheckTop(const pugi::xml_document& document, std::size_t size) {
   pugi::xml_node root;
   for (auto node = document.first_child(); node; node = node.next_sibling()) {
     if (node.type() == pugi::node_pcdata || node.type() == pugi::node_cdata)
-      return {OffsetOf(node), "there is text outside the root element"};
+      return {OffsetOf(node) + std::string_view(node.value()).find_first_not_of(" \t\r\n"),
+              "there is text outside the root element"};
     if (node.type() == pugi::node_doctype)
       return {OffsetOf(node), "a document type declaration is not supported"};
     if (node.type() != pugi::node_element) continue;
@@ -51,6 +52,13 @@ struct StringWriter : pugi::xml_writer {
   }
 };
 
+/// A carriage return as itself would read back as the end of a line.
+std::string WithCarriageReturns(std::string text) {
+  for (auto at = text.find('\r'); at != std::string::npos; at = text.find('\r', at))
+    text.replace(at, 1, "&#13;");
+  return text;
+}
+
 }  // namespace
 
 Fault Parse(std::string_view text, pugi::xml_document& document) {
@@ -76,7 +84,7 @@ std::string Write(const pugi::xml_document& document) {
   StringWriter writer;
   const bool deep = DeeperThan(document, kIndentedLevels);
   document.save(writer, "  ", deep ? pugi::format_raw : pugi::format_indent, pugi::encoding_utf8);
-  return std::move(writer.text);
+  return WithCarriageReturns(std::move(writer.text));
 }
 
 }  // namespace xml

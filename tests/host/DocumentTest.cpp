@@ -138,8 +138,8 @@ INSTANTIATE_TEST_SUITE_P(
     Texts, MalformedDocument,
     ::testing::Values(
         Malformed{"", "no root element"}, Malformed{"no xml", "line 1"},
-        Malformed{"<OrvikDocument Version='1'>\n<Elements>\n", "line 3"},
-        Malformed{"<OrvikDocument Version='1'>\n</OrvikDocument>\ntrailing", "line 2"},
+        Malformed{"<OrvikDocument Version='1'>\n<Elements>\n", "line 2"},
+        Malformed{"<OrvikDocument Version='1'>\n</OrvikDocument>\ntrailing", "line 3"},
         Malformed{"<Other Version='1'/>", "line 1: this is no test document"},
         Malformed{"<OrvikDocument/>", "\"Version\" of \"OrvikDocument\" is not a whole number"},
         Malformed{"<OrvikDocument Version='one'/>", "is not a whole number"},

@@ -94,7 +94,8 @@ TEST(XmlNode, NamesThatNoFileCanHoldAreRefused) {
 }
 
 TEST(XmlNode, NumberAttributeTellsWhatIsWrong) {
-  const auto node = XmlNode::Of(Parsed("<a ID='12' X='1x'/>")).Raw();
+  const auto root = Parsed("<a ID='12' X='1x'/>");
+  const auto node = XmlNode::Of(root).Raw();
   EXPECT_EQ(xml::NumberAttribute(node, "ID"), 12);
   EXPECT_TRUE(test::Holds(test::ErrorText([&] { xml::NumberAttribute(node, "X"); }), "\"X\" of \"a\""));
   EXPECT_EQ(ErrorNumber([&] { xml::NumberAttribute(node, "Y"); }), HostError::kTypeMismatch);

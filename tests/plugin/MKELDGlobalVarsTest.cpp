@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <map>
+
 #include "OrvikTypeLib/HostClasses.h"
 #include "OrvikTypeLib/HostError.h"
 #include "OrvikTypeLib/ITestElement.h"

@@ -77,7 +77,7 @@ TEST_F(XKELDResultViewTest, RowShowsNameAndValue) {
   EXPECT_EQ(Text("12::", "HIL"), " ");
   EXPECT_EQ(Text("12::", "LOL"), " ");
   EXPECT_EQ(list_->SelectedRow(), "12::");
-  EXPECT_EQ(std::any_cast<std::shared_ptr<orvik::ITestElement>>(list_->RowTag("12::")), element);
+  EXPECT_EQ(std::any_cast<std::weak_ptr<orvik::ITestElement>>(list_->RowTag("12::")).lock(), element);
   EXPECT_EQ(std::any_cast<std::shared_ptr<orvik::IMeasurement>>(list_->Cell("12::", "VAL").tag),
             element->Result()->Measurement(1));
 }
@@ -206,6 +206,18 @@ TEST_F(XKELDResultViewTest, ElementWithoutLimitsShowsBlanks) {
   view_->ShowResult(element);
   EXPECT_EQ(Text("12::", "HIL"), " ");
   EXPECT_EQ(Text("12::", "LOL"), " ");
+}
+
+TEST_F(XKELDResultViewTest, RowOutlivesItsElement) {
+  auto element = WithLimits(12, "2", "10");
+  view_->SelectStandard("A", "A text");
+  view_->ShowResult(element);
+  const std::weak_ptr<keld::CKELDTestElement> weak = element;
+  element.reset();
+  EXPECT_TRUE(weak.expired());
+  view_->SelectStandard("A", "A text");
+  EXPECT_EQ(Text("12::", "VAL"), "5  mA");
+  EXPECT_EQ(Text("12::", "HIL"), " ");
 }
 
 TEST_F(XKELDResultViewTest, ClearDisplayRemovesAllRows) {
