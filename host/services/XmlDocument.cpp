@@ -22,9 +22,11 @@ std::size_t OffsetOf(pugi::xml_node node) {
 Fault CheckTop(const pugi::xml_document& document, std::size_t size) {
   pugi::xml_node root;
   for (auto node = document.first_child(); node; node = node.next_sibling()) {
-    if (node.type() == pugi::node_pcdata || node.type() == pugi::node_cdata)
-      return {OffsetOf(node) + std::string_view(node.value()).find_first_not_of(" \t\r\n"),
-              "there is text outside the root element"};
+    if (node.type() == pugi::node_pcdata || node.type() == pugi::node_cdata) {
+      const auto text = std::string_view(node.value()).find_first_not_of(" \t\r\n");
+      if (text != std::string_view::npos)
+        return {OffsetOf(node) + text, "there is text outside the root element"};
+    }
     if (node.type() == pugi::node_doctype)
       return {OffsetOf(node), "a document type declaration is not supported"};
     if (node.type() != pugi::node_element) continue;
@@ -54,9 +56,16 @@ struct StringWriter : pugi::xml_writer {
 
 /// A carriage return as itself would read back as the end of a line.
 std::string WithCarriageReturns(std::string text) {
-  for (auto at = text.find('\r'); at != std::string::npos; at = text.find('\r', at))
-    text.replace(at, 1, "&#13;");
-  return text;
+  if (text.find('\r') == std::string::npos) return text;
+  std::string escaped;
+  for (const char letter : text) {
+    if (letter == '\r') {
+      escaped += "&#13;";
+    } else {
+      escaped += letter;
+    }
+  }
+  return escaped;
 }
 
 }  // namespace
