@@ -53,6 +53,8 @@ class CKELDElement : public virtual orvik::ITestElement, public virtual IKELDTes
   std::shared_ptr<CKELDResultData> EnsureResult();
   /// Status 3, no measurement, owned by this element.
   void RecordNotApplicable();
+  /// The status of an aborted element, which has no service record, not even one of an earlier run.
+  void RecordAbort(std::int32_t lStatus);
   /// Whether the run controller lets the element start; no where nobody answers.
   bool MayStart();
 

@@ -54,6 +54,11 @@ void CKELDElement::RecordNotApplicable() {
   Attempt([&] { Required(ResultData()).BuildServiceRecord(SelfElement()); });
 }
 
+void CKELDElement::RecordAbort(std::int32_t lStatus) {
+  Attempt([&] { Required(ResultData()).SetStatus(lStatus); });
+  Attempt([&] { Required(ResultData()).BuildServiceRecord(SelfElement()); });
+}
+
 std::shared_ptr<orvik::IStandardColl> CKELDElement::SelectedStandards() const {
   auto Standards = Required(mRunController)->Standards();
   static_cast<void>(Required(Standards));

@@ -108,7 +108,7 @@ void CKELDSequence::IKELDTest_AbortTest() {
   ReleaseRunningChild();
   CloseLink();
   // Not tested, unlike a single element, which is recorded as aborted.
-  Attempt([&] { Required(ResultData()).SetStatus(MKELDConstants::kNotTested); });
+  RecordAbort(MKELDConstants::kNotTested);
   HideGuide();
   Navigate(MKELDConstants::kNavigateAbort);
 }

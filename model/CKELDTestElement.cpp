@@ -112,7 +112,7 @@ void CKELDTestElement::IKELDTest_AbortTest() {
   const auto Self = shared_from_this();
   if (!AskYesNo(MKELDLanguageConstants::kEndTest)) return;
   CloseLink();
-  Attempt([&] { Required(ResultData()).SetStatus(MKELDConstants::kAborted); });
+  RecordAbort(MKELDConstants::kAborted);
   HideGuide();
   Navigate(MKELDConstants::kNavigateAbort);
 }

@@ -67,7 +67,7 @@ std::string ValueText(const orvik::ITestElement& iteElement, const orvik::Varian
 }
 
 std::string CollectedList(const orvik::ITestElement& iteElement, const orvik::Variant& vOwnValue) {
-  const auto* Children = dynamic_cast<const orvik::ITestContainer*>(&iteElement);
+  const auto Children = orvik::As<const orvik::ITestContainer>(iteElement.shared_from_this());
   if (!Children) return "/" + SignedValue(vOwnValue);
   std::string sList;
   const auto Walk = Children->NewEnum();

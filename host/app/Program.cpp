@@ -61,7 +61,7 @@ void DeclareGlobal(CLI::App& program, GlobalOptions& options) {
       "  orvik-bench limit pump.orvik --element 5 --standard \"IEC 62353\" --high 300\n"
       "  orvik-bench run pump.orvik --port /dev/ttyUSB0\n"
       "  orvik-bench run pump.orvik --simulate sound-class-1 --time-scale 100");
-  program.require_subcommand(1);
+  program.require_subcommand(0, 1);  // a missing one is told below: an unknown one is then told as such
 }
 
 ExitStatus Tell(ExitStatus status, const std::string& text) {
@@ -79,7 +79,7 @@ ExitStatus RunChosen(const std::vector<Entry>& entries, const GlobalOptions& opt
     return Tell(status == ExitStatus::kPassed ? ExitStatus::kIncomplete : status,
                 "the standard output cannot be written");
   }
-  return ExitStatus::kInternal;
+  throw InputError("a command is needed; \"orvik-bench --help\" shows those there are");
 }
 
 /// Errors of the host about files, arguments and classes come from what was given on the command line.

@@ -1,7 +1,5 @@
 #include "host/app/TesterOptions.h"
 
-#include <filesystem>
-
 #include "OrvikTypeLib/HostError.h"
 #include "host/app/InputError.h"
 #include "host/app/TextColumns.h"
@@ -48,17 +46,13 @@ void TesterOptions::Prepare() {
     return;
   }
   device_ = port_;
-  std::error_code unreadable;
-  if (!std::filesystem::exists(device_, unreadable) && !unreadable)
-    throw InputError("--port: serial device " + device_ +
-                     ": does not exist; connect the tester's cable and give the name of its device, such as "
-                     "/dev/ttyUSB0");
   try {
     const SerialDevice device(device_, ParseLineSettings(kLineSettings));
     if (timeScale_ != 1.0 && !device.IsPseudoTerminal())
       throw InputError("--time-scale: " + device_ +
                        " is a real serial line; a real tester needs its pauses whole");
   } catch (const orvik::HostError& error) {
+    if (error.Number() == orvik::HostError::kPathError) throw InputError("--port: " + error.Description());
     throw IncompleteError("--port: " + error.Description());
   }
 }

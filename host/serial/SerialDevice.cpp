@@ -20,9 +20,9 @@ namespace {
 
 constexpr int kWriteTimeoutMs = 500;
 
-[[noreturn]] void Fail(const std::string& path, const std::string& reason) {
-  throw orvik::HostError(orvik::HostError::kDeviceError, "OrvikComm.PortManager",
-                         "serial device " + path + ": " + reason);
+/// `number` 75: this is no serial device; 57: it is one, and cannot be had now.
+[[noreturn]] void Fail(std::int32_t number, const std::string& path, const std::string& reason) {
+  throw orvik::HostError(number, "OrvikComm.PortManager", "serial device " + path + ": " + reason);
 }
 
 [[noreturn]] void FailToOpen(const std::string& path, int error) {
@@ -32,19 +32,21 @@ constexpr int kWriteTimeoutMs = 500;
     case ENXIO:
     case ENODEV:
       Fail(
-          path,
+          orvik::HostError::kPathError, path,
           "does not exist; connect the tester's cable and give the name of its device, such as /dev/ttyUSB0");
+    case EISDIR:
+      Fail(orvik::HostError::kPathError, path, "is a folder, not a serial device");
     case EACCES:
     case EPERM:
-      Fail(path,
+      Fail(orvik::HostError::kDeviceError, path,
            "no permission to use it; add your account to the device's group (often \"dialout\") and log in "
            "anew");
     case EBUSY:
-      Fail(path, "is held by another program; close that program and try again");
-    case EISDIR:
-      Fail(path, "is a folder, not a serial device");
+      Fail(orvik::HostError::kDeviceError, path,
+           "is held by another program; close that program and try again");
     default:
-      Fail(path, "cannot be opened: " + std::generic_category().message(error));
+      Fail(orvik::HostError::kDeviceError, path,
+           "cannot be opened: " + std::generic_category().message(error));
   }
 }
 
@@ -62,14 +64,17 @@ bool IsFarEndOfPair(int descriptor) {
 SerialDevice::SerialDevice(std::string path, const LineSettings& settings) : path_(std::move(path)) {
   UniqueFd opened(open(path_.c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC));
   if (!opened) FailToOpen(path_, errno);
-  if (!isatty(opened.Get())) Fail(path_, "is no serial device; give the name of one, such as /dev/ttyUSB0");
+  if (!isatty(opened.Get()))
+    Fail(orvik::HostError::kPathError, path_,
+         "is no serial device; give the name of one, such as /dev/ttyUSB0");
   if (flock(opened.Get(), LOCK_EX | LOCK_NB) != 0) {
     if (errno == EWOULDBLOCK) FailToOpen(path_, EBUSY);
-    Fail(path_, "cannot be locked: " + std::generic_category().message(errno));
+    Fail(orvik::HostError::kDeviceError, path_,
+         "cannot be locked: " + std::generic_category().message(errno));
   }
   pseudo_ = IsFarEndOfPair(opened.Get());
   const auto reason = SetLineMode(opened.Get(), settings, pseudo_);
-  if (!reason.empty()) Fail(path_, reason);
+  if (!reason.empty()) Fail(orvik::HostError::kDeviceError, path_, reason);
   // A pseudo-terminal would stay exclusive after a killed program, since its other holder keeps it open.
   exclusive_ = !pseudo_ && ioctl(opened.Get(), TIOCEXCL) == 0;
   tcflush(opened.Get(), TCIOFLUSH);

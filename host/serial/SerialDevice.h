@@ -11,12 +11,11 @@ namespace bench {
 /// A serial device that is open for this program alone, in raw mode. Its descriptor does not block.
 class SerialDevice {
  public:
-  /// Opens the device and throws away what had come in before. `HostError` 57 naming the device and what to
-  /// do when it does not exist, is no serial device, may not be used, is held by another program, or does not
-  /// take the settings.
+  /// Opens the device and throws away what had come in before. `HostError` naming the device and what to do:
+  /// 75 when it does not exist or is no serial device, 57 when it may not be used, is held by another
+  /// program, or does not take the settings.
   ///
-  /// A pseudo-terminal has no parity and only one holder is kept out by a lock; that it drops the parity bit
-  /// is no failure.
+  /// A pseudo-terminal has no parity: that it drops the parity bit is no failure.
   SerialDevice(std::string path, const LineSettings& settings);
   SerialDevice(const SerialDevice&) = delete;
   SerialDevice& operator=(const SerialDevice&) = delete;

@@ -9,6 +9,8 @@ struct BadInput {
   std::vector<std::string> told;   ///< what the message names
 };
 
+std::ostream& operator<<(std::ostream& out, const BadInput& input) { return out << input.name; }
+
 class BadInputTest : public CliTest, public testing::WithParamInterface<BadInput> {
  protected:
   std::string Resolved(const std::string& word) const { return word[0] == '@' ? Path(word.substr(1)) : word; }
@@ -62,7 +64,7 @@ INSTANTIATE_TEST_SUITE_P(
                  {"--low"}},
         BadInput{"LimitPercentage",
                  {"limit", "@d.orvik", "--element", "1", "--standard", "S", "--high", "10%"},
-                 {"10%"}},
+                 {"--high", "percent"}},
         BadInput{"ConfigOptions",
                  {"config", "@d.orvik", "--element", "1", "--options", "9000"},
                  {"--options 9000"}},

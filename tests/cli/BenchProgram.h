@@ -63,9 +63,17 @@ class RunningProgram {
   }
   void EndInput() { in_.Reset(); }
 
-  /// Reads until the standard output holds the text; false when the program ends or a minute passes first.
-  bool AwaitOutput(const std::string& text) {
-    return ReadUntil([&] { return streams_[0].text.find(text) != std::string::npos; });
+  /// Reads until the standard output holds the text that often; false when the program ends first.
+  bool AwaitOutput(const std::string& text, int times = 1) {
+    return ReadUntil([&] {
+      std::size_t at = 0;
+      for (int i = 0; i < times; ++i) {
+        at = streams_[0].text.find(text, at);
+        if (at == std::string::npos) return false;
+        at += text.size();
+      }
+      return true;
+    });
   }
   const std::string& Output() const { return streams_[0].text; }
 

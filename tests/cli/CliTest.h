@@ -2,8 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <memory>
 #include <nlohmann/json.hpp>
 #include <sstream>
 #include <string>
@@ -19,13 +21,14 @@ class CliTest : public testing::Test {
  protected:
   using Words = std::vector<std::string>;
 
+  CliTest() { setenv("ORVIK_STATE", Path("state").c_str(), 1); }
+
   /// Pauses are divided by this; a reply may still take 200 ms.
   static constexpr char kTimeScale[] = "10";
 
   std::string Path(const std::string& name) const { return (folder_.Path() / name).string(); }
 
   std::unique_ptr<RunningProgram> Start(Words arguments) const {
-    arguments.insert(arguments.begin(), {"--state", Path("state")});
     return std::make_unique<RunningProgram>(ORVIK_BENCH_PATH, std::move(arguments));
   }
   Finished Bench(Words arguments) const { return Start(std::move(arguments))->Wait(); }

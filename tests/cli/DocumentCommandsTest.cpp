@@ -72,7 +72,7 @@ TEST_F(DocumentCommandsTest, ConfigShowsAndChangesSettings) {
   EXPECT_NE(Bench({"config", file, "--element", "2"}).out.find("Maximum value"), std::string::npos);
   EXPECT_EQ(Bench(Simulated(file, "sound-class-1")).status, 0);
   EXPECT_EQ(SentIn(file + ".wire.log")[1], "STST,910,1");
-  EXPECT_EQ(Show(file)["elements"][1]["measurement"]["value"], 123.0);
+  EXPECT_EQ(Show(file)["elements"][1]["measurement"]["value"], 131.0);
 }
 
 TEST_F(DocumentCommandsTest, CalibrateStoresAndTheReadingIsCorrected) {

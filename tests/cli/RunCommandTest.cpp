@@ -41,20 +41,20 @@ TEST_F(RunCommandTest, JsonTellsEverythingOfEachElement) {
   const auto run = Bench(Simulated(file, "sound-class-1", {"--json"}));
   ASSERT_EQ(run.status, 0) << run.error;
   const auto json = nlohmann::json::parse(run.out);
-  EXPECT_EQ(json["instrument"], nlohmann::json::parse(R"({"type": "KELD(IN)", "serial": "SIM-0001",
-                                                           "firmware": "3.10", "calibration": 0
-})"));
+  const auto instrument = nlohmann::json::parse(
+      R"json({"type": "KELD(IN)", "serial": "SIM-0001", "firmware": "3.10", "calibration": 0})json");
+  EXPECT_EQ(json["instrument"], instrument);
   ASSERT_EQ(json["elements"].size(), 3u);
-const auto& sequence = json["elements"][0];
-EXPECT_EQ(sequence["kind"], "sequence");
-EXPECT_EQ(sequence["parent"], 0);
-const auto& test = json["elements"][1];
-EXPECT_EQ(test, nlohmann::json::parse(R"({"id": 2, "parent": 1, "testId": 410, "kind": "test",
+  EXPECT_EQ(json["elements"][0]["kind"], "sequence");
+  EXPECT_EQ(json["elements"][0]["parent"], 0);
+  auto test = json["elements"][1];
+  EXPECT_TRUE(test["serviceValue"].is_string());
+  test.erase("serviceValue");
+  const auto expected = nlohmann::json::parse(R"json({"id": 2, "parent": 1, "testId": 410, "kind": "test",
       "name": "Protective earth, with mains cord", "status": 1, "statusText": "passed", "mtiId": 1,
-      "serviceCode": "P", "serviceValue": ")" +
-                                      test["serviceValue"].get<std::string>() + R"(",
-      "measurement": {"value": 123.0, "unit": "mOhm", "flags": "", "status": 1},
-      "failedStandards": [], "doubts": []})"));
+      "serviceCode": "P", "measurement": {"value": 123.0, "unit": "mOhm", "flags": "", "status": 1},
+      "failedStandards": [], "doubts": []})json");
+  EXPECT_EQ(test, expected);
 }
 
 TEST_F(RunCommandTest, EventsAreOneObjectALine) {
@@ -194,7 +194,7 @@ TEST_F(RunCommandTest, TheOperatorIsAskedAtTheTerminal) {
   const auto run = Start(Simulated(file, "sound-class-1", {"--operator", "ask"}));
   ASSERT_TRUE(run->AwaitOutput("play")) << run->Output();
   run->Type("play\n");
-  ASSERT_TRUE(run->AwaitOutput("EREM")) << run->Output();
+  ASSERT_TRUE(run->AwaitOutput("next", 2)) << run->Output();  // offered again when the run is over
   run->Type("next\n");
   const auto ended = run->Wait();
   EXPECT_EQ(ended.status, 0) << ended.out << ended.error;

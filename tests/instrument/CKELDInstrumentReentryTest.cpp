@@ -49,8 +49,8 @@ void AtEveryPump(Kind kind, const std::function<void(LinkBench&)>& action,
     Set(link, kind);
     link.Link()->ConnectMTI();
     const auto done = link.AtPump(pumps, [&] { action(link); });
-    const auto held = link.Link();
-    held->RunMtiTest(410, 0);
+    // Not held here: the action may let go of the last reference.
+    link.Link()->RunMtiTest(410, 0);
     reached = *done;
     if (reached) check(link);
     if (testing::Test::HasFailure()) return;
@@ -217,8 +217,8 @@ class EventReentryTest : public testing::TestWithParam<int> {
     };
     link_.onData = [act](const keld::MtiDataArray&) { act(); };
     link_.onResult = [act](std::int32_t&, std::int16_t) { act(); };
-    const auto held = link_.Link();
-    held->RunMtiTest(410, 0);
+    // Not held here: the action may let go of the last reference.
+    link_.Link()->RunMtiTest(410, 0);
   }
 
   LinkBench link_;
@@ -281,6 +281,19 @@ TEST(ReentryOrderTest, AnotherRunKeepsTheSessionThatItLeavesOpen) {
   link.Restart();
   link.Link()->DisconnectMTI();
   EXPECT_EQ(link.Sent(), (Texts{"STST,210,0", "EREM"}));
+}
+
+TEST(ReentryOrderTest, EveryHandlerHearsTheIdentityThatTheTesterSent) {
+  LinkBench link;
+  link.Link()->ConnectMTI();
+  link.Script(GoodAnswers());
+  link.onData = [&](const keld::MtiDataArray&) { link.Link()->DisconnectMTI(); };
+  keld::MtiDataArray heard;
+  const auto second =
+      link.Link()->GotMtiData().Subscribe([&](const keld::MtiDataArray& data) { heard = data; });
+  link.Link()->RunMtiTest(410, 0);
+  EXPECT_EQ(link.Sent().back(), "EREM");
+  EXPECT_EQ(heard[1], orvik::Variant(std::string("4711")));
 }
 
 TEST(ReentryOrderTest, ASessionThatIsBeingEnteredIsWaitedForAndEnded) {

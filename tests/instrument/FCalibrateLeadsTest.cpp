@@ -275,6 +275,16 @@ TEST_F(FCalibrateLeadsTest, CancelStoresNothing) {
   EXPECT_EQ(keld::CKELDData::Shared()->CalibValue(), 0);
 }
 
+TEST_F(FCalibrateLeadsTest, CancelDuringAMeasurementEndsTheSessionAtOnce) {
+  Answer(",410,0,0.125,0,Ohm");
+  At(milliseconds(0), [&] { Click("cmdCalibrate"); });
+  At(milliseconds(5000), [&] { Click("cmdCancel"); });
+  dialog_->ShowModal(nullptr);
+  EXPECT_EQ(bench_.Wire().Sent(), (Texts{"IREM", "STST,210,0", "EREM"}));
+  EXPECT_EQ(bench_.Application().Now(), milliseconds(5000 + 3500 + 3500));
+  EXPECT_TRUE(dialog_->Cancelled());
+}
+
 TEST_F(FCalibrateLeadsTest, TheCrossAndTheEscapeKeyCancel) {
   for (const bool cross : {true, false}) {
     Open();

@@ -149,8 +149,10 @@ TEST_F(XKELDResultViewTest, SelectedStandardFillsTheLimitCells) {
 }
 
 TEST_F(XKELDResultViewTest, SelectingAStandardRefreshesEveryRow) {
-  view_->ShowResult(WithLimits(12, "2", ""));
-  view_->ShowResult(WithLimits(13, "", "7"));
+  const auto first = WithLimits(12, "2", "");
+  const auto second = WithLimits(13, "", "7");
+  view_->ShowResult(first);
+  view_->ShowResult(second);
   EXPECT_EQ(Text("12::", "LOL"), " ");
   view_->SelectStandard("A", "A text");
   EXPECT_EQ(Text("12::", "LOL"), "2 mA");
@@ -161,9 +163,12 @@ TEST_F(XKELDResultViewTest, SelectingAStandardRefreshesEveryRow) {
 
 TEST_F(XKELDResultViewTest, UnknownStandardBlanksTheLimitCells) {
   view_->SelectStandard("A", "A text");
-  view_->ShowResult(WithLimits(12, "2", "10"));
+  const auto element = WithLimits(12, "2", "10");
+  view_->ShowResult(element);
   for (const auto& [name, text] :
        {std::pair<std::string, std::string>{"B", "A text"}, {"A", "other"}, {"", ""}}) {
+    view_->SelectStandard("A", "A text");
+    ASSERT_EQ(Text("12::", "HIL"), "10 mA");
     view_->SelectStandard(name, text);
     EXPECT_EQ(Text("12::", "HIL"), " ") << name;
     EXPECT_EQ(Text("12::", "LOL"), " ") << name;

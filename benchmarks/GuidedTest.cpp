@@ -1,0 +1,50 @@
+#include <stdexcept>
+
+#include "OrvikTypeLib/As.h"
+#include "OrvikTypeLib/IPlugIn.h"
+#include "OrvikTypeLib/IResultData.h"
+#include "OrvikTypeLib/IStandardColl.h"
+#include "benchmarks/ChildProcess.h"
+#include "benchmarks/Measurements.h"
+#include "benchmarks/Repeat.h"
+#include "benchmarks/VirtualRig.h"
+#include "host/instruments/InstrumentColl.h"
+#include "host/run/AutoOperator.h"
+#include "host/run/DoubtTracker.h"
+#include "host/run/RunController.h"
+#include "plugin/ClassIdentifiers.h"
+
+namespace benchmarks {
+
+namespace {
+
+constexpr std::int32_t kTest = 410;
+constexpr std::int32_t kPassed = 1;
+
+}  // namespace
+
+// The element shows its guide, the operator presses play and next, the result is made and judged. Nothing is
+// saved.
+Figure MeasureGuidedTest(const Context& context) {
+  VirtualRig rig(TextOf(context.Catalogue()));
+  auto& host = rig.Only().Host();
+  const auto plugIn = orvik::As<orvik::IPlugIn>(host.CreateObject(keld::ClassIdentifiers::kPlugin));
+  orvik::Required(plugIn).Initialize(nullptr);
+  const auto element = plugIn->CreateTest(kTest);
+  orvik::Required(element).SetID(1);
+
+  bench::StopRequest stop;
+  bench::DoubtTracker doubts(*rig.Ports().TheWire());
+  const auto controller = std::make_shared<bench::RunController>(bench::RunController::Parts{
+      orvik::As<orvik::IStandardColl>(host.CreateObject(orvik::HostClasses::kStandardColl)),
+      std::make_shared<bench::InstrumentColl>(), *host.Elements(), doubts, [] {}});
+  bench::AutoOperator person(rig.Only().SharedApplication(), stop);
+  const auto rate = BestRate([&] {
+    element->Perform(controller);
+    if (!element->Result() || element->Result()->Status() != kPassed)
+      throw std::runtime_error("the test has not passed");
+  });
+  return {rate, "tests/s", {}, "", {}, Bound::kAtLeast};
+}
+
+}  // namespace benchmarks

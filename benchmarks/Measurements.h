@@ -1,0 +1,18 @@
+#pragma once
+
+#include "benchmarks/Benchmark.h"
+
+namespace benchmarks {
+
+/// The three figures of one real-time run, which is made once.
+Figure MeasureSessionTime(const Context& context);
+Figure MeasureCommandSpacing(const Context& context);
+Figure MeasureWaiting(const Context& context);
+
+Figure MeasureExchangeEngine(const Context& context);
+Figure MeasureGuidedTest(const Context& context);
+Figure MeasureRoundTrip(const Context& context);
+Figure MeasureLibrarySize(const Context& context);
+Figure MeasureStart(const Context& context);
+
+}  // namespace benchmarks

@@ -1,0 +1,20 @@
+#include "benchmarks/Benchmark.h"
+#include "benchmarks/Measurements.h"
+
+namespace benchmarks {
+
+const std::vector<Benchmark>& AllBenchmarks() {
+  static const std::vector<Benchmark> all{
+      {"session-time", "wall time of one real-time test, as a multiple of its floor", MeasureSessionTime},
+      {"command-spacing", "shortest time between two commands of that run", MeasureCommandSpacing},
+      {"waiting", "share of one core that the whole of that run takes", MeasureWaiting},
+      {"exchange-engine", "complete tests on the wire a second, on the virtual clock", MeasureExchangeEngine},
+      {"guided-test", "complete tests a second with the guide and the result around them", MeasureGuidedTest},
+      {"round-trip", "our own time for a command and its reply on a pseudo-terminal", MeasureRoundTrip},
+      {"library-size", "size of the plug-in library, stripped", MeasureLibrarySize},
+      {"start", "\"orvik-bench tests\" in a new state folder", MeasureStart},
+  };
+  return all;
+}
+
+}  // namespace benchmarks

@@ -1,0 +1,127 @@
+#include <fcntl.h>
+#include <poll.h>
+#include <unistd.h>
+
+#include <array>
+#include <stdexcept>
+#include <string_view>
+#include <thread>
+
+#include "OrvikTypeLib/IMessage.h"
+#include "OrvikTypeLib/IPort.h"
+#include "benchmarks/Measurements.h"
+#include "benchmarks/Repeat.h"
+#include "host/serial/PortManager.h"
+#include "host/toolkit/headless/Application.h"
+#include "tests/support/PseudoTerminal.h"
+
+namespace benchmarks {
+
+namespace {
+
+constexpr int kTrips = 4000;
+constexpr double kMicroseconds = 1e6;
+constexpr std::chrono::seconds kPatience{10};
+constexpr std::string_view kCommand = "STST,410,0\r\n";
+constexpr std::string_view kReply = "stst,410,0\r\n";
+
+/// Answers every line on the near end of the pair at once, until the pair is hung up.
+class EchoResponder {
+ public:
+  explicit EchoResponder(int descriptor) : thread_([this, descriptor] { Answer(descriptor); }) {}
+  EchoResponder(const EchoResponder&) = delete;
+  EchoResponder& operator=(const EchoResponder&) = delete;
+  ~EchoResponder() {
+    const char end = 0;
+    // Nobody but the thread reads the pipe, and it is empty: the byte always fits.
+    if (write(stop_[1], &end, 1) == 1) thread_.join();
+    for (const int descriptor : stop_) close(descriptor);
+  }
+
+ private:
+  static std::array<int, 2> Pipe() {
+    std::array<int, 2> ends{};
+    if (pipe(ends.data()) != 0) throw std::runtime_error("no pipe to be had");
+    return ends;
+  }
+
+  void Answer(int descriptor) const {
+    std::size_t received = 0;
+    for (;;) {
+      std::array<pollfd, 2> readable{pollfd{descriptor, POLLIN, 0}, pollfd{stop_[0], POLLIN, 0}};
+      if (poll(readable.data(), readable.size(), -1) < 0 || readable[1].revents != 0) return;
+      char buffer[256];
+      const auto count = read(descriptor, buffer, sizeof buffer);
+      if (count <= 0) return;
+      received += static_cast<std::size_t>(count);
+      for (; received >= kCommand.size(); received -= kCommand.size()) {
+        if (write(descriptor, kReply.data(), kReply.size()) < 0) return;
+      }
+    }
+  }
+
+  const std::array<int, 2> stop_ = Pipe();
+  std::thread thread_;
+};
+
+double MedianMicroseconds(const std::function<void()>& trip) {
+  constexpr int kWarmUp = 200;
+  for (int i = 0; i < kWarmUp; ++i) trip();
+  std::vector<double> times;
+  for (int i = 0; i < kTrips; ++i) {
+    const auto start = std::chrono::steady_clock::now();
+    trip();
+    times.push_back(std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count() *
+                    kMicroseconds);
+  }
+  return Median(times);
+}
+
+/// The least that any program needs for it: write, wait, read.
+double Bare(const std::string& device) {
+  const bench::UniqueFd opened(open(device.c_str(), O_RDWR | O_NOCTTY | O_CLOEXEC));
+  return MedianMicroseconds([&] {
+    if (write(opened.Get(), kCommand.data(), kCommand.size()) < 0)
+      throw std::runtime_error("the pseudo-terminal takes no bytes");
+    for (std::size_t received = 0; received < kReply.size();) {
+      pollfd readable{opened.Get(), POLLIN, 0};
+      char buffer[256];
+      if (poll(&readable, 1, 10'000) <= 0) throw std::runtime_error("the echo has fallen silent");
+      const auto count = read(opened.Get(), buffer, sizeof buffer);
+      if (count <= 0) throw std::runtime_error("the echo has gone");
+      received += static_cast<std::size_t>(count);
+    }
+  });
+}
+
+double OnOurPort(const std::string& device) {
+  const auto application = std::make_shared<bench::headless::Application>(bench::ClockKind::kReal);
+  const auto manager = std::make_shared<bench::PortManager>(application, bench::DeviceOpener(application));
+  manager->Assign("KELD(IN)", device);
+  orvik::IPortManager& ports = *manager;
+  const auto port = ports.OpenPort(ports.FindPort("KELD(IN)"), "9600,O,8,1");
+  const orvik::Variant parameters = std::vector<std::string>{"410", "0"};
+  const auto median = MedianMicroseconds([&] {
+    port->Send(port->CreateMessage("STST", parameters));
+    const auto deadline = application->Now() + kPatience;
+    while (port->ReceivedCount() == 0) {
+      if (application->Now() > deadline) throw std::runtime_error("the echo has fallen silent");
+      application->WaitMessages(deadline);
+    }
+    if (port->TakeMessage()->Mnemonic() != "stst") throw std::runtime_error("the echo came back wrong");
+  });
+  port->Close();
+  return median;
+}
+
+}  // namespace
+
+Figure MeasureRoundTrip(const Context&) {
+  support::PseudoTerminal pair;
+  const EchoResponder echo(pair.Near());
+  const double bare = Bare(pair.Path());
+  const double ours = OnOurPort(pair.Path());
+  return {ours - bare, "us", bare, "bare write, poll and read on the same pair, in us", 60, Bound::kAtMost};
+}
+
+}  // namespace benchmarks

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <stdexcept>
+#include <string>
+
+#include "OrvikTypeLib/HostClasses.h"
+#include "host/serial/CommApplication.h"
+#include "host/serial/MemoryTransport.h"
+#include "host/serial/PortManager.h"
+#include "tester/BuiltInProfiles.h"
+#include "tests/support/HostOnly.h"
+#include "tests/support/SimulatedLine.h"
+
+namespace benchmarks {
+
+/// The headless host on the virtual clock with the simulated tester at the end of a line in memory, and
+/// nobody who listens to the wire beside them.
+class VirtualRig {
+ public:
+  explicit VirtualRig(std::optional<std::string> catalogue = {})
+      : host_(std::move(catalogue)), line_(host_.SharedApplication(), Sound()) {
+    host_.Host().Register(orvik::HostClasses::kCommApplication, [this] { return comm_; });
+    ports_->Assign(keld::MKELDConstants::kPlugInID, "memory");
+  }
+
+  support::HostOnly& Only() { return host_; }
+  bench::PortManager& Ports() { return *ports_; }
+  sim::Tester& Tester() { return line_.Tester(); }
+
+ private:
+  static sim::Profile Sound() {
+    auto profile = sim::MakeBuiltInProfile(sim::kDefaultProfile);
+    if (!profile) throw std::runtime_error("the simulated tester has no built-in profile");
+    return *std::move(profile);
+  }
+
+  support::HostOnly host_;
+  support::SimulatedLine line_;
+  std::shared_ptr<bench::PortManager> ports_ = std::make_shared<bench::PortManager>(
+      host_.SharedApplication(), [this](const std::string&, const bench::LineSettings&) {
+        return std::make_unique<bench::MemoryTransport>(line_.Line());
+      });
+  std::shared_ptr<bench::CommApplication> comm_ = std::make_shared<bench::CommApplication>(ports_);
+};
+
+}  // namespace benchmarks
