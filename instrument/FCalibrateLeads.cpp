@@ -19,7 +19,7 @@ using orvik::Required;
 namespace {
 
 constexpr std::int16_t kLeadResistanceTest = 410;
-constexpr char kOverloaded[] = "O";
+constexpr char kOverloadMark[] = "O";
 constexpr char kOhm[] = "Ohm";
 /// "IREM", "STST", "GRES", then "STST" and "EREM" to end the session.
 constexpr std::int32_t kProgressSteps = 5;
@@ -152,7 +152,7 @@ void FCalibrateLeads::mVTI_ResultReceived(std::int32_t ecsCommsState, std::int16
   const auto Link = mVTI;
   if (!Link || ecsCommsState != CommsState::kResultReceived || iTestNo != kLeadResistanceTest) return;
 
-  if (orvik::TextOf(Link->MtiData(3)) == kOverloaded) {
+  if (orvik::TextOf(Link->MtiData(3)) == kOverloadMark) {
     mControls.lblValue->SetCaption(Shown(Texts::kOverload));
     fValueValid = false;
     return;

@@ -28,7 +28,7 @@ look_at() {
   if output=$(clang-tidy-14 --quiet -p build/release ${checks:+"--checks=$checks"} "$source" 2>&1); then
     touch "$stamp"
   else
-    printf '%s\n' "$output" >&2
+    printf '%s\n' "$output" | grep -Ev '^[0-9]+ warnings? generated' >&2
     return 1
   fi
 }

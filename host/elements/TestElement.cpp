@@ -17,7 +17,7 @@ namespace {
 
 using orvik::HostError;
 
-constexpr char kSource[] = "OrvikTypeLib.TestElement";
+constexpr char kElementSource[] = "OrvikTypeLib.TestElement";
 
 std::shared_ptr<orvik::IXmlNode> ScratchRoot(const std::string& name) {
   auto document = std::make_shared<pugi::xml_document>();
@@ -85,7 +85,7 @@ bool TestElement::ITestElement_QuerySetParent(std::shared_ptr<ITestElement> iteP
 }
 
 void TestElement::ITestElement_Perform(std::shared_ptr<orvik::IRunController>) {
-  throw HostError(HostError::kNoSuchProperty, kSource,
+  throw HostError(HostError::kNoSuchProperty, kElementSource,
                   "the element has no test of its own; only a plug-in's element can be run");
 }
 
@@ -187,7 +187,7 @@ void TestElement::CopyTo(TestElement& copy) const {
 std::shared_ptr<orvik::IResultData> TestElement::CopyOfResult() const {
   const auto copy = orvik::As<orvik::IResultData>(Factory()->CreateObject(result_->ClassID()));
   if (!copy)
-    throw HostError(HostError::kClassNotRegistered, kSource,
+    throw HostError(HostError::kClassNotRegistered, kElementSource,
                     "the result's class \"" + result_->ClassID() +
                         "\" is not registered, so the result cannot be copied; open its plug-in first");
   copy->Load(result_->Save(ScratchRoot(tags::kTestElement)), nullptr);
@@ -204,7 +204,7 @@ void TestElement::ITestElement_Load(std::shared_ptr<orvik::IXmlNode> Node, std::
     } else if (name == tags::kTestElement) {
       LoadElement(Node, Context);
     } else {
-      throw HostError(HostError::kInvalidArgument, kSource,
+      throw HostError(HostError::kInvalidArgument, kElementSource,
                       "an element cannot be read from the node \"" + name + "\"");
     }
   });
@@ -261,7 +261,8 @@ void TestElement::LoadPart(const std::shared_ptr<orvik::IXmlNode>& part,
   } else if (name == tags::kResultItem && !outer_.expired()) {
     Shown()->Load(part, context);
     // The plug-in's element ignores errors, but a result must not vanish.
-    if (!result_) throw HostError(HostError::kInvalidArgument, kSource, "the result could not be read");
+    if (!result_)
+      throw HostError(HostError::kInvalidArgument, kElementSource, "the result could not be read");
   } else if (name == tags::kTestElement) {
     known = LoadChild(part, context);
   } else {
@@ -324,7 +325,7 @@ void TestElement::SaveTo(const std::shared_ptr<orvik::IXmlNode>& node) const {
 void TestElement::SaveResult(const std::shared_ptr<orvik::IXmlNode>& node) const {
   const auto saved = result_->Save(node);
   if (!saved)
-    throw HostError(HostError::kInvalidArgument, kSource,
+    throw HostError(HostError::kInvalidArgument, kElementSource,
                     "the result of element " + std::to_string(id_) + " could not be saved");
   resultLeftovers_.Restore(XmlNode::Of(saved).Raw());
 }

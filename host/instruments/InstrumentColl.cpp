@@ -8,7 +8,7 @@ namespace {
 
 using orvik::HostError;
 
-constexpr char kSource[] = "OrvikTypeLib.InstrumentColl";
+constexpr char kInstrumentsSource[] = "OrvikTypeLib.InstrumentColl";
 constexpr char kInstruments[] = "Instruments";
 constexpr char kInstrument[] = "Instrument";
 
@@ -17,7 +17,7 @@ constexpr char kInstrument[] = "Instrument";
 std::shared_ptr<orvik::IInstrumentRecord> InstrumentColl::IInstrumentColl_item(std::int32_t lIndex) const {
   if (lIndex < 1 || static_cast<std::size_t>(lIndex) > records_.size())
     throw HostError(
-        HostError::kSubscriptOutOfRange, kSource,
+        HostError::kSubscriptOutOfRange, kInstrumentsSource,
         "there is no instrument " + std::to_string(lIndex) + " of " + std::to_string(records_.size()));
   return records_[static_cast<std::size_t>(lIndex) - 1];
 }
@@ -25,7 +25,7 @@ std::shared_ptr<orvik::IInstrumentRecord> InstrumentColl::IInstrumentColl_item(s
 void InstrumentColl::IInstrumentColl_Add(std::shared_ptr<orvik::IInstrumentRecord> Record) {
   const auto record = orvik::As<InstrumentRecord>(Record);
   if (!record)
-    throw HostError(HostError::kTypeMismatch, kSource,
+    throw HostError(HostError::kTypeMismatch, kInstrumentsSource,
                     "only a record of the class \"OrvikTypeLib.InstrumentRecord\" can be added");
   records_.push_back(record);
 }

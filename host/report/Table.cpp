@@ -28,7 +28,8 @@ Column ParseColumn(std::string_view text) {
   column.unbroken = text.starts_with('!');
   if (column.unbroken) text.remove_prefix(1);
   const auto width = WholeNumber(text);
-  if (!width || text.front() == '+' || text.front() == '-') Refuse("the column \"" + whole + "\" has no width");
+  if (!width || text.front() == '+' || text.front() == '-')
+    Refuse("the column \"" + whole + "\" has no width");
   column.width = *width;
   return column;
 }

@@ -12,18 +12,18 @@ namespace {
 
 using orvik::HostError;
 
-[[noreturn]] void Refuse(const std::string& mnemonic, const std::string& reason) {
+[[noreturn]] void RefuseText(const std::string& mnemonic, const std::string& reason) {
   throw HostError(HostError::kInvalidArgument, "OrvikComm.Port",
                   "command \"" + VisibleText(mnemonic) + "\" cannot be sent: " + reason);
 }
 
 std::string Bytes(const std::string& mnemonic, const std::string& text) {
   auto bytes = Latin1FromUtf8(text);
-  if (!bytes) Refuse(mnemonic, "\"" + text + "\" has a letter that is not in ISO 8859-1");
+  if (!bytes) RefuseText(mnemonic, "\"" + text + "\" has a letter that is not in ISO 8859-1");
   for (const char c : *bytes) {
     const auto byte = static_cast<unsigned char>(c);
     if (byte < 0x20 || byte == 0x7F)
-      Refuse(mnemonic, "\"" + VisibleText(*bytes) + "\" holds a control character");
+      RefuseText(mnemonic, "\"" + VisibleText(*bytes) + "\" holds a control character");
   }
   return *std::move(bytes);
 }
@@ -79,12 +79,12 @@ orvik::Variant Message::IMessage_Parameter(std::int32_t lIndex) const {
 
 std::shared_ptr<Message> ComposeMessage(const std::string& mnemonic, std::vector<std::string> parameters) {
   if (mnemonic.empty() || mnemonic.find_first_of(",\"") != std::string::npos)
-    Refuse(mnemonic, "a mnemonic has at least one letter, no comma and no quotation mark");
+    RefuseText(mnemonic, "a mnemonic has at least one letter, no comma and no quotation mark");
   std::string line = Bytes(mnemonic, mnemonic);
   for (const auto& parameter : parameters) AppendField(line, Bytes(mnemonic, parameter));
   if (line.size() > LineReader::kMaxLine)
-    Refuse(mnemonic,
-           "with its parameters it has more than " + std::to_string(LineReader::kMaxLine) + " bytes");
+    RefuseText(mnemonic,
+               "with its parameters it has more than " + std::to_string(LineReader::kMaxLine) + " bytes");
   return std::make_shared<Message>(mnemonic, std::move(parameters), std::move(line));
 }
 

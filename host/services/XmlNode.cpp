@@ -8,7 +8,7 @@
 namespace bench {
 namespace {
 
-constexpr char kSource[] = "OrvikTypeLib.XmlNode";
+constexpr char kNodeSource[] = "OrvikTypeLib.XmlNode";
 
 bool IsText(pugi::xml_node node) {
   return node.type() == pugi::node_pcdata || node.type() == pugi::node_cdata;
@@ -16,7 +16,7 @@ bool IsText(pugi::xml_node node) {
 
 void RequireName(const std::string& name) {
   if (!xml::IsName(name))
-    throw orvik::HostError(orvik::HostError::kInvalidArgument, kSource,
+    throw orvik::HostError(orvik::HostError::kInvalidArgument, kNodeSource,
                            "\"" + name + "\" cannot be the name of an element or attribute");
 }
 
@@ -90,7 +90,8 @@ std::int32_t NumberAttribute(pugi::xml_node element, const char* name) {
 const XmlNode& XmlNode::Of(const std::shared_ptr<orvik::IXmlNode>& node) {
   const auto* own = dynamic_cast<const XmlNode*>(&orvik::Required(node));
   if (!own)
-    throw orvik::HostError(orvik::HostError::kTypeMismatch, kSource, "the node is not one of this host's");
+    throw orvik::HostError(orvik::HostError::kTypeMismatch, kNodeSource,
+                           "the node is not one of this host's");
   return *own;
 }
 
@@ -147,11 +148,11 @@ std::shared_ptr<orvik::IXmlNode> XmlNode::IXmlNode_AddChild(const std::string& s
 void XmlNode::IXmlNode_Append(std::shared_ptr<IXmlNode> Node) {
   const XmlNode& added = Of(Node);
   if (added.document_ != document_)
-    throw orvik::HostError(orvik::HostError::kInvalidArgument, kSource,
+    throw orvik::HostError(orvik::HostError::kInvalidArgument, kNodeSource,
                            "the node \"" + Node->Name() + "\" belongs to another document");
   if (added.node_.parent() == node_ && !xml::NextElement(added.node_)) return;
   if (!node_.append_move(added.node_))
-    throw orvik::HostError(orvik::HostError::kInvalidArgument, kSource,
+    throw orvik::HostError(orvik::HostError::kInvalidArgument, kNodeSource,
                            "the node \"" + Node->Name() + "\" stands above the one it is to be put below");
 }
 

@@ -55,7 +55,7 @@ class XmlError final : public orvik::HostError {
   std::ptrdiff_t offset_;
 };
 
-/// Helpers on raw nodes that the host's own readers and writers share.
+/// Operations on raw nodes that the host's own readers and writers share.
 namespace xml {
 
 /// The node itself when it is an element, else the next element after it; empty when there is none.

@@ -12,7 +12,7 @@ namespace {
 
 using orvik::HostError;
 
-constexpr char kSource[] = "OrvikTypeLib.Limit";
+constexpr char kLimitSource[] = "OrvikTypeLib.Limit";
 constexpr char kKey[] = "Key";
 constexpr char kUnit[] = "Unit";
 constexpr char kLow[] = "Low";
@@ -20,7 +20,7 @@ constexpr char kHigh[] = "High";
 constexpr char kNominal[] = "Nominal";
 
 [[noreturn]] void Refuse(const std::string& reason) {
-  throw HostError(HostError::kInvalidArgument, kSource, reason);
+  throw HostError(HostError::kInvalidArgument, kLimitSource, reason);
 }
 
 }  // namespace
@@ -71,7 +71,7 @@ void Limit::ILimit_SetNominal(const orvik::Variant& vNominal) {
   if (const auto* number = std::get_if<double>(&vNominal)) nominal = *number;
   if (const auto* whole = std::get_if<std::int32_t>(&vNominal)) nominal = *whole;
   if (!nominal && !orvik::IsEmpty(vNominal))
-    throw HostError(HostError::kTypeMismatch, kSource, "a nominal value is a number");
+    throw HostError(HostError::kTypeMismatch, kLimitSource, "a nominal value is a number");
   if (nominal && !std::isfinite(*nominal)) Refuse("a nominal value is a finite number");
   Check(low_, high_, nominal);
   nominal_ = nominal;

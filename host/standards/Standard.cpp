@@ -12,7 +12,7 @@ namespace {
 
 using orvik::HostError;
 
-constexpr char kSource[] = "OrvikTypeLib.Standard";
+constexpr char kStandardSource[] = "OrvikTypeLib.Standard";
 constexpr char kName[] = "Name";
 constexpr char kDescription[] = "Description";
 constexpr char kNumber[] = "Number";
@@ -29,7 +29,7 @@ void Standard::IStandard_Initialize(const std::string& sName, const std::string&
 
 std::shared_ptr<orvik::ILimit> Standard::IStandard_Limit(std::int32_t lIndex) const {
   if (lIndex < 1 || static_cast<std::size_t>(lIndex) > limits_.size())
-    throw HostError(HostError::kSubscriptOutOfRange, kSource,
+    throw HostError(HostError::kSubscriptOutOfRange, kStandardSource,
                     "there is no limit " + std::to_string(lIndex) + " of " + std::to_string(limits_.size()));
   return limits_[static_cast<std::size_t>(lIndex) - 1];
 }
@@ -37,7 +37,7 @@ std::shared_ptr<orvik::ILimit> Standard::IStandard_Limit(std::int32_t lIndex) co
 void Standard::IStandard_AddLimit(std::shared_ptr<orvik::ILimit> Limit) {
   auto limit = orvik::As<bench::Limit>(Limit);
   if (!limit)
-    throw HostError(HostError::kTypeMismatch, kSource,
+    throw HostError(HostError::kTypeMismatch, kStandardSource,
                     "only a limit of the class \"OrvikTypeLib.Limit\" can be added");
   limits_.push_back(std::move(limit));
 }

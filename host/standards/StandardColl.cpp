@@ -11,7 +11,7 @@ namespace {
 
 using orvik::HostError;
 
-constexpr char kSource[] = "OrvikTypeLib.StandardColl";
+constexpr char kCollectionSource[] = "OrvikTypeLib.StandardColl";
 constexpr char kStandards[] = "Standards";
 constexpr char kStandard[] = "Standard";
 
@@ -41,7 +41,7 @@ std::string Row(const orvik::IReport& report, const orvik::IStandard& standard, 
 std::shared_ptr<orvik::IStandard> StandardColl::IStandardColl_item(std::int32_t lIndex) const {
   if (lIndex < 1 || static_cast<std::size_t>(lIndex) > standards_.size())
     throw HostError(
-        HostError::kSubscriptOutOfRange, kSource,
+        HostError::kSubscriptOutOfRange, kCollectionSource,
         "there is no standard " + std::to_string(lIndex) + " of " + std::to_string(standards_.size()));
   return standards_[static_cast<std::size_t>(lIndex) - 1];
 }
@@ -49,7 +49,7 @@ std::shared_ptr<orvik::IStandard> StandardColl::IStandardColl_item(std::int32_t 
 void StandardColl::IStandardColl_Add(std::shared_ptr<orvik::IStandard> Standard) {
   auto standard = orvik::As<bench::Standard>(Standard);
   if (!standard)
-    throw HostError(HostError::kTypeMismatch, kSource,
+    throw HostError(HostError::kTypeMismatch, kCollectionSource,
                     "only a standard of the class \"OrvikTypeLib.Standard\" can be added");
   standards_.push_back(std::move(standard));
 }
@@ -96,7 +96,7 @@ void StandardColl::IStandardColl_Print(std::shared_ptr<orvik::IReport> Report, s
                                        const std::vector<std::string>& asHeader) const {
   auto& report = orvik::Required(Report);
   if (asHeader.size() < 3)
-    throw HostError(HostError::kSubscriptOutOfRange, kSource,
+    throw HostError(HostError::kSubscriptOutOfRange, kCollectionSource,
                     "the header of printed limits is a key, a heading and a number");
   std::string rows;
   for (const auto& standard : standards_) {
