@@ -50,6 +50,8 @@ class CKELDSequence final : public CKELDElement, public virtual orvik::ITestCont
 
   /// The child being run, or empty.
   std::shared_ptr<orvik::ITestElement> mCurrentChild;
+  /// The operator has ended the present run.
+  bool fAborted = false;
 };
 
 }  // namespace keld

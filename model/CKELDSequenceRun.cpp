@@ -25,6 +25,7 @@ void CKELDSequence::IKELDTest_RunTest() {
   const auto Self = shared_from_this();
   ResetResult();
   fStopRequested = false;
+  fAborted = false;
   if (!MayStart()) {
     Attempt([&] { Required(BaseElement()).SetResult(nullptr); });
     return;
@@ -42,6 +43,8 @@ void CKELDSequence::IKELDTest_RunTest() {
   ShowResultInGuide();
   TellFinished();
   if (StandaloneRun()) CloseLink();
+  // An abort while the session was being closed comes after the summary, and discards it all the same.
+  if (fAborted) ResetResult();
 }
 
 void CKELDSequence::ResetResult() {
@@ -103,6 +106,7 @@ void CKELDSequence::IKELDTest_StopTest() {
 void CKELDSequence::IKELDTest_AbortTest() {
   const auto Self = shared_from_this();
   if (!AskYesNo(MKELDLanguageConstants::kEndTest)) return;
+  fAborted = true;
   // The loop over the children ends as it does after a stop, without a summary.
   StopTest();
   ReleaseRunningChild();
