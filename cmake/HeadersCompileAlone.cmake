@@ -39,3 +39,6 @@ endforeach()
 add_library(headers-compile-alone OBJECT ${sources})
 target_link_libraries(headers-compile-alone PRIVATE orvik-host keld-sim-core GTest::gtest)
 target_compile_options(headers-compile-alone PRIVATE -O0)
+# What the headers of the tests take from the build; the values do not matter here.
+target_compile_definitions(headers-compile-alone PRIVATE
+  SOURCE_PATH="" CATALOGUE_PATH="" PLUGIN_PATH="" CHECKER_PATH="" KELD_SIM_PATH="" ORVIK_BENCH_PATH="" DRAW_BITMAPS_PATH="")

@@ -15,7 +15,6 @@
 #include "host/app/RunCommand.h"
 #include "host/app/ShowCommand.h"
 #include "host/app/TestsCommand.h"
-#include "plugin/Version.h"
 
 namespace bench {
 
@@ -38,12 +37,6 @@ std::vector<Entry> Declare(CLI::App& program) {
   return entries;
 }
 
-std::string VersionText() {
-  using namespace keld::Version;
-  return "orvik-bench " + std::to_string(kMajor) + "." + std::to_string(kMinor) + "." +
-         std::to_string(kBuild) + "." + std::to_string(kRevision);
-}
-
 void DeclareGlobal(CLI::App& program, GlobalOptions& options) {
   program.add_option("--state", options.state, "Folder of settings and error log; otherwise ORVIK_STATE")
       ->type_name("DIR");
@@ -51,7 +44,7 @@ void DeclareGlobal(CLI::App& program, GlobalOptions& options) {
       ->type_name("FILE");
   program.add_option("--lang", options.language, "Language of texts, such as da; otherwise English")
       ->type_name("L");
-  program.set_version_flag("--version", VersionText(), "Show the version");
+  program.set_version_flag("--version", "orvik-bench " ORVIK_VERSION, "Show the version");
   program.set_help_all_flag("--help-all", "Show the options of all commands");
   program.footer(
       "Exit status: 0 passed or done, 1 something failed its limits, 2 something was not completed,\n"

@@ -4,6 +4,8 @@
 #include "OrvikTypeLib/ILimit.h"
 #include "OrvikTypeLib/ILimitData.h"
 #include "OrvikTypeLib/IStandard.h"
+#include "OrvikTypeLib/ITestContainer.h"
+#include "OrvikTypeLib/ITestEnumerator.h"
 #include "host/instruments/InstrumentColl.h"
 #include "host/run/AutoOperator.h"
 #include "host/run/DocumentRunner.h"
