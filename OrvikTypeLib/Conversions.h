@@ -23,7 +23,7 @@ inline std::string Trim(std::string_view sText) {
 }
 
 /// The number at the start of a text: blanks, sign, digits, ".", exponent. Text that does not start with a
-/// number is 0.
+/// number is 0. A number too large for a double is the largest double: read as 0 it could pass a limit.
 inline double LeadingNumber(std::string_view sText) {
   const auto first = sText.find_first_not_of(" \t\r\n");
   if (first == std::string_view::npos) return 0;
@@ -31,9 +31,9 @@ inline double LeadingNumber(std::string_view sText) {
   if (sText.front() == '+') sText.remove_prefix(1);
   // from_chars alone would also read "inf" and "nan", which no instrument means as a number.
   const auto digit = sText.find_first_not_of('-');
-  if (digit == std::string_view::npos || digit > 1 || sText[digit] == 'i' || sText[digit] == 'I' ||
-      sText[digit] == 'n' || sText[digit] == 'N')
-    return 0;
+  const bool fNumber =
+      digit <= 1 && std::string_view("0123456789.").find(sText[digit]) != std::string_view::npos;
+  if (!fNumber) return 0;
   double rValue = 0;
   const auto result = std::from_chars(sText.data(), sText.data() + sText.size(), rValue);
   if (result.ec == std::errc{}) return rValue;

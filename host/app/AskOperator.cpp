@@ -65,7 +65,7 @@ void AskOperator::PutGuide(const Form& form) {
 }
 
 void AskOperator::ReadInput() {
-  std::array<char, 256> buffer;
+  std::array<char, 256> buffer{};
   const auto count = read(STDIN_FILENO, buffer.data(), buffer.size());
   if (count < 0 && (errno == EINTR || errno == EAGAIN)) return;
   if (count <= 0) {

@@ -36,7 +36,7 @@ void DeviceTransport::Close() {
 
 void DeviceTransport::ReadArrived() {
   const std::weak_ptr<int> alive = alive_;
-  std::array<char, 4096> buffer;
+  std::array<char, 4096> buffer{};
   // As often as the device had bytes at once; the rest is read when messages are processed next.
   for (int turn = 0; turn < 16; ++turn) {
     std::size_t count = 0;
