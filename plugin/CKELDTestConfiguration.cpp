@@ -138,9 +138,9 @@ void CKELDTestConfiguration::IConfigData_PrintReport(std::shared_ptr<orvik::IRep
     const std::string sHeading = Translated(MKELDLanguageConstants::kConfigurationHeading);
     const std::string sLeads = Translated(ConfigurationTables::LeadText(OwnerTestID(), mlOptions));
     const auto Escaped = [&](const std::string& sText) { return Required(Report).Escape(sText); };
-    Report->AddTable(ReportMarkup::Format({{.lWidth = kMargin}, {.lWidth = std::max(lWidth - kMargin, 0)}}),
-                     Row({"", ReportMarkup::BoldItalic(Escaped(sHeading))}),
-                     Row({"", Escaped(sLeads) + kSixSpaces}));
+    Required(Report).AddTable(
+        ReportMarkup::Format({{.lWidth = kMargin}, {.lWidth = std::max(lWidth - kMargin, 0)}}),
+        Row({"", ReportMarkup::BoldItalic(Escaped(sHeading))}), Row({"", Escaped(sLeads) + kSixSpaces}));
   });
 }
 

@@ -12,6 +12,7 @@
 #include "host/app/InputError.h"
 #include "host/app/LimitCommand.h"
 #include "host/app/NewCommand.h"
+#include "host/app/ReportCommand.h"
 #include "host/app/RunCommand.h"
 #include "host/app/ShowCommand.h"
 #include "host/app/TestsCommand.h"
@@ -96,7 +97,7 @@ ExitStatus RunProgram(int argumentCount, const char* const* arguments) {
   GlobalOptions options;
   DeclareGlobal(program, options);
   const auto entries = Declare<TestsCommand, NewCommand, LimitCommand, ConfigCommand, RunCommand, ShowCommand,
-                               CalibrateCommand>(program);
+                               ReportCommand, CalibrateCommand>(program);
   try {
     program.parse(argumentCount, arguments);
   } catch (const CLI::Success& asked) {  // help and version

@@ -88,6 +88,7 @@ INSTANTIATE_TEST_SUITE_P(
         BadInput{"RunWireLog",
                  {"run", "@d.orvik", "--simulate", "--wire-log", "@none/log"},
                  {"@none/log", "--wire-log"}},
+        BadInput{"ReportOfAnotherKind", {"report", "@d.orvik", "--to", "@x.doc"}, {"--to", "@x.doc"}},
         BadInput{"Language", {"tests", "--lang", "../x"}, {"../x"}}),
     [](const auto& tested) { return std::string(tested.param.name); });
 

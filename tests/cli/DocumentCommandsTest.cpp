@@ -96,6 +96,18 @@ TEST_F(DocumentCommandsTest, AnOverloadedCalibrationIsNotStored) {
   EXPECT_EQ(Show(file)["instrument"]["calibration"], 0);
 }
 
+TEST_F(DocumentCommandsTest, ReportWritesWhatWasMeasured) {
+  Write("over", "based-on = sound-class-1\n420 = 0.001 Ohm overload\n");
+  const auto file = Path("a.orvik");
+  EXPECT_EQ(Bench({"new", file, "--add", "410", "420", "--asset", "A|7;{}"}).status, 0);
+  EXPECT_EQ(Bench(Simulated(file, Path("over"))).status, 2);
+  const auto written = Bench({"report", file, "--to", Path("a.txt")});
+  EXPECT_EQ(written.status, 0) << written.error;
+  const auto text = Contents(Path("a.txt"));
+  for (const char* told : {"A|7;{}", "incomplete", "SIM-0001", "123 mOhm", "OL", "doubtful", "passed"})
+    EXPECT_NE(text.find(told), std::string::npos) << told << " is not in:\n" << text;
+}
+
 TEST_F(DocumentCommandsTest, HelpAndVersionEndWithZero) {
   EXPECT_EQ(Bench({"--help"}).status, 0);
   EXPECT_EQ(Bench({"run", "--help"}).status, 0);
