@@ -157,6 +157,7 @@ std::vector<std::string> RegistryStore::Names(std::int32_t hive, const std::stri
     for (const auto& [name, text] : standIn->second) names[name] = true;
   }
   std::vector<std::string> sorted;
+  sorted.reserve(names.size());
   for (const auto& [name, known] : names) sorted.push_back(name);
   return sorted;
 }

@@ -43,8 +43,7 @@ bool DeeperThan(const pugi::xml_document& document, int levels) {
     bool for_each(pugi::xml_node&) override { return depth() <= limit; }
   } walker;
   walker.limit = levels;
-  pugi::xml_node top = document;
-  return !top.traverse(walker);
+  return !document.root().traverse(walker);
 }
 
 struct StringWriter : pugi::xml_writer {
