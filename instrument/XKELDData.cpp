@@ -15,7 +15,6 @@
 namespace keld {
 
 namespace platform = orvik::platform;
-using orvik::Required;
 
 namespace {
 
