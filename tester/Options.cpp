@@ -105,6 +105,7 @@ Options ParseOptions(const std::vector<std::string>& arguments) {
   std::vector<std::string> words{"keld-sim"};
   words.insert(words.end(), arguments.begin(), arguments.end());
   std::vector<char*> argv;
+  argv.reserve(words.size() + 1);
   for (std::string& word : words) argv.push_back(word.data());
   argv.push_back(nullptr);
   const int argc = static_cast<int>(words.size());
