@@ -98,7 +98,7 @@ void SerialLoop::Wait() {
 }
 
 void SerialLoop::ReadArrived() {
-  std::array<char, 4096> buffer;
+  std::array<char, 4096> buffer{};
   const ssize_t count = read(terminal_, buffer.data(), buffer.size());
   if (count > 0) {
     tester_.Receive({buffer.data(), static_cast<std::size_t>(count)}, Now());

@@ -65,7 +65,7 @@ std::string ReadTextFile(const std::string& path) {
   if (!S_ISREG(status.st_mode)) throw InputError(path + ": is not a regular file; name a text file");
 
   std::string content;
-  std::array<char, 16384> buffer;
+  std::array<char, 16384> buffer{};
   for (;;) {
     const ssize_t count = read(file.Get(), buffer.data(), buffer.size());
     if (count == 0) return content;
