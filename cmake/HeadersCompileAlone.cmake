@@ -12,11 +12,11 @@ file(GLOB_RECURSE headers CONFIGURE_DEPENDS RELATIVE ${CMAKE_SOURCE_DIR}
      ${CMAKE_SOURCE_DIR}/tester/*.h ${CMAKE_SOURCE_DIR}/tests/*.h ${CMAKE_SOURCE_DIR}/benchmarks/*.h)
 
 # Sets `result` to whether the header's own source begins by including it. Sources of tests do not count: they have the
-# precompiled header before everything else.
+# precompiled header before everything else. Nor does any source where several are compiled at once.
 function(is_shown_by_its_source header result)
   set(${result} FALSE PARENT_SCOPE)
   string(REGEX REPLACE "\\.h$" ".cpp" source ${header})
-  if(header MATCHES "^(tests|benchmarks)/" OR NOT EXISTS ${CMAKE_SOURCE_DIR}/${source})
+  if("$CACHE{CMAKE_UNITY_BUILD}" OR header MATCHES "^(tests|benchmarks)/" OR NOT EXISTS ${CMAKE_SOURCE_DIR}/${source})
     return()
   endif()
   file(STRINGS ${CMAKE_SOURCE_DIR}/${source} first_include REGEX "^#include" LIMIT_COUNT 1)
