@@ -115,7 +115,9 @@ void OperatorEverywhereTest::Check(support::VirtualBench& bench,
                                    const support::RecordingController& controller,
                                    const orvik::ITestElement& element) {
   const auto sent = bench.Wire().Sent();
-  if (!sent.empty()) EXPECT_EQ(sent.back(), "EREM");
+  if (!sent.empty()) {
+    EXPECT_EQ(sent.back(), "EREM");
+  }
   EXPECT_TRUE(dynamic_cast<const IKELDTest&>(element).Stopped());
 
   const auto result = element.Result();
@@ -166,10 +168,10 @@ INSTANTIATE_TEST_SUITE_P(EveryMoment, OperatorEverywhereTest, testing::ValuesIn(
                                  cases.push_back({sequence, release, action});
                            return cases;
                          }()),
-                         [](const auto& info) {
-                           return std::string(Actions()[info.param.action].name) +
-                                  (info.param.sequence ? "InASequence" : "InASingleTest") +
-                                  (info.param.release ? "Released" : "");
+                         [](const auto& tested) {
+                           return std::string(Actions()[tested.param.action].name) +
+                                  (tested.param.sequence ? "InASequence" : "InASingleTest") +
+                                  (tested.param.release ? "Released" : "");
                          });
 
 }  // namespace keld
