@@ -44,6 +44,12 @@ void CKELDElement::OwnLimits() {
   Attempt([&] { Required(As<CKELDLimitData>(Limits())).SetOwner(SelfElement()); });
 }
 
+void CKELDElement::OwnResult() {
+  Attempt([&] {
+    if (const auto Owned = ResultData()) Owned->SetOwner(SelfElement());
+  });
+}
+
 bool CKELDElement::CloneInto(CKELDElement& Copy) const {
   const auto BaseCopy = AttemptValue(std::shared_ptr<orvik::IBaseElement>(),
                                      [&] { return As<orvik::IBaseElement>(Required(mBaseElement).Clone()); });
@@ -52,6 +58,7 @@ bool CKELDElement::CloneInto(CKELDElement& Copy) const {
   Copy.OwnConfiguration();
   Copy.SetExpectedUnits(ExpectedUnits());
   Copy.OwnLimits();
+  Copy.OwnResult();
   return true;
 }
 
@@ -74,8 +81,9 @@ void CKELDElement::ITestElement_Initialize(const std::string& sPlugInID, std::in
 void CKELDElement::ITestElement_Load(std::shared_ptr<orvik::IXmlNode> Node,
                                      std::shared_ptr<orvik::IObject> Context) {
   Attempt([&] {
-    if (Required(Node).Name() == MXmlConstants::kResultItem)
-      Required(mBaseElement).SetResult(CKELDResultData::Create());
+    if (Required(Node).Name() != MXmlConstants::kResultItem) return;
+    Required(mBaseElement).SetResult(CKELDResultData::Create());
+    OwnResult();
   });
   Attempt([&] { Required(mBaseElement).Load(Node, Context); });
 }

@@ -37,9 +37,10 @@ class CKELDElement : public virtual orvik::ITestElement, public virtual IKELDTes
 
   /// Makes the base element of the host's class and installs configuration and limits in it.
   void InstallBaseElement(const std::string& sHostClass);
-  /// Tells configuration and limits that they belong to this element.
+  /// Tells configuration, limits and result that they belong to this element.
   void OwnConfiguration();
   void OwnLimits();
+  void OwnResult();
   /// Fills a fresh element of the same class as a clone of this one; false when the host could not copy the
   /// base element.
   bool CloneInto(CKELDElement& Copy) const;

@@ -43,7 +43,10 @@ bool CKELDElement::MayStart() {
 std::shared_ptr<CKELDResultData> CKELDElement::ResultData() const { return As<CKELDResultData>(Result()); }
 
 std::shared_ptr<CKELDResultData> CKELDElement::EnsureResult() {
-  if (!Result()) Required(BaseElement()).SetResult(CKELDResultData::Create());
+  if (!Result()) {
+    Required(BaseElement()).SetResult(CKELDResultData::Create());
+    OwnResult();
+  }
   return ResultData();
 }
 

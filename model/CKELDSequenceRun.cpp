@@ -76,7 +76,8 @@ bool CKELDSequence::RunChild(const std::shared_ptr<orvik::ITestElement>& iteChil
 
 void CKELDSequence::Summarise() {
   const auto Summed = Children();
-  if (!Summed || Summed->Count() == 0) return;
+  const std::int32_t lChildren = AttemptValue(std::int32_t{0}, [&] { return Required(Summed).Count(); });
+  if (lChildren == 0) return;
   Attempt([&] { EnsureResult(); });
   const auto Recorded = ResultData();
   const std::int32_t lMode =

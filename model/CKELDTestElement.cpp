@@ -1,5 +1,6 @@
 #include "model/CKELDTestElement.h"
 
+#include <limits>
 #include <utility>
 #include <vector>
 
@@ -34,8 +35,11 @@ void CKELDTestElement::ITestElement_Initialize(const std::string& sPlugInID, std
   const std::int32_t lID = TestID();
   Attempt([&] {
     auto& Configured = Required(TestConfiguration());
-    // An addition, not a bit set: a word that already has the 4 carries into the 8.
-    if (lID >= 1110 && lID <= 1165) Configured.SetOptions(Configured.Options() + 4);
+    // An addition, not a bit set: a word that already has the 4 carries into the 8. One that would overflow
+    // stays as it is.
+    constexpr std::int32_t kHighest = std::numeric_limits<std::int32_t>::max() - 4;
+    if (lID >= 1110 && lID <= 1165 && Configured.Options() <= kHighest)
+      Configured.SetOptions(Configured.Options() + 4);
     if (lID >= 910 && lID <= 965) Configured.SetOptions(Configured.Options() | 4096);
   });
 }

@@ -51,7 +51,7 @@ std::int32_t ChildrenStatus(const orvik::ITestContainer& Children) {
   bool fFailed = false;
   bool fPassed = false;
   bool fNotApplicable = false;
-  ForEachChild(Children, [&](const auto& iteChild) {
+  const bool fAllRead = ForEachChild(Children, [&](const auto& iteChild) {
     const auto Result = iteChild->Result();
     if (!Result) return;
     const std::int32_t lStatus = Result->Status();
@@ -60,6 +60,8 @@ std::int32_t ChildrenStatus(const orvik::ITestContainer& Children) {
     fNotApplicable = fNotApplicable || lStatus == MKELDConstants::kNotApplicable;
   });
   if (fFailed) return MKELDConstants::kFailed;
+  // The child that could not be read may be the one that failed.
+  if (!fAllRead) return MKELDConstants::kNotTested;
   if (fPassed) return MKELDConstants::kPassed;
   if (fNotApplicable) return MKELDConstants::kNotApplicable;
   return MKELDConstants::kNotTested;

@@ -14,7 +14,8 @@ namespace keld {
 orvik::Variant SummaryValue(const orvik::ITestContainer& Children, std::int32_t lMode);
 
 /// The status that the children's results give a sequence whose own limits held: 2 when one failed, else 1
-/// when one passed, else 3 when one was not applicable, else 0.
+/// when one passed, else 3 when one was not applicable, else 0. While a child's outcome cannot be read it is
+/// 2 or 0, never passed.
 std::int32_t ChildrenStatus(const orvik::ITestContainer& Children);
 
 }  // namespace keld

@@ -39,7 +39,10 @@ class CKELDResultData final : public virtual orvik::IResultData {
   /// Makes the element the owner of the result: remembers it (weakly) and builds the service record for it.
   /// Status 1, 2 and 3 have a record, any other drops it.
   void BuildServiceRecord(std::shared_ptr<orvik::ITestElement> iteElement);
-  /// The element of the last `BuildServiceRecord`; empty when it is gone.
+  /// Remembers the element (weakly) as the owner of a result that is complete: the service record stays as it
+  /// is.
+  void SetOwner(const std::shared_ptr<orvik::ITestElement>& iteElement) { mOwner = iteElement; }
+  /// The element of the last `BuildServiceRecord` or `SetOwner`; empty when it is gone.
   std::shared_ptr<orvik::ITestElement> Owner() const { return mOwner.lock(); }
 
  private:

@@ -135,6 +135,7 @@ void FTestGuide::SetButtons() {
   const std::int32_t lOptions = OptionsOf(mElement.lock());
   Buttons.ShowCommand(kCommandNotApplicable, (lOptions & kNotApplicableOption) != 0);
   Buttons.ShowCommand(kCommandSkip, (lOptions & kSkipOption) != 0);
+  Attempt([&] { mWindow.LockInstrumentData(fRunning); });
 }
 
 void FTestGuide::SetStatusText(const char* sText) {

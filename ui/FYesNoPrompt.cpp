@@ -63,6 +63,7 @@ void FYesNoPrompt::Load() {
 }
 
 void FYesNoPrompt::SetPrompt(const std::string& sText) {
+  const auto Self = shared_from_this();
   Load();
   lblPrompt->SetCaption(MKELDGlobalVars::Translated(sText));
 }

@@ -6,6 +6,7 @@
 
 #include "OrvikTypeLib/As.h"
 #include "OrvikTypeLib/HostClasses.h"
+#include "OrvikTypeLib/ICustomControl.h"
 #include "OrvikTypeLib/ITgContentPane.h"
 #include "OrvikTypeLib/ITgToolbar.h"
 #include "platform/IContainerSite.h"
@@ -72,6 +73,11 @@ void TestGuideWindow::Build() {
   Window.SetGrid(Layout());
   xstShowMTI->AddTab(kInstrumentTab, MKELDGlobalVars::Translated(MKELDLanguageConstants::kMtiData),
                      InstrumentPicture(), ClassIdentifiers::kDataControl);
+}
+
+void TestGuideWindow::LockInstrumentData(bool fLocked) {
+  const auto Data = As<orvik::ICustomControl>(Required(xstShowMTI).Tab(kInstrumentTab));
+  if (Data) Data->SetLocked(fLocked);
 }
 
 }  // namespace keld

@@ -38,6 +38,9 @@ struct TestGuideWindow {
 
   /// Puts the controls on the form and places them. `HostError` when the host has no such control.
   void Build();
+  /// Keeps the operator from choosing another tester, or lets him again: its lead calibration would correct
+  /// the readings of the one that is measuring.
+  void LockInstrumentData(bool fLocked);
 };
 
 }  // namespace keld
