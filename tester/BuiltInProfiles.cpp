@@ -20,7 +20,7 @@ struct Row {
 // clang-format off
 constexpr Row kSoundClass1[] = {
     // mains voltage, protective earth
-    {210, "231.4"}, {410, "0.123"}, {420, "0.131"},
+    {210, "231.4"}, {410, "0.123"}, {420, "0.058"},
     // earth leakage
     {610, "182"}, {620, "176"}, {630, "341"}, {640, "328"},
     // enclosure leakage
@@ -46,7 +46,7 @@ constexpr Row kClass2Changes[] = {
 
 // A corroded earth contact: 1.85 Ohm in the protective conductor, and the current looks for other ways.
 constexpr Row kBrokenEarthChanges[] = {
-    {410, "1.85"}, {420, "1.92"}, {610, "5480"}, {620, "5310"}, {630, "10820"}, {640, "10610"},
+    {410, "1.85"}, {420, "1.78"}, {610, "5480"}, {620, "5310"}, {630, "10820"}, {640, "10610"},
     {710, "214"},  {720, "206"},  {730, "572"},  {740, "588"},  {750, "811"},   {760, "794"},
 };
 

@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "tester/Fault.h"
 #include "tester/Faults.h"
 
 namespace sim {
@@ -16,26 +17,20 @@ class FaultScript : public Faults {
   /// Throws InputError naming `name` and the line when the text is not a fault script.
   FaultScript(std::string_view content, const std::string& name);
 
-  void OnReply(const Exchange& exchange, std::vector<Outgoing>& replies) override;
+  void OnReply(const Exchange& exchange, Reply& reply) override;
 
   /// How many rules the script has.
   std::size_t Size() const { return rules_.size(); }
 
  private:
-  enum class Kind { Delay, Drop, WrongMnemonic, Error, HangUp, Double, Truncate, Garble, Reply };
-
   struct Rule {
     std::string command;    ///< "ANY" for every command
     std::uint64_t nth = 0;  ///< which occurrence, counted from 1; 0 for every one
-    Kind kind = Kind::Drop;
-    int number = 0;          ///< milliseconds, error number or byte count
-    std::string text;        ///< the line of Kind::Reply, in the wire's character set
+    Fault fault;
     std::uint64_t seen = 0;  ///< occurrences so far
   };
 
   static Rule ParseRule(const std::string& line, const std::string& name, int number);
-  static void ParseFault(std::string_view fault, Rule& rule, const std::string& name, int number);
-  static void Apply(const Rule& rule, std::vector<Outgoing>& replies);
 
   std::vector<Rule> rules_;
 };

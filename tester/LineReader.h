@@ -35,6 +35,12 @@ class LineReader {
     }
   }
 
+  /// Forgets the line that has begun.
+  void Restart() {
+    line_.clear();
+    bad_ = false;
+  }
+
   /// Lines dropped so far.
   std::uint64_t Dropped() const { return dropped_; }
 

@@ -1,5 +1,10 @@
 #include "tester/Program.h"
 
+#include <poll.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <chrono>
 #include <cstdio>
 #include <memory>
 #include <optional>
@@ -9,14 +14,38 @@
 #include "tester/FaultScript.h"
 #include "tester/ProfileFile.h"
 #include "tester/PseudoTerminal.h"
+#include "tester/Replay.h"
+#include "tester/SeededFaults.h"
 #include "tester/SerialLoop.h"
 #include "tester/StopSignal.h"
 #include "tester/Tester.h"
+#include "tester/Text.h"
 #include "tester/Trace.h"
 
 namespace sim {
 
 namespace {
+
+/// Says a line to whoever reads; nobody who does not may hold the tester up.
+void Say(std::FILE* stream, const std::string& text) {
+  std::fflush(stream);
+  pollfd room{fileno(stream), POLLOUT, 0};
+  if (poll(&room, 1, 0) == 1 && (room.revents & POLLOUT) != 0) {
+    std::fprintf(stream, "keld-sim: %s\n", text.c_str());
+    std::fflush(stream);
+  }
+}
+
+std::shared_ptr<Faults> MakeFaults(const Options& options) {
+  if (options.faults) return LoadFaultScript(*options.faults);
+  if (options.replay)
+    return std::make_shared<Replay>(LoadWireLog(*options.replay),
+                                    [](const std::string& remark) { Say(stderr, remark); });
+  if (options.faultSeed)
+    return std::make_shared<SeededFaults>(*options.faultSeed, options.faultRate,
+                                          [](const std::string& line) { Say(stdout, "fault: " + line); });
+  return nullptr;
+}
 
 Tester MakeTester(const Options& options) {
   Profile profile = LoadProfile(options.profile);
@@ -26,8 +55,47 @@ Tester MakeTester(const Options& options) {
     profile.SetIdentity(std::move(identity));
   }
   Tester tester(std::move(profile), options.timeScale);
-  if (options.faults) tester.UseFaults(LoadFaultScript(*options.faults));
+  tester.UseFaults(MakeFaults(options));
   return tester;
+}
+
+/// What the ready line says beside the port: all that is needed to have the same again.
+std::string Setting(const Options& options, const Tester& tester) {
+  std::string text = "profile " + tester.Model().Name() + ", serial " + tester.Model().Who().serial;
+  if (options.faultSeed) {
+    char rate[32];
+    std::snprintf(rate, sizeof rate, "%g", options.faultRate);
+    text += ", --fault-seed " + std::to_string(*options.faultSeed) + " --fault-rate " + rate;
+  }
+  if (options.replay) text += ", replay of " + *options.replay;
+  return text;
+}
+
+/// Waits with the cable unplugged; false when the tester is to end.
+bool StaysUnplugged(std::chrono::microseconds time, int stop) {
+  const auto until = std::chrono::steady_clock::now() + time;
+  for (;;) {
+    const auto left = std::chrono::ceil<std::chrono::milliseconds>(until - std::chrono::steady_clock::now());
+    pollfd watched{stop, POLLIN, 0};
+    if (poll(&watched, 1, static_cast<int>(std::max(left.count(), std::chrono::milliseconds::rep{0}))) > 0)
+      return false;
+    if (std::chrono::steady_clock::now() >= until) return true;
+  }
+}
+
+/// One life of the cable: from plugging in to stop or hang-up. Gives how long it stays out then; empty when
+/// the tester is to end.
+std::optional<std::chrono::microseconds> Serve(const Options& options, Tester& tester, int stop, Trace* trace,
+                                               const std::string& greeting) {
+  const PseudoTerminal terminal;
+  const DeviceLink link(options.link, terminal.DevicePath());
+  std::printf("keld-sim: ready on %s (%s), %s\n", terminal.DevicePath().c_str(), options.link.c_str(),
+              greeting.c_str());
+  std::fflush(stdout);
+  SerialLoop loop(tester, terminal.Fd(), stop, trace);
+  if (loop.Run() == SerialLoop::End::Stopped) return std::nullopt;
+  Say(stdout, loop.BackAfter() ? "unplugged" : "hung up");
+  return loop.BackAfter();
 }
 
 }  // namespace
@@ -39,17 +107,14 @@ void RunTester(const Options& options, int parent) {
   Tester tester = MakeTester(options);
   std::optional<Trace> trace;
   if (options.trace) trace.emplace(*options.trace);
-  const PseudoTerminal terminal;
-  const DeviceLink link(options.link, terminal.DevicePath());
+  Trace* const noted = trace ? &*trace : nullptr;
 
-  std::printf("keld-sim: ready on %s (%s), profile %s, serial %s\n", terminal.DevicePath().c_str(),
-              options.link.c_str(), tester.Model().Name().c_str(), tester.Model().Who().serial.c_str());
-  std::fflush(stdout);
-
-  SerialLoop loop(tester, terminal.Fd(), stop.Fd(), trace ? &*trace : nullptr);
-  if (loop.Run() == SerialLoop::End::HungUp) {
-    std::printf("keld-sim: hung up, as the fault script says\n");
-    std::fflush(stdout);
+  std::string greeting = Setting(options, tester);
+  while (const auto gap = Serve(options, tester, stop.Fd(), noted, greeting)) {
+    if (!StaysUnplugged(*gap, stop.Fd())) return;
+    tester.PlugIn();
+    if (noted) noted->Write("note", "plugged in again");
+    greeting = "plugged in again";
   }
 }
 

@@ -31,10 +31,12 @@ SerialLoop::SerialLoop(Tester& tester, int terminal, int stop, Trace* trace)
     : tester_(tester), terminal_(terminal), stop_(stop), trace_(trace) {
   if (trace_)
     tester_.OnLine([this](std::string_view bytes, bool dropped) { Note(dropped ? "lost" : "recv", bytes); });
+  tester_.OnNote([this](std::string_view note) { Note("note", note); });
 }
 
 SerialLoop::~SerialLoop() {
-  if (trace_) tester_.OnLine(nullptr);
+  tester_.OnLine(nullptr);
+  tester_.OnNote(nullptr);
 }
 
 SerialLoop::End SerialLoop::Run() {
@@ -54,6 +56,7 @@ SerialLoop::End SerialLoop::Run() {
 void SerialLoop::SendDue() {
   while (const auto output = tester_.TakeDue(Now())) {
     if (!output->bytes.empty()) Send(output->bytes);
+    if (output->hangUp) backAfter_ = output->backAfter;
   }
 }
 

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <chrono>
 #include <cstddef>
+#include <optional>
 #include <string>
 
 #include "tester/Tester.h"
@@ -24,6 +26,9 @@ class SerialLoop {
   /// Runs until `stop` is readable or a fault hangs up. Throws SystemFailure when the terminal fails.
   End Run();
 
+  /// After a hang-up: how long until the cable is to be plugged in again; empty when that is for good.
+  std::optional<std::chrono::microseconds> BackAfter() const { return backAfter_; }
+
  private:
   void SendDue();
   void Send(const std::string& bytes);
@@ -38,6 +43,7 @@ class SerialLoop {
   Trace* const trace_;
   std::string unsent_;
   bool stopRequested_ = false;
+  std::optional<std::chrono::microseconds> backAfter_;
 };
 
 }  // namespace sim

@@ -71,17 +71,26 @@ void Tester::Obey(std::string_view line, Instant now) {
 
   Answer answer = AnswerTo(line);
   answer.line += kLineEnd;
-  busyUntil_ = std::max(busyUntil_, now) + Scaled(answer.takes);
-  if (!faults_) {
-    Queue({busyUntil_, std::move(answer.line), false});
-    return;
+  reply_.lines.clear();
+  reply_.lines.push_back({std::move(answer.line), {}, false, {}});
+  reply_.takes = answer.takes;
+  if (faults_) Spoil({command, commands_, line});
+
+  busyUntil_ = std::max(busyUntil_, now) + Scaled(reply_.takes);
+  for (Outgoing& out : reply_.lines) {
+    Output output{busyUntil_ + Scaled(out.delay), std::move(out.bytes), out.hangUp, {}};
+    if (out.backAfter) output.backAfter = Scaled(*out.backAfter);
+    Queue(std::move(output));
   }
-  replies_.clear();
-  replies_.push_back({std::move(answer.line), {}, false});
-  faults_->OnReply({command, commands_}, replies_);
-  for (Outgoing& reply : replies_) {
-    Queue({busyUntil_ + Scaled(reply.delay), std::move(reply.bytes), reply.hangUp});
-  }
+}
+
+void Tester::Spoil(const Exchange& exchange) {
+  reply_.forget = false;
+  reply_.notes.clear();
+  faults_->OnReply(exchange, reply_);
+  if (reply_.forget) LeaveRemoteMode();
+  if (!noteListener_) return;
+  for (const std::string& note : reply_.notes) noteListener_(note);
 }
 
 Tester::Answer Tester::AnswerTo(std::string_view line) {
@@ -144,10 +153,14 @@ Tester::Answer Tester::GetResult(const Message& command) {
 }
 
 Tester::Answer Tester::LeaveRemote() {
+  LeaveRemoteMode();
+  return {"erem", {}};
+}
+
+void Tester::LeaveRemoteMode() {
   remote_ = false;
   powerOn_ = false;
   started_.reset();
-  return {"erem", {}};
 }
 
 Tester::Answer Tester::SwitchPower(bool on) {
@@ -192,8 +205,14 @@ std::optional<Output> Tester::TakeDue(Instant now) {
   if (output.hangUp) {
     hungUp_ = true;
     waiting_.clear();
+    reader_.Restart();
   }
   return output;
+}
+
+void Tester::PlugIn() {
+  hungUp_ = false;
+  busyUntil_ = Instant::min();
 }
 
 }  // namespace sim

@@ -34,6 +34,7 @@ struct Output {
   Instant due{};
   std::string bytes;    ///< normally one line with its end
   bool hangUp = false;  ///< the line ends after these bytes, as if the cable were pulled
+  std::optional<std::chrono::microseconds> backAfter{};  ///< with `hangUp`: plug in again after this time
 };
 
 /// The simulated tester: takes the bytes of the serial line and answers them. It has neither a clock nor a
@@ -53,6 +54,9 @@ class Tester {
   /// Hears of every line that arrives: the bytes without their end, and whether the line was dropped.
   using LineListener = std::function<void(std::string_view bytes, bool dropped)>;
 
+  /// Hears remarks on what the tester does wrong on purpose.
+  using NoteListener = std::function<void(std::string_view note)>;
+
   static constexpr double kLowestTimeScale = 0.001;
   static constexpr double kHighestTimeScale = 1e9;
 
@@ -65,7 +69,10 @@ class Tester {
   /// Tells `listener` of every line that arrives.
   void OnLine(LineListener listener) { listener_ = std::move(listener); }
 
-  /// Takes bytes that have arrived at `now`. Nothing is taken any more once the line has been hung up.
+  /// Tells `listener` of every remark that a fault leaves.
+  void OnNote(NoteListener listener) { noteListener_ = std::move(listener); }
+
+  /// Takes bytes that have arrived at `now`. Nothing is taken as long as the line is hung up.
   void Receive(std::string_view bytes, Instant now);
 
   /// When the next output is due; empty when nothing waits.
@@ -78,7 +85,10 @@ class Tester {
   bool InRemoteMode() const { return remote_; }
   /// True after "#PON", until "#POF" or the end of remote mode. It has no bearing on the readings.
   bool PowerOn() const { return powerOn_; }
-  /// True once an output with `hangUp` has been taken.
+  /// Plugs the cable in again after an output with `hangUp`. The tester is as it was.
+  void PlugIn();
+
+  /// True once an output with `hangUp` has been taken, until `PlugIn`.
   bool HungUp() const { return hungUp_; }
   /// Good lines received so far.
   std::uint64_t CommandsReceived() const { return commands_; }
@@ -98,6 +108,8 @@ class Tester {
     std::chrono::microseconds takes{};
   };
 
+  void Spoil(const Exchange& exchange);
+  void LeaveRemoteMode();
   void Obey(std::string_view line, Instant now);
   Answer AnswerTo(std::string_view line);
   Answer EnterRemote();
@@ -115,6 +127,7 @@ class Tester {
   const double timeScale_;
   std::shared_ptr<Faults> faults_;
   LineListener listener_;
+  NoteListener noteListener_;
   LineReader reader_;
   bool remote_ = false;
   bool powerOn_ = false;
@@ -122,7 +135,7 @@ class Tester {
   std::optional<StartedTest> started_;
   Instant busyUntil_ = Instant::min();
   std::deque<Output> waiting_;  ///< by due time; equal ones in order of arrival
-  std::vector<Outgoing> replies_;
+  Reply reply_;
   std::uint64_t commands_ = 0;
   std::uint64_t lost_ = 0;
 };

@@ -74,6 +74,14 @@ std::string_view Trim(std::string_view text) {
   return text.substr(first, text.find_last_not_of(" \t") - first + 1);
 }
 
+std::string_view TakeWord(std::string_view& text) {
+  text = Trim(text);
+  const std::size_t end = std::min(text.find_first_of(" \t"), text.size());
+  const std::string_view word = text.substr(0, end);
+  text = Trim(text.substr(end));
+  return word;
+}
+
 std::string Quoted(std::string_view text) {
   std::string quoted(1, '\'');
   quoted += text;

@@ -23,6 +23,9 @@ bool IsSendable(std::string_view utf8);
 /// The text without blanks and tabs at either end.
 std::string_view Trim(std::string_view text);
 
+/// Cuts the first word off `text`, with the blanks around it.
+std::string_view TakeWord(std::string_view& text);
+
 /// The text in single quotation marks, for messages.
 std::string Quoted(std::string_view text);
 

@@ -18,8 +18,6 @@ namespace sim {
 
 namespace {
 
-constexpr std::size_t kLargestFile = 1024 * 1024;
-
 std::string ErrorText(int error) { return std::generic_category().message(error); }
 
 void CheckCharacters(const std::string& name, int number, std::string_view line) {
@@ -56,7 +54,7 @@ std::vector<TextLine> SplitTextLines(std::string_view content, const std::string
   return lines;
 }
 
-std::string ReadTextFile(const std::string& path) {
+std::string ReadTextFile(const std::string& path, std::size_t largest) {
   // Non-blocking: opening a pipe that nobody writes must not hang.
   const UniqueFd file(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
   if (!file) throw InputError(path + ": cannot be opened: " + ErrorText(errno));
@@ -72,8 +70,9 @@ std::string ReadTextFile(const std::string& path) {
     if (count < 0 && errno == EINTR) continue;
     if (count < 0) throw InputError(path + ": cannot be read: " + ErrorText(errno));
     content.append(buffer.data(), static_cast<std::size_t>(count));
-    if (content.size() > kLargestFile)
-      throw InputError(path + ": is larger than 1 MiB; this is no profile or fault script");
+    if (content.size() > largest)
+      throw InputError(path + ": is larger than " + std::to_string(largest / (1024 * 1024)) +
+                       " MiB; this is no profile, fault script or wire log");
   }
 }
 

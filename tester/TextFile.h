@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -17,8 +18,11 @@ struct TextLine {
 /// or for text that is not UTF-8 within ISO 8859-1.
 std::vector<TextLine> SplitTextLines(std::string_view content, const std::string& name);
 
-/// Reads a whole regular file of at most 1 MiB. Throws InputError, naming the file, when it cannot.
-std::string ReadTextFile(const std::string& path);
+inline constexpr std::size_t kLargestTextFile = 1024 * 1024;      ///< a profile or a fault script
+inline constexpr std::size_t kLargestWireLog = 16 * 1024 * 1024;  ///< orvik-bench ends its logs at 4 MiB
+
+/// Reads a whole regular file of at most `largest` bytes. Throws InputError, naming the file, when it cannot.
+std::string ReadTextFile(const std::string& path, std::size_t largest = kLargestTextFile);
 
 /// Throws InputError "NAME:LINE: MESSAGE".
 [[noreturn]] void FailAt(const std::string& name, int line, const std::string& message);

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "tester/Errors.h"
+#include "tester/Manual.h"
 #include "tester/Options.h"
 #include "tester/Program.h"
 
@@ -17,6 +18,8 @@ int main(int argc, char** argv) {
     const sim::Options options = sim::ParseOptions(std::vector<std::string>(argv + 1, argv + argc));
     if (options.action == sim::Options::Action::ShowHelp) {
       std::fputs(sim::HelpText().c_str(), stdout);
+    } else if (options.action == sim::Options::Action::ShowManual) {
+      std::fputs(sim::ManualPage().c_str(), stdout);
     } else if (options.action == sim::Options::Action::ShowVersion) {
       std::fputs(sim::VersionText().c_str(), stdout);
     } else {

@@ -1,0 +1,68 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "tester/Faults.h"
+
+namespace sim {
+
+/// The ways in which a reply can go wrong; `FaultForms` tells what each one does.
+enum class FaultKind : std::uint8_t {
+  Delay,
+  Drop,
+  Double,
+  Truncate,
+  Shorten,
+  Stall,
+  Garble,
+  Noise,
+  WrongMnemonic,
+  Error,
+  Reply,
+  Forget,
+  HangUp,
+  Unplug
+};
+
+/// One thing that goes wrong with one reply.
+struct Fault {
+  FaultKind kind = FaultKind::Drop;
+  int number = 0;         ///< a count of bytes or an error number, where the kind has one
+  std::optional<int> ms;  ///< a time in milliseconds, where the kind has one
+  std::string text;       ///< the line of FaultKind::Reply, in the wire's character set
+};
+
+inline constexpr int kLongestFaultTime = 600000;   ///< ms
+inline constexpr int kHighestErrorNumber = 32767;  ///< error numbers are 16-bit at the receiver
+
+/// How a fault is written in a script, and what it does.
+struct FaultForm {
+  /// Whether a form takes a number, a time, or the rest of the line.
+  enum class Argument : std::uint8_t { None, Bytes, ErrorNumber, Text };
+  enum class Time : std::uint8_t { None, Optional, Required };
+
+  std::string_view word;
+  FaultKind kind;
+  Argument argument;
+  Time time;
+  std::string_view syntax;   ///< the word with its arguments, such as "stall N [MS]"
+  std::string_view meaning;  ///< a sentence about the reply
+};
+
+/// All of them, in the order in which they are taught.
+const std::vector<FaultForm>& FaultForms();
+
+/// Reads a fault as it stands in a script. Throws InputError naming `name` and `line` when it is none.
+Fault ParseFault(std::string_view text, const std::string& name, int line);
+
+/// The fault as it stands in a script.
+std::string FaultText(const Fault& fault);
+
+/// Spoils a reply.
+void Apply(const Fault& fault, Reply& reply);
+
+}  // namespace sim
