@@ -14,5 +14,7 @@ Figure MeasureGuidedTest(const Context& context);
 Figure MeasureRoundTrip(const Context& context);
 Figure MeasureLibrarySize(const Context& context);
 Figure MeasureStart(const Context& context);
+Figure MeasureHtmlReport(const Context& context);
+Figure MeasurePdfReport(const Context& context);
 
 }  // namespace benchmarks

@@ -12,6 +12,8 @@ const std::vector<Benchmark>& AllBenchmarks() {
       {"guided-test", "complete tests a second with the guide and the result around them", MeasureGuidedTest},
       {"round-trip", "our own time for a command and its reply on a pseudo-terminal", MeasureRoundTrip},
       {"library-size", "size of the plug-in library, stripped", MeasureLibrarySize},
+      {"html-report", "a document with 1,000 results written as HTML", MeasureHtmlReport},
+      {"pdf-report", "the same document written as PDF", MeasurePdfReport},
       {"start", "\"orvik-bench tests\" in a new state folder", MeasureStart},
   };
   return all;

@@ -14,6 +14,7 @@
 #include "host/services/RegistryStore.h"
 #include "host/services/ServiceRecord.h"
 #include "host/services/Text.h"
+#include "host/services/Tr.h"
 #include "host/services/XmlDocument.h"
 #include "host/standards/Limit.h"
 #include "host/standards/Standard.h"
@@ -25,7 +26,7 @@ namespace {
 using orvik::HostError;
 namespace classes = orvik::HostClasses;
 
-constexpr char kSource[] = "orvik-bench";
+constexpr char kHostSource[] = "orvik-bench";
 
 /// The value that the catalogue of `Settings::catalogue` stands in for.
 constexpr std::int32_t kHive = static_cast<std::int32_t>(0x80000002U);
@@ -87,8 +88,8 @@ std::shared_ptr<orvik::IObject> Host::IHost_CreateObject(const std::string& sCla
   for (const auto& library : classLibraries_) {
     if (auto created = library->CreateObject(sClassID)) return created;
   }
-  throw HostError(HostError::kClassNotRegistered, kSource,
-                  "the class \"" + sClassID + "\" is not registered; open the plug-in that it belongs to");
+  throw HostError(HostError::kClassNotRegistered, kHostSource,
+                  Tr("the class \"%%1\" is not registered; open the plug-in that it belongs to", {sClassID}));
 }
 
 std::shared_ptr<orvik::IPlugIn> Host::OpenPlugIn(const std::filesystem::path& library) {
@@ -97,8 +98,8 @@ std::shared_ptr<orvik::IPlugIn> Host::OpenPlugIn(const std::filesystem::path& li
   const auto plugInClass = opened->PlugInClass();
   const auto plugIn = orvik::As<orvik::IPlugIn>(opened->Classes()->CreateObject(plugInClass));
   if (!plugIn)
-    throw HostError(HostError::kClassNotRegistered, kSource,
-                    library.string() + ": the class \"" + plugInClass + "\" is no plug-in");
+    throw HostError(HostError::kClassNotRegistered, kHostSource,
+                    Tr("%%1: the class \"%%2\" is no plug-in", {library.string(), plugInClass}));
   AddClasses(opened->Classes());
   plugInLibraries_.push_back(std::move(opened));
   plugIn->Initialize(self);

@@ -4,24 +4,25 @@
 
 #include "OrvikTypeLib/HostError.h"
 #include "host/services/Text.h"
+#include "host/services/Tr.h"
 
 namespace bench {
 
 PlugInLibrary::PlugInLibrary(const std::filesystem::path& file, const std::shared_ptr<orvik::IHost>& host)
     : file_(std::filesystem::absolute(file)) {
-  if (!std::filesystem::exists(file_)) Refuse("there is no such file");
+  if (!std::filesystem::exists(file_)) Refuse(Tr("there is no such file"));
   handle_ = dlopen(file_.c_str(), RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE);
   if (!handle_) Refuse(dlerror());
   const auto version = Find<orvik::ContractVersionEntry>(orvik::kContractVersionEntry)();
   if (version != orvik::kContractVersion)
-    Refuse("it was built for version " + std::to_string(version) +
-           " of the contract, and this program is for " + std::to_string(orvik::kContractVersion));
+    Refuse(Tr("it was built for version %%1 of the contract, and this program is for %%2",
+              {std::to_string(version), std::to_string(orvik::kContractVersion)}));
   const auto open = Find<orvik::OpenLibraryEntry>(orvik::kOpenLibraryEntry);
   close_ = Find<orvik::CloseLibraryEntry>(orvik::kCloseLibraryEntry);
   open(host, classes_);
   if (!classes_) {
     close_();
-    Refuse("it does not open");
+    Refuse(Tr("it does not open"));
   }
 }
 
@@ -34,7 +35,7 @@ PlugInLibrary::~PlugInLibrary() {
 template <class Entry>
 Entry* PlugInLibrary::Find(const char* name) const {
   auto* const address = dlsym(handle_, name);
-  if (!address) Refuse(std::string("it has no entry point \"") + name + "\"");
+  if (!address) Refuse(Tr("it has no entry point \"%%1\"", {name}));
   return reinterpret_cast<Entry*>(address);
 }
 
@@ -43,12 +44,12 @@ std::string PlugInLibrary::PlugInClass() const {
     const auto identifier = classes_->ClassIdentifier(index);
     if (LowerAscii(identifier).ends_with("plugin")) return identifier;
   }
-  Refuse("it has no plug-in class");
+  Refuse(Tr("it has no plug-in class"));
 }
 
 void PlugInLibrary::Refuse(const std::string& reason) const {
   throw orvik::HostError(orvik::HostError::kClassNotRegistered, "orvik-bench",
-                         file_.string() + " cannot be used as a plug-in: " + reason);
+                         Tr("%%1 cannot be used as a plug-in: %%2", {file_.string(), reason}));
 }
 
 }  // namespace bench

@@ -45,6 +45,11 @@ ensure_packages() {
   fi
   say "Installing: ${missing[*]}"
   export DEBIAN_FRONTEND=noninteractive
+  # The tests start a database server of their own; the system wants none for them.
+  if [[ " ${missing[*]} " == *" postgresql"* && ! -e /etc/postgresql-common/createcluster.conf ]]; then
+    mkdir -p /etc/postgresql-common
+    say "create_main_cluster = false" >/etc/postgresql-common/createcluster.conf
+  fi
   logged apt-update apt-get -o Acquire::Retries=3 -qq update ||
     fail "the package lists could not be fetched: is there a network? Missing: ${missing[*]}"
   logged apt-install apt-get -o Acquire::Retries=3 -qq install -y --no-install-recommends "${missing[@]}" </dev/null ||

@@ -7,6 +7,8 @@
 
 namespace bench {
 
+class CalibrationWindow;
+
 /// `calibrate`: has the tester measure the resistance of its test leads, and stores it under its serial
 /// number.
 class CalibrateCommand final : public Command {
@@ -15,6 +17,8 @@ class CalibrateCommand final : public Command {
   ExitStatus Run(const GlobalOptions& options) override;
 
  private:
+  void Operate(Workbench& workbench, CalibrationWindow& window) const;
+
   TesterOptions tester_;
   std::string serial_;
   bool json_ = false;

@@ -2,6 +2,7 @@
 
 #include "OrvikTypeLib/As.h"
 #include "host/run/GuideToolbar.h"
+#include "host/services/Tr.h"
 #include "platform/Controls.h"
 #include "platform/IForm.h"
 
@@ -55,18 +56,18 @@ void CalibrationWindow::Operate() {
 }
 
 std::string CalibrationWindow::Obstacle() const {
-  if (cancelled_) return "stopped; nothing was stored";
+  if (cancelled_) return Tr("stopped; nothing was stored");
   if (const auto& error = workbench_.Ports().LastError(); !error.empty()) return error;
   const auto& doubts = doubts_.Of(kCalibration);
-  if (!doubts.empty()) return "the measurement is doubtful and was not stored: " + doubts.front();
+  if (!doubts.empty()) return Tr("the measurement is doubtful and was not stored: %%1", {doubts.front()});
   const auto serial = TextBox(*form_, kSerial);
   if (serial && serial->Text().empty())
-    return "the tester told no serial number to store the value under; give one with --serial";
+    return Tr("the tester told no serial number to store the value under; give one with --serial");
   const auto save = form_->Find(kSave);
   if (!save || !save->Enabled())
-    return "the tester gave no reading; check that it is switched on and connected, and the clip at the "
-           "ground of its "
-           "power socket";
+    return Tr(
+        "the tester gave no reading; check that it is switched on and connected, and the clip at the ground "
+        "of its power socket");
   return {};
 }
 

@@ -5,6 +5,7 @@
 #include "OrvikTypeLib/IXmlNode.h"
 #include "host/app/InputError.h"
 #include "host/services/Files.h"
+#include "host/services/Tr.h"
 #include "host/services/XmlDocument.h"
 
 namespace bench {
@@ -14,15 +15,16 @@ std::string ReadCatalogue(const std::filesystem::path& file) {
   try {
     text = ReadFile(file);
   } catch (const orvik::HostError& error) {
-    throw InputError("catalogue: " + error.Description());
+    throw InputError(Tr("catalogue: %%1", {error.Description()}));
   }
   XmlDocument xml;
   orvik::IXmlDocument& document = xml;
   if (!document.LoadFromString(text))
-    throw InputError("catalogue " + file.string() + ": " + document.LastError() + "; correct the file");
+    throw InputError(Tr("catalogue %%1: %%2; correct the file", {file.string(), document.LastError()}));
   if (!document.FindElement("TemplateData"))
-    throw InputError("catalogue " + file.string() +
-                     ": has no element \"TemplateData\"; name a catalogue of tests with --catalogue");
+    throw InputError(
+        Tr("catalogue %%1: has no element \"TemplateData\"; name a catalogue of tests with --catalogue",
+           {file.string()}));
   return text;
 }
 

@@ -11,9 +11,9 @@ namespace bench {
 std::string ReadingText(const ElementSummary& element);
 
 /// The element in one line: identifier, verdict, reading, name.
-std::string LineOf(const ElementSummary& element);
+std::string LineOf(const ElementSummary& element, bool coloured = false);
 
 /// What `run` and `show` print of a document.
-std::string TextOf(const DocumentSummary& document);
+std::string TextOf(const DocumentSummary& document, bool coloured = false);
 
 }  // namespace bench

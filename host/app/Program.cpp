@@ -7,15 +7,24 @@
 
 #include "OrvikTypeLib/HostError.h"
 #include "host/app/CalibrateCommand.h"
+#include "host/app/CheckCommand.h"
 #include "host/app/Command.h"
 #include "host/app/ConfigCommand.h"
 #include "host/app/InputError.h"
 #include "host/app/LimitCommand.h"
 #include "host/app/NewCommand.h"
-#include "host/app/ReportCommand.h"
-#include "host/app/RunCommand.h"
 #include "host/app/ShowCommand.h"
+#include "host/app/StandardsCommand.h"
 #include "host/app/TestsCommand.h"
+#include "host/app/archive/ArchiveCommand.h"
+#include "host/app/help/CompletionCommand.h"
+#include "host/app/help/HelpFormat.h"
+#include "host/app/help/ManualCommand.h"
+#include "host/app/help/ParseErrorText.h"
+#include "host/app/help/ProgramLanguage.h"
+#include "host/app/report/ReportCommand.h"
+#include "host/app/run/RunCommand.h"
+#include "host/services/Tr.h"
 
 namespace bench {
 
@@ -39,22 +48,24 @@ std::vector<Entry> Declare(CLI::App& program) {
 }
 
 void DeclareGlobal(CLI::App& program, GlobalOptions& options) {
-  program.add_option("--state", options.state, "Folder of settings and error log; otherwise ORVIK_STATE")
+  program.add_option("--state", options.state, Tr("Folder of settings and error log; otherwise ORVIK_STATE"))
       ->type_name("DIR");
-  program.add_option("--catalogue", options.catalogue, "Take the catalogue of tests from this file")
+  program.add_option("--catalogue", options.catalogue, Tr("Take the catalogue of tests from this file"))
       ->type_name("FILE");
-  program.add_option("--lang", options.language, "Language of texts, such as da; otherwise English")
+  program
+      .add_option("--lang", options.language,
+                  Tr("Language of texts, such as de; otherwise that of ORVIK_LANG or the locale"))
       ->type_name("L");
-  program.set_version_flag("--version", "orvik-bench " ORVIK_VERSION, "Show the version");
-  program.set_help_all_flag("--help-all", "Show the options of all commands");
-  program.footer(
-      "Exit status: 0 passed or done, 1 something failed its limits, 2 something was not completed,\n"
-      "3 bad input, 4 internal error.\n\n"
-      "Example:\n"
-      "  orvik-bench new pump.orvik --add 1700\n"
-      "  orvik-bench limit pump.orvik --element 5 --standard \"IEC 62353\" --high 300\n"
-      "  orvik-bench run pump.orvik --port /dev/ttyUSB0\n"
-      "  orvik-bench run pump.orvik --simulate sound-class-1 --time-scale 100");
+  program.set_version_flag("--version", "orvik-bench " ORVIK_VERSION, Tr("Show the version"));
+  program.set_help_all_flag("--help-all", Tr("Show the options of all commands"));
+  program.footer(Tr("Exit status: 0 passed or done, 1 something failed its limits, 2 something was not "
+                    "completed,\n3 bad input, 4 internal error.") +
+                 "\n\n" + Tr("Example:") +
+                 "\n"
+                 "  orvik-bench new pump.orvik --add 1700\n"
+                 "  orvik-bench limit pump.orvik --element 5 --standard \"IEC 62353\" --high 300\n"
+                 "  orvik-bench run pump.orvik --port /dev/ttyUSB0\n"
+                 "  orvik-bench run pump.orvik --simulate sound-class-1 --time-scale 100");
   program.require_subcommand(0, 1);  // a missing one is told below: an unknown one is then told as such
 }
 
@@ -71,9 +82,9 @@ ExitStatus RunChosen(const std::vector<Entry>& entries, const GlobalOptions& opt
     std::cout.flush();
     if (std::cout) return status;
     return Tell(status == ExitStatus::kPassed ? ExitStatus::kIncomplete : status,
-                "the standard output cannot be written");
+                Tr("the standard output cannot be written"));
   }
-  throw InputError("a command is needed; \"orvik-bench --help\" shows those there are");
+  throw InputError(Tr("a command is needed; \"orvik-bench --help\" shows those there are"));
 }
 
 /// Errors of the host about files, arguments and classes come from what was given on the command line.
@@ -90,14 +101,17 @@ ExitStatus StatusOf(const orvik::HostError& error) {
   }
 }
 
-}  // namespace
-
-ExitStatus RunProgram(int argumentCount, const char* const* arguments) {
-  CLI::App program{"Plans, runs and records electrical-safety tests with a KELD tester.", "orvik-bench"};
+ExitStatus ParseAndRun(int argumentCount, const char* const* arguments) {
+  // Before anything is told: the help is in that language too.
+  const auto language = ChooseProgramLanguage(argumentCount, arguments);
+  CLI::App program{Tr("Plans, runs and records electrical-safety tests with a KELD tester."), "orvik-bench"};
+  program.set_help_flag("-h,--help", Tr("Print this help message and exit"));
+  program.formatter(std::make_shared<HelpFormat>());
   GlobalOptions options;
   DeclareGlobal(program, options);
-  const auto entries = Declare<TestsCommand, NewCommand, LimitCommand, ConfigCommand, RunCommand, ShowCommand,
-                               ReportCommand, CalibrateCommand>(program);
+  const auto entries = Declare<TestsCommand, NewCommand, LimitCommand, StandardsCommand, CheckCommand,
+                               ConfigCommand, RunCommand, ShowCommand, ReportCommand, CalibrateCommand,
+                               ArchiveCommand, CompletionCommand, ManualCommand>(program);
   try {
     program.parse(argumentCount, arguments);
   } catch (const CLI::Success& asked) {  // help and version
@@ -105,10 +119,17 @@ ExitStatus RunProgram(int argumentCount, const char* const* arguments) {
     return ExitStatus::kPassed;
   } catch (const CLI::ParseError& error) {
     return Tell(ExitStatus::kBadInput,
-                std::string(error.what()) + "; \"orvik-bench --help\" shows what can be given");
+                Tr("%%1; \"orvik-bench --help\" shows what can be given", {ParseErrorText(error)}));
   }
+  options.language = language;
+  return RunChosen(entries, options);
+}
+
+}  // namespace
+
+ExitStatus RunProgram(int argumentCount, const char* const* arguments) {
   try {
-    return RunChosen(entries, options);
+    return ParseAndRun(argumentCount, arguments);
   } catch (const InputError& error) {
     return Tell(ExitStatus::kBadInput, error.what());
   } catch (const IncompleteError& error) {
@@ -116,7 +137,7 @@ ExitStatus RunProgram(int argumentCount, const char* const* arguments) {
   } catch (const orvik::HostError& error) {
     return Tell(StatusOf(error), error.Description());
   } catch (const std::exception& error) {
-    return Tell(ExitStatus::kInternal, std::string("internal error: ") + error.what());
+    return Tell(ExitStatus::kInternal, Tr("internal error: %%1", {error.what()}));
   }
 }
 

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "host/app/InputError.h"
+#include "host/services/Tr.h"
 
 namespace bench::files {
 
@@ -22,9 +23,15 @@ std::string Environment(const char* name) {
 
 std::filesystem::path PlugInLibrary() { return Prefix() / "lib" / "orvik" / "orvikKELD.so"; }
 
+std::filesystem::path PdfModule() { return Prefix() / "lib" / "orvik" / "orvikPdf.so"; }
+
 std::filesystem::path Catalogue() { return Prefix() / "share" / "orvik" / "catalogue.xml"; }
 
 std::filesystem::path Translations() { return Prefix() / "share" / "orvik" / "translations"; }
+
+std::vector<std::filesystem::path> StandardsFolders(const std::string& stateOption) {
+  return {Prefix() / "share" / "orvik" / "standards", StateFolder(stateOption) / "standards"};
+}
 
 std::filesystem::path Simulator() { return Prefix() / "bin" / "keld-sim"; }
 
@@ -37,8 +44,8 @@ std::filesystem::path StateFolder(const std::string& option) {
   if (const auto home = Environment("HOME"); !home.empty())
     return std::filesystem::path(home) / ".local" / "state" / "orvik";
   throw InputError(
-      "there is no place for settings: neither ORVIK_STATE, XDG_STATE_HOME nor HOME is set; "
-      "name a folder with --state");
+      Tr("there is no place for settings: neither ORVIK_STATE, XDG_STATE_HOME nor HOME is set; name a folder "
+         "with --state"));
 }
 
 }  // namespace bench::files

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <filesystem>
+#include <string>
+#include <vector>
 
 namespace bench::files {
 
@@ -8,10 +10,16 @@ namespace bench::files {
 
 /// PREFIX/lib/orvik/orvikKELD.so
 std::filesystem::path PlugInLibrary();
+/// PREFIX/lib/orvik/orvikPdf.so
+std::filesystem::path PdfModule();
 /// PREFIX/share/orvik/catalogue.xml
 std::filesystem::path Catalogue();
 /// PREFIX/share/orvik/translations
 std::filesystem::path Translations();
+/// Where sets of limits lie: PREFIX/share/orvik/standards, and the folder "standards" of the state folder for
+/// own ones.
+/// @param stateOption --state, as for `StateFolder`
+std::vector<std::filesystem::path> StandardsFolders(const std::string& stateOption);
 /// PREFIX/bin/keld-sim
 std::filesystem::path Simulator();
 

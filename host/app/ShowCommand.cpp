@@ -1,17 +1,25 @@
 #include "host/app/ShowCommand.h"
 
+#include <unistd.h>
+
 #include <iostream>
 
+#include "host/app/Colour.h"
 #include "host/app/DocumentJson.h"
 #include "host/app/DocumentText.h"
 #include "host/document/Document.h"
+#include "host/services/Tr.h"
 
 namespace bench {
 
 CLI::App* ShowCommand::Declare(CLI::App& program) {
-  auto* command = program.add_subcommand("show", "Print a document and its results");
-  command->add_option("FILE", file_, "The document")->required();
-  command->add_flag("--json", json_, "Print one JSON object");
+  auto* command = program.add_subcommand("show", Tr("Print a document and its results"));
+  command->add_option("FILE", file_, Tr("The document"))->required();
+  command->add_flag("--json", json_, Tr("Print one JSON object"));
+  command->footer(
+      Tr("Examples:\n"
+         "  orvik-bench show pump-7.orvik\n"
+         "  orvik-bench show pump-7.orvik --json"));
   return command;
 }
 
@@ -21,7 +29,7 @@ ExitStatus ShowCommand::Run(const GlobalOptions& options) {
   auto standards = document->Standards();
   if (standards->Count() == 0) standards = NamedStandards(*document, *workbench.Host());
   const auto summary = SummaryOf(*document, *workbench.Host(), standards);
-  std::cout << (json_ ? Indented(JsonOf(summary)) + "\n" : TextOf(summary));
+  std::cout << (json_ ? Indented(JsonOf(summary)) + "\n" : TextOf(summary, ColoursWanted(STDOUT_FILENO)));
   return ExitStatus::kPassed;
 }
 

@@ -2,6 +2,7 @@
 
 #include <fcntl.h>
 #include <poll.h>
+#include <sys/prctl.h>
 #include <sys/wait.h>
 
 #include <cerrno>
@@ -14,6 +15,7 @@
 #include "host/app/InputError.h"
 #include "host/app/ProgramFiles.h"
 #include "host/app/TextColumns.h"
+#include "host/services/Tr.h"
 
 namespace bench {
 
@@ -27,11 +29,14 @@ std::filesystem::path NewFolder() {
   auto pattern = (std::filesystem::temp_directory_path(none) / "orvik-bench-XXXXXX").string();
   if (none || !mkdtemp(pattern.data()))
     throw IncompleteError(
-        "--simulate: no temporary folder can be made; set TMPDIR to one that you may write to");
+        Tr("--simulate: no temporary folder can be made; set TMPDIR to one that you may write to"));
   return pattern;
 }
 
-[[noreturn]] void Become(const std::vector<std::string>& command, int output) {
+[[noreturn]] void Become(const std::vector<std::string>& command, int output, pid_t parent) {
+  // From here on, and not only from when the simulator watches its parent itself: nobody would end it.
+  prctl(PR_SET_PDEATHSIG, SIGKILL);
+  if (getppid() != parent) _exit(127);
   // Ctrl-C at the terminal is for the run, which still needs its tester to end the session.
   setpgid(0, 0);
   dup2(output, STDOUT_FILENO);
@@ -62,12 +67,13 @@ void SimulatedTester::Start(const std::string& profile, double timeScale) {
                                    "--exit-with-parent",        "--time-scale", ShortNumber(timeScale)};
   if (!profile.empty()) command.insert(command.end(), {"--profile", profile});
   int ends[2];
-  if (pipe2(ends, O_CLOEXEC) != 0) throw IncompleteError("--simulate: no pipe can be made");
+  if (pipe2(ends, O_CLOEXEC) != 0) throw IncompleteError(Tr("--simulate: no pipe can be made"));
   output_ = UniqueFd(ends[0]);
   const UniqueFd theirs(ends[1]);
+  const pid_t self = getpid();
   process_ = fork();
-  if (process_ < 0) throw IncompleteError("--simulate: no process can be started");
-  if (process_ == 0) Become(command, theirs.Get());
+  if (process_ < 0) throw IncompleteError(Tr("--simulate: no process can be started"));
+  if (process_ == 0) Become(command, theirs.Get(), self);
 }
 
 void SimulatedTester::AwaitReady() {
@@ -79,7 +85,8 @@ void SimulatedTester::AwaitReady() {
     pollfd readable{output_.Get(), POLLIN, 0};
     const int ready = left.count() > 0 ? poll(&readable, 1, static_cast<int>(left.count())) : 0;
     if (ready < 0 && errno == EINTR) continue;
-    if (ready <= 0) throw IncompleteError("--simulate: the simulated tester is not ready after ten seconds");
+    if (ready <= 0)
+      throw IncompleteError(Tr("--simulate: the simulated tester is not ready after ten seconds"));
     char buffer[512];
     const auto count = read(output_.Get(), buffer, sizeof buffer);
     if (count > 0) {
@@ -87,8 +94,8 @@ void SimulatedTester::AwaitReady() {
       continue;
     }
     if (count < 0 && errno == EINTR) continue;
-    if (said.empty()) said = files::Simulator().string() + " cannot be started";
-    throw InputError("--simulate: " + said);
+    if (said.empty()) said = Tr("%%1 cannot be started", {files::Simulator().string()});
+    throw InputError(Tr("--simulate: %%1", {said}));
   }
 }
 

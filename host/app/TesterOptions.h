@@ -5,6 +5,7 @@
 #include <string>
 
 #include "host/app/SimulatedTester.h"
+#include "host/serial/PortManager.h"
 
 namespace bench {
 
@@ -17,21 +18,20 @@ class TesterOptions {
   void Check() const;
   double TimeScale() const { return timeScale_; }
 
-  /// Makes the tester ready: starts the simulated one, or sees to it that the device can be opened.
-  /// `InputError` for a device that is not there or is none; `IncompleteError` for one that cannot be had
-  /// now.
-  void Prepare();
-  /// The device of the tester, once it is ready.
-  const std::string& Device() const { return device_; }
+  /// Makes the tester ready and its port known: starts the simulated one, or sees to it that the device can
+  /// be opened. `InputError` for a device that is not there or is none; `IncompleteError` for one that cannot
+  /// be had now.
+  void Connect(PortManager& ports);
   /// What to tell the person about the tester's time; empty when it is the wall's.
   std::string TimeRemark() const;
 
  private:
+  void Probe() const;
+
   std::string port_;
   CLI::Option* simulate_ = nullptr;
   std::string profile_;
   double timeScale_ = 1.0;
-  std::string device_;
   std::unique_ptr<SimulatedTester> simulated_;
 };
 

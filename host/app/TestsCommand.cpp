@@ -13,12 +13,13 @@
 #include "host/app/TextColumns.h"
 #include "host/elements/ElementFactory.h"
 #include "host/run/ElementText.h"
+#include "host/services/Tr.h"
 
 namespace bench {
 
 namespace {
 
-struct Entry {
+struct CatalogueEntry {
   std::int32_t testId;
   std::int32_t parent;
   bool sequence;
@@ -35,12 +36,12 @@ std::string UnitOf(orvik::IPlugIn& plugIn, std::int32_t testId) {
   return standard && standard->LimitCount() > 0 ? standard->Limit(1)->Unit() : std::string();
 }
 
-std::vector<Entry> Entries(Workbench& workbench) {
+std::vector<CatalogueEntry> Entries(Workbench& workbench) {
   struct Level {
     std::shared_ptr<orvik::ITestEnumerator> walk;
     std::int32_t testId;
   };
-  std::vector<Entry> entries;
+  std::vector<CatalogueEntry> entries;
   std::vector<Level> levels;
   const auto tests = workbench.PlugIn().Tests();
   if (tests) levels.push_back({tests->NewEnum(), 0});
@@ -60,7 +61,7 @@ std::vector<Entry> Entries(Workbench& workbench) {
   return entries;
 }
 
-nlohmann::ordered_json JsonOf(const std::vector<Entry>& entries) {
+nlohmann::ordered_json JsonOf(const std::vector<CatalogueEntry>& entries) {
   auto tests = nlohmann::ordered_json::array();
   for (const auto& entry : entries) {
     nlohmann::ordered_json json;
@@ -77,8 +78,12 @@ nlohmann::ordered_json JsonOf(const std::vector<Entry>& entries) {
 }  // namespace
 
 CLI::App* TestsCommand::Declare(CLI::App& program) {
-  auto* command = program.add_subcommand("tests", "Print the catalogue of tests");
-  command->add_flag("--json", json_, "Print one JSON object");
+  auto* command = program.add_subcommand("tests", Tr("Print the catalogue of tests"));
+  command->add_flag("--json", json_, Tr("Print one JSON object"));
+  command->footer(
+      Tr("Examples:\n"
+         "  orvik-bench tests\n"
+         "  orvik-bench tests --json"));
   return command;
 }
 
@@ -86,8 +91,8 @@ ExitStatus TestsCommand::Run(const GlobalOptions& options) {
   Workbench workbench(options);
   const auto entries = Entries(workbench);
   if (entries.empty())
-    throw InputError(
-        "the catalogue has no tests; see error.log in the state folder, or name another with --catalogue");
+    throw InputError(Tr(
+        "the catalogue has no tests; see error.log in the state folder, or name another with --catalogue"));
   if (json_) {
     std::cout << Indented(JsonOf(entries)) << "\n";
     return ExitStatus::kPassed;

@@ -1,23 +1,25 @@
 #include "host/app/TextColumns.h"
 
-#include <algorithm>
 #include <charconv>
+
+#include "host/services/TextCells.h"
 
 namespace bench {
 
-std::size_t LengthOf(const std::string& text) {
-  return static_cast<std::size_t>(std::count_if(
-      text.begin(), text.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }));
-}
-
 std::string Padded(const std::string& text, std::size_t width) {
-  const auto length = LengthOf(text);
+  const auto length = CellsOf(text);
   return text + std::string(length < width ? width - length + 1 : 1, ' ');
 }
 
 std::string LeftPadded(const std::string& text, std::size_t width) {
-  const auto length = LengthOf(text);
+  const auto length = CellsOf(text);
   return std::string(length < width ? width - length : 0, ' ') + text;
+}
+
+std::string Joined(const std::vector<std::string>& texts, const char* between) {
+  std::string joined;
+  for (const auto& text : texts) joined += (joined.empty() ? "" : between) + text;
+  return joined;
 }
 
 std::string ShortNumber(double number) {

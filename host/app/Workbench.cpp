@@ -29,7 +29,8 @@ Host::Settings SettingsOf(const GlobalOptions& options) {
 }  // namespace
 
 Workbench::Workbench(const GlobalOptions& options, double timeScale)
-    : application_(std::make_shared<headless::Application>(ClockKind::kReal, timeScale)),
+    : timeScale_(timeScale),
+      application_(std::make_shared<headless::Application>(ClockKind::kReal, timeScale)),
       ports_(std::make_shared<PortManager>(application_, DeviceOpener(application_))),
       host_(Host::Create(SettingsOf(options), application_)) {
   RegisterControls(*host_);

@@ -30,10 +30,12 @@ class Workbench {
   const std::shared_ptr<bench::Host>& Host() const { return host_; }
   PortManager& Ports() { return *ports_; }
   orvik::IPlugIn& PlugIn() { return *plugIn_; }
+  double TimeScale() const { return timeScale_; }
 
  private:
   void SeedCatalogue();
 
+  const double timeScale_;
   const std::shared_ptr<headless::Application> application_;
   const std::shared_ptr<PortManager> ports_;
   std::shared_ptr<bench::Host> host_;

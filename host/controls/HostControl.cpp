@@ -1,6 +1,7 @@
 #include "host/controls/HostControl.h"
 
 #include "OrvikTypeLib/As.h"
+#include "host/services/Tr.h"
 #include "platform/IPanel.h"
 
 namespace bench {
@@ -8,7 +9,7 @@ namespace bench {
 void HostControl::AttachTo(const std::shared_ptr<orvik::platform::IContainerSite>& site) {
   if (attached_)
     throw orvik::HostError(orvik::HostError::kInvalidArgument, "orvik-bench",
-                           "the control has been placed already");
+                           Tr("the control has been placed already"));
   attached_ = true;
   site_ = site;
   Build(orvik::Required(orvik::Required(site).Panel()));

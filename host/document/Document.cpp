@@ -13,6 +13,7 @@
 #include "host/elements/Nesting.h"
 #include "host/elements/TestContainer.h"
 #include "host/instruments/InstrumentColl.h"
+#include "host/services/Tr.h"
 #include "host/services/XmlDocument.h"
 #include "host/services/XmlNode.h"
 
@@ -21,7 +22,7 @@ namespace {
 
 using orvik::HostError;
 
-constexpr char kSource[] = "orvik-bench";
+constexpr char kDocumentSource[] = "orvik-bench";
 constexpr char kRoot[] = "OrvikDocument";
 constexpr char kVersionAttribute[] = "Version";
 constexpr char kEquipment[] = "Equipment";
@@ -29,30 +30,31 @@ constexpr char kAsset[] = "Asset";
 constexpr char kSerial[] = "Serial";
 constexpr char kMaker[] = "Maker";
 constexpr char kModel[] = "Model";
-constexpr char kStandards[] = "Standards";
-constexpr char kInstruments[] = "Instruments";
+constexpr char kStandardsNode[] = "Standards";
+constexpr char kInstrumentsNode[] = "Instruments";
 constexpr char kElements[] = "Elements";
 
-[[noreturn]] void Refuse(const std::string& reason) {
-  throw HostError(HostError::kInvalidArgument, kSource, reason);
+[[noreturn]] void RefuseDocument(const std::string& reason) {
+  throw HostError(HostError::kInvalidArgument, kDocumentSource, reason);
 }
 
 /// Refuses a file: its name, the line in which the fault shows (when that is known), and the reason.
 [[noreturn]] void RefuseFile(const std::filesystem::path& file, const std::string& text,
                              std::ptrdiff_t offset, const std::string& reason) {
   auto place = file.string();
-  if (offset >= 0) place += ", line " + std::to_string(xml::LineOf(text, static_cast<std::size_t>(offset)));
-  throw HostError(HostError::kPathError, kSource, place + ": " + reason);
+  if (offset >= 0)
+    place = Tr("%%1, line %%2", {place, std::to_string(xml::LineOf(text, static_cast<std::size_t>(offset)))});
+  throw HostError(HostError::kPathError, kDocumentSource, Tr("%%1: %%2", {place, reason}));
 }
 
 void CheckVersion(pugi::xml_node root) {
-  if (std::string_view(root.name()) != kRoot) throw XmlError(root, "this is no test document");
+  if (std::string_view(root.name()) != kRoot) throw XmlError(root, Tr("this is no test document"));
   const auto version = xml::NumberAttribute(root, kVersionAttribute);
   if (version > Document::kVersion)
-    throw XmlError(root, "the document was written by a newer version of this program (format " +
-                             std::to_string(version) + ", this program reads " +
-                             std::to_string(Document::kVersion) + "); use that version");
-  if (version < 1) throw XmlError(root, "there is no document format " + std::to_string(version));
+    throw XmlError(root, Tr("the document was written by a newer version of this program (format %%1, this "
+                            "program reads %%2); use that version",
+                            {std::to_string(version), std::to_string(Document::kVersion)}));
+  if (version < 1) throw XmlError(root, Tr("there is no document format %%1", {std::to_string(version)}));
 }
 
 std::shared_ptr<orvik::IXmlNode> Wrapped(const std::shared_ptr<pugi::xml_document>& xml,
@@ -108,16 +110,21 @@ void Document::Load(const std::string& text) {
 
 void Document::LoadSections(const std::shared_ptr<pugi::xml_document>& xml) {
   const auto root = xml->document_element();
+  // Only the first would be read, and the other lost when the document is saved.
+  for (const auto* section : {kEquipment, kStandardsNode, kInstrumentsNode, kElements}) {
+    if (const auto second = root.child(section).next_sibling(section))
+      throw XmlError(second, Tr("there is a second \"%%1\"; join the two", {section}));
+  }
   topLeftovers_.Take(*xml, {}, {kRoot});
-  rootLeftovers_.Take(root, {kVersionAttribute}, {kEquipment, kStandards, kInstruments, kElements});
+  rootLeftovers_.Take(root, {kVersionAttribute}, {kEquipment, kStandardsNode, kInstrumentsNode, kElements});
 
   const auto saved = root.child(kEquipment);
   equipment = {saved.attribute(kAsset).value(), saved.attribute(kSerial).value(),
                saved.attribute(kMaker).value(), saved.attribute(kModel).value()};
   equipmentLeftovers_.Take(saved, {kAsset, kSerial, kMaker, kModel}, {});
 
-  if (const auto standards = root.child(kStandards)) standards_->Load(Wrapped(xml, standards), nullptr);
-  instruments_->Load(root.child(kInstruments));
+  if (const auto standards = root.child(kStandardsNode)) standards_->Load(Wrapped(xml, standards), nullptr);
+  instruments_->Load(root.child(kInstrumentsNode));
 
   const auto elements = root.child(kElements);
   highestId_ = CheckSavedElements(elements);
@@ -138,7 +145,7 @@ std::string Document::Text() const {
     reason = error.Description();
   }
   if (!trouble.All().empty()) reason = trouble.All().front().reason;
-  if (!reason.empty()) Refuse(Path().string() + " was not saved: " + reason);
+  if (!reason.empty()) RefuseDocument(Tr("%%1 was not saved: %%2", {Path().string(), reason}));
   return xml::Write(*xml);
 }
 
@@ -170,14 +177,16 @@ void Document::SaveTo(const std::shared_ptr<pugi::xml_document>& xml) const {
 std::shared_ptr<orvik::ITestElement> Document::AddTest(std::int32_t testId,
                                                        const std::shared_ptr<orvik::ITestElement>& parent) {
   const auto container = parent ? orvik::As<orvik::ITestContainer>(parent) : Elements();
-  if (!container) Refuse("element " + std::to_string(parent->ID()) + " is no sequence; name one that is");
+  if (!container)
+    RefuseDocument(Tr("element %%1 is no sequence; name one that is", {std::to_string(parent->ID())}));
   auto added = FromCatalogue(testId);
   RequireShallow(added);
   GiveIdentifiers(added);
   container->Add(added, {}, {});
   // A plug-in's sequence may pass over an error of the container it wraps.
   if (added->Parent() != orvik::As<orvik::ITestElement>(container))
-    Refuse("the test could not be added to element " + std::to_string(parent ? parent->ID() : 0));
+    RefuseDocument(
+        Tr("the test could not be added to element %%1", {std::to_string(parent ? parent->ID() : 0)}));
   return added;
 }
 
@@ -186,7 +195,8 @@ std::shared_ptr<orvik::ITestElement> Document::FromCatalogue(std::int32_t testId
     auto created = plugIn->CreateTest(testId);
     if (created && created->TestID() == testId) return created;
   }
-  Refuse("the catalogue has no test " + std::to_string(testId) + "; \"orvik-bench tests\" lists them");
+  RefuseDocument(
+      Tr("the catalogue has no test %%1; \"orvik-bench tests\" lists them", {std::to_string(testId)}));
 }
 
 void Document::GiveIdentifiers(const std::shared_ptr<orvik::ITestElement>& top) {
@@ -196,7 +206,7 @@ void Document::GiveIdentifiers(const std::shared_ptr<orvik::ITestElement>& top) 
     const auto element = waiting.back();
     waiting.pop_back();
     if (highestId_ == std::numeric_limits<std::int32_t>::max())
-      Refuse("the document has no identifiers left");
+      RefuseDocument(Tr("the document has no identifiers left"));
     element->SetID(++highestId_);
     const auto container = orvik::As<orvik::ITestContainer>(element);
     for (auto index = container ? container->Count() : 0; index > 0; --index)

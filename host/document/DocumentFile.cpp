@@ -9,6 +9,8 @@
 #include <cstdio>
 #include <system_error>
 
+#include "host/services/Tr.h"
+
 namespace bench {
 namespace {
 
@@ -32,8 +34,9 @@ void MoveToNewName(const std::filesystem::path& fresh, const std::filesystem::pa
   }
   unlink(fresh.c_str());
   if (error == EEXIST)
-    ThrowFileError(file, "is there already", 0, "choose another name, or remove the file first");
-  if (error != 0) ThrowFileError(file, "cannot be created", error, "check the folder and your permissions");
+    ThrowFileError(file, Tr("%%1 is there already"), 0, Tr("choose another name, or remove the file first"));
+  if (error != 0)
+    ThrowFileError(file, Tr("%%1 cannot be created"), error, Tr("check the folder and your permissions"));
 }
 
 }  // namespace
@@ -55,19 +58,22 @@ DocumentFile DocumentFile::Existing(const std::filesystem::path& file, Use use) 
   std::error_code error;
   // A link is followed, so that what it names is replaced and not the link.
   opened.path_ = std::filesystem::canonical(file, error);
-  if (error) ThrowFileError(file, "cannot be opened", error.value(), "check the name and your permissions");
+  if (error)
+    ThrowFileError(file, Tr("%%1 cannot be opened"), error.value(),
+                   Tr("check the name and your permissions"));
   // Between opening and locking the file may be replaced by a new one: then that one is meant.
   for (int attempt = 0; attempt < kOpenAttempts; ++attempt) {
     if (opened.TryOpen(use)) return opened;
   }
-  ThrowFileError(opened.path_, "changes all the time", 0, "close the program that writes it and try again");
+  ThrowFileError(opened.path_, Tr("%%1 changes all the time"), 0,
+                 Tr("close the program that writes it and try again"));
 }
 
 bool DocumentFile::TryOpen(Use use) {
   use_ = use;
   descriptor_ = FileDescriptor(open(path_.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
   if (!descriptor_.Valid())
-    ThrowFileError(path_, "cannot be opened", errno, "check the name and your permissions");
+    ThrowFileError(path_, Tr("%%1 cannot be opened"), errno, Tr("check the name and your permissions"));
   if (use == kWrite) Lock(descriptor_.Get());
   stamp_ = StampOf(descriptor_.Get());
   return use == Use::kRead || stamp_ == StampOf(path_);
@@ -79,24 +85,25 @@ DocumentFile DocumentFile::New(const std::filesystem::path& file) {
   created.use_ = kWrite;
   std::error_code error;
   if (std::filesystem::exists(std::filesystem::symlink_status(created.path_, error)))
-    ThrowFileError(file, "is there already", 0, "choose another name, or remove the file first");
+    ThrowFileError(file, Tr("%%1 is there already"), 0, Tr("choose another name, or remove the file first"));
   return created;
 }
 
 void DocumentFile::Lock(int descriptor) const {
   if (flock(descriptor, LOCK_EX | LOCK_NB) == 0) return;
   if (errno == EWOULDBLOCK)
-    ThrowFileError(path_, "is open in another program", 0, "close it there and try again");
-  ThrowFileError(path_, "cannot be locked", errno, "keep documents on a local disk");
+    ThrowFileError(path_, Tr("%%1 is open in another program"), 0, Tr("close it there and try again"));
+  ThrowFileError(path_, Tr("%%1 cannot be locked"), errno, Tr("keep documents on a local disk"));
 }
 
 std::string DocumentFile::Read() const { return ReadDescriptor(descriptor_.Get(), path_); }
 
 void DocumentFile::Write(std::string_view contents) {
-  if (use_ != kWrite) ThrowFileError(path_, "was opened for reading only", 0, "open it for writing");
+  if (use_ != kWrite)
+    ThrowFileError(path_, Tr("%%1 was opened for reading only"), 0, Tr("open it for writing"));
   if (stamp_ && stamp_ != StampOf(path_))
-    ThrowFileError(path_, "was changed by another program since it was opened", 0,
-                   "save under another name, and compare the two");
+    ThrowFileError(path_, Tr("%%1 was changed by another program since it was opened"), 0,
+                   Tr("save under another name, and compare the two"));
   // A new document is written beside the file of whoever else creates one of that name.
   const auto fresh = Beside(path_, stamp_ ? ".new" : ".new." + std::to_string(getpid()));
   auto written = WriteFreshFile(fresh, contents, FileMode(path_));

@@ -6,6 +6,7 @@
 
 #include "host/elements/ElementTags.h"
 #include "host/elements/Nesting.h"
+#include "host/services/Tr.h"
 #include "host/services/XmlNode.h"
 
 namespace bench {
@@ -34,11 +35,11 @@ std::int32_t CheckSavedElements(pugi::xml_node elements) {
   for (auto element = Next(elements, elements, depth); element; element = Next(element, elements, depth)) {
     if (depth > kDeepestNesting)
       throw XmlError(element,
-                     "elements are nested more than " + std::to_string(kDeepestNesting) + " levels deep");
+                     Tr("elements are nested more than %%1 levels deep", {std::to_string(kDeepestNesting)}));
     const auto id = xml::NumberAttribute(element, tags::kID);
-    if (id < 1) throw XmlError(element, "the identifier " + std::to_string(id) + " is below 1");
+    if (id < 1) throw XmlError(element, Tr("the identifier %%1 is below 1", {std::to_string(id)}));
     if (!known.insert(id).second)
-      throw XmlError(element, "the identifier " + std::to_string(id) + " is used twice");
+      throw XmlError(element, Tr("the identifier %%1 is used twice", {std::to_string(id)}));
     highest = std::max(highest, id);
   }
   return highest;

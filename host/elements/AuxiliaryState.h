@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -7,6 +8,13 @@
 #include "OrvikTypeLib/IAuxiliaryState.h"
 
 namespace bench {
+
+/// When and by whom a result was made.
+struct RunMark {
+  std::string date;  ///< such as "2026-11-21T14:03:22+01:00"
+  std::string by;    ///< the operator; may be empty
+  bool operator==(const RunMark&) const = default;
+};
 
 /// The host's own settings of an element, and what it holds against the element's result.
 class AuxiliaryState final : public orvik::IAuxiliaryState {
@@ -16,12 +24,17 @@ class AuxiliaryState final : public orvik::IAuxiliaryState {
   const std::vector<std::string>& Doubts() const { return doubts_; }
   void SetDoubts(std::vector<std::string> doubts) { doubts_ = std::move(doubts); }
 
+  /// Each element has its own: a document can be run in pieces, on several days and by several people.
+  const std::optional<RunMark>& Run() const { return run_; }
+  void SetRun(std::optional<RunMark> run) { run_ = std::move(run); }
+
  private:
   bool IAuxiliaryState_PrintElement() const override { return printElement_; }
   void IAuxiliaryState_SetPrintElement(bool fPrint) override { printElement_ = fPrint; }
 
   bool printElement_ = true;
   std::vector<std::string> doubts_;
+  std::optional<RunMark> run_;
 };
 
 }  // namespace bench

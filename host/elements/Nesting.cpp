@@ -5,6 +5,7 @@
 
 #include "OrvikTypeLib/As.h"
 #include "OrvikTypeLib/ITestContainer.h"
+#include "host/services/Tr.h"
 
 namespace bench {
 namespace {
@@ -13,8 +14,8 @@ thread_local int levels = 0;
 
 [[noreturn]] void Refuse() {
   throw orvik::HostError(orvik::HostError::kInvalidArgument, "OrvikTypeLib.TestContainer",
-                         "elements are nested more than " + std::to_string(kDeepestNesting) +
-                             " levels deep; place them side by side");
+                         Tr("elements are nested more than %%1 levels deep; place them side by side",
+                            {std::to_string(kDeepestNesting)}));
 }
 
 }  // namespace

@@ -4,7 +4,9 @@
 #include "OrvikTypeLib/HostClasses.h"
 #include "host/elements/ChildList.h"
 #include "host/elements/ElementTags.h"
+#include "host/elements/PrintAlone.h"
 #include "host/elements/UnknownElement.h"
+#include "host/services/Tr.h"
 #include "host/services/XmlNode.h"
 
 namespace bench {
@@ -12,7 +14,7 @@ namespace {
 
 using orvik::HostError;
 
-constexpr char kSource[] = "OrvikTypeLib.TestContainer";
+constexpr char kContainerSource[] = "OrvikTypeLib.TestContainer";
 
 /// A container that is being searched, and how many of its children have been looked at.
 struct Level {
@@ -54,8 +56,8 @@ void TestContainer::RefuseCycle(const std::shared_ptr<orvik::ITestElement>& elem
     for (auto parent = self->Parent(); parent && !above; parent = parent->Parent()) above = parent == element;
   }
   if (above)
-    throw HostError(HostError::kInvalidArgument, kSource,
-                    "element " + std::to_string(element->ID()) + " cannot be placed inside itself");
+    throw HostError(HostError::kInvalidArgument, kContainerSource,
+                    Tr("element %%1 cannot be placed inside itself", {std::to_string(element->ID())}));
 }
 
 std::size_t TestContainer::PlaceFor(const orvik::Variant& before, const orvik::Variant& after) const {
@@ -63,12 +65,13 @@ std::size_t TestContainer::PlaceFor(const orvik::Variant& before, const orvik::V
   if (orvik::IsEmpty(wanted)) return children_->Size();
   const auto* id = std::get_if<std::int32_t>(&wanted);
   if (!id)
-    throw HostError(HostError::kTypeMismatch, kSource, "a place in a container is named by an identifier");
+    throw HostError(HostError::kTypeMismatch, kContainerSource,
+                    Tr("a place in a container is named by an identifier"));
   for (std::size_t index = 0; index < children_->Size(); ++index) {
     if (children_->At(index)->ID() == *id) return index + (&wanted == &after ? 1 : 0);
   }
-  throw HostError(HostError::kInvalidArgument, kSource,
-                  "element " + std::to_string(*id) + " is not in the container");
+  throw HostError(HostError::kInvalidArgument, kContainerSource,
+                  Tr("element %%1 is not in the container", {std::to_string(*id)}));
 }
 
 std::int32_t TestContainer::ITestContainer_Count() const {
@@ -78,8 +81,8 @@ std::int32_t TestContainer::ITestContainer_Count() const {
 std::shared_ptr<orvik::ITestElement> TestContainer::ITestContainer_item(std::int32_t lIndex) const {
   if (lIndex < 1 || static_cast<std::size_t>(lIndex) > children_->Size())
     throw HostError(
-        HostError::kSubscriptOutOfRange, kSource,
-        "there is no element " + std::to_string(lIndex) + " of " + std::to_string(children_->Size()));
+        HostError::kSubscriptOutOfRange, kContainerSource,
+        Tr("there is no element %%1 of %%2", {std::to_string(lIndex), std::to_string(children_->Size())}));
   return children_->At(static_cast<std::size_t>(lIndex) - 1);
 }
 
@@ -119,8 +122,8 @@ void TestContainer::CloneChildren(TestElement& copy) const {
   for (std::size_t index = 0; index < children_->Size(); ++index) {
     const auto child = children_->At(index)->Clone();
     if (!child)
-      throw HostError(HostError::kInvalidArgument, kSource,
-                      "element " + std::to_string(children_->At(index)->ID()) + " could not be copied");
+      throw HostError(HostError::kInvalidArgument, kContainerSource,
+                      Tr("element %%1 could not be copied", {std::to_string(children_->At(index)->ID())}));
     container.Add(child, {}, {});
   }
 }
@@ -128,8 +131,8 @@ void TestContainer::CloneChildren(TestElement& copy) const {
 void TestContainer::SaveChildren(const std::shared_ptr<orvik::IXmlNode>& node) const {
   for (std::size_t index = 0; index < children_->Size(); ++index) {
     if (!children_->At(index)->Save(node))
-      throw HostError(HostError::kInvalidArgument, kSource,
-                      "element " + std::to_string(children_->At(index)->ID()) + " could not be saved");
+      throw HostError(HostError::kInvalidArgument, kContainerSource,
+                      Tr("element %%1 could not be saved", {std::to_string(children_->At(index)->ID())}));
   }
 }
 
@@ -158,6 +161,7 @@ bool TestContainer::LoadChild(const std::shared_ptr<orvik::IXmlNode>& node,
 
 void TestContainer::PrintChildren(const std::shared_ptr<orvik::IReport>& report,
                                   const std::shared_ptr<IObject>& context) {
+  if (orvik::As<PrintAlone>(context)) return;
   const auto walk = NewEnum();
   while (const auto child = walk->Next()) child->PrintReport(report, context);
 }

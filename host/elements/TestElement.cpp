@@ -10,6 +10,7 @@
 #include "OrvikTypeLib/IStandardColl.h"
 #include "host/elements/ElementTags.h"
 #include "host/elements/Nesting.h"
+#include "host/services/Tr.h"
 #include "host/services/XmlNode.h"
 
 namespace bench {
@@ -86,7 +87,7 @@ bool TestElement::ITestElement_QuerySetParent(std::shared_ptr<ITestElement> iteP
 
 void TestElement::ITestElement_Perform(std::shared_ptr<orvik::IRunController>) {
   throw HostError(HostError::kNoSuchProperty, kElementSource,
-                  "the element has no test of its own; only a plug-in's element can be run");
+                  Tr("the element has no test of its own; only a plug-in's element can be run"));
 }
 
 orvik::Variant TestElement::ITestElement_GetMeasurementList() const {
@@ -168,6 +169,7 @@ void TestElement::CopyIdentity(TestElement& copy) const {
   if (auxiliary_) {
     copy.Auxiliary()->SetPrintElement(auxiliary_->PrintElement());
     copy.auxiliary_->SetDoubts(auxiliary_->Doubts());
+    copy.auxiliary_->SetRun(auxiliary_->Run());
   }
 }
 
@@ -188,8 +190,9 @@ std::shared_ptr<orvik::IResultData> TestElement::CopyOfResult() const {
   const auto copy = orvik::As<orvik::IResultData>(Factory()->CreateObject(result_->ClassID()));
   if (!copy)
     throw HostError(HostError::kClassNotRegistered, kElementSource,
-                    "the result's class \"" + result_->ClassID() +
-                        "\" is not registered, so the result cannot be copied; open its plug-in first");
+                    Tr("the result's class \"%%1\" is not registered, so the result cannot be copied; open "
+                       "its plug-in first",
+                       {result_->ClassID()}));
   copy->Load(result_->Save(ScratchRoot(tags::kTestElement)), nullptr);
   return copy;
 }
@@ -205,7 +208,7 @@ void TestElement::ITestElement_Load(std::shared_ptr<orvik::IXmlNode> Node, std::
       LoadElement(Node, Context);
     } else {
       throw HostError(HostError::kInvalidArgument, kElementSource,
-                      "an element cannot be read from the node \"" + name + "\"");
+                      Tr("an element cannot be read from the node \"%%1\"", {name}));
     }
   });
 }
@@ -252,7 +255,11 @@ void TestElement::LoadPart(const std::shared_ptr<orvik::IXmlNode>& part,
     for (const auto doubt : raw.children(tags::kDoubt)) doubts.emplace_back(doubt.text().get());
     if (!doubts.empty()) Auxiliary();
     if (auxiliary_) auxiliary_->SetDoubts(std::move(doubts));
-    auxiliaryLeftovers_.Take(raw, {tags::kPrint}, {tags::kDoubt});
+    const auto run = raw.child(tags::kRun);
+    if (run) Auxiliary();
+    if (run)
+      auxiliary_->SetRun(RunMark{run.attribute(tags::kDate).value(), run.attribute(tags::kOperator).value()});
+    auxiliaryLeftovers_.Take(raw, {tags::kPrint}, {tags::kDoubt, tags::kRun});
   } else if (name == tags::kConfiguration && configuration_) {
     configuration_->Load(part);
     configurationLeftovers_.Take(raw, {}, {tags::kPlugInData});
@@ -262,7 +269,7 @@ void TestElement::LoadPart(const std::shared_ptr<orvik::IXmlNode>& part,
     Shown()->Load(part, context);
     // The plug-in's element ignores errors, but a result must not vanish.
     if (!result_)
-      throw HostError(HostError::kInvalidArgument, kElementSource, "the result could not be read");
+      throw HostError(HostError::kInvalidArgument, kElementSource, Tr("the result could not be read"));
   } else if (name == tags::kTestElement) {
     known = LoadChild(part, context);
   } else {
@@ -308,6 +315,11 @@ void TestElement::SaveTo(const std::shared_ptr<orvik::IXmlNode>& node) const {
   xml::SetAttribute(auxiliary, tags::kPrint, !auxiliary_ || auxiliary_->PrintElement() ? "1" : "0");
   if (auxiliary_) {
     for (const auto& doubt : auxiliary_->Doubts()) xml::SetText(auxiliary.append_child(tags::kDoubt), doubt);
+    if (const auto& run = auxiliary_->Run()) {
+      const auto saved = auxiliary.append_child(tags::kRun);
+      xml::SetAttribute(saved, tags::kDate, run->date);
+      xml::SetAttribute(saved, tags::kOperator, run->by);
+    }
   }
   auxiliaryLeftovers_.Restore(auxiliary);
 
@@ -326,7 +338,7 @@ void TestElement::SaveResult(const std::shared_ptr<orvik::IXmlNode>& node) const
   const auto saved = result_->Save(node);
   if (!saved)
     throw HostError(HostError::kInvalidArgument, kElementSource,
-                    "the result of element " + std::to_string(id_) + " could not be saved");
+                    Tr("the result of element %%1 could not be saved", {std::to_string(id_)}));
   resultLeftovers_.Restore(XmlNode::Of(saved).Raw());
 }
 

@@ -16,7 +16,7 @@ namespace bench {
 ///
 ///     <TestElement ID="3" TestID="410" PlugInID="KELD(IN)" Class="orvikKELD.CKELDTestElement">
 ///       <Information FirstText="" SecondText="" DisplayName="Protective earth"/>
-///       <Auxiliary Print="1"/>
+///       <Auxiliary Print="1"><Run Date="2026-11-21T14:03:22+01:00" Operator="M. Holm"/></Auxiliary>
 ///       <Configuration>what the configuration saves</Configuration>
 ///       <ExpectedResult>what the limits save</ExpectedResult>
 ///       <ResultItem>what the result saves</ResultItem>

@@ -2,6 +2,7 @@
 
 #include "OrvikTypeLib/As.h"
 #include "host/elements/ElementTags.h"
+#include "host/services/Tr.h"
 #include "host/services/XmlNode.h"
 
 namespace bench {
@@ -20,8 +21,8 @@ void UnknownElement::ITestElement_Load(std::shared_ptr<orvik::IXmlNode> Node, st
   saved_.reset();
   saved_.append_copy(node);
   const std::string name = node.child(tags::kInformation).attribute(tags::kDisplayName).value();
-  const auto shown = name.empty() ? "test " + std::to_string(TestID()) : name;
-  Texts().SetDisplayName(shown + " (unknown: the plug-in \"" + PlugInID() + "\" is not there)");
+  const auto shown = name.empty() ? Tr("test %%1", {std::to_string(TestID())}) : name;
+  Texts().SetDisplayName(Tr("%%1 (unknown: the plug-in \"%%2\" is not there)", {shown, PlugInID()}));
 }
 
 std::shared_ptr<orvik::IXmlNode> UnknownElement::ITestElement_Save(

@@ -2,6 +2,7 @@
 
 #include "OrvikTypeLib/As.h"
 #include "host/instruments/InstrumentRecord.h"
+#include "host/services/Tr.h"
 
 namespace bench {
 namespace {
@@ -18,7 +19,7 @@ std::shared_ptr<orvik::IInstrumentRecord> InstrumentColl::IInstrumentColl_item(s
   if (lIndex < 1 || static_cast<std::size_t>(lIndex) > records_.size())
     throw HostError(
         HostError::kSubscriptOutOfRange, kInstrumentsSource,
-        "there is no instrument " + std::to_string(lIndex) + " of " + std::to_string(records_.size()));
+        Tr("there is no instrument %%1 of %%2", {std::to_string(lIndex), std::to_string(records_.size())}));
   return records_[static_cast<std::size_t>(lIndex) - 1];
 }
 
@@ -26,7 +27,7 @@ void InstrumentColl::IInstrumentColl_Add(std::shared_ptr<orvik::IInstrumentRecor
   const auto record = orvik::As<InstrumentRecord>(Record);
   if (!record)
     throw HostError(HostError::kTypeMismatch, kInstrumentsSource,
-                    "only a record of the class \"OrvikTypeLib.InstrumentRecord\" can be added");
+                    Tr("only a record of the class \"OrvikTypeLib.InstrumentRecord\" can be added"));
   records_.push_back(record);
 }
 

@@ -11,7 +11,7 @@ constexpr char kMtiType[] = "MTIType";
 constexpr char kSerialNumber[] = "SerialNumber";
 constexpr char kFirmwareVersion[] = "FirmwareVersion";
 constexpr char kProperty[] = "Property";
-constexpr char kName[] = "Name";
+constexpr char kNameAttribute[] = "Name";
 
 }  // namespace
 
@@ -31,7 +31,7 @@ void InstrumentRecord::Load(pugi::xml_node node) {
   serialNumber_ = node.attribute(kSerialNumber).value();
   firmwareVersion_ = node.attribute(kFirmwareVersion).value();
   for (const auto property : node.children(kProperty))
-    properties_[property.attribute(kName).value()] = xml::Text(property);
+    properties_[property.attribute(kNameAttribute).value()] = xml::Text(property);
   leftovers_.Take(node, {kIndex, kTypeName, kMtiType, kSerialNumber, kFirmwareVersion}, {kProperty});
 }
 
@@ -44,7 +44,7 @@ void InstrumentRecord::Save(pugi::xml_node parent) const {
   xml::SetAttribute(node, kFirmwareVersion, firmwareVersion_);
   for (const auto& [name, text] : properties_) {
     auto property = node.append_child(kProperty);
-    xml::SetAttribute(property, kName, name);
+    xml::SetAttribute(property, kNameAttribute, name);
     xml::SetText(property, text);
   }
   leftovers_.Restore(node);

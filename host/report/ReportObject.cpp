@@ -1,13 +1,14 @@
 #include "host/report/ReportObject.h"
 
 #include "OrvikTypeLib/HostError.h"
+#include "host/services/Tr.h"
 
 namespace bench {
 
 std::int32_t ReportObject::IReport_Metric(std::int32_t lNumber) const {
   if (lNumber == 10) return kUsableWidth;
   throw orvik::HostError(orvik::HostError::kInvalidArgument, "OrvikTypeLib.Report",
-                         "the report has no metric " + std::to_string(lNumber));
+                         Tr("the report has no metric %%1", {std::to_string(lNumber)}));
 }
 
 void ReportObject::IReport_AddTable(const std::string& sFormat, const std::string& sHeader,

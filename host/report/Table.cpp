@@ -1,16 +1,18 @@
 #include "host/report/Table.h"
 
 #include "OrvikTypeLib/HostError.h"
+#include "host/report/VisibleText.h"
 #include "host/services/Text.h"
+#include "host/services/Tr.h"
 
 namespace bench::report {
 namespace {
 
 constexpr char kMarkup[] = "\\|;{}";
 
-[[noreturn]] void Refuse(const std::string& reason) {
+[[noreturn]] void RefuseMarkup(const std::string& reason) {
   throw orvik::HostError(orvik::HostError::kInvalidArgument, "OrvikTypeLib.Report",
-                         "the table's markup is malformed: " + reason);
+                         Tr("the table's markup is malformed: %%1", {reason}));
 }
 
 bool IsLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
@@ -20,7 +22,8 @@ Column ParseColumn(std::string_view text) {
   const std::string whole(text);
   Column column;
   const auto mark = text.empty() ? ' ' : text.front();
-  if (mark != '<' && mark != '>' && mark != '^') Refuse("the column \"" + whole + "\" has no alignment mark");
+  if (mark != '<' && mark != '>' && mark != '^')
+    RefuseMarkup(Tr("the column \"%%1\" has no alignment mark", {whole}));
   column.alignment = mark == '<' ? Alignment::kLeft : mark == '>' ? Alignment::kRight : Alignment::kCentre;
   text.remove_prefix(1);
   column.ruled = text.starts_with('+');
@@ -29,7 +32,7 @@ Column ParseColumn(std::string_view text) {
   if (column.unbroken) text.remove_prefix(1);
   const auto width = WholeNumber(text);
   if (!width || text.front() == '+' || text.front() == '-')
-    Refuse("the column \"" + whole + "\" has no width");
+    RefuseMarkup(Tr("the column \"%%1\" has no width", {whole}));
   column.width = *width;
   return column;
 }
@@ -46,11 +49,11 @@ class RowReader {
           i = ReadControl(markup, i);
           break;
         case '{':
-          if (inGroup_) Refuse("a group stands inside another");
+          if (inGroup_) RefuseMarkup(Tr("a group stands inside another"));
           inGroup_ = true;
           break;
         case '}':
-          if (!inGroup_) Refuse("a \"}\" has no \"{\"");
+          if (!inGroup_) RefuseMarkup(Tr("a \"}\" has no \"{\""));
           EndGroup();
           break;
         case '|':
@@ -58,7 +61,7 @@ class RowReader {
           break;
         case ';':
           EndCell();
-          if (row_.size() > columns_) Refuse("a row has more cells than the table has columns");
+          if (row_.size() > columns_) RefuseMarkup(Tr("a row has more cells than the table has columns"));
           rows_.push_back(std::move(row_));
           row_.clear();
           break;
@@ -66,14 +69,14 @@ class RowReader {
           Text(markup[i]);
       }
     }
-    if (inGroup_) Refuse("a group is not closed");
-    if (!row_.empty() || !cell_.empty()) Refuse("the last row has no \";\"");
+    if (inGroup_) RefuseMarkup(Tr("a group is not closed"));
+    if (!row_.empty() || !cell_.empty()) RefuseMarkup(Tr("the last row has no \";\""));
     return std::move(rows_);
   }
 
  private:
   std::size_t ReadControl(std::string_view markup, std::size_t at) {
-    if (at + 1 == markup.size()) Refuse("it ends with \"\\\"");
+    if (at + 1 == markup.size()) RefuseMarkup(Tr("it ends with \"%%1\"", {"\\"}));
     if (!IsLetter(markup[at + 1])) {
       Text(markup[at + 1]);
       return at + 1;
@@ -81,13 +84,14 @@ class RowReader {
     std::size_t end = at + 1;
     while (end < markup.size() && IsLetter(markup[end])) ++end;
     const auto control = markup.substr(at + 1, end - at - 1);
-    if (!inGroup_) Refuse("the control \"\\" + std::string(control) + "\" stands outside a group");
+    if (!inGroup_)
+      RefuseMarkup(Tr("the control \"%%1\" stands outside a group", {"\\" + std::string(control)}));
     if (control == "b") {
       bold_ = true;
     } else if (control == "i") {
       italic_ = true;
     } else {
-      Refuse("the control \"\\" + std::string(control) + "\" is not known");
+      RefuseMarkup(Tr("the control \"%%1\" is not known", {"\\" + std::string(control)}));
     }
     // One blank after a control belongs to it.
     return end < markup.size() && markup[end] == ' ' ? end : end - 1;
@@ -102,7 +106,7 @@ class RowReader {
   void EndGroup() { inGroup_ = bold_ = italic_ = false; }
 
   void EndCell() {
-    if (inGroup_) Refuse("a cell ends inside a group");
+    if (inGroup_) RefuseMarkup(Tr("a cell ends inside a group"));
     row_.push_back(std::move(cell_));
     cell_.clear();
   }
@@ -122,8 +126,34 @@ std::string PlainText(const Cell& cell) {
   return text;
 }
 
+Table Shown(const Table& table) {
+  std::vector<bool> used(table.columns.size());
+  for (const auto* rows : {&table.header, &table.rows}) {
+    for (const auto& row : *rows) {
+      for (std::size_t column = 0; column < row.size(); ++column)
+        if (!PlainText(row[column]).empty()) used[column] = true;
+    }
+  }
+  auto shown = table;
+  shown.columns.clear();
+  for (std::size_t column = 0; column < used.size(); ++column)
+    if (used[column]) shown.columns.push_back(table.columns[column]);
+  for (auto* rows : {&shown.header, &shown.rows}) {
+    for (auto& row : *rows) {
+      Row cells;
+      for (std::size_t column = 0; column < used.size(); ++column) {
+        if (!used[column]) continue;
+        cells.push_back(column < row.size() ? std::move(row[column]) : Cell{});
+        for (auto& run : cells.back()) run.text = VisibleText(run.text, LineEnds::kKept);
+      }
+      row = std::move(cells);
+    }
+  }
+  return shown;
+}
+
 std::vector<Column> ParseFormat(std::string_view markup) {
-  if (!markup.ends_with(';')) Refuse("the column format has no \";\" at its end");
+  if (!markup.ends_with(';')) RefuseMarkup(Tr("the column format has no \";\" at its end"));
   markup.remove_suffix(1);
   std::vector<Column> columns;
   while (true) {

@@ -42,6 +42,10 @@ struct Table {
 /// The cell's text without its styles.
 std::string PlainText(const Cell& cell);
 
+/// The table as people see it: texts made visible (see `VisibleText`), columns that are empty in every row
+/// left out, since they are margins of the page.
+Table Shown(const Table& table);
+
 /// "Columns separated by |, ended by ;": see `IReport`. `HostError` 5 when it is malformed.
 std::vector<Column> ParseFormat(std::string_view markup);
 

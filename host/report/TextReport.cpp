@@ -1,124 +1,170 @@
 #include "host/report/TextReport.h"
 
 #include <algorithm>
+#include <cmath>
+
+#include "host/report/TextLines.h"
+#include "host/report/TextTable.h"
+#include "host/services/TextCells.h"
 
 namespace bench {
 namespace {
 
-using report::Row;
-using report::Table;
+using orvik::platform::Alignment;
+using report::Standing;
 
-/// The lines of one cell, ready to be shown.
-using Lines = std::vector<std::string>;
+constexpr std::size_t kWidth = 100;
+constexpr std::size_t kIndent = 3;
+constexpr std::size_t kBar = 49;
 
-std::size_t Width(const std::string& text) {
-  // Bytes that go on a character are not counted.
-  return static_cast<std::size_t>(std::count_if(
-      text.begin(), text.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }));
-}
-
-Lines LinesOf(const report::Cell& cell) {
-  Lines lines{""};
-  for (const char letter : report::PlainText(cell)) {
-    const auto code = static_cast<unsigned char>(letter);
-    if (letter == '\n') {
-      lines.emplace_back();
-    } else if (code < 0x20 || code == 0x7F) {
-      // U+2400 and its followers picture the control characters.
-      lines.back() += "\xE2\x90";
-      lines.back() += static_cast<char>(code == 0x7F ? 0xA1 : 0x80 + code);
-    } else {
-      lines.back() += letter;
-    }
+std::string PlainSignOf(Standing standing) {
+  switch (standing) {
+    case Standing::kPassed:
+      return "[+]";
+    case Standing::kFailed:
+      return "[X]";
+    case Standing::kNotApplicable:
+      return "[-]";
+    case Standing::kOpen:
+      break;
   }
-  return lines;
+  return "[!]";
 }
 
-std::string Padded(const std::string& text, std::size_t width, orvik::platform::Alignment alignment) {
-  const auto rest = width - std::min(width, Width(text));
-  const auto left = alignment == orvik::platform::Alignment::kLeft    ? 0
-                    : alignment == orvik::platform::Alignment::kRight ? rest
-                                                                      : rest / 2;
-  return std::string(left, ' ') + text + std::string(rest - left, ' ');
+std::string Upper(std::string text) {
+  for (auto& letter : text) {
+    if (letter >= 'a' && letter <= 'z') letter = static_cast<char>(letter - 'a' + 'A');
+  }
+  return text;
 }
 
-class TablePrinter {
+report::Cell CellOf(const std::string& text) { return {{text}}; }
+
+class Text {
  public:
-  explicit TablePrinter(const Table& table) : table_(table), widths_(table.columns.size()) {
-    for (const auto* rows : {&table.header, &table.rows}) {
-      for (const auto& row : *rows) Measure(row);
-    }
-  }
+  explicit Text(const report::Report& report) : report_(report) {}
 
-  std::string Print() {
-    Rule('-');
-    for (const auto& row : table_.header) Print(row);
-    if (!table_.header.empty()) Rule('=');
-    for (const auto& row : table_.rows) Print(row);
-    Rule('-');
-    return std::move(text_);
+  std::string Write() {
+    Heading(report_.title, '=');
+    Verdict();
+    Heading(report_.words.summary, '-');
+    Facts(report_.facts, 0);
+    Heading(report_.words.overview, '-');
+    Overview();
+    if (!report_.sections.empty()) Heading(report_.words.details, '-');
+    for (const auto& section : report_.sections) Element(section);
+    if (report_.partial) out_ += "\n*** " + report_.partialNotice + " ***\n";
+    return std::move(out_);
   }
 
  private:
-  bool Bordered() const { return table_.border != 0; }
+  void Heading(const std::string& text, char line) {
+    out_ += (out_.empty() ? "" : "\n\n") + text + "\n" + std::string(CellsOf(text), line) + "\n\n";
+  }
 
-  void Measure(const Row& row) {
-    for (std::size_t column = 0; column < row.size(); ++column) {
-      for (const auto& line : LinesOf(row[column])) widths_[column] = std::max(widths_[column], Width(line));
+  void Verdict() {
+    const auto& verdict = report_.verdict;
+    out_ += "    " + PlainSignOf(verdict.standing) + "  " + Upper(verdict.word) + "\n\n         " +
+            verdict.sentence + "\n";
+    if (report_.partial) out_ += "\n*** " + report_.partialNotice + " ***\n";
+  }
+
+  void Facts(const std::vector<report::Fact>& facts, std::size_t indent) {
+    std::size_t widest = 0;
+    for (const auto& fact : facts) widest = std::max(widest, CellsOf(fact.label));
+    for (const auto& fact : facts) {
+      const auto lines = text::Wrapped(fact.value, kWidth - indent - widest - 3);
+      out_ += std::string(indent, ' ') + text::Filled(fact.label, widest + 3, Alignment::kLeft) +
+              lines.front() + "\n";
+      out_ += text::Indented({lines.begin() + 1, lines.end()}, indent + widest + 3);
     }
   }
 
-  /// Columns that are empty in every row are margins of the page; text needs none.
-  bool Shown(std::size_t column) const { return widths_[column] > 0; }
-
-  void Rule(char dash) {
-    if (!Bordered()) return;
-    for (std::size_t column = 0; column < widths_.size(); ++column) {
-      if (Shown(column)) text_ += "+" + std::string(widths_[column] + 2, dash);
+  void Overview() {
+    if (report_.overview.empty()) {
+      out_ += report_.words.nothing + "\n";
+      return;
     }
-    text_ += "+\n";
+    const auto& words = report_.words;
+    report::Table table;
+    table.border = 7;
+    table.columns.resize(5);
+    table.columns[0].alignment = table.columns[2].alignment = Alignment::kRight;
+    table.header = {{CellOf(words.number), CellOf(words.test), CellOf(words.value), CellOf(words.unit),
+                     CellOf(words.result)}};
+    for (const auto& row : report_.overview)
+      table.rows.push_back(
+          {CellOf(std::to_string(row.id)),
+           CellOf(std::string(2 * static_cast<std::size_t>(std::min(row.depth, 10)), ' ') + row.name),
+           CellOf(row.value.empty() ? "-" : row.value), CellOf(row.unit),
+           CellOf(PlainSignOf(row.standing) + " " + row.word)});
+    out_ += TextTable(table, kWidth);
   }
 
-  void Print(const Row& row) {
-    std::vector<Lines> cells(widths_.size(), Lines{""});
-    std::size_t height = 1;
-    for (std::size_t column = 0; column < row.size(); ++column) {
-      cells[column] = LinesOf(row[column]);
-      height = std::max(height, cells[column].size());
-    }
-    for (std::size_t line = 0; line < height; ++line) PrintLine(cells, line);
+  void Element(const report::Section& section) {
+    const auto word = PlainSignOf(section.standing) + " " + section.word;
+    const auto lines = text::Wrapped(std::to_string(section.id) + "  " + section.name, kWidth - 24);
+    out_ += text::Filled(lines.front(), kWidth - 22, Alignment::kLeft) + word + "\n";
+    out_ += text::Indented({lines.begin() + 1, lines.end()}, kIndent);
+    if (!section.value.empty())
+      out_ += text::Indented(text::Wrapped(section.value + " " + section.unit, kWidth - kIndent), kIndent);
+    for (const auto& note : section.notes)
+      out_ += text::Indented(text::Wrapped(PlainSignOf(note.standing) + " " + note.text, kWidth - kIndent),
+                             kIndent);
+    if (!section.facts.empty()) out_ += "\n";
+    Facts(section.facts, kIndent);
+    for (const auto& judgement : section.judgements) Judgement(judgement);
+    for (const auto& table : section.tables) Indent("\n" + TextTable(table, kWidth - kIndent));
+    out_ += "\n\n";
   }
 
-  void PrintLine(const std::vector<Lines>& cells, std::size_t line) {
-    std::string text;
-    for (std::size_t column = 0; column < cells.size(); ++column) {
-      if (!Shown(column)) continue;
-      const auto& content = line < cells[column].size() ? cells[column][line] : std::string();
-      const auto padded = Padded(content, widths_[column], table_.columns[column].alignment);
-      if (Bordered()) {
-        text += "| " + padded + " ";
-      } else {
-        text += (text.empty() ? "" : "  ") + padded;
-      }
-    }
-    if (Bordered()) text += "|";
-    text_ += text + "\n";
+  void Judgement(const report::Judgement& judgement) {
+    const auto line = judgement.standard + ": " + judgement.bounds + ": " + judgement.word;
+    out_ +=
+        "\n" + text::Indented(text::Wrapped(PlainSignOf(judgement.standing) + " " + line, kWidth - kIndent),
+                              kIndent);
+    if (!judgement.bar) return;
+    Indent(TextBar(*judgement.bar) + "\n");
+    out_ += text::Indented(text::Wrapped(judgement.inWords, kWidth - kIndent - 4), kIndent + 4);
   }
 
-  const Table& table_;
-  std::vector<std::size_t> widths_;
-  std::string text_;
+  void Indent(const std::string& lines) {
+    for (std::size_t at = 0; at < lines.size();) {
+      const auto end = lines.find('\n', at);
+      const auto line = lines.substr(at, end - at);
+      out_ += (line.empty() ? "" : std::string(kIndent, ' ')) + line + "\n";
+      at = end + 1;
+    }
+  }
+
+  const report::Report& report_;
+  std::string out_;
 };
+
+std::size_t PlaceIn(double at) {
+  return static_cast<std::size_t>(std::lround(at * static_cast<double>(kBar - 1)));
+}
 
 }  // namespace
 
-std::string TextReport(const ReportObject& report) {
-  std::string text;
-  for (const auto& table : report.Tables()) {
-    if (!text.empty()) text += "\n";
-    text += TablePrinter(table).Print();
-  }
-  return text;
+std::string TextReport(const report::Report& report) { return Text(report).Write(); }
+
+std::string TextBar(const report::Bar& bar) {
+  using Place = report::Bar::Place;
+  std::string line(kBar, '.');
+  const auto first = bar.low ? PlaceIn(*bar.low) : 0;
+  const auto last = bar.high ? PlaceIn(*bar.high) : kBar - 1;
+  for (auto i = first; i <= last; ++i) line[i] = '=';
+  if (bar.low) line[first] = '|';
+  if (bar.high) line[last] = '|';
+  auto at = PlaceIn(bar.value);
+  // Beside a bound that it breaks or keeps, not on it.
+  if (bar.high && at == last && bar.place == Place::kAbove && at + 1 < kBar) ++at;
+  if (bar.low && at == first && bar.place == Place::kBelow && at > 0) --at;
+  if (bar.place == Place::kWithin && at == last && bar.high && at > first + 1) --at;
+  if (bar.place == Place::kWithin && at == first && bar.low && at + 1 < last) ++at;
+  line[at] = !bar.beyond ? '*' : bar.value > 0.5 ? '>' : '<';
+  return "[" + line + "]";
 }
 
 }  // namespace bench

@@ -2,13 +2,15 @@
 
 #include <string>
 
-#include "host/report/ReportObject.h"
+#include "host/report/Report.h"
 
 namespace bench {
 
-/// The report as plain text, UTF-8, one table after the other with an empty line between them. Columns are as
-/// wide as their content; tables with a border have lines of "+", "-" and "|". Control characters that a
-/// terminal would obey are shown as their symbols.
-std::string TextReport(const ReportObject& report);
+/// The report as plain text, UTF-8, in lines of about 100 columns.
+std::string TextReport(const report::Report& report);
+
+/// The value between its bounds in letters: "=" is allowed, "." is not, "|" is a bound, "*" the value; "<" or
+/// ">" stands for a value beyond the end of the line.
+std::string TextBar(const report::Bar& bar);
 
 }  // namespace bench

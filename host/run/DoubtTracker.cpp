@@ -4,6 +4,7 @@
 
 #include "host/run/ReplyDoubts.h"
 #include "host/serial/Latin1.h"
+#include "host/services/Tr.h"
 
 namespace bench {
 
@@ -35,8 +36,8 @@ void DoubtTracker::Watch(const WireRecord& record) {
       break;
     case WireRecord::Kind::kSent:
       if (record.replyWaiting)
-        Note("a reply was already waiting when \"" + VisibleText(record.text) +
-             "\" was sent: a late or a doubled one");
+        Note(Tr("a reply was already waiting when \"%%1\" was sent: a late or a doubled one",
+                {VisibleLatin1(record.text)}));
       lastCommand_.emplace(record.message->MnemonicText(), record.message->Parameters(),
                            record.message->Line());
       break;
@@ -45,8 +46,8 @@ void DoubtTracker::Watch(const WireRecord& record) {
       for (const auto& doubt : ReplyDoubts(*lastCommand_, *record.message)) Note(doubt);
       break;
     case WireRecord::Kind::kDropped:
-      Note("a line came in that is no message, and was dropped: \"" + VisibleText(record.text.substr(0, 60)) +
-           "\"");
+      Note(Tr("a line came in that is no message, and was dropped: \"%%1\"",
+              {VisibleLatin1(record.text.substr(0, 60))}));
       break;
     case WireRecord::Kind::kFailed:
     case WireRecord::Kind::kClosed:

@@ -7,26 +7,20 @@
 #include "OrvikTypeLib/IResultData.h"
 #include "OrvikTypeLib/IStandard.h"
 #include "OrvikTypeLib/IStandardColl.h"
-#include "host/elements/AuxiliaryState.h"
-#include "host/elements/ElementFactory.h"
+#include "host/run/ElementState.h"
+#include "host/services/Tr.h"
 
 namespace bench {
 
 namespace {
-
-std::shared_ptr<AuxiliaryState> StateOf(const std::shared_ptr<orvik::ITestElement>& element,
-                                        const ElementFactory& factory) {
-  const auto base = factory.BaseOf(element);
-  return base ? orvik::As<AuxiliaryState>(base->Auxiliary()) : nullptr;
-}
 
 std::string UnitDoubtOf(const std::string& unit, const orvik::IStandard& standard) {
   for (std::int32_t i = 1; i <= standard.LimitCount(); ++i) {
     const auto limit = standard.Limit(i);
     const bool bounded = !limit->LowText().empty() || !limit->HighText().empty();
     if (bounded && !limit->Unit().empty() && limit->Unit() != unit)
-      return "the reading is in \"" + unit + "\", its limits of " + standard.Name() + " are in \"" +
-             limit->Unit() + "\"";
+      return Tr("the reading is in \"%%1\", its limits of %%2 are in \"%%3\"",
+                {unit, standard.Name(), limit->Unit()});
   }
   return {};
 }

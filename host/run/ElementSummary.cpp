@@ -1,8 +1,10 @@
 #include "host/run/ElementSummary.h"
 
 #include <algorithm>
+#include <functional>
 
 #include "OrvikTypeLib/As.h"
+#include "OrvikTypeLib/ILimit.h"
 #include "OrvikTypeLib/ILimitData.h"
 #include "OrvikTypeLib/IMeasurement.h"
 #include "OrvikTypeLib/IResultData.h"
@@ -12,6 +14,8 @@
 #include "host/run/ElementDoubts.h"
 #include "host/run/ElementText.h"
 #include "host/run/ElementWalk.h"
+#include "host/run/SavedSettings.h"
+#include "host/services/Tr.h"
 
 namespace bench {
 
@@ -38,6 +42,53 @@ std::vector<std::string> FailedStandards(const orvik::ITestElement& element,
   return names;
 }
 
+/// What speaks against a result by its own data, where nobody has noted a doubt: an overload, or limits that
+/// were set after the test and that the reading breaks. Neither may count as passed.
+void DoubtOwnData(const orvik::ITestElement& element, const std::shared_ptr<orvik::IMeasurement>& measurement,
+                  const std::shared_ptr<orvik::IStandardColl>& standards, ElementSummary& summary) {
+  if (!summary.doubts.empty() || summary.status != kPassed || !summary.measurement->value) return;
+  if (summary.measurement->flags.find('O') != std::string::npos) {
+    summary.doubts.push_back(Tr("overload (OL): the reading is beyond the tester's range"));
+    return;
+  }
+  // The value of a sequence is computed, and its limits are not its children's.
+  const auto limits = summary.sequence ? nullptr : element.Limits();
+  const auto failed = limits ? limits->FindFailedStandards(measurement, standards) : nullptr;
+  if (failed && failed->Count() > 0)
+    summary.doubts.push_back(
+        Tr("the reading breaks the limits of %%1, which were not in force when it was judged; run the test "
+           "again",
+           {failed->item(1)->Name()}));
+}
+
+bool HasBounds(const orvik::IStandard& standard) {
+  for (std::int32_t i = 1; i <= standard.LimitCount(); ++i) {
+    const auto limit = standard.Limit(i);
+    if (!limit->LowText().empty() || !limit->HighText().empty()) return true;
+  }
+  return false;
+}
+
+/// Whether one of the standards judges the element.
+bool HasLimits(const orvik::ITestElement& element, const orvik::IStandardColl& standards) {
+  const auto limits = element.Limits();
+  const auto own = limits ? limits->Standards() : nullptr;
+  for (std::int32_t i = 1; own && i <= own->Count(); ++i) {
+    const auto standard = own->item(i);
+    if (HasBounds(*standard) && standards.Find(standard->Name(), standard->Description())) return true;
+  }
+  return false;
+}
+
+/// Whether the value of a sequence is none. It is saved as an empty text, which is read back as 0: no
+/// reading.
+bool HasNoValue(const orvik::ITestElement& sequence) {
+  const auto configuration = sequence.Configuration();
+  if (!configuration) return false;
+  const SavedSettings saved(*configuration);
+  return saved.Settings() && saved.Settings()->Attribute(SavedSettings::kFilter) == SavedSettings::kNoValues;
+}
+
 ElementSummary SummaryOf(const std::shared_ptr<orvik::ITestElement>& element, const ElementFactory& factory,
                          const std::shared_ptr<orvik::IStandardColl>& standards) {
   ElementSummary summary;
@@ -58,7 +109,11 @@ ElementSummary SummaryOf(const std::shared_ptr<orvik::ITestElement>& element, co
   if (result->MeasurementCount() == 0) return summary;
   if (const auto measurement = result->Measurement(1)) {
     summary.measurement = SummaryOf(*measurement);
+    if (summary.sequence && HasNoValue(*element)) summary.measurement->value.reset();
     summary.failedStandards = FailedStandards(*element, measurement, standards);
+    summary.recordedOnly = !summary.sequence && summary.status == kPassed && summary.measurement->value &&
+                           standards && !HasLimits(*element, *standards);
+    DoubtOwnData(*element, measurement, standards, summary);
   }
   return summary;
 }
@@ -68,35 +123,41 @@ ElementSummary SummaryOf(const std::shared_ptr<orvik::ITestElement>& element, co
 std::string OutcomeText(Outcome outcome) {
   switch (outcome) {
     case Outcome::kPassed:
-      return "passed";
+      return Marked("passed");
     case Outcome::kFailed:
-      return "failed";
+      return Marked("failed");
     case Outcome::kIncomplete:
       break;
   }
-  return "incomplete";
+  return Marked("incomplete");
 }
 
 std::string StatusText(std::int32_t status) {
   switch (status) {
     case kNotTested:
-      return "not tested";
+      return Marked("not tested");
     case kPassed:
-      return "passed";
+      return Marked("passed");
     case kFailed:
-      return "failed";
+      return Marked("failed");
     case kNotApplicable:
-      return "not applicable";
+      return Marked("not applicable");
     case kAborted:
-      return "aborted";
+      return Marked("aborted");
     default:
       return "unknown status " + std::to_string(status);
   }
 }
 
+bool ElementSummary::CountsAsDone() const {
+  return (status == kPassed || status == kNotApplicable) && doubts.empty();
+}
+
+bool ElementSummary::Failed() const { return status == kFailed; }
+
 std::string ElementSummary::Verdict() const {
   const bool counts = status == kPassed || status == kNotApplicable;
-  return counts && !doubts.empty() ? "doubtful" : StatusText(status);
+  return counts && !doubts.empty() ? Marked("doubtful") : StatusText(status);
 }
 
 std::vector<ElementSummary> Summarise(const std::vector<std::shared_ptr<orvik::ITestElement>>& elements,
@@ -112,13 +173,10 @@ std::vector<ElementSummary> Summarise(const std::vector<std::shared_ptr<orvik::I
 }
 
 Outcome OutcomeOf(const std::vector<ElementSummary>& elements) {
-  const auto failed = [](const ElementSummary& element) { return element.status == kFailed; };
-  const auto done = [](const ElementSummary& element) {
-    return (element.status == kPassed || element.status == kNotApplicable) && element.doubts.empty();
-  };
-  if (std::any_of(elements.begin(), elements.end(), failed)) return Outcome::kFailed;
-  if (elements.empty() || !std::all_of(elements.begin(), elements.end(), done)) return Outcome::kIncomplete;
-  return Outcome::kPassed;
+  if (std::any_of(elements.begin(), elements.end(), std::mem_fn(&ElementSummary::Failed)))
+    return Outcome::kFailed;
+  const bool done = std::all_of(elements.begin(), elements.end(), std::mem_fn(&ElementSummary::CountsAsDone));
+  return done && !elements.empty() ? Outcome::kPassed : Outcome::kIncomplete;
 }
 
 }  // namespace bench

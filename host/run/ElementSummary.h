@@ -43,9 +43,14 @@ struct ElementSummary {
   std::optional<MeasurementSummary> measurement;
   std::vector<std::string> failedStandards;
   std::vector<std::string> doubts;
+  /// A reading that counts as passed although no limit judged it.
+  bool recordedOnly = false;
 
   /// "passed", "failed", ...; a doubtful element that would count as passed reads "doubtful".
   std::string Verdict() const;
+  /// Passed or not applicable, and without a doubt.
+  bool CountsAsDone() const;
+  bool Failed() const;
 };
 
 /// The elements and all that stands below them, in document order, parents before children.

@@ -3,6 +3,7 @@
 #include "OrvikTypeLib/As.h"
 #include "OrvikTypeLib/IInformationRecord.h"
 #include "host/elements/ElementFactory.h"
+#include "host/services/Tr.h"
 
 namespace bench {
 
@@ -12,7 +13,7 @@ std::string ElementName(orvik::ITestElement& element, const ElementFactory& fact
     if (!information->DisplayName().empty()) return information->DisplayName();
     if (!information->SecondText().empty()) return information->SecondText();
   }
-  return "test " + std::to_string(element.TestID());
+  return Tr("test %%1", {std::to_string(element.TestID())});
 }
 
 }  // namespace bench

@@ -1,6 +1,7 @@
 #include "host/run/LinkWatch.h"
 
 #include "host/serial/Message.h"
+#include "host/services/Tr.h"
 
 namespace bench {
 
@@ -10,8 +11,8 @@ LinkWatch::LinkWatch(PortManager& ports)
 
 std::string LinkWatch::Loss() const {
   if (!ports_.LastError().empty()) return ports_.LastError();
-  if (failed_) return "the tester's cable was unplugged or its port has failed";
-  if (sessionAsked_) return "no tester answers; check that it is switched on and connected";
+  if (failed_) return Tr("the tester's cable was unplugged or its port has failed");
+  if (sessionAsked_) return Tr("no tester answers; check that it is switched on and connected");
   return {};
 }
 

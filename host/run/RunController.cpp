@@ -4,9 +4,12 @@
 
 #include "OrvikTypeLib/As.h"
 #include "OrvikTypeLib/HostError.h"
+#include "OrvikTypeLib/IResultData.h"
 #include "OrvikTypeLib/ITestContainer.h"
 #include "host/run/ElementDoubts.h"
 #include "host/run/ElementWalk.h"
+#include "host/run/RunMark.h"
+#include "host/services/Tr.h"
 
 namespace bench {
 
@@ -25,7 +28,7 @@ void RunController::IRunController_NavigationRequest(std::int32_t lCode) {
   if (lCode < static_cast<std::int32_t>(Navigation::kNext) ||
       lCode > static_cast<std::int32_t>(Navigation::kNotApplicable))
     throw orvik::HostError(orvik::HostError::kInvalidArgument, "orvik.RunController",
-                           "navigation request " + std::to_string(lCode) + " is not one of 0 to 4");
+                           Tr("navigation request %%1 is not one of 0 to 4", {std::to_string(lCode)}));
   asked_ = static_cast<Navigation>(lCode);
 }
 
@@ -38,20 +41,31 @@ void RunController::IRunController_FinishedNotice(std::shared_ptr<orvik::ITestEl
     const auto doubt = UnitDoubt(element);
     if (!doubt.empty()) parts_.doubts.Add(element.ID(), doubt);
   }
+  results_.Finished(iteElement);
   StoreDoubts(iteElement);
-  finished_.Raise(iteElement);
+  MarkRun(iteElement);
+  // Whoever hears that it has finished may rely on the document.
   Save();
+  finished_.Raise(iteElement);
 }
 
 void RunController::Settle(const std::shared_ptr<orvik::ITestElement>& element) {
+  results_.Settle(element);
   WalkElements(element, [this](const std::shared_ptr<orvik::ITestElement>& below) { StoreDoubts(below); });
   Save();
+}
+
+void RunController::MarkRun(const std::shared_ptr<orvik::ITestElement>& element) {
+  const auto result = element->Result();
+  if (parts_.clock && result && result->Status() != 0)
+    SetRunMark(element, parts_.factory, RunMark{parts_.clock(), parts_.by});
 }
 
 void RunController::ForgetDoubts(const std::shared_ptr<orvik::ITestElement>& element) {
   WalkElements(element, [this](const std::shared_ptr<orvik::ITestElement>& below) {
     parts_.doubts.Forget(below->ID());
     SetDoubts(below, parts_.factory, {});
+    SetRunMark(below, parts_.factory, std::nullopt);
   });
 }
 

@@ -12,6 +12,8 @@
 #include "OrvikTypeLib/IStandardColl.h"
 #include "OrvikTypeLib/ITestElement.h"
 #include "host/run/DoubtTracker.h"
+#include "host/run/ResultWatch.h"
+#include "host/services/WallClock.h"
 #include "platform/Event.h"
 
 namespace bench {
@@ -32,9 +34,13 @@ class RunController final : public orvik::IRunController {
     DoubtTracker& doubts;
     /// Saves the document; may throw `HostError`.
     std::function<void()> save;
+    /// Tells the time of day that results are marked with; without it they get no mark.
+    WallClock clock = {};
+    /// Who operates the tester.
+    std::string by = {};
   };
 
-  explicit RunController(Parts parts) : parts_(std::move(parts)) {}
+  explicit RunController(Parts parts) : parts_(std::move(parts)), results_(parts_.doubts) {}
 
   /// An element has begun to run, or its run is over.
   orvik::platform::Event<const std::shared_ptr<orvik::ITestElement>&>& Started() { return started_; }
@@ -60,11 +66,13 @@ class RunController final : public orvik::IRunController {
     return parts_.instruments;
   }
 
+  void MarkRun(const std::shared_ptr<orvik::ITestElement>& element);
   void ForgetDoubts(const std::shared_ptr<orvik::ITestElement>& element);
   void StoreDoubts(const std::shared_ptr<orvik::ITestElement>& element);
   void Save();
 
   const Parts parts_;
+  ResultWatch results_;
   std::optional<std::int32_t> opening_;
   std::set<std::int32_t> running_;  ///< started, and not finished
   Navigation asked_ = Navigation::kNext;

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "OrvikTypeLib/HostError.h"
+#include "host/services/Tr.h"
 
 namespace bench {
 
@@ -25,7 +26,7 @@ void DeviceTransport::Write(std::string_view bytes) {
   const std::string path = device_.Path();
   Fail();
   throw orvik::HostError(orvik::HostError::kDeviceError, "OrvikComm.Port",
-                         "serial device " + path + " is closed or was unplugged; check the cable");
+                         Tr("serial device %%1 is closed or was unplugged; check the cable", {path}));
 }
 
 void DeviceTransport::Close() {

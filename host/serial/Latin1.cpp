@@ -40,7 +40,7 @@ std::string Utf8FromLatin1(std::string_view bytes) {
   return text;
 }
 
-std::string VisibleText(std::string_view bytes) {
+std::string VisibleLatin1(std::string_view bytes) {
   static constexpr char kHex[] = "0123456789ABCDEF";
   std::string text;
   text.reserve(bytes.size());

@@ -13,6 +13,6 @@ std::optional<std::string> Latin1FromUtf8(std::string_view text);
 std::string Utf8FromLatin1(std::string_view bytes);
 
 /// The bytes as UTF-8 text in which no byte is hidden: control bytes read as "\x0D", a backslash as "\\".
-std::string VisibleText(std::string_view bytes);
+std::string VisibleLatin1(std::string_view bytes);
 
 }  // namespace bench

@@ -5,7 +5,9 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
-#include <system_error>
+
+#include "host/services/SystemError.h"
+#include "host/services/Tr.h"
 
 namespace bench {
 
@@ -59,15 +61,14 @@ constexpr tcflag_t kParityFlags = PARENB | PARODD | CMSPAR;
 std::string SetLineMode(int descriptor, const LineSettings& settings, bool pseudo) {
   const auto rate = std::find_if(kRates.begin(), kRates.end(),
                                  [&](const Rate& known) { return known.bitsPerSecond == settings.rate; });
-  if (rate == kRates.end()) return "does not know the rate " + std::to_string(settings.rate);
+  if (rate == kRates.end()) return Tr("does not know the rate %%1", {std::to_string(settings.rate)});
   // The hardware gives five data bits one and a half stop bits, and the others two.
   if ((settings.stopBits == StopBits::kOneAndAHalf) != (settings.dataBits == 5) &&
       settings.stopBits != StopBits::kOne)
-    return "1.5 stop bits go with 5 data bits, and 2 stop bits with more";
+    return Tr("1.5 stop bits go with 5 data bits, and 2 stop bits with more");
 
   termios mode{};
-  if (tcgetattr(descriptor, &mode) != 0)
-    return "does not tell its settings: " + std::generic_category().message(errno);
+  if (tcgetattr(descriptor, &mode) != 0) return Tr("does not tell its settings: %%1", {SystemError(errno)});
   cfmakeraw(&mode);
   mode.c_iflag &= ~static_cast<tcflag_t>(IXON | IXOFF | IXANY | IGNPAR | PARMRK | IGNBRK | BRKINT);
   if (settings.parity != Parity::kNone) mode.c_iflag |= INPCK;
@@ -81,13 +82,12 @@ std::string SetLineMode(int descriptor, const LineSettings& settings, bool pseud
 
   // A pseudo-terminal answers EINVAL when the parity bit, which it drops, was the only thing to change.
   if (tcsetattr(descriptor, TCSANOW, &mode) != 0 && !(pseudo && errno == EINVAL))
-    return "does not take the settings: " + std::generic_category().message(errno);
+    return Tr("does not take the settings: %%1", {SystemError(errno)});
   termios taken{};
-  if (tcgetattr(descriptor, &taken) != 0)
-    return "does not tell its settings: " + std::generic_category().message(errno);
+  if (tcgetattr(descriptor, &taken) != 0) return Tr("does not tell its settings: %%1", {SystemError(errno)});
   const tcflag_t counted = CSIZE | CSTOPB | (pseudo ? 0 : kParityFlags);
   if ((taken.c_cflag & counted) != (mode.c_cflag & counted) || cfgetospeed(&taken) != rate->code)
-    return "does not take the rate, parity, data bits and stop bits asked for";
+    return Tr("does not take the rate, parity, data bits and stop bits asked for");
   return {};
 }
 

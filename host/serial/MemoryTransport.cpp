@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "OrvikTypeLib/HostError.h"
+#include "host/services/Tr.h"
 
 namespace bench {
 
@@ -24,7 +25,7 @@ void MemoryLine::Unplug() {
 MemoryTransport::MemoryTransport(std::shared_ptr<MemoryLine> line) {
   if (line->Connected())
     throw HostError(HostError::kDeviceError, "OrvikComm.PortManager",
-                    "the line in memory is held by another port; close that one first");
+                    Tr("the line in memory is held by another port; close that one first"));
   line_ = std::move(line);
   line_->near_ = this;
 }
@@ -40,7 +41,8 @@ void MemoryTransport::SetFailureListener(std::function<void()> listener) {
 }
 
 void MemoryTransport::Write(std::string_view bytes) {
-  if (!IsOpen()) throw HostError(HostError::kDeviceError, "OrvikComm.Port", "the line in memory is closed");
+  if (!IsOpen())
+    throw HostError(HostError::kDeviceError, "OrvikComm.Port", Tr("the line in memory is closed"));
   const auto line = line_;  // a handler may close the port
   line->sent_.Raise(bytes);
 }

@@ -5,6 +5,7 @@
 #include "OrvikTypeLib/HostError.h"
 #include "host/serial/Latin1.h"
 #include "host/serial/LineReader.h"
+#include "host/services/Tr.h"
 
 namespace bench {
 
@@ -14,16 +15,16 @@ using orvik::HostError;
 
 [[noreturn]] void RefuseText(const std::string& mnemonic, const std::string& reason) {
   throw HostError(HostError::kInvalidArgument, "OrvikComm.Port",
-                  "command \"" + VisibleText(mnemonic) + "\" cannot be sent: " + reason);
+                  Tr("command \"%%1\" cannot be sent: %%2", {VisibleLatin1(mnemonic), reason}));
 }
 
 std::string Bytes(const std::string& mnemonic, const std::string& text) {
   auto bytes = Latin1FromUtf8(text);
-  if (!bytes) RefuseText(mnemonic, "\"" + text + "\" has a letter that is not in ISO 8859-1");
+  if (!bytes) RefuseText(mnemonic, Tr("\"%%1\" has a letter that is not in ISO 8859-1", {text}));
   for (const char c : *bytes) {
     const auto byte = static_cast<unsigned char>(c);
     if (byte < 0x20 || byte == 0x7F)
-      RefuseText(mnemonic, "\"" + VisibleText(*bytes) + "\" holds a control character");
+      RefuseText(mnemonic, Tr("\"%%1\" holds a control character", {VisibleLatin1(*bytes)}));
   }
   return *std::move(bytes);
 }
@@ -73,18 +74,18 @@ std::optional<std::string> ReadField(std::string_view line, std::size_t& at) {
 orvik::Variant Message::IMessage_Parameter(std::int32_t lIndex) const {
   if (lIndex < 0 || static_cast<std::size_t>(lIndex) >= parameters_.size())
     throw HostError(HostError::kSubscriptOutOfRange, "OrvikComm.Message",
-                    "message \"" + mnemonic_ + "\" has no parameter " + std::to_string(lIndex));
+                    Tr("message \"%%1\" has no parameter %%2", {mnemonic_, std::to_string(lIndex)}));
   return parameters_[static_cast<std::size_t>(lIndex)];
 }
 
 std::shared_ptr<Message> ComposeMessage(const std::string& mnemonic, std::vector<std::string> parameters) {
   if (mnemonic.empty() || mnemonic.find_first_of(",\"") != std::string::npos)
-    RefuseText(mnemonic, "a mnemonic has at least one letter, no comma and no quotation mark");
+    RefuseText(mnemonic, Tr("a mnemonic has at least one letter, no comma and no quotation mark"));
   std::string line = Bytes(mnemonic, mnemonic);
   for (const auto& parameter : parameters) AppendField(line, Bytes(mnemonic, parameter));
   if (line.size() > LineReader::kMaxLine)
     RefuseText(mnemonic,
-               "with its parameters it has more than " + std::to_string(LineReader::kMaxLine) + " bytes");
+               Tr("with its parameters it has more than %%1 bytes", {std::to_string(LineReader::kMaxLine)}));
   return std::make_shared<Message>(mnemonic, std::move(parameters), std::move(line));
 }
 

@@ -7,6 +7,7 @@
 #include "OrvikTypeLib/As.h"
 #include "OrvikTypeLib/HostError.h"
 #include "host/serial/Message.h"
+#include "host/services/Tr.h"
 
 namespace bench {
 
@@ -38,7 +39,7 @@ std::shared_ptr<orvik::IMessage> Port::IPort_CreateMessage(const std::string& sM
   const auto* parameters = std::get_if<std::vector<std::string>>(&vParameters);
   if (!parameters)
     throw HostError(HostError::kTypeMismatch, "OrvikComm.Port",
-                    "the parameters of command \"" + sMnemonic + "\" are no list of strings");
+                    Tr("the parameters of command \"%%1\" are no list of strings", {sMnemonic}));
   return ComposeMessage(sMnemonic, *parameters);
 }
 
@@ -46,10 +47,11 @@ void Port::IPort_Send(std::shared_ptr<orvik::IMessage> Message) {
   const auto self = shared_from_this();
   const auto message = orvik::As<bench::Message>(Message);
   if (!message)
-    throw HostError(HostError::kInvalidArgument, "OrvikComm.Port", "the message was not made by this port");
+    throw HostError(HostError::kInvalidArgument, "OrvikComm.Port",
+                    Tr("the message was not made by this port"));
   if (!transport_->IsOpen())
     throw HostError(HostError::kDeviceError, "OrvikComm.Port",
-                    "command \"" + message->MnemonicText() + "\" cannot be sent: the port is closed");
+                    Tr("command \"%%1\" cannot be sent: the port is closed", {message->MnemonicText()}));
   const bool replyWaiting = !received_.empty() || reader_.InLine();
   // Recorded first: the answer may come in while the command is being written.
   Record(WireRecord::Kind::kSent, message->Line(), message.get(), replyWaiting);
@@ -60,7 +62,7 @@ std::int32_t Port::IPort_ReceivedCount() const { return static_cast<std::int32_t
 
 std::shared_ptr<orvik::IMessage> Port::IPort_TakeMessage() {
   if (received_.empty())
-    throw HostError(HostError::kSubscriptOutOfRange, "OrvikComm.Port", "no received message is waiting");
+    throw HostError(HostError::kSubscriptOutOfRange, "OrvikComm.Port", Tr("no received message is waiting"));
   auto message = std::move(received_.front());
   received_.pop_front();
   return message;

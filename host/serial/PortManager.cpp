@@ -6,6 +6,7 @@
 #include "OrvikTypeLib/HostError.h"
 #include "host/serial/DeviceTransport.h"
 #include "host/serial/Port.h"
+#include "host/services/Tr.h"
 
 namespace bench {
 
@@ -52,7 +53,7 @@ std::shared_ptr<orvik::IPort> PortManager::Open(std::int32_t lPort, const std::s
   if (lPort < 1 || static_cast<std::size_t>(lPort) > ports_.size() ||
       ports_[static_cast<std::size_t>(lPort - 1)].device.empty())
     throw HostError(HostError::kInvalidArgument, "OrvikComm.PortManager",
-                    "port " + std::to_string(lPort) + " is not assigned to an instrument");
+                    Tr("port %%1 is not assigned to an instrument", {std::to_string(lPort)}));
   const auto& device = ports_[static_cast<std::size_t>(lPort - 1)].device;
   auto transport = opener_(device, ParseLineSettings(sSettings));
   return Port::Create(std::move(transport), loop_, wire_, device + " " + sSettings);

@@ -9,10 +9,11 @@
 #include <termios.h>
 
 #include <cerrno>
-#include <system_error>
 
 #include "OrvikTypeLib/HostError.h"
 #include "host/serial/LineMode.h"
+#include "host/services/SystemError.h"
+#include "host/services/Tr.h"
 
 namespace bench {
 
@@ -22,7 +23,7 @@ constexpr int kWriteTimeoutMs = 500;
 
 /// `number` 75: this is no serial device; 57: it is one, and cannot be had now.
 [[noreturn]] void Fail(std::int32_t number, const std::string& path, const std::string& reason) {
-  throw orvik::HostError(number, "OrvikComm.PortManager", "serial device " + path + ": " + reason);
+  throw orvik::HostError(number, "OrvikComm.PortManager", Tr("serial device %%1: %%2", {path, reason}));
 }
 
 [[noreturn]] void FailToOpen(const std::string& path, int error) {
@@ -31,22 +32,21 @@ constexpr int kWriteTimeoutMs = 500;
     case ENOTDIR:
     case ENXIO:
     case ENODEV:
-      Fail(
-          orvik::HostError::kPathError, path,
-          "does not exist; connect the tester's cable and give the name of its device, such as /dev/ttyUSB0");
+      Fail(orvik::HostError::kPathError, path,
+           Tr("does not exist; connect the tester's cable and give the name of its device, such as "
+              "/dev/ttyUSB0"));
     case EISDIR:
-      Fail(orvik::HostError::kPathError, path, "is a folder, not a serial device");
+      Fail(orvik::HostError::kPathError, path, Tr("is a folder, not a serial device"));
     case EACCES:
     case EPERM:
       Fail(orvik::HostError::kDeviceError, path,
-           "no permission to use it; add your account to the device's group (often \"dialout\") and log in "
-           "anew");
+           Tr("no permission to use it; add your account to the device's group (often \"dialout\") and log "
+              "in anew"));
     case EBUSY:
       Fail(orvik::HostError::kDeviceError, path,
-           "is held by another program; close that program and try again");
+           Tr("is held by another program; close that program and try again"));
     default:
-      Fail(orvik::HostError::kDeviceError, path,
-           "cannot be opened: " + std::generic_category().message(error));
+      Fail(orvik::HostError::kDeviceError, path, Tr("cannot be opened: %%1", {SystemError(error)}));
   }
 }
 
@@ -66,11 +66,10 @@ SerialDevice::SerialDevice(std::string path, const LineSettings& settings) : pat
   if (!opened) FailToOpen(path_, errno);
   if (!isatty(opened.Get()))
     Fail(orvik::HostError::kPathError, path_,
-         "is no serial device; give the name of one, such as /dev/ttyUSB0");
+         Tr("is no serial device; give the name of one, such as /dev/ttyUSB0"));
   if (flock(opened.Get(), LOCK_EX | LOCK_NB) != 0) {
     if (errno == EWOULDBLOCK) FailToOpen(path_, EBUSY);
-    Fail(orvik::HostError::kDeviceError, path_,
-         "cannot be locked: " + std::generic_category().message(errno));
+    Fail(orvik::HostError::kDeviceError, path_, Tr("cannot be locked: %%1", {SystemError(errno)}));
   }
   pseudo_ = IsFarEndOfPair(opened.Get());
   const auto reason = SetLineMode(opened.Get(), settings, pseudo_);

@@ -6,11 +6,12 @@
 
 #include <cerrno>
 #include <cstdio>
-#include <system_error>
 #include <utility>
 
 #include "OrvikTypeLib/HostError.h"
 #include "host/serial/Latin1.h"
+#include "host/services/SystemError.h"
+#include "host/services/Tr.h"
 
 namespace bench {
 
@@ -49,9 +50,10 @@ std::string UtcNow() {
 WireLog::WireLog(std::string path, std::uint64_t maxBytes) : path_(std::move(path)), maxBytes_(maxBytes) {
   Open();
   if (!file_)
-    throw orvik::HostError(orvik::HostError::kPathError, "orvik",
-                           "wire log " + path_ + ": cannot be written: " + failure_ +
-                               "; name a file that you may write to with --wire-log");
+    throw orvik::HostError(
+        orvik::HostError::kPathError, "orvik",
+        Tr("wire log %%1: cannot be written: %%2; name a file that you may write to with --wire-log",
+           {path_, failure_}));
 }
 
 void WireLog::Write(const WireRecord& record) {
@@ -65,14 +67,14 @@ void WireLog::Note(std::string_view text) { WriteLine("note", text); }
 void WireLog::WriteLine(std::string_view direction, std::string_view bytes) {
   if (!file_) return;
   std::string line = UtcNow();
-  line.append(" ").append(direction).append(" ").append(VisibleText(bytes)).append("\n");
+  line.append(" ").append(direction).append(" ").append(VisibleLatin1(bytes)).append("\n");
   if (size_ > 0 && size_ + line.size() > maxBytes_) Rotate();
   std::string_view rest = line;
   while (file_ && !rest.empty()) {
     const ssize_t count = write(file_.Get(), rest.data(), rest.size());
     if (count < 0 && errno == EINTR) continue;
     if (count < 0) {
-      failure_ = std::generic_category().message(errno);
+      failure_ = SystemError(errno);
       file_.Reset();
       return;
     }
@@ -86,7 +88,7 @@ void WireLog::Open() {
   file_ =
       UniqueFd(open(path_.c_str(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC | O_NONBLOCK | O_NOCTTY, 0644));
   if (!file_) {
-    failure_ = std::generic_category().message(errno);
+    failure_ = SystemError(errno);
     return;
   }
   struct stat status {};
@@ -96,7 +98,7 @@ void WireLog::Open() {
 void WireLog::Rotate() {
   file_.Reset();
   if (std::rename(path_.c_str(), (path_ + ".1").c_str()) != 0) {
-    failure_ = std::generic_category().message(errno);
+    failure_ = SystemError(errno);
     return;
   }
   Open();

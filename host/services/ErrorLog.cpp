@@ -12,6 +12,7 @@
 #include "OrvikTypeLib/Conversions.h"
 #include "host/services/Files.h"
 #include "host/services/Text.h"
+#include "host/services/Tr.h"
 
 namespace bench {
 namespace {
@@ -94,10 +95,10 @@ void ErrorLog::Append(const std::string& line) const {
   const FileDescriptor descriptor(
       open(file_.c_str(), O_WRONLY | O_APPEND | O_CREAT | O_NOFOLLOW | O_CLOEXEC, 0666));
   if (!descriptor.Valid())
-    ThrowFileError(file_, "cannot be opened", errno, "check the folder and your permissions");
+    ThrowFileError(file_, Tr("%%1 cannot be opened"), errno, Tr("check the folder and your permissions"));
   WriteDescriptor(descriptor.Get(), line, file_);
   if (fsync(descriptor.Get()) != 0)
-    ThrowFileError(file_, "cannot be brought to the disk", errno, "check the disk");
+    ThrowFileError(file_, Tr("%%1 cannot be brought to the disk"), errno, Tr("check the disk"));
 }
 
 void ErrorLog::RotateBefore(std::size_t added) const {

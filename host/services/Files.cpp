@@ -6,23 +6,26 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <system_error>
 #include <thread>
 
 #include "OrvikTypeLib/HostError.h"
+#include "host/services/LanguageService.h"
+#include "host/services/SystemError.h"
+#include "host/services/Tr.h"
 
 namespace bench {
 namespace {
 
-constexpr char kSource[] = "orvik-bench";
+constexpr char kFilesSource[] = "orvik-bench";
 
 }  // namespace
 
 void ThrowFileError(const std::filesystem::path& file, const std::string& what, int error,
                     const std::string& advice) {
-  std::string text = file.string() + " " + what;
-  if (error != 0) text += ": " + std::generic_category().message(error);
-  throw orvik::HostError(orvik::HostError::kPathError, kSource, text + " (" + advice + ")");
+  const auto told = WithValues(what, {file.string()});
+  const auto text =
+      error == 0 ? Tr("%%1 (%%2)", {told, advice}) : Tr("%%1: %%2 (%%3)", {told, SystemError(error), advice});
+  throw orvik::HostError(orvik::HostError::kPathError, kFilesSource, text);
 }
 
 FileDescriptor& FileDescriptor::operator=(FileDescriptor&& other) noexcept {
@@ -37,23 +40,24 @@ FileDescriptor::~FileDescriptor() {
 std::string ReadFile(const std::filesystem::path& file) {
   const FileDescriptor descriptor(open(file.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
   if (!descriptor.Valid())
-    ThrowFileError(file, "cannot be opened", errno, "check the name and your permissions");
+    ThrowFileError(file, Tr("%%1 cannot be opened"), errno, Tr("check the name and your permissions"));
   return ReadDescriptor(descriptor.Get(), file);
 }
 
 std::string ReadDescriptor(int descriptor, const std::filesystem::path& file) {
   struct stat status {};
-  if (fstat(descriptor, &status) != 0) ThrowFileError(file, "cannot be read", errno, "check the disk");
-  if (!S_ISREG(status.st_mode)) ThrowFileError(file, "is no file", 0, "name a file");
+  if (fstat(descriptor, &status) != 0)
+    ThrowFileError(file, Tr("%%1 cannot be read"), errno, Tr("check the disk"));
+  if (!S_ISREG(status.st_mode)) ThrowFileError(file, Tr("%%1 is no file"), 0, Tr("name a file"));
   if (static_cast<std::uintmax_t>(status.st_size) > kLargestFile)
-    ThrowFileError(file, "is too large", 0, "files up to 512 MiB are read");
+    ThrowFileError(file, Tr("%%1 is too large"), 0, Tr("files up to 512 MiB are read"));
   std::string contents(static_cast<std::size_t>(status.st_size), '\0');
   std::size_t filled = 0;
   while (filled < contents.size()) {
     const ssize_t count =
         pread(descriptor, contents.data() + filled, contents.size() - filled, static_cast<off_t>(filled));
     if (count < 0 && errno == EINTR) continue;
-    if (count < 0) ThrowFileError(file, "cannot be read", errno, "check the disk");
+    if (count < 0) ThrowFileError(file, Tr("%%1 cannot be read"), errno, Tr("check the disk"));
     if (count == 0) break;
     filled += static_cast<std::size_t>(count);
   }
@@ -66,7 +70,8 @@ void WriteDescriptor(int descriptor, std::string_view contents, const std::files
     const ssize_t count = write(descriptor, contents.data(), contents.size());
     if (count < 0 && errno == EINTR) continue;
     if (count < 0)
-      ThrowFileError(file, "cannot be written", errno, "what was there before is kept; check the disk");
+      ThrowFileError(file, Tr("%%1 cannot be written"), errno,
+                     Tr("what was there before is kept; check the disk"));
     contents.remove_prefix(static_cast<std::size_t>(count));
   }
 }
@@ -81,20 +86,20 @@ void SyncFolderOf(const std::filesystem::path& file) {
   const auto folder = file.has_parent_path() ? file.parent_path() : std::filesystem::path(".");
   const FileDescriptor descriptor(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
   if (!descriptor.Valid() || fsync(descriptor.Get()) != 0)
-    ThrowFileError(folder, "cannot be brought to the disk", errno, "check the disk");
+    ThrowFileError(folder, Tr("%%1 cannot be brought to the disk"), errno, Tr("check the disk"));
 }
 
 FileDescriptor WriteFreshFile(const std::filesystem::path& fresh, std::string_view contents,
                               std::optional<mode_t> mode) {
   FileDescriptor descriptor(open(fresh.c_str(), O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC, 0666));
   if (!descriptor.Valid())
-    ThrowFileError(fresh, "cannot be created", errno, "check the folder and your permissions");
+    ThrowFileError(fresh, Tr("%%1 cannot be created"), errno, Tr("check the folder and your permissions"));
   try {
     if (ftruncate(descriptor.Get(), 0) != 0 || (mode && fchmod(descriptor.Get(), *mode) != 0))
-      ThrowFileError(fresh, "cannot be written", errno, "check the disk");
+      ThrowFileError(fresh, Tr("%%1 cannot be written"), errno, Tr("check the disk"));
     WriteDescriptor(descriptor.Get(), contents, fresh);
     if (fsync(descriptor.Get()) != 0)
-      ThrowFileError(fresh, "cannot be brought to the disk", errno, "check the disk");
+      ThrowFileError(fresh, Tr("%%1 cannot be brought to the disk"), errno, Tr("check the disk"));
   } catch (const orvik::HostError&) {
     unlink(fresh.c_str());
     throw;
@@ -106,7 +111,7 @@ void MoveIntoPlace(const std::filesystem::path& fresh, const std::filesystem::pa
   if (rename(fresh.c_str(), file.c_str()) != 0) {
     const int error = errno;
     unlink(fresh.c_str());
-    ThrowFileError(file, "cannot be replaced", error, "check the folder and your permissions");
+    ThrowFileError(file, Tr("%%1 cannot be replaced"), error, Tr("check the folder and your permissions"));
   }
   SyncFolderOf(file);
 }
@@ -122,19 +127,21 @@ void CreateFolder(const std::filesystem::path& folder) {
   std::error_code error;
   std::filesystem::create_directories(folder, error);
   if (error)
-    ThrowFileError(folder, "cannot be created", error.value(), "name a folder that you may write to");
+    ThrowFileError(folder, Tr("%%1 cannot be created"), error.value(),
+                   Tr("name a folder that you may write to"));
 }
 
 FileLock::FileLock(const std::filesystem::path& lockFile, std::chrono::milliseconds patience) {
   descriptor_ = FileDescriptor(open(lockFile.c_str(), O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC, 0666));
   if (!descriptor_.Valid())
-    ThrowFileError(lockFile, "cannot be opened", errno, "check the folder and your permissions");
+    ThrowFileError(lockFile, Tr("%%1 cannot be opened"), errno, Tr("check the folder and your permissions"));
   const auto deadline = std::chrono::steady_clock::now() + patience;
   while (flock(descriptor_.Get(), LOCK_EX | LOCK_NB) != 0) {
     if (errno != EWOULDBLOCK && errno != EINTR)
-      ThrowFileError(lockFile, "cannot be locked", errno, "keep the folder on a local disk");
+      ThrowFileError(lockFile, Tr("%%1 cannot be locked"), errno, Tr("keep the folder on a local disk"));
     if (std::chrono::steady_clock::now() >= deadline)
-      ThrowFileError(lockFile, "is held by another program", 0, "close the other program and try again");
+      ThrowFileError(lockFile, Tr("%%1 is held by another program"), 0,
+                     Tr("close the other program and try again"));
     std::this_thread::sleep_for(std::chrono::milliseconds(2));
   }
 }

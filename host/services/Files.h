@@ -78,7 +78,9 @@ class FileLock {
 /// How long the host waits for another program that is writing one of its files.
 inline constexpr std::chrono::milliseconds kLockPatience{2000};
 
-/// Throws `HostError` 75: the file, what was tried, the system's reason for `error`, and what to do.
+/// Throws `HostError` 75: the file, what was tried, the system's reason for `error` (0 for none), and what to
+/// do.
+/// @param what a translated sentence about the file, which is its "%%1": "%%1 cannot be opened"
 [[noreturn]] void ThrowFileError(const std::filesystem::path& file, const std::string& what, int error,
                                  const std::string& advice);
 

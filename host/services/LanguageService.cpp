@@ -5,6 +5,7 @@
 #include "OrvikTypeLib/As.h"
 #include "host/services/Files.h"
 #include "host/services/Text.h"
+#include "host/services/Tr.h"
 #include "platform/IPanel.h"
 #include "platform/ITreeView.h"
 
@@ -30,7 +31,7 @@ std::vector<std::string> Candidates(const std::string& language) {
   });
   if (!valid)
     throw orvik::HostError(orvik::HostError::kInvalidArgument, "OrvikTypeLib.LanguageService",
-                           "\"" + language + "\" is no language; give a name such as \"da\" or \"pt_BR\"");
+                           Tr("\"%%1\" is no language; give a name such as \"da\" or \"pt_BR\"", {language}));
   if (name.empty() || name == "C" || name == "POSIX") return {};
   std::vector<std::string> candidates{name.substr(0, name.find_first_of("_-@"))};
   if (candidates.front() != name) candidates.push_back(name);
@@ -57,22 +58,30 @@ std::string WithValues(std::string_view text, const std::vector<std::string>& va
   return result;
 }
 
-LanguageService::LanguageService(const std::string& language,
-                                 const std::vector<std::filesystem::path>& folders) {
-  for (const auto& candidate : Candidates(language)) Read(candidate, folders);
+std::vector<TranslationFile> TranslationFiles(const std::string& language,
+                                              const std::vector<std::filesystem::path>& folders) {
+  std::vector<TranslationFile> files;
+  for (const auto& candidate : Candidates(language)) {
+    const auto ending = "." + candidate + ".po";
+    for (const auto& folder : folders) {
+      std::error_code error;
+      for (const auto& entry : std::filesystem::directory_iterator(folder, error)) {
+        const auto name = entry.path().filename().string();
+        if (name.ends_with(ending))
+          files.push_back({name.substr(0, name.size() - ending.size()), entry.path()});
+      }
+    }
+  }
+  return files;
 }
 
-void LanguageService::Read(const std::string& language, const std::vector<std::filesystem::path>& folders) {
-  const auto ending = "." + language + ".po";
-  for (const auto& folder : folders) {
-    std::error_code error;
-    for (const auto& entry : std::filesystem::directory_iterator(folder, error)) {
-      const auto name = entry.path().filename().string();
-      if (!name.ends_with(ending)) continue;
-      auto& known = modules_[name.substr(0, name.size() - ending.size())];
-      for (auto& [number, text] : ReadTranslations(ReadFile(entry.path()), entry.path().string()))
-        known[number] = text;
-    }
+LanguageService::LanguageService(const std::string& language,
+                                 const std::vector<std::filesystem::path>& folders) {
+  for (const auto& file : TranslationFiles(language, folders)) {
+    if (file.module == kProgramModule) continue;  // its texts have no numbers
+    auto& known = modules_[file.module];
+    for (auto& [number, text] : ReadTranslations(ReadFile(file.path), file.path.string()))
+      known[number] = text;
   }
 }
 

@@ -11,6 +11,20 @@
 
 namespace bench {
 
+/// A file of translations, MODULE.LANGUAGE.po.
+struct TranslationFile {
+  std::string module;
+  std::filesystem::path path;
+};
+
+/// The module of the program's own texts, which have no numbers (see `Tr`).
+inline constexpr char kProgramModule[] = "orvik-bench";
+
+/// The files of a language, those of the general language ("pt") before those of the special one ("pt_BR").
+/// `HostError` 5 for a language that is no name such as "da" or "pt_BR".
+std::vector<TranslationFile> TranslationFiles(const std::string& language,
+                                              const std::vector<std::filesystem::path>& folders);
+
 /// Translates numbered texts. The translations of a module into a language stand in the file
 /// MODULE.LANGUAGE.po of one of the folders ("KELD.da.po"); texts that the module has no translation for are
 /// looked up in the host's own file ("orvik.da.po"). Without either the English text after "::" is shown.
@@ -27,7 +41,6 @@ class LanguageService final : public orvik::ILanguageService {
   void ILanguageService_TranslateControls(const std::string& sModule,
                                           std::shared_ptr<orvik::platform::IPanel> Controls) const override;
 
-  void Read(const std::string& language, const std::vector<std::filesystem::path>& folders);
   const std::string* Find(const std::string& module, std::string_view number) const;
 
   /// Translations by module.

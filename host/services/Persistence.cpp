@@ -3,6 +3,7 @@
 #include "OrvikTypeLib/As.h"
 #include "OrvikTypeLib/IXmlNode.h"
 #include "host/services/Text.h"
+#include "host/services/Tr.h"
 
 namespace bench {
 
@@ -29,7 +30,7 @@ std::int32_t Persistence::IPersistence_ReadStatus(std::shared_ptr<orvik::IXmlNod
   const auto text = orvik::Required(Node).Text();
   if (const auto status = WholeNumber(text)) return *status;
   throw orvik::HostError(orvik::HostError::kTypeMismatch, "OrvikTypeLib.Persistence",
-                         "the status \"" + text + "\" is not a whole number");
+                         Tr("the status \"%%1\" is not a whole number", {text}));
 }
 
 }  // namespace bench

@@ -1,6 +1,7 @@
 #include "host/services/RegistryReader.h"
 
 #include "OrvikTypeLib/HostError.h"
+#include "host/services/Tr.h"
 
 namespace bench {
 namespace {
@@ -44,7 +45,7 @@ orvik::Variant RegistryReader::IRegistryReader_ReadValue(const std::string& sNam
 void RegistryReader::IRegistryReader_WriteValue(const std::string& sName, const orvik::Variant& vValue) {
   if (!key_)
     throw orvik::HostError(orvik::HostError::kInvalidArgument, "OrvikTypeLib.RegistryReader",
-                           "no key is open; open or create one before \"" + sName + "\" is written");
+                           Tr("no key is open; open or create one before \"%%1\" is written", {sName}));
   store_->Write(key_->hive, key_->path, sName, vValue);
 }
 

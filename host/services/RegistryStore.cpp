@@ -8,6 +8,7 @@
 
 #include "OrvikTypeLib/HostError.h"
 #include "host/services/Files.h"
+#include "host/services/Tr.h"
 
 namespace bench {
 namespace {
@@ -15,9 +16,9 @@ namespace {
 using orvik::HostError;
 using Json = nlohmann::json;
 
-constexpr char kSource[] = "OrvikTypeLib.RegistryReader";
+constexpr char kRegistrySource[] = "OrvikTypeLib.RegistryReader";
 constexpr char kFormat[] = "orvik registry";
-constexpr int kVersion = 1;
+constexpr int kRegistryVersion = 1;
 constexpr int kDeepest = 16;
 
 std::string HiveName(std::int32_t hive) {
@@ -56,9 +57,10 @@ bool IsOrIsAbove(const std::string& key, const std::string& other) {
 }
 
 [[noreturn]] void Refuse(const std::filesystem::path& file, const std::string& reason) {
-  throw HostError(HostError::kPathError, kSource,
-                  file.string() + " cannot be used: " + reason +
-                      ". It was left as it is; repair it, or move it away to start with empty settings");
+  throw HostError(HostError::kPathError, kRegistrySource,
+                  Tr("%%1 cannot be used: %%2. It was left as it is; repair it, or move it away to start "
+                     "with empty settings",
+                     {file.string(), reason}));
 }
 
 Json Parsed(const std::string& text, const std::filesystem::path& file) {
@@ -69,31 +71,32 @@ Json Parsed(const std::string& text, const std::filesystem::path& file) {
   };
   try {
     Json parsed = Json::parse(text, watchDepth);
-    if (tooDeep) Refuse(file, "it is nested too deeply");
+    if (tooDeep) Refuse(file, Tr("it is nested too deeply"));
     return parsed;
   } catch (const Json::exception& fault) {
-    Refuse(file, std::string("it is damaged or cut short (") + fault.what() + ")");
+    Refuse(file, Tr("it is damaged or cut short (%%1)", {fault.what()}));
   }
 }
 
 void Check(const Json& all, const std::filesystem::path& file) {
-  if (!all.is_object() || all.value("format", Json()) != kFormat) Refuse(file, "it is no settings file");
+  if (!all.is_object() || all.value("format", Json()) != kFormat) Refuse(file, Tr("it is no settings file"));
   const auto version = all.value("version", Json());
-  if (!version.is_number_integer()) Refuse(file, "it names no version");
-  if (version > kVersion) Refuse(file, "it was written by a newer version of this program");
+  if (!version.is_number_integer()) Refuse(file, Tr("it names no version"));
+  if (version > kRegistryVersion) Refuse(file, Tr("it was written by a newer version of this program"));
   const auto keys = all.find("keys");
-  if (keys == all.end() || !keys->is_object()) Refuse(file, "it holds no keys");
+  if (keys == all.end() || !keys->is_object()) Refuse(file, Tr("it holds no keys"));
   for (const auto& [name, key] : keys->items()) {
-    if (!key.is_object()) Refuse(file, "the key \"" + name + "\" holds no values");
+    if (!key.is_object()) Refuse(file, Tr("the key \"%%1\" holds no values", {name}));
   }
 }
 
-Json EmptyStore() { return {{"format", kFormat}, {"version", kVersion}, {"keys", Json::object()}}; }
+Json EmptyStore() { return {{"format", kFormat}, {"version", kRegistryVersion}, {"keys", Json::object()}}; }
 
 Json ToJson(const orvik::Variant& value) {
   if (const auto* number = std::get_if<std::int32_t>(&value)) return *number;
   if (const auto* text = std::get_if<std::string>(&value)) return *text;
-  throw HostError(HostError::kTypeMismatch, kSource, "a setting is a text or a 32-bit whole number");
+  throw HostError(HostError::kTypeMismatch, kRegistrySource,
+                  Tr("a setting is a text or a 32-bit whole number"));
 }
 
 }  // namespace
@@ -136,9 +139,10 @@ orvik::Variant RegistryStore::Read(std::int32_t hive, const std::string& path,
         number <= std::numeric_limits<std::int32_t>::max())
       return static_cast<std::int32_t>(number);
   }
-  throw HostError(HostError::kTypeMismatch, kSource,
-                  file_.string() + ": the value \"" + name + "\" of the key \"" + keyName +
-                      "\" is neither a text nor a 32-bit whole number; correct it");
+  throw HostError(
+      HostError::kTypeMismatch, kRegistrySource,
+      Tr("%%1: the value \"%%2\" of the key \"%%3\" is neither a text nor a 32-bit whole number; correct it",
+         {file_.string(), name, keyName}));
 }
 
 void RegistryStore::Write(std::int32_t hive, const std::string& path, const std::string& name,
@@ -208,7 +212,8 @@ void RegistryStore::Modify(Change change) {
   try {
     text = all.dump(2) + "\n";
   } catch (const Json::exception&) {
-    throw HostError(HostError::kInvalidArgument, kSource, "the setting holds bytes that are not UTF-8 text");
+    throw HostError(HostError::kInvalidArgument, kRegistrySource,
+                    Tr("the setting holds bytes that are not UTF-8 text"));
   }
   ReplaceFile(file_, text);
   cached_ = std::move(all);

@@ -85,4 +85,13 @@ std::string ValidUtf8(std::string_view text) {
   return valid;
 }
 
+std::size_t InvalidUtf8(std::string_view text, std::size_t from) {
+  while (from < text.size()) {
+    const std::size_t length = SequenceLength(text.substr(from));
+    if (length == 0) return from;
+    from += length;
+  }
+  return std::string_view::npos;
+}
+
 }  // namespace bench

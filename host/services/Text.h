@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -23,5 +24,8 @@ std::string ExactNumberText(double value);
 
 /// The text with every byte that is not part of valid UTF-8, and every NUL, replaced by U+FFFD.
 std::string ValidUtf8(std::string_view text);
+
+/// The first byte at or behind `from` that `ValidUtf8` would replace; `npos` when there is none.
+std::size_t InvalidUtf8(std::string_view text, std::size_t from = 0);
 
 }  // namespace bench

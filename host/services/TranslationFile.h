@@ -22,4 +22,10 @@ using Translations = std::unordered_map<std::int32_t, std::string>;
 /// @throws HostError 75 with file and line when the text is malformed
 Translations ReadTranslations(std::string_view text, const std::string& name);
 
+/// Translated texts by their English originals.
+using OwnTranslations = std::unordered_map<std::string, std::string>;
+
+/// Reads a gettext file whose entries carry no numbers: the originals are the keys. Otherwise as above.
+OwnTranslations ReadOwnTranslations(std::string_view text, const std::string& name);
+
 }  // namespace bench

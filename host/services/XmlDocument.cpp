@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "host/services/Tr.h"
 #include "host/services/XmlNode.h"
 
 namespace bench {
@@ -9,6 +10,21 @@ namespace xml {
 namespace {
 
 constexpr int kIndentedLevels = 256;
+
+/// What the parser says of a malformed text; here for the list of texts to translate.
+[[maybe_unused]] constexpr const char* kParserFaults[] = {
+    Marked("Could not determine tag type"),
+    Marked("Error parsing document declaration/processing instruction"),
+    Marked("Error parsing comment"),
+    Marked("Error parsing CDATA section"),
+    Marked("Error parsing document type declaration"),
+    Marked("Error parsing PCDATA section"),
+    Marked("Error parsing start element tag"),
+    Marked("Error parsing element attribute"),
+    Marked("Error parsing end element tag"),
+    Marked("Start-end tags mismatch"),
+    Marked("No document element found"),
+    Marked("Could not allocate memory")};
 
 /// Fragments are parsed so that text beside the root element is seen, and refused, instead of dropped.
 constexpr unsigned kParseFlags = pugi::parse_default | pugi::parse_comments | pugi::parse_pi |
@@ -25,15 +41,15 @@ Fault CheckTop(const pugi::xml_document& document, std::size_t size) {
     if (node.type() == pugi::node_pcdata || node.type() == pugi::node_cdata) {
       const auto text = std::string_view(node.value()).find_first_not_of(" \t\r\n");
       if (text != std::string_view::npos)
-        return {OffsetOf(node) + text, "there is text outside the root element"};
+        return {OffsetOf(node) + text, Tr("there is text outside the root element")};
     }
     if (node.type() == pugi::node_doctype)
-      return {OffsetOf(node), "a document type declaration is not supported"};
+      return {OffsetOf(node), Tr("a document type declaration is not supported")};
     if (node.type() != pugi::node_element) continue;
-    if (root) return {OffsetOf(node), "there is a second root element"};
+    if (root) return {OffsetOf(node), Tr("there is a second root element")};
     root = node;
   }
-  if (!root) return {size, "there is no root element"};
+  if (!root) return {size, Tr("there is no root element")};
   return {};
 }
 
@@ -70,16 +86,21 @@ std::string WithCarriageReturns(std::string text) {
 }  // namespace
 
 Fault Parse(std::string_view text, pugi::xml_document& document) {
+  auto fault = ParseAsFarAsPossible(text, document);
+  if (!fault.reason.empty()) document.reset();
+  return fault;
+}
+
+Fault ParseAsFarAsPossible(std::string_view text, pugi::xml_document& document) {
   const auto result = document.load_buffer(text.data(), text.size(), kParseFlags, pugi::encoding_utf8);
   Fault fault;
   if (!result) {
-    fault = {static_cast<std::size_t>(result.offset < 0 ? 0 : result.offset), result.description()};
+    fault = {static_cast<std::size_t>(result.offset < 0 ? 0 : result.offset), Tr(result.description())};
   } else if (text.find('\0') != std::string_view::npos) {
-    fault = {text.find('\0'), "there is a NUL byte"};
+    fault = {text.find('\0'), Tr("there is a NUL byte")};
   } else {
     fault = CheckTop(document, text.size());
   }
-  if (!fault.reason.empty()) document.reset();
   return fault;
 }
 
@@ -105,8 +126,8 @@ bool XmlDocument::IXmlDocument_LoadFromString(const std::string& sXml) {
   const auto offset = std::min(fault.offset, sXml.size());
   const auto lineStart = offset == 0 ? std::string::npos : sXml.rfind('\n', offset - 1);
   const auto column = offset - (lineStart == std::string::npos ? 0 : lineStart + 1) + 1;
-  error_ = "line " + std::to_string(xml::LineOf(sXml, offset)) + ", column " + std::to_string(column) + ": " +
-           fault.reason;
+  error_ = Tr("line %%1, column %%2: %%3",
+              {std::to_string(xml::LineOf(sXml, offset)), std::to_string(column), fault.reason});
   return false;
 }
 

@@ -42,6 +42,8 @@ struct Fault {
 /// white space around it.
 /// @return the fault; its reason is empty when the document is well formed
 Fault Parse(std::string_view text, pugi::xml_document& document);
+/// The same, but what stands before the fault stays in `document`.
+Fault ParseAsFarAsPossible(std::string_view text, pugi::xml_document& document);
 
 /// The number of the line, from 1, in which the byte stands.
 std::size_t LineOf(std::string_view text, std::size_t offset);

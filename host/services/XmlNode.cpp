@@ -4,6 +4,7 @@
 
 #include "OrvikTypeLib/As.h"
 #include "host/services/Text.h"
+#include "host/services/Tr.h"
 
 namespace bench {
 namespace {
@@ -17,7 +18,7 @@ bool IsText(pugi::xml_node node) {
 void RequireName(const std::string& name) {
   if (!xml::IsName(name))
     throw orvik::HostError(orvik::HostError::kInvalidArgument, kNodeSource,
-                           "\"" + name + "\" cannot be the name of an element or attribute");
+                           Tr("\"%%1\" cannot be the name of an element or attribute", {name}));
 }
 
 bool StartsName(char letter) {
@@ -80,8 +81,8 @@ bool IsName(const std::string& name) {
 std::int32_t NumberAttribute(pugi::xml_node element, const char* name) {
   const auto number = WholeNumber(element.attribute(name).value());
   if (!number)
-    throw XmlError(element, std::string("the attribute \"") + name + "\" of \"" + element.name() +
-                                "\" is not a whole number");
+    throw XmlError(element,
+                   Tr("the attribute \"%%1\" of \"%%2\" is not a whole number", {name, element.name()}));
   return *number;
 }
 
@@ -91,7 +92,7 @@ const XmlNode& XmlNode::Of(const std::shared_ptr<orvik::IXmlNode>& node) {
   const auto* own = dynamic_cast<const XmlNode*>(&orvik::Required(node));
   if (!own)
     throw orvik::HostError(orvik::HostError::kTypeMismatch, kNodeSource,
-                           "the node is not one of this host's");
+                           Tr("the node is not one of this host's"));
   return *own;
 }
 
@@ -149,11 +150,11 @@ void XmlNode::IXmlNode_Append(std::shared_ptr<IXmlNode> Node) {
   const XmlNode& added = Of(Node);
   if (added.document_ != document_)
     throw orvik::HostError(orvik::HostError::kInvalidArgument, kNodeSource,
-                           "the node \"" + Node->Name() + "\" belongs to another document");
+                           Tr("the node \"%%1\" belongs to another document", {Node->Name()}));
   if (added.node_.parent() == node_ && !xml::NextElement(added.node_)) return;
   if (!node_.append_move(added.node_))
     throw orvik::HostError(orvik::HostError::kInvalidArgument, kNodeSource,
-                           "the node \"" + Node->Name() + "\" stands above the one it is to be put below");
+                           Tr("the node \"%%1\" stands above the one it is to be put below", {Node->Name()}));
 }
 
 }  // namespace bench

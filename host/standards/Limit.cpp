@@ -5,6 +5,7 @@
 #include "OrvikTypeLib/Conversions.h"
 #include "OrvikTypeLib/HostError.h"
 #include "host/services/Text.h"
+#include "host/services/Tr.h"
 #include "host/services/XmlNode.h"
 
 namespace bench {
@@ -39,17 +40,20 @@ std::optional<Limit::Bound> Limit::Parsed(const std::string& text) {
   if (percent) number.pop_back();
   const auto value = FiniteNumber(number);
   if (!value)
-    Refuse("the bound \"" + text +
-           "\" is not a number; write for example 0.3 (with a point), or 110% of the nominal value");
+    Refuse(
+        Tr("the bound \"%%1\" is not a number; write for example 0.3 (with a point), or 110% of the nominal "
+           "value",
+           {text}));
   return Bound{*value, percent};
 }
 
 void Limit::Check(const std::optional<Bound>& low, const std::optional<Bound>& high,
                   std::optional<double> nominal) {
   if (!nominal && ((low && low->percent) || (high && high->percent)))
-    Refuse("a bound in percent needs a nominal value, and the limit has none; enter the bound in its unit");
+    Refuse(
+        Tr("a bound in percent needs a nominal value, and the limit has none; enter the bound in its unit"));
   if (low && high && low->Resolved(nominal) > high->Resolved(nominal))
-    Refuse("the lower bound lies above the upper one; exchange them");
+    Refuse(Tr("the lower bound lies above the upper one; exchange them"));
 }
 
 void Limit::ILimit_SetBounds(const std::string& sLow, const std::string& sHigh) {
@@ -71,8 +75,8 @@ void Limit::ILimit_SetNominal(const orvik::Variant& vNominal) {
   if (const auto* number = std::get_if<double>(&vNominal)) nominal = *number;
   if (const auto* whole = std::get_if<std::int32_t>(&vNominal)) nominal = *whole;
   if (!nominal && !orvik::IsEmpty(vNominal))
-    throw HostError(HostError::kTypeMismatch, kLimitSource, "a nominal value is a number");
-  if (nominal && !std::isfinite(*nominal)) Refuse("a nominal value is a finite number");
+    throw HostError(HostError::kTypeMismatch, kLimitSource, Tr("a nominal value is a number"));
+  if (nominal && !std::isfinite(*nominal)) Refuse(Tr("a nominal value is a finite number"));
   Check(low_, high_, nominal);
   nominal_ = nominal;
 }
@@ -112,7 +116,7 @@ void Limit::Load(pugi::xml_node node) {
     unit_ = node.attribute(kUnit).value();
     const std::string nominal = node.attribute(kNominal).value();
     if (!nominal.empty() && !FiniteNumber(nominal))
-      Refuse("the nominal value \"" + nominal + "\" is no number");
+      Refuse(Tr("the nominal value \"%%1\" is no number", {nominal}));
     nominal_ = FiniteNumber(nominal);
     ILimit_SetBounds(node.attribute(kLow).value(), node.attribute(kHigh).value());
   } catch (const HostError& error) {

@@ -4,6 +4,7 @@
 
 #include "OrvikTypeLib/As.h"
 #include "OrvikTypeLib/Conversions.h"
+#include "host/services/Tr.h"
 #include "host/services/XmlNode.h"
 #include "host/standards/Limit.h"
 
@@ -29,8 +30,9 @@ void Standard::IStandard_Initialize(const std::string& sName, const std::string&
 
 std::shared_ptr<orvik::ILimit> Standard::IStandard_Limit(std::int32_t lIndex) const {
   if (lIndex < 1 || static_cast<std::size_t>(lIndex) > limits_.size())
-    throw HostError(HostError::kSubscriptOutOfRange, kStandardSource,
-                    "there is no limit " + std::to_string(lIndex) + " of " + std::to_string(limits_.size()));
+    throw HostError(
+        HostError::kSubscriptOutOfRange, kStandardSource,
+        Tr("there is no limit %%1 of %%2", {std::to_string(lIndex), std::to_string(limits_.size())}));
   return limits_[static_cast<std::size_t>(lIndex) - 1];
 }
 
@@ -38,7 +40,7 @@ void Standard::IStandard_AddLimit(std::shared_ptr<orvik::ILimit> Limit) {
   auto limit = orvik::As<bench::Limit>(Limit);
   if (!limit)
     throw HostError(HostError::kTypeMismatch, kStandardSource,
-                    "only a limit of the class \"OrvikTypeLib.Limit\" can be added");
+                    Tr("only a limit of the class \"OrvikTypeLib.Limit\" can be added"));
   limits_.push_back(std::move(limit));
 }
 

@@ -3,6 +3,7 @@
 #include "OrvikTypeLib/As.h"
 #include "OrvikTypeLib/ILimit.h"
 #include "OrvikTypeLib/IReport.h"
+#include "host/services/Tr.h"
 #include "host/services/XmlNode.h"
 #include "host/standards/Standard.h"
 
@@ -42,7 +43,7 @@ std::shared_ptr<orvik::IStandard> StandardColl::IStandardColl_item(std::int32_t 
   if (lIndex < 1 || static_cast<std::size_t>(lIndex) > standards_.size())
     throw HostError(
         HostError::kSubscriptOutOfRange, kCollectionSource,
-        "there is no standard " + std::to_string(lIndex) + " of " + std::to_string(standards_.size()));
+        Tr("there is no standard %%1 of %%2", {std::to_string(lIndex), std::to_string(standards_.size())}));
   return standards_[static_cast<std::size_t>(lIndex) - 1];
 }
 
@@ -50,7 +51,7 @@ void StandardColl::IStandardColl_Add(std::shared_ptr<orvik::IStandard> Standard)
   auto standard = orvik::As<bench::Standard>(Standard);
   if (!standard)
     throw HostError(HostError::kTypeMismatch, kCollectionSource,
-                    "only a standard of the class \"OrvikTypeLib.Standard\" can be added");
+                    Tr("only a standard of the class \"OrvikTypeLib.Standard\" can be added"));
   standards_.push_back(std::move(standard));
 }
 
@@ -97,7 +98,7 @@ void StandardColl::IStandardColl_Print(std::shared_ptr<orvik::IReport> Report, s
   auto& report = orvik::Required(Report);
   if (asHeader.size() < 3)
     throw HostError(HostError::kSubscriptOutOfRange, kCollectionSource,
-                    "the header of printed limits is a key, a heading and a number");
+                    Tr("the header of printed limits is a key, a heading and a number"));
   std::string rows;
   for (const auto& standard : standards_) {
     for (std::int32_t index = 1; index <= standard->LimitCount(); ++index) {

@@ -1,0 +1,54 @@
+#include "host/app/archive/ArchiveCommand.h"
+
+#include "host/app/InputError.h"
+#include "host/app/archive/ArchiveCommandAdd.h"
+#include "host/app/archive/ArchiveCommandExport.h"
+#include "host/app/archive/ArchiveCommandList.h"
+#include "host/app/archive/ArchiveCommandShow.h"
+#include "host/app/archive/ArchiveCommandTrend.h"
+#include "host/archive/ArchiveError.h"
+#include "host/services/Tr.h"
+
+namespace bench {
+
+CLI::App* ArchiveCommand::Declare(CLI::App& program) {
+  auto* archive = program.add_subcommand("archive", Tr("Keep finished documents, and ask about them later"));
+  archive
+      ->add_option("--archive", location_,
+                   Tr("The archive: a file, or postgresql://USER@HOST/DATABASE; otherwise ORVIK_ARCHIVE, or "
+                      "archive.sqlite in the state folder"))
+      ->type_name("FILE|URL");
+  archive->footer(
+      Tr("Examples:\n"
+         "  orvik-bench archive add pump-7.orvik\n"
+         "  orvik-bench archive list --asset PUMP-7\n"
+         "  orvik-bench archive trend --asset PUMP-7 --test 410 --to pump-7.svg\n"
+         "  orvik-bench archive --archive postgresql://bench@server/orvik list --since 2026-01-01"));
+  archive->require_subcommand(0, 1);
+  const auto add = [&](std::unique_ptr<Command> command) {
+    auto* declared = command->Declare(*archive);
+    declared->fallthrough();
+    parts_.push_back({std::move(command), declared});
+  };
+  add(std::make_unique<ArchiveCommandAdd>(location_));
+  add(std::make_unique<ArchiveCommandList>(location_));
+  add(std::make_unique<ArchiveCommandShow>(location_));
+  add(std::make_unique<ArchiveCommandTrend>(location_));
+  add(std::make_unique<ArchiveCommandExport>(location_));
+  return archive;
+}
+
+ExitStatus ArchiveCommand::Run(const GlobalOptions& options) {
+  try {
+    for (const auto& part : parts_)
+      if (part.declared->parsed()) return part.command->Run(options);
+  } catch (const ArchiveError& error) {
+    if (error.Why() == ArchiveError::Kind::kBadInput) throw InputError(error.what());
+    throw IncompleteError(error.what());
+  }
+  throw InputError(
+      Tr("archive: say what is to be done: add, list, show, trend or export; \"orvik-bench archive --help\" "
+         "tells more"));
+}
+
+}  // namespace bench

@@ -1,0 +1,112 @@
+#include "host/app/archive/ArchiveCommandAdd.h"
+
+#include <iostream>
+
+#include "OrvikTypeLib/HostError.h"
+#include "host/app/DocumentJson.h"
+#include "host/app/InputError.h"
+#include "host/app/archive/ArchiveCommandEntry.h"
+#include "host/app/archive/ArchiveCommandOpen.h"
+#include "host/archive/ArchiveError.h"
+#include "host/services/Tr.h"
+
+namespace bench {
+
+namespace {
+
+std::string KeyOf(Archive::Added added) {
+  switch (added) {
+    case Archive::Added::kNew:
+      return "added";
+    case Archive::Added::kRevision:
+      return "revision";
+    case Archive::Added::kUnchanged:
+      break;
+  }
+  return "unchanged";
+}
+
+std::string TextOf(const std::string& file, const Archive::Receipt& receipt) {
+  const std::vector<std::string> values = {file, std::to_string(receipt.id),
+                                           std::to_string(receipt.revision)};
+  switch (receipt.added) {
+    case Archive::Added::kNew:
+      return Tr("%%1: added as document %%2", values);
+    case Archive::Added::kRevision:
+      return Tr("%%1: has changed, added as document %%2, revision %%3", values);
+    case Archive::Added::kUnchanged:
+      break;
+  }
+  return Tr("%%1: is in the archive already, as document %%2; nothing was added", values);
+}
+
+}  // namespace
+
+CLI::App* ArchiveCommandAdd::Declare(CLI::App& archive) {
+  auto* command = archive.add_subcommand("add", Tr("Take finished documents into the archive"));
+  command->add_option("FILE", files_, Tr("The documents"))->required();
+  command->add_flag("--incomplete", incomplete_,
+                    Tr("Take documents too in which something has no result; they are marked"));
+  command->add_flag("--json", json_, Tr("Print one JSON object"));
+  return command;
+}
+
+ExitStatus ArchiveCommandAdd::Run(const GlobalOptions& options) {
+  const auto documents = Read(options);
+  try {
+    if (!documents.empty()) {
+      auto archive = OpenArchiveToAdd(location_, options);
+      for (std::size_t i = 0; i < documents.size(); ++i) Tell(taken_[i], archive.Add(documents[i]));
+    }
+  } catch (const ArchiveError&) {
+    PrintJson();  // what was added before is in the archive
+    throw;
+  }
+  PrintJson();
+  if (refusals_.empty()) return ExitStatus::kPassed;
+  std::string all;
+  for (const auto& refusal : refusals_) all += (all.empty() ? "" : "\n") + refusal;
+  throw InputError(all);
+}
+
+std::vector<ArchivedDocument> ArchiveCommandAdd::Read(const GlobalOptions& options) {
+  Workbench workbench(options);
+  std::vector<ArchivedDocument> documents;
+  for (const auto& file : files_) {
+    try {
+      auto document = EntryOf(file, workbench);
+      const auto reason = UnfinishedReason(document);
+      if (!reason.empty() && !incomplete_) {
+        Refuse(file,
+               Tr("%%1 is not finished and was not added: %%2; run it to its end with \"orvik-bench run "
+                  "%%1 --resume\", or add it as it is with --incomplete",
+                  {file, reason}));
+        continue;
+      }
+      documents.push_back(std::move(document));
+      taken_.push_back(file);
+    } catch (const orvik::HostError& error) {
+      Refuse(file, error.Description());
+    } catch (const InputError& error) {
+      Refuse(file, error.what());
+    }
+  }
+  return documents;
+}
+
+void ArchiveCommandAdd::Refuse(const std::string& file, const std::string& reason) {
+  refusals_.push_back(reason);
+  told_.push_back({{"file", file}, {"result", "refused"}, {"reason", reason}});
+}
+
+void ArchiveCommandAdd::Tell(const std::string& file, const Archive::Receipt& receipt) {
+  told_.push_back(
+      {{"file", file}, {"result", KeyOf(receipt.added)}, {"id", receipt.id}, {"revision", receipt.revision}});
+  if (!json_) std::cout << TextOf(file, receipt) << std::endl;  // each as soon as it is kept
+}
+
+void ArchiveCommandAdd::PrintJson() const {
+  if (json_) std::cout << Indented({{"documents", told_}}) << "\n";
+}
+
+}  // namespace bench

@@ -1,0 +1,28 @@
+#include "host/app/archive/ArchiveCommandExport.h"
+
+#include <iostream>
+
+#include "host/app/archive/ArchiveCommandOpen.h"
+#include "host/document/DocumentFile.h"
+#include "host/services/Tr.h"
+
+namespace bench {
+
+CLI::App* ArchiveCommandExport::Declare(CLI::App& archive) {
+  auto* command = archive.add_subcommand("export", Tr("Write a document of the archive as the file it was"));
+  command->add_option("ID", id_, Tr("Its number, as \"archive list\" shows it"))->required();
+  command->add_option("--to", to_, Tr("The file to write, which must not exist yet"))
+      ->required()
+      ->type_name("FILE");
+  return command;
+}
+
+ExitStatus ArchiveCommandExport::Run(const GlobalOptions& options) {
+  auto file = DocumentFile::New(to_);
+  auto archive = OpenArchiveToAsk(location_, options);
+  file.Write(Fetched(archive, id_).contents);
+  std::cout << to_ << "\n";
+  return ExitStatus::kPassed;
+}
+
+}  // namespace bench

@@ -1,0 +1,116 @@
+#include "host/app/archive/ArchiveCommandJson.h"
+
+#include "host/app/DocumentJson.h"
+
+namespace bench {
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+template <class T>
+Json OrNull(const std::optional<T>& value) {
+  return value ? Json(*value) : Json(nullptr);
+}
+
+/// Dates and operators that are not told.
+Json OrNull(const std::string& text) { return text.empty() ? Json(nullptr) : Json(text); }
+
+Json JsonOf(const std::vector<StandardLimit>& limits) {
+  Json all = Json::array();
+  for (const auto& limit : limits) {
+    Json json;
+    json["standard"] = limit.standard;
+    json["description"] = limit.description;
+    json["low"] = OrNull(limit.low);
+    json["high"] = OrNull(limit.high);
+    json["unit"] = limit.unit;
+    all.push_back(std::move(json));
+  }
+  return all;
+}
+
+Json JsonOf(const TrendPoint& point) {
+  const auto& summary = point.element.summary;
+  const auto& measurement = summary.measurement;
+  Json json;
+  json["document"] = point.document;
+  json["date"] = point.date;
+  json["dated"] = point.dated;
+  json["serial"] = point.serial;
+  json["element"] = summary.id;
+  json["name"] = summary.name;
+  json["value"] = measurement ? OrNull(measurement->value) : Json(nullptr);
+  json["unit"] = measurement ? measurement->unit : "";
+  json["flags"] = measurement ? measurement->flags : "";
+  json["overload"] = point.Overloaded();
+  json["status"] = summary.status;
+  json["statusText"] = StatusText(summary.status);
+  json["verdict"] = summary.Verdict();
+  json["limits"] = JsonOf(point.element.limits);
+  json["failedStandards"] = summary.failedStandards;
+  json["doubts"] = summary.doubts;
+  return json;
+}
+
+}  // namespace
+
+Json JsonOf(const ArchiveEntry& entry) {
+  Json json;
+  json["id"] = entry.id;
+  json["revision"] = entry.revision;
+  json["revisions"] = entry.revisions;
+  json["document"] = entry.path;
+  json["bench"] = entry.bench;
+  json["asset"] = entry.asset;
+  json["serial"] = entry.serial;
+  json["maker"] = entry.maker;
+  json["model"] = entry.model;
+  json["outcome"] = entry.outcome;
+  json["finished"] = entry.finished;
+  json["date"] = entry.Date();
+  json["runDate"] = OrNull(entry.runDate);
+  json["operator"] = OrNull(entry.operatorName);
+  json["added"] = entry.added;
+  json["sha256"] = entry.hash;
+  return json;
+}
+
+Json JsonOf(const ArchivedDocument& document) {
+  auto json = JsonOf(SummaryOf(document));
+  for (std::size_t i = 0; i < document.elements.size(); ++i) {
+    auto& element = json["elements"][i];
+    element["limits"] = JsonOf(document.elements[i].limits);
+    element["runDate"] = OrNull(document.elements[i].runDate);
+    element["operator"] = OrNull(document.elements[i].operatorName);
+  }
+  json["archive"] = JsonOf(document.entry);
+  return json;
+}
+
+Json JsonOf(const Trend& trend) {
+  Json json;
+  json["asset"] = trend.asset;
+  json["testId"] = trend.testId;
+  json["points"] = Json::array();
+  for (const auto& point : trend.points) json["points"].push_back(JsonOf(point));
+  return json;
+}
+
+DocumentSummary SummaryOf(const ArchivedDocument& document) {
+  DocumentSummary summary;
+  summary.path = document.entry.path;
+  if (const auto& instrument = document.instrument) {
+    InstrumentSummary told;
+    told.type = instrument->type;
+    told.serial = instrument->serial;
+    told.firmware = instrument->firmware;
+    told.calibration = instrument->calibration;
+    summary.instrument = std::move(told);
+  }
+  for (const auto& element : document.elements) summary.elements.push_back(element.summary);
+  summary.outcome = OutcomeOf(summary.elements);
+  return summary;
+}
+
+}  // namespace bench

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <nlohmann/json.hpp>
+
+#include "host/app/DocumentView.h"
+#include "host/archive/ArchivedDocument.h"
+
+namespace bench {
+
+nlohmann::ordered_json JsonOf(const ArchiveEntry& entry);
+
+/// As `show --json`, with the limits and the run of each element, and "archive" for what the archive adds.
+nlohmann::ordered_json JsonOf(const ArchivedDocument& document);
+
+nlohmann::ordered_json JsonOf(const Trend& trend);
+
+/// What `show` prints of the document.
+DocumentSummary SummaryOf(const ArchivedDocument& document);
+
+}  // namespace bench

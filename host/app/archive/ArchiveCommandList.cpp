@@ -1,0 +1,92 @@
+#include "host/app/archive/ArchiveCommandList.h"
+
+#include <iostream>
+
+#include "host/app/DocumentJson.h"
+#include "host/app/InputError.h"
+#include "host/app/TextColumns.h"
+#include "host/app/archive/ArchiveCommandJson.h"
+#include "host/app/archive/ArchiveCommandOpen.h"
+#include "host/archive/IsoTime.h"
+#include "host/report/VisibleText.h"
+#include "host/services/Tr.h"
+
+namespace bench {
+
+namespace {
+
+using report::VisibleText;
+
+constexpr std::size_t kId = 5, kDate = 20, kRevision = 8, kOutcome = 10, kAsset = 20;
+
+std::string ListHeading() {
+  return LeftPadded(Tr("ID"), kId) + "  " + Padded(Tr("Date"), kDate) + Padded(Tr("Revision"), kRevision) +
+         Padded(Tr("Outcome"), kOutcome) + Padded(Tr("Asset"), kAsset) + Tr("Serial number") + "\n";
+}
+
+std::string LineOf(const ArchiveEntry& entry) {
+  auto line = LeftPadded(std::to_string(entry.id), kId) + "  " + Padded(entry.Date(), kDate) +
+              Padded(std::to_string(entry.revision) + "/" + std::to_string(entry.revisions), kRevision) +
+              Padded(Tr(entry.outcome), kOutcome) + Padded(VisibleText(entry.asset), kAsset) +
+              VisibleText(entry.serial);
+  if (!entry.finished) line += " " + Tr("(not finished)");
+  while (line.ends_with(' ')) line.pop_back();
+  return line + "\n";
+}
+
+}  // namespace
+
+CLI::App* ArchiveCommandList::Declare(CLI::App& archive) {
+  auto* command =
+      archive.add_subcommand("list", Tr("Tell which documents the archive has, the newest first"));
+  command->add_option("--asset", asset_, Tr("Those of this asset"));
+  command->add_option("--serial", serial_, Tr("Those of equipment with this serial number"));
+  command
+      ->add_option("--since", since_,
+                   Tr("Those run on this date or later, such as 2026-01-31 or 2026-01-31T08:00Z; UTC"))
+      ->type_name("DATE");
+  command->add_option("--outcome", outcome_, Tr("Those that ended so: passed, failed or incomplete"));
+  limitOption_ = command->add_option("--limit", limit_, Tr("Only so many"));
+  limitOption_->type_name("N");
+  command->add_flag("--json", json_, Tr("Print one JSON object"));
+  return command;
+}
+
+Archive::Filter ArchiveCommandList::Checked() const {
+  Archive::Filter filter{asset_, serial_, {}, outcome_, {}};
+  if (!since_.empty()) {
+    const auto since = UtcText(since_);
+    if (!since)
+      throw InputError(
+          Tr("--since %%1: this is no date; write it as 2026-01-31 or 2026-01-31T08:00Z", {since_}));
+    filter.since = *since;
+  }
+  if (!outcome_.empty() && outcome_ != "passed" && outcome_ != "failed" && outcome_ != "incomplete")
+    throw InputError(Tr("--outcome %%1: give passed, failed or incomplete", {outcome_}));
+  if (limitOption_->count() > 0) {
+    if (limit_ < 1) throw InputError(Tr("--limit %%1: give a number from 1 on", {std::to_string(limit_)}));
+    filter.limit = limit_;
+  }
+  return filter;
+}
+
+ExitStatus ArchiveCommandList::Run(const GlobalOptions& options) {
+  const auto filter = Checked();
+  auto archive = OpenArchiveToAsk(location_, options);
+  const auto entries = archive.List(filter);
+  if (json_) {
+    nlohmann::ordered_json json;
+    json["archive"] = archive.Name();
+    json["documents"] = nlohmann::ordered_json::array();
+    for (const auto& entry : entries) json["documents"].push_back(JsonOf(entry));
+    std::cout << Indented(json) << "\n";
+  } else if (entries.empty()) {
+    std::cout << Tr("There are no such documents in the archive %%1.", {archive.Name()}) << "\n";
+  } else {
+    std::cout << ListHeading();
+    for (const auto& entry : entries) std::cout << LineOf(entry);
+  }
+  return ExitStatus::kPassed;
+}
+
+}  // namespace bench

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "host/app/Command.h"
+#include "host/archive/Archive.h"
+
+namespace bench {
+
+/// `archive list`: tells which documents the archive has.
+class ArchiveCommandList final : public Command {
+ public:
+  /// @param location --archive, as it will be
+  explicit ArchiveCommandList(const std::string& location) : location_(location) {}
+
+  CLI::App* Declare(CLI::App& archive) override;
+  ExitStatus Run(const GlobalOptions& options) override;
+
+ private:
+  Archive::Filter Checked() const;
+
+  const std::string& location_;
+  std::string asset_, serial_, since_, outcome_;
+  std::int64_t limit_ = 0;
+  CLI::Option* limitOption_ = nullptr;
+  bool json_ = false;
+};
+
+}  // namespace bench

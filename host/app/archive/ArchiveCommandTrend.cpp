@@ -1,0 +1,95 @@
+#include "host/app/archive/ArchiveCommandTrend.h"
+
+#include <filesystem>
+#include <iostream>
+
+#include "host/app/DocumentJson.h"
+#include "host/app/InputError.h"
+#include "host/app/TextColumns.h"
+#include "host/app/archive/ArchiveCommandJson.h"
+#include "host/app/archive/ArchiveCommandOpen.h"
+#include "host/archive/TrendChart.h"
+#include "host/archive/TrendLimits.h"
+#include "host/report/VisibleText.h"
+#include "host/services/Files.h"
+#include "host/services/Text.h"
+#include "host/services/Tr.h"
+
+namespace bench {
+
+namespace {
+
+using report::VisibleText;
+
+constexpr std::size_t kDateWidth = 21, kValueWidth = 12, kUnit = 8, kStatus = 14, kDocument = 9, kElement = 8;
+
+std::string ValueText(const TrendPoint& point) {
+  if (point.Overloaded()) return "OL";
+  return point.HasValue() ? ShortNumber(*point.element.summary.measurement->value) : "-";
+}
+
+std::string TrendHeading() {
+  return Padded(Tr("Date"), kDateWidth) + LeftPadded(Tr("Value"), kValueWidth) + " " +
+         Padded(Tr("Unit"), kUnit) + Padded(Tr("Status"), kStatus) + Padded(Tr("Document"), kDocument) +
+         Padded(Tr("Element"), kElement) + Tr("Limits") + "\n";
+}
+
+std::string LineOf(const TrendPoint& point) {
+  const auto& summary = point.element.summary;
+  std::string limits;
+  for (const auto& limit : point.element.limits)
+    limits += (limits.empty() ? "" : "; ") + VisibleText(LimitText(limit));
+  auto line = Padded(point.date + (point.dated ? "" : "*"), kDateWidth) +
+              LeftPadded(ValueText(point), kValueWidth) + " " +
+              Padded(summary.measurement ? VisibleText(summary.measurement->unit) : "", kUnit) +
+              Padded(Tr(summary.Verdict()), kStatus) + Padded(std::to_string(point.document), kDocument) +
+              Padded(std::to_string(summary.id), kElement) + limits;
+  while (line.ends_with(' ')) line.pop_back();
+  return line + "\n";
+}
+
+}  // namespace
+
+CLI::App* ArchiveCommandTrend::Declare(CLI::App& archive) {
+  auto* command =
+      archive.add_subcommand("trend", Tr("Tell how the readings of a test went over time, and draw them"));
+  command->add_option("--asset", asset_, Tr("The asset"))->required();
+  command->add_option("--test", test_, Tr("The test, such as 410; \"orvik-bench tests\" lists them"))
+      ->required()
+      ->type_name("TESTID");
+  command->add_option("--to", to_, Tr("The picture to write (.svg)"))->type_name("OUT.svg");
+  command->add_flag("--json", json_, Tr("Print one JSON object"));
+  return command;
+}
+
+ExitStatus ArchiveCommandTrend::Run(const GlobalOptions& options) {
+  if (!to_.empty() && LowerAscii(std::filesystem::path(to_).extension().string()) != ".svg")
+    throw InputError(Tr("--to %%1: pictures are written as SVG; give a name that ends in .svg", {to_}));
+  auto archive = OpenArchiveToAsk(location_, options);
+  const auto trend = archive.TrendOf(asset_, test_);
+  if (trend.points.empty())
+    throw InputError(
+        Tr("the archive %%1 has no results of test %%2 of asset %%3; \"orvik-bench archive list "
+           "--asset ASSET\" and \"archive show ID\" tell what it has",
+           {archive.Name(), std::to_string(test_), VisibleText(asset_)}));
+  if (!to_.empty()) ReplaceFile(to_, TrendChart(trend));
+  Print(trend);
+  return ExitStatus::kPassed;
+}
+
+void ArchiveCommandTrend::Print(const Trend& trend) const {
+  if (json_) {
+    std::cout << Indented(JsonOf(trend)) << "\n";
+    return;
+  }
+  std::cout << TrendHeading();
+  bool undated = false;
+  for (const auto& point : trend.points) {
+    std::cout << LineOf(point);
+    undated = undated || !point.dated;
+  }
+  if (undated) std::cout << Tr("* when it was added: the document does not tell when it was run") << "\n";
+  if (!to_.empty()) std::cout << to_ << "\n";
+}
+
+}  // namespace bench

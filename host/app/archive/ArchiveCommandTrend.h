@@ -1,0 +1,29 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "host/app/Command.h"
+#include "host/archive/ArchivedDocument.h"
+
+namespace bench {
+
+/// `archive trend`: tells how the readings of one test of one asset went over time, and draws them.
+class ArchiveCommandTrend final : public Command {
+ public:
+  /// @param location --archive, as it will be
+  explicit ArchiveCommandTrend(const std::string& location) : location_(location) {}
+
+  CLI::App* Declare(CLI::App& archive) override;
+  ExitStatus Run(const GlobalOptions& options) override;
+
+ private:
+  void Print(const Trend& trend) const;
+
+  const std::string& location_;
+  std::string asset_, to_;
+  std::int32_t test_ = 0;
+  bool json_ = false;
+};
+
+}  // namespace bench

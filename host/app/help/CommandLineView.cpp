@@ -1,0 +1,45 @@
+#include "host/app/help/CommandLineView.h"
+
+namespace bench {
+
+namespace {
+
+bool Hidden(const CLI::Option& option) { return option.get_group().empty(); }
+
+template <class Fits>
+std::vector<const CLI::Option*> Options(const CLI::App& command, Fits fits) {
+  std::vector<const CLI::Option*> options;
+  for (const auto* option : command.get_options()) {
+    if (!Hidden(*option) && fits(*option)) options.push_back(option);
+  }
+  return options;
+}
+
+}  // namespace
+
+std::vector<const CLI::App*> CommandsOf(const CLI::App& program) {
+  std::vector<const CLI::App*> commands;
+  for (const auto* command : program.get_subcommands(std::function<bool(const CLI::App*)>())) {
+    if (!command->get_group().empty()) commands.push_back(command);
+  }
+  return commands;
+}
+
+std::vector<const CLI::Option*> PositionalsOf(const CLI::App& command) {
+  return Options(command, [](const CLI::Option& option) { return option.get_positional(); });
+}
+
+std::vector<const CLI::Option*> OptionsOf(const CLI::App& command) {
+  return Options(command, [](const CLI::Option& option) { return !option.get_positional(); });
+}
+
+std::vector<std::string> SpellingsOf(const CLI::Option& option) {
+  std::vector<std::string> spellings;
+  for (const auto& name : option.get_snames()) spellings.push_back("-" + name);
+  for (const auto& name : option.get_lnames()) spellings.push_back("--" + name);
+  return spellings;
+}
+
+bool TakesValue(const CLI::Option& option) { return option.get_type_size_max() > 0; }
+
+}  // namespace bench

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <CLI/CLI.hpp>
+#include <string>
+#include <vector>
+
+namespace bench {
+
+/// What is declared of the command line, for manual and completion. What is hidden is left out.
+
+/// The commands of a program.
+std::vector<const CLI::App*> CommandsOf(const CLI::App& program);
+
+/// Arguments that have no name but a place.
+std::vector<const CLI::Option*> PositionalsOf(const CLI::App& command);
+
+/// Options with names, "--help" among them.
+std::vector<const CLI::Option*> OptionsOf(const CLI::App& command);
+
+/// All spellings of an option, the short ones first: "-h", "--help".
+std::vector<std::string> SpellingsOf(const CLI::Option& option);
+
+/// Whether the option takes a value.
+bool TakesValue(const CLI::Option& option);
+
+}  // namespace bench

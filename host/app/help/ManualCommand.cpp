@@ -1,0 +1,26 @@
+#include "host/app/help/ManualCommand.h"
+
+#include <filesystem>
+
+#include "host/app/help/ManPage.h"
+#include "host/services/Files.h"
+#include "host/services/Tr.h"
+
+namespace bench {
+
+CLI::App* ManualCommand::Declare(CLI::App& program) {
+  program_ = &program;
+  auto* command = program.add_subcommand("manual", Tr("Write the pages of the manual into a folder"));
+  command->group("");
+  command->add_option("FOLDER", folder_, Tr("Where the pages are written"))->required();
+  return command;
+}
+
+ExitStatus ManualCommand::Run(const GlobalOptions&) {
+  const std::filesystem::path folder(folder_);
+  CreateFolder(folder);
+  for (const auto& page : ManPages(*program_)) ReplaceFile(folder / page.name, page.text);
+  return ExitStatus::kPassed;
+}
+
+}  // namespace bench

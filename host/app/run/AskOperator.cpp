@@ -1,0 +1,126 @@
+#include "host/app/run/AskOperator.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <string_view>
+
+#include "host/run/GuideToolbar.h"
+
+namespace bench {
+
+namespace {
+
+struct Button {
+  std::string_view word;
+  std::int32_t command;
+};
+
+constexpr std::array<Button, 7> kButtons{{{"play", guide::kPlay},
+                                          {"stop", guide::kStop},
+                                          {"next", guide::kNext},
+                                          {"previous", guide::kPrevious},
+                                          {"skip", guide::kSkip},
+                                          {"na", guide::kNotApplicable},
+                                          {"abort", guide::kAbort}}};
+
+constexpr std::size_t kLongestLine = 1000;
+
+/// The words are what the person types: they are the same in every language.
+std::string WithChoices(const std::string& prompt, const std::string& words) {
+  return prompt + " [" + words + "]";
+}
+
+}  // namespace
+
+AskOperator::AskOperator(std::shared_ptr<headless::Application> application, StopRequest& stop,
+                         RunReporter& reporter)
+    : application_(std::move(application)),
+      stop_(stop),
+      reporter_(reporter),
+      watch_(application_->WatchReadable(STDIN_FILENO, [this] { ReadInput(); })),
+      shown_(application_->FormShown().Subscribe([this](const Form& form) {
+        application_->Post([this, form, alive = std::weak_ptr<int>(alive_)] {
+          if (!alive.expired()) Put(form);
+        });
+      })),
+      stopAsked_(stop.Happened().Subscribe([this] { Stop(); })) {}
+
+AskOperator::~AskOperator() { application_->Forget(watch_); }
+
+void AskOperator::Put(const Form& form) {
+  if (!form->Visible()) return;
+  if (stop_.Asked()) return Stop();
+  if (form->Name() == guide::kGuideForm) PutGuide(form);
+  if (form->Name() == guide::kPretestForm)
+    reporter_.Prompted(WithChoices(CaptionOf(*form, guide::kPromptText), "ok"));
+  if (form->Name() == guide::kYesNoForm)
+    reporter_.Prompted(WithChoices(CaptionOf(*form, guide::kPromptText), "yes, no"));
+}
+
+void AskOperator::PutGuide(const Form& form) {
+  const auto toolbar = GuideToolbar(*form);
+  if (!toolbar) return;
+  std::string words;
+  for (const auto& button : kButtons) {
+    if (toolbar->IsEnabled(button.command)) words += (words.empty() ? "" : ", ") + std::string(button.word);
+  }
+  reporter_.Prompted(WithChoices(form->Caption(), words));
+}
+
+void AskOperator::ReadInput() {
+  std::array<char, 256> buffer{};
+  const auto count = read(STDIN_FILENO, buffer.data(), buffer.size());
+  if (count < 0 && (errno == EINTR || errno == EAGAIN)) return;
+  if (count <= 0) {
+    application_->Forget(watch_);
+    return stop_.Ask();
+  }
+  input_.append(buffer.data(), static_cast<std::size_t>(count));
+  if (input_.size() > kLongestLine) input_.clear();
+  const std::weak_ptr<int> alive = alive_;
+  for (auto end = input_.find('\n'); end != std::string::npos; end = input_.find('\n')) {
+    const auto word = input_.substr(0, end);
+    input_.erase(0, end + 1);
+    Choose(word);
+    if (alive.expired()) return;
+  }
+}
+
+void AskOperator::Choose(const std::string& word) {
+  const auto form = application_->ActiveForm();
+  if (!form || word.empty()) return;
+  if (form->Name() == guide::kGuideForm) return ChooseInGuide(form, word);
+  if (form->Name() == guide::kPretestForm && word == "ok") return ClickButton(*form, guide::kPretestOk);
+  if (form->Name() == guide::kYesNoForm && word == "yes") return ClickButton(*form, guide::kYes);
+  if (form->Name() == guide::kYesNoForm && word == "no") return ClickButton(*form, guide::kNo);
+  Put(form);
+}
+
+void AskOperator::ChooseInGuide(const Form& form, const std::string& word) {
+  const auto button =
+      std::find_if(kButtons.begin(), kButtons.end(), [&](const Button& known) { return known.word == word; });
+  const auto toolbar = GuideToolbar(*form);
+  if (toolbar && button != kButtons.end())
+    toolbar->Click(button->command);  // play returns when the run is over
+  if (form->Visible()) Put(form);
+}
+
+void AskOperator::Stop() {
+  // The innermost window first: behind it the guide does not answer.
+  const auto form = application_->ActiveForm();
+  if (!form) return;
+  if (form->Name() == guide::kPretestForm) ClickButton(*form, guide::kPretestOk);
+  if (form->Name() == guide::kYesNoForm) ClickButton(*form, guide::kNo);
+  const auto guideForm = application_->ActiveForm();
+  if (!guideForm || guideForm->Name() != guide::kGuideForm) return;
+  const auto toolbar = GuideToolbar(*guideForm);
+  if (!toolbar) return;
+  // While a test runs only stop acts, otherwise only next.
+  toolbar->Click(guide::kStop);
+  toolbar->Click(guide::kNext);
+}
+
+}  // namespace bench

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <iosfwd>
+#include <nlohmann/json.hpp>
+
+#include "host/app/run/ExchangeView.h"
+#include "host/app/run/RunReporter.h"
+#include "host/loop/ILoop.h"
+
+namespace bench {
+
+/// `run --events`: one JSON object a line as things happen, each with "event" and "time" (seconds since the
+/// program's start, on the clock of the run).
+class EventLines final : public RunReporter {
+ public:
+  EventLines(std::ostream& out, const ILoop& loop) : out_(out), loop_(loop) {}
+
+  void Planned(const std::vector<std::size_t>& tests) override;
+  void Reached(std::size_t place, std::size_t count) override;
+  void Started(const ElementSummary& element) override;
+  void Finished(const ElementSummary& element) override;
+  void Wire(const WireRecord& record) override;
+  void Prompted(const std::string& text) override;
+  void Doubted(std::int32_t element, const std::string& doubt) override;
+  void Remark(const std::string& text) override;
+  void Over() override {}  // "ended" tells it, with the outcome
+  /// The last line: the outcome of the run and the exit status.
+  void Ended(const std::string& outcome, int exitStatus);
+
+ private:
+  nlohmann::ordered_json Line(const char* event) const;
+  void Print(const nlohmann::ordered_json& line);
+
+  std::ostream& out_;
+  const ILoop& loop_;
+  ExchangeView exchange_;
+};
+
+}  // namespace bench

@@ -1,0 +1,151 @@
+#include "host/app/run/RunCommand.h"
+
+#include <unistd.h>
+
+#include <cstdlib>
+#include <iostream>
+
+#include "host/app/Colour.h"
+#include "host/app/DocumentJson.h"
+#include "host/app/DocumentText.h"
+#include "host/app/InputError.h"
+#include "host/app/run/EventLines.h"
+#include "host/app/run/ProgressLines.h"
+#include "host/app/run/RunSelection.h"
+#include "host/app/run/RunSession.h"
+#include "host/document/Document.h"
+#include "host/services/Tr.h"
+
+namespace bench {
+
+namespace {
+
+/// The name that was given, else that of the account.
+std::string OperatorName(const std::string& given) {
+  if (!given.empty()) return given;
+  for (const auto* variable : {"USER", "LOGNAME"}) {
+    const char* name = std::getenv(variable);
+    if (name && *name) return name;
+  }
+  return {};
+}
+
+ExitStatus StatusOf(DocumentRunner::End end, Outcome outcome) {
+  if (outcome == Outcome::kFailed) return ExitStatus::kFailed;
+  if (end != DocumentRunner::End::kFinished || outcome == Outcome::kIncomplete)
+    return ExitStatus::kIncomplete;
+  return ExitStatus::kPassed;
+}
+
+}  // namespace
+
+CLI::App* RunCommand::Declare(CLI::App& program) {
+  auto* command = program.add_subcommand("run", Tr("Run the tests of a document on the tester"));
+  command->add_option("FILE", options_.file, Tr("The document"))->required();
+  options_.tester.Declare(*command);
+  command->add_option("--element", options_.elements, Tr("Run this element; may be given again"))
+      ->allow_extra_args(false)
+      ->type_name("ID");
+  command->add_option("--standard", options_.standards, Tr("Judge by this standard; may be given again"))
+      ->allow_extra_args(false)
+      ->type_name("NAME");
+  command->add_flag("--resume", options_.resume, Tr("Go on with what has no result yet"));
+  command->add_option("--operator", options_.operatorKind, Tr("Who presses the guide's buttons: auto or ask"))
+      ->type_name("auto|ask");
+  command
+      ->add_option("--by", options_.by,
+                   Tr("Name of the operator, for the report; otherwise that of the account"))
+      ->type_name("NAME");
+  const auto* json = command->add_flag("--json", options_.json, Tr("Print one JSON object at the end"));
+  command->add_flag("--events", options_.events, Tr("Print one JSON object a line as things happen"))
+      ->excludes(const_cast<CLI::Option*>(json));
+  command->add_option("--wire-log", options_.wireLog, Tr("Log of the wire; otherwise FILE.wire.log"))
+      ->type_name("LOG");
+  command->footer(
+      Tr("Examples:\n"
+         "  orvik-bench run pump-7.orvik --port /dev/ttyUSB0\n"
+         "  orvik-bench run pump-7.orvik --port /dev/ttyUSB0 --operator ask\n"
+         "  orvik-bench run pump-7.orvik --simulate broken-earth --time-scale 20\n"
+         "  orvik-bench run pump-7.orvik --port /dev/ttyUSB0 --resume\n"
+         "\n"
+         "The document is saved after each element. Ctrl-C stops: the session with the tester is closed, the "
+         "document\n"
+         "saved, and --resume goes on later. Exit status 0: all passed or not applicable, 1: something "
+         "failed its\n"
+         "limits, 2: something was not completed."));
+  return command;
+}
+
+void RunCommand::Check() const {
+  options_.tester.Check();
+  if (options_.operatorKind != "auto" && options_.operatorKind != "ask")
+    throw InputError(Tr("--operator %%1: give \"auto\" or \"ask\"", {options_.operatorKind}));
+}
+
+ExitStatus RunCommand::Run(const GlobalOptions& options) {
+  Check();
+  Workbench workbench(options, options_.tester.TimeScale());
+  const auto document = Document::Open(workbench.Host(), options_.file);
+  const auto reporter = Reporter(workbench);
+  return Perform(workbench, *document, *reporter);
+}
+
+std::unique_ptr<RunReporter> RunCommand::Reporter(Workbench& workbench) const {
+  if (options_.events) return std::make_unique<EventLines>(std::cout, *workbench.Application());
+  // With --json the standard output belongs to the object alone.
+  const bool onError = options_.json;
+  return std::make_unique<ProgressLines>(onError ? std::cerr : std::cout,
+                                         onError ? STDERR_FILENO : STDOUT_FILENO, workbench.Application(),
+                                         options_.tester.TimeScale());
+}
+
+ExitStatus RunCommand::Perform(Workbench& workbench, Document& document, RunReporter& reporter) {
+  const auto selected = SelectedElements(document, options_);
+  SelectStandards(document, *workbench.Host(), options_);
+  const auto elements =
+      options_.resume ? WithoutResult(selected, *workbench.Host(), document.Standards()) : selected;
+  WireLog log(options_.wireLog.empty() ? options_.file + ".wire.log" : options_.wireLog);
+  options_.tester.Connect(workbench.Ports());
+  if (const auto remark = options_.tester.TimeRemark(); !remark.empty()) reporter.Remark(remark);
+  if (elements.empty()) reporter.Remark(Tr("Every element has a result; there is nothing to go on with."));
+
+  auto end = DocumentRunner::End::kFinished;
+  {
+    RunSession session(workbench, document, log, reporter, options_.operatorKind == "ask",
+                       OperatorName(options_.by));
+    end = session.Run(elements);
+    reporter.Over();
+    Tell(end, session.Reason(), reporter);
+  }
+  if (!log.Failure().empty())
+    reporter.Remark(Tr("The wire log %%1 could not be written: %%2", {log.Path(), log.Failure()}));
+
+  const auto summary = SummaryOf(document, *workbench.Host(), document.Standards());
+  const auto run = OutcomeOf(Summarise(selected, *workbench.Host()->Elements(), document.Standards()));
+  const auto status = StatusOf(end, run);
+  if (auto* events = dynamic_cast<EventLines*>(&reporter))
+    events->Ended(OutcomeText(summary.outcome), static_cast<int>(status));
+  else
+    std::cout << (options_.json ? Indented(JsonOf(summary)) + "\n"
+                                : TextOf(summary, ColoursWanted(STDOUT_FILENO)))
+              << std::flush;
+  return status;
+}
+
+void RunCommand::Tell(DocumentRunner::End end, const std::string& reason, RunReporter& reporter) const {
+  switch (end) {
+    case DocumentRunner::End::kFinished:
+      return;
+    case DocumentRunner::End::kStopped:
+      return reporter.Remark(
+          Tr("Stopped. The document is saved; \"run --resume\" goes on with what has no result yet."));
+    case DocumentRunner::End::kAborted:
+      return reporter.Remark(Tr("Ended by the operator. The document is saved."));
+    case DocumentRunner::End::kTesterLost:
+      return reporter.Remark(Tr("The run has ended: %%1.", {reason}));
+    case DocumentRunner::End::kNotSaved:
+      return reporter.Remark(Tr("The run has ended, since the document cannot be saved: %%1", {reason}));
+  }
+}
+
+}  // namespace bench

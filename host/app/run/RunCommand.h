@@ -1,0 +1,31 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "OrvikTypeLib/ITestElement.h"
+#include "host/app/Command.h"
+#include "host/app/run/RunOptions.h"
+#include "host/app/run/RunReporter.h"
+#include "host/run/DocumentRunner.h"
+
+namespace bench {
+
+class Document;
+
+/// `run`: runs the elements of a document.
+class RunCommand final : public Command {
+ public:
+  CLI::App* Declare(CLI::App& program) override;
+  ExitStatus Run(const GlobalOptions& options) override;
+
+ private:
+  void Check() const;
+  std::unique_ptr<RunReporter> Reporter(Workbench& workbench) const;
+  ExitStatus Perform(Workbench& workbench, Document& document, RunReporter& reporter);
+  void Tell(DocumentRunner::End end, const std::string& reason, RunReporter& reporter) const;
+
+  RunOptions options_;
+};
+
+}  // namespace bench

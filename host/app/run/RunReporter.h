@@ -1,0 +1,36 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "OrvikTypeLib/ITestElement.h"
+#include "host/run/ElementSummary.h"
+#include "host/serial/Wire.h"
+
+namespace bench {
+
+/// Tells somebody how a run goes.
+class RunReporter {
+ public:
+  RunReporter() = default;
+  RunReporter(const RunReporter&) = delete;
+  RunReporter& operator=(const RunReporter&) = delete;
+  virtual ~RunReporter() = default;
+
+  /// What the run is going to do: how many single tests stand in each element at the top.
+  virtual void Planned(const std::vector<std::size_t>& tests) = 0;
+  /// The run has reached an element at the top: its place from 1, the number of all.
+  virtual void Reached(std::size_t place, std::size_t count) = 0;
+  virtual void Started(const ElementSummary& element) = 0;
+  virtual void Finished(const ElementSummary& element) = 0;
+  virtual void Wire(const WireRecord& record) = 0;
+  virtual void Prompted(const std::string& text) = 0;
+  virtual void Doubted(std::int32_t element, const std::string& doubt) = 0;
+  /// Something that people should know.
+  virtual void Remark(const std::string& text) = 0;
+  /// The run is over, nothing is waited for any more.
+  virtual void Over() = 0;
+};
+
+}  // namespace bench

@@ -1,0 +1,128 @@
+#include <map>
+#include <string>
+#include <utility>
+
+#include "host/archive/Archive.h"
+#include "host/archive/ArchiveError.h"
+#include "host/archive/ArchiveRows.h"
+#include "host/archive/Sha256.h"
+#include "host/services/Tr.h"
+
+namespace bench {
+
+namespace {
+
+/// The date of the run, otherwise that of adding it.
+constexpr char kDate[] = "CASE WHEN d.run_date = '' THEN d.added ELSE d.run_date END";
+
+/// Elements of a document can be run on different days.
+constexpr char kElementDate[] =
+    "CASE WHEN e.run_date <> '' THEN e.run_date WHEN d.run_date <> '' THEN d.run_date ELSE d.added END";
+
+std::optional<ArchivedInstrument> InstrumentOf(RowReader& row) {
+  const auto& type = row.Next();
+  if (!std::holds_alternative<std::string>(type)) return {};
+  return ArchivedInstrument{std::get<std::string>(type), row.Text(), row.Text(), row.Small()};
+}
+
+std::vector<ArchivedElement> ElementsOf(Database& database, std::int64_t id) {
+  std::vector<ArchivedElement> elements;
+  for (const auto& found : database.Run(std::string("SELECT ") + rows::kElementColumns +
+                                            " FROM orvik_elements e LEFT JOIN orvik_measurements m"
+                                            " ON m.document_id = e.document_id AND m.position = e.position"
+                                            " WHERE e.document_id = $1 ORDER BY e.position",
+                                        {id})) {
+    RowReader row(found);
+    elements.push_back(rows::ElementOf(row));
+    rows::ReadDetails(database, id, static_cast<std::int64_t>(elements.size()), elements.back());
+  }
+  return elements;
+}
+
+}  // namespace
+
+std::vector<ArchiveEntry> Archive::List(const Filter& filter) {
+  std::string statement = std::string("SELECT ") + rows::kEntryColumns + " FROM orvik_documents d";
+  std::vector<Value> values;
+  const auto where = [&](const std::string& condition, const std::string& value) {
+    if (value.empty()) return;
+    values.emplace_back(value);
+    const auto name = "$" + std::to_string(values.size());
+    statement += (values.size() == 1 ? " WHERE " : " AND ") + condition + name;
+  };
+  where("d.asset = ", filter.asset);
+  where("d.serial = ", filter.serial);
+  where("d.outcome = ", filter.outcome);
+  where(std::string(kDate) + " >= ", filter.since);
+  statement += std::string(" ORDER BY ") + kDate + " DESC, d.id DESC";
+  if (filter.limit) {
+    values.emplace_back(*filter.limit);
+    statement += " LIMIT $" + std::to_string(values.size());
+  }
+  std::vector<ArchiveEntry> entries;
+  for (const auto& found : database_->Run(statement, values)) {
+    RowReader row(found);
+    entries.push_back(rows::EntryOf(row));
+  }
+  return entries;
+}
+
+std::optional<ArchivedDocument> Archive::Find(std::int64_t id) {
+  Transaction transaction(*database_, Database::Use::kRead);
+  const auto found =
+      database_->Run(std::string("SELECT ") + rows::kEntryColumns +
+                         ", c.contents, d.instrument_type, d.instrument_serial, d.instrument_firmware,"
+                         " d.instrument_calibration FROM orvik_documents d"
+                         " JOIN orvik_contents c ON c.document_id = d.id WHERE d.id = $1",
+                     {id});
+  if (found.empty()) return {};
+  RowReader row(found[0]);
+  ArchivedDocument document;
+  document.entry = rows::EntryOf(row);
+  document.contents = std::get<Bytes>(row.Next()).data;
+  document.instrument = InstrumentOf(row);
+  if (Sha256(document.contents) != document.entry.hash)
+    throw ArchiveError(
+        ArchiveError::Kind::kBadInput,
+        Tr("document %%1 of the archive %%2 is not as it was added: the archive is damaged, or "
+           "was changed by other means (bring back a copy)",
+           {std::to_string(id), Name()}));
+  document.elements = ElementsOf(*database_, id);
+  transaction.Commit();
+  return document;
+}
+
+Trend Archive::TrendOf(const std::string& asset, std::int32_t testId) {
+  Transaction transaction(*database_, Database::Use::kRead);
+  Trend trend{asset, testId, {}};
+  const auto found = database_->Run(
+      std::string("SELECT e.document_id, e.position, ") + kElementDate +
+          ", CASE WHEN e.run_date = '' THEN d.run_date ELSE e.run_date END, d.serial, " +
+          rows::kElementColumns +
+          " FROM orvik_documents d JOIN orvik_elements e ON e.document_id = d.id"
+          " LEFT JOIN orvik_measurements m ON m.document_id = e.document_id AND m.position = e.position"
+          " WHERE substr(d.asset, 1, 100) = substr($1, 1, 100) AND d.asset = $1 AND e.test_id = $2"
+          " AND (e.status <> 0 OR m.position IS NOT NULL)"
+          " AND NOT EXISTS (SELECT 1 FROM orvik_documents r JOIN orvik_elements f ON f.document_id = r.id"
+          " WHERE r.document_key = d.document_key AND r.revision > d.revision"
+          " AND f.element_id = e.element_id AND f.run_date = e.run_date)"
+          " ORDER BY " +
+          kElementDate + ", d.id, e.position",
+      {asset, std::int64_t{testId}});
+  for (const auto& values : found) {
+    RowReader row(values);
+    TrendPoint point;
+    point.document = row.Whole();
+    const auto position = row.Whole();
+    point.date = row.Text();
+    point.dated = !row.Text().empty();
+    point.serial = row.Text();
+    point.element = rows::ElementOf(row);
+    rows::ReadDetails(*database_, point.document, position, point.element);
+    trend.points.push_back(std::move(point));
+  }
+  transaction.Commit();
+  return trend;
+}
+
+}  // namespace bench

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <string>
+
+#include "host/archive/ArchivedDocument.h"
+#include "host/archive/Database.h"
+
+namespace bench::rows {
+
+/// How documents stand in the tables of `Schema.h`.
+
+/// Writes all rows of a document with its identifier, revision and hash.
+void Insert(Database& database, const ArchivedDocument& document, const std::string& key);
+
+/// The columns of `EntryOf`, of the table orvik_documents as "d".
+extern const char* const kEntryColumns;
+ArchiveEntry EntryOf(RowReader& row);
+
+/// The columns of `ElementOf`, of the tables orvik_elements as "e" and orvik_measurements as "m".
+extern const char* const kElementColumns;
+ArchivedElement ElementOf(RowReader& row);
+
+/// Gives an element what stands in rows of their own: limits, doubts, standards that it fails.
+void ReadDetails(Database& database, std::int64_t document, std::int64_t position, ArchivedElement& element);
+
+}  // namespace bench::rows

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <cstdint>
+
+#include "host/archive/Database.h"
+
+namespace bench {
+
+/// How an archive is laid out, the same in SQLite and PostgreSQL.
+namespace schema {
+
+/// The version that this program reads and writes.
+inline constexpr std::int64_t kVersion = 2;
+
+/// Lays out an archive where there is none, and brings an older one up, both in one transaction: whoever
+/// comes between sees it as it was. `ArchiveError` for one that is newer, and for a database that holds
+/// something else; both are left as they are.
+void BringUp(Database& database);
+
+/// Brings up to an older version only: for tests of those archives.
+void BringUpTo(Database& database, std::int64_t version);
+
+}  // namespace schema
+
+}  // namespace bench

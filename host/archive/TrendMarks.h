@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string>
+
+#include "host/archive/ArchivedDocument.h"
+#include "host/archive/Svg.h"
+
+namespace bench {
+
+/// How a reading is marked; each kind has a shape of its own, so that it is told in print too.
+enum class Mark { kPassed, kFailed, kDoubtful, kFailedDoubtful, kOverloaded, kOther };
+
+inline constexpr Mark kMarks[] = {Mark::kPassed,         Mark::kFailed,     Mark::kDoubtful,
+                                  Mark::kFailedDoubtful, Mark::kOverloaded, Mark::kOther};
+
+Mark MarkOf(const TrendPoint& point);
+
+/// What a legend says of it.
+std::string MarkText(Mark mark);
+
+void DrawMark(Svg& svg, Mark mark, double x, double y);
+
+}  // namespace bench

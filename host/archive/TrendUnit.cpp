@@ -1,0 +1,19 @@
+#include "host/archive/TrendUnit.h"
+
+#include <cmath>
+
+#include "host/services/Text.h"
+#include "host/standards/Units.h"
+
+namespace bench {
+
+std::optional<double> NumberIn(const std::string& unit, double number, const std::string& from) {
+  auto told = std::optional(number);
+  if (!SameUnit(from, unit)) {
+    const auto text = InUnit(ExactNumberText(number), from, unit);
+    told = text ? FiniteNumber(*text) : std::nullopt;
+  }
+  return told && std::abs(*told) <= kLargestDrawn ? told : std::nullopt;
+}
+
+}  // namespace bench

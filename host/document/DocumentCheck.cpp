@@ -1,0 +1,100 @@
+#include "host/document/DocumentCheck.h"
+
+#include <string_view>
+
+#include "host/document/Document.h"
+#include "host/document/ElementsCheck.h"
+#include "host/document/KnownParts.h"
+#include "host/document/StandardsCheck.h"
+#include "host/services/Text.h"
+#include "host/services/Tr.h"
+#include "host/services/XmlDocument.h"
+#include "host/services/XmlNode.h"
+
+namespace bench {
+namespace {
+
+void CheckEncoding(std::string_view text, Findings& findings) {
+  for (auto bad = InvalidUtf8(text); bad != std::string_view::npos;) {
+    findings.Wrong(bad, Tr("there are bytes that are not UTF-8 text; saving would replace them"));
+    // One finding for each line.
+    bad = std::min(text.find('\n', bad), text.size());
+    bad = InvalidUtf8(text, bad);
+  }
+  if (!text.starts_with("<?xml")) return;
+  const auto head = text.substr(0, text.find("?>"));
+  const auto at = head.find("encoding=");
+  if (at == std::string_view::npos || head.size() < at + 11) return;
+  const auto value = head.substr(at + 10, head.find(head[at + 9], at + 10) - at - 10);
+  if (LowerAscii(value) != "utf-8")
+    findings.Wrong(at,
+                   Tr("the text is declared as \"%%1\"; documents are read as UTF-8", {std::string(value)}));
+}
+
+void CheckVersion(pugi::xml_node root, Findings& findings) {
+  const std::string text = root.attribute("Version").value();
+  const auto version = WholeNumber(text);
+  if (!version)
+    findings.Wrong(root, Tr("the attribute \"Version\" is missing or no whole number; it tells the format"));
+  else if (*version > Document::kVersion)
+    findings.Wrong(root, Tr("the document was written by a newer version of this program (format %%1, this "
+                            "program reads %%2); use that version",
+                            {text, std::to_string(Document::kVersion)}));
+  else if (*version < 1)
+    findings.Wrong(root, Tr("there is no document format %%1", {text}));
+}
+
+/// The numbers of the testers that the document names.
+std::set<std::int32_t> CheckInstruments(pugi::xml_node instruments, Findings& findings) {
+  std::set<std::int32_t> numbers;
+  NoteUnknown(instruments, {}, {"Instrument"}, findings);
+  for (const auto node : instruments.children("Instrument")) {
+    NoteUnknown(node, {"Index", "TypeName", "MTIType", "SerialNumber", "FirmwareVersion"}, {"Property"},
+                findings);
+    const auto number = WholeNumber(node.attribute("Index").value());
+    if (!number)
+      findings.Wrong(node, Tr("the tester's \"Index\" is missing or no whole number"));
+    else if (!numbers.insert(*number).second)
+      findings.Wrong(node, Tr("the index %%1 is used for two testers", {std::to_string(*number)}));
+  }
+  return numbers;
+}
+
+void CheckRoot(pugi::xml_node root, Findings& findings) {
+  NoteUnknown(root, {"Version"}, kDocumentSections, findings);
+  for (const auto section : kDocumentSections) {
+    const auto first = root.child(std::string(section).c_str());
+    for (auto next = first.next_sibling(first.name()); first && next; next = next.next_sibling(first.name()))
+      findings.Wrong(next, Tr("there is a second \"%%1\"; the first is in line %%2",
+                              {first.name(), findings.LineOf(first)}));
+  }
+  for (const auto stray : root.children("TestElement"))
+    findings.Wrong(stray,
+                   Tr("the element stands outside \"Elements\" and is not part of the document's tests"));
+}
+
+}  // namespace
+
+std::vector<Finding> CheckDocument(const std::string& text, ElementFactory& factory) {
+  Findings findings(text);
+  CheckEncoding(text, findings);
+  pugi::xml_document xml;
+  const auto fault = xml::ParseAsFarAsPossible(text, xml);
+  if (!fault.reason.empty())
+    findings.Wrong(fault.offset, Tr("%%1; nothing behind this place could be looked at", {fault.reason}));
+  const auto root = xml.document_element();
+  if (!root) return findings.InOrder();
+  if (std::string_view(root.name()) != "OrvikDocument") {
+    findings.Wrong(root, Tr("this is no test document; its outermost element is \"OrvikDocument\""));
+    return findings.InOrder();
+  }
+  CheckVersion(root, findings);
+  CheckRoot(root, findings);
+  NoteUnknown(root.child("Equipment"), {"Asset", "Serial", "Maker", "Model"}, {}, findings);
+  CheckStandards(root.child("Standards"), {}, findings);
+  const auto testers = CheckInstruments(root.child("Instruments"), findings);
+  ElementsCheck(factory, testers, findings).Look(root.child("Elements"), !fault.reason.empty());
+  return findings.InOrder();
+}
+
+}  // namespace bench

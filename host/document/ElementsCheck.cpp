@@ -1,0 +1,190 @@
+#include "host/document/ElementsCheck.h"
+
+#include "OrvikTypeLib/As.h"
+#include "OrvikTypeLib/ILimitData.h"
+#include "OrvikTypeLib/ITestContainer.h"
+#include "host/document/Findings.h"
+#include "host/document/KnownParts.h"
+#include "host/document/StandardsCheck.h"
+#include "host/elements/ElementTags.h"
+#include "host/elements/Nesting.h"
+#include "host/services/Text.h"
+#include "host/services/Tr.h"
+#include "host/services/XmlNode.h"
+#include "host/standards/ElementLimits.h"
+
+namespace bench {
+namespace {
+
+/// From not tested to aborted.
+constexpr std::int32_t kHighestStatus = 4;
+
+std::string IdentifierOf(pugi::xml_node element) { return element.attribute(tags::kID).value(); }
+
+/// The saved elements below `top` in document order. Nesting of any depth takes no stack.
+template <class Visit>
+void Walk(pugi::xml_node top, Visit visit) {
+  auto element = top;
+  while (true) {
+    auto next = element.child(tags::kTestElement);
+    while (!next && element != top) {
+      next = element.next_sibling(tags::kTestElement);
+      if (!next) element = element.parent();
+    }
+    if (!next) return;
+    element = next;
+    visit(element);
+  }
+}
+
+}  // namespace
+
+void ElementsCheck::Look(pugi::xml_node elements, bool cut) {
+  NoteUnknown(elements, {}, {tags::kTestElement}, findings_);
+  pugi::xml_node last;
+  Walk(elements, [&](pugi::xml_node element) { last = element; });
+  Walk(elements, [&](pugi::xml_node element) {
+    if (!cut || element != last) LookAt(element, elements);
+  });
+}
+
+void ElementsCheck::LookAt(pugi::xml_node element, pugi::xml_node top) {
+  CheckIdentifier(element);
+  CheckPlace(element, top);
+  const auto& kind = KindOf(element);
+  if (!kind.fault.empty()) {
+    const auto result = !kind.readable && element.child(tags::kResultItem)
+                            ? Tr("; nobody can read its result")
+                            : std::string();
+    findings_.Wrong(element, Tr("element %%1: %%2%%3", {IdentifierOf(element), kind.fault, result}));
+  }
+  CheckParts(element);
+  for (const auto limits : element.children(tags::kExpectedResult))
+    CheckStandards(limits, kind.unit, findings_);
+  for (const auto result : element.children(tags::kResultItem)) CheckResult(result, kind.sequence);
+}
+
+void ElementsCheck::CheckIdentifier(pugi::xml_node element) {
+  const auto text = IdentifierOf(element);
+  const auto number = WholeNumber(text);
+  if (!number || *number < 1) {
+    findings_.Wrong(element, text.empty()
+                                 ? Tr("the element has no identifier; give it one of its own in \"ID\"")
+                                 : Tr("the identifier \"%%1\" is no whole number from 1 on", {text}));
+    return;
+  }
+  const auto [first, added] = identifiers_.try_emplace(*number, element);
+  if (!added)
+    findings_.Wrong(element, Tr("the identifier %%1 is used twice; first in line %%2",
+                                {text, findings_.LineOf(first->second)}));
+}
+
+void ElementsCheck::CheckPlace(pugi::xml_node element, pugi::xml_node top) {
+  const auto parent = element.parent();
+  if (parent == top) return;
+  const auto& kind = KindOf(parent);
+  if (kind.readable && !kind.sequence)
+    findings_.Wrong(element, Tr("element %%1 stands below element %%2, which is no sequence; it is never run",
+                                {IdentifierOf(element), IdentifierOf(parent)}));
+  int depth = 0;
+  for (auto above = element; above != top && depth <= kDeepestNesting + 1; above = above.parent()) ++depth;
+  // Told once for a branch: at the element that is one too deep.
+  if (depth == kDeepestNesting + 1)
+    findings_.Wrong(element,
+                    Tr("elements are nested more than %%1 levels deep", {std::to_string(kDeepestNesting)}));
+}
+
+void ElementsCheck::CheckParts(pugi::xml_node element) {
+  NoteUnknown(element, {tags::kID, tags::kTestID, tags::kPlugInID, tags::kClass},
+              {tags::kTestElement, tags::kInformation, tags::kAuxiliary, tags::kConfiguration,
+               tags::kExpectedResult, tags::kResultItem},
+              findings_);
+  for (const auto* part : {tags::kInformation, tags::kAuxiliary, tags::kConfiguration, tags::kExpectedResult,
+                           tags::kResultItem}) {
+    const auto first = element.child(part);
+    for (auto next = first.next_sibling(part); first && next; next = next.next_sibling(part))
+      findings_.Wrong(next, Tr("element %%1 has a second \"%%2\"; the first is in line %%3",
+                               {IdentifierOf(element), part, findings_.LineOf(first)}));
+  }
+  NoteUnknown(element.child(tags::kInformation), {tags::kFirstText, tags::kSecondText, tags::kDisplayName},
+              {}, findings_);
+  const auto auxiliary = element.child(tags::kAuxiliary);
+  NoteUnknown(auxiliary, {tags::kPrint}, {tags::kDoubt, tags::kRun}, findings_);
+  NoteUnknown(auxiliary.child(tags::kRun), {tags::kDate, tags::kOperator}, {}, findings_);
+  NoteUnknown(element.child(tags::kConfiguration), {}, {tags::kPlugInData}, findings_);
+}
+
+void ElementsCheck::CheckResult(pugi::xml_node result, bool sequence) {
+  NoteUnknown(result, {tags::kMTI}, {tags::kStatus, tags::kServiceRecord, tags::kComment, tags::kMeasurement},
+              findings_);
+  if (const auto tester = result.attribute(tags::kMTI)) {
+    const auto number = WholeNumber(tester.value());
+    if (!number || !testers_.contains(*number))
+      findings_.Wrong(
+          result, Tr("the result names the tester %%1, which the document does not have", {tester.value()}));
+  }
+  CheckStatus(result);
+  for (const auto measurement : result.children(tags::kMeasurement)) CheckMeasurement(measurement, sequence);
+}
+
+void ElementsCheck::CheckMeasurement(pugi::xml_node measurement, bool sequence) {
+  NoteUnknown(measurement, {"Flags"}, {"Description", "Value", "Unit", "Status"}, findings_);
+  CheckStatus(measurement);
+  const auto value = xml::Text(measurement.child("Value"));
+  // A sequence's value is a list of its children's.
+  if (!sequence && !value.empty() && !FiniteNumber(value))
+    findings_.Wrong(
+        measurement.child("Value"),
+        Tr("the value \"%%1\" is no number; it would be read as the number it begins with", {value}));
+}
+
+void ElementsCheck::CheckStatus(pugi::xml_node holder) {
+  const auto node = holder.child(tags::kStatus);
+  if (!node) return;
+  const auto text = xml::Text(node);
+  const auto status = WholeNumber(text);
+  if (!status || *status < 0 || *status > kHighestStatus)
+    findings_.Wrong(node,
+                    Tr("the status \"%%1\" is not one of 0 (not tested), 1 (passed), 2 (failed), 3 (not "
+                       "applicable) and 4 (aborted)",
+                       {text}));
+}
+
+const ElementsCheck::Kind& ElementsCheck::KindOf(pugi::xml_node element) {
+  const std::string plugIn = element.attribute(tags::kPlugInID).value();
+  const std::string test = element.attribute(tags::kTestID).value();
+  const std::string classId = element.attribute(tags::kClass).value();
+  const auto [known, added] = kinds_.try_emplace({plugIn, test, classId});
+  if (!added) return known->second;
+  if (const auto number = WholeNumber(test))
+    known->second = Learned({plugIn, *number, classId});
+  else
+    known->second.fault = test.empty() ? Tr("it names no test of the catalogue (\"TestID\")")
+                                       : Tr("the test \"%%1\" is no whole number", {test});
+  return known->second;
+}
+
+ElementsCheck::Kind ElementsCheck::Learned(const ElementFactory::Identity& identity) const {
+  Kind kind;
+  const auto plugIn = factory_.PlugIn(identity.plugInId);
+  const auto entry = plugIn ? plugIn->CreateTest(identity.testId) : nullptr;
+  const bool inCatalogue = entry && entry->TestID() == identity.testId;
+  const auto ofClass = orvik::As<orvik::ITestElement>(factory_.CreateObject(identity.classId));
+  const auto& shown = inCatalogue ? entry : ofClass;
+  kind.readable = ofClass || (inCatalogue && identity.classId.empty());
+  kind.sequence = orvik::As<orvik::ITestContainer>(identity.classId.empty() ? shown : ofClass) != nullptr;
+  if (!plugIn)
+    kind.fault = Tr("its plug-in \"%%1\" is not there", {identity.plugInId});
+  else if (!kind.readable)
+    kind.fault = Tr("its class \"%%1\" is not known", {identity.classId});
+  else if (!inCatalogue)
+    kind.fault = Tr("the catalogue has no test %%1", {std::to_string(identity.testId)});
+  else if (ofClass && LowerAscii(entry->ClassID()) != LowerAscii(ofClass->ClassID()))
+    kind.fault = Tr("it is of the class \"%%1\", the catalogue's test %%2 of \"%%3\"",
+                    {identity.classId, std::to_string(identity.testId), entry->ClassID()});
+  else if (const auto limits = entry->Limits())
+    kind.unit = RecordedUnit(*limits);
+  return kind;
+}
+
+}  // namespace bench

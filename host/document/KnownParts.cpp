@@ -1,0 +1,26 @@
+#include "host/document/KnownParts.h"
+
+#include <algorithm>
+
+#include "host/document/Findings.h"
+#include "host/services/Tr.h"
+
+namespace bench {
+
+void NoteUnknown(pugi::xml_node node, std::initializer_list<std::string_view> attributes,
+                 std::span<const std::string_view> elements, Findings& findings) {
+  const auto isOneOf = [](const auto& names, std::string_view name) {
+    return std::find(names.begin(), names.end(), name) != names.end();
+  };
+  for (const auto attribute : node.attributes()) {
+    if (!isOneOf(attributes, attribute.name()))
+      findings.Note(node, Tr("the attribute \"%%1\" of \"%%2\" is not known; it is kept",
+                             {attribute.name(), node.name()}));
+  }
+  for (const auto child : node.children()) {
+    if (child.type() == pugi::node_element && !isOneOf(elements, child.name()))
+      findings.Note(child, Tr("the element \"%%1\" is not known; it is kept", {child.name()}));
+  }
+}
+
+}  // namespace bench

@@ -1,0 +1,49 @@
+#include "host/document/StandardsCheck.h"
+
+#include <map>
+#include <utility>
+
+#include "host/document/Findings.h"
+#include "host/document/KnownParts.h"
+#include "host/services/Text.h"
+#include "host/services/Tr.h"
+#include "host/services/XmlNode.h"
+#include "host/standards/Limit.h"
+#include "host/standards/Units.h"
+
+namespace bench {
+namespace {
+
+void CheckLimit(pugi::xml_node node, const std::optional<std::string>& unit, Findings& findings) {
+  NoteUnknown(node, {"Key", "Unit", "Low", "High", "Nominal"}, {}, findings);
+  try {
+    Limit().Load(node);
+  } catch (const XmlError& error) {
+    findings.Wrong(node, error.Description());
+  }
+  const std::string given = node.attribute("Unit").value();
+  if (unit && !given.empty() && !SameUnit(given, *unit))
+    findings.Wrong(node, Tr("the bounds are in %%1, but the element is recorded in %%2, and a reading is "
+                            "compared with the bare number",
+                            {given, unit->empty() ? Tr("no unit") : *unit}));
+}
+
+}  // namespace
+
+void CheckStandards(pugi::xml_node standards, const std::optional<std::string>& unit, Findings& findings) {
+  NoteUnknown(standards, {}, {"Standard"}, findings);
+  std::map<std::pair<std::string, std::string>, pugi::xml_node> known;
+  for (const auto node : standards.children("Standard")) {
+    NoteUnknown(node, {"Name", "Description", "Number"}, {"Limit"}, findings);
+    const std::string name = node.attribute("Name").value();
+    const auto [first, added] = known.try_emplace({name, node.attribute("Description").value()}, node);
+    if (!added)
+      findings.Wrong(node, Tr("the standard \"%%1\" is there already, in line %%2; only that one judges",
+                              {name, findings.LineOf(first->second)}));
+    if (node.attribute("Number") && !WholeNumber(node.attribute("Number").value()))
+      findings.Wrong(node, Tr("the standard's \"Number\" is no whole number"));
+    for (const auto limit : node.children("Limit")) CheckLimit(limit, unit, findings);
+  }
+}
+
+}  // namespace bench

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+#include "host/report/Report.h"
+
+namespace bench {
+
+/// The report as a PDF file of A4 pages, made by the module at that place (lib/orvik/orvikPdf.so), which is
+/// opened when it is first wanted and stays open.
+/// @throws HostError 57 when the module cannot be used or the PDF cannot be made
+std::string WritePdf(const report::Report& report, const std::filesystem::path& module);
+
+/// The module's entry points.
+namespace pdf {
+
+/// `const char* OrvikPdfVersion()`: the version of the program that the module belongs to.
+inline constexpr char kVersionEntry[] = "OrvikPdfVersion";
+using VersionEntry = const char*();
+
+/// `bool OrvikWritePdf(report, pdf, reason)`: false, with the reason, when the PDF cannot be made.
+inline constexpr char kWriteEntry[] = "OrvikWritePdf";
+using WriteEntry = bool(const report::Report& report, std::string& pdf, std::string& reason);
+
+}  // namespace pdf
+
+}  // namespace bench

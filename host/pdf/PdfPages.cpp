@@ -1,0 +1,98 @@
+#include "host/pdf/PdfPages.h"
+
+#include <QBuffer>
+#include <QFontMetricsF>
+#include <QPageLayout>
+#include <QPdfWriter>
+#include <stdexcept>
+
+#include "host/pdf/PdfText.h"
+
+namespace bench::pdf {
+namespace {
+
+constexpr double kSmall = 8;
+
+/// One line of text that ends with "..." where it would be wider.
+void DrawLine(QPainter& painter, const std::string& text, const QRectF& place, const QFont& font,
+              const QColor& colour, Qt::AlignmentFlag alignment) {
+  painter.setFont(font);
+  painter.setPen(colour);
+  const auto shown = QFontMetricsF(font).elidedText(Text(text), Qt::ElideRight, place.width());
+  painter.drawText(place, static_cast<int>(alignment | Qt::AlignAbsolute | Qt::AlignTop) | Qt::TextSingleLine,
+                   shown);
+}
+
+std::string Labelled(const report::Fact& fact) { return fact.label + ": " + fact.value; }
+
+void DrawHeader(QPainter& painter, const report::Report& report, std::size_t page, std::size_t pages) {
+  constexpr double kNumber = 1200, kLineHeight = 230;
+  const auto& facts = report.pageHeader;
+  const auto line = [](int number, double from, double to) {
+    return QRectF(kMargin + from, kHeaderTop + number * kLineHeight, to - from, kLineHeight);
+  };
+  DrawLine(painter, Labelled(facts[0]), line(0, 0, kUsable - kNumber), FontOf(kSmall, true), kInk,
+           Qt::AlignLeft);
+  DrawLine(painter, std::to_string(page + 1) + " / " + std::to_string(pages),
+           line(0, kUsable - kNumber, kUsable), FontOf(kSmall, true), kInk, Qt::AlignRight);
+  DrawLine(painter, Labelled(facts[1]), line(1, 0, kUsable * 0.52), FontOf(kSmall), kQuiet, Qt::AlignLeft);
+  DrawLine(painter, Labelled(facts[2]) + "    " + Labelled(facts[3]), line(1, kUsable * 0.53, kUsable),
+           FontOf(kSmall), kQuiet, Qt::AlignRight);
+  if (report.partial)
+    DrawLine(painter, report.partialNotice, line(2, 0, kUsable), FontOf(kSmall, true),
+             ColourOf(report::Standing::kOpen), Qt::AlignLeft);
+  painter.setPen(QPen(kAccent, 12));
+  const double y = kHeaderTop + 3 * kLineHeight + 50;
+  painter.drawLine(QPointF(kMargin, y), QPointF(kMargin + kUsable, y));
+}
+
+void DrawWatermark(QPainter& painter, const report::Report& report) {
+  painter.save();
+  painter.translate(kPageWidth / 2, kPageHeight / 2);
+  painter.rotate(-55);
+  painter.setFont(FontOf(120, true));
+  painter.setPen(kFaint);
+  painter.drawText(QRectF(-kPageHeight / 2, -2000, kPageHeight, 4000), Qt::AlignCenter,
+                   Text(report.words.partial).toUpper());
+  painter.restore();
+}
+
+}  // namespace
+
+void PdfPages::NewPage() {
+  pages_.emplace_back();
+  y_ = kBodyTop;
+}
+
+void PdfPages::Ensure(double height) {
+  if (height > Room() && !AtTop() && height <= FullPage()) NewPage();
+}
+
+void PdfPages::Gap(double height) {
+  if (!AtTop()) y_ += height;
+}
+
+void PdfPages::Mark(const std::string& title, int level) {
+  bookmarks_.push_back({title, pages_.size() - 1, (y_ - 100) / kPoint, level});
+}
+
+std::string PdfPages::Write(const report::Report& report) const {
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  buffer.open(QIODevice::WriteOnly);
+  QPdfWriter writer(&buffer);
+  writer.setResolution(kTwipsPerInch);
+  writer.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF(0, 0, 0, 0)));
+  QPainter painter;
+  if (!painter.begin(&writer)) throw std::runtime_error("the pages cannot be drawn");
+  for (std::size_t page = 0; page < pages_.size(); ++page) {
+    if (page > 0 && !writer.newPage()) throw std::runtime_error("a page cannot be added");
+    if (report.partial) DrawWatermark(painter, report);
+    DrawHeader(painter, report, page, pages_.size());
+    for (const auto& drawing : pages_[page]) drawing(painter);
+  }
+  if (!painter.end()) throw std::runtime_error("the pages cannot be finished");
+  return bytes.toStdString();
+}
+
+}  // namespace bench::pdf

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+
+#include "host/report/Report.h"
+
+namespace bench {
+
+/// The report as a PDF file of A4 pages, each with the essentials, its number and, where the report is
+/// partial, the mark of that. The same report gives the same bytes with the same fonts.
+/// @throws std::runtime_error when no fonts are installed, or the pages cannot be drawn
+std::string PdfReport(const report::Report& report);
+
+}  // namespace bench

@@ -1,0 +1,214 @@
+#include "host/report/HtmlReport.h"
+
+#include "host/report/HtmlText.h"
+
+namespace bench {
+namespace {
+
+using html::ClassOf;
+using html::Escaped;
+using html::Isolated;
+using html::SignOf;
+using report::Standing;
+
+/// Writes the page from its top to its end.
+class Page {
+ public:
+  explicit Page(const report::Report& report) : report_(report) {}
+
+  std::string Write() {
+    Head();
+    out_ += "<body>\n<div class=\"page\">\n";
+    RunningHeader();
+    out_ += "<main>\n";
+    Summary();
+    Overview();
+    if (!report_.sections.empty()) Heading2("details", report_.words.details);
+    for (const auto& section : report_.sections) Element(section);
+    out_ += "</main>\n</div>\n</body>\n</html>\n";
+    return std::move(out_);
+  }
+
+ private:
+  /// Equipment and verdict, as the window's title.
+  std::string Title() const {
+    return report_.title + ": " + report_.pageHeader.front().value + " - " + report_.verdict.word;
+  }
+
+  void Head() {
+    out_ += "<!DOCTYPE html>\n<html lang=\"" + Escaped(report_.language) +
+            "\">\n<head>\n<meta charset=\"utf-8\"/>\n" +
+            "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\"/>\n" +
+            "<meta http-equiv=\"Content-Security-Policy\" content=\"default-src 'none'; style-src "
+            "'unsafe-inline'\"/>\n" +
+            "<title>" + Escaped(Title()) + "</title>\n<style>" + html::kStyle + "</style>\n</head>\n";
+  }
+
+  /// On paper alone, at the top of every page; the page itself says all of it, so listeners are spared it.
+  void RunningHeader() {
+    out_ += "<div class=\"running\" aria-hidden=\"true\"><div><p>";
+    bool first = true;
+    for (const auto& fact : report_.pageHeader) {
+      out_ += (first ? "" : " &#183; ") + Escaped(fact.label) + ": " + Isolated(fact.value);
+      first = false;
+    }
+    out_ += "</p>";
+    if (report_.partial) out_ += "<p class=\"mark\">" + Escaped(report_.partialNotice) + "</p>";
+    out_ += "</div></div>\n";
+  }
+
+  void Heading2(const std::string& id, const std::string& text) {
+    out_ += "<h2 id=\"" + id + "\">" + Escaped(text) + "</h2>\n";
+  }
+
+  void Summary() {
+    out_ += "<h1>" + Escaped(report_.title) + "</h1>\n";
+    const auto& verdict = report_.verdict;
+    out_ += "<div class=\"verdict " + std::string(ClassOf(verdict.standing)) + "\">" +
+            SignOf(verdict.standing) + "<p style=\"margin:0\"><strong>" + Escaped(verdict.word) +
+            "</strong> <span class=\"why\">" + Escaped(verdict.sentence) + "</span></p></div>\n";
+    if (report_.partial)
+      out_ += "<p class=\"partial\" role=\"note\">" + Escaped(report_.partialNotice) + "</p>\n";
+    Heading2("summary", report_.words.summary);
+    Facts(report_.facts);
+  }
+
+  void Facts(const std::vector<report::Fact>& facts) {
+    if (facts.empty()) return;
+    out_ += "<dl class=\"facts\">\n";
+    for (const auto& fact : facts)
+      out_ += "<dt>" + Escaped(fact.label) + "</dt><dd>" + Isolated(fact.value) + "</dd>\n";
+    out_ += "</dl>\n";
+  }
+
+  static std::string Word(Standing standing, const std::string& word) {
+    return std::string("<span class=\"word ") + ClassOf(standing) + "\">" + SignOf(standing) + Escaped(word) +
+           "</span>";
+  }
+
+  /// What is wider than the screen scrolls in here, also by the keys.
+  static std::string Scroll(const std::string& name) {
+    return "<div class=\"scroll\" role=\"region\" tabindex=\"0\" aria-label=\"" + Escaped(name) + "\">";
+  }
+
+  void ColumnHead(const std::string& text, const char* style = "") {
+    out_ += std::string("<th scope=\"col\"") + (*style ? std::string(" class=\"") + style + "\"" : "") + ">" +
+            Escaped(text) + "</th>";
+  }
+
+  void Overview() {
+    const auto& words = report_.words;
+    Heading2("overview", words.overview);
+    if (report_.overview.empty()) {
+      out_ += "<p>" + Escaped(words.nothing) + "</p>\n";
+      return;
+    }
+    out_ += Scroll(words.overview) +
+            "<table>\n<caption "
+            "class=\"hidden\">" +
+            Escaped(words.overview) + "</caption>\n<thead><tr>";
+    ColumnHead(words.number, "right number");
+    ColumnHead(words.test);
+    ColumnHead(words.value, "right");
+    ColumnHead(words.unit, "unit");
+    ColumnHead(words.result);
+    out_ += "</tr></thead>\n<tbody>\n";
+    for (const auto& row : report_.overview) OverviewLine(row);
+    out_ += "</tbody>\n</table></div>\n";
+  }
+
+  void OverviewLine(const report::OverviewRow& row) {
+    const auto id = std::to_string(row.id);
+    const auto name = Isolated(row.name);
+    out_ += "<tr><td class=\"right number\">" + id + "</td><th scope=\"row\" class=\"name\"";
+    if (row.depth > 0) out_ += " style=\"padding-left:" + std::to_string(1 + row.depth) + "rem\"";
+    out_ += ">" + (row.detailed ? "<a href=\"#element-" + id + "\">" + name + "</a>" : name) +
+            "</th><td class=\"right\">" + (row.value.empty() ? "\u2013" : Isolated(row.value)) +
+            "</td><td class=\"unit\">" + Isolated(row.unit) + "</td><td>" + Word(row.standing, row.word) +
+            "</td></tr>\n";
+  }
+
+  void Element(const report::Section& section) {
+    const auto id = std::to_string(section.id);
+    out_ += "<section class=\"element\" id=\"element-" + id + "\" aria-labelledby=\"heading-" + id +
+            "\">\n<div class=\"head\"><h3 id=\"heading-" + id + "\"><span class=\"no\">" + id + "</span>" +
+            Isolated(section.name) + "</h3> " + Word(section.standing, section.word) + "</div>\n";
+    if (!section.value.empty())
+      out_ += "<p class=\"reading\">" + Isolated(section.value) + " <span class=\"unit\">" +
+              Isolated(section.unit) + "</span></p>\n";
+    Notes(section);
+    Facts(section.facts);
+    Judgements(section);
+    for (const auto& table : section.tables) Printed(section, table);
+    out_ += "</section>\n";
+  }
+
+  void Notes(const report::Section& section) {
+    if (section.notes.empty()) return;
+    out_ += "<ul class=\"notes\">\n";
+    for (const auto& note : section.notes)
+      out_ += std::string("<li class=\"") + ClassOf(note.standing) + "\">" + SignOf(note.standing) +
+              Isolated(note.text) + "</li>\n";
+    out_ += "</ul>\n";
+  }
+
+  void Judgements(const report::Section& section) {
+    if (section.judgements.empty()) return;
+    const auto& words = report_.words;
+    out_ += Scroll(words.limits + ", " + section.name) + "<table>\n<caption>" + Escaped(words.limits) +
+            "</caption>\n<thead><tr>";
+    for (const auto* word : {&words.standard, &words.bounds, &words.judgement, &words.bar}) ColumnHead(*word);
+    out_ += "</tr></thead>\n<tbody>\n";
+    for (const auto& judgement : section.judgements)
+      out_ += "<tr><th scope=\"row\" class=\"standard\">" + Isolated(judgement.standard) + "</th><td>" +
+              Isolated(judgement.bounds) + "</td><td>" + Word(judgement.standing, judgement.word) +
+              "</td><td class=\"barcell\">" + (judgement.bar ? html::BarOf(judgement) : "\u2013") +
+              "</td></tr>\n";
+    out_ += "</tbody>\n</table></div>\n";
+  }
+
+  static std::string StyleOf(orvik::platform::Alignment alignment) {
+    if (alignment == orvik::platform::Alignment::kRight) return " class=\"right\"";
+    return alignment == orvik::platform::Alignment::kCentre ? " class=\"centre\"" : "";
+  }
+
+  void Printed(const report::Section& section, const report::Table& table) {
+    out_ += Scroll(report_.words.record + ", " + section.name) + "<table class=\"printed " +
+            (table.border ? "ruled" : "plain") + "\">\n<caption class=\"hidden\">" +
+            Escaped(report_.words.record + ", " + section.name) + "</caption>\n";
+    if (!table.header.empty()) {
+      out_ += "<thead>\n";
+      for (const auto& row : table.header) PrintedRow(table, row, "th scope=\"col\"", "th");
+      out_ += "</thead>\n";
+    }
+    out_ += "<tbody>\n";
+    for (const auto& row : table.rows) PrintedRow(table, row, "td", "td");
+    out_ += "</tbody>\n</table></div>\n";
+  }
+
+  void PrintedRow(const report::Table& table, const report::Row& row, const std::string& open,
+                  const std::string& close) {
+    out_ += "<tr>";
+    for (std::size_t column = 0; column < row.size(); ++column) {
+      out_ += "<" + open + StyleOf(table.columns[column].alignment) + ">";
+      for (const auto& run : row[column]) {
+        if (run.bold) out_ += "<b>";
+        if (run.italic) out_ += "<i>";
+        out_ += Isolated(run.text);
+        if (run.italic) out_ += "</i>";
+        if (run.bold) out_ += "</b>";
+      }
+      out_ += "</" + close + ">";
+    }
+    out_ += "</tr>\n";
+  }
+
+  const report::Report& report_;
+  std::string out_;
+};
+
+}  // namespace
+
+std::string HtmlReport(const report::Report& report) { return Page(report).Write(); }
+
+}  // namespace bench

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+
+#include "host/report/Report.h"
+
+namespace bench {
+
+/// The report as one self-contained file: HTML 5 that is well-formed XML too, its style and pictures within,
+/// no scripts, nothing fetched. Prints with the essentials at the top of every page; reads well on a narrow
+/// screen.
+std::string HtmlReport(const report::Report& report);
+
+}  // namespace bench

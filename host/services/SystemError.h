@@ -1,0 +1,11 @@
+#pragma once
+
+#include <string>
+
+namespace bench {
+
+/// What the system's error number (`errno`) says, in the language that was chosen; in the system's own words
+/// for one that is rare.
+std::string SystemError(int error);
+
+}  // namespace bench

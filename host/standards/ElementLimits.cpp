@@ -1,0 +1,59 @@
+#include "host/standards/ElementLimits.h"
+
+#include "OrvikTypeLib/As.h"
+#include "OrvikTypeLib/Conversions.h"
+#include "OrvikTypeLib/HostError.h"
+#include "OrvikTypeLib/IStandard.h"
+#include "OrvikTypeLib/IStandardColl.h"
+#include "host/services/Text.h"
+#include "host/services/Tr.h"
+#include "host/standards/Units.h"
+
+namespace bench {
+namespace {
+
+/// A limit without bounds in the element's unit. Only a standard that the element creates knows the unit.
+std::shared_ptr<orvik::ILimit> NewLimit(orvik::ILimitData& limits) {
+  const auto scratch = limits.CreateStandard("", "");
+  auto limit = orvik::Required(scratch).Limit(1);
+  orvik::Required(limits.Standards()).Remove(scratch);
+  return limit;
+}
+
+std::string Converted(const std::string& bound, const std::string& from, const std::string& to) {
+  // What is no number is refused by the limit itself, which says why.
+  if (orvik::Trim(bound).empty() || !FiniteNumber(bound)) return bound;
+  if (auto converted = InUnit(bound, from, to)) return *converted;
+  throw orvik::HostError(
+      orvik::HostError::kInvalidArgument, "orvik-bench",
+      to.empty() ? Tr("the bound is in %%1, but the element is recorded without a unit", {from})
+                 : Tr("a bound in %%1 does not fit the element, which is recorded in %%2", {from, to}));
+}
+
+}  // namespace
+
+std::string RecordedUnit(orvik::ILimitData& limits) { return NewLimit(limits)->Unit(); }
+
+std::shared_ptr<orvik::ILimit> SetLimit(orvik::ILimitData& limits, const EnteredLimit& entered) {
+  const auto fresh = NewLimit(limits);
+  const auto unit = fresh->Unit();
+  const auto given = entered.unit.empty() ? unit : entered.unit;
+  const auto low = Converted(entered.low, given, unit);
+  const auto high = Converted(entered.high, given, unit);
+  fresh->SetBounds(low, high);  // refuses before anything is changed
+
+  const auto standards = limits.Standards();
+  auto standard = standards ? standards->Find(entered.standard, entered.description) : nullptr;
+  if (!standard) standard = limits.CreateStandard(entered.standard, entered.description);
+  auto& found = orvik::Required(standard);
+  if (found.LimitCount() == 0) {
+    found.AddLimit(fresh);
+    return fresh;
+  }
+  auto limit = found.Limit(1);
+  // The unit too: an older limit may have been entered in one that the reading is not in.
+  limit->Initialize(fresh->Key(), unit, low, high);
+  return limit;
+}
+
+}  // namespace bench

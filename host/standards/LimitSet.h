@@ -1,0 +1,51 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace bench {
+
+/// Bounds that a standard, or a manufacturer, gives for some tests of the catalogue.
+struct LimitFigure {
+  std::vector<std::int32_t> tests;  ///< identifiers in the catalogue
+  std::string low, high;            ///< numbers in `unit`, inclusive; empty when there is none
+  std::string unit;
+  std::string condition;  ///< what is measured, and how
+  std::string source;     ///< edition, clause, table
+};
+
+/// What a standard has and the set has not, and why.
+struct LeftOutFigure {
+  std::string what, why;
+};
+
+/// A set of limits for one kind of equipment, a file:
+///
+///     <LimitSet Version="1" Standard="IEC 62353" Edition="2014" Class="I" Type="BF">
+///       <Figure Tests="410" High="300" Unit="mOhm" Condition="..." Source="IEC 62353:2014, 5.3.2.2"/>
+///       <LeftOut What="..." Why="..."/>
+///     </LimitSet>
+///
+/// Class (of protection) and Type (of the applied parts) may be missing. Every figure has a source, a unit
+/// and at least one bound, and a test stands in one figure at most.
+struct LimitSet {
+  std::filesystem::path file;
+  std::string standard, edition, equipmentClass, type;
+  std::vector<LimitFigure> figures;
+  std::vector<LeftOutFigure> leftOut;
+
+  /// What the set is called by: the file's name without its ending.
+  std::string Name() const { return file.stem().string(); }
+  /// What tells it from other sets of the standard: "2014, class I, type BF".
+  std::string Description() const;
+  /// The figure for the test of the catalogue; null when the set knows nothing of it.
+  const LimitFigure* FigureFor(std::int32_t testId) const;
+};
+
+/// Reads a set. `HostError` 75 naming file, line and reason when there is anything that it does not know: a
+/// bound that is passed over in silence would let everything pass.
+LimitSet ReadLimitSet(const std::filesystem::path& file);
+
+}  // namespace bench

@@ -1,0 +1,75 @@
+#include "host/standards/Units.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <string_view>
+#include <utility>
+
+#include "OrvikTypeLib/Conversions.h"
+#include "host/services/Text.h"
+
+namespace bench {
+namespace {
+
+/// A unit as power of ten and quantity.
+struct Unit {
+  int exponent = 0;
+  std::string_view quantity;
+  bool operator==(const Unit&) const = default;
+};
+
+constexpr std::array<std::pair<std::string_view, std::string_view>, 5> kQuantities{
+    {{"A", "A"}, {"V", "V"}, {"Ohm", "Ohm"}, {"\xCE\xA9", "Ohm"}, {"\xE2\x84\xA6", "Ohm"}}};
+
+constexpr std::array<std::pair<std::string_view, int>, 9> kPrefixes{{{"", 0},
+                                                                     {"n", -9},
+                                                                     {"\xC2\xB5", -6},  // micro sign
+                                                                     {"\xCE\xBC", -6},  // Greek mu
+                                                                     {"u", -6},
+                                                                     {"m", -3},
+                                                                     {"k", 3},
+                                                                     {"M", 6},
+                                                                     {"G", 9}}};
+
+std::optional<Unit> UnitOf(std::string_view text) {
+  for (const auto& [ending, quantity] : kQuantities) {
+    if (!text.ends_with(ending)) continue;
+    const auto start = text.substr(0, text.size() - ending.size());
+    for (const auto& [prefix, exponent] : kPrefixes) {
+      if (start == prefix) return Unit{exponent, quantity};
+    }
+  }
+  return {};
+}
+
+/// As people write it: 15 digits hold every bound, and leave no trace of the conversion in the last one.
+std::string Told(double number) {
+  char buffer[64];
+  const auto end = std::to_chars(buffer, buffer + sizeof buffer, number, std::chars_format::general, 15).ptr;
+  return {buffer, end};
+}
+
+}  // namespace
+
+bool SameUnit(const std::string& one, const std::string& other) {
+  if (one == other) return true;
+  const auto first = UnitOf(one);
+  return first && first == UnitOf(other);
+}
+
+std::optional<std::string> InUnit(const std::string& number, const std::string& from, const std::string& to) {
+  const auto value = FiniteNumber(number);
+  if (!value) return {};
+  if (SameUnit(from, to)) return orvik::Trim(number);
+  const auto source = UnitOf(from), target = UnitOf(to);
+  if (!source || !target || source->quantity != target->quantity) return {};
+  const int steps = source->exponent - target->exponent;
+  // Powers of ten are exact as factor and as divisor, not as fraction.
+  const double factor = std::pow(10.0, std::abs(steps));
+  const double converted = steps < 0 ? *value / factor : *value * factor;
+  if (!std::isfinite(converted)) return {};
+  return Told(converted);
+}
+
+}  // namespace bench
