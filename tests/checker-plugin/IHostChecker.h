@@ -9,7 +9,8 @@
 
 namespace orvik {
 class IReport;
-}
+class IRunController;
+}  // namespace orvik
 
 namespace check {
 
@@ -44,6 +45,10 @@ class IHostChecker : public virtual orvik::IObject {
   Texts SerialPort(const std::string& device) { return IHostChecker_SerialPort(device); }
   /// A report that is being printed.
   Texts Report(std::shared_ptr<orvik::IReport> report) { return IHostChecker_Report(std::move(report)); }
+  /// The controller of a run that lets everything start. Adds one record to its instruments.
+  Texts RunController(std::shared_ptr<orvik::IRunController> controller) {
+    return IHostChecker_RunController(std::move(controller));
+  }
   /// Windows: loading, showing, activating, keys, closing.
   Texts Forms() { return IHostChecker_Forms(); }
   /// Every kind of control.
@@ -71,6 +76,7 @@ class IHostChecker : public virtual orvik::IObject {
   virtual Texts IHostChecker_Records() = 0;
   virtual Texts IHostChecker_SerialPort(const std::string& device) = 0;
   virtual Texts IHostChecker_Report(std::shared_ptr<orvik::IReport> report) = 0;
+  virtual Texts IHostChecker_RunController(std::shared_ptr<orvik::IRunController> controller) = 0;
   virtual Texts IHostChecker_Forms() = 0;
   virtual Texts IHostChecker_Controls() = 0;
   virtual Texts IHostChecker_Timers() = 0;

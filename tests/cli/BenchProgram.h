@@ -31,14 +31,15 @@ class RunningProgram {
     int out[2], error[2], in[2];
     if (pipe2(out, O_CLOEXEC) != 0 || pipe2(error, O_CLOEXEC) != 0 || pipe2(in, O_CLOEXEC) != 0)
       throw std::runtime_error("no pipe");
+    // Ready before the fork: where other threads run, the child may take no memory.
+    std::vector<char*> words{const_cast<char*>(path.c_str())};
+    for (auto& argument : arguments) words.push_back(argument.data());
+    words.push_back(nullptr);
     process_ = fork();
     if (process_ == 0) {
       dup2(in[0], STDIN_FILENO);
       dup2(out[1], STDOUT_FILENO);
       dup2(error[1], STDERR_FILENO);
-      std::vector<char*> words{const_cast<char*>(path.c_str())};
-      for (auto& argument : arguments) words.push_back(argument.data());
-      words.push_back(nullptr);
       execv(words[0], words.data());
       _exit(127);
     }

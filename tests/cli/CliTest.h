@@ -21,7 +21,12 @@ class CliTest : public testing::Test {
  protected:
   using Words = std::vector<std::string>;
 
-  CliTest() { setenv("ORVIK_STATE", Path("state").c_str(), 1); }
+  CliTest() {
+    setenv("ORVIK_STATE", Path("state").c_str(), 1);
+    // The machine's language has no say.
+    setenv("LC_ALL", "C", 1);
+    unsetenv("ORVIK_LANG");
+  }
 
   /// Pauses are divided by this; a reply may still take 200 ms.
   static constexpr char kTimeScale[] = "10";

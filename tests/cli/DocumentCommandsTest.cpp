@@ -72,7 +72,15 @@ TEST_F(DocumentCommandsTest, ConfigShowsAndChangesSettings) {
   EXPECT_NE(Bench({"config", file, "--element", "2"}).out.find("Maximum value"), std::string::npos);
   EXPECT_EQ(Bench(Simulated(file, "sound-class-1")).status, 0);
   EXPECT_EQ(SentIn(file + ".wire.log")[1], "STST,910,1");
-  EXPECT_EQ(Show(file)["elements"][1]["measurement"]["value"], 131.0);
+  EXPECT_EQ(Show(file)["elements"][1]["measurement"]["value"], 123.0);
+}
+
+// Saved as an empty text, which the element reads back as 0.
+TEST_F(DocumentCommandsTest, ASequenceWithoutAValueShowsNoneEitherWhenItIsOpenedAgain) {
+  const auto file = NewDocument({"400"});
+  ASSERT_EQ(Bench(Simulated(file, "sound-class-1")).status, 0);
+  EXPECT_TRUE(Show(file)["elements"][0]["measurement"]["value"].is_null()) << Show(file);
+  EXPECT_NE(Bench({"show", file}).out.find("   1  passed          -  "), std::string::npos);
 }
 
 TEST_F(DocumentCommandsTest, CalibrateStoresAndTheReadingIsCorrected) {
@@ -104,7 +112,7 @@ TEST_F(DocumentCommandsTest, ReportWritesWhatWasMeasured) {
   const auto written = Bench({"report", file, "--to", Path("a.txt")});
   EXPECT_EQ(written.status, 0) << written.error;
   const auto text = Contents(Path("a.txt"));
-  for (const char* told : {"A|7;{}", "incomplete", "SIM-0001", "123 mOhm", "OL", "doubtful", "passed"})
+  for (const char* told : {"A|7;{}", "INCOMPLETE", "SIM-0001", "123 mOhm", "OL", "doubtful", "passed"})
     EXPECT_NE(text.find(told), std::string::npos) << told << " is not in:\n" << text;
 }
 

@@ -64,9 +64,9 @@ TEST_F(RunCommandTest, EventsAreOneObjectALine) {
   std::istringstream lines(run.out);
   Words events;
   for (std::string line; std::getline(lines, line);) events.push_back(nlohmann::json::parse(line)["event"]);
-  const Words expected{"remark",  "reached", "started", "port-opened", "command",  "reply",
-                       "command", "reply",   "command", "reply",       "finished", "command",
-                       "reply",   "command", "reply",   "port-closed", "ended"};
+  const Words expected{"remark",  "planned", "reached", "started", "port-opened", "command",
+                       "reply",   "command", "reply",   "command", "reply",       "finished",
+                       "command", "reply",   "command", "reply",   "port-closed", "ended"};
   EXPECT_EQ(events, expected);
 }
 
@@ -110,6 +110,27 @@ TEST_F(RunCommandTest, ResumeGoesOnWithWhatHasNoResult) {
   const auto again = Bench(Simulated(file, "sound-class-1", {"--resume"}));
   EXPECT_EQ(again.status, 0);
   EXPECT_NE(again.out.find("nothing to go on with"), std::string::npos);
+}
+
+TEST_F(RunCommandTest, ResumePassesOverWhatPassedOrFailedItsLimits) {
+  const auto file = NewDocument({"410", "420", "210"});
+  SetLimit(file, "1", "300");
+  SetLimit(file, "2", "10");
+  EXPECT_EQ(Bench(Simulated(file, "sound-class-1", {"--element", "1", "--element", "2"})).status, 1);
+  std::filesystem::remove(file + ".wire.log");
+  const auto resumed = Bench(Simulated(file, "sound-class-1", {"--resume"}));
+  EXPECT_EQ(resumed.status, 1) << resumed.error;
+  EXPECT_EQ(SentIn(file + ".wire.log"), (Words{"IREM", "STST,210,0", "GRES,210,0", "STST,210,0", "EREM"}));
+}
+
+TEST_F(RunCommandTest, ResumeTestsAgainWhatBreaksLimitsThatCameAfterIt) {
+  const auto file = NewDocument({"410"});
+  SetLimit(file, "1", "300");
+  EXPECT_EQ(Bench(Simulated(file, "sound-class-1")).status, 0);
+  SetLimit(file, "1", "100");
+  EXPECT_EQ(Show(file)["outcome"], "incomplete");
+  EXPECT_EQ(Bench(Simulated(file, "sound-class-1", {"--resume"})).status, 1);
+  EXPECT_EQ(Show(file)["outcome"], "failed");
 }
 
 TEST_F(RunCommandTest, JudgesByTheStandardThatIsNamed) {
@@ -173,6 +194,9 @@ TEST_P(Interruption, ClosesTheSessionAndSaves) {
   run->Signal(SIGINT);
   ASSERT_TRUE(run->AwaitOutput("Stopping")) << run->Output();
   run->Signal(SIGINT);
+  EXPECT_TRUE(run->AwaitOutput("Already stopping: the session with the tester is being closed ("))
+      << run->Output();
+  EXPECT_TRUE(run->AwaitOutput("; it takes at most ")) << run->Output();
   run->Signal(SIGTERM);
   const auto ended = run->Wait();
   EXPECT_EQ(ended.status, 2) << ended.out;
@@ -185,6 +209,21 @@ TEST_P(Interruption, ClosesTheSessionAndSaves) {
   EXPECT_EQ(shown["outcome"], "incomplete");
   EXPECT_EQ(shown["elements"][1]["status"], 0);
 }
+
+class EndingSignal : public RunCommandTest, public testing::WithParamInterface<int> {};
+
+// A shutdown, a kill and a terminal that goes away end a run as Ctrl-C does.
+TEST_P(EndingSignal, ClosesTheSessionAndSaves) {
+  const auto file = NewDocument({"410"});
+  const auto run = Start(Simulated(file, "sound-class-1", {"--events"}));
+  ASSERT_TRUE(run->AwaitOutput("STST,410,0")) << run->Output();
+  run->Signal(GetParam());
+  EXPECT_EQ(run->Wait().status, 2);
+  EXPECT_EQ(SentIn(file + ".wire.log").back(), "EREM");
+  EXPECT_EQ(Show(file)["elements"][0]["status"], 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(Signals, EndingSignal, testing::Values(SIGINT, SIGTERM, SIGHUP));
 
 INSTANTIATE_TEST_SUITE_P(Moments, Interruption,
                          testing::Values("irem,", "STST,410,0", "stst,410,0", "GRES,410,0", "gres,410,0"));

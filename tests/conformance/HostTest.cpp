@@ -1,7 +1,18 @@
+#include <limits>
+
+#include "OrvikTypeLib/ICallBack.h"
+#include "OrvikTypeLib/ILimit.h"
+#include "OrvikTypeLib/ILimitData.h"
+#include "OrvikTypeLib/ILimitView.h"
+#include "OrvikTypeLib/IResultData.h"
+#include "OrvikTypeLib/IStandard.h"
+#include "OrvikTypeLib/IStandardColl.h"
+#include "host/instruments/InstrumentColl.h"
 #include "host/report/ReportObject.h"
-#include "host/report/TextReport.h"
+#include "host/run/RunController.h"
 #include "tests/checker-plugin/IHostChecker.h"
 #include "tests/conformance/Asked.h"
+#include "tests/conformance/Windows.h"
 
 namespace conformance {
 namespace {
@@ -51,9 +62,98 @@ TEST_F(ReferenceHost, PrintsReports) {
   const auto report = std::make_shared<bench::ReportObject>();
   ExpectNone(checker_->Report(report));
   EXPECT_EQ(report->Tables().size(), 2U) << "a refused table must not be printed";
-  const auto text = bench::TextReport(*report);
+  std::string text;
+  for (const auto& table : report->Tables()) {
+    for (const auto& row : table.rows) {
+      for (const auto& cell : row) text += bench::report::PlainText(cell) + "\n";
+    }
+  }
   EXPECT_NE(text.find("a|b;c{d}e\\f"), std::string::npos) << text;
   EXPECT_NE(text.find("<b>&amp;"), std::string::npos) << text;
+}
+
+/// A run as `orvik-bench` has it.
+class ReferenceRun : public ReferenceHost {
+ protected:
+  ReferenceRun() {
+    const auto standard = library_.New<orvik::IStandard>(orvik::HostClasses::kStandard);
+    standard->Initialize("IEC 62353", "class I", 1);
+    standards_->Add(standard);
+  }
+
+  bench::Wire wire_;
+  bench::DoubtTracker doubts_{wire_};
+  std::shared_ptr<orvik::IStandardColl> standards_ =
+      library_.New<orvik::IStandardColl>(orvik::HostClasses::kStandardColl);
+  std::shared_ptr<bench::InstrumentColl> instruments_ = std::make_shared<bench::InstrumentColl>();
+  int saved_ = 0;
+  std::shared_ptr<bench::RunController> controller_ =
+      std::make_shared<bench::RunController>(bench::RunController::Parts{
+          standards_, instruments_, *library_.Host().Elements(), doubts_, [this] { ++saved_; }});
+};
+
+TEST_F(ReferenceRun, ControlsRuns) {
+  ExpectNone(checker_->RunController(controller_));
+  EXPECT_EQ(controller_->Asked(), bench::Navigation::kNotApplicable);
+  EXPECT_EQ(saved_, 2) << "each finished element is saved";
+  EXPECT_EQ(controller_->orvik::IRunController::Standards(), standards_);
+  EXPECT_EQ(instruments_->Count(), 1);
+}
+
+TEST_F(ReferenceRun, RefusesNavigationThatThereIsNot) {
+  orvik::IRunController& controller = *controller_;
+  controller.NavigationRequest(3);
+  for (const std::int32_t code : {-1, 5, std::numeric_limits<std::int32_t>::max()}) {
+    EXPECT_EQ(ErrorNumberOf([&] { controller.NavigationRequest(code); }), orvik::HostError::kInvalidArgument);
+  }
+  EXPECT_EQ(controller_->Asked(), bench::Navigation::kSkip);
+}
+
+TEST_F(ReferenceRun, RunsAPlugInsElement) {
+  const auto element = library_.NewTest();
+  std::vector<std::string> heard;
+  const auto started = controller_->Started().Subscribe(
+      [&](const auto& which) { heard.push_back(which == element ? "started" : "another started"); });
+  const auto finished = controller_->Finished().Subscribe(
+      [&](const auto& which) { heard.push_back(which == element ? "finished" : "another finished"); });
+  const auto shown = library_.Application().FormShown().Subscribe(
+      [&](const auto& form) { library_.Application().Post([form] { Click(*form, "cmdUndamaged"); }); });
+  element->Perform(controller_);
+  EXPECT_EQ(heard, (std::vector<std::string>{"started", "finished"}));
+  ASSERT_TRUE(element->Result());
+  EXPECT_EQ(element->Result()->Status(), 1);
+  EXPECT_EQ(controller_->Asked(), bench::Navigation::kNext);
+  EXPECT_EQ(saved_, 1);
+}
+
+/// The host's limit view on limits of the plug-in's own, edited by hand.
+TEST(ReferenceLimitView, TellsItsCallBackOfAnEdit) {
+  class Ear final : public orvik::ICallBack {
+   public:
+    std::vector<std::string> heard;
+
+   private:
+    std::string IObject_ClassID() const override { return {}; }
+    void ICallBack_Notify(const std::string& text) override { heard.push_back(text); }
+  };
+  LoadedLibrary library(KeldPlugIn());
+  const auto element = library.NewTest(410);
+  const auto standard = element->Limits()->CreateStandard("IEC 62353", "class I");
+  const auto form = library.Application().CreateForm("FLimits");
+  form->Show();
+  const auto site = form->AddControl(orvik::HostClasses::kLimitView, "isc");
+  const auto view = orvik::As<orvik::ILimitView>(site->Object());
+  const auto ear = std::make_shared<Ear>();
+  view->SetCallBack(ear);
+  view->InitializeView("NO LIMIT KEY", "KELD test", "mOhm", "mOhm;%");
+  view->Initialize(element->Limits(), {}, {}, {});
+  EXPECT_TRUE(ear->heard.empty());
+  Find<orvik::platform::ITextBox>(*site->Panel(), "txtHigh")->TypeOver("300");
+  ASSERT_TRUE(Click(*site->Panel(), "cmdApply"));
+  EXPECT_EQ(standard->Limit(1)->HighText(), "300");
+  ASSERT_FALSE(ear->heard.empty());
+  EXPECT_EQ(ear->heard.back(), "Change");
+  form->Unload();
 }
 
 TEST_F(ReferenceHost, RefusesFilesThatAreNoPlugIns) {

@@ -4,7 +4,6 @@
 
 #include "host/report/ReportObject.h"
 #include "host/report/Table.h"
-#include "host/report/TextReport.h"
 #include "tests/host/Errors.h"
 
 namespace bench {
@@ -109,35 +108,6 @@ TEST(ReportObject, RefusedTableIsNotAdded) {
   EXPECT_NE(ErrorNumber([&] { report.AddTable("<1;", "a|b;", ""); }), 0);
   EXPECT_TRUE(report.Tables().empty());
 }
-
-TEST(TextReport, AlignsColumnsAndLeavesEmptyMarginsOut) {
-  ReportObject report;
-  report.SetTableBorder(7);
-  report.AddTable("<+560|<2240|>+100|^+100|<+560;", "|{\\b Name}|{\\b Value}|{\\b Unit};",
-                  "|Earth|12|m\xCE\xA9;|Long name|3|V;");
-  EXPECT_EQ(TextReport(report),
-            "+-----------+-------+------+\n"
-            "| Name      | Value | Unit |\n"
-            "+===========+=======+======+\n"
-            "| Earth     |    12 |  m\xCE\xA9  |\n"
-            "| Long name |     3 |  V   |\n"
-            "+-----------+-------+------+\n");
-}
-
-TEST(TextReport, TablesWithoutBorderHaveNoLines) {
-  ReportObject report;
-  report.AddTable("<1|>1;", "", "a|1;bb|22;");
-  report.AddTable("<1;", "", "next;");
-  EXPECT_EQ(TextReport(report), "a    1\nbb  22\n\nnext\n");
-}
-
-TEST(TextReport, LineEndsStayInTheirCellAndControlCharactersAreShown) {
-  ReportObject report;
-  report.AddTable("<1|<1;", "", "one\ntwo|\x1B[31m\x7F;");
-  EXPECT_EQ(TextReport(report), "one  \xE2\x90\x9B[31m\xE2\x90\xA1\ntwo        \n");
-}
-
-TEST(TextReport, EmptyReportIsEmpty) { EXPECT_EQ(TextReport(ReportObject()), ""); }
 
 }  // namespace
 }  // namespace bench

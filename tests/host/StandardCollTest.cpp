@@ -2,7 +2,8 @@
 #include "OrvikTypeLib/ILimit.h"
 #include "OrvikTypeLib/IStandard.h"
 #include "OrvikTypeLib/IXmlNode.h"
-#include "host/report/TextReport.h"
+#include "host/report/ReportObject.h"
+#include "host/report/TextTable.h"
 #include "host/standards/StandardColl.h"
 #include "tests/host/Errors.h"
 #include "tests/host/HostFixture.h"
@@ -126,7 +127,7 @@ TEST_F(StandardCollTest, PrintsTheLimitsOfTheKey) {
   coll->Print(report, nullptr, {"NO LIMIT KEY", "Test {Limits}", "0"});
   ASSERT_EQ(report->Tables().size(), 1U);
   EXPECT_EQ(report->Tables()[0].border, 7);
-  EXPECT_EQ(TextReport(*report),
+  EXPECT_EQ(TextTable(report::Shown(report->Tables()[0]), 100),
             "+-------------------------+-----------+------------+------+\n"
             "| Test {Limits}           | Low value | High value | Unit |\n"
             "+=========================+===========+============+======+\n"

@@ -5,7 +5,8 @@
 #include "OrvikTypeLib/IStandardColl.h"
 #include "OrvikTypeLib/IXmlNode.h"
 #include "host/elements/TestElement.h"
-#include "host/report/TextReport.h"
+#include "host/report/ReportObject.h"
+#include "host/report/TextTable.h"
 #include "tests/host/Errors.h"
 #include "tests/host/HostFixture.h"
 
@@ -251,7 +252,8 @@ TEST_F(TestElementTest, ReportShowsNameConfigurationLimitsAndResult) {
   host_->Elements()->BaseOf(element)->SetResult(result);
   const auto report = std::make_shared<ReportObject>();
   element->PrintReport(report, nullptr);
-  const auto text = TextReport(*report);
+  std::string text;
+  for (const auto& table : report->Tables()) text += TextTable(table, 100);
   const auto at = [&text](const char* part) { return text.find(part); };
   EXPECT_LT(at("Earth; {leakage}"), at("Options 3"));
   EXPECT_LT(at("Options 3"), at("IEC|62353"));

@@ -136,6 +136,16 @@ TEST_F(CKELDMeasurementTest, WhatTheTesterSentIsNeverMarkup) {
   EXPECT_NE(row, "|      a|b;c|1|{\\b V}|;;");
 }
 
+TEST_F(CKELDMeasurementTest, TheReportLineRoundsToAWholeNumber) {
+  const std::pair<Variant, std::string> cases[] = {{12.4, "12"}, {12.5, "13"}, {-12.6, "-13"},
+                                                   {-0.2, "0"},  {7, "7"},     {std::string("12.6"), "13"}};
+  for (const auto& [value, shown] : cases) {
+    const auto measurement = keld::CKELDMeasurement::Create();
+    measurement->AddValue(value, "V", "", "");
+    EXPECT_EQ(measurement->ReportLine(nullptr), "|      |" + shown + "|V;");
+  }
+}
+
 TEST_F(CKELDMeasurementTest, AReportLineWithoutAReportIsPlain) {
   measurement_->AddValue(1, "V", "", "");
   EXPECT_EQ(measurement_->ReportLine(nullptr), "|      |1|V;");
@@ -166,6 +176,34 @@ TEST_F(CKELDMeasurementTest, WhatIsSavedIsLoaded) {
   EXPECT_EQ(loaded->Unit(), "mOhm");
   EXPECT_EQ(loaded->Flags(), "O");
   EXPECT_EQ(loaded->Status(), 2);
+}
+
+TEST_F(CKELDMeasurementTest, ChildrenAreSavedInOrderWithTheirTexts) {
+  measurement_->SetDescription("20702::No values");
+  measurement_->AddValue(12.5, "mOhm", "O", "");
+  measurement_->SetStatus(2);
+  const auto document = New<orvik::IXmlDocument>(orvik::HostClasses::kXmlDocument);
+  const auto node = measurement_->Save(document->CreateRoot("Parent"));
+  std::string children;
+  for (auto child = node->FirstChild(); child; child = child->NextSibling())
+    children += child->Name() + "=" + child->Text() + ";";
+  EXPECT_EQ(children, "Description=20702::No values;Value=12.5;Unit=mOhm;Status=2;");
+}
+
+TEST_F(CKELDMeasurementTest, WithoutThePersistenceServiceTheRestIsSavedAndLoaded) {
+  host_.SharedHost()->Register(orvik::HostClasses::kPersistence, [] { return nullptr; });
+  measurement_->SetDescription("d");
+  measurement_->AddValue(12.5, "mOhm", "O", "");
+  measurement_->SetStatus(2);
+  EXPECT_NE(Saved().find("<Unit>mOhm</Unit>"), std::string::npos);
+  Load(
+      "<Measurement Flags=\"x\"><Value>7</Value><Status>1</Status><Description>e</Description>"
+      "<Unit>V</Unit></Measurement>");
+  EXPECT_EQ(measurement_->value(), Variant(12.5));
+  EXPECT_EQ(measurement_->Status(), 2);
+  EXPECT_EQ(measurement_->Description(), "e");
+  EXPECT_EQ(measurement_->Unit(), "V");
+  EXPECT_EQ(measurement_->Flags(), "x");
 }
 
 TEST_F(CKELDMeasurementTest, TheSavedValueHasNoBlanksAround) {

@@ -218,6 +218,18 @@ TEST_F(FCalibrateLeadsTest, WithoutAPortNothingIsSent) {
   EXPECT_TRUE(Button("cmdCalibrate").Enabled());
 }
 
+TEST_F(FCalibrateLeadsTest, WithoutAPortAnEarlierValueStaysAndCannotBeSaved) {
+  form_->Show();
+  Answer(",410,0,0.125,0,Ohm");
+  Click("cmdCalibrate");
+  bench_.Unassign();
+  Click("cmdCalibrate");
+  EXPECT_EQ(Label("lblValue"), "125");
+  EXPECT_FALSE(Button("cmdSave").Enabled());
+  Serial().TypeOver("another");
+  EXPECT_FALSE(Button("cmdSave").Enabled());
+}
+
 TEST_F(FCalibrateLeadsTest, SaveNeedsASerialNumber) {
   form_->Show();
   Answer(",410,0,0.125,0,Ohm", ",KELD(IN),,1.05");
@@ -228,6 +240,22 @@ TEST_F(FCalibrateLeadsTest, SaveNeedsASerialNumber) {
   EXPECT_TRUE(Button("cmdSave").Enabled());
   Serial().TypeOver("");
   EXPECT_FALSE(Button("cmdSave").Enabled());
+}
+
+TEST_F(FCalibrateLeadsTest, AnIdentityWithoutASerialNumberIsSavedButNotShown) {
+  keld::CKELDData::Shared()->SetSerialNumber("0815");
+  form_->Show();
+  Answer(",410,0,0.125,0,Ohm", ",KELD(IN)-2,,1.07");
+  Click("cmdCalibrate");
+  EXPECT_EQ(Serial().Text(), "");
+  EXPECT_EQ(Find<platform::ITextBox>("txtMTIType")->Text(), "");
+  Serial().TypeOver("4711");
+  Click("cmdSave");
+  const auto data = keld::CKELDData::Shared();
+  EXPECT_EQ(data->MTIType(), "KELD(IN)-2");
+  EXPECT_EQ(data->FirmwareVersion(), "1.07");
+  EXPECT_EQ(data->SerialNumber(), "4711");
+  EXPECT_EQ(data->CalibratedSerialNumbers(), (Texts{"4711"}));
 }
 
 TEST_F(FCalibrateLeadsTest, SaveStoresTheValueUnderTheTestersSerialNumber) {

@@ -1,3 +1,4 @@
+#include "platform/IListView.h"
 #include "tests/model/ModelTest.h"
 
 // A sequence is performed: its children on one session, its summary, and what the operator does to it as a
@@ -64,7 +65,11 @@ TEST_F(CKELDSequenceRunTest, TheSummaryValueFollowsTheFilter) {
   Configuration(sequence).SetValueFilter(3);
   Perform(sequence);
   EXPECT_EQ(Value(sequence), "12");
-  EXPECT_EQ(sequence->Result()->Measurement(1)->Unit(), "");
+  const auto summary = sequence->Result()->Measurement(1);
+  EXPECT_EQ(summary->Unit(), "");
+  EXPECT_EQ(summary->Description(), "");
+  EXPECT_EQ(summary->Flags(), "");
+  EXPECT_EQ(summary->LimitKey(), "NO LIMIT KEY");
   Configuration(sequence).SetValueFilter(4);
   Perform(sequence);
   EXPECT_EQ(Value(sequence), "5");
@@ -91,6 +96,41 @@ TEST_F(CKELDSequenceRunTest, WithoutAValueTheLimitsAreNotLookedAt) {
     Perform(sequence);
     EXPECT_EQ(Status(sequence), 1) << filter;
   }
+}
+
+TEST_F(CKELDSequenceRunTest, ChildrenWithoutAnyValueLeaveTheSummaryEmptyAndUnjudged) {
+  AnswerValues({});
+  const auto sequence = MakeSequence({MakeTest(411, 1), MakeTest(412, 2)});
+  Limit(sequence, "1000", "");
+  for (const std::int32_t filter : {3, 4}) {
+    Configuration(sequence).SetValueFilter(filter);
+    Perform(sequence);
+    EXPECT_EQ(Value(sequence), "") << filter;
+    EXPECT_EQ(Status(sequence), 3) << filter;
+  }
+}
+
+TEST_F(CKELDSequenceRunTest, ASummaryThatCannotBeJudgedIsNotPassed) {
+  const auto sequence = ThreeTests();
+  Configuration(sequence).SetValueFilter(3);
+  // The children are judged, then the standards are gone.
+  controller->onTold = [this](const std::string& what) {
+    if (what == "finished 413") controller->standards = nullptr;
+  };
+  Perform(sequence);
+  EXPECT_EQ(ChildStatus(sequence), (Codes{1, 1, 1}));
+  EXPECT_FALSE(sequence->Result());
+}
+
+TEST_F(CKELDSequenceRunTest, TheSummaryOfANestedSequenceIsAValueLikeAnyOther) {
+  AnswerValues({{411, "5,0,V"}, {412, "12,0,V"}, {413, "70,0,V"}});
+  const auto inner = MakeSequence({MakeTest(412, 3), MakeTest(413, 4)}, 2);
+  Configuration(inner).SetValueFilter(4);
+  const auto sequence = MakeSequence({MakeTest(411, 1), inner});
+  Configuration(sequence).SetValueFilter(3);
+  Perform(sequence);
+  EXPECT_EQ(Value(inner), "12");
+  EXPECT_EQ(Value(sequence), "12");
 }
 
 TEST_F(CKELDSequenceRunTest, OneFailedChildFailsIt) {
@@ -133,6 +173,84 @@ TEST_F(CKELDSequenceRunTest, ARefusedStartRemovesTheResult) {
   EXPECT_EQ(controller->Count("finished 100"), 0u);
 }
 
+TEST_F(CKELDSequenceRunTest, ResultsAreResetBeforeTheHostIsAsked) {
+  const auto sequence = ThreeTests();
+  Perform(sequence);
+  ASSERT_EQ(ChildStatus(sequence), (Codes{1, 1, 1}));
+  std::vector<Codes> seen;
+  controller->mayStart = [&](const auto& asked) {
+    if (asked == sequence) seen.push_back(ChildStatus(sequence));
+    return true;
+  };
+  Perform(sequence);
+  // First for the guide, then for the run.
+  EXPECT_EQ(seen, (std::vector<Codes>{{1, 1, 1}, {0, 0, 0}}));
+}
+
+TEST_F(CKELDSequenceRunTest, ARefusedChildHasNoResultAndTheNextOneRuns) {
+  const auto sequence = ThreeTests();
+  controller->mayStart = [](const auto& asked) { return asked->TestID() != 412; };
+  Perform(sequence);
+  EXPECT_EQ(ChildStatus(sequence), (Codes{1, -1, 1}));
+  EXPECT_EQ(controller->Count("finished 412"), 0u);
+  EXPECT_EQ(Status(sequence), 1);
+}
+
+TEST_F(CKELDSequenceRunTest, AChildThatTheSequenceCannotRunIsPassedOver) {
+  const auto foreign =
+      orvik::As<orvik::ITestElement>(bench.Host().CreateObject(orvik::HostClasses::kTestElement));
+  foreign->Initialize("SOMEBODY ELSE", 9, 900);
+  AnswerValues({{411, "5,0,V"}, {412, "12,0,V"}});
+  const auto sequence = MakeSequence({MakeTest(411, 1), foreign, MakeTest(412, 2)});
+  Perform(sequence);
+  EXPECT_EQ(controller->Count("start 900"), 0u);
+  EXPECT_EQ(ChildStatus(sequence), (Codes{1, -1, 1}));
+  EXPECT_EQ(Status(sequence), 1);
+}
+
+TEST_F(CKELDSequenceRunTest, TheResultIsShownThenTheHostIsToldThenTheSessionIsEnded) {
+  const auto sequence = ThreeTests();
+  int rows = -1;
+  Texts sent;
+  controller->onTold = [&](const std::string& what) {
+    if (what != "finished 100") return;
+    const auto view =
+        orvik::As<orvik::platform::IContainerSite>(person.Guide()->Find("xrvResultView"))->Panel();
+    rows = orvik::As<orvik::platform::IListView>(view->Find("lvwResults"))->RowCount();
+    sent = bench.Wire().Sent();
+  };
+  Perform(sequence);
+  EXPECT_GT(rows, 0);
+  EXPECT_EQ(sent.back(), "GRES,413,0");
+  EXPECT_EQ(bench.Wire().Sent().back(), "EREM");
+  ASSERT_TRUE(sequence->Result()->ServiceRecord());
+  EXPECT_EQ(sequence->Result()->ServiceRecord()->Code(), "P");
+  EXPECT_EQ(orvik::As<CKELDResultData>(sequence->Result())->Owner(), sequence);
+}
+
+TEST_F(CKELDSequenceRunTest, ADrivenSequenceLeavesTheLinkOpen) {
+  const auto sequence = ThreeTests();
+  const auto link = CKELDInstrument::Create();
+  Test(sequence)->InitAutoRun(link, nullptr, controller);
+  Test(sequence)->RunTest();
+  EXPECT_FALSE(Test(sequence)->Stopped());
+  EXPECT_EQ(bench.Wire().Sent().back(), "GRES,413,0");
+  EXPECT_EQ(Status(sequence), 1);
+  link->DisconnectMTI();
+}
+
+TEST_F(CKELDSequenceRunTest, NextAndPreviousLeaveTheResultAsItIs) {
+  const auto sequence = ThreeTests();
+  person.guide = {support::GuideOperator::kPlay, support::GuideOperator::kPrevious};
+  Perform(sequence);
+  EXPECT_EQ(controller->told.back(), "navigate 1");
+  person.guide = {support::GuideOperator::kNext};
+  Perform(sequence);
+  EXPECT_EQ(controller->told.back(), "navigate 0");
+  EXPECT_EQ(Status(sequence), 1);
+  EXPECT_EQ(ChildStatus(sequence), (Codes{1, 1, 1}));
+}
+
 TEST_F(CKELDSequenceRunTest, WithoutAPortTheLoopEndsAtTheFirstChild) {
   bench.Unassign();
   const auto sequence = MakeSequence({MakeTest(411, 1), MakeTest(412, 2)});
@@ -155,6 +273,26 @@ TEST_F(CKELDSequenceRunTest, AStopDropsTheSummaryAndResetsTheChildren) {
   EXPECT_EQ(Value(sequence), "none");
   EXPECT_EQ(bench.Wire().Sent().back(), "EREM");
   EXPECT_TRUE(Test(sequence)->Stopped());
+  EXPECT_EQ(controller->Count("finished 100"), 1u);
+}
+
+TEST_F(CKELDSequenceRunTest, AStopReachesTheRunningChildOfANestedSequence) {
+  AnswerValues({{411, "5,0,V"}, {412, "12,0,V"}, {413, "7,0,V"}});
+  const auto inner = MakeSequence({MakeTest(412, 3), MakeTest(413, 4)}, 2);
+  const auto sequence = MakeSequence({MakeTest(411, 1), inner, MakeTest(414, 5)});
+  // The nested sequence's first child is being measured.
+  const auto call = bench.Application().CallAt(bench.Application().Now() + std::chrono::seconds(13),
+                                               [&] { person.Press(support::GuideOperator::kStop); });
+  Perform(sequence);
+  bench.Application().Forget(call);
+  EXPECT_EQ(controller->Count("start 412"), 1u);
+  EXPECT_EQ(controller->Count("start 413"), 0u);
+  EXPECT_EQ(controller->Count("start 414"), 0u);
+  EXPECT_EQ(Status(sequence), 0);
+  EXPECT_LE(Status(inner), 0);
+  EXPECT_LE(ChildStatus(inner).front(), 0);
+  EXPECT_EQ(Value(Container(inner)->item(1)), "none");
+  EXPECT_EQ(bench.Wire().Sent().back(), "EREM");
 }
 
 TEST_F(CKELDSequenceRunTest, AnAbortLeavesItNotTestedAndTellsNobodyOfALostTester) {
@@ -176,6 +314,28 @@ TEST_F(CKELDSequenceRunTest, AbortBeforeTheRunRecordsNotTestedUnlikeASingleTest)
   person.guide = {support::GuideOperator::kAbort};
   Perform(sequence);
   EXPECT_EQ(Status(sequence), 0);
+  EXPECT_EQ(controller->told.back(), "navigate 2");
+}
+
+TEST_F(CKELDSequenceRunTest, AnAbortAnsweredNoLetsItGoOn) {
+  const auto sequence = ThreeTests();
+  person.abort = false;
+  const auto call = bench.Application().CallAt(bench.Application().Now() + std::chrono::seconds(13),
+                                               [&] { person.Press(support::GuideOperator::kAbort); });
+  Perform(sequence);
+  bench.Application().Forget(call);
+  EXPECT_EQ(person.prompts.size(), 1u);
+  EXPECT_EQ(controller->Count("navigate 2"), 0u);
+  EXPECT_EQ(ChildStatus(sequence), (Codes{1, 1, 1}));
+  EXPECT_EQ(Status(sequence), 1);
+}
+
+TEST_F(CKELDSequenceRunTest, AnAbortAfterTheRunRecordsNotTestedWithoutAServiceRecord) {
+  const auto sequence = ThreeTests();
+  person.guide = {support::GuideOperator::kPlay, support::GuideOperator::kAbort};
+  Perform(sequence);
+  EXPECT_EQ(Status(sequence), 0);
+  EXPECT_FALSE(sequence->Result()->ServiceRecord());
   EXPECT_EQ(controller->told.back(), "navigate 2");
 }
 

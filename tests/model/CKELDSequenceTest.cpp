@@ -1,9 +1,11 @@
+#include "OrvikTypeLib/IAuxiliaryState.h"
 #include "OrvikTypeLib/ITestEnumerator.h"
 #include "OrvikTypeLib/IXmlDocument.h"
 #include "OrvikTypeLib/IXmlNode.h"
 #include "host/report/ReportObject.h"
 #include "model/CKELDSequence.h"
 #include "plugin/MKELDGlobalVars.h"
+#include "tests/model/HostElements.h"
 #include "tests/model/ModelTest.h"
 
 namespace keld {
@@ -79,9 +81,12 @@ TEST_F(CKELDSequenceTest, AnIndexOutsideGivesNothing) {
 }
 
 TEST_F(CKELDSequenceTest, InitializeLeavesTheOptionsAlone) {
-  const auto sequence = CKELDSequence::Create();
-  sequence->Initialize("KELD(IN)", 1, 1100);
-  EXPECT_EQ(Configuration(sequence).Options(), 3);
+  for (const std::int32_t id : {100, 920, 1100, 1120}) {
+    const auto sequence = CKELDSequence::Create();
+    sequence->Initialize("KELD(IN)", 1, id);
+    EXPECT_EQ(sequence->TestID(), id);
+    EXPECT_EQ(Configuration(sequence).Options(), 3) << id;
+  }
 }
 
 TEST_F(CKELDSequenceTest, ACloneIsDeepAndItsChildrenStandInIt) {
@@ -89,6 +94,7 @@ TEST_F(CKELDSequenceTest, ACloneIsDeepAndItsChildrenStandInIt) {
   const auto sequence = MakeSequence({MakeTest(210, 1), inner});
   Test(sequence)->SetExpectedUnits("V");
   Configuration(sequence).SetValueFilter(3);
+  Base(sequence).SetResult(CKELDResultData::Create());
 
   const auto clone = sequence->Clone();
   ASSERT_TRUE(orvik::As<CKELDSequence>(clone));
@@ -96,6 +102,7 @@ TEST_F(CKELDSequenceTest, ACloneIsDeepAndItsChildrenStandInIt) {
   EXPECT_EQ(Configuration(clone).ValueFilter(), 3);
   EXPECT_EQ(Configuration(clone).Owner(), clone);
   EXPECT_EQ(clone->Limits()->Owner(), clone);
+  EXPECT_EQ(orvik::As<CKELDResultData>(clone->Result())->Owner(), clone);
   ASSERT_EQ(Container(clone)->Count(), 2);
   EXPECT_EQ(Container(clone)->item(1)->Parent(), clone);
   EXPECT_EQ(Container(sequence)->item(1)->Parent(), sequence);
@@ -115,6 +122,80 @@ TEST_F(CKELDSequenceTest, LoadingAResultMakesANewOne) {
   sequence->Load(document->Root(), nullptr);
   EXPECT_NE(sequence->Result(), before);
   EXPECT_EQ(Status(sequence), 2);
+  EXPECT_EQ(orvik::As<CKELDResultData>(sequence->Result())->Owner(), sequence);
+}
+
+TEST_F(CKELDSequenceTest, AContainerNodeKeepsTheResultThatIsThere) {
+  const auto sequence = MakeSequence({});
+  const auto before = CKELDResultData::Create();
+  Base(sequence).SetResult(before);
+  const auto document = MKELDGlobalVars::XmlDocument();
+  ASSERT_TRUE(document->LoadFromString("<Elements/>"));
+  EXPECT_NO_THROW(sequence->Load(document->Root(), nullptr));
+  EXPECT_EQ(sequence->Result(), before);
+}
+
+TEST_F(CKELDSequenceTest, TheRestIsTheBaseElementsAnswer) {
+  const auto sequence = MakeSequence({MakeTest(210, 1)}, 7);
+  const auto parent = MakeSequence({sequence}, 8);
+  EXPECT_EQ(sequence->ID(), 7);
+  sequence->SetID(9);
+  EXPECT_EQ(Base(sequence).ID(), 9);
+  EXPECT_EQ(sequence->TestID(), 100);
+  EXPECT_EQ(sequence->PlugInID(), "KELD(IN)");
+  EXPECT_EQ(sequence->Filter(), orvik::Variant(100));
+  EXPECT_EQ(sequence->Parent(), parent);
+  sequence->Information()->SetSecondText("Group");
+  EXPECT_EQ(sequence->Info(), orvik::Variant(Texts{"::", "Group"}));
+  EXPECT_EQ(sequence->GetMeasurementList(), orvik::Variant(Texts{}));
+  const auto document = MKELDGlobalVars::XmlDocument();
+  const auto saved = sequence->Save(document->CreateRoot("Elements"));
+  ASSERT_TRUE(saved);
+  EXPECT_EQ(saved->Attribute("Class"), "orvikKELD.CKELDSequence");
+  EXPECT_TRUE(saved->FindChild("TestElement"));
+}
+
+TEST_F(CKELDSequenceTest, ItsLimitsAreToldToUpdateTheirReferences) {
+  const auto sequence = MakeSequence({});
+  const auto limits = std::make_shared<support::RecordingLimits>();
+  Base(sequence).SetLimits(limits);
+  sequence->UpdateReferences();
+  EXPECT_EQ(limits->updatedBy, (std::vector<std::shared_ptr<orvik::IObject>>{sequence}));
+  Base(sequence).SetLimits(nullptr);  // which hold the sequence
+}
+
+TEST_F(CKELDSequenceTest, TheBaseElementIsToldWhenItGoesAndNotBefore) {
+  const auto told = std::make_shared<int>(0);
+  support::RegisterWatchedElements(bench.Host(), told);
+  auto sequence = MakeSequence({});
+  sequence->Terminate();
+  EXPECT_EQ(*told, 0);
+  sequence.reset();
+  EXPECT_EQ(*told, 1);
+}
+
+TEST_F(CKELDSequenceTest, NothingReachesTheHostWhenItsContainerIsMissing) {
+  bench.Host().Register(orvik::HostClasses::kTestContainer, [] { return nullptr; });
+  const auto sequence = CKELDSequence::Create();
+  const auto child = MakeTest(210, 1);
+  EXPECT_NO_THROW({
+    sequence->Initialize("KELD(IN)", 1, 100);
+    sequence->Add(child, {}, {});
+    sequence->Remove(child);
+    sequence->PrintReport(nullptr, nullptr);
+    sequence->Load(nullptr, nullptr);
+    sequence->Perform(controller);
+    sequence->RunTest();
+    sequence->NATest();
+    sequence->SkipTest();
+    sequence->StopTest();
+  });
+  EXPECT_EQ(sequence->Count(), 0);
+  EXPECT_FALSE(sequence->item(1));
+  EXPECT_FALSE(sequence->FindElement(1));
+  EXPECT_FALSE(sequence->NewEnum());
+  EXPECT_FALSE(sequence->Clone());
+  EXPECT_FALSE(child->Parent()) << "it was not added";
 }
 
 TEST_F(CKELDSequenceTest, AnyParentWillDo) { EXPECT_TRUE(MakeSequence({})->QuerySetParent(nullptr)); }
@@ -125,6 +206,10 @@ TEST_F(CKELDSequenceTest, WithoutAResultThereIsNothingToPrint) {
   sequence->PrintReport(report, nullptr);
   EXPECT_TRUE(report->Tables().empty());
   Base(sequence).SetResult(CKELDResultData::Create());
+  Base(sequence).Auxiliary()->SetPrintElement(false);
+  sequence->PrintReport(report, nullptr);
+  EXPECT_TRUE(report->Tables().empty()) << "the host says that reports do not show it";
+  Base(sequence).Auxiliary()->SetPrintElement(true);
   sequence->PrintReport(report, nullptr);
   EXPECT_FALSE(report->Tables().empty());
 }

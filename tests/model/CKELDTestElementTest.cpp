@@ -1,9 +1,13 @@
+#include <limits>
+
 #include "OrvikTypeLib/IAuxiliaryState.h"
 #include "OrvikTypeLib/IXmlDocument.h"
 #include "OrvikTypeLib/IXmlNode.h"
 #include "host/report/ReportObject.h"
+#include "instrument/CKELDMeasurement.h"
 #include "model/CKELDTestElement.h"
 #include "plugin/MKELDGlobalVars.h"
+#include "tests/model/HostElements.h"
 #include "tests/model/ModelTest.h"
 
 namespace keld {
@@ -45,10 +49,19 @@ TEST_F(CKELDTestElementTest, TheLeadOfThe1110RangeIsAddedArithmetically) {
   EXPECT_EQ(OptionsAfterInitialize(1165, 3), 7);
   EXPECT_EQ(OptionsAfterInitialize(1166, 3), 3);
   EXPECT_EQ(OptionsAfterInitialize(1109, 3), 3);
+  EXPECT_EQ(OptionsAfterInitialize(1165, 4096 + 4), 4096 + 8);
+}
+
+TEST_F(CKELDTestElementTest, AnOptionsWordThatWouldOverflowStays) {
+  constexpr auto kHighest = std::numeric_limits<std::int32_t>::max();
+  EXPECT_EQ(OptionsAfterInitialize(1110, kHighest), kHighest);
+  EXPECT_EQ(OptionsAfterInitialize(1110, kHighest - 3), kHighest - 3);
+  EXPECT_EQ(OptionsAfterInitialize(1110, kHighest - 4), kHighest);
 }
 
 TEST_F(CKELDTestElementTest, The910RangeGetsAllLeadsAsABit) {
   EXPECT_EQ(OptionsAfterInitialize(910, 3), 4099);
+  EXPECT_EQ(OptionsAfterInitialize(965, 3), 4099);
   EXPECT_EQ(OptionsAfterInitialize(965, 4096), 4096);
   EXPECT_EQ(OptionsAfterInitialize(966, 3), 3);
   EXPECT_EQ(OptionsAfterInitialize(909, 3), 3);
@@ -81,6 +94,20 @@ TEST_F(CKELDTestElementTest, LoadingAResultAlwaysMakesANewOne) {
   EXPECT_NE(element->Result(), before);
   EXPECT_EQ(element->Result()->Status(), 1);
   EXPECT_EQ(element->Result()->Comment(), "");
+  EXPECT_EQ(orvik::As<CKELDResultData>(element->Result())->Owner(), element);
+}
+
+TEST_F(CKELDTestElementTest, LoadingAWholeElementReadsItsResultToo) {
+  const auto document = MKELDGlobalVars::XmlDocument();
+  ASSERT_TRUE(document->LoadFromString(
+      "<TestElement ID='3' TestID='410'><ResultItem><Status>2</Status></ResultItem></TestElement>"));
+  const auto element = MakeTest(210);
+  element->Load(document->Root(), nullptr);
+  EXPECT_EQ(element->ID(), 3);
+  EXPECT_EQ(element->TestID(), 410);
+  ASSERT_TRUE(orvik::As<CKELDResultData>(element->Result()));
+  EXPECT_EQ(Status(element), 2);
+  EXPECT_EQ(orvik::As<CKELDResultData>(element->Result())->Owner(), element);
 }
 
 TEST_F(CKELDTestElementTest, AnElementNodeKeepsTheResultThatIsThere) {
@@ -113,6 +140,7 @@ TEST_F(CKELDTestElementTest, ACloneSharesNothingAndOwnsWhatItHas) {
   EXPECT_EQ(clone->Limits()->Standards()->item(1)->Limit(1)->HighText(), "200");
   ASSERT_TRUE(clone->Result());
   EXPECT_EQ(clone->Result()->Comment(), "fine");
+  EXPECT_EQ(orvik::As<CKELDResultData>(clone->Result())->Owner(), clone);
 
   EXPECT_NE(clone->Configuration(), element->Configuration());
   EXPECT_NE(clone->Limits(), element->Limits());
@@ -124,6 +152,73 @@ TEST_F(CKELDTestElementTest, ACloneSharesNothingAndOwnsWhatItHas) {
   EXPECT_EQ(Configuration(element).Options(), 17);
   EXPECT_EQ(element->Limits()->Standards()->Count(), 1);
   EXPECT_EQ(element->Limits()->Owner(), element);
+}
+
+TEST_F(CKELDTestElementTest, TheRestIsTheBaseElementsAnswer) {
+  const auto element = MakeTest(410, 7);
+  const auto parent = MakeTest(210, 1);
+  EXPECT_FALSE(element->Parent());
+  element->SetParent(parent);
+  EXPECT_EQ(element->Parent(), parent);
+  EXPECT_EQ(Base(element).Parent(), parent);
+  EXPECT_EQ(element->Information(), Base(element).Information());
+  EXPECT_EQ(element->GetMeasurementList(), orvik::Variant(Texts{}));
+  const auto result = CKELDResultData::Create();
+  result->SetMeasurement(CKELDMeasurement::Create());
+  Base(element).SetResult(result);
+  EXPECT_EQ(element->Result(), result);
+  EXPECT_EQ(element->GetMeasurementList(), orvik::Variant(Texts{"::"}));
+  const auto document = MKELDGlobalVars::XmlDocument();
+  const auto root = document->CreateRoot("Elements");
+  const auto saved = element->Save(root);
+  ASSERT_TRUE(saved);
+  EXPECT_EQ(saved->Attribute("ID"), "7");
+  EXPECT_EQ(saved->Attribute("Class"), "orvikKELD.CKELDTestElement");
+  EXPECT_EQ(root->ChildCount(), 1);
+}
+
+TEST_F(CKELDTestElementTest, InitializeGivesTheLimitsTheirOwner) {
+  const auto element = CKELDTestElement::Create();
+  const auto limits = CKELDLimitData::Create();
+  element->BaseElement()->SetLimits(limits);
+  EXPECT_FALSE(limits->Owner());
+  element->Initialize("KELD(IN)", 1, 410);
+  EXPECT_EQ(limits->Owner(), element);
+}
+
+TEST_F(CKELDTestElementTest, ItsLimitsAreToldToUpdateTheirReferences) {
+  const auto element = MakeTest(410);
+  const auto limits = std::make_shared<support::RecordingLimits>();
+  Base(element).SetLimits(limits);
+  element->UpdateReferences();
+  EXPECT_EQ(limits->updatedBy, (std::vector<std::shared_ptr<orvik::IObject>>{element}));
+  Base(element).SetLimits(nullptr);
+  EXPECT_NO_THROW(element->UpdateReferences());
+}
+
+TEST_F(CKELDTestElementTest, TheBaseElementIsToldWhenItGoesAndNotBefore) {
+  const auto told = std::make_shared<int>(0);
+  support::RegisterWatchedElements(bench.Host(), told);
+  auto element = MakeTest(410);
+  element->Terminate();
+  EXPECT_EQ(*told, 0);
+  EXPECT_EQ(element->TestID(), 410);
+  element.reset();
+  EXPECT_EQ(*told, 1);
+}
+
+TEST_F(CKELDTestElementTest, AStepThatFailsDoesNotKeepTheNextFromRunning) {
+  support::RegisterFailingElements(bench.Host());
+  const auto element = CKELDTestElement::Create();
+  ASSERT_TRUE(element->BaseElement());
+  EXPECT_FALSE(element->Configuration());
+  ASSERT_TRUE(element->Limits());
+  EXPECT_EQ(element->Limits()->Owner(), element);
+  EXPECT_NO_THROW(element->SetID(5));
+  EXPECT_EQ(element->ID(), 0);
+  EXPECT_EQ(element->Info(), orvik::Variant(Texts{"::", ""}));
+  EXPECT_FALSE(element->Clone());
+  EXPECT_EQ(element->Filter(), orvik::Variant());
 }
 
 TEST_F(CKELDTestElementTest, ReportsShowItOnlyWhenTheHostSaysSo) {

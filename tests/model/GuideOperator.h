@@ -1,8 +1,10 @@
 #pragma once
 
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "OrvikTypeLib/As.h"
@@ -18,7 +20,8 @@ namespace support {
 /// Operates the windows of a run the way a person does: by their names and buttons.
 ///
 /// Guides get the commands of `guide`, one after the other, each as soon as the one before has done its work;
-/// then, if the guide is still there, "next". Prompts are answered by `abort` and written down.
+/// then, if the guide is still there, "next". A prompt that stands before the guide is answered first.
+/// Prompts are answered by `abort` and written down.
 class GuideOperator {
  public:
   static constexpr int kAbort = 101;
@@ -43,6 +46,16 @@ class GuideOperator {
   /// The guide that is open, or empty.
   std::shared_ptr<orvik::platform::IForm> Guide() const { return guideForm_.lock(); }
 
+  /// Whether the guide is on the screen, and no prompt before it.
+  bool AtGuide() const {
+    const auto form = Guide();
+    return form && form->Visible() && application_.ActiveForm() == form;
+  }
+  /// Whether the guide says that a test is running.
+  bool Running() const {
+    const auto toolbar = Toolbar();
+    return toolbar && toolbar->IsEnabled(kStop);
+  }
   /// Presses a button of the open guide; nothing without one.
   void Press(int command) const {
     if (const auto toolbar = Toolbar()) toolbar->Click(command);
@@ -68,6 +81,8 @@ class GuideOperator {
 
   void OperateGuide() {
     const auto form = Guide();
+    waiting_ = form && form->Visible() && !AtGuide();
+    if (waiting_) return;
     for (const int command : guide) Press(command);
     // Whatever came of it, a person leaves the guide in the end.
     if (form && form->Visible()) Press(kNext);
@@ -78,9 +93,12 @@ class GuideOperator {
   }
 
   void Click(const std::weak_ptr<orvik::platform::IForm>& form, const std::string& button) {
-    application_.Post([form, button] {
+    application_.Post([this, form, button] {
       if (const auto shown = form.lock())
         std::dynamic_pointer_cast<orvik::platform::IButton>(shown->Find(button))->Click();
+      // A person needs a moment to get back to the guide.
+      if (std::exchange(waiting_, false))
+        application_.CallAt(application_.Now() + std::chrono::milliseconds(1), [this] { OperateGuide(); });
     });
   }
 
@@ -93,6 +111,8 @@ class GuideOperator {
 
   bench::headless::Application& application_;
   std::weak_ptr<orvik::platform::IForm> guideForm_;
+  /// The buttons of the guide are still to be pressed, once the prompt is answered.
+  bool waiting_ = false;
   orvik::platform::Subscription shown_;
 };
 

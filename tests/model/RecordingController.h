@@ -1,10 +1,12 @@
 #pragma once
 
+#include <algorithm>
 #include <functional>
 #include <memory>
 #include <string>
 #include <vector>
 
+#include "OrvikTypeLib/HostError.h"
 #include "OrvikTypeLib/IRunController.h"
 #include "OrvikTypeLib/IStandardColl.h"
 #include "OrvikTypeLib/ITestElement.h"
@@ -23,24 +25,36 @@ class RecordingController final : public virtual orvik::IRunController {
   std::shared_ptr<orvik::IInstrumentColl> instruments = std::make_shared<bench::InstrumentColl>();
   /// "start 410", "finished 410", "navigate 0".
   std::vector<std::string> told;
+  /// Looks around at the moment in which something is told.
+  std::function<void(const std::string& what)> onTold;
+  /// Every notice and request breaks off with an error, after it was written down.
+  bool broken = false;
 
   std::size_t Count(const std::string& what) const {
     return static_cast<std::size_t>(std::count(told.begin(), told.end(), what));
   }
 
  private:
+  void Tell(const std::string& what) {
+    told.push_back(what);
+    if (onTold) onTold(what);
+    if (broken) throw orvik::HostError(orvik::HostError::kInvalidArgument, "test", "broken");
+  }
   bool IRunController_StartQuery(std::shared_ptr<orvik::ITestElement> iteElement) override {
     told.push_back("start " + std::to_string(iteElement->TestID()));
     return mayStart(iteElement);
   }
   void IRunController_NavigationRequest(std::int32_t lCode) override {
-    told.push_back("navigate " + std::to_string(lCode));
+    Tell("navigate " + std::to_string(lCode));
   }
   void IRunController_FinishedNotice(std::shared_ptr<orvik::ITestElement> iteElement) override {
-    told.push_back("finished " + std::to_string(iteElement->TestID()));
+    Tell("finished " + std::to_string(iteElement->TestID()));
   }
   std::shared_ptr<orvik::IStandardColl> IRunController_Standards() const override { return standards; }
-  std::shared_ptr<orvik::IInstrumentColl> IRunController_Instruments() const override { return instruments; }
+  std::shared_ptr<orvik::IInstrumentColl> IRunController_Instruments() const override {
+    if (broken) throw orvik::HostError(orvik::HostError::kInvalidArgument, "test", "broken");
+    return instruments;
+  }
 };
 
 }  // namespace support

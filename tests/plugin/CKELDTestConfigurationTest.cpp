@@ -7,7 +7,6 @@
 #include "OrvikTypeLib/IXmlDocument.h"
 #include "OrvikTypeLib/IXmlNode.h"
 #include "host/report/ReportObject.h"
-#include "host/report/TextReport.h"
 #include "model/CKELDSequence.h"
 #include "model/CKELDTestElement.h"
 #include "platform/Controls.h"
@@ -255,6 +254,15 @@ TEST_F(TestConfiguration, PrintsOnAReportThatDoesNotTellItsWidth) {
   EXPECT_EQ(report->calls[3], "<560|<9078;");
 }
 
+TEST_F(TestConfiguration, RaisesNothingOnAReportThatFails) {
+  const auto report = std::make_shared<recorders::Report>();
+  report->fails = true;
+  EXPECT_NO_THROW(CKELDTestConfiguration::Create()->PrintReport(report));
+  const std::vector<std::string> everyStep = {"border 0", "indent 0", "rows 1"};
+  ASSERT_GE(report->calls.size(), 3U);
+  EXPECT_EQ((std::vector<std::string>{report->calls.begin(), report->calls.begin() + 3}), everyStep);
+}
+
 TEST_F(TestConfiguration, PrintsOnAReportNarrowerThanItsMargin) {
   const auto report = std::make_shared<recorders::Report>();
   report->width = 100;
@@ -269,13 +277,15 @@ TEST_F(TestConfiguration, PrintsItsLinesOnTheHostsReport) {
   const auto report = std::make_shared<bench::ReportObject>();
   configuration->PrintReport(report);
   ASSERT_EQ(report->Tables().size(), 1U);
-  const std::string text = bench::TextReport(*report);
-  const auto heading = text.find("Configuration:");
-  const auto line = text.find("Lead number 10 tested.");
-  ASSERT_NE(heading, std::string::npos) << text;
-  ASSERT_NE(line, std::string::npos) << text;
-  EXPECT_LT(heading, line);
-  EXPECT_EQ(text.find("\\b"), std::string::npos) << "the heading is markup, not text\n" << text;
+  const auto& table = report->Tables().front();
+  ASSERT_EQ(table.header.size(), 1U);
+  ASSERT_EQ(table.header[0].size(), 2U);
+  using Cell = bench::report::Cell;
+  EXPECT_EQ(table.header[0][1], (Cell{{.text = "Configuration:", .bold = true, .italic = true}}));
+  ASSERT_EQ(table.rows.size(), 1U);
+  ASSERT_EQ(table.rows[0].size(), 2U);
+  EXPECT_EQ(bench::report::PlainText(table.rows[0][0]), "") << "the margin";
+  EXPECT_EQ(bench::report::PlainText(table.rows[0][1]), "Lead number 10 tested.      ");
 }
 
 TEST_F(TestConfiguration, EditsASingleTestInTheTestControl) {
@@ -326,6 +336,33 @@ TEST_F(TestConfiguration, ShowsTranslatedCaptionsAndChecksTheNodesWhoseBitsAreSe
   for (const auto& key : tree->NodeKeys()) {
     EXPECT_EQ(tree->Checked(key), key == "Skip key" || key == "All leads key") << key;
   }
+}
+
+TEST_F(TestConfiguration, TranslatesEveryTextForTheModuleKELD) {
+  bench_.Host().Register(orvik::HostClasses::kLanguageService,
+                         [] { return std::make_shared<recorders::LanguageService>(); });
+  const auto configuration = Owned<keld::CKELDTestElement>(910);
+  const auto printed = Printed(*configuration);
+  EXPECT_EQ(printed[4], "|{\\i\\b [KELD 20900]};");
+  EXPECT_EQ(printed[5], "|[KELD 20914]      ;");
+  const auto dialog = configuration->CreateDialog();
+  std::vector<std::string> captions;
+  for (const auto& key : Tree(dialog)->NodeKeys()) captions.push_back(Tree(dialog)->NodeCaption(key));
+  std::vector<std::string> expected = {"KELD 20784", "KELD 20773"};
+  for (int lead = 20774; lead <= 20783; ++lead) expected.push_back("KELD " + std::to_string(lead));
+  expected.push_back("KELD 20785");
+  EXPECT_EQ(captions, expected);
+}
+
+TEST_F(TestConfiguration, GivesADialogEvenWhenItsControlCannotBeMade) {
+  bench_.Host().Register("orvikKELD.XKELDSeqConfiguration", [] { return std::shared_ptr<orvik::IObject>(); });
+  const auto configuration = Owned<keld::CKELDSequence>(600);
+  configuration->SetValueFilter(4);
+  std::shared_ptr<orvik::IDialog> dialog;
+  EXPECT_NO_THROW(dialog = configuration->CreateDialog());
+  ASSERT_TRUE(dialog);
+  EXPECT_NO_THROW(dialog->Refresh());
+  EXPECT_EQ(configuration->ValueFilter(), 4);
 }
 
 TEST_F(TestConfiguration, SelectsTheValueFilterInTheSequencesList) {

@@ -31,13 +31,25 @@ class RecordingControl final : public virtual orvik::ICustomControl, public orvi
     calls.push_back(call);
     if (fails) throw orvik::HostError(5, "control", "no");
   }
-  std::shared_ptr<orvik::ICallBack> ICustomControl_CallBack() const override { return callBack_; }
+  void Answer() const {
+    if (fails) throw orvik::HostError(5, "control", "no");
+  }
+  std::shared_ptr<orvik::ICallBack> ICustomControl_CallBack() const override {
+    Answer();
+    return callBack_;
+  }
   void ICustomControl_SetCallBack(std::shared_ptr<orvik::ICallBack> CallBack) override {
     Note("CallBack");
     callBack_ = std::move(CallBack);
   }
-  orvik::WindowHandle ICustomControl_hWnd() const override { return site_.lock()->Handle(); }
-  bool ICustomControl_Locked() const override { return locked_; }
+  orvik::WindowHandle ICustomControl_hWnd() const override {
+    Answer();
+    return site_.lock()->Handle();
+  }
+  bool ICustomControl_Locked() const override {
+    Answer();
+    return locked_;
+  }
   void ICustomControl_SetLocked(bool fLocked) override {
     Note("Locked");
     locked_ = fLocked;
@@ -169,6 +181,18 @@ TEST_F(ElementSetup, IgnoresErrorsOfTheControl) {
   EXPECT_EQ(control_->calls.size(), 5U);
 }
 
+TEST_F(ElementSetup, AnswersWithNothingWhereTheControlFails) {
+  PlaceControl();
+  dialog_->SetCallBack(std::make_shared<recorders::CallBack>());
+  dialog_->SetLocked(true);
+  control_->fails = true;
+  EXPECT_FALSE(dialog_->CallBack());
+  EXPECT_FALSE(dialog_->Locked());
+  EXPECT_NO_THROW(dialog_->Dock(window_->Handle()));
+  EXPECT_FALSE(dialog_->IsDocked());
+  EXPECT_NO_THROW(dialog_->UnDock());
+}
+
 TEST_F(ElementSetup, DoesNothingWithoutAControl) {
   EXPECT_NO_THROW(dialog_->SetCallBack(std::make_shared<recorders::CallBack>()));
   EXPECT_FALSE(dialog_->CallBack());
@@ -276,6 +300,15 @@ TEST_F(ElementSetup, GivesTheControlBackBeforeTheFormIsUnloaded) {
   const auto subscription = form_->Unloading().Subscribe([&] { parentWhileUnloading = ParentOfControl(); });
   dialog_->Unload();
   EXPECT_EQ(parentWhileUnloading, form_->Handle());
+  EXPECT_FALSE(form_->Loaded());
+}
+
+TEST_F(ElementSetup, IsUnloadedEvenWhenTheControlDoesNotTellItsWindow) {
+  PlaceControl();
+  form_->Load();
+  dialog_->Dock(window_->Handle());
+  control_->fails = true;
+  EXPECT_NO_THROW(dialog_->Unload());
   EXPECT_FALSE(form_->Loaded());
 }
 

@@ -1,12 +1,15 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
 #include "OrvikTypeLib/HostError.h"
 #include "OrvikTypeLib/ICallBack.h"
+#include "OrvikTypeLib/ILanguageService.h"
 #include "OrvikTypeLib/IReport.h"
+#include "platform/IPanel.h"
 
 /// The host's side of some interfaces, which notes down what it is told.
 namespace recorders {
@@ -28,26 +31,43 @@ class Report final : public virtual orvik::IReport {
   std::vector<std::string> calls;
   std::int32_t width = 9638;
   bool knowsMetrics = true;
+  bool fails = false;  ///< nothing but the metric is answered
 
  private:
   std::int32_t IReport_Metric(std::int32_t lNumber) const override {
     if (!knowsMetrics || lNumber != 10) throw orvik::HostError(5, "report", "no such metric");
     return width;
   }
-  void IReport_SetTableBorder(std::int32_t lStyle) override {
-    calls.push_back("border " + std::to_string(lStyle));
+  void Note(const std::string& call) {
+    calls.push_back(call);
+    if (fails) throw orvik::HostError(5, "report", "no");
   }
-  void IReport_SetTableIndent(std::int32_t lTwips) override {
-    calls.push_back("indent " + std::to_string(lTwips));
-  }
-  void IReport_SetHeaderRows(std::int32_t lRows) override {
-    calls.push_back("rows " + std::to_string(lRows));
-  }
+  void IReport_SetTableBorder(std::int32_t lStyle) override { Note("border " + std::to_string(lStyle)); }
+  void IReport_SetTableIndent(std::int32_t lTwips) override { Note("indent " + std::to_string(lTwips)); }
+  void IReport_SetHeaderRows(std::int32_t lRows) override { Note("rows " + std::to_string(lRows)); }
   void IReport_AddTable(const std::string& sFormat, const std::string& sHeader,
                         const std::string& sRows) override {
     calls.insert(calls.end(), {sFormat, sHeader, sRows});
   }
   std::string IReport_Escape(const std::string& sText) const override { return "[" + sText + "]"; }
+};
+
+/// Answers every text with its module and number, so that a text which was never asked for shows.
+class LanguageService final : public virtual orvik::ILanguageService {
+ public:
+  /// Modules and first controls of what was handed over whole.
+  mutable std::vector<std::string> translated;
+
+ private:
+  std::string ILanguageService_Translate(const std::string& sText, const std::string& sModule,
+                                         const std::vector<std::string>&) const override {
+    return sModule + " " + sText.substr(0, sText.find("::"));
+  }
+  void ILanguageService_TranslateControls(const std::string& sModule,
+                                          std::shared_ptr<orvik::platform::IPanel> Controls) const override {
+    const auto inside = Controls->Controls();
+    translated.push_back(sModule + (inside.empty() ? "" : " " + inside.front()->Name()));
+  }
 };
 
 }  // namespace recorders

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "OrvikTypeLib/HostClasses.h"
 #include "model/CKELDSequence.h"
 #include "plugin/XKELDSeqConfiguration.h"
 #include "tests/plugin/ConfigurationDialog.h"
@@ -23,6 +24,14 @@ TEST_F(SequenceConfigurationControl, ShowsTheFourFiltersInOrder) {
   EXPECT_EQ(open.control->GetControl("lblAssign")->Caption(), "Values of the tests in the group:");
   EXPECT_EQ(open.control->GetControl("lblGeneralSettings")->Caption(), "General settings:");
   EXPECT_EQ(open.control->GetControl("cmbAssign"), open.site->Panel()->Find("cmbAssign"));
+}
+
+TEST_F(SequenceConfigurationControl, TranslatesItsTextsForTheModuleKELD) {
+  const auto service = std::make_shared<recorders::LanguageService>();
+  bench_.Host().Register(orvik::HostClasses::kLanguageService, [service] { return service; });
+  Dialog open(600);
+  EXPECT_EQ(open.list->Items(), (Texts{"KELD 20702", "KELD 20703", "KELD 20704", "KELD 20705"}));
+  EXPECT_EQ(service->translated, (Texts{"KELD", "KELD lblGeneralSettings"})) << "the form, then the control";
 }
 
 TEST_F(SequenceConfigurationControl, KeepsTheFilterThatIsChosen) {

@@ -2,12 +2,14 @@
 
 #include <random>
 
+#include "OrvikTypeLib/HostClasses.h"
 #include "OrvikTypeLib/HostError.h"
 #include "model/CKELDTestElement.h"
 #include "plugin/XKELDTestConfiguration.h"
 #include "tests/plugin/ConfigurationDialog.h"
 #include "tests/plugin/Recorders.h"
 #include "tests/support/HostOnly.h"
+#include "tests/support/Seed.h"
 
 namespace {
 
@@ -46,6 +48,14 @@ TEST_F(TestConfigurationControl, ShowsTranslatedCaptions) {
   const std::string caption = open.control->GetControl("lblGeneralSettings")->Caption();
   EXPECT_EQ(caption, "General settings:");
   EXPECT_EQ(open.form->Caption(), "KELD Safety Tester");
+}
+
+TEST_F(TestConfigurationControl, HandsItsControlsToTheLanguageServiceForTheModuleKELD) {
+  const auto service = std::make_shared<recorders::LanguageService>();
+  bench_.Host().Register(orvik::HostClasses::kLanguageService, [service] { return service; });
+  Dialog open(910);
+  EXPECT_EQ(service->translated, (Notices{"KELD", "KELD lblGeneralSettings"}))
+      << "the form, then the control";
 }
 
 TEST_F(TestConfigurationControl, SetsAndClearsTheButtonBits) {
@@ -171,7 +181,7 @@ TEST_F(TestConfigurationControl, TakesTheLastOfSeveralCheckedLeadsAsTheOneBefore
 }
 
 TEST_F(TestConfigurationControl, ShowsWhatIsKeptAfterAnyClicks) {
-  const auto seed = std::random_device{}();
+  const auto seed = support::Seed();
   std::mt19937 random(seed);
   Dialog open(910, 0);
   const auto keys = open.tree->NodeKeys();
@@ -255,6 +265,20 @@ TEST_F(TestConfigurationControl, StretchesTheTreeToItsSize) {
   open.form->Resize({inner.width + 1500, inner.height + 3000});
   EXPECT_EQ(open.tree->Bounds().width, before.width + 1500);
   EXPECT_EQ(open.tree->Bounds().height, before.height + 3000);
+}
+
+TEST_F(TestConfigurationControl, StretchesTheTreeInTheHostsWindowToo) {
+  Dialog open(910);
+  const auto window = bench_.Application().CreateForm("HostWindow");
+  window->Show();
+  open.dialog->Dock(window->Handle());
+  open.dialog->Move(0, 0, 6000, 5000);
+  const auto before = open.tree->Bounds();
+  open.dialog->Move(150, 300, 7500, 8000);
+  EXPECT_EQ(open.tree->Bounds().width, before.width + 1500);
+  EXPECT_EQ(open.tree->Bounds().height, before.height + 3000);
+  open.tree->ClickNode("Lead 2 key");
+  EXPECT_EQ(open.configuration->Options(), 3 | 8);
 }
 
 }  // namespace

@@ -1,6 +1,5 @@
 #include "OrvikTypeLib/IDialog.h"
 #include "OrvikTypeLib/IDialogForm.h"
-#include "OrvikTypeLib/ILimitView.h"
 #include "platform/IUserControl.h"
 #include "results/CKELDLimitData.h"
 #include "tests/results/Tools.h"
@@ -264,60 +263,9 @@ TEST_F(CKELDLimitDataTest, DialogEditsTheLimitsInTheHostsControl) {
   const auto form = orvik::As<orvik::IDialogForm>(dialog)->Form();
   const auto site = orvik::As<orvik::platform::IContainerSite>(form->Find("isc"));
   ASSERT_TRUE(site);
-  EXPECT_TRUE(orvik::As<orvik::ILimitView>(site->Object()));
+  ASSERT_TRUE(site->Object());
+  EXPECT_EQ(orvik::As<orvik::IObject>(site->Object())->ClassID(), "orvikView.XLimitView");
   dialog->Unload();
-}
-
-namespace probe {
-
-/// Stands in for the host's limit view, to hear the four values.
-class LimitView final : public virtual orvik::ILimitView, public orvik::platform::IUserControl {
- public:
-  Names told;
-  std::shared_ptr<orvik::IObject> data;
-
-  void AttachTo(const std::shared_ptr<orvik::platform::IContainerSite>&) override {}
-
- private:
-  std::shared_ptr<orvik::ICallBack> ICustomControl_CallBack() const override { return {}; }
-  void ICustomControl_SetCallBack(std::shared_ptr<orvik::ICallBack>) override {}
-  orvik::WindowHandle ICustomControl_hWnd() const override { return 0; }
-  bool ICustomControl_Locked() const override { return false; }
-  void ICustomControl_SetLocked(bool) override {}
-  bool ICustomControl_Visible() const override { return true; }
-  void ICustomControl_SetVisible(bool) override {}
-  void ICustomControl_Initialize(std::shared_ptr<orvik::IObject> given, const orvik::Variant&,
-                                 const orvik::Variant&, const orvik::Variant&) override {
-    data = std::move(given);
-  }
-  void ICustomControl_Refresh() override {}
-  void ICustomControl_SetFocus() override {}
-  void ILimitView_InitializeView(const std::string& key, const std::string& caption, const std::string& unit,
-                                 const std::string& allowed) override {
-    told = {key, caption, unit, allowed};
-  }
-};
-
-}  // namespace probe
-
-TEST_F(CKELDLimitDataTest, DialogTellsTheControlKeyCaptionAndUnits) {
-  const auto view = std::make_shared<probe::LimitView>();
-  host_.Application().SetControlFactory(
-      [&](const std::string& id) -> std::shared_ptr<orvik::platform::IUserControl> {
-        return id == orvik::HostClasses::kLimitView ? view : nullptr;
-      });
-  const auto element = Test(1);
-  element->SetExpectedUnits("V");
-  const auto dialog = element->Limits()->CreateDialog();
-  EXPECT_EQ(view->told, (Names{"NO LIMIT KEY", "KELD test", "V", "V;%"}));
-  EXPECT_EQ(view->data, element->Limits());
-}
-
-TEST_F(CKELDLimitDataTest, DialogPassesErrorsOn) {
-  EXPECT_THROW(CKELDLimitData::Create()->CreateDialog(), orvik::HostError);
-  const auto element = Test(1);
-  host_.Application().SetControlFactory([](const std::string&) { return nullptr; });
-  EXPECT_THROW(element->Limits()->CreateDialog(), orvik::HostError);
 }
 
 }  // namespace

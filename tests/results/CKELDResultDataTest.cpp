@@ -2,6 +2,7 @@
 #include "OrvikTypeLib/IDialogForm.h"
 #include "OrvikTypeLib/IServiceRecord.h"
 #include "results/CKELDResultData.h"
+#include "tests/results/ServiceRecordProbe.h"
 #include "tests/results/Tools.h"
 
 namespace {
@@ -116,6 +117,19 @@ TEST_F(CKELDResultDataTest, FailureToBuildLeavesNoEarlierSummary) {
   EXPECT_FALSE(result->ServiceRecord());
 }
 
+TEST_F(CKELDResultDataTest, ServiceRecordIsMadeFromInformationCodeAndValue) {
+  const auto record = std::make_shared<results::ServiceRecordProbe>();
+  host_.Host().Register(orvik::HostClasses::kServiceRecord, [&] { return record; });
+  const auto element = Test(1);
+  SetFilter(*element, 0);
+  const auto result = GiveResult(*element, 2);
+  result->SetMeasurement(Measurement(5.3));
+  result->BuildServiceRecord(element);
+  EXPECT_EQ(result->ServiceRecord(), record);
+  EXPECT_EQ(record->about, element->Information());
+  EXPECT_EQ(record->told, (std::vector<std::string>{"F", "/5.3"}));
+}
+
 // --- reset ---
 
 TEST_F(CKELDResultDataTest, ResetForgetsMeasurementAndSummary) {
@@ -166,6 +180,24 @@ TEST_F(CKELDResultDataTest, ResetReachesEveryDescendant) {
   EXPECT_FALSE(outer->item(4)->Result());
 }
 
+TEST_F(CKELDResultDataTest, ResetGivesEveryDescendantTheSameStatusAndItsOwnSummary) {
+  const auto leaf = Measured(4, 5.3);
+  const auto inner = Sequence(3, {leaf});
+  GiveResult(*inner, 1);
+  inner->Information()->SetDisplayName("Inner");
+  const auto outer = Sequence(1, {inner});
+  GiveResult(*outer, 1)->Reset(outer, 3);
+  for (const auto& [element, name] :
+       std::vector<std::pair<std::shared_ptr<orvik::ITestElement>, std::string>>{{inner, "Inner"},
+                                                                                 {leaf, "Test 4"}}) {
+    EXPECT_EQ(element->Result()->Status(), 3) << name;
+    EXPECT_EQ(element->Result()->MeasurementCount(), 0) << name;
+    ASSERT_TRUE(element->Result()->ServiceRecord()) << name;
+    EXPECT_EQ(element->Result()->ServiceRecord()->Code(), "NA") << name;
+    EXPECT_EQ(element->Result()->ServiceRecord()->Name(), name);
+  }
+}
+
 TEST_F(CKELDResultDataTest, ResetSurvivesTenThousandLevels) {
   std::vector<std::shared_ptr<keld::CKELDSequence>> chain{Sequence(1, {})};
   for (std::int32_t level = 2; level <= 10'000; ++level) {
@@ -176,110 +208,6 @@ TEST_F(CKELDResultDataTest, ResetSurvivesTenThousandLevels) {
   }
   GiveResult(*chain.front(), 1)->Reset(chain.front(), 0);
   EXPECT_EQ(chain.back()->Result()->Status(), 0);
-}
-
-// --- save and load ---
-
-TEST_F(CKELDResultDataTest, SavesTheChildrenInTheirOrder) {
-  const auto element = Test(1);
-  const auto result = GiveResult(*element, 1);
-  result->SetMTIIdentifier(3);
-  result->SetComment("worn lead");
-  result->SetMeasurement(Measurement(5.3));
-  result->BuildServiceRecord(element);
-  const auto parent = Node();
-  const auto saved = result->Save(parent);
-  EXPECT_EQ(saved->Name(), "ResultItem");
-  EXPECT_EQ(ChildNames(*parent), (std::vector<std::string>{"ResultItem"}));
-  EXPECT_EQ(saved->Attribute("MTI"), "3");
-  EXPECT_EQ(ChildNames(*saved),
-            (std::vector<std::string>{"Status", "ServiceRecord", "Comment", "Measurement"}));
-  EXPECT_EQ(saved->FindChild("Status")->Text(), "1");
-  EXPECT_FALSE(saved->FindChild("Status")->HasAttribute("Name"));
-  EXPECT_EQ(saved->FindChild("Comment")->Text(), "worn lead");
-}
-
-TEST_F(CKELDResultDataTest, SavesNothingThatIsNotThere) {
-  const auto saved = CKELDResultData::Create()->Save(Node());
-  EXPECT_FALSE(saved->HasAttribute("MTI"));
-  EXPECT_EQ(ChildNames(*saved), (std::vector<std::string>{"Status"}));
-}
-
-TEST_F(CKELDResultDataTest, NegativeIdentifierIsNotSaved) {
-  const auto result = CKELDResultData::Create();
-  result->SetMTIIdentifier(-4);
-  EXPECT_FALSE(result->Save(Node())->HasAttribute("MTI"));
-}
-
-TEST_F(CKELDResultDataTest, SavingWithoutAParentIsAnError) {
-  EXPECT_THROW(CKELDResultData::Create()->Save(nullptr), orvik::HostError);
-}
-
-TEST_F(CKELDResultDataTest, LoadsWhatWasSaved) {
-  const auto element = Test(1);
-  SetFilter(*element, 2);
-  const auto result = GiveResult(*element, 2);
-  result->SetMTIIdentifier(12);
-  result->SetComment("<&>\" Ω");
-  result->SetMeasurement(Measurement(5.3, "mOhm", "O"));
-  result->BuildServiceRecord(element);
-
-  const auto loaded = CKELDResultData::Create();
-  loaded->Load(result->Save(Node()), nullptr);
-  EXPECT_EQ(loaded->Status(), 2);
-  EXPECT_EQ(loaded->MTIID(), 12);
-  EXPECT_EQ(loaded->Comment(), "<&>\" Ω");
-  ASSERT_TRUE(loaded->Measurement(1));
-  EXPECT_EQ(loaded->Measurement(1)->value(), orvik::Variant(5.3));
-  EXPECT_EQ(loaded->Measurement(1)->Unit(), "mOhm");
-  EXPECT_EQ(loaded->Measurement(1)->Flags(), "O");
-  ASSERT_TRUE(loaded->ServiceRecord());
-  EXPECT_EQ(loaded->ServiceRecord()->Code(), "F");
-  EXPECT_EQ(loaded->ServiceRecord()->Value(), "/ 5.3");
-  EXPECT_EQ(loaded->ServiceRecord()->Name(), "Test 1");
-}
-
-TEST_F(CKELDResultDataTest, LoadWithoutChildrenKeepsEverything) {
-  const auto result = CKELDResultData::Create();
-  result->SetStatus(2);
-  result->SetMTIIdentifier(5);
-  result->SetComment("kept");
-  result->SetMeasurement(Measurement(1.0));
-  result->Load(Parsed("<ResultItem><Other>1</Other></ResultItem>"), nullptr);
-  EXPECT_EQ(result->Status(), 2);
-  EXPECT_EQ(result->MTIID(), 5);
-  EXPECT_EQ(result->Comment(), "kept");
-  EXPECT_EQ(result->MeasurementCount(), 1);
-}
-
-TEST_F(CKELDResultDataTest, LoadRoundsTheIdentifier) {
-  const auto loaded = [&](const std::string& identifier) {
-    const auto result = CKELDResultData::Create();
-    result->SetMTIIdentifier(9);
-    result->Load(Parsed("<ResultItem MTI=\"" + identifier + "\"/>"), nullptr);
-    return result->MTIID();
-  };
-  EXPECT_EQ(loaded("3"), 3);
-  EXPECT_EQ(loaded("3.6"), 4);
-  EXPECT_EQ(loaded("2.5"), 2);
-  EXPECT_EQ(loaded(" 7 of 9"), 7);
-  EXPECT_EQ(loaded("none"), 0);
-  EXPECT_EQ(loaded(""), 9);
-}
-
-TEST_F(CKELDResultDataTest, LoadTagsAreMatchedToTheLetter) {
-  const auto result = CKELDResultData::Create();
-  result->Load(Parsed("<ResultItem><status>1</status><comment>x</comment></ResultItem>"), nullptr);
-  EXPECT_EQ(result->Status(), 0);
-  EXPECT_EQ(result->Comment(), "");
-}
-
-TEST_F(CKELDResultDataTest, LoadPassesTheHostsErrorOn) {
-  const auto result = CKELDResultData::Create();
-  EXPECT_THROW(result->Load(Parsed("<ResultItem><Status>passed</Status></ResultItem>"), nullptr),
-               orvik::HostError);
-  EXPECT_EQ(result->Status(), 0);
-  EXPECT_THROW(result->Load(nullptr, nullptr), orvik::HostError);
 }
 
 // --- report ---

@@ -1,5 +1,6 @@
 #include "platform/Controls.h"
 #include "results/XDetailedResult.h"
+#include "tests/results/ContainerProbe.h"
 #include "tests/results/Tools.h"
 
 namespace {
@@ -77,6 +78,27 @@ TEST_F(XDetailedResultTest, ReadingVisibleFailsWithTheContainersError) {
     EXPECT_EQ(error.Number(), 438);
     EXPECT_NE(error.Description().find("Visbible"), std::string::npos);
   }
+}
+
+TEST_F(XDetailedResultTest, VisibleIsWhatTheContainerSaysUnderTheMisspeltName) {
+  const auto form = host_.Application().CreateForm("Other");
+  const auto container = std::make_shared<results::ContainerProbe>(form);
+  const auto control = keld::XDetailedResult::Create();
+  control->AttachTo(container);
+  orvik::ICustomControl& view = *control;
+  container->properties["Visible"] = true;
+  for (const auto& [property, visible] : std::vector<std::pair<results::ContainerProbe::Value, bool>>{
+           {false, false}, {true, true}, {0, false}, {-1, true}}) {
+    container->properties["Visbible"] = property;
+    EXPECT_EQ(view.Visible(), visible);
+  }
+  EXPECT_EQ(container->asked, std::vector<std::string>(4, "Visbible"));
+  container->properties["Visbible"] = std::string("shown");
+  EXPECT_THROW(view.Visible(), orvik::HostError);
+
+  view.SetVisible(false);
+  EXPECT_EQ(container->properties.at("Visible"), results::ContainerProbe::Value(false));
+  EXPECT_EQ(container->properties.at("Visbible"), results::ContainerProbe::Value(std::string("shown")));
 }
 
 TEST_F(XDetailedResultTest, SettingVisibleWritesVisible) {

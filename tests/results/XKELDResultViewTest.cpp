@@ -1,9 +1,37 @@
+#include <array>
+#include <utility>
+
+#include "OrvikTypeLib/IMeasurement.h"
 #include "results/XKELDResultView.h"
 #include "tests/results/Tools.h"
 
 namespace {
 
 using orvik::platform::Alignment;
+
+/// A measurement that says of itself what no instrument's does.
+class OtherMeasurement final : public virtual orvik::IMeasurement {
+ public:
+  std::string key = "NO LIMIT KEY";
+  std::string format = "0";
+
+ private:
+  std::string IMeasurement_Description() const override { return {}; }
+  std::string IMeasurement_Key() const override { return {}; }
+  std::string IMeasurement_LimitKey() const override { return key; }
+  std::int32_t IMeasurement_Status() const override { return 1; }
+  std::string IMeasurement_Unit() const override { return "V"; }
+  orvik::Variant IMeasurement_value() const override { return 5.25; }
+  orvik::Variant IMeasurement_PresetValue() const override { return {}; }
+  std::int32_t IMeasurement_ValueType() const override { return 2; }
+  std::string IMeasurement_ValueFormat() const override { return format; }
+  std::string IMeasurement_Flags() const override { return {}; }
+  std::string IMeasurement_ToolTipText() const override { return {}; }
+  void IMeasurement_Load(std::shared_ptr<orvik::IXmlNode>) override {}
+  std::shared_ptr<orvik::IXmlNode> IMeasurement_Save(std::shared_ptr<orvik::IXmlNode>) const override {
+    return {};
+  }
+};
 
 class XKELDResultViewTest : public results::ResultsTest {
  protected:
@@ -104,6 +132,34 @@ TEST_F(XKELDResultViewTest, SecondResultReplacesTheValueInTheSameRow) {
   EXPECT_EQ(std::any_cast<std::shared_ptr<orvik::IMeasurement>>(list_->Cell("12::", "VAL").tag), first);
 }
 
+TEST_F(XKELDResultViewTest, SecondResultLeavesNameAndLimitsAsTheyStand) {
+  view_->SelectStandard("A", "A text");
+  const auto element = WithLimits(12, "2", "10");
+  view_->ShowResult(element);
+  element->Information()->SetDisplayName("Another");
+  element->Limits()->Standards()->item(1)->Limit(1)->SetBounds("3", "8");
+  view_->ShowResult(element);
+  EXPECT_EQ(Text("12::", "NAM"), "Test 12");
+  EXPECT_EQ(Text("12::", "HIL"), "10 mA");
+  EXPECT_EQ(Text("12::", "LOL"), "2 mA");
+}
+
+TEST_F(XKELDResultViewTest, ResultIsScrolledIntoViewAndPainted) {
+  for (std::int32_t id = 1; id <= 100; ++id) {
+    const int painted = list_->RefreshCount();
+    view_->ShowResult(Measured(id, 5.0));
+    EXPECT_EQ(list_->RefreshCount(), painted + 1);
+  }
+  // The topmost row that is shown, told by a click on it.
+  const auto topRow = [&] {
+    list_->ClickAt({1, 0, 100, 300});
+    return list_->SelectedRow();
+  };
+  EXPECT_NE(topRow(), "1::") << "the last row is out of sight";
+  view_->ShowResult(Measured(1, 6.0));
+  EXPECT_EQ(topRow(), "1::");
+}
+
 TEST_F(XKELDResultViewTest, OverloadIsShownInsteadOfTheValue) {
   const auto element = Test(12);
   const auto result = GiveResult(*element, 1);
@@ -195,6 +251,24 @@ TEST_F(XKELDResultViewTest, TightestOfSeveralLimitsIsShown) {
   view_->ShowResult(element);
   EXPECT_EQ(Text("12::", "HIL"), "8 mA");
   EXPECT_EQ(Text("12::", "LOL"), "3 mA");
+}
+
+TEST_F(XKELDResultViewTest, KeyFormatAndUnitAreTheMeasurements) {
+  const auto measurement = std::make_shared<OtherMeasurement>();
+  measurement->format = "";
+  const auto element = WithLimits(12, "2", "10");
+  GiveResult(*element, 1)->SetMeasurement(measurement);
+  element->Limits()->Standards()->item(1)->AddLimit(Limit("", "4", ""));
+  view_->SelectStandard("A", "A text");
+  view_->ShowResult(element);
+  EXPECT_EQ(Text("12::", "VAL"), "5.25  V");
+  EXPECT_EQ(Text("12::", "HIL"), "10 V");
+  EXPECT_EQ(Text("12::", "LOL"), "2 V");
+  // Without a key there is no limit, not even one without a key.
+  measurement->key = "";
+  view_->SelectStandard("A", "A text");
+  EXPECT_EQ(Text("12::", "HIL"), " ");
+  EXPECT_EQ(Text("12::", "LOL"), " ");
 }
 
 TEST_F(XKELDResultViewTest, BoundsAreRoundedToWholeNumbers) {

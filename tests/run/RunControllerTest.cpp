@@ -122,6 +122,55 @@ TEST_F(RunControllerTest, ADocumentThatCannotBeSavedEndsTheRun) {
   EXPECT_FALSE(second->Result());
 }
 
+TEST_F(RunControllerTest, AResultThatChangesWhileTheSessionIsClosedDoesNotCount) {
+  // The tester's last word of the session makes the test "not applicable", passed or failed as it was.
+  bench_.Line().AnswerBy([this](const std::string& command) {
+    if (command == "IREM") return bench_.Line().Reply("irem,KELD(IN),1,1");
+    if (command == "STST,210,0") return bench_.Line().Reply("ERRM,6002");
+    if (command == "EREM") return bench_.Line().Reply("erem");
+    if (command.starts_with("STST")) return bench_.Line().Reply("stst" + command.substr(4));
+    bench_.Line().Reply("gres" + command.substr(4) + ",0.1,0,Ohm");
+  });
+  const auto element = Element(410, 1);
+  Run({element});
+  EXPECT_NE(Summary(element).Verdict(), "passed");
+  EXPECT_NE(Summary(element).Verdict(), "not applicable");
+}
+
+TEST_F(RunControllerTest, ATestThatIsLackingOnlyWhenItsResultIsAskedForDoesNotCount) {
+  bench_.Line().AnswerBy([this](const std::string& command) {
+    if (command == "IREM") return bench_.Line().Reply("irem,KELD(IN),1,1");
+    if (command.starts_with("GRES")) return bench_.Line().Reply("ERRM,+6002.0");
+    if (command.starts_with("STST")) return bench_.Line().Reply("stst" + command.substr(4));
+    bench_.Line().Reply("erem");
+  });
+  const auto element = Element(410, 1);
+  Run({element});
+  EXPECT_EQ(Summary(element).status, 3);
+  EXPECT_EQ(Summary(element).Verdict(), "doubtful");
+}
+
+TEST_F(RunControllerTest, ASequenceDoesNotCountWhenATestOfItDoesNot) {
+  for (const auto* reply : {"ERRM,77", "gres,410,0,0.1,1,Ohm"}) {
+    const auto sequence = Element(400, 1);
+    const auto children = orvik::As<orvik::ITestContainer>(sequence);
+    for (std::int32_t i = 1; i <= children->Count(); ++i) children->item(i)->SetID(1 + i);
+    ASSERT_EQ(children->Count(), 2);
+    bench_.Line().AnswerBy([this, reply](const std::string& command) {
+      if (command == "IREM") return bench_.Line().Reply("irem,KELD(IN),1,1");
+      if (command == "GRES,410,0") return bench_.Line().Reply(reply);
+      if (command == "EREM") return bench_.Line().Reply("erem");
+      if (command.starts_with("STST")) return bench_.Line().Reply("stst" + command.substr(4));
+      bench_.Line().Reply("gres" + command.substr(4) + ",0.1,0,Ohm");
+    });
+    Run({sequence});
+    EXPECT_EQ(Summary(children->item(2)).Verdict(), "passed");
+    EXPECT_NE(Summary(children->item(1)).Verdict(), "passed") << reply;
+    EXPECT_EQ(Summary(sequence).status, 1) << "one test that passed makes a sequence pass";
+    EXPECT_EQ(Summary(sequence).Verdict(), "doubtful") << reply;
+  }
+}
+
 TEST_F(RunControllerTest, RefusesNavigationThatIsNotThere) {
   orvik::IRunController& controller = *controller_;
   EXPECT_THROW(controller.NavigationRequest(5), orvik::HostError);

@@ -38,8 +38,8 @@ TEST(Latin1, RefusesWhatIsNoUtf8) {
 }
 
 TEST(Latin1, VisibleTextHidesNoByte) {
-  EXPECT_EQ(VisibleText("a\r\n\x7F\\b\xB5"), "a\\x0D\\x0A\\x7F\\\\b\u00B5");
-  EXPECT_EQ(VisibleText(std::string_view("\0x", 2)), "\\x00x");
+  EXPECT_EQ(VisibleLatin1("a\r\n\x7F\\b\xB5"), "a\\x0D\\x0A\\x7F\\\\b\u00B5");
+  EXPECT_EQ(VisibleLatin1(std::string_view("\0x", 2)), "\\x00x");
 }
 
 }  // namespace

@@ -116,9 +116,9 @@ TEST(Message, AnythingComposedIsParsedBack) {
     }
     const auto sent = ComposeMessage("CMD", parameters);
     const auto received = ParseMessage(sent->Line());
-    ASSERT_TRUE(received) << VisibleText(sent->Line());
+    ASSERT_TRUE(received) << VisibleLatin1(sent->Line());
     EXPECT_EQ(received->Mnemonic(), "CMD");
-    EXPECT_EQ(received->Parameters(), parameters) << VisibleText(sent->Line());
+    EXPECT_EQ(received->Parameters(), parameters) << VisibleLatin1(sent->Line());
   }
 }
 

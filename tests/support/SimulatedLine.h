@@ -26,7 +26,10 @@ class SimulatedLine {
   }
   SimulatedLine(const SimulatedLine&) = delete;
   SimulatedLine& operator=(const SimulatedLine&) = delete;
-  ~SimulatedLine() { loop_->Forget(call_); }
+  ~SimulatedLine() {
+    loop_->Forget(call_);
+    loop_->Forget(back_);
+  }
 
   const std::shared_ptr<bench::MemoryLine>& Line() const { return line_; }
   sim::Tester& Tester() { return tester_; }
@@ -67,6 +70,8 @@ class SimulatedLine {
     while (const auto output = tester_.TakeDue(loop_->Now())) {
       if (!output->bytes.empty()) line_->Deliver(output->bytes);
       if (output->hangUp) line_->Unplug();
+      if (output->backAfter)
+        back_ = loop_->CallAt(loop_->Now() + *output->backAfter, [this] { tester_.PlugIn(); });
     }
     Schedule();
   }
@@ -77,6 +82,7 @@ class SimulatedLine {
   Script script_;
   bench::LineReader reader_;
   bench::ILoop::Id call_ = 0;
+  bench::ILoop::Id back_ = 0;
   orvik::platform::Subscription heard_;
 };
 

@@ -23,7 +23,8 @@ class WireLines {
  public:
   explicit WireLines(bench::Wire& wire)
       : watch_(wire.Subscribe([this](const bench::WireRecord& record) {
-          lines_.push_back({record.time, record.kind, bench::VisibleText(record.text), record.replyWaiting});
+          lines_.push_back(
+              {record.time, record.kind, bench::VisibleLatin1(record.text), record.replyWaiting});
         })) {}
 
   const std::vector<WireLine>& All() const { return lines_; }

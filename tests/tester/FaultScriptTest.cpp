@@ -93,6 +93,73 @@ TEST_F(FaultScriptTest, TruncateLosesTheLineEndToo) {
   EXPECT_EQ(Ask(tester_, "IREM\r\n"), "irem,KELD(IN),SIM-0001,3.10");
 }
 
+TEST_F(FaultScriptTest, ShortenKeepsTheLineEnd) {
+  Use("at IREM 1 shorten 6\nat IREM 2 shorten 0");
+  EXPECT_EQ(Ask(tester_, "IREM\r\n"), "irem,K\r\n");
+  EXPECT_EQ(Ask(tester_, "IREM\r\n"), "\r\n");
+}
+
+TEST_F(FaultScriptTest, StallGoesOnLaterOrNever) {
+  Use("at IREM 1 stall 6 700\nat IREM 2 stall 4");
+  tester_.Receive("IREM\r\n", Instant(0));
+  EXPECT_EQ(tester_.TakeDue(Instant(0))->bytes, "irem,K");
+  EXPECT_EQ(tester_.NextDue(), std::chrono::milliseconds(700));
+  EXPECT_EQ(tester_.TakeDue(std::chrono::milliseconds(700))->bytes, "ELD(IN),SIM-0001,3.10\r\n");
+  EXPECT_EQ(Ask(tester_, "IREM\r\n"), "irem");
+}
+
+TEST_F(FaultScriptTest, AStallBeyondTheLineHoldsItsEndBack) {
+  Use("at STST stall 1000 700");
+  tester_.Receive("IREM\r\nSTST,410,0\r\n", Instant(0));
+  ASSERT_TRUE(tester_.TakeDue(Instant(0)));
+  EXPECT_EQ(tester_.TakeDue(Instant(0))->bytes, "stst,410,0");
+  EXPECT_EQ(tester_.TakeDue(std::chrono::milliseconds(700))->bytes, "\r\n");
+}
+
+TEST_F(FaultScriptTest, NoiseComesBeforeTheReplyOrLongAfterIt) {
+  Use("at IREM 1 noise\nat IREM 2 noise 900");
+  LineReader reader;
+  std::string good, dropped;
+  const auto read = [&](const std::string& bytes) {
+    reader.Feed(
+        bytes, [&](std::string_view line) { good += std::string(line) + ";"; },
+        [&](std::string_view line) { dropped += std::string(line) + ";"; });
+  };
+  read(Ask(tester_, "IREM\r\n"));
+  EXPECT_EQ(good, "irem,KELD(IN),SIM-0001,3.10;") << "the reply itself is whole";
+  EXPECT_FALSE(dropped.empty());
+  tester_.Receive("IREM\r\n", Instant(0));
+  EXPECT_EQ(tester_.TakeDue(Instant(0))->bytes, kIrem);
+  EXPECT_EQ(tester_.NextDue(), std::chrono::milliseconds(900));
+}
+
+TEST_F(FaultScriptTest, ForgetLeavesRemoteModeAfterTheReply) {
+  Use("at STST 1 forget");
+  EXPECT_EQ(Ask(tester_, "IREM\r\nSTST,410,0\r\nGRES,410,0\r\n"),
+            std::string(kIrem) + "stst,410,0\r\nERRM,1003\r\n");
+  EXPECT_FALSE(tester_.InRemoteMode());
+}
+
+TEST_F(FaultScriptTest, UnplugIsAHangUpThatEndsAndKeepsTheSession) {
+  Use("at STST 1 unplug 1500");
+  tester_.Receive("IREM\r\nSTST,410,0\r\nSTST,41", Instant(0));
+  ASSERT_TRUE(tester_.TakeDue(Instant(0)));
+  const auto pulled = tester_.TakeDue(Instant(0));
+  ASSERT_TRUE(pulled && pulled->hangUp);
+  EXPECT_EQ(pulled->backAfter, std::chrono::milliseconds(1500));
+  EXPECT_EQ(Ask(tester_, "GRES,410,0\r\n"), "");
+  tester_.PlugIn();
+  EXPECT_EQ(Ask(tester_, "GRES,410,0\r\n"), "gres,410,0,0.123,0,Ohm\r\n") << "what had begun is forgotten";
+}
+
+TEST_F(FaultScriptTest, EachFaultLeavesARemark) {
+  Use("at IREM drop\nat IREM stall 3 40");
+  std::string notes;
+  tester_.OnNote([&](std::string_view note) { notes += std::string(note) + ";"; });
+  Ask(tester_, "IREM\r\nQMTI\r\n");
+  EXPECT_EQ(notes, "fault: drop;fault: stall 3 40;");
+}
+
 TEST_F(FaultScriptTest, GarblePutsOneControlByteInTheMiddle) {
   Use("at EREM garble");
   EXPECT_EQ(Ask(tester_, "IREM\r\nEREM\r\n"), std::string(kIrem) + "er\x1Bm\r\n");
@@ -111,8 +178,8 @@ TEST_F(FaultScriptTest, RulesWorkTogetherInTheirOrder) {
 TEST_F(FaultScriptTest, EveryFaultAtEveryCommandLeavesTheTesterAlive) {
   const std::string session = "IREM\r\nSTST,410,0\r\nGRES,410,0\r\nSTST,210,0\r\nEREM\r\n";
   const std::string good = Ask(tester_, session);
-  for (const char* fault :
-       {"drop", "wrong-mnemonic", "error 9", "double", "truncate 3", "garble", "reply x"}) {
+  for (const char* fault : {"drop", "wrong-mnemonic", "error 9", "double", "truncate 3", "shorten 3",
+                            "stall 3", "noise", "garble", "reply x"}) {
     for (int nth = 1; nth <= 5; ++nth) {
       Use("at ANY " + std::to_string(nth) + " " + fault);
       EXPECT_NE(Ask(tester_, session), good) << fault << " at " << nth;
@@ -135,7 +202,9 @@ TEST_P(FaultScriptErrorTest, NamesFileAndLineAndSaysWhatToDo) {
 }
 
 constexpr const char* kKnownFaults =
-    "use delay MS, drop, wrong-mnemonic, error N, hang-up, double, truncate N, garble or reply TEXT";
+    "use delay MS, drop, double, truncate N, shorten N, stall N [MS], garble, noise [MS], wrong-mnemonic, "
+    "error N, "
+    "reply TEXT, forget, hang-up or unplug MS";
 
 INSTANTIATE_TEST_SUITE_P(
     Lines, FaultScriptErrorTest,
@@ -147,6 +216,10 @@ INSTANTIATE_TEST_SUITE_P(
         BadLine{"at GRES delay", "'delay' needs a whole number from 0 to 600000 and has ''"},
         BadLine{"at GRES delay 2.5", "'delay' needs a whole number from 0 to 600000 and has '2.5'"},
         BadLine{"at GRES error 40000", "'error' needs a whole number from 0 to 32767 and has '40000'"},
+        BadLine{"at GRES stall", "'stall' needs a whole number from 0 to 1024 and has ''"},
+        BadLine{"at GRES stall 3 x", "'stall' needs a whole number from 0 to 600000 and has 'x'"},
+        BadLine{"at GRES noise 1 2", "'2' is too much after 'noise'; remove it"},
+        BadLine{"at GRES unplug", "'unplug' needs a whole number from 0 to 600000 and has ''"},
         BadLine{"at GRES drop 3", "'3' is too much after 'drop'; remove it"},
         BadLine{"at GRES reply",
                 "'reply' needs the line to send instead, such as: reply gres,410,0,9,0,Ohm"}));

@@ -40,6 +40,7 @@ TEST(OptionsTest, EveryOptionIsTakenInBothForms) {
 
 TEST(OptionsTest, HelpAndVersionNeedNoLink) {
   EXPECT_EQ(ParseOptions({"--help"}).action, Options::Action::ShowHelp);
+  EXPECT_EQ(ParseOptions({"--help-man"}).action, Options::Action::ShowManual);
   EXPECT_EQ(ParseOptions({"-h"}).action, Options::Action::ShowHelp);
   EXPECT_EQ(ParseOptions({"--version"}).action, Options::Action::ShowVersion);
 }
@@ -74,13 +75,30 @@ TEST(OptionsTest, ASerialNumberMustFitTheWire) {
   }
 }
 
-TEST(OptionsTest, HelpNamesEveryOptionAndProfile) {
-  const std::string help = HelpText();
-  for (const char* word :
-       {"--link", "--profile", "--faults", "--serial", "--time-scale", "--trace", "--exit-with-parent",
-        "--help", "--version", "sound-class-1", "sound-class-2", "broken-earth", "leaky", "overloaded"}) {
-    EXPECT_NE(help.find(word), std::string::npos) << word;
+TEST(OptionsTest, FaultsAreDrawnByASeed) {
+  const Options options = ParseOptions({"--link", "l", "--fault-seed", "18446744073709551615"});
+  EXPECT_EQ(options.faultSeed, 18446744073709551615u);
+  EXPECT_EQ(options.faultRate, 0.1);
+  EXPECT_EQ(ParseOptions({"--link", "l", "--fault-rate=1", "--fault-seed=0"}).faultRate, 1.0);
+  for (const char* text : {"", "-1", "x", "1.5", "18446744073709551616"}) {
+    EXPECT_EQ(ErrorOf({"--link", "l", "--fault-seed", text}),
+              "--fault-seed '" + std::string(text) + "': give a whole number from 0 to 18446744073709551615");
   }
+  for (const char* text : {"", "0", "-0.1", "1.01", "nan", "x"}) {
+    EXPECT_EQ(ErrorOf({"--link", "l", "--fault-seed", "1", "--fault-rate", text}),
+              "--fault-rate '" + std::string(text) +
+                  "': give a share above 0 and up to 1, such as 0.1 for every tenth reply");
+  }
+  EXPECT_EQ(ErrorOf({"--link", "l", "--fault-rate", "0.5"}),
+            "--fault-rate goes with --fault-seed: give a seed as well");
+}
+
+TEST(OptionsTest, ATesterGoesWrongInOneWayAlone) {
+  EXPECT_EQ(ParseOptions({"--link", "l", "--replay", "w.log"}).replay, "w.log");
+  const std::string message = "--faults, --fault-seed and --replay exclude each other: give one of them";
+  EXPECT_EQ(ErrorOf({"--link", "l", "--replay", "w", "--faults", "f"}), message);
+  EXPECT_EQ(ErrorOf({"--link", "l", "--replay", "w", "--fault-seed", "1"}), message);
+  EXPECT_EQ(ErrorOf({"--link", "l", "--faults", "f", "--fault-seed", "1"}), message);
 }
 
 }  // namespace

@@ -53,7 +53,7 @@ TEST(ProfileFileTest, ABaseGivesWhatTheFileDoesNotChange) {
       ParseProfile("910/2 = 55\nlacks = 1220, 1245\nbased-on = sound-class-1\n410 = 0.4 Ohm\n", "mine");
   EXPECT_EQ(profile.Name(), "mine");
   EXPECT_EQ(profile.Find(410, 0)->value, "0.4");
-  EXPECT_EQ(profile.Find(420, 0)->value, "0.131");
+  EXPECT_EQ(profile.Find(420, 0)->value, "0.058");
   EXPECT_EQ(profile.Find(910, 2)->value, "55");
   EXPECT_EQ(profile.Find(910, 4)->value, "3.4");
   EXPECT_EQ(profile.Find(1220, 0), nullptr);
@@ -184,7 +184,7 @@ TEST(ProfileFileTest, WhatIsNoFileIsRefusedByName) {
   EXPECT_EQ(InputErrorOf([&] { LoadProfile(folder.Path("")); }),
             folder.Path("") + ": is not a regular file; name a text file");
   EXPECT_EQ(InputErrorOf([&] { LoadProfile(folder.Write("big", std::string(1024 * 1024 + 1, '#'))); }),
-            folder.Path("big") + ": is larger than 1 MiB; this is no profile or fault script");
+            folder.Path("big") + ": is larger than 1 MiB; this is no profile, fault script or wire log");
 }
 
 }  // namespace

@@ -204,8 +204,66 @@ TEST_F(ProgramTest, AHangUpIsAPulledCable) {
   EXPECT_EQ(client.Ask("STST,410,0\r\n"), "stst,410,0\r\n");
   EXPECT_EQ(client.Ask("STST,410,0\r\n"), "") << "the port reads as failed, it does not wait";
   EXPECT_EQ(program.Wait(), 0);
-  EXPECT_EQ(program.Output(), "keld-sim: hung up, as the fault script says\n");
+  EXPECT_EQ(program.Output(), "keld-sim: hung up\n");
   EXPECT_FALSE(Stands(link_));
+}
+
+TEST_F(ProgramTest, AnUnpluggedCableComesBackAtTheSameLink) {
+  const std::string trace = folder_.Path("trace");
+  Program program({"--link", link_, "--time-scale", "100", "--trace", trace, "--faults",
+                   folder_.Write("f", "at STST 1 unplug 1000\n")});
+  program.ReadyLine();
+  {
+    Client client(link_);
+    client.Ask("IREM\r\n");
+    EXPECT_EQ(client.Ask("STST,410,0\r\n"), "") << "the port reads as failed, it does not wait";
+  }
+  EXPECT_EQ(program.ReadyLine(), "keld-sim: unplugged\n");
+  const std::string ready = program.ReadyLine();
+  EXPECT_EQ(ready, "keld-sim: ready on " + std::filesystem::read_symlink(link_).string() + " (" + link_ +
+                       "), plugged in again\n");
+  Client client(link_);
+  EXPECT_EQ(client.Ask("GRES,410,0\r\n"), "gres,410,0,0.123,0,Ohm\r\n") << "the tester is as it was";
+  kill(program.Id(), SIGTERM);
+  EXPECT_EQ(program.Wait(), 0);
+  const std::string text = test::ReadAll(trace);
+  EXPECT_NE(text.find(" note fault: unplug 1000\n"), std::string::npos) << text;
+  EXPECT_NE(text.find(" note plugged in again\n"), std::string::npos) << text;
+}
+
+TEST_F(ProgramTest, CanBeStoppedWhileUnplugged) {
+  Program program({"--link", link_, "--faults", folder_.Write("f", "at IREM 1 unplug 600000\n")});
+  program.ReadyLine();
+  Client client(link_);
+  client.Say("IREM\r\n");
+  EXPECT_EQ(program.ReadyLine(), "keld-sim: unplugged\n");
+  kill(program.Id(), SIGTERM);
+  EXPECT_EQ(program.Wait(), 0);
+  EXPECT_FALSE(Stands(link_));
+}
+
+TEST_F(ProgramTest, RandomFaultsArePrintedSoThatTheyCanBeHadAgain) {
+  Program program({"--link", link_, "--fault-seed", "3", "--fault-rate", "1"});
+  EXPECT_NE(program.ReadyLine().find(", --fault-seed 3 --fault-rate 1\n"), std::string::npos);
+  Client client(link_);
+  client.Say("IREM\r\n");
+  EXPECT_EQ(program.ReadyLine().substr(0, 25), "keld-sim: fault: at ANY 1");
+}
+
+TEST_F(ProgramTest, AWireLogIsReplayed) {
+  const std::string log = folder_.Write("w.log",
+                                        "2026-03-01T10:00:00.000000Z sent IREM\n"
+                                        "2026-03-01T10:00:00.010000Z recv irem,KELD(IN),0417,2.71\n");
+  Program program({"--link", link_, "--replay", log});
+  EXPECT_NE(program.ReadyLine().find(", replay of " + log + "\n"), std::string::npos);
+  Client client(link_);
+  EXPECT_EQ(client.Ask("IREM\r\n"), "irem,KELD(IN),0417,2.71\r\n");
+  EXPECT_EQ(client.Ask("EREM\r\n"), "erem\r\n");
+  kill(program.Id(), SIGTERM);
+  EXPECT_EQ(program.Wait(), 0);
+  EXPECT_EQ(program.Complaint(),
+            "keld-sim: EREM is not in " + log +
+                " at this point (the log has ended); answered as the simulated tester does\n");
 }
 
 TEST_F(ProgramTest, EndsWithItsParentWhenAsked) {
@@ -240,6 +298,7 @@ TEST_F(ProgramTest, BadUseEndsWith3AndLeavesNoLink) {
        folder_.Path("p") + ":1: 'x' is not a number"},
       {{"--link", link_, "--faults", folder_.Write("f", "at GRES vanish\n")},
        folder_.Path("f") + ":1: 'vanish' is no fault"},
+      {{"--link", link_, "--replay", folder_.Write("w", "no log\n")}, folder_.Path("w") + ":1: no time"},
       {{"--link", link_, "--trace", folder_.Path("no/trace")}, "--trace " + folder_.Path("no/trace")},
       {{"--link", folder_.Path("file")}, "something else stands there"},
   };

@@ -207,9 +207,10 @@ TEST_F(TesterTest, TheListenerHearsGoodAndDroppedLines) {
 
 TEST_F(TesterTest, FaultsSeeEveryReplyWithTheCommandAndItsIndex) {
   struct Watch : Faults {
-    void OnReply(const Exchange& exchange, std::vector<Outgoing>& replies) override {
-      ASSERT_EQ(replies.size(), 1u);
-      seen += std::to_string(exchange.index) + std::string(exchange.command) + ">" + replies[0].bytes;
+    void OnReply(const Exchange& exchange, Reply& reply) override {
+      ASSERT_EQ(reply.lines.size(), 1u);
+      EXPECT_EQ(exchange.line.substr(0, exchange.command.size()), exchange.command);
+      seen += std::to_string(exchange.index) + std::string(exchange.command) + ">" + reply.lines[0].bytes;
     }
     std::string seen;
   };

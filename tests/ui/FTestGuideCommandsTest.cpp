@@ -193,6 +193,31 @@ TEST_F(FTestGuideCommandsTest, OnlyStopAndAbortActDuringARun) {
   EXPECT_TRUE(windows_.empty());
 }
 
+TEST_F(FTestGuideCommandsTest, TheTesterCannotBeChangedDuringARun) {
+  // The lead resistance of another tester would make a protective earth look better than it is.
+  const auto data = keld::CKELDData::Shared();
+  data->SetSerialNumber("another");
+  data->SetCalibValue(1000);
+  data->SetSerialNumber("");
+  const auto element = Element(410);
+  bool looked = false;
+  Perform(element, [&](GuideScreen guide) {
+    EXPECT_FALSE(guide.InstrumentData()->Locked());
+    When("GRES", [&, guide] {
+      looked = true;
+      EXPECT_TRUE(guide.InstrumentData()->Locked());
+      const auto serial = guide.InstrumentField<orvik::platform::IComboBox>("cboSerial");
+      ASSERT_EQ(serial->Items(), Texts{"another"});
+      serial->Choose(0);
+    });
+    guide.Click(202);
+    EXPECT_FALSE(guide.InstrumentData()->Locked());
+  });
+  EXPECT_TRUE(looked);
+  EXPECT_NE(data->SerialNumber(), "another");
+  EXPECT_NE(std::get<double>(element->Result()->Measurement(1)->value()), 0);
+}
+
 TEST_F(FTestGuideCommandsTest, CommandsFromElsewhereDoNotActDuringARunEither) {
   const auto element = Element();
   const auto guide = keld::FTestGuide::Create();

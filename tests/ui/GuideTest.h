@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "OrvikTypeLib/HostClasses.h"
+#include "OrvikTypeLib/ICustomControl.h"
 #include "OrvikTypeLib/ILimit.h"
 #include "OrvikTypeLib/IStandard.h"
 #include "OrvikTypeLib/ITgContentPane.h"
@@ -55,6 +56,21 @@ class GuideScreen {
   }
   std::shared_ptr<orvik::platform::IListView> Results() const {
     return orvik::As<orvik::platform::IListView>(Site("xrvResultView")->Panel()->Find("lvwResults"));
+  }
+  /// The control with the tester's data, and a field on it.
+  std::shared_ptr<orvik::ICustomControl> InstrumentData() const {
+    return orvik::As<orvik::ICustomControl>(Pane("xstShowMTI")->Tab("tab:MtiData"));
+  }
+  template <class Field>
+  std::shared_ptr<Field> InstrumentField(const std::string& name) const {
+    for (const auto& control : Site("xstShowMTI")->Panel()->Controls()) {
+      const auto tabs = orvik::As<orvik::platform::ITabs>(control);
+      const auto page = tabs ? tabs->Page("tab:MtiData") : nullptr;
+      const auto data =
+          page ? orvik::As<orvik::platform::IContainerSite>(page->Find("tab:MtiData")) : nullptr;
+      if (data) return orvik::As<Field>(data->Panel()->Find(name));
+    }
+    throw std::runtime_error("the guide shows no data of the tester");
   }
   void Click(int command) const { Toolbar()->Click(command); }
   /// Commands that act now.

@@ -1,6 +1,7 @@
 #include "tests/checker-plugin/checker/CHostChecker.h"
 
 #include "OrvikTypeLib/IReport.h"
+#include "OrvikTypeLib/IRunController.h"
 #include "tests/checker-plugin/checker/Checks.h"
 
 namespace check {
@@ -33,6 +34,10 @@ IHostChecker::Texts CHostChecker::IHostChecker_SerialPort(const std::string& dev
 }
 IHostChecker::Texts CHostChecker::IHostChecker_Report(std::shared_ptr<orvik::IReport> report) {
   return FindingsOf("report", CheckReport, report);
+}
+IHostChecker::Texts CHostChecker::IHostChecker_RunController(
+    std::shared_ptr<orvik::IRunController> controller) {
+  return FindingsOf("run controller", CheckRunController, controller);
 }
 IHostChecker::Texts CHostChecker::IHostChecker_Forms() { return FindingsOf("forms", CheckForms); }
 IHostChecker::Texts CHostChecker::IHostChecker_Controls() { return FindingsOf("controls", CheckControls); }

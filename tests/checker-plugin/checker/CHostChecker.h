@@ -27,6 +27,7 @@ class CHostChecker final : public IHostChecker {
   Texts IHostChecker_Records() override;
   Texts IHostChecker_SerialPort(const std::string& device) override;
   Texts IHostChecker_Report(std::shared_ptr<orvik::IReport> report) override;
+  Texts IHostChecker_RunController(std::shared_ptr<orvik::IRunController> controller) override;
   Texts IHostChecker_Forms() override;
   Texts IHostChecker_Controls() override;
   Texts IHostChecker_Timers() override;

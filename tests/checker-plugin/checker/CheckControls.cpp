@@ -45,6 +45,9 @@ void Common(Findings& findings, IForm& form) {
   findings.Equal("&OK", button->Caption(), "caption");
   findings.Equal("tip", button->ToolTip(), "tool tip");
   findings.Expect(button->BackColor() == orvik::platform::kRed, "a background colour is kept");
+  button->SetBounds({100, 200, 1500, 400});
+  findings.Expect(button->Bounds() == orvik::platform::Rect{100, 200, 1500, 400},
+                  "a control that no layout places stands where it is put");
   button->SetFocus();
   findings.Expect(button->HasFocus(), "a button takes the focus");
   const int before = button->RefreshCount();
@@ -90,6 +93,20 @@ void ComboBoxes(Findings& findings, IForm& form) {
   box->Choose(0);
   box->Choose(7);
   findings.Equal("one", box->Text(), "text after the operator's choice");
+  findings.Expect(box->Editable(), "a new box takes any text");
+  box->TypeOver("three");
+  findings.Equal("three", box->Text(), "text after typing over");
+  findings.Equal(-1, box->SelectedIndex(), "selection by a text that is no entry");
+  box->SetText("two");
+  findings.Equal(1, box->SelectedIndex(), "selection by the text of an entry");
+  box->SetEditable(false);
+  box->TypeOver("three");
+  findings.Expect(!box->Editable() && box->Text() == "two", "a box that is not editable takes entries only");
+  int lost = 0;
+  const auto onLost = box->LostFocus().Subscribe([&] { ++lost; });
+  box->SetFocus();
+  form.AddButton("cmd")->SetFocus();
+  findings.Equal(1, lost, "times the box lost the focus");
   box->ClearItems();
   findings.Expect(box->Items().empty() && box->SelectedIndex() == -1, "an emptied box has no selection");
 }
@@ -112,6 +129,8 @@ void Lists(Findings& findings, IForm& form) {
   findings.Refused("a cell of an unknown column", [&] { list->SetCell("12::", "X", {}); });
   findings.Expect(list->RowCount() == 1 && list->HasRow("12::") && !list->HasRow(""),
                   "rows are found by their keys");
+  list->AddRow("4::");
+  findings.Expect(list->RowKeys() == std::vector<std::string>{"12::", "4::"}, "rows keep their order");
   list->EnsureVisible("12::");
   list->SelectRow("12::");
   findings.Equal("12::", list->SelectedRow(), "selected row");
@@ -139,6 +158,8 @@ void Trees(Findings& findings, IForm& form) {
   tree->ClickNode("c");
   findings.Equal("a-b+", clicked, "clicks of the operator, with the new state");
   findings.Expect(tree->NodeKeys() == std::vector<std::string>{"a", "b"}, "nodes keep their order");
+  tree->SetNodeCaption("b", "B2");
+  findings.Equal("B2", tree->NodeCaption("b"), "caption of a node");
   tree->ClearNodes();
   findings.Expect(!tree->HasNode("a") && tree->NodeKeys().empty(), "a cleared tree has no nodes");
 }
@@ -157,6 +178,10 @@ void Toolbars(Findings& findings, IForm& form) {
   bar->EnableCommand(900, true);
   bar->ShowCommand(900, false);
   bar->Click(900);
+  findings.Expect(!bar->CommandVisible(900) && bar->CommandVisible(501), "a hidden command is told apart");
+  findings.Expect(bar->Commands() == std::vector<int>{501, 900}, "commands keep their order");
+  bar->SetCommandToolTip(501, "tip");
+  bar->SetCommandToolTip(4711, "tip");
   bar->Click(901);
   findings.Equal("900 ", chosen, "commands chosen while enabled, disabled, hidden and unknown");
   findings.Equal("Calibrate...", bar->CommandCaption(900), "caption of an entry");
@@ -166,6 +191,7 @@ void Toolbars(Findings& findings, IForm& form) {
 void Others(Findings& findings, IForm& form) {
   const auto bar = form.AddProgressBar("prg");
   bar->SetRange(0, 10);
+  findings.Expect(bar->Minimum() == 0 && bar->Maximum() == 10, "a range is kept");
   bar->SetValue(11);
   findings.Equal(10, bar->Value(), "progress beyond the end");
   bar->SetValue(-1);
@@ -180,6 +206,8 @@ void Others(Findings& findings, IForm& form) {
   const auto page = tabs->AddPage("one", "One");
   page->AddLabel("lbl");
   tabs->AddPage("two", "Two");
+  findings.Expect(tabs->Keys() == std::vector<std::string>{"one", "two"}, "pages keep their order");
+  tabs->SetPageBitmap("one", bytes);
   tabs->Choose("two");
   tabs->Choose("three");
   findings.Equal("two", tabs->SelectedKey(), "page chosen");

@@ -11,6 +11,8 @@
 #include "OrvikTypeLib/ITestContainer.h"
 #include "OrvikTypeLib/IXmlDocument.h"
 #include "OrvikTypeLib/IXmlNode.h"
+#include "tests/checker-plugin/checker/CCheckLimits.h"
+#include "tests/checker-plugin/checker/CCheckSettings.h"
 #include "tests/checker-plugin/checker/Checks.h"
 #include "tests/checker-plugin/template/CInspection.h"
 #include "tests/checker-plugin/template/CInspectionResult.h"
@@ -54,6 +56,7 @@ void Texts(Findings& findings) {
   information->SetSecondText("PE");
   information->SetFirstText("with cord");
   findings.Equal("PE", information->SecondText(), "second text");
+  findings.Equal("with cord", information->FirstText(), "first text");
   findings.Equal("Protective earth", element->Information()->DisplayName(), "display name");
   const auto info = element->Info();
   const auto* list = std::get_if<std::vector<std::string>>(&info);
@@ -73,6 +76,16 @@ void Parts(Findings& findings) {
   findings.Expect(element->Result() == result, "a result that was set is had back");
   element->SetResult(nullptr);
   findings.Expect(!element->Result(), "an empty result removes it");
+  const std::shared_ptr<orvik::ILimitData> limits = CCheckLimits::Create();
+  element->SetLimits(limits);
+  findings.Expect(element->Limits() == limits, "limits that were set are had back");
+  element->SetLimits(nullptr);
+  findings.Expect(!element->Limits(), "empty limits remove them");
+  const std::shared_ptr<orvik::IConfigData> settings = CCheckSettings::Create();
+  element->SetConfiguration(settings);
+  findings.Expect(element->Configuration() == settings, "settings that were set are had back");
+  element->SetConfiguration(nullptr);
+  findings.Expect(!element->Configuration(), "empty settings remove them");
 
   std::shared_ptr<orvik::ITestElement> parent = NewElement();
   element->SetParent(parent);
@@ -81,6 +94,28 @@ void Parts(Findings& findings) {
   findings.Expect(!element->Parent(), "an element does not keep its parent alive");
   element->Terminate();
   element->Terminate();
+}
+
+/// What an element's settings say.
+std::string WordOf(const orvik::ITestElement& element) {
+  const auto settings = std::dynamic_pointer_cast<CCheckSettings>(element.Configuration());
+  return settings ? settings->word : "no settings of their class";
+}
+
+void Settings(Findings& findings) {
+  const auto element = NewElement();
+  element->Initialize(names::kPlugInId, 7, 10);
+  const auto settings = CCheckSettings::Create();
+  settings->word = "a & b";
+  element->SetConfiguration(settings);
+  const auto copy = element->Clone();
+  settings->word = "changed";
+  findings.Equal("a & b", WordOf(*copy), "settings of a clone whose original was changed");
+  const auto node = element->Save(NewRoot());
+  const auto loaded = NewElement();
+  loaded->SetConfiguration(CCheckSettings::Create());
+  loaded->Load(node, nullptr);
+  findings.Equal("changed", WordOf(*loaded), "settings of a loaded element");
 }
 
 std::shared_ptr<orvik::ITestElement> DecidedInspection() {
@@ -147,6 +182,7 @@ void CheckElements(Findings& findings) {
   findings.Try("identity", [&] { Identity(findings); });
   findings.Try("texts", [&] { Texts(findings); });
   findings.Try("parts", [&] { Parts(findings); });
+  findings.Try("settings", [&] { Settings(findings); });
   findings.Try("cloning", [&] { Clones(findings); });
   findings.Try("saving and loading", [&] { Storage(findings); });
 }

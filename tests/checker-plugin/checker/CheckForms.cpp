@@ -78,10 +78,24 @@ void Keys(Findings& findings) {
   form->Show();
   form->PressKey(orvik::platform::kKeyY, 0);
   findings.Equal("", keys, "keys seen by a form that is hidden or does not preview them");
+  findings.Expect(!form->KeyPreview(), "a new form leaves the keys to its controls");
   form->SetKeyPreview(true);
+  findings.Expect(form->KeyPreview(), "a form previews keys");
   form->PressKey(orvik::platform::kKeyY, 0);
   form->PressKey(orvik::platform::kKeyN, 1);
   findings.Equal("89/0 78/1 ", keys, "keys seen by a form that previews them");
+  form->Unload();
+}
+
+void Focus(Findings& findings) {
+  const auto form = NewForm("FFocus");
+  const auto box = form->AddTextBox("txt");
+  int got = 0;
+  const auto onFocus = form->GotFocus().Subscribe([&] { ++got; });
+  form->Show();
+  findings.Expect(got == 0 && box->HasFocus(), "the first control gets the focus, and not the form");
+  form->SetFocus();
+  findings.Expect(got == 1 && form->HasFocus() && !box->HasFocus(), "the form itself gets the focus");
   form->Unload();
 }
 
@@ -145,6 +159,7 @@ void CheckForms(Findings& findings) {
   findings.Try("loading", [&] { Loading(findings); });
   findings.Try("showing", [&] { Showing(findings); });
   findings.Try("keys", [&] { Keys(findings); });
+  findings.Try("focus", [&] { Focus(findings); });
   findings.Try("closing", [&] { Closing(findings); });
   findings.Try("resizing", [&] { Resizing(findings); });
   findings.Try("lifetime", [&] { Lifetime(findings); });

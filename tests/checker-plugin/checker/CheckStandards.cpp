@@ -57,7 +57,9 @@ void Bounds(Findings& findings) {
   }
   limit->SetBounds("", "");
   findings.Expect(!limit->LowBound() && !limit->HighBound(), "an empty bound is not set");
+  findings.Expect(orvik::IsEmpty(limit->Nominal()), "a new limit has no nominal value");
   limit->SetNominal(200.0);
+  findings.Expect(limit->Nominal() == orvik::Variant(200.0), "a nominal value that was set is had back");
   limit->SetBounds("90%", "110%");
   findings.Expect(limit->LowBound() == 180 && limit->HighBound() == 220,
                   "percentages refer to the nominal value");

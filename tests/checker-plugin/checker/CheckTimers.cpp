@@ -32,6 +32,7 @@ void Ticks(Findings& findings) {
     if (ticks == 3) timer->SetEnabled(false);
   });
   timer->SetInterval(20);
+  findings.Equal(20, timer->Interval(), "interval of a timer");
   timer->SetEnabled(true);
   application->ProcessMessages();
   findings.Equal(0, ticks, "ticks before any time has passed");

@@ -7,7 +7,8 @@
 
 namespace orvik {
 class IReport;
-}
+class IRunController;
+}  // namespace orvik
 
 // One function a subject, each in a file of its name.
 namespace check {
@@ -23,6 +24,7 @@ void CheckRegistry(Findings& findings);
 void CheckRecords(Findings& findings);
 void CheckSerialPort(Findings& findings, const std::string& device);
 void CheckReport(Findings& findings, const std::shared_ptr<orvik::IReport>& report);
+void CheckRunController(Findings& findings, const std::shared_ptr<orvik::IRunController>& controller);
 void CheckForms(Findings& findings);
 void CheckControls(Findings& findings);
 void CheckTimers(Findings& findings);

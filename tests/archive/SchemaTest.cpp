@@ -1,0 +1,116 @@
+#include <gmock/gmock.h>
+
+#include <fstream>
+
+#include "host/archive/ArchiveError.h"
+#include "host/archive/Schema.h"
+#include "tests/archive/ArchiveTest.h"
+#include "tests/archive/Documents.h"
+
+namespace archive_tests {
+namespace {
+
+using bench::ArchiveError;
+using testing::HasSubstr;
+
+class SchemaTest : public ArchiveTest {
+ protected:
+  /// Lays out an archive as version 1 of it was, with a document: the statements are those that it wrote.
+  void MakeVersionOne() const {
+    const auto database = Database();
+    std::ifstream file(SOURCE_PATH "/tests/archive/version-1.sql");
+    std::string statement;
+    for (std::string line; std::getline(file, line);) {
+      if (line.empty() || line.starts_with("--")) continue;
+      statement += line + "\n";
+      if (!line.ends_with(';')) continue;
+      database->Run(statement, {});
+      statement.clear();
+    }
+    database->Run("INSERT INTO orvik_contents (document_id, contents) VALUES (1, $1)",
+                  {bench::Bytes{kContents}});
+  }
+
+  std::int64_t Version() const {
+    return bench::RowReader(Database()->Run("SELECT version FROM orvik_archive_version", {}).at(0)).Whole();
+  }
+
+  /// What the archive cannot be opened for.
+  std::string Refusal(ArchiveError::Kind kind) const {
+    try {
+      Open();
+    } catch (const ArchiveError& error) {
+      EXPECT_EQ(error.Why(), kind);
+      return error.what();
+    }
+    return "it was opened";
+  }
+
+  static constexpr char kContents[] =
+      "<OrvikDocument Version=\"1\"><Elements><TestElement ID=\"1\"><Auxiliary Print=\"1\">"
+      "<Run Date=\"2025-05-06T10:00:00+02:00\" Operator=\"K. Holm\"/></Auxiliary></TestElement></Elements>"
+      "</OrvikDocument>";
+};
+
+TEST_P(SchemaTest, AnArchiveOfVersionOneIsBroughtUp) {
+  MakeVersionOne();
+  EXPECT_EQ(Version(), 1);
+  auto archive = Open();
+  EXPECT_EQ(Version(), 2);
+  const auto found = archive.Find(1);
+  ASSERT_TRUE(found);
+  EXPECT_EQ(found->contents, kContents);
+  EXPECT_EQ(found->entry.asset, "P-7");
+  EXPECT_EQ(found->entry.operatorName, "K. Holm");
+  ASSERT_EQ(found->elements.size(), 1U);
+  EXPECT_EQ(found->elements[0].runDate, "2025-05-06T08:00:00Z");
+  EXPECT_EQ(found->elements[0].summary.measurement->value, 123.5);
+  EXPECT_EQ(found->elements[0].limits.at(0).high, 300.0);
+  EXPECT_FALSE(found->elements[0].summary.recordedOnly);
+  EXPECT_EQ(archive.Add(Measured("/d/2", "P-7", 1)).id, 2);
+}
+
+TEST_P(SchemaTest, BringingUpIsDoneAsAWholeOrNotAtAll) {
+  MakeVersionOne();
+  // Keeps the second version's statements from ending well.
+  Database()->Run("CREATE TABLE orvik_elements_by_test (x BIGINT)", {});
+  EXPECT_THROW(Open(), ArchiveError);
+  EXPECT_EQ(Version(), 1);
+  Database()->Run("DROP TABLE orvik_elements_by_test", {});
+  EXPECT_EQ(Open().List({}).size(), 1U);
+}
+
+TEST_P(SchemaTest, ANewerArchiveIsRefusedAndLeftAsItIs) {
+  Open();
+  Database()->Run("UPDATE orvik_archive_version SET version = 3", {});
+  const auto text = Refusal(ArchiveError::Kind::kBadInput);
+  EXPECT_THAT(text, HasSubstr("newer version"));
+  EXPECT_THAT(text, HasSubstr("archive version 3"));
+  EXPECT_EQ(Version(), 3);
+}
+
+TEST_P(SchemaTest, AnArchiveWithoutItsVersionIsRefused) {
+  Open();
+  Database()->Run("DELETE FROM orvik_archive_version", {});
+  EXPECT_THAT(Refusal(ArchiveError::Kind::kBadInput), HasSubstr("does not tell its version"));
+}
+
+TEST_P(SchemaTest, OpeningAgainChangesNothing) {
+  Open().Add(Measured("/d/1", "P-7", 1));
+  EXPECT_EQ(Open().List({}).size(), 1U);
+  EXPECT_EQ(Version(), bench::schema::kVersion);
+}
+
+TEST_P(SchemaTest, MissingTablesAreTold) {
+  Open();
+  Database()->Run("DROP TABLE orvik_notes", {});
+  auto archive = Open();
+  auto document = Measured("/d/1", "P-7", 400);
+  EXPECT_THROW(archive.Add(document), ArchiveError);
+  EXPECT_TRUE(archive.List({}).empty());
+}
+
+ON_BOTH_DATABASES(SchemaTest);
+
+}  // namespace
+}  // namespace archive_tests

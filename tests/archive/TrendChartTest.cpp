@@ -1,0 +1,139 @@
+#include <gmock/gmock.h>
+
+#include <pugixml.hpp>
+
+#include "host/archive/TrendChart.h"
+#include "host/archive/TrendMarks.h"
+#include "tests/archive/Documents.h"
+
+namespace archive_tests {
+namespace {
+
+using bench::Mark;
+using testing::HasSubstr;
+using testing::Not;
+
+bench::TrendPoint Point(const std::string& date, double value) {
+  bench::TrendPoint point;
+  point.document = 1;
+  point.date = date;
+  point.element = Measured("/d", "P", value, date).elements[0];
+  return point;
+}
+
+bench::TrendPoint Doubtful(bench::TrendPoint point) {
+  point.element.summary.doubts = {"late reply"};
+  return point;
+}
+
+bench::TrendPoint Overloaded(bench::TrendPoint point) {
+  point.element.summary.measurement->flags = "O";
+  return point;
+}
+
+/// The picture, which must be well-formed and in itself complete.
+std::string Drawn(const std::vector<bench::TrendPoint>& points, const std::string& asset = "P-7") {
+  const auto svg = bench::TrendChart({asset, 410, points});
+  pugi::xml_document xml;
+  EXPECT_TRUE(xml.load_string(svg.c_str())) << svg;
+  const auto root = xml.document_element();
+  EXPECT_STREQ(root.name(), "svg");
+  EXPECT_STREQ(root.attribute("role").value(), "img");
+  EXPECT_STREQ(root.attribute("aria-labelledby").value(), "title desc");
+  EXPECT_STREQ(root.child("title").attribute("id").value(), "title");
+  EXPECT_FALSE(root.child("desc").text().empty());
+  for (const char* outside : {"href", "url(", "@import", "<script", "<image", "nan", "inf\""})
+    EXPECT_THAT(svg, Not(HasSubstr(outside)));
+  return svg;
+}
+
+std::size_t CountOf(const std::string& text, const std::string& part) {
+  std::size_t count = 0;
+  for (auto at = text.find(part); at != std::string::npos; at = text.find(part, at + 1)) ++count;
+  return count;
+}
+
+TEST(TrendMarks, TellEachKindOfReading) {
+  const auto passed = Point("2024-01-01T00:00:00Z", 100), failed = Point("2024-01-01T00:00:00Z", 400);
+  EXPECT_EQ(MarkOf(passed), Mark::kPassed);
+  EXPECT_EQ(MarkOf(failed), Mark::kFailed);
+  EXPECT_EQ(MarkOf(Doubtful(passed)), Mark::kDoubtful);
+  EXPECT_EQ(MarkOf(Doubtful(failed)), Mark::kFailedDoubtful);
+  EXPECT_EQ(MarkOf(Doubtful(Overloaded(passed))), Mark::kOverloaded);
+  auto aborted = passed;
+  aborted.element.summary.status = 4;
+  EXPECT_EQ(MarkOf(aborted), Mark::kOther);
+  auto unjudged = passed;
+  unjudged.element.summary.recordedOnly = true;
+  EXPECT_EQ(MarkOf(unjudged), Mark::kOther);
+}
+
+TEST(TrendMarks, HaveAShapeEach) {
+  std::set<std::string> shapes;
+  for (const auto mark : bench::kMarks) {
+    bench::Svg svg;
+    DrawMark(svg, mark, 10, 10);
+    shapes.insert(svg.Text());
+  }
+  EXPECT_EQ(shapes.size(), std::size(bench::kMarks));
+}
+
+TEST(TrendChart, TellsReadingsAndLimitsInWordsToo) {
+  const auto svg = Drawn({Point("2024-01-01T00:00:00Z", 100), Point("2025-01-01T00:00:00Z", 412.5)});
+  EXPECT_THAT(svg, HasSubstr("<title>2024-01-01T00:00:00Z: 100 mOhm, passed</title>"));
+  EXPECT_THAT(svg, HasSubstr("<title>2025-01-01T00:00:00Z: 412.5 mOhm, failed</title>"));
+  EXPECT_THAT(svg, HasSubstr("Limits of IEC 62353, class I."));
+  EXPECT_THAT(svg, HasSubstr(">A \xE2\x89\xA4 300<"));
+  EXPECT_THAT(svg, HasSubstr(">A  IEC 62353, class I<"));
+  EXPECT_THAT(svg, HasSubstr(">mOhm<"));
+}
+
+TEST(TrendChart, TextsAreNoMarkup) {
+  auto point = Point("2024-01-01T00:00:00Z", 100);
+  point.element.summary.name = "</title><script>alert(1)</script>";
+  point.element.limits[0].standard = "\"><script/>";
+  point.element.summary.measurement->unit = "<b>&\x01";
+  const auto svg = Drawn({point}, "<script>'\"&%1 %%1 ]]> \x1b[31m \xff");
+  EXPECT_THAT(svg, HasSubstr("&lt;script&gt;"));
+  EXPECT_THAT(svg, Not(HasSubstr("\x1b")));
+  EXPECT_THAT(svg, HasSubstr("%%1"));
+}
+
+TEST(TrendChart, AnOverloadIsMarkedAboveTheScaleAndDoesNotStretchIt) {
+  const auto svg =
+      Drawn({Point("2024-01-01T00:00:00Z", 100), Doubtful(Overloaded(Point("2025-01-01T00:00:00Z", 9e9)))});
+  EXPECT_THAT(svg, HasSubstr(">OL<"));
+  EXPECT_THAT(svg, Not(HasSubstr("e+09")));
+}
+
+TEST(TrendChart, OtherUnitsOfTheSameQuantityAreToldInTheLastOne) {
+  auto ohms = Point("2024-01-01T00:00:00Z", 0.2);
+  ohms.element.summary.measurement->unit = "Ohm";
+  ohms.element.limits.clear();
+  auto same = Point("2024-01-01T00:00:00Z", 200);
+  same.element.limits.clear();
+  const auto last = Point("2025-01-01T00:00:00Z", 200);
+  const auto polyline = [](const std::string& svg) {
+    const auto at = svg.find("<polyline");
+    return svg.substr(at, svg.find("/>", at) - at);
+  };
+  EXPECT_EQ(polyline(Drawn({ohms, last})), polyline(Drawn({same, last})));
+}
+
+TEST(TrendChart, SaysWhatItDidNotDraw) {
+  auto volts = Point("2024-01-01T00:00:00Z", 230), none = Point("2024-01-01T00:00:00Z", 1);
+  volts.element.summary.measurement->unit = "V";
+  none.element.summary.measurement.reset();
+  const auto svg = Drawn({volts, none, Point("2025-01-01T00:00:00Z", 100)});
+  EXPECT_EQ(CountOf(svg, "2 readings are not drawn"), 2U);  // description and legend
+  EXPECT_EQ(CountOf(svg, "<circle"), 2U);                   // the reading and its legend
+}
+
+TEST(TrendChart, HoldsWhateverTheValues) {
+  for (const double value : {0.0, -5.0, 1e-12, 1e14, 1e300, -1e300})
+    Drawn({Point("2024-01-01T00:00:00Z", value), Point("2024-01-01T00:00:00Z", value)});
+  Drawn({});
+}
+
+}  // namespace
+}  // namespace archive_tests

@@ -1,0 +1,125 @@
+#include <filesystem>
+
+#include "tests/cli/CliTest.h"
+
+namespace cli {
+namespace {
+
+class ManualTest : public CliTest {
+ protected:
+  /// The commands that the help shows.
+  Words Commands() const {
+    Words commands;
+    std::istringstream help(Bench({"--help"}).out);
+    bool listed = false;
+    for (std::string line; std::getline(help, line);) {
+      if (line.starts_with("Subcommands:") || line.starts_with("Commands:")) {
+        listed = true;
+      } else if (listed && line.starts_with("  ") && line[2] != ' ') {
+        commands.push_back(line.substr(2, line.find(' ', 2) - 2));
+      } else if (listed && line.empty()) {
+        break;
+      }
+    }
+    return commands;
+  }
+};
+
+TEST_F(ManualTest, HelpTeachesEveryCommandWithAnExample) {
+  const auto commands = Commands();
+  EXPECT_GE(commands.size(), 9u);
+  for (const auto& command : commands) {
+    const auto help = Bench({command, "--help"});
+    EXPECT_EQ(help.status, 0) << command;
+    EXPECT_NE(help.out.find("Example"), std::string::npos) << command << " has no example:\n" << help.out;
+    EXPECT_NE(help.out.find("orvik-bench " + command + " "), std::string::npos)
+        << command << " shows no command line:\n"
+        << help.out;
+    for (std::size_t at = 0, end; at < help.out.size(); at = end + 1) {
+      end = std::min(help.out.find('\n', at), help.out.size());
+      EXPECT_LE(end - at, 130u) << command << ": " << help.out.substr(at, end - at);
+    }
+  }
+}
+
+TEST_F(ManualTest, EveryCommandHasAPageThatTheTypesetterTakes) {
+  const auto made = Bench({"manual", Path("man")});
+  ASSERT_EQ(made.status, 0) << made.error;
+  auto commands = Commands();
+  Words pages{Path("man/orvik-bench.1")};
+  for (const auto& command : commands) pages.push_back(Path("man/orvik-bench-" + command + ".1"));
+  for (const auto& page : pages) {
+    const auto text = Contents(page);
+    ASSERT_FALSE(text.empty()) << page;
+    for (const auto* section : {".SH NAME", ".SH SYNOPSIS", ".SH OPTIONS", ".SH NOTES AND EXAMPLES"})
+      EXPECT_NE(text.find(section), std::string::npos) << page << " lacks " << section;
+  }
+  Words lint{"-T", "lint", "-W", "warning"};
+  lint.insert(lint.end(), pages.begin(), pages.end());
+  const auto looked = RunningProgram("/usr/bin/mandoc", lint).Wait();
+  std::istringstream findings(looked.out + looked.error);
+  for (std::string finding; std::getline(findings, finding);) {
+    // The pages bear no date, so that a build today and one tomorrow are the same.
+    EXPECT_TRUE(finding.empty() || finding.find("missing date") != std::string::npos) << finding;
+  }
+}
+
+TEST_F(ManualTest, APageShowsWhatTheHelpShows) {
+  ASSERT_EQ(Bench({"manual", Path("man")}).status, 0);
+  const auto shown = RunningProgram("/usr/bin/mandoc", {"-T", "utf8", Path("man/orvik-bench-run.1")}).Wait();
+  std::string plain;  // bold and underlined letters are overstruck
+  for (std::size_t i = 0; i < shown.out.size(); ++i) {
+    if (i + 1 < shown.out.size() && shown.out[i + 1] == '\b')
+      ++i;
+    else
+      plain += shown.out[i];
+  }
+  for (const auto* text :
+       {"orvik-bench run FILE [OPTION]...", "--port DEVICE", "--operator auto|ask",
+        "Divide every pause and time-out", "orvik-bench run pump-7.orvik --port /dev/ttyUSB0"})
+    EXPECT_NE(plain.find(text), std::string::npos) << "\"" << text << "\" is missing in\n" << plain;
+}
+
+class CompletionTest : public CliTest {
+ protected:
+  /// What bash offers for a command line whose last word is being typed.
+  std::string Offered(const Words& words) {
+    Write("complete.bash", Bench({"completion", "bash"}).out);
+    std::string line = "source '" + Path("complete.bash") + "'\nCOMP_WORDS=(";
+    for (const auto& word : words) line += " '" + word + "'";
+    line += " )\nCOMP_CWORD=" + std::to_string(words.size() - 1) +
+            "\n_orvik_bench\nprintf '%s\\n' \"${COMPREPLY[@]}\"\n";
+    const auto completed = RunningProgram("/bin/bash", {"--norc", "-c", line}).Wait();
+    EXPECT_EQ(completed.error, "");
+    return completed.out;
+  }
+};
+
+TEST_F(CompletionTest, OffersCommandsOptionsAndTheWordsThatAnOptionTakes) {
+  EXPECT_EQ(Offered({"orvik-bench", "sho"}), "show\n");
+  EXPECT_EQ(Offered({"orvik-bench", "run", "a.orvik", "--resu"}), "--resume\n");
+  EXPECT_EQ(Offered({"orvik-bench", "run", "a.orvik", "--stat"}), "--state\n");
+  EXPECT_EQ(Offered({"orvik-bench", "run", "a.orvik", "--operator", "a"}), "auto\nask\n");
+  EXPECT_EQ(Offered({"orvik-bench", "show", "--po"}), "\n");
+  EXPECT_EQ(Offered({"orvik-bench", "man"}), "\n") << "a hidden command is offered";
+}
+
+TEST_F(CompletionTest, OffersFilesAndFolders) {
+  Write("pump.orvik", "");
+  std::filesystem::create_directory(Path("pumps"));
+  EXPECT_EQ(Offered({"orvik-bench", "show", Path("pump.")}), Path("pump.orvik") + "\n");
+  EXPECT_EQ(Offered({"orvik-bench", "show", "--state", Path("pump")}), Path("pumps") + "\n");
+}
+
+TEST_F(CompletionTest, EveryShellThatIsNamedHasAScript) {
+  EXPECT_EQ(Bench({"completion", "zsh"}).status, 0);
+  const auto fish = Bench({"completion", "fish"});
+  EXPECT_EQ(fish.status, 0);
+  EXPECT_NE(fish.out.find("-l operator -x -a 'auto ask'"), std::string::npos) << fish.out;
+  const auto unknown = Bench({"completion", "tcsh"});
+  EXPECT_EQ(unknown.status, 3);
+  EXPECT_NE(unknown.error.find("bash, zsh or fish"), std::string::npos) << unknown.error;
+}
+
+}  // namespace
+}  // namespace cli

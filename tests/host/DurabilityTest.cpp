@@ -1,0 +1,73 @@
+#include <gtest/gtest.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+#include <filesystem>
+
+#include "host/document/DocumentFile.h"
+#include "host/services/RegistryStore.h"
+#include "tests/host/TestFolder.h"
+
+namespace {
+
+/// What was done to files since the last look, as "flush NAME" and "rename NAME NAME".
+std::vector<std::string>& Done() {
+  static std::vector<std::string> done;
+  return done;
+}
+
+std::string NameOf(const std::filesystem::path& path) { return path.filename().string(); }
+
+}  // namespace
+
+// Both stand in for the C library's in this test program, and do what it does.
+extern "C" int fsync(int descriptor) {
+  std::error_code none;
+  Done().push_back(
+      "flush " + NameOf(std::filesystem::read_symlink("/proc/self/fd/" + std::to_string(descriptor), none)));
+  return static_cast<int>(syscall(SYS_fsync, descriptor));
+}
+extern "C" int rename(const char* from, const char* to) noexcept {
+  Done().push_back("rename " + NameOf(from) + " " + NameOf(to));
+  return static_cast<int>(syscall(SYS_rename, from, to));
+}
+
+namespace bench {
+namespace {
+
+using test::TestFolder;
+
+/// A file goes to the disk before it gets its name, and its name before anybody is told.
+std::vector<std::string> Safely(const std::string& file, const TestFolder& folder) {
+  return {"flush " + file + ".new", "rename " + file + ".new " + file, "flush " + NameOf(folder.Path())};
+}
+
+TEST(Durability, ADocumentIsOnTheDiskWhenItIsSaved) {
+  TestFolder folder;
+  auto file = DocumentFile::Existing(folder.Write("a.orvik", "old"), DocumentFile::Use::kWrite);
+  Done().clear();
+  file.Write("new");
+  EXPECT_EQ(Done(), Safely("a.orvik", folder));
+}
+
+TEST(Durability, ANewDocumentIsOnTheDiskWhenItIsSaved) {
+  TestFolder folder;
+  auto file = DocumentFile::New(folder.Path() / "a.orvik");
+  Done().clear();
+  file.Write("new");
+  // It is given its name by another call, which refuses to replace a file.
+  ASSERT_EQ(Done().size(), 2U);
+  EXPECT_EQ(Done().front().rfind("flush a.orvik.new", 0), 0U) << Done().front();
+  EXPECT_EQ(Done().back(), "flush " + NameOf(folder.Path()));
+}
+
+TEST(Durability, ASettingIsOnTheDiskWhenItIsWritten) {
+  TestFolder folder;
+  RegistryStore store(folder.Path());
+  Done().clear();
+  store.Write(0, "Key", "Name", std::string("value"));
+  EXPECT_EQ(Done(), Safely("registry.json", folder));
+}
+
+}  // namespace
+}  // namespace bench

@@ -1,0 +1,145 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <fstream>
+
+#include "OrvikTypeLib/HostError.h"
+#include "host/pdf/PdfModule.h"
+#include "tests/report/SampleReport.h"
+#include "tests/support/TemporaryFolder.h"
+
+namespace bench {
+namespace {
+
+using testing::HasSubstr;
+using testing::Not;
+
+class PdfReportTest : public testing::Test {
+ protected:
+  static std::string Pdf(const report::Report& report) { return WritePdf(report, PDF_MODULE_PATH); }
+
+  /// What a program of the PDF tools says of the file.
+  std::string Told(const report::Report& report, const std::string& before, const std::string& after = "") {
+    const auto file = (folder_.Path() / "a.pdf").string();
+    std::ofstream(file, std::ios::binary) << Pdf(report);
+    auto* const pipe = popen((before + " " + file + " " + after + " 2>&1").c_str(), "r");
+    if (!pipe) throw std::runtime_error(before + " cannot be run");
+    std::string text;
+    char buffer[4096];
+    while (const auto count = fread(buffer, 1, sizeof buffer, pipe)) text.append(buffer, count);
+    EXPECT_EQ(pclose(pipe), 0) << text;
+    return text;
+  }
+
+  std::vector<std::string> Pages(const report::Report& report) {
+    const auto text = Told(report, "pdftotext -layout", "-");
+    std::vector<std::string> pages;
+    for (std::size_t at = 0, end; (end = text.find('\f', at)) != std::string::npos; at = end + 1)
+      pages.push_back(text.substr(at, end - at));
+    return pages;
+  }
+
+  static std::string WithoutSpaces(std::string text) {
+    std::erase_if(text, [](char letter) { return letter == ' ' || letter == '\n'; });
+    return text;
+  }
+
+  support::TemporaryFolder folder_;
+};
+
+TEST_F(PdfReportTest, EveryPageTellsEquipmentTesterDateOperatorAndItsNumber) {
+  const auto pages = Pages(sample::Report(30));
+  ASSERT_GT(pages.size(), 3U);
+  for (std::size_t i = 0; i < pages.size(); ++i) {
+    for (const std::string& told :
+         {std::string("Equipment: VENT-0042"), std::string("Tester: KELD(IN), SIM-0001"),
+          std::string("Tested: 2026-11-21"), std::string("Operator: M. Holm"),
+          std::to_string(i + 1) + " / " + std::to_string(pages.size())})
+      EXPECT_THAT(pages[i], HasSubstr(told)) << "page " << i + 1;
+  }
+}
+
+TEST_F(PdfReportTest, TellsTheVerdictAndEveryElement) {
+  const auto text = Told(sample::Report(), "pdftotext -layout", "-");
+  for (const char* told : {"Failed", "1 of 3 failed, 2 passed", "Asset number", "1850", "Fails IEC 62353",
+                           "at most 300 mOhm", "broken", "Result:"})
+    EXPECT_THAT(text, HasSubstr(told));
+}
+
+TEST_F(PdfReportTest, APartialReportSaysSoOnEveryPage) {
+  auto report = sample::Report(30);
+  for (const auto& page : Pages(report)) EXPECT_THAT(page, Not(HasSubstr("Partial report")));
+  sample::MakePartial(report);
+  const auto pages = Pages(report);
+  ASSERT_GT(pages.size(), 3U);
+  for (const auto& page : pages) EXPECT_THAT(page, HasSubstr("Partial report: 1 of 3 not tested"));
+}
+
+TEST_F(PdfReportTest, HasTitleLanguageDateAndBookmarks) {
+  const auto info = Told(sample::Report(), "pdfinfo -isodates");
+  EXPECT_THAT(info, HasSubstr("Electrical safety test: VENT-0042 - Failed"));
+  EXPECT_THAT(info, HasSubstr("2026-11-21T14:03:22+01"));
+  EXPECT_THAT(info, HasSubstr("A4"));
+  const auto pdf = Pdf(sample::Report());
+  EXPECT_THAT(pdf, HasSubstr("/Lang <FEFF0065006E>"));
+  EXPECT_THAT(pdf, HasSubstr("/Count 3\n")) << "summary, overview, details";
+  EXPECT_THAT(pdf, HasSubstr("/Count -3\n")) << "the three tests, folded";
+  EXPECT_THAT(pdf, HasSubstr("/DisplayDocTitle true"));
+}
+
+TEST_F(PdfReportTest, FontsAreEmbedded) {
+  const auto fonts = Told(sample::Report(), "pdffonts");
+  std::istringstream lines(fonts);
+  std::string line;
+  std::getline(lines, line);
+  std::getline(lines, line);
+  int count = 0;
+  for (; std::getline(lines, line); ++count) EXPECT_THAT(line, HasSubstr("yes no  yes")) << fonts;
+  EXPECT_GT(count, 0);
+}
+
+TEST_F(PdfReportTest, SignsOfTheTradeAndEastAsianTextsComeOut) {
+  auto report = sample::Report();
+  report.facts = {{"Limits", "5 m\u03A9 \u2264 12 \u00B5A"}, {"Model", "\u4EBA\u5DE5\u547C\u5438\u5668"}};
+  const auto text = Told(report, "pdftotext", "-");
+  EXPECT_THAT(text, HasSubstr("m\u03A9 \u2264 12 \u00B5A"));
+  EXPECT_THAT(text, HasSubstr("\u4EBA\u5DE5\u547C\u5438\u5668"));
+}
+
+TEST_F(PdfReportTest, HostileTextsAreTextInEveryPlace) {
+  for (const std::string text :
+       {sample::Hostile::kScript, sample::Hostile::kMarkup, sample::Hostile::kQuotes})
+    EXPECT_THAT(WithoutSpaces(Told(sample::Everywhere(text), "pdftotext", "-")), HasSubstr(text));
+}
+
+TEST_F(PdfReportTest, ATextOfTenThousandLettersIsThereInFull) {
+  auto report = sample::Report();
+  report.sections[0].facts = {{"Comment", std::string(10000, 'W')}};
+  report.overview[0].name = std::string(10000, 'Q');
+  const auto text = Told(report, "pdftotext", "-");
+  EXPECT_EQ(std::count(text.begin(), text.end(), 'W'), 10000);
+  EXPECT_EQ(std::count(text.begin(), text.end(), 'Q'), 10000);
+}
+
+TEST_F(PdfReportTest, TenThousandLettersEverywhereAreWritten) {
+  EXPECT_GT(Pages(sample::Everywhere(std::string(10000, 'x'))).size(), 20U);
+}
+
+TEST_F(PdfReportTest, TheSameReportGivesTheSameBytes) {
+  EXPECT_EQ(Pdf(sample::Report(12)), Pdf(sample::Report(12)));
+}
+
+TEST_F(PdfReportTest, AMissingModuleIsToldWithWhatToDo) {
+  try {
+    WritePdf(sample::Report(), folder_.Path() / "none.so");
+    FAIL() << "there is no such module";
+  } catch (const orvik::HostError& error) {
+    EXPECT_EQ(error.Number(), orvik::HostError::kDeviceError);
+    EXPECT_THAT(error.Description(), HasSubstr("none.so"));
+    EXPECT_THAT(error.Description(), HasSubstr(".html"));
+  }
+}
+
+}  // namespace
+}  // namespace bench

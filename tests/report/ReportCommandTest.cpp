@@ -1,0 +1,65 @@
+#include <gmock/gmock.h>
+
+#include "tests/cli/CliTest.h"
+
+namespace cli {
+namespace {
+
+using testing::HasSubstr;
+
+class ReportCommandTest : public CliTest {};
+
+TEST_F(ReportCommandTest, EachEndingGivesItsKind) {
+  const auto file = NewDocument({"410"});
+  const auto begins = [this](const std::string& name) { return Contents(Path(name)).substr(0, 9); };
+  for (const char* name : {"a.html", "a.pdf", "a.txt", "B.PDF"}) {
+    const auto written = Bench({"report", file, "--to", Path(name)});
+    EXPECT_EQ(written.status, 0) << written.error;
+    EXPECT_EQ(written.out, Path(name) + "\n");
+  }
+  EXPECT_EQ(begins("a.html"), "<!DOCTYPE");
+  EXPECT_EQ(begins("a.pdf").substr(0, 5), "%PDF-");
+  EXPECT_EQ(begins("B.PDF").substr(0, 5), "%PDF-");
+  EXPECT_EQ(begins("a.txt"), "Electrica");
+}
+
+TEST_F(ReportCommandTest, AnotherEndingIsRefusedNamingTheThree) {
+  const auto file = NewDocument({"410"});
+  for (const char* name : {"a.doc", "a", "pdf", "a.html.gz"}) {
+    const auto refused = Bench({"report", file, "--to", Path(name)});
+    EXPECT_EQ(refused.status, 3);
+    for (const char* ending : {".html", ".pdf", ".txt"}) EXPECT_THAT(refused.error, HasSubstr(ending));
+    EXPECT_FALSE(std::filesystem::exists(Path(name)));
+  }
+}
+
+TEST_F(ReportCommandTest, APlaceThatCannotBeWrittenIsNamed) {
+  const auto file = NewDocument({"410"});
+  const auto refused = Bench({"report", file, "--to", Path("none/a.html")});
+  EXPECT_EQ(refused.status, 3);
+  EXPECT_THAT(refused.error, HasSubstr("none/a.html"));
+}
+
+TEST_F(ReportCommandTest, TheDocumentItselfIsNotOverwritten) {
+  std::filesystem::rename(NewDocument({"410"}), Path("d.html"));
+  const auto before = Contents(Path("d.html"));
+  EXPECT_EQ(Bench({"report", Path("d.html"), "--to", Path("./d.html")}).status, 3);
+  EXPECT_EQ(Contents(Path("d.html")), before);
+}
+
+TEST_F(ReportCommandTest, AnExistingReportIsReplacedAndTheSameDocumentGivesTheSameBytes) {
+  const auto file = NewDocument({"410"});
+  EXPECT_EQ(Bench(Simulated(file, "sound-class-1", {"--by", "M. Holm"})).status, 0);
+  for (const char* name : {"a.html", "a.pdf", "a.txt"}) {
+    Write(name, "old");
+    EXPECT_EQ(Bench({"report", file, "--to", Path(name)}).status, 0);
+    const auto first = Contents(Path(name));
+    EXPECT_GT(first.size(), 1000U);
+    EXPECT_EQ(Bench({"report", file, "--to", Path(name)}).status, 0);
+    EXPECT_EQ(Contents(Path(name)), first) << name;
+  }
+  EXPECT_THAT(Contents(Path("a.txt")), HasSubstr("M. Holm"));
+}
+
+}  // namespace
+}  // namespace cli

@@ -1,0 +1,127 @@
+#pragma once
+
+#include <string>
+
+#include "host/report/Report.h"
+
+namespace sample {
+
+/// Texts that would break an output that takes them for anything else than text.
+struct Hostile {
+  static constexpr char kScript[] = "<script>alert(1)</script>";
+  static constexpr char kMarkup[] = "a|b;c\\d{e}";
+  static constexpr char kQuotes[] = "\"'&lt;]]>--><!--";
+};
+
+inline bench::report::Words Words() {
+  bench::report::Words words;
+  words.summary = "Summary";
+  words.overview = "Overview";
+  words.details = "Tests in detail";
+  words.number = "No.";
+  words.test = "Test";
+  words.value = "Value";
+  words.unit = "Unit";
+  words.result = "Result";
+  words.limits = "Limits";
+  words.standard = "Standard";
+  words.bounds = "Limit";
+  words.judgement = "Judgement";
+  words.bar = "Value between its bounds";
+  words.record = "Record";
+  words.partial = "Partial";
+  words.nothing = "The document has no tests.";
+  return words;
+}
+
+inline bench::report::Judgement Judgement(std::optional<double> low, std::optional<double> high,
+                                          double value) {
+  using bench::report::Bar;
+  bench::report::Judgement judgement;
+  judgement.standard = "IEC 62353";
+  judgement.bounds = "at most 300 mOhm";
+  judgement.bar = bench::report::MakeBar(low, high, value);
+  const bool kept = judgement.bar && judgement.bar->place != Bar::Place::kAbove &&
+                    judgement.bar->place != Bar::Place::kBelow;
+  judgement.standing = kept ? bench::report::Standing::kPassed : bench::report::Standing::kFailed;
+  judgement.word = kept ? "kept" : "broken";
+  if (low) judgement.lowLabel = std::to_string(static_cast<int>(*low));
+  if (high) judgement.highLabel = std::to_string(static_cast<int>(*high));
+  judgement.valueLabel = std::to_string(static_cast<int>(value));
+  judgement.inWords = judgement.valueLabel + " mOhm is somewhere";
+  return judgement;
+}
+
+/// A report of `tests` elements, the second of which has failed.
+inline bench::report::Report Report(int tests = 3) {
+  using bench::report::Standing;
+  bench::report::Report report;
+  report.language = "en";
+  report.title = "Electrical safety test";
+  report.verdict = {Standing::kFailed, "Failed", "1 of 3 failed, 2 passed"};
+  report.words = Words();
+  report.facts = {{"Asset number", "VENT-0042"}, {"Tested", "2026-11-21 14:03"}, {"Operator", "M. Holm"}};
+  report.pageHeader = {{"Equipment", "VENT-0042"},
+                       {"Tester", "KELD(IN), SIM-0001"},
+                       {"Tested", "2026-11-21"},
+                       {"Operator", "M. Holm"}};
+  report.created = "2026-11-21T14:03:22+01:00";
+  for (int i = 1; i <= tests; ++i) {
+    const bool failed = i == 2;
+    const auto standing = failed ? Standing::kFailed : Standing::kPassed;
+    const std::string name = "Protective earth " + std::to_string(i);
+    report.overview.push_back(
+        {i, 0, name, failed ? "1850" : "123", "mOhm", standing, failed ? "failed" : "passed", true});
+    bench::report::Section section;
+    section.id = i;
+    section.name = name;
+    section.standing = standing;
+    section.word = failed ? "failed" : "passed";
+    section.value = failed ? "1850" : "123";
+    section.unit = "mOhm";
+    if (failed) section.notes.push_back({Standing::kFailed, "Fails IEC 62353"});
+    section.facts = {{"Tested", "2026-11-21 14:03"}};
+    section.judgements.push_back(Judgement({}, 300, failed ? 1850 : 123));
+    bench::report::Table table;
+    table.border = 7;
+    table.columns.resize(3);
+    table.columns[1].alignment = orvik::platform::Alignment::kRight;
+    for (auto& column : table.columns) column.width = 2000;
+    table.header = {{{{"Result:", true, true}}, {{"Value", true, true}}, {{"Unit", true, true}}}};
+    table.rows = {{{{section.name}}, {{section.value}}, {{section.unit}}}};
+    section.tables.push_back(table);
+    report.sections.push_back(section);
+  }
+  return report;
+}
+
+inline void MakePartial(bench::report::Report& report) {
+  report.partial = true;
+  report.partialNotice = "Partial report: 1 of 3 not tested";
+}
+
+/// The same text in every place that something from outside can come to.
+inline bench::report::Report Everywhere(const std::string& text) {
+  auto report = Report();
+  MakePartial(report);
+  report.title = report.verdict.word = report.verdict.sentence = report.partialNotice = text;
+  for (auto* facts : {&report.facts, &report.pageHeader})
+    for (auto& fact : *facts) fact = {text, text};
+  for (auto& row : report.overview) row.name = row.value = row.unit = row.word = text;
+  for (auto& section : report.sections) {
+    section.name = section.word = section.value = section.unit = text;
+    section.notes = {{bench::report::Standing::kOpen, text}};
+    section.facts = {{text, text}};
+    for (auto& judgement : section.judgements)
+      judgement.standard = judgement.bounds = judgement.word = judgement.lowLabel = judgement.highLabel =
+          judgement.valueLabel = judgement.inWords = text;
+    for (auto& table : section.tables) {
+      for (auto* rows : {&table.header, &table.rows})
+        for (auto& row : *rows)
+          for (auto& cell : row) cell = {{text, true, true}};
+    }
+  }
+  return report;
+}
+
+}  // namespace sample

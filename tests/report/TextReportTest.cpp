@@ -1,0 +1,74 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "host/report/TextReport.h"
+#include "tests/report/SampleReport.h"
+
+namespace bench {
+namespace {
+
+using testing::HasSubstr;
+using testing::Not;
+
+TEST(TextReport, TellsTheVerdictTheFactsAndEachElement) {
+  const auto text = TextReport(sample::Report());
+  for (const char* told :
+       {"[X]  FAILED", "1 of 3 failed, 2 passed", "Asset number   VENT-0042", "Operator       M. Holm",
+        "|   2 | Protective earth 2 |  1850 | mOhm | [X] failed |", "Fails IEC 62353",
+        "IEC 62353: at most 300 mOhm: broken", "1850 mOhm is somewhere"})
+    EXPECT_THAT(text, HasSubstr(told));
+}
+
+TEST(TextReport, APartialReportSaysSoAtBothEnds) {
+  auto report = sample::Report();
+  EXPECT_THAT(TextReport(report), Not(HasSubstr("***")));
+  sample::MakePartial(report);
+  const auto text = TextReport(report);
+  const auto mark = std::string("*** Partial report: 1 of 3 not tested ***");
+  EXPECT_LT(text.find(mark), text.find("Summary"));
+  EXPECT_TRUE(text.ends_with(mark + "\n"));
+}
+
+TEST(TextReport, LongTextsAreBrokenAndLoseNothing) {
+  const auto text = TextReport(sample::Everywhere(std::string(10000, 'W')));
+  const auto short_ = TextReport(sample::Everywhere("W"));
+  const auto times = std::count(short_.begin(), short_.end(), 'W');
+  EXPECT_EQ(std::count(text.begin(), text.end(), 'W'), times * 10000);
+}
+
+TEST(TextReport, HostileTextsAreTextInEveryPlace) {
+  for (const std::string text :
+       {sample::Hostile::kScript, sample::Hostile::kMarkup, sample::Hostile::kQuotes})
+    EXPECT_THAT(TextReport(sample::Everywhere(text)), HasSubstr("1  " + text));
+}
+
+TEST(TextReport, TheSameReportGivesTheSameBytes) {
+  EXPECT_EQ(TextReport(sample::Report()), TextReport(sample::Report()));
+}
+
+std::string BarFor(std::optional<double> low, std::optional<double> high, double value) {
+  return TextBar(*report::MakeBar(low, high, value));
+}
+
+TEST(TextBar, ShowsOnWhichSideOfABoundTheValueStands) {
+  const auto within = BarFor({}, 300, 100), at = BarFor({}, 300, 300), above = BarFor({}, 300, 301);
+  EXPECT_LT(within.find('*'), within.find('|'));
+  EXPECT_EQ(at.find('|'), std::string::npos) << "the value stands on the bound: " << at;
+  EXPECT_GT(above.find('*'), above.find('|'));
+  const auto below = BarFor(207, 253, 206);
+  EXPECT_LT(below.find('*'), below.find('|'));
+}
+
+TEST(TextBar, WithoutAnUpperBoundEverythingAboveIsAllowed) {
+  const auto bar = BarFor(2, {}, 3);
+  EXPECT_GT(bar.find('*'), bar.find('|'));
+  EXPECT_TRUE(bar.ends_with("=]"));
+}
+
+TEST(TextBar, AValueBeyondTheLineIsAnArrow) {
+  EXPECT_THAT(BarFor({}, 300, 1e6), testing::EndsWith(">]"));
+  EXPECT_THAT(BarFor(-1, 1, -1e6), testing::StartsWith("[<"));
+}
+
+}  // namespace
+}  // namespace bench

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "OrvikTypeLib/As.h"
+#include "platform/Controls.h"
+#include "platform/IForm.h"
+#include "tests/support/HostOnly.h"
+#include "ui/FPretestPrompt.h"
+#include "ui/FYesNoPrompt.h"
+
+namespace support {
+
+using Numbers = std::vector<std::int32_t>;
+
+/// The status notices of a prompt, whichever it is.
+template <class Told>
+orvik::platform::Subscription OnStatus(keld::FYesNoPrompt& prompt, Told told) {
+  return prompt.YesNoStatusChanged().Subscribe([told](std::int32_t status, const auto&) { told(status); });
+}
+template <class Told>
+orvik::platform::Subscription OnStatus(keld::FPretestPrompt& prompt, Told told) {
+  return prompt.PromptStatus().Subscribe([told](std::int32_t status) { told(status); });
+}
+
+/// What whoever uses a prompt calls to put its text.
+inline void SetText(keld::FYesNoPrompt& prompt) { prompt.SetPrompt("20999::Go on?"); }
+inline void SetText(keld::FPretestPrompt& prompt) { prompt.SetPrompt("Connect the lead.", ""); }
+
+/// The button of consent.
+inline const char* FirstButton(const keld::FYesNoPrompt&) { return "cmdAccept"; }
+inline const char* FirstButton(const keld::FPretestPrompt&) { return "cmdOK"; }
+
+inline void ClickOn(const orvik::platform::IForm& form, const std::string& button) {
+  orvik::Required(orvik::As<orvik::platform::IButton>(form.Find(button))).Click();
+}
+
+/// A prompt on the real host, with its status notices written down.
+template <class Prompt>
+class PromptTest : public testing::Test {
+ protected:
+  PromptTest()
+      : prompt_(Prompt::Create()),
+        listening_(OnStatus(*prompt_, [this](std::int32_t status) { statuses_.push_back(status); })) {}
+
+  std::shared_ptr<orvik::platform::IForm> Form() const { return prompt_->Form(); }
+  std::string Caption(const std::string& control) const { return Form()->Find(control)->Caption(); }
+  void Click(const std::string& button) const { ClickOn(*Form(), button); }
+
+  HostOnly host_;
+  std::shared_ptr<Prompt> prompt_;
+  Numbers statuses_;
+
+ private:
+  orvik::platform::Subscription listening_;
+};
+
+}  // namespace support
