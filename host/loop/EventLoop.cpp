@@ -12,22 +12,48 @@ ILoop::Id EventLoop::WatchReadable(int descriptor, std::function<void()> callbac
   if (Kind() == ClockKind::kVirtual)
     throw orvik::HostError(orvik::HostError::kInvalidArgument, "orvik-bench",
                            "a device cannot be watched on the virtual clock; use the real clock");
-  return poller_.Watch(descriptor, std::move(callback));
+  const Id id = poller_.Watch(descriptor, std::move(callback));
+  WatchesChanged();
+  return id;
 }
 
 ILoop::Id EventLoop::CallAt(Time when, std::function<void()> callback) {
   // Behind the calls of the round that is on, or one that renews itself in the past would keep them waiting.
-  return calls_.Add(std::max(when, lastRound_), std::move(callback));
+  const Id id = calls_.Add(std::max(when, lastRound_), std::move(callback));
+  WorkAdded();
+  return id;
 }
 
 void EventLoop::Forget(Id id) {
-  if (id & Poller::kWatchBit)
-    poller_.Forget(id);
-  else
-    calls_.Remove(id);
+  if (!(id & Poller::kWatchBit)) return calls_.Remove(id);
+  poller_.Forget(id);
+  WatchesChanged();
 }
 
-void EventLoop::Post(std::function<void()> work) { posted_.emplace_back(nextPosted_++, std::move(work)); }
+void EventLoop::Post(std::function<void()> work) {
+  posted_.emplace_back(nextPosted_++, std::move(work));
+  WorkAdded();
+}
+
+void EventLoop::SetSleeper(ISleeper* sleeper) {
+  sleeper_ = sleeper;
+  WatchesChanged();
+  WorkAdded();
+}
+
+std::chrono::nanoseconds EventLoop::UntilWork() const {
+  if (Pending()) return std::chrono::nanoseconds::zero();
+  const bool never = calls_.Empty() || Kind() == ClockKind::kVirtual;
+  return never ? std::chrono::nanoseconds::max() : clock_.SleepUntil(calls_.NextTime());
+}
+
+void EventLoop::WorkAdded() {
+  if (sleeper_) sleeper_->WorkAdded();
+}
+
+void EventLoop::WatchesChanged() {
+  if (sleeper_) sleeper_->Watch(poller_.Descriptors());
+}
 
 bool EventLoop::Process() { return Round(std::chrono::nanoseconds(0)); }
 
@@ -46,6 +72,7 @@ void EventLoop::Clear() {
   while (!posted_.empty()) posted_.pop_front();
   calls_.Clear();
   poller_.Clear();
+  WatchesChanged();
 }
 
 bool EventLoop::Pending() const {
@@ -53,6 +80,12 @@ bool EventLoop::Pending() const {
 }
 
 bool EventLoop::Round(std::chrono::nanoseconds sleep) {
+  if (sleeper_) {
+    // Before the marks: what the operator does meanwhile belongs to this round.
+    sleeper_->Sleep(sleep);
+    poller_.EmptyWakeDescriptor();
+    sleep = std::chrono::nanoseconds::zero();
+  }
   const std::uint64_t posted = nextPosted_;
   const std::uint64_t calls = calls_.Mark();
   bool processed = poller_.Poll(sleep);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <deque>
 #include <functional>
@@ -8,6 +9,7 @@
 #include "host/loop/CallQueue.h"
 #include "host/loop/Clock.h"
 #include "host/loop/ILoop.h"
+#include "host/loop/ISleeper.h"
 #include "host/loop/Poller.h"
 #include "platform/Event.h"
 
@@ -43,6 +45,12 @@ class EventLoop final : public ILoop {
   void Wake() noexcept { poller_.Wake(); }
   orvik::platform::Event<>& Woken() { return woken_; }
 
+  /// From now on all sleeping is done there; empty: here. The sleeper lives until it is taken away again.
+  void SetSleeper(ISleeper* sleeper);
+  /// How long the loop may sleep when nothing else happens: 0 when work is pending, the longest time there is
+  /// when nothing is due. On a virtual clock nothing falls due by waiting.
+  std::chrono::nanoseconds UntilWork() const;
+
   /// Processes what is pending; returns whether anything was.
   bool Process();
   WaitOutcome Wait(orvik::platform::Time deadline);
@@ -51,6 +59,8 @@ class EventLoop final : public ILoop {
 
  private:
   bool Pending() const;
+  void WorkAdded();
+  void WatchesChanged();
   bool Round(std::chrono::nanoseconds sleep);
   bool RunWake();
   bool RunPosted(std::uint64_t mark);
@@ -64,6 +74,7 @@ class EventLoop final : public ILoop {
   // The time whose calls were run last.
   orvik::platform::Time lastRound_{0};
   orvik::platform::Event<> woken_;
+  ISleeper* sleeper_ = nullptr;
 };
 
 }  // namespace bench

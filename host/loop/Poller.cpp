@@ -42,6 +42,12 @@ void Poller::Forget(Id id) {
   watches_.erase(found);
 }
 
+std::vector<int> Poller::Descriptors() const {
+  std::vector<int> descriptors{wakeDescriptor_};
+  for (const Watched& watched : watches_) descriptors.push_back(watched.descriptor);
+  return descriptors;
+}
+
 void Poller::Wake() noexcept {
   const int error = errno;
   woken_.store(true);
@@ -49,6 +55,11 @@ void Poller::Wake() noexcept {
   // A full counter refuses the write, and is awake already.
   [[maybe_unused]] const auto written = write(wakeDescriptor_, &one, sizeof one);
   errno = error;
+}
+
+void Poller::EmptyWakeDescriptor() noexcept {
+  std::uint64_t count = 0;
+  [[maybe_unused]] const auto taken = read(wakeDescriptor_, &count, sizeof count);
 }
 
 bool Poller::TakeWake() { return woken_.exchange(false); }
@@ -72,10 +83,7 @@ bool Poller::Sleep(std::chrono::nanoseconds longest) {
   const timespec limit{static_cast<time_t>(seconds.count()), static_cast<long>((longest - seconds).count())};
   const int ready = ppoll(polled_.data(), polled_.size(), &limit, nullptr);
   if (ready < 0 && errno != EINTR) Fail("waiting for devices failed");
-  if (ready > 0 && polled_.front().revents != 0) {
-    std::uint64_t count = 0;
-    [[maybe_unused]] const auto taken = read(wakeDescriptor_, &count, sizeof count);
-  }
+  if (ready > 0 && polled_.front().revents != 0) EmptyWakeDescriptor();
   return ready > 0;
 }
 

@@ -27,11 +27,15 @@ class Poller {
   /// An identifier that has ended changes nothing.
   void Forget(Id id);
   void Clear() { watches_.clear(); }
+  /// What a sleep looks at: the descriptor that `Wake` makes readable, then the watched ones.
+  std::vector<int> Descriptors() const;
 
   /// Ends a sleep, the present or the next one. May be called from a signal handler or another thread.
   void Wake() noexcept;
   /// Whether `Wake` has been called since the last time this was asked.
   bool TakeWake();
+  /// After a sleep elsewhere: the wake-up has done its work and must not end the next sleep too.
+  void EmptyWakeDescriptor() noexcept;
 
   /// Sleeps at most that long and calls back for what can be read. Returns whether it called anybody; a
   /// signal ends the sleep early. `HostError` 57 when the system refuses to wait.

@@ -27,6 +27,20 @@ void Application::Wake() noexcept { desktop_->Loop().Wake(); }
 
 platform::Event<>& Application::Woken() { return desktop_->Loop().Woken(); }
 
+void Application::SetScreen(IScreen* screen) { desktop_->SetScreen(screen); }
+
+std::chrono::nanoseconds Application::UntilWork() const { return desktop_->Loop().UntilWork(); }
+
+std::shared_ptr<Control> Application::Window(platform::WindowHandle handle) const {
+  return desktop_->Windows().Find(handle);
+}
+
+std::vector<std::shared_ptr<Control>> Application::WindowsInside(const Control& parent) const {
+  return desktop_->Windows().Inside(parent);
+}
+
+bool Application::IsModal(const Form& form) const { return desktop_->Forms().IsModal(form); }
+
 std::shared_ptr<platform::IForm> Application::CreateForm(const std::string& name) {
   return desktop_->Make<Form>(name);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <string>
@@ -16,7 +17,10 @@ class IUserControl;
 namespace bench::headless {
 
 using bench::ClockKind;
+class Control;
 class Desktop;
+class Form;
+class IScreen;
 
 /// The platform without a screen: windows are state only, and whoever operates them does it through their
 /// operations. On the virtual clock a wait takes no time: the clock jumps to the next timer, call or
@@ -45,6 +49,16 @@ class Application final : public orvik::platform::IApplication, public ILoop {
   /// or another thread may call.
   void Wake() noexcept;
   orvik::platform::Event<>& Woken();
+
+  /// Shows the windows on a screen from now on; empty: they are state only again. The screen lives until it
+  /// is taken away. How long it may sleep before something falls due: `EventLoop::UntilWork`.
+  void SetScreen(IScreen* screen);
+  std::chrono::nanoseconds UntilWork() const;
+  /// The window of that handle, or empty; and those that stand in one, in the order in which they were made.
+  std::shared_ptr<Control> Window(orvik::platform::WindowHandle handle) const;
+  std::vector<std::shared_ptr<Control>> WindowsInside(const Control& parent) const;
+  /// Whether the form keeps those that were shown before it from the operator.
+  bool IsModal(const Form& form) const;
 
   std::shared_ptr<orvik::platform::IForm> CreateForm(const std::string& name) override;
   std::vector<std::shared_ptr<orvik::platform::IForm>> Forms() const override;

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "host/toolkit/headless/TextSize.h"
+#include "host/toolkit/headless/IMetrics.h"
 
 namespace bench::headless {
 
@@ -13,7 +13,9 @@ void Button::Click() {
 
 platform::Size Button::NaturalSize() const {
   constexpr platform::Twips kNarrowest = 1215;
-  return {std::max(LineSize(Caption()).width + 4 * kCharacterWidth, kNarrowest), kLineHeight + 120};
+  const platform::Size text = Metrics().Line(Caption());
+  const platform::Size around = Metrics().Around(Part::kButton);
+  return {std::max(text.width + around.width, kNarrowest), text.height + around.height};
 }
 
 void Button::KeyPressed(int key, int) {

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
-#include "host/toolkit/headless/TextSize.h"
+#include "host/toolkit/headless/IMetrics.h"
 
 namespace bench::headless {
 
@@ -30,6 +30,11 @@ void ComboBox::SetText(const std::string& text) {
     Select(-1, text);
 }
 
+void ComboBox::SetEditable(bool editable) {
+  editable_ = editable;
+  NoteChange();
+}
+
 void ComboBox::Choose(int index) {
   const auto self = shared_from_this();
   if (BeginAction() && index >= 0) SetSelectedIndex(index);
@@ -41,14 +46,17 @@ void ComboBox::TypeOver(const std::string& text) {
 }
 
 platform::Size ComboBox::NaturalSize() const {
-  platform::Twips widest = 12 * kCharacterWidth;
-  for (const auto& item : items_) widest = std::max(widest, LineSize(item).width);
-  return {widest + 4 * kCharacterWidth, kLineHeight + 60};
+  const platform::Size character = Metrics().Character();
+  const platform::Size around = Metrics().Around(Part::kComboBox);
+  platform::Twips widest = 12 * character.width;
+  for (const auto& item : items_) widest = std::max(widest, Metrics().Line(item).width);
+  return {widest + around.width, character.height + around.height};
 }
 
 void ComboBox::Select(int index, const std::string& text) {
   const auto self = shared_from_this();
   text_ = text;
+  NoteChange();
   if (index == selected_) return;
   selected_ = index;
   selectedEvent_.Raise();

@@ -23,7 +23,7 @@ class ComboBox final : public Control, public virtual platform::IComboBox {
   /// Selects the entry of that text; in an editable box any other text ends the selection.
   void SetText(const std::string& text) override;
   bool Editable() const override { return editable_; }
-  void SetEditable(bool editable) override { editable_ = editable; }
+  void SetEditable(bool editable) override;
   platform::Event<>& Selected() override { return selectedEvent_; }
   platform::Event<>& LostFocus() override { return lostFocus_; }
   void Choose(int index) override;

@@ -5,6 +5,7 @@
 #include "OrvikTypeLib/HostError.h"
 #include "host/toolkit/headless/Desktop.h"
 #include "host/toolkit/headless/Form.h"
+#include "host/toolkit/headless/IScreen.h"
 #include "host/toolkit/headless/Panel.h"
 
 namespace bench::headless {
@@ -16,16 +17,32 @@ void Fail(std::int32_t number, const std::string& description) {
 Control::Control(std::shared_ptr<Desktop> desktop, std::string name)
     : desktop_(std::move(desktop)), name_(std::move(name)), handle_(desktop_->Windows().NextHandle()) {}
 
-Control::~Control() { desktop_->Windows().Remove(handle_); }
+Control::~Control() {
+  if (auto* screen = desktop_->Screen()) screen->Gone(*this);
+  desktop_->Windows().Remove(handle_);
+}
+
+void Control::NoteChange() {
+  if (auto* screen = desktop_->Screen()) screen->Changed(*this);
+}
+
+const IMetrics& Control::Metrics() const { return desktop_->Metrics(); }
 
 void Control::SetCaption(const std::string& text) {
   Apply([&] { caption_ = text; });
 }
 
+void Control::SetToolTip(const std::string& text) {
+  toolTip_ = text;
+  NoteChange();
+}
+
 void Control::SetBounds(const platform::Rect& bounds) {
   const platform::Rect old = bounds_;
   bounds_ = {bounds.left, bounds.top, std::max(bounds.width, 0), std::max(bounds.height, 0)};
-  if (bounds_ != old) BoundsChanged(old);
+  if (bounds_ == old) return;
+  NoteChange();
+  BoundsChanged(old);
 }
 
 void Control::SetVisible(bool visible) {
@@ -35,7 +52,13 @@ void Control::SetVisible(bool visible) {
 
 void Control::SetEnabled(bool enabled) {
   enabled_ = enabled;
+  NoteChange();
   LoseFocusWhenUnusable();
+}
+
+void Control::SetBackColor(platform::Color color) {
+  backColor_ = color;
+  NoteChange();
 }
 
 void Control::SetFocus() {
@@ -47,7 +70,12 @@ bool Control::HasFocus() const { return desktop_->Forms().Focused().get() == thi
 
 void Control::PlaceOn(const std::shared_ptr<Panel>& panel) {
   container_ = panel;
-  parent_ = panel;
+  SetParentWindow(panel);
+}
+
+void Control::SetParentWindow(const std::shared_ptr<Control>& parent) {
+  parent_ = parent;
+  NoteChange();
 }
 
 std::shared_ptr<Form> Control::TopForm() {

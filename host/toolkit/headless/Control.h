@@ -12,6 +12,7 @@ namespace platform = orvik::platform;
 
 class Desktop;
 class Form;
+class IMetrics;
 class Panel;
 
 /// What all windows of the headless toolkit have: state, a place, and the question whether the operator can
@@ -26,7 +27,7 @@ class Control : public virtual platform::IControl, public std::enable_shared_fro
   std::string Caption() const override { return caption_; }
   void SetCaption(const std::string& text) override;
   std::string ToolTip() const override { return toolTip_; }
-  void SetToolTip(const std::string& text) override { toolTip_ = text; }
+  void SetToolTip(const std::string& text) override;
   platform::Rect Bounds() const override { return bounds_; }
   void SetBounds(const platform::Rect& bounds) override;
   bool Visible() const override { return visible_; }
@@ -34,7 +35,7 @@ class Control : public virtual platform::IControl, public std::enable_shared_fro
   bool Enabled() const override { return enabled_; }
   void SetEnabled(bool enabled) override;
   platform::Color BackColor() const override { return backColor_; }
-  void SetBackColor(platform::Color color) override { backColor_ = color; }
+  void SetBackColor(platform::Color color) override;
   /// Where the control takes no focus, is hidden or disabled, nothing happens.
   void SetFocus() override;
   bool HasFocus() const override;
@@ -51,7 +52,7 @@ class Control : public virtual platform::IControl, public std::enable_shared_fro
   std::shared_ptr<Panel> Container() const { return container_.lock(); }
   /// The window that it is shown in; empty when it is in none.
   std::shared_ptr<Control> ParentWindow() const { return parent_.lock(); }
-  void SetParentWindow(const std::shared_ptr<Control>& parent) { parent_ = parent; }
+  void SetParentWindow(const std::shared_ptr<Control>& parent);
   /// The form in which the control is shown, or empty.
   virtual std::shared_ptr<Form> TopForm();
 
@@ -69,20 +70,24 @@ class Control : public virtual platform::IControl, public std::enable_shared_fro
   virtual void InnerSizeChanged();
   /// The form is unloaded: timers end, docked windows come home.
   virtual void Stop() {}
+  /// The screen, if there is one, shows the control as it is now.
+  void NoteChange();
 
  protected:
   /// Begins an action of the operator; false when it cannot reach the control. The form becomes active and
   /// the focus comes here first, as with a click.
   bool BeginAction();
-  /// Runs a change, then has the container lay itself out again if the natural size is another.
+  /// Runs a change and notes it, then has the container lay itself out again if the natural size is another.
   template <class Change>
   void Apply(Change&& change) {
     const auto before = LayoutSize();
     std::forward<Change>(change)();
+    NoteChange();
     if (LayoutSize() != before) InnerSizeChanged();
   }
   virtual void BoundsChanged(const platform::Rect& /*old*/) {}
   Desktop& GetDesktop() const { return *desktop_; }
+  const IMetrics& Metrics() const;
   std::shared_ptr<Desktop> SharedDesktop() const { return desktop_; }
 
   bool visible_ = true;

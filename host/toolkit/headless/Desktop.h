@@ -7,6 +7,8 @@
 
 #include "host/loop/EventLoop.h"
 #include "host/toolkit/headless/FormStack.h"
+#include "host/toolkit/headless/IScreen.h"
+#include "host/toolkit/headless/PlainMetrics.h"
 #include "host/toolkit/headless/WindowTable.h"
 #include "platform/IUserControl.h"
 
@@ -22,6 +24,12 @@ class Desktop : public std::enable_shared_from_this<Desktop> {
   EventLoop& Loop() { return loop_; }
   FormStack& Forms() { return forms_; }
   WindowTable& Windows() { return windows_; }
+
+  /// Shows the windows from now on, those that are there too; empty: they are state only. The screen lives
+  /// until it is taken away again.
+  void SetScreen(IScreen* screen);
+  IScreen* Screen() const { return screen_; }
+  const IMetrics& Metrics() const { return screen_ ? screen_->Metrics() : plain_; }
 
   /// A new window of the class, known by its handle.
   template <class Window, class... Args>
@@ -51,6 +59,8 @@ class Desktop : public std::enable_shared_from_this<Desktop> {
   EventLoop loop_;
   FormStack forms_;
   WindowTable windows_;
+  PlainMetrics plain_;
+  IScreen* screen_ = nullptr;
   ControlFactory factory_;
   platform::Event<> pumped_;
   std::function<void()> stalled_;

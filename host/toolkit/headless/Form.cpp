@@ -36,6 +36,11 @@ void Form::SetFocus() {
   GetDesktop().Forms().UpdateFocus();
 }
 
+void Form::SetTopmost(bool topmost) {
+  topmost_ = topmost;
+  NoteChange();
+}
+
 void Form::Load() {
   if (loaded_) return;
   loaded_ = true;
@@ -55,6 +60,7 @@ void Form::BecomeVisible() {
   visible_ = true;
   showOrder_ = GetDesktop().Forms().NextShowOrder();
   GetDesktop().NoteActivity();
+  NoteChange();
 }
 
 void Form::ShowModal(const std::shared_ptr<platform::IForm>& owner) {
@@ -66,6 +72,7 @@ void Form::ShowModal(const std::shared_ptr<platform::IForm>& owner) {
   forms.BeginModal(self);
   // A window that is open already blocks the others from now on.
   showOrder_ = forms.NextShowOrder();
+  NoteChange();
   try {
     RunModal();
   } catch (...) {
@@ -87,6 +94,7 @@ void Form::Hide() {
   const auto self = SelfForm();
   visible_ = false;
   ++hidden_;
+  NoteChange();
   GetDesktop().NoteActivity();
   GetDesktop().Forms().Hidden(self, std::exchange(owner_, {}).lock());
 }
@@ -100,6 +108,7 @@ void Form::Unload() {
     loaded_ = false;
     GetDesktop().Forms().RemoveLoaded(self);
     Stop();
+    NoteChange();
   };
   try {
     Hide();
@@ -121,14 +130,19 @@ void Form::Activate() {
 }
 
 void Form::PressKey(int key, int shift) {
-  if (!Answers()) return;
   const auto self = SelfForm();
-  Activate();
-  if (keyPreview_ && Answers()) keyDown_.Raise(key, shift);
-  if (!Answers()) return;
+  if (!PreviewKey(key, shift)) return;
   if (shift & kAlt) return ClickAccessKey(key);
   const auto focused = GetDesktop().Forms().Focused();
   if (focused && focused != self && focused->TopForm() == self) focused->KeyPressed(key, shift);
+}
+
+bool Form::PreviewKey(int key, int shift) {
+  if (!Answers()) return false;
+  const auto self = SelfForm();
+  Activate();
+  if (keyPreview_ && Answers()) keyDown_.Raise(key, shift);
+  return Answers();
 }
 
 void Form::ClickAccessKey(int key) {
@@ -151,6 +165,10 @@ void Form::Resize(platform::Size inner) {
   if (!Answers()) return;
   GetDesktop().NoteActivity();
   SetBounds({Bounds().left, Bounds().top, inner.width, inner.height});
+}
+
+void Form::MoveTo(platform::Twips left, platform::Twips top) {
+  Panel::SetBounds({left, top, Bounds().width, Bounds().height});
 }
 
 std::shared_ptr<Form> Form::TopForm() { return SelfForm(); }

@@ -30,7 +30,7 @@ class Form final : public Panel, public virtual platform::IForm {
 
   bool Active() const override;
   bool Topmost() const override { return topmost_; }
-  void SetTopmost(bool topmost) override { topmost_ = topmost; }
+  void SetTopmost(bool topmost) override;
   bool KeyPreview() const override { return keyPreview_; }
   void SetKeyPreview(bool preview) override { keyPreview_ = preview; }
 
@@ -44,8 +44,13 @@ class Form final : public Panel, public virtual platform::IForm {
   /// After the preview the key goes to the control that has the focus. With Alt (shift bit 4) it clicks the
   /// button whose caption marks it.
   void PressKey(int key, int shift) override;
+  /// The key as the form sees it, for whoever brings it to the control by other means; returns whether the
+  /// form still answers the operator.
+  bool PreviewKey(int key, int shift);
   void Close() override;
   void Resize(platform::Size inner) override;
+  /// The operator has dragged the title bar.
+  void MoveTo(platform::Twips left, platform::Twips top);
 
   std::shared_ptr<Form> TopForm() override;
   bool Answers() override;

@@ -45,6 +45,7 @@ void FormStack::Activate(const std::shared_ptr<Form>& form) {
   active_ = form;
   Drop(history_, form.get());
   history_.push_back(form);
+  form->NoteChange();
   form->BecomeActive();
 }
 
@@ -73,6 +74,7 @@ void FormStack::UpdateFocus() {
   const auto old = Focused();
   if (old == next) return;
   focused_ = next;
+  if (next) next->NoteChange();
   if (old) old->FocusLeft();
   if (next && Focused() == next) next->FocusArrived();
 }

@@ -1,15 +1,16 @@
 #include "host/toolkit/headless/Label.h"
 
-#include "host/toolkit/headless/TextSize.h"
+#include "host/toolkit/headless/IMetrics.h"
 
 namespace bench::headless {
 
-platform::Size Label::NaturalSize() const { return WrappedSize(Caption()); }
+platform::Size Label::NaturalSize() const { return Metrics().Wrapped(Caption()); }
 
 platform::Size Frame::NaturalSize() const {
-  const platform::Size caption = LineSize(Caption());
+  const platform::Size caption = Metrics().Line(Caption());
   // Room for the border and for one line inside.
-  return {caption.width + 4 * kCharacterWidth, 2 * caption.height};
+  const platform::Size around = Metrics().Around(Part::kFrame);
+  return {caption.width + around.width, caption.height + around.height};
 }
 
 }  // namespace bench::headless

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "OrvikTypeLib/HostError.h"
+#include "host/toolkit/headless/IMetrics.h"
 #include "host/toolkit/headless/TextSize.h"
 
 namespace bench::headless {
@@ -31,6 +32,7 @@ void ListView::AddRow(const std::string& rowKey) {
   if (!rowIndex_.emplace(rowKey, rows_.size()).second)
     Fail(HostError::kInvalidArgument, "list \"" + Name() + "\" already has a row \"" + rowKey + "\"");
   rows_.push_back({rowKey, {}, {}});
+  NoteChange();
 }
 
 void ListView::ClearRows() {
@@ -39,6 +41,8 @@ void ListView::ClearRows() {
   rowIndex_.clear();
   selectedRow_.clear();
   firstShown_ = 0;
+  ensuredPlace_ = -1;
+  NoteChange();
 }
 
 void ListView::SetRowTag(const std::string& rowKey, std::any tag) {
@@ -57,6 +61,7 @@ void ListView::SetCell(const std::string& rowKey, const std::string& columnKey,
   const std::size_t column = ColumnIndex(columnKey);
   if (row.cells.size() <= column) row.cells.resize(column + 1);
   const auto old = std::exchange(row.cells[column], cell);
+  NoteChange();
 }
 
 void ListView::EnsureVisible(const std::string& rowKey) {
@@ -64,23 +69,44 @@ void ListView::EnsureVisible(const std::string& rowKey) {
   const auto shown = static_cast<std::size_t>(std::max(1, Bounds().height / kLineHeight - 1));
   if (row < firstShown_) firstShown_ = row;
   if (row >= firstShown_ + shown) firstShown_ = row - shown + 1;
+  ensuredPlace_ = static_cast<int>(row);
+  NoteChange();
 }
 
-void ListView::SelectRow(const std::string& rowKey) { selectedRow_ = RowAt(rowKey).key; }
+void ListView::SelectRow(const std::string& rowKey) {
+  selectedRow_ = RowAt(rowKey).key;
+  NoteChange();
+}
 
 void ListView::ClickAt(const platform::MouseEvent& event) {
+  const platform::Twips line = event.y / kLineHeight;
+  ClickRow(line >= 1 ? static_cast<int>(firstShown_) + line - 1 : -1, event);
+}
+
+void ListView::ClickRow(int row, const platform::MouseEvent& event) {
   const auto self = shared_from_this();
   if (!BeginAction()) return;
-  const platform::Twips line = event.y / kLineHeight;
-  const std::size_t row = firstShown_ + static_cast<std::size_t>(std::max(line, 1)) - 1;
-  if (line >= 1 && row < rows_.size()) selectedRow_ = rows_[row].key;
+  if (row >= 0 && row < RowCount()) SelectRow(RowKeyAt(row));
   mouseUp_.Raise(event);
+}
+
+const platform::ListCell* ListView::CellAt(int row, int column) const {
+  const auto& cells = rows_[static_cast<std::size_t>(row)].cells;
+  const auto place = static_cast<std::size_t>(column);
+  return place < cells.size() ? &cells[place] : nullptr;
+}
+
+int ListView::SelectedPlace() const {
+  const auto found = rowIndex_.find(selectedRow_);
+  return found == rowIndex_.end() ? -1 : static_cast<int>(found->second);
 }
 
 platform::Size ListView::NaturalSize() const {
   platform::Twips width = 0;
   for (const auto& column : columns_) width += column.width;
-  return {std::max(width, 20 * kCharacterWidth), 8 * kLineHeight};
+  const platform::Size character = Metrics().Character();
+  return {std::max(width, 20 * character.width),
+          8 * (character.height + Metrics().Around(Part::kListRow).height)};
 }
 
 std::size_t ListView::RowIndex(const std::string& rowKey) const {

@@ -33,6 +33,15 @@ class ListView final : public Control, public virtual platform::IListView {
   std::string SelectedRow() const override { return selectedRow_; }
   platform::Event<const platform::MouseEvent&>& MouseUp() override { return mouseUp_; }
   void ClickAt(const platform::MouseEvent& event) override;
+  /// The same for whoever knows which row is under the pointer; -1 where there is none.
+  void ClickRow(int row, const platform::MouseEvent& event);
+
+  /// Rows and cells by their place, for those who show them; the cell is null when it was never set.
+  const std::string& RowKeyAt(int row) const { return rows_[static_cast<std::size_t>(row)].key; }
+  const platform::ListCell* CellAt(int row, int column) const;
+  /// The place of the selected row, and of the one that was last asked to be visible; -1 when there is none.
+  int SelectedPlace() const;
+  int EnsuredPlace() const { return ensuredPlace_; }
 
   platform::Size NaturalSize() const override;
   bool TakesFocus() const override { return true; }
@@ -54,6 +63,7 @@ class ListView final : public Control, public virtual platform::IListView {
   std::unordered_map<std::string, std::size_t> rowIndex_;
   std::string selectedRow_;
   std::size_t firstShown_ = 0;
+  int ensuredPlace_ = -1;
   platform::Event<const platform::MouseEvent&> mouseUp_;
 };
 

@@ -1,5 +1,7 @@
 #include "host/toolkit/headless/ProgressBar.h"
 
+#include <algorithm>
+
 #include "OrvikTypeLib/HostError.h"
 
 namespace bench::headless {
@@ -11,6 +13,11 @@ void ProgressBar::SetRange(int minimum, int maximum) {
   minimum_ = minimum;
   maximum_ = maximum;
   SetValue(value_);
+}
+
+void ProgressBar::SetValue(int value) {
+  value_ = std::clamp(value, minimum_, maximum_);
+  NoteChange();
 }
 
 }  // namespace bench::headless

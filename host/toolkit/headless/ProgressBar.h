@@ -1,7 +1,5 @@
 #pragma once
 
-#include <algorithm>
-
 #include "host/toolkit/headless/Control.h"
 #include "platform/Controls.h"
 
@@ -17,7 +15,7 @@ class ProgressBar final : public Control, public virtual platform::IProgressBar 
   /// `HostError` 5 when the maximum is below the minimum.
   void SetRange(int minimum, int maximum) override;
   int Value() const override { return value_; }
-  void SetValue(int value) override { value_ = std::clamp(value, minimum_, maximum_); }
+  void SetValue(int value) override;
 
   platform::Size NaturalSize() const override { return {3000, 300}; }
 

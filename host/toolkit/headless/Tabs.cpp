@@ -5,17 +5,12 @@
 #include "OrvikTypeLib/HostError.h"
 #include "host/toolkit/headless/Desktop.h"
 #include "host/toolkit/headless/Form.h"
+#include "host/toolkit/headless/IMetrics.h"
 #include "host/toolkit/headless/Panel.h"
-#include "host/toolkit/headless/TextSize.h"
 
 namespace bench::headless {
-namespace {
 
 using orvik::HostError;
-
-constexpr platform::Twips kCaptionsHeight = kLineHeight + 120;
-
-}  // namespace
 
 std::shared_ptr<platform::IPanel> Tabs::AddPage(const std::string& key, const std::string& caption) {
   if (Find(key)) Fail(HostError::kInvalidArgument, "\"" + Name() + "\" already has a page \"" + key + "\"");
@@ -30,6 +25,7 @@ std::shared_ptr<platform::IPanel> Tabs::AddPage(const std::string& key, const st
 
 void Tabs::SetPageBitmap(const std::string& key, std::span<const std::byte> bitmap) {
   const_cast<PageEntry&>(Required(key)).bitmap.assign(bitmap.begin(), bitmap.end());
+  NoteChange();
 }
 
 std::vector<std::byte> Tabs::PageBitmap(const std::string& key) const { return Required(key).bitmap; }
@@ -59,9 +55,13 @@ platform::Size Tabs::NaturalSize() const {
   for (const PageEntry& page : pages_) {
     const platform::Size inside = page.panel->NaturalSize();
     size = {std::max(size.width, inside.width), std::max(size.height, inside.height)};
-    captions += LineSize(page.caption).width + 3 * kCharacterWidth;
+    captions += Metrics().Line(page.caption).width + Metrics().Around(Part::kTabCaption).width;
   }
-  return {std::max(size.width, captions), size.height + kCaptionsHeight};
+  return {std::max(size.width, captions), size.height + CaptionsHeight()};
+}
+
+platform::Twips Tabs::CaptionsHeight() const {
+  return Metrics().Character().height + Metrics().Around(Part::kTabCaption).height;
 }
 
 void Tabs::Stop() {
@@ -84,13 +84,15 @@ const Tabs::PageEntry& Tabs::Required(const std::string& key) const {
 
 void Tabs::Select(const std::string& key) {
   selected_ = key;
+  NoteChange();
   const auto pages = pages_;
   for (const PageEntry& page : pages) page.panel->Control::SetVisible(page.key == selected_);
 }
 
 void Tabs::PlacePages() {
   const auto pages = pages_;
-  const platform::Rect inside{0, kCaptionsHeight, Bounds().width, Bounds().height - kCaptionsHeight};
+  const platform::Twips captions = CaptionsHeight();
+  const platform::Rect inside{0, captions, Bounds().width, Bounds().height - captions};
   for (const PageEntry& page : pages) page.panel->SetBounds(inside);
 }
 

@@ -46,6 +46,7 @@ class Tabs final : public Control, public virtual platform::ITabs {
   const PageEntry& Required(const std::string& key) const;
   void Select(const std::string& key);
   void PlacePages();
+  platform::Twips CaptionsHeight() const;
 
   std::vector<PageEntry> pages_;
   std::string selected_;

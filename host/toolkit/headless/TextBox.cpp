@@ -1,6 +1,6 @@
 #include "host/toolkit/headless/TextBox.h"
 
-#include "host/toolkit/headless/TextSize.h"
+#include "host/toolkit/headless/IMetrics.h"
 
 namespace bench::headless {
 
@@ -8,7 +8,13 @@ void TextBox::SetText(const std::string& text) {
   if (text == text_) return;
   const auto self = shared_from_this();
   text_ = text;
+  NoteChange();
   changed_.Raise();
+}
+
+void TextBox::SetLocked(bool locked) {
+  locked_ = locked;
+  NoteChange();
 }
 
 void TextBox::SetMultiLine(bool multiLine) {
@@ -26,8 +32,10 @@ void TextBox::TypeOver(const std::string& text) {
 }
 
 platform::Size TextBox::NaturalSize() const {
-  return multiLine_ ? platform::Size{40 * kCharacterWidth, 5 * kLineHeight}
-                    : platform::Size{20 * kCharacterWidth, kLineHeight + 60};
+  const platform::Size character = Metrics().Character();
+  const platform::Size around = Metrics().Around(Part::kTextBox);
+  return multiLine_ ? platform::Size{40 * character.width, 5 * character.height}
+                    : platform::Size{20 * character.width + around.width, character.height + around.height};
 }
 
 void TextBox::KeyPressed(int key, int shift) {

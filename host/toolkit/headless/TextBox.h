@@ -14,7 +14,7 @@ class TextBox final : public Control, public virtual platform::ITextBox {
   std::string Text() const override { return text_; }
   void SetText(const std::string& text) override;
   bool Locked() const override { return locked_; }
-  void SetLocked(bool locked) override { locked_ = locked; }
+  void SetLocked(bool locked) override;
   bool MultiLine() const override { return multiLine_; }
   void SetMultiLine(bool multiLine) override;
   platform::Event<>& Changed() override { return changed_; }

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "OrvikTypeLib/HostError.h"
-#include "host/toolkit/headless/TextSize.h"
+#include "host/toolkit/headless/IMetrics.h"
 
 namespace bench::headless {
 
@@ -45,7 +45,7 @@ std::string Toolbar::CommandCaption(int command) const {
 }
 
 void Toolbar::SetCommandToolTip(int command, const std::string& text) {
-  if (Item* item = Find(command)) item->toolTip = text;
+  if (Item* item = Find(command)) Apply([&] { item->toolTip = text; });
 }
 
 std::string Toolbar::CommandToolTip(int command) const {
@@ -59,7 +59,7 @@ bool Toolbar::CommandEnabled(int command) const {
 }
 
 void Toolbar::EnableCommand(int command, bool enabled) {
-  if (Item* item = Find(command)) item->enabled = enabled;
+  if (Item* item = Find(command)) Apply([&] { item->enabled = enabled; });
 }
 
 bool Toolbar::CommandVisible(int command) const {
@@ -79,11 +79,12 @@ void Toolbar::Click(int command) {
 }
 
 platform::Size Toolbar::NaturalSize() const {
+  const platform::Size around = Metrics().Around(Part::kToolButton);
   platform::Twips width = 0;
   for (const Item& item : items_) {
-    if (item.visible && !item.isEntry) width += LineSize(item.caption).width + 3 * kCharacterWidth;
+    if (item.visible && !item.isEntry) width += Metrics().Line(item.caption).width + around.width;
   }
-  return {width, kLineHeight + 150};
+  return {width, Metrics().Character().height + around.height};
 }
 
 const Toolbar::Item* Toolbar::Find(int command) const {

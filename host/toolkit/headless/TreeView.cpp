@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "OrvikTypeLib/HostError.h"
-#include "host/toolkit/headless/TextSize.h"
+#include "host/toolkit/headless/IMetrics.h"
 
 namespace bench::headless {
 
@@ -32,7 +32,9 @@ void TreeView::SetNodeCaption(const std::string& key, const std::string& caption
 }
 
 void TreeView::SetChecked(const std::string& key, bool checked) {
-  if (HasNode(key)) nodes_[Index(key)].checked = checked;
+  if (!HasNode(key)) return;
+  nodes_[Index(key)].checked = checked;
+  NoteChange();
 }
 
 void TreeView::ClickNode(const std::string& key) {
@@ -42,14 +44,17 @@ void TreeView::ClickNode(const std::string& key) {
   if (!BeginAction() || !HasNode(clicked)) return;
   Node& node = nodes_[Index(clicked)];
   node.checked = !node.checked;
+  NoteChange();
   nodeClicked_.Raise(clicked);
 }
 
 platform::Size TreeView::NaturalSize() const {
-  platform::Twips widest = 20 * kCharacterWidth;
-  for (const Node& node : nodes_) widest = std::max(widest, LineSize(node.caption).width);
+  const platform::Size character = Metrics().Character();
+  const platform::Size around = Metrics().Around(Part::kTreeNode);
+  platform::Twips widest = 20 * character.width;
+  for (const Node& node : nodes_) widest = std::max(widest, Metrics().Line(node.caption).width);
   const auto lines = std::clamp<std::size_t>(nodes_.size(), 6, 14);
-  return {widest + 4 * kCharacterWidth, static_cast<platform::Twips>(lines) * kLineHeight};
+  return {widest + around.width, static_cast<platform::Twips>(lines) * (character.height + around.height)};
 }
 
 std::size_t TreeView::Index(const std::string& key) const {

@@ -1,6 +1,8 @@
 #include "host/toolkit/headless/WindowTable.h"
 
+#include <algorithm>
 #include <string>
+#include <utility>
 
 #include "OrvikTypeLib/HostError.h"
 #include "host/toolkit/headless/ContainerSite.h"
@@ -16,6 +18,21 @@ void WindowTable::Add(const std::shared_ptr<Control>& window) { windows_[window-
 std::shared_ptr<Control> WindowTable::Find(platform::WindowHandle handle) const {
   const auto found = windows_.find(handle);
   return found == windows_.end() ? nullptr : found->second.lock();
+}
+
+std::vector<std::shared_ptr<Control>> WindowTable::All() const {
+  std::vector<std::shared_ptr<Control>> all;
+  for (const auto& entry : windows_) {
+    if (auto window = entry.second.lock()) all.push_back(std::move(window));
+  }
+  std::sort(all.begin(), all.end(), [](const auto& a, const auto& b) { return a->Handle() < b->Handle(); });
+  return all;
+}
+
+std::vector<std::shared_ptr<Control>> WindowTable::Inside(const Control& parent) const {
+  auto inside = All();
+  std::erase_if(inside, [&](const auto& window) { return window->ParentWindow().get() != &parent; });
+  return inside;
 }
 
 void WindowTable::SetParent(platform::WindowHandle child, platform::WindowHandle parent) {

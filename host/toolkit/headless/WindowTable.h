@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <unordered_map>
+#include <vector>
 
 #include "platform/Types.h"
 
@@ -20,6 +21,9 @@ class WindowTable {
   void Remove(platform::WindowHandle handle) { windows_.erase(handle); }
   /// The window, or empty when it is gone.
   std::shared_ptr<Control> Find(platform::WindowHandle handle) const;
+  /// All windows in the order in which they were made, and those that stand in one.
+  std::vector<std::shared_ptr<Control>> All() const;
+  std::vector<std::shared_ptr<Control>> Inside(const Control& parent) const;
 
   /// Makes one window the child of another; 0 leaves it in none. A site and the panel inside it are one
   /// window: either handle moves both. `HostError` 5 for a handle that is gone, a child that is neither panel
