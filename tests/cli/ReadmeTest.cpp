@@ -29,8 +29,9 @@ class ReadmeTest : public CliTest {
  protected:
   /// What a person sees who types the command in an empty folder of its own.
   std::string Typed(const std::string& command) const {
+    const auto programs = std::filesystem::path(ORVIK_BENCH_PATH).parent_path().string();
     const auto line =
-        "cd '" + folder_.Path().string() + "' && PATH='" BIN_FOLDER "':$PATH && " + command + " 2>&1";
+        "cd '" + folder_.Path().string() + "' && PATH='" + programs + "':$PATH && " + command + " 2>&1";
     return RunningProgram("/bin/sh", {"-c", line}).Wait().out;
   }
 };

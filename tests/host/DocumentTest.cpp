@@ -120,12 +120,12 @@ TEST_F(DocumentTest, AddedTestIsACopyOfTheCatalogues) {
   EXPECT_EQ(document->AddTest(110)->Information()->DisplayName(), "Voltage");
 }
 
-struct Malformed {
+struct DocumentFault {
   const char* text;
   const char* complaint;
 };
 
-class MalformedDocument : public DocumentTest, public ::testing::WithParamInterface<Malformed> {};
+class MalformedDocument : public DocumentTest, public ::testing::WithParamInterface<DocumentFault> {};
 
 TEST_P(MalformedDocument, IsRefusedWithFileAndReasonAndLeftAsItIs) {
   const auto text = Refusal(GetParam().text);
@@ -137,44 +137,47 @@ TEST_P(MalformedDocument, IsRefusedWithFileAndReasonAndLeftAsItIs) {
 INSTANTIATE_TEST_SUITE_P(
     Texts, MalformedDocument,
     ::testing::Values(
-        Malformed{"", "no root element"}, Malformed{"no xml", "line 1"},
-        Malformed{"<OrvikDocument Version='1'>\n<Elements>\n", "line 2"},
-        Malformed{"<OrvikDocument Version='1'>\n</OrvikDocument>\ntrailing", "line 3"},
-        Malformed{"<Other Version='1'/>", "line 1: this is no test document"},
-        Malformed{"<OrvikDocument/>", "\"Version\" of \"OrvikDocument\" is not a whole number"},
-        Malformed{"<OrvikDocument Version='one'/>", "is not a whole number"},
-        Malformed{"<OrvikDocument Version='2'/>", "newer version of this program (format 2"},
-        Malformed{"<OrvikDocument Version='0'/>", "no document format 0"},
-        Malformed{"<OrvikDocument Version='1'>\n<Elements>\n<TestElement/></Elements></OrvikDocument>",
-                  "line 3: the attribute \"ID\" of \"TestElement\""},
-        Malformed{"<OrvikDocument Version='1'><Elements>\n<TestElement ID='0' TestID='110'/>"
-                  "</Elements></OrvikDocument>",
-                  "line 2: the identifier 0 is below 1"},
-        Malformed{
+        DocumentFault{"", "no root element"}, DocumentFault{"no xml", "line 1"},
+        DocumentFault{"<OrvikDocument Version='1'>\n<Elements>\n", "line 2"},
+        DocumentFault{"<OrvikDocument Version='1'>\n</OrvikDocument>\ntrailing", "line 3"},
+        DocumentFault{"<Other Version='1'/>", "line 1: this is no test document"},
+        DocumentFault{"<OrvikDocument/>", "\"Version\" of \"OrvikDocument\" is not a whole number"},
+        DocumentFault{"<OrvikDocument Version='one'/>", "is not a whole number"},
+        DocumentFault{"<OrvikDocument Version='2'/>", "newer version of this program (format 2"},
+        DocumentFault{"<OrvikDocument Version='0'/>", "no document format 0"},
+        DocumentFault{"<OrvikDocument Version='1'>\n<Elements>\n<TestElement/></Elements></OrvikDocument>",
+                      "line 3: the attribute \"ID\" of \"TestElement\""},
+        DocumentFault{"<OrvikDocument Version='1'><Elements>\n<TestElement ID='0' TestID='110'/>"
+                      "</Elements></OrvikDocument>",
+                      "line 2: the identifier 0 is below 1"},
+        DocumentFault{
             "<OrvikDocument Version='1'><Elements><TestElement ID='5' TestID='110' PlugInID='SAMPLE'/>\n"
             "<TestElement ID='6' TestID='1' PlugInID='GONE'>\n<TestElement ID='5' TestID='1'/></TestElement>"
             "</Elements></OrvikDocument>",
             "line 3: the identifier 5 is used twice"},
-        Malformed{"<OrvikDocument Version='1'><Elements>\n<TestElement ID='1' TestID='x'/>"
-                  "</Elements></OrvikDocument>",
-                  "line 2: the attribute \"TestID\""},
-        Malformed{"<OrvikDocument Version='1'><Elements><TestElement ID='1' TestID='100' PlugInID='SAMPLE' "
-                  "Class='sample.Sequence'>\n<TestElement ID='2' "
-                  "TestID='x'/></TestElement></Elements></OrvikDocument>",
-                  "line 2: the attribute \"TestID\""},
-        Malformed{"<OrvikDocument Version='1'><Elements><TestElement ID='1' TestID='110' PlugInID='SAMPLE' "
-                  "Class='sample.Element'>\n<ResultItem><Status>passed</Status></ResultItem></TestElement>"
-                  "</Elements></OrvikDocument>",
-                  "line 2: the status is not a number"},
-        Malformed{"<OrvikDocument Version='1'><Elements><TestElement ID='1' TestID='110' PlugInID='SAMPLE' "
-                  "Class='sample.Element'><ExpectedResult>\n<Standard>\n<Limit High='110%'/></Standard>"
-                  "</ExpectedResult></TestElement></Elements></OrvikDocument>",
-                  "line 3: a bound in percent"},
-        Malformed{
+        DocumentFault{"<OrvikDocument Version='1'><Elements>\n<TestElement ID='1' TestID='x'/>"
+                      "</Elements></OrvikDocument>",
+                      "line 2: the attribute \"TestID\""},
+        DocumentFault{
+            "<OrvikDocument Version='1'><Elements><TestElement ID='1' TestID='100' PlugInID='SAMPLE' "
+            "Class='sample.Sequence'>\n<TestElement ID='2' "
+            "TestID='x'/></TestElement></Elements></OrvikDocument>",
+            "line 2: the attribute \"TestID\""},
+        DocumentFault{
+            "<OrvikDocument Version='1'><Elements><TestElement ID='1' TestID='110' PlugInID='SAMPLE' "
+            "Class='sample.Element'>\n<ResultItem><Status>passed</Status></ResultItem></TestElement>"
+            "</Elements></OrvikDocument>",
+            "line 2: the status is not a number"},
+        DocumentFault{
+            "<OrvikDocument Version='1'><Elements><TestElement ID='1' TestID='110' PlugInID='SAMPLE' "
+            "Class='sample.Element'><ExpectedResult>\n<Standard>\n<Limit High='110%'/></Standard>"
+            "</ExpectedResult></TestElement></Elements></OrvikDocument>",
+            "line 3: a bound in percent"},
+        DocumentFault{
             "<OrvikDocument Version='1'>\n<Standards><Standard Number='x'/></Standards></OrvikDocument>",
             "line 2"},
-        Malformed{"<OrvikDocument Version='1'>\n<Instruments><Instrument/></Instruments></OrvikDocument>",
-                  "line 2"}));
+        DocumentFault{"<OrvikDocument Version='1'>\n<Instruments><Instrument/></Instruments></OrvikDocument>",
+                      "line 2"}));
 
 TEST_F(DocumentTest, NestingBeyondTheBoundIsRefusedWithoutTryingIt) {
   for (const int levels : {kDeepestNesting + 1, 10000}) {

@@ -16,21 +16,21 @@ std::string Restored(const Leftovers& leftovers, const char* into = "<a/>") {
   return text.str();
 }
 
-pugi::xml_document Parsed(const char* text) {
+pugi::xml_document ParsedWithComments(const char* text) {
   pugi::xml_document document;
   document.load_string(text, pugi::parse_default | pugi::parse_comments);
   return document;
 }
 
 TEST(Leftovers, KeepWhatIsNotNamed) {
-  const auto document = Parsed("<a k='1' x='2'><known/><new><deep/></new><!--note-->text</a>");
+  const auto document = ParsedWithComments("<a k='1' x='2'><known/><new><deep/></new><!--note-->text</a>");
   Leftovers leftovers;
   leftovers.Take(document.document_element(), {"k"}, {"known"});
   EXPECT_EQ(Restored(leftovers), "<a x=\"2\"><new><deep/></new><!--note-->text</a>");
 }
 
 TEST(Leftovers, NothingIsKeptOfAKnownNode) {
-  const auto document = Parsed("<a k='1'><known/></a>");
+  const auto document = ParsedWithComments("<a k='1'><known/></a>");
   Leftovers leftovers;
   leftovers.Take(document.document_element(), {"k"}, {"known"});
   EXPECT_TRUE(leftovers.Empty());
@@ -39,8 +39,8 @@ TEST(Leftovers, NothingIsKeptOfAKnownNode) {
 
 TEST(Leftovers, TakingAgainReplacesWhatWasKept) {
   Leftovers leftovers;
-  leftovers.Take(Parsed("<a x='1'/>").document_element(), {}, {});
-  leftovers.Take(Parsed("<a y='1'/>").document_element(), {}, {});
+  leftovers.Take(ParsedWithComments("<a x='1'/>").document_element(), {}, {});
+  leftovers.Take(ParsedWithComments("<a y='1'/>").document_element(), {}, {});
   EXPECT_EQ(Restored(leftovers), "<a y=\"1\"/>");
   leftovers.Take({}, {}, {});
   EXPECT_TRUE(leftovers.Empty());
@@ -48,18 +48,18 @@ TEST(Leftovers, TakingAgainReplacesWhatWasKept) {
 
 TEST(Leftovers, AttributeThatIsThereByNowStays) {
   Leftovers leftovers;
-  leftovers.Take(Parsed("<a x='old'/>").document_element(), {}, {});
+  leftovers.Take(ParsedWithComments("<a x='old'/>").document_element(), {}, {});
   EXPECT_EQ(Restored(leftovers, "<a x='new'/>"), "<a x=\"new\"/>");
 }
 
 TEST(Leftovers, CopiesAreIndependent) {
   Leftovers first;
-  first.Take(Parsed("<a x='1'/>").document_element(), {}, {});
+  first.Take(ParsedWithComments("<a x='1'/>").document_element(), {}, {});
   Leftovers second = first;
   first = {};
   EXPECT_TRUE(first.Empty());
   EXPECT_EQ(Restored(second), "<a x=\"1\"/>");
-  second.Add(Parsed("<more/>").document_element());
+  second.Add(ParsedWithComments("<more/>").document_element());
   EXPECT_EQ(Restored(second), "<a x=\"1\"><more/></a>");
 }
 

@@ -21,77 +21,78 @@ using test::ErrorText;
 using test::Holds;
 using test::TestFolder;
 
-constexpr auto kHive = static_cast<std::int32_t>(0x80000002U);
-constexpr char kKey[] = "Software\\Telvane\\orvik\\KELD(IN)";
+constexpr auto kStoreHive = static_cast<std::int32_t>(0x80000002U);
+constexpr char kStoreKey[] = "Software\\Telvane\\orvik\\KELD(IN)";
 constexpr char kInner[] = "Software\\Telvane\\orvik\\KELD(IN)\\MTI";
 
 TEST(RegistryStore, IsEmptyWithoutAFileAndMakesNone) {
   TestFolder folder;
   const RegistryStore store(folder.Path());
-  EXPECT_FALSE(store.HasKey(kHive, kKey));
-  EXPECT_EQ(store.Read(kHive, kKey, "LastMTI"), Variant());
-  EXPECT_TRUE(store.Names(kHive, kKey).empty());
+  EXPECT_FALSE(store.HasKey(kStoreHive, kStoreKey));
+  EXPECT_EQ(store.Read(kStoreHive, kStoreKey, "LastMTI"), Variant());
+  EXPECT_TRUE(store.Names(kStoreHive, kStoreKey).empty());
   EXPECT_EQ(folder.Count(), 0U);
 }
 
 TEST(RegistryStore, ValuesComeBackInAnotherProgram) {
   TestFolder folder;
-  RegistryStore(folder.Path()).Write(kHive, kKey, "LastMTI", "A\\\"\xC3\xB8\n17");
-  RegistryStore(folder.Path()).Write(kHive, kInner, "A17", std::int32_t{-35});
+  RegistryStore(folder.Path()).Write(kStoreHive, kStoreKey, "LastMTI", "A\\\"\xC3\xB8\n17");
+  RegistryStore(folder.Path()).Write(kStoreHive, kInner, "A17", std::int32_t{-35});
   const RegistryStore store(folder.Path());
-  EXPECT_EQ(store.Read(kHive, kKey, "LastMTI"), Variant("A\\\"\xC3\xB8\n17"));
-  EXPECT_EQ(store.Read(kHive, kInner, "A17"), Variant(std::int32_t{-35}));
+  EXPECT_EQ(store.Read(kStoreHive, kStoreKey, "LastMTI"), Variant("A\\\"\xC3\xB8\n17"));
+  EXPECT_EQ(store.Read(kStoreHive, kInner, "A17"), Variant(std::int32_t{-35}));
 }
 
 TEST(RegistryStore, StateFolderIsCreatedByTheFirstWrite) {
   TestFolder folder;
   RegistryStore store(folder.Path() / "a" / "b");
-  store.CreateKey(kHive, kKey);
+  store.CreateKey(kStoreHive, kStoreKey);
   EXPECT_TRUE(std::filesystem::exists(folder.Path() / "a" / "b" / "registry.json"));
 }
 
 TEST(RegistryStore, KeyAboveAKeyExists) {
   TestFolder folder;
   RegistryStore store(folder.Path());
-  store.CreateKey(kHive, kInner);
-  EXPECT_TRUE(store.HasKey(kHive, kInner));
-  EXPECT_TRUE(store.HasKey(kHive, kKey));
-  EXPECT_TRUE(store.HasKey(kHive, "Software"));
-  EXPECT_FALSE(store.HasKey(kHive, "Soft"));
-  EXPECT_FALSE(store.HasKey(kHive, "Software\\Telvane\\orvik\\KELD"));
-  EXPECT_FALSE(store.HasKey(static_cast<std::int32_t>(0x80000001U), kKey));
+  store.CreateKey(kStoreHive, kInner);
+  EXPECT_TRUE(store.HasKey(kStoreHive, kInner));
+  EXPECT_TRUE(store.HasKey(kStoreHive, kStoreKey));
+  EXPECT_TRUE(store.HasKey(kStoreHive, "Software"));
+  EXPECT_FALSE(store.HasKey(kStoreHive, "Soft"));
+  EXPECT_FALSE(store.HasKey(kStoreHive, "Software\\Telvane\\orvik\\KELD"));
+  EXPECT_FALSE(store.HasKey(static_cast<std::int32_t>(0x80000001U), kStoreKey));
 }
 
 TEST(RegistryStore, KeysAndNamesAreToldApartToTheLetter) {
   TestFolder folder;
   RegistryStore store(folder.Path());
-  store.Write(kHive, kInner, "a17", std::int32_t{1});
-  store.Write(kHive, kInner, "A17", std::int32_t{2});
-  EXPECT_EQ(store.Read(kHive, kInner, "a17"), Variant(std::int32_t{1}));
-  EXPECT_EQ(store.Read(kHive, kInner, "A17"), Variant(std::int32_t{2}));
+  store.Write(kStoreHive, kInner, "a17", std::int32_t{1});
+  store.Write(kStoreHive, kInner, "A17", std::int32_t{2});
+  EXPECT_EQ(store.Read(kStoreHive, kInner, "a17"), Variant(std::int32_t{1}));
+  EXPECT_EQ(store.Read(kStoreHive, kInner, "A17"), Variant(std::int32_t{2}));
 }
 
 TEST(RegistryStore, SpareBackslashesDoNotMakeAnotherKey) {
   TestFolder folder;
   RegistryStore store(folder.Path());
-  store.Write(kHive, "\\Software\\\\X\\", "v", "1");
-  EXPECT_EQ(store.Read(kHive, "Software\\X", "v"), Variant("1"));
+  store.Write(kStoreHive, "\\Software\\\\X\\", "v", "1");
+  EXPECT_EQ(store.Read(kStoreHive, "Software\\X", "v"), Variant("1"));
 }
 
 TEST(RegistryStore, NamesAreInAlphabeticalOrder) {
   TestFolder folder;
   RegistryStore store(folder.Path());
-  for (const auto* name : {"b", "C", "a"}) store.Write(kHive, kInner, name, std::int32_t{1});
-  EXPECT_EQ(store.Names(kHive, kInner), (std::vector<std::string>{"C", "a", "b"}));
+  for (const auto* name : {"b", "C", "a"}) store.Write(kStoreHive, kInner, name, std::int32_t{1});
+  EXPECT_EQ(store.Names(kStoreHive, kInner), (std::vector<std::string>{"C", "a", "b"}));
 }
 
 TEST(RegistryStore, OtherKindsOfValuesAreRefused) {
   TestFolder folder;
   RegistryStore store(folder.Path());
   for (const Variant& value : {Variant(), Variant(1.5), Variant(std::vector<std::string>{"a"})})
-    EXPECT_EQ(ErrorNumber([&] { store.Write(kHive, kKey, "v", value); }), HostError::kTypeMismatch);
-  EXPECT_EQ(ErrorNumber([&] { store.Write(kHive, kKey, "v", "\xFF"); }), HostError::kInvalidArgument);
-  EXPECT_FALSE(store.HasKey(kHive, kKey));
+    EXPECT_EQ(ErrorNumber([&] { store.Write(kStoreHive, kStoreKey, "v", value); }), HostError::kTypeMismatch);
+  EXPECT_EQ(ErrorNumber([&] { store.Write(kStoreHive, kStoreKey, "v", "\xFF"); }),
+            HostError::kInvalidArgument);
+  EXPECT_FALSE(store.HasKey(kStoreHive, kStoreKey));
 }
 
 TEST(RegistryStore, WhatOthersPutIntoTheFileIsKept) {
@@ -99,10 +100,10 @@ TEST(RegistryStore, WhatOthersPutIntoTheFileIsKept) {
   folder.Write("registry.json", R"({"format": "orvik registry", "version": 1, "extra": [1, 2],
     "keys": {"HKEY_LOCAL_MACHINE\\X": {"odd": [true], "n": 7}}})");
   RegistryStore store(folder.Path());
-  store.Write(kHive, "X", "m", "new");
+  store.Write(kStoreHive, "X", "m", "new");
   EXPECT_TRUE(Holds(folder.Read("registry.json"), "\"extra\""));
   EXPECT_TRUE(Holds(folder.Read("registry.json"), "\"odd\""));
-  EXPECT_EQ(store.Read(kHive, "X", "n"), Variant(std::int32_t{7}));
+  EXPECT_EQ(store.Read(kStoreHive, "X", "n"), Variant(std::int32_t{7}));
 }
 
 TEST(RegistryStore, ValuesOfAnotherKindInTheFileAreNamed) {
@@ -111,11 +112,11 @@ TEST(RegistryStore, ValuesOfAnotherKindInTheFileAreNamed) {
     "keys": {"HKEY_LOCAL_MACHINE\\X": {"big": 2147483648, "real": 1.5, "flag": true, "min": -2147483648}}})");
   const RegistryStore store(folder.Path());
   for (const auto* name : {"big", "real", "flag"}) {
-    const auto text = ErrorText([&] { store.Read(kHive, "X", name); });
+    const auto text = ErrorText([&] { store.Read(kStoreHive, "X", name); });
     EXPECT_TRUE(Holds(text, "registry.json"));
     EXPECT_TRUE(Holds(text, name));
   }
-  EXPECT_EQ(store.Read(kHive, "X", "min"), Variant(std::numeric_limits<std::int32_t>::min()));
+  EXPECT_EQ(store.Read(kStoreHive, "X", "min"), Variant(std::numeric_limits<std::int32_t>::min()));
 }
 
 class DamagedRegistry : public ::testing::TestWithParam<std::string> {};
@@ -124,10 +125,10 @@ TEST_P(DamagedRegistry, IsRefusedByNameAndLeftAsItIs) {
   TestFolder folder;
   folder.Write("registry.json", GetParam());
   RegistryStore store(folder.Path());
-  for (const auto& text :
-       {ErrorText([&] { store.HasKey(kHive, kKey); }), ErrorText([&] { store.Read(kHive, kKey, "v"); }),
-        ErrorText([&] { store.Write(kHive, kKey, "v", "1"); }),
-        ErrorText([&] { store.CreateKey(kHive, kKey); })}) {
+  for (const auto& text : {ErrorText([&] { store.HasKey(kStoreHive, kStoreKey); }),
+                           ErrorText([&] { store.Read(kStoreHive, kStoreKey, "v"); }),
+                           ErrorText([&] { store.Write(kStoreHive, kStoreKey, "v", "1"); }),
+                           ErrorText([&] { store.CreateKey(kStoreHive, kStoreKey); })}) {
     EXPECT_TRUE(Holds(text, "registry.json cannot be used"));
     EXPECT_TRUE(Holds(text, "left as it is"));
   }
@@ -150,21 +151,21 @@ TEST(RegistryStore, FolderInTheFilesPlaceIsRefused) {
   TestFolder folder;
   std::filesystem::create_directory(folder.Path() / "registry.json");
   const RegistryStore store(folder.Path());
-  EXPECT_TRUE(Holds(ErrorText([&] { store.HasKey(kHive, kKey); }), "registry.json"));
+  EXPECT_TRUE(Holds(ErrorText([&] { store.HasKey(kStoreHive, kStoreKey); }), "registry.json"));
 }
 
 TEST(RegistryStore, HeldLockIsReportedAndNothingIsWritten) {
   TestFolder folder;
   RegistryStore store(folder.Path());
-  store.Write(kHive, kKey, "v", "old");
+  store.Write(kStoreHive, kStoreKey, "v", "old");
   const int lock = open((folder.Path() / "registry.lock").c_str(), O_RDWR);
   ASSERT_EQ(flock(lock, LOCK_EX), 0);
-  const auto text = ErrorText([&] { store.Write(kHive, kKey, "v", "new"); });
+  const auto text = ErrorText([&] { store.Write(kStoreHive, kStoreKey, "v", "new"); });
   EXPECT_TRUE(Holds(text, "registry.lock is held by another program"));
-  EXPECT_EQ(store.Read(kHive, kKey, "v"), Variant("old")) << "reading needs no lock";
+  EXPECT_EQ(store.Read(kStoreHive, kStoreKey, "v"), Variant("old")) << "reading needs no lock";
   close(lock);
-  store.Write(kHive, kKey, "v", "new");
-  EXPECT_EQ(store.Read(kHive, kKey, "v"), Variant("new"));
+  store.Write(kStoreHive, kStoreKey, "v", "new");
+  EXPECT_EQ(store.Read(kStoreHive, kStoreKey, "v"), Variant("new"));
 }
 
 TEST(RegistryStore, ChangeOfAnotherProgramIsSeen) {
@@ -172,8 +173,8 @@ TEST(RegistryStore, ChangeOfAnotherProgramIsSeen) {
   const RegistryStore reader(folder.Path());
   RegistryStore writer(folder.Path());
   for (int i = 0; i < 20; ++i) {
-    writer.Write(kHive, kKey, "v", i);
-    EXPECT_EQ(reader.Read(kHive, kKey, "v"), Variant(i));
+    writer.Write(kStoreHive, kStoreKey, "v", i);
+    EXPECT_EQ(reader.Read(kStoreHive, kStoreKey, "v"), Variant(i));
   }
 }
 
@@ -191,7 +192,7 @@ TEST(RegistryStore, TwoProgramsLoseNothingOfEachOther) {
       while (written < kValues) {
         const auto name = std::to_string(program) + "-" + std::to_string(written);
         // On a loaded machine the wait for the others may run out: then it is tried again.
-        if (ErrorNumber([&] { store.Write(kHive, kInner, name, written); }) == 0) ++written;
+        if (ErrorNumber([&] { store.Write(kStoreHive, kInner, name, written); }) == 0) ++written;
       }
       _exit(0);
     }
@@ -202,7 +203,7 @@ TEST(RegistryStore, TwoProgramsLoseNothingOfEachOther) {
     ASSERT_EQ(waitpid(child, &status, 0), child);
     EXPECT_EQ(status, 0);
   }
-  EXPECT_EQ(RegistryStore(folder.Path()).Names(kHive, kInner).size(), std::size_t{kPrograms * kValues});
+  EXPECT_EQ(RegistryStore(folder.Path()).Names(kStoreHive, kInner).size(), std::size_t{kPrograms * kValues});
 }
 
 TEST(RegistryStore, ProgramKilledWhileItWritesLeavesAWholeFile) {
@@ -210,7 +211,7 @@ TEST(RegistryStore, ProgramKilledWhileItWritesLeavesAWholeFile) {
   SCOPED_TRACE("seed " + std::to_string(seed));
   std::mt19937 random(seed);
   TestFolder folder;
-  RegistryStore(folder.Path()).Write(kHive, kKey, "kept", "kept");
+  RegistryStore(folder.Path()).Write(kStoreHive, kStoreKey, "kept", "kept");
   for (int round = 0; round < 10; ++round) {
     int progress[2];
     ASSERT_EQ(pipe(progress), 0);
@@ -219,7 +220,7 @@ TEST(RegistryStore, ProgramKilledWhileItWritesLeavesAWholeFile) {
     if (child == 0) {
       RegistryStore store(folder.Path());
       for (int i = 0;; ++i) {
-        store.Write(kHive, kInner, "big", std::string(20000, static_cast<char>('a' + i % 26)));
+        store.Write(kStoreHive, kInner, "big", std::string(20000, static_cast<char>('a' + i % 26)));
         [[maybe_unused]] const auto told = write(progress[1], "x", 1);
       }
     }
@@ -233,8 +234,8 @@ TEST(RegistryStore, ProgramKilledWhileItWritesLeavesAWholeFile) {
     close(progress[0]);
     close(progress[1]);
     const RegistryStore store(folder.Path());
-    EXPECT_EQ(store.Read(kHive, kKey, "kept"), Variant("kept"));
-    const auto value = std::get<std::string>(store.Read(kHive, kInner, "big"));
+    EXPECT_EQ(store.Read(kStoreHive, kStoreKey, "kept"), Variant("kept"));
+    const auto value = std::get<std::string>(store.Read(kStoreHive, kInner, "big"));
     EXPECT_EQ(value, std::string(20000, value.front()));
   }
 }
@@ -242,14 +243,14 @@ TEST(RegistryStore, ProgramKilledWhileItWritesLeavesAWholeFile) {
 TEST(RegistryStore, StandInIsReadAndMakesTheKeyExistButIsNotWritten) {
   TestFolder folder;
   RegistryStore store(folder.Path());
-  store.StandIn(kHive, kKey, "Configuration", "<catalogue/>");
-  EXPECT_TRUE(store.HasKey(kHive, kKey));
-  EXPECT_EQ(store.Read(kHive, kKey, "Configuration"), Variant("<catalogue/>"));
-  EXPECT_EQ(store.Names(kHive, kKey), std::vector<std::string>{"Configuration"});
+  store.StandIn(kStoreHive, kStoreKey, "Configuration", "<catalogue/>");
+  EXPECT_TRUE(store.HasKey(kStoreHive, kStoreKey));
+  EXPECT_EQ(store.Read(kStoreHive, kStoreKey, "Configuration"), Variant("<catalogue/>"));
+  EXPECT_EQ(store.Names(kStoreHive, kStoreKey), std::vector<std::string>{"Configuration"});
   EXPECT_EQ(folder.Count(), 0U);
-  store.Write(kHive, kKey, "LastMTI", "17");
+  store.Write(kStoreHive, kStoreKey, "LastMTI", "17");
   EXPECT_EQ(folder.Read("registry.json").find("catalogue"), std::string::npos);
-  EXPECT_EQ(store.Names(kHive, kKey), (std::vector<std::string>{"Configuration", "LastMTI"}));
+  EXPECT_EQ(store.Names(kStoreHive, kStoreKey), (std::vector<std::string>{"Configuration", "LastMTI"}));
 }
 
 }  // namespace

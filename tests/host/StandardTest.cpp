@@ -10,7 +10,7 @@ namespace {
 using orvik::HostError;
 using test::ErrorNumber;
 
-constexpr char kKey[] = "NO LIMIT KEY";
+constexpr char kLimitKey[] = "NO LIMIT KEY";
 
 std::shared_ptr<Limit> MakeLimit(const std::string& key, const std::string& low, const std::string& high) {
   auto limit = std::make_shared<Limit>();
@@ -28,42 +28,42 @@ TEST(Standard, KeepsItsIdentifyingTexts) {
 
 TEST(Standard, WithoutLimitsThereIsNothingToCheck) {
   Standard standard;
-  EXPECT_EQ(standard.Evaluate(1, kKey, {}), 0);
-  standard.AddLimit(MakeLimit(kKey, "", ""));
-  EXPECT_EQ(standard.Evaluate(1, kKey, {}), 0);
+  EXPECT_EQ(standard.Evaluate(1, kLimitKey, {}), 0);
+  standard.AddLimit(MakeLimit(kLimitKey, "", ""));
+  EXPECT_EQ(standard.Evaluate(1, kLimitKey, {}), 0);
 }
 
 TEST(Standard, LimitsOfAnotherKeyAreNotLookedAt) {
   Standard standard;
   standard.AddLimit(MakeLimit("OTHER", "", "1"));
-  EXPECT_EQ(standard.Evaluate(99, kKey, {}), 0);
+  EXPECT_EQ(standard.Evaluate(99, kLimitKey, {}), 0);
   EXPECT_EQ(standard.Evaluate(99, "OTHER", {}), 2);
   EXPECT_EQ(standard.Evaluate(1, "OTHER", {}), 1);
 }
 
 TEST(Standard, OneBrokenBoundFailsTheStandard) {
   Standard standard;
-  standard.AddLimit(MakeLimit(kKey, "", "10"));
-  standard.AddLimit(MakeLimit(kKey, "5", ""));
-  standard.AddLimit(MakeLimit(kKey, "", ""));
-  EXPECT_EQ(standard.Evaluate(7, kKey, {}), 1);
-  EXPECT_EQ(standard.Evaluate(4, kKey, {}), 2);
-  EXPECT_EQ(standard.Evaluate(11, kKey, {}), 2);
+  standard.AddLimit(MakeLimit(kLimitKey, "", "10"));
+  standard.AddLimit(MakeLimit(kLimitKey, "5", ""));
+  standard.AddLimit(MakeLimit(kLimitKey, "", ""));
+  EXPECT_EQ(standard.Evaluate(7, kLimitKey, {}), 1);
+  EXPECT_EQ(standard.Evaluate(4, kLimitKey, {}), 2);
+  EXPECT_EQ(standard.Evaluate(11, kLimitKey, {}), 2);
 }
 
 TEST(Standard, NominalValueIsHandedToTheLimits) {
   Standard standard;
-  const auto limit = MakeLimit(kKey, "", "");
+  const auto limit = MakeLimit(kLimitKey, "", "");
   limit->SetNominal(100.0);
   limit->SetBounds("90%", "");
   standard.AddLimit(limit);
-  EXPECT_EQ(standard.Evaluate(95, kKey, {}), 1);
-  EXPECT_EQ(standard.Evaluate(95, kKey, 200.0), 2);
+  EXPECT_EQ(standard.Evaluate(95, kLimitKey, {}), 1);
+  EXPECT_EQ(standard.Evaluate(95, kLimitKey, 200.0), 2);
 }
 
 TEST(Standard, LimitsAreCountedFromOne) {
   Standard standard;
-  const auto limit = MakeLimit(kKey, "1", "2");
+  const auto limit = MakeLimit(kLimitKey, "1", "2");
   standard.AddLimit(limit);
   EXPECT_EQ(standard.LimitCount(), 1);
   EXPECT_EQ(standard.Limit(1), limit);
@@ -75,7 +75,7 @@ TEST(Standard, LimitsAreCountedFromOne) {
 TEST(Standard, CopyIsDeep) {
   Standard standard;
   standard.Initialize("n", "d", 3);
-  standard.AddLimit(MakeLimit(kKey, "1", "2"));
+  standard.AddLimit(MakeLimit(kLimitKey, "1", "2"));
   const auto copy = standard.Copy();
   EXPECT_EQ(copy->Name(), "n");
   EXPECT_EQ(copy->Description(), "d");

@@ -54,12 +54,12 @@ TEST(TranslationFile, ByteOrderMarkIsPassedOver) {
   EXPECT_EQ(ReadTranslations("\xEF\xBB\xBFmsgctxt \"1\"\nmsgid \"a\"\nmsgstr \"A\"\n", "x").at(1), "A");
 }
 
-struct Malformed {
+struct MalformedTranslation {
   const char* text;
   const char* place;
 };
 
-class MalformedTranslations : public ::testing::TestWithParam<Malformed> {};
+class MalformedTranslations : public ::testing::TestWithParam<MalformedTranslation> {};
 
 TEST_P(MalformedTranslations, AreRefusedWithFileAndLine) {
   const auto text = ErrorText([] { ReadTranslations(GetParam().text, "KELD.da.po"); });
@@ -68,19 +68,19 @@ TEST_P(MalformedTranslations, AreRefusedWithFileAndLine) {
 
 INSTANTIATE_TEST_SUITE_P(
     Texts, MalformedTranslations,
-    ::testing::Values(Malformed{"hello", "line 1"}, Malformed{"\"lost\"", "line 1"},
-                      Malformed{"msgctxt \"1\"\nmsgid \"a\"\n\n", "line 3"},
-                      Malformed{"msgctxt \"x\"\nmsgid \"a\"\nmsgstr \"A\"\n", "line 3"},
-                      Malformed{"msgctxt \"-1\"\nmsgid \"a\"\nmsgstr \"A\"\n", "line 3"},
-                      Malformed{"msgctxt \"1\"\nmsgid \"a\nmsgstr \"A\"\n", "line 2"},
-                      Malformed{"msgctxt 1\n", "line 1"}, Malformed{"msgid \"a\\x\"\n", "line 1"},
-                      Malformed{"msgid \"a\"b\"\n", "line 1"}, Malformed{"msgid \"a\\\"\n", "line 1"},
-                      Malformed{"msgid \"a\"\nmsgid \"b\"\n", "line 2"},
-                      Malformed{"msgid \"a\"\nmsgid_plural \"b\"\n", "line 2"},
-                      Malformed{
-                          "msgctxt \"1\"\nmsgid \"a\"\nmsgstr \"A\"\n\nmsgctxt \"1\"\nmsgid \"a\"\nmsgstr "
-                          "\"B\"\n",
-                          "line 7"}));
+    ::testing::Values(
+        MalformedTranslation{"hello", "line 1"}, MalformedTranslation{"\"lost\"", "line 1"},
+        MalformedTranslation{"msgctxt \"1\"\nmsgid \"a\"\n\n", "line 3"},
+        MalformedTranslation{"msgctxt \"x\"\nmsgid \"a\"\nmsgstr \"A\"\n", "line 3"},
+        MalformedTranslation{"msgctxt \"-1\"\nmsgid \"a\"\nmsgstr \"A\"\n", "line 3"},
+        MalformedTranslation{"msgctxt \"1\"\nmsgid \"a\nmsgstr \"A\"\n", "line 2"},
+        MalformedTranslation{"msgctxt 1\n", "line 1"}, MalformedTranslation{"msgid \"a\\x\"\n", "line 1"},
+        MalformedTranslation{"msgid \"a\"b\"\n", "line 1"}, MalformedTranslation{"msgid \"a\\\"\n", "line 1"},
+        MalformedTranslation{"msgid \"a\"\nmsgid \"b\"\n", "line 2"},
+        MalformedTranslation{"msgid \"a\"\nmsgid_plural \"b\"\n", "line 2"},
+        MalformedTranslation{"msgctxt \"1\"\nmsgid \"a\"\nmsgstr \"A\"\n\nmsgctxt \"1\"\nmsgid \"a\"\nmsgstr "
+                             "\"B\"\n",
+                             "line 7"}));
 
 }  // namespace
 }  // namespace bench

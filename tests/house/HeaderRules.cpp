@@ -41,7 +41,7 @@ const Names kSystem = {"dirent.h", "errno.h",  "fcntl.h",  "getopt.h", "limits.h
 
 bool IsSystemHeader(std::string_view name) { return kSystem.contains(name) || name.starts_with("sys/"); }
 
-Finding At(const SourceFile& file, const Include& include, const std::string& what) {
+Finding AtSystemHeader(const SourceFile& file, const Include& include, const std::string& what) {
   return {file.path + ":" + std::to_string(include.line), "<" + include.name + "> " + what};
 }
 
@@ -53,7 +53,8 @@ Findings SystemHeaderFindings(const std::vector<SourceFile>& files) {
     if (!IsInsideLibrary(file.path)) continue;
     for (const auto& include : file.includes)
       if (!include.quoted && !kPlainStandard.contains(include.name))
-        findings.push_back(At(file, include, "is not for the library: ask the host or the platform"));
+        findings.push_back(
+            AtSystemHeader(file, include, "is not for the library: ask the host or the platform"));
   }
   return findings;
 }
@@ -65,7 +66,7 @@ Findings TesterHeaderFindings(const std::vector<SourceFile>& files) {
     for (const auto& include : file.includes)
       if (!include.quoted && !kPlainStandard.contains(include.name) &&
           !kOtherStandard.contains(include.name) && !IsSystemHeader(include.name))
-        findings.push_back(At(file, include, "is neither C++ nor the system's"));
+        findings.push_back(AtSystemHeader(file, include, "is neither C++ nor the system's"));
   }
   return findings;
 }

@@ -10,7 +10,7 @@ namespace instrument_test {
 namespace {
 
 /// More pump calls than any run here has.
-constexpr int kEndless = 1000;
+constexpr int kMostPumps = 1000;
 /// Three attempts at each of the two commands that end a session, after a whole exchange of three attempts.
 constexpr milliseconds kLongestStop(3 * 16500);
 
@@ -43,7 +43,7 @@ void Set(LinkBench& link, Kind kind) {
 void AtEveryPump(Kind kind, const std::function<void(LinkBench&)>& action,
                  const std::function<void(LinkBench&)>& check) {
   int pumps = 0;
-  for (bool reached = true; reached && pumps < kEndless; ++pumps) {
+  for (bool reached = true; reached && pumps < kMostPumps; ++pumps) {
     SCOPED_TRACE("pump call " + std::to_string(pumps));
     LinkBench link;
     Set(link, kind);
@@ -56,7 +56,7 @@ void AtEveryPump(Kind kind, const std::function<void(LinkBench&)>& action,
     if (testing::Test::HasFailure()) return;
   }
   EXPECT_GT(pumps, 6);
-  EXPECT_LT(pumps, kEndless);
+  EXPECT_LT(pumps, kMostPumps);
 }
 
 class ReentryTest : public testing::TestWithParam<Kind> {};

@@ -15,7 +15,7 @@
 namespace kill_test {
 namespace {
 
-constexpr std::chrono::seconds kPatience{20};
+constexpr std::chrono::seconds kOrphanPatience{20};
 
 std::string NameOf(pid_t process) {
   std::ifstream file("/proc/" + std::to_string(process) + "/comm");
@@ -50,7 +50,7 @@ Orphans::Orphans() {
 
 std::vector<std::string> Orphans::AwaitEnd() const {
   std::vector<std::string> names;
-  const auto deadline = std::chrono::steady_clock::now() + kPatience;
+  const auto deadline = std::chrono::steady_clock::now() + kOrphanPatience;
   while (true) {
     siginfo_t ended{};
     if (waitid(P_ALL, 0, &ended, WEXITED | WNOHANG | WNOWAIT) != 0) {

@@ -24,7 +24,7 @@ using orvik::ITestElement;
 
 constexpr char kFaultEntry[] = "\tKELD(IN)\t0x8004A22C\t-2147179988\tCKELDPlugin\t3";
 
-std::string NameOf(const std::shared_ptr<ITestElement>& element) {
+std::string DisplayNameOf(const std::shared_ptr<ITestElement>& element) {
   return As<keld::CKELDElement>(element)->BaseElement()->Information()->DisplayName();
 }
 
@@ -118,7 +118,7 @@ TEST_F(CatalogueBuilder, TakesFieldsFromTheirLanguageTextAlone) {
   const auto element = Only(
       "<TestElement ID=\"410\"><Type LID=\"21000::Resistance\">not read</Type><Name LID=\"21001::PE\"/>"
       "<Parameter LID=\"21002::With cord\"/><Unit LID=\"21003::mOhm\">Ohm</Unit></TestElement>");
-  EXPECT_EQ(NameOf(element), "PE");
+  EXPECT_EQ(DisplayNameOf(element), "PE");
   EXPECT_EQ(UnitOf(element), "mOhm");
 }
 
@@ -126,7 +126,7 @@ TEST_F(CatalogueBuilder, TakesAMissingOrEmptyLanguageTextAsEmpty) {
   const auto element = Only(
       "<TestElement ID=\"410\"><Type LID=\"1::Resistance\"/><Name>PE</Name><Unit LID=\"\"/>"
       "</TestElement>");
-  EXPECT_EQ(NameOf(element), "Resistance");
+  EXPECT_EQ(DisplayNameOf(element), "Resistance");
   EXPECT_EQ(UnitOf(element), "");
 }
 
@@ -140,7 +140,8 @@ TEST_F(CatalogueBuilder, NamesAnEntryByNameElseTypeAndParameterElseType) {
                                                                  {parameter, " - With cord"},
                                                                  {"", ""}};
   for (const auto& [fields, expected] : rows) {
-    EXPECT_EQ(NameOf(Only("<TestElement ID=\"410\">" + fields + "</TestElement>")), expected) << fields;
+    EXPECT_EQ(DisplayNameOf(Only("<TestElement ID=\"410\">" + fields + "</TestElement>")), expected)
+        << fields;
   }
 }
 
@@ -148,7 +149,7 @@ TEST_F(CatalogueBuilder, LetsALaterFieldOverwriteAnEarlierOne) {
   const auto element = Only(
       "<TestElement ID=\"410\"><Name LID=\"1::First\"/><Unit LID=\"1::A\"/>"
       "<Name LID=\"2::Second\"/><Unit/></TestElement>");
-  EXPECT_EQ(NameOf(element), "Second");
+  EXPECT_EQ(DisplayNameOf(element), "Second");
   EXPECT_EQ(UnitOf(element), "");
 }
 
@@ -156,7 +157,7 @@ TEST_F(CatalogueBuilder, MatchesFieldNamesToTheLetter) {
   const auto element = Only(
       "<TestElement ID=\"410\"><Name LID=\"1::Right\"/><name LID=\"2::Wrong\"/>"
       "<Units LID=\"3::Ohm\"/><NAME LID=\"4::Wrong\"/></TestElement>");
-  EXPECT_EQ(NameOf(element), "Right");
+  EXPECT_EQ(DisplayNameOf(element), "Right");
   EXPECT_EQ(UnitOf(element), "");
 }
 
@@ -164,9 +165,9 @@ TEST_F(CatalogueBuilder, NamesSequencesToo) {
   const auto element = Only(
       "<TestElement ID=\"400\"><TestElement ID=\"410\"><Name LID=\"1::Member\"/></TestElement>"
       "<Name LID=\"2::Group\"/><Unit LID=\"3::mOhm\"/></TestElement>");
-  EXPECT_EQ(NameOf(element), "Group");
+  EXPECT_EQ(DisplayNameOf(element), "Group");
   EXPECT_EQ(UnitOf(element), "mOhm");
-  EXPECT_EQ(NameOf(As<ITestContainer>(element)->item(1)), "Member");
+  EXPECT_EQ(DisplayNameOf(As<ITestContainer>(element)->item(1)), "Member");
 }
 
 TEST_F(CatalogueBuilder, LogsAnEmptyIdentifierAndGoesOnWithASequenceOfIdentifier0) {
@@ -303,7 +304,7 @@ TEST_F(CatalogueBuilder, BuildsTheShippedCatalogue) {
   const auto root = Build({std::istreambuf_iterator<char>(file), {}});
   EXPECT_EQ(Faults(), 0U);
   ASSERT_EQ(root->Count(), 1);
-  EXPECT_EQ(NameOf(root->item(1)), "Complete safety test");
+  EXPECT_EQ(DisplayNameOf(root->item(1)), "Complete safety test");
   const std::map<std::int32_t, std::string> units = {{210, "V"},     {410, "mOhm"},    {420, "mOhm"},
                                                      {1010, "MOhm"}, {610, "\u00b5A"}, {1245, "\u00b5A"}};
   for (const auto& [id, unit] : units) {
@@ -311,7 +312,7 @@ TEST_F(CatalogueBuilder, BuildsTheShippedCatalogue) {
     ASSERT_TRUE(element) << id;
     EXPECT_FALSE(As<ITestContainer>(element)) << id;
     EXPECT_EQ(UnitOf(element), unit) << id;
-    EXPECT_FALSE(NameOf(element).empty()) << id;
+    EXPECT_FALSE(DisplayNameOf(element).empty()) << id;
   }
   for (const std::int32_t id : {100, 1700, 1300, 400, 1000, 1400, 600, 700, 1500, 900, 1100, 1200}) {
     EXPECT_TRUE(As<ITestContainer>(root->FindElement(id))) << id;

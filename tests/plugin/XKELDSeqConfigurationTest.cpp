@@ -9,7 +9,7 @@
 
 namespace {
 
-using Dialog = support::ConfigurationDialog<keld::CKELDSequence>;
+using SequenceDialog = support::ConfigurationDialog<keld::CKELDSequence>;
 using Texts = std::vector<std::string>;
 
 class SequenceConfigurationControl : public testing::Test {
@@ -18,7 +18,7 @@ class SequenceConfigurationControl : public testing::Test {
 };
 
 TEST_F(SequenceConfigurationControl, ShowsTheFourFiltersInOrder) {
-  Dialog open(600);
+  SequenceDialog open(600);
   EXPECT_EQ(open.control->ClassID(), "orvikKELD.XKELDSeqConfiguration");
   EXPECT_EQ(open.list->Items(), (Texts{"No values", "All values", "Maximum value", "Minimum value"}));
   EXPECT_EQ(open.control->GetControl("lblAssign")->Caption(), "Values of the tests in the group:");
@@ -29,13 +29,13 @@ TEST_F(SequenceConfigurationControl, ShowsTheFourFiltersInOrder) {
 TEST_F(SequenceConfigurationControl, TranslatesItsTextsForTheModuleKELD) {
   const auto service = std::make_shared<recorders::LanguageService>();
   bench_.Host().Register(orvik::HostClasses::kLanguageService, [service] { return service; });
-  Dialog open(600);
+  SequenceDialog open(600);
   EXPECT_EQ(open.list->Items(), (Texts{"KELD 20702", "KELD 20703", "KELD 20704", "KELD 20705"}));
   EXPECT_EQ(service->translated, (Texts{"KELD", "KELD lblGeneralSettings"})) << "the form, then the control";
 }
 
 TEST_F(SequenceConfigurationControl, KeepsTheFilterThatIsChosen) {
-  Dialog open(600, 3, 1);
+  SequenceDialog open(600, 3, 1);
   for (const int index : {3, 0, 2, 1}) {
     open.list->Choose(index);
     EXPECT_EQ(open.configuration->ValueFilter(), index + 1);
@@ -43,13 +43,13 @@ TEST_F(SequenceConfigurationControl, KeepsTheFilterThatIsChosen) {
 }
 
 TEST_F(SequenceConfigurationControl, KeepsCode0WhenNothingIsSelected) {
-  Dialog open(600, 3, 3);
+  SequenceDialog open(600, 3, 3);
   open.list->SetSelectedIndex(-1);
   EXPECT_EQ(open.configuration->ValueFilter(), 0);
 }
 
 TEST_F(SequenceConfigurationControl, TellsTheCallBackOfAnotherFilter) {
-  Dialog open(600);
+  SequenceDialog open(600);
   const auto callBack = std::make_shared<recorders::CallBack>();
   open.dialog->SetCallBack(callBack);
   open.list->Choose(2);
@@ -61,7 +61,7 @@ TEST_F(SequenceConfigurationControl, TellsTheCallBackOfAnotherFilter) {
 }
 
 TEST_F(SequenceConfigurationControl, OffersTheTwoButtonsAndTellsOfThem) {
-  Dialog open(100);
+  SequenceDialog open(100);
   EXPECT_EQ(open.tree->NodeKeys(), (Texts{"NA key", "Skip key"}));
   const auto callBack = std::make_shared<recorders::CallBack>();
   open.dialog->SetCallBack(callBack);
@@ -74,14 +74,14 @@ TEST_F(SequenceConfigurationControl, OffersTheTwoButtonsAndTellsOfThem) {
 
 TEST_F(SequenceConfigurationControl, ChangesNoLeadBitsOfASequence) {
   // 66700 narrowed to 16 bits is 1164: the only kind of sequence that shows leads.
-  Dialog open(66700);
+  SequenceDialog open(66700);
   ASSERT_TRUE(open.tree->HasNode("Lead 1 key"));
   open.tree->ClickNode("Lead 1 key");
   EXPECT_EQ(open.configuration->Options(), 3);
 }
 
 TEST_F(SequenceConfigurationControl, AnswersNoChoiceWhileItIsLocked) {
-  Dialog open(600);
+  SequenceDialog open(600);
   open.dialog->SetLocked(true);
   EXPECT_TRUE(open.dialog->Locked());
   open.list->Choose(3);
@@ -94,14 +94,14 @@ TEST_F(SequenceConfigurationControl, AnswersNoChoiceWhileItIsLocked) {
 }
 
 TEST_F(SequenceConfigurationControl, DoesNothingWithoutAConfiguration) {
-  Dialog open(600);
+  SequenceDialog open(600);
   open.control->SetOwner(nullptr);
   EXPECT_NO_THROW(open.list->Choose(3));
   EXPECT_EQ(open.configuration->ValueFilter(), 1);
 }
 
 TEST_F(SequenceConfigurationControl, StretchesTheTreeAndKeepsTheListsHeight) {
-  Dialog open(600);
+  SequenceDialog open(600);
   const auto tree = open.tree->Bounds();
   const auto list = open.list->Bounds();
   const auto inner = open.form->InnerSize();

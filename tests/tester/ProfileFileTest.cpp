@@ -85,12 +85,12 @@ TEST(ProfileFileTest, ATestThatNoFamilyKnowsNeedsItsUnit) {
             "the value");
 }
 
-struct BadLine {
+struct BadProfile {
   const char* line;
   const char* message;
 };
 
-class ProfileFileErrorTest : public testing::TestWithParam<BadLine> {};
+class ProfileFileErrorTest : public testing::TestWithParam<BadProfile> {};
 
 TEST_P(ProfileFileErrorTest, NamesFileAndLineAndSaysWhatToDo) {
   EXPECT_EQ(ErrorIn(std::string("# first\n\n") + GetParam().line + "\n"),
@@ -100,53 +100,58 @@ TEST_P(ProfileFileErrorTest, NamesFileAndLineAndSaysWhatToDo) {
 INSTANTIATE_TEST_SUITE_P(
     Lines, ProfileFileErrorTest,
     testing::Values(
-        BadLine{"410 0.1", "'410 0.1' has no '='; write it as: key = value"},
-        BadLine{"= 0.1", "there is no key before the '='; write it as: key = value"},
-        BadLine{"colour = red",
-                "'colour' is no key; use name, based-on, type, serial, firmware, time, lacks, a test number "
-                "such as "
-                "410, or a test number and a lead such as 910/3"},
-        BadLine{
+        BadProfile{"410 0.1", "'410 0.1' has no '='; write it as: key = value"},
+        BadProfile{"= 0.1", "there is no key before the '='; write it as: key = value"},
+        BadProfile{
+            "colour = red",
+            "'colour' is no key; use name, based-on, type, serial, firmware, time, lacks, a test number "
+            "such as "
+            "410, or a test number and a lead such as 910/3"},
+        BadProfile{
             "400 = 1 Ohm",
             "'400' is no test number; use one from 1 to 32767 that is not a multiple of 100, such as 410"},
-        BadLine{
+        BadProfile{
             "32768 = 1 Ohm",
             "'32768' is no test number; use one from 1 to 32767 that is not a multiple of 100, such as 410"},
-        BadLine{"4x = 1 Ohm",
-                "'4x' is no test number; use one from 1 to 32767 that is not a multiple of 100, such as 410"},
-        BadLine{"910/11 = 1", "'11' is no lead; use 0 (the test itself) or 1 to 10"},
-        BadLine{"910/ = 1", "'' is no lead; use 0 (the test itself) or 1 to 10"},
-        BadLine{"410 = 0,12 Ohm", "'0,12' is not a number; write the reading with a point, such as 0.123"},
-        BadLine{"410 = 1e3 Ohm", "'1e3' is not a number; write the reading with a point, such as 0.123"},
-        BadLine{"410 = inf", "'inf' is not a number; write the reading with a point, such as 0.123"},
-        BadLine{"410 =", "'' is not a number; write the reading with a point, such as 0.123"},
-        BadLine{"410 = 0.1 ohm", "'ohm' is no unit of test 410; use one of Ohm, mOhm, kOhm, MOhm, GOhm"},
-        BadLine{"610 = 5 Ohm", "'Ohm' is no unit of test 610; use one of µA, mA, A"},
-        BadLine{"610 = 5 uA", "'uA' is no unit of test 610; use one of µA, mA, A"},
-        BadLine{"610 = 5 µA 1 ms overload",
-                "'1' is not understood; write: VALUE UNIT [overload] [N ms], such as '0.123 Ohm 900 ms'"},
-        BadLine{"610 = 5 µA 60001 ms",
-                "'60001' is no measuring time; use whole milliseconds from 0 to 60000"},
-        BadLine{"based-on = leeky",
-                "'leeky' is no built-in profile; use one of sound-class-1, sound-class-2, broken-earth, "
-                "leaky, overloaded"},
-        BadLine{"910/3 = 1", "test 910 has a lead but no reading of its own; add a line '910 = ...'"},
-        BadLine{"name =\n410 = 1", "the name is empty; give one or remove the line"},
-        BadLine{"lacks = 410\n410 = 1",
-                "test 410 has a reading in line 4; remove that line, or the test from 'lacks'"},
-        BadLine{"lacks = 410;420\n210 = 1",
-                "'410;420' is no test number; use one from 1 to 32767 that is not a multiple of 100, such as "
-                "410"},
-        BadLine{"name = a\x01", "the line holds a control character; remove it"},
-        BadLine{"name = \xB5",
-                "the line is not UTF-8 text within ISO 8859-1; save the file as UTF-8 and write 'µ' as the "
-                "micro sign "
-                "(U+00B5)"},
-        BadLine{"610 = 5 \xCE\xBC"
-                "A",
-                "the line is not UTF-8 text within ISO 8859-1; save the file as UTF-8 and write 'µ' as the "
-                "micro sign "
-                "(U+00B5)"}));
+        BadProfile{
+            "4x = 1 Ohm",
+            "'4x' is no test number; use one from 1 to 32767 that is not a multiple of 100, such as 410"},
+        BadProfile{"910/11 = 1", "'11' is no lead; use 0 (the test itself) or 1 to 10"},
+        BadProfile{"910/ = 1", "'' is no lead; use 0 (the test itself) or 1 to 10"},
+        BadProfile{"410 = 0,12 Ohm", "'0,12' is not a number; write the reading with a point, such as 0.123"},
+        BadProfile{"410 = 1e3 Ohm", "'1e3' is not a number; write the reading with a point, such as 0.123"},
+        BadProfile{"410 = inf", "'inf' is not a number; write the reading with a point, such as 0.123"},
+        BadProfile{"410 =", "'' is not a number; write the reading with a point, such as 0.123"},
+        BadProfile{"410 = 0.1 ohm", "'ohm' is no unit of test 410; use one of Ohm, mOhm, kOhm, MOhm, GOhm"},
+        BadProfile{"610 = 5 Ohm", "'Ohm' is no unit of test 610; use one of µA, mA, A"},
+        BadProfile{"610 = 5 uA", "'uA' is no unit of test 610; use one of µA, mA, A"},
+        BadProfile{"610 = 5 µA 1 ms overload",
+                   "'1' is not understood; write: VALUE UNIT [overload] [N ms], such as '0.123 Ohm 900 ms'"},
+        BadProfile{"610 = 5 µA 60001 ms",
+                   "'60001' is no measuring time; use whole milliseconds from 0 to 60000"},
+        BadProfile{"based-on = leeky",
+                   "'leeky' is no built-in profile; use one of sound-class-1, sound-class-2, broken-earth, "
+                   "leaky, overloaded"},
+        BadProfile{"910/3 = 1", "test 910 has a lead but no reading of its own; add a line '910 = ...'"},
+        BadProfile{"name =\n410 = 1", "the name is empty; give one or remove the line"},
+        BadProfile{"lacks = 410\n410 = 1",
+                   "test 410 has a reading in line 4; remove that line, or the test from 'lacks'"},
+        BadProfile{
+            "lacks = 410;420\n210 = 1",
+            "'410;420' is no test number; use one from 1 to 32767 that is not a multiple of 100, such as "
+            "410"},
+        BadProfile{"name = a\x01", "the line holds a control character; remove it"},
+        BadProfile{
+            "name = \xB5",
+            "the line is not UTF-8 text within ISO 8859-1; save the file as UTF-8 and write 'µ' as the "
+            "micro sign "
+            "(U+00B5)"},
+        BadProfile{
+            "610 = 5 \xCE\xBC"
+            "A",
+            "the line is not UTF-8 text within ISO 8859-1; save the file as UTF-8 and write 'µ' as the "
+            "micro sign "
+            "(U+00B5)"}));
 
 TEST(ProfileFileTest, AKeyGivenTwiceNamesTheFirstLine) {
   EXPECT_EQ(ErrorIn("410 = 1\n\n0410/0 = 2"),

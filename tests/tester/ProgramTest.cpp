@@ -21,6 +21,7 @@
 namespace sim {
 namespace {
 
+using test::Stands;
 using test::TempFolder;
 
 /// Far more than anything here takes; only a hang reaches it.
@@ -132,10 +133,6 @@ class Client {
  private:
   UniqueFd port_;
 };
-
-bool Stands(const std::string& path) {
-  return std::filesystem::exists(std::filesystem::symlink_status(path));
-}
 
 class ProgramTest : public testing::Test {
  protected:

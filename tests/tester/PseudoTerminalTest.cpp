@@ -12,13 +12,10 @@ namespace sim {
 namespace {
 
 using test::InputErrorOf;
+using test::Stands;
 using test::TempFolder;
 
 std::string TargetOf(const std::string& path) { return std::filesystem::read_symlink(path).string(); }
-
-bool Stands(const std::string& path) {
-  return std::filesystem::exists(std::filesystem::symlink_status(path));
-}
 
 TEST(PseudoTerminalTest, TheDeviceIsRawAndNeitherEchoesNorTranslates) {
   const PseudoTerminal terminal;

@@ -24,6 +24,10 @@ std::string TempFolder::Write(const std::string& name, std::string_view content)
   return Path(name);
 }
 
+bool Stands(const std::string& path) {
+  return std::filesystem::exists(std::filesystem::symlink_status(path));
+}
+
 std::string ReadAll(const std::string& path) {
   std::ifstream file(path, std::ios::binary);
   return {std::istreambuf_iterator<char>(file), {}};

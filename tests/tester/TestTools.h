@@ -27,6 +27,9 @@ class TempFolder {
   std::filesystem::path path_;
 };
 
+/// Whether there is something at the path, be it a link to nothing.
+bool Stands(const std::string& path);
+
 /// All of a file.
 std::string ReadAll(const std::string& path);
 

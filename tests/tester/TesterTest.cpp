@@ -14,17 +14,17 @@ namespace {
 using std::chrono::milliseconds;
 using test::Ask;
 
-constexpr std::string_view kIrem = "irem,KELD(IN),SIM-0001,3.10\r\n";
+constexpr std::string_view kIdentity = "irem,KELD(IN),SIM-0001,3.10\r\n";
 
 class TesterTest : public testing::Test {
  protected:
-  void EnterRemote() { ASSERT_EQ(Ask(tester_, "IREM\r\n"), kIrem); }
+  void EnterRemote() { ASSERT_EQ(Ask(tester_, "IREM\r\n"), kIdentity); }
 
   Tester tester_{MakeBuiltInProfile("sound-class-1").value()};
 };
 
 TEST_F(TesterTest, AWholeSessionGoesAsTheDocumentedOne) {
-  EXPECT_EQ(Ask(tester_, "IREM\r\n"), kIrem);
+  EXPECT_EQ(Ask(tester_, "IREM\r\n"), kIdentity);
   EXPECT_EQ(Ask(tester_, "STST,410,0\r\n"), "stst,410,0\r\n");
   EXPECT_EQ(Ask(tester_, "GRES,410,0\r\n"), "gres,410,0,0.123,0,Ohm\r\n");
   EXPECT_EQ(Ask(tester_, "STST,210,0\r\n"), "stst,210,0\r\n");
@@ -92,7 +92,7 @@ TEST_F(TesterTest, ATestThatTheTesterLacksIsRefusedAndTheStartedOneStays) {
 TEST_F(TesterTest, OverloadIsReportedAs1) {
   Tester tester(MakeBuiltInProfile("overloaded").value());
   EXPECT_EQ(Ask(tester, "IREM\r\nSTST,410,0\r\nGRES,410,0\r\n"),
-            std::string(kIrem) + "stst,410,0\r\ngres,410,0,19.99,1,Ohm\r\n");
+            std::string(kIdentity) + "stst,410,0\r\ngres,410,0,19.99,1,Ohm\r\n");
 }
 
 TEST_F(TesterTest, PowerIsSwitchedInRemoteMode) {
@@ -161,7 +161,7 @@ TEST_F(TesterTest, ResultsTakeTheMeasuringTimeAndOtherRepliesNone) {
 TEST_F(TesterTest, ACommandDuringAMeasurementIsAnsweredAfterIt) {
   tester_.Receive("IREM\r\nSTST,410,0\r\nGRES,410,0\r\n", Instant(0));
   tester_.Receive("EREM\r\n", milliseconds(100));
-  EXPECT_EQ(tester_.TakeDue(milliseconds(100))->bytes, kIrem);
+  EXPECT_EQ(tester_.TakeDue(milliseconds(100))->bytes, kIdentity);
   EXPECT_EQ(tester_.TakeDue(milliseconds(100))->bytes, "stst,410,0\r\n");
   EXPECT_FALSE(tester_.TakeDue(milliseconds(899)));
   EXPECT_EQ(tester_.TakeDue(milliseconds(900))->bytes, "gres,410,0,0.123,0,Ohm\r\n");
@@ -217,7 +217,7 @@ TEST_F(TesterTest, FaultsSeeEveryReplyWithTheCommandAndItsIndex) {
   const auto watch = std::make_shared<Watch>();
   tester_.UseFaults(watch);
   Ask(tester_, "IREM\r\nERRM\r\nSTST,410,0\r\nNO\r\n");
-  EXPECT_EQ(watch->seen, "1IREM>" + std::string(kIrem) + "3STST>stst,410,0\r\n4NO>ERRM,1001\r\n");
+  EXPECT_EQ(watch->seen, "1IREM>" + std::string(kIdentity) + "3STST>stst,410,0\r\n4NO>ERRM,1001\r\n");
 }
 
 TEST_F(TesterTest, EveryTestOfEveryProfileIsStartedAndReadOrRefused) {

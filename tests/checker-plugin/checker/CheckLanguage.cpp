@@ -11,7 +11,7 @@
 namespace check {
 namespace {
 
-void Texts(Findings& findings) {
+void NumberedTexts(Findings& findings) {
   const auto is = [&](const std::string& expected, const std::string& text,
                       const std::vector<std::string>& values) {
     findings.Equal(expected, Translated(text, values), "\"" + text + "\" translated");
@@ -46,7 +46,7 @@ void Captions(Findings& findings) {
 }  // namespace
 
 void CheckLanguage(Findings& findings) {
-  findings.Try("texts", [&] { Texts(findings); });
+  findings.Try("texts", [&] { NumberedTexts(findings); });
   findings.Try("captions", [&] { Captions(findings); });
 }
 

@@ -9,7 +9,7 @@ namespace {
 
 using FormPtr = std::shared_ptr<orvik::platform::IForm>;
 
-FormPtr NewForm(const std::string& name) { return TheHost().Application()->CreateForm(name); }
+FormPtr PlainForm(const std::string& name) { return TheHost().Application()->CreateForm(name); }
 
 /// Shows the form modally, and does the work once it stands.
 template <class Work>
@@ -19,12 +19,12 @@ void ShowModalAnd(const FormPtr& form, const FormPtr& owner, Work work) {
 }
 
 void Blocking(Findings& findings) {
-  const auto owner = NewForm("FOwner");
+  const auto owner = PlainForm("FOwner");
   const auto behind = owner->AddButton("cmd");
   int clicks = 0;
   const auto onClick = behind->Clicked().Subscribe([&] { ++clicks; });
   owner->Show();
-  const auto modal = NewForm("FModal");
+  const auto modal = PlainForm("FModal");
   bool reached = false;
   ShowModalAnd(modal, owner, [&] {
     reached = true;
@@ -47,17 +47,17 @@ void Blocking(Findings& findings) {
 }
 
 void Ending(Findings& findings) {
-  const auto unloaded = NewForm("FUnloaded");
+  const auto unloaded = PlainForm("FUnloaded");
   ShowModalAnd(unloaded, nullptr, [&] { unloaded->Unload(); });
   findings.Expect(!unloaded->Loaded(), "unloading ends the wait");
-  const auto closed = NewForm("FClosed");
+  const auto closed = PlainForm("FClosed");
   ShowModalAnd(closed, nullptr, [&] { closed->Close(); });
   findings.Expect(!closed->Loaded(), "closing by the cross ends the wait");
 }
 
 void Nesting(Findings& findings) {
-  const auto outer = NewForm("FOuter");
-  const auto inner = NewForm("FInner");
+  const auto outer = PlainForm("FOuter");
+  const auto inner = PlainForm("FInner");
   std::string order;
   ShowModalAnd(outer, nullptr, [&] {
     ShowModalAnd(inner, outer, [&] {
