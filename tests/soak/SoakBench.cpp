@@ -1,0 +1,141 @@
+#include "tests/soak/SoakBench.h"
+
+#include "OrvikTypeLib/ILimit.h"
+#include "OrvikTypeLib/ILimitData.h"
+#include "OrvikTypeLib/IStandard.h"
+#include "OrvikTypeLib/IStandardColl.h"
+#include "OrvikTypeLib/ITestContainer.h"
+#include "host/document/Document.h"
+#include "host/elements/ElementFactory.h"
+#include "host/instruments/InstrumentColl.h"
+#include "host/run/AutoOperator.h"
+#include "host/run/DoubtTracker.h"
+#include "host/run/LinkWatch.h"
+#include "host/run/RunController.h"
+#include "host/serial/WireLog.h"
+#include "tester/FaultScript.h"
+#include "tester/SeededFaults.h"
+
+namespace soak {
+
+namespace {
+
+constexpr char kName[] = "IEC 62353";
+constexpr char kClass[] = "class I";
+
+/// The tester of one run: what it reads, and what goes wrong.
+class RunFaults final : public sim::Faults {
+ public:
+  explicit RunFaults(const Plan& plan) : truth_(plan.truth) {
+    if (!plan.script.empty()) faults_ = std::make_unique<sim::FaultScript>(plan.script, "the plan");
+    if (plan.faultRate > 0)
+      faults_ = std::make_unique<sim::SeededFaults>(plan.seed, plan.faultRate, sim::SeededFaults::Listener());
+  }
+
+ private:
+  void OnReply(const sim::Exchange& exchange, sim::Reply& reply) override {
+    for (const auto& [testId, milliohms] : truth_) {
+      if (reply.lines.front().bytes.starts_with("gres," + std::to_string(testId) + ","))
+        reply.lines.front().bytes = ReplyTo(testId, milliohms) + "\r\n";
+    }
+    if (faults_) faults_->OnReply(exchange, reply);
+  }
+
+  const std::map<int, int> truth_;
+  std::unique_ptr<sim::Faults> faults_;
+};
+
+std::vector<std::shared_ptr<orvik::ITestElement>> TopOf(const bench::Document& document) {
+  return {document.Elements()->item(1)};
+}
+
+}  // namespace
+
+SoakBench::SoakBench() {
+  bench_.Host().Elements()->AddPlugIn(bench_.PlugIn());
+  Prepare(Kind::kTest);
+  Prepare(Kind::kSequence);
+}
+
+SoakBench::~SoakBench() { bench_.Host().Elements()->ReleasePlugIns(); }
+
+std::filesystem::path SoakBench::Prepared(Kind kind) {
+  return bench_.Only().Folder() / (kind == Kind::kTest ? "test.orvik" : "sequence.orvik");
+}
+
+void SoakBench::Prepare(Kind kind) {
+  const auto document = bench::Document::Create(bench_.Only().SharedHost(), Prepared(kind));
+  document->AddTest(kind == Kind::kTest ? 410 : 400);
+  for (const std::int32_t id : kind == Kind::kTest ? std::vector{1} : std::vector{2, 3})
+    document->Find(id)
+        ->Limits()
+        ->CreateStandard(kName, kClass)
+        ->Limit(1)
+        ->SetBounds("", std::to_string(kHighest));
+  const auto selected =
+      orvik::As<orvik::IStandard>(bench_.Host().CreateObject(orvik::HostClasses::kStandard));
+  selected->Initialize(kName, kClass, 1);
+  document->Standards()->Add(selected);
+  document->Save();
+}
+
+Evidence SoakBench::Run(const Plan& plan, bool save) {
+  const auto file = bench_.Only().Folder() / "run.orvik";
+  std::filesystem::copy_file(Prepared(plan.kind), file, std::filesystem::copy_options::overwrite_existing);
+  Disturb(plan);
+  Evidence evidence;
+  {
+    const auto document = bench::Document::Open(bench_.Only().SharedHost(), file);
+    Perform(plan, *document, save, evidence);
+    evidence.elements = Summary(*document);
+    evidence.outcome = bench::OutcomeOf(evidence.elements);
+  }
+  LetTimePass();
+  evidence.sent = bench_.Wire().Sent();
+  evidence.received = bench_.Wire().Received();
+  evidence.inRemoteMode = bench_.Tester().InRemoteMode();
+  evidence.portOpen = bench_.Line().Line()->Connected();
+  evidence.windows = bench_.Application().Forms().size();
+  if (save)
+    evidence.reopened =
+        Summary(*bench::Document::Open(bench_.Only().SharedHost(), file, bench::DocumentFile::Use::kRead));
+  bench_.Wire().Clear();
+  bench_.Tester().UseFaults(nullptr);
+  return evidence;
+}
+
+/// The tester is as it was at the end of the run before, but its cable is plugged in.
+void SoakBench::Disturb(const Plan& plan) {
+  bench_.Tester().PlugIn();
+  bench_.Tester().UseFaults(std::make_shared<RunFaults>(plan));
+}
+
+void SoakBench::Perform(const Plan& plan, bench::Document& document, bool save, Evidence& evidence) {
+  auto& wire = *bench_.Ports().TheWire();
+  bench::WireLog log(bench_.Only().Folder() / "run.orvik.wire.log");
+  const auto logged = wire.Subscribe([&](const bench::WireRecord& record) { log.Write(record); });
+  bench::DoubtTracker doubts(wire);
+  bench::LinkWatch link(bench_.Ports());
+  bench::StopRequest stop;
+  int calls = 0;
+  const auto pumped = bench_.Application().Pumped().Subscribe([&] {
+    if (calls++ == plan.stopAt) stop.Ask();
+  });
+  const auto keep = [&] { save ? document.Save() : static_cast<void>(document.Text()); };
+  const auto controller = std::make_shared<bench::RunController>(
+      bench::RunController::Parts{document.Standards(), document.Instruments(), *bench_.Host().Elements(),
+                                  doubts, keep, bench::LocalTimeText, "M. Holm"});
+  bench::AutoOperator person(bench_.Only().SharedApplication(), stop);
+  evidence.end = bench::DocumentRunner(controller, link, stop).Run(TopOf(document));
+}
+
+std::vector<bench::ElementSummary> SoakBench::Summary(const bench::Document& document) {
+  return bench::Summarise(TopOf(document), *bench_.Host().Elements(), document.Standards());
+}
+
+void SoakBench::LetTimePass() {
+  const auto end = bench_.Application().Now() + std::chrono::minutes(1);
+  while (bench_.Application().Now() < end) bench_.Application().WaitMessages(end);
+}
+
+}  // namespace soak

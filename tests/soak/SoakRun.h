@@ -1,0 +1,67 @@
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "host/run/DocumentRunner.h"
+#include "host/run/ElementSummary.h"
+
+namespace soak {
+
+/// What is run: one test, or a sequence of two.
+enum class Kind { kTest, kSequence };
+
+/// One run as it is drawn from its seed.
+struct Plan {
+  Kind kind = Kind::kTest;
+  /// What the tester reads, in mOhm by test; no two runs in a row read the same.
+  std::map<int, int> truth;
+  /// Lines of a fault script; empty for none.
+  std::string script;
+  /// Share of the replies that are spoiled at random, 0 to 1.
+  double faultRate = 0;
+  /// The call of the message pump at which the operator asks for a stop.
+  std::optional<int> stopAt;
+  std::uint64_t seed = 0;
+
+  bool Undisturbed() const { return script.empty() && faultRate == 0 && !stopAt; }
+};
+
+/// Readings up to this pass, mOhm.
+inline constexpr int kHighest = 300;
+
+/// The plan of the run of that number.
+Plan DrawPlan(std::uint64_t seed, int run);
+
+/// "sequence, faults at 0.31 (seed 17), stop at call 40": enough to tell runs apart in a failure.
+std::string TextOf(const Plan& plan);
+
+/// What a run left behind.
+struct Evidence {
+  bench::DocumentRunner::End end{};
+  std::vector<bench::ElementSummary> elements;
+  bench::Outcome outcome{};
+  std::vector<std::string> sent;
+  std::vector<std::string> received;
+  bool inRemoteMode = false;  ///< the tester
+  bool portOpen = false;
+  std::size_t windows = 0;  ///< still open
+  /// How the elements read when the saved document is opened again; empty when it was not saved.
+  std::vector<bench::ElementSummary> reopened;
+};
+
+/// What must not be: a pass that was not measured, a verdict that is none of the tester's own reading, a run
+/// that no fault disturbed and that ended otherwise than it should, a window or a port left open.
+std::vector<std::string> Offences(const Plan& plan, const Evidence& evidence);
+
+/// How the tester says its reading of a test.
+std::string ReplyTo(int testId, int milliohms);
+
+/// How each element ended, one letter each: P passed, F failed, N not applicable, A aborted, - not tested; a
+/// small p or n is doubtful and does not count.
+std::string LettersOf(const std::vector<bench::ElementSummary>& elements);
+
+}  // namespace soak
