@@ -1,0 +1,36 @@
+#include "benchmarks/MeasuredDocument.h"
+
+#include <pugixml.hpp>
+#include <stdexcept>
+
+#include "benchmarks/ChildProcess.h"
+
+namespace benchmarks {
+
+MeasuredDocument::MeasuredDocument(const Context& context) : context_(context) {
+  Bench({"new", one_, "--add", "410", "--asset", "VENT-0042"});
+  Bench({"limit", one_, "--element", "1", "--standard", "IEC 62353", "--high", "300"});
+  Bench({"run", one_, "--simulate", "--time-scale", "100"});
+}
+
+double MeasuredDocument::Bench(std::vector<std::string> words) const {
+  words.insert(words.begin(), context_.Bench());
+  words.insert(words.end(), {"--state", folder_.Path() / "state"});
+  return RunProgram(words, folder_.Path() / "bench.out").wall.count();
+}
+
+std::filesystem::path MeasuredDocument::Times(int count) const {
+  pugi::xml_document xml;
+  if (!xml.load_file(one_.c_str(), pugi::parse_full))
+    throw std::runtime_error(one_.string() + " cannot be read");
+  auto elements = xml.document_element().child("Elements");
+  const auto element = elements.first_child();
+  if (!element.child("ResultItem")) throw std::runtime_error("the element was not measured");
+  for (int id = 1; id <= count; ++id) elements.append_copy(element).attribute("ID").set_value(id);
+  elements.remove_child(element);
+  const auto to = folder_.Path() / (std::to_string(count) + ".orvik");
+  if (!xml.save_file(to.c_str(), "  ")) throw std::runtime_error(to.string() + " cannot be written");
+  return to;
+}
+
+}  // namespace benchmarks
