@@ -41,9 +41,9 @@ foreach(header IN LISTS headers)
 endforeach()
 
 add_library(headers-compile-alone OBJECT ${sources})
-find_package(Qt6 REQUIRED COMPONENTS Gui)
-target_link_libraries(headers-compile-alone PRIVATE orvik-app keld-sim-core Qt6::Gui GTest::gtest)
+find_package(Qt6 REQUIRED COMPONENTS Widgets)
+target_link_libraries(headers-compile-alone PRIVATE orvik-app keld-sim-core Qt6::Widgets GTest::gtest)
 target_compile_options(headers-compile-alone PRIVATE -O0)
 # What the headers of the tests take from the build; the values do not matter here.
-target_compile_definitions(headers-compile-alone PRIVATE
+target_compile_definitions(headers-compile-alone PRIVATE QT_NO_KEYWORDS
   SOURCE_PATH="" CATALOGUE_PATH="" PLUGIN_PATH="" CHECKER_PATH="" KELD_SIM_PATH="" ORVIK_BENCH_PATH="" DRAW_BITMAPS_PATH="")

@@ -39,6 +39,8 @@ std::vector<std::shared_ptr<Control>> Application::WindowsInside(const Control& 
   return desktop_->Windows().Inside(parent);
 }
 
+std::shared_ptr<Control> Application::Focused() const { return desktop_->Forms().Focused(); }
+
 bool Application::IsModal(const Form& form) const { return desktop_->Forms().IsModal(form); }
 
 std::shared_ptr<platform::IForm> Application::CreateForm(const std::string& name) {

@@ -57,6 +57,8 @@ class Application final : public orvik::platform::IApplication, public ILoop {
   /// The window of that handle, or empty; and those that stand in one, in the order in which they were made.
   std::shared_ptr<Control> Window(orvik::platform::WindowHandle handle) const;
   std::vector<std::shared_ptr<Control>> WindowsInside(const Control& parent) const;
+  /// The control or form that has the focus, or empty.
+  std::shared_ptr<Control> Focused() const;
   /// Whether the form keeps those that were shown before it from the operator.
   bool IsModal(const Form& form) const;
 

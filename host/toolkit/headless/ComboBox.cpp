@@ -2,10 +2,16 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 #include "host/toolkit/headless/IMetrics.h"
 
 namespace bench::headless {
+
+ComboBox::ComboBox(std::shared_ptr<Desktop> desktop, std::string name)
+    : Control(std::move(desktop), std::move(name)) {
+  backColor_ = platform::kWindowBackground;
+}
 
 void ComboBox::AddItem(const std::string& text) {
   Apply([&] { items_.push_back(text); });

@@ -11,7 +11,7 @@ namespace bench::headless {
 /// A box that is not editable shows entries only: a text that is none of them is not taken.
 class ComboBox final : public Control, public virtual platform::IComboBox {
  public:
-  using Control::Control;
+  ComboBox(std::shared_ptr<Desktop> desktop, std::string name);
 
   std::vector<std::string> Items() const override { return items_; }
   void AddItem(const std::string& text) override;

@@ -92,6 +92,7 @@ class Control : public virtual platform::IControl, public std::enable_shared_fro
 
   bool visible_ = true;
   bool enabled_ = true;
+  platform::Color backColor_ = platform::kButtonFace;
 
  private:
   void LoseFocusWhenUnusable();
@@ -104,7 +105,6 @@ class Control : public virtual platform::IControl, public std::enable_shared_fro
   std::string caption_;
   std::string toolTip_;
   platform::Rect bounds_;
-  platform::Color backColor_ = platform::kButtonFace;
   int refreshCount_ = 0;
 };
 

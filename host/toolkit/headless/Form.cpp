@@ -167,10 +167,6 @@ void Form::Resize(platform::Size inner) {
   SetBounds({Bounds().left, Bounds().top, inner.width, inner.height});
 }
 
-void Form::MoveTo(platform::Twips left, platform::Twips top) {
-  Panel::SetBounds({left, top, Bounds().width, Bounds().height});
-}
-
 std::shared_ptr<Form> Form::TopForm() { return SelfForm(); }
 
 bool Form::Answers() { return visible_ && enabled_ && GetDesktop().Forms().Free(*this); }

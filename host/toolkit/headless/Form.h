@@ -49,8 +49,6 @@ class Form final : public Panel, public virtual platform::IForm {
   bool PreviewKey(int key, int shift);
   void Close() override;
   void Resize(platform::Size inner) override;
-  /// The operator has dragged the title bar.
-  void MoveTo(platform::Twips left, platform::Twips top);
 
   std::shared_ptr<Form> TopForm() override;
   bool Answers() override;

@@ -12,6 +12,11 @@ namespace bench::headless {
 
 using orvik::HostError;
 
+ListView::ListView(std::shared_ptr<Desktop> desktop, std::string name)
+    : Control(std::move(desktop), std::move(name)) {
+  backColor_ = platform::kWindowBackground;
+}
+
 void ListView::AddColumn(const platform::ListColumn& column) {
   for (const auto& other : columns_) {
     if (other.key == column.key)

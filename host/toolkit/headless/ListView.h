@@ -13,7 +13,7 @@ namespace bench::headless {
 /// A report list. A click selects the row under the pointer; rows are one line high below a line of captions.
 class ListView final : public Control, public virtual platform::IListView {
  public:
-  using Control::Control;
+  ListView(std::shared_ptr<Desktop> desktop, std::string name);
 
   void AddColumn(const platform::ListColumn& column) override;
   std::vector<platform::ListColumn> Columns() const override { return columns_; }

@@ -1,8 +1,15 @@
 #include "host/toolkit/headless/TextBox.h"
 
+#include <utility>
+
 #include "host/toolkit/headless/IMetrics.h"
 
 namespace bench::headless {
+
+TextBox::TextBox(std::shared_ptr<Desktop> desktop, std::string name)
+    : Control(std::move(desktop), std::move(name)) {
+  backColor_ = platform::kWindowBackground;
+}
 
 void TextBox::SetText(const std::string& text) {
   if (text == text_) return;

@@ -9,7 +9,7 @@ namespace bench::headless {
 
 class TextBox final : public Control, public virtual platform::ITextBox {
  public:
-  using Control::Control;
+  TextBox(std::shared_ptr<Desktop> desktop, std::string name);
 
   std::string Text() const override { return text_; }
   void SetText(const std::string& text) override;

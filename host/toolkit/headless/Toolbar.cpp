@@ -48,6 +48,11 @@ void Toolbar::SetCommandToolTip(int command, const std::string& text) {
   if (Item* item = Find(command)) Apply([&] { item->toolTip = text; });
 }
 
+int Toolbar::CommandParent(int command) const {
+  const Item* item = Find(command);
+  return item ? item->parent : 0;
+}
+
 std::string Toolbar::CommandToolTip(int command) const {
   const Item* item = Find(command);
   return item ? item->toolTip : "";

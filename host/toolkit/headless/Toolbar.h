@@ -28,6 +28,8 @@ class Toolbar final : public Control, public virtual platform::IToolbar {
   /// nothing.
   void Click(int command) override;
 
+  /// The button above an entry, 0 for a button.
+  int CommandParent(int command) const;
   /// The tool tip of a button, empty when it has none.
   std::string CommandToolTip(int command) const;
   platform::Size NaturalSize() const override;

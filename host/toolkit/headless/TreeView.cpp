@@ -1,6 +1,7 @@
 #include "host/toolkit/headless/TreeView.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "OrvikTypeLib/HostError.h"
 #include "host/toolkit/headless/IMetrics.h"
@@ -8,6 +9,11 @@
 namespace bench::headless {
 
 using orvik::HostError;
+
+TreeView::TreeView(std::shared_ptr<Desktop> desktop, std::string name)
+    : Control(std::move(desktop), std::move(name)) {
+  backColor_ = platform::kWindowBackground;
+}
 
 void TreeView::AddNode(const std::string& key, const std::string& caption) {
   if (!index_.emplace(key, nodes_.size()).second)

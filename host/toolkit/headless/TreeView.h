@@ -11,7 +11,7 @@ namespace bench::headless {
 
 class TreeView final : public Control, public virtual platform::ITreeView {
  public:
-  using Control::Control;
+  TreeView(std::shared_ptr<Desktop> desktop, std::string name);
 
   /// `HostError` 5 for a key that is there already.
   void AddNode(const std::string& key, const std::string& caption) override;

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QComboBox>
+
+#include "host/toolkit/headless/ComboBox.h"
+#include "host/toolkit/qt/Presenter.h"
+
+namespace bench::qt {
+
+class ComboBoxPresenter final : public PresenterFor<headless::ComboBox, QComboBox> {
+ public:
+  ComboBoxPresenter(Stage& stage, headless::Control& control);
+
+ protected:
+  void SyncOwn() override;
+  orvik::platform::Color PlainBackColor() const override { return orvik::platform::kWindowBackground; }
+
+ private:
+  void SyncEditable();
+  void SyncItems();
+};
+
+}  // namespace bench::qt

@@ -1,0 +1,145 @@
+#include "host/toolkit/qt/FormPresenter.h"
+
+#include <QEvent>
+#include <QScreen>
+#include <QWindow>
+#include <algorithm>
+#include <utility>
+
+#include "host/toolkit/headless/Application.h"
+#include "host/toolkit/qt/Stage.h"
+#include "host/toolkit/qt/Texts.h"
+#include "host/toolkit/qt/Units.h"
+
+namespace bench::qt {
+namespace {
+
+/// The inside of a window that has the size its layout asks for, for whoever embeds it.
+class FormWidget final : public QWidget {
+ public:
+  FormWidget(QWidget* parent, const headless::Form& form, const Units& units)
+      : QWidget(parent), form_(form), units_(units) {}
+  QSize sizeHint() const override { return units_.Pixels(form_.NaturalSize()); }
+
+ private:
+  const headless::Form& form_;
+  const Units& units_;
+};
+
+QWidget* NewFormWidget(Stage& stage, const headless::Control& control) {
+  const auto& form = dynamic_cast<const headless::Form&>(control);
+  return new FormWidget(stage.EmbeddedIn(form), form, stage.GetUnits());
+}
+
+/// Above its owner, and not blocked by it.
+void StandAbove(QWidget& window, QWidget* owner) {
+  window.winId();
+  QWindow* handle = window.windowHandle();
+  QWindow* above = owner ? owner->windowHandle() : nullptr;
+  if (!handle || handle == above) return;
+  if (above && handle->isAncestorOf(above, QWindow::IncludeTransients)) above->setTransientParent(nullptr);
+  handle->setTransientParent(above);
+}
+
+/// In the middle of its owner, or of the screen.
+void Centre(QWidget& window, const QWidget* owner) {
+  const QRect room = window.screen()->availableGeometry();
+  QRect place(QPoint(), window.size());
+  place.moveCenter(owner ? owner->frameGeometry().center() : room.center());
+  place.moveLeft(std::max(room.left(), std::min(place.left(), room.right() - place.width())));
+  place.moveTop(std::max(room.top(), std::min(place.top(), room.bottom() - place.height())));
+  window.move(place.topLeft());
+}
+
+}  // namespace
+
+FormPresenter::FormPresenter(Stage& stage, headless::Control& control)
+    : PresenterFor(stage, control, NewFormWidget(stage, control)) {
+  GetShown().setFocusPolicy(Qt::ClickFocus);
+}
+
+bool FormPresenter::Embedded() const { return GetStage().EmbeddedIn(GetModel()) != nullptr; }
+
+void FormPresenter::SyncOwn() {
+  GetShown().setWindowTitle(WithoutAccessKey(GetModel().Caption()));
+  if (!Embedded()) SyncFlags();
+}
+
+void FormPresenter::SyncFlags() {
+  QWidget& window = GetShown();
+  const auto modality = GetStage().Application().IsModal(GetModel()) ? Qt::ApplicationModal : Qt::NonModal;
+  const bool topmost = GetModel().Topmost();
+  const bool sameTop = window.windowFlags().testFlag(Qt::WindowStaysOnTopHint) == topmost;
+  if (sameTop && window.windowModality() == modality) return;
+  // Both take effect when the window is next shown.
+  window.hide();
+  window.setWindowFlag(Qt::WindowStaysOnTopHint, topmost);
+  window.setWindowModality(modality);
+}
+
+void FormPresenter::SyncPlace() {
+  if (!Embedded()) SyncSize();
+  const bool visible = GetModel().Visible();
+  if (visible && GetShown().isHidden())
+    Appear();
+  else
+    GetShown().setVisible(visible);
+}
+
+void FormPresenter::SyncSize() {
+  const orvik::platform::Rect place = GetModel().Bounds();
+  const Units& units = GetStage().GetUnits();
+  const bool moved = place.left != place_.left || place.top != place_.top;
+  place_ = place;
+  if (moved) GetShown().move(units.Pixels(place.left), units.Pixels(place.top));
+  GetShown().resize(units.Pixels(orvik::platform::Size{place.width, place.height}));
+  given_ = GetShown().size();
+}
+
+void FormPresenter::Appear() {
+  if (Embedded()) return GetShown().show();
+  QWidget* owner = GetStage().OwnerOfNext(GetModel());
+  StandAbove(GetShown(), owner);
+  if (place_.left == 0 && place_.top == 0) Centre(GetShown(), owner);
+  GetShown().show();
+}
+
+bool FormPresenter::Filter(QObject& watched, QEvent& event) {
+  switch (event.type()) {
+    case QEvent::Close:
+      if (Embedded()) break;
+      event.ignore();
+      Forward([](headless::Form& form) { form.Close(); });
+      return true;
+    case QEvent::Resize:
+      Resized();
+      break;
+    case QEvent::WindowActivate:
+      if (!Embedded()) Activated();
+      break;
+    default:
+      break;
+  }
+  return Presenter::Filter(watched, event);
+}
+
+void FormPresenter::Resized() {
+  const QSize size = GetShown().size();
+  if (std::exchange(given_, size) == size) return;
+  const auto inner = GetStage().GetUnits().Twips(size);
+  if (Embedded())
+    // By the layout of the host's window, whether or not the form answers a person.
+    Forward([inner](headless::Form& form) {
+      form.SetBounds({form.Bounds().left, form.Bounds().top, inner.width, inner.height});
+    });
+  else
+    Forward([inner](headless::Form& form) { form.Resize(inner); });
+}
+
+void FormPresenter::Activated() {
+  // Qt may have put the focus elsewhere; where it belongs is for the model to say.
+  GetStage().BringFocusAgain();
+  Forward([](headless::Form& form) { form.Activate(); });
+}
+
+}  // namespace bench::qt

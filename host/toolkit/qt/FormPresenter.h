@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QSize>
+#include <QWidget>
+
+#include "host/toolkit/headless/Form.h"
+#include "host/toolkit/qt/Presenter.h"
+
+namespace bench::qt {
+
+/// A window, or the inside of one where the form is embedded.
+class FormPresenter final : public PresenterFor<headless::Form, QWidget> {
+ public:
+  FormPresenter(Stage& stage, headless::Control& control);
+  bool Filter(QObject& watched, QEvent& event) override;
+
+ protected:
+  void SyncOwn() override;
+  void SyncPlace() override;
+
+ private:
+  bool Embedded() const;
+  void SyncFlags();
+  void SyncSize();
+  void Appear();
+  void Resized();
+  void Activated();
+
+  // The size that the window was given; another one comes from a person.
+  QSize given_;
+  orvik::platform::Rect place_;
+};
+
+}  // namespace bench::qt

@@ -1,0 +1,41 @@
+#include "host/toolkit/qt/Screen.h"
+
+#include <QWidget>
+#include <utility>
+
+#include "OrvikTypeLib/HostError.h"
+#include "host/toolkit/headless/Application.h"
+#include "host/toolkit/headless/Form.h"
+#include "host/toolkit/qt/Presenter.h"
+#include "host/toolkit/qt/Stage.h"
+
+namespace bench::qt {
+
+Screen::Screen(std::shared_ptr<headless::Application> application, Measure measure)
+    : stage_(std::make_unique<Stage>(std::move(application), measure)) {}
+
+Screen::~Screen() = default;
+
+QWidget* Screen::Embed(const std::shared_ptr<orvik::platform::IForm>& form, QWidget* parent) {
+  const auto embedded = std::dynamic_pointer_cast<headless::Form>(form);
+  if (!embedded || !parent)
+    headless::Fail(orvik::HostError::kInvalidArgument, "a form of the application is embedded in a window");
+  return stage_->Embed(*embedded, parent);
+}
+
+QWidget* Screen::WidgetOf(const orvik::platform::IControl& control) const {
+  const Presenter* presenter = stage_->Find(control.Handle());
+  return presenter ? presenter->Widget() : nullptr;
+}
+
+void Screen::SetErrorHandler(std::function<void(const std::string&)> handler) {
+  stage_->SetErrorHandler(std::move(handler));
+}
+
+void Screen::Update() { stage_->Update(); }
+
+void Screen::Exec() { stage_->Exec(); }
+
+void Screen::Quit() { stage_->Quit(); }
+
+}  // namespace bench::qt

@@ -1,0 +1,92 @@
+#include "host/toolkit/qt/Sleeper.h"
+
+#include <QCoreApplication>
+#include <QThread>
+#include <algorithm>
+#include <utility>
+
+namespace bench::qt {
+namespace {
+
+int LoopLevel() { return QThread::currentThread()->loopLevel(); }
+
+/// Starts a timer that rings once. Rounded up: ringing too early would cost a second sleep.
+void StartOnce(QTimer& timer, std::chrono::nanoseconds after) {
+  if (after == std::chrono::nanoseconds::max()) return timer.stop();
+  const std::chrono::nanoseconds longest = std::chrono::hours(1);
+  timer.start(std::chrono::ceil<std::chrono::milliseconds>(std::min(after, longest)));
+}
+
+}  // namespace
+
+Sleeper::Sleeper(std::function<std::chrono::nanoseconds()> untilWork, std::function<void()> serve)
+    : untilWork_(std::move(untilWork)), serve_(std::move(serve)) {
+  for (QTimer* timer : {&workTimer_, &deadlineTimer_}) {
+    timer->setSingleShot(true);
+    timer->setTimerType(Qt::PreciseTimer);
+    QObject::connect(timer, &QTimer::timeout, timer, [this] { Ready(); });
+  }
+}
+
+Sleeper::~Sleeper() = default;
+
+void Sleeper::Watch(const std::vector<int>& descriptors) {
+  std::erase_if(notifiers_, [&](const auto& entry) {
+    return std::find(descriptors.begin(), descriptors.end(), entry.first) == descriptors.end();
+  });
+  for (const int descriptor : descriptors) {
+    auto& notifier = notifiers_[descriptor];
+    if (notifier) continue;
+    notifier = std::make_unique<QSocketNotifier>(descriptor, QSocketNotifier::Read);
+    // By way of the timer: the descriptor's owner may end the watch, and with it this very notifier.
+    QObject::connect(notifier.get(), &QSocketNotifier::activated, notifier.get(), [this] { LookAgain(); });
+  }
+}
+
+void Sleeper::WorkAdded() { StartWorkTimer(); }
+
+void Sleeper::LookAgain() { workTimer_.start(0); }
+
+void Sleeper::StartWorkTimer() { StartOnce(workTimer_, untilWork_()); }
+
+void Sleeper::Sleep(std::chrono::nanoseconds longest) {
+  const auto outerLevel = std::exchange(level_, LoopLevel());
+  ready_ = false;
+  StartWorkTimer();
+  if (longest > std::chrono::nanoseconds::zero()) {
+    StartOnce(deadlineTimer_, longest);
+    while (!ready_ && !error_) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    deadlineTimer_.stop();
+  } else {
+    QCoreApplication::processEvents();
+  }
+  level_ = outerLevel;
+  // An outer sleep looks again too: what it waited for may have been done here.
+  ready_ = true;
+  StartWorkTimer();
+  if (error_) std::rethrow_exception(std::exchange(error_, nullptr));
+}
+
+void Sleeper::Keep(std::exception_ptr error) {
+  if (!error_) error_ = std::move(error);
+}
+
+void Sleeper::Ready() {
+  if (level_ && LoopLevel() <= *level_)
+    ready_ = true;
+  else
+    Serve();
+}
+
+void Sleeper::Serve() {
+  ++foreign_;
+  try {
+    serve_();
+  } catch (...) {
+    Keep(std::current_exception());
+  }
+  --foreign_;
+  StartWorkTimer();
+}
+
+}  // namespace bench::qt

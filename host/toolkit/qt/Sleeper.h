@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QSocketNotifier>
+#include <QTimer>
+#include <chrono>
+#include <exception>
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace bench::qt {
+
+/// Sleeps in Qt's event dispatcher, with our descriptors and times in it. When Qt's own loop runs (an open
+/// menu, a file dialog), it has the application served from there.
+class Sleeper {
+ public:
+  /// @param untilWork how long until something of ours falls due
+  /// @param serve processes what is pending
+  Sleeper(std::function<std::chrono::nanoseconds()> untilWork, std::function<void()> serve);
+  ~Sleeper();
+  Sleeper(const Sleeper&) = delete;
+  Sleeper& operator=(const Sleeper&) = delete;
+
+  void Watch(const std::vector<int>& descriptors);
+  void WorkAdded();
+  /// A sleep that is on ends at once.
+  void LookAgain();
+  /// Throws what `Keep` was given.
+  void Sleep(std::chrono::nanoseconds longest);
+  /// Takes an error that must not pass through Qt; the next sleep ends with it.
+  void Keep(std::exception_ptr error);
+  /// Whether Qt's own loop runs below us, so that widgets may be in use on the stack.
+  bool BelowForeignLoop() const { return foreign_ > 0; }
+
+ private:
+  void Ready();
+  void Serve();
+  void StartWorkTimer();
+
+  std::function<std::chrono::nanoseconds()> untilWork_;
+  std::function<void()> serve_;
+  std::map<int, std::unique_ptr<QSocketNotifier>> notifiers_;
+  QTimer workTimer_;
+  QTimer deadlineTimer_;
+  // Ends the sleep that is on.
+  bool ready_ = false;
+  // How deep Qt's loops were when the sleep began that is on.
+  std::optional<int> level_;
+  int foreign_ = 0;
+  std::exception_ptr error_;
+};
+
+}  // namespace bench::qt

@@ -1,0 +1,271 @@
+#include "host/toolkit/qt/Stage.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <utility>
+
+#include "OrvikTypeLib/HostError.h"
+#include "host/toolkit/headless/Application.h"
+#include "host/toolkit/headless/Form.h"
+#include "host/toolkit/headless/PlainMetrics.h"
+#include "host/toolkit/qt/FontMetrics.h"
+#include "host/toolkit/qt/Keys.h"
+#include "host/toolkit/qt/Presenter.h"
+#include "host/toolkit/qt/PresenterFactory.h"
+
+namespace bench::qt {
+
+using orvik::platform::WindowHandle;
+
+/// Sends the events of widgets to their presenters.
+class Stage::EventFilter final : public QObject {
+ public:
+  explicit EventFilter(Stage& stage) : stage_(stage) {}
+
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    const auto found = stage_.watched_.find(watched);
+    return found != stage_.watched_.end() && found->second->Filter(*watched, *event);
+  }
+
+ private:
+  Stage& stage_;
+};
+
+Stage::Stage(std::shared_ptr<headless::Application> application, Measure measure)
+    : application_(std::move(application)),
+      metrics_(measure == Measure::kFont ? std::unique_ptr<headless::IMetrics>(new FontMetrics)
+                                         : std::make_unique<headless::PlainMetrics>()),
+      filter_(std::make_unique<EventFilter>(*this)),
+      sleeper_([this] { return application_->UntilWork(); },
+               [this] {
+                 try {
+                   application_->ProcessMessages();
+                 } catch (...) {
+                   Report();
+                 }
+                 Update();
+               }) {
+  application_->SetScreen(this);
+}
+
+Stage::~Stage() {
+  application_->SetScreen(nullptr);
+  while (!presenters_.empty()) Bury(presenters_.begin()->first);
+  for (const auto& widget : buried_) delete widget;
+}
+
+void Stage::Changed(headless::Control& control) {
+  changed_.insert_or_assign(control.Handle(), control.weak_from_this());
+  // It may have been changed by whom Qt has called: the sleep that is on does not know.
+  sleeper_.LookAgain();
+}
+
+void Stage::Gone(const headless::Control& control) {
+  changed_.erase(control.Handle());
+  embedded_.erase(control.Handle());
+  Bury(control.Handle());
+}
+
+void Stage::Sleep(std::chrono::nanoseconds longest) {
+  Update();
+  sleeper_.Sleep(longest);
+}
+
+void Stage::Exec() {
+  quit_ = false;
+  while (!quit_) {
+    try {
+      application_->WaitMessages(orvik::platform::Time::max());
+    } catch (...) {
+      Report();
+    }
+  }
+}
+
+void Stage::Quit() {
+  quit_ = true;
+  application_->Wake();
+}
+
+Presenter* Stage::Find(WindowHandle handle) const {
+  const auto found = presenters_.find(handle);
+  return found == presenters_.end() ? nullptr : found->second.get();
+}
+
+void Stage::Update() {
+  if (*onItsWay_ > 0 || updating_) return;
+  updating_ = true;
+  DropDeleted();
+  for (const auto& [handle, changed] : std::exchange(changed_, {})) {
+    if (const auto control = changed.lock()) Show(*control);
+  }
+  BringFocus();
+  updating_ = false;
+  if (sleeper_.BelowForeignLoop()) return;
+  for (const auto& widget : std::exchange(buried_, {})) delete widget;
+}
+
+void Stage::Show(headless::Control& control) {
+  Presenter* presenter = Find(control.Handle());
+  if (const auto* form = dynamic_cast<headless::Form*>(&control)) {
+    const bool wanted = form->Visible() || (presenter && form->Loaded()) || EmbeddedIn(*form);
+    if (!wanted) return Drop(control);
+  } else {
+    const auto parent = control.ParentWindow();
+    if (!parent || !Find(parent->Handle())) return Drop(control);
+  }
+  if (presenter && !presenter->Fits()) {
+    Drop(control);
+    presenter = nullptr;
+  }
+  if (presenter)
+    presenter->Sync();
+  else
+    Present(control);
+}
+
+Presenter& Stage::Present(headless::Control& control) {
+  auto& presenter = *(presenters_[control.Handle()] = MakePresenter(*this, control));
+  Presenter* before = nullptr;
+  for (const auto& inner : application_->WindowsInside(control)) {
+    Show(*inner);
+    Presenter* shown = Find(inner->Handle());
+    if (before && shown) before->Precedes(*shown);
+    before = shown;
+  }
+  presenter.Sync();
+  return presenter;
+}
+
+void Stage::Drop(headless::Control& control) {
+  if (!Find(control.Handle())) return;
+  for (const auto& inner : application_->WindowsInside(control)) Drop(*inner);
+  Bury(control.Handle());
+}
+
+void Stage::Bury(WindowHandle handle) {
+  const auto found = presenters_.find(handle);
+  if (found == presenters_.end()) return;
+  const auto presenter = std::move(found->second);
+  presenters_.erase(found);
+  QWidget* widget = presenter->Widget();
+  if (!widget) return;
+  const bool updating = std::exchange(updating_, true);
+  widget->hide();
+  widget->setParent(nullptr);
+  buried_.emplace_back(widget);
+  updating_ = updating;
+  if (shownActive_ == handle) shownActive_ = 0;
+  if (shownFocus_ == handle) shownFocus_ = 0;
+}
+
+void Stage::DropDeleted() {
+  // A window of the host's own takes what is embedded in it along.
+  if (embedded_.empty()) return;
+  std::erase_if(embedded_, [](const auto& entry) { return !entry.second; });
+  std::erase_if(presenters_, [](const auto& entry) { return !entry.second->Widget(); });
+}
+
+void Stage::BringFocus() {
+  const auto active = std::dynamic_pointer_cast<headless::Form>(application_->ActiveForm());
+  const WindowHandle activeHandle = active ? active->Handle() : 0;
+  if (std::exchange(shownActive_, activeHandle) != activeHandle && activeHandle != 0) {
+    if (const Presenter* window = Find(activeHandle)) {
+      window->Widget()->raise();
+      window->Widget()->activateWindow();
+    }
+  }
+  const auto focused = application_->Focused();
+  const WindowHandle focus = focused ? focused->Handle() : 0;
+  if (std::exchange(shownFocus_, focus) == focus) return;
+  if (Presenter* presenter = Find(focus)) presenter->TakeFocus();
+}
+
+void Stage::BringFocusAgain() {
+  shownActive_ = 0;
+  shownFocus_ = 0;
+  sleeper_.LookAgain();
+}
+
+QWidget* Stage::Embed(headless::Form& form, QWidget* parent) {
+  embedded_[form.Handle()] = parent;
+  Drop(form);
+  const bool updating = std::exchange(updating_, true);
+  QWidget* widget = Present(form).Widget();
+  updating_ = updating;
+  return widget;
+}
+
+QWidget* Stage::EmbeddedIn(const headless::Form& form) const {
+  const auto found = embedded_.find(form.Handle());
+  return found == embedded_.end() ? nullptr : found->second.data();
+}
+
+QWidget* Stage::OwnerOfNext(const headless::Form& form) const {
+  const headless::Form* owner = nullptr;
+  for (const auto& [handle, presenter] : presenters_) {
+    const auto* other = dynamic_cast<headless::Form*>(&presenter->Control());
+    if (!other || other == &form || !other->Visible() || !presenter->Widget()) continue;
+    if (other->ShowOrder() < form.ShowOrder() && (!owner || owner->ShowOrder() < other->ShowOrder()))
+      owner = other;
+  }
+  return owner ? Find(owner->Handle())->Widget()->window() : QApplication::activeWindow();
+}
+
+void Stage::Forward(headless::Control& control, std::function<void(headless::Control&)> action) {
+  if (updating_) return;
+  ++*onItsWay_;
+  application_->Post(
+      [this, on = std::weak_ptr<int>(onItsWay_), to = control.weak_from_this(), action = std::move(action)] {
+        // The stage may be gone by now, and the control too.
+        const auto here = on.lock();
+        if (!here) return;
+        --*here;
+        if (const auto target = to.lock()) Run(*target, action);
+      });
+}
+
+void Stage::Run(headless::Control& control, const std::function<void(headless::Control&)>& action) {
+  const std::weak_ptr<int> here = onItsWay_;
+  try {
+    action(control);
+  } catch (...) {
+    if (here.expired()) throw;
+    // What the model refused stands in the widget all the same.
+    Changed(control);
+    return Report();
+  }
+  if (!here.expired()) Changed(control);
+}
+
+void Stage::Report() {
+  if (!errorHandler_) throw;
+  try {
+    throw;
+  } catch (const orvik::HostError& error) {
+    errorHandler_(error.Description());
+  } catch (const std::exception& error) {
+    errorHandler_(error.what());
+  }
+}
+
+void Stage::PreviewKey(headless::Control& control, const QKeyEvent& event) {
+  const auto form = control.TopForm();
+  const int key = KeyOf(event);
+  if (!form || !form->KeyPreview() || key == 0 || event.isAutoRepeat()) return;
+  Forward(*form, [key, shift = ShiftOf(event)](headless::Control& target) {
+    static_cast<headless::Form&>(target).PreviewKey(key, shift);
+  });
+}
+
+void Stage::Watch(QObject& object, Presenter& presenter) {
+  watched_[&object] = &presenter;
+  object.installEventFilter(filter_.get());
+}
+
+void Stage::Unwatch(const Presenter& presenter) {
+  // Filters of objects that are gone have gone with them; the others are asked no more.
+  std::erase_if(watched_, [&](const auto& entry) { return entry.second == &presenter; });
+}
+
+}  // namespace bench::qt

@@ -1,0 +1,109 @@
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+#include <QWidget>
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+#include "host/toolkit/headless/IScreen.h"
+#include "host/toolkit/qt/FontMetrics.h"
+#include "host/toolkit/qt/Screen.h"
+#include "host/toolkit/qt/Sleeper.h"
+#include "host/toolkit/qt/Units.h"
+#include "platform/Types.h"
+
+class QKeyEvent;
+
+namespace bench::headless {
+class Application;
+class Control;
+class Form;
+}  // namespace bench::headless
+
+namespace bench::qt {
+
+class Presenter;
+
+/// Everything that is on the screen: the presenters of all windows that have been shown, what has changed
+/// since they were last brought up to date, and the way back to the model.
+class Stage final : public headless::IScreen {
+ public:
+  Stage(std::shared_ptr<headless::Application> application, Measure measure);
+  ~Stage() override;
+
+  void Changed(headless::Control& control) override;
+  void Gone(const headless::Control& control) override;
+  const headless::IMetrics& Metrics() const override { return *metrics_; }
+  void Watch(const std::vector<int>& descriptors) override { sleeper_.Watch(descriptors); }
+  void WorkAdded() override { sleeper_.WorkAdded(); }
+  void Sleep(std::chrono::nanoseconds longest) override;
+
+  void SetErrorHandler(std::function<void(const std::string&)> handler) {
+    errorHandler_ = std::move(handler);
+  }
+  /// Brings all widgets up to date. While something that the person did is still on its way to the model,
+  /// that waits: the model is behind the widgets.
+  void Update();
+  void Exec();
+  void Quit();
+  QWidget* Embed(headless::Form& form, QWidget* parent);
+
+  /// The presenter of a window, or null while it is not shown.
+  Presenter* Find(orvik::platform::WindowHandle handle) const;
+  const Units& GetUnits() const { return units_; }
+  headless::Application& Application() const { return *application_; }
+  /// Where the form is embedded, or null.
+  QWidget* EmbeddedIn(const headless::Form& form) const;
+  /// The widget above which a window that appears now belongs, or null.
+  QWidget* OwnerOfNext(const headless::Form& form) const;
+
+  /// Puts the action of a person into the message queue. While widgets are being brought up to date nothing
+  /// comes from a person, and nothing is put there.
+  void Forward(headless::Control& control, std::function<void(headless::Control&)> action);
+  /// The key comes first to the form, if that wants it.
+  void PreviewKey(headless::Control& control, const QKeyEvent& event);
+  /// The form's window has become the active one, or should be: the focus is brought to where the model has
+  /// it.
+  void BringFocusAgain();
+  void Watch(QObject& object, Presenter& presenter);
+  void Unwatch(const Presenter& presenter);
+
+ private:
+  class EventFilter;
+
+  void Show(headless::Control& control);
+  Presenter& Present(headless::Control& control);
+  void Drop(headless::Control& control);
+  void Bury(orvik::platform::WindowHandle handle);
+  void DropDeleted();
+  void BringFocus();
+  void Run(headless::Control& control, const std::function<void(headless::Control&)>& action);
+  void Report();
+
+  std::shared_ptr<headless::Application> application_;
+  Units units_;
+  std::unique_ptr<headless::IMetrics> metrics_;
+  std::function<void(const std::string&)> errorHandler_;
+  std::unique_ptr<EventFilter> filter_;
+  std::unordered_map<QObject*, Presenter*> watched_;
+  // Outer windows were made before inner ones, so they come first.
+  std::map<orvik::platform::WindowHandle, std::weak_ptr<headless::Control>> changed_;
+  std::map<orvik::platform::WindowHandle, std::unique_ptr<Presenter>> presenters_;
+  std::map<orvik::platform::WindowHandle, QPointer<QWidget>> embedded_;
+  // Widgets without a control that Qt may still have on its stack.
+  std::vector<QPointer<QWidget>> buried_;
+  orvik::platform::WindowHandle shownActive_ = 0;
+  orvik::platform::WindowHandle shownFocus_ = 0;
+  bool updating_ = false;
+  bool quit_ = false;
+  // What is posted looks whether the stage is still there; the number of what is on its way.
+  std::shared_ptr<int> onItsWay_ = std::make_shared<int>(0);
+  Sleeper sleeper_;
+};
+
+}  // namespace bench::qt

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QTabBar>
+#include <QWidget>
+#include <string>
+#include <vector>
+
+#include "host/toolkit/headless/Tabs.h"
+#include "host/toolkit/qt/Presenter.h"
+
+namespace bench::qt {
+
+/// A bar of captions above the pages, which are panels that the model places below it.
+class TabsPresenter final : public PresenterFor<headless::Tabs, QWidget> {
+ public:
+  TabsPresenter(Stage& stage, headless::Control& control);
+  bool Filter(QObject& watched, QEvent& event) override;
+
+ protected:
+  void SyncOwn() override;
+
+ private:
+  QTabBar& bar_;
+};
+
+}  // namespace bench::qt

@@ -1,0 +1,53 @@
+#include "host/toolkit/qt/TextBoxPresenter.h"
+
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <algorithm>
+
+#include "host/toolkit/qt/Texts.h"
+
+namespace bench::qt {
+namespace {
+
+QWidget* NewTextWidget(const headless::Control& control) {
+  if (!dynamic_cast<const headless::TextBox&>(control).MultiLine()) return new QLineEdit;
+  auto* lines = new QPlainTextEdit;
+  lines->setTabChangesFocus(true);
+  return lines;
+}
+
+}  // namespace
+
+TextBoxPresenter::TextBoxPresenter(Stage& stage, headless::Control& control)
+    : PresenterFor(stage, control, NewTextWidget(control)),
+      line_(qobject_cast<QLineEdit*>(Widget())),
+      lines_(qobject_cast<QPlainTextEdit*>(Widget())) {
+  if (line_)
+    QObject::connect(line_, &QLineEdit::textEdited, line_, [this](const QString& text) { Typed(text); });
+  else
+    QObject::connect(lines_, &QPlainTextEdit::textChanged, lines_, [this] { Typed(lines_->toPlainText()); });
+}
+
+bool TextBoxPresenter::Fits() const { return GetModel().MultiLine() == (lines_ != nullptr); }
+
+void TextBoxPresenter::Typed(const QString& text) {
+  Forward([typed = FromQt(text)](headless::TextBox& box) { box.TypeOver(typed); });
+}
+
+void TextBoxPresenter::SyncOwn() {
+  const QString text = ToQt(GetModel().Text());
+  const bool locked = GetModel().Locked();
+  if (lines_) {
+    lines_->setReadOnly(locked);
+    if (lines_->toPlainText() != text) lines_->setPlainText(text);
+    return;
+  }
+  line_->setReadOnly(locked);
+  if (line_->text() == text) return;
+  // Whoever types on goes on typing where he was.
+  const int cursor = line_->cursorPosition();
+  line_->setText(text);
+  line_->setCursorPosition(std::min(cursor, static_cast<int>(text.size())));
+}
+
+}  // namespace bench::qt

@@ -1,0 +1,83 @@
+#include "host/toolkit/qt/ToolbarPresenter.h"
+
+#include <QHBoxLayout>
+#include <QMenu>
+#include <QToolButton>
+
+#include "host/toolkit/qt/Texts.h"
+
+namespace bench::qt {
+
+ToolbarPresenter::ToolbarPresenter(Stage& stage, headless::Control& control)
+    : PresenterFor(stage, control, new QWidget) {
+  auto* row = new QHBoxLayout(&GetShown());
+  row->setContentsMargins(0, 0, 0, 0);
+  row->setSpacing(0);
+  row->setAlignment(Qt::AlignLeft);
+}
+
+void ToolbarPresenter::SyncOwn() {
+  const auto commands = GetModel().Commands();
+  if (commands != commands_) Build(commands);
+  const headless::Toolbar& model = GetModel();
+  for (const auto& [command, button] : buttons_) {
+    button->setText(WithAccessKey(model.CommandCaption(command)));
+    button->setAccessibleName(WithoutAccessKey(model.CommandCaption(command)));
+    button->setToolTip(PlainToolTip(model.CommandToolTip(command)));
+    button->setEnabled(model.CommandEnabled(command));
+    button->setVisible(model.CommandVisible(command));
+  }
+  for (const auto& [command, entry] : entries_) {
+    entry->setText(WithAccessKey(model.CommandCaption(command)));
+    entry->setEnabled(model.CommandEnabled(command));
+    entry->setVisible(model.CommandVisible(command));
+  }
+}
+
+void ToolbarPresenter::Build(const std::vector<int>& commands) {
+  for (const auto& entry : buttons_) delete entry.second;
+  buttons_.clear();
+  entries_.clear();
+  commands_ = commands;
+  for (const int command : commands) {
+    const int parent = GetModel().CommandParent(command);
+    if (parent == 0)
+      AddButton(command);
+    else
+      AddEntry(parent, command);
+  }
+}
+
+void ToolbarPresenter::AddButton(int command) {
+  auto* button = new QToolButton(&GetShown());
+  button->setObjectName(NameOf(command));
+  button->setToolButtonStyle(Qt::ToolButtonTextOnly);
+  button->setAutoRaise(true);
+  button->setFocusPolicy(Qt::TabFocus);
+  button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+  QObject::connect(button, &QToolButton::clicked, button, [this, command] { Chosen(command); });
+  GetShown().layout()->addWidget(button);
+  buttons_[command] = button;
+}
+
+void ToolbarPresenter::AddEntry(int parent, int command) {
+  QToolButton* button = buttons_.at(parent);
+  if (!button->menu()) {
+    button->setMenu(new QMenu(button));
+    button->setPopupMode(QToolButton::InstantPopup);
+  }
+  QAction* entry = button->menu()->addAction(QString());
+  entry->setObjectName(NameOf(command));
+  QObject::connect(entry, &QAction::triggered, button, [this, command] { Chosen(command); });
+  entries_[command] = entry;
+}
+
+QString ToolbarPresenter::NameOf(int command) const {
+  return QStringLiteral("%1.%2").arg(ToQt(GetModel().Name())).arg(command);
+}
+
+void ToolbarPresenter::Chosen(int command) {
+  Forward([command](headless::Toolbar& toolbar) { toolbar.Click(command); });
+}
+
+}  // namespace bench::qt

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QWidget>
+#include <map>
+#include <vector>
+
+#include "host/toolkit/headless/Toolbar.h"
+#include "host/toolkit/qt/Presenter.h"
+
+class QAction;
+class QToolButton;
+
+namespace bench::qt {
+
+/// A row of buttons, named "TOOLBAR.COMMAND"; those with entries drop down a menu of them.
+class ToolbarPresenter final : public PresenterFor<headless::Toolbar, QWidget> {
+ public:
+  ToolbarPresenter(Stage& stage, headless::Control& control);
+
+ protected:
+  void SyncOwn() override;
+
+ private:
+  void Build(const std::vector<int>& commands);
+  void AddButton(int command);
+  void AddEntry(int parent, int command);
+  QString NameOf(int command) const;
+  void Chosen(int command);
+
+  std::vector<int> commands_;
+  std::map<int, QToolButton*> buttons_;
+  std::map<int, QAction*> entries_;
+};
+
+}  // namespace bench::qt

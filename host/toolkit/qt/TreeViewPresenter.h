@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QTreeWidget>
+
+#include "host/toolkit/headless/TreeView.h"
+#include "host/toolkit/qt/Presenter.h"
+
+namespace bench::qt {
+
+class TreeViewPresenter final : public PresenterFor<headless::TreeView, QTreeWidget> {
+ public:
+  TreeViewPresenter(Stage& stage, headless::Control& control);
+
+ protected:
+  void SyncOwn() override;
+  orvik::platform::Color PlainBackColor() const override { return orvik::platform::kWindowBackground; }
+};
+
+}  // namespace bench::qt
