@@ -39,6 +39,23 @@ void CalibrationWindow::Run() {
   form_->Unload();
 }
 
+void CalibrationWindow::Show() {
+  doubts_.ElementStarts(kCalibration);
+  const auto noted = doubts_.Noted().Subscribe([this](std::int32_t, const std::string&) {
+    workbench_.Application()->Post([this, alive = std::weak_ptr<int>(alive_)] {
+      if (!alive.expired()) RefuseDoubtful();
+    });
+  });
+  form_->ShowModal(nullptr);
+  form_->Unload();
+}
+
+void CalibrationWindow::RefuseDoubtful() {
+  if (cancelled_ || !form_->Visible()) return;
+  reason_ = Obstacle();
+  Cancel();
+}
+
 void CalibrationWindow::Cancel() {
   cancelled_ = true;
   ClickButton(*form_, kCancel);

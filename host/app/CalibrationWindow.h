@@ -10,8 +10,8 @@
 
 namespace bench {
 
-/// Operates the plug-in's window for the calibration of the test leads: calibrate, then save, or cancel when
-/// there is nothing to be relied on.
+/// The plug-in's window for the calibration of the test leads, operated by the program (calibrate, then save,
+/// or cancel when there is nothing to be relied on) or by a person.
 class CalibrationWindow {
  public:
   struct Saved {
@@ -23,8 +23,11 @@ class CalibrationWindow {
   /// @param serial the serial number to store the value under; empty for the one that the tester tells
   CalibrationWindow(Workbench& workbench, std::string serial);
 
-  /// Returns when the window is closed and the session with the tester is over.
+  /// Operates the window. Returns when it is closed and the session with the tester is over.
   void Run();
+  /// Leaves the window to the person before the screen; a measurement that is doubtful closes it, and
+  /// `Reason` tells. Returns as `Run` does.
+  void Show();
   /// What was stored; none when nothing was: `Reason`.
   const std::optional<Saved>& Stored() const { return stored_; }
   const std::string& Reason() const { return reason_; }
@@ -34,6 +37,7 @@ class CalibrationWindow {
 
  private:
   void Operate();
+  void RefuseDoubtful();
   std::string Obstacle() const;
 
   Workbench& workbench_;
@@ -44,6 +48,7 @@ class CalibrationWindow {
   std::optional<Saved> stored_;
   std::string reason_;
   bool cancelled_ = false;
+  std::shared_ptr<int> alive_ = std::make_shared<int>();
 };
 
 }  // namespace bench

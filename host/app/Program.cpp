@@ -10,6 +10,7 @@
 #include "host/app/CheckCommand.h"
 #include "host/app/Command.h"
 #include "host/app/ConfigCommand.h"
+#include "host/app/GuiCommand.h"
 #include "host/app/InputError.h"
 #include "host/app/LimitCommand.h"
 #include "host/app/NewCommand.h"
@@ -110,8 +111,8 @@ ExitStatus ParseAndRun(int argumentCount, const char* const* arguments) {
   GlobalOptions options;
   DeclareGlobal(program, options);
   const auto entries = Declare<TestsCommand, NewCommand, LimitCommand, StandardsCommand, CheckCommand,
-                               ConfigCommand, RunCommand, ShowCommand, ReportCommand, CalibrateCommand,
-                               ArchiveCommand, CompletionCommand, ManualCommand>(program);
+                               ConfigCommand, RunCommand, GuiCommand, ShowCommand, ReportCommand,
+                               CalibrateCommand, ArchiveCommand, CompletionCommand, ManualCommand>(program);
   try {
     program.parse(argumentCount, arguments);
   } catch (const CLI::Success& asked) {  // help and version

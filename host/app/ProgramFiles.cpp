@@ -25,6 +25,8 @@ std::filesystem::path PlugInLibrary() { return Prefix() / "lib" / "orvik" / "orv
 
 std::filesystem::path PdfModule() { return Prefix() / "lib" / "orvik" / "orvikPdf.so"; }
 
+std::filesystem::path DesktopModule() { return Prefix() / "lib" / "orvik" / "orvikDesktop.so"; }
+
 std::filesystem::path Catalogue() { return Prefix() / "share" / "orvik" / "catalogue.xml"; }
 
 std::filesystem::path Translations() { return Prefix() / "share" / "orvik" / "translations"; }

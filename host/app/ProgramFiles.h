@@ -12,6 +12,8 @@ namespace bench::files {
 std::filesystem::path PlugInLibrary();
 /// PREFIX/lib/orvik/orvikPdf.so
 std::filesystem::path PdfModule();
+/// PREFIX/lib/orvik/orvikDesktop.so
+std::filesystem::path DesktopModule();
 /// PREFIX/share/orvik/catalogue.xml
 std::filesystem::path Catalogue();
 /// PREFIX/share/orvik/translations

@@ -2,12 +2,17 @@
 
 #include <sys/types.h>
 
+#include <array>
 #include <filesystem>
 #include <string>
 
 #include "host/serial/UniqueFd.h"
 
 namespace bench {
+
+/// The profiles of equipment that keld-sim comes with, in the order of its help.
+inline constexpr std::array kSimulatedProfiles{"sound-class-1", "sound-class-2", "broken-earth", "leaky",
+                                               "overloaded"};
 
 /// keld-sim on a pseudo-terminal, started and ended with this object.
 class SimulatedTester {

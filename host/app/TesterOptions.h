@@ -4,8 +4,7 @@
 #include <memory>
 #include <string>
 
-#include "host/app/SimulatedTester.h"
-#include "host/serial/PortManager.h"
+#include "host/app/TesterConnection.h"
 
 namespace bench {
 
@@ -16,23 +15,17 @@ class TesterOptions {
 
   /// Checks that they fit together. `InputError` otherwise.
   void Check() const;
-  double TimeScale() const { return timeScale_; }
+  double TimeScale() const { return choice_.timeScale; }
 
-  /// Makes the tester ready and its port known: starts the simulated one, or sees to it that the device can
-  /// be opened. `InputError` for a device that is not there or is none; `IncompleteError` for one that cannot
-  /// be had now.
+  /// Makes the tester ready, as `TesterConnection` does.
   void Connect(PortManager& ports);
   /// What to tell the person about the tester's time; empty when it is the wall's.
-  std::string TimeRemark() const;
+  std::string TimeRemark() const { return TimeScaleRemark(choice_.timeScale); }
 
  private:
-  void Probe() const;
-
-  std::string port_;
+  TesterChoice choice_;
   CLI::Option* simulate_ = nullptr;
-  std::string profile_;
-  double timeScale_ = 1.0;
-  std::unique_ptr<SimulatedTester> simulated_;
+  std::unique_ptr<TesterConnection> connection_;
 };
 
 }  // namespace bench

@@ -1,6 +1,7 @@
 #include "host/document/Document.h"
 
 #include <limits>
+#include <utility>
 #include <vector>
 
 #include "OrvikTypeLib/As.h"
@@ -132,7 +133,11 @@ void Document::LoadSections(const std::shared_ptr<pugi::xml_document>& xml) {
   if (elements) elements_->LoadChildren(Wrapped(xml, elements));
 }
 
-void Document::Save() { file_.Write(Text()); }
+void Document::Save() {
+  auto text = Text();
+  file_.Write(text);
+  savedText_ = std::move(text);
+}
 
 std::string Document::Text() const {
   auto& trouble = host_->Elements()->Trouble();

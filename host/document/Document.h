@@ -59,6 +59,8 @@ class Document {
 
   /// The document as it would be saved.
   std::string Text() const;
+  /// The document as it was saved last; empty before it was saved for the first time.
+  const std::string& SavedText() const { return savedText_; }
 
   /// Goes on under another name, which must not exist yet.
   void MoveTo(const std::filesystem::path& file);
@@ -94,6 +96,7 @@ class Document {
   std::shared_ptr<InstrumentColl> instruments_;
   std::shared_ptr<TestContainer> elements_;
   std::int32_t highestId_ = 0;
+  std::string savedText_;
   Leftovers topLeftovers_, rootLeftovers_, equipmentLeftovers_, elementsLeftovers_;
 };
 

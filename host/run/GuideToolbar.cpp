@@ -22,4 +22,19 @@ void ClickButton(const platform::IForm& form, const std::string& button) {
   if (const auto found = std::dynamic_pointer_cast<platform::IButton>(form.Find(button))) found->Click();
 }
 
+void LeaveGuide(const platform::IApplication& application) {
+  // The innermost window first: behind it the guide does not answer.
+  const auto form = application.ActiveForm();
+  if (!form) return;
+  if (form->Name() == guide::kPretestForm) ClickButton(*form, guide::kPretestOk);
+  if (form->Name() == guide::kYesNoForm) ClickButton(*form, guide::kNo);
+  const auto guideForm = application.ActiveForm();
+  if (!guideForm || guideForm->Name() != guide::kGuideForm) return;
+  const auto toolbar = GuideToolbar(*guideForm);
+  if (!toolbar) return;
+  // While a test runs only stop acts, otherwise only next.
+  toolbar->Click(guide::kStop);
+  toolbar->Click(guide::kNext);
+}
+
 }  // namespace bench

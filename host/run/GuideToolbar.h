@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "OrvikTypeLib/ITgToolbar.h"
+#include "platform/IApplication.h"
 #include "platform/IForm.h"
 
 namespace bench {
@@ -38,5 +39,10 @@ std::string CaptionOf(const orvik::platform::IForm& form, const std::string& con
 
 /// Clicks the form's button, as the operator does.
 void ClickButton(const orvik::platform::IForm& form, const std::string& button);
+
+/// Leaves the guide in good order where a person operates it: answers the prompt that is shown, drops the
+/// running test, and goes on from an element that does not run. A prompt or guide that is shown later needs
+/// another call.
+void LeaveGuide(const orvik::platform::IApplication& application);
 
 }  // namespace bench

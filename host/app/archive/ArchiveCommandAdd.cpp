@@ -26,20 +26,6 @@ std::string KeyOf(Archive::Added added) {
   return "unchanged";
 }
 
-std::string TextOf(const std::string& file, const Archive::Receipt& receipt) {
-  const std::vector<std::string> values = {file, std::to_string(receipt.id),
-                                           std::to_string(receipt.revision)};
-  switch (receipt.added) {
-    case Archive::Added::kNew:
-      return Tr("%%1: added as document %%2", values);
-    case Archive::Added::kRevision:
-      return Tr("%%1: has changed, added as document %%2, revision %%3", values);
-    case Archive::Added::kUnchanged:
-      break;
-  }
-  return Tr("%%1: is in the archive already, as document %%2; nothing was added", values);
-}
-
 }  // namespace
 
 CLI::App* ArchiveCommandAdd::Declare(CLI::App& archive) {
@@ -102,7 +88,7 @@ void ArchiveCommandAdd::Refuse(const std::string& file, const std::string& reaso
 void ArchiveCommandAdd::Tell(const std::string& file, const Archive::Receipt& receipt) {
   told_.push_back(
       {{"file", file}, {"result", KeyOf(receipt.added)}, {"id", receipt.id}, {"revision", receipt.revision}});
-  if (!json_) std::cout << TextOf(file, receipt) << std::endl;  // each as soon as it is kept
+  if (!json_) std::cout << ReceiptText(file, receipt) << std::endl;  // each as soon as it is kept
 }
 
 void ArchiveCommandAdd::PrintJson() const {

@@ -134,4 +134,18 @@ std::string UnfinishedReason(const ArchivedDocument& document) {
              first->name, Tr(StatusText(first->status))});
 }
 
+std::string ReceiptText(const std::string& file, const Archive::Receipt& receipt) {
+  const std::vector<std::string> values = {file, std::to_string(receipt.id),
+                                           std::to_string(receipt.revision)};
+  switch (receipt.added) {
+    case Archive::Added::kNew:
+      return Tr("%%1: added as document %%2", values);
+    case Archive::Added::kRevision:
+      return Tr("%%1: has changed, added as document %%2, revision %%3", values);
+    case Archive::Added::kUnchanged:
+      break;
+  }
+  return Tr("%%1: is in the archive already, as document %%2; nothing was added", values);
+}
+
 }  // namespace bench

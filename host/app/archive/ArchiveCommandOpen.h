@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string>
 
-#include "host/app/Command.h"
+#include "host/app/Workbench.h"
 #include "host/archive/Archive.h"
 
 namespace bench {

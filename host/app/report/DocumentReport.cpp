@@ -46,7 +46,7 @@ class Builder {
   report::Report Build() {
     report_.title = Tr("Electrical safety test");
     report_.words = parts::WordsOfReport();
-    report_.verdict = parts::VerdictOf(summary_.elements, summary_.outcome);
+    report_.verdict = Verdict();
     const auto open = parts::OpenParts(summary_.elements);
     report_.partial = !open.empty();
     if (report_.partial) report_.partialNotice = Tr("Partial report: %%1", {open});
@@ -55,16 +55,38 @@ class Builder {
     AddFacts();
     AddPageHeader();
     for (std::size_t i = 0; i < elements_.size(); ++i) AddElement(elements_[i], summary_.elements[i]);
-    TellUnjudged();
     return std::move(report_);
   }
 
- private:
   /// A test that no limit was put to has passed for having been carried out. Who reads "passed" must know.
-  void TellUnjudged() {
-    if (unjudged_ > 0 && report_.verdict.standing == report::Standing::kPassed)
-      report_.verdict.sentence =
-          Tr("%%1; %%2 of them without a limit", {report_.verdict.sentence, std::to_string(unjudged_)});
+  report::Verdict Verdict() const {
+    auto verdict = parts::VerdictOf(summary_.elements, summary_.outcome);
+    const auto unjudged = verdict.standing == report::Standing::kPassed ? Unjudged() : 0;
+    if (unjudged > 0)
+      verdict.sentence = Tr("%%1; %%2 of them without a limit", {verdict.sentence, std::to_string(unjudged)});
+    return verdict;
+  }
+
+  std::optional<report::Section> Section(std::int32_t id) {
+    FindTesters();
+    for (std::size_t i = 0; i < elements_.size(); ++i) {
+      if (summary_.elements[i].id == id)
+        return SectionOf(elements_[i], summary_.elements[i], RowOf(summary_.elements[i]));
+    }
+    return {};
+  }
+
+ private:
+  /// How many tests have passed without a limit.
+  int Unjudged() const {
+    int count = 0;
+    for (std::size_t i = 0; i < elements_.size(); ++i) {
+      const auto& summary = summary_.elements[i];
+      if (!summary.sequence && parts::StandingOf(summary) == report::Standing::kPassed &&
+          parts::JudgementsOf(*elements_[i], summary, *standards_).empty())
+        ++count;
+    }
+    return count;
   }
 
   void FindTimes() {
@@ -156,20 +178,22 @@ class Builder {
         (!base || base->Auxiliary()->PrintElement()) && (atTop || !unprinted_.contains(summary.parent));
     if (!printed) unprinted_.insert(summary.id);
 
+    auto row = RowOf(summary);
+    row.depth = depth;
+    row.detailed = printed;
+    if (printed) report_.sections.push_back(SectionOf(element, summary, row));
+    report_.overview.push_back(std::move(row));
+  }
+
+  static report::OverviewRow RowOf(const ElementSummary& summary) {
     report::OverviewRow row;
     row.id = summary.id;
-    row.depth = depth;
     row.name = VisibleText(summary.name);
     row.value = parts::ValueText(summary);
     if (!row.value.empty()) row.unit = VisibleText(summary.measurement->unit);
     row.standing = parts::StandingOf(summary);
     row.word = VisibleText(Tr(summary.Verdict()));
-    row.detailed = printed;
-    if (printed) report_.sections.push_back(SectionOf(element, summary, row));
-    if (!summary.sequence && row.standing == report::Standing::kPassed &&
-        parts::JudgementsOf(*element, summary, *standards_).empty())
-      ++unjudged_;
-    report_.overview.push_back(std::move(row));
+    return row;
   }
 
   report::Section SectionOf(const Element& element, const ElementSummary& summary,
@@ -216,7 +240,6 @@ class Builder {
   parts::RunTimes times_;
   std::vector<std::string> testers_, leads_;
   std::map<std::int32_t, int> depths_;
-  int unjudged_ = 0;  ///< tests that have passed without a limit
   std::set<std::int32_t> unprinted_;
   report::Report report_;
 };
@@ -225,6 +248,14 @@ class Builder {
 
 report::Report ReportOf(const Document& document, Host& host, const std::string& language) {
   return Builder(document, host, language).Build();
+}
+
+report::Verdict VerdictOf(const Document& document, Host& host) {
+  return Builder(document, host, {}).Verdict();
+}
+
+std::optional<report::Section> SectionOf(const Document& document, Host& host, std::int32_t id) {
+  return Builder(document, host, {}).Section(id);
 }
 
 }  // namespace bench

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+#include <optional>
 #include <string>
 
 #include "host/report/Report.h"
@@ -13,5 +15,13 @@ class Host;
 /// @param language of the report, such as "da"; empty for English
 /// @throws HostError when an element cannot be printed
 report::Report ReportOf(const Document& document, Host& host, const std::string& language = {});
+
+/// The verdict of the document, as its report tells it.
+report::Verdict VerdictOf(const Document& document, Host& host);
+
+/// What a report says of one element in full, even of one that reports leave out. None when the document has
+/// no such element.
+/// @throws HostError when the element cannot be printed
+std::optional<report::Section> SectionOf(const Document& document, Host& host, std::int32_t id);
 
 }  // namespace bench

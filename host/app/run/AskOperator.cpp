@@ -46,13 +46,13 @@ AskOperator::AskOperator(std::shared_ptr<headless::Application> application, Sto
           if (!alive.expired()) Put(form);
         });
       })),
-      stopAsked_(stop.Happened().Subscribe([this] { Stop(); })) {}
+      stopAsked_(stop.Happened().Subscribe([this] { LeaveGuide(*application_); })) {}
 
 AskOperator::~AskOperator() { application_->Forget(watch_); }
 
 void AskOperator::Put(const Form& form) {
   if (!form->Visible()) return;
-  if (stop_.Asked()) return Stop();
+  if (stop_.Asked()) return LeaveGuide(*application_);
   if (form->Name() == guide::kGuideForm) PutGuide(form);
   if (form->Name() == guide::kPretestForm)
     reporter_.Prompted(WithChoices(CaptionOf(*form, guide::kPromptText), "ok"));
@@ -106,21 +106,6 @@ void AskOperator::ChooseInGuide(const Form& form, const std::string& word) {
   if (toolbar && button != kButtons.end())
     toolbar->Click(button->command);  // play returns when the run is over
   if (form->Visible()) Put(form);
-}
-
-void AskOperator::Stop() {
-  // The innermost window first: behind it the guide does not answer.
-  const auto form = application_->ActiveForm();
-  if (!form) return;
-  if (form->Name() == guide::kPretestForm) ClickButton(*form, guide::kPretestOk);
-  if (form->Name() == guide::kYesNoForm) ClickButton(*form, guide::kNo);
-  const auto guideForm = application_->ActiveForm();
-  if (!guideForm || guideForm->Name() != guide::kGuideForm) return;
-  const auto toolbar = GuideToolbar(*guideForm);
-  if (!toolbar) return;
-  // While a test runs only stop acts, otherwise only next.
-  toolbar->Click(guide::kStop);
-  toolbar->Click(guide::kNext);
 }
 
 }  // namespace bench

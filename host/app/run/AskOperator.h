@@ -27,7 +27,6 @@ class AskOperator final : public IOperator {
   void ReadInput();
   void Choose(const std::string& word);
   void ChooseInGuide(const Form& form, const std::string& word);
-  void Stop();
 
   const std::shared_ptr<headless::Application> application_;
   StopRequest& stop_;

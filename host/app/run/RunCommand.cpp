@@ -2,7 +2,6 @@
 
 #include <unistd.h>
 
-#include <cstdlib>
 #include <iostream>
 
 #include "host/app/Colour.h"
@@ -14,21 +13,12 @@
 #include "host/app/run/RunSelection.h"
 #include "host/app/run/RunSession.h"
 #include "host/document/Document.h"
+#include "host/run/StopSignals.h"
 #include "host/services/Tr.h"
 
 namespace bench {
 
 namespace {
-
-/// The name that was given, else that of the account.
-std::string OperatorName(const std::string& given) {
-  if (!given.empty()) return given;
-  for (const auto* variable : {"USER", "LOGNAME"}) {
-    const char* name = std::getenv(variable);
-    if (name && *name) return name;
-  }
-  return {};
-}
 
 ExitStatus StatusOf(DocumentRunner::End end, Outcome outcome) {
   if (outcome == Outcome::kFailed) return ExitStatus::kFailed;
@@ -111,8 +101,10 @@ ExitStatus RunCommand::Perform(Workbench& workbench, Document& document, RunRepo
 
   auto end = DocumentRunner::End::kFinished;
   {
-    RunSession session(workbench, document, log, reporter, options_.operatorKind == "ask",
+    RunSession session(workbench, document, log, reporter,
+                       options_.operatorKind == "ask" ? OperatorKind::kTerminal : OperatorKind::kProgram,
                        OperatorName(options_.by));
+    const StopSignals signals(*workbench.Application(), [&session](int) { session.AskToStop(); });
     end = session.Run(elements);
     reporter.Over();
     Tell(end, session.Reason(), reporter);

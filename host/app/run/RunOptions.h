@@ -1,20 +1,15 @@
 #pragma once
 
-#include <cstdint>
 #include <string>
-#include <vector>
 
 #include "host/app/TesterOptions.h"
+#include "host/app/run/RunSelection.h"
 
 namespace bench {
 
 /// What `run` was asked for.
-struct RunOptions {
-  std::string file;
+struct RunOptions : RunSelection {
   TesterOptions tester;
-  std::vector<std::int32_t> elements;  ///< none: all at the top
-  std::vector<std::string> standards;  ///< none: all that the document names
-  bool resume = false;
   std::string operatorKind = "auto";
   std::string by;  ///< the operator's name; empty: that of the account
   bool json = false;

@@ -1,6 +1,7 @@
 #include "host/app/run/RunSelection.h"
 
 #include <algorithm>
+#include <cstdlib>
 
 #include "OrvikTypeLib/IStandard.h"
 #include "host/Host.h"
@@ -31,17 +32,17 @@ InputError NoSuchStandard(const std::string& name, const std::string& file, cons
 
 }  // namespace
 
-Elements SelectedElements(const Document& document, const RunOptions& options) {
-  if (options.elements.empty()) {
+Elements SelectedElements(const Document& document, const RunSelection& selection) {
+  if (selection.elements.empty()) {
     auto all = TopElements(document);
-    if (all.empty()) throw InputError(Tr("%%1: the document has no elements to run", {options.file}));
+    if (all.empty()) throw InputError(Tr("%%1: the document has no elements to run", {selection.file}));
     return all;
   }
   Elements selected;
-  for (const auto id : options.elements) {
+  for (const auto id : selection.elements) {
     auto element = document.Find(id);
     if (!element)
-      throw InputError(Tr("--element %%1: %%2 has no such element", {std::to_string(id), options.file}));
+      throw InputError(Tr("--element %%1: %%2 has no such element", {std::to_string(id), selection.file}));
     selected.push_back(std::move(element));
   }
   return selected;
@@ -60,11 +61,11 @@ Elements WithoutResult(const Elements& elements, const Host& host,
   return open;
 }
 
-void SelectStandards(Document& document, Host& host, const RunOptions& options) {
+void SelectStandards(Document& document, Host& host, const RunSelection& selection) {
   const auto named = NamedStandards(document, host);
   const auto asked = [&](const std::string& name) {
-    return options.standards.empty() ||
-           std::find(options.standards.begin(), options.standards.end(), name) != options.standards.end();
+    return selection.standards.empty() || std::find(selection.standards.begin(), selection.standards.end(),
+                                                    name) != selection.standards.end();
   };
   const auto& selected = document.Standards();
   while (selected->Count() > 0) selected->Remove(selected->item(selected->Count()));
@@ -75,10 +76,19 @@ void SelectStandards(Document& document, Host& host, const RunOptions& options) 
     selected->Add(standard);
     found.push_back(standard->Name());
   }
-  for (const auto& name : options.standards) {
+  for (const auto& name : selection.standards) {
     if (std::find(found.begin(), found.end(), name) == found.end())
-      throw NoSuchStandard(name, options.file, NamesOf(*named));
+      throw NoSuchStandard(name, selection.file, NamesOf(*named));
   }
+}
+
+std::string OperatorName(const std::string& given) {
+  if (!given.empty()) return given;
+  for (const auto* variable : {"USER", "LOGNAME"}) {
+    const char* name = std::getenv(variable);
+    if (name && *name) return name;
+  }
+  return {};
 }
 
 }  // namespace bench

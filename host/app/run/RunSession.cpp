@@ -3,12 +3,12 @@
 #include "OrvikTypeLib/As.h"
 #include "OrvikTypeLib/ITestContainer.h"
 #include "host/app/run/AskOperator.h"
+#include "host/app/run/ScreenOperator.h"
 #include "host/document/Document.h"
 #include "host/elements/ElementFactory.h"
 #include "host/instruments/InstrumentColl.h"
 #include "host/run/AutoOperator.h"
 #include "host/run/ElementWalk.h"
-#include "host/run/StopSignals.h"
 #include "host/services/Tr.h"
 
 namespace bench {
@@ -32,12 +32,12 @@ std::vector<std::size_t> TestsOfEach(const std::vector<Element>& elements) {
 }  // namespace
 
 RunSession::RunSession(Workbench& workbench, Document& document, WireLog& log, RunReporter& reporter,
-                       bool ask, const std::string& by)
+                       OperatorKind kind, const std::string& by)
     : workbench_(workbench),
       document_(document),
       log_(log),
       reporter_(reporter),
-      ask_(ask),
+      kind_(kind),
       doubts_(*workbench.Ports().TheWire()),
       link_(workbench.Ports()),
       stopProgress_(*workbench.Ports().TheWire(), *workbench.Application(), workbench.TimeScale()),
@@ -68,18 +68,21 @@ void RunSession::Listen() {
 
 DocumentRunner::End RunSession::Run(const std::vector<Element>& elements) {
   reporter_.Planned(TestsOfEach(elements));
-  const StopSignals signals(*workbench_.Application(), [this](int signal) { StopAsked(signal); });
-  if (ask_) {
-    const AskOperator person(workbench_.Application(), stop_, reporter_);
-    return runner_.Run(elements);
-  }
-  AutoOperator person(workbench_.Application(), stop_);
-  const auto prompted =
-      person.Prompted().Subscribe([this](const std::string& text) { reporter_.Prompted(text); });
+  const auto person = MakeOperator();
   return runner_.Run(elements);
 }
 
-void RunSession::StopAsked(int) {
+std::unique_ptr<IOperator> RunSession::MakeOperator() {
+  const auto& application = workbench_.Application();
+  if (kind_ == OperatorKind::kTerminal) return std::make_unique<AskOperator>(application, stop_, reporter_);
+  if (kind_ == OperatorKind::kScreen) return std::make_unique<ScreenOperator>(application, stop_);
+  auto program = std::make_unique<AutoOperator>(application, stop_);
+  heard_.push_back(
+      program->Prompted().Subscribe([this](const std::string& text) { reporter_.Prompted(text); }));
+  return program;
+}
+
+void RunSession::AskToStop() {
   if (stopProgress_.Begun()) return reporter_.Remark(stopProgress_.Text());
   reporter_.Remark(Tr("Stopping: the running test is dropped and the session with the tester closed."));
   stopProgress_.Begin();

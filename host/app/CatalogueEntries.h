@@ -1,0 +1,25 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace bench {
+
+class Workbench;
+
+/// What the catalogue has to add to a document.
+struct CatalogueEntry {
+  std::int32_t testId;
+  std::int32_t parent;  ///< the sequence that it stands in; 0 at the top
+  bool sequence;
+  std::size_t depth;
+  std::string name;
+  std::string unit;  ///< that its readings are recorded in; empty for a sequence
+};
+
+/// The catalogue's entries in its order, parents before children.
+std::vector<CatalogueEntry> CatalogueEntries(Workbench& workbench);
+
+}  // namespace bench

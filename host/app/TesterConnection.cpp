@@ -1,0 +1,52 @@
+#include "host/app/TesterConnection.h"
+
+#include "OrvikTypeLib/HostError.h"
+#include "host/app/InputError.h"
+#include "host/app/TextColumns.h"
+#include "host/serial/SerialDevice.h"
+#include "host/services/Tr.h"
+
+namespace bench {
+
+namespace {
+
+constexpr char kInstrument[] = "KELD(IN)";
+constexpr char kLineSettings[] = "9600,O,8,1";
+constexpr double kLowestTimeScale = 0.001;
+constexpr double kHighestTimeScale = 1e6;
+
+void Probe(const TesterChoice& choice) {
+  try {
+    const SerialDevice device(choice.port, ParseLineSettings(kLineSettings));
+    if (choice.timeScale != 1.0 && !device.IsPseudoTerminal())
+      throw InputError(
+          Tr("--time-scale: %%1 is a real serial line; a real tester needs its pauses whole", {choice.port}));
+  } catch (const orvik::HostError& error) {
+    if (error.Number() == orvik::HostError::kPathError)
+      throw InputError(Tr("--port: %%1", {error.Description()}));
+    throw IncompleteError(Tr("--port: %%1", {error.Description()}));
+  }
+}
+
+}  // namespace
+
+TesterConnection::TesterConnection(const TesterChoice& choice, PortManager& ports) {
+  if (choice.simulated)
+    simulated_ = std::make_unique<SimulatedTester>(choice.profile, choice.timeScale);
+  else
+    Probe(choice);
+  ports.Assign(kInstrument, simulated_ ? simulated_->Device() : choice.port);
+}
+
+std::string TimeScaleRemark(double timeScale) {
+  if (timeScale == 1.0) return {};
+  return Tr("All pauses and time-outs are divided by %%1. That is for simulated testers only.",
+            {ShortNumber(timeScale)});
+}
+
+void RequireTimeScale(double timeScale) {
+  if (!(timeScale >= kLowestTimeScale && timeScale <= kHighestTimeScale))
+    throw InputError(Tr("--time-scale %%1: give a number from 0.001 to 1000000", {ShortNumber(timeScale)}));
+}
+
+}  // namespace bench

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "host/app/SimulatedTester.h"
+#include "host/serial/PortManager.h"
+
+namespace bench {
+
+/// Which tester to use.
+struct TesterChoice {
+  bool simulated = false;
+  std::string port;        ///< serial device of a real one
+  std::string profile;     ///< of a simulated one; empty for the simulator's own choice
+  double timeScale = 1.0;  ///< how many times faster than the wall all pauses pass
+};
+
+/// A tester that is ready, and its port known; a simulated one ends with it.
+class TesterConnection {
+ public:
+  /// Starts the simulated tester, or sees to it that the device can be opened. `InputError` for a device that
+  /// is not there or is none; `IncompleteError` for one that cannot be had now.
+  TesterConnection(const TesterChoice& choice, PortManager& ports);
+
+ private:
+  std::unique_ptr<SimulatedTester> simulated_;
+};
+
+/// "All pauses and time-outs are divided by 20. That is for simulated testers only."; empty when time is the
+/// wall's.
+std::string TimeScaleRemark(double timeScale);
+
+/// The time scale as it was given. `InputError` unless it lies from 0.001 to 1,000,000.
+void RequireTimeScale(double timeScale);
+
+}  // namespace bench
