@@ -1,0 +1,103 @@
+#include "host/desktop/AddTestsDialog.h"
+
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+#include <map>
+
+#include "host/desktop/Shown.h"
+#include "host/services/Tr.h"
+
+namespace bench::desktop {
+
+namespace {
+
+enum CatalogueColumn { kTestNumber, kTestName, kTestUnit };
+constexpr QSize kCatalogueSize(640, 560);
+
+bool StandsBelowChosen(const QTreeWidgetItem& row) {
+  for (const auto* above = row.parent(); above; above = above->parent())
+    if (above->isSelected()) return true;
+  return false;
+}
+
+}  // namespace
+
+AddTestsDialog::AddTestsDialog(const std::vector<CatalogueEntry>& entries, QWidget* parent)
+    : QDialog(parent), search_(new QLineEdit(this)), tests_(new QTreeWidget(this)) {
+  setObjectName("addTests");
+  setWindowTitle(Shown(Tr("Add tests")));
+  resize(kCatalogueSize);
+  search_->setObjectName("search");
+  search_->setPlaceholderText(Shown(Tr("Search by name or number")));
+  search_->setAccessibleName(search_->placeholderText());
+  search_->setClearButtonEnabled(true);
+  tests_->setObjectName("catalogue");
+  tests_->setAccessibleName(Shown(Tr("Catalogue of tests")));
+  tests_->setHeaderLabels({Shown(Tr("No.")), Shown(Tr("Test")), Shown(Tr("Unit"))});
+  tests_->setSelectionMode(QAbstractItemView::ExtendedSelection);
+  tests_->setTreePosition(kTestName);
+  tests_->setUniformRowHeights(true);
+  std::map<std::int32_t, QTreeWidgetItem*> groups;
+  for (const auto& entry : entries) {
+    const auto above = groups.find(entry.parent);
+    auto* row = above == groups.end() ? new QTreeWidgetItem(tests_) : new QTreeWidgetItem(above->second);
+    row->setText(kTestNumber, QString::number(entry.testId));
+    row->setText(kTestName, Shown(entry.name));
+    row->setText(kTestUnit, Shown(entry.unit));
+    if (entry.sequence) groups[entry.testId] = row;
+    rows_.push_back(row);
+  }
+  tests_->setColumnWidth(kTestNumber, fontMetrics().horizontalAdvance("000000") + 16);
+  tests_->setColumnWidth(kTestName, kCatalogueSize.width() - 180);
+
+  auto* buttons = new QDialogButtonBox(this);
+  add_ = buttons->addButton(Shown(Tr("Add")), QDialogButtonBox::AcceptRole);
+  add_->setObjectName("add");
+  add_->setEnabled(false);
+  buttons->addButton(Shown(Tr("Cancel")), QDialogButtonBox::RejectRole);
+  auto* hint = new QLabel(Shown(Tr("A group adds all its tests. Choose several with Ctrl or Shift.")), this);
+  auto* layout = new QVBoxLayout(this);
+  layout->addWidget(search_);
+  layout->addWidget(tests_, 1);
+  layout->addWidget(hint);
+  layout->addWidget(buttons);
+
+  connect(search_, &QLineEdit::textChanged, this, [this](const QString& text) { Filter(text); });
+  connect(tests_, &QTreeWidget::itemSelectionChanged, this, [this] { add_->setEnabled(!Chosen().empty()); });
+  connect(tests_, &QTreeWidget::itemActivated, this, [this] {
+    if (!Chosen().empty()) accept();
+  });
+  connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+  connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+}
+
+std::vector<std::int32_t> AddTestsDialog::Chosen() const {
+  std::vector<std::int32_t> chosen;
+  for (const auto* row : rows_)
+    if (row->isSelected() && !row->isHidden() && !StandsBelowChosen(*row))
+      chosen.push_back(row->text(kTestNumber).toInt());
+  return chosen;
+}
+
+void AddTestsDialog::Filter(const QString& wanted) {
+  const auto matches = [&wanted](const QTreeWidgetItem& row) {
+    return row.text(kTestName).contains(wanted, Qt::CaseInsensitive) ||
+           row.text(kTestNumber).startsWith(wanted);
+  };
+  // From the end: a group is shown for any test in it, and its tests for the group.
+  for (auto row = rows_.rbegin(); row != rows_.rend(); ++row) {
+    bool shown = matches(**row);
+    for (const auto* above = (*row)->parent(); above && !shown; above = above->parent())
+      shown = matches(*above);
+    for (int i = 0; i < (*row)->childCount() && !shown; ++i) shown = !(*row)->child(i)->isHidden();
+    (*row)->setHidden(!shown);
+    (*row)->setExpanded(!wanted.isEmpty());
+    if (!shown) (*row)->setSelected(false);
+  }
+}
+
+}  // namespace bench::desktop

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QDialog>
+#include <cstdint>
+#include <vector>
+
+#include "host/app/CatalogueEntries.h"
+
+class QLineEdit;
+class QTreeWidget;
+class QTreeWidgetItem;
+class QPushButton;
+
+namespace bench::desktop {
+
+/// The catalogue with its groups, a search, and the choice of what is to be added.
+class AddTestsDialog : public QDialog {
+ public:
+  AddTestsDialog(const std::vector<CatalogueEntry>& entries, QWidget* parent);
+
+  /// What was chosen, in the catalogue's order. A group stands for all its tests.
+  std::vector<std::int32_t> Chosen() const;
+
+ private:
+  void Filter(const QString& wanted);
+
+  QLineEdit* search_;
+  QTreeWidget* tests_;
+  QPushButton* add_;
+  std::vector<QTreeWidgetItem*> rows_;  ///< as in the catalogue
+};
+
+}  // namespace bench::desktop

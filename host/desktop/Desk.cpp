@@ -1,0 +1,137 @@
+#include "host/desktop/Desk.h"
+
+#include <array>
+#include <cstdlib>
+
+#include "OrvikTypeLib/As.h"
+#include "OrvikTypeLib/IConfigData.h"
+#include "OrvikTypeLib/ITestContainer.h"
+#include "host/app/InputError.h"
+#include "host/app/TextColumns.h"
+#include "host/app/report/DocumentReport.h"
+#include "host/app/report/ReportFile.h"
+#include "host/elements/ElementFactory.h"
+#include "host/run/ElementWalk.h"
+#include "host/run/SavedSettings.h"
+#include "host/services/Files.h"
+#include "host/services/Tr.h"
+
+namespace bench::desktop {
+
+namespace {
+
+using Element = std::shared_ptr<orvik::ITestElement>;
+
+constexpr int kOffersNotApplicable = 1, kOffersSkip = 2, kFirstLead = 4, kAllLeads = 4096;
+constexpr int kLeads = 10;
+
+std::vector<std::string> OptionsInWords(int options) {
+  std::vector<std::string> words;
+  if (options & kOffersNotApplicable) words.push_back(Tr("The guide offers \"not applicable\"."));
+  if (options & kOffersSkip) words.push_back(Tr("The guide offers \"skip\"."));
+  std::vector<std::string> leads;
+  for (int lead = 0; lead < kLeads; ++lead)
+    if (options & (kFirstLead << lead)) leads.push_back(std::to_string(lead + 1));
+  if (options & kAllLeads)
+    words.push_back(Tr("All leads are measured together."));
+  else if (!leads.empty())
+    words.push_back(Tr("Leads measured: %%1.", {Joined(leads, ", ")}));
+  return words;
+}
+
+/// How a sequence's value is made up; the settings hold it in English.
+std::string FilterInWords(const std::string& filter) {
+  for (const auto* known :
+       {Marked("No values"), Marked("All values"), Marked("Maximum value"), Marked("Minimum value")})
+    if (filter == known) return Tr(known);
+  return filter;
+}
+
+}  // namespace
+
+void Desk::Create(const std::filesystem::path& file) {
+  document_ = Document::Create(workbench_.Host(), file);
+  openedText_.clear();  // a new document is worth saving
+}
+
+void Desk::Open(const std::filesystem::path& file) {
+  std::error_code absent;
+  // The document holds its file alone, also against ourselves.
+  if (document_ && std::filesystem::equivalent(document_->Path(), file, absent)) document_.reset();
+  document_ = Document::Open(workbench_.Host(), file);
+  openedText_ = document_->Text();
+}
+
+bool Desk::Changed() const {
+  if (!document_) return false;
+  const auto& saved = document_->SavedText();
+  return document_->Text() != (saved.empty() ? openedText_ : saved);
+}
+
+std::filesystem::path Desk::KeepUnsaved() const {
+  auto file = document_->Path();
+  file += ".unsaved";
+  ReplaceFile(file, document_->Text());
+  return file;
+}
+
+DocumentSummary Desk::Summary() const {
+  auto standards = document_->Standards();
+  if (standards->Count() == 0) standards = NamedStandards(*document_, *workbench_.Host());
+  return SummaryOf(*document_, *workbench_.Host(), standards);
+}
+
+report::Verdict Desk::Verdict() const { return VerdictOf(*document_, *workbench_.Host()); }
+
+std::optional<report::Section> Desk::Section(std::int32_t id) const {
+  return SectionOf(*document_, *workbench_.Host(), id);
+}
+
+std::vector<std::string> Desk::Settings(std::int32_t id) const {
+  const auto element = document_->Find(id);
+  const auto configuration = element ? element->Configuration() : nullptr;
+  if (!configuration) return {};
+  const SavedSettings saved(*configuration);
+  if (!saved.Settings()) return {};
+  auto words = OptionsInWords(std::atoi(saved.Settings()->Attribute(SavedSettings::kOptions).c_str()));
+  const auto filter = saved.Settings()->Attribute(SavedSettings::kFilter);
+  if (orvik::As<orvik::ITestContainer>(element) && !filter.empty())
+    words.push_back(Tr("Value of the sequence: %%1.", {FilterInWords(filter)}));
+  return words;
+}
+
+std::int32_t Desk::AddTests(const std::vector<std::int32_t>& testIds) {
+  std::int32_t last = 0;
+  for (const auto testId : testIds) last = document_->AddTest(testId)->ID();
+  return last;
+}
+
+void Desk::Remove(std::int32_t id) {
+  const auto element = Found(id);
+  const auto container = orvik::As<orvik::ITestContainer>(element->Parent());
+  if (!container) throw InputError(Tr("element %%1 cannot be removed", {std::to_string(id)}));
+  container->Remove(element);
+  for (const auto& top : TopElements(*document_))
+    WalkElements(top, [](const Element& left) { left->UpdateReferences(); });
+}
+
+AppliedLimits Desk::ApplySet(const LimitSet& set, std::optional<std::int32_t> id) {
+  const auto elements = id ? std::vector<Element>{Found(*id)} : TopElements(*document_);
+  auto told = ApplyLimitSet(set, elements, *workbench_.Host()->Elements());
+  if (told.applied.empty())
+    throw InputError(Tr("%%1: the set knows nothing of these elements", {set.Name()}));
+  return told;
+}
+
+void Desk::WriteReport(const std::filesystem::path& out) const {
+  CheckReportFile(document_->Path(), out);
+  bench::WriteReport(*document_, *workbench_.Host(), options_.language, out);
+}
+
+Element Desk::Found(std::int32_t id) const {
+  auto element = document_->Find(id);
+  if (!element) throw InputError(Tr("The document has no element %%1.", {std::to_string(id)}));
+  return element;
+}
+
+}  // namespace bench::desktop

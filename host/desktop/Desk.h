@@ -1,0 +1,62 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "host/app/DocumentView.h"
+#include "host/app/SetOfLimits.h"
+#include "host/app/Workbench.h"
+#include "host/document/Document.h"
+#include "host/report/Report.h"
+
+namespace bench::desktop {
+
+/// The one document on the desk and what is done with it, by the same procedures as on the command line, and
+/// with the same errors. What is asked of the document needs one.
+class Desk {
+ public:
+  Desk(Workbench& workbench, GlobalOptions options) : workbench_(workbench), options_(std::move(options)) {}
+
+  Workbench& Bench() { return workbench_; }
+  const GlobalOptions& Options() const { return options_; }
+
+  bool HasDocument() const { return document_ != nullptr; }
+  Document& TheDocument() const { return *document_; }
+  /// A new document in the place of the present one; its file comes into being when it is saved.
+  void Create(const std::filesystem::path& file);
+  void Open(const std::filesystem::path& file);
+  void Save() { document_->Save(); }
+  /// Whether saving would write anything else than what was saved last.
+  bool Changed() const;
+  /// Keeps unsaved changes in a file beside the document, which is left as it is; returns its path.
+  std::filesystem::path KeepUnsaved() const;
+
+  DocumentSummary Summary() const;
+  report::Verdict Verdict() const;
+  std::optional<report::Section> Section(std::int32_t id) const;
+  /// The element's settings in words.
+  std::vector<std::string> Settings(std::int32_t id) const;
+
+  /// Adds the catalogue's tests at the end of the document; returns the identifier of the last one.
+  std::int32_t AddTests(const std::vector<std::int32_t>& testIds);
+  /// Removes the element with all that stands below it.
+  void Remove(std::int32_t id);
+  /// Gives the element, or all where there is none, and what stands below the limits of the set. `InputError`
+  /// when the set knows nothing of them.
+  AppliedLimits ApplySet(const LimitSet& set, std::optional<std::int32_t> id);
+  void WriteReport(const std::filesystem::path& out) const;
+
+ private:
+  std::shared_ptr<orvik::ITestElement> Found(std::int32_t id) const;
+
+  Workbench& workbench_;
+  const GlobalOptions options_;
+  std::shared_ptr<Document> document_;
+  std::string openedText_;  ///< as it would have been saved when it was opened
+};
+
+}  // namespace bench::desktop

@@ -1,0 +1,98 @@
+#include "host/desktop/DesktopProgram.h"
+
+#include <unistd.h>
+
+#include <QApplication>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTranslator>
+#include <clocale>
+#include <cstdlib>
+#include <iostream>
+
+#include "host/app/ExitStatus.h"
+#include "host/app/InputError.h"
+#include "host/app/ProgramFiles.h"
+#include "host/app/TesterConnection.h"
+#include "host/desktop/DesktopModule.h"
+#include "host/desktop/MainWindow.h"
+#include "host/desktop/Shown.h"
+#include "host/run/StopSignals.h"
+#include "host/services/Tr.h"
+#include "host/toolkit/qt/Screen.h"
+
+namespace bench::desktop {
+
+namespace {
+
+std::string NoDisplayText() {
+  return Tr(
+      "gui: there is no screen to show the window on; start it in a graphical session, or set DISPLAY or "
+      "WAYLAND_DISPLAY. The other commands need none: \"orvik-bench --help\" shows them");
+}
+
+void RequireDisplay() {
+  for (const auto* variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
+    const char* value = std::getenv(variable);
+    if (value && *value) return;
+  }
+  throw IncompleteError(NoDisplayText());
+}
+
+/// Qt ends the program by itself when the screen that is named does not answer; it is to say why, and not to
+/// crash.
+void TellFatal(QtMsgType type, const QMessageLogContext&, const QString& message) {
+  if (type != QtFatalMsg) {
+    if (type != QtDebugMsg && type != QtInfoMsg) std::cerr << message.toStdString() << std::endl;
+    return;
+  }
+  std::cerr << "orvik-bench: " << NoDisplayText() << "\n" << message.toStdString() << std::endl;
+  _exit(static_cast<int>(ExitStatus::kIncomplete));
+}
+
+/// What is Qt's for as long as the program runs.
+class QtProgram {
+ public:
+  explicit QtProgram(const std::string& language)
+      : before_(qInstallMessageHandler(TellFatal)), qt_(count_, words_) {
+    qInstallMessageHandler(before_);
+    // Numbers in documents and on the wire are the same everywhere.
+    std::setlocale(LC_NUMERIC, "C");
+    QApplication::setApplicationName("orvik-bench");
+    QApplication::setQuitOnLastWindowClosed(false);
+    if (translator_.load("qtbase_" + Shown(language.empty() ? "en" : language),
+                         QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+      QApplication::installTranslator(&translator_);
+  }
+  QtProgram(const QtProgram&) = delete;
+  QtProgram& operator=(const QtProgram&) = delete;
+
+ private:
+  QtMessageHandler before_;
+  int count_ = 1;
+  char name_[12] = "orvik-bench";
+  char* words_[2] = {name_, nullptr};
+  QApplication qt_;
+  QTranslator translator_;
+};
+
+}  // namespace
+
+bool RunDesktop(const DesktopOptions& options) {
+  ChooseLanguage(options.language, {files::Translations()});
+  RequireTimeScale(options.timeScale);
+  RequireDisplay();
+  const QtProgram qt(options.language);
+  const GlobalOptions global{options.state, options.catalogue, options.language};
+  Workbench workbench(global, options.timeScale);
+  qt::Screen screen(workbench.Application());
+  MainWindow window(workbench, global, [&screen] { screen.Quit(); });
+  screen.SetErrorHandler([&window](const std::string& error) { window.TellLater(error); });
+  if (!options.file.empty()) window.Open(options.file);
+  const StopSignals signals(*workbench.Application(), [&window](int) { window.EndByRequest(); });
+  window.show();
+  screen.Exec();
+  return !window.LeftOver();
+}
+
+}  // namespace bench::desktop

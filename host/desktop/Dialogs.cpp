@@ -1,0 +1,118 @@
+#include "host/desktop/Dialogs.h"
+
+#include <QApplication>
+#include <QDialogButtonBox>
+#include <QFile>
+#include <QFileDialog>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "host/desktop/Shown.h"
+#include "host/services/Tr.h"
+
+namespace bench::desktop {
+
+namespace {
+
+constexpr QSize kMessageSize(720, 420);
+constexpr char kProgramName[] = "orvik-bench";
+
+/// A message with a list below it.
+void ShowList(QWidget* parent, const std::string& text, const std::string& details) {
+  QDialog dialog(parent);
+  dialog.setObjectName("message");
+  dialog.setWindowTitle(kProgramName);
+  dialog.resize(kMessageSize);
+  auto* heading = new QLabel(Shown(text), &dialog);
+  heading->setTextFormat(Qt::PlainText);
+  heading->setWordWrap(true);
+  auto* list = new QPlainTextEdit(Shown(details), &dialog);
+  list->setReadOnly(true);
+  list->setLineWrapMode(QPlainTextEdit::NoWrap);
+  list->setTabChangesFocus(true);
+  list->setAccessibleName(heading->text());
+  QFont font("monospace");
+  font.setStyleHint(QFont::Monospace);
+  list->setFont(font);
+  auto* buttons = new QDialogButtonBox(&dialog);
+  buttons->addButton(Shown(Tr("Close")), QDialogButtonBox::AcceptRole)->setDefault(true);
+  QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
+  auto* layout = new QVBoxLayout(&dialog);
+  layout->addWidget(heading);
+  layout->addWidget(list, 1);
+  layout->addWidget(buttons);
+  dialog.exec();
+}
+
+void ShowBox(QWidget* parent, QMessageBox::Icon icon, const std::string& text) {
+  QMessageBox box(icon, kProgramName, Shown(text), QMessageBox::NoButton, parent);
+  box.setObjectName("message");
+  box.setTextFormat(Qt::PlainText);
+  box.addButton(Shown(Tr("Close")), QMessageBox::AcceptRole);
+  box.exec();
+}
+
+}  // namespace
+
+void ShowError(QWidget* parent, const std::string& text) { ShowBox(parent, QMessageBox::Critical, text); }
+
+void ShowMessage(QWidget* parent, const std::string& text, const std::string& details) {
+  if (details.empty())
+    ShowBox(parent, QMessageBox::Information, text);
+  else
+    ShowList(parent, text, details);
+}
+
+std::size_t Ask(QWidget* parent, const std::string& question, const std::vector<std::string>& answers) {
+  QMessageBox box(QMessageBox::Question, kProgramName, Shown(question), QMessageBox::NoButton, parent);
+  box.setObjectName("question");
+  box.setTextFormat(Qt::PlainText);
+  std::vector<QAbstractButton*> buttons;
+  for (std::size_t i = 0; i < answers.size(); ++i) {
+    const auto role = i + 1 == answers.size() ? QMessageBox::RejectRole : QMessageBox::AcceptRole;
+    auto* button = box.addButton(Shown(answers[i]), role);
+    button->setObjectName("answer" + QString::number(i));
+    buttons.push_back(button);
+  }
+  box.setDefaultButton(static_cast<QPushButton*>(buttons.front()));
+  box.setEscapeButton(buttons.back());
+  box.exec();
+  for (std::size_t i = 0; i < buttons.size(); ++i)
+    if (box.clickedButton() == buttons[i]) return i;
+  return answers.size() - 1;
+}
+
+std::optional<std::filesystem::path> AskForFile(QWidget* parent, const FileWish& wish) {
+  QFileDialog dialog(parent, Shown(wish.title));
+  dialog.setObjectName("fileDialog");
+  dialog.setNameFilters(Shown(wish.kinds).split(";;"));
+  dialog.setDefaultSuffix(Shown(wish.ending));
+  dialog.setAcceptMode(wish.toWrite ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+  dialog.setFileMode(wish.toWrite ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+  dialog.setOption(QFileDialog::DontConfirmOverwrite, !wish.mayReplace);
+  std::error_code none;
+  const bool folder = std::filesystem::is_directory(wish.at, none);
+  const auto start = folder ? wish.at : wish.at.parent_path();
+  if (!start.empty()) dialog.setDirectory(QFile::decodeName(start.c_str()));
+  if (!folder && wish.at.has_filename()) dialog.selectFile(QFile::decodeName(wish.at.filename().c_str()));
+  // The ending follows the kind that is chosen: "Report as PDF (*.pdf)".
+  QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, [&dialog](const QString& kind) {
+    const auto from = kind.lastIndexOf("*.") + 2;
+    const auto ending = kind.mid(from, kind.lastIndexOf(')') - from);
+    if (from > 1 && !ending.contains('*')) dialog.setDefaultSuffix(ending);
+  });
+  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
+  return std::filesystem::path(QFile::encodeName(dialog.selectedFiles().first()).toStdString());
+}
+
+void CloseQuestions() {
+  while (auto* question = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
+    question->reject();
+    if (QApplication::activeModalWidget() == question) return;
+  }
+}
+
+}  // namespace bench::desktop

@@ -1,0 +1,124 @@
+#include "host/desktop/ElementTree.h"
+
+#include <QHeaderView>
+#include <map>
+
+#include "host/app/DocumentText.h"
+#include "host/app/TextColumns.h"
+#include "host/app/report/ReportParts.h"
+#include "host/desktop/Shown.h"
+#include "host/report/VisibleText.h"
+#include "host/services/Tr.h"
+
+namespace bench::desktop {
+
+namespace {
+
+enum Column { kNumber, kName, kResult, kValue, kRemark, kColumns };
+constexpr int kIdentifier = Qt::UserRole;
+constexpr int kParent = Qt::UserRole + 1;
+
+QString VisibleInTree(const std::string& text) { return Shown(report::VisibleText(text)); }
+
+std::string RemarkOf(const ElementSummary& element) {
+  std::vector<std::string> remarks;
+  for (const auto& doubt : element.doubts) remarks.push_back(Tr("doubt: %%1", {doubt}));
+  if (!element.failedStandards.empty())
+    remarks.push_back(Tr("fails %%1", {Joined(element.failedStandards, ", ")}));
+  if (element.recordedOnly) remarks.push_back(Tr("no limits: recorded, not judged"));
+  return Joined(remarks, "; ");
+}
+
+void Fill(QTreeWidgetItem& row, const ElementSummary& element, bool running) {
+  const auto standing = parts::StandingOf(element);
+  const auto name = VisibleInTree(element.name);
+  const auto remark = VisibleInTree(RemarkOf(element));
+  const auto word = running ? Shown(Tr("running")) : Shown(Tr(element.Verdict()));
+  row.setText(kNumber, QString::number(element.id));
+  row.setText(kName, name);
+  row.setToolTip(kName, name);
+  row.setText(kResult, word);
+  row.setIcon(kResult, running ? QIcon() : SignIcon(standing));
+  row.setForeground(kResult, running ? QBrush() : QBrush(QColor(ColourName(standing))));
+  row.setText(kValue, VisibleInTree(ReadingText(element)));
+  row.setTextAlignment(kValue, Qt::AlignRight | Qt::AlignVCenter);
+  row.setText(kRemark, remark);
+  row.setToolTip(kRemark, remark);
+  row.setData(kName, Qt::AccessibleTextRole, name + ", " + word);
+  auto font = row.font(kName);
+  font.setBold(running);
+  for (int column = 0; column < kColumns; ++column) row.setFont(column, font);
+}
+
+}  // namespace
+
+ElementTree::ElementTree(QWidget* parent) : QTreeWidget(parent) {
+  setObjectName("tree");
+  setAccessibleName(Shown(Tr("Elements of the document")));
+  setColumnCount(kColumns);
+  setHeaderLabels(
+      {Shown(Tr("No.")), Shown(Tr("Test")), Shown(Tr("Result")), Shown(Tr("Value")), Shown(Tr("Remark"))});
+  setUniformRowHeights(true);
+  setAllColumnsShowFocus(true);
+  setAlternatingRowColors(true);
+  // The names begin under one another whatever number stands before them.
+  setTreePosition(kName);
+  header()->setStretchLastSection(true);
+  header()->setSectionsMovable(false);
+  const auto width = [this](const QString& text) { return fontMetrics().horizontalAdvance(text); };
+  setColumnWidth(kNumber, width("00000"));
+  setColumnWidth(kName, width("Protective earth, with mains cord, lead 1") + 40);
+  setColumnWidth(kResult, width(Shown(Tr("not applicable"))) + 60);
+  setColumnWidth(kValue, width("00000.0 mOhm") + 16);
+}
+
+void ElementTree::Show(const DocumentSummary& document, std::int32_t running) {
+  if (!ShowsTheSame(document)) Build(document);
+  for (std::size_t i = 0; i < rows_.size(); ++i)
+    Fill(*rows_[i], document.elements[i], document.elements[i].id == running);
+}
+
+std::optional<std::int32_t> ElementTree::Chosen() const {
+  const auto* row = currentItem();
+  if (!row || !row->isSelected()) return {};
+  return row->data(kNumber, kIdentifier).toInt();
+}
+
+void ElementTree::Choose(std::int32_t id) {
+  for (auto* row : rows_)
+    if (row->data(kNumber, kIdentifier).toInt() == id) setCurrentItem(row);
+}
+
+void ElementTree::OnChosen(std::function<void()> chosen) {
+  connect(this, &QTreeWidget::itemSelectionChanged, this, std::move(chosen));
+}
+
+bool ElementTree::ShowsTheSame(const DocumentSummary& document) const {
+  if (rows_.size() != document.elements.size()) return false;
+  for (std::size_t i = 0; i < rows_.size(); ++i) {
+    if (rows_[i]->data(kNumber, kIdentifier).toInt() != document.elements[i].id ||
+        rows_[i]->data(kNumber, kParent).toInt() != document.elements[i].parent)
+      return false;
+  }
+  return true;
+}
+
+void ElementTree::Build(const DocumentSummary& document) {
+  const auto chosen = Chosen();
+  const QSignalBlocker quiet(this);
+  clear();
+  rows_.clear();
+  std::map<std::int32_t, QTreeWidgetItem*> sequences;
+  for (const auto& element : document.elements) {
+    const auto above = sequences.find(element.parent);
+    auto* row = above == sequences.end() ? new QTreeWidgetItem(this) : new QTreeWidgetItem(above->second);
+    row->setData(kNumber, kIdentifier, element.id);
+    row->setData(kNumber, kParent, element.parent);
+    if (element.sequence) sequences[element.id] = row;
+    rows_.push_back(row);
+  }
+  expandAll();
+  if (chosen) Choose(*chosen);
+}
+
+}  // namespace bench::desktop

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QTreeWidget>
+#include <cstdint>
+#include <functional>
+#include <optional>
+
+#include "host/app/DocumentView.h"
+
+namespace bench::desktop {
+
+/// The elements of a document in its order, sequences with what stands in them: number, name, result as sign,
+/// colour and word, value, and what is to be noticed.
+class ElementTree : public QTreeWidget {
+ public:
+  explicit ElementTree(QWidget* parent = nullptr);
+
+  /// Shows the document; what was chosen and folded stays so.
+  /// @param running identifier of the element that runs; 0 for none
+  void Show(const DocumentSummary& document, std::int32_t running);
+  /// The identifier of the element that is chosen.
+  std::optional<std::int32_t> Chosen() const;
+  void Choose(std::int32_t id);
+  /// Called when another element is chosen.
+  void OnChosen(std::function<void()> chosen);
+
+ private:
+  bool ShowsTheSame(const DocumentSummary& document) const;
+  void Build(const DocumentSummary& document);
+
+  std::vector<QTreeWidgetItem*> rows_;  ///< as in the document
+};
+
+}  // namespace bench::desktop

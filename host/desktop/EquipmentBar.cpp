@@ -1,0 +1,44 @@
+#include "host/desktop/EquipmentBar.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+
+#include "host/desktop/Shown.h"
+#include "host/services/Tr.h"
+
+namespace bench::desktop {
+
+EquipmentBar::EquipmentBar(std::function<void()> edited, QWidget* parent) : QWidget(parent) {
+  auto* layout = new QHBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  const auto add = [&](const char* name, const std::string& label) {
+    auto* box = new QLineEdit(this);
+    box->setObjectName(name);
+    auto* text = new QLabel(Shown(label), this);
+    text->setBuddy(box);
+    box->setAccessibleName(text->text().remove('&'));
+    layout->addWidget(text);
+    layout->addWidget(box, 1);
+    connect(box, &QLineEdit::textEdited, this, edited);
+    return box;
+  };
+  asset_ = add("asset", Tr("Asset number"));
+  serial_ = add("serial", Tr("Serial number"));
+  maker_ = add("maker", Tr("Maker"));
+  model_ = add("model", Tr("Model"));
+}
+
+void EquipmentBar::Show(const Document::Equipment& equipment) {
+  asset_->setText(Shown(equipment.asset));
+  serial_->setText(Shown(equipment.serial));
+  maker_->setText(Shown(equipment.maker));
+  model_->setText(Shown(equipment.model));
+}
+
+Document::Equipment EquipmentBar::Entered() const {
+  return {asset_->text().toStdString(), serial_->text().toStdString(), maker_->text().toStdString(),
+          model_->text().toStdString()};
+}
+
+}  // namespace bench::desktop

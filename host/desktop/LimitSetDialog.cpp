@@ -1,0 +1,81 @@
+#include "host/desktop/LimitSetDialog.h"
+
+#include <QDialogButtonBox>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+#include "host/desktop/Shown.h"
+#include "host/services/Tr.h"
+
+namespace bench::desktop {
+
+namespace {
+
+constexpr QSize kSetsSize(640, 460);
+constexpr int kPlace = Qt::UserRole;  ///< of the set in the list
+
+}  // namespace
+
+LimitSetDialog::LimitSetDialog(std::vector<LimitSets::Entry> sets, const QString& chosen, QWidget* parent)
+    : QDialog(parent),
+      sets_(std::move(sets)),
+      list_(new QTreeWidget(this)),
+      all_(new QRadioButton(Shown(Tr("For &all elements")), this)),
+      one_(new QRadioButton(this)) {
+  setObjectName("limitSets");
+  setWindowTitle(Shown(Tr("Limits from a set")));
+  resize(kSetsSize);
+  list_->setObjectName("sets");
+  list_->setAccessibleName(Shown(Tr("Sets of limits")));
+  list_->setHeaderLabels({Shown(Tr("Standard")), Shown(Tr("Edition, class, type")), Shown(Tr("Set"))});
+  list_->setRootIsDecorated(false);
+  for (std::size_t i = 0; i < sets_.size(); ++i) {
+    auto* row = new QTreeWidgetItem(list_);
+    row->setData(0, kPlace, static_cast<int>(i));
+    if (const auto& set = sets_[i].set) {
+      row->setText(0, Shown(set->standard));
+      row->setText(1, Shown(set->Description()));
+      row->setText(2, Shown(set->Name()));
+    } else {
+      row->setText(0, Shown(sets_[i].fault));
+      row->setToolTip(0, row->text(0));
+      row->setDisabled(true);
+    }
+  }
+  for (int column = 0; column < 2; ++column) list_->resizeColumnToContents(column);
+  all_->setObjectName("forAll");
+  all_->setChecked(true);
+  one_->setObjectName("forOne");
+  one_->setText(Shown(Tr("Only for the &chosen one, with all below it: %%1", {chosen.toStdString()})));
+  one_->setVisible(!chosen.isEmpty());
+
+  auto* buttons = new QDialogButtonBox(this);
+  apply_ = buttons->addButton(Shown(Tr("Set limits")), QDialogButtonBox::AcceptRole);
+  apply_->setObjectName("apply");
+  apply_->setEnabled(false);
+  buttons->addButton(Shown(Tr("Cancel")), QDialogButtonBox::RejectRole);
+  auto* layout = new QVBoxLayout(this);
+  layout->addWidget(list_, 1);
+  layout->addWidget(all_);
+  layout->addWidget(one_);
+  layout->addWidget(buttons);
+  connect(list_, &QTreeWidget::itemSelectionChanged, this, [this] { apply_->setEnabled(Set() != nullptr); });
+  connect(list_, &QTreeWidget::itemActivated, this, [this] {
+    if (Set()) accept();
+  });
+  connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+  connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+}
+
+const LimitSet* LimitSetDialog::Set() const {
+  const auto chosen = list_->selectedItems();
+  if (chosen.isEmpty()) return nullptr;
+  const auto& set = sets_[static_cast<std::size_t>(chosen.first()->data(0, kPlace).toInt())].set;
+  return set ? &*set : nullptr;
+}
+
+bool LimitSetDialog::ForAll() const { return all_->isChecked(); }
+
+}  // namespace bench::desktop

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QDialog>
+#include <optional>
+#include <vector>
+
+#include "host/standards/LimitSets.h"
+
+class QTreeWidget;
+class QPushButton;
+class QRadioButton;
+
+namespace bench::desktop {
+
+/// The sets of limits, and whether all elements or the chosen one are to get theirs.
+class LimitSetDialog : public QDialog {
+ public:
+  /// @param chosen the name of the element that is chosen; empty for none
+  LimitSetDialog(std::vector<LimitSets::Entry> sets, const QString& chosen, QWidget* parent);
+
+  /// The set that was chosen; null for none.
+  const LimitSet* Set() const;
+  bool ForAll() const;
+
+ private:
+  const std::vector<LimitSets::Entry> sets_;
+  QTreeWidget* list_;
+  QRadioButton* all_;
+  QRadioButton* one_;
+  QPushButton* apply_;
+};
+
+}  // namespace bench::desktop

@@ -1,0 +1,353 @@
+#include "host/desktop/MainWindow.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QProgressBar>
+#include <QSplitter>
+#include <QStatusBar>
+#include <QStyle>
+#include <QTimer>
+#include <QToolBar>
+#include <iostream>
+
+#include "OrvikTypeLib/HostError.h"
+#include "OrvikTypeLib/IConfigData.h"
+#include "host/app/InputError.h"
+#include "host/desktop/DetailsView.h"
+#include "host/desktop/Dialogs.h"
+#include "host/desktop/ElementTree.h"
+#include "host/desktop/EquipmentBar.h"
+#include "host/desktop/RunProgress.h"
+#include "host/desktop/Shown.h"
+#include "host/desktop/TesterBox.h"
+#include "host/desktop/VerdictBar.h"
+#include "host/services/Tr.h"
+
+namespace bench::desktop {
+
+namespace {
+
+constexpr QSize kWindowSize(1180, 760);
+constexpr int kRedrawMilliseconds = 250;
+
+/// A label before a box that it names, with its access key.
+QLabel* LabelFor(QWidget* box, const std::string& text) {
+  auto* label = new QLabel(" " + Shown(text) + " ");
+  label->setBuddy(box);
+  return label;
+}
+
+}  // namespace
+
+MainWindow::MainWindow(Workbench& workbench, const GlobalOptions& options, std::function<void()> quit)
+    : desk_(workbench, options), quit_(std::move(quit)) {
+  setObjectName("main");
+  resize(kWindowSize);
+  MakeActions();
+  MakeMenus();
+  MakeToolbars();
+  MakeBody();
+  progressTimer_ = new QTimer(this);
+  progressTimer_->setInterval(kRedrawMilliseconds);
+  connect(progressTimer_, &QTimer::timeout, this, [this] { ShowProgress(); });
+  Remark(TimeScaleRemark(workbench.TimeScale()));
+  Refresh();
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::Open(const std::filesystem::path& file) {
+  desk_.Open(file);
+  equipment_->Show(desk_.TheDocument().equipment);
+  Refresh();
+}
+
+void MainWindow::EndByRequest() {
+  byRequest_ = true;
+  leaveWhenOver_ = true;
+  CloseQuestions();
+  if (session_) leftOver_ = true;
+  if (Busy()) Stop();
+  LeaveIfOver();
+}
+
+void MainWindow::TellLater(const std::string& error) {
+  Later([this, error] { ShowError(this, error); });
+}
+
+QAction* MainWindow::NewAction(const char* name, const std::string& text, const QKeySequence& keys,
+                               void (MainWindow::*work)()) {
+  auto* action = new QAction(Shown(text), this);
+  action->setObjectName(name);
+  action->setShortcut(keys);
+  connect(action, &QAction::triggered, this, [this, work] { Later([this, work] { (this->*work)(); }); });
+  addAction(action);
+  return action;
+}
+
+void MainWindow::MakeActions() {
+  const auto icon = [this](QStyle::StandardPixmap picture) { return style()->standardIcon(picture); };
+  actions_.create = NewAction("new", Tr("&New…"), QKeySequence::New, &MainWindow::New);
+  actions_.create->setIcon(icon(QStyle::SP_FileIcon));
+  actions_.open = NewAction("open", Tr("&Open…"), QKeySequence::Open, &MainWindow::OpenOther);
+  actions_.open->setIcon(icon(QStyle::SP_DialogOpenButton));
+  actions_.save = NewAction("save", Tr("&Save"), QKeySequence::Save, &MainWindow::Save);
+  actions_.save->setIcon(icon(QStyle::SP_DialogSaveButton));
+  actions_.report = NewAction("report", Tr("Re&port…"), QKeySequence::Print, &MainWindow::Report);
+  actions_.archive = NewAction("archive", Tr("Add to &archive"), {}, &MainWindow::AddToArchive);
+  actions_.quit = new QAction(Shown(Tr("&Quit")), this);
+  actions_.quit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
+  connect(actions_.quit, &QAction::triggered, this, &QWidget::close);
+  actions_.add = NewAction("addTests", Tr("&Add tests…"), Qt::Key_Insert, &MainWindow::AddTests);
+  actions_.remove = NewAction("remove", Tr("&Remove"), Qt::CTRL | Qt::Key_Delete, &MainWindow::Remove);
+  actions_.limits =
+      NewAction("limits", Tr("&Limits from set…"), Qt::CTRL | Qt::Key_L, &MainWindow::SetLimits);
+  actions_.setUp = NewAction("setUp", Tr("Set &up…"), Qt::CTRL | Qt::Key_U, &MainWindow::SetUp);
+  actions_.calibrate = NewAction("calibrate", Tr("&Calibrate leads…"), {}, &MainWindow::Calibrate);
+  actions_.run = NewAction("run", Tr("&Run"), Qt::Key_F5, &MainWindow::RunAll);
+  actions_.run->setIcon(icon(QStyle::SP_MediaPlay));
+  actions_.resume = NewAction("resume", Tr("R&esume"), Qt::Key_F6, &MainWindow::Resume);
+  actions_.runSelected = NewAction("runSelected", Tr("Run se&lected"), Qt::Key_F7, &MainWindow::RunSelected);
+  actions_.stop = NewAction("stop", Tr("S&top"), Qt::Key_F8, &MainWindow::Stop);
+  actions_.stop->setIcon(icon(QStyle::SP_MediaStop));
+  actions_.resume->setToolTip(Shown(Tr("Run only what has no result yet (F6)")));
+  actions_.stop->setToolTip(
+      Shown(Tr("Drop the running test and close the session with the tester in good order (F8)")));
+}
+
+void MainWindow::MakeMenus() {
+  const auto add = [this](const std::string& title, std::initializer_list<QAction*> actions) {
+    auto* menu = menuBar()->addMenu(Shown(title));
+    for (auto* action : actions) action ? menu->addAction(action) : (void)menu->addSeparator();
+  };
+  add(Tr("&Document"), {actions_.create, actions_.open, actions_.save, nullptr, actions_.report,
+                        actions_.archive, nullptr, actions_.quit});
+  add(Tr("&Tests"), {actions_.add, actions_.remove, nullptr, actions_.limits, actions_.setUp});
+  add(Tr("&Run"), {actions_.run, actions_.resume, actions_.runSelected, nullptr, actions_.stop, nullptr,
+                   actions_.calibrate});
+}
+
+void MainWindow::MakeToolbars() {
+  const auto add = [this](const char* name, const std::string& title) {
+    auto* bar = addToolBar(Shown(title));
+    bar->setObjectName(name);
+    bar->setMovable(false);
+    bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    return bar;
+  };
+  auto* document = add("documentBar", Tr("Document"));
+  document->addActions({actions_.create, actions_.open, actions_.save});
+  document->addSeparator();
+  document->addActions({actions_.add, actions_.remove, actions_.limits, actions_.setUp});
+  document->addSeparator();
+  document->addActions({actions_.report, actions_.archive});
+  addToolBarBreak();
+
+  auto* run = add("runBar", Tr("Run"));
+  run->addActions({actions_.run, actions_.resume, actions_.runSelected, actions_.stop});
+  run->addSeparator();
+  tester_ = new TesterBox(desk_.Bench().TimeScale(), run);
+  run->addWidget(LabelFor(tester_, Tr("Tester")));
+  run->addWidget(tester_);
+  run->addAction(actions_.calibrate);
+  run->addSeparator();
+  operator_ = new QLineEdit(Shown(OperatorName({})), run);
+  operator_->setObjectName("operator");
+  operator_->setAccessibleName(Shown(Tr("Operator")));
+  operator_->setMaximumWidth(220);
+  run->addWidget(LabelFor(operator_, Tr("Operator")));
+  run->addWidget(operator_);
+}
+
+void MainWindow::MakeBody() {
+  auto* body = new QWidget(this);
+  auto* layout = new QVBoxLayout(body);
+  equipment_ = new EquipmentBar([this] { EquipmentEdited(); }, body);
+  auto* halves = new QSplitter(body);
+  halves->setChildrenCollapsible(false);
+  tree_ = new ElementTree(halves);
+  details_ = new DetailsView(halves);
+  halves->setStretchFactor(0, 3);
+  halves->setStretchFactor(1, 2);
+  halves->setSizes({3 * kWindowSize.width() / 5, 2 * kWindowSize.width() / 5});
+  remark_ = new QLabel(body);
+  remark_->setObjectName("remark");
+  remark_->setTextFormat(Qt::PlainText);
+  remark_->setWordWrap(true);
+  verdict_ = new VerdictBar(body);
+  layout->addWidget(equipment_);
+  layout->addWidget(halves, 1);
+  layout->addWidget(remark_);
+  layout->addWidget(verdict_);
+  setCentralWidget(body);
+
+  progressText_ = new QLabel(this);
+  progressText_->setObjectName("progress");
+  progressText_->setTextFormat(Qt::PlainText);
+  // However long the text is, the window keeps its width.
+  progressText_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  progressBar_ = new QProgressBar(this);
+  progressBar_->setAccessibleName(Shown(Tr("Progress of the run")));
+  progressBar_->setMaximumWidth(160);
+  progressBar_->setVisible(false);
+  statusBar()->addWidget(progressText_, 1);
+  statusBar()->addPermanentWidget(progressBar_);
+  tree_->OnChosen([this] {
+    ShowDetails();
+    UpdateActions();
+  });
+}
+
+void MainWindow::Later(std::function<void()> work) {
+  desk_.Bench().Application()->Post([this, work = std::move(work)] {
+    Try(work);
+    LeaveIfOver();
+  });
+}
+
+void MainWindow::Try(const std::function<void()>& work) {
+  std::string trouble;
+  try {
+    work();
+  } catch (const orvik::HostError& error) {
+    trouble = error.Description();
+  } catch (const InputError& error) {
+    trouble = error.what();
+  } catch (const IncompleteError& error) {
+    trouble = error.what();
+  } catch (const std::exception& error) {
+    trouble = Tr("internal error: %%1", {error.what()});
+  }
+  if (trouble.empty()) return;
+  if (byRequest_)
+    std::cerr << "orvik-bench: " << trouble << std::endl;
+  else
+    ShowError(this, trouble);
+  Refresh();
+}
+
+void MainWindow::Refresh() {
+  const bool open = desk_.HasDocument();
+  tree_->Show(open ? desk_.Summary() : DocumentSummary{}, progress_ ? progress_->Running() : 0);
+  ShowVerdict();
+  ShowDetails();
+  UpdateActions();
+  if (!Busy()) UpdateTitle();
+}
+
+void MainWindow::ShowVerdict() {
+  if (!desk_.HasDocument()) return verdict_->ShowNothing();
+  auto verdict = desk_.Verdict();
+  // What a run has not yet come to may be about to change.
+  if (session_) {
+    verdict.standing = report::Standing::kOpen;
+    verdict.word = Tr("Running");
+  }
+  verdict_->Show(verdict);
+}
+
+void MainWindow::ShowDetails() {
+  if (!desk_.HasDocument()) return details_->ShowFacts({}, {Tr("Make a new document, or open one.")});
+  try {
+    const auto id = tree_->Chosen();
+    if (const auto section = id ? desk_.Section(*id) : std::nullopt)
+      return details_->Show(*section, desk_.Settings(*id));
+    const auto summary = desk_.Summary();
+    std::vector<std::string> facts{desk_.TheDocument().Path().string()};
+    if (const auto& tester = summary.instrument)
+      facts.push_back(
+          Tr("Tester %%1, serial number %%2, firmware %%3, test leads %%4 mOhm",
+             {tester->type, tester->serial, tester->firmware, std::to_string(tester->calibration)}));
+    if (summary.elements.empty()) facts.push_back(Tr("The document has no tests yet: add some."));
+    details_->ShowFacts(desk_.TheDocument().Path().filename().string(), facts);
+  } catch (const orvik::HostError& error) {
+    details_->ShowFacts({}, {error.Description()});
+  }
+}
+
+void MainWindow::ShowProgress() {
+  if (!progress_) return;
+  progressText_->setText(Shown(progress_->Text()));
+  progressText_->setToolTip(progressText_->text());
+  progressBar_->setRange(0, static_cast<int>(progress_->Count()));
+  progressBar_->setValue(static_cast<int>(progress_->Place()) - (progress_->Place() > 0 ? 1 : 0));
+}
+
+void MainWindow::UpdateActions() {
+  const bool free = !Busy();
+  const bool open = free && desk_.HasDocument();
+  const auto chosen = open ? tree_->Chosen() : std::nullopt;
+  const bool some = open && tree_->topLevelItemCount() > 0;
+  for (auto* action : {actions_.create, actions_.open, actions_.calibrate}) action->setEnabled(free);
+  for (auto* action : {actions_.save, actions_.add}) action->setEnabled(open);
+  for (auto* action : {actions_.limits, actions_.report, actions_.archive, actions_.run, actions_.resume})
+    action->setEnabled(some);
+  for (auto* action : {actions_.remove, actions_.runSelected}) action->setEnabled(chosen.has_value());
+  const auto element = chosen ? desk_.TheDocument().Find(*chosen) : nullptr;
+  const auto configuration = element ? element->Configuration() : nullptr;
+  actions_.setUp->setEnabled(configuration && configuration->HasDialog());
+  actions_.stop->setEnabled(session_ || calibration_);
+  equipment_->setEnabled(open);
+  tester_->setEnabled(free);
+  operator_->setEnabled(free);
+  progressBar_->setVisible(session_);
+}
+
+void MainWindow::UpdateTitle() {
+  const auto name = desk_.HasDocument() ? desk_.TheDocument().Path().filename().string() + "[*] – " : "[*]";
+  setWindowTitle(Shown(name + "orvik-bench"));
+  setWindowModified(desk_.Changed());
+}
+
+void MainWindow::Remark(const std::string& text) {
+  remark_->setText(Shown(text));
+  remark_->setVisible(!text.empty());
+}
+
+void MainWindow::EquipmentEdited() {
+  if (!desk_.HasDocument()) return;
+  desk_.TheDocument().equipment = equipment_->Entered();
+  UpdateTitle();
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+  event->ignore();  // the window closes with the program, once nothing is left open
+  Later([this] {
+    if (session_ && !leaveWhenOver_ &&
+        Ask(this, Tr("A run is on. Stop it, close the session with the tester, and quit?"),
+            {Tr("Stop and quit"), Tr("Go on with the run")}) != 0)
+      return;
+    if (session_ || calibration_) {
+      leaveWhenOver_ = true;
+      return Stop();
+    }
+    if (!dialog_) leaveWhenOver_ = true;
+  });
+}
+
+void MainWindow::LeaveIfOver() {
+  if (!leaveWhenOver_ || Busy() || left_) return;
+  leaveWhenOver_ = byRequest_;  // until the next time, if the person would rather go on
+  if (byRequest_ || MayLeaveDocument()) Leave();
+}
+
+void MainWindow::Leave() {
+  if (byRequest_ && desk_.Changed()) {
+    leftOver_ = true;
+    Try([this] {
+      std::cerr << "orvik-bench: "
+                << Tr("the changes of %%1 were not saved; they are kept in %%2",
+                      {desk_.TheDocument().Path().string(), desk_.KeepUnsaved().string()})
+                << std::endl;
+    });
+  }
+  left_ = true;
+  hide();
+  quit_();
+}
+
+}  // namespace bench::desktop

@@ -1,0 +1,147 @@
+#pragma once
+
+#include <QMainWindow>
+#include <functional>
+#include <string>
+
+#include "host/app/run/RunSelection.h"
+#include "host/desktop/Desk.h"
+#include "host/run/DocumentRunner.h"
+
+class QLabel;
+class QLineEdit;
+class QProgressBar;
+class QTimer;
+class QToolBar;
+
+namespace orvik::platform {
+class IForm;
+}
+
+namespace bench {
+class CalibrationWindow;
+class RunSession;
+}  // namespace bench
+
+namespace bench::desktop {
+
+class DetailsView;
+class ElementTree;
+class EquipmentBar;
+class RunProgress;
+class TesterBox;
+class VerdictBar;
+
+/// The window: a document, its elements, what there is to tell of the chosen one, the verdict, and everything
+/// that a technician does with them.
+///
+/// Whatever is asked for runs from the application's message queue, never inside the toolkit's own calls, so
+/// that a run can wait and be stopped. Errors are shown in the words of the command line.
+class MainWindow : public QMainWindow {
+ public:
+  /// @param quit called when the window has been closed for good
+  MainWindow(Workbench& workbench, const GlobalOptions& options, std::function<void()> quit);
+  ~MainWindow() override;
+
+  /// Opens a document; errors are thrown.
+  void Open(const std::filesystem::path& file);
+  /// The program is told to end: nobody is asked. A run ends in good order first; changes that were not saved
+  /// are kept beside the document.
+  void EndByRequest();
+  /// Whether a run was stopped, or changes were left unsaved, by `EndByRequest`.
+  bool LeftOver() const { return leftOver_; }
+  /// Shows an error once what goes on now has ended.
+  void TellLater(const std::string& error);
+
+ private:
+  struct Actions {
+    QAction *create, *open, *save, *add, *remove, *limits, *setUp, *report, *archive;
+    QAction *calibrate, *run, *resume, *runSelected, *stop, *quit;
+  };
+
+  /// The window's part of a run, for as long as that is on.
+  class Part {
+   public:
+    Part(MainWindow& window, RunSession& session, RunProgress& progress);
+    Part(const Part&) = delete;
+    Part& operator=(const Part&) = delete;
+    ~Part();
+
+   private:
+    MainWindow& window_;
+  };
+
+  void MakeActions();
+  QAction* NewAction(const char* name, const std::string& text, const QKeySequence& keys,
+                     void (MainWindow::*work)());
+  void MakeMenus();
+  void MakeToolbars();
+  void MakeBody();
+
+  void Later(std::function<void()> work);
+  void Try(const std::function<void()>& work);
+  bool Busy() const { return session_ || calibration_ || dialog_; }
+
+  void Refresh();
+  void ShowVerdict();
+  void ShowDetails();
+  void ShowProgress();
+  void UpdateActions();
+  void UpdateTitle();
+  void Remark(const std::string& text);
+  void EquipmentEdited();
+
+  // Of the document.
+  void New();
+  void OpenOther();
+  void Save();
+  void AddTests();
+  void Remove();
+  void SetLimits();
+  void SetUp();
+  void Report();
+  void AddToArchive();
+  /// Asks what is to become of unsaved changes; false when the person would rather go on.
+  bool MayLeaveDocument();
+  std::filesystem::path Folder() const;
+
+  // With the tester.
+  void RunAll() { Run({}); }
+  void Resume();
+  void RunSelected();
+  void Run(RunSelection selection);
+  bool MayReplaceResults(const std::vector<std::shared_ptr<orvik::ITestElement>>& elements);
+  void PerformRun(const std::vector<std::shared_ptr<orvik::ITestElement>>& elements);
+  void TellEnd(DocumentRunner::End end, const std::string& reason);
+  void Stop();
+  void Calibrate();
+
+  void closeEvent(QCloseEvent* event) override;
+  void LeaveIfOver();
+  void Leave();
+
+  Desk desk_;
+  const std::function<void()> quit_;
+  Actions actions_{};
+  EquipmentBar* equipment_ = nullptr;
+  TesterBox* tester_ = nullptr;
+  QLineEdit* operator_ = nullptr;
+  ElementTree* tree_ = nullptr;
+  DetailsView* details_ = nullptr;
+  VerdictBar* verdict_ = nullptr;
+  QLabel* remark_ = nullptr;
+  QLabel* progressText_ = nullptr;
+  QProgressBar* progressBar_ = nullptr;
+  QTimer* progressTimer_ = nullptr;
+
+  RunSession* session_ = nullptr;  ///< while a run is on
+  RunProgress* progress_ = nullptr;
+  CalibrationWindow* calibration_ = nullptr;  ///< while it is shown
+  orvik::platform::IForm* dialog_ = nullptr;  ///< the plug-in's for settings, while it is shown
+  bool leaveWhenOver_ = false;                ///< once nothing is open any more
+  bool byRequest_ = false;
+  bool left_ = false;
+  bool leftOver_ = false;
+};
+
+}  // namespace bench::desktop

@@ -1,0 +1,169 @@
+// What the window does with the document.
+#include "OrvikTypeLib/As.h"
+#include "OrvikTypeLib/IConfigData.h"
+#include "OrvikTypeLib/IDialog.h"
+#include "OrvikTypeLib/IDialogForm.h"
+#include "host/app/CatalogueEntries.h"
+#include "host/app/InputError.h"
+#include "host/app/ProgramFiles.h"
+#include "host/app/archive/ArchiveCommandEntry.h"
+#include "host/app/archive/ArchiveCommandOpen.h"
+#include "host/desktop/AddTestsDialog.h"
+#include "host/desktop/Dialogs.h"
+#include "host/desktop/ElementTree.h"
+#include "host/desktop/EquipmentBar.h"
+#include "host/desktop/LimitSetDialog.h"
+#include "host/desktop/MainWindow.h"
+#include "host/desktop/Shown.h"
+#include "host/desktop/WhileOpen.h"
+#include "host/elements/ElementFactory.h"
+#include "host/run/ElementText.h"
+#include "host/services/Tr.h"
+#include "platform/IForm.h"
+
+namespace bench::desktop {
+
+namespace {
+
+std::string DocumentKinds() { return Tr("Test documents (*.orvik)") + ";;" + Tr("All files (*)"); }
+
+/// "IEC 62353, 2014, class I:" and a line for each limit.
+std::string LinesOf(const LimitSet& set, const AppliedLimits& told) {
+  std::string lines = set.standard + ", " + set.Description() + ":\n";
+  for (const auto& line : told.applied) lines += "  " + line + "\n";
+  if (!told.unknown.empty()) lines += "\n" + Tr("The set knows nothing of these:") + "\n";
+  for (const auto& line : told.unknown) lines += "  " + line + "\n";
+  return lines;
+}
+
+}  // namespace
+
+void MainWindow::New() {
+  if (!MayLeaveDocument()) return;
+  const auto file = AskForFile(this, {.title = Tr("New document"),
+                                      .kinds = DocumentKinds(),
+                                      .ending = "orvik",
+                                      .at = Folder(),
+                                      .toWrite = true});
+  if (!file) return;
+  desk_.Create(*file);
+  equipment_->Show({});
+  Refresh();
+}
+
+void MainWindow::OpenOther() {
+  if (!MayLeaveDocument()) return;
+  const auto file = AskForFile(
+      this, {.title = Tr("Open a document"), .kinds = DocumentKinds(), .ending = "orvik", .at = Folder()});
+  if (file) Open(*file);
+}
+
+void MainWindow::Save() {
+  desk_.Save();
+  Remark(Tr("Saved: %%1", {desk_.TheDocument().Path().string()}));
+  Refresh();
+}
+
+void MainWindow::AddTests() {
+  const auto entries = CatalogueEntries(desk_.Bench());
+  if (entries.empty())
+    throw InputError(Tr(
+        "the catalogue has no tests; see error.log in the state folder, or name another with --catalogue"));
+  AddTestsDialog dialog(entries, this);
+  if (dialog.exec() != QDialog::Accepted) return;
+  const auto last = desk_.AddTests(dialog.Chosen());
+  Refresh();
+  tree_->Choose(last);
+}
+
+void MainWindow::Remove() {
+  const auto id = tree_->Chosen();
+  if (!id) return;
+  const auto element = desk_.TheDocument().Find(*id);
+  const auto name = ElementName(*element, *desk_.Bench().Host()->Elements());
+  if (Ask(this,
+          Tr("Remove %%1, %%2, with its result and all that stands in it?", {std::to_string(*id), name}),
+          {Tr("Remove"), Tr("Cancel")}) != 0)
+    return;
+  desk_.Remove(*id);
+  Refresh();
+}
+
+void MainWindow::SetLimits() {
+  const auto id = tree_->Chosen();
+  const auto element = id ? desk_.TheDocument().Find(*id) : nullptr;
+  const auto name = element ? ElementName(*element, *desk_.Bench().Host()->Elements()) : "";
+  LimitSetDialog dialog(LimitSets(files::StandardsFolders(desk_.Options().state)).All(), Shown(name), this);
+  if (dialog.exec() != QDialog::Accepted) return;
+  const auto& set = *dialog.Set();
+  const auto told = desk_.ApplySet(set, dialog.ForAll() ? std::nullopt : id);
+  Refresh();
+  ShowMessage(this, Tr("These limits were set. They judge what is measured from now on."),
+              LinesOf(set, told));
+}
+
+void MainWindow::SetUp() {
+  const auto id = tree_->Chosen();
+  if (!id) return;
+  const auto configuration = desk_.TheDocument().Find(*id)->Configuration();
+  const auto dialog = configuration ? configuration->CreateDialog() : nullptr;
+  const auto window = orvik::As<orvik::IDialogForm>(dialog);
+  if (!window) throw InputError(Tr("--element %%1: it has no settings", {std::to_string(*id)}));
+  {
+    const WhileOpen open(dialog_, window->Form().get());
+    UpdateActions();
+    window->Form()->ShowModal(nullptr);
+  }
+  dialog->Unload();
+  Refresh();
+}
+
+void MainWindow::Report() {
+  auto suggestion = desk_.TheDocument().Path();
+  const auto file = AskForFile(
+      this, {.title = Tr("Write a report"),
+             .kinds = Tr("PDF (*.pdf)") + ";;" + Tr("Web page (*.html)") + ";;" + Tr("Plain text (*.txt)"),
+             .ending = "pdf",
+             .at = suggestion.replace_extension(".pdf"),
+             .toWrite = true,
+             .mayReplace = true});
+  if (!file) return;
+  desk_.WriteReport(*file);
+  Remark(Tr("Report written: %%1", {file->string()}));
+}
+
+void MainWindow::AddToArchive() {
+  if (desk_.Changed()) Save();
+  const auto file = desk_.TheDocument().Path().string();
+  const auto entry = EntryOf(file, desk_.Bench());
+  const auto reason = UnfinishedReason(entry);
+  if (!reason.empty() &&
+      Ask(this,
+          Tr("%%1 is not finished: %%2. Add it to the archive as it is? It is marked there.", {file, reason}),
+          {Tr("Add it as it is"), Tr("Cancel")}) != 0)
+    return;
+  auto archive = OpenArchiveToAdd({}, desk_.Options());
+  ShowMessage(this, ReceiptText(file, archive.Add(entry)));
+}
+
+bool MainWindow::MayLeaveDocument() {
+  if (!desk_.Changed()) return true;
+  switch (Ask(this,
+              Tr("%%1 has changes that were not saved.", {desk_.TheDocument().Path().filename().string()}),
+              {Tr("Save"), Tr("Drop the changes"), Tr("Cancel")})) {
+    case 0:
+      Save();
+      return true;
+    case 1:
+      return true;
+    default:
+      return false;
+  }
+}
+
+std::filesystem::path MainWindow::Folder() const {
+  return desk_.HasDocument() ? std::filesystem::absolute(desk_.TheDocument().Path()).parent_path()
+                             : std::filesystem::current_path();
+}
+
+}  // namespace bench::desktop

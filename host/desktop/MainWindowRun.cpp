@@ -1,0 +1,123 @@
+// What the window does with the tester.
+#include <QLabel>
+#include <QLineEdit>
+#include <QTimer>
+#include <algorithm>
+
+#include "host/app/CalibrationWindow.h"
+#include "host/app/run/RunSession.h"
+#include "host/desktop/Dialogs.h"
+#include "host/desktop/ElementTree.h"
+#include "host/desktop/MainWindow.h"
+#include "host/desktop/RunProgress.h"
+#include "host/desktop/TesterBox.h"
+#include "host/desktop/WhileOpen.h"
+#include "host/services/Tr.h"
+#include "platform/IForm.h"
+
+namespace bench::desktop {
+
+void MainWindow::Resume() {
+  RunSelection selection;
+  selection.resume = true;
+  Run(selection);
+}
+
+void MainWindow::RunSelected() {
+  if (const auto id = tree_->Chosen()) Run({.file = {}, .elements = {*id}, .standards = {}, .resume = false});
+}
+
+void MainWindow::Run(RunSelection selection) {
+  if (Busy() || !desk_.HasDocument()) return;
+  auto& document = desk_.TheDocument();
+  selection.file = document.Path().string();
+  const auto selected = SelectedElements(document, selection);
+  if (!selection.resume && !MayReplaceResults(selected)) return;
+  SelectStandards(document, *desk_.Bench().Host(), selection);
+  const auto elements =
+      selection.resume ? WithoutResult(selected, *desk_.Bench().Host(), document.Standards()) : selected;
+  if (elements.empty())
+    return ShowMessage(this, Tr("Every element has a result; there is nothing to go on with."));
+  // What cannot be saved had better be known before anything is measured.
+  desk_.Save();
+  PerformRun(elements);
+}
+
+bool MainWindow::MayReplaceResults(const std::vector<std::shared_ptr<orvik::ITestElement>>& elements) {
+  const auto summaries =
+      Summarise(elements, *desk_.Bench().Host()->Elements(), desk_.TheDocument().Standards());
+  const bool some = std::any_of(summaries.begin(), summaries.end(),
+                                [](const ElementSummary& element) { return element.status != 0; });
+  return !some || Ask(this, Tr("There are results already. Run these tests again and replace their results?"),
+                      {Tr("Run again"), Tr("Cancel")}) == 0;
+}
+
+void MainWindow::PerformRun(const std::vector<std::shared_ptr<orvik::ITestElement>>& elements) {
+  auto& bench = desk_.Bench();
+  WireLog log(desk_.TheDocument().Path().string() + ".wire.log");
+  const TesterConnection tester(tester_->Choice(), bench.Ports());
+  RunProgress progress(
+      *bench.Application(), bench.TimeScale(), [this] { Refresh(); },
+      [this](const std::string& text) { Remark(text); });
+  RunSession session(bench, desk_.TheDocument(), log, progress, OperatorKind::kScreen,
+                     OperatorName(operator_->text().toStdString()));
+  Remark({});
+  auto end = DocumentRunner::End::kFinished;
+  {
+    const Part part(*this, session, progress);
+    end = session.Run(elements);
+  }
+  Refresh();
+  TellEnd(end, session.Reason());
+  if (!log.Failure().empty())
+    Remark(Tr("The wire log %%1 could not be written: %%2", {log.Path(), log.Failure()}));
+}
+
+MainWindow::Part::Part(MainWindow& window, RunSession& session, RunProgress& progress) : window_(window) {
+  window_.session_ = &session;
+  window_.progress_ = &progress;
+  window_.progressTimer_->start();
+  window_.Refresh();
+}
+
+MainWindow::Part::~Part() {
+  window_.progressTimer_->stop();
+  window_.progressText_->clear();
+  window_.session_ = nullptr;
+  window_.progress_ = nullptr;
+}
+
+void MainWindow::TellEnd(DocumentRunner::End end, const std::string& reason) {
+  switch (end) {
+    case DocumentRunner::End::kFinished:
+      return;
+    case DocumentRunner::End::kStopped:
+      return Remark(Tr("Stopped. The document is saved; Resume goes on with what has no result yet."));
+    case DocumentRunner::End::kAborted:
+      return Remark(Tr("Ended by the operator. The document is saved."));
+    case DocumentRunner::End::kTesterLost:
+      return TellLater(Tr("The run has ended: %%1.", {reason}));
+    case DocumentRunner::End::kNotSaved:
+      return TellLater(Tr("The run has ended, since the document cannot be saved: %%1", {reason}));
+  }
+}
+
+void MainWindow::Stop() {
+  if (session_) return session_->AskToStop();
+  if (calibration_) return calibration_->Cancel();
+  if (dialog_) dialog_->Close();
+}
+
+void MainWindow::Calibrate() {
+  const TesterConnection tester(tester_->Choice(), desk_.Bench().Ports());
+  CalibrationWindow window(desk_.Bench(), {});
+  {
+    const WhileOpen open(calibration_, &window);
+    UpdateActions();
+    window.Show();
+  }
+  UpdateActions();
+  if (!window.Reason().empty()) TellLater(window.Reason());
+}
+
+}  // namespace bench::desktop

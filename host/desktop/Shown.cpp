@@ -1,0 +1,33 @@
+#include "host/desktop/Shown.h"
+
+#include <QPainter>
+#include <QPixmap>
+
+#include "host/pdf/PdfStyle.h"
+#include "host/pdf/PdfText.h"
+
+namespace bench::desktop {
+
+namespace {
+
+constexpr int kIconSize = 64;  // Qt makes it smaller where it is shown
+constexpr int kSignRoom = 15;
+
+}  // namespace
+
+QIcon SignIcon(report::Standing standing) {
+  QPixmap picture(kIconSize, kIconSize);
+  picture.fill(Qt::transparent);
+  QPainter painter(&picture);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(pdf::ColourOf(standing));
+  painter.drawEllipse(0, 0, kIconSize, kIconSize);
+  const double side = kIconSize - 2.0 * kSignRoom;
+  pdf::DrawSign(painter, standing, QRectF(kSignRoom, kSignRoom, side, side), Qt::white);
+  return QIcon(picture);
+}
+
+QString ColourName(report::Standing standing) { return pdf::ColourOf(standing).name(); }
+
+}  // namespace bench::desktop

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QIcon>
+#include <QString>
+#include <string>
+
+#include "host/report/Report.h"
+
+namespace bench::desktop {
+
+/// A UTF-8 text for Qt.
+inline QString Shown(const std::string& text) { return QString::fromStdString(text); }
+
+/// The sign of a standing: a tick, a cross, an exclamation mark or a dash in its colour.
+QIcon SignIcon(report::Standing standing);
+
+/// The colour of a standing as "#14692f"; readable on white.
+QString ColourName(report::Standing standing);
+
+}  // namespace bench::desktop

@@ -1,0 +1,83 @@
+#include "host/desktop/TesterBox.h"
+
+#include <QLineEdit>
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+
+#include "host/app/InputError.h"
+#include "host/desktop/Shown.h"
+#include "host/services/Tr.h"
+
+namespace bench::desktop {
+
+namespace {
+
+/// A built-in port has the type 0 when there is no hardware behind its name.
+bool HasHardware(const std::filesystem::path& port) {
+  std::ifstream file(port / "type");
+  int type = 0;
+  return !(file >> type) || type != 0;
+}
+
+}  // namespace
+
+std::vector<std::string> SerialDevices() {
+  std::vector<std::string> devices;
+  std::error_code none;
+  for (const auto& port : std::filesystem::directory_iterator("/sys/class/tty", none)) {
+    // What has a device behind it is a line, not a terminal of the screen.
+    const auto device = std::filesystem::path("/dev") / port.path().filename();
+    if (std::filesystem::exists(port.path() / "device", none) && HasHardware(port.path()) &&
+        std::filesystem::exists(device, none))
+      devices.push_back(device.string());
+  }
+  std::sort(devices.begin(), devices.end());
+  return devices;
+}
+
+TesterBox::TesterBox(double timeScale, QWidget* parent) : QComboBox(parent), timeScale_(timeScale) {
+  setObjectName("tester");
+  setAccessibleName(Shown(Tr("Tester")));
+  setToolTip(Shown(Tr("The serial device of the tester, such as /dev/ttyUSB0, or a simulated tester")));
+  setEditable(true);
+  setInsertPolicy(QComboBox::NoInsert);
+  setMinimumContentsLength(30);
+  Fill();
+  setCurrentIndex(0);
+}
+
+TesterChoice TesterBox::Choice() const {
+  TesterChoice choice;
+  choice.timeScale = timeScale_;
+  const int known = findText(currentText());
+  if (known >= 0 && itemData(known).isValid()) {
+    choice.simulated = true;
+    choice.profile = itemData(known).toString().toStdString();
+  } else {
+    choice.port = currentText().trimmed().toStdString();
+  }
+  if (!choice.simulated && choice.port.empty())
+    throw InputError(
+        Tr("No tester is named: choose its serial device, or a simulated tester, above the list of tests."));
+  return choice;
+}
+
+void TesterBox::Fill() {
+  clear();
+  for (const auto& device : SerialDevices()) addItem(Shown(device));
+  for (const auto* profile : kSimulatedProfiles)
+    addItem(Shown(Tr("Simulated tester: %%1", {profile})), QString(profile));
+}
+
+void TesterBox::showPopup() {
+  // A tester may have been plugged in meanwhile.
+  const auto text = currentText();
+  Fill();
+  setEditText(text);
+  setCurrentIndex(findText(text));
+  if (currentIndex() < 0) setEditText(text);
+  QComboBox::showPopup();
+}
+
+}  // namespace bench::desktop

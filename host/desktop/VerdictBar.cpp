@@ -1,0 +1,60 @@
+#include "host/desktop/VerdictBar.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+
+#include "host/desktop/Shown.h"
+#include "host/services/Tr.h"
+
+namespace bench::desktop {
+
+namespace {
+
+constexpr int kSignSize = 28;
+constexpr double kWordSize = 1.5;  ///< of the usual letters
+
+}  // namespace
+
+VerdictBar::VerdictBar(QWidget* parent)
+    : QFrame(parent), sign_(new QLabel(this)), word_(new QLabel(this)), sentence_(new QLabel(this)) {
+  setObjectName("verdict");
+  word_->setObjectName("verdictWord");
+  sentence_->setObjectName("verdictSentence");
+  auto font = word_->font();
+  font.setPointSizeF(font.pointSizeF() * kWordSize);
+  font.setBold(true);
+  word_->setFont(font);
+  // What a document holds is shown, never taken for markup.
+  word_->setTextFormat(Qt::PlainText);
+  sentence_->setTextFormat(Qt::PlainText);
+  sentence_->setWordWrap(true);
+  auto* layout = new QHBoxLayout(this);
+  layout->setContentsMargins(12, 6, 12, 6);
+  layout->addWidget(sign_);
+  layout->addWidget(word_);
+  layout->addSpacing(12);
+  layout->addWidget(sentence_, 1);
+  ShowNothing();
+}
+
+void VerdictBar::Show(const report::Verdict& verdict) {
+  const auto colour = ColourName(verdict.standing);
+  sign_->setPixmap(SignIcon(verdict.standing).pixmap(kSignSize, kSignSize));
+  sign_->setVisible(true);
+  word_->setText(Shown(verdict.word));
+  sentence_->setText(Shown(verdict.sentence));
+  setAccessibleName(Shown(Tr("Verdict of the document")) + ": " + word_->text() + ", " + sentence_->text());
+  setStyleSheet(QString("#verdict { background: white; border: 2px solid %1; border-radius: 4px; }"
+                        "#verdictWord { color: %1; } #verdictSentence { color: #1c2330; }")
+                    .arg(colour));
+}
+
+void VerdictBar::ShowNothing() {
+  sign_->setVisible(false);
+  word_->clear();
+  sentence_->setText(Shown(Tr("No document is open.")));
+  setAccessibleName(sentence_->text());
+  setStyleSheet("#verdict { border: 1px solid palette(mid); border-radius: 4px; }");
+}
+
+}  // namespace bench::desktop
