@@ -16,6 +16,7 @@
 #include "plugin/ClassLibrary.h"
 #include "plugin/MKELDConstants.h"
 #include "plugin/MKELDGlobalVars.h"
+#include "tests/support/OnScreen.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace support {
@@ -67,6 +68,7 @@ class HostOnly {
  private:
   TemporaryFolder folder_;
   std::shared_ptr<bench::headless::Application> application_;
+  std::shared_ptr<void> screen_ = OnScreen(application_);
   std::shared_ptr<bench::Host> host_;
 };
 

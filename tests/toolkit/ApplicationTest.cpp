@@ -100,6 +100,8 @@ TEST_F(ApplicationTest, IsTheDevicesLoopToo) {
 TEST_F(ApplicationTest, ItsEndLetsGoOfLoadedForms) {
   std::weak_ptr<platform::IForm> form = Shown("A");
   EXPECT_FALSE(form.expired());
+  // A screen shares the application.
+  screen.reset();
   app.reset();
   EXPECT_TRUE(form.expired());
 }

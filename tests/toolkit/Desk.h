@@ -18,6 +18,7 @@
 #include "platform/ITimer.h"
 #include "platform/ITreeView.h"
 #include "platform/IUserControl.h"
+#include "tests/support/OnScreen.h"
 
 namespace orvik::platform {
 
@@ -90,6 +91,7 @@ class Desk : public testing::Test {
   }
 
   std::shared_ptr<Application> app = std::make_shared<Application>(ClockKind::kVirtual);
+  std::shared_ptr<void> screen = support::OnScreen(app);
   std::vector<platform::Subscription> subscriptions;
 };
 

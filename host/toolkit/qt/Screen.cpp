@@ -32,7 +32,7 @@ void Screen::SetErrorHandler(std::function<void(const std::string&)> handler) {
   stage_->SetErrorHandler(std::move(handler));
 }
 
-void Screen::Update() { stage_->Update(); }
+bool Screen::Update() { return stage_->Update(); }
 
 void Screen::Exec() { stage_->Exec(); }
 

@@ -46,8 +46,9 @@ class Screen {
   /// processes messages.
   void SetErrorHandler(std::function<void(const std::string&)> handler);
 
-  /// Shows now what has changed; otherwise that is done whenever messages are processed.
-  void Update();
+  /// Shows now what has changed; otherwise that is done whenever messages are processed. False when it has to
+  /// wait until what a person did has reached the windows.
+  bool Update();
 
   /// Runs until `Quit`, sleeping in Qt.
   void Exec();

@@ -92,8 +92,8 @@ Presenter* Stage::Find(WindowHandle handle) const {
   return found == presenters_.end() ? nullptr : found->second.get();
 }
 
-void Stage::Update() {
-  if (*onItsWay_ > 0 || updating_) return;
+bool Stage::Update() {
+  if (*onItsWay_ > 0 || updating_) return false;
   updating_ = true;
   DropDeleted();
   for (const auto& [handle, changed] : std::exchange(changed_, {})) {
@@ -101,8 +101,10 @@ void Stage::Update() {
   }
   BringFocus();
   updating_ = false;
-  if (sleeper_.BelowForeignLoop()) return;
-  for (const auto& widget : std::exchange(buried_, {})) delete widget;
+  if (!sleeper_.BelowForeignLoop()) {
+    for (const auto& widget : std::exchange(buried_, {})) delete widget;
+  }
+  return true;
 }
 
 void Stage::Show(headless::Control& control) {
@@ -124,8 +126,11 @@ void Stage::Show(headless::Control& control) {
     Present(control);
 }
 
-Presenter& Stage::Present(headless::Control& control) {
-  auto& presenter = *(presenters_[control.Handle()] = MakePresenter(*this, control));
+void Stage::Present(headless::Control& control) {
+  auto made = MakePresenter(*this, control);
+  if (!made) return;
+  Presenter& presenter = *made;
+  presenters_[control.Handle()] = std::move(made);
   Presenter* before = nullptr;
   for (const auto& inner : application_->WindowsInside(control)) {
     Show(*inner);
@@ -134,7 +139,6 @@ Presenter& Stage::Present(headless::Control& control) {
     before = shown;
   }
   presenter.Sync();
-  return presenter;
 }
 
 void Stage::Drop(headless::Control& control) {
@@ -191,9 +195,9 @@ QWidget* Stage::Embed(headless::Form& form, QWidget* parent) {
   embedded_[form.Handle()] = parent;
   Drop(form);
   const bool updating = std::exchange(updating_, true);
-  QWidget* widget = Present(form).Widget();
+  Present(form);
   updating_ = updating;
-  return widget;
+  return Find(form.Handle())->Widget();
 }
 
 QWidget* Stage::EmbeddedIn(const headless::Form& form) const {

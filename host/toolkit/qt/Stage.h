@@ -47,8 +47,8 @@ class Stage final : public headless::IScreen {
     errorHandler_ = std::move(handler);
   }
   /// Brings all widgets up to date. While something that the person did is still on its way to the model,
-  /// that waits: the model is behind the widgets.
-  void Update();
+  /// that waits, and the answer is false: the model is behind the widgets.
+  bool Update();
   void Exec();
   void Quit();
   QWidget* Embed(headless::Form& form, QWidget* parent);
@@ -77,7 +77,7 @@ class Stage final : public headless::IScreen {
   class EventFilter;
 
   void Show(headless::Control& control);
-  Presenter& Present(headless::Control& control);
+  void Present(headless::Control& control);
   void Drop(headless::Control& control);
   void Bury(orvik::platform::WindowHandle handle);
   void DropDeleted();
