@@ -67,7 +67,9 @@ void FormPresenter::SyncOwn() {
 
 void FormPresenter::SyncFlags() {
   QWidget& window = GetShown();
-  const auto modality = GetStage().Application().IsModal(GetModel()) ? Qt::ApplicationModal : Qt::NonModal;
+  // Among its own windows the model says which one answers; the host's own window must not be blocked.
+  const bool modal = !GetStage().HostWindow() && GetStage().Application().IsModal(GetModel());
+  const auto modality = modal ? Qt::ApplicationModal : Qt::NonModal;
   const bool topmost = GetModel().Topmost();
   const bool sameTop = window.windowFlags().testFlag(Qt::WindowStaysOnTopHint) == topmost;
   if (sameTop && window.windowModality() == modality) return;

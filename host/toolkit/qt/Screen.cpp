@@ -28,6 +28,8 @@ QWidget* Screen::WidgetOf(const orvik::platform::IControl& control) const {
   return presenter ? presenter->Widget() : nullptr;
 }
 
+void Screen::SetHostWindow(QWidget* window) { stage_->SetHostWindow(window); }
+
 void Screen::SetErrorHandler(std::function<void(const std::string&)> handler) {
   stage_->SetErrorHandler(std::move(handler));
 }

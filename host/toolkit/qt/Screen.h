@@ -42,6 +42,10 @@ class Screen {
   /// The widget of a control that stands in a window which has been shown, or null.
   QWidget* WidgetOf(const orvik::platform::IControl& control) const;
 
+  /// Names the host's own window. The application's windows stand above it, and never block it, not even
+  /// modal ones: what it offers meanwhile, such as to stop what goes on, is for the host to say.
+  void SetHostWindow(QWidget* window);
+
   /// Errors that handlers of windows, timers and ports throw end here. Without a handler they go to whoever
   /// processes messages.
   void SetErrorHandler(std::function<void(const std::string&)> handler);

@@ -213,7 +213,9 @@ QWidget* Stage::OwnerOfNext(const headless::Form& form) const {
     if (other->ShowOrder() < form.ShowOrder() && (!owner || owner->ShowOrder() < other->ShowOrder()))
       owner = other;
   }
-  return owner ? Find(owner->Handle())->Widget()->window() : QApplication::activeWindow();
+  return owner         ? Find(owner->Handle())->Widget()->window()
+         : hostWindow_ ? hostWindow_.data()
+                       : QApplication::activeWindow();
 }
 
 void Stage::Forward(headless::Control& control, std::function<void(headless::Control&)> action) {

@@ -46,6 +46,8 @@ class Stage final : public headless::IScreen {
   void SetErrorHandler(std::function<void(const std::string&)> handler) {
     errorHandler_ = std::move(handler);
   }
+  void SetHostWindow(QWidget* window) { hostWindow_ = window; }
+  QWidget* HostWindow() const { return hostWindow_; }
   /// Brings all widgets up to date. While something that the person did is still on its way to the model,
   /// that waits, and the answer is false: the model is behind the widgets.
   bool Update();
@@ -88,6 +90,7 @@ class Stage final : public headless::IScreen {
   std::shared_ptr<headless::Application> application_;
   Units units_;
   std::unique_ptr<headless::IMetrics> metrics_;
+  QPointer<QWidget> hostWindow_;
   std::function<void(const std::string&)> errorHandler_;
   std::unique_ptr<EventFilter> filter_;
   std::unordered_map<QObject*, Presenter*> watched_;
