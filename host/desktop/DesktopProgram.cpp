@@ -42,11 +42,12 @@ void RequireDisplay() {
 /// Qt ends the program by itself when the screen that is named does not answer; it is to say why, and not to
 /// crash.
 void TellFatal(QtMsgType type, const QMessageLogContext&, const QString& message) {
+  static std::string before;
   if (type != QtFatalMsg) {
-    if (type != QtDebugMsg && type != QtInfoMsg) std::cerr << message.toStdString() << std::endl;
+    before = message.toStdString() + "\n";
     return;
   }
-  std::cerr << "orvik-bench: " << NoDisplayText() << "\n" << message.toStdString() << std::endl;
+  std::cerr << "orvik-bench: " << NoDisplayText() << "\n" << before << message.toStdString() << std::endl;
   _exit(static_cast<int>(ExitStatus::kIncomplete));
 }
 
@@ -87,6 +88,7 @@ bool RunDesktop(const DesktopOptions& options) {
   Workbench workbench(global, options.timeScale);
   qt::Screen screen(workbench.Application());
   MainWindow window(workbench, global, [&screen] { screen.Quit(); });
+  screen.SetHostWindow(&window);
   screen.SetErrorHandler([&window](const std::string& error) { window.TellLater(error); });
   if (!options.file.empty()) window.Open(options.file);
   const StopSignals signals(*workbench.Application(), [&window](int) { window.EndByRequest(); });

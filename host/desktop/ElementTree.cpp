@@ -1,6 +1,7 @@
 #include "host/desktop/ElementTree.h"
 
 #include <QHeaderView>
+#include <algorithm>
 #include <map>
 
 #include "host/app/DocumentText.h"
@@ -16,6 +17,7 @@ namespace {
 
 enum Column { kNumber, kName, kResult, kValue, kRemark, kColumns };
 constexpr int kIdentifier = Qt::UserRole;
+constexpr int kColumnRoom = 12, kWidest = 420;  ///< of a column, in pixels
 constexpr int kParent = Qt::UserRole + 1;
 
 QString VisibleInTree(const std::string& text) { return Shown(report::VisibleText(text)); }
@@ -118,6 +120,8 @@ void ElementTree::Build(const DocumentSummary& document) {
     rows_.push_back(row);
   }
   expandAll();
+  for (const auto column : {kName, kResult})
+    setColumnWidth(column, std::clamp(sizeHintForColumn(column) + kColumnRoom, columnWidth(column), kWidest));
   if (chosen) Choose(*chosen);
 }
 

@@ -31,7 +31,7 @@ namespace bench::desktop {
 
 namespace {
 
-constexpr QSize kWindowSize(1180, 760);
+constexpr QSize kWindowSize(1260, 780);
 constexpr int kRedrawMilliseconds = 250;
 
 /// A label before a box that it names, with its access key.
@@ -173,7 +173,7 @@ void MainWindow::MakeBody() {
   details_ = new DetailsView(halves);
   halves->setStretchFactor(0, 3);
   halves->setStretchFactor(1, 2);
-  halves->setSizes({3 * kWindowSize.width() / 5, 2 * kWindowSize.width() / 5});
+  halves->setSizes({2 * kWindowSize.width() / 3, kWindowSize.width() / 3});
   remark_ = new QLabel(body);
   remark_->setObjectName("remark");
   remark_->setTextFormat(Qt::PlainText);
@@ -321,11 +321,8 @@ void MainWindow::closeEvent(QCloseEvent* event) {
         Ask(this, Tr("A run is on. Stop it, close the session with the tester, and quit?"),
             {Tr("Stop and quit"), Tr("Go on with the run")}) != 0)
       return;
-    if (session_ || calibration_) {
-      leaveWhenOver_ = true;
-      return Stop();
-    }
-    if (!dialog_) leaveWhenOver_ = true;
+    leaveWhenOver_ = true;
+    if (Busy()) Stop();
   });
 }
 

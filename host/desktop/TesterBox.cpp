@@ -44,8 +44,11 @@ TesterBox::TesterBox(double timeScale, QWidget* parent) : QComboBox(parent), tim
   setInsertPolicy(QComboBox::NoInsert);
   setMinimumContentsLength(30);
   Fill();
-  setCurrentIndex(0);
+  // Only a simulated tester can be hurried.
+  setCurrentIndex(timeScale == 1.0 ? 0 : FirstSimulated());
 }
+
+int TesterBox::FirstSimulated() const { return findData(QString(kSimulatedProfiles.front())); }
 
 TesterChoice TesterBox::Choice() const {
   TesterChoice choice;

@@ -17,6 +17,7 @@ class TesterBox : public QComboBox {
 
  private:
   void Fill();
+  int FirstSimulated() const;
   void showPopup() override;
 
   const double timeScale_;
