@@ -1,5 +1,6 @@
 #include "host/toolkit/headless/Form.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "OrvikTypeLib/HostError.h"
@@ -193,8 +194,11 @@ void Form::FocusOn(const std::shared_ptr<Control>& control) {
 void Form::MoveFocusOn() { GetDesktop().Forms().UpdateFocus(); }
 
 void Form::NaturalSizeChanged() {
-  if (!sizedByHand_)
-    Panel::SetBounds({Bounds().left, Bounds().top, NaturalSize().width, NaturalSize().height});
+  if (sizedByHand_) return;
+  // Under the operator's eyes a window grows with its texts and does not shrink: what he aims at stays.
+  const platform::Size least = visible_ ? InnerSize() : platform::Size{};
+  Panel::SetBounds({Bounds().left, Bounds().top, std::max(least.width, NaturalSize().width),
+                    std::max(least.height, NaturalSize().height)});
 }
 
 }  // namespace bench::headless

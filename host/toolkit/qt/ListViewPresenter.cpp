@@ -58,8 +58,9 @@ void ListViewPresenter::SyncColumns() {
   const auto columns = GetModel().Columns();
   for (int place = 0; place < list_.columnCount(); ++place) {
     const auto& column = columns[static_cast<std::size_t>(place)];
-    // Values are shown whole; the name takes what is left.
-    header.setSectionResizeMode(place, place == 0 ? QHeaderView::Stretch : QHeaderView::ResizeToContents);
+    // Values are shown whole; names share what is left.
+    const bool name = column.alignment == orvik::platform::Alignment::kLeft;
+    header.setSectionResizeMode(place, name ? QHeaderView::Stretch : QHeaderView::ResizeToContents);
     header.resizeSection(place, GetStage().GetUnits().Pixels(column.width));
   }
 }
