@@ -54,19 +54,25 @@ const std::vector<Action>& Actions() {
 /// Three attempts for each of the two commands that end a session.
 constexpr auto kWayOut = 2 * 3 * std::chrono::milliseconds(5500);
 
-struct Case {
+}  // namespace
+
+struct OperatorCase {
   bool sequence;
   bool release;  ///< the handler also lets go of the element
   bool silent;   ///< the tester says nothing any more once it is in remote mode
   std::size_t action;
+
+  std::string Name() const {
+    return std::string(Actions()[action].name) + (sequence ? "InASequence" : "InASingleTest") +
+           (release ? "Released" : "") + (silent ? "SilentTester" : "");
+  }
+
+  friend std::ostream& operator<<(std::ostream& out, const OperatorCase& shown) {
+    return out << shown.Name();
+  }
 };
 
-std::string NameOf(const Case& tested) {
-  return std::string(Actions()[tested.action].name) + (tested.sequence ? "InASequence" : "InASingleTest") +
-         (tested.release ? "Released" : "") + (tested.silent ? "SilentTester" : "");
-}
-
-std::ostream& operator<<(std::ostream& out, const Case& shown) { return out << NameOf(shown); }
+namespace {
 
 /// The starts of children that the host was asked for from that notice on.
 Texts StartsFrom(const Texts& told, std::size_t first) {
@@ -86,7 +92,7 @@ Texts TestingFrom(const Texts& sent, std::size_t first) {
 
 }  // namespace
 
-class OperatorEverywhereTest : public testing::TestWithParam<Case> {
+class OperatorEverywhereTest : public testing::TestWithParam<OperatorCase> {
  protected:
   static constexpr int kNever = -1;
 
@@ -207,8 +213,8 @@ TEST_P(OperatorEverywhereTest, NeverHangsNeverCrashesAlwaysClosesTheSession) {
 
 namespace {
 
-std::vector<Case> Cases() {
-  std::vector<Case> cases;
+std::vector<OperatorCase> Cases() {
+  std::vector<OperatorCase> cases;
   for (std::size_t action = 0; action < Actions().size(); ++action)
     for (const bool sequence : {false, true})
       for (const bool release : {false, true}) {
@@ -221,6 +227,6 @@ std::vector<Case> Cases() {
 }  // namespace
 
 INSTANTIATE_TEST_SUITE_P(EveryMoment, OperatorEverywhereTest, testing::ValuesIn(Cases()),
-                         [](const auto& tested) { return NameOf(tested.param); });
+                         [](const auto& tested) { return tested.param.Name(); });
 
 }  // namespace keld
