@@ -90,8 +90,8 @@ bool RunDesktop(const DesktopOptions& options) {
   MainWindow window(workbench, global, [&screen] { screen.Quit(); });
   screen.SetHostWindow(&window);
   screen.SetErrorHandler([&window](const std::string& error) { window.TellLater(error); });
-  if (!options.file.empty()) window.Open(options.file);
   const StopSignals signals(*workbench.Application(), [&window](int) { window.EndByRequest(); });
+  if (!options.file.empty()) window.Open(options.file);
   window.show();
   screen.Exec();
   return !window.LeftOver();

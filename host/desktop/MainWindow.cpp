@@ -192,6 +192,7 @@ void MainWindow::MakeBody() {
   progressText_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   progressBar_ = new QProgressBar(this);
   progressBar_->setAccessibleName(Shown(Tr("Progress of the run")));
+  progressBar_->setFormat("%v / %m");
   progressBar_->setMaximumWidth(160);
   progressBar_->setVisible(false);
   statusBar()->addWidget(progressText_, 1);

@@ -112,6 +112,7 @@ class MainWindow : public QMainWindow {
   void Run(RunSelection selection);
   bool MayReplaceResults(const std::vector<std::shared_ptr<orvik::ITestElement>>& elements);
   void PerformRun(const std::vector<std::shared_ptr<orvik::ITestElement>>& elements);
+  void RunChanged();
   void TellEnd(DocumentRunner::End end, const std::string& reason);
   void Stop();
   void Calibrate();

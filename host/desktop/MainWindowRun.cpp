@@ -57,7 +57,7 @@ void MainWindow::PerformRun(const std::vector<std::shared_ptr<orvik::ITestElemen
   WireLog log(desk_.TheDocument().Path().string() + ".wire.log");
   const TesterConnection tester(tester_->Choice(), bench.Ports());
   RunProgress progress(
-      *bench.Application(), bench.TimeScale(), [this] { Refresh(); },
+      *bench.Application(), bench.TimeScale(), [this] { RunChanged(); },
       [this](const std::string& text) { Remark(text); });
   RunSession session(bench, desk_.TheDocument(), log, progress, OperatorKind::kScreen,
                      OperatorName(operator_->text().toStdString()));
@@ -71,6 +71,12 @@ void MainWindow::PerformRun(const std::vector<std::shared_ptr<orvik::ITestElemen
   TellEnd(end, session.Reason());
   if (!log.Failure().empty())
     Remark(Tr("The wire log %%1 could not be written: %%2", {log.Path(), log.Failure()}));
+}
+
+void MainWindow::RunChanged() {
+  Refresh();
+  // What runs is what the person wants to look at.
+  if (progress_ && progress_->Running() != 0) tree_->Choose(progress_->Running());
 }
 
 MainWindow::Part::Part(MainWindow& window, RunSession& session, RunProgress& progress) : window_(window) {

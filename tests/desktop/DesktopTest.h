@@ -1,0 +1,88 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QString>
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <nlohmann/json.hpp>
+#include <string>
+#include <vector>
+
+#include "host/app/Workbench.h"
+#include "host/desktop/MainWindow.h"
+#include "host/toolkit/qt/Screen.h"
+#include "tests/cli/BenchProgram.h"
+#include "tests/support/TemporaryFolder.h"
+
+class QDialog;
+class QTreeWidgetItem;
+class QWidget;
+
+namespace desktop_test {
+
+/// The real window with the plug-in opened, driven by mouse and keys as a technician does.
+class DesktopTest : public testing::Test {
+ protected:
+  /// Something that is to be done once it can be; answers whether it has been done.
+  struct Step {
+    std::string name;
+    std::function<bool()> done;
+  };
+  using Steps = std::vector<Step>;
+
+  /// Pauses are divided by this; a reply may still take 200 ms.
+  static constexpr double kTimeScale = 10;
+
+  DesktopTest();
+  ~DesktopTest() override;
+
+  std::string Path(const std::string& name) const { return (folder_.Path() / name).string(); }
+  void Write(const std::string& name, const std::string& text) const;
+  static std::string Contents(const std::string& path);
+  cli::Finished Bench(std::vector<std::string> words) const;
+  nlohmann::json Show(const std::string& file) const;
+  /// A document with these tests on disk, with limits of IEC 60601-1 for class I, type CF.
+  std::string NewDocument(std::vector<std::string> tests) const;
+  /// The commands in the document's wire log.
+  std::vector<std::string> Sent(const std::string& file) const;
+
+  /// Takes one step after the other, while the program runs, until all are done.
+  void Drive(const Steps& steps);
+
+  // Steps.
+  /// Clicks the window's button of that action.
+  Step Press(const std::string& action);
+  /// Works on the modal dialog of that name.
+  Step In(const std::string& dialog, std::function<bool(QDialog&)> work);
+  /// Clicks the button in the dialog; the dialog must show the text.
+  Step Answer(const std::string& dialog, const std::string& button, const std::string& text = {});
+  /// Puts the path into the file dialog.
+  Step TakeFile(const std::string& path);
+  /// Clicks the guide's button once it can be clicked, such as 202 for play.
+  Step Guide(int command);
+  Step Await(const std::string& what, std::function<bool()> holds) { return {what, std::move(holds)}; }
+  /// Nothing runs and no window of the plug-in is open.
+  Step Idle();
+
+  /// A top-level window of that name that can be seen, or null.
+  static QWidget* Visible(const std::string& name);
+  void ChooseTester(const std::string& text);
+  std::string Verdict() const;
+  /// The text of a column (2: result, 3: value, 4: remark) in the row of that element.
+  std::string Cell(int id, int column) const;
+  void ChooseElement(int id);
+  bool Changed() const { return window_->isWindowModified(); }
+
+  support::TemporaryFolder folder_;
+  std::unique_ptr<bench::Workbench> bench_;
+  std::unique_ptr<bench::qt::Screen> screen_;
+  std::unique_ptr<bench::desktop::MainWindow> window_;
+  bool left_ = false;
+
+ private:
+  QTreeWidgetItem* Row(int id) const;
+};
+
+}  // namespace desktop_test
