@@ -29,6 +29,11 @@ function(is_shown_by_its_source header result)
   endif()
 endfunction()
 
+# Those of tests and benchmarks, which nobody includes from outside, only where every test is wanted.
+if(NOT ORVIK_TEST_SET STREQUAL all)
+  list(FILTER headers EXCLUDE REGEX "^(tests|benchmarks)/")
+endif()
+
 set(sources)
 foreach(header IN LISTS headers)
   is_shown_by_its_source(${header} shown)
@@ -41,6 +46,7 @@ foreach(header IN LISTS headers)
 endforeach()
 
 add_library(headers-compile-alone OBJECT ${sources})
+set_target_properties(headers-compile-alone PROPERTIES UNITY_BUILD OFF)
 find_package(Qt6 REQUIRED COMPONENTS Widgets)
 target_link_libraries(headers-compile-alone PRIVATE orvik-app keld-sim-core Qt6::Widgets GTest::gtest)
 target_compile_options(headers-compile-alone PRIVATE -O0)
