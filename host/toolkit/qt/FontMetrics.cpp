@@ -1,13 +1,16 @@
 #include "host/toolkit/qt/FontMetrics.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QFontMetrics>
+#include <QGroupBox>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
 #include <QStyle>
-#include <QStyleOptionButton>
-#include <QStyleOptionComboBox>
-#include <QStyleOptionFrame>
-#include <QStyleOptionTab>
-#include <QStyleOptionToolButton>
+#include <QTabBar>
+#include <QToolButton>
+#include <algorithm>
 
 #include "host/toolkit/qt/Texts.h"
 
@@ -21,58 +24,66 @@ constexpr int kLongestLine = 60;
 
 QFontMetrics Metrics() { return QFontMetrics(QApplication::font()); }
 
-/// What the style puts around contents that are large enough for its smallest sizes not to count.
-template <class Option>
-QSize AroundContents(QStyle::ContentsType type, Option option) {
-  const QSize contents(200, Metrics().height());
-  option.fontMetrics = Metrics();
-  const QSize whole = QApplication::style()->sizeFromContents(type, &option, contents);
-  return whole - contents;
+/// A text that is long enough for the smallest sizes of controls not to count, and what a control that shows
+/// it needs beyond it.
+const QString& Sample() {
+  static const QString sample(40, u'n');
+  return sample;
+}
+QSize Beyond(const QSize& whole) {
+  return whole - QSize(Metrics().horizontalAdvance(Sample()), Metrics().height());
 }
 
 QSize AroundTextBox() {
-  // Two pixels at either side are the text's own margins.
-  QStyleOptionFrame option;
-  option.lineWidth = QApplication::style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &option);
-  return AroundContents(QStyle::CT_LineEdit, option) + QSize(4, 2);
+  const QSize whole = QLineEdit().sizeHint();
+  return {whole.width() - QLineEdit().fontMetrics().horizontalAdvance(QString(17, u'x')),
+          whole.height() - Metrics().height()};
+}
+
+QSize AroundComboBox() {
+  QComboBox box;
+  box.addItem(Sample());
+  const QSize fixed = Beyond(box.sizeHint());
+  box.setEditable(true);
+  return fixed.expandedTo(Beyond(box.sizeHint()));
 }
 
 QSize AroundTab() {
-  QStyleOptionTab option;
-  option.shape = QTabBar::RoundedNorth;
-  const QStyle* style = QApplication::style();
-  // A page may have a picture beside its caption.
-  const int picture = style->pixelMetric(QStyle::PM_SmallIconSize) + 4;
-  return AroundContents(QStyle::CT_TabBarTab, option) +
-         QSize(style->pixelMetric(QStyle::PM_TabBarTabHSpace) + picture,
-               style->pixelMetric(QStyle::PM_TabBarTabVSpace) + 2);
+  QTabBar bar;
+  QPixmap picture(16, 16);
+  bar.addTab(QIcon(picture), Sample());
+  return Beyond(bar.sizeHint());
 }
 
 QSize AroundToolButton() {
-  const QStyle* style = QApplication::style();
+  QMenu menu;
+  QToolButton button;
+  button.setText(Sample());
   // Any button may have the arrow of a list.
-  return AroundContents(QStyle::CT_ToolButton, QStyleOptionToolButton()) +
-         QSize(style->pixelMetric(QStyle::PM_MenuButtonIndicator) + 2, 0);
+  button.setMenu(&menu);
+  button.setPopupMode(QToolButton::InstantPopup);
+  return Beyond(button.sizeHint());
 }
 
 QSize AroundTreeNode() {
   const QStyle* style = QApplication::style();
   constexpr int kMargins = 12;
-  return QSize(style->pixelMetric(QStyle::PM_IndicatorWidth) +
-                   style->pixelMetric(QStyle::PM_ScrollBarExtent) + kMargins,
-               4);
+  return {style->pixelMetric(QStyle::PM_IndicatorWidth) + style->pixelMetric(QStyle::PM_ScrollBarExtent) +
+              kMargins,
+          4};
 }
 
 QSize AroundPart(Part part) {
   switch (part) {
     case Part::kButton:
-      return AroundContents(QStyle::CT_PushButton, QStyleOptionButton());
+      return Beyond(QPushButton(Sample()).sizeHint());
     case Part::kTextBox:
       return AroundTextBox();
     case Part::kComboBox:
-      return AroundContents(QStyle::CT_ComboBox, QStyleOptionComboBox());
+      return AroundComboBox();
     case Part::kFrame:
-      return QSize(24, Metrics().height() + 8);
+      // And a line inside.
+      return Beyond(QGroupBox(Sample()).minimumSizeHint()).expandedTo(QSize(24, Metrics().height() + 8));
     case Part::kTabCaption:
       return AroundTab();
     case Part::kToolButton:
@@ -86,6 +97,12 @@ QSize AroundPart(Part part) {
 }
 
 }  // namespace
+
+FontMetrics::FontMetrics() {
+  for (const Part part : {Part::kButton, Part::kTextBox, Part::kComboBox, Part::kFrame, Part::kTabCaption,
+                          Part::kToolButton, Part::kTreeNode, Part::kListRow})
+    around_[part] = units_.Twips(AroundPart(part).expandedTo(QSize(0, 0)));
+}
 
 platform::Size FontMetrics::Line(std::string_view caption) const {
   return units_.Twips(QSize(Metrics().horizontalAdvance(WithoutAccessKey(caption)), Metrics().height()));
@@ -101,7 +118,5 @@ platform::Size FontMetrics::Wrapped(std::string_view text) const {
 platform::Size FontMetrics::Character() const {
   return units_.Twips(QSize(Metrics().averageCharWidth(), Metrics().height()));
 }
-
-platform::Size FontMetrics::Around(Part part) const { return units_.Twips(AroundPart(part)); }
 
 }  // namespace bench::qt

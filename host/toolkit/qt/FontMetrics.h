@@ -1,5 +1,7 @@
 #pragma once
 
+#include <map>
+
 #include "host/toolkit/headless/IMetrics.h"
 #include "host/toolkit/qt/Units.h"
 
@@ -8,13 +10,16 @@ namespace bench::qt {
 /// Sizes of the screen's font, and of what its style puts around texts.
 class FontMetrics final : public headless::IMetrics {
  public:
+  FontMetrics();
+
   orvik::platform::Size Line(std::string_view caption) const override;
   orvik::platform::Size Wrapped(std::string_view text) const override;
   orvik::platform::Size Character() const override;
-  orvik::platform::Size Around(headless::Part part) const override;
+  orvik::platform::Size Around(headless::Part part) const override { return around_.at(part); }
 
  private:
   Units units_;
+  std::map<headless::Part, orvik::platform::Size> around_;
 };
 
 }  // namespace bench::qt

@@ -131,7 +131,7 @@ void FormPresenter::Resized() {
   const auto inner = GetStage().GetUnits().Twips(size);
   if (Embedded())
     // By the layout of the host's window, whether or not the form answers a person.
-    Forward([inner](headless::Form& form) {
+    GetStage().Tell(Control(), [inner](headless::Control& form) {
       form.SetBounds({form.Bounds().left, form.Bounds().top, inner.width, inner.height});
     });
   else

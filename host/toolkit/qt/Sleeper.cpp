@@ -55,7 +55,7 @@ void Sleeper::Sleep(std::chrono::nanoseconds longest) {
   StartWorkTimer();
   if (longest > std::chrono::nanoseconds::zero()) {
     StartOnce(deadlineTimer_, longest);
-    while (!ready_ && !error_) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    while (!ready_ && !FailedAbove()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     deadlineTimer_.stop();
   } else {
     QCoreApplication::processEvents();
@@ -64,11 +64,7 @@ void Sleeper::Sleep(std::chrono::nanoseconds longest) {
   // An outer sleep looks again too: what it waited for may have been done here.
   ready_ = true;
   StartWorkTimer();
-  if (error_) std::rethrow_exception(std::exchange(error_, nullptr));
-}
-
-void Sleeper::Keep(std::exception_ptr error) {
-  if (!error_) error_ = std::move(error);
+  if (FailedAbove()) std::rethrow_exception(std::exchange(error_, nullptr));
 }
 
 void Sleeper::Ready() {
@@ -83,7 +79,11 @@ void Sleeper::Serve() {
   try {
     serve_();
   } catch (...) {
-    Keep(std::current_exception());
+    // It must not pass through Qt's loop.
+    if (!error_) {
+      error_ = std::current_exception();
+      errorDepth_ = foreign_;
+    }
   }
   --foreign_;
   StartWorkTimer();

@@ -27,15 +27,14 @@ class Sleeper {
   void WorkAdded();
   /// A sleep that is on ends at once.
   void LookAgain();
-  /// Throws what `Keep` was given.
+  /// Throws what was thrown while Qt's own loop ran inside the sleep.
   void Sleep(std::chrono::nanoseconds longest);
-  /// Takes an error that must not pass through Qt; the next sleep ends with it.
-  void Keep(std::exception_ptr error);
   /// Whether Qt's own loop runs below us, so that widgets may be in use on the stack.
   bool BelowForeignLoop() const { return foreign_ > 0; }
 
  private:
   void Ready();
+  bool FailedAbove() const { return error_ && foreign_ < errorDepth_; }
   void Serve();
   void StartWorkTimer();
 
@@ -49,7 +48,9 @@ class Sleeper {
   // How deep Qt's loops were when the sleep began that is on.
   std::optional<int> level_;
   int foreign_ = 0;
+  // What was thrown below that many of Qt's own loops; it goes to whoever waits above them.
   std::exception_ptr error_;
+  int errorDepth_ = 0;
 };
 
 }  // namespace bench::qt

@@ -219,7 +219,10 @@ QWidget* Stage::OwnerOfNext(const headless::Form& form) const {
 }
 
 void Stage::Forward(headless::Control& control, std::function<void(headless::Control&)> action) {
-  if (updating_) return;
+  if (!updating_) Tell(control, std::move(action));
+}
+
+void Stage::Tell(headless::Control& control, std::function<void(headless::Control&)> action) {
   ++*onItsWay_;
   application_->Post(
       [this, on = std::weak_ptr<int>(onItsWay_), to = control.weak_from_this(), action = std::move(action)] {
@@ -258,6 +261,10 @@ void Stage::Report() {
 void Stage::PreviewKey(headless::Control& control, const QKeyEvent& event) {
   const auto form = control.TopForm();
   const int key = KeyOf(event);
+  const QWidget* widget = Find(control.Handle())->Widget();
+  const QWidget* focused = widget->window()->focusWidget();
+  // What the focused control leaves to those around it has been seen already.
+  if (focused && focused != widget) return;
   if (!form || !form->KeyPreview() || key == 0 || event.isAutoRepeat()) return;
   Forward(*form, [key, shift = ShiftOf(event)](headless::Control& target) {
     static_cast<headless::Form&>(target).PreviewKey(key, shift);

@@ -67,6 +67,8 @@ class Stage final : public headless::IScreen {
   /// Puts the action of a person into the message queue. While widgets are being brought up to date nothing
   /// comes from a person, and nothing is put there.
   void Forward(headless::Control& control, std::function<void(headless::Control&)> action);
+  /// Puts the action there in any case.
+  void Tell(headless::Control& control, std::function<void(headless::Control&)> action);
   /// The key comes first to the form, if that wants it.
   void PreviewKey(headless::Control& control, const QKeyEvent& event);
   /// The form's window has become the active one, or should be: the focus is brought to where the model has
