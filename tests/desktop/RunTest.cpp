@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 
 #include <QAction>
+#include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>

@@ -1,25 +1,28 @@
 #include "host/app/run/ScreenOperator.h"
 
+#include <chrono>
 #include <utility>
 
 #include "host/run/GuideToolbar.h"
-#include "platform/IForm.h"
 
 namespace bench {
 
-ScreenOperator::ScreenOperator(std::shared_ptr<orvik::platform::IApplication> application, StopRequest& stop)
-    : application_(std::move(application)),
-      stop_(stop),
-      shown_(application_->FormShown().Subscribe(
-          [this](const std::shared_ptr<orvik::platform::IForm>&) { Shown(); })),
-      stopAsked_(stop.Happened().Subscribe([this] { LeaveGuide(*application_); })) {}
+namespace {
 
-void ScreenOperator::Shown() {
-  if (!stop_.Asked()) return;
-  // The window is shown first, and operated once it waits for the operator.
-  application_->Post([this, alive = std::weak_ptr<int>(alive_)] {
-    if (!alive.expired()) LeaveGuide(*application_);
-  });
+constexpr std::chrono::milliseconds kNextLook{100};
+
+}  // namespace
+
+ScreenOperator::ScreenOperator(std::shared_ptr<headless::Application> application, StopRequest& stop)
+    : application_(std::move(application)), stopAsked_(stop.Happened().Subscribe([this] { Leave(); })) {}
+
+ScreenOperator::~ScreenOperator() { application_->Forget(again_); }
+
+void ScreenOperator::Leave() {
+  // The guide can be left once its test has ended, and a prompt may come in between. The next look is due
+  // whatever happens in this one.
+  again_ = application_->CallAt(application_->Now() + kNextLook, [this] { Leave(); });
+  LeaveGuide(*application_);
 }
 
 }  // namespace bench

@@ -4,8 +4,7 @@
 
 #include "host/run/IOperator.h"
 #include "host/run/StopRequest.h"
-#include "platform/Event.h"
-#include "platform/IApplication.h"
+#include "host/toolkit/headless/Application.h"
 
 namespace bench {
 
@@ -13,16 +12,15 @@ namespace bench {
 /// is asked for.
 class ScreenOperator final : public IOperator {
  public:
-  ScreenOperator(std::shared_ptr<orvik::platform::IApplication> application, StopRequest& stop);
+  ScreenOperator(std::shared_ptr<headless::Application> application, StopRequest& stop);
+  ~ScreenOperator() override;
 
  private:
-  void Shown();
+  void Leave();
 
-  const std::shared_ptr<orvik::platform::IApplication> application_;
-  StopRequest& stop_;
-  orvik::platform::Subscription shown_;
+  const std::shared_ptr<headless::Application> application_;
+  ILoop::Id again_ = 0;
   orvik::platform::Subscription stopAsked_;
-  std::shared_ptr<int> alive_ = std::make_shared<int>();
 };
 
 }  // namespace bench
