@@ -1,6 +1,7 @@
 #include "host/desktop/AddTestsDialog.h"
 
 #include <QDialogButtonBox>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -17,6 +18,7 @@ namespace {
 
 enum CatalogueColumn { kTestNumber, kTestName, kTestUnit };
 constexpr QSize kCatalogueSize(640, 560);
+constexpr int kFirstDepth = 1;  ///< of the groups that are shown open
 
 bool StandsBelowChosen(const QTreeWidgetItem& row) {
   for (const auto* above = row.parent(); above; above = above->parent())
@@ -52,7 +54,9 @@ AddTestsDialog::AddTestsDialog(const std::vector<CatalogueEntry>& entries, QWidg
     rows_.push_back(row);
   }
   tests_->setColumnWidth(kTestNumber, fontMetrics().horizontalAdvance("000000") + 16);
-  tests_->setColumnWidth(kTestName, kCatalogueSize.width() - 180);
+  tests_->header()->setSectionResizeMode(kTestName, QHeaderView::Stretch);
+  tests_->header()->setStretchLastSection(false);
+  tests_->expandToDepth(kFirstDepth);
 
   auto* buttons = new QDialogButtonBox(this);
   add_ = buttons->addButton(Shown(Tr("Add")), QDialogButtonBox::AcceptRole);
@@ -95,7 +99,7 @@ void AddTestsDialog::Filter(const QString& wanted) {
       shown = matches(*above);
     for (int i = 0; i < (*row)->childCount() && !shown; ++i) shown = !(*row)->child(i)->isHidden();
     (*row)->setHidden(!shown);
-    (*row)->setExpanded(!wanted.isEmpty());
+    if (!wanted.isEmpty()) (*row)->setExpanded(true);
     if (!shown) (*row)->setSelected(false);
   }
 }

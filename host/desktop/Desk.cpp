@@ -33,9 +33,9 @@ std::vector<std::string> OptionsInWords(int options) {
   for (int lead = 0; lead < kLeads; ++lead)
     if (options & (kFirstLead << lead)) leads.push_back(std::to_string(lead + 1));
   if (options & kAllLeads)
-    words.push_back(Tr("All leads are measured together."));
+    words.push_back(Tr("Leads: all."));
   else if (!leads.empty())
-    words.push_back(Tr("Leads measured: %%1.", {Joined(leads, ", ")}));
+    words.push_back(Tr("Leads: %%1.", {Joined(leads, ", ")}));
   return words;
 }
 

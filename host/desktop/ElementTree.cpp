@@ -75,9 +75,13 @@ ElementTree::ElementTree(QWidget* parent) : QTreeWidget(parent) {
 }
 
 void ElementTree::Show(const DocumentSummary& document, std::int32_t running) {
-  if (!ShowsTheSame(document)) Build(document);
+  const bool same = ShowsTheSame(document);
+  if (!same) Build(document);
   for (std::size_t i = 0; i < rows_.size(); ++i)
     Fill(*rows_[i], document.elements[i], document.elements[i].id == running);
+  if (same) return;
+  for (const auto column : {kName, kResult})
+    setColumnWidth(column, std::clamp(sizeHintForColumn(column) + kColumnRoom, columnWidth(column), kWidest));
 }
 
 std::optional<std::int32_t> ElementTree::Chosen() const {
@@ -120,8 +124,6 @@ void ElementTree::Build(const DocumentSummary& document) {
     rows_.push_back(row);
   }
   expandAll();
-  for (const auto column : {kName, kResult})
-    setColumnWidth(column, std::clamp(sizeHintForColumn(column) + kColumnRoom, columnWidth(column), kWidest));
   if (chosen) Choose(*chosen);
 }
 

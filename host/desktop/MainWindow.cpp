@@ -91,23 +91,23 @@ QAction* MainWindow::NewAction(const char* name, const std::string& text, const 
 
 void MainWindow::MakeActions() {
   const auto icon = [this](QStyle::StandardPixmap picture) { return style()->standardIcon(picture); };
-  actions_.create = NewAction("new", Tr("&New…"), QKeySequence::New, &MainWindow::New);
+  actions_.create = NewAction("new", Tr("&New..."), QKeySequence::New, &MainWindow::New);
   actions_.create->setIcon(icon(QStyle::SP_FileIcon));
-  actions_.open = NewAction("open", Tr("&Open…"), QKeySequence::Open, &MainWindow::OpenOther);
+  actions_.open = NewAction("open", Tr("&Open..."), QKeySequence::Open, &MainWindow::OpenOther);
   actions_.open->setIcon(icon(QStyle::SP_DialogOpenButton));
   actions_.save = NewAction("save", Tr("&Save"), QKeySequence::Save, &MainWindow::Save);
   actions_.save->setIcon(icon(QStyle::SP_DialogSaveButton));
-  actions_.report = NewAction("report", Tr("Re&port…"), QKeySequence::Print, &MainWindow::Report);
+  actions_.report = NewAction("report", Tr("Re&port..."), QKeySequence::Print, &MainWindow::Report);
   actions_.archive = NewAction("archive", Tr("Add to &archive"), {}, &MainWindow::AddToArchive);
   actions_.quit = new QAction(Shown(Tr("&Quit")), this);
   actions_.quit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
   connect(actions_.quit, &QAction::triggered, this, &QWidget::close);
-  actions_.add = NewAction("addTests", Tr("&Add tests…"), Qt::Key_Insert, &MainWindow::AddTests);
+  actions_.add = NewAction("addTests", Tr("&Add tests..."), Qt::Key_Insert, &MainWindow::AddTests);
   actions_.remove = NewAction("remove", Tr("&Remove"), Qt::CTRL | Qt::Key_Delete, &MainWindow::Remove);
   actions_.limits =
-      NewAction("limits", Tr("&Limits from set…"), Qt::CTRL | Qt::Key_L, &MainWindow::SetLimits);
-  actions_.setUp = NewAction("setUp", Tr("Set &up…"), Qt::CTRL | Qt::Key_U, &MainWindow::SetUp);
-  actions_.calibrate = NewAction("calibrate", Tr("&Calibrate leads…"), {}, &MainWindow::Calibrate);
+      NewAction("limits", Tr("&Limits from set..."), Qt::CTRL | Qt::Key_L, &MainWindow::SetLimits);
+  actions_.setUp = NewAction("setUp", Tr("Set &up..."), Qt::CTRL | Qt::Key_U, &MainWindow::SetUp);
+  actions_.calibrate = NewAction("calibrate", Tr("&Calibrate leads..."), {}, &MainWindow::Calibrate);
   actions_.run = NewAction("run", Tr("&Run"), Qt::Key_F5, &MainWindow::RunAll);
   actions_.run->setIcon(icon(QStyle::SP_MediaPlay));
   actions_.resume = NewAction("resume", Tr("R&esume"), Qt::Key_F6, &MainWindow::Resume);
