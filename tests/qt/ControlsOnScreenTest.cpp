@@ -2,7 +2,9 @@
 #include <gtest/gtest.h>
 
 #include <QAction>
+#include <QApplication>
 #include <QComboBox>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -69,6 +71,37 @@ TEST_F(ControlsOnScreen, TypedTextReachesTheWindowAndWhatAHandlerMakesOfItIsShow
   person::Type(line, "c");
   Pump();
   EXPECT_EQ(box->Text(), "ABc");
+}
+
+TEST_F(ControlsOnScreen, WhatIsOnItsWayIsNotTakenBack) {
+  auto box = NewForm("F").AddTextBox("txtName");
+  Column("F", {"txtName"});
+  auto& line = WidgetOf<QLineEdit>(*box);
+  QKeyEvent press(QEvent::KeyPress, Qt::Key_A, {}, "a");
+  QApplication::sendEvent(&line, &press);
+  box->SetToolTip("changes before the text arrives");
+  EXPECT_FALSE(onScreen->Update());
+  EXPECT_EQ(line.text(), "a");
+  Pump();
+  EXPECT_EQ(box->Text(), "a");
+  EXPECT_EQ(line.text(), "a");
+}
+
+TEST_F(ControlsOnScreen, WhatTheWindowDidNotTakeIsTakenBack) {
+  auto& form = NewForm("F");
+  auto box = form.AddComboBox("cbo");
+  auto tree = form.AddTreeView("tvw");
+  tree->AddNode("a", "First");
+  On(box->LostFocus(), [] { throw orvik::HostError(5, "test", "no such serial number"); });
+  Column("F", {"cbo", "tvw"});
+  ASSERT_TRUE(box->HasFocus());
+  onScreen->SetErrorHandler([](const std::string&) {});
+  auto& widget = WidgetOf<QTreeWidget>(*tree);
+  // The mark alone, without the focus coming here first.
+  widget.topLevelItem(0)->setCheckState(0, Qt::Checked);
+  Pump();
+  EXPECT_FALSE(tree->Checked("a"));
+  EXPECT_EQ(widget.topLevelItem(0)->checkState(0), Qt::Unchecked);
 }
 
 TEST_F(ControlsOnScreen, ALockedTextTakesNoTyping) {

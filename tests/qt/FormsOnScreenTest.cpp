@@ -90,15 +90,19 @@ TEST_F(FormsOnScreen, ControlsAddedLaterAppear) {
 TEST_F(FormsOnScreen, AModalWindowKeepsTheOthersFromThePerson) {
   auto first = Window("First");
   const auto clicks = Count(ButtonOf(*first)->Clicked());
-  auto second = app->CreateForm("Second");
-  second->AddLabel("lbl")->SetCaption("modal");
+  auto second = Window("Second");
+  second->Hide();
   bool looked = false;
   app->Post([&] {
     Pump();
+    auto& blocked = WidgetOf<QPushButton>(*ButtonOf(*first));
+    bool reached = false;
+    QObject::connect(&blocked, &QPushButton::pressed, &blocked, [&] { reached = true; });
     EXPECT_NE(WidgetOf(*second).windowModality(), Qt::NonModal);
-    person::Click(WidgetOf(*ButtonOf(*first)));
+    person::Click(blocked);
     Pump();
     EXPECT_EQ(*clicks, 0);
+    EXPECT_FALSE(reached) << "the window system should help";
     EXPECT_FALSE(first->Active());
     looked = true;
     WidgetOf(*second).windowHandle()->close();
@@ -113,8 +117,8 @@ TEST_F(FormsOnScreen, AModalWindowKeepsTheOthersFromThePerson) {
 }
 
 TEST_F(FormsOnScreen, AWindowShownOverAModalOneCanBeUsed) {
-  auto modal = app->CreateForm("Modal");
-  modal->AddLabel("lbl")->SetCaption("modal");
+  auto modal = Window("Modal");
+  modal->Hide();
   bool clicked = false;
   app->Post([&] {
     auto prompt = Window("Prompt");
@@ -200,6 +204,22 @@ TEST_F(FormsOnScreen, TheFocusIsWhereTheWindowsHaveIt) {
   accept->SetFocus();
   Pump();
   EXPECT_EQ(QApplication::focusWidget(), &WidgetOf(*accept));
+}
+
+TEST_F(FormsOnScreen, AFocusThatTheWindowSystemChoosesMovesNothing) {
+  auto& form = NewForm("First");
+  auto accept = form.AddButton("cmdAccept");
+  auto decline = form.AddButton("cmdDecline");
+  form.Load();
+  decline->SetFocus();
+  auto shown = Column("First", {"cmdAccept", "cmdDecline"});
+  WidgetOf(*accept).setFocus(Qt::ActiveWindowFocusReason);
+  Pump();
+  EXPECT_TRUE(decline->HasFocus());
+  EXPECT_EQ(QApplication::focusWidget(), &WidgetOf(*decline));
+  WidgetOf(*accept).setFocus(Qt::MouseFocusReason);
+  Pump();
+  EXPECT_TRUE(accept->HasFocus());
 }
 
 TEST_F(FormsOnScreen, TabGoesThroughTheControlsInTheirOrder) {

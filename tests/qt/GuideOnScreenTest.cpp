@@ -60,7 +60,10 @@ class GuideOnScreen : public GuideTest {
   std::string ResultCell(int row, int column) {
     return Results().model()->index(row, column).data().toString().toStdString();
   }
-  void ExpectMirrored() { EXPECT_EQ(support::Differences(screen_, App()), std::vector<std::string>{}); }
+  void ExpectMirrored() {
+    const auto finder = [this](const auto& control) { return screen_.WidgetOf(control); };
+    EXPECT_EQ(support::Differences(finder, App()), std::vector<std::string>{});
+  }
 
   bench::qt::Screen screen_{bench_.Only().SharedApplication()};
   /// The button that is pressed in every other window.

@@ -27,7 +27,6 @@
 #include "host/toolkit/headless/Timer.h"
 #include "host/toolkit/headless/Toolbar.h"
 #include "host/toolkit/headless/TreeView.h"
-#include "host/toolkit/qt/Screen.h"
 #include "host/toolkit/qt/Texts.h"
 
 namespace support {
@@ -47,13 +46,13 @@ std::string Text(int value) { return std::to_string(value); }
 /// Holds the widgets of one application against its windows.
 class Mirror {
  public:
-  Mirror(const bench::qt::Screen& screen, const headless::Application& application)
-      : screen_(screen), application_(application) {}
+  Mirror(const WidgetFinder& widgetOf, const headless::Application& application)
+      : widgetOf_(widgetOf), application_(application) {}
 
   std::vector<std::string> Look() {
     for (const auto& form : application_.Forms()) {
       const auto window = std::dynamic_pointer_cast<headless::Form>(form);
-      QWidget* widget = screen_.WidgetOf(*window);
+      QWidget* widget = widgetOf_(*window);
       if (window->Visible() && !widget) differences_.push_back("form " + window->Name() + " is not shown");
       if (widget) LookAtForm(*window, *widget);
     }
@@ -79,7 +78,7 @@ class Mirror {
 
   void LookInside(const headless::Control& outer) {
     for (const auto& control : application_.WindowsInside(outer)) {
-      QWidget* widget = screen_.WidgetOf(*control);
+      QWidget* widget = widgetOf_(*control);
       where_ = outer.Name() + "." + control->Name();
       if (std::dynamic_pointer_cast<headless::Timer>(control)) continue;
       if (!widget) {
@@ -87,7 +86,7 @@ class Mirror {
         continue;
       }
       LookAt(*control, *widget);
-      Compare("inside", true, widget->parentWidget() == screen_.WidgetOf(outer));
+      Compare("inside", true, widget->parentWidget() == widgetOf_(outer));
       LookInside(*control);
     }
   }
@@ -221,7 +220,7 @@ class Mirror {
     }
   }
 
-  const bench::qt::Screen& screen_;
+  const WidgetFinder& widgetOf_;
   const headless::Application& application_;
   std::string where_;
   std::vector<std::string> differences_;
@@ -229,9 +228,8 @@ class Mirror {
 
 }  // namespace
 
-std::vector<std::string> Differences(const bench::qt::Screen& screen,
-                                     const headless::Application& application) {
-  return Mirror(screen, application).Look();
+std::vector<std::string> Differences(const WidgetFinder& widgetOf, const headless::Application& application) {
+  return Mirror(widgetOf, application).Look();
 }
 
 }  // namespace support

@@ -1,20 +1,26 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
+
+class QWidget;
 
 namespace bench::headless {
 class Application;
 }
-namespace bench::qt {
-class Screen;
+namespace orvik::platform {
+class IControl;
 }
 
 namespace support {
 
+/// Finds the widget of a control; null when it is not on the screen.
+using WidgetFinder = std::function<QWidget*(const orvik::platform::IControl&)>;
+
 /// Where the widgets on the screen do not show what their windows hold: one line each, empty when they are
 /// the same. Looks at every loaded form, its controls, and theirs.
-std::vector<std::string> Differences(const bench::qt::Screen& screen,
+std::vector<std::string> Differences(const WidgetFinder& widgetOf,
                                      const bench::headless::Application& application);
 
 }  // namespace support

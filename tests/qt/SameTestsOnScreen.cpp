@@ -1,35 +1,56 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <chrono>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "host/toolkit/headless/Application.h"
-#include "host/toolkit/qt/Screen.h"
+#include "host/toolkit/headless/IScreen.h"
+#include "host/toolkit/qt/Presenter.h"
+#include "host/toolkit/qt/Stage.h"
 #include "tests/qt/Mirror.h"
 #include "tests/support/OnScreen.h"
 
-// The main program of tests that also run without a screen: here every application has one, and at every turn
-// of the message pump, and at the end of each test, the widgets must show what the windows hold.
+// The main program of tests that also run without a screen: here every application has one. What changes is
+// shown at once, so that a change which nobody notes is seen; at every turn of the message pump, and at the
+// end of each test, the widgets must show what the windows hold.
 namespace support {
 namespace {
 
-class Watched {
+class WatchedScreen final : public bench::headless::IScreen {
  public:
-  explicit Watched(const std::shared_ptr<bench::headless::Application>& application)
+  explicit WatchedScreen(const std::shared_ptr<bench::headless::Application>& application)
       // The tests know the sizes that windows have without a screen.
-      : screen_(application, bench::qt::Measure::kPlain),
+      : stage_(application, bench::qt::Measure::kPlain),
         application_(application),
-        pumped_(application->Pumped().Subscribe([this] { Look(); })) {}
-  ~Watched() { Look(); }
+        pumped_(application->Pumped().Subscribe([this] { Look(); })) {
+    application_->SetScreen(this);
+  }
+  ~WatchedScreen() override { Look(); }
+
+  void Changed(bench::headless::Control& control) override {
+    stage_.Changed(control);
+    stage_.Update();
+  }
+  void Gone(const bench::headless::Control& control) override { stage_.Gone(control); }
+  const bench::headless::IMetrics& Metrics() const override { return stage_.Metrics(); }
+  void Watch(const std::vector<int>& descriptors) override { stage_.Watch(descriptors); }
+  void WorkAdded() override { stage_.WorkAdded(); }
+  void Sleep(std::chrono::nanoseconds longest) override { stage_.Sleep(longest); }
 
  private:
   void Look() {
-    if (!screen_.Update()) return;
-    for (const std::string& difference : Differences(screen_, *application_)) ADD_FAILURE() << difference;
+    if (!stage_.Update()) return;
+    const auto finder = [this](const orvik::platform::IControl& control) {
+      const auto* presenter = stage_.Find(control.Handle());
+      return presenter ? presenter->Widget() : nullptr;
+    };
+    for (const std::string& difference : Differences(finder, *application_)) ADD_FAILURE() << difference;
   }
 
-  bench::qt::Screen screen_;
+  bench::qt::Stage stage_;
   std::shared_ptr<bench::headless::Application> application_;
   orvik::platform::Subscription pumped_;
 };
@@ -41,6 +62,8 @@ int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
   qputenv("QT_QPA_PLATFORM", "offscreen");
   const QApplication application(argc, argv);
-  support::TheScreenMaker() = [](const auto& shown) { return std::make_shared<support::Watched>(shown); };
+  support::TheScreenMaker() = [](const auto& shown) {
+    return std::make_shared<support::WatchedScreen>(shown);
+  };
   return RUN_ALL_TESTS();
 }

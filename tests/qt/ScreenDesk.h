@@ -34,7 +34,8 @@ class ScreenDesk : public Desk {
     return widget && widget->isVisible();
   }
   void ExpectMirrored() const {
-    EXPECT_EQ(support::Differences(*onScreen, *app), std::vector<std::string>{});
+    const auto finder = [this](const auto& control) { return onScreen->WidgetOf(control); };
+    EXPECT_EQ(support::Differences(finder, *app), std::vector<std::string>{});
   }
 
   /// A form on which controls stand below each other.

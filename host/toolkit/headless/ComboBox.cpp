@@ -62,10 +62,9 @@ platform::Size ComboBox::NaturalSize() const {
 void ComboBox::Select(int index, const std::string& text) {
   const auto self = shared_from_this();
   text_ = text;
+  const bool another = std::exchange(selected_, index) != index;
   NoteChange();
-  if (index == selected_) return;
-  selected_ = index;
-  selectedEvent_.Raise();
+  if (another) selectedEvent_.Raise();
 }
 
 }  // namespace bench::headless

@@ -66,9 +66,9 @@ bool Presenter::Filter(QObject& watched, QEvent& event) {
 
 void Presenter::FocusCame(const QEvent& event) {
   const auto reason = static_cast<const QFocusEvent&>(event).reason();
-  // A window that becomes active gives its focus back, and closed menus do: the model has had it all along.
-  if (!control_.TakesFocus() || reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason)
-    return;
+  // Not a person's choice: a window that becomes active puts its focus somewhere. The model knows where.
+  if (reason == Qt::ActiveWindowFocusReason) return stage_.BringFocusAgain();
+  if (!control_.TakesFocus() || reason == Qt::PopupFocusReason) return;
   ForwardToControl([](headless::Control& control) {
     if (const auto form = control.TopForm()) form->Activate();
     control.SetFocus();
