@@ -61,7 +61,7 @@ class QtProgram {
     std::setlocale(LC_NUMERIC, "C");
     QApplication::setApplicationName("orvik-bench");
     QApplication::setQuitOnLastWindowClosed(false);
-    if (translator_.load("qtbase_" + Shown(language.empty() ? "en" : language),
+    if (translator_.load(QLocale(Shown(language.empty() ? "en" : language)), "qtbase", "_",
                          QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
       QApplication::installTranslator(&translator_);
   }

@@ -17,7 +17,7 @@ namespace {
 
 enum Column { kNumber, kName, kResult, kValue, kRemark, kColumns };
 constexpr int kIdentifier = Qt::UserRole;
-constexpr int kColumnRoom = 12, kWidest = 420;  ///< of a column, in pixels
+constexpr int kColumnRoom = 12, kWidest = 400;  ///< of a column, in pixels
 constexpr int kParent = Qt::UserRole + 1;
 
 QString VisibleInTree(const std::string& text) { return Shown(report::VisibleText(text)); }
@@ -70,7 +70,7 @@ ElementTree::ElementTree(QWidget* parent) : QTreeWidget(parent) {
   const auto width = [this](const QString& text) { return fontMetrics().horizontalAdvance(text); };
   setColumnWidth(kNumber, width("00000"));
   setColumnWidth(kName, width("Protective earth, with mains cord, lead 1") + 40);
-  setColumnWidth(kResult, width(Shown(Tr("not applicable"))) + 60);
+  setColumnWidth(kResult, width(Shown(Tr("not applicable"))) + 36);
   setColumnWidth(kValue, width("00000.0 mOhm") + 16);
 }
 
