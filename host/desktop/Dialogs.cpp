@@ -17,7 +17,7 @@ namespace bench::desktop {
 
 namespace {
 
-constexpr QSize kMessageSize(720, 420);
+constexpr QSize kMessageSize(900, 460);
 constexpr char kProgramName[] = "orvik-bench";
 
 /// A message with a list below it.
