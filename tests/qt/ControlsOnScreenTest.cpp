@@ -324,6 +324,23 @@ TEST_F(ToolbarOnScreen, AnEntryIsChosenFromTheOpenMenuWhileTimersGoOn) {
   EXPECT_EQ(chosen, std::vector<int>{900});
 }
 
+TEST_F(ToolbarOnScreen, AnEntryThatIsChosenWhenItsFormIsGoneDoesNothing) {
+  QPointer<QMenu> menu = Button(501).menu();
+  QTimer::singleShot(0, menu, [&] {
+    app->Post([&] {
+      Newest()->Unload();
+      ReleaseForms();
+      toolbar.reset();
+      onScreen->Update();
+      if (menu) menu->actions().first()->trigger();
+    });
+  });
+  person::Click(Button(501));
+  Pump();
+  EXPECT_EQ(chosen, std::vector<int>{});
+  EXPECT_TRUE(menu.isNull());
+}
+
 TEST_F(ToolbarOnScreen, CaptionsFitTheirButtons) {
   for (const char* caption : {"Play", "Nicht anwendbar und noch viel länger"}) {
     toolbar->AddButton(static_cast<int>(std::string(caption).size()), caption);

@@ -61,6 +61,7 @@ class ScreenDesk : public Desk {
 
   /// The form that was made last.
   std::shared_ptr<platform::IForm> Newest() const { return forms_.back(); }
+  void ReleaseForms() { forms_.clear(); }
 
   std::shared_ptr<qt::Screen> onScreen = std::make_shared<qt::Screen>(app);
 

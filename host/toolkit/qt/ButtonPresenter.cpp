@@ -9,8 +9,8 @@ namespace bench::qt {
 
 ButtonPresenter::ButtonPresenter(Stage& stage, headless::Control& control)
     : PresenterFor(stage, control, new QPushButton) {
-  QObject::connect(&GetShown(), &QPushButton::clicked, &GetShown(),
-                   [this] { Forward([](headless::Button& button) { button.Click(); }); });
+  When(&GetShown(), &QPushButton::clicked,
+       [this] { Forward([](headless::Button& button) { button.Click(); }); });
 }
 
 void ButtonPresenter::SyncOwn() { GetShown().setText(WithAccessKey(GetModel().Caption())); }

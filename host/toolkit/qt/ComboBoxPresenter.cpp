@@ -9,8 +9,8 @@ namespace bench::qt {
 ComboBoxPresenter::ComboBoxPresenter(Stage& stage, headless::Control& control)
     : PresenterFor(stage, control, new QComboBox) {
   GetShown().setInsertPolicy(QComboBox::NoInsert);
-  QObject::connect(&GetShown(), &QComboBox::activated, &GetShown(),
-                   [this](int index) { Forward([index](headless::ComboBox& box) { box.Choose(index); }); });
+  When(&GetShown(), &QComboBox::activated,
+       [this](int index) { Forward([index](headless::ComboBox& box) { box.Choose(index); }); });
 }
 
 void ComboBoxPresenter::SyncOwn() {
@@ -29,7 +29,7 @@ void ComboBoxPresenter::SyncEditable() {
   if (!shown.lineEdit()) return;
   // What is typed is taken as it is.
   shown.setCompleter(nullptr);
-  QObject::connect(shown.lineEdit(), &QLineEdit::textEdited, &shown, [this](const QString& text) {
+  When(shown.lineEdit(), &QLineEdit::textEdited, [this](const QString& text) {
     Forward([typed = FromQt(text)](headless::ComboBox& box) { box.TypeOver(typed); });
   });
 }

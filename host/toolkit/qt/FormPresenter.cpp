@@ -4,6 +4,7 @@
 #include <QScreen>
 #include <QWindow>
 #include <algorithm>
+#include <memory>
 #include <utility>
 
 #include "host/toolkit/headless/Application.h"
@@ -17,18 +18,21 @@ namespace {
 /// The inside of a window that has the size its layout asks for, for whoever embeds it.
 class FormWidget final : public QWidget {
  public:
-  FormWidget(QWidget* parent, const headless::Form& form, const Units& units)
-      : QWidget(parent), form_(form), units_(units) {}
-  QSize sizeHint() const override { return units_.Pixels(form_.NaturalSize()); }
+  FormWidget(QWidget* parent, std::weak_ptr<headless::Control> form, const Units& units)
+      : QWidget(parent), form_(std::move(form)), units_(units) {}
+  QSize sizeHint() const override {
+    const auto form = form_.lock();
+    return form ? units_.Pixels(form->NaturalSize()) : QSize();
+  }
 
  private:
-  const headless::Form& form_;
-  const Units& units_;
+  const std::weak_ptr<headless::Control> form_;
+  const Units units_;
 };
 
-QWidget* NewFormWidget(Stage& stage, const headless::Control& control) {
+QWidget* NewFormWidget(Stage& stage, headless::Control& control) {
   const auto& form = dynamic_cast<const headless::Form&>(control);
-  return new FormWidget(stage.EmbeddedIn(form), form, stage.GetUnits());
+  return new FormWidget(stage.EmbeddedIn(form), control.weak_from_this(), stage.GetUnits());
 }
 
 /// Above its owner, and not blocked by it.

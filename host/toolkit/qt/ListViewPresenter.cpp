@@ -36,8 +36,8 @@ ListViewPresenter::ListViewPresenter(Stage& stage, headless::Control& control)
   shown.setEditTriggers(QAbstractItemView::NoEditTriggers);
   shown.header()->setSectionsMovable(false);
   WatchEvents(*shown.viewport());
-  QObject::connect(shown.selectionModel(), &QItemSelectionModel::currentRowChanged, &shown,
-                   [this](const QModelIndex& current) { Selected(current.row()); });
+  When(shown.selectionModel(), &QItemSelectionModel::currentRowChanged,
+       [this](const QModelIndex& current) { Selected(current.row()); });
 }
 
 ListViewPresenter::~ListViewPresenter() {

@@ -3,6 +3,7 @@
 #include <QPointer>
 #include <QWidget>
 #include <functional>
+#include <utility>
 
 #include "host/toolkit/headless/Control.h"
 
@@ -50,6 +51,11 @@ class Presenter {
   Stage& GetStage() const { return stage_; }
   /// Has the stage send the object's events here.
   void WatchEvents(QObject& object);
+  /// Has the handler called at the signal, for as long as the presenter lives: the widget may live longer.
+  template <class Sender, class Signal, class Handler>
+  void When(Sender* sender, Signal signal, Handler handler) {
+    QObject::connect(sender, signal, &listener_, std::move(handler));
+  }
   /// Puts the action into the message queue, unless it is the screen itself that changes the widget.
   void ForwardToControl(std::function<void(headless::Control&)> action);
 
@@ -60,6 +66,7 @@ class Presenter {
   Stage& stage_;
   headless::Control& control_;
   QPointer<QWidget> widget_;
+  QObject listener_;
 };
 
 /// A presenter that knows the class of its control and of its widget.

@@ -150,11 +150,15 @@ void Stage::Drop(headless::Control& control) {
 void Stage::Bury(WindowHandle handle) {
   const auto found = presenters_.find(handle);
   if (found == presenters_.end()) return;
-  const auto presenter = std::move(found->second);
+  QWidget* widget = found->second->Widget();
+  // The control may be half gone: nobody may ask it anything while its widget goes.
   presenters_.erase(found);
-  QWidget* widget = presenter->Widget();
   if (!widget) return;
   const bool updating = std::exchange(updating_, true);
+  // Menus and lists that are open go too.
+  for (QWidget* inner : widget->findChildren<QWidget*>()) {
+    if (inner->isWindow()) inner->close();
+  }
   widget->hide();
   widget->setParent(nullptr);
   buried_.emplace_back(widget);

@@ -11,7 +11,7 @@ namespace bench::qt {
 TabsPresenter::TabsPresenter(Stage& stage, headless::Control& control)
     : PresenterFor(stage, control, new QWidget), bar_(*new QTabBar(&GetShown())) {
   bar_.setExpanding(false);
-  QObject::connect(&bar_, &QTabBar::currentChanged, &bar_, [this](int place) {
+  When(&bar_, &QTabBar::currentChanged, [this](int place) {
     const auto keys = GetModel().Keys();
     if (place < 0 || place >= static_cast<int>(keys.size())) return;
     Forward([key = keys[static_cast<std::size_t>(place)]](headless::Tabs& tabs) { tabs.Choose(key); });

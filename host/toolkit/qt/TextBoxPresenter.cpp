@@ -23,9 +23,9 @@ TextBoxPresenter::TextBoxPresenter(Stage& stage, headless::Control& control)
       line_(qobject_cast<QLineEdit*>(Widget())),
       lines_(qobject_cast<QPlainTextEdit*>(Widget())) {
   if (line_)
-    QObject::connect(line_, &QLineEdit::textEdited, line_, [this](const QString& text) { Typed(text); });
+    When(line_, &QLineEdit::textEdited, [this](const QString& text) { Typed(text); });
   else
-    QObject::connect(lines_, &QPlainTextEdit::textChanged, lines_, [this] { Typed(lines_->toPlainText()); });
+    When(lines_, &QPlainTextEdit::textChanged, [this] { Typed(lines_->toPlainText()); });
 }
 
 bool TextBoxPresenter::Fits() const { return GetModel().MultiLine() == (lines_ != nullptr); }

@@ -17,8 +17,10 @@ ToolbarPresenter::ToolbarPresenter(Stage& stage, headless::Control& control)
 }
 
 void ToolbarPresenter::SyncOwn() {
-  const auto commands = GetModel().Commands();
-  if (commands != commands_) Build(commands);
+  // Commands are added and never taken away.
+  const std::size_t known = commands_.size();
+  commands_ = GetModel().Commands();
+  AddFrom(known);
   const headless::Toolbar& model = GetModel();
   for (const auto& [command, button] : buttons_) {
     button->setText(WithAccessKey(model.CommandCaption(command)));
@@ -34,17 +36,13 @@ void ToolbarPresenter::SyncOwn() {
   }
 }
 
-void ToolbarPresenter::Build(const std::vector<int>& commands) {
-  for (const auto& entry : buttons_) delete entry.second;
-  buttons_.clear();
-  entries_.clear();
-  commands_ = commands;
-  for (const int command : commands) {
-    const int parent = GetModel().CommandParent(command);
+void ToolbarPresenter::AddFrom(std::size_t first) {
+  for (std::size_t place = first; place < commands_.size(); ++place) {
+    const int parent = GetModel().CommandParent(commands_[place]);
     if (parent == 0)
-      AddButton(command);
+      AddButton(commands_[place]);
     else
-      AddEntry(parent, command);
+      AddEntry(parent, commands_[place]);
   }
 }
 
@@ -55,7 +53,7 @@ void ToolbarPresenter::AddButton(int command) {
   button->setAutoRaise(true);
   button->setFocusPolicy(Qt::TabFocus);
   button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
-  QObject::connect(button, &QToolButton::clicked, button, [this, command] { Chosen(command); });
+  When(button, &QToolButton::clicked, [this, command] { Chosen(command); });
   GetShown().layout()->addWidget(button);
   buttons_[command] = button;
 }
@@ -68,7 +66,7 @@ void ToolbarPresenter::AddEntry(int parent, int command) {
   }
   QAction* entry = button->menu()->addAction(QString());
   entry->setObjectName(NameOf(command));
-  QObject::connect(entry, &QAction::triggered, button, [this, command] { Chosen(command); });
+  When(entry, &QAction::triggered, [this, command] { Chosen(command); });
   entries_[command] = entry;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QWidget>
+#include <cstddef>
 #include <map>
 #include <vector>
 
@@ -21,7 +22,7 @@ class ToolbarPresenter final : public PresenterFor<headless::Toolbar, QWidget> {
   void SyncOwn() override;
 
  private:
-  void Build(const std::vector<int>& commands);
+  void AddFrom(std::size_t first);
   void AddButton(int command);
   void AddEntry(int parent, int command);
   QString NameOf(int command) const;

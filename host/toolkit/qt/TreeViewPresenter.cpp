@@ -19,7 +19,7 @@ TreeViewPresenter::TreeViewPresenter(Stage& stage, headless::Control& control)
   GetShown().setRootIsDecorated(false);
   GetShown().setUniformRowHeights(true);
   // A person changes nothing but check marks.
-  QObject::connect(&GetShown(), &QTreeWidget::itemChanged, &GetShown(), [this](QTreeWidgetItem* item) {
+  When(&GetShown(), &QTreeWidget::itemChanged, [this](QTreeWidgetItem* item) {
     Forward([key = FromQt(item->data(0, kKeyRole).toString())](headless::TreeView& tree) {
       tree.ClickNode(key);
     });
