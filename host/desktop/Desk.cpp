@@ -4,6 +4,7 @@
 #include <cstdlib>
 
 #include "OrvikTypeLib/As.h"
+#include "OrvikTypeLib/HostError.h"
 #include "OrvikTypeLib/IConfigData.h"
 #include "OrvikTypeLib/ITestContainer.h"
 #include "host/app/InputError.h"
@@ -65,12 +66,21 @@ void Desk::Open(const std::filesystem::path& file) {
 bool Desk::Changed() const {
   if (!document_) return false;
   const auto& saved = document_->SavedText();
-  return document_->Text() != (saved.empty() ? openedText_ : saved);
+  try {
+    return document_->Text() != (saved.empty() ? openedText_ : saved);
+  } catch (const orvik::HostError&) {
+    return true;  // what cannot be saved is not what was; saving tells why
+  }
+}
+
+std::filesystem::path Desk::UnsavedFile() const {
+  auto file = document_->Path();
+  file += ".unsaved";
+  return file;
 }
 
 std::filesystem::path Desk::KeepUnsaved() const {
-  auto file = document_->Path();
-  file += ".unsaved";
+  const auto file = UnsavedFile();
   ReplaceFile(file, document_->Text());
   return file;
 }

@@ -32,7 +32,9 @@ class Desk {
   void Save() { document_->Save(); }
   /// Whether saving would write anything else than what was saved last.
   bool Changed() const;
-  /// Keeps unsaved changes in a file beside the document, which is left as it is; returns its path.
+  /// The file beside the document in which an earlier session may have left unsaved changes.
+  std::filesystem::path UnsavedFile() const;
+  /// Keeps unsaved changes in that file; the document is left as it is. Returns its path.
   std::filesystem::path KeepUnsaved() const;
 
   DocumentSummary Summary() const;

@@ -13,6 +13,7 @@
 #include <QTimer>
 #include <QToolBar>
 #include <iostream>
+#include <utility>
 
 #include "OrvikTypeLib/HostError.h"
 #include "OrvikTypeLib/IConfigData.h"
@@ -63,6 +64,10 @@ MainWindow::~MainWindow() = default;
 void MainWindow::Open(const std::filesystem::path& file) {
   desk_.Open(file);
   equipment_->Show(desk_.TheDocument().equipment);
+  std::error_code none;
+  if (const auto unsaved = desk_.UnsavedFile(); std::filesystem::exists(unsaved, none))
+    Remark(
+        Tr("An earlier session left changes of this document unsaved; they are in %%1.", {unsaved.string()}));
   Refresh();
 }
 
@@ -76,15 +81,16 @@ void MainWindow::EndByRequest() {
 }
 
 void MainWindow::TellLater(const std::string& error) {
-  Later([this, error] { ShowError(this, error); });
+  Later([this, error] { ShowError(this, error); }, When::kAlways);
 }
 
 QAction* MainWindow::NewAction(const char* name, const std::string& text, const QKeySequence& keys,
-                               void (MainWindow::*work)()) {
+                               void (MainWindow::*work)(), When when) {
   auto* action = new QAction(Shown(text), this);
   action->setObjectName(name);
   action->setShortcut(keys);
-  connect(action, &QAction::triggered, this, [this, work] { Later([this, work] { (this->*work)(); }); });
+  connect(action, &QAction::triggered, this,
+          [this, work, when] { Later([this, work] { (this->*work)(); }, when); });
   addAction(action);
   return action;
 }
@@ -112,7 +118,7 @@ void MainWindow::MakeActions() {
   actions_.run->setIcon(icon(QStyle::SP_MediaPlay));
   actions_.resume = NewAction("resume", Tr("R&esume"), Qt::Key_F6, &MainWindow::Resume);
   actions_.runSelected = NewAction("runSelected", Tr("Run se&lected"), Qt::Key_F7, &MainWindow::RunSelected);
-  actions_.stop = NewAction("stop", Tr("S&top"), Qt::Key_F8, &MainWindow::Stop);
+  actions_.stop = NewAction("stop", Tr("S&top"), Qt::Key_F8, &MainWindow::Stop, When::kAlways);
   actions_.stop->setIcon(icon(QStyle::SP_MediaStop));
   actions_.resume->setToolTip(Shown(Tr("Run only what has no result yet (F6)")));
   actions_.stop->setToolTip(
@@ -203,9 +209,13 @@ void MainWindow::MakeBody() {
   });
 }
 
-void MainWindow::Later(std::function<void()> work) {
-  desk_.Bench().Application()->Post([this, work = std::move(work)] {
+void MainWindow::Later(std::function<void()> work, When when) {
+  desk_.Bench().Application()->Post([this, when, work = std::move(work)] {
+    // What is asked for twice, such as by a double click, is done once.
+    if (working_ && when == When::kIdle) return;
+    const bool outer = std::exchange(working_, true);
     Try(work);
+    working_ = outer;
     LeaveIfOver();
   });
 }
@@ -233,6 +243,7 @@ void MainWindow::Try(const std::function<void()>& work) {
 
 void MainWindow::Refresh() {
   const bool open = desk_.HasDocument();
+  if (!open) equipment_->Show({});
   tree_->Show(open ? desk_.Summary() : DocumentSummary{}, progress_ ? progress_->Running() : 0);
   ShowVerdict();
   ShowDetails();
@@ -317,14 +328,16 @@ void MainWindow::EquipmentEdited() {
 
 void MainWindow::closeEvent(QCloseEvent* event) {
   event->ignore();  // the window closes with the program, once nothing is left open
-  Later([this] {
-    if (session_ && !leaveWhenOver_ &&
-        Ask(this, Tr("A run is on. Stop it, close the session with the tester, and quit?"),
-            {Tr("Stop and quit"), Tr("Go on with the run")}) != 0)
-      return;
-    leaveWhenOver_ = true;
-    if (Busy()) Stop();
-  });
+  Later(
+      [this] {
+        if (session_ && !leaveWhenOver_ &&
+            Ask(this, Tr("A run is on. Stop it, close the session with the tester, and quit?"),
+                {Tr("Stop and quit"), Tr("Go on with the run")}) != 0)
+          return;
+        leaveWhenOver_ = true;
+        if (Busy()) Stop();
+      },
+      When::kAlways);
 }
 
 void MainWindow::LeaveIfOver() {

@@ -71,14 +71,17 @@ class MainWindow : public QMainWindow {
     MainWindow& window_;
   };
 
+  /// Whether something may begin while something else goes on.
+  enum class When { kIdle, kAlways };
+
   void MakeActions();
   QAction* NewAction(const char* name, const std::string& text, const QKeySequence& keys,
-                     void (MainWindow::*work)());
+                     void (MainWindow::*work)(), When when = When::kIdle);
   void MakeMenus();
   void MakeToolbars();
   void MakeBody();
 
-  void Later(std::function<void()> work);
+  void Later(std::function<void()> work, When when = When::kIdle);
   void Try(const std::function<void()>& work);
   bool Busy() const { return session_ || calibration_ || dialog_; }
 
@@ -139,7 +142,8 @@ class MainWindow : public QMainWindow {
   RunProgress* progress_ = nullptr;
   CalibrationWindow* calibration_ = nullptr;  ///< while it is shown
   orvik::platform::IForm* dialog_ = nullptr;  ///< the plug-in's for settings, while it is shown
-  bool leaveWhenOver_ = false;                ///< once nothing is open any more
+  bool working_ = false;
+  bool leaveWhenOver_ = false;  ///< once nothing is open any more
   bool byRequest_ = false;
   bool left_ = false;
   bool leftOver_ = false;

@@ -2,6 +2,8 @@
 #include <gmock/gmock.h>
 
 #include <QAction>
+#include <QApplication>
+#include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QTest>
@@ -94,6 +96,8 @@ TEST_F(DocumentWindowTest, ARequestToEndKeepsUnsavedChangesBesideTheDocument) {
   EXPECT_EQ(Contents(file), before);
   EXPECT_THAT(Contents(file + ".unsaved"), HasSubstr("Asset=\"PUMP-7-B\""));
   EXPECT_EQ(Show(file + ".unsaved")["elements"].size(), 1u);
+  window_->Open(file);
+  EXPECT_THAT(window_->findChild<QLabel*>("remark")->text().toStdString(), HasSubstr("pump.orvik.unsaved"));
 }
 
 TEST_F(DocumentWindowTest, ASavedDocumentIsWhatTheCommandLineReads) {
@@ -105,6 +109,20 @@ TEST_F(DocumentWindowTest, ASavedDocumentIsWhatTheCommandLineReads) {
   const auto read = Show(file);
   ASSERT_EQ(read["elements"].size(), 1u);
   EXPECT_EQ(read["elements"][0]["id"], 2);
+}
+
+TEST_F(DocumentWindowTest, ADoubleClickOpensOneDialog) {
+  window_->Open(NewDocument({"410"}));
+  int dialogs = 0;
+  Drive({Press("addTests"), Press("addTests"),
+         In("addTests",
+            [&dialogs](QDialog& dialog) {
+              ++dialogs;
+              dialog.reject();
+              return true;
+            }),
+         Idle(), Await("nothing more", [] { return !QApplication::activeModalWidget(); })});
+  EXPECT_EQ(dialogs, 1);
 }
 
 TEST_F(DocumentWindowTest, WhatTheProgramDoesNotKnowIsKept) {
