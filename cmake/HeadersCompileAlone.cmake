@@ -9,7 +9,7 @@ file(GLOB_RECURSE headers CONFIGURE_DEPENDS RELATIVE ${CMAKE_SOURCE_DIR}
      ${CMAKE_SOURCE_DIR}/OrvikTypeLib/*.h ${CMAKE_SOURCE_DIR}/platform/*.h ${CMAKE_SOURCE_DIR}/plugin/*.h
      ${CMAKE_SOURCE_DIR}/model/*.h ${CMAKE_SOURCE_DIR}/instrument/*.h ${CMAKE_SOURCE_DIR}/results/*.h
      ${CMAKE_SOURCE_DIR}/ui/*.h ${CMAKE_SOURCE_DIR}/resources/*.h ${CMAKE_SOURCE_DIR}/host/*.h
-     ${CMAKE_SOURCE_DIR}/tester/*.h ${CMAKE_SOURCE_DIR}/tests/*.h ${CMAKE_SOURCE_DIR}/benchmarks/*.h)
+     ${CMAKE_SOURCE_DIR}/tester/*.h ${CMAKE_SOURCE_DIR}/tests/*.h ${CMAKE_SOURCE_DIR}/benchmarks/*.h ${CMAKE_SOURCE_DIR}/fuzz/*.h)
 
 # Sets `result` to whether the header's own source begins by including it. Sources of tests do not count: they have the
 # precompiled header before everything else. Where several sources are compiled at once, it is the static analysis that
@@ -17,7 +17,7 @@ file(GLOB_RECURSE headers CONFIGURE_DEPENDS RELATIVE ${CMAKE_SOURCE_DIR}
 function(is_shown_by_its_source header result)
   set(${result} FALSE PARENT_SCOPE)
   string(REGEX REPLACE "\\.h$" ".cpp" source ${header})
-  if(header MATCHES "^(tests|benchmarks)/" OR NOT EXISTS ${CMAKE_SOURCE_DIR}/${source})
+  if(header MATCHES "^(tests|benchmarks|fuzz)/" OR NOT EXISTS ${CMAKE_SOURCE_DIR}/${source})
     return()
   endif()
   if("$CACHE{CMAKE_UNITY_BUILD}" AND header MATCHES "^host/app/" AND ORVIK_TEST_SET STREQUAL all)
@@ -31,7 +31,7 @@ endfunction()
 
 # Those of tests and benchmarks, which nobody includes from outside, only where every test is wanted.
 if(NOT ORVIK_TEST_SET STREQUAL all)
-  list(FILTER headers EXCLUDE REGEX "^(tests|benchmarks)/")
+  list(FILTER headers EXCLUDE REGEX "^(tests|benchmarks|fuzz)/")
 endif()
 
 set(sources)
@@ -47,8 +47,8 @@ endforeach()
 
 add_library(headers-compile-alone OBJECT ${sources})
 set_target_properties(headers-compile-alone PROPERTIES UNITY_BUILD OFF)
-find_package(Qt6 REQUIRED COMPONENTS Widgets)
-target_link_libraries(headers-compile-alone PRIVATE orvik-app keld-sim-core Qt6::Widgets GTest::gtest)
+find_package(Qt6 REQUIRED COMPONENTS Widgets Test)
+target_link_libraries(headers-compile-alone PRIVATE orvik-app keld-sim-core Qt6::Test Qt6::Widgets GTest::gtest)
 target_compile_options(headers-compile-alone PRIVATE -O0)
 # What the headers of the tests take from the build; the values do not matter here.
 target_compile_definitions(headers-compile-alone PRIVATE QT_NO_KEYWORDS
