@@ -35,6 +35,10 @@ constexpr char kStandardsNode[] = "Standards";
 constexpr char kInstrumentsNode[] = "Instruments";
 constexpr char kElements[] = "Elements";
 
+/// A tag that no file can hold, and how it is written.
+constexpr char kNoName[] = "\x01";
+constexpr std::string_view kPlaceOfElements = "<\x01 />";
+
 [[noreturn]] void RefuseDocument(const std::string& reason) {
   throw HostError(HostError::kInvalidArgument, kDocumentSource, reason);
 }
@@ -90,6 +94,7 @@ std::shared_ptr<orvik::ITestContainer> Document::Elements() const { return eleme
 void Document::MoveTo(const std::filesystem::path& file) { file_ = DocumentFile::New(file); }
 
 void Document::Load(const std::string& text) {
+  textSize_ = text.size();
   const auto xml = std::make_shared<pugi::xml_document>();
   const auto fault = xml::Parse(text, *xml);
   if (!fault.reason.empty())
@@ -142,20 +147,49 @@ void Document::Save() {
 std::string Document::Text() const {
   auto& trouble = host_->Elements()->Trouble();
   trouble.Clear();
-  std::string reason;
-  const auto xml = std::make_shared<pugi::xml_document>();
+  std::string text, reason;
   try {
-    SaveTo(xml);
+    text = WrittenText();
   } catch (const HostError& error) {
     reason = error.Description();
   }
   if (!trouble.All().empty()) reason = trouble.All().front().reason;
   if (!reason.empty()) RefuseDocument(Tr("%%1 was not saved: %%2", {Path().string(), reason}));
-  return xml::Write(*xml);
+  return text;
 }
 
-void Document::SaveTo(const std::shared_ptr<pugi::xml_document>& xml) const {
+// One element after the other, so that a large document never stands in memory as a whole tree beside its
+// text.
+std::string Document::WrittenText() const {
   RequireShallow(elements_);
+  const auto frame = xml::Write(*Frame());
+  if (elements_->Count() == 0) return frame;
+  const auto place = frame.find(kPlaceOfElements);
+  std::string text;
+  text.reserve(textSize_ + textSize_ / 8);
+  text.append(frame, 0, place);
+  text.resize(text.find_last_not_of(' ') + 1);
+  WriteElements(text);
+  if (text.back() == '\n') text.pop_back();
+  text.append(frame, place + kPlaceOfElements.size());
+  textSize_ = text.size();
+  return text;
+}
+
+void Document::WriteElements(std::string& text) const {
+  constexpr unsigned kDepth = 2;
+  const Nesting level;
+  for (std::int32_t index = 0; index < elements_->Count(); ++index) {
+    const auto xml = std::make_shared<pugi::xml_document>();
+    const auto parent = xml->append_child(kElements);
+    elements_->SaveChild(static_cast<std::size_t>(index), Wrapped(xml, parent));
+    for (const auto element : parent.children()) xml::WriteTo(text, element, kDepth);
+  }
+}
+
+/// The document without its elements; a tag keeps their place.
+std::shared_ptr<pugi::xml_document> Document::Frame() const {
+  auto xml = std::make_shared<pugi::xml_document>();
   auto declaration = xml->append_child(pugi::node_declaration);
   declaration.append_attribute("version") = "1.0";
   declaration.append_attribute("encoding") = "UTF-8";
@@ -172,11 +206,12 @@ void Document::SaveTo(const std::shared_ptr<pugi::xml_document>& xml) const {
   standards_->Save(Wrapped(xml, root));
   instruments_->Save(root);
 
-  const auto elements = root.append_child(kElements);
-  elements_->SaveChildren(Wrapped(xml, elements));
+  auto elements = root.append_child(kElements);
+  if (elements_->Count() > 0) elements.append_child(kNoName);
   elementsLeftovers_.Restore(elements);
   rootLeftovers_.Restore(root);
   topLeftovers_.Restore(*xml);
+  return xml;
 }
 
 std::shared_ptr<orvik::ITestElement> Document::AddTest(std::int32_t testId,

@@ -86,7 +86,9 @@ class Document {
  private:
   void Load(const std::string& text);
   void LoadSections(const std::shared_ptr<pugi::xml_document>& xml);
-  void SaveTo(const std::shared_ptr<pugi::xml_document>& xml) const;
+  std::string WrittenText() const;
+  void WriteElements(std::string& text) const;
+  std::shared_ptr<pugi::xml_document> Frame() const;
   std::shared_ptr<orvik::ITestElement> FromCatalogue(std::int32_t testId) const;
   void GiveIdentifiers(const std::shared_ptr<orvik::ITestElement>& top);
 
@@ -96,6 +98,8 @@ class Document {
   std::shared_ptr<InstrumentColl> instruments_;
   std::shared_ptr<TestContainer> elements_;
   std::int32_t highestId_ = 0;
+  /// Of the text that was read or written last: the next one will be about as long.
+  mutable std::size_t textSize_ = 0;
   std::string savedText_;
   Leftovers topLeftovers_, rootLeftovers_, equipmentLeftovers_, elementsLeftovers_;
 };

@@ -47,13 +47,14 @@ void TestContainer::ITestContainer_Add(std::shared_ptr<orvik::ITestElement> iteE
 }
 
 void TestContainer::RefuseCycle(const std::shared_ptr<orvik::ITestElement>& element) const {
-  // Only something that holds elements can stand above this container.
-  const auto container = orvik::As<orvik::ITestContainer>(element);
-  if (!container) return;
   const auto self = Shown();
   bool above = element == self || element.get() == static_cast<const ITestElement*>(this);
-  if (!above && container->Count() > 0) {
-    for (auto parent = self->Parent(); parent && !above; parent = parent->Parent()) above = parent == element;
+  auto parent = self->Parent();
+  if (parent && !above) {
+    // Only something that holds elements can stand above this container.
+    const auto container = orvik::As<orvik::ITestContainer>(element);
+    if (!container || container->Count() == 0) return;
+    for (; parent && !above; parent = parent->Parent()) above = parent == element;
   }
   if (above)
     throw HostError(HostError::kInvalidArgument, kContainerSource,
@@ -128,12 +129,14 @@ void TestContainer::CloneChildren(TestElement& copy) const {
   }
 }
 
+void TestContainer::SaveChild(std::size_t index, const std::shared_ptr<orvik::IXmlNode>& node) const {
+  if (!children_->At(index)->Save(node))
+    throw HostError(HostError::kInvalidArgument, kContainerSource,
+                    Tr("element %%1 could not be saved", {std::to_string(children_->At(index)->ID())}));
+}
+
 void TestContainer::SaveChildren(const std::shared_ptr<orvik::IXmlNode>& node) const {
-  for (std::size_t index = 0; index < children_->Size(); ++index) {
-    if (!children_->At(index)->Save(node))
-      throw HostError(HostError::kInvalidArgument, kContainerSource,
-                      Tr("element %%1 could not be saved", {std::to_string(children_->At(index)->ID())}));
-  }
+  for (std::size_t index = 0; index < children_->Size(); ++index) SaveChild(index, node);
 }
 
 void TestContainer::ClearChildren() {

@@ -10,6 +10,7 @@ namespace xml {
 namespace {
 
 constexpr int kIndentedLevels = 256;
+constexpr char kIndent[] = "  ";
 
 /// What the parser says of a malformed text; here for the list of texts to translate.
 [[maybe_unused]] constexpr const char* kParserFaults[] = {
@@ -53,35 +54,36 @@ Fault CheckTop(const pugi::xml_document& document, std::size_t size) {
   return {};
 }
 
-bool DeeperThan(const pugi::xml_document& document, int levels) {
+bool DeeperThan(pugi::xml_node node, int levels) {
   struct Depth : pugi::xml_tree_walker {
     int limit = 0;
     bool for_each(pugi::xml_node&) override { return depth() <= limit; }
   } walker;
   walker.limit = levels;
-  return !document.root().traverse(walker);
+  return !node.traverse(walker);
 }
 
-struct StringWriter : pugi::xml_writer {
-  std::string text;
+unsigned FormatOf(pugi::xml_node node) {
+  return DeeperThan(node, kIndentedLevels) ? pugi::format_raw : pugi::format_indent;
+}
+
+/// Adds to a text. A carriage return as itself would read back as the end of a line.
+class StringWriter : public pugi::xml_writer {
+ public:
+  explicit StringWriter(std::string& text) : text_(text) {}
+
   void write(const void* data, std::size_t size) override {
-    text.append(static_cast<const char*>(data), size);
-  }
-};
-
-/// A carriage return as itself would read back as the end of a line.
-std::string WithCarriageReturns(std::string text) {
-  if (text.find('\r') == std::string::npos) return text;
-  std::string escaped;
-  for (const char letter : text) {
-    if (letter == '\r') {
-      escaped += "&#13;";
-    } else {
-      escaped += letter;
+    std::string_view rest(static_cast<const char*>(data), size);
+    for (auto end = rest.find('\r'); end != std::string_view::npos; end = rest.find('\r')) {
+      text_.append(rest.substr(0, end)).append("&#13;");
+      rest.remove_prefix(end + 1);
     }
+    text_.append(rest);
   }
-  return escaped;
-}
+
+ private:
+  std::string& text_;
+};
 
 }  // namespace
 
@@ -110,10 +112,15 @@ std::size_t LineOf(std::string_view text, std::size_t offset) {
 }
 
 std::string Write(const pugi::xml_document& document) {
-  StringWriter writer;
-  const bool deep = DeeperThan(document, kIndentedLevels);
-  document.save(writer, "  ", deep ? pugi::format_raw : pugi::format_indent, pugi::encoding_utf8);
-  return WithCarriageReturns(std::move(writer.text));
+  std::string text;
+  StringWriter writer(text);
+  document.save(writer, kIndent, FormatOf(document), pugi::encoding_utf8);
+  return text;
+}
+
+void WriteTo(std::string& text, pugi::xml_node element, unsigned depth) {
+  StringWriter writer(text);
+  element.print(writer, kIndent, FormatOf(element), pugi::encoding_utf8, depth);
 }
 
 }  // namespace xml

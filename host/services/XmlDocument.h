@@ -51,6 +51,9 @@ std::size_t LineOf(std::string_view text, std::size_t offset);
 /// The document as text, UTF-8, indented by two blanks. Beyond 256 levels it is not indented: the blanks
 /// would outweigh everything else.
 std::string Write(const pugi::xml_document& document);
+/// Adds an element to a text as it stands in a document, so many levels deep; with the blanks before it and
+/// the line end behind it.
+void WriteTo(std::string& text, pugi::xml_node element, unsigned depth);
 
 }  // namespace xml
 }  // namespace bench

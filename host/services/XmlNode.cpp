@@ -1,6 +1,8 @@
 #include "host/services/XmlNode.h"
 
 #include <algorithm>
+#include <array>
+#include <typeinfo>
 
 #include "OrvikTypeLib/As.h"
 #include "host/services/Text.h"
@@ -21,10 +23,26 @@ void RequireName(const std::string& name) {
                            Tr("\"%%1\" cannot be the name of an element or attribute", {name}));
 }
 
-bool StartsName(char letter) {
-  return (letter >= 'a' && letter <= 'z') || (letter >= 'A' && letter <= 'Z') || letter == '_' ||
-         letter == ':' || static_cast<unsigned char>(letter) >= 0x80;
+/// Gives a node or an attribute the text, as far as a file can hold it.
+template <class Target>
+void SetValue(Target target, const std::string& text) {
+  const bool valid = InvalidUtf8(text) == std::string::npos;
+  target.set_value(valid ? text.c_str() : ValidUtf8(text).c_str());
 }
+
+constexpr bool StartsName(unsigned char letter) {
+  return (letter >= 'a' && letter <= 'z') || (letter >= 'A' && letter <= 'Z') || letter == '_' ||
+         letter == ':' || letter >= 0x80;
+}
+
+/// Whether a letter can stand in a name: names are checked whenever something is written.
+constexpr auto kInName = [] {
+  std::array<bool, 256> table{};
+  for (unsigned letter = 0; letter < table.size(); ++letter)
+    table[letter] = StartsName(static_cast<unsigned char>(letter)) || (letter >= '0' && letter <= '9') ||
+                    letter == '-' || letter == '.';
+  return table;
+}();
 
 }  // namespace
 
@@ -58,13 +76,13 @@ void SetText(pugi::xml_node element, const std::string& text) {
     if (IsText(child)) element.remove_child(child);
     child = next;
   }
-  if (!text.empty()) element.prepend_child(pugi::node_pcdata).set_value(ValidUtf8(text).c_str());
+  if (!text.empty()) SetValue(element.prepend_child(pugi::node_pcdata), text);
 }
 
 void SetAttribute(pugi::xml_node element, const char* name, const std::string& value) {
   auto attribute = element.attribute(name);
   if (!attribute) attribute = element.append_attribute(name);
-  attribute.set_value(ValidUtf8(value).c_str());
+  SetValue(attribute, value);
 }
 
 pugi::xml_node AddElement(pugi::xml_node parent, const std::string& name) {
@@ -73,9 +91,9 @@ pugi::xml_node AddElement(pugi::xml_node parent, const std::string& name) {
 }
 
 bool IsName(const std::string& name) {
-  return !name.empty() && StartsName(name.front()) && std::all_of(name.begin(), name.end(), [](char letter) {
-    return StartsName(letter) || (letter >= '0' && letter <= '9') || letter == '-' || letter == '.';
-  });
+  return !name.empty() && StartsName(static_cast<unsigned char>(name.front())) &&
+         std::all_of(name.begin(), name.end(),
+                     [](char letter) { return kInName[static_cast<unsigned char>(letter)]; });
 }
 
 std::int32_t NumberAttribute(pugi::xml_node element, const char* name) {
@@ -89,11 +107,12 @@ std::int32_t NumberAttribute(pugi::xml_node element, const char* name) {
 }  // namespace xml
 
 const XmlNode& XmlNode::Of(const std::shared_ptr<orvik::IXmlNode>& node) {
-  const auto* own = dynamic_cast<const XmlNode*>(&orvik::Required(node));
-  if (!own)
+  const auto& any = orvik::Required(node);
+  // The class is final, so that its type tells.
+  if (typeid(any) != typeid(XmlNode))
     throw orvik::HostError(orvik::HostError::kTypeMismatch, kNodeSource,
                            Tr("the node is not one of this host's"));
-  return *own;
+  return static_cast<const XmlNode&>(any);
 }
 
 std::shared_ptr<orvik::IXmlNode> XmlNode::Wrap(pugi::xml_node node) const {

@@ -237,6 +237,38 @@ TEST_F(DocumentTest, SavingTwiceGivesTheSameText) {
   EXPECT_EQ(Reopen("b.orvik")->Text(), once);
 }
 
+// Elements are written one after the other; the text is that of the whole tree.
+TEST_F(DocumentTest, ElementsStandInThePlaceWhereTheyBelong) {
+  const std::string element =
+      "    <TestElement ID=\"%\" TestID=\"1\" PlugInID=\"gone\" Class=\"gone.Test\">\n"
+      "      <Information DisplayName=\"5 &lt; 6 &amp; 7\" />\n"
+      "    </TestElement>\n";
+  const auto with = [&](const char* id) {
+    auto text = element;
+    return text.replace(text.find('%'), 1, id);
+  };
+  const std::string text =
+      "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+      "<!-- kept -->\n"
+      "<OrvikDocument Version=\"1\">\n"
+      "  <Equipment Asset=\"\" Serial=\"\" Maker=\"\" Model=\"\" />\n"
+      "  <Standards />\n"
+      "  <Instruments />\n"
+      "  <Elements Order=\"kept\">\n" +
+      with("1") + with("2") +
+      "    <Note>kept</Note>\n"
+      "    <!-- kept -->\n"
+      "  </Elements>\n"
+      "  <Appendix />\n"
+      "</OrvikDocument>\n";
+  auto saved = Opened(text)->Text();
+  // The comment in front goes to the end, as ever.
+  const std::string comment = "<!-- kept -->\n";
+  EXPECT_EQ(saved.substr(saved.size() - comment.size()), comment);
+  saved.resize(saved.size() - comment.size());
+  EXPECT_EQ(saved.insert(saved.find("<OrvikDocument"), comment), text);
+}
+
 TEST_F(DocumentTest, TwoProgramsCannotBothOpenItForWriting) {
   New()->Save();
   const auto held = Document::Open(host_, folder_.Path() / "a.orvik");
