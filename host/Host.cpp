@@ -75,7 +75,7 @@ void Host::RegisterElements() {
 }
 
 void Host::Register(const std::string& classId, Factory factory) {
-  factories_[LowerAscii(classId)] = std::move(factory);
+  factories_.insert_or_assign(classId, std::move(factory));
 }
 
 void Host::AddClasses(std::shared_ptr<orvik::IClassLibrary> classes) {
@@ -83,8 +83,7 @@ void Host::AddClasses(std::shared_ptr<orvik::IClassLibrary> classes) {
 }
 
 std::shared_ptr<orvik::IObject> Host::IHost_CreateObject(const std::string& sClassID) {
-  if (const auto known = factories_.find(LowerAscii(sClassID)); known != factories_.end())
-    return known->second();
+  if (const auto known = factories_.find(sClassID); known != factories_.end()) return known->second();
   for (const auto& library : classLibraries_) {
     if (auto created = library->CreateObject(sClassID)) return created;
   }

@@ -11,6 +11,7 @@
 #include "OrvikTypeLib/IClassLibrary.h"
 #include "OrvikTypeLib/IHost.h"
 #include "OrvikTypeLib/IPlugIn.h"
+#include "host/services/Text.h"
 
 namespace bench {
 
@@ -73,7 +74,7 @@ class Host final : public orvik::IHost {
   void RegisterElements();
 
   std::shared_ptr<orvik::platform::IApplication> application_;
-  std::unordered_map<std::string, Factory> factories_;
+  std::unordered_map<std::string, Factory, HashApartFromCase, EqualApartFromCase> factories_;
   std::vector<std::shared_ptr<orvik::IClassLibrary>> classLibraries_;
   std::vector<std::unique_ptr<PlugInLibrary>> plugInLibraries_;
   std::shared_ptr<ElementFactory> elements_;

@@ -53,8 +53,8 @@ std::shared_ptr<orvik::ITestElement> ElementFactory::FromCatalogue(const Identit
       while (container->Count() > 0) container->Remove(container->item(container->Count()));
     }
   }
-  const bool sameClass = prototype && (identity.classId.empty() ||
-                                       LowerAscii(prototype->ClassID()) == LowerAscii(identity.classId));
+  const bool sameClass =
+      prototype && (identity.classId.empty() || SameApartFromCase(prototype->ClassID(), identity.classId));
   return sameClass ? prototype->Clone() : nullptr;
 }
 

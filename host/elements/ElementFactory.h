@@ -80,12 +80,19 @@ class ElementFactory {
  private:
   std::shared_ptr<orvik::ITestElement> FromCatalogue(const Identity& identity);
 
+  /// Elements lie next to each other in memory, a few hundred bytes apart: so do their places in the table.
+  struct Hash {
+    std::size_t operator()(const orvik::ITestElement* element) const {
+      return reinterpret_cast<std::uintptr_t>(element) >> 8;
+    }
+  };
+
   Classes classes_;
   std::vector<std::shared_ptr<orvik::IPlugIn>> plugIns_;
   /// Childless copies of catalogue entries by plug-in and test; empty for a test that is not in the
   /// catalogue.
   std::map<std::pair<std::string, std::int32_t>, std::shared_ptr<orvik::ITestElement>> prototypes_;
-  std::unordered_map<const orvik::ITestElement*, std::weak_ptr<orvik::IBaseElement>> bases_;
+  std::unordered_map<const orvik::ITestElement*, std::weak_ptr<orvik::IBaseElement>, Hash> bases_;
   Problems problems_;
 };
 

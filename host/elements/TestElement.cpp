@@ -35,8 +35,7 @@ std::string TestElement::IObject_ClassID() const { return orvik::HostClasses::kT
 std::shared_ptr<orvik::ITestElement> TestElement::Shown() const {
   if (auto outer = outer_.lock()) return outer;
   // The element is only told from others by it; nobody changes it through this reference.
-  return std::const_pointer_cast<ITestElement>(
-      std::dynamic_pointer_cast<const ITestElement>(shared_from_this()));
+  return {std::const_pointer_cast<IObject>(shared_from_this()), const_cast<TestElement*>(this)};
 }
 
 std::shared_ptr<ElementFactory> TestElement::Factory() const { return orvik::Required(factory_); }
@@ -137,8 +136,8 @@ void TestElement::IBaseElement_SetOuter(std::shared_ptr<ITestElement> iteOuter) 
   outer_ = iteOuter;
   if (iteOuter) {
     outerKey_ = iteOuter.get();
-    const auto self = std::dynamic_pointer_cast<IBaseElement>(shared_from_this());
-    if (const auto factory = factory_.lock()) factory->Wrapped(outerKey_, self);
+    if (const auto factory = factory_.lock())
+      factory->Wrapped(outerKey_, std::shared_ptr<IBaseElement>(shared_from_this(), this));
   }
   OuterChanged();
 }

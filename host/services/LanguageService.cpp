@@ -43,6 +43,7 @@ std::vector<std::string> Candidates(const std::string& language) {
 bool IsLanguageString(std::string_view text) { return NumberLength(text) != std::string_view::npos; }
 
 std::string WithValues(std::string_view text, const std::vector<std::string>& values) {
+  if (values.empty()) return std::string(text);
   std::string result;
   for (std::size_t i = 0; i < text.size(); ++i) {
     const bool placeholder =

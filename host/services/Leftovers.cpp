@@ -45,10 +45,10 @@ pugi::xml_node Leftovers::Holder() {
 void Leftovers::Take(pugi::xml_node node, std::initializer_list<std::string_view> knownAttributes,
                      std::initializer_list<std::string_view> knownElements) {
   kept_.reset();
-  for (const auto attribute : node.attributes()) {
+  for (auto attribute = node.first_attribute(); attribute; attribute = attribute.next_attribute()) {
     if (!Holds(knownAttributes, attribute.name())) Holder().append_copy(attribute);
   }
-  for (const auto child : node.children()) {
+  for (auto child = node.first_child(); child; child = child.next_sibling()) {
     if (!IsKnown(child, knownElements)) Holder().append_copy(child);
   }
 }

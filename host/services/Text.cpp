@@ -1,5 +1,6 @@
 #include "host/services/Text.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 
@@ -18,6 +19,10 @@ std::optional<Value> Whole(std::string_view text) {
   const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
   if (result.ec != std::errc{} || result.ptr != text.data() + text.size()) return {};
   return value;
+}
+
+char Lower(char letter) {
+  return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
 }
 
 /// Length of the valid UTF-8 sequence at the start of the text; 0 when there is none.
@@ -46,9 +51,7 @@ std::size_t SequenceLength(std::string_view text) {
 
 std::string LowerAscii(std::string_view text) {
   std::string lower(text);
-  for (char& letter : lower) {
-    if (letter >= 'A' && letter <= 'Z') letter = static_cast<char>(letter - 'A' + 'a');
-  }
+  for (char& letter : lower) letter = Lower(letter);
   return lower;
 }
 
@@ -73,20 +76,32 @@ std::string ValidUtf8(std::string_view text) {
   std::string valid;
   valid.reserve(text.size());
   while (!text.empty()) {
-    const std::size_t length = SequenceLength(text);
-    if (length == 0) {
-      valid += "\xEF\xBF\xBD";
-      text.remove_prefix(1);
-    } else {
-      valid += text.substr(0, length);
-      text.remove_prefix(length);
-    }
+    const auto good = text.substr(0, InvalidUtf8(text));
+    valid += good;
+    text.remove_prefix(good.size());
+    if (text.empty()) break;
+    valid += "\xEF\xBF\xBD";
+    text.remove_prefix(1);
   }
   return valid;
 }
 
+bool SameApartFromCase(std::string_view one, std::string_view other) {
+  return std::equal(one.begin(), one.end(), other.begin(), other.end(),
+                    [](char left, char right) { return Lower(left) == Lower(right); });
+}
+
+std::size_t HashApartFromCase::operator()(std::string_view text) const {
+  std::uint64_t hash = 0xCBF29CE484222325U;  // FNV-1a
+  for (const char letter : text) hash = (hash ^ static_cast<unsigned char>(Lower(letter))) * 0x100000001B3U;
+  return hash;
+}
+
 std::size_t InvalidUtf8(std::string_view text, std::size_t from) {
   while (from < text.size()) {
+    // Nearly all of most texts.
+    while (from < text.size() && text[from] > 0) ++from;
+    if (from == text.size()) break;
     const std::size_t length = SequenceLength(text.substr(from));
     if (length == 0) return from;
     from += length;

@@ -12,6 +12,21 @@ namespace bench {
 /// The text with the letters A to Z in lower case.
 std::string LowerAscii(std::string_view text);
 
+/// Whether the texts are the same but for the case of the letters A to Z.
+bool SameApartFromCase(std::string_view one, std::string_view other);
+
+/// For tables whose keys are matched so.
+struct HashApartFromCase {
+  using is_transparent = void;
+  std::size_t operator()(std::string_view text) const;
+};
+struct EqualApartFromCase {
+  using is_transparent = void;
+  bool operator()(std::string_view one, std::string_view other) const {
+    return SameApartFromCase(one, other);
+  }
+};
+
 /// The 32-bit number that the whole text stands for (decimal, optional sign); none for anything else.
 std::optional<std::int32_t> WholeNumber(std::string_view text);
 

@@ -35,6 +35,24 @@ TEST(Text, LowerCaseLeavesOtherBytesAlone) {
   EXPECT_EQ(LowerAscii("OrvikKELD.\xC3\x84[Z"), "orvikkeld.\xC3\x84[z");
 }
 
+TEST(Text, CaseIsThatOfTheLettersAToZ) {
+  EXPECT_TRUE(SameApartFromCase("OrvikTypeLib.Limit", "orviktypelib.LIMIT"));
+  EXPECT_FALSE(SameApartFromCase("Limit", "Limits"));
+  EXPECT_FALSE(SameApartFromCase("Ä", "ä"));
+  EXPECT_FALSE(SameApartFromCase("[", "{"));
+  EXPECT_EQ(HashApartFromCase()("aZ[Ä"), HashApartFromCase()("Az[Ä"));
+  EXPECT_NE(HashApartFromCase()("limit"), HashApartFromCase()("limits"));
+}
+
+TEST(Text, TheFirstByteThatIsNotUtf8IsFound) {
+  EXPECT_EQ(InvalidUtf8(""), std::string_view::npos);
+  EXPECT_EQ(InvalidUtf8("5 µA ≤ 10 µA"), std::string_view::npos);
+  EXPECT_EQ(InvalidUtf8("abc\xFF"), 3U);
+  EXPECT_EQ(InvalidUtf8("µ\xFFµ\xFF"), 2U);
+  EXPECT_EQ(InvalidUtf8("µ\xFFµ\xFF", 3), 5U);
+  EXPECT_EQ(InvalidUtf8(std::string_view("a\0b", 3)), 1U);
+}
+
 TEST(Text, ValidUtf8StaysAsItIs) {
   const std::string text = "a\xC3\xB8\xE2\x84\xA6\xF0\x9F\x94\x8C";
   EXPECT_EQ(ValidUtf8(text), text);
