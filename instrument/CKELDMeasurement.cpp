@@ -45,9 +45,7 @@ Variant Sum(const Variant& vLeft, const Variant& vRight) {
 
 }  // namespace
 
-std::shared_ptr<CKELDMeasurement> CKELDMeasurement::Create() {
-  return std::shared_ptr<CKELDMeasurement>(new CKELDMeasurement);
-}
+std::shared_ptr<CKELDMeasurement> CKELDMeasurement::Create() { return std::make_shared<CKELDMeasurement>(); }
 
 std::string CKELDMeasurement::IObject_ClassID() const { return ClassIdentifiers::kMeasurement; }
 

@@ -43,8 +43,6 @@ class CKELDMeasurement final : public orvik::IMeasurement {
                    const std::shared_ptr<orvik::IStandardColl>& Standards);
 
  private:
-  CKELDMeasurement() = default;
-
   std::string IObject_ClassID() const override;
   std::string IMeasurement_Description() const override { return sDescription; }
   std::string IMeasurement_Key() const override { return "::"; }

@@ -63,7 +63,8 @@ bool CKELDElement::CloneInto(CKELDElement& Copy) const {
 }
 
 std::shared_ptr<orvik::ITestElement> CKELDElement::SelfElement() {
-  return As<orvik::ITestElement>(weak_from_this().lock());
+  auto Self = weak_from_this().lock();
+  return Self ? std::shared_ptr<orvik::ITestElement>(std::move(Self), this) : nullptr;
 }
 
 std::shared_ptr<CKELDTestConfiguration> CKELDElement::TestConfiguration() const {

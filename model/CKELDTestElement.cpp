@@ -33,14 +33,16 @@ void CKELDTestElement::ITestElement_Initialize(const std::string& sPlugInID, std
   Attempt([&] { Required(BaseElement()).Initialize(sPlugInID, lElementID, lTestID); });
   OwnLimits();
   const std::int32_t lID = TestID();
+  const bool fOneLead = lID >= 1110 && lID <= 1165;
+  const bool fAllLeads = lID >= 910 && lID <= 965;
+  if (!fOneLead && !fAllLeads) return;
   Attempt([&] {
     auto& Configured = Required(TestConfiguration());
     // An addition, not a bit set: a word that already has the 4 carries into the 8. One that would overflow
     // stays as it is.
     constexpr std::int32_t kHighest = std::numeric_limits<std::int32_t>::max() - 4;
-    if (lID >= 1110 && lID <= 1165 && Configured.Options() <= kHighest)
-      Configured.SetOptions(Configured.Options() + 4);
-    if (lID >= 910 && lID <= 965) Configured.SetOptions(Configured.Options() | 4096);
+    if (fOneLead && Configured.Options() <= kHighest) Configured.SetOptions(Configured.Options() + 4);
+    if (fAllLeads) Configured.SetOptions(Configured.Options() | 4096);
   });
 }
 

@@ -60,7 +60,7 @@ std::shared_ptr<orvik::IXmlNode> SavedConfiguration(const orvik::IXmlNode& Node)
 }  // namespace
 
 std::shared_ptr<CKELDTestConfiguration> CKELDTestConfiguration::Create() {
-  return std::shared_ptr<CKELDTestConfiguration>(new CKELDTestConfiguration);
+  return std::make_shared<CKELDTestConfiguration>();
 }
 
 std::int16_t CKELDTestConfiguration::OwnerTestID() const {

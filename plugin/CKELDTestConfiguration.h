@@ -37,8 +37,6 @@ class CKELDTestConfiguration final : public virtual orvik::IConfigData {
   std::int16_t OwnerTestID() const;
 
  private:
-  CKELDTestConfiguration() = default;
-
   std::string IObject_ClassID() const override;
   std::shared_ptr<orvik::IConfigData> IConfigData_Clone() const override;
   std::shared_ptr<orvik::IDialog> IConfigData_CreateDialog() override;

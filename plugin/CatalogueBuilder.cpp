@@ -69,6 +69,7 @@ std::int32_t ReadIdentifier(const IXmlNode& Entry) {
   return IdentifierOf(sID);
 }
 
+/// The fields of an entry as they stand in the catalogue.
 struct Fields {
   std::string sType;
   std::string sName;
@@ -76,49 +77,64 @@ struct Fields {
   std::string sUnit;
 };
 
-std::string FieldText(const IXmlNode& Field) {
-  const std::string sLID = Field.Attribute(MXmlConstants::kLID);
-  return sLID.empty() ? std::string() : MKELDGlobalVars::Translated(sLID);
-}
-
 /// A later field of the same name overwrites an earlier one.
 Fields ReadFields(const IXmlNode& Entry) {
   Fields fields;
   for (auto Child = Entry.FirstChild(); Child; Child = Child->NextSibling()) {
     const std::string sName = Child->Name();
     Attempt([&] {
-      if (sName == MXmlConstants::kType) fields.sType = FieldText(*Child);
-      if (sName == MXmlConstants::kName) fields.sName = FieldText(*Child);
-      if (sName == MXmlConstants::kParameter) fields.sParameter = FieldText(*Child);
-      if (sName == MXmlConstants::kUnit) fields.sUnit = FieldText(*Child);
+      if (sName == MXmlConstants::kType) fields.sType = Child->Attribute(MXmlConstants::kLID);
+      if (sName == MXmlConstants::kName) fields.sName = Child->Attribute(MXmlConstants::kLID);
+      if (sName == MXmlConstants::kParameter) fields.sParameter = Child->Attribute(MXmlConstants::kLID);
+      if (sName == MXmlConstants::kUnit) fields.sUnit = Child->Attribute(MXmlConstants::kLID);
     });
-  }
-  if (fields.sName.empty()) {
-    fields.sName = fields.sParameter.empty() ? fields.sType : fields.sType + " - " + fields.sParameter;
   }
   return fields;
 }
 
+/// A field in the user's language; empty when it cannot be had.
+std::string FieldText(const std::string& sField) {
+  if (sField.empty()) return {};
+  return AttemptValue(std::string(), [&] { return MKELDGlobalVars::Translated(sField); });
+}
+
+std::string DisplayName(const Fields& fields) {
+  const std::string sName = FieldText(fields.sName);
+  if (!sName.empty()) return sName;
+  const std::string sParameter = FieldText(fields.sParameter);
+  return sParameter.empty() ? FieldText(fields.sType) : FieldText(fields.sType) + " - " + sParameter;
+}
+
+/// An element of the catalogue; a sequence is its own container.
+struct NewEntry {
+  std::shared_ptr<ITestElement> iteElement;
+  std::shared_ptr<ITestContainer> Container;
+};
+
 template <class Element>
-std::shared_ptr<ITestElement> NewElement(const Fields& fields, std::int32_t lID) {
+std::shared_ptr<Element> NewElement(const Fields& fields, std::int32_t lID) {
   const auto Created = Element::Create();
-  const auto iteCreated = As<ITestElement>(Created);
+  const std::shared_ptr<ITestElement> iteCreated = Created;
   Attempt([&] { Required(iteCreated).Initialize(MKELDConstants::kPlugInID, lID, lID); });
-  Attempt([&] { Required(Required(iteCreated).Information()).SetDisplayName(fields.sName); });
-  Attempt([&] { Required(As<IKELDTest>(Created)).SetExpectedUnits(fields.sUnit); });
-  return iteCreated;
+  Attempt([&] { Required(Required(iteCreated).Information()).SetDisplayName(DisplayName(fields)); });
+  Attempt([&] { Required(std::shared_ptr<IKELDTest>(Created)).SetExpectedUnits(FieldText(fields.sUnit)); });
+  return Created;
 }
 
 /// One entry without its members; empty when the host could not make it.
-std::shared_ptr<ITestElement> NewEntry(const IXmlNode& Node) {
-  std::shared_ptr<ITestElement> iteEntry;
+NewEntry EntryOf(const IXmlNode& Node) {
+  NewEntry Entry;
   Attempt([&] {
     const std::int32_t lID = ReadIdentifier(Node);
     const Fields fields = ReadFields(Node);
-    iteEntry =
-        lID % 100 != 0 ? NewElement<CKELDTestElement>(fields, lID) : NewElement<CKELDSequence>(fields, lID);
+    if (lID % 100 != 0) {
+      Entry.iteElement = NewElement<CKELDTestElement>(fields, lID);
+    } else {
+      const auto Sequence = NewElement<CKELDSequence>(fields, lID);
+      Entry = {Sequence, Sequence};
+    }
   });
-  return iteEntry;
+  return Entry;
 }
 
 /// A container that is being filled, and the entry that comes next in it.
@@ -141,9 +157,9 @@ void Fill(const std::shared_ptr<ITestContainer>& Root, const IXmlNode& TemplateD
   while (true) {
     if (const NodeRef Entry = aLevels.back().NextEntry) {
       aLevels.back().NextEntry = EntryFrom(Entry->NextSibling());
-      auto iteEntry = NewEntry(*Entry);
+      auto [iteEntry, Container] = EntryOf(*Entry);
       if (!iteEntry) continue;
-      if (auto Container = As<ITestContainer>(iteEntry)) {
+      if (Container) {
         aLevels.push_back({std::move(iteEntry), std::move(Container), EntryFrom(Entry->FirstChild())});
       } else {
         AddTo(aLevels.back(), iteEntry);
