@@ -10,7 +10,7 @@ namespace benchmarks {
 MeasuredDocument::MeasuredDocument(const Context& context) : context_(context) {
   Bench({"new", one_, "--add", "410", "--asset", "VENT-0042"});
   Bench({"limit", one_, "--element", "1", "--standard", "IEC 62353", "--high", "300"});
-  Bench({"run", one_, "--simulate", "--time-scale", "100"});
+  Bench({"run", one_, "--simulate", "--time-scale", "20"});
 }
 
 double MeasuredDocument::Bench(std::vector<std::string> words) const {

@@ -1,11 +1,12 @@
 #pragma once
 
+#include <malloc.h>
 #include <time.h>
 
 #include <algorithm>
+#include <array>
 #include <chrono>
 #include <functional>
-#include <limits>
 #include <vector>
 
 namespace benchmarks {
@@ -36,16 +37,24 @@ inline double BestRate(const std::function<void()>& step) {
   return best;
 }
 
-/// The least processor time of several goes, in seconds. What `act` returns is let go of after the clock has
-/// stopped.
+/// Processor time of one go, in seconds, that finds the heap as a program finds it that has just started.
+/// What `act` returns is let go of after the clock has stopped.
 template <class Act>
-double LeastSeconds(const Act& act) {
-  constexpr int kGoes = 5;
-  double least = std::numeric_limits<double>::max();
-  for (int go = 0; go < kGoes; ++go) {
-    const auto start = ThreadTime();
-    const auto made = act();
-    least = std::min(least, std::chrono::duration<double>(ThreadTime() - start).count());
+double SecondsOf(const Act& act) {
+  malloc_trim(0);
+  const auto start = ThreadTime();
+  const auto made = act();
+  return std::chrono::duration<double>(ThreadTime() - start).count();
+}
+
+/// Measures each of the ways so often, by turns, so that all of them meet the same machine; the least of
+/// each, since whatever else the machine does can only slow one down.
+template <class... Ways>
+std::array<double, sizeof...(Ways)> LeastOfEach(int rounds, const Ways&... ways) {
+  std::array<double, sizeof...(Ways)> least{ways()...};
+  for (int round = 1; round < rounds; ++round) {
+    const std::array<double, sizeof...(Ways)> now{ways()...};
+    for (std::size_t i = 0; i < now.size(); ++i) least[i] = std::min(least[i], now[i]);
   }
   return least;
 }

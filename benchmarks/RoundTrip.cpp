@@ -138,24 +138,13 @@ double WithPyVisa(const std::string& device) {
   return std::stod(TextOf(output));
 }
 
-/// The best of several rounds of each way by turns.
-template <class... Ways>
-std::array<double, sizeof...(Ways)> BestOfEach(const Ways&... ways) {
-  std::array<double, sizeof...(Ways)> best{ways()...};
-  for (int round = 1; round < kRounds; ++round) {
-    const std::array<double, sizeof...(Ways)> now{ways()...};
-    for (std::size_t i = 0; i < now.size(); ++i) best[i] = std::min(best[i], now[i]);
-  }
-  return best;
-}
-
 }  // namespace
 
 Figure MeasureRoundTrip(const Context&) {
   support::PseudoTerminal pair;
   const EchoResponder echo(pair.Near());
-  const auto [bare, ours] =
-      BestOfEach([&] { return Bare(pair.Path()); }, [&] { return OnOurPort(pair.Path()); });
+  const auto [bare, ours] = LeastOfEach(
+      kRounds, [&] { return Bare(pair.Path()); }, [&] { return OnOurPort(pair.Path()); });
   return {ours - bare, "us", bare, "bare write, poll and read on the same pair, in us", 60, Bound::kAtMost};
 }
 
@@ -163,9 +152,9 @@ Figure MeasureRoundTrip(const Context&) {
 Figure MeasureRoundTripShare(const Context&) {
   support::PseudoTerminal pair;
   const EchoResponder echo(pair.Near());
-  const auto [bare, ours, python] =
-      BestOfEach([&] { return Bare(pair.Path()); }, [&] { return OnOurPort(pair.Path()); },
-                 [&] { return WithPyVisa(pair.Path()); });
+  const auto [bare, ours, python] = LeastOfEach(
+      kRounds, [&] { return Bare(pair.Path()); }, [&] { return OnOurPort(pair.Path()); },
+      [&] { return WithPyVisa(pair.Path()); });
   return {(ours - bare) / (python - bare),
           "of a query",
           python - bare,
