@@ -90,6 +90,10 @@ Fault ParseFault(std::string_view text, const std::string& name, int line) {
     if (text.empty())
       FailAt(name, line, "'reply' needs the line to send instead, such as: reply gres,410,0,9,0,Ohm");
     fault.text = Utf8ToLatin1(text).value();
+    if (fault.text.size() > kLongestReplyText)
+      FailAt(name, line,
+             "the line after 'reply' is too long; give at most " + std::to_string(kLongestReplyText) +
+                 " characters");
     return fault;
   }
   if (form->argument != Argument::None)

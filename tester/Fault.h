@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -39,6 +40,9 @@ struct Fault {
 inline constexpr int kLongestFaultTime = 600000;   ///< ms
 inline constexpr int kHighestErrorNumber = 32767;  ///< error numbers are 16-bit at the receiver
 
+inline constexpr std::size_t kLongestReplyText = 4096;  ///< bytes of FaultKind::Reply; a good line has 1,024
+inline constexpr std::size_t kMostReplyLines = 100;     ///< that faults make of one reply
+
 /// How a fault is written in a script, and what it does.
 struct FaultForm {
   /// Whether a form takes a number, a time, or the rest of the line.
@@ -62,7 +66,7 @@ Fault ParseFault(std::string_view text, const std::string& name, int line);
 /// The fault as it stands in a script.
 std::string FaultText(const Fault& fault);
 
-/// Spoils a reply.
+/// Spoils a reply. It has at most `kMostReplyLines` lines then: what is beyond does not come.
 void Apply(const Fault& fault, Reply& reply);
 
 }  // namespace sim

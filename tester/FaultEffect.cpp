@@ -55,6 +55,11 @@ void Double(std::vector<Outgoing>& lines) {
   lines.insert(lines.end(), again.begin(), again.end());
 }
 
+/// Rules that double a reply again and again would fill the memory otherwise.
+void Bound(std::vector<Outgoing>& lines) {
+  if (lines.size() > kMostReplyLines) lines.resize(kMostReplyLines);
+}
+
 void AddNoise(const Fault& fault, std::vector<Outgoing>& lines) {
   const Outgoing noise{std::string(kNoise), TimeOf(fault), false, {}};
   lines.insert(fault.ms ? lines.end() : lines.begin(), noise);
@@ -87,10 +92,7 @@ std::string Spoiled(const Fault& fault, const std::string& bytes) {
   }
 }
 
-}  // namespace
-
-void Apply(const Fault& fault, Reply& reply) {
-  reply.notes.push_back("fault: " + FaultText(fault));
+void Spoil(const Fault& fault, Reply& reply) {
   switch (fault.kind) {
     case FaultKind::Drop:
       return reply.lines.clear();
@@ -113,6 +115,14 @@ void Apply(const Fault& fault, Reply& reply) {
     default:
       for (Outgoing& line : reply.lines) line.bytes = Spoiled(fault, line.bytes);
   }
+}
+
+}  // namespace
+
+void Apply(const Fault& fault, Reply& reply) {
+  reply.notes.push_back("fault: " + FaultText(fault));
+  Spoil(fault, reply);
+  Bound(reply.lines);
 }
 
 }  // namespace sim

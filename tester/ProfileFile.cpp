@@ -19,6 +19,8 @@ namespace sim {
 namespace {
 
 constexpr int kLongestMeasuringTime = 60000;  // ms
+constexpr std::size_t kLongestNumber = 32;    // letters; with them no answer outgrows the wire's line
+constexpr std::size_t kLongestText = 64;
 
 struct Entry {
   int line;
@@ -170,10 +172,20 @@ class Parser {
 
   void SetIdentity(Profile& profile) const {
     Identity identity = profile.Who();
-    if (const Entry* type = Setting("type")) identity.type = type->value;
-    if (const Entry* serial = Setting("serial")) identity.serial = serial->value;
-    if (const Entry* firmware = Setting("firmware")) identity.firmware = firmware->value;
+    TakeText("type", identity.type);
+    TakeText("serial", identity.serial);
+    TakeText("firmware", identity.firmware);
     profile.SetIdentity(std::move(identity));
+  }
+
+  /// Takes the text of the setting, when it is given.
+  void TakeText(const std::string& key, std::string& text) const {
+    const Entry* given = Setting(key);
+    if (!given) return;
+    if (Utf8ToLatin1(given->value).value().size() > kLongestText)
+      Fail(given->line,
+           Quoted(key) + " is too long; give at most " + std::to_string(kLongestText) + " characters");
+    text = given->value;
   }
 
   void Lack(Profile& profile) const {
@@ -214,6 +226,9 @@ class Parser {
     if (!IsNumber(reading.value)) {
       Fail(entry.line,
            Quoted(reading.value) + " is not a number; write the reading with a point, such as 0.123");
+    }
+    if (reading.value.size() > kLongestNumber) {
+      Fail(entry.line, "the reading has more than " + std::to_string(kLongestNumber) + " letters; round it");
     }
     ++next;
     reading.unit = ParseUnit(test, entry.line, words, next);

@@ -87,6 +87,13 @@ TEST_F(FaultScriptTest, DoubleSendsTwice) {
   EXPECT_EQ(Ask(tester_, "IREM\r\n"), std::string(kIrem) + std::string(kIrem));
 }
 
+TEST_F(FaultScriptTest, DoubledAgainAndAgainIsBounded) {
+  std::string script;
+  for (int i = 0; i < 60; ++i) script += "at IREM double\n";
+  Use(script);
+  EXPECT_EQ(Ask(tester_, "IREM\r\n").size(), kMostReplyLines * kIrem.size());
+}
+
 TEST_F(FaultScriptTest, TruncateLosesTheLineEndToo) {
   Use("at IREM 1 truncate 6\nat IREM 2 truncate 1000");
   EXPECT_EQ(Ask(tester_, "IREM\r\n"), "irem,K");
@@ -229,6 +236,13 @@ TEST(FaultScriptFileTest, AnUnknownFaultListsTheKnownOnes) {
             std::string("f:1: 'explode' is no fault; ") + kKnownFaults);
   EXPECT_EQ(InputErrorOf([] { FaultScript("at GRES 2", "f"); }),
             std::string("f:1: '' is no fault; ") + kKnownFaults);
+}
+
+TEST(FaultScriptFileTest, AReplyMayBeLongerThanALineButNotEndless) {
+  const std::string longest(kLongestReplyText, 'x');
+  EXPECT_EQ(FaultScript("at GRES reply " + longest, "f").Size(), 1u);
+  EXPECT_EQ(InputErrorOf([&] { FaultScript("at GRES reply " + longest + "x", "f"); }),
+            "f:1: the line after 'reply' is too long; give at most 4096 characters");
 }
 
 TEST(FaultScriptFileTest, IsReadFromAFile) {

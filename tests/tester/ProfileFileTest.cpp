@@ -85,6 +85,16 @@ TEST(ProfileFileTest, ATestThatNoFamilyKnowsNeedsItsUnit) {
             "the value");
 }
 
+TEST(ProfileFileTest, TextsAndNumbersFitTheWire) {
+  const std::string text(64, 'x'), number = "0." + std::string(30, '1');
+  EXPECT_EQ(ParseProfile("based-on = leaky\nserial = " + text, "p").Who().serial, text);
+  EXPECT_EQ(ErrorIn("based-on = leaky\nserial = " + text + "x"),
+            "bad.profile:2: 'serial' is too long; give at most 64 characters");
+  EXPECT_EQ(ParseProfile("410 = " + number, "p").Find(410, 0)->value, number);
+  EXPECT_EQ(ErrorIn("410 = " + number + "1"),
+            "bad.profile:1: the reading has more than 32 letters; round it");
+}
+
 struct BadProfile {
   const char* line;
   const char* message;
