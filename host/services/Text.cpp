@@ -100,7 +100,7 @@ std::size_t HashApartFromCase::operator()(std::string_view text) const {
 std::size_t InvalidUtf8(std::string_view text, std::size_t from) {
   while (from < text.size()) {
     // Nearly all of most texts.
-    while (from < text.size() && text[from] > 0) ++from;
+    while (from < text.size() && text[from] != 0 && static_cast<unsigned char>(text[from]) < 0x80) ++from;
     if (from == text.size()) break;
     const std::size_t length = SequenceLength(text.substr(from));
     if (length == 0) return from;
