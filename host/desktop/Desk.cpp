@@ -52,7 +52,7 @@ std::string FilterInWords(const std::string& filter) {
 
 void Desk::Create(const std::filesystem::path& file) {
   document_ = Document::Create(workbench_.Host(), file);
-  openedText_.clear();  // a new document is worth saving
+  openedMark_.reset();  // a new document is worth saving
 }
 
 void Desk::Open(const std::filesystem::path& file) {
@@ -60,14 +60,14 @@ void Desk::Open(const std::filesystem::path& file) {
   // The document holds its file alone, also against ourselves.
   if (document_ && std::filesystem::equivalent(document_->Path(), file, absent)) document_.reset();
   document_ = Document::Open(workbench_.Host(), file);
-  openedText_ = document_->Text();
+  openedMark_ = Document::MarkOf(document_->Text());
 }
 
 bool Desk::Changed() const {
   if (!document_) return false;
-  const auto& saved = document_->SavedText();
+  const auto saved = document_->SavedMark();
   try {
-    return document_->Text() != (saved.empty() ? openedText_ : saved);
+    return Document::MarkOf(document_->Text()) != (saved ? saved : openedMark_);
   } catch (const orvik::HostError&) {
     return true;  // what cannot be saved is not what was; saving tells why
   }

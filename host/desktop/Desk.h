@@ -58,7 +58,7 @@ class Desk {
   Workbench& workbench_;
   const GlobalOptions options_;
   std::shared_ptr<Document> document_;
-  std::string openedText_;  ///< as it would have been saved when it was opened
+  std::optional<std::size_t> openedMark_;  ///< of the text that saving would have written when it was opened
 };
 
 }  // namespace bench::desktop

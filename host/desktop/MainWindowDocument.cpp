@@ -120,13 +120,13 @@ void MainWindow::SetUp() {
 
 void MainWindow::Report() {
   auto suggestion = desk_.TheDocument().Path();
-  const auto file = AskForFile(
-      this, {.title = Tr("Write a report"),
-             .kinds = Tr("PDF (*.pdf)") + ";;" + Tr("Web page (*.html)") + ";;" + Tr("Plain text (*.txt)"),
-             .ending = "pdf",
-             .at = suggestion.replace_extension(".pdf"),
-             .toWrite = true,
-             .mayReplace = true});
+  const auto file = AskForFile(this, {.title = Tr("Write a report"),
+                                      .kinds = std::string("PDF (*.pdf)") + ";;" + Tr("Web page (*.html)") +
+                                               ";;" + Tr("Plain text (*.txt)"),
+                                      .ending = "pdf",
+                                      .at = suggestion.replace_extension(".pdf"),
+                                      .toWrite = true,
+                                      .mayReplace = true});
   if (!file) return;
   desk_.WriteReport(*file);
   Remark(Tr("Report written: %%1", {file->string()}));

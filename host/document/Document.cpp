@@ -139,9 +139,9 @@ void Document::LoadSections(const std::shared_ptr<pugi::xml_document>& xml) {
 }
 
 void Document::Save() {
-  auto text = Text();
+  const auto text = Text();
   file_.Write(text);
-  savedText_ = std::move(text);
+  savedMark_ = MarkOf(text);
 }
 
 std::string Document::Text() const {

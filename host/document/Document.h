@@ -1,10 +1,14 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <memory>
+#include <optional>
 #include <pugixml.hpp>
 #include <string>
+#include <string_view>
 
 #include "OrvikTypeLib/IStandardColl.h"
 #include "OrvikTypeLib/ITestContainer.h"
@@ -59,8 +63,10 @@ class Document {
 
   /// The document as it would be saved.
   std::string Text() const;
-  /// The document as it was saved last; empty before it was saved for the first time.
-  const std::string& SavedText() const { return savedText_; }
+  /// Tells the text that was saved last from others; none before the document was saved for the first time.
+  std::optional<std::size_t> SavedMark() const { return savedMark_; }
+  /// The mark that a text has.
+  static std::size_t MarkOf(std::string_view text) { return std::hash<std::string_view>()(text); }
 
   /// Goes on under another name, which must not exist yet.
   void MoveTo(const std::filesystem::path& file);
@@ -100,7 +106,7 @@ class Document {
   std::int32_t highestId_ = 0;
   /// Of the text that was read or written last: the next one will be about as long.
   mutable std::size_t textSize_ = 0;
-  std::string savedText_;
+  std::optional<std::size_t> savedMark_;
   Leftovers topLeftovers_, rootLeftovers_, equipmentLeftovers_, elementsLeftovers_;
 };
 
