@@ -21,6 +21,7 @@ class IForm;
 namespace bench {
 class CalibrationWindow;
 class RunSession;
+class WireLog;
 }  // namespace bench
 
 namespace bench::desktop {
@@ -114,7 +115,7 @@ class MainWindow : public QMainWindow {
   void RunSelected();
   void Run(RunSelection selection);
   bool MayReplaceResults(const std::vector<std::shared_ptr<orvik::ITestElement>>& elements);
-  void PerformRun(const std::vector<std::shared_ptr<orvik::ITestElement>>& elements);
+  void PerformRun(const std::vector<std::shared_ptr<orvik::ITestElement>>& elements, WireLog& log);
   void RunChanged();
   void TellEnd(DocumentRunner::End end, const std::string& reason);
   void Stop();

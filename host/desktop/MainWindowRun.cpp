@@ -33,6 +33,9 @@ void MainWindow::Run(RunSelection selection) {
   selection.file = document.Path().string();
   const auto selected = SelectedElements(document, selection);
   if (!selection.resume && !MayReplaceResults(selected)) return;
+  // Without its tester nothing of the document changes.
+  WireLog log(selection.file + ".wire.log");
+  const TesterConnection tester(tester_->Choice(), desk_.Bench().Ports());
   SelectStandards(document, *desk_.Bench().Host(), selection);
   const auto elements =
       selection.resume ? WithoutResult(selected, *desk_.Bench().Host(), document.Standards()) : selected;
@@ -40,7 +43,7 @@ void MainWindow::Run(RunSelection selection) {
     return ShowMessage(this, Tr("Every element has a result; there is nothing to go on with."));
   // What cannot be saved had better be known before anything is measured.
   desk_.Save();
-  PerformRun(elements);
+  PerformRun(elements, log);
 }
 
 bool MainWindow::MayReplaceResults(const std::vector<std::shared_ptr<orvik::ITestElement>>& elements) {
@@ -52,10 +55,8 @@ bool MainWindow::MayReplaceResults(const std::vector<std::shared_ptr<orvik::ITes
                       {Tr("Run again"), Tr("Cancel")}) == 0;
 }
 
-void MainWindow::PerformRun(const std::vector<std::shared_ptr<orvik::ITestElement>>& elements) {
+void MainWindow::PerformRun(const std::vector<std::shared_ptr<orvik::ITestElement>>& elements, WireLog& log) {
   auto& bench = desk_.Bench();
-  WireLog log(desk_.TheDocument().Path().string() + ".wire.log");
-  const TesterConnection tester(tester_->Choice(), bench.Ports());
   RunProgress progress(
       *bench.Application(), bench.TimeScale(), [this] { RunChanged(); },
       [this](const std::string& text) { Remark(text); });
