@@ -16,7 +16,7 @@ namespace soak {
 namespace {
 
 #ifdef __SANITIZE_ADDRESS__
-constexpr int kRunsOfThisBuild = 2000;
+constexpr int kRunsOfThisBuild = 5000;
 #else
 constexpr int kRunsOfThisBuild = 10000;
 #endif
