@@ -35,9 +35,9 @@ constexpr char kStandardsNode[] = "Standards";
 constexpr char kInstrumentsNode[] = "Instruments";
 constexpr char kElements[] = "Elements";
 
-/// A tag that no file can hold, and how it is written.
+/// A tag that no file can hold, and how it begins when it is written; what follows depends on the format.
 constexpr char kNoName[] = "\x01";
-constexpr std::string_view kPlaceOfElements = "<\x01 />";
+constexpr std::string_view kPlaceOfElements = "<\x01";
 
 [[noreturn]] void RefuseDocument(const std::string& reason) {
   throw HostError(HostError::kInvalidArgument, kDocumentSource, reason);
@@ -171,7 +171,7 @@ std::string Document::WrittenText() const {
   text.resize(text.find_last_not_of(' ') + 1);
   WriteElements(text);
   if (text.back() == '\n') text.pop_back();
-  text.append(frame, place + kPlaceOfElements.size());
+  text.append(frame, frame.find('>', place) + 1);
   textSize_ = text.size();
   return text;
 }

@@ -216,6 +216,21 @@ TEST_F(DocumentTest, DeepPartsThatItDoesNotKnowAreKept) {
   EXPECT_EQ(Reopen("again.orvik")->Text(), document->Text());
 }
 
+TEST_F(DocumentTest, DeepPartsThatItDoesNotKnowAreKeptBesideElements) {
+  std::string deep;
+  for (int i = 0; i < 300; ++i) deep += "<x>";
+  for (int i = 0; i < 300; ++i) deep += "</x>";
+  const auto text = Opened(
+                        "<OrvikDocument Version='1'><Elements><TestElement ID='1' TestID='1' PlugInID='GONE' "
+                        "Class='g'/></Elements><Foreign>" +
+                        deep + "</Foreign></OrvikDocument>")
+                        ->Text();
+  folder_.Write("again.orvik", text);
+  const auto again = Reopen("again.orvik");
+  EXPECT_EQ(again->Elements()->Count(), 1);
+  EXPECT_EQ(again->Text(), text);
+}
+
 TEST_F(DocumentTest, WhatItDoesNotKnowIsWrittenBack) {
   const auto text =
       Opened(
