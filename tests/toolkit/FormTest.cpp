@@ -254,5 +254,26 @@ TEST_F(FormTest, TopmostChangesNeitherPlaceNorSize) {
   EXPECT_EQ(form->Bounds(), (platform::Rect{10, 20, 30, 40}));
 }
 
+TEST_F(FormTest, AShownWindowGrowsWithItsTextsAndDoesNotShrink) {
+  form = app->CreateForm("Other");
+  auto label = form->AddLabel("lbl");
+  platform::Grid grid;
+  grid.rows = {{}};
+  grid.columns = {{}};
+  grid.cells = {{"lbl", 0, 0}};
+  form->SetGrid(grid);
+  label->SetCaption("a text");
+  form->Show();
+  const auto small = form->InnerSize();
+  label->SetCaption("a much longer text");
+  const auto large = form->InnerSize();
+  EXPECT_GT(large.width, small.width);
+  label->SetCaption("a text");
+  EXPECT_EQ(form->InnerSize(), large);
+  form->Hide();
+  label->SetCaption("text");
+  EXPECT_LT(form->InnerSize().width, small.width);
+}
+
 }  // namespace
 }  // namespace bench::headless

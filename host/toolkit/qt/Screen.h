@@ -54,7 +54,8 @@ class Screen {
   /// wait until what a person did has reached the windows.
   bool Update();
 
-  /// Runs until `Quit`, sleeping in Qt.
+  /// Runs until `Quit`, sleeping in Qt; what waits inside (a modal form, a measurement) comes to its end
+  /// first.
   void Exec();
   void Quit();
 
