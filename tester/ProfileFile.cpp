@@ -182,6 +182,8 @@ class Parser {
   void TakeText(const std::string& key, std::string& text) const {
     const Entry* given = Setting(key);
     if (!given) return;
+    if (!IsSendable(given->value))
+      Fail(given->line, Quoted(key) + " holds a tab, which cannot be sent; write a blank in its place");
     if (Utf8ToLatin1(given->value).value().size() > kLongestText)
       Fail(given->line,
            Quoted(key) + " is too long; give at most " + std::to_string(kLongestText) + " characters");

@@ -126,6 +126,8 @@ INSTANTIATE_TEST_SUITE_P(
         BadProfile{
             "4x = 1 Ohm",
             "'4x' is no test number; use one from 1 to 32767 that is not a multiple of 100, such as 410"},
+        BadProfile{"serial = 4\t7\n410 = 1",
+                   "'serial' holds a tab, which cannot be sent; write a blank in its place"},
         BadProfile{"910/11 = 1", "'11' is no lead; use 0 (the test itself) or 1 to 10"},
         BadProfile{"910/ = 1", "'' is no lead; use 0 (the test itself) or 1 to 10"},
         BadProfile{"410 = 0,12 Ohm", "'0,12' is not a number; write the reading with a point, such as 0.123"},

@@ -1,0 +1,95 @@
+// The command line of orvik-bench: a word in each line. What is asked for is carried out, in a folder of its
+// own.
+#include <cstdlib>
+#include <iostream>
+#include <sstream>
+#include <vector>
+
+#include "fuzz/Promise.h"
+#include "fuzz/Scratch.h"
+#include "host/app/Program.h"
+
+namespace {
+
+using fuzz::Require;
+
+/// Everything that is printed, while it lives.
+class Printed {
+ public:
+  Printed() : out_(std::cout.rdbuf(text_.rdbuf())), error_(std::cerr.rdbuf(errors_.rdbuf())) {}
+  Printed(const Printed&) = delete;
+  Printed& operator=(const Printed&) = delete;
+  ~Printed() {
+    std::cout.rdbuf(out_);
+    std::cerr.rdbuf(error_);
+  }
+
+  std::string Errors() const { return errors_.str(); }
+
+ private:
+  std::ostringstream text_, errors_;
+  std::streambuf* const out_;
+  std::streambuf* const error_;
+};
+
+/// The folder in which the commands are carried out: afresh for each, with a document in it.
+class Workplace {
+ public:
+  Workplace() {
+    setenv("ORVIK_STATE", (scratch_.Folder() / "state").c_str(), 1);
+    setenv("ORVIK_LANG", "C", 1);
+  }
+
+  void Refresh() const {
+    const auto folder = scratch_.Folder() / "outer" / "inner";
+    std::filesystem::remove_all(folder.parent_path());
+    std::filesystem::create_directories(folder);
+    std::filesystem::copy_file(SOURCE_PATH "/tests/archive/finished.orvik", folder / "a.orvik");
+    std::filesystem::current_path(folder);
+  }
+
+ private:
+  fuzz::Scratch scratch_;
+};
+
+std::vector<std::string> WordsOf(const std::string& text) {
+  std::vector<std::string> words;
+  std::istringstream lines(text);
+  for (std::string word; std::getline(lines, word);) {
+    for (char& c : word) {
+      if (c == '/') c = '_';  // nothing outside the folder is touched
+    }
+    words.emplace_back(word.c_str());  // a word of the command line ends at a NUL
+  }
+  return words;
+}
+
+/// What starts other programs, or Qt, is not for here: other tests look at that.
+bool IsElsewhere(const std::string& word) {
+  return word == "gui" || word.starts_with("--simulate") || word.ends_with("pdf") || word.ends_with("PDF");
+}
+
+/// The exit status, for which there is a reason on the standard error unless it is 0.
+int StatusOf(const std::vector<std::string>& words) {
+  std::vector<const char*> arguments{"orvik-bench"};
+  for (const auto& word : words) arguments.push_back(word.c_str());
+  const Printed printed;
+  const auto status =
+      static_cast<int>(bench::RunProgram(static_cast<int>(arguments.size()), arguments.data()));
+  Require(status != 4, "no command line is an internal error: " + printed.Errors());
+  return status;
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  static const Workplace workplace;
+  const auto words = WordsOf(fuzz::TextOf(data, size));
+  for (const auto& word : words) {
+    if (IsElsewhere(word)) return 0;
+  }
+  workplace.Refresh();
+  const auto status = StatusOf(words);
+  Require(status >= 0 && status <= 3, "the exit status is one of those that are documented");
+  return 0;
+}

@@ -1,0 +1,73 @@
+// A document: opened, looked through for faults, saved and opened again, shown and reported.
+#include "host/document/Document.h"
+
+#include <algorithm>
+
+#include "OrvikTypeLib/HostError.h"
+#include "fuzz/Bench.h"
+#include "fuzz/HostErrors.h"
+#include "fuzz/Scratch.h"
+#include "host/app/DocumentJson.h"
+#include "host/app/DocumentText.h"
+#include "host/app/report/DocumentReport.h"
+#include "host/document/DocumentCheck.h"
+#include "host/report/HtmlReport.h"
+#include "host/report/TextReport.h"
+#include "host/services/Text.h"
+#include "host/services/XmlDocument.h"
+
+namespace {
+
+using bench::Document;
+using fuzz::Require;
+
+constexpr char kFile[] = "given.orvik";
+
+std::shared_ptr<Document> Opened(const std::filesystem::path& file) {
+  return Document::Open(fuzz::TheBench().Only().SharedHost(), file, bench::DocumentFile::Use::kRead);
+}
+
+/// Every finding stands in a line that there is, and says something.
+void CheckFindings(const std::string& text) {
+  const auto lines = 1 + static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n'));
+  for (const auto& found : bench::CheckDocument(text, *fuzz::TheBench().Host().Elements()))
+    Require(!found.text.empty() && found.line >= 1 && found.line <= lines && found.column >= 1,
+            "a finding says something and stands in the text");
+}
+
+/// Whatever the document holds can be shown, and is text everywhere, never markup.
+void Show(const Document& document) {
+  auto& host = fuzz::TheBench().Host();
+  const auto summary = bench::SummaryOf(document, host, bench::NamedStandards(document, host));
+  const auto json = bench::Indented(bench::JsonOf(summary));
+  Require(nlohmann::json::accept(json), "shown as JSON it is JSON");
+  Require(bench::InvalidUtf8(json) == std::string::npos, "shown as JSON it is UTF-8");
+  Require(!bench::TextOf(summary).empty(), "shown as text it says something");
+
+  const auto report = bench::ReportOf(document, host);
+  const auto html = bench::HtmlReport(report);
+  pugi::xml_document xml;
+  const auto parsed = xml.load_buffer(html.data(), html.size(), pugi::parse_default, pugi::encoding_utf8);
+  Require(parsed, std::string("a report as HTML is well formed: ") + parsed.description());
+  Require(bench::InvalidUtf8(html) == std::string::npos, "a report as HTML is UTF-8");
+  Require(bench::InvalidUtf8(bench::TextReport(report)) == std::string::npos, "a report as text is UTF-8");
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  static const fuzz::Scratch scratch;
+  const auto text = fuzz::TextOf(data, size);
+  CheckFindings(text);
+
+  const auto file = scratch.Write(kFile, text);
+  std::shared_ptr<Document> document;
+  fuzz::RefusalOf([&] { document = Opened(file); }, orvik::HostError::kPathError, kFile);
+  if (!document) return 0;
+
+  const auto saved = document->Text();
+  Require(Opened(scratch.Write("saved.orvik", saved))->Text() == saved,
+          "what was saved and opened again is saved as the same bytes");
+  Show(*document);
+  return 0;
+}

@@ -1,0 +1,173 @@
+// The replies of a tester during a whole run, at the plug-in and at what the host makes of them.
+//
+// The input is what comes after each command, cut at NUL bytes. An empty piece is the simulated tester's own
+// reply; a byte 0x01 lets a second pass, 0x02 pulls the cable. An input that begins with "S" is for a
+// sequence.
+#include <algorithm>
+#include <cmath>
+
+#include "OrvikTypeLib/ILimit.h"
+#include "OrvikTypeLib/ILimitData.h"
+#include "OrvikTypeLib/IStandard.h"
+#include "OrvikTypeLib/IStandardColl.h"
+#include "OrvikTypeLib/ITestContainer.h"
+#include "fuzz/Bench.h"
+#include "fuzz/Promise.h"
+#include "host/document/Document.h"
+#include "host/instruments/InstrumentColl.h"
+#include "host/run/AutoOperator.h"
+#include "host/run/DocumentRunner.h"
+#include "host/run/ElementSummary.h"
+
+namespace {
+
+using fuzz::Require;
+
+constexpr char kName[] = "IEC 62353";
+constexpr int kHighest = 300;  // mOhm
+enum Status { kPassed = 1, kNotApplicable = 3 };
+
+/// Answers each command with the next piece of the input.
+class Answers {
+ public:
+  explicit Answers(std::string input) : rest_(std::move(input)) {}
+
+  void To(const std::string& command) {
+    const auto end = std::min(rest_.find('\0'), rest_.size());
+    const auto piece = rest_.substr(0, end);
+    rest_.erase(0, std::min(end + 1, rest_.size()));
+    if (piece.empty())
+      SendOwn(command);
+    else
+      Send(piece);
+  }
+
+ private:
+  void SendOwn(const std::string& command) {
+    auto& line = fuzz::TheBench().Line();
+    const auto now = fuzz::TheBench().Application().Now();
+    tester_.Receive(command + "\r\n", now);
+    while (const auto due = tester_.NextDue()) line.SendBytes(tester_.TakeDue(*due)->bytes, *due - now);
+  }
+
+  static void Send(const std::string& piece) {
+    auto& line = fuzz::TheBench().Line();
+    std::chrono::seconds after{};
+    std::string bytes;
+    const auto send = [&] {
+      if (!bytes.empty()) line.SendBytes(std::exchange(bytes, {}), after);
+    };
+    for (const char byte : piece) {
+      if (byte != '\x01' && byte != '\x02') {
+        bytes += byte;
+        continue;
+      }
+      send();
+      if (byte == '\x01') ++after;
+      if (byte == '\x02') return line.Unplug();
+    }
+    send();
+  }
+
+  std::string rest_;
+  sim::Tester tester_{*sim::MakeBuiltInProfile(std::string(sim::kDefaultProfile))};
+};
+
+/// A document with one test, or with a sequence of two, and a limit for each.
+std::shared_ptr<bench::Document> NewDocument(bool sequence) {
+  auto& host = fuzz::TheBench().Only();
+  auto document = bench::Document::Create(host.SharedHost(), host.Folder() / "run.orvik");
+  document->AddTest(sequence ? 400 : 410);
+  for (const std::int32_t id : sequence ? std::vector{2, 3} : std::vector{1})
+    document->Find(id)->Limits()->CreateStandard(kName, "")->Limit(1)->SetBounds("",
+                                                                                 std::to_string(kHighest));
+  const auto selected = orvik::As<orvik::IStandard>(host.Host().CreateObject(orvik::HostClasses::kStandard));
+  selected->Initialize(kName, "", 1);
+  document->Standards()->Add(selected);
+  return document;
+}
+
+std::vector<std::shared_ptr<orvik::ITestElement>> TopOf(const bench::Document& document) {
+  return {document.Elements()->item(1)};
+}
+
+void Run(bench::Document& document, const std::string& input) {
+  auto& bench = fuzz::TheBench();
+  Answers answers(input);
+  bench.Line().AnswerBy([&](const std::string& command) { answers.To(command); });
+  bench::DoubtTracker doubts(*bench.Ports().TheWire());
+  bench::LinkWatch link(bench.Ports());
+  bench::StopRequest stop;
+  const auto controller = std::make_shared<bench::RunController>(
+      bench::RunController::Parts{document.Standards(), document.Instruments(), *bench.Host().Elements(),
+                                  doubts, [&] { document.Text(); }});
+  bench::AutoOperator person(bench.Only().SharedApplication(), stop);
+  bench::DocumentRunner(controller, link, stop).Run(TopOf(document));
+  bench.Line().AnswerBy([](const std::string&) {});
+}
+
+/// What is on its way still comes, and changes nothing any more.
+void LetTimePass() {
+  auto& application = fuzz::TheBench().Application();
+  const auto end = application.Now() + std::chrono::hours(2);
+  while (application.Now() < end) application.WaitMessages(end);
+}
+
+/// Whether a line came that begins so.
+bool Came(const std::string& beginning) {
+  const auto received = fuzz::TheBench().Wire().Received();
+  return std::any_of(received.begin(), received.end(),
+                     [&](const std::string& line) { return line.starts_with(beginning); });
+}
+
+/// A verdict that counts is the tester's own.
+void CheckElement(const bench::ElementSummary& element) {
+  if (element.sequence || !element.CountsAsDone()) return;
+  if (element.status == kNotApplicable) {
+    Require(Came("ERRM"), "a test is not applicable when the tester says so");
+    return;
+  }
+  Require(element.status == kPassed, "what counts as done has passed or is not applicable");
+  const auto& measured = element.measurement;
+  Require(measured && measured->value && std::isfinite(*measured->value), "what passed was measured");
+  Require(measured->flags.empty() && measured->unit == "mOhm", "what passed was measured in its unit");
+  Require(*measured->value <= kHighest, "what passed keeps its limit");
+  Require(Came("gres," + std::to_string(element.testId) + ","), "what passed came over the wire");
+}
+
+void CheckOutcome(const std::vector<bench::ElementSummary>& elements) {
+  const bool allDone =
+      std::all_of(elements.begin(), elements.end(),
+                  [](const bench::ElementSummary& element) { return element.CountsAsDone(); });
+  Require((bench::OutcomeOf(elements) == bench::Outcome::kPassed) == allDone,
+          "a document has passed when all of it has");
+  for (const auto& element : elements) CheckElement(element);
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  auto input = fuzz::TextOf(data, size);
+  const bool sequence = input.starts_with('S');
+  if (sequence) input.erase(0, 1);
+
+  auto& bench = fuzz::TheBench();
+  bench.Wire().Clear();
+  const auto document = NewDocument(sequence);
+  const auto begin = bench.Application().Now();
+  Run(*document, input);
+  Require(bench.Application().Now() - begin < std::chrono::minutes(10),
+          "a run ends within its bounded waits");
+  Require(bench.Wire().Sent().size() <= 50, "the commands of a run are bounded");
+  Require(!bench.Line().Line()->Connected(), "no port stays open");
+  Require(bench.Application().Forms().empty(), "no window stays open");
+
+  const auto summary = [&] {
+    return bench::Summarise(TopOf(*document), *bench.Host().Elements(), document->Standards());
+  };
+  CheckOutcome(summary());
+  const auto saved = document->Text();
+  LetTimePass();
+  Require(document->Text() == saved, "what comes after the run changes nothing");
+  return 0;
+}
