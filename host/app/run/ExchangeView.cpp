@@ -10,7 +10,7 @@ namespace bench {
 
 namespace {
 
-std::string Seconds(orvik::platform::Time time) {
+std::string SecondsText(orvik::platform::Time time) {
   char text[32];
   const auto tenths = std::max<long long>(0, (time.count() + 99'999) / 100'000);
   std::snprintf(text, sizeof text, "%lld.%lld s", tenths / 10, tenths % 10);
@@ -51,9 +51,9 @@ std::string ExchangeView::Text(orvik::platform::Time now) const {
   if (Waiting(now))
     return Tr("%%1, attempt %%2 of %%3: reply within %%4",
               {command_, std::to_string(attempt_), std::to_string(kMaxAttempts),
-               Seconds(since_ + kReplyTime - now)});
+               SecondsText(since_ + kReplyTime - now)});
   const auto next = since_ + (waiting_ ? kReplyTime : orvik::platform::Time(0)) + kPause;
-  const auto wait = Seconds(next - now);
+  const auto wait = SecondsText(next - now);
   if (waiting_) return Tr("no reply to %%1: next command in %%2", {command_, wait});
   if (command_.empty()) return Tr("port open: next command in %%1", {wait});
   return Tr("%%1 answered: next command in %%2", {command_, wait});
