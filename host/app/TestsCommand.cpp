@@ -1,5 +1,6 @@
 #include "host/app/TestsCommand.h"
 
+#include <algorithm>
 #include <iostream>
 
 #include "host/app/CatalogueEntries.h"
@@ -11,6 +12,9 @@
 namespace bench {
 
 namespace {
+
+/// Levels beyond this one stand below each other: a catalogue may be nested to any depth.
+constexpr std::size_t kDeepestIndent = 20;
 
 nlohmann::ordered_json JsonOf(const std::vector<CatalogueEntry>& entries) {
   auto tests = nlohmann::ordered_json::array();
@@ -49,7 +53,7 @@ ExitStatus TestsCommand::Run(const GlobalOptions& options) {
     return ExitStatus::kPassed;
   }
   for (const auto& entry : entries) {
-    const auto name = std::string(2 * entry.depth, ' ') + entry.name;
+    const auto name = std::string(2 * std::min(entry.depth, kDeepestIndent), ' ') + entry.name;
     std::cout << LeftPadded(std::to_string(entry.testId), 5) << "  "
               << (entry.unit.empty() ? name : Padded(name, 60) + entry.unit) << "\n";
   }

@@ -78,15 +78,17 @@ void ErrorLog::IErrorLog_LogEntry(const std::string& sSource, std::int32_t lNumb
                                   std::int32_t lLevel, const orvik::Variant& v1, const orvik::Variant& v2,
                                   const orvik::Variant& v3, const orvik::Variant& v4,
                                   const orvik::Variant& v5) {
-  std::string line = UtcText(clock_()) + "\t" + Field(sSource) + "\t" + NumberFields(lNumber) + "\t" +
-                     Field(sPlace) + "\t" + std::to_string(lLevel);
+  std::string entry = "\t" + Field(sSource) + "\t" + NumberFields(lNumber) + "\t" + Field(sPlace) + "\t" +
+                      std::to_string(lLevel);
   for (const auto* value : {&v1, &v2, &v3, &v4, &v5}) {
-    if (!orvik::IsEmpty(*value)) line += "\t" + Field(ValueText(*value));
+    if (!orvik::IsEmpty(*value)) entry += "\t" + Field(ValueText(*value));
   }
-  Append(line + "\n");
+  // A catalogue with a hundred thousand entries of one fault must not wait for the disk as often.
+  Append(UtcText(clock_()) + entry + "\n", entry != lastEntry_);
+  lastEntry_ = std::move(entry);
 }
 
-void ErrorLog::Append(const std::string& line) const {
+void ErrorLog::Append(const std::string& line, bool toDisk) const {
   CreateFolder(file_.parent_path());
   auto lockFile = file_;
   lockFile += ".lock";
@@ -97,7 +99,7 @@ void ErrorLog::Append(const std::string& line) const {
   if (!descriptor.Valid())
     ThrowFileError(file_, Tr("%%1 cannot be opened"), errno, Tr("check the folder and your permissions"));
   WriteDescriptor(descriptor.Get(), line, file_);
-  if (fsync(descriptor.Get()) != 0)
+  if (toDisk && fsync(descriptor.Get()) != 0)
     ThrowFileError(file_, Tr("%%1 cannot be brought to the disk"), errno, Tr("check the disk"));
 }
 

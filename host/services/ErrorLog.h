@@ -14,8 +14,9 @@ namespace bench {
 /// number in hexadecimal and signed decimal, place, level, values. Tabs, line ends and other control
 /// characters in a field are written as "\t", "\n", "\x1b"; a backslash is doubled.
 ///
-/// An entry is on disk when the call returns. A full file becomes "error.log.1", that one "error.log.2"; the
-/// oldest goes. Several programs may write at once. `HostError` 75 when the file cannot be written.
+/// An entry is on disk when the call returns; one that repeats the entry before it is written, and comes to
+/// the disk when the system likes. A full file becomes "error.log.1", that one "error.log.2"; the oldest
+/// goes. Several programs may write at once. `HostError` 75 when the file cannot be written.
 class ErrorLog final : public orvik::IErrorLog {
  public:
   using Clock = std::function<std::chrono::system_clock::time_point()>;
@@ -34,12 +35,13 @@ class ErrorLog final : public orvik::IErrorLog {
                           const orvik::Variant& v3, const orvik::Variant& v4,
                           const orvik::Variant& v5) override;
 
-  void Append(const std::string& line) const;
+  void Append(const std::string& line, bool toDisk) const;
   void RotateBefore(std::size_t added) const;
 
   std::filesystem::path file_;
   std::uintmax_t limit_;
   Clock clock_;
+  std::string lastEntry_;  ///< without its time
 };
 
 }  // namespace bench

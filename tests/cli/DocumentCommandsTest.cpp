@@ -15,6 +15,18 @@ TEST_F(DocumentCommandsTest, TestsPrintsTheCatalogue) {
   EXPECT_EQ(json["tests"][0]["kind"], "sequence");
 }
 
+TEST_F(DocumentCommandsTest, TestsPrintsACatalogueOfAnyDepth) {
+  std::string entries, ends;
+  for (int level = 0; level < 3000; ++level) {
+    entries += R"(<TestElement ID="100">)";
+    ends += "</TestElement>";
+  }
+  Write("deep.xml", "<TemplateData>" + entries + ends + "</TemplateData>");
+  const auto text = Bench({"tests", "--catalogue", Path("deep.xml")});
+  EXPECT_EQ(text.status, 0) << text.error;
+  EXPECT_LT(text.out.size(), 3000U * 100);
+}
+
 TEST_F(DocumentCommandsTest, ACatalogueFileStandsInForTheRegistry) {
   Write("own.xml",
         R"(<TemplateData><TestElement ID="410"><Type LID=""/><Name LID="1::Mine"/><Parameter LID=""/>

@@ -5,6 +5,7 @@
 #include <filesystem>
 
 #include "host/document/DocumentFile.h"
+#include "host/services/ErrorLog.h"
 #include "host/services/RegistryStore.h"
 #include "tests/host/TestFolder.h"
 
@@ -67,6 +68,15 @@ TEST(Durability, ASettingIsOnTheDiskWhenItIsWritten) {
   Done().clear();
   store.Write(0, "Key", "Name", std::string("value"));
   EXPECT_EQ(Done(), Safely("registry.json", folder));
+}
+
+TEST(Durability, AnEntryOfTheErrorLogIsOnTheDiskUnlessItRepeatsTheOneBefore) {
+  TestFolder folder;
+  ErrorLog log(folder.Path());
+  Done().clear();
+  for (const std::int32_t number : {1, 1, 1, 2, 1})
+    static_cast<orvik::IErrorLog&>(log).LogEntry("a", number, "b", 3, {}, {}, {}, {}, {});
+  EXPECT_EQ(Done(), (std::vector<std::string>(3, "flush error.log")));
 }
 
 }  // namespace
