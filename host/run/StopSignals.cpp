@@ -13,12 +13,12 @@ namespace {
 constexpr int kSignals[] = {SIGINT, SIGTERM, SIGHUP};
 
 // A signal handler reaches nothing but these.
-std::atomic<headless::Application*> receiver{nullptr};
+std::atomic<headless::Application*> signalReceiver{nullptr};
 std::atomic<int> arrived{0};
 
 void Handle(int signal) {
   arrived.store(signal);
-  if (auto* application = receiver.load()) application->Wake();
+  if (auto* application = signalReceiver.load()) application->Wake();
 }
 
 void Install(int signal, void (*handler)(int)) {
@@ -32,7 +32,7 @@ void Install(int signal, void (*handler)(int)) {
 
 StopSignals::StopSignals(headless::Application& application, std::function<void(int signal)> stop)
     : stop_(std::move(stop)), woken_(application.Woken().Subscribe([this] { Deliver(); })) {
-  receiver.store(&application);
+  signalReceiver.store(&application);
   for (const int signal : kSignals) Install(signal, &Handle);
   Install(SIGPIPE, SIG_IGN);
 }
@@ -40,7 +40,7 @@ StopSignals::StopSignals(headless::Application& application, std::function<void(
 StopSignals::~StopSignals() {
   for (const int signal : kSignals) Install(signal, SIG_DFL);
   Install(SIGPIPE, SIG_DFL);
-  receiver.store(nullptr);
+  signalReceiver.store(nullptr);
 }
 
 void StopSignals::Deliver() {
