@@ -1,9 +1,10 @@
 #include "host/desktop/TesterBox.h"
 
-#include <QLineEdit>
+#include <QWheelEvent>
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <utility>
 
 #include "host/app/InputError.h"
 #include "host/desktop/Shown.h"
@@ -36,7 +37,8 @@ std::vector<std::string> SerialDevices() {
   return devices;
 }
 
-TesterBox::TesterBox(double timeScale, QWidget* parent) : QComboBox(parent), timeScale_(timeScale) {
+TesterBox::TesterBox(double timeScale, QWidget* parent, std::function<std::vector<std::string>()> devices)
+    : QComboBox(parent), timeScale_(timeScale), devices_(std::move(devices)) {
   setObjectName("tester");
   setAccessibleName(Shown(Tr("Tester")));
   setToolTip(Shown(Tr("The serial device of the tester, such as /dev/ttyUSB0, or a simulated tester")));
@@ -44,8 +46,9 @@ TesterBox::TesterBox(double timeScale, QWidget* parent) : QComboBox(parent), tim
   setInsertPolicy(QComboBox::NoInsert);
   setMinimumContentsLength(30);
   Fill();
-  // Only a simulated tester can be hurried.
-  setCurrentIndex(timeScale == 1.0 ? 0 : FirstSimulated());
+  // Only a simulated tester can be hurried. Otherwise, without a device, the person has to say which to use.
+  const int firstDevice = FirstSimulated() > 0 ? 0 : -1;
+  setCurrentIndex(timeScale == 1.0 ? firstDevice : FirstSimulated());
 }
 
 int TesterBox::FirstSimulated() const { return findData(QString(kSimulatedProfiles.front())); }
@@ -68,7 +71,7 @@ TesterChoice TesterBox::Choice() const {
 
 void TesterBox::Fill() {
   clear();
-  for (const auto& device : SerialDevices()) addItem(Shown(device));
+  for (const auto& device : devices_()) addItem(Shown(device));
   for (const auto* profile : kSimulatedProfiles)
     addItem(Shown(Tr("Simulated tester: %%1", {profile})), QString(profile));
 }
@@ -81,6 +84,11 @@ void TesterBox::showPopup() {
   setCurrentIndex(findText(text));
   if (currentIndex() < 0) setEditText(text);
   QComboBox::showPopup();
+}
+
+void TesterBox::wheelEvent(QWheelEvent* event) {
+  // Another tester is chosen, never scrolled to in passing.
+  event->ignore();
 }
 
 }  // namespace bench::desktop
