@@ -12,6 +12,7 @@
 #include <QStyle>
 #include <QTimer>
 #include <QToolBar>
+#include <algorithm>
 #include <iostream>
 #include <utility>
 
@@ -81,7 +82,28 @@ void MainWindow::EndByRequest() {
 }
 
 void MainWindow::TellLater(const std::string& error) {
-  Later([this, error] { ShowError(this, error); }, When::kAlways);
+  // What goes on again and again need be told but once.
+  if (std::find(untold_.begin(), untold_.end(), error) == untold_.end()) untold_.push_back(error);
+  Remark(error);
+  Later([] {}, When::kAlways);
+}
+
+void MainWindow::TellWhatWaits() {
+  // A message to be closed would hold up the session with the tester.
+  if (session_ || calibration_) return;
+  while (!untold_.empty()) {
+    const auto error = untold_.front();
+    untold_.erase(untold_.begin());
+    Tell(error);
+  }
+}
+
+void MainWindow::Tell(const std::string& error) {
+  // Once the program is told to end there may be nobody to read it there.
+  if (byRequest_)
+    std::cerr << "orvik-bench: " << error << std::endl;
+  else
+    ShowError(this, error);
 }
 
 QAction* MainWindow::NewAction(const char* name, const std::string& text, const QKeySequence& keys,
@@ -120,6 +142,8 @@ void MainWindow::MakeActions() {
   actions_.runSelected = NewAction("runSelected", Tr("Run se&lected"), Qt::Key_F7, &MainWindow::RunSelected);
   actions_.stop = NewAction("stop", Tr("S&top"), Qt::Key_F8, &MainWindow::Stop, When::kAlways);
   actions_.stop->setIcon(icon(QStyle::SP_MediaStop));
+  // The guide's window has the keyboard while there is something to stop.
+  actions_.stop->setShortcutContext(Qt::ApplicationShortcut);
   actions_.resume->setToolTip(Shown(Tr("Run only what has no result yet (F6)")));
   actions_.stop->setToolTip(
       Shown(Tr("Drop the running test and close the session with the tester in good order (F8)")));
@@ -211,10 +235,11 @@ void MainWindow::MakeBody() {
 
 void MainWindow::Later(std::function<void()> work, When when) {
   desk_.Bench().Application()->Post([this, when, work = std::move(work)] {
-    // What is asked for twice, such as by a double click, is done once.
-    if (working_ && when == When::kIdle) return;
+    // What is asked for twice, such as by a double click, is done once; and nothing after the end.
+    if ((working_ || left_) && when == When::kIdle) return;
     const bool outer = std::exchange(working_, true);
     Try(work);
+    TellWhatWaits();
     working_ = outer;
     LeaveIfOver();
   });
@@ -234,10 +259,7 @@ void MainWindow::Try(const std::function<void()>& work) {
     trouble = Tr("internal error: %%1", {error.what()});
   }
   if (trouble.empty()) return;
-  if (byRequest_)
-    std::cerr << "orvik-bench: " << trouble << std::endl;
-  else
-    ShowError(this, trouble);
+  Tell(trouble);
   Refresh();
 }
 

@@ -3,6 +3,7 @@
 #include <QMainWindow>
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "host/app/run/RunSelection.h"
 #include "host/desktop/Desk.h"
@@ -51,7 +52,8 @@ class MainWindow : public QMainWindow {
   void EndByRequest();
   /// Whether a run was stopped, or changes were left unsaved, by `EndByRequest`.
   bool LeftOver() const { return leftOver_; }
-  /// Shows an error once what goes on now has ended.
+  /// Shows an error once what goes on now has ended: at once in the line for remarks, and to be closed when
+  /// no session with the tester is on.
   void TellLater(const std::string& error);
 
  private:
@@ -84,6 +86,8 @@ class MainWindow : public QMainWindow {
 
   void Later(std::function<void()> work, When when = When::kIdle);
   void Try(const std::function<void()>& work);
+  void Tell(const std::string& error);
+  void TellWhatWaits();
   bool Busy() const { return session_ || calibration_ || dialog_; }
 
   void Refresh();
@@ -143,6 +147,7 @@ class MainWindow : public QMainWindow {
   RunProgress* progress_ = nullptr;
   CalibrationWindow* calibration_ = nullptr;  ///< while it is shown
   orvik::platform::IForm* dialog_ = nullptr;  ///< the plug-in's for settings, while it is shown
+  std::vector<std::string> untold_;           ///< errors that `TellLater` has been given
   bool working_ = false;
   bool leaveWhenOver_ = false;  ///< once nothing is open any more
   bool byRequest_ = false;
