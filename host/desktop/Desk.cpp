@@ -80,7 +80,13 @@ std::filesystem::path Desk::UnsavedFile() const {
 }
 
 std::filesystem::path Desk::KeepUnsaved() const {
-  const auto file = UnsavedFile();
+  auto file = UnsavedFile();
+  // What an earlier session kept stays until a person has looked at it.
+  std::error_code none;
+  for (int number = 2; std::filesystem::exists(file, none); ++number) {
+    file = UnsavedFile();
+    file += "." + std::to_string(number);
+  }
   ReplaceFile(file, document_->Text());
   return file;
 }

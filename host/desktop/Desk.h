@@ -34,7 +34,8 @@ class Desk {
   bool Changed() const;
   /// The file beside the document in which an earlier session may have left unsaved changes.
   std::filesystem::path UnsavedFile() const;
-  /// Keeps unsaved changes in that file; the document is left as it is. Returns its path.
+  /// Keeps unsaved changes in that file, or, while that holds those of an earlier session, in FILE.unsaved.2
+  /// and so on; the document is left as it is. Returns the path.
   std::filesystem::path KeepUnsaved() const;
 
   DocumentSummary Summary() const;
