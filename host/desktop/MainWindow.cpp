@@ -56,19 +56,24 @@ MainWindow::MainWindow(Workbench& workbench, const GlobalOptions& options, std::
   progressTimer_ = new QTimer(this);
   progressTimer_->setInterval(kRedrawMilliseconds);
   connect(progressTimer_, &QTimer::timeout, this, [this] { ShowProgress(); });
-  Remark(TimeScaleRemark(workbench.TimeScale()));
-  Refresh();
+  Begin();
 }
 
 MainWindow::~MainWindow() = default;
 
 void MainWindow::Open(const std::filesystem::path& file) {
   desk_.Open(file);
-  equipment_->Show(desk_.TheDocument().equipment);
+  Begin();
   std::error_code none;
   if (const auto unsaved = desk_.UnsavedFile(); std::filesystem::exists(unsaved, none))
     Remark(
         Tr("An earlier session left changes of this document unsaved; they are in %%1.", {unsaved.string()}));
+}
+
+void MainWindow::Begin() {
+  equipment_->Show(desk_.HasDocument() ? desk_.TheDocument().equipment : Document::Equipment{});
+  // What was remarked of another document is no longer true.
+  Remark(TimeScaleRemark(desk_.Bench().TimeScale()));
   Refresh();
 }
 

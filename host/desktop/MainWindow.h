@@ -90,6 +90,8 @@ class MainWindow : public QMainWindow {
   void TellWhatWaits();
   bool Busy() const { return session_ || calibration_ || dialog_; }
 
+  /// Shows the document on the desk, or that there is none, from the beginning.
+  void Begin();
   void Refresh();
   void ShowVerdict();
   void ShowDetails();

@@ -47,8 +47,7 @@ void MainWindow::New() {
                                       .toWrite = true});
   if (!file) return;
   desk_.Create(*file);
-  equipment_->Show({});
-  Refresh();
+  Begin();
 }
 
 void MainWindow::OpenOther() {

@@ -17,6 +17,7 @@ namespace desktop_test {
 namespace {
 
 using testing::HasSubstr;
+using testing::Not;
 
 class DocumentWindowTest : public DesktopTest {
  protected:
@@ -166,6 +167,29 @@ TEST_F(DocumentWindowTest, AnUnfinishedDocumentIsArchivedOnlyWhenAsked) {
   Drive({Press("archive"), Answer("question", "Add it as it is", "is not finished"),
          Answer("message", "Close", "added as document 1")});
   EXPECT_TRUE(std::filesystem::exists(Path("state/archive.sqlite")));
+}
+
+TEST_F(DocumentWindowTest, ARemarkGoesWithItsDocument) {
+  window_->Open(NewDocument({"410"}));
+  TypeAsset("-B");
+  Drive({Press("save"), Await("saved", [this] { return !Changed(); })});
+  const auto* remark = window_->findChild<QLabel*>("remark");
+  EXPECT_THAT(remark->text().toStdString(), HasSubstr("Saved: "));
+  Drive({Press("new"), TakeFile(Path("other.orvik")),
+         Await("the new one", [this] { return window_->windowTitle().startsWith("other.orvik"); })});
+  EXPECT_THAT(remark->text().toStdString(), Not(HasSubstr("Saved: ")));
+}
+
+TEST_F(DocumentWindowTest, ChangesKeptEarlierAreNotOverwritten) {
+  const auto file = NewDocument({"410"});
+  Write("pump.orvik.unsaved", "of an earlier session");
+  window_->Open(file);
+  TypeAsset("-B");
+  testing::internal::CaptureStderr();
+  window_->EndByRequest();
+  EXPECT_THAT(testing::internal::GetCapturedStderr(), HasSubstr("pump.orvik.unsaved.2"));
+  EXPECT_EQ(Contents(file + ".unsaved"), "of an earlier session");
+  EXPECT_THAT(Contents(file + ".unsaved.2"), HasSubstr("Asset=\"PUMP-7-B\""));
 }
 
 }  // namespace
