@@ -19,6 +19,7 @@ enum Column { kNumber, kName, kResult, kValue, kRemark, kColumns };
 constexpr int kIdentifier = Qt::UserRole;
 constexpr int kColumnRoom = 12, kWidest = 400;  ///< of a column, in pixels
 constexpr int kParent = Qt::UserRole + 1;
+constexpr int kHalfLight = 128;
 
 QString VisibleInTree(const std::string& text) { return Shown(report::VisibleText(text)); }
 
@@ -31,6 +32,12 @@ std::string RemarkOf(const ElementSummary& element) {
   return Joined(remarks, "; ");
 }
 
+/// The colours of results are made to be read on white; elsewhere the sign alone has them.
+QBrush ColourIn(const QTreeWidget& tree, report::Standing standing) {
+  const bool dark = tree.palette().color(QPalette::Base).lightness() < kHalfLight;
+  return dark ? QBrush() : QBrush(QColor(ColourName(standing)));
+}
+
 void Fill(QTreeWidgetItem& row, const ElementSummary& element, bool running) {
   const auto standing = parts::StandingOf(element);
   const auto name = VisibleInTree(element.name);
@@ -41,7 +48,7 @@ void Fill(QTreeWidgetItem& row, const ElementSummary& element, bool running) {
   row.setToolTip(kName, name);
   row.setText(kResult, word);
   row.setIcon(kResult, running ? QIcon() : SignIcon(standing));
-  row.setForeground(kResult, running ? QBrush() : QBrush(QColor(ColourName(standing))));
+  row.setForeground(kResult, running ? QBrush() : ColourIn(*row.treeWidget(), standing));
   row.setText(kValue, VisibleInTree(ReadingText(element)));
   row.setTextAlignment(kValue, Qt::AlignRight | Qt::AlignVCenter);
   row.setText(kRemark, remark);
