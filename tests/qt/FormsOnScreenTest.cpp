@@ -97,12 +97,13 @@ TEST_F(FormsOnScreen, AModalWindowKeepsTheOthersFromThePerson) {
     Pump();
     auto& blocked = WidgetOf<QPushButton>(*ButtonOf(*first));
     bool reached = false;
-    QObject::connect(&blocked, &QPushButton::pressed, &blocked, [&] { reached = true; });
+    const auto pressed = QObject::connect(&blocked, &QPushButton::pressed, &blocked, [&] { reached = true; });
     EXPECT_NE(WidgetOf(*second).windowModality(), Qt::NonModal);
     person::Click(blocked);
     Pump();
     EXPECT_EQ(*clicks, 0);
     EXPECT_FALSE(reached) << "the window system should help";
+    QObject::disconnect(pressed);
     EXPECT_FALSE(first->Active());
     looked = true;
     WidgetOf(*second).windowHandle()->close();
