@@ -44,6 +44,8 @@ TesterBox::TesterBox(double timeScale, QWidget* parent, std::function<std::vecto
   setToolTip(Shown(Tr("The serial device of the tester, such as /dev/ttyUSB0, or a simulated tester")));
   setEditable(true);
   setInsertPolicy(QComboBox::NoInsert);
+  // What is typed is taken as it is: "/dev/ttyUSB1" is not the beginning of another.
+  setCompleter(nullptr);
   setMinimumContentsLength(30);
   Fill();
   // Only a simulated tester can be hurried. Otherwise, without a device, the person has to say which to use.

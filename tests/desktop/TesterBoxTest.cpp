@@ -2,6 +2,9 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QFocusEvent>
+#include <QLineEdit>
+#include <QTest>
 #include <QWheelEvent>
 
 #include "host/app/InputError.h"
@@ -25,6 +28,16 @@ TEST(TesterBoxTest, TheFirstDeviceIsOfferedAtOnce) {
   const TesterBox box(1.0, nullptr, [] { return std::vector<std::string>{"/dev/ttyUSB0", "/dev/ttyUSB1"}; });
   EXPECT_FALSE(box.Choice().simulated);
   EXPECT_EQ(box.Choice().port, "/dev/ttyUSB0");
+}
+
+TEST(TesterBoxTest, WhatIsTypedIsTakenAsItIs) {
+  TesterBox box(1.0, nullptr, [] { return std::vector<std::string>{"/dev/ttyUSB10"}; });
+  box.show();
+  QFocusEvent focus(QEvent::FocusIn, Qt::TabFocusReason);
+  QApplication::sendEvent(box.lineEdit(), &focus);
+  box.lineEdit()->selectAll();
+  QTest::keyClicks(box.lineEdit(), "/dev/ttyUSB1");
+  EXPECT_EQ(box.Choice().port, "/dev/ttyUSB1");
 }
 
 TEST(TesterBoxTest, OnlyASimulatedTesterCanBeHurried) { EXPECT_TRUE(TesterBox(20).Choice().simulated); }
