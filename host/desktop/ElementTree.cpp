@@ -10,6 +10,7 @@
 #include "host/desktop/Shown.h"
 #include "host/report/VisibleText.h"
 #include "host/services/Tr.h"
+#include "host/toolkit/qt/Texts.h"
 
 namespace bench::desktop {
 
@@ -22,6 +23,8 @@ constexpr int kParent = Qt::UserRole + 1;
 constexpr int kHalfLight = 128;
 
 QString VisibleInTree(const std::string& text) { return Shown(report::VisibleText(text)); }
+
+QString TipOf(const std::string& text) { return qt::PlainToolTip(report::VisibleText(text)); }
 
 std::string RemarkOf(const ElementSummary& element) {
   std::vector<std::string> remarks;
@@ -45,14 +48,14 @@ void Fill(QTreeWidgetItem& row, const ElementSummary& element, bool running) {
   const auto word = running ? Shown(Tr("running")) : Shown(Tr(element.Verdict()));
   row.setText(kNumber, QString::number(element.id));
   row.setText(kName, name);
-  row.setToolTip(kName, name);
+  row.setToolTip(kName, TipOf(element.name));
   row.setText(kResult, word);
   row.setIcon(kResult, running ? QIcon() : SignIcon(standing));
   row.setForeground(kResult, running ? QBrush() : ColourIn(*row.treeWidget(), standing));
   row.setText(kValue, VisibleInTree(ReadingText(element)));
   row.setTextAlignment(kValue, Qt::AlignRight | Qt::AlignVCenter);
   row.setText(kRemark, remark);
-  row.setToolTip(kRemark, remark);
+  row.setToolTip(kRemark, TipOf(RemarkOf(element)));
   row.setData(kName, Qt::AccessibleTextRole, name + ", " + word);
   auto font = row.font(kName);
   font.setBold(running);

@@ -8,6 +8,7 @@
 
 #include "host/desktop/Shown.h"
 #include "host/services/Tr.h"
+#include "host/toolkit/qt/Texts.h"
 
 namespace bench::desktop {
 
@@ -40,7 +41,7 @@ LimitSetDialog::LimitSetDialog(std::vector<LimitSets::Entry> sets, const QString
       row->setText(2, Shown(set->Name()));
     } else {
       row->setText(0, Shown(sets_[i].fault));
-      row->setToolTip(0, row->text(0));
+      row->setToolTip(0, qt::PlainToolTip(sets_[i].fault));
       row->setDisabled(true);
     }
   }
@@ -48,7 +49,8 @@ LimitSetDialog::LimitSetDialog(std::vector<LimitSets::Entry> sets, const QString
   all_->setObjectName("forAll");
   all_->setChecked(true);
   one_->setObjectName("forOne");
-  one_->setText(Shown(Tr("Only for the &chosen one, with all below it: %%1", {chosen.toStdString()})));
+  one_->setText(Shown(Tr("Only for the &chosen one, with all below it: %%1",
+                         {QString(chosen).replace("&", "&&").toStdString()})));
   one_->setVisible(!chosen.isEmpty());
 
   auto* buttons = new QDialogButtonBox(this);

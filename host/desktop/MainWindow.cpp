@@ -28,6 +28,7 @@
 #include "host/desktop/TesterBox.h"
 #include "host/desktop/VerdictBar.h"
 #include "host/services/Tr.h"
+#include "host/toolkit/qt/Texts.h"
 
 namespace bench::desktop {
 
@@ -311,7 +312,7 @@ void MainWindow::ShowDetails() {
 void MainWindow::ShowProgress() {
   if (!progress_) return;
   progressText_->setText(Shown(progress_->Text()));
-  progressText_->setToolTip(progressText_->text());
+  progressText_->setToolTip(qt::PlainToolTip(progress_->Text()));
   progressBar_->setRange(0, static_cast<int>(progress_->Count()));
   progressBar_->setValue(static_cast<int>(progress_->Place()) - (progress_->Place() > 0 ? 1 : 0));
 }

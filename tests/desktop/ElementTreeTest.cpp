@@ -77,5 +77,18 @@ TEST(ElementTreeTest, AResultIsReadOnADarkDesktop) {
   EXPECT_GT(ContrastOfResult(tree), kReadable);
 }
 
+TEST(ElementTreeTest, WhatADocumentHoldsIsNeverTakenForMarkup) {
+  auto document = OnePassed();
+  document.elements.back().name = "<b>failed</b>";
+  document.elements.back().doubts = {"<i>none</i>"};
+  ElementTree tree;
+  tree.Show(document, 0);
+  for (const int column : {1, 4}) {
+    const auto tip = tree.topLevelItem(0)->toolTip(column);
+    EXPECT_FALSE(tip.contains("<b>") || tip.contains("<i>")) << tip.toStdString();
+    EXPECT_TRUE(tip.contains("&lt;")) << tip.toStdString();
+  }
+}
+
 }  // namespace
 }  // namespace desktop_test
