@@ -39,6 +39,8 @@ void MainWindow::Run(RunSelection selection) {
   SelectStandards(document, *desk_.Bench().Host(), selection);
   const auto elements =
       selection.resume ? WithoutResult(selected, *desk_.Bench().Host(), document.Standards()) : selected;
+  // The document may have got limits of other standards since.
+  Refresh();
   if (elements.empty())
     return ShowMessage(this, Tr("Every element has a result; there is nothing to go on with."));
   // What cannot be saved had better be known before anything is measured.
@@ -90,6 +92,7 @@ MainWindow::Part::Part(MainWindow& window, RunSession& session, RunProgress& pro
 MainWindow::Part::~Part() {
   window_.progressTimer_->stop();
   window_.progressText_->clear();
+  window_.progressText_->setToolTip({});
   window_.session_ = nullptr;
   window_.progress_ = nullptr;
 }
