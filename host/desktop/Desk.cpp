@@ -63,6 +63,11 @@ void Desk::Open(const std::filesystem::path& file) {
   openedMark_ = Document::MarkOf(document_->Text());
 }
 
+void Desk::SaveAs(const std::filesystem::path& file) {
+  document_->MoveTo(file);
+  Save();
+}
+
 bool Desk::Changed() const {
   if (!document_) return false;
   const auto saved = document_->SavedMark();

@@ -30,6 +30,8 @@ class Desk {
   void Create(const std::filesystem::path& file);
   void Open(const std::filesystem::path& file);
   void Save() { document_->Save(); }
+  /// Saves under another name, which must not exist yet, and goes on under that; the file so far stays.
+  void SaveAs(const std::filesystem::path& file);
   /// Whether saving would write anything else than what was saved last.
   bool Changed() const;
   /// The file beside the document in which an earlier session may have left unsaved changes.

@@ -131,6 +131,7 @@ void MainWindow::MakeActions() {
   actions_.open->setIcon(icon(QStyle::SP_DialogOpenButton));
   actions_.save = NewAction("save", Tr("&Save"), QKeySequence::Save, &MainWindow::Save);
   actions_.save->setIcon(icon(QStyle::SP_DialogSaveButton));
+  actions_.saveAs = NewAction("saveAs", Tr("Sa&ve as..."), QKeySequence::SaveAs, &MainWindow::SaveAs);
   actions_.report = NewAction("report", Tr("Re&port..."), QKeySequence::Print, &MainWindow::Report);
   actions_.archive = NewAction("archive", Tr("Add to &archive"), {}, &MainWindow::AddToArchive);
   actions_.quit = new QAction(Shown(Tr("&Quit")), this);
@@ -160,8 +161,8 @@ void MainWindow::MakeMenus() {
     auto* menu = menuBar()->addMenu(Shown(title));
     for (auto* action : actions) action ? menu->addAction(action) : (void)menu->addSeparator();
   };
-  add(Tr("&Document"), {actions_.create, actions_.open, actions_.save, nullptr, actions_.report,
-                        actions_.archive, nullptr, actions_.quit});
+  add(Tr("&Document"), {actions_.create, actions_.open, actions_.save, actions_.saveAs, nullptr,
+                        actions_.report, actions_.archive, nullptr, actions_.quit});
   add(Tr("&Tests"), {actions_.add, actions_.remove, nullptr, actions_.limits, actions_.setUp});
   add(Tr("&Run"), {actions_.run, actions_.resume, actions_.runSelected, nullptr, actions_.stop, nullptr,
                    actions_.calibrate});
@@ -323,7 +324,7 @@ void MainWindow::UpdateActions() {
   const auto chosen = open ? tree_->Chosen() : std::nullopt;
   const bool some = open && tree_->topLevelItemCount() > 0;
   for (auto* action : {actions_.create, actions_.open, actions_.calibrate}) action->setEnabled(free);
-  for (auto* action : {actions_.save, actions_.add}) action->setEnabled(open);
+  for (auto* action : {actions_.save, actions_.saveAs, actions_.add}) action->setEnabled(open);
   for (auto* action : {actions_.limits, actions_.report, actions_.archive, actions_.run, actions_.resume})
     action->setEnabled(some);
   for (auto* action : {actions_.remove, actions_.runSelected}) action->setEnabled(chosen.has_value());

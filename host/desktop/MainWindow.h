@@ -58,7 +58,7 @@ class MainWindow : public QMainWindow {
 
  private:
   struct Actions {
-    QAction *create, *open, *save, *add, *remove, *limits, *setUp, *report, *archive;
+    QAction *create, *open, *save, *saveAs, *add, *remove, *limits, *setUp, *report, *archive;
     QAction *calibrate, *run, *resume, *runSelected, *stop, *quit;
   };
 
@@ -105,6 +105,8 @@ class MainWindow : public QMainWindow {
   void New();
   void OpenOther();
   void Save();
+  void SaveAs();
+  void TellSaved();
   void AddTests();
   void Remove();
   void SetLimits();

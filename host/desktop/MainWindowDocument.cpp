@@ -59,6 +59,21 @@ void MainWindow::OpenOther() {
 
 void MainWindow::Save() {
   desk_.Save();
+  TellSaved();
+}
+
+void MainWindow::SaveAs() {
+  const auto file = AskForFile(this, {.title = Tr("Save under another name"),
+                                      .kinds = DocumentKinds(),
+                                      .ending = "orvik",
+                                      .at = Folder(),
+                                      .toWrite = true});
+  if (!file) return;
+  desk_.SaveAs(*file);
+  TellSaved();
+}
+
+void MainWindow::TellSaved() {
   Remark(Tr("Saved: %%1", {desk_.TheDocument().Path().string()}));
   Refresh();
 }

@@ -52,7 +52,7 @@ class DesktopTest : public testing::Test {
   void Drive(const Steps& steps);
 
   // Steps.
-  /// Clicks the window's button of that action.
+  /// Clicks the window's button of that action, or takes it from the menu when it has none.
   Step Press(const std::string& action);
   /// Works on the modal dialog of that name.
   Step In(const std::string& dialog, std::function<bool(QDialog&)> work);

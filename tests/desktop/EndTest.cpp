@@ -102,6 +102,21 @@ TEST_F(EndTest, AQuestionDuringARunSpoilsNoReading) {
   EXPECT_EQ(Cell(1, kRemark), "");
 }
 
+TEST_F(EndTest, ResultsThatCannotBeSavedEndTheRunAndAreSavedUnderAnotherName) {
+  OpenOnSoundEquipment();
+  Drive({Press("run"), Guide(kPlay), OnTheWire("STST"),
+         Do([this] { Write("pump.orvik", "somebody else's"); }),
+         Await("a result", [this] { return Cell(1, kResult) == "passed"; }), OnTheWire("EREM"), Guide(kNext),
+         Answer("message", "Close", "the document cannot be saved"), Idle()});
+  EXPECT_TRUE(Changed());
+  EXPECT_EQ(Contents(file_), "somebody else's");
+  Drive({Press("saveAs"), TakeFile(file_), Answer("message", "Close", "is there already"), Press("saveAs"),
+         TakeFile(Path("again.orvik")), Await("saved", [this] { return !Changed(); })});
+  EXPECT_TRUE(window_->windowTitle().startsWith("again.orvik"));
+  EXPECT_EQ(Show(Path("again.orvik"))["outcome"], "passed");
+  EXPECT_EQ(Contents(file_), "somebody else's");
+}
+
 TEST_F(EndTest, TheKeyForStopIsHeardInTheGuide) {
   OpenOnSoundEquipment();
   Drive({Press("run"), Guide(kPlay), OnTheWire("STST"), Do([] {
