@@ -95,13 +95,15 @@ void MainWindow::TellLater(const std::string& error) {
 }
 
 void MainWindow::TellWhatWaits() {
-  // A message to be closed would hold up the session with the tester.
-  if (session_ || calibration_) return;
+  // A message to be closed would hold up the session with the tester; and one is enough at a time.
+  if (session_ || calibration_ || telling_) return;
+  telling_ = true;
   while (!untold_.empty()) {
     const auto error = untold_.front();
     untold_.erase(untold_.begin());
     Tell(error);
   }
+  telling_ = false;
 }
 
 void MainWindow::Tell(const std::string& error) {

@@ -152,6 +152,7 @@ class MainWindow : public QMainWindow {
   CalibrationWindow* calibration_ = nullptr;  ///< while it is shown
   orvik::platform::IForm* dialog_ = nullptr;  ///< the plug-in's for settings, while it is shown
   std::vector<std::string> untold_;           ///< errors that `TellLater` has been given
+  bool telling_ = false;
   bool working_ = false;
   bool leaveWhenOver_ = false;  ///< once nothing is open any more
   bool byRequest_ = false;

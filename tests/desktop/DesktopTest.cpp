@@ -46,10 +46,14 @@ QString TextOf(const QDialog& dialog) {
 DesktopTest::DesktopTest() {
   setenv("ORVIK_STATE", Path("state").c_str(), 1);
   unsetenv("ORVIK_ARCHIVE");
-  const bench::GlobalOptions options;
-  bench_ = std::make_unique<bench::Workbench>(options, kTimeScale);
+  bench_ = std::make_unique<bench::Workbench>(bench::GlobalOptions{}, kTimeScale);
   screen_ = std::make_unique<bench::qt::Screen>(bench_->Application());
-  window_ = std::make_unique<bench::desktop::MainWindow>(*bench_, options, [this] { left_ = true; });
+  MakeWindow();
+}
+
+void DesktopTest::MakeWindow() {
+  window_ =
+      std::make_unique<bench::desktop::MainWindow>(*bench_, bench::GlobalOptions{}, [this] { left_ = true; });
   screen_->SetHostWindow(window_.get());
   window_->show();
 }

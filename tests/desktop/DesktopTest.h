@@ -38,6 +38,9 @@ class DesktopTest : public testing::Test {
   DesktopTest();
   ~DesktopTest() override;
 
+  /// A window in the place of the one before, which must be gone.
+  void MakeWindow();
+
   std::string Path(const std::string& name) const { return (folder_.Path() / name).string(); }
   void Write(const std::string& name, const std::string& text) const;
   static std::string Contents(const std::string& path);

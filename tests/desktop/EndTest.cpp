@@ -3,8 +3,14 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QComboBox>
+#include <QDialog>
 #include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
 #include <QTest>
+#include <map>
 
 #include "tests/desktop/DesktopTest.h"
 
@@ -14,13 +20,16 @@ namespace {
 using testing::HasSubstr;
 using testing::Not;
 
-constexpr int kNext = 103, kPlay = 202;
+constexpr int kAbort = 101, kNext = 103, kPlay = 202;
 constexpr int kResult = 2, kRemark = 4;
 
 class EndTest : public DesktopTest {
  protected:
   void OpenOnSoundEquipment() {
     file_ = NewDocument({"410"});
+    OpenAgain();
+  }
+  void OpenAgain() {
     window_->Open(file_);
     ChooseTester("Simulated tester: sound-class-1");
   }
@@ -102,6 +111,58 @@ TEST_F(EndTest, AQuestionDuringARunSpoilsNoReading) {
   EXPECT_EQ(Cell(1, kRemark), "");
 }
 
+TEST_F(EndTest, WhateverIsOpenARequestToEndIsFollowed) {
+  OpenOnSoundEquipment();
+  const auto clicked = [](const char* window, const char* button) {
+    return [=] {
+      auto* shown = Visible(window);
+      auto* found = shown ? shown->findChild<QPushButton*>(button) : nullptr;
+      if (found && found->isEnabled()) QTest::mouseClick(found, Qt::LeftButton);
+      return found && !found->isEnabled();
+    };
+  };
+  const auto shown = [this](const char* name) {
+    return Await(name, [name] { return Visible(name) != nullptr; });
+  };
+  const std::map<std::string, Steps> ways{
+      {"a file dialog", {Press("open"), In("fileDialog", [](QDialog&) { return true; })}},
+      {"the catalogue", {Press("addTests"), In("addTests", [](QDialog&) { return true; })}},
+      {"the sets of limits", {Press("limits"), In("limitSets", [](QDialog&) { return true; })}},
+      {"an open menu", {Do([this] { window_->findChild<QMenu*>()->popup({}); })}},
+      {"the list of testers", {Do([this] { window_->findChild<QComboBox*>("tester")->showPopup(); })}},
+      {"settings", {Do([this] { ChooseElement(1); }), Press("setUp"), shown("FElementSetup")}},
+      {"calibration", {Press("calibrate"), shown("FCalibrateLeads")}},
+      {"a measurement of the leads",
+       {Press("calibrate"), Await("calibrating", clicked("FCalibrateLeads", "cmdCalibrate"))}},
+      {"a question about changes",
+       {Do([this] {
+          QTest::keyClicks(window_->findChild<QLineEdit*>("asset"), "B");
+          window_->close();
+        }),
+        In("question", [](QDialog&) { return true; })}},
+      {"the guide", {Press("run"), shown("FTestGuide")}},
+      {"the question of the guide", {Press("run"), Guide(kAbort), shown("FYesNoPrompt")}},
+      {"a question during a run",
+       {Press("run"), Guide(kPlay), OnTheWire("STST"), Do([this] { window_->close(); }),
+        In("question", [](QDialog&) { return true; })}},
+  };
+  for (auto [name, steps] : ways) {
+    SCOPED_TRACE(name);
+    steps.push_back(Do([this] { window_->EndByRequest(); }));
+    steps.push_back(Left());
+    testing::internal::CaptureStderr();
+    Drive(steps);
+    testing::internal::GetCapturedStderr();
+    EXPECT_FALSE(QApplication::activeModalWidget());
+    EXPECT_FALSE(Visible("FTestGuide"));
+    if (HasFailure()) return;
+    window_.reset();
+    left_ = false;
+    MakeWindow();
+    OpenAgain();
+  }
+}
+
 TEST_F(EndTest, ResultsThatCannotBeSavedEndTheRunAndAreSavedUnderAnotherName) {
   OpenOnSoundEquipment();
   Drive({Press("run"), Guide(kPlay), OnTheWire("STST"),
@@ -115,6 +176,27 @@ TEST_F(EndTest, ResultsThatCannotBeSavedEndTheRunAndAreSavedUnderAnotherName) {
   EXPECT_TRUE(window_->windowTitle().startsWith("again.orvik"));
   EXPECT_EQ(Show(Path("again.orvik"))["outcome"], "passed");
   EXPECT_EQ(Contents(file_), "somebody else's");
+}
+
+TEST_F(EndTest, ATesterThatGoesAwayIsToldAndNothingPasses) {
+  auto tester = std::make_unique<cli::RunningProgram>(
+      KELD_SIM_PATH, std::vector<std::string>{"--link", Path("line"), "--time-scale", "10"});
+  ASSERT_TRUE(tester->AwaitOutput("ready"));
+  file_ = NewDocument({"410", "910"});
+  window_->Open(file_);
+  ChooseTester(Path("line"));
+  Drive({Press("run"), Guide(kPlay), OnTheWire("STST"), Do([&tester] { tester.reset(); }),
+         Await("the guide asks for the tester",
+               [] {
+                 auto* prompt = Visible("FPretestPrompt");
+                 auto* seen = prompt ? prompt->findChild<QPushButton*>("cmdOK") : nullptr;
+                 if (seen) QTest::mouseClick(seen, Qt::LeftButton);
+                 return seen != nullptr;
+               }),
+         Guide(kNext), Answer("message", "Close", "The run has ended"), Idle()});
+  EXPECT_EQ(Verdict(), "Incomplete");
+  EXPECT_EQ(Cell(2, kResult), "not tested");
+  EXPECT_EQ(Show(file_)["outcome"], "incomplete");
 }
 
 TEST_F(EndTest, TheKeyForStopIsHeardInTheGuide) {
