@@ -68,6 +68,7 @@ void MainWindow::PerformRun(const std::vector<std::shared_ptr<orvik::ITestElemen
   auto end = DocumentRunner::End::kFinished;
   {
     const Part part(*this, session, progress);
+    Refresh();
     end = session.Run(elements);
   }
   Refresh();
@@ -86,7 +87,6 @@ MainWindow::Part::Part(MainWindow& window, RunSession& session, RunProgress& pro
   window_.session_ = &session;
   window_.progress_ = &progress;
   window_.progressTimer_->start();
-  window_.Refresh();
 }
 
 MainWindow::Part::~Part() {
