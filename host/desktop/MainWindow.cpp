@@ -68,7 +68,9 @@ void MainWindow::Open(const std::filesystem::path& file) {
   std::error_code none;
   if (const auto unsaved = desk_.UnsavedFile(); std::filesystem::exists(unsaved, none))
     Remark(
-        Tr("An earlier session left changes of this document unsaved; they are in %%1.", {unsaved.string()}));
+        Tr("An earlier session left changes of this document unsaved; they are in %%1: open that file to "
+           "keep them, or remove it.",
+           {unsaved.string()}));
 }
 
 void MainWindow::Begin() {
