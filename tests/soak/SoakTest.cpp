@@ -29,9 +29,6 @@ constexpr int kSavedEvery = 4;
 /// Tables and lists keep the room that the greediest run so far has needed. A byte forgotten in each run is
 /// more.
 constexpr std::size_t kRoom = 1024;
-/// So do texts, which take a block of their own when they first hold more than fifteen letters. An object
-/// forgotten in one run of a thousand is more.
-constexpr std::size_t kBlocks = 4;
 
 int RunsWanted() {
   const char* given = std::getenv("ORVIK_SOAK_RUNS");
@@ -71,8 +68,7 @@ Look LookAt(SoakBench& bench) {
 }
 
 void ExpectFlat(const Look& now, const Look& first, int runs) {
-  EXPECT_LE(now.held.blocks, first.held.blocks + kBlocks)
-      << "objects are left over after " << runs << " runs";
+  EXPECT_EQ(now.held.blocks, first.held.blocks) << "objects are left over after " << runs << " runs";
   EXPECT_LE(now.held.bytes, first.held.bytes + kRoom) << "memory is left over after " << runs << " runs";
   EXPECT_EQ(now.handles, first.handles) << "handles are left over after " << runs << " runs";
 }
