@@ -1,5 +1,7 @@
 #include "host/report/HtmlReport.h"
 
+#include <algorithm>
+
 #include "host/report/HtmlText.h"
 
 namespace bench {
@@ -10,6 +12,9 @@ using html::Escaped;
 using html::Isolated;
 using html::SignOf;
 using report::Standing;
+
+/// Deeper elements of the overview stand no further in.
+constexpr int kDeepest = 10;
 
 /// Writes the page from its top to its end.
 class Page {
@@ -91,9 +96,16 @@ class Page {
     return "<div class=\"scroll\" role=\"region\" tabindex=\"0\" aria-label=\"" + Escaped(name) + "\">";
   }
 
+  /// A table whose rows are laid out anew where there is no room for columns. The roles keep it a table for
+  /// listeners even then.
+  void StackedTable(const char* style, const std::string& caption) {
+    out_ += std::string("<table role=\"table\" class=\"stacked ") + style + "\">\n" + caption +
+            "\n<thead role=\"rowgroup\"><tr role=\"row\">";
+  }
+
   void ColumnHead(const std::string& text, const char* style = "") {
-    out_ += std::string("<th scope=\"col\"") + (*style ? std::string(" class=\"") + style + "\"" : "") + ">" +
-            Escaped(text) + "</th>";
+    out_ += std::string("<th scope=\"col\" role=\"columnheader\"") +
+            (*style ? std::string(" class=\"") + style + "\"" : "") + ">" + Escaped(text) + "</th>";
   }
 
   void Overview() {
@@ -103,16 +115,14 @@ class Page {
       out_ += "<p>" + Escaped(words.nothing) + "</p>\n";
       return;
     }
-    out_ += Scroll(words.overview) +
-            "<table>\n<caption "
-            "class=\"hidden\">" +
-            Escaped(words.overview) + "</caption>\n<thead><tr>";
+    out_ += Scroll(words.overview);
+    StackedTable("overview", "<caption class=\"hidden\">" + Escaped(words.overview) + "</caption>");
     ColumnHead(words.number, "right number");
     ColumnHead(words.test);
     ColumnHead(words.value, "right");
     ColumnHead(words.unit, "unit");
     ColumnHead(words.result);
-    out_ += "</tr></thead>\n<tbody>\n";
+    out_ += "</tr></thead>\n<tbody role=\"rowgroup\">\n";
     for (const auto& row : report_.overview) OverviewLine(row);
     out_ += "</tbody>\n</table></div>\n";
   }
@@ -120,11 +130,13 @@ class Page {
   void OverviewLine(const report::OverviewRow& row) {
     const auto id = std::to_string(row.id);
     const auto name = Isolated(row.name);
-    out_ += "<tr><td class=\"right number\">" + id + "</td><th scope=\"row\" class=\"name\"";
-    if (row.depth > 0) out_ += " style=\"padding-left:" + std::to_string(1 + row.depth) + "rem\"";
+    out_ += "<tr role=\"row\"><td role=\"cell\" class=\"right number\">" + id +
+            "</td><th scope=\"row\" role=\"rowheader\" class=\"name\"";
+    if (row.depth > 0) out_ += " style=\"--depth:" + std::to_string(std::min(row.depth, kDeepest)) + "\"";
     out_ += ">" + (row.detailed ? "<a href=\"#element-" + id + "\">" + name + "</a>" : name) +
-            "</th><td class=\"right\">" + (row.value.empty() ? "\u2013" : Isolated(row.value)) +
-            "</td><td class=\"unit\">" + Isolated(row.unit) + "</td><td>" + Word(row.standing, row.word) +
+            "</th><td role=\"cell\" class=\"right value\">" +
+            (row.value.empty() ? "\u2013" : Isolated(row.value)) + "</td><td role=\"cell\" class=\"unit\">" +
+            Isolated(row.unit) + "</td><td role=\"cell\" class=\"result\">" + Word(row.standing, row.word) +
             "</td></tr>\n";
   }
 
@@ -155,15 +167,16 @@ class Page {
   void Judgements(const report::Section& section) {
     if (section.judgements.empty()) return;
     const auto& words = report_.words;
-    out_ += Scroll(words.limits + ", " + section.name) + "<table>\n<caption>" + Escaped(words.limits) +
-            "</caption>\n<thead><tr>";
+    out_ += Scroll(words.limits + ", " + section.name);
+    StackedTable("limits", "<caption>" + Escaped(words.limits) + "</caption>");
     for (const auto* word : {&words.standard, &words.bounds, &words.judgement, &words.bar}) ColumnHead(*word);
-    out_ += "</tr></thead>\n<tbody>\n";
+    out_ += "</tr></thead>\n<tbody role=\"rowgroup\">\n";
     for (const auto& judgement : section.judgements)
-      out_ += "<tr><th scope=\"row\" class=\"standard\">" + Isolated(judgement.standard) + "</th><td>" +
-              Isolated(judgement.bounds) + "</td><td>" + Word(judgement.standing, judgement.word) +
-              "</td><td class=\"barcell\">" + (judgement.bar ? html::BarOf(judgement) : "\u2013") +
-              "</td></tr>\n";
+      out_ += "<tr role=\"row\"><th scope=\"row\" role=\"rowheader\" class=\"standard\">" +
+              Isolated(judgement.standard) + "</th><td role=\"cell\" class=\"bounds\">" +
+              Isolated(judgement.bounds) + "</td><td role=\"cell\" class=\"judgement\">" +
+              Word(judgement.standing, judgement.word) + "</td><td role=\"cell\" class=\"barcell\">" +
+              (judgement.bar ? html::BarOf(judgement) : "\u2013") + "</td></tr>\n";
     out_ += "</tbody>\n</table></div>\n";
   }
 

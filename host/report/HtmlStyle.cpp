@@ -31,14 +31,16 @@ h3 { margin: 0; font-size: 1.15rem; line-height: 1.4; }
 .scroll { overflow-x: auto; margin: 1rem 0; }
 table { border-collapse: collapse; width: 100%; }
 caption { padding: 0 0 .4rem; text-align: left; color: var(--quiet); font-size: .875rem; }
-th, td { padding: .5rem .75rem; text-align: left; vertical-align: top; overflow-wrap: break-word; }
+th, td { padding: .5rem .75rem; text-align: left; vertical-align: top; }
+/* A long word is broken rather than widening its column; ordinary ones have their room. */
+td, th { min-width: 5.25rem; }
 td, tbody th { border-top: 1px solid var(--line); }
 thead th { color: var(--quiet); font-size: .875rem; font-weight: 600; white-space: nowrap; vertical-align: bottom; }
 tbody th { font-weight: 400; }
 .right { text-align: right; font-variant-numeric: tabular-nums; } .centre { text-align: center; }
-td.right, td.unit { white-space: nowrap; } td.unit { padding-left: 0; } th.unit { padding-left: 0; }
-.name { min-width: 12rem; max-width: 30rem; }
-.number { width: 3rem; color: var(--quiet); }
+td.right, .result { white-space: nowrap; } .unit { padding-left: 0; }
+.name { min-width: 12rem; max-width: 30rem; padding-left: calc(.75rem + 1rem * var(--depth, 0)); }
+.number { width: 3rem; min-width: 3rem; color: var(--quiet); }
 a { color: var(--accent); text-underline-offset: .15em; }
 .word { font-weight: 600; white-space: nowrap; }
 .word.passed { color: var(--passed); } .word.failed { color: var(--failed); } .word.open { color: var(--open); }
@@ -58,7 +60,7 @@ a { color: var(--accent); text-underline-offset: .15em; }
 .printed td, .printed th { white-space: pre-wrap; }
 .printed.ruled { border: 1px solid var(--line); } .printed.ruled th, .printed.ruled td { border: 1px solid var(--line); }
 .printed.plain th, .printed.plain td { border: 0; padding: .15rem 0; }
-.standard { min-width: 9rem; } .barcell { min-width: 15rem; }
+.standard { min-width: 9rem; } .bounds, .judgement { min-width: 7rem; } .judgement .word { white-space: normal; } .barcell { min-width: 15rem; }
 svg.bar { display: block; width: 100%; max-width: 19rem; height: auto; }
 .bar .track { fill: #e3e7ed; } .bar .allowed { fill: #9fb9d9; } .bar .bound { stroke: var(--ink); stroke-width: 1.5; }
 .bar .label { fill: var(--quiet); font-size: 10px; } .bar .reading { font-size: 11px; font-weight: 700; }
@@ -68,13 +70,23 @@ svg.bar { display: block; width: 100%; max-width: 19rem; height: auto; }
 .hidden { position: absolute; width: 1px; height: 1px; overflow: hidden; clip-path: inset(50%); white-space: nowrap; }
 @media (max-width: 36rem) { .page { padding-top: 1.25rem; } .verdict { padding: 1.25rem; gap: 1rem; }
   .facts { grid-template-columns: 1fr; gap: 0; } .facts dd { margin-bottom: .6rem; }
-  th, td { padding: .5rem .4rem; } .name { min-width: 7rem; } .number { width: auto; } }
+  th, td { padding: .5rem .4rem; } }
+/* What decides is seen without scrolling: each row of columns becomes some lines. */
+@media screen and (max-width: 36rem) {
+  .stacked, .stacked caption, .stacked tbody { display: block; }
+  .stacked thead { position: absolute; width: 1px; height: 1px; overflow: hidden; clip-path: inset(50%); }
+  .stacked tbody tr { display: grid; gap: .15rem .6rem; padding: .6rem 0; border-top: 1px solid var(--line); }
+  .stacked tbody td, .stacked tbody th { min-width: 0; padding: 0; border: 0; }
+  .overview tbody tr { grid-template-columns: minmax(1.75rem, max-content) auto minmax(0, 1fr) auto; }
+  .overview .name { grid-column: 2 / -1; } .overview .value { grid-column: 2; }
+  .overview tbody .name, .overview tbody .value { padding-left: calc(.6rem * var(--depth, 0)); }
+  .overview .number { width: auto; } .limits tbody tr { grid-template-columns: minmax(0, 1fr); } }
 @media print {
   @page { size: A4; margin: 14mm 16mm 16mm; }
   html { font-size: 9.5pt; }
   body { print-color-adjust: exact; -webkit-print-color-adjust: exact; }
   /* A group of header rows is what browsers repeat at the top of every page. */
-  .page { display: table; width: 100%; max-width: none; padding: 0; }
+  .page { display: table; table-layout: fixed; width: 100%; max-width: none; padding: 0; }
   .running { display: table-header-group; break-inside: avoid; font-size: 8pt; color: var(--quiet); }
   .running div { break-inside: avoid; padding-bottom: 2mm; margin-bottom: 6mm; border-bottom: 1px solid var(--accent); }
   .running p { margin: 0; } .running .mark { color: var(--open); font-weight: 700; }

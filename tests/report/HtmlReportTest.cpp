@@ -75,6 +75,30 @@ TEST(HtmlReport, EveryBarSaysInWordsWhatItShows) {
   EXPECT_EQ(page.Count("//svg/title"), 3);
 }
 
+TEST(HtmlReport, WithoutRoomForColumnsResultAndBarStandBelowAndTablesStayTables) {
+  const ReadPage page(sample::Report());
+  EXPECT_EQ(page.Count("//table[contains(@class, 'stacked overview')]"), 1);
+  EXPECT_EQ(page.Count("//table[contains(@class, 'stacked limits')]"), 3);
+  EXPECT_EQ(page.Count("//td[@class='result']"), 3);
+  EXPECT_EQ(page.Count("//td[@class='barcell']"), 3);
+  EXPECT_THAT(page.text, HasSubstr("@media screen and (max-width: 36rem) {\n  .stacked,"));
+  const std::string stacked = "//table[contains(@class, 'stacked')]";
+  for (const char* part : {"/self::*[@role='table']", "/thead[@role='rowgroup']", "/tbody[@role='rowgroup']"})
+    EXPECT_EQ(page.Count((stacked + part).c_str()), 4) << part;
+  for (const char* without :
+       {"//tr[not(@role='row')]", "//td[not(@role='cell')]", "//tbody//th[not(@role='rowheader')]",
+        "//thead//th[not(@role='columnheader')]"})
+    EXPECT_EQ(page.Count((stacked + without).c_str()), 0) << without;
+}
+
+TEST(HtmlReport, ALongWordWidensNoColumnAndNoPrintedPage) {
+  const std::string style = html::kStyle;
+  EXPECT_THAT(style,
+              HasSubstr("body { margin: 0; background: #fff; color: var(--ink); overflow-wrap: anywhere;"));
+  EXPECT_THAT(style, Not(HasSubstr("break-word"))) << "such a word would still widen its column";
+  EXPECT_THAT(style, HasSubstr(".page { display: table; table-layout: fixed;"));
+}
+
 TEST(HtmlReport, StandingsAreToldByWordAndSignNotByColourAlone) {
   const ReadPage page(sample::Report());
   EXPECT_GT(page.Count("//*[contains(@class, 'word')]"), 0);
