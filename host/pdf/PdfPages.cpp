@@ -4,6 +4,7 @@
 #include <QFontMetricsF>
 #include <QPageLayout>
 #include <QPdfWriter>
+#include <algorithm>
 #include <stdexcept>
 
 #include "host/pdf/PdfText.h"
@@ -12,6 +13,8 @@ namespace bench::pdf {
 namespace {
 
 constexpr double kSmall = 8;
+/// What a text may be measured too short.
+constexpr double kRounding = 2;
 
 /// One line of text that ends with "..." where it would be wider.
 void DrawLine(QPainter& painter, const std::string& text, const QRectF& place, const QFont& font,
@@ -21,6 +24,21 @@ void DrawLine(QPainter& painter, const std::string& text, const QRectF& place, c
   const auto shown = QFontMetricsF(font).elidedText(Text(text), Qt::ElideRight, place.width());
   painter.drawText(place, static_cast<int>(alignment | Qt::AlignAbsolute | Qt::AlignTop) | Qt::TextSingleLine,
                    shown);
+}
+
+/// Two texts in one line, to its left and to its right. What one leaves the other may take; when both are
+/// long, each has about its half.
+void DrawSharedLine(QPainter& painter, const std::string& left, const std::string& right, const QRectF& place,
+                    const QFont& font, const QColor& colour) {
+  const QFontMetricsF metrics(font);
+  const double between = place.width() / 100, half = (place.width() - between) / 2;
+  const double wanted = metrics.horizontalAdvance(Text(left)) + kRounding,
+               wantedRight = metrics.horizontalAdvance(Text(right)) + kRounding;
+  const double width = std::min(wanted, std::max(half, place.width() - between - wantedRight));
+  const auto from = place.left() + width + between;
+  DrawLine(painter, left, {place.left(), place.top(), width, place.height()}, font, colour, Qt::AlignLeft);
+  DrawLine(painter, right, {from, place.top(), place.right() - from, place.height()}, font, colour,
+           Qt::AlignRight);
 }
 
 std::string Labelled(const report::Fact& fact) { return fact.label + ": " + fact.value; }
@@ -35,9 +53,8 @@ void DrawHeader(QPainter& painter, const report::Report& report, std::size_t pag
            Qt::AlignLeft);
   DrawLine(painter, std::to_string(page + 1) + " / " + std::to_string(pages),
            line(0, kUsable - kNumber, kUsable), FontOf(kSmall, true), kInk, Qt::AlignRight);
-  DrawLine(painter, Labelled(facts[1]), line(1, 0, kUsable * 0.52), FontOf(kSmall), kQuiet, Qt::AlignLeft);
-  DrawLine(painter, Labelled(facts[2]) + "    " + Labelled(facts[3]), line(1, kUsable * 0.53, kUsable),
-           FontOf(kSmall), kQuiet, Qt::AlignRight);
+  DrawSharedLine(painter, Labelled(facts[1]), Labelled(facts[2]) + "    " + Labelled(facts[3]),
+                 line(1, 0, kUsable), FontOf(kSmall), kQuiet);
   if (report.partial)
     DrawLine(painter, report.partialNotice, line(2, 0, kUsable), FontOf(kSmall, true),
              ColourOf(report::Standing::kOpen), Qt::AlignLeft);

@@ -59,11 +59,29 @@ class Session {
   std::optional<QGuiApplication> application_;
 };
 
+/// Room above a heading, and what must have room below it on its page.
+constexpr double kAboveHeading = 560, kBelowHeading = 1200;
+
 void PlaceHeading(PdfPages& pages, const std::string& text) {
-  pages.Gap(560);
+  pages.Gap(kAboveHeading);
   const HeadingBlock heading(text);
-  pages.Ensure(heading.Height() + 1200);
+  pages.Ensure(heading.Height() + kBelowHeading);
   heading.Place(pages);
+}
+
+/// The heading stands with the first test; the other tests follow.
+void PlaceDetails(PdfPages& pages, const report::Report& report) {
+  for (const auto& section : report.sections) {
+    const bool first = &section == &report.sections.front();
+    auto blocks = SectionBlocks(section, report.words, first);
+    if (first) {
+      auto heading = std::make_unique<HeadingBlock>(report.words.details);
+      pages.Gap(kAboveHeading);
+      pages.Ensure(heading->Height() + kBelowHeading);
+      blocks.insert(blocks.begin(), std::move(heading));
+    }
+    PlaceTogether(blocks, pages);
+  }
 }
 
 void PlaceSummary(PdfPages& pages, const report::Report& report) {
@@ -92,9 +110,7 @@ std::string PdfReport(const report::Report& report) {
     TextBlock(report.words.nothing, {}).Place(pages);
   else
     OverviewBlock(report)->Place(pages);
-  if (!report.sections.empty()) PlaceHeading(pages, report.words.details);
-  for (const auto& section : report.sections)
-    PlaceTogether(SectionBlocks(section, report.words, &section == &report.sections.front()), pages);
+  PlaceDetails(pages, report);
   const Properties properties{
       report.title + ": " + report.pageHeader.front().value + " - " + report.verdict.word, report.language,
       report.created, kPageHeight / kPoint};

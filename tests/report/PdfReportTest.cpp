@@ -60,6 +60,34 @@ TEST_F(PdfReportTest, EveryPageTellsEquipmentTesterDateOperatorAndItsNumber) {
   }
 }
 
+TEST_F(PdfReportTest, ATestersLongDescriptionHasTheRoomThatTheRestLeavesInThePagesHeader) {
+  auto report = sample::Report();
+  report.pageHeader[1] = {"Appareil d'essai",
+                          "KELD(IN), num\u00E9ro de s\u00E9rie SIM-0001, micrologiciel 3.10"};
+  EXPECT_THAT(Pages(report).at(0), HasSubstr(report.pageHeader[1].value));
+  // Neither side takes more than its half when both are long.
+  report.pageHeader[1] = {"Tester", "KELD(IN), SIM-0001" + std::string(500, 'W')};
+  report.pageHeader[3].value = std::string(500, 'W');
+  EXPECT_THAT(Pages(report).at(0), HasSubstr("Tester: KELD(IN), SIM-0001W"));
+  EXPECT_THAT(Pages(report).at(0), HasSubstr("Tested: 2026-11-21"));
+}
+
+TEST_F(PdfReportTest, TheHeadingOfTheDetailsStandsOnThePageOfItsFirstTest) {
+  auto report = sample::Report(1);
+  std::size_t onAnother = 0;
+  for (int facts = 0; facts < 30; ++facts) {
+    report.facts.push_back({"Fact", "told"});
+    const auto pages = Pages(report);
+    for (std::size_t i = 0; i < pages.size(); ++i) {
+      const auto heading = pages[i].find("Tests in detail");
+      if (heading == std::string::npos) continue;
+      EXPECT_NE(pages[i].find("Protective earth 1", heading), std::string::npos) << facts << " facts more";
+      onAnother += i;
+    }
+  }
+  EXPECT_GT(onAnother, 0U) << "the details never came to another page";
+}
+
 TEST_F(PdfReportTest, TellsTheVerdictAndEveryElement) {
   const auto text = Told(sample::Report(), "pdftotext -layout", "-");
   for (const char* told : {"Failed", "1 of 3 failed, 2 passed", "Asset number", "1850", "Fails IEC 62353",
