@@ -4,6 +4,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <optional>
 #include <string_view>
 
 #include "host/serial/Latin1.h"
@@ -30,12 +31,14 @@ std::string_view Trimmed(std::string_view text) {
   return text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
-bool IsNumber(std::string_view text) {
+/// None when the text is something else than a finite number.
+std::optional<double> NumberOf(std::string_view text) {
   text = Trimmed(text);
   if (text.starts_with('+')) text.remove_prefix(1);
   double number = 0;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-  return error == std::errc() && end == text.data() + text.size() && std::isfinite(number);
+  if (error != std::errc() || end != text.data() + text.size() || !std::isfinite(number)) return {};
+  return number;
 }
 
 /// Whether the reply repeats the command's parameter, where it has one.
@@ -54,7 +57,11 @@ void CheckReading(const Message& reply, std::vector<std::string>& doubts) {
                         {Quoted(reply), std::to_string(fields.size()), std::to_string(kReadingFields)}));
     return;
   }
-  if (!IsNumber(fields[2])) doubts.push_back(Tr("the reading \"%%1\" is no number", {fields[2]}));
+  const auto value = NumberOf(fields[2]);
+  if (!value) doubts.push_back(Tr("the reading \"%%1\" is no number", {fields[2]}));
+  if (value && *value < 0)
+    doubts.push_back(
+        Tr("the reading \"%%1\" is negative; an upper limit would take it for a small one", {fields[2]}));
   if (Trimmed(fields[3]) != "0" && Trimmed(fields[3]) != "1")
     doubts.push_back(Tr("the reading's overload mark \"%%1\" is neither 0 nor 1", {fields[3]}));
   if (Trimmed(fields[3]) == "1")

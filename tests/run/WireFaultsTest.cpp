@@ -89,7 +89,7 @@ std::vector<Fault> Faults() {
     for (const char* kind :
          {"drop", "delay 100", "delay 2500", "delay 6000", "wrong-mnemonic", "error 1001", "error 1003",
           "error 6002", "hang-up", "double", "truncate 3", "truncate 8", "truncate 14", "garble",
-          "reply gres,420,0,0.001,0,Ohm", "reply gres,410,0,0.001,1,Ohm"})
+          "reply gres,420,0,0.001,0,Ohm", "reply gres,410,0,0.001,1,Ohm", "reply gres,410,0,-0.5,0,Ohm"})
       faults.push_back({command, nth, kind});
   }
   return faults;
