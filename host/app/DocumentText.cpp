@@ -5,11 +5,14 @@
 
 #include "host/app/Colour.h"
 #include "host/app/TextColumns.h"
+#include "host/report/VisibleText.h"
 #include "host/services/Tr.h"
 
 namespace bench {
 
 namespace {
+
+using report::VisibleText;
 
 Tone ToneOf(const ElementSummary& element) {
   if (element.CountsAsDone()) return Tone::kGood;
@@ -38,11 +41,13 @@ std::string ElementsOf(const DocumentSummary& document, bool coloured) {
     text += LeftPadded(std::to_string(element.id), 4) + "  " +
             Toned(Padded(Tr(element.Verdict()), 15), ToneOf(element), coloured) +
             Padded(ReadingText(element), 16) + std::string(2 * static_cast<std::size_t>(depth), ' ') +
-            element.name + "\n";
+            VisibleText(element.name) + "\n";
     if (!element.failedStandards.empty())
-      text += std::string(6, ' ') + Tr("fails %%1", {Joined(element.failedStandards, ", ")}) + "\n";
+      text +=
+          std::string(6, ' ') + Tr("fails %%1", {VisibleText(Joined(element.failedStandards, ", "))}) + "\n";
     if (element.recordedOnly) text += std::string(6, ' ') + Tr("no limits: recorded, not judged") + "\n";
-    for (const auto& doubt : element.doubts) text += std::string(6, ' ') + Tr("doubt: %%1", {doubt}) + "\n";
+    for (const auto& doubt : element.doubts)
+      text += std::string(6, ' ') + Tr("doubt: %%1", {VisibleText(doubt)}) + "\n";
   }
   return text;
 }
@@ -53,22 +58,22 @@ std::string ReadingText(const ElementSummary& element) {
   if (!element.measurement || !element.measurement->value) return "-";
   if (element.measurement->flags.find('O') != std::string::npos) return "OL";
   const auto number = ShortNumber(*element.measurement->value);
-  return element.measurement->unit.empty() ? number : number + " " + element.measurement->unit;
+  return element.measurement->unit.empty() ? number : number + " " + VisibleText(element.measurement->unit);
 }
 
 std::string LineOf(const ElementSummary& element, bool coloured) {
   return std::to_string(element.id) + "  " + Toned(Tr(element.Verdict()), ToneOf(element), coloured) + "  " +
-         ReadingText(element) + "  " + element.name;
+         ReadingText(element) + "  " + VisibleText(element.name);
 }
 
 std::string TextOf(const DocumentSummary& document, bool coloured) {
-  std::string text = std::filesystem::path(document.path).filename().string() + ": " +
+  std::string text = VisibleText(std::filesystem::path(document.path).filename().string()) + ": " +
                      Toned(Tr(OutcomeText(document.outcome)), ToneOf(document.outcome), coloured) + "\n";
   if (document.instrument) {
     const auto& instrument = *document.instrument;
     text += Tr("Tester %%1, serial number %%2, firmware %%3, test leads %%4 mOhm",
-               {instrument.type, instrument.serial, instrument.firmware,
-                std::to_string(instrument.calibration)}) +
+               {VisibleText(instrument.type), VisibleText(instrument.serial),
+                VisibleText(instrument.firmware), std::to_string(instrument.calibration)}) +
             "\n";
   }
   return text + ElementsOf(document, coloured);

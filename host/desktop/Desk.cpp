@@ -9,12 +9,12 @@
 #include "OrvikTypeLib/ITestContainer.h"
 #include "host/app/InputError.h"
 #include "host/app/TextColumns.h"
+#include "host/app/UnsavedChanges.h"
 #include "host/app/report/DocumentReport.h"
 #include "host/app/report/ReportFile.h"
 #include "host/elements/ElementFactory.h"
 #include "host/run/ElementWalk.h"
 #include "host/run/SavedSettings.h"
-#include "host/services/Files.h"
 #include "host/services/Tr.h"
 
 namespace bench::desktop {
@@ -78,23 +78,9 @@ bool Desk::Changed() const {
   }
 }
 
-std::filesystem::path Desk::UnsavedFile() const {
-  auto file = document_->Path();
-  file += ".unsaved";
-  return file;
-}
+std::filesystem::path Desk::UnsavedFile() const { return bench::UnsavedFile(*document_); }
 
-std::filesystem::path Desk::KeepUnsaved() const {
-  auto file = UnsavedFile();
-  // What an earlier session kept stays until a person has looked at it.
-  std::error_code none;
-  for (int number = 2; std::filesystem::exists(file, none); ++number) {
-    file = UnsavedFile();
-    file += "." + std::to_string(number);
-  }
-  ReplaceFile(file, document_->Text());
-  return file;
-}
+std::filesystem::path Desk::KeepUnsaved() const { return bench::KeepUnsaved(*document_); }
 
 DocumentSummary Desk::Summary() const {
   auto standards = document_->Standards();

@@ -1,3 +1,5 @@
+#include <filesystem>
+
 #include "tests/cli/CliTest.h"
 #include "tests/support/PseudoTerminal.h"
 
@@ -182,6 +184,24 @@ TEST_F(RunCommandTest, AnUnpluggedTesterEndsTheRunAndKeepsWhatWasDone) {
   const auto shown = Show(file);
   EXPECT_EQ(shown["elements"][0]["statusText"], "passed");
   EXPECT_EQ(shown["elements"][1]["statusText"], "not tested");
+}
+
+// Somebody has put another file in the document's place: that one stays, and so do the results.
+TEST_F(RunCommandTest, ResultsThatCannotBeSavedAreKeptBesideTheDocument) {
+  const auto file = NewDocument({"410", "420"});
+  const auto run = Start(Simulated(file, "sound-class-1", {"--events"}));
+  ASSERT_TRUE(run->AwaitOutput("GRES,410,0")) << run->Output();
+  Write("other", "another file");
+  std::filesystem::rename(Path("other"), file);
+  const auto ended = run->Wait();
+  EXPECT_EQ(ended.status, 2) << ended.out << ended.error;
+  EXPECT_NE(ended.out.find("was changed by another program"), std::string::npos) << ended.out;
+  EXPECT_NE(ended.out.find("The results are kept in " + file + ".unsaved"), std::string::npos) << ended.out;
+  EXPECT_EQ(SentIn(file + ".wire.log").back(), "EREM");
+  EXPECT_EQ(Contents(file), "another file");
+  const auto kept = Show(file + ".unsaved");
+  EXPECT_EQ(kept["elements"][0]["statusText"], "passed");
+  EXPECT_EQ(kept["elements"][1]["statusText"], "not tested");
 }
 
 class Interruption : public RunCommandTest, public testing::WithParamInterface<const char*> {};

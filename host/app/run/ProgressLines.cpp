@@ -7,6 +7,7 @@
 
 #include "host/app/Colour.h"
 #include "host/app/DocumentText.h"
+#include "host/report/VisibleText.h"
 #include "host/serial/Latin1.h"
 #include "host/services/TextCells.h"
 #include "host/services/Tr.h"
@@ -53,7 +54,7 @@ void ProgressLines::Reached(std::size_t place, std::size_t count) {
 }
 
 void ProgressLines::Started(const ElementSummary& element) {
-  element_ = std::to_string(element.testId) + " " + element.name;
+  element_ = std::to_string(element.testId) + " " + report::VisibleText(element.name);
   Print(place_ + element_);
 }
 
@@ -69,10 +70,12 @@ void ProgressLines::Wire(const WireRecord& record) {
                                                   std::to_string(ExchangeView::kMaxAttempts)}));
 }
 
-void ProgressLines::Prompted(const std::string& text) { Print("      " + text); }
+void ProgressLines::Prompted(const std::string& text) {
+  Print("      " + report::VisibleText(text, report::LineEnds::kKept));
+}
 
 void ProgressLines::Doubted(std::int32_t, const std::string& doubt) {
-  Print("      " + Tr("doubt: %%1", {doubt}));
+  Print("      " + Tr("doubt: %%1", {report::VisibleText(doubt)}));
 }
 
 void ProgressLines::Remark(const std::string& text) { Print(text); }

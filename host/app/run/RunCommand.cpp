@@ -4,10 +4,12 @@
 
 #include <iostream>
 
+#include "OrvikTypeLib/HostError.h"
 #include "host/app/Colour.h"
 #include "host/app/DocumentJson.h"
 #include "host/app/DocumentText.h"
 #include "host/app/InputError.h"
+#include "host/app/UnsavedChanges.h"
 #include "host/app/run/EventLines.h"
 #include "host/app/run/ProgressLines.h"
 #include "host/app/run/RunSelection.h"
@@ -109,6 +111,7 @@ ExitStatus RunCommand::Perform(Workbench& workbench, Document& document, RunRepo
     reporter.Over();
     Tell(end, session.Reason(), reporter);
   }
+  if (end == DocumentRunner::End::kNotSaved) KeepResults(document, reporter);
   if (!log.Failure().empty())
     reporter.Remark(Tr("The wire log %%1 could not be written: %%2", {log.Path(), log.Failure()}));
 
@@ -137,6 +140,16 @@ void RunCommand::Tell(DocumentRunner::End end, const std::string& reason, RunRep
       return reporter.Remark(Tr("The run has ended: %%1.", {reason}));
     case DocumentRunner::End::kNotSaved:
       return reporter.Remark(Tr("The run has ended, since the document cannot be saved: %%1", {reason}));
+  }
+}
+
+void RunCommand::KeepResults(const Document& document, RunReporter& reporter) {
+  try {
+    reporter.Remark(Tr("The results are kept in %%1: it is the document as it would have been saved.",
+                       {KeepUnsaved(document).string()}));
+  } catch (const orvik::HostError& error) {
+    reporter.Remark(Tr("The results cannot be kept in another file either, and are shown here alone: %%1",
+                       {error.Description()}));
   }
 }
 
