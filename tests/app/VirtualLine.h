@@ -17,6 +17,7 @@ class VirtualLine {
  public:
   bench::Wire& Wire() { return *wire_; }
   const bench::ILoop& Loop() const { return *loop_; }
+  std::shared_ptr<bench::ILoop> SharedLoop() const { return loop_; }
   orvik::platform::Time Now() const { return loop_->Now(); }
 
   void Open() {
