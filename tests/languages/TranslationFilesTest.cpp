@@ -91,6 +91,18 @@ TEST_P(TranslationFile, KeepsPlaceholdersAndBlanks) {
   }
 }
 
+TEST_P(TranslationFile, ClosesEachBracketAsItOpensIt) {
+  const auto count = [](const std::string& text, const std::string& bracket) {
+    int found = 0;
+    for (auto at = text.find(bracket); at != std::string::npos; at = text.find(bracket, at + 1)) ++found;
+    return found;
+  };
+  for (const auto& entry : languages::EntriesOf(Path())) {
+    EXPECT_EQ(count(entry.translated, "("), count(entry.translated, ")")) << Place(entry);
+    EXPECT_EQ(count(entry.translated, "\uFF08"), count(entry.translated, "\uFF09")) << Place(entry);
+  }
+}
+
 TEST_P(TranslationFile, LeavesNothingInEnglish) {
   for (const auto& entry : languages::EntriesOf(Path())) {
     if (entry.translated == entry.english) {
