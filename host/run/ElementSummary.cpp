@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <utility>
 
 #include "OrvikTypeLib/As.h"
 #include "OrvikTypeLib/ILimit.h"
@@ -16,6 +17,7 @@
 #include "host/run/ElementWalk.h"
 #include "host/run/SavedSettings.h"
 #include "host/services/Tr.h"
+#include "host/standards/ElementLimits.h"
 
 namespace bench {
 
@@ -42,23 +44,42 @@ std::vector<std::string> FailedStandards(const orvik::ITestElement& element,
   return names;
 }
 
-/// What speaks against a result by its own data, where nobody has noted a doubt: an overload, or limits that
-/// were set after the test and that the reading breaks. Neither may count as passed.
+/// Whether the test measures: one that a person decides has no unit.
+bool RecordsReadings(const orvik::ITestElement& element) {
+  const auto limits = element.Limits();
+  return limits && !RecordedUnit(*limits).empty();
+}
+
+/// What speaks against a reading that a single test counts as passed.
+std::string ReadingDoubt(const orvik::ITestElement& element,
+                         const std::shared_ptr<orvik::IMeasurement>& measurement,
+                         const std::shared_ptr<orvik::IStandardColl>& standards) {
+  if (measurement->Status() == kFailed) return Tr("the result is \"passed\", its reading \"failed\"");
+  auto unit = UnitDoubt(element);
+  if (!unit.empty()) return unit;
+  const auto limits = element.Limits();
+  const auto failed = limits ? limits->FindFailedStandards(measurement, standards) : nullptr;
+  if (!failed || failed->Count() == 0) return {};
+  return Tr(
+      "the reading breaks the limits of %%1, which were not in force when it was judged; run the test again",
+      {failed->item(1)->Name()});
+}
+
+/// What speaks against a result by its own data, where nobody has noted a doubt: an overload, limits that
+/// were set after the test and that the reading breaks, or a document that was written by something else than
+/// a run. None of them may count as passed.
 void DoubtOwnData(const orvik::ITestElement& element, const std::shared_ptr<orvik::IMeasurement>& measurement,
                   const std::shared_ptr<orvik::IStandardColl>& standards, ElementSummary& summary) {
-  if (!summary.doubts.empty() || summary.status != kPassed || !summary.measurement->value) return;
-  if (summary.measurement->flags.find('O') != std::string::npos) {
-    summary.doubts.push_back(Tr("overload (OL): the reading is beyond the tester's range"));
-    return;
-  }
+  if (!summary.doubts.empty() || summary.status != kPassed) return;
+  std::string doubt;
+  if (measurement && summary.measurement->value && summary.measurement->flags.find('O') != std::string::npos)
+    doubt = Tr("overload (OL): the reading is beyond the tester's range");
   // The value of a sequence is computed, and its limits are not its children's.
-  const auto limits = summary.sequence ? nullptr : element.Limits();
-  const auto failed = limits ? limits->FindFailedStandards(measurement, standards) : nullptr;
-  if (failed && failed->Count() > 0)
-    summary.doubts.push_back(
-        Tr("the reading breaks the limits of %%1, which were not in force when it was judged; run the test "
-           "again",
-           {failed->item(1)->Name()}));
+  else if (!summary.sequence && (!measurement || !summary.measurement->value))
+    doubt = RecordsReadings(element) ? Tr("the result is \"passed\", and there is no reading") : "";
+  else if (!summary.sequence)
+    doubt = ReadingDoubt(element, measurement, standards);
+  if (!doubt.empty()) summary.doubts.push_back(std::move(doubt));
 }
 
 bool HasBounds(const orvik::IStandard& standard) {
@@ -106,15 +127,15 @@ ElementSummary SummaryOf(const std::shared_ptr<orvik::ITestElement>& element, co
     summary.serviceCode = record->Code();
     summary.serviceValue = record->Value();
   }
-  if (result->MeasurementCount() == 0) return summary;
-  if (const auto measurement = result->Measurement(1)) {
+  const auto measurement = result->MeasurementCount() > 0 ? result->Measurement(1) : nullptr;
+  if (measurement) {
     summary.measurement = SummaryOf(*measurement);
     if (summary.sequence && HasNoValue(*element)) summary.measurement->value.reset();
     summary.failedStandards = FailedStandards(*element, measurement, standards);
     summary.recordedOnly = !summary.sequence && summary.status == kPassed && summary.measurement->value &&
                            standards && !HasLimits(*element, *standards);
-    DoubtOwnData(*element, measurement, standards, summary);
   }
+  DoubtOwnData(*element, measurement, standards, summary);
   return summary;
 }
 

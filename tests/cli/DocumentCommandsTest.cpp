@@ -1,3 +1,5 @@
+#include <regex>
+
 #include "tests/cli/CliTest.h"
 
 namespace cli {
@@ -55,6 +57,33 @@ TEST_F(DocumentCommandsTest, NewPrintsTheIdentifiers) {
   EXPECT_EQ(shown["elements"][3]["parent"], 2);
   EXPECT_EQ(shown["elements"][3]["measurement"], nullptr);
   EXPECT_EQ(shown["elements"][3]["statusText"], "not tested");
+}
+
+// A document that was changed by hand after its run: nothing counts as passed that its own data speak
+// against.
+TEST_F(DocumentCommandsTest, NothingPassesAgainstItsOwnData) {
+  const auto file = NewDocument({"410"});
+  SetLimit(file, "1", "300");
+  ASSERT_EQ(Bench(Simulated(file, "sound-class-1")).status, 0);
+  const auto text = std::regex_replace(Contents(file), std::regex("\n *"), "\n");
+  struct Change {
+    const char *from, *to, *doubt;
+  };
+  for (const auto& [from, to, doubt] :
+       {Change{"<Measurement>[^]*</Measurement>", "", "there is no reading"},
+        Change{"<Status>1</Status>\n</Measurement>", "<Status>2</Status></Measurement>", "its reading"},
+        Change{"<Unit>mOhm</Unit>", "<Unit>Ohm</Unit>", "the reading is in"},
+        Change{"Unit=\"mOhm\" High", "Unit=\"Ohm\" High", "the reading is in"},
+        Change{"<Value>123</Value>", "<Value>1230</Value>", "breaks the limits"},
+        Change{"<Measurement>", "<Measurement Flags=\"O\">", "OL"}}) {
+    SCOPED_TRACE(from);
+    const auto changed = std::regex_replace(text, std::regex(from), to);
+    ASSERT_NE(changed, text);
+    Write("d.orvik", changed);
+    const auto shown = Show(file);
+    EXPECT_EQ(shown["outcome"], "incomplete");
+    EXPECT_NE(shown["elements"][0]["doubts"].dump().find(doubt), std::string::npos) << shown["elements"][0];
+  }
 }
 
 TEST_F(DocumentCommandsTest, NewNeverOverwrites) {
