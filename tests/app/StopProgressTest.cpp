@@ -23,11 +23,12 @@ TEST_F(StopProgressTest, WithoutASessionOnlyTheDocumentIsLeft) {
   EXPECT_EQ(stop_.Text(), "Already stopping: the document is being saved.");
 }
 
-TEST_F(StopProgressTest, TwoCommandsCloseTheSession) {
+TEST_F(StopProgressTest, TwoCommandsCloseTheSessionOnceTheTestsOwnHasItsReply) {
   line_.Open();
   line_.Send("GRES", {"410", "0"});
-  line_.Answer("gres,410,0,0.123,0,Ohm");
   stop_.Begin();
+  EXPECT_EQ(stop_.Remaining(), 2000ms + 2 * 5500ms + 2 * kCommand);
+  line_.Answer("gres,410,0,0.123,0,Ohm");
   EXPECT_EQ(stop_.Remaining(), 2 * kCommand);
   line_.Send("STST", {"210", "0"});
   EXPECT_EQ(stop_.Remaining(), 2000ms + 2 * 5500ms + kCommand);
@@ -39,20 +40,34 @@ TEST_F(StopProgressTest, TwoCommandsCloseTheSession) {
   EXPECT_EQ(stop_.Remaining(), 0s);
 }
 
-TEST_F(StopProgressTest, TheWaitForTheSessionsBeginningComesOnTop) {
+// The exchange that goes on is not broken off: it has all of its attempts.
+TEST_F(StopProgressTest, TheAttemptsOfTheTestsOwnCommandComeOnTop) {
   line_.Open();
-  line_.Send("IREM");
+  line_.Send("STST", {"410", "0"});
   stop_.Begin();
   line_.Pass(500ms);
-  EXPECT_EQ(stop_.Remaining(), 1500ms + 2 * kCommand);
+  EXPECT_EQ(stop_.Remaining(), 1500ms + 2 * 5500ms + 2 * kCommand);
+  line_.Pass(5000ms);
+  line_.Send("STST", {"410", "0"});
+  EXPECT_EQ(stop_.Remaining(), 2000ms + 5500ms + 2 * kCommand);
+  line_.Pass(5500ms);
+  line_.Send("STST", {"410", "0"});
+  line_.Answer("stst,410,0");
+  EXPECT_EQ(stop_.Remaining(), 2 * kCommand);
 }
 
-TEST_F(StopProgressTest, ATestOfTheSameNumberAsTheLastCommandIsNotTakenForIt) {
+// In the pause before it, a command of the test may still go out.
+TEST_F(StopProgressTest, ACommandThatIsAboutToGoOutComesOnTop) {
   line_.Open();
-  line_.Send("STST", {"210", "0"});
-  line_.Answer("stst,210,0");
+  line_.Send("IREM");
+  line_.Answer("irem,KELD(IN),SIM-0001,3.10");
   stop_.Begin();
-  EXPECT_EQ(stop_.Remaining(), 2 * kCommand);
+  EXPECT_EQ(stop_.Remaining(), 3 * kCommand);
+  line_.Send("STST", {"210", "0"});
+  EXPECT_EQ(stop_.Remaining(), 2000ms + 2 * 5500ms + 2 * kCommand);
+  line_.Answer("stst,210,0");
+  line_.Send("STST", {"210", "0"});
+  EXPECT_EQ(stop_.Remaining(), 2000ms + 2 * 5500ms + kCommand);
 }
 
 TEST_F(StopProgressTest, EachAttemptShortensWhatIsLeft) {
@@ -73,8 +88,8 @@ TEST_F(StopProgressTest, EachAttemptShortensWhatIsLeft) {
 TEST_F(StopProgressTest, SaysWhatItWaitsForInSecondsOfTheWall) {
   line_.Open();
   line_.Send("IREM");
-  line_.Answer("irem,KELD(IN),SIM-0001,3.10");
   stop_.Begin();
+  line_.Answer("irem,KELD(IN),SIM-0001,3.10");
   line_.Send("STST", {"210", "0"});
   EXPECT_EQ(
       stop_.Text(),

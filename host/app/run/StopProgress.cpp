@@ -14,6 +14,8 @@ namespace {
 
 constexpr Time kAttempt = ExchangeView::kPause + ExchangeView::kReplyTime;
 constexpr Time kCommand = ExchangeView::kMaxAttempts * kAttempt;
+/// "STST" and "EREM".
+constexpr int kClosingCommands = 2;
 
 }  // namespace
 
@@ -22,25 +24,25 @@ StopProgress::StopProgress(Wire& wire, const ILoop& loop, double timeScale)
       timeScale_(timeScale),
       heard_(wire.Subscribe([this](const WireRecord& record) { Take(record); })) {}
 
+void StopProgress::Begin() {
+  begun_ = true;
+  // Between two commands nobody can tell whether the next one is the test's own.
+  commandsLeft_ = exchange_.Unanswered() ? kClosingCommands : 1 + kClosingCommands;
+}
+
 void StopProgress::Take(const WireRecord& record) {
   exchange_.Take(record);
-  if (record.kind == WireRecord::Kind::kOpened) closing_ = Closing::kNeither;
-  if (!begun_ || record.kind != WireRecord::Kind::kSent) return;
-  if (record.message->MnemonicText() == "STST") closing_ = Closing::kTest;
-  if (record.message->MnemonicText() == "EREM") closing_ = Closing::kSession;
+  if (!begun_ || record.kind != WireRecord::Kind::kSent || exchange_.Attempt() > 1) return;
+  commandsLeft_ = record.message->MnemonicText() == "EREM" ? 0 : std::max(commandsLeft_ - 1, 1);
 }
 
 Time StopProgress::Remaining() const {
   if (!exchange_.Open()) return Time(0);
   // A command that has its reply is over; one without has the rest of this attempt and those that are left.
-  const auto attempts = [&](int left) {
-    return exchange_.Unanswered() ? exchange_.ReplyEnds() - loop_.Now() + left * kAttempt : Time(0);
-  };
-  const int left = ExchangeView::kMaxAttempts - exchange_.Attempt();
-  const auto rest = closing_ == Closing::kNeither ? attempts(0) + 2 * kCommand
-                    : closing_ == Closing::kTest  ? attempts(left) + kCommand
-                                                  : attempts(left);
-  return std::max(rest, Time(0));
+  const auto attemptsLeft = ExchangeView::kMaxAttempts - exchange_.Attempt();
+  const auto exchange =
+      exchange_.Unanswered() ? exchange_.ReplyEnds() - loop_.Now() + attemptsLeft * kAttempt : Time(0);
+  return std::max(exchange + commandsLeft_ * kCommand, Time(0));
 }
 
 std::string StopProgress::Text() const {

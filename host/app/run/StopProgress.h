@@ -13,8 +13,9 @@ class StopProgress {
   /// @param timeScale how many times faster than the wall the clock goes
   StopProgress(Wire& wire, const ILoop& loop, double timeScale);
 
-  /// A stop was asked for: what goes out from now on closes the session.
-  void Begin() { begun_ = true; }
+  /// A stop was asked for. The exchange that goes on, or is about to, comes to its end; then the session is
+  /// closed.
+  void Begin();
   bool Begun() const { return begun_; }
 
   /// The longest time until the session with the tester is closed, on the program's clock; 0 when none is
@@ -24,16 +25,15 @@ class StopProgress {
   std::string Text() const;
 
  private:
-  /// The two commands that close a session: the one that ends the running test, then "EREM".
-  enum class Closing { kNeither, kTest, kSession };
-
   void Take(const WireRecord& record);
 
   const ILoop& loop_;
   const double timeScale_;
   ExchangeView exchange_;
   bool begun_ = false;
-  Closing closing_ = Closing::kNeither;
+  /// How many commands may still be sent for the first time: one of the test that runs, the "STST" that ends
+  /// it, "EREM".
+  int commandsLeft_ = 0;
   orvik::platform::Subscription heard_;
 };
 
