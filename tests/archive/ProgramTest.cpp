@@ -111,7 +111,7 @@ TEST_P(ProgramTest, DrawsATrend) {
   Run({"add", Document("a.orvik", "P&amp;&lt;7&gt; '%'")});
   const auto drawn = Run({"trend", "--asset", "P&<7> '%'", "--test", "410", "--to", Path("t.svg")});
   EXPECT_EQ(drawn.status, 0) << drawn.error;
-  EXPECT_THAT(drawn.out, HasSubstr("123 mOhm"));
+  EXPECT_THAT(drawn.out, HasSubstr("123  mOhm"));
   EXPECT_THAT(drawn.out, HasSubstr("IEC 62353: at most 300 mOhm"));
   EXPECT_THAT(Contents(Path("t.svg")), HasSubstr("P&amp;&lt;7&gt; &#39;%&#39;"));
   EXPECT_EQ(Json({"trend", "--asset", "P&<7> '%'", "--test", "410"})["points"][0]["value"], 123.0);

@@ -17,21 +17,18 @@ namespace {
 
 using report::VisibleText;
 
-constexpr std::size_t kId = 5, kDate = 20, kRevision = 8, kOutcome = 10, kAsset = 20;
-
-std::string ListHeading() {
-  return LeftPadded(Tr("ID"), kId) + "  " + Padded(Tr("Date"), kDate) + Padded(Tr("Revision"), kRevision) +
-         Padded(Tr("Outcome"), kOutcome) + Padded(Tr("Asset"), kAsset) + Tr("Serial number") + "\n";
+std::vector<std::string> ListHeading() {
+  return {Tr("ID"), Tr("Date"), Tr("Revision"), Tr("Outcome"), Tr("Asset"), Tr("Serial number")};
 }
 
-std::string LineOf(const ArchiveEntry& entry) {
-  auto line = LeftPadded(std::to_string(entry.id), kId) + "  " + Padded(entry.Date(), kDate) +
-              Padded(std::to_string(entry.revision) + "/" + std::to_string(entry.revisions), kRevision) +
-              Padded(Tr(entry.outcome), kOutcome) + Padded(VisibleText(entry.asset), kAsset) +
-              VisibleText(entry.serial);
-  if (!entry.finished) line += " " + Tr("(not finished)");
-  while (line.ends_with(' ')) line.pop_back();
-  return line + "\n";
+std::vector<std::string> LineOf(const ArchiveEntry& entry) {
+  return {std::to_string(entry.id),
+          VisibleText(entry.Date()),
+          std::to_string(entry.revision) + "/" + std::to_string(entry.revisions),
+          VisibleText(Tr(entry.outcome)),
+          VisibleText(entry.asset),
+          VisibleText(entry.serial),
+          entry.finished ? "" : Tr("(not finished)")};
 }
 
 }  // namespace
@@ -45,7 +42,8 @@ CLI::App* ArchiveCommandList::Declare(CLI::App& archive) {
       ->add_option("--since", since_,
                    Tr("Those run on this date or later, such as 2026-01-31 or 2026-01-31T08:00Z; UTC"))
       ->type_name("DATE");
-  command->add_option("--outcome", outcome_, Tr("Those that ended so: passed, failed or incomplete"));
+  command->add_option("--outcome", outcome_, Tr("Those that ended so: passed, failed or incomplete"))
+      ->type_name("passed|failed|incomplete");
   limitOption_ = command->add_option("--limit", limit_, Tr("Only so many"));
   limitOption_->type_name("N");
   command->add_flag("--json", json_, Tr("Print one JSON object"));
@@ -83,8 +81,9 @@ ExitStatus ArchiveCommandList::Run(const GlobalOptions& options) {
   } else if (entries.empty()) {
     std::cout << Tr("There are no such documents in the archive %%1.", {archive.Name()}) << "\n";
   } else {
-    std::cout << ListHeading();
-    for (const auto& entry : entries) std::cout << LineOf(entry);
+    std::vector<std::vector<std::string>> lines = {ListHeading()};
+    for (const auto& entry : entries) lines.push_back(LineOf(entry));
+    std::cout << Columned(lines, {0});
   }
   return ExitStatus::kPassed;
 }

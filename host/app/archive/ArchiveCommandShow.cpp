@@ -28,9 +28,9 @@ std::string HeadOf(const ArchiveEntry& entry) {
   AddLine(text, Tr("Serial number: %%1", {VisibleText(entry.serial)}), entry.serial);
   AddLine(text, Tr("Maker: %%1", {VisibleText(entry.maker)}), entry.maker);
   AddLine(text, Tr("Model: %%1", {VisibleText(entry.model)}), entry.model);
-  AddLine(text, Tr("Run: %%1", {entry.runDate}), entry.runDate);
+  AddLine(text, Tr("Run: %%1", {VisibleText(entry.runDate)}), entry.runDate);
   AddLine(text, Tr("Operator: %%1", {VisibleText(entry.operatorName)}), entry.operatorName);
-  return text + Tr("Added: %%1, by %%2", {entry.added, VisibleText(entry.bench)}) + "\n";
+  return text + Tr("Added: %%1, by %%2", {VisibleText(entry.added), VisibleText(entry.bench)}) + "\n";
 }
 
 }  // namespace

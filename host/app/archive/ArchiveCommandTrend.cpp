@@ -21,31 +21,29 @@ namespace {
 
 using report::VisibleText;
 
-constexpr std::size_t kDateWidth = 21, kValueWidth = 12, kUnit = 8, kStatus = 14, kDocument = 9, kElement = 8;
+constexpr std::size_t kValueColumn = 1;
 
 std::string ValueText(const TrendPoint& point) {
   if (point.Overloaded()) return "OL";
   return point.HasValue() ? ShortNumber(*point.element.summary.measurement->value) : "-";
 }
 
-std::string TrendHeading() {
-  return Padded(Tr("Date"), kDateWidth) + LeftPadded(Tr("Value"), kValueWidth) + " " +
-         Padded(Tr("Unit"), kUnit) + Padded(Tr("Status"), kStatus) + Padded(Tr("Document"), kDocument) +
-         Padded(Tr("Element"), kElement) + Tr("Limits") + "\n";
+std::vector<std::string> TrendHeading() {
+  return {Tr("Date"), Tr("Value"), Tr("Unit"), Tr("Status"), Tr("Document"), Tr("Element"), Tr("Limits")};
 }
 
-std::string LineOf(const TrendPoint& point) {
+std::vector<std::string> LineOf(const TrendPoint& point) {
   const auto& summary = point.element.summary;
   std::string limits;
   for (const auto& limit : point.element.limits)
     limits += (limits.empty() ? "" : "; ") + VisibleText(LimitText(limit));
-  auto line = Padded(point.date + (point.dated ? "" : "*"), kDateWidth) +
-              LeftPadded(ValueText(point), kValueWidth) + " " +
-              Padded(summary.measurement ? VisibleText(summary.measurement->unit) : "", kUnit) +
-              Padded(Tr(summary.Verdict()), kStatus) + Padded(std::to_string(point.document), kDocument) +
-              Padded(std::to_string(summary.id), kElement) + limits;
-  while (line.ends_with(' ')) line.pop_back();
-  return line + "\n";
+  return {VisibleText(point.date) + (point.dated ? "" : "*"),
+          ValueText(point),
+          summary.measurement ? VisibleText(summary.measurement->unit) : "",
+          VisibleText(Tr(summary.Verdict())),
+          std::to_string(point.document),
+          std::to_string(summary.id),
+          limits};
 }
 
 }  // namespace
@@ -82,12 +80,13 @@ void ArchiveCommandTrend::Print(const Trend& trend) const {
     std::cout << Indented(JsonOf(trend)) << "\n";
     return;
   }
-  std::cout << TrendHeading();
+  std::vector<std::vector<std::string>> lines = {TrendHeading()};
   bool undated = false;
   for (const auto& point : trend.points) {
-    std::cout << LineOf(point);
+    lines.push_back(LineOf(point));
     undated = undated || !point.dated;
   }
+  std::cout << Columned(lines, {kValueColumn});
   if (undated) std::cout << Tr("* when it was added: the document does not tell when it was run") << "\n";
   if (!to_.empty()) std::cout << to_ << "\n";
 }
