@@ -82,8 +82,10 @@ class Chart {
   }
 
  private:
-  /// That of the last reading; the others are told in it.
+  /// That of the last reading with a value, or else of the last overload; the others are told in it.
   void ChooseUnit() {
+    for (const auto& point : trend_.points)
+      if (point.Overloaded()) unit_ = point.element.summary.measurement->unit;
     for (const auto& point : trend_.points)
       if (point.HasValue()) unit_ = point.element.summary.measurement->unit;
   }

@@ -106,6 +106,12 @@ TEST(TrendChart, AnOverloadIsMarkedAboveTheScaleAndDoesNotStretchIt) {
   EXPECT_THAT(svg, Not(HasSubstr("e+09")));
 }
 
+TEST(TrendChart, OverloadsAloneHaveTheirUnitAndLimitsToo) {
+  const auto svg = Drawn({Doubtful(Overloaded(Point("2025-01-01T00:00:00Z", 9e9)))});
+  EXPECT_THAT(svg, HasSubstr(">mOhm<"));
+  EXPECT_THAT(svg, HasSubstr(">A \xE2\x89\xA4 300<"));
+}
+
 TEST(TrendChart, OtherUnitsOfTheSameQuantityAreToldInTheLastOne) {
   auto ohms = Point("2024-01-01T00:00:00Z", 0.2);
   ohms.element.summary.measurement->unit = "Ohm";
