@@ -5,12 +5,16 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
+#include <QStyle>
 #include <QTreeWidget>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <map>
 
 #include "host/desktop/Shown.h"
 #include "host/services/Tr.h"
+#include "host/toolkit/qt/Texts.h"
 
 namespace bench::desktop {
 
@@ -18,6 +22,7 @@ namespace {
 
 enum CatalogueColumn { kTestNumber, kTestName, kTestUnit };
 constexpr QSize kCatalogueSize(640, 560);
+constexpr int kFrames = 48;     ///< margins and frames around the columns, in pixels
 constexpr int kFirstDepth = 1;  ///< of the groups that are shown open
 
 bool StandsBelowChosen(const QTreeWidgetItem& row) {
@@ -32,7 +37,6 @@ AddTestsDialog::AddTestsDialog(const std::vector<CatalogueEntry>& entries, QWidg
     : QDialog(parent), search_(new QLineEdit(this)), tests_(new QTreeWidget(this)) {
   setObjectName("addTests");
   setWindowTitle(Shown(Tr("Add tests")));
-  resize(kCatalogueSize);
   search_->setObjectName("search");
   search_->setPlaceholderText(Shown(Tr("Search by name or number")));
   search_->setAccessibleName(search_->placeholderText());
@@ -43,19 +47,24 @@ AddTestsDialog::AddTestsDialog(const std::vector<CatalogueEntry>& entries, QWidg
   tests_->setSelectionMode(QAbstractItemView::ExtendedSelection);
   tests_->setTreePosition(kTestName);
   tests_->setUniformRowHeights(true);
+  // What tells one test from another often stands at the end, such as "mains reversed".
+  tests_->setTextElideMode(Qt::ElideMiddle);
   std::map<std::int32_t, QTreeWidgetItem*> groups;
   for (const auto& entry : entries) {
     const auto above = groups.find(entry.parent);
     auto* row = above == groups.end() ? new QTreeWidgetItem(tests_) : new QTreeWidgetItem(above->second);
     row->setText(kTestNumber, QString::number(entry.testId));
     row->setText(kTestName, Shown(entry.name));
+    row->setToolTip(kTestName, qt::PlainToolTip(entry.name));
     row->setText(kTestUnit, Shown(entry.unit));
     if (entry.sequence) groups[entry.testId] = row;
     rows_.push_back(row);
   }
   tests_->setColumnWidth(kTestNumber, fontMetrics().horizontalAdvance("000000") + 16);
   tests_->header()->setSectionResizeMode(kTestName, QHeaderView::Stretch);
+  tests_->header()->setSectionResizeMode(kTestUnit, QHeaderView::ResizeToContents);
   tests_->header()->setStretchLastSection(false);
+  GrowToNames();
   tests_->expandToDepth(kFirstDepth);
 
   auto* buttons = new QDialogButtonBox(this);
@@ -77,6 +86,19 @@ AddTestsDialog::AddTestsDialog(const std::vector<CatalogueEntry>& entries, QWidg
   });
   connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+}
+
+void AddTestsDialog::GrowToNames() {
+  tests_->expandAll();
+  const QAbstractItemView& rows = *tests_;
+  const int unit = std::max(tests_->header()->sectionSizeHint(kTestUnit), rows.sizeHintForColumn(kTestUnit));
+  const int others =
+      tests_->columnWidth(kTestNumber) + unit + style()->pixelMetric(QStyle::PM_ScrollBarExtent) + kFrames;
+  const int wanted = rows.sizeHintForColumn(kTestName) + others;
+  tests_->collapseAll();
+  resize(std::clamp(wanted, kCatalogueSize.width(),
+                    std::max(kCatalogueSize.width(), screen()->availableSize().width())),
+         kCatalogueSize.height());
 }
 
 std::vector<std::int32_t> AddTestsDialog::Chosen() const {

@@ -22,6 +22,8 @@ class AddTestsDialog : public QDialog {
   std::vector<std::int32_t> Chosen() const;
 
  private:
+  /// Makes the dialog as wide as the longest name needs, as far as the screen allows.
+  void GrowToNames();
   void Filter(const QString& wanted);
 
   QLineEdit* search_;

@@ -71,6 +71,8 @@ ElementTree::ElementTree(QWidget* parent) : QTreeWidget(parent) {
   setHeaderLabels(
       {Shown(Tr("No.")), Shown(Tr("Test")), Shown(Tr("Result")), Shown(Tr("Value")), Shown(Tr("Remark"))});
   setUniformRowHeights(true);
+  // What tells one test from another often stands at the end, such as "mains reversed".
+  setTextElideMode(Qt::ElideMiddle);
   setAllColumnsShowFocus(true);
   setAlternatingRowColors(true);
   // The names begin under one another whatever number stands before them.

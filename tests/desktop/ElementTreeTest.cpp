@@ -55,6 +55,11 @@ double ContrastOfResult(ElementTree& tree) {
 
 constexpr double kReadable = 4.5;
 
+TEST(ElementTreeTest, ANameThatDoesNotFitKeepsItsEnd) {
+  const ElementTree tree;
+  EXPECT_EQ(tree.textElideMode(), Qt::ElideMiddle);
+}
+
 TEST(ElementTreeTest, AResultIsReadInEveryRow) {
   ElementTree tree;
   tree.Show(OnePassed(), 0);
