@@ -54,7 +54,8 @@ class Page {
     out_ += "<div class=\"running\" aria-hidden=\"true\"><div><p>";
     bool first = true;
     for (const auto& fact : report_.pageHeader) {
-      out_ += (first ? "" : " &#183; ") + Escaped(fact.label) + ": " + Isolated(fact.value);
+      out_ += std::string(first ? "" : " &#183; ") + "<span>" + Escaped(fact.label) + ": " +
+              Isolated(fact.value) + "</span>";
       first = false;
     }
     out_ += "</p>";

@@ -89,6 +89,9 @@ svg.bar { display: block; width: 100%; max-width: 19rem; height: auto; }
   .page { display: table; table-layout: fixed; width: 100%; max-width: none; padding: 0; }
   .running { display: table-header-group; break-inside: avoid; font-size: 8pt; color: var(--quiet); }
   .running div { break-inside: avoid; padding-bottom: 2mm; margin-bottom: 6mm; border-bottom: 1px solid var(--accent); }
+  /* Browsers repeat no header that takes much of the page: of each fact a line at most. The page has all. */
+  .running span { display: inline-block; max-width: 100%; overflow: hidden; white-space: nowrap;
+    text-overflow: ellipsis; vertical-align: bottom; }
   .running p { margin: 0; } .running .mark { color: var(--open); font-weight: 700; }
   main { display: table-row-group; }
   h2, h3, .head { break-after: avoid; } h2 { margin-top: 10mm; }

@@ -131,6 +131,17 @@ TEST(HtmlReport, APartialReportSaysSoOnThePageAndOnEveryPrintedPage) {
   EXPECT_THAT(page.text, HasSubstr(".running { display: table-header-group;"));
 }
 
+TEST(HtmlReport, NoFactTakesMoreThanALineOfThePrintedPagesHeader) {
+  auto report = sample::Report();
+  report.pageHeader[0].value = std::string(10000, 'W');
+  const ReadPage page(report);
+  EXPECT_EQ(page.Count("//*[@class='running']//p/span"), 4);
+  EXPECT_EQ(page.Count("//*[@class='running']//p/bdi"), 0) << "outside of its span";
+  EXPECT_THAT(page.text,
+              HasSubstr(".running span { display: inline-block; max-width: 100%; overflow: hidden; "
+                        "white-space: nowrap;"));
+}
+
 TEST(HtmlReport, WhatCameFromOutsideIsTextInEveryPlace) {
   const auto ordinary = ReadPage(sample::Everywhere("plain"));
   for (const std::string text :
