@@ -5,6 +5,7 @@
 
 #include "OrvikTypeLib/HostError.h"
 #include "host/app/DocumentJson.h"
+#include "host/app/help/Examples.h"
 #include "host/document/Document.h"
 #include "host/document/DocumentCheck.h"
 #include "host/elements/ElementFactory.h"
@@ -42,6 +43,9 @@ CLI::App* CheckCommand::Declare(CLI::App& program) {
   auto* command = program.add_subcommand("check", Tr("Tell everything that is wrong with a document"));
   command->add_option("FILE", file_, Tr("The document"))->required();
   command->add_flag("--json", json_, Tr("Print one JSON object"));
+  command->footer(Examples({"orvik-bench check pump-7.orvik", "orvik-bench check pump-7.orvik --json"}) +
+                  "\n\n" +
+                  Tr("Exit status 0: nothing is wrong, 3: something is; it is told with line and column."));
   return command;
 }
 

@@ -8,6 +8,7 @@
 #include "host/app/InputError.h"
 #include "host/app/ProgramFiles.h"
 #include "host/app/SetOfLimits.h"
+#include "host/app/help/Examples.h"
 #include "host/document/Document.h"
 #include "host/elements/ElementFactory.h"
 #include "host/run/ElementText.h"
@@ -34,6 +35,10 @@ CLI::App* LimitCommand::Declare(CLI::App& program) {
         command->add_option("--unit", entered_.unit,
                             Tr("Unit of the bounds; otherwise the unit that the element is recorded in"))})
     option->excludes(from);
+  command->footer(Examples(
+      {"orvik-bench limit pump-7.orvik --from iec-62353-class-1-bf",
+       "orvik-bench limit pump-7.orvik --element 2 --standard \"IEC 62353\" --high 300 --unit mOhm",
+       "orvik-bench limit pump-7.orvik --element 3 --standard \"House rule\" --low 50 --unit MOhm"}));
   command_ = command;
   return command;
 }

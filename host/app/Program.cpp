@@ -58,6 +58,11 @@ void DeclareGlobal(CLI::App& program, GlobalOptions& options) {
                   Tr("Language of texts, such as de; otherwise that of ORVIK_LANG or the locale"))
       ->type_name("L");
   program.set_version_flag("--version", "orvik-bench " ORVIK_VERSION, Tr("Show the version"));
+  program.require_subcommand(0, 1);  // a missing one is told below: an unknown one is then told as such
+}
+
+/// What the commands must not have of the program: they take over what is there when they are declared.
+void DeclareOwn(CLI::App& program) {
   program.set_help_all_flag("--help-all", Tr("Show the options of all commands"));
   program.footer(Tr("Exit status: 0 passed or done, 1 something failed its limits, 2 something was not "
                     "completed,\n3 bad input, 4 internal error.") +
@@ -67,7 +72,6 @@ void DeclareGlobal(CLI::App& program, GlobalOptions& options) {
                  "  orvik-bench limit pump.orvik --element 5 --standard \"IEC 62353\" --high 300\n"
                  "  orvik-bench run pump.orvik --port /dev/ttyUSB0\n"
                  "  orvik-bench run pump.orvik --simulate sound-class-1 --time-scale 100");
-  program.require_subcommand(0, 1);  // a missing one is told below: an unknown one is then told as such
 }
 
 ExitStatus Tell(ExitStatus status, const std::string& text) {
@@ -113,6 +117,7 @@ ExitStatus ParseAndRun(int argumentCount, const char* const* arguments) {
   const auto entries = Declare<TestsCommand, NewCommand, LimitCommand, StandardsCommand, CheckCommand,
                                ConfigCommand, RunCommand, GuiCommand, ShowCommand, ReportCommand,
                                CalibrateCommand, ArchiveCommand, CompletionCommand, ManualCommand>(program);
+  DeclareOwn(program);
   try {
     program.parse(argumentCount, arguments);
   } catch (const CLI::Success& asked) {  // help and version

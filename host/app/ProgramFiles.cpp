@@ -31,8 +31,10 @@ std::filesystem::path Catalogue() { return Prefix() / "share" / "orvik" / "catal
 
 std::filesystem::path Translations() { return Prefix() / "share" / "orvik" / "translations"; }
 
+std::filesystem::path ShippedStandards() { return Prefix() / "share" / "orvik" / "standards"; }
+
 std::vector<std::filesystem::path> StandardsFolders(const std::string& stateOption) {
-  return {Prefix() / "share" / "orvik" / "standards", StateFolder(stateOption) / "standards"};
+  return {ShippedStandards(), StateFolder(stateOption) / "standards"};
 }
 
 std::filesystem::path Simulator() { return Prefix() / "bin" / "keld-sim"; }

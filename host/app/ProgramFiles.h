@@ -18,8 +18,9 @@ std::filesystem::path DesktopModule();
 std::filesystem::path Catalogue();
 /// PREFIX/share/orvik/translations
 std::filesystem::path Translations();
-/// Where sets of limits lie: PREFIX/share/orvik/standards, and the folder "standards" of the state folder for
-/// own ones.
+/// PREFIX/share/orvik/standards
+std::filesystem::path ShippedStandards();
+/// Where sets of limits lie: the shipped ones, and the folder "standards" of the state folder for own ones.
 /// @param stateOption --state, as for `StateFolder`
 std::vector<std::filesystem::path> StandardsFolders(const std::string& stateOption);
 /// PREFIX/bin/keld-sim

@@ -6,6 +6,7 @@
 #include "host/app/ProgramFiles.h"
 #include "host/app/SetOfLimits.h"
 #include "host/app/TextColumns.h"
+#include "host/app/help/Examples.h"
 #include "host/services/Text.h"
 #include "host/services/Tr.h"
 
@@ -79,6 +80,8 @@ CLI::App* StandardsCommand::Declare(CLI::App& program) {
       program.add_subcommand("standards", Tr("List the sets of limits, or show one with the sources"));
   command->add_option("SET", set_, Tr("The set to show: its name, or the path of its file"));
   command->add_flag("--json", json_, Tr("Print one JSON object"));
+  command->footer(Examples({"orvik-bench standards", "orvik-bench standards iec-62353-class-1-bf",
+                            "orvik-bench standards ./house-rules.xml"}));
   return command;
 }
 

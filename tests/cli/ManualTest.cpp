@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <filesystem>
 
 #include "tests/cli/CliTest.h"
@@ -31,15 +32,34 @@ TEST_F(ManualTest, HelpTeachesEveryCommandWithAnExample) {
   for (const auto& command : commands) {
     const auto help = Bench({command, "--help"});
     EXPECT_EQ(help.status, 0) << command;
-    EXPECT_NE(help.out.find("Example"), std::string::npos) << command << " has no example:\n" << help.out;
-    EXPECT_NE(help.out.find("orvik-bench " + command + " "), std::string::npos)
-        << command << " shows no command line:\n"
+    const auto examples = help.out.substr(std::min(help.out.find("Example"), help.out.size()));
+    EXPECT_NE(examples.find("\n  orvik-bench " + command + " "), std::string::npos)
+        << command << " has no example of its own:\n"
         << help.out;
     for (std::size_t at = 0, end; at < help.out.size(); at = end + 1) {
       end = std::min(help.out.find('\n', at), help.out.size());
       EXPECT_LE(end - at, 130u) << command << ": " << help.out.substr(at, end - at);
     }
   }
+}
+
+TEST_F(ManualTest, EveryCommandOfTheArchiveHasAnExampleOfItsOwn) {
+  ASSERT_EQ(Bench({"manual", Path("man")}).status, 0);
+  const auto page = Contents(Path("man/orvik-bench-archive.1"));
+  for (const std::string command : {"add", "list", "show", "export", "trend"}) {
+    const auto help = Bench({"archive", command, "--help"}).out;
+    const auto examples = help.substr(std::min(help.find("Example"), help.size()));
+    EXPECT_NE(examples.find("\n  orvik-bench archive " + command + " "), std::string::npos) << help;
+    EXPECT_NE(page.find("\n  orvik\\-bench archive " + command + " "), std::string::npos) << page;
+  }
+}
+
+TEST_F(ManualTest, HelpSaysWhichOptionsGoWithEveryCommand) {
+  const std::string ofAll = "\"orvik-bench --help\" explains: --state DIR, --catalogue FILE, --lang L\n";
+  for (const std::string command : {"run", "show", "standards"})
+    EXPECT_NE(Bench({command, "--help"}).out.find(ofAll), std::string::npos) << command;
+  EXPECT_NE(Bench({"archive", "add", "--help"}).out.find("explains: --archive FILE|URL\n"),
+            std::string::npos);
 }
 
 TEST_F(ManualTest, EveryCommandHasAPageThatTheTypesetterTakes) {
@@ -111,11 +131,38 @@ TEST_F(CompletionTest, OffersFilesAndFolders) {
   EXPECT_EQ(Offered({"orvik-bench", "show", "--state", Path("pump")}), Path("pumps") + "\n");
 }
 
+TEST_F(CompletionTest, ANameWithBlanksIsOne) {
+  Write("my pump.orvik", "");
+  EXPECT_EQ(Offered({"orvik-bench", "show", Path("my")}), Path("my pump.orvik") + "\n");
+}
+
+TEST_F(CompletionTest, AnOptionsValueMayFollowAnEqualsSign) {
+  EXPECT_EQ(Offered({"orvik-bench", "run", "--operator", "="}), "auto\nask\n");
+  EXPECT_EQ(Offered({"orvik-bench", "run", "--operator", "=", "as"}), "ask\n");
+}
+
+TEST_F(CompletionTest, OffersWhatAnArgumentMayBe) {
+  EXPECT_EQ(Offered({"orvik-bench", "completion", ""}), "bash\nzsh\nfish\n");
+  EXPECT_EQ(Offered({"orvik-bench", "archive", "list", "--outcome", "f"}), "failed\n");
+  EXPECT_EQ(Offered({"orvik-bench", "--lang", "d"}), "de\n");
+  EXPECT_EQ(Offered({"orvik-bench", "run", "--simulate", "bro"}), "broken-earth\n");
+  EXPECT_EQ(Offered({"orvik-bench", "standards", "iec-62353-class-2-b"}),
+            "iec-62353-class-2-b\niec-62353-class-2-bf\n");
+  EXPECT_EQ(Offered({"orvik-bench", "limit", "--from", "iec-62353-class-1-c"}), "iec-62353-class-1-cf\n");
+}
+
+TEST_F(CompletionTest, OptionsOfTheCommandAboveMayFollow) {
+  EXPECT_EQ(Offered({"orvik-bench", "archive", "add", "--arc"}), "--archive\n");
+  Write("a.sqlite", "");
+  EXPECT_EQ(Offered({"orvik-bench", "archive", "add", "--archive", Path("a.s")}), Path("a.sqlite") + "\n");
+}
+
 TEST_F(CompletionTest, EveryShellThatIsNamedHasAScript) {
   EXPECT_EQ(Bench({"completion", "zsh"}).status, 0);
   const auto fish = Bench({"completion", "fish"});
   EXPECT_EQ(fish.status, 0);
   EXPECT_NE(fish.out.find("-l operator -x -a 'auto ask'"), std::string::npos) << fish.out;
+  EXPECT_NE(fish.out.find("-l help -d"), std::string::npos) << "a flag takes no value: " << fish.out;
   const auto unknown = Bench({"completion", "tcsh"});
   EXPECT_EQ(unknown.status, 3);
   EXPECT_NE(unknown.error.find("bash, zsh or fish"), std::string::npos) << unknown.error;

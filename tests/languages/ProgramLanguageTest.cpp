@@ -134,12 +134,18 @@ std::vector<std::string> CommandsOf(const std::string& help, const std::string& 
   return commands;
 }
 
-/// The lines of a help that are texts: command lines are typed as they stand.
+/// Whether an option stands alone in the line, with the words that it takes: "  --outcome passed|failed".
+bool NamesWordsAlone(const std::string& line) {
+  return line.starts_with("  --") && line.find('|') != std::string::npos && line.find("  ", 2) == line.npos;
+}
+
+/// The lines of a help that are texts: command lines, and an option's words, are typed as they stand.
 std::vector<std::string> TextsOf(const std::string& help) {
   std::vector<std::string> texts;
   std::istringstream lines(help);
   for (std::string line; std::getline(lines, line);) {
-    if (!line.empty() && line.find("orvik-bench ") == std::string::npos) texts.push_back(line);
+    if (!line.empty() && line.find("orvik-bench ") == std::string::npos && !NamesWordsAlone(line))
+      texts.push_back(line);
   }
   return texts;
 }

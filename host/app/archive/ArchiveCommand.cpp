@@ -6,6 +6,7 @@
 #include "host/app/archive/ArchiveCommandList.h"
 #include "host/app/archive/ArchiveCommandShow.h"
 #include "host/app/archive/ArchiveCommandTrend.h"
+#include "host/app/help/Examples.h"
 #include "host/archive/ArchiveError.h"
 #include "host/services/Tr.h"
 
@@ -25,16 +26,24 @@ CLI::App* ArchiveCommand::Declare(CLI::App& program) {
          "  orvik-bench archive trend --asset PUMP-7 --test 410 --to pump-7.svg\n"
          "  orvik-bench archive --archive postgresql://bench@server/orvik list --since 2026-01-01"));
   archive->require_subcommand(0, 1);
-  const auto add = [&](std::unique_ptr<Command> command) {
+  const auto add = [&](std::unique_ptr<Command> command, const std::vector<std::string>& examples) {
     auto* declared = command->Declare(*archive);
+    declared->footer(Examples(examples));
     declared->fallthrough();
     parts_.push_back({std::move(command), declared});
   };
-  add(std::make_unique<ArchiveCommandAdd>(location_));
-  add(std::make_unique<ArchiveCommandList>(location_));
-  add(std::make_unique<ArchiveCommandShow>(location_));
-  add(std::make_unique<ArchiveCommandTrend>(location_));
-  add(std::make_unique<ArchiveCommandExport>(location_));
+  add(std::make_unique<ArchiveCommandAdd>(location_), {"orvik-bench archive add pump-7.orvik pump-8.orvik",
+                                                       "orvik-bench archive add pump-7.orvik --incomplete"});
+  add(std::make_unique<ArchiveCommandList>(location_),
+      {"orvik-bench archive list --asset PUMP-7",
+       "orvik-bench archive list --since 2026-01-01 --outcome failed"});
+  add(std::make_unique<ArchiveCommandShow>(location_),
+      {"orvik-bench archive show 12", "orvik-bench archive show 12 --json"});
+  add(std::make_unique<ArchiveCommandTrend>(location_),
+      {"orvik-bench archive trend --asset PUMP-7 --test 410",
+       "orvik-bench archive trend --asset PUMP-7 --test 410 --to pump-7.svg"});
+  add(std::make_unique<ArchiveCommandExport>(location_),
+      {"orvik-bench archive export 12 --to pump-7-of-then.orvik"});
   return archive;
 }
 

@@ -1,5 +1,7 @@
 #include "host/app/help/CommandLineView.h"
 
+#include "host/services/Tr.h"
+
 namespace bench {
 
 namespace {
@@ -40,6 +42,21 @@ std::vector<std::string> SpellingsOf(const CLI::Option& option) {
   return spellings;
 }
 
-bool TakesValue(const CLI::Option& option) { return option.get_type_size_max() > 0; }
+std::vector<std::string> InheritedOptions(const CLI::App& command) {
+  std::vector<std::string> lines;
+  for (const auto* above = command.get_parent(); above; above = above->get_parent()) {
+    std::string names;
+    for (const auto* option : OptionsOf(*above)) {
+      if (!TakesValue(*option)) continue;
+      names += (names.empty() ? "" : ", ") + SpellingsOf(*option).back() + " " + option->get_type_name();
+    }
+    const auto* top = above->get_parent();
+    const auto path = (top ? top->get_name() + " " : "") + above->get_name();
+    lines.push_back(Tr("Further options, which \"%%1 --help\" explains: %%2", {path, names}));
+  }
+  return lines;
+}
+
+bool TakesValue(const CLI::Option& option) { return option.get_items_expected_max() > 0; }
 
 }  // namespace bench

@@ -20,6 +20,10 @@ std::vector<const CLI::Option*> OptionsOf(const CLI::App& command);
 /// All spellings of an option, the short ones first: "-h", "--help".
 std::vector<std::string> SpellingsOf(const CLI::Option& option);
 
+/// Which options of the commands above it may follow its name, and where they are explained, a line for each
+/// of those commands; empty for the program itself.
+std::vector<std::string> InheritedOptions(const CLI::App& command);
+
 /// Whether the option takes a value.
 bool TakesValue(const CLI::Option& option);
 

@@ -3,31 +3,13 @@
 #include <algorithm>
 #include <functional>
 
+#include "host/app/TextColumns.h"
 #include "host/app/help/CommandLineView.h"
+#include "host/app/help/OptionValues.h"
 
 namespace bench {
 
 namespace {
-
-/// What the value of an option may be, told by the name of its type.
-struct Values {
-  bool files = false;
-  bool folders = false;
-  std::string words;  ///< separated by blanks
-};
-
-Values ValuesOf(const CLI::Option& option) {
-  const auto type = option.get_type_name();
-  if (type == "DIR" || type == "FOLDER") return {false, true, {}};
-  if (type.find('|') != std::string::npos) {
-    auto words = type;
-    std::replace(words.begin(), words.end(), '|', ' ');
-    return {false, false, words};
-  }
-  const bool file = type == "FILE" || type == "OUT" || type == "LOG" || type == "DEVICE" ||
-                    type == "[PROFILE]" || type.ends_with(".svg") || option.get_name(true).ends_with("FILE");
-  return {file, false, {}};
-}
 
 /// In single quotes for a shell.
 std::string Quoted(const std::string& text) {
@@ -36,10 +18,17 @@ std::string Quoted(const std::string& text) {
   return quoted + "'";
 }
 
-std::string WordsOf(const CLI::App& command) {
-  std::string words;
-  for (const auto* below : CommandsOf(command)) words += " " + below->get_name();
-  return words.empty() ? words : words.substr(1);
+/// A list of words for "compgen", which parts them at line ends: a word may hold blanks.
+std::string ListOf(const std::vector<std::string>& words) {
+  std::string list;
+  for (const auto& word : words) list += (list.empty() ? "" : "\\n") + word;
+  return "$'" + list + "'";
+}
+
+std::vector<std::string> NamesOf(const CLI::App& command) {
+  std::vector<std::string> names;
+  for (const auto* below : CommandsOf(command)) names.push_back(below->get_name());
+  return names;
 }
 
 /// Calls `take` with each command and its path: "run", "archive add".
@@ -52,48 +41,77 @@ void Walk(const CLI::App& command, const std::string& path,
   }
 }
 
-std::string SpellingsOfAll(const CLI::App& command) {
-  std::string words;
-  for (const auto* option : OptionsOf(command)) {
-    for (const auto& spelling : SpellingsOf(*option)) words += " " + spelling;
+/// The spellings of the command's options, and of those of the commands above it: they may follow its name.
+std::vector<std::string> SpellingsAt(const CLI::App& command) {
+  std::vector<std::string> all;
+  for (const auto* at = &command; at; at = at->get_parent()) {
+    for (const auto* option : OptionsOf(*at)) {
+      for (const auto& spelling : SpellingsOf(*option)) {
+        if (std::find(all.begin(), all.end(), spelling) == all.end()) all.push_back(spelling);
+      }
+    }
   }
-  return words;
+  return all;
 }
 
-std::string BashValues(const CLI::App& command, const std::string& path) {
+/// What "compgen" is asked for a value of the option.
+std::string BashValuesOf(const CLI::Option& option) {
+  const auto words = WordsFor(option);
+  std::string asked = NamesFolder(option) ? "-d " : NamesFile(option) ? "-f " : "";
+  if (!words.empty() || asked.empty()) asked += "-W " + ListOf(words) + " ";
+  return "COMPREPLY=( $(compgen " + asked + "-- \"$current\") )";
+}
+
+std::string BashOptions(const CLI::App& command, const std::string& path) {
   std::string cases;
-  for (const auto* option : OptionsOf(command)) {
-    if (!TakesValue(*option)) continue;
-    const auto values = ValuesOf(*option);
-    std::string pattern;
-    for (const auto& spelling : SpellingsOf(*option))
-      pattern += (pattern.empty() ? "" : "|") + Quoted(path + ":" + spelling);
-    const auto with = values.folders          ? std::string("-d")
-                      : values.files          ? std::string("-f")
-                      : !values.words.empty() ? "-W " + Quoted(values.words)
-                                              : std::string("-W ''");
-    cases += "    " + pattern + ") COMPREPLY=( $(compgen " + with + " -- \"$current\") ); return ;;\n";
+  for (const auto* at = &command; at; at = at->get_parent()) {
+    for (const auto* option : OptionsOf(*at)) {
+      if (!TakesValue(*option)) continue;
+      std::string pattern;
+      for (const auto& spelling : SpellingsOf(*option))
+        pattern += (pattern.empty() ? "" : "|") + Quoted(path + ":" + spelling);
+      cases += "    " + pattern + ") " + BashValuesOf(*option) + "; return ;;\n";
+    }
   }
   return cases;
+}
+
+/// What is offered where no option stands: commands, the words of the first argument, or files.
+std::string BashArguments(const CLI::App& command, const std::string& path) {
+  const auto names = NamesOf(command);
+  const auto positionals = PositionalsOf(command);
+  const auto offer = !names.empty() ? "COMPREPLY=( $(compgen -W " + ListOf(names) + " -- \"$current\") )"
+                     : !positionals.empty() && !WordsFor(*positionals.front()).empty()
+                         ? BashValuesOf(*positionals.front())
+                         : "COMPREPLY=( $(compgen -f -- \"$current\") )";
+  return "    " + Quoted(path) + ") " + offer + " ;;\n";
 }
 
 }  // namespace
 
 std::string BashCompletion(const CLI::App& program) {
-  std::string paths, words, values = BashValues(program, "");
+  std::string paths;
+  auto options = "    '') options=" + ListOf(SpellingsAt(program)) + " ;;\n";
+  auto values = BashOptions(program, "");
+  auto arguments = BashArguments(program, "");
   Walk(program, "", [&](const CLI::App& command, const std::string& path) {
     paths += "      " + Quoted(" " + path) + ") path=" + Quoted(path) + " ;;\n";
-    words += "    " + Quoted(path) +
-             ") options=" + Quoted(SpellingsOfAll(command) + SpellingsOfAll(program)) +
-             " commands=" + Quoted(WordsOf(command)) + " ;;\n";
-    values += BashValues(command, path) + BashValues(program, path);
+    options += "    " + Quoted(path) + ") options=" + ListOf(SpellingsAt(command)) + " ;;\n";
+    values += BashOptions(command, path);
+    arguments += BashArguments(command, path);
   });
   const auto& name = program.get_name();
   return "# Completion of " + name +
          " for bash: source it, or put it into the folder of your completions.\n" +
          "_orvik_bench() {\n"
-         "  local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD-1]}\n"
-         "  local path= word place options commands\n"
+         "  local IFS=$'\\n' current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD-1]}\n"
+         "  local path= word place options\n"
+         "  # --option=value is three words\n"
+         "  if [[ $current == = ]]; then\n"
+         "    current=\n"
+         "  elif [[ $previous == = && COMP_CWORD -ge 2 ]]; then\n"
+         "    previous=${COMP_WORDS[COMP_CWORD-2]}\n"
+         "  fi\n"
          "  for (( place = 1; place < COMP_CWORD; place++ )); do\n"
          "    word=${COMP_WORDS[place]}\n"
          "    case \"${path:+ $path} $word\" in\n" +
@@ -103,17 +121,16 @@ std::string BashCompletion(const CLI::App& program) {
          "  case \"$path:$previous\" in\n" +
          values +
          "  esac\n"
-         "  case \"$path\" in\n"
-         "    '') options=" +
-         Quoted(SpellingsOfAll(program)) + " commands=" + Quoted(WordsOf(program)) + " ;;\n" + words +
-         "  esac\n"
          "  if [[ $current == -* ]]; then\n"
+         "    case \"$path\" in\n" +
+         options +
+         "    esac\n"
          "    COMPREPLY=( $(compgen -W \"$options\" -- \"$current\") )\n"
-         "  elif [[ -n $commands ]]; then\n"
-         "    COMPREPLY=( $(compgen -W \"$commands\" -- \"$current\") )\n"
-         "  else\n"
-         "    COMPREPLY=( $(compgen -f -- \"$current\") )\n"
+         "    return\n"
          "  fi\n"
+         "  case \"$path\" in\n" +
+         arguments +
+         "  esac\n"
          "}\n"
          "complete -o filenames -F _orvik_bench " +
          name + "\n";
@@ -132,12 +149,12 @@ std::string FishCompletion(const CLI::App& program) {
   const auto options = [&](const CLI::App& command, const std::string& condition) {
     std::string lines;
     for (const auto* option : OptionsOf(command)) {
-      const auto values = ValuesOf(*option);
+      const auto words = WordsFor(*option);
       lines += begin + condition;
       for (const auto& name : option->get_snames()) lines += " -s " + name;
       for (const auto& name : option->get_lnames()) lines += " -l " + name;
-      if (TakesValue(*option)) lines += values.files || values.folders ? " -rF" : " -x";
-      if (!values.words.empty()) lines += " -a " + Quoted(values.words);
+      if (TakesValue(*option)) lines += NamesFile(*option) || NamesFolder(*option) ? " -rF" : " -x";
+      if (!words.empty()) lines += " -a " + Quoted(Joined(words, " "));
       lines += " -d " + Quoted(option->get_description()) + "\n";
     }
     return lines;

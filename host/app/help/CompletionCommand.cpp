@@ -12,7 +12,7 @@ CLI::App* CompletionCommand::Declare(CLI::App& program) {
   program_ = &program;
   auto* command =
       program.add_subcommand("completion", Tr("Print a script that completes commands and options"));
-  command->add_option("SHELL", shell_, Tr("bash, zsh or fish"))->required();
+  command->add_option("SHELL", shell_, Tr("bash, zsh or fish"))->required()->type_name("bash|zsh|fish");
   command->footer(
       Tr("Example:\n"
          "  orvik-bench completion bash > ~/.local/share/bash-completion/completions/orvik-bench"));

@@ -4,6 +4,7 @@
 #include <utility>
 #include <vector>
 
+#include "host/app/help/CommandLineView.h"
 #include "host/report/TextLines.h"
 #include "host/services/TextCells.h"
 #include "host/services/Tr.h"
@@ -71,6 +72,12 @@ std::string HelpFormat::make_subcommands(const CLI::App* app, CLI::AppFormatMode
 
 std::string HelpFormat::make_subcommand(const CLI::App* sub) const {
   return Line(sub->get_display_name(true), sub->get_description());
+}
+
+std::string HelpFormat::make_footer(const CLI::App* app) const {
+  std::string further;
+  for (const auto& line : InheritedOptions(*app)) further += Wrapped(line, 0) + "\n";
+  return further + (further.empty() ? "" : "\n") + Formatter::make_footer(app);
 }
 
 std::string HelpFormat::Line(const std::string& name, const std::string& description) const {

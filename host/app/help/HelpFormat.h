@@ -16,6 +16,7 @@ class HelpFormat final : public CLI::Formatter {
   std::string make_option_opts(const CLI::Option* opt) const override;
   std::string make_subcommands(const CLI::App* app, CLI::AppFormatMode mode) const override;
   std::string make_subcommand(const CLI::App* sub) const override;
+  std::string make_footer(const CLI::App* app) const override;
 
  private:
   std::string Line(const std::string& name, const std::string& description) const;

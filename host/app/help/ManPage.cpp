@@ -95,11 +95,13 @@ ManPage CommandPage(const CLI::App& program, const CLI::App& command) {
                 .insert(0, ".br\n");
   }
   text += OptionsSection(command);
+  for (const auto& line : InheritedOptions(command)) text += ".PP\n" + Line(line);
   for (const auto* below : CommandsOf(command)) {
     text += ".SH " + UpperCase(below->get_name()) + "\n" + Line(below->get_description());
     for (const auto* option : PositionalsOf(*below))
       text += ".TP\n" + Italic(option->get_name(true)) + "\n" + Line(option->get_description());
     for (const auto* option : OptionsOf(*below)) text += EntryOf(*option);
+    if (const auto notes = below->get_footer(); !notes.empty()) text += ".PP\n" + Laid(notes);
   }
   text += NotesOf(command) + ".SH SEE ALSO\n.BR " + Escaped(program.get_name()) + " (1)\n";
   return {page + ".1", text};

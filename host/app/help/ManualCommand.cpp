@@ -2,6 +2,7 @@
 
 #include <filesystem>
 
+#include "host/app/help/Examples.h"
 #include "host/app/help/ManPage.h"
 #include "host/services/Files.h"
 #include "host/services/Tr.h"
@@ -13,6 +14,7 @@ CLI::App* ManualCommand::Declare(CLI::App& program) {
   auto* command = program.add_subcommand("manual", Tr("Write the pages of the manual into a folder"));
   command->group("");
   command->add_option("FOLDER", folder_, Tr("Where the pages are written"))->required();
+  command->footer(Examples({"orvik-bench manual ~/.local/share/man/man1"}));
   return command;
 }
 
