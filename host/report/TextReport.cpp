@@ -5,6 +5,7 @@
 
 #include "host/report/TextLines.h"
 #include "host/report/TextTable.h"
+#include "host/report/VisibleText.h"
 #include "host/services/TextCells.h"
 
 namespace bench {
@@ -31,11 +32,15 @@ std::string PlainSignOf(Standing standing) {
   return "[!]";
 }
 
-std::string Upper(std::string text) {
-  for (auto& letter : text) {
-    if (letter >= 'a' && letter <= 'z') letter = static_cast<char>(letter - 'a' + 'A');
+/// With the small letters of ISO 8859-1 as capitals, as far as it has them.
+std::string Upper(const std::string& text) {
+  constexpr char32_t kDivision = 0xF7, kApart = 0x20;
+  std::string capitals;
+  for (const auto letter : report::CodePoints(text)) {
+    const bool small = (letter >= 'a' && letter <= 'z') || (letter >= 0xE0 && letter <= 0xFE);
+    report::AppendUtf8(capitals, small && letter != kDivision ? letter - kApart : letter);
   }
-  return text;
+  return capitals;
 }
 
 report::Cell CellOf(const std::string& text) { return {{text}}; }

@@ -19,6 +19,17 @@ TEST(TextReport, TellsTheVerdictTheFactsAndEachElement) {
     EXPECT_THAT(text, HasSubstr(told));
 }
 
+TEST(TextReport, TheVerdictIsInCapitalsInEveryLanguageThatHasThem) {
+  auto report = sample::Report();
+  const std::pair<const char*, const char*> words[] = {{"Unvollst\u00E4ndig", "UNVOLLST\u00C4NDIG"},
+                                                       {"\u00FFng\u00F7", "\u00FFNG\u00F7"},
+                                                       {"\u4E0D\u5B8C\u6574", "\u4E0D\u5B8C\u6574"}};
+  for (const auto& [word, capitals] : words) {
+    report.verdict.word = word;
+    EXPECT_THAT(TextReport(report), HasSubstr(std::string("]  ") + capitals + "\n"));
+  }
+}
+
 TEST(TextReport, APartialReportSaysSoAtBothEnds) {
   auto report = sample::Report();
   EXPECT_THAT(TextReport(report), Not(HasSubstr("***")));
