@@ -55,10 +55,7 @@ ExitStatus LimitCommand::Run(const GlobalOptions& options) {
 }
 
 void LimitCommand::Check() const {
-  if (command_->count("--from") > 0) {
-    if (set_.empty()) throw InputError(Tr("--from: the name must not be empty"));
-    return;
-  }
+  if (command_->count("--from") > 0) return;
   if (command_->count("--element") == 0)
     throw InputError(Tr("name the element with --element, or a set of limits for all with --from"));
   if (entered_.standard.empty()) throw InputError(Tr("--standard: give the name of the standard"));

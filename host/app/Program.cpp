@@ -19,6 +19,7 @@
 #include "host/app/TestsCommand.h"
 #include "host/app/archive/ArchiveCommand.h"
 #include "host/app/help/CompletionCommand.h"
+#include "host/app/help/EmptyNames.h"
 #include "host/app/help/HelpFormat.h"
 #include "host/app/help/ManualCommand.h"
 #include "host/app/help/ParseErrorText.h"
@@ -80,14 +81,18 @@ ExitStatus Tell(ExitStatus status, const std::string& text) {
   return status;
 }
 
+/// The status, unless what was printed has not come through.
+ExitStatus Written(ExitStatus status) {
+  std::cout.flush();
+  if (std::cout) return status;
+  return Tell(status == ExitStatus::kPassed ? ExitStatus::kIncomplete : status,
+              Tr("the standard output cannot be written"));
+}
+
 ExitStatus RunChosen(const std::vector<Entry>& entries, const GlobalOptions& options) {
   for (const auto& entry : entries) {
     if (!entry.declared->parsed()) continue;
-    const auto status = entry.command->Run(options);
-    std::cout.flush();
-    if (std::cout) return status;
-    return Tell(status == ExitStatus::kPassed ? ExitStatus::kIncomplete : status,
-                Tr("the standard output cannot be written"));
+    return Written(entry.command->Run(options));
   }
   throw InputError(Tr("a command is needed; \"orvik-bench --help\" shows those there are"));
 }
@@ -122,11 +127,12 @@ ExitStatus ParseAndRun(int argumentCount, const char* const* arguments) {
     program.parse(argumentCount, arguments);
   } catch (const CLI::Success& asked) {  // help and version
     program.exit(asked);
-    return ExitStatus::kPassed;
+    return Written(ExitStatus::kPassed);
   } catch (const CLI::ParseError& error) {
     return Tell(ExitStatus::kBadInput,
                 Tr("%%1; \"orvik-bench --help\" shows what can be given", {ParseErrorText(error)}));
   }
+  RefuseEmptyNames(program);
   options.language = language;
   return RunChosen(entries, options);
 }

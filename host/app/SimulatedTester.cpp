@@ -95,7 +95,7 @@ void SimulatedTester::AwaitReady() {
     }
     if (count < 0 && errno == EINTR) continue;
     if (said.empty()) said = Tr("%%1 cannot be started", {files::Simulator().string()});
-    throw InputError(Tr("--simulate: %%1", {said}));
+    throw InputError(Tr("--simulate: %%1", {said.substr(0, said.find_last_not_of('\n') + 1)}));
   }
 }
 

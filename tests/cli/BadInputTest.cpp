@@ -28,6 +28,7 @@ TEST_P(BadInputTest, EndsWithThreeAndNamesWhatIsWrong) {
   const auto refused = Bench(words);
   EXPECT_EQ(refused.status, 3) << refused.error;
   EXPECT_EQ(refused.out, "");
+  EXPECT_EQ(refused.error.find("\n\n"), std::string::npos) << refused.error;
   for (const auto& told : GetParam().told)
     EXPECT_NE(refused.error.find(Resolved(told)), std::string::npos)
         << told << " is not in: " << refused.error;
@@ -43,6 +44,14 @@ INSTANTIATE_TEST_SUITE_P(
         BadInput{"CatalogueGarbled", {"tests", "--catalogue", "@garbled.xml"}, {"@garbled.xml", "line 3"}},
         BadInput{"CatalogueOther", {"tests", "--catalogue", "@other.xml"}, {"@other.xml", "TemplateData"}},
         BadInput{"StateIsAFile", {"tests", "--state", "@text"}, {"@text"}},
+        BadInput{"NewEmptyName", {"new", "", "--add", "410"}, {"FILE", "empty"}},
+        BadInput{"ShowEmptyName", {"show", ""}, {"FILE", "empty"}},
+        BadInput{"StateEmptyName", {"show", "@d.orvik", "--state", ""}, {"--state", "empty"}},
+        BadInput{
+            "WireLogEmptyName", {"run", "@d.orvik", "--simulate", "--wire-log", ""}, {"--wire-log", "empty"}},
+        BadInput{"SetEmptyName", {"limit", "@d.orvik", "--from", ""}, {"--from", "empty"}},
+        BadInput{"ArchiveEmptyName", {"archive", "list", "--archive", ""}, {"--archive", "empty"}},
+        BadInput{"ExportEmptyName", {"archive", "export", "1", "--to", ""}, {"--to", "empty"}},
         BadInput{"NewWithoutTests", {"new", "@n.orvik"}, {"--add"}},
         BadInput{"NewWithNoNumber", {"new", "@n.orvik", "--add", "x"}, {"--add", "x"}},
         BadInput{"NewWithUnknownTest", {"new", "@n.orvik", "--add", "411"}, {"--add 411"}},

@@ -54,6 +54,15 @@ TEST_F(ManualTest, EveryCommandOfTheArchiveHasAnExampleOfItsOwn) {
   }
 }
 
+TEST_F(ManualTest, HelpThatCannotBeWrittenIsNotDone) {
+  for (const std::string asked : {"--help", "--version", "run --help", "tests"}) {
+    const auto line = std::string(ORVIK_BENCH_PATH) + " " + asked + " > /dev/full";
+    const auto told = RunningProgram("/bin/sh", {"-c", line}).Wait();
+    EXPECT_EQ(told.status, 2) << asked;
+    EXPECT_NE(told.error.find("the standard output cannot be written"), std::string::npos) << asked;
+  }
+}
+
 TEST_F(ManualTest, HelpSaysWhichOptionsGoWithEveryCommand) {
   const std::string ofAll = "\"orvik-bench --help\" explains: --state DIR, --catalogue FILE, --lang L\n";
   for (const std::string command : {"run", "show", "standards"})

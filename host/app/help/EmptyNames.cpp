@@ -1,0 +1,29 @@
+#include "host/app/help/EmptyNames.h"
+
+#include <algorithm>
+
+#include "host/app/InputError.h"
+#include "host/app/help/OptionValues.h"
+#include "host/services/Tr.h"
+
+namespace bench {
+
+namespace {
+
+bool MustNotBeEmpty(const CLI::Option& option) {
+  const bool mayStandAlone = option.get_items_expected_min() == 0;
+  return !mayStandAlone && (option.get_positional() || NamesFile(option) || NamesFolder(option));
+}
+
+}  // namespace
+
+void RefuseEmptyNames(const CLI::App& program) {
+  for (const auto* option : program.get_options()) {
+    const auto& given = option->results();
+    if (MustNotBeEmpty(*option) && std::find(given.begin(), given.end(), "") != given.end())
+      throw InputError(Tr("%%1: the name must not be empty", {option->get_name()}));
+  }
+  for (const auto* command : program.get_subcommands()) RefuseEmptyNames(*command);
+}
+
+}  // namespace bench
