@@ -28,17 +28,28 @@ void Install(int signal, void (*handler)(int)) {
   sigaction(signal, &action, nullptr);
 }
 
+/// Whether the program was started as one that outlives its terminal, as by "nohup".
+bool OutlivesItsTerminal() {
+  struct sigaction action {};
+  sigaction(SIGHUP, nullptr, &action);
+  return action.sa_handler == SIG_IGN;
+}
+
 }  // namespace
 
 StopSignals::StopSignals(headless::Application& application, std::function<void(int signal)> stop)
     : stop_(std::move(stop)), woken_(application.Woken().Subscribe([this] { Deliver(); })) {
   signalReceiver.store(&application);
-  for (const int signal : kSignals) Install(signal, &Handle);
+  for (const int signal : kSignals) {
+    if (signal == SIGHUP && OutlivesItsTerminal()) continue;
+    handled_.push_back(signal);
+    Install(signal, &Handle);
+  }
   Install(SIGPIPE, SIG_IGN);
 }
 
 StopSignals::~StopSignals() {
-  for (const int signal : kSignals) Install(signal, SIG_DFL);
+  for (const int signal : handled_) Install(signal, SIG_DFL);
   Install(SIGPIPE, SIG_DFL);
   signalReceiver.store(nullptr);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <vector>
 
 #include "platform/Event.h"
 
@@ -11,7 +12,8 @@ class Application;
 }
 
 /// Turns SIGINT, SIGTERM and SIGHUP into calls on the user-interface thread, for as long as it lives. One for
-/// the process. A reader of the output who has gone does not end the program meanwhile.
+/// the process. A SIGHUP that the program was told to ignore, as by "nohup", stays ignored. A reader of the
+/// output who has gone does not end the program meanwhile.
 class StopSignals {
  public:
   /// `stop` is called while messages are processed, with the number of the signal: for every signal once.
@@ -24,6 +26,7 @@ class StopSignals {
   void Deliver();
 
   std::function<void(int)> stop_;
+  std::vector<int> handled_;
   orvik::platform::Subscription woken_;
 };
 

@@ -243,6 +243,18 @@ TEST_P(EndingSignal, ClosesTheSessionAndSaves) {
   EXPECT_EQ(Show(file)["elements"][0]["status"], 0);
 }
 
+// With "nohup" the terminal may go.
+TEST_F(RunCommandTest, ARunThatOutlivesItsTerminalGoesOn) {
+  const auto file = NewDocument({"410"});
+  std::string line = "trap '' HUP; exec " ORVIK_BENCH_PATH;
+  for (const auto& word : Simulated(file, "sound-class-1", {"--events"})) line += " '" + word + "'";
+  RunningProgram run("/bin/sh", {"-c", line});
+  ASSERT_TRUE(run.AwaitOutput("STST,410,0")) << run.Output();
+  run.Signal(SIGHUP);
+  EXPECT_EQ(run.Wait().status, 0);
+  EXPECT_EQ(Show(file)["outcome"], "passed");
+}
+
 INSTANTIATE_TEST_SUITE_P(Signals, EndingSignal, testing::Values(SIGINT, SIGTERM, SIGHUP));
 
 INSTANTIATE_TEST_SUITE_P(Moments, Interruption,
