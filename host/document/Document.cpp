@@ -1,5 +1,6 @@
 #include "host/document/Document.h"
 
+#include <algorithm>
 #include <limits>
 #include <utility>
 #include <vector>
@@ -8,12 +9,14 @@
 #include "OrvikTypeLib/HostClasses.h"
 #include "OrvikTypeLib/IPlugIn.h"
 #include "host/Host.h"
+#include "host/document/CutDocument.h"
 #include "host/document/SavedElements.h"
 #include "host/elements/ElementFactory.h"
 #include "host/elements/ElementTags.h"
 #include "host/elements/Nesting.h"
 #include "host/elements/TestContainer.h"
 #include "host/instruments/InstrumentColl.h"
+#include "host/services/LargeText.h"
 #include "host/services/Tr.h"
 #include "host/services/XmlDocument.h"
 #include "host/services/XmlNode.h"
@@ -93,17 +96,47 @@ std::shared_ptr<orvik::ITestContainer> Document::Elements() const { return eleme
 
 void Document::MoveTo(const std::filesystem::path& file) { file_ = DocumentFile::New(file); }
 
+// What is not read in pieces, for whatever reason, is read whole: that also tells where a fault stands.
 void Document::Load(const std::string& text) {
   textSize_ = text.size();
+  if (!LoadInPieces(text)) LoadWhole(text);
+}
+
+bool Document::LoadInPieces(const std::string& text) {
+  const CutDocument cut(text);
+  auto& trouble = host_->Elements()->Trouble();
+  trouble.Clear();
+  const auto frame = std::make_shared<pugi::xml_document>();
+  if (cut.Pieces().empty() || !xml::Parse(cut.Frame(), *frame).reason.empty()) return false;
+  if (!cut.WasCutFrom(frame->document_element().child(kElements))) return false;
+  try {
+    CheckVersion(frame->document_element());
+    SavedElements saved;
+    LoadSections(frame, saved);
+    for (const auto piece : cut.Pieces()) {
+      const auto elements = std::make_shared<pugi::xml_document>();
+      if (!xml::ParseElements(piece, *elements)) return false;
+      LoadElements(elements, *elements, saved);
+      if (!trouble.All().empty()) return false;
+    }
+  } catch (const HostError&) {
+    return false;
+  }
+  return true;
+}
+
+void Document::LoadWhole(const std::string& text) {
   const auto xml = std::make_shared<pugi::xml_document>();
   const auto fault = xml::Parse(text, *xml);
   if (!fault.reason.empty())
     RefuseFile(Path(), text, static_cast<std::ptrdiff_t>(fault.offset), fault.reason);
   auto& trouble = host_->Elements()->Trouble();
   trouble.Clear();
+  elements_ = std::make_shared<TestContainer>(host_->Elements());
   try {
     CheckVersion(xml->document_element());
-    LoadSections(xml);
+    SavedElements saved;
+    LoadSections(xml, saved);
   } catch (const XmlError& error) {
     if (trouble.All().empty()) RefuseFile(Path(), text, error.Offset(), error.Description());
   } catch (const HostError& error) {
@@ -114,7 +147,7 @@ void Document::Load(const std::string& text) {
     RefuseFile(Path(), text, trouble.All().front().offset, trouble.All().front().reason);
 }
 
-void Document::LoadSections(const std::shared_ptr<pugi::xml_document>& xml) {
+void Document::LoadSections(const std::shared_ptr<pugi::xml_document>& xml, SavedElements& saved) {
   const auto root = xml->document_element();
   // Only the first would be read, and the other lost when the document is saved.
   for (const auto* section : {kEquipment, kStandardsNode, kInstrumentsNode, kElements}) {
@@ -124,18 +157,24 @@ void Document::LoadSections(const std::shared_ptr<pugi::xml_document>& xml) {
   topLeftovers_.Take(*xml, {}, {kRoot});
   rootLeftovers_.Take(root, {kVersionAttribute}, {kEquipment, kStandardsNode, kInstrumentsNode, kElements});
 
-  const auto saved = root.child(kEquipment);
-  equipment = {saved.attribute(kAsset).value(), saved.attribute(kSerial).value(),
-               saved.attribute(kMaker).value(), saved.attribute(kModel).value()};
-  equipmentLeftovers_.Take(saved, {kAsset, kSerial, kMaker, kModel}, {});
+  const auto equipped = root.child(kEquipment);
+  equipment = {equipped.attribute(kAsset).value(), equipped.attribute(kSerial).value(),
+               equipped.attribute(kMaker).value(), equipped.attribute(kModel).value()};
+  equipmentLeftovers_.Take(equipped, {kAsset, kSerial, kMaker, kModel}, {});
 
   if (const auto standards = root.child(kStandardsNode)) standards_->Load(Wrapped(xml, standards), nullptr);
   instruments_->Load(root.child(kInstrumentsNode));
 
   const auto elements = root.child(kElements);
-  highestId_ = CheckSavedElements(elements);
   elementsLeftovers_.Take(elements, {}, {tags::kTestElement});
-  if (elements) elements_->LoadChildren(Wrapped(xml, elements));
+  if (elements) LoadElements(xml, elements, saved);
+}
+
+void Document::LoadElements(const std::shared_ptr<pugi::xml_document>& xml, pugi::xml_node parent,
+                            SavedElements& saved) {
+  saved.Check(parent);
+  highestId_ = saved.HighestId();
+  elements_->LoadChildren(Wrapped(xml, parent));
 }
 
 void Document::Save() {
@@ -158,15 +197,14 @@ std::string Document::Text() const {
   return text;
 }
 
-// One element after the other, so that a large document never stands in memory as a whole tree beside its
+// A few elements after the other, so that a large document never stands in memory as a whole tree beside its
 // text.
 std::string Document::WrittenText() const {
   RequireShallow(elements_);
   const auto frame = xml::Write(*Frame());
   if (elements_->Count() == 0) return frame;
   const auto place = frame.find(kPlaceOfElements);
-  std::string text;
-  text.reserve(textSize_ + textSize_ / 8);
+  auto text = TextWithRoom(textSize_ + textSize_ / 8);
   text.append(frame, 0, place);
   text.resize(text.find_last_not_of(' ') + 1);
   WriteElements(text);
@@ -178,12 +216,15 @@ std::string Document::WrittenText() const {
 
 void Document::WriteElements(std::string& text) const {
   constexpr unsigned kDepth = 2;
+  constexpr std::size_t kAtOnce = 32;
   const Nesting level;
-  for (std::int32_t index = 0; index < elements_->Count(); ++index) {
+  const auto count = static_cast<std::size_t>(elements_->Count());
+  for (std::size_t index = 0; index < count;) {
     const auto xml = std::make_shared<pugi::xml_document>();
-    const auto parent = xml->append_child(kElements);
-    elements_->SaveChild(static_cast<std::size_t>(index), Wrapped(xml, parent));
-    for (const auto element : parent.children()) xml::WriteTo(text, element, kDepth);
+    const auto parent = Wrapped(xml, xml->append_child(kElements));
+    for (const auto end = std::min(count, index + kAtOnce); index < end; ++index)
+      elements_->SaveChild(index, parent);
+    for (const auto element : xml->first_child().children()) xml::WriteTo(text, element, kDepth);
   }
 }
 

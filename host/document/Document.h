@@ -20,6 +20,7 @@ namespace bench {
 
 class Host;
 class InstrumentColl;
+class SavedElements;
 class TestContainer;
 
 /// A test document, an XML file:
@@ -91,7 +92,12 @@ class Document {
 
  private:
   void Load(const std::string& text);
-  void LoadSections(const std::shared_ptr<pugi::xml_document>& xml);
+  /// @return false when the document must be read whole; what it holds by then counts for nothing
+  bool LoadInPieces(const std::string& text);
+  void LoadWhole(const std::string& text);
+  void LoadSections(const std::shared_ptr<pugi::xml_document>& xml, SavedElements& saved);
+  void LoadElements(const std::shared_ptr<pugi::xml_document>& xml, pugi::xml_node parent,
+                    SavedElements& saved);
   std::string WrittenText() const;
   void WriteElements(std::string& text) const;
   std::shared_ptr<pugi::xml_document> Frame() const;

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <string>
-#include <unordered_set>
 
 #include "host/elements/ElementTags.h"
 #include "host/elements/Nesting.h"
@@ -28,9 +27,15 @@ pugi::xml_node Next(pugi::xml_node element, pugi::xml_node top, int& depth) {
 
 }  // namespace
 
-std::int32_t CheckSavedElements(pugi::xml_node elements) {
-  std::unordered_set<std::int32_t> known;
-  std::int32_t highest = 0;
+bool SavedElements::IsNew(std::int32_t id) {
+  if (id > HighestId()) {
+    ascending_.push_back(id);
+    return true;
+  }
+  return !std::binary_search(ascending_.begin(), ascending_.end(), id) && others_.insert(id).second;
+}
+
+void SavedElements::Check(pugi::xml_node elements) {
   int depth = 0;
   for (auto element = Next(elements, elements, depth); element; element = Next(element, elements, depth)) {
     if (depth > kDeepestNesting)
@@ -38,11 +43,8 @@ std::int32_t CheckSavedElements(pugi::xml_node elements) {
                      Tr("elements are nested more than %%1 levels deep", {std::to_string(kDeepestNesting)}));
     const auto id = xml::NumberAttribute(element, tags::kID);
     if (id < 1) throw XmlError(element, Tr("the identifier %%1 is below 1", {std::to_string(id)}));
-    if (!known.insert(id).second)
-      throw XmlError(element, Tr("the identifier %%1 is used twice", {std::to_string(id)}));
-    highest = std::max(highest, id);
+    if (!IsNew(id)) throw XmlError(element, Tr("the identifier %%1 is used twice", {std::to_string(id)}));
   }
-  return highest;
 }
 
 }  // namespace bench

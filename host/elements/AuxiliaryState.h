@@ -1,11 +1,13 @@
 #pragma once
 
 #include <optional>
+#include <pugixml.hpp>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "OrvikTypeLib/IAuxiliaryState.h"
+#include "host/services/Leftovers.h"
 
 namespace bench {
 
@@ -28,6 +30,13 @@ class AuxiliaryState final : public orvik::IAuxiliaryState {
   const std::optional<RunMark>& Run() const { return run_; }
   void SetRun(std::optional<RunMark> run) { run_ = std::move(run); }
 
+  void CopyFrom(const AuxiliaryState& other);
+  /// Replaces all by what an "Auxiliary" node says.
+  void Load(pugi::xml_node node);
+  void Save(pugi::xml_node node) const;
+  /// Whether nothing differs from a new state.
+  bool IsDefault() const { return printElement_ && doubts_.empty() && !run_ && leftovers_.Empty(); }
+
  private:
   bool IAuxiliaryState_PrintElement() const override { return printElement_; }
   void IAuxiliaryState_SetPrintElement(bool fPrint) override { printElement_ = fPrint; }
@@ -35,6 +44,7 @@ class AuxiliaryState final : public orvik::IAuxiliaryState {
   bool printElement_ = true;
   std::vector<std::string> doubts_;
   std::optional<RunMark> run_;
+  Leftovers leftovers_;
 };
 
 }  // namespace bench

@@ -48,14 +48,15 @@ std::shared_ptr<orvik::ITestElement> ElementFactory::FromCatalogue(const Identit
   const auto [known, added] = prototypes_.try_emplace({identity.plugInId, identity.testId});
   auto& prototype = known->second;
   if (added) {
-    prototype = plugIn->CreateTest(identity.testId);
-    if (const auto container = orvik::As<orvik::ITestContainer>(prototype)) {
+    prototype.element = plugIn->CreateTest(identity.testId);
+    if (prototype.element) prototype.classId = prototype.element->ClassID();
+    if (const auto container = orvik::As<orvik::ITestContainer>(prototype.element)) {
       while (container->Count() > 0) container->Remove(container->item(container->Count()));
     }
   }
-  const bool sameClass =
-      prototype && (identity.classId.empty() || SameApartFromCase(prototype->ClassID(), identity.classId));
-  return sameClass ? prototype->Clone() : nullptr;
+  const bool sameClass = prototype.element &&
+                         (identity.classId.empty() || SameApartFromCase(prototype.classId, identity.classId));
+  return sameClass ? prototype.element->Clone() : nullptr;
 }
 
 std::shared_ptr<orvik::IBaseElement> ElementFactory::BaseOf(

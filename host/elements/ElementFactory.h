@@ -80,6 +80,11 @@ class ElementFactory {
  private:
   std::shared_ptr<orvik::ITestElement> FromCatalogue(const Identity& identity);
 
+  struct Prototype {
+    std::shared_ptr<orvik::ITestElement> element;
+    std::string classId;
+  };
+
   /// Elements lie next to each other in memory, a few hundred bytes apart: so do their places in the table.
   struct Hash {
     std::size_t operator()(const orvik::ITestElement* element) const {
@@ -89,9 +94,9 @@ class ElementFactory {
 
   Classes classes_;
   std::vector<std::shared_ptr<orvik::IPlugIn>> plugIns_;
-  /// Childless copies of catalogue entries by plug-in and test; empty for a test that is not in the
-  /// catalogue.
-  std::map<std::pair<std::string, std::int32_t>, std::shared_ptr<orvik::ITestElement>> prototypes_;
+  /// Childless copies of catalogue entries by plug-in and test; without an element for a test that is not in
+  /// the catalogue.
+  std::map<std::pair<std::string, std::int32_t>, Prototype> prototypes_;
   std::unordered_map<const orvik::ITestElement*, std::weak_ptr<orvik::IBaseElement>, Hash> bases_;
   Problems problems_;
 };

@@ -1,17 +1,21 @@
 #pragma once
 
 #include <optional>
+#include <pugixml.hpp>
 #include <string>
 
 #include "OrvikTypeLib/IInformationRecord.h"
+#include "host/services/Leftovers.h"
 
 namespace bench {
 
-/// The texts that people are shown of an element.
+/// The texts that people are shown of an element. The second one is the display name until it is set.
 class InformationRecord final : public orvik::IInformationRecord {
  public:
-  /// Whether a second text was set, so that it is no longer the display name.
-  bool HasSecondText() const { return secondText_.has_value(); }
+  void CopyFrom(const InformationRecord& other);
+  /// Replaces the texts by those of an "Information" node.
+  void Load(pugi::xml_node node);
+  void Save(pugi::xml_node node) const;
 
  private:
   std::string IInformationRecord_FirstText() const override { return firstText_; }
@@ -24,6 +28,7 @@ class InformationRecord final : public orvik::IInformationRecord {
   std::string firstText_;
   std::string displayName_;
   std::optional<std::string> secondText_;
+  Leftovers leftovers_;
 };
 
 }  // namespace bench

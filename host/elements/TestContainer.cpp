@@ -118,6 +118,8 @@ std::shared_ptr<TestElement> TestContainer::NewOfSameClass() const {
   return std::make_shared<TestContainer>(Factory());
 }
 
+bool TestContainer::HasChildren() const { return children_->Size() > 0; }
+
 void TestContainer::CloneChildren(TestElement& copy) const {
   auto& container = dynamic_cast<TestContainer&>(copy);
   for (std::size_t index = 0; index < children_->Size(); ++index) {
@@ -145,9 +147,8 @@ void TestContainer::ClearChildren() {
 }
 
 void TestContainer::LoadChildren(const std::shared_ptr<orvik::IXmlNode>& node) {
-  for (auto part = orvik::Required(node).FirstChild(); part; part = part->NextSibling()) {
-    if (part->Name() == tags::kTestElement) LoadChild(part, nullptr);
-  }
+  const auto& saved = XmlNode::Of(node);
+  for (const auto child : saved.Raw().children(tags::kTestElement)) LoadChild(saved.Wrap(child), nullptr);
 }
 
 bool TestContainer::LoadChild(const std::shared_ptr<orvik::IXmlNode>& node,

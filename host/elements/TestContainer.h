@@ -36,6 +36,7 @@ class TestContainer final : public TestElement, public orvik::ITestContainer {
   void ITestContainer_Remove(std::shared_ptr<orvik::ITestElement> iteElement) override;
 
   std::shared_ptr<TestElement> NewOfSameClass() const override;
+  bool HasChildren() const override;
   void CloneChildren(TestElement& copy) const override;
   void ClearChildren() override;
   bool LoadChild(const std::shared_ptr<orvik::IXmlNode>& node,

@@ -151,7 +151,7 @@ void TestElement::ForgetOuter() {
 std::shared_ptr<orvik::ITestElement> TestElement::ITestElement_Clone() const {
   return Noted(-1, [&] {
     const Nesting level;
-    if (level.Outermost()) RequireShallow(Shown());
+    if (level.Outermost() && HasChildren()) RequireShallow(Shown());
     auto copy = NewOfSameClass();
     CopyTo(*copy);
     return std::shared_ptr<ITestElement>(std::move(copy));
@@ -162,14 +162,10 @@ void TestElement::CopyIdentity(TestElement& copy) const {
   copy.id_ = id_;
   copy.testId_ = testId_;
   copy.plugInId_ = plugInId_;
-  copy.information_->SetFirstText(information_->FirstText());
-  copy.information_->SetDisplayName(information_->DisplayName());
-  if (information_->HasSecondText()) copy.information_->SetSecondText(information_->SecondText());
-  if (auxiliary_) {
-    copy.Auxiliary()->SetPrintElement(auxiliary_->PrintElement());
-    copy.auxiliary_->SetDoubts(auxiliary_->Doubts());
-    copy.auxiliary_->SetRun(auxiliary_->Run());
-  }
+  copy.information_->CopyFrom(*information_);
+  if (!auxiliary_) return;
+  copy.auxiliary_ = std::make_shared<AuxiliaryState>();
+  copy.auxiliary_->CopyFrom(*auxiliary_);
 }
 
 void TestElement::CopyTo(TestElement& copy) const {
@@ -178,8 +174,6 @@ void TestElement::CopyTo(TestElement& copy) const {
   if (limits_) copy.limits_ = limits_->Clone();
   if (result_) copy.result_ = CopyOfResult();
   copy.leftovers_ = leftovers_;
-  copy.informationLeftovers_ = informationLeftovers_;
-  copy.auxiliaryLeftovers_ = auxiliaryLeftovers_;
   copy.configurationLeftovers_ = configurationLeftovers_;
   copy.resultLeftovers_ = resultLeftovers_;
   CloneChildren(copy);
@@ -220,7 +214,8 @@ void TestElement::LoadIdentity(pugi::xml_node node) {
 
 void TestElement::LoadElement(const std::shared_ptr<orvik::IXmlNode>& node,
                               const std::shared_ptr<IObject>& context) {
-  const auto raw = XmlNode::Of(node).Raw();
+  const auto& saved = XmlNode::Of(node);
+  const auto raw = saved.Raw();
   LoadIdentity(raw);
   // Every element is a part that `LoadPart` looks at.
   leftovers_.Take(raw, {tags::kID, tags::kTestID, tags::kPlugInID, tags::kClass},
@@ -229,7 +224,8 @@ void TestElement::LoadElement(const std::shared_ptr<orvik::IXmlNode>& node,
   ClearLimits();
   IBaseElement_SetResult(nullptr);
   ClearChildren();
-  for (auto part = node->FirstChild(); part; part = part->NextSibling()) LoadPart(part, context);
+  for (auto part = xml::FirstElement(raw); part; part = xml::NextElement(part))
+    LoadPart(saved, part, context);
 }
 
 /// What a file has no limits for has none.
@@ -237,44 +233,36 @@ void TestElement::ClearLimits() {
   if (limits_ && limits_->Standards()) limits_->Load(ScratchRoot(tags::kExpectedResult), nullptr);
 }
 
-void TestElement::LoadPart(const std::shared_ptr<orvik::IXmlNode>& part,
+void TestElement::LoadPart(const XmlNode& saved, pugi::xml_node part,
                            const std::shared_ptr<IObject>& context) {
-  const auto raw = XmlNode::Of(part).Raw();
-  const std::string_view name = raw.name();
+  const std::string_view name = part.name();
   bool known = true;
   if (name == tags::kInformation) {
-    information_ = std::make_shared<InformationRecord>();
-    information_->SetFirstText(raw.attribute(tags::kFirstText).value());
-    information_->SetDisplayName(raw.attribute(tags::kDisplayName).value());
-    if (const auto second = raw.attribute(tags::kSecondText)) information_->SetSecondText(second.value());
-    informationLeftovers_.Take(raw, {tags::kFirstText, tags::kSecondText, tags::kDisplayName}, {});
+    information_->Load(part);
   } else if (name == tags::kAuxiliary) {
-    if (const auto print = raw.attribute(tags::kPrint)) Auxiliary()->SetPrintElement(print.as_bool());
-    std::vector<std::string> doubts;
-    for (const auto doubt : raw.children(tags::kDoubt)) doubts.emplace_back(doubt.text().get());
-    if (!doubts.empty()) Auxiliary();
-    if (auxiliary_) auxiliary_->SetDoubts(std::move(doubts));
-    const auto run = raw.child(tags::kRun);
-    if (run) Auxiliary();
-    if (run)
-      auxiliary_->SetRun(RunMark{run.attribute(tags::kDate).value(), run.attribute(tags::kOperator).value()});
-    auxiliaryLeftovers_.Take(raw, {tags::kPrint}, {tags::kDoubt, tags::kRun});
+    LoadAuxiliary(part);
   } else if (name == tags::kConfiguration && configuration_) {
-    configuration_->Load(part);
-    configurationLeftovers_.Take(raw, {}, {tags::kPlugInData});
+    configuration_->Load(saved.Wrap(part));
+    configurationLeftovers_.Take(part, {}, {tags::kPlugInData});
   } else if (name == tags::kExpectedResult && limits_) {
-    limits_->Load(part, context);
+    limits_->Load(saved.Wrap(part), context);
   } else if (name == tags::kResultItem && !outer_.expired()) {
-    Shown()->Load(part, context);
+    Shown()->Load(saved.Wrap(part), context);
     // The plug-in's element ignores errors, but a result must not vanish.
     if (!result_)
       throw HostError(HostError::kInvalidArgument, kElementSource, Tr("the result could not be read"));
   } else if (name == tags::kTestElement) {
-    known = LoadChild(part, context);
+    known = LoadChild(saved.Wrap(part), context);
   } else {
     known = name != tags::kConfiguration && name != tags::kExpectedResult && name != tags::kResultItem;
   }
-  if (!known) leftovers_.Add(raw);
+  if (!known) leftovers_.Add(part);
+}
+
+void TestElement::LoadAuxiliary(pugi::xml_node node) {
+  const auto loaded = auxiliary_ ? auxiliary_ : std::make_shared<AuxiliaryState>();
+  loaded->Load(node);
+  if (!loaded->IsDefault()) auxiliary_ = loaded;
 }
 
 void TestElement::LoadResult(const std::shared_ptr<orvik::IXmlNode>& node,
@@ -288,7 +276,7 @@ std::shared_ptr<orvik::IXmlNode> TestElement::ITestElement_Save(
     std::shared_ptr<orvik::IXmlNode> Parent) const {
   return Noted(-1, [&] {
     const Nesting level;
-    if (level.Outermost()) RequireShallow(Shown());
+    if (level.Outermost() && HasChildren()) RequireShallow(Shown());
     auto node = orvik::Required(Parent).AddChild(tags::kTestElement);
     SaveTo(node);
     return node;
@@ -297,31 +285,14 @@ std::shared_ptr<orvik::IXmlNode> TestElement::ITestElement_Save(
 
 void TestElement::SaveTo(const std::shared_ptr<orvik::IXmlNode>& node) const {
   auto raw = XmlNode::Of(node).Raw();
-  xml::SetAttribute(raw, tags::kID, std::to_string(id_));
-  xml::SetAttribute(raw, tags::kTestID, std::to_string(testId_));
-  xml::SetAttribute(raw, tags::kPlugInID, plugInId_);
-  xml::SetAttribute(raw, tags::kClass, Shown()->ClassID());
+  xml::AddAttribute(raw, tags::kID, std::to_string(id_));
+  xml::AddAttribute(raw, tags::kTestID, std::to_string(testId_));
+  xml::AddAttribute(raw, tags::kPlugInID, plugInId_);
+  xml::AddAttribute(raw, tags::kClass, Shown()->ClassID());
 
-  const auto information = raw.append_child(tags::kInformation);
-  if (!information_->FirstText().empty())
-    xml::SetAttribute(information, tags::kFirstText, information_->FirstText());
-  if (information_->HasSecondText())
-    xml::SetAttribute(information, tags::kSecondText, information_->SecondText());
-  xml::SetAttribute(information, tags::kDisplayName, information_->DisplayName());
-  informationLeftovers_.Restore(information);
-
-  auto auxiliary = raw.append_child(tags::kAuxiliary);
-  xml::SetAttribute(auxiliary, tags::kPrint, !auxiliary_ || auxiliary_->PrintElement() ? "1" : "0");
-  if (auxiliary_) {
-    for (const auto& doubt : auxiliary_->Doubts()) xml::SetText(auxiliary.append_child(tags::kDoubt), doubt);
-    if (const auto& run = auxiliary_->Run()) {
-      const auto saved = auxiliary.append_child(tags::kRun);
-      xml::SetAttribute(saved, tags::kDate, run->date);
-      xml::SetAttribute(saved, tags::kOperator, run->by);
-    }
-  }
-  auxiliaryLeftovers_.Restore(auxiliary);
-
+  information_->Save(raw.append_child(tags::kInformation));
+  const AuxiliaryState unchanged;
+  (auxiliary_ ? *auxiliary_ : unchanged).Save(raw.append_child(tags::kAuxiliary));
   if (configuration_) {
     const auto configuration = node->AddChild(tags::kConfiguration);
     configuration_->Save(configuration);

@@ -12,6 +12,8 @@
 
 namespace bench {
 
+class XmlNode;
+
 /// The standard element. Saved as
 ///
 ///     <TestElement ID="3" TestID="410" PlugInID="KELD(IN)" Class="orvikKELD.CKELDTestElement">
@@ -39,6 +41,7 @@ class TestElement : public orvik::IBaseElement {
   /// A new element of the same class.
   virtual std::shared_ptr<TestElement> NewOfSameClass() const;
   /// What a container adds to the deep operations.
+  virtual bool HasChildren() const { return false; }
   virtual void CloneChildren(TestElement&) const {}
   virtual void SaveChildren(const std::shared_ptr<orvik::IXmlNode>&) const {}
   virtual void ClearChildren() {}
@@ -93,8 +96,9 @@ class TestElement : public orvik::IBaseElement {
   void CopyTo(TestElement& copy) const;
   std::shared_ptr<orvik::IResultData> CopyOfResult() const;
   void LoadElement(const std::shared_ptr<orvik::IXmlNode>& node, const std::shared_ptr<IObject>& context);
-  void LoadPart(const std::shared_ptr<orvik::IXmlNode>& part, const std::shared_ptr<IObject>& context);
+  void LoadPart(const XmlNode& saved, pugi::xml_node part, const std::shared_ptr<IObject>& context);
   void LoadResult(const std::shared_ptr<orvik::IXmlNode>& node, const std::shared_ptr<IObject>& context);
+  void LoadAuxiliary(pugi::xml_node node);
   void ClearLimits();
   void SaveTo(const std::shared_ptr<orvik::IXmlNode>& node) const;
   void SaveResult(const std::shared_ptr<orvik::IXmlNode>& node) const;
@@ -110,15 +114,13 @@ class TestElement : public orvik::IBaseElement {
   std::weak_ptr<ITestElement> outer_;
   /// Under which the factory knows the outer element; it may be gone by now.
   const ITestElement* outerKey_ = nullptr;
-  mutable std::shared_ptr<InformationRecord> information_ = std::make_shared<InformationRecord>();
+  std::shared_ptr<InformationRecord> information_ = std::make_shared<InformationRecord>();
   /// Created when somebody asks for it: few elements differ from the default.
   mutable std::shared_ptr<AuxiliaryState> auxiliary_;
   std::shared_ptr<orvik::IConfigData> configuration_;
   std::shared_ptr<orvik::ILimitData> limits_;
   std::shared_ptr<orvik::IResultData> result_;
   Leftovers leftovers_;
-  Leftovers informationLeftovers_;
-  Leftovers auxiliaryLeftovers_;
   Leftovers configurationLeftovers_;
   Leftovers resultLeftovers_;
 };

@@ -5,11 +5,14 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <thread>
+#include <vector>
 
 #include "OrvikTypeLib/HostError.h"
 #include "host/services/LanguageService.h"
+#include "host/services/LargeText.h"
 #include "host/services/SystemError.h"
 #include "host/services/Tr.h"
 
@@ -51,17 +54,17 @@ std::string ReadDescriptor(int descriptor, const std::filesystem::path& file) {
   if (!S_ISREG(status.st_mode)) ThrowFileError(file, Tr("%%1 is no file"), 0, Tr("name a file"));
   if (static_cast<std::uintmax_t>(status.st_size) > kLargestFile)
     ThrowFileError(file, Tr("%%1 is too large"), 0, Tr("files up to 512 MiB are read"));
-  std::string contents(static_cast<std::size_t>(status.st_size), '\0');
-  std::size_t filled = 0;
-  while (filled < contents.size()) {
-    const ssize_t count =
-        pread(descriptor, contents.data() + filled, contents.size() - filled, static_cast<off_t>(filled));
+  const auto size = static_cast<std::size_t>(status.st_size);
+  auto contents = TextWithRoom(size);
+  std::vector<char> block(std::min<std::size_t>(size, 256 * 1024));
+  while (contents.size() < size) {
+    const ssize_t count = pread(descriptor, block.data(), std::min(block.size(), size - contents.size()),
+                                static_cast<off_t>(contents.size()));
     if (count < 0 && errno == EINTR) continue;
     if (count < 0) ThrowFileError(file, Tr("%%1 cannot be read"), errno, Tr("check the disk"));
     if (count == 0) break;
-    filled += static_cast<std::size_t>(count);
+    contents.append(block.data(), static_cast<std::size_t>(count));
   }
-  contents.resize(filled);
   return contents;
 }
 

@@ -1,18 +1,39 @@
 #include "host/services/Leftovers.h"
 
 #include <algorithm>
+#include <cstring>
+#include <span>
 
 namespace bench {
 namespace {
 
-bool Holds(std::initializer_list<std::string_view> names, std::string_view name) {
-  return std::find(names.begin(), names.end(), name) != names.end();
-}
+/// Finds known things by their names. Nearly all files hold them in the order in which they are listed.
+template <class Known>
+class InOrder {
+ public:
+  explicit InOrder(std::span<const Known> all)
+      : begin_(all.data()), end_(begin_ + all.size()), next_(begin_) {}
 
-bool IsKnown(pugi::xml_node child, std::initializer_list<std::string_view> knownElements) {
+  /// Nothing when it is not known.
+  const Known* Find(const char* name) {
+    const auto has = [name](const Known& known) { return std::strcmp(NameOf(known), name) == 0; };
+    if (next_ == end_ || !has(*next_)) next_ = std::find_if(begin_, end_, has);
+    return next_ == end_ ? nullptr : next_++;
+  }
+
+ private:
+  static const char* NameOf(const char* known) { return known; }
+  static const char* NameOf(const Leftovers::Attribute& known) { return known.name; }
+
+  const Known* begin_;
+  const Known* end_;
+  const Known* next_;
+};
+
+bool IsKnown(pugi::xml_node child, InOrder<const char*>& knownElements) {
   switch (child.type()) {
     case pugi::node_element:
-      return Holds(knownElements, child.name());
+      return knownElements.Find(child.name()) != nullptr;
     case pugi::node_declaration:
       return true;
     default:
@@ -42,14 +63,18 @@ pugi::xml_node Leftovers::Holder() {
   return kept_->first_child();
 }
 
-void Leftovers::Take(pugi::xml_node node, std::initializer_list<std::string_view> knownAttributes,
-                     std::initializer_list<std::string_view> knownElements) {
+void Leftovers::Take(pugi::xml_node node, std::initializer_list<Attribute> knownAttributes,
+                     std::initializer_list<const char*> knownElements) {
   kept_.reset();
+  InOrder<Attribute> attributes({knownAttributes.begin(), knownAttributes.size()});
   for (auto attribute = node.first_attribute(); attribute; attribute = attribute.next_attribute()) {
-    if (!Holds(knownAttributes, attribute.name())) Holder().append_copy(attribute);
+    const auto* known = attributes.Find(attribute.name());
+    if (!known) Holder().append_copy(attribute);
+    if (known && known->value) *known->value = attribute.value();
   }
+  InOrder<const char*> elements({knownElements.begin(), knownElements.size()});
   for (auto child = node.first_child(); child; child = child.next_sibling()) {
-    if (!IsKnown(child, knownElements)) Holder().append_copy(child);
+    if (!IsKnown(child, elements)) Holder().append_copy(child);
   }
 }
 

@@ -3,7 +3,6 @@
 #include <initializer_list>
 #include <memory>
 #include <pugixml.hpp>
-#include <string_view>
 
 namespace bench {
 
@@ -11,6 +10,16 @@ namespace bench {
 /// so that a file which another version or another program has added to loses nothing.
 class Leftovers {
  public:
+  /// An attribute that its reader knows, and where its value goes, as long as the node lives; where there is
+  /// no such attribute, nothing goes there.
+  struct Attribute {
+    Attribute(const char* known) : name(known) {}
+    Attribute(const char* known, const char*& goesTo) : name(known), value(&goesTo) {}
+
+    const char* name;
+    const char** value = nullptr;
+  };
+
   Leftovers() = default;
   Leftovers(const Leftovers& other);
   Leftovers& operator=(const Leftovers& other);
@@ -19,8 +28,8 @@ class Leftovers {
   ~Leftovers() = default;
 
   /// Replaces what is kept by all of the node that is not named here.
-  void Take(pugi::xml_node node, std::initializer_list<std::string_view> knownAttributes,
-            std::initializer_list<std::string_view> knownElements);
+  void Take(pugi::xml_node node, std::initializer_list<Attribute> knownAttributes,
+            std::initializer_list<const char*> knownElements);
 
   /// Keeps one more element.
   void Add(pugi::xml_node element);

@@ -14,20 +14,20 @@ void ServiceRecord::IServiceRecord_Initialize(std::shared_ptr<orvik::IInformatio
 }
 
 void ServiceRecord::IServiceRecord_Load(std::shared_ptr<orvik::IXmlNode> Node, std::shared_ptr<IObject>) {
-  const auto node = XmlNode::Of(Node).Raw();
-  name_ = node.attribute("Name").value();
-  code_ = node.attribute("Code").value();
-  value_ = node.attribute("Value").value();
-  leftovers_.Take(node, {"Name", "Code", "Value"}, {});
+  const char *name = "", *code = "", *value = "";
+  leftovers_.Take(XmlNode::Of(Node).Raw(), {{"Name", name}, {"Code", code}, {"Value", value}}, {});
+  name_ = name;
+  code_ = code;
+  value_ = value;
 }
 
 std::shared_ptr<orvik::IXmlNode> ServiceRecord::IServiceRecord_Save(
     std::shared_ptr<orvik::IXmlNode> Parent) const {
   auto saved = orvik::Required(Parent).AddChild("ServiceRecord");
   const auto node = XmlNode::Of(saved).Raw();
-  xml::SetAttribute(node, "Name", name_);
-  xml::SetAttribute(node, "Code", code_);
-  xml::SetAttribute(node, "Value", value_);
+  xml::AddAttribute(node, "Name", name_);
+  xml::AddAttribute(node, "Code", code_);
+  xml::AddAttribute(node, "Value", value_);
   leftovers_.Restore(node);
   return saved;
 }

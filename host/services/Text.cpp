@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <cstring>
 
 namespace bench {
 namespace {
@@ -23,6 +24,17 @@ std::optional<Value> Whole(std::string_view text) {
 
 char Lower(char letter) {
   return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
+}
+
+/// The first byte at or behind `from` that is NUL or above 0x7F: nearly all of most texts lies before it.
+std::size_t PastAscii(std::string_view text, std::size_t from) {
+  for (std::uint64_t eight = 0; from + sizeof eight <= text.size(); from += sizeof eight) {
+    std::memcpy(&eight, text.data() + from, sizeof eight);
+    constexpr std::uint64_t kHighBits = 0x8080808080808080U, kOnes = 0x0101010101010101U;
+    if (((eight | (eight - kOnes)) & kHighBits) != 0) break;
+  }
+  while (from < text.size() && text[from] != 0 && static_cast<unsigned char>(text[from]) < 0x80) ++from;
+  return from;
 }
 
 /// Length of the valid UTF-8 sequence at the start of the text; 0 when there is none.
@@ -87,20 +99,22 @@ std::string ValidUtf8(std::string_view text) {
 }
 
 bool SameApartFromCase(std::string_view one, std::string_view other) {
+  if (one == other) return true;
   return std::equal(one.begin(), one.end(), other.begin(), other.end(),
                     [](char left, char right) { return Lower(left) == Lower(right); });
 }
 
+// Class identifiers differ in their ends: eight letters tell them well enough.
 std::size_t HashApartFromCase::operator()(std::string_view text) const {
-  std::uint64_t hash = 0xCBF29CE484222325U;  // FNV-1a
-  for (const char letter : text) hash = (hash ^ static_cast<unsigned char>(Lower(letter))) * 0x100000001B3U;
+  std::uint64_t hash = 0xCBF29CE484222325U ^ text.size();  // FNV-1a
+  for (const char letter : text.substr(text.size() - std::min<std::size_t>(text.size(), 8)))
+    hash = (hash ^ static_cast<unsigned char>(Lower(letter))) * 0x100000001B3U;
   return hash;
 }
 
 std::size_t InvalidUtf8(std::string_view text, std::size_t from) {
   while (from < text.size()) {
-    // Nearly all of most texts.
-    while (from < text.size() && text[from] != 0 && static_cast<unsigned char>(text[from]) < 0x80) ++from;
+    from = PastAscii(text, from);
     if (from == text.size()) break;
     const std::size_t length = SequenceLength(text.substr(from));
     if (length == 0) return from;

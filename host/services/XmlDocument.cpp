@@ -106,6 +106,13 @@ Fault ParseAsFarAsPossible(std::string_view text, pugi::xml_document& document) 
   return fault;
 }
 
+bool ParseElements(std::string_view text, pugi::xml_document& document) {
+  const auto result = document.load_buffer(text.data(), text.size(), kParseFlags, pugi::encoding_utf8);
+  if (!result || text.find('\0') != std::string_view::npos) return false;
+  return std::all_of(document.begin(), document.end(),
+                     [](pugi::xml_node node) { return node.type() == pugi::node_element; });
+}
+
 std::size_t LineOf(std::string_view text, std::size_t offset) {
   const auto end = text.begin() + static_cast<std::ptrdiff_t>(std::min(offset, text.size()));
   return 1 + static_cast<std::size_t>(std::count(text.begin(), end, '\n'));

@@ -45,6 +45,10 @@ Fault Parse(std::string_view text, pugi::xml_document& document);
 /// The same, but what stands before the fault stays in `document`.
 Fault ParseAsFarAsPossible(std::string_view text, pugi::xml_document& document);
 
+/// Parses whole elements that stand beside each other, with nothing but white space around them.
+/// @return false when the text is anything else
+bool ParseElements(std::string_view text, pugi::xml_document& document);
+
 /// The number of the line, from 1, in which the byte stands.
 std::size_t LineOf(std::string_view text, std::size_t offset);
 

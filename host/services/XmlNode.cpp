@@ -80,9 +80,15 @@ void SetText(pugi::xml_node element, const std::string& text) {
 }
 
 void SetAttribute(pugi::xml_node element, const char* name, const std::string& value) {
-  auto attribute = element.attribute(name);
-  if (!attribute) attribute = element.append_attribute(name);
-  SetValue(attribute, value);
+  if (const auto attribute = element.attribute(name)) {
+    SetValue(attribute, value);
+  } else {
+    AddAttribute(element, name, value);
+  }
+}
+
+void AddAttribute(pugi::xml_node element, const char* name, const std::string& value) {
+  SetValue(element.append_attribute(name), value);
 }
 
 pugi::xml_node AddElement(pugi::xml_node parent, const std::string& name) {

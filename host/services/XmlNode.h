@@ -20,6 +20,8 @@ class XmlNode final : public orvik::IXmlNode {
 
   const std::shared_ptr<pugi::xml_document>& Document() const { return document_; }
   pugi::xml_node Raw() const { return node_; }
+  /// Another node of the same document; empty for an empty one.
+  std::shared_ptr<IXmlNode> Wrap(pugi::xml_node node) const;
 
  private:
   std::string IXmlNode_Name() const override;
@@ -35,8 +37,6 @@ class XmlNode final : public orvik::IXmlNode {
   std::shared_ptr<IXmlNode> IXmlNode_FindChild(const std::string& sName) const override;
   std::shared_ptr<IXmlNode> IXmlNode_AddChild(const std::string& sName) override;
   void IXmlNode_Append(std::shared_ptr<IXmlNode> Node) override;
-
-  std::shared_ptr<IXmlNode> Wrap(pugi::xml_node node) const;
 
   std::shared_ptr<pugi::xml_document> document_;
   pugi::xml_node node_;
@@ -72,6 +72,9 @@ void SetText(pugi::xml_node element, const std::string& text);
 
 /// Adds or replaces an attribute. What no file can hold (NUL, bytes that are not UTF-8) becomes U+FFFD.
 void SetAttribute(pugi::xml_node element, const char* name, const std::string& value);
+
+/// Adds an attribute to an element that has none of that name.
+void AddAttribute(pugi::xml_node element, const char* name, const std::string& value);
 
 /// Adds an element; `HostError` 5 for a text that is no tag.
 pugi::xml_node AddElement(pugi::xml_node parent, const std::string& name);

@@ -111,27 +111,24 @@ std::shared_ptr<Limit> Limit::Copy() const {
 }
 
 void Limit::Load(pugi::xml_node node) {
+  const char *key = "", *unit = "", *low = "", *high = "", *nominal = "";
+  leftovers_.Take(node, {{kKey, key}, {kUnit, unit}, {kLow, low}, {kHigh, high}, {kNominal, nominal}}, {});
   try {
-    key_ = node.attribute(kKey).value();
-    unit_ = node.attribute(kUnit).value();
-    const std::string nominal = node.attribute(kNominal).value();
-    if (!nominal.empty() && !FiniteNumber(nominal))
-      Refuse(Tr("the nominal value \"%%1\" is no number", {nominal}));
     nominal_ = FiniteNumber(nominal);
-    ILimit_SetBounds(node.attribute(kLow).value(), node.attribute(kHigh).value());
+    if (!nominal_ && *nominal) Refuse(Tr("the nominal value \"%%1\" is no number", {nominal}));
+    ILimit_Initialize(key, unit, low, high);
   } catch (const HostError& error) {
     throw XmlError(node, error.Description());
   }
-  leftovers_.Take(node, {kKey, kUnit, kLow, kHigh, kNominal}, {});
 }
 
 void Limit::Save(pugi::xml_node parent) const {
   const auto node = parent.append_child("Limit");
-  xml::SetAttribute(node, kKey, key_);
-  xml::SetAttribute(node, kUnit, unit_);
-  if (low_) xml::SetAttribute(node, kLow, lowText_);
-  if (high_) xml::SetAttribute(node, kHigh, highText_);
-  if (nominal_) xml::SetAttribute(node, kNominal, ExactNumberText(*nominal_));
+  xml::AddAttribute(node, kKey, key_);
+  xml::AddAttribute(node, kUnit, unit_);
+  if (low_) xml::AddAttribute(node, kLow, lowText_);
+  if (high_) xml::AddAttribute(node, kHigh, highText_);
+  if (nominal_) xml::AddAttribute(node, kNominal, ExactNumberText(*nominal_));
   leftovers_.Restore(node);
 }
 

@@ -66,23 +66,24 @@ std::shared_ptr<Standard> Standard::Copy() const {
 }
 
 void Standard::Load(pugi::xml_node node) {
-  name_ = node.attribute(kName).value();
-  description_ = node.attribute(kDescription).value();
-  number_ = node.attribute(kNumber) ? xml::NumberAttribute(node, kNumber) : 1;
+  const char *name = "", *description = "", *number = nullptr;
+  leftovers_.Take(node, {{kName, name}, {kDescription, description}, {kNumber, number}}, {kLimit});
+  name_ = name;
+  description_ = description;
+  number_ = number ? xml::NumberAttribute(node, kNumber) : 1;
   limits_.clear();
   for (const auto child : node.children(kLimit)) {
     const auto limit = std::make_shared<bench::Limit>();
     limit->Load(child);
     limits_.push_back(limit);
   }
-  leftovers_.Take(node, {kName, kDescription, kNumber}, {kLimit});
 }
 
 void Standard::Save(pugi::xml_node parent) const {
   const auto node = parent.append_child("Standard");
-  xml::SetAttribute(node, kName, name_);
-  xml::SetAttribute(node, kDescription, description_);
-  xml::SetAttribute(node, kNumber, std::to_string(number_));
+  xml::AddAttribute(node, kName, name_);
+  xml::AddAttribute(node, kDescription, description_);
+  xml::AddAttribute(node, kNumber, std::to_string(number_));
   for (const auto& limit : limits_) limit->Save(node);
   leftovers_.Restore(node);
 }

@@ -428,8 +428,11 @@ TEST_F(DocumentTest, AnyDamageGivesAnErrorOrADocument) {
 TEST(SavedElements, HighestIdentifierCountsAtAnyDepth) {
   pugi::xml_document document;
   document.load_string("<E><TestElement ID='2'><TestElement ID='7'/></TestElement><TestElement ID='3'/></E>");
-  EXPECT_EQ(CheckSavedElements(document.document_element()), 7);
-  EXPECT_EQ(CheckSavedElements(pugi::xml_node()), 0);
+  SavedElements saved;
+  saved.Check(pugi::xml_node());
+  EXPECT_EQ(saved.HighestId(), 0);
+  saved.Check(document.document_element());
+  EXPECT_EQ(saved.HighestId(), 7);
 }
 
 }  // namespace

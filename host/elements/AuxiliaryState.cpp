@@ -1,0 +1,36 @@
+#include "host/elements/AuxiliaryState.h"
+
+#include "host/elements/ElementTags.h"
+#include "host/services/XmlNode.h"
+
+namespace bench {
+
+void AuxiliaryState::CopyFrom(const AuxiliaryState& other) {
+  printElement_ = other.printElement_;
+  doubts_ = other.doubts_;
+  run_ = other.run_;
+  leftovers_ = other.leftovers_;
+}
+
+void AuxiliaryState::Load(pugi::xml_node node) {
+  printElement_ = node.attribute(tags::kPrint).as_bool(true);
+  doubts_.clear();
+  for (const auto doubt : node.children(tags::kDoubt)) doubts_.emplace_back(doubt.text().get());
+  run_.reset();
+  if (const auto run = node.child(tags::kRun))
+    run_ = RunMark{run.attribute(tags::kDate).value(), run.attribute(tags::kOperator).value()};
+  leftovers_.Take(node, {tags::kPrint}, {tags::kDoubt, tags::kRun});
+}
+
+void AuxiliaryState::Save(pugi::xml_node node) const {
+  xml::AddAttribute(node, tags::kPrint, printElement_ ? "1" : "0");
+  for (const auto& doubt : doubts_) xml::SetText(node.append_child(tags::kDoubt), doubt);
+  if (run_) {
+    const auto saved = node.append_child(tags::kRun);
+    xml::AddAttribute(saved, tags::kDate, run_->date);
+    xml::AddAttribute(saved, tags::kOperator, run_->by);
+  }
+  leftovers_.Restore(node);
+}
+
+}  // namespace bench
