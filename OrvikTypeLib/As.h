@@ -1,6 +1,8 @@
 #pragma once
 
 #include <memory>
+#include <type_traits>
+#include <typeinfo>
 
 #include "OrvikTypeLib/HostError.h"
 
@@ -9,7 +11,14 @@ namespace orvik {
 /// Another view of an object: empty when the object is empty or has no such view.
 template <class Interface, class Object>
 [[nodiscard]] std::shared_ptr<Interface> As(const std::shared_ptr<Object>& object) {
-  return std::dynamic_pointer_cast<Interface>(object);
+  if constexpr (std::is_final_v<Interface> && requires(Object * any) { static_cast<Interface*>(any); }) {
+    // Of a class that nothing derives from, the type alone tells.
+    const auto* any = object.get();
+    if (!any || typeid(*any) != typeid(Interface)) return nullptr;
+    return std::static_pointer_cast<Interface>(object);
+  } else {
+    return std::dynamic_pointer_cast<Interface>(object);
+  }
 }
 
 /// The object behind a reference that must not be empty; `HostError` 91 when it is, so that the step that

@@ -25,7 +25,7 @@ class FYesNoPrompt;
 /// of a run.
 ///
 /// Every operation ignores errors step by step: a failing call is passed over and the next step runs.
-class CKELDElement : public virtual orvik::ITestElement, public virtual IKELDTest {
+class CKELDElement : public orvik::ITestElement, public IKELDTest {
  public:
   /// The host's element behind this one. Setting it to empty is ignored.
   std::shared_ptr<orvik::IBaseElement> BaseElement() const { return mBaseElement; }

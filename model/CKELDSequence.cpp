@@ -73,7 +73,8 @@ void CKELDSequence::ITestContainer_Remove(std::shared_ptr<orvik::ITestElement> i
 // --- ITestElement ---
 
 std::shared_ptr<orvik::ITestElement> CKELDSequence::ITestElement_Clone() const {
-  auto Copy = CKELDSequence::Create();
+  // Without the base element, configuration and limits of `Create`: those of the copy would replace them.
+  auto Copy = std::make_shared<CKELDSequence>();
   if (!CloneInto(*Copy)) return nullptr;
   // The host copied the children into its own container; they stand in the sequence.
   ForEachChild(*Copy, [&](const auto& iteChild) { iteChild->SetParent(Copy); });

@@ -11,7 +11,7 @@ namespace keld {
 
 /// A test element that holds others, single tests or further sequences, and runs them in order on one
 /// instrument link.
-class CKELDSequence final : public CKELDElement, public virtual orvik::ITestContainer {
+class CKELDSequence final : public CKELDElement, public orvik::ITestContainer {
  public:
   /// A sequence with a container element of the host, its own configuration and its own limits.
   static std::shared_ptr<CKELDSequence> Create();

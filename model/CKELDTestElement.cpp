@@ -47,7 +47,8 @@ void CKELDTestElement::ITestElement_Initialize(const std::string& sPlugInID, std
 }
 
 std::shared_ptr<orvik::ITestElement> CKELDTestElement::ITestElement_Clone() const {
-  auto Copy = CKELDTestElement::Create();
+  // Without the base element, configuration and limits of `Create`: those of the copy would replace them.
+  auto Copy = std::make_shared<CKELDTestElement>();
   if (!CloneInto(*Copy)) return nullptr;
   return Copy;
 }

@@ -18,7 +18,7 @@ namespace keld {
 ///
 /// Saved as `<PlugInData><KELDConfig Options="3" ValueFilter="No values"/></PlugInData>` inside the host's
 /// "Configuration" record. Errors inside the host interface's operations are ignored.
-class CKELDTestConfiguration final : public virtual orvik::IConfigData {
+class CKELDTestConfiguration final : public orvik::IConfigData {
  public:
   static std::shared_ptr<CKELDTestConfiguration> Create();
 

@@ -71,7 +71,7 @@ std::shared_ptr<orvik::IObject> CKELDLimitData::ILimitData_Owner() const { retur
 
 std::shared_ptr<orvik::ILimitData> CKELDLimitData::ILimitData_Clone() const {
   auto Copy = CKELDLimitData::Create();
-  Copy->CopyFrom(As<const orvik::ILimitData>(shared_from_this()));
+  Copy->CopyFrom(std::shared_ptr<const orvik::ILimitData>(shared_from_this(), this));
   return Copy;
 }
 

@@ -17,7 +17,7 @@ namespace keld {
 /// Whether a value keeps a limit is decided by the host's standards.
 ///
 /// Errors of the host pass to the caller unchanged. A missing collection means that there are no limits.
-class CKELDLimitData final : public virtual orvik::ILimitData {
+class CKELDLimitData final : public orvik::ILimitData {
  public:
   /// Limits without a collection and without an owner.
   static std::shared_ptr<CKELDLimitData> Create();

@@ -14,7 +14,7 @@ namespace keld {
 ///
 /// Errors of the host pass to the caller unchanged, except in `CreateDialog`, which skips the step that
 /// fails.
-class CKELDResultData final : public virtual orvik::IResultData {
+class CKELDResultData final : public orvik::IResultData {
  public:
   /// A result with status 0 and nothing else.
   static std::shared_ptr<CKELDResultData> Create();
