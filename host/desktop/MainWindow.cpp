@@ -119,6 +119,7 @@ void MainWindow::Tell(const std::string& error) {
 QAction* MainWindow::NewAction(const char* name, const std::string& text, const QKeySequence& keys,
                                void (MainWindow::*work)(), When when) {
   auto* action = new QAction(Shown(text), this);
+  action->setIconText(ButtonText(text));
   action->setObjectName(name);
   action->setShortcut(keys);
   connect(action, &QAction::triggered, this,

@@ -2,6 +2,7 @@
 
 #include <QPainter>
 #include <QPixmap>
+#include <QRegularExpression>
 
 #include "host/pdf/PdfStyle.h"
 #include "host/pdf/PdfText.h"
@@ -14,6 +15,14 @@ constexpr int kIconSize = 64;  // Qt makes it smaller where it is shown
 constexpr int kSignRoom = 15;
 
 }  // namespace
+
+QString ButtonText(const std::string& text) {
+  auto shown = Shown(text);
+  shown.remove(QRegularExpression("\\(&.\\)"));
+  shown.remove('&');
+  if (shown.endsWith("...")) shown.chop(3);
+  return shown;
+}
 
 QIcon SignIcon(report::Standing standing) {
   QPixmap picture(kIconSize, kIconSize);
