@@ -1,6 +1,7 @@
 #include "host/app/CalibrationWindow.h"
 
 #include "OrvikTypeLib/As.h"
+#include "host/app/TextColumns.h"
 #include "host/run/GuideToolbar.h"
 #include "host/services/Tr.h"
 #include "platform/Controls.h"
@@ -17,6 +18,9 @@ constexpr char kCancel[] = "cmdCancel";
 constexpr char kSerial[] = "txtSerial";
 constexpr char kType[] = "txtMTIType";
 constexpr char kValue[] = "lblValue";
+/// More than any set of leads has, and than every limit of a protective earth: whatever reads less would
+/// become 0 and pass.
+constexpr double kMostOhmsOfLeads = 0.5;
 constexpr std::int32_t kCalibration = 0;  // stands for an element's identifier
 
 std::shared_ptr<orvik::platform::ITextBox> TextBox(const orvik::platform::IForm& form, const char* name) {
@@ -29,6 +33,7 @@ CalibrationWindow::CalibrationWindow(Workbench& workbench, std::string serial)
     : workbench_(workbench),
       serial_(std::move(serial)),
       doubts_(*workbench.Ports().TheWire()),
+      heard_(workbench.Ports().TheWire()->Subscribe([this](const WireRecord&) { DoubtTooMuch(); })),
       dialog_(orvik::As<orvik::IDialogForm>(workbench.Host()->CreateObject(kClass))),
       form_(orvik::Required(dialog_).Form()) {}
 
@@ -48,6 +53,15 @@ void CalibrationWindow::Show() {
   });
   form_->ShowModal(nullptr);
   form_->Unload();
+}
+
+void CalibrationWindow::DoubtTooMuch() {
+  const auto ohms = doubts_.LastOhms();
+  if (!ohms || *ohms <= kMostOhmsOfLeads) return;
+  doubts_.Add(kCalibration,
+              Tr("%%1 mOhm is more than test leads have; put the clip firmly at the ground of the "
+                 "tester's power socket",
+                 {ShortNumber(*ohms * 1000)}));
 }
 
 void CalibrationWindow::RefuseDoubtful() {

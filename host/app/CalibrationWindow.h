@@ -37,12 +37,14 @@ class CalibrationWindow {
 
  private:
   void Operate();
+  void DoubtTooMuch();
   void RefuseDoubtful();
   std::string Obstacle() const;
 
   Workbench& workbench_;
   const std::string serial_;
   DoubtTracker doubts_;
+  orvik::platform::Subscription heard_;
   std::shared_ptr<orvik::IDialogForm> dialog_;
   std::shared_ptr<orvik::platform::IForm> form_;
   std::optional<Saved> stored_;

@@ -13,6 +13,7 @@ DoubtTracker::DoubtTracker(Wire& wire)
 
 void DoubtTracker::ElementStarts(std::int32_t id) {
   running_ = id;
+  lastOhms_.reset();
   doubts_.erase(id);
 }
 
@@ -42,6 +43,7 @@ void DoubtTracker::Watch(const WireRecord& record) {
                            record.message->Line());
       break;
     case WireRecord::Kind::kReceived:
+      if (const auto ohms = OhmsIn(*record.message)) lastOhms_ = ohms;
       if (!lastCommand_) break;  // it waits, and is noted when a command goes out
       for (const auto& doubt : ReplyDoubts(*lastCommand_, *record.message)) Note(doubt);
       break;

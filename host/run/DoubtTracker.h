@@ -25,6 +25,9 @@ class DoubtTracker {
   /// What was noted, oldest first, each once.
   const std::vector<std::string>& Of(std::int32_t id) const;
 
+  /// The last reading in ohms that the tester told of the running element, before any correction.
+  std::optional<double> LastOhms() const { return lastOhms_; }
+
   /// Raised when something is noted: element, text.
   orvik::platform::Event<std::int32_t, const std::string&>& Noted() { return noted_; }
 
@@ -34,6 +37,7 @@ class DoubtTracker {
 
   std::optional<std::int32_t> running_;
   std::optional<Message> lastCommand_;
+  std::optional<double> lastOhms_;
   std::map<std::int32_t, std::vector<std::string>> doubts_;
   orvik::platform::Event<std::int32_t, const std::string&> noted_;
   orvik::platform::Subscription watch_;

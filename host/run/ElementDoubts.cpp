@@ -1,6 +1,10 @@
 #include "host/run/ElementDoubts.h"
 
+#include <charconv>
+#include <cmath>
+
 #include "OrvikTypeLib/As.h"
+#include "OrvikTypeLib/IInstrumentRecord.h"
 #include "OrvikTypeLib/ILimit.h"
 #include "OrvikTypeLib/ILimitData.h"
 #include "OrvikTypeLib/IMeasurement.h"
@@ -13,6 +17,9 @@
 namespace bench {
 
 namespace {
+
+/// Two readings of the same leads, in mOhm, may be so far apart: what clips and sockets do to them.
+constexpr double kSpreadOfLeads = 20;
 
 std::string UnitDoubtOf(const std::string& unit, const orvik::IStandard& standard) {
   for (std::int32_t i = 1; i <= standard.LimitCount(); ++i) {
@@ -49,6 +56,22 @@ std::string UnitDoubt(const orvik::ITestElement& element) {
     if (!doubt.empty()) return doubt;
   }
   return {};
+}
+
+std::string LeadsDoubt(const orvik::ITestElement& element,
+                       const std::shared_ptr<orvik::IInstrumentColl>& instruments,
+                       std::optional<double> ohms) {
+  const auto result = element.Result();
+  const auto number = result ? result->MTIID() : 0;
+  // A negative reading is doubtful by itself.
+  if (!ohms || *ohms < 0 || !instruments || number < 1 || number > instruments->Count()) return {};
+  const auto saved = instruments->item(number)->Property("calib");
+  std::int32_t leads = 0;
+  std::from_chars(saved.data(), saved.data() + saved.size(), leads);
+  const double reading = *ohms * 1000;
+  if (leads - reading <= kSpreadOfLeads) return {};
+  return Tr("the reading of %%1 mOhm is less than the %%2 mOhm of the test leads; measure the leads again",
+            {std::to_string(std::lround(reading)), std::to_string(leads)});
 }
 
 }  // namespace bench

@@ -94,6 +94,12 @@ void CheckRefusal(const Message& command, int error, std::vector<std::string>& d
 
 }  // namespace
 
+std::optional<double> OhmsIn(const Message& reply) {
+  const auto& fields = reply.Parameters();
+  if (reply.MnemonicText() != "gres" || fields.size() != kReadingFields || fields[4] != "Ohm") return {};
+  return NumberOf(fields[2]);
+}
+
 std::vector<std::string> ReplyDoubts(const Message& command, const Message& reply) {
   std::vector<std::string> doubts;
   const auto& mnemonic = reply.MnemonicText();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -14,5 +15,8 @@ class Message;
 /// number and a unit that a safety tester measures in, and reports no overload. The plug-in takes other
 /// readings as they come (a text that is no number counts as 0), so nobody else would notice.
 std::vector<std::string> ReplyDoubts(const Message& command, const Message& reply);
+
+/// The reading in ohms that the reply tells; none when it tells another, or none.
+std::optional<double> OhmsIn(const Message& reply);
 
 }  // namespace bench

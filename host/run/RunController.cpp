@@ -38,8 +38,10 @@ void RunController::IRunController_FinishedNotice(std::shared_ptr<orvik::ITestEl
   if (running_.erase(element.ID()) == 0) ForgetDoubts(iteElement);
   // The measurement of a sequence is computed, and carries no unit.
   if (!orvik::As<orvik::ITestContainer>(iteElement)) {
-    const auto doubt = UnitDoubt(element);
-    if (!doubt.empty()) parts_.doubts.Add(element.ID(), doubt);
+    for (const auto& doubt :
+         {UnitDoubt(element), LeadsDoubt(element, parts_.instruments, parts_.doubts.LastOhms())}) {
+      if (!doubt.empty()) parts_.doubts.Add(element.ID(), doubt);
+    }
   }
   results_.Finished(iteElement);
   StoreDoubts(iteElement);

@@ -135,6 +135,29 @@ TEST_F(DocumentCommandsTest, CalibrateStoresAndTheReadingIsCorrected) {
   EXPECT_EQ(shown["elements"][0]["measurement"]["value"], 0.0);
 }
 
+// A clip that does not hold: stored, it would turn every earth into a good one.
+TEST_F(DocumentCommandsTest, MoreThanTestLeadsHaveIsNotStored) {
+  const auto refused = Bench({"calibrate", "--simulate", "broken-earth", "--time-scale", kTimeScale});
+  EXPECT_EQ(refused.status, 2);
+  EXPECT_NE(refused.error.find("1850 mOhm is more than test leads have"), std::string::npos) << refused.error;
+  const auto file = NewDocument({"410"});
+  EXPECT_EQ(Bench(Simulated(file, "sound-class-1")).status, 0);
+  EXPECT_EQ(Show(file)["instrument"]["calibration"], 0);
+}
+
+TEST_F(DocumentCommandsTest, AReadingBelowTheTestLeadsIsDoubtful) {
+  Write("leads", "based-on = sound-class-1\n410 = 0.4 Ohm\n");
+  ASSERT_EQ(Bench({"calibrate", "--simulate", Path("leads"), "--time-scale", kTimeScale}).status, 0);
+  const auto file = NewDocument({"400"});
+  SetLimit(file, "2", "200");
+  EXPECT_EQ(Bench(Simulated(file, "sound-class-1")).status, 2);
+  const auto element = Show(file)["elements"][1];
+  EXPECT_EQ(element["measurement"]["value"], 0.0);
+  EXPECT_NE(element["doubts"].dump().find("123 mOhm is less than the 400 mOhm of the test leads"),
+            std::string::npos)
+      << element;
+}
+
 TEST_F(DocumentCommandsTest, AnOverloadedCalibrationIsNotStored) {
   Write("over", "based-on = sound-class-1\n410 = 9.9 Ohm overload\n");
   const auto refused = Bench({"calibrate", "--simulate", Path("over"), "--time-scale", kTimeScale});
