@@ -13,13 +13,19 @@ void AuxiliaryState::CopyFrom(const AuxiliaryState& other) {
 }
 
 void AuxiliaryState::Load(pugi::xml_node node) {
+  leftovers_.TakeAttributes(node, {tags::kPrint});
   printElement_ = node.attribute(tags::kPrint).as_bool(true);
   doubts_.clear();
-  for (const auto doubt : node.children(tags::kDoubt)) doubts_.emplace_back(doubt.text().get());
   run_.reset();
-  if (const auto run = node.child(tags::kRun))
-    run_ = RunMark{run.attribute(tags::kDate).value(), run.attribute(tags::kOperator).value()};
-  leftovers_.Take(node, {tags::kPrint}, {tags::kDoubt, tags::kRun});
+  for (auto part = node.first_child(); part; part = part.next_sibling()) {
+    if (xml::IsElement(part, tags::kDoubt)) {
+      doubts_.emplace_back(part.text().get());
+    } else if (!run_ && xml::IsElement(part, tags::kRun)) {
+      run_ = RunMark{part.attribute(tags::kDate).value(), part.attribute(tags::kOperator).value()};
+    } else {
+      leftovers_.Add(part);
+    }
+  }
 }
 
 void AuxiliaryState::Save(pugi::xml_node node) const {

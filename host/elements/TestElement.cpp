@@ -207,9 +207,12 @@ void TestElement::ITestElement_Load(std::shared_ptr<orvik::IXmlNode> Node, std::
 }
 
 void TestElement::LoadIdentity(pugi::xml_node node) {
-  id_ = xml::NumberAttribute(node, tags::kID);
-  testId_ = xml::NumberAttribute(node, tags::kTestID);
-  plugInId_ = node.attribute(tags::kPlugInID).value();
+  const char *id = "", *testId = "", *plugInId = "";
+  leftovers_.TakeAttributes(
+      node, {{tags::kID, id}, {tags::kTestID, testId}, {tags::kPlugInID, plugInId}, tags::kClass});
+  id_ = xml::NumberIn(id, node, tags::kID);
+  testId_ = xml::NumberIn(testId, node, tags::kTestID);
+  plugInId_ = plugInId;
 }
 
 void TestElement::LoadElement(const std::shared_ptr<orvik::IXmlNode>& node,
@@ -217,15 +220,12 @@ void TestElement::LoadElement(const std::shared_ptr<orvik::IXmlNode>& node,
   const auto& saved = XmlNode::Of(node);
   const auto raw = saved.Raw();
   LoadIdentity(raw);
-  // Every element is a part that `LoadPart` looks at.
-  leftovers_.Take(raw, {tags::kID, tags::kTestID, tags::kPlugInID, tags::kClass},
-                  {tags::kTestElement, tags::kInformation, tags::kAuxiliary, tags::kConfiguration,
-                   tags::kExpectedResult, tags::kResultItem});
   ClearLimits();
   IBaseElement_SetResult(nullptr);
   ClearChildren();
-  for (auto part = xml::FirstElement(raw); part; part = xml::NextElement(part))
-    LoadPart(saved, part, context);
+  for (auto part = raw.first_child(); part; part = part.next_sibling()) {
+    if (!LoadPart(saved, part, context)) leftovers_.Add(part);
+  }
 }
 
 /// What a file has no limits for has none.
@@ -233,10 +233,10 @@ void TestElement::ClearLimits() {
   if (limits_ && limits_->Standards()) limits_->Load(ScratchRoot(tags::kExpectedResult), nullptr);
 }
 
-void TestElement::LoadPart(const XmlNode& saved, pugi::xml_node part,
+/// @return false when the part is not known, or there is nothing that could hold it
+bool TestElement::LoadPart(const XmlNode& saved, pugi::xml_node part,
                            const std::shared_ptr<IObject>& context) {
   const std::string_view name = part.name();
-  bool known = true;
   if (name == tags::kInformation) {
     information_->Load(part);
   } else if (name == tags::kAuxiliary) {
@@ -251,12 +251,10 @@ void TestElement::LoadPart(const XmlNode& saved, pugi::xml_node part,
     // The plug-in's element ignores errors, but a result must not vanish.
     if (!result_)
       throw HostError(HostError::kInvalidArgument, kElementSource, Tr("the result could not be read"));
-  } else if (name == tags::kTestElement) {
-    known = LoadChild(saved.Wrap(part), context);
   } else {
-    known = name != tags::kConfiguration && name != tags::kExpectedResult && name != tags::kResultItem;
+    return name == tags::kTestElement && LoadChild(saved.Wrap(part), context);
   }
-  if (!known) leftovers_.Add(part);
+  return true;
 }
 
 void TestElement::LoadAuxiliary(pugi::xml_node node) {

@@ -96,7 +96,7 @@ class TestElement : public orvik::IBaseElement {
   void CopyTo(TestElement& copy) const;
   std::shared_ptr<orvik::IResultData> CopyOfResult() const;
   void LoadElement(const std::shared_ptr<orvik::IXmlNode>& node, const std::shared_ptr<IObject>& context);
-  void LoadPart(const XmlNode& saved, pugi::xml_node part, const std::shared_ptr<IObject>& context);
+  bool LoadPart(const XmlNode& saved, pugi::xml_node part, const std::shared_ptr<IObject>& context);
   void LoadResult(const std::shared_ptr<orvik::IXmlNode>& node, const std::shared_ptr<IObject>& context);
   void LoadAuxiliary(pugi::xml_node node);
   void ClearLimits();

@@ -30,17 +30,6 @@ class InOrder {
   const Known* next_;
 };
 
-bool IsKnown(pugi::xml_node child, InOrder<const char*>& knownElements) {
-  switch (child.type()) {
-    case pugi::node_element:
-      return knownElements.Find(child.name()) != nullptr;
-    case pugi::node_declaration:
-      return true;
-    default:
-      return false;
-  }
-}
-
 }  // namespace
 
 Leftovers::Leftovers(const Leftovers& other) { *this = other; }
@@ -65,20 +54,27 @@ pugi::xml_node Leftovers::Holder() {
 
 void Leftovers::Take(pugi::xml_node node, std::initializer_list<Attribute> knownAttributes,
                      std::initializer_list<const char*> knownElements) {
-  kept_.reset();
-  InOrder<Attribute> attributes({knownAttributes.begin(), knownAttributes.size()});
-  for (auto attribute = node.first_attribute(); attribute; attribute = attribute.next_attribute()) {
-    const auto* known = attributes.Find(attribute.name());
-    if (!known) Holder().append_copy(attribute);
-    if (known && known->value) *known->value = attribute.value();
-  }
+  TakeAttributes(node, knownAttributes);
   InOrder<const char*> elements({knownElements.begin(), knownElements.size()});
   for (auto child = node.first_child(); child; child = child.next_sibling()) {
-    if (!IsKnown(child, elements)) Holder().append_copy(child);
+    const bool element = child.type() == pugi::node_element;
+    if (!element || !elements.Find(child.name())) Add(child);
   }
 }
 
-void Leftovers::Add(pugi::xml_node element) { Holder().append_copy(element); }
+void Leftovers::TakeAttributes(pugi::xml_node node, std::initializer_list<Attribute> known) {
+  kept_.reset();
+  InOrder<Attribute> attributes({known.begin(), known.size()});
+  for (auto attribute = node.first_attribute(); attribute; attribute = attribute.next_attribute()) {
+    const auto* found = attributes.Find(attribute.name());
+    if (!found) Holder().append_copy(attribute);
+    if (found && found->value) *found->value = attribute.value();
+  }
+}
+
+void Leftovers::Add(pugi::xml_node child) {
+  if (child.type() != pugi::node_declaration) Holder().append_copy(child);
+}
 
 void Leftovers::Restore(pugi::xml_node node) const {
   if (!kept_) return;

@@ -31,8 +31,12 @@ class Leftovers {
   void Take(pugi::xml_node node, std::initializer_list<Attribute> knownAttributes,
             std::initializer_list<const char*> knownElements);
 
-  /// Keeps one more element.
-  void Add(pugi::xml_node element);
+  /// The same for the attributes alone; a reader that goes through the children itself adds what it does not
+  /// know.
+  void TakeAttributes(pugi::xml_node node, std::initializer_list<Attribute> known);
+
+  /// Keeps one more child.
+  void Add(pugi::xml_node child);
 
   /// Adds to the node what is kept; an attribute that the node has by now stays as it is.
   void Restore(pugi::xml_node node) const;

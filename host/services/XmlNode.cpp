@@ -103,7 +103,11 @@ bool IsName(const std::string& name) {
 }
 
 std::int32_t NumberAttribute(pugi::xml_node element, const char* name) {
-  const auto number = WholeNumber(element.attribute(name).value());
+  return NumberIn(element.attribute(name).value(), element, name);
+}
+
+std::int32_t NumberIn(const char* text, pugi::xml_node element, const char* name) {
+  const auto number = WholeNumber(text);
   if (!number)
     throw XmlError(element,
                    Tr("the attribute \"%%1\" of \"%%2\" is not a whole number", {name, element.name()}));

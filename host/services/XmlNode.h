@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstring>
 #include <memory>
 #include <pugixml.hpp>
 #include <string>
@@ -63,6 +64,11 @@ pugi::xml_node ElementFrom(pugi::xml_node node);
 inline pugi::xml_node FirstElement(pugi::xml_node parent) { return ElementFrom(parent.first_child()); }
 inline pugi::xml_node NextElement(pugi::xml_node element) { return ElementFrom(element.next_sibling()); }
 
+/// Whether the node is an element of that name.
+inline bool IsElement(pugi::xml_node node, const char* name) {
+  return node.type() == pugi::node_element && std::strcmp(node.name(), name) == 0;
+}
+
 /// The next element in document order below `top`, or empty: a walk over any depth without recursion.
 pugi::xml_node NextInDocument(pugi::xml_node element, pugi::xml_node top);
 
@@ -84,6 +90,8 @@ bool IsName(const std::string& name);
 
 /// The attribute as a 32-bit number; `XmlError` naming attribute and element when it is missing or not one.
 std::int32_t NumberAttribute(pugi::xml_node element, const char* name);
+/// The same for an attribute that was read already.
+std::int32_t NumberIn(const char* text, pugi::xml_node element, const char* name);
 
 }  // namespace xml
 }  // namespace bench

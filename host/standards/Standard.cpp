@@ -67,15 +67,18 @@ std::shared_ptr<Standard> Standard::Copy() const {
 
 void Standard::Load(pugi::xml_node node) {
   const char *name = "", *description = "", *number = nullptr;
-  leftovers_.Take(node, {{kName, name}, {kDescription, description}, {kNumber, number}}, {kLimit});
+  leftovers_.TakeAttributes(node, {{kName, name}, {kDescription, description}, {kNumber, number}});
   name_ = name;
   description_ = description;
   number_ = number ? xml::NumberAttribute(node, kNumber) : 1;
   limits_.clear();
-  for (const auto child : node.children(kLimit)) {
-    const auto limit = std::make_shared<bench::Limit>();
-    limit->Load(child);
-    limits_.push_back(limit);
+  for (auto child = node.first_child(); child; child = child.next_sibling()) {
+    if (xml::IsElement(child, kLimit)) {
+      limits_.push_back(std::make_shared<bench::Limit>());
+      limits_.back()->Load(child);
+    } else {
+      leftovers_.Add(child);
+    }
   }
 }
 

@@ -76,12 +76,16 @@ std::shared_ptr<orvik::IStandardColl> StandardColl::IStandardColl_Clone() const 
 
 void StandardColl::IStandardColl_Load(std::shared_ptr<orvik::IXmlNode> Node, std::shared_ptr<IObject>) {
   const auto node = XmlNode::Of(Node).Raw();
-  for (const auto child : node.children(kStandard)) {
-    const auto standard = std::make_shared<bench::Standard>();
-    standard->Load(child);
-    standards_.push_back(standard);
+  leftovers_.TakeAttributes(node, {});
+  for (auto child = node.first_child(); child; child = child.next_sibling()) {
+    if (xml::IsElement(child, kStandard)) {
+      const auto standard = std::make_shared<bench::Standard>();
+      standard->Load(child);
+      standards_.push_back(standard);
+    } else {
+      leftovers_.Add(child);
+    }
   }
-  leftovers_.Take(node, {}, {kStandard});
 }
 
 std::shared_ptr<orvik::IXmlNode> StandardColl::IStandardColl_Save(
