@@ -176,11 +176,14 @@ DesktopTest::Step DesktopTest::TakeFile(const std::string& path) {
 }
 
 DesktopTest::Step DesktopTest::Guide(int command) {
-  return {"guide " + std::to_string(command), [command] {
+  return {"guide " + std::to_string(command), [this, command] {
+            constexpr int kNext = 103;
             auto* guide = Visible("FTestGuide");
-            auto* button =
-                guide ? guide->findChild<QToolButton*>("tbrCommands." + QString::number(command)) : nullptr;
+            // What was clicked may still wait for its turn; the next click is for the next test's guide.
+            if (!guide || guide == leftGuide_) return false;
+            auto* button = guide->findChild<QToolButton*>("tbrCommands." + QString::number(command));
             if (!button || !button->isEnabled()) return false;
+            if (command == kNext) leftGuide_ = guide;
             Click(*button);
             return true;
           }};

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QPointer>
 #include <QString>
 #include <filesystem>
 #include <functional>
@@ -86,6 +87,8 @@ class DesktopTest : public testing::Test {
 
  private:
   QTreeWidgetItem* Row(int id) const;
+
+  QPointer<QWidget> leftGuide_;  ///< the guide that was told to go on to the next test
 };
 
 }  // namespace desktop_test
