@@ -96,13 +96,16 @@ Section RandomFaults() {
 Section ReplaySection() {
   return {
       "Replay",
-      {Paragraph("With --replay the log's commands are followed in order: to each command the same lines "
-                 "come, dropped ones too, as long after it as they did then (divided by the time-scale). "
-                 "Where the port failed the cable is pulled; it is plugged in again a second later when "
-                 "the log goes on. A command that the log does not hold at this point is answered as the "
-                 "simulated tester does, and said on standard error; IREM, which begins a session, goes on "
-                 "at the log's next session. What is begun and never ended by a line end does not stand in "
-                 "a log, and does not come again.")}};
+      {Paragraph(
+          "With --replay the log's commands are followed in order: to each command the same lines "
+          "come, dropped ones too, as long after it as they did then (divided by the time-scale; the log of "
+          "a run with --time-scale has shortened times already: replay it without, and run with "
+          "the same). "
+          "Where the port failed the cable is pulled; it is plugged in again a second later when "
+          "the log goes on. A command that the log does not hold at this point is answered as the "
+          "simulated tester does, and said on standard error; IREM, which begins a session, goes on "
+          "at the log's next session. What is begun and never ended by a line end does not stand in "
+          "a log, and does not come again.")}};
 }
 
 Section Examples() {

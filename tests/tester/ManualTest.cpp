@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstdio>
+#include <regex>
 #include <sstream>
 
 #include "tester/BuiltInProfiles.h"
@@ -41,6 +42,13 @@ TEST(ManualTest, HelpNamesEveryOptionProfileAndFault) {
   for (const auto& profile : BuiltInProfiles())
     EXPECT_NE(help.find(profile.name), std::string::npos) << profile.name;
   for (const auto& form : FaultForms()) EXPECT_NE(help.find(form.syntax), std::string::npos) << form.syntax;
+}
+
+// Divided once more, a reply that came too late would come in time.
+TEST(ManualTest, SaysHowALogOfAFasterRunIsReplayed) {
+  EXPECT_TRUE(std::regex_search(HelpText(), std::regex("shortened\\s+times\\s+already")));
+  EXPECT_NE(test::ReadAll(SOURCE_PATH "/tester/README.md").find("shortened times already"),
+            std::string::npos);
 }
 
 TEST(ManualTest, HelpFitsATerminal) {
