@@ -105,7 +105,17 @@ TEST_F(DocumentReportTest, WhoReadsPassedIsToldWhatHadNoLimit) {
   const auto limited = Add(410), free = Add(420);
   Limit(limited, "", "300");
   Run({limited, free}, "0.123,0,Ohm");
-  EXPECT_EQ(Report().verdict.sentence, "2 of 2 passed; 1 of them without a limit");
+  const auto report = Report();
+  EXPECT_EQ(report.verdict.sentence, "2 of 2 passed; 1 of them without a limit");
+  EXPECT_EQ(report.overview[0].word, "passed");
+  EXPECT_EQ(report.overview[0].standing, Standing::kPassed);
+  EXPECT_TRUE(report.sections[0].notes.empty());
+  // Without the tick that nobody gave it.
+  EXPECT_EQ(report.overview[1].word, "passed, not judged");
+  EXPECT_EQ(report.overview[1].standing, Standing::kNotApplicable);
+  EXPECT_EQ(report.sections[1].word, report.overview[1].word);
+  EXPECT_EQ(report.sections[1].notes.at(0).text, "no limits: recorded, not judged");
+  EXPECT_FALSE(report.partial);
 }
 
 TEST_F(DocumentReportTest, CountsWhatFailedAndWhatIsOpen) {

@@ -71,7 +71,7 @@ class Builder {
     FindTesters();
     for (std::size_t i = 0; i < elements_.size(); ++i) {
       if (summary_.elements[i].id == id)
-        return SectionOf(elements_[i], summary_.elements[i], RowOf(summary_.elements[i]));
+        return SectionOf(elements_[i], summary_.elements[i], RowOf(elements_[i], summary_.elements[i]));
     }
     return {};
   }
@@ -80,13 +80,14 @@ class Builder {
   /// How many tests have passed without a limit.
   int Unjudged() const {
     int count = 0;
-    for (std::size_t i = 0; i < elements_.size(); ++i) {
-      const auto& summary = summary_.elements[i];
-      if (!summary.sequence && parts::StandingOf(summary) == report::Standing::kPassed &&
-          parts::JudgementsOf(*elements_[i], summary, *standards_).empty())
-        ++count;
-    }
+    for (std::size_t i = 0; i < elements_.size(); ++i)
+      if (IsUnjudged(elements_[i], summary_.elements[i])) ++count;
     return count;
+  }
+
+  bool IsUnjudged(const Element& element, const ElementSummary& summary) const {
+    return !summary.sequence && parts::StandingOf(summary) == report::Standing::kPassed &&
+           parts::JudgementsOf(*element, summary, *standards_).empty();
   }
 
   void FindTimes() {
@@ -178,14 +179,14 @@ class Builder {
         (!base || base->Auxiliary()->PrintElement()) && (atTop || !unprinted_.contains(summary.parent));
     if (!printed) unprinted_.insert(summary.id);
 
-    auto row = RowOf(summary);
+    auto row = RowOf(element, summary);
     row.depth = depth;
     row.detailed = printed;
     if (printed) report_.sections.push_back(SectionOf(element, summary, row));
     report_.overview.push_back(std::move(row));
   }
 
-  static report::OverviewRow RowOf(const ElementSummary& summary) {
+  report::OverviewRow RowOf(const Element& element, const ElementSummary& summary) const {
     report::OverviewRow row;
     row.id = summary.id;
     row.name = VisibleText(summary.name);
@@ -193,6 +194,11 @@ class Builder {
     if (!row.value.empty()) row.unit = VisibleText(summary.measurement->unit);
     row.standing = parts::StandingOf(summary);
     row.word = VisibleText(Tr(summary.Verdict()));
+    // Nobody has said that the reading is good: a green tick would.
+    if (IsUnjudged(element, summary)) {
+      row.standing = report::Standing::kNotApplicable;
+      row.word = Joined({row.word, Tr("not judged")}, ", ");
+    }
     return row;
   }
 
@@ -211,6 +217,8 @@ class Builder {
     for (const auto& doubt : summary.doubts)
       section.notes.push_back(
           {report::Standing::kOpen, Tr("Doubt: %%1", {VisibleText(doubt, LineEnds::kKept)})});
+    if (IsUnjudged(element, summary))
+      section.notes.push_back({report::Standing::kOpen, Tr("no limits: recorded, not judged")});
     section.facts = FactsOf(element, summary);
     section.judgements = parts::JudgementsOf(*element, summary, *standards_);
     section.tables = parts::TablesOf(*element, section.name);
