@@ -96,8 +96,10 @@ void CheckRefusal(const Message& command, int error, std::vector<std::string>& d
 
 std::optional<double> OhmsIn(const Message& reply) {
   const auto& fields = reply.Parameters();
-  if (reply.MnemonicText() != "gres" || fields.size() != kReadingFields || fields[4] != "Ohm") return {};
-  return NumberOf(fields[2]);
+  if (reply.MnemonicText() != "gres" || fields.size() != kReadingFields) return {};
+  if (fields[4] != "Ohm" && fields[4] != "mOhm") return {};
+  const auto value = NumberOf(fields[2]);
+  return value && fields[4] == "mOhm" ? *value / 1000 : value;
 }
 
 std::vector<std::string> ReplyDoubts(const Message& command, const Message& reply) {

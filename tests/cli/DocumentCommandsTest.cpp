@@ -146,7 +146,7 @@ TEST_F(DocumentCommandsTest, MoreThanTestLeadsHaveIsNotStored) {
 }
 
 TEST_F(DocumentCommandsTest, AReadingBelowTheTestLeadsIsDoubtful) {
-  Write("leads", "based-on = sound-class-1\n410 = 0.4 Ohm\n");
+  Write("leads", "based-on = sound-class-1\n410 = 400 mOhm\n");
   ASSERT_EQ(Bench({"calibrate", "--simulate", Path("leads"), "--time-scale", kTimeScale}).status, 0);
   const auto file = NewDocument({"400"});
   SetLimit(file, "2", "200");
