@@ -25,7 +25,7 @@ std::string ListOf(const std::vector<std::string>& words) {
   return "$'" + list + "'";
 }
 
-std::vector<std::string> NamesOf(const CLI::App& command) {
+std::vector<std::string> CommandNamesOf(const CLI::App& command) {
   std::vector<std::string> names;
   for (const auto* below : CommandsOf(command)) names.push_back(below->get_name());
   return names;
@@ -78,7 +78,7 @@ std::string BashOptions(const CLI::App& command, const std::string& path) {
 
 /// What is offered where no option stands: commands, the words of the first argument, or files.
 std::string BashArguments(const CLI::App& command, const std::string& path) {
-  const auto names = NamesOf(command);
+  const auto names = CommandNamesOf(command);
   const auto positionals = PositionalsOf(command);
   const auto offer = !names.empty() ? "COMPREPLY=( $(compgen -W " + ListOf(names) + " -- \"$current\") )"
                      : !positionals.empty() && !WordsFor(*positionals.front()).empty()

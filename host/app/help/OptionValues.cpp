@@ -39,7 +39,7 @@ bool Among(const Names& names, const std::string& name) {
   return std::find(names.begin(), names.end(), name) != names.end();
 }
 
-std::vector<std::string> Parts(const std::string& alternatives) {
+std::vector<std::string> Alternatives(const std::string& alternatives) {
   std::vector<std::string> parts;
   std::istringstream text(alternatives);
   for (std::string part; std::getline(text, part, '|');) parts.push_back(part);
@@ -65,7 +65,7 @@ std::vector<std::string> WordsFor(const CLI::Option& option) {
   if (type == kSet) return ShippedSets();
   if (type == "L") return KnownLanguages();
   if (type == kFileOrAddress || type.find('|') == std::string::npos) return {};
-  return Parts(type);
+  return Alternatives(type);
 }
 
 }  // namespace bench
