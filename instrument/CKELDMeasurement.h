@@ -46,7 +46,7 @@ class CKELDMeasurement final : public orvik::IMeasurement {
   std::string IObject_ClassID() const override;
   std::string IMeasurement_Description() const override { return sDescription; }
   std::string IMeasurement_Key() const override { return "::"; }
-  std::string IMeasurement_LimitKey() const override { return sLimitKey; }
+  std::string IMeasurement_LimitKey() const override { return MKELDConstants::kLimitKey; }
   std::int32_t IMeasurement_Status() const override { return lStatus; }
   std::string IMeasurement_Unit() const override { return sUnit; }
   orvik::Variant IMeasurement_value() const override { return vValue; }
@@ -65,7 +65,6 @@ class CKELDMeasurement final : public orvik::IMeasurement {
   std::string sUnit;
   std::int32_t lStatus = 0;
   std::string sDescription;
-  const std::string sLimitKey = MKELDConstants::kLimitKey;
 };
 
 }  // namespace keld

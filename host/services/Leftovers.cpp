@@ -1,8 +1,9 @@
 #include "host/services/Leftovers.h"
 
 #include <algorithm>
-#include <cstring>
 #include <span>
+
+#include "host/services/XmlNode.h"
 
 namespace bench {
 namespace {
@@ -16,7 +17,7 @@ class InOrder {
 
   /// Nothing when it is not known.
   const Known* Find(const char* name) {
-    const auto has = [name](const Known& known) { return std::strcmp(NameOf(known), name) == 0; };
+    const auto has = [name](const Known& known) { return xml::SameName(NameOf(known), name); };
     if (next_ == end_ || !has(*next_)) next_ = std::find_if(begin_, end_, has);
     return next_ == end_ ? nullptr : next_++;
   }

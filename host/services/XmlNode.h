@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstring>
 #include <memory>
 #include <pugixml.hpp>
 #include <string>
@@ -64,9 +63,16 @@ pugi::xml_node ElementFrom(pugi::xml_node node);
 inline pugi::xml_node FirstElement(pugi::xml_node parent) { return ElementFrom(parent.first_child()); }
 inline pugi::xml_node NextElement(pugi::xml_node element) { return ElementFrom(element.next_sibling()); }
 
+/// Whether two names are the same. Names are short, and compared dozens of times for each element of a
+/// document: a call would take longer than the comparison.
+inline bool SameName(const char* one, const char* other) {
+  while (*one == *other && *one != '\0') ++one, ++other;
+  return *one == *other;
+}
+
 /// Whether the node is an element of that name.
 inline bool IsElement(pugi::xml_node node, const char* name) {
-  return node.type() == pugi::node_element && std::strcmp(node.name(), name) == 0;
+  return node.type() == pugi::node_element && SameName(node.name(), name);
 }
 
 /// The next element in document order below `top`, or empty: a walk over any depth without recursion.

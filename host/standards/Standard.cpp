@@ -70,7 +70,7 @@ void Standard::Load(pugi::xml_node node) {
   leftovers_.TakeAttributes(node, {{kName, name}, {kDescription, description}, {kNumber, number}});
   name_ = name;
   description_ = description;
-  number_ = number ? xml::NumberAttribute(node, kNumber) : 1;
+  number_ = number ? xml::NumberIn(number, node, kNumber) : 1;
   limits_.clear();
   for (auto child = node.first_child(); child; child = child.next_sibling()) {
     if (xml::IsElement(child, kLimit)) {

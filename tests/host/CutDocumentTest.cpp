@@ -1,0 +1,192 @@
+#include <random>
+
+#include "OrvikTypeLib/IAuxiliaryState.h"
+#include "OrvikTypeLib/IInformationRecord.h"
+#include "host/document/CutDocument.h"
+#include "host/document/Document.h"
+#include "tests/host/Errors.h"
+#include "tests/host/HostFixture.h"
+
+namespace bench {
+namespace {
+
+using test::ErrorText;
+using test::Holds;
+
+std::string ElementText(int id, const std::string& inside = "") {
+  return "    <TestElement ID=\"" + std::to_string(id) +
+         "\" TestID=\"1\" PlugInID=\"GONE\" Class=\"gone.Test\">\n"
+         "      <Information DisplayName=\"" +
+         std::string(1000, 'n') + "\" />\n" + inside + "    </TestElement>\n";
+}
+
+std::string DocumentText(const std::string& elements) {
+  return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<OrvikDocument Version=\"1\">\n  <Elements>\n" +
+         elements + "  </Elements>\n  <More />\n</OrvikDocument>\n";
+}
+
+/// Elements enough for several pieces.
+std::string ManyElements(int count = 200) {
+  std::string elements;
+  for (int id = 1; id <= count; ++id) elements += ElementText(id);
+  return elements;
+}
+
+int Count(const std::string& text, const std::string& part) {
+  int count = 0;
+  for (auto at = text.find(part); at != std::string::npos; at = text.find(part, at + 1)) ++count;
+  return count;
+}
+
+std::string Joined(const CutDocument& cut) {
+  std::string all;
+  for (const auto piece : cut.Pieces()) all.append("    ").append(piece).append("\n");
+  return all;
+}
+
+TEST(CutDocument, PiecesAndFrameAreTheWholeText) {
+  const auto text = DocumentText(ManyElements());
+  const CutDocument cut(text);
+  EXPECT_GT(cut.Pieces().size(), 2U);
+  EXPECT_EQ(Joined(cut), ManyElements());
+  EXPECT_EQ(
+      cut.Frame(),
+      "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<OrvikDocument Version=\"1\">\n  <Elements></Elements>\n"
+      "  <More />\n</OrvikDocument>\n");
+  pugi::xml_document frame;
+  ASSERT_TRUE(frame.load_string(cut.Frame().c_str()));
+  EXPECT_TRUE(cut.WasCutFrom(frame.document_element().child("Elements")));
+  EXPECT_FALSE(cut.WasCutFrom(frame.document_element().child("More")));
+  EXPECT_FALSE(cut.WasCutFrom({}));
+}
+
+TEST(CutDocument, ElementInsideAnotherEndsNoPiece) {
+  std::string inner;
+  for (int id = 2; id <= 150; ++id)
+    inner += "      <TestElement ID=\"" + std::to_string(id) + "\">\n        <Information DisplayName=\"" +
+             std::string(1000, 'i') + "\" />\n      </TestElement>\n";
+  const auto text = DocumentText(ElementText(1, inner) + ElementText(200));
+  const CutDocument cut(text);
+  ASSERT_EQ(cut.Pieces().size(), 2U);
+  EXPECT_EQ(Joined(cut), ElementText(1, inner) + ElementText(200));
+}
+
+TEST(CutDocument, WhatDoesNotLookAsItIsSavedIsNotCut) {
+  for (const auto* text : {
+           "",
+           "<OrvikDocument Version='1'/>",
+           "<Elements>",
+           "<Elements></Elements>",
+           "<Elements>\n",
+           "<Elements><TestElement ID='1'/></Elements>",
+           "<Elements>\n    <TestElement ID='1'>\n    </TestElement>",
+           "<Elements>\n    <TestElement ID='1'>\n    </TestElement>\n    <!-- --></Elements>",
+           "<Elements>\n    <TestElement ID='1'>\n    </TestElement>\n    text</Elements>",
+           "<Elements>\n    <!-- -->\n    <TestElement ID='1'>\n    </TestElement>\n</Elements>",
+           "<Elements>\n    <TestElement ID='1'>\n    </TestElement >\n</Elements>",
+       })
+    EXPECT_TRUE(CutDocument(text).Pieces().empty()) << text;
+}
+
+/// Documents whose texts are read in pieces, or whole where pieces cannot be made of them.
+class DocumentInPieces : public test::HostFixture {
+ protected:
+  std::shared_ptr<Document> Opened(const std::string& text) {
+    folder_.Write("given.orvik", text);
+    return Document::Open(host_, folder_.Path() / "given.orvik", DocumentFile::Use::kRead);
+  }
+  std::string Refusal(const std::string& text) {
+    return ErrorText([&] { Opened(text); });
+  }
+};
+
+TEST_F(DocumentInPieces, HoldsEachElementOnceAndInOrder) {
+  const auto document = Opened(DocumentText(ManyElements()));
+  ASSERT_EQ(document->Elements()->Count(), 200);
+  for (int id = 1; id <= 200; ++id) EXPECT_EQ(document->Elements()->item(id)->ID(), id);
+  EXPECT_EQ(Count(document->Text(), "Class=\"gone.Test\""), 200);
+  EXPECT_EQ(Count(document->Text(), "<More />"), 1);
+  EXPECT_EQ(document->AddTest(110)->ID(), 201);
+}
+
+// What looks like the end of an element may be anything else.
+TEST_F(DocumentInPieces, EndOfAnElementThatIsNoneIsReadAsWhatItIs) {
+  const std::string looks = "\n    </TestElement>\n    <TestElement ID=\"7\">";
+  for (const auto& inside :
+       {"<Note><![CDATA[" + looks + "]]></Note>", "<!--" + looks + "-->", "<?n " + looks + "?>"}) {
+    const auto filled = inside + std::string(70'000, ' ') + inside + "\n";
+    const auto document =
+        Opened(DocumentText(ElementText(1, filled) + ManyElements(100).substr(ElementText(1).size())));
+    EXPECT_EQ(document->Elements()->Count(), 100);
+    EXPECT_EQ(Count(document->Text(), looks.substr(5)), 2) << inside;
+  }
+}
+
+TEST_F(DocumentInPieces, ElementsInACommentAreNone) {
+  const auto commented =
+      Opened("<OrvikDocument Version=\"1\">\n  <!-- <Elements>\n" + ManyElements() +
+             "  </Elements> -->\n  <Elements>\n" + ElementText(7) + "  </Elements>\n</OrvikDocument>\n");
+  ASSERT_EQ(commented->Elements()->Count(), 1);
+  EXPECT_EQ(commented->Elements()->item(1)->ID(), 7);
+}
+
+TEST_F(DocumentInPieces, ElementsOfSomethingElseAreNotTheDocuments) {
+  const auto document = Opened("<OrvikDocument Version=\"1\">\n  <Other>\n    <Elements>\n" + ManyElements() +
+                               "    </Elements>\n  </Other>\n</OrvikDocument>\n");
+  EXPECT_EQ(document->Elements()->Count(), 0);
+  EXPECT_EQ(Count(document->Text(), "<Other>"), 1);
+}
+
+TEST_F(DocumentInPieces, FaultFarBehindIsToldWithItsLine) {
+  const auto good = ManyElements(150);
+  const auto lines = [&](const std::string& elements) {
+    return std::to_string(3 + std::count(elements.begin(), elements.end(), '\n') + 1);
+  };
+  EXPECT_TRUE(Holds(Refusal(DocumentText(good + ElementText(12))),
+                    "line " + lines(good) + ": the identifier 12 is used twice"));
+  auto numberless = ElementText(151);
+  numberless.replace(numberless.find("\"151\""), 5, "\"15l\"");
+  EXPECT_TRUE(
+      Holds(Refusal(DocumentText(good + numberless)), "line " + lines(good) + ": the attribute \"ID\""));
+  EXPECT_TRUE(Holds(Refusal(DocumentText(good + ElementText(151, "<x>"))), ": Start-end tags mismatch"));
+  EXPECT_TRUE(Holds(Refusal(DocumentText(good) + DocumentText(good)), "second root element"));
+}
+
+TEST_F(DocumentInPieces, NewerVersionIsToldBeforeItsElements) {
+  auto text = DocumentText(ManyElements() + ElementText(1));
+  text.replace(text.find("Version=\"1\""), 11, "Version=\"2\"");
+  EXPECT_TRUE(Holds(Refusal(text), "newer version"));
+}
+
+// Damage anywhere: the same document, or the same refusal, as when the text cannot be cut.
+TEST_F(DocumentInPieces, AnyDamageIsSeenAsInTheWholeText) {
+  const auto seed = std::random_device()();
+  SCOPED_TRACE("seed " + std::to_string(seed));
+  std::mt19937 random(seed);
+  const auto text = DocumentText(ManyElements(100));
+  const auto outcome = [&](const std::string& given) {
+    try {
+      return Opened(given)->Text();
+    } catch (const orvik::HostError& error) {
+      return error.Description();
+    }
+  };
+  for (int round = 0; round < 60; ++round) {
+    auto damaged = text;
+    constexpr std::string_view kLetters = "<>/\"'!-&; =\nTE0";
+    for (int times = 1 + static_cast<int>(random() % 2); times > 0; --times)
+      damaged[random() % damaged.size()] = kLetters[random() % kLetters.size()];
+    // A blank in the tag, and the text is not cut; places are the same but for one column.
+    auto whole = damaged;
+    const auto tag = whole.find("<Elements>\n");
+    if (tag == std::string::npos) continue;
+    whole.replace(tag, 11, "<Elements >");
+    whole.insert(whole.find_first_not_of(' ', tag + 11), "\n");
+    ASSERT_TRUE(CutDocument(whole).Pieces().empty());
+    EXPECT_TRUE(outcome(damaged) == outcome(whole)) << outcome(damaged).substr(0, 300) << "\n"
+                                                    << outcome(whole).substr(0, 300);
+  }
+}
+
+}  // namespace
+}  // namespace bench
