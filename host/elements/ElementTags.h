@@ -31,5 +31,7 @@ inline constexpr char kStatus[] = "Status";
 inline constexpr char kServiceRecord[] = "ServiceRecord";
 inline constexpr char kComment[] = "Comment";
 inline constexpr char kMeasurement[] = "Measurement";
+inline constexpr char kValue[] = "Value";
+inline constexpr char kUnit[] = "Unit";
 
 }  // namespace bench::tags

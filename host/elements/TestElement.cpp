@@ -1,5 +1,7 @@
 #include "host/elements/TestElement.h"
 
+#include <algorithm>
+
 #include "OrvikTypeLib/As.h"
 #include "OrvikTypeLib/HostClasses.h"
 #include "OrvikTypeLib/IConfigData.h"
@@ -10,6 +12,7 @@
 #include "OrvikTypeLib/IStandardColl.h"
 #include "host/elements/ElementTags.h"
 #include "host/elements/Nesting.h"
+#include "host/services/Text.h"
 #include "host/services/Tr.h"
 #include "host/services/XmlNode.h"
 
@@ -226,6 +229,20 @@ void TestElement::LoadElement(const std::shared_ptr<orvik::IXmlNode>& node,
   for (auto part = raw.first_child(); part; part = part.next_sibling()) {
     if (!LoadPart(saved, part, context)) leftovers_.Add(part);
   }
+  if (result_) DoubtUnreadable(raw.child(tags::kResultItem).child(tags::kMeasurement));
+}
+
+/// A saved reading that is no number is read as 0, or as the number that it begins with: it must not pass.
+void TestElement::DoubtUnreadable(pugi::xml_node measurement) {
+  const auto value = xml::Text(measurement.child(tags::kValue));
+  const bool absent = value.empty() && xml::Text(measurement.child(tags::kUnit)).empty();
+  if (absent || !HasOneReading() || FiniteNumber(value)) return;
+  const auto doubt = value.empty() ? Tr("the saved reading is empty")
+                                   : Tr("the saved reading \"%%1\" is no number", {value});
+  if (!auxiliary_) auxiliary_ = std::make_shared<AuxiliaryState>();
+  auto doubts = auxiliary_->Doubts();
+  if (std::find(doubts.begin(), doubts.end(), doubt) == doubts.end()) doubts.push_back(doubt);
+  auxiliary_->SetDoubts(std::move(doubts));
 }
 
 /// What a file has no limits for has none.

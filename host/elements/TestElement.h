@@ -42,6 +42,8 @@ class TestElement : public orvik::IBaseElement {
   virtual std::shared_ptr<TestElement> NewOfSameClass() const;
   /// What a container adds to the deep operations.
   virtual bool HasChildren() const { return false; }
+  /// Whether its result is a reading; a container's is made of its children's.
+  virtual bool HasOneReading() const { return true; }
   virtual void CloneChildren(TestElement&) const {}
   virtual void SaveChildren(const std::shared_ptr<orvik::IXmlNode>&) const {}
   virtual void ClearChildren() {}
@@ -99,6 +101,7 @@ class TestElement : public orvik::IBaseElement {
   bool LoadPart(const XmlNode& saved, pugi::xml_node part, const std::shared_ptr<IObject>& context);
   void LoadResult(const std::shared_ptr<orvik::IXmlNode>& node, const std::shared_ptr<IObject>& context);
   void LoadAuxiliary(pugi::xml_node node);
+  void DoubtUnreadable(pugi::xml_node measurement);
   void ClearLimits();
   void SaveTo(const std::shared_ptr<orvik::IXmlNode>& node) const;
   void SaveResult(const std::shared_ptr<orvik::IXmlNode>& node) const;

@@ -14,15 +14,15 @@ namespace bench {
 
 namespace {
 
-constexpr std::int32_t kPassed = 1;
-constexpr std::int32_t kNotApplicable = 3;
+constexpr std::int32_t kStatusPassed = 1;
+constexpr std::int32_t kStatusNotApplicable = 3;
 
 std::int32_t StatusOf(const orvik::ITestElement& element) {
   const auto result = element.Result();
   return result ? result->Status() : 0;
 }
 
-bool IsGood(std::int32_t status) { return status == kPassed || status == kNotApplicable; }
+bool IsGood(std::int32_t status) { return status == kStatusPassed || status == kStatusNotApplicable; }
 
 }  // namespace
 

@@ -75,6 +75,10 @@ TEST_F(DocumentCommandsTest, NothingPassesAgainstItsOwnData) {
         Change{"<Unit>mOhm</Unit>", "<Unit>Ohm</Unit>", "the reading is in"},
         Change{"Unit=\"mOhm\" High", "Unit=\"Ohm\" High", "the reading is in"},
         Change{"<Value>123</Value>", "<Value>1230</Value>", "breaks the limits"},
+        Change{"<Value>123</Value>", "<Value>abc</Value>", R"(\"abc\" is no number)"},
+        Change{"<Value>123</Value>", "<Value>12.3.4</Value>", "is no number"},
+        Change{"<Value>123</Value>", "<Value></Value>", "the saved reading is empty"},
+        Change{"<Value>123</Value>", "", "the saved reading is empty"},
         Change{"<Measurement>", "<Measurement Flags=\"O\">", "OL"}}) {
     SCOPED_TRACE(from);
     const auto changed = std::regex_replace(text, std::regex(from), to);

@@ -118,6 +118,15 @@ TEST_F(DocumentReportTest, WhoReadsPassedIsToldWhatHadNoLimit) {
   EXPECT_FALSE(report.partial);
 }
 
+TEST_F(DocumentReportTest, WhatNothingJudgedHasNoGoodVerdict) {
+  const auto first = Add(410), second = Add(420);
+  Run({first, second}, "0.123,0,Ohm");
+  const auto report = Report();
+  EXPECT_EQ(report.verdict.word, "Passed, not judged");
+  EXPECT_EQ(report.verdict.standing, Standing::kNotApplicable);
+  EXPECT_EQ(report.verdict.sentence, "2 of 2 passed; 2 of them without a limit");
+}
+
 TEST_F(DocumentReportTest, CountsWhatFailedAndWhatIsOpen) {
   const auto failing = Add(410), passing = Add(420);
   Add(210);

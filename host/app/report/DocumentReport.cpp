@@ -64,6 +64,10 @@ class Builder {
     const auto unjudged = verdict.standing == report::Standing::kPassed ? Unjudged() : 0;
     if (unjudged > 0)
       verdict.sentence = Tr("%%1; %%2 of them without a limit", {verdict.sentence, std::to_string(unjudged)});
+    if (unjudged > 0 && !AnyJudged()) {
+      verdict.standing = report::Standing::kNotApplicable;
+      verdict.word = Joined({verdict.word, Tr("not judged")}, ", ");
+    }
     return verdict;
   }
 
@@ -83,6 +87,17 @@ class Builder {
     for (std::size_t i = 0; i < elements_.size(); ++i)
       if (IsUnjudged(elements_[i], summary_.elements[i])) ++count;
     return count;
+  }
+
+  /// Whether somebody or something has said of one test at least that it is good: a limit, or a person where
+  /// there is nothing to measure.
+  bool AnyJudged() const {
+    for (std::size_t i = 0; i < elements_.size(); ++i) {
+      const auto& summary = summary_.elements[i];
+      const bool passed = !summary.sequence && parts::StandingOf(summary) == report::Standing::kPassed;
+      if (passed && (!summary.measurement || !IsUnjudged(elements_[i], summary))) return true;
+    }
+    return false;
   }
 
   bool IsUnjudged(const Element& element, const ElementSummary& summary) const {
