@@ -136,6 +136,8 @@ void ElementsCheck::CheckMeasurement(pugi::xml_node measurement, bool sequence) 
     findings_.Wrong(
         measurement.child("Value"),
         Tr("the value \"%%1\" is no number; it would be read as the number it begins with", {value}));
+  if (!sequence && value.empty() && !xml::Text(measurement.child(tags::kUnit)).empty())
+    findings_.Wrong(measurement, Tr("the reading has a unit and no value; it would be read as 0"));
 }
 
 void ElementsCheck::CheckStatus(pugi::xml_node holder) {

@@ -4,6 +4,7 @@
 
 #include "host/document/Findings.h"
 #include "host/services/Tr.h"
+#include "host/services/XmlNode.h"
 
 namespace bench {
 
@@ -13,6 +14,7 @@ void NoteUnknown(pugi::xml_node node, std::initializer_list<std::string_view> at
     return std::find(names.begin(), names.end(), name) != names.end();
   };
   for (const auto attribute : node.attributes()) {
+    if (node.attribute(attribute.name()) != attribute) findings.Wrong(node, xml::AttributeTwice(attribute));
     if (!isOneOf(attributes, attribute.name()))
       findings.Note(node, Tr("the attribute \"%%1\" of \"%%2\" is not known; it is kept",
                              {attribute.name(), node.name()}));

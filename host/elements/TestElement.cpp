@@ -306,8 +306,8 @@ void TestElement::SaveTo(const std::shared_ptr<orvik::IXmlNode>& node) const {
   xml::AddAttribute(raw, tags::kClass, Shown()->ClassID());
 
   information_->Save(raw.append_child(tags::kInformation));
-  const AuxiliaryState unchanged;
-  (auxiliary_ ? *auxiliary_ : unchanged).Save(raw.append_child(tags::kAuxiliary));
+  const auto auxiliary = raw.append_child(tags::kAuxiliary);
+  auxiliary_ ? auxiliary_->Save(auxiliary) : AuxiliaryState().Save(auxiliary);
   if (configuration_) {
     const auto configuration = node->AddChild(tags::kConfiguration);
     configuration_->Save(configuration);

@@ -1,6 +1,7 @@
 #include "host/services/Leftovers.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <span>
 
 #include "host/services/XmlNode.h"
@@ -66,10 +67,18 @@ void Leftovers::Take(pugi::xml_node node, std::initializer_list<Attribute> known
 void Leftovers::TakeAttributes(pugi::xml_node node, std::initializer_list<Attribute> known) {
   kept_.reset();
   InOrder<Attribute> attributes({known.begin(), known.size()});
+  std::uint32_t seen = 0;
   for (auto attribute = node.first_attribute(); attribute; attribute = attribute.next_attribute()) {
     const auto* found = attributes.Find(attribute.name());
-    if (!found) Holder().append_copy(attribute);
-    if (found && found->value) *found->value = attribute.value();
+    if (!found) {
+      Holder().append_copy(attribute);
+      continue;
+    }
+    const auto bit = std::uint32_t{1} << (found - known.begin());
+    // Which of the two was meant cannot be known, and the other would be lost.
+    if (seen & bit) throw XmlError(node, xml::AttributeTwice(attribute));
+    seen |= bit;
+    if (found->value) *found->value = attribute.value();
   }
 }
 

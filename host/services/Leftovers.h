@@ -27,7 +27,8 @@ class Leftovers {
   Leftovers& operator=(Leftovers&&) noexcept = default;
   ~Leftovers() = default;
 
-  /// Replaces what is kept by all of the node that is not named here.
+  /// Replaces what is kept by all of the node that is not named here. `XmlError` when a known attribute
+  /// stands there twice.
   void Take(pugi::xml_node node, std::initializer_list<Attribute> knownAttributes,
             std::initializer_list<const char*> knownElements);
 

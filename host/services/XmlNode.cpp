@@ -26,8 +26,11 @@ void RequireName(const std::string& name) {
 /// Gives a node or an attribute the text, as far as a file can hold it.
 template <class Target>
 void SetValue(Target target, const std::string& text) {
-  const bool valid = InvalidUtf8(text) == std::string::npos;
-  target.set_value(valid ? text.c_str() : ValidUtf8(text).c_str());
+  if (InvalidUtf8(text) == std::string::npos) {
+    target.set_value(text.data(), text.size());
+  } else {
+    target.set_value(ValidUtf8(text).c_str());
+  }
 }
 
 constexpr bool StartsName(unsigned char letter) {
@@ -89,6 +92,10 @@ void SetAttribute(pugi::xml_node element, const char* name, const std::string& v
 
 void AddAttribute(pugi::xml_node element, const char* name, const std::string& value) {
   SetValue(element.append_attribute(name), value);
+}
+
+std::string AttributeTwice(pugi::xml_attribute attribute) {
+  return Tr("the attribute \"%%1\" stands twice; remove one", {attribute.name()});
 }
 
 pugi::xml_node AddElement(pugi::xml_node parent, const std::string& name) {

@@ -88,6 +88,9 @@ void SetAttribute(pugi::xml_node element, const char* name, const std::string& v
 /// Adds an attribute to an element that has none of that name.
 void AddAttribute(pugi::xml_node element, const char* name, const std::string& value);
 
+/// The complaint of an attribute that stands a second time in its element.
+std::string AttributeTwice(pugi::xml_attribute attribute);
+
 /// Adds an element; `HostError` 5 for a text that is no tag.
 pugi::xml_node AddElement(pugi::xml_node parent, const std::string& name);
 

@@ -3,6 +3,7 @@
 #include <sstream>
 
 #include "host/services/Leftovers.h"
+#include "host/services/XmlNode.h"
 
 namespace bench {
 namespace {
@@ -27,6 +28,25 @@ TEST(Leftovers, KeepWhatIsNotNamed) {
   Leftovers leftovers;
   leftovers.Take(document.document_element(), {"k"}, {"known"});
   EXPECT_EQ(Restored(leftovers), "<a x=\"2\"><new><deep/></new><!--note-->text</a>");
+}
+
+// Which of the two is meant cannot be known.
+TEST(Leftovers, KnownAttributeThatStandsTwiceIsRefused) {
+  const auto document = ParsedWithComments("<a k='1' x='2' k='3'/>");
+  Leftovers leftovers;
+  EXPECT_THROW(leftovers.Take(document.document_element(), {"k"}, {}), XmlError);
+  EXPECT_NO_THROW(leftovers.Take(document.document_element(), {"x"}, {}));
+}
+
+TEST(Leftovers, ValuesGoWhereTheReaderWantsThem) {
+  const auto document = ParsedWithComments("<a b='2' x='3' a='1'/>");
+  const char *first = "none", *second = "none", *third = "none";
+  Leftovers leftovers;
+  leftovers.TakeAttributes(document.document_element(), {{"a", first}, {"b", second}, {"c", third}});
+  EXPECT_STREQ(first, "1");
+  EXPECT_STREQ(second, "2");
+  EXPECT_STREQ(third, "none");
+  EXPECT_EQ(Restored(leftovers), "<a x=\"3\"/>");
 }
 
 TEST(Leftovers, NothingIsKeptOfAKnownNode) {
