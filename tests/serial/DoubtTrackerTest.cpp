@@ -90,11 +90,19 @@ TEST_F(DoubtTrackerTest, AReadingThatIsNotWholeIsADoubt) {
 }
 
 TEST_F(DoubtTrackerTest, NumbersAsTestersWriteThemAreNone) {
-  for (const char* value : {"0", "0.123", "-1.5", "+2", " 12", "1e-3", ".5"})
+  for (const char* value : {"0", "-0", "0.123", "+2", " 12", "1e-3", ".5"})
     EXPECT_EQ(DoubtOfReading(std::string("gres,410,0,") + value + ",0,Ohm"), "") << value;
   EXPECT_EQ(DoubtOfReading("gres,410,0,12,0,\xB5"
                            "A"),
             "");
+}
+
+// A tester measures magnitudes; below an upper limit a negative one would always be.
+TEST_F(DoubtTrackerTest, ANegativeReadingIsADoubt) {
+  for (const char* value : {"-1.5", "-0.001", "-1e-9", "-300"})
+    EXPECT_NE(DoubtOfReading(std::string("gres,410,0,") + value + ",0,Ohm").find("negative"),
+              std::string::npos)
+        << value;
 }
 
 TEST_F(DoubtTrackerTest, ATestRefusedAsNotAllowedNowIsADoubtAndOneThatIsMissingIsNone) {
