@@ -20,7 +20,7 @@ h3 { margin: 0; font-size: 1.15rem; line-height: 1.4; }
 .verdict { display: flex; align-items: center; gap: 1.5rem; margin: 0 0 1.5rem; padding: 2rem; border-radius: .75rem;
   color: #fff; }
 .verdict.passed { background: var(--passed); } .verdict.failed { background: var(--failed); }
-.verdict.open { background: var(--open); }
+.verdict.open { background: var(--open); } .verdict.na { background: var(--na); }
 .verdict .sign { flex: none; font-size: clamp(3.5rem, 12vw, 6rem); font-weight: 700; line-height: 1; }
 .verdict strong { display: block; font-size: clamp(2.5rem, 10vw, 5rem); line-height: 1.05; letter-spacing: -.02em; }
 .verdict span.why { display: block; margin-top: .5rem; font-size: 1.2rem; }

@@ -190,6 +190,17 @@ double Luminance(const std::string& colour) {
   return sum;
 }
 
+// Its letters are white.
+TEST(HtmlReport, EveryVerdictHasABackground) {
+  for (const auto standing :
+       {Standing::kPassed, Standing::kFailed, Standing::kOpen, Standing::kNotApplicable}) {
+    const std::string name = html::ClassOf(standing);
+    EXPECT_NE(std::string(html::kStyle).find(".verdict." + name + " { background: var(--" + name + "); }"),
+              std::string::npos)
+        << name;
+  }
+}
+
 TEST(HtmlReport, TextStandsOutFromItsBackground) {
   const std::string style = html::kStyle;
   const auto colour = [&style](const std::string& name) {
