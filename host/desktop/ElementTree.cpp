@@ -41,8 +41,15 @@ QBrush ColourIn(const QTreeWidget& tree, report::Standing standing) {
   return dark ? QBrush() : QBrush(QColor(ColourName(standing)));
 }
 
-void Fill(QTreeWidgetItem& row, const ElementSummary& element, bool running) {
+/// As in reports: nobody has said that a reading without limits is good, and a green tick would.
+report::Standing ShownStanding(const ElementSummary& element) {
   const auto standing = parts::StandingOf(element);
+  const bool unjudged = element.recordedOnly && standing == report::Standing::kPassed;
+  return unjudged ? report::Standing::kNotApplicable : standing;
+}
+
+void Fill(QTreeWidgetItem& row, const ElementSummary& element, bool running) {
+  const auto standing = ShownStanding(element);
   const auto name = VisibleInTree(element.name);
   const auto remark = VisibleInTree(RemarkOf(element));
   const auto word = running ? Shown(Tr("running")) : Shown(Tr(element.Verdict()));

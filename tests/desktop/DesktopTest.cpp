@@ -219,6 +219,11 @@ QTreeWidgetItem* DesktopTest::Row(int id) const {
 
 std::string DesktopTest::Cell(int id, int column) const { return Row(id)->text(column).toStdString(); }
 
+std::string DesktopTest::ResultColour(int id) const {
+  constexpr int kResultColumn = 2;
+  return Row(id)->foreground(kResultColumn).color().name().toStdString();
+}
+
 void DesktopTest::ChooseElement(int id) {
   auto* tree = window_->findChild<QTreeWidget*>("tree");
   const auto place = tree->visualItemRect(Row(id));

@@ -76,6 +76,8 @@ class DesktopTest : public testing::Test {
   std::string Verdict() const;
   /// The text of a column (2: result, 3: value, 4: remark) in the row of that element.
   std::string Cell(int id, int column) const;
+  /// The name of the colour in which the result stands in the row of that element.
+  std::string ResultColour(int id) const;
   void ChooseElement(int id);
   bool Changed() const { return window_->isWindowModified(); }
 

@@ -11,6 +11,7 @@
 #include <QTreeWidget>
 
 #include "host/app/SimulatedTester.h"
+#include "host/pdf/PdfStyle.h"
 #include "tester/BuiltInProfiles.h"
 #include "tests/desktop/DesktopTest.h"
 
@@ -125,6 +126,10 @@ TEST_F(RunTest, WhatWasOnlyRecordedIsToldInTheVerdict) {
   EXPECT_EQ(Cell(1, kRemark), "no limits: recorded, not judged");
   EXPECT_THAT(window_->findChild<QLabel*>("verdictSentence")->text().toStdString(),
               HasSubstr("without a limit"));
+  // Nobody has said that the first is good; the second has limits.
+  EXPECT_NE(ResultColour(1), ResultColour(2));
+  EXPECT_EQ(ResultColour(1),
+            bench::pdf::ColourOf(bench::report::Standing::kNotApplicable).name().toStdString());
 }
 
 TEST_F(RunTest, StopClosesTheSessionAndResumeGoesOn) {
