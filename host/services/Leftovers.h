@@ -13,6 +13,8 @@ class Leftovers {
   /// An attribute that its reader knows, and where its value goes, as long as the node lives; where there is
   /// no such attribute, nothing goes there.
   struct Attribute {
+    // Not explicit, so that lists of attributes are lists of names.
+    // NOLINTNEXTLINE(google-explicit-constructor)
     Attribute(const char* known) : name(known) {}
     Attribute(const char* known, const char*& goesTo) : name(known), value(&goesTo) {}
 

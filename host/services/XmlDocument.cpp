@@ -121,7 +121,7 @@ std::size_t LineOf(std::string_view text, std::size_t offset) {
 std::string Write(const pugi::xml_document& document) {
   std::string text;
   StringWriter writer(text);
-  document.save(writer, kIndent, FormatOf(document), pugi::encoding_utf8);
+  document.save(writer, kIndent, FormatOf(document.root()), pugi::encoding_utf8);
   return text;
 }
 
