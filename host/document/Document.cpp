@@ -73,11 +73,16 @@ std::shared_ptr<orvik::IXmlNode> Wrapped(const std::shared_ptr<pugi::xml_documen
 }  // namespace
 
 Document::Document(std::shared_ptr<Host> host, DocumentFile file)
-    : host_(std::move(host)),
-      file_(std::move(file)),
-      standards_(orvik::As<orvik::IStandardColl>(host_->CreateObject(orvik::HostClasses::kStandardColl))),
-      instruments_(std::make_shared<InstrumentColl>()),
-      elements_(std::make_shared<TestContainer>(host_->Elements())) {}
+    : host_(std::move(host)), file_(std::move(file)) {
+  BeginEmpty();
+}
+
+void Document::BeginEmpty() {
+  standards_ = orvik::As<orvik::IStandardColl>(host_->CreateObject(orvik::HostClasses::kStandardColl));
+  instruments_ = std::make_shared<InstrumentColl>();
+  elements_ = std::make_shared<TestContainer>(host_->Elements());
+  highestId_ = 0;
+}
 
 std::shared_ptr<Document> Document::Create(std::shared_ptr<Host> host, const std::filesystem::path& file) {
   return std::make_shared<Document>(std::move(host), DocumentFile::New(file));
@@ -132,7 +137,7 @@ void Document::LoadWhole(const std::string& text) {
     RefuseFile(Path(), text, static_cast<std::ptrdiff_t>(fault.offset), fault.reason);
   auto& trouble = host_->Elements()->Trouble();
   trouble.Clear();
-  elements_ = std::make_shared<TestContainer>(host_->Elements());
+  BeginEmpty();  // what an attempt in pieces has left
   try {
     CheckVersion(xml->document_element());
     SavedElements saved;

@@ -91,6 +91,8 @@ class Document {
   std::shared_ptr<orvik::ITestElement> Find(std::int32_t id) const;
 
  private:
+  /// Without standards, instruments and elements.
+  void BeginEmpty();
   void Load(const std::string& text);
   /// @return false when the document must be read whole; what it holds by then counts for nothing
   bool LoadInPieces(const std::string& text);

@@ -1,6 +1,7 @@
 #include "host/document/KnownParts.h"
 
 #include <algorithm>
+#include <set>
 
 #include "host/document/Findings.h"
 #include "host/services/Tr.h"
@@ -13,8 +14,9 @@ void NoteUnknown(pugi::xml_node node, std::initializer_list<std::string_view> at
   const auto isOneOf = [](const auto& names, std::string_view name) {
     return std::find(names.begin(), names.end(), name) != names.end();
   };
+  std::set<std::string_view> seen;
   for (const auto attribute : node.attributes()) {
-    if (node.attribute(attribute.name()) != attribute) findings.Wrong(node, xml::AttributeTwice(attribute));
+    if (!seen.insert(attribute.name()).second) findings.Wrong(node, xml::AttributeTwice(attribute));
     if (!isOneOf(attributes, attribute.name()))
       findings.Note(node, Tr("the attribute \"%%1\" of \"%%2\" is not known; it is kept",
                              {attribute.name(), node.name()}));

@@ -122,6 +122,20 @@ TEST_F(DocumentInPieces, EndOfAnElementThatIsNoneIsReadAsWhatItIs) {
   }
 }
 
+// The attempt to read it in pieces has read the sections before it failed.
+TEST_F(DocumentInPieces, WhatIsReadWholeAfterAllHasEachSectionOnce) {
+  const auto misleading = std::string(70'000, ' ') + "<!--\n    </TestElement>\n    <TestElement -->\n";
+  auto text = DocumentText(ElementText(1, misleading) + ElementText(2));
+  text.insert(text.find("  <Elements>"),
+              "  <Standards>\n    <Standard Name=\"S\" Description=\"\" Number=\"1\" />\n  </Standards>\n"
+              "  <Instruments>\n    <Instrument Index=\"1\" SerialNumber=\"7\" />\n  </Instruments>\n");
+  const auto document = Opened(text);
+  EXPECT_EQ(document->Elements()->Count(), 2);
+  EXPECT_EQ(document->Standards()->Count(), 1);
+  EXPECT_EQ(Count(document->Text(), "Name=\"S\""), 1);
+  EXPECT_EQ(Count(document->Text(), "SerialNumber=\"7\""), 1);
+}
+
 TEST_F(DocumentInPieces, ElementsInACommentAreNone) {
   const auto commented =
       Opened("<OrvikDocument Version=\"1\">\n  <!-- <Elements>\n" + ManyElements() +
