@@ -20,7 +20,7 @@ class IPersistence : public virtual IObject {
   std::shared_ptr<IXmlNode> WriteValue(std::shared_ptr<IXmlNode> Parent, const std::string& sText) {
     return IPersistence_WriteValue(std::move(Parent), sText);
   }
-  /// The text of a "Value" node.
+  /// The text of a "Value" node; `HostError` when it is empty: a value that is not there is not 0.
   std::string ReadValue(std::shared_ptr<IXmlNode> Node) const {
     return IPersistence_ReadValue(std::move(Node));
   }

@@ -101,15 +101,6 @@ bool HasLimits(const orvik::ITestElement& element, const orvik::IStandardColl& s
   return false;
 }
 
-/// Whether the value of a sequence is none. It is saved as an empty text, which is read back as 0: no
-/// reading.
-bool HasNoValue(const orvik::ITestElement& sequence) {
-  const auto configuration = sequence.Configuration();
-  if (!configuration) return false;
-  const SavedSettings saved(*configuration);
-  return saved.Settings() && saved.Settings()->Attribute(SavedSettings::kFilter) == SavedSettings::kNoValues;
-}
-
 ElementSummary SummaryOf(const std::shared_ptr<orvik::ITestElement>& element, const ElementFactory& factory,
                          const std::shared_ptr<orvik::IStandardColl>& standards) {
   ElementSummary summary;
@@ -130,7 +121,6 @@ ElementSummary SummaryOf(const std::shared_ptr<orvik::ITestElement>& element, co
   const auto measurement = result->MeasurementCount() > 0 ? result->Measurement(1) : nullptr;
   if (measurement) {
     summary.measurement = SummaryOf(*measurement);
-    if (summary.sequence && HasNoValue(*element)) summary.measurement->value.reset();
     summary.failedStandards = FailedStandards(*element, measurement, standards);
     summary.recordedOnly = !summary.sequence && summary.status == kPassed && summary.measurement->value &&
                            standards && !HasLimits(*element, *standards);

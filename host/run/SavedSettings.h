@@ -13,8 +13,6 @@ class SavedSettings {
  public:
   static constexpr char kOptions[] = "Options";
   static constexpr char kFilter[] = "ValueFilter";
-  /// The filter with which the value of a sequence is none.
-  static constexpr char kNoValues[] = "No values";
 
   explicit SavedSettings(const orvik::IConfigData& configuration);
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <span>
+#include <string_view>
 
 #include "host/services/XmlNode.h"
 
@@ -31,6 +32,12 @@ class InOrder {
   const Known* end_;
   const Known* next_;
 };
+
+/// The line breaks and blanks in an element that holds nothing else: how it was laid out, no part of it.
+bool IsLayout(pugi::xml_node node) {
+  return node.type() == pugi::node_pcdata &&
+         std::string_view(node.value()).find_first_not_of(" \t\r\n") == std::string_view::npos;
+}
 
 }  // namespace
 
@@ -83,7 +90,7 @@ void Leftovers::TakeAttributes(pugi::xml_node node, std::initializer_list<Attrib
 }
 
 void Leftovers::Add(pugi::xml_node child) {
-  if (child.type() != pugi::node_declaration) Holder().append_copy(child);
+  if (child.type() != pugi::node_declaration && !IsLayout(child)) Holder().append_copy(child);
 }
 
 void Leftovers::Restore(pugi::xml_node node) const {

@@ -6,6 +6,11 @@
 #include "host/services/Tr.h"
 
 namespace bench {
+namespace {
+
+constexpr char kPersistenceSource[] = "OrvikTypeLib.Persistence";
+
+}  // namespace
 
 std::shared_ptr<orvik::IXmlNode> Persistence::IPersistence_WriteValue(std::shared_ptr<orvik::IXmlNode> Parent,
                                                                       const std::string& sText) {
@@ -15,7 +20,10 @@ std::shared_ptr<orvik::IXmlNode> Persistence::IPersistence_WriteValue(std::share
 }
 
 std::string Persistence::IPersistence_ReadValue(std::shared_ptr<orvik::IXmlNode> Node) const {
-  return orvik::Required(Node).Text();
+  auto text = orvik::Required(Node).Text();
+  if (text.empty())
+    throw orvik::HostError(orvik::HostError::kTypeMismatch, kPersistenceSource, Tr("the value is empty"));
+  return text;
 }
 
 std::shared_ptr<orvik::IXmlNode> Persistence::IPersistence_WriteStatus(
@@ -29,7 +37,7 @@ std::shared_ptr<orvik::IXmlNode> Persistence::IPersistence_WriteStatus(
 std::int32_t Persistence::IPersistence_ReadStatus(std::shared_ptr<orvik::IXmlNode> Node) const {
   const auto text = orvik::Required(Node).Text();
   if (const auto status = WholeNumber(text)) return *status;
-  throw orvik::HostError(orvik::HostError::kTypeMismatch, "OrvikTypeLib.Persistence",
+  throw orvik::HostError(orvik::HostError::kTypeMismatch, kPersistenceSource,
                          Tr("the status \"%%1\" is not a whole number", {text}));
 }
 

@@ -4,6 +4,7 @@
 
 #include "host/services/Tr.h"
 #include "host/services/XmlNode.h"
+#include "host/services/XmlReferences.h"
 
 namespace bench {
 namespace xml {
@@ -54,6 +55,25 @@ Fault CheckTop(const pugi::xml_document& document, std::size_t size) {
   return {};
 }
 
+/// The node itself, not those in it, holds a reference to nothing; of a tree whose references stand as they
+/// are.
+bool HoldsReferenceToNothing(pugi::xml_node node) {
+  const auto holds = [](const char* text) { return ReferenceToNothing(text) != std::string_view::npos; };
+  if (node.type() == pugi::node_pcdata) return holds(node.value());
+  return std::any_of(node.attributes_begin(), node.attributes_end(),
+                     [&](pugi::xml_attribute attribute) { return holds(attribute.value()); });
+}
+
+/// Where a reference to nothing stands, if not in a comment or the like; `npos` when there is none. The
+/// parser makes bytes of it that end the text, or are no text.
+std::size_t FindReferenceToNothing(std::string_view text) {
+  if (ReferenceToNothing(text) == std::string_view::npos) return std::string_view::npos;
+  pugi::xml_document asItStands;
+  asItStands.load_buffer(text.data(), text.size(), kParseFlags & ~pugi::parse_escapes, pugi::encoding_utf8);
+  const auto holder = asItStands.find_node(HoldsReferenceToNothing);
+  return holder ? ReferenceToNothing(text, OffsetOf(holder)) : std::string_view::npos;
+}
+
 bool DeeperThan(pugi::xml_node node, int levels) {
   struct Depth : pugi::xml_tree_walker {
     int limit = 0;
@@ -100,6 +120,8 @@ Fault ParseAsFarAsPossible(std::string_view text, pugi::xml_document& document) 
     fault = {static_cast<std::size_t>(result.offset < 0 ? 0 : result.offset), Tr(result.description())};
   } else if (text.find('\0') != std::string_view::npos) {
     fault = {text.find('\0'), Tr("there is a NUL byte")};
+  } else if (const auto reference = FindReferenceToNothing(text); reference != std::string_view::npos) {
+    fault = {reference, Tr("the reference stands for no character; remove it")};
   } else {
     fault = CheckTop(document, text.size());
   }
@@ -109,6 +131,7 @@ Fault ParseAsFarAsPossible(std::string_view text, pugi::xml_document& document) 
 bool ParseElements(std::string_view text, pugi::xml_document& document) {
   const auto result = document.load_buffer(text.data(), text.size(), kParseFlags, pugi::encoding_utf8);
   if (!result || text.find('\0') != std::string_view::npos) return false;
+  if (ReferenceToNothing(text) != std::string_view::npos) return false;
   return std::all_of(document.begin(), document.end(),
                      [](pugi::xml_node node) { return node.type() == pugi::node_element; });
 }

@@ -21,6 +21,14 @@ TEST(Persistence, ValueIsTheTextOfItsNode) {
   EXPECT_EQ(document.Root()->ChildCount(), 1);
 }
 
+TEST(Persistence, EmptyValueIsRefusedAndNotReadAsZero) {
+  XmlDocument document;
+  Persistence persistence;
+  const auto node = persistence.WriteValue(document.CreateRoot("Measurement"), "");
+  EXPECT_EQ(node->Text(), "");
+  EXPECT_EQ(ErrorNumber([&] { persistence.ReadValue(node); }), HostError::kTypeMismatch);
+}
+
 TEST(Persistence, StatusHasANameOnlyWhenThereIsOne) {
   XmlDocument document;
   Persistence persistence;

@@ -65,7 +65,7 @@ void ForEachStandard(const Element& element, const std::function<void(orvik::ISt
 
 class RoundTripTest : public support::ModelTest {
  protected:
-  RoundTripTest() : seed_(support::Seed()), random_(seed_), trees_(random_, bench) {}
+  RoundTripTest() : random_(support::Seed()), trees_(random_, bench) {}
 
   /// The tree that the text says; with the plug-in in the host it comes from the catalogue, else from its
   /// classes alone.
@@ -99,7 +99,6 @@ class RoundTripTest : public support::ModelTest {
     for (const auto& element : elements) As<IKELDTest>(element)->SetExpectedUnits("changed");
   }
 
-  unsigned seed_;
   std::mt19937 random_;
   support::RandomTree trees_;
 };
@@ -186,7 +185,6 @@ std::vector<RoundTripTest::Change> RoundTripTest::Changes() {
 }
 
 TEST_F(RoundTripTest, AnyTreeIsSavedLoadedAndSavedAgainAsTheSameBytes) {
-  SCOPED_TRACE("ORVIK_SEED=" + std::to_string(seed_));
   for (int round = 0; round < kTrees; ++round) {
     // First from the classes alone, then from the catalogue.
     if (round == kTrees / 2) bench.Host().Elements()->AddPlugIn(bench.PlugIn());
@@ -198,7 +196,6 @@ TEST_F(RoundTripTest, AnyTreeIsSavedLoadedAndSavedAgainAsTheSameBytes) {
 }
 
 TEST_F(RoundTripTest, ACloneOfAnyTreeSavesTheSameBytesAndSharesNothing) {
-  SCOPED_TRACE("ORVIK_SEED=" + std::to_string(seed_));
   for (int round = 0; round < kTrees; ++round) {
     SCOPED_TRACE("round " + std::to_string(round));
     auto source = trees_.Make();
@@ -246,9 +243,9 @@ TEST_F(RoundTripTest, EveryChangeShowsInWhatIsSaved) {
 }
 
 // The one thing that a document does not keep: a value is read back as the number that it begins with.
-TEST_F(RoundTripTest, AValueThatIsNoNumberReadsBackAsANumberAndStaysThat) {
+TEST_F(RoundTripTest, AValueThatIsNoNumberReadsBackAsANumberOrNoneAndStaysThat) {
   const std::vector<std::pair<orvik::Variant, std::string>> rows = {
-      {orvik::Variant(), "0"}, {std::string(), "0"}, {std::string("OL"), "0"}, {std::string("12 V"), "12"}};
+      {orvik::Variant(), ""}, {std::string(), ""}, {std::string("OL"), "0"}, {std::string("12 V"), "12"}};
   for (const auto& [value, number] : rows) {
     const auto test = MakeTest(410);
     const auto result = CKELDResultData::Create();

@@ -32,6 +32,7 @@ void ValuesAndStates(Findings& findings) {
     status->SetText(text);
     findings.Refused(std::string("the status \"") + text + "\"", [&] { persistence->ReadStatus(status); });
   }
+  findings.Refused("an empty value", [&] { persistence->ReadValue(persistence->WriteValue(root, "")); });
   findings.Refused("a value below an empty node", [&] { persistence->WriteValue(nullptr, ""); });
   findings.Refused("a status below an empty node", [&] { persistence->WriteStatus(nullptr, "", 0); });
   findings.Refused("the value of an empty node", [&] { persistence->ReadValue(nullptr); });
