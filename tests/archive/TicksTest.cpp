@@ -4,6 +4,7 @@
 #include <random>
 
 #include "host/archive/Ticks.h"
+#include "tests/support/Seed.h"
 
 namespace archive_tests {
 namespace {
@@ -30,9 +31,7 @@ TEST(NumberTicks, AreRoundAndHoldWhatIsBetween) {
 }
 
 TEST(NumberTicks, AreFewAndInOrderWhateverTheNumbers) {
-  const unsigned seed = std::random_device{}();
-  SCOPED_TRACE("seed " + std::to_string(seed));
-  std::mt19937 random(seed);
+  std::mt19937 random(support::Seed());
   std::uniform_real_distribution<double> exponent(-12, 15), sign(-1, 1);
   for (int i = 0; i < 2000; ++i) {
     double low = sign(random) * std::pow(10, exponent(random)),

@@ -37,6 +37,13 @@ std::string FaultOf(const Target& target, const std::string& input) {
   }
 }
 
+/// Keeps an input that broke a promise, so that it can go into the corpus: says where.
+std::string Kept(const std::string& target, const std::string& input) {
+  const auto file = testing::TempDir() + "broken-" + target + ".input";
+  std::ofstream(file, std::ios::binary) << input;
+  return "; all of it is in " + file;
+}
+
 class TargetTest : public testing::TestWithParam<std::string> {};
 
 TEST_P(TargetTest, KeepsItsPromisesForTheCorpusAndForMutationsOfIt) {
@@ -44,11 +51,11 @@ TEST_P(TargetTest, KeepsItsPromisesForTheCorpusAndForMutationsOfIt) {
   ASSERT_TRUE(target.function);
   ASSERT_GE(target.corpus.size(), 5U);
   for (const auto& input : target.corpus) ASSERT_EQ(FaultOf(target, input), "") << Shown(input);
-  const auto seed = support::Seed();
-  Mutator mutator(target.corpus, target.dictionary, seed);
+  Mutator mutator(target.corpus, target.dictionary, support::Seed());
   for (int round = 0; round < target.rounds; ++round) {
     const auto input = mutator.Next();
-    ASSERT_EQ(FaultOf(target, input), "") << "seed " << seed << ", round " << round << ": " << Shown(input);
+    ASSERT_EQ(FaultOf(target, input), "")
+        << "round " << round << ": " << Shown(input) << Kept(GetParam(), input);
   }
 }
 

@@ -6,6 +6,7 @@
 #include "host/document/Document.h"
 #include "tests/host/Errors.h"
 #include "tests/host/HostFixture.h"
+#include "tests/support/Seed.h"
 
 namespace bench {
 namespace {
@@ -174,9 +175,7 @@ TEST_F(DocumentInPieces, NewerVersionIsToldBeforeItsElements) {
 
 // Damage anywhere: the same document, or the same refusal, as when the text cannot be cut.
 TEST_F(DocumentInPieces, AnyDamageIsSeenAsInTheWholeText) {
-  const auto seed = std::random_device()();
-  SCOPED_TRACE("seed " + std::to_string(seed));
-  std::mt19937 random(seed);
+  std::mt19937 random(support::Seed());
   const auto text = DocumentText(ManyElements(100));
   const auto outcome = [&](const std::string& given) {
     try {

@@ -9,6 +9,7 @@
 #include "host/elements/Nesting.h"
 #include "tests/host/Errors.h"
 #include "tests/host/HostFixture.h"
+#include "tests/support/Seed.h"
 
 namespace bench {
 namespace {
@@ -206,9 +207,7 @@ TEST_F(DocumentCheckTest, NestingOfAnyDepthIsToldOnce) {
 }
 
 TEST_F(DocumentCheckTest, NothingWrongMeansThatItCanBeOpened) {
-  const auto seed = std::random_device{}();
-  SCOPED_TRACE("seed " + std::to_string(seed));
-  std::mt19937 random(seed);
+  std::mt19937 random(support::Seed());
   const auto document = Document::Create(host_, folder_.Path() / "a.orvik");
   document->AddTest(100);
   document->Find(2)->Limits()->CreateStandard("S", "")->Limit(1)->SetBounds("1", "2");

@@ -8,6 +8,7 @@
 #include "host/document/DocumentFile.h"
 #include "tests/host/Errors.h"
 #include "tests/host/TestFolder.h"
+#include "tests/support/Seed.h"
 
 namespace bench {
 namespace {
@@ -99,9 +100,7 @@ TEST(DocumentFile, MissingFileIsNamed) {
 }
 
 TEST(DocumentFile, ProgramKilledWhileItWritesLeavesTheOldOrTheNewFile) {
-  const auto seed = std::random_device{}();
-  SCOPED_TRACE("seed " + std::to_string(seed));
-  std::mt19937 random(seed);
+  std::mt19937 random(support::Seed());
   TestFolder folder;
   const auto path = folder.Write("a.orvik", std::string(50000, 'a'));
   for (int round = 0; round < 10; ++round) {

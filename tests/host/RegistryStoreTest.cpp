@@ -10,6 +10,7 @@
 #include "host/services/RegistryStore.h"
 #include "tests/host/Errors.h"
 #include "tests/host/TestFolder.h"
+#include "tests/support/Seed.h"
 
 namespace bench {
 namespace {
@@ -207,9 +208,7 @@ TEST(RegistryStore, TwoProgramsLoseNothingOfEachOther) {
 }
 
 TEST(RegistryStore, ProgramKilledWhileItWritesLeavesAWholeFile) {
-  const auto seed = std::random_device{}();
-  SCOPED_TRACE("seed " + std::to_string(seed));
-  std::mt19937 random(seed);
+  std::mt19937 random(support::Seed());
   TestFolder folder;
   RegistryStore(folder.Path()).Write(kStoreHive, kStoreKey, "kept", "kept");
   for (int round = 0; round < 10; ++round) {

@@ -5,6 +5,7 @@
 #include "host/report/ReportObject.h"
 #include "host/report/Table.h"
 #include "tests/host/Errors.h"
+#include "tests/support/Seed.h"
 
 namespace bench {
 namespace {
@@ -67,9 +68,7 @@ TEST(ReportTable, MalformedRowsAreRefused) {
 }
 
 TEST(ReportTable, EscapedTextComesOutUnchangedWhateverItHolds) {
-  const auto seed = std::random_device{}();
-  SCOPED_TRACE("seed " + std::to_string(seed));
-  std::mt19937 random(seed);
+  std::mt19937 random(support::Seed());
   const std::string letters = "|;{}\\ab i<>&\"\n \xC3\xB8";
   for (int round = 0; round < 5000; ++round) {
     std::string text;

@@ -5,6 +5,7 @@
 #include "host/services/XmlDocument.h"
 #include "host/services/XmlNode.h"
 #include "tests/host/Errors.h"
+#include "tests/support/Seed.h"
 
 namespace bench {
 namespace {
@@ -101,9 +102,7 @@ std::string RandomText(std::mt19937& random) {
 }
 
 TEST(XmlDocument, AnyTextComesBackUnchanged) {
-  const auto seed = std::random_device{}();
-  SCOPED_TRACE("seed " + std::to_string(seed));
-  std::mt19937 random(seed);
+  std::mt19937 random(support::Seed());
   for (int round = 0; round < 2000; ++round) {
     const auto text = RandomText(random);
     const auto value = RandomText(random);

@@ -13,6 +13,7 @@
 #include "tests/kill/Child.h"
 #include "tests/kill/Orphans.h"
 #include "tests/kill/Workplace.h"
+#include "tests/support/Seed.h"
 
 namespace kill_test {
 namespace {
@@ -30,9 +31,9 @@ constexpr int kMoments = 100;
 constexpr int kMoments = 1000;
 #endif
 
-std::uint64_t NumberFrom(const char* variable, std::uint64_t otherwise) {
-  const char* text = std::getenv(variable);
-  return text ? std::strtoull(text, nullptr, 10) : otherwise;
+int MomentsInAll() {
+  const char* text = std::getenv("ORVIK_KILL_MOMENTS");
+  return text ? std::atoi(text) : kMoments;
 }
 
 /// A command that is killed, and what must hold afterwards.
@@ -167,7 +168,7 @@ const Row kRows[] = {
 /// Kills one command at many moments, several at a time.
 class Killings {
  public:
-  Killings(const Row& row, std::uint64_t seed, int count)
+  Killings(const Row& row, unsigned seed, int count)
       : row_(row),
         seed_(seed),
         count_(count),
@@ -228,8 +229,7 @@ class Killings {
   /// Many of the moments come soon after a line of output or a change to a file: that is when something can
   /// be lost.
   Moment MomentOf(int attempt, const Workplace& place) const {
-    std::seed_seq seeds{static_cast<std::uint32_t>(seed_), static_cast<std::uint32_t>(seed_ >> 32),
-                        static_cast<std::uint32_t>(attempt)};
+    std::seed_seq seeds{seed_, static_cast<unsigned>(attempt)};
     std::mt19937 random(seeds);
     const auto within = [&](auto most) {
       return std::uniform_int_distribution<long>(0, static_cast<long>(most))(random);
@@ -251,7 +251,7 @@ class Killings {
   }
 
   const Row& row_;
-  const std::uint64_t seed_;
+  const unsigned seed_;
   const int count_;
   FastFolder folder_;
   Workplace old_, changed_;
@@ -265,10 +265,9 @@ class Killings {
 class KillTest : public testing::TestWithParam<Row> {};
 
 TEST_P(KillTest, AtAnyMomentLosesNothingAndLeavesNobodyBehind) {
-  const auto seed = NumberFrom("ORVIK_KILL_SEED", std::random_device{}());
-  const auto moments = static_cast<int>(NumberFrom("ORVIK_KILL_MOMENTS", kMoments)) * GetParam().share / 100;
-  std::cout << GetParam().name << ": " << moments << " moments, ORVIK_KILL_SEED=" << seed << std::endl;
-  SCOPED_TRACE("ORVIK_KILL_SEED=" + std::to_string(seed));
+  const auto seed = support::Seed();
+  const auto moments = MomentsInAll() * GetParam().share / 100;
+  std::cout << GetParam().name << ": " << moments << " moments" << std::endl;
   const Orphans orphans;
   Killings killings(GetParam(), seed, moments);
   int killed = 0;

@@ -5,6 +5,7 @@
 #include <random>
 
 #include "host/report/Bar.h"
+#include "tests/support/Seed.h"
 
 namespace bench::report {
 namespace {
@@ -65,9 +66,7 @@ TEST(Bar, AValueFarAwayLeavesTheBoundsToBeSeen) {
 }
 
 TEST(Bar, WhateverTheNumbersEverythingStandsOnTheLineAndOnItsSide) {
-  const auto seed = std::random_device{}();
-  SCOPED_TRACE("seed " + std::to_string(seed));
-  std::mt19937 random(seed);
+  std::mt19937 random(support::Seed());
   const auto number = [&random] {
     const double digits = static_cast<double>(random() % 2000) - 1000;
     return digits * std::pow(10.0, static_cast<double>(random() % 600) - 300);

@@ -12,6 +12,7 @@
 namespace bench {
 namespace {
 
+using report::Standing;
 using testing::HasSubstr;
 using testing::Not;
 
@@ -104,8 +105,8 @@ TEST(HtmlReport, StandingsAreToldByWordAndSignNotByColourAlone) {
   EXPECT_GT(page.Count("//*[contains(@class, 'word')]"), 0);
   EXPECT_EQ(page.Count("//*[starts-with(@class, 'word ')][not(*[@class='sign'])]"), 0);
   std::set<std::string> signs;
-  for (const auto standing : {report::Standing::kPassed, report::Standing::kFailed, report::Standing::kOpen,
-                              report::Standing::kNotApplicable})
+  for (const auto standing :
+       {Standing::kPassed, Standing::kFailed, Standing::kOpen, Standing::kNotApplicable})
     signs.insert(html::SignOf(standing));
   EXPECT_EQ(signs.size(), 4U);
 }

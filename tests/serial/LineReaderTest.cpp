@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "host/serial/LineReader.h"
+#include "tests/support/Seed.h"
 
 namespace bench {
 namespace {
@@ -78,9 +79,7 @@ TEST(LineReader, AByteZeroAloneIsABadLine) {
 
 // However the bytes are cut into pieces, the lines are those of the whole.
 TEST(LineReader, PiecesMakeNoDifference) {
-  const auto seed = std::random_device{}();
-  SCOPED_TRACE("seed " + std::to_string(seed));
-  std::mt19937 random(seed);
+  std::mt19937 random(support::Seed());
   const std::string alphabet("ab,\"\r\n\r\n\x01\x7F\xB5", 11);
   for (int round = 0; round < 300; ++round) {
     std::string bytes;

@@ -5,6 +5,7 @@
 #include "OrvikTypeLib/HostError.h"
 #include "host/serial/Latin1.h"
 #include "host/serial/Message.h"
+#include "tests/support/Seed.h"
 
 namespace bench {
 namespace {
@@ -100,9 +101,7 @@ TEST(Message, QuotationMarksThatDoNotMatchMakeNoMessage) {
 
 // Whatever can be sent arrives as it was.
 TEST(Message, AnythingComposedIsParsedBack) {
-  const auto seed = std::random_device{}();
-  SCOPED_TRACE("seed " + std::to_string(seed));
-  std::mt19937 random(seed);
+  std::mt19937 random(support::Seed());
   for (int round = 0; round < 2000; ++round) {
     Texts parameters(random() % 6);
     for (auto& parameter : parameters) {

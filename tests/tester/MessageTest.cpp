@@ -3,6 +3,7 @@
 #include <random>
 
 #include "tester/Message.h"
+#include "tests/support/Seed.h"
 
 namespace sim {
 namespace {
@@ -53,9 +54,7 @@ TEST(MessageTest, OnlyParametersThatNeedItAreQuoted) {
 }
 
 TEST(MessageTest, WhatIsAppendedIsReadBackUnchanged) {
-  const unsigned seed = std::random_device{}();
-  SCOPED_TRACE("seed " + std::to_string(seed));
-  std::mt19937 random(seed);
+  std::mt19937 random(support::Seed());
   const std::string alphabet = ",\"ab \xB5";
   for (int round = 0; round < 2000; ++round) {
     Parameters parameters(random() % 5);
