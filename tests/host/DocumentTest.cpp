@@ -259,6 +259,16 @@ TEST_F(DocumentTest, WhatItDoesNotKnowIsWrittenBack) {
     EXPECT_TRUE(Holds(text, part));
 }
 
+TEST_F(DocumentTest, LineBreaksInAnEmptyElementAreNoContent) {
+  const auto text = Opened(
+                        "<OrvikDocument Version='1'>\n  <Equipment Asset='a'>\n  </Equipment>\n"
+                        "  <More>\n  </More>\n</OrvikDocument>")
+                        ->Text();
+  EXPECT_TRUE(Holds(text, "<Equipment Asset=\"a\" Serial=\"\" Maker=\"\" Model=\"\" />"));
+  EXPECT_TRUE(Holds(text, "<More>\n  </More>"));
+  EXPECT_EQ(Opened(text)->Text(), text);
+}
+
 TEST_F(DocumentTest, ReferencesThatMeanThemselvesAreWrittenBack) {
   const auto text = Opened(
                         "<OrvikDocument Version='1'><!--&#0;--><Photo><![CDATA[&#xD800;]]></Photo>"
