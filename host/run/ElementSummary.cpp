@@ -15,7 +15,6 @@
 #include "host/run/ElementDoubts.h"
 #include "host/run/ElementText.h"
 #include "host/run/ElementWalk.h"
-#include "host/run/SavedSettings.h"
 #include "host/services/Tr.h"
 #include "host/standards/ElementLimits.h"
 
