@@ -39,6 +39,10 @@ class GuideOperator {
   std::vector<int> guide{kPlay};
   /// The answer to the question whether to end the test.
   bool abort = true;
+  /// How long the person looks at a question or a message before answering it.
+  std::chrono::milliseconds thinks{0};
+  /// Called right before a prompt is answered, with the name of its form.
+  std::function<void(const std::string& form)> onAnswer = [](const std::string&) {};
   /// The questions and messages that came up.
   std::vector<std::string> prompts;
   int guidesShown = 0;
@@ -93,13 +97,17 @@ class GuideOperator {
   }
 
   void Click(const std::weak_ptr<orvik::platform::IForm>& form, const std::string& button) {
-    application_.Post([this, form, button] {
-      if (const auto shown = form.lock())
+    const auto answer = [this, form, button] {
+      if (const auto shown = form.lock()) {
+        onAnswer(shown->Name());
         std::dynamic_pointer_cast<orvik::platform::IButton>(shown->Find(button))->Click();
+      }
       // A person needs a moment to get back to the guide.
       if (std::exchange(waiting_, false))
         application_.CallAt(application_.Now() + std::chrono::milliseconds(1), [this] { OperateGuide(); });
-    });
+    };
+    if (thinks == thinks.zero()) return application_.Post(answer);
+    application_.CallAt(application_.Now() + thinks, answer);
   }
 
   std::shared_ptr<orvik::ITgToolbar> Toolbar() const {
