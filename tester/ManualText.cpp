@@ -29,7 +29,7 @@ Section OptionsSection() {
       {List({
           {"--link PATH",
            "where the symbolic link to the pseudo-terminal is to stand; only a link that an earlier tester "
-           "left there is replaced; removed at the end"},
+           "left there is replaced, and not while that one runs (exit status 3); removed at the end"},
           {"--profile FILE|NAME",
            "the equipment under test: a built-in profile or a profile file (write ./NAME for a file that is "
            "called like a built-in one); default " +

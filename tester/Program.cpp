@@ -12,6 +12,7 @@
 
 #include "tester/Errors.h"
 #include "tester/FaultScript.h"
+#include "tester/LinkClaim.h"
 #include "tester/ProfileFile.h"
 #include "tester/PseudoTerminal.h"
 #include "tester/Replay.h"
@@ -104,6 +105,7 @@ void RunTester(const Options& options, int parent) {
   // Signals first: whatever comes from here on, the link is removed.
   const StopSignal stop;
   if (options.exitWithParent) ExitWithParent(parent);
+  const LinkClaim claim(options.link);
   Tester tester = MakeTester(options);
   std::optional<Trace> trace;
   if (options.trace) trace.emplace(*options.trace);

@@ -29,7 +29,8 @@ class PseudoTerminal {
 class DeviceLink {
  public:
   /// Makes `path` a link to `target`. A link that leads to a pseudo-terminal, left by an earlier tester, is
-  /// replaced; anything else that stands there is left alone and InputError thrown.
+  /// replaced; anything else that stands there is left alone and InputError thrown. Whether that tester has
+  /// ended is for the caller to know: `LinkClaim`.
   DeviceLink(std::string path, std::string target);
   DeviceLink(const DeviceLink&) = delete;
   DeviceLink& operator=(const DeviceLink&) = delete;

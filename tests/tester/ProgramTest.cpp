@@ -239,6 +239,47 @@ TEST_F(ProgramTest, CanBeStoppedWhileUnplugged) {
   EXPECT_FALSE(Stands(link_));
 }
 
+TEST_F(ProgramTest, TheLinkOfATesterThatRunsIsNotTakenOver) {
+  Program first({"--link", link_});
+  first.ReadyLine();
+  const auto device = std::filesystem::read_symlink(link_);
+  std::filesystem::create_directory_symlink(folder_.Path("."), folder_.Path("again"));
+  for (const std::string& path : {link_, folder_.Path("./port"), folder_.Path("again/port")}) {
+    Program second({"--link", path});
+    EXPECT_EQ(second.Wait(), 3);
+    EXPECT_EQ(second.Complaint(), "keld-sim: --link " + path +
+                                      ": another keld-sim is running there; end it or choose another path\n");
+  }
+  EXPECT_EQ(std::filesystem::read_symlink(link_), device);
+  Client client(link_);
+  EXPECT_EQ(client.Ask("IREM\r\n").substr(0, 5), "irem,") << "the first one goes on";
+  Program beside({"--link", folder_.Path("port2")});
+  EXPECT_EQ(beside.ReadyLine().substr(0, 15), "keld-sim: ready") << "another path is free";
+}
+
+TEST_F(ProgramTest, TheLinkOfATesterThatWasKilledIsReplaced) {
+  Program first({"--link", link_});
+  first.ReadyLine();
+  kill(first.Id(), SIGKILL);
+  first.Wait();
+  ASSERT_TRUE(Stands(link_)) << "nobody took it away";
+  Program second({"--link", link_});
+  EXPECT_EQ(second.ReadyLine().substr(0, 15), "keld-sim: ready");
+  Client client(link_);
+  EXPECT_EQ(client.Ask("IREM\r\n").substr(0, 5), "irem,");
+}
+
+TEST_F(ProgramTest, WhoIsUnpluggedKeepsTheRightToItsLink) {
+  Program first({"--link", link_, "--faults", folder_.Write("f", "at IREM 1 unplug 600000\n")});
+  first.ReadyLine();
+  Client client(link_);
+  client.Say("IREM\r\n");
+  first.ReadyLine();
+  ASSERT_FALSE(Stands(link_));
+  Program second({"--link", link_});
+  EXPECT_EQ(second.Wait(), 3) << second.Complaint();
+}
+
 TEST_F(ProgramTest, RandomFaultsArePrintedSoThatTheyCanBeHadAgain) {
   Program program({"--link", link_, "--fault-seed", "3", "--fault-rate", "1"});
   EXPECT_NE(program.ReadyLine().find(", --fault-seed 3 --fault-rate 1\n"), std::string::npos);
