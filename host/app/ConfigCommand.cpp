@@ -4,6 +4,7 @@
 
 #include "OrvikTypeLib/IConfigData.h"
 #include "host/app/InputError.h"
+#include "host/app/NumberOption.h"
 #include "host/document/Document.h"
 #include "host/run/SavedSettings.h"
 #include "host/services/Tr.h"
@@ -27,11 +28,13 @@ SavedSettings SettingsOf(const orvik::IConfigData& configuration) {
 CLI::App* ConfigCommand::Declare(CLI::App& program) {
   auto* command = program.add_subcommand("config", Tr("Show or change the settings of an element"));
   command->add_option("FILE", file_, Tr("The document"))->required();
-  command->add_option("--element", element_, Tr("Identifier of the element"))->required()->type_name("ID");
-  command
-      ->add_option("--options", settings_,
+  WholeNumbers(command->add_option("--element", element_, Tr("Identifier of the element")))
+      ->required()
+      ->type_name("ID");
+  WholeNumbers(command->add_option(
+                   "--options", settings_,
                    Tr("Sum of: 1 \"not applicable\" is offered, 2 \"skip\" is offered, 4 to 2048 leads 1 to "
-                      "10, 4096 all leads"))
+                      "10, 4096 all leads")))
       ->type_name("N");
   command
       ->add_option("--filter", filter_,

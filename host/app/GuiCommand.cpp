@@ -1,6 +1,7 @@
 #include "host/app/GuiCommand.h"
 
 #include "host/app/ProgramFiles.h"
+#include "host/app/TesterOptions.h"
 #include "host/services/Tr.h"
 
 namespace bench {
@@ -9,10 +10,7 @@ CLI::App* GuiCommand::Declare(CLI::App& program) {
   auto* command =
       program.add_subcommand("gui", Tr("Open the window: plan, run and report tests on the screen"));
   command->add_option("FILE", options_.file, Tr("The document to open"));
-  command
-      ->add_option("--time-scale", options_.timeScale,
-                   Tr("Divide every pause and time-out; for simulated testers only"))
-      ->type_name("X");
+  DeclareTimeScale(*command, options_.timeScale);
   command->footer(
       Tr("Examples:\n"
          "  orvik-bench gui\n"

@@ -6,6 +6,7 @@
 #include "OrvikTypeLib/HostError.h"
 #include "host/app/DocumentView.h"
 #include "host/app/InputError.h"
+#include "host/app/NumberOption.h"
 #include "host/app/ProgramFiles.h"
 #include "host/app/SetOfLimits.h"
 #include "host/app/help/Examples.h"
@@ -20,7 +21,7 @@ namespace bench {
 CLI::App* LimitCommand::Declare(CLI::App& program) {
   auto* command = program.add_subcommand("limit", Tr("Give elements of a document limits of a standard"));
   command->add_option("FILE", file_, Tr("The document"))->required();
-  command->add_option("--element", element_, Tr("Identifier of the element"))->type_name("ID");
+  WholeNumbers(command->add_option("--element", element_, Tr("Identifier of the element")))->type_name("ID");
   auto* from = command->add_option("--from", set_,
                                    Tr("Take the limits of all elements from this set; \"standards\" lists "
                                       "the sets. With --element, of that element and all below it"));

@@ -4,6 +4,7 @@
 
 #include "host/app/DocumentText.h"
 #include "host/app/InputError.h"
+#include "host/app/NumberOption.h"
 #include "host/app/TextColumns.h"
 #include "host/document/Document.h"
 #include "host/elements/ElementFactory.h"
@@ -17,7 +18,7 @@ CLI::App* NewCommand::Declare(CLI::App& program) {
   auto* command =
       program.add_subcommand("new", Tr("Make a test document and print the identifiers of its elements"));
   command->add_option("FILE", file_, Tr("The document to make, such as pump-7.orvik"))->required();
-  command->add_option("--add", tests_, Tr("Tests of the catalogue, in the order of testing"))
+  WholeNumbers(command->add_option("--add", tests_, Tr("Tests of the catalogue, in the order of testing")))
       ->required()
       ->type_name("TESTID");
   command->add_option("--asset", asset_, Tr("Asset number of the equipment under test"));

@@ -1,5 +1,8 @@
 #include "host/app/TesterConnection.h"
 
+#include <charconv>
+#include <system_error>
+
 #include "OrvikTypeLib/HostError.h"
 #include "host/app/InputError.h"
 #include "host/app/TextColumns.h"
@@ -44,9 +47,15 @@ std::string TimeScaleRemark(double timeScale) {
             {ShortNumber(timeScale)});
 }
 
-void RequireTimeScale(double timeScale) {
-  if (!(timeScale >= kLowestTimeScale && timeScale <= kHighestTimeScale))
-    throw InputError(Tr("--time-scale %%1: give a number from 0.001 to 1000000", {ShortNumber(timeScale)}));
+void RequireTimeScale(double timeScale) { RequireTimeScale(ShortNumber(timeScale)); }
+
+void RequireTimeScale(const std::string& typed) {
+  double number = 0;
+  const auto* const end = typed.data() + typed.size();
+  const auto read = std::from_chars(typed.data(), end, number);
+  const bool whole = read.ec == std::errc() && read.ptr == end;
+  if (!whole || !(number >= kLowestTimeScale && number <= kHighestTimeScale))
+    throw InputError(Tr("--time-scale %%1: give a number from 0.001 to 1000000", {typed}));
 }
 
 }  // namespace bench

@@ -31,7 +31,9 @@ class TesterConnection {
 /// wall's.
 std::string TimeScaleRemark(double timeScale);
 
-/// The time scale as it was given. `InputError` unless it lies from 0.001 to 1,000,000.
+/// The time scale as it was given, or as it was typed. `InputError` unless it is a number from 0.001 to
+/// 1,000,000.
 void RequireTimeScale(double timeScale);
+void RequireTimeScale(const std::string& typed);
 
 }  // namespace bench

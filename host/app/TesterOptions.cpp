@@ -5,6 +5,17 @@
 
 namespace bench {
 
+void DeclareTimeScale(CLI::App& command, double& timeScale) {
+  command
+      .add_option("--time-scale", timeScale,
+                  Tr("Divide every pause and time-out; for simulated testers only"))
+      ->type_name("X")
+      ->check([](const std::string& typed) {
+        RequireTimeScale(typed);
+        return std::string();
+      });
+}
+
 void TesterOptions::Declare(CLI::App& command) {
   command.add_option("--port", choice_.port, Tr("Serial device of the tester, such as /dev/ttyUSB0"))
       ->type_name("DEVICE");
@@ -14,10 +25,7 @@ void TesterOptions::Declare(CLI::App& command) {
                                  "built-in one or a file)"))
                   ->expected(0, 1)
                   ->type_name("[PROFILE]");
-  command
-      .add_option("--time-scale", choice_.timeScale,
-                  Tr("Divide every pause and time-out; for simulated testers only"))
-      ->type_name("X");
+  DeclareTimeScale(command, choice_.timeScale);
 }
 
 void TesterOptions::Check() const {
@@ -26,7 +34,6 @@ void TesterOptions::Check() const {
     throw InputError(
         Tr("name the tester's serial device with --port, or have one simulated with --simulate; one of the "
            "two"));
-  RequireTimeScale(choice_.timeScale);
 }
 
 void TesterOptions::Connect(PortManager& ports) {

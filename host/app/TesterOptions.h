@@ -8,6 +8,9 @@
 
 namespace bench {
 
+/// Declares --time-scale. What it is given is checked as by `RequireTimeScale`.
+void DeclareTimeScale(CLI::App& command, double& timeScale);
+
 /// The options that say which tester to use: --port, --simulate, --time-scale.
 class TesterOptions {
  public:

@@ -90,6 +90,12 @@ TEST_F(DocumentCommandsTest, NothingPassesAgainstItsOwnData) {
   }
 }
 
+TEST_F(DocumentCommandsTest, NumbersWithLeadingZerosAreDecimal) {
+  const auto made = Bench({"new", Path("z.orvik"), "--add", "0410", "910"});
+  EXPECT_EQ(made.status, 0) << made.error;
+  EXPECT_NE(made.out.find(" 410 "), std::string::npos) << made.out;
+}
+
 TEST_F(DocumentCommandsTest, NewNeverOverwrites) {
   Write("a.orvik", "mine");
   const auto refused = Bench({"new", Path("a.orvik"), "--add", "210"});

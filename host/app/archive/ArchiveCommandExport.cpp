@@ -1,7 +1,9 @@
 #include "host/app/archive/ArchiveCommandExport.h"
 
 #include <iostream>
+#include <limits>
 
+#include "host/app/NumberOption.h"
 #include "host/app/archive/ArchiveCommandOpen.h"
 #include "host/document/DocumentFile.h"
 #include "host/services/Tr.h"
@@ -10,7 +12,9 @@ namespace bench {
 
 CLI::App* ArchiveCommandExport::Declare(CLI::App& archive) {
   auto* command = archive.add_subcommand("export", Tr("Write a document of the archive as the file it was"));
-  command->add_option("ID", id_, Tr("Its number, as \"archive list\" shows it"))->required();
+  WholeNumbers(command->add_option("ID", id_, Tr("Its number, as \"archive list\" shows it")),
+               std::numeric_limits<std::int64_t>::max())
+      ->required();
   command->add_option("--to", to_, Tr("The file to write, which must not exist yet"))
       ->required()
       ->type_name("FILE");

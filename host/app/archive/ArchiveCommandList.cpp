@@ -4,6 +4,7 @@
 
 #include "host/app/DocumentJson.h"
 #include "host/app/InputError.h"
+#include "host/app/NumberOption.h"
 #include "host/app/TextColumns.h"
 #include "host/app/archive/ArchiveCommandJson.h"
 #include "host/app/archive/ArchiveCommandOpen.h"
@@ -44,7 +45,7 @@ CLI::App* ArchiveCommandList::Declare(CLI::App& archive) {
       ->type_name("DATE");
   command->add_option("--outcome", outcome_, Tr("Those that ended so: passed, failed or incomplete"))
       ->type_name("passed|failed|incomplete");
-  limitOption_ = command->add_option("--limit", limit_, Tr("Only so many"));
+  limitOption_ = WholeNumbers(command->add_option("--limit", limit_, Tr("Only so many")));
   limitOption_->type_name("N");
   command->add_flag("--json", json_, Tr("Print one JSON object"));
   return command;

@@ -1,9 +1,11 @@
 #include "host/app/archive/ArchiveCommandShow.h"
 
 #include <iostream>
+#include <limits>
 
 #include "host/app/DocumentJson.h"
 #include "host/app/DocumentText.h"
+#include "host/app/NumberOption.h"
 #include "host/app/archive/ArchiveCommandJson.h"
 #include "host/app/archive/ArchiveCommandOpen.h"
 #include "host/report/VisibleText.h"
@@ -37,7 +39,9 @@ std::string HeadOf(const ArchiveEntry& entry) {
 
 CLI::App* ArchiveCommandShow::Declare(CLI::App& archive) {
   auto* command = archive.add_subcommand("show", Tr("Print a document of the archive and its results"));
-  command->add_option("ID", id_, Tr("Its number, as \"archive list\" shows it"))->required();
+  WholeNumbers(command->add_option("ID", id_, Tr("Its number, as \"archive list\" shows it")),
+               std::numeric_limits<std::int64_t>::max())
+      ->required();
   command->add_flag("--json", json_, Tr("Print one JSON object"));
   return command;
 }

@@ -5,6 +5,7 @@
 
 #include "host/app/DocumentJson.h"
 #include "host/app/InputError.h"
+#include "host/app/NumberOption.h"
 #include "host/app/TextColumns.h"
 #include "host/app/archive/ArchiveCommandJson.h"
 #include "host/app/archive/ArchiveCommandOpen.h"
@@ -52,7 +53,8 @@ CLI::App* ArchiveCommandTrend::Declare(CLI::App& archive) {
   auto* command =
       archive.add_subcommand("trend", Tr("Tell how the readings of a test went over time, and draw them"));
   command->add_option("--asset", asset_, Tr("The asset"))->required();
-  command->add_option("--test", test_, Tr("The test, such as 410; \"orvik-bench tests\" lists them"))
+  WholeNumbers(
+      command->add_option("--test", test_, Tr("The test, such as 410; \"orvik-bench tests\" lists them")))
       ->required()
       ->type_name("TESTID");
   command->add_option("--to", to_, Tr("The picture to write (.svg)"))->type_name("OUT.svg");

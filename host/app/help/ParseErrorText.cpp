@@ -18,7 +18,7 @@ struct Form {
 };
 
 /// The parser hands out ready sentences alone; these are the ones it knows. Of one kind, the first that fits.
-constexpr std::array<Form, 15> kForms{
+constexpr std::array<Form, 14> kForms{
     {{CLI::ExitCodes::RequiredError, Marked("A subcommand is required")},
      {CLI::ExitCodes::RequiredError, Marked("%%1 is required")},
      {CLI::ExitCodes::ArgumentMismatch, Marked("Expected exactly %%1 arguments to %%2, got %%3")},
@@ -27,7 +27,6 @@ constexpr std::array<Form, 15> kForms{
      {CLI::ExitCodes::ArgumentMismatch, Marked("%%1: At Most %%2 required but received %%3")},
      {CLI::ExitCodes::ArgumentMismatch, Marked("%%1 was given a disallowed flag override")},
      {CLI::ExitCodes::ArgumentMismatch, Marked("%%1: %%2 required %%3 missing")},
-     {CLI::ExitCodes::ConversionError, Marked("Could not convert: %%1 = %%2")},
      {CLI::ExitCodes::ConversionError, Marked("The value %%1 is not an allowed value for %%2")},
      {CLI::ExitCodes::ConversionError, Marked("%%1: too many inputs for a flag")},
      {CLI::ExitCodes::ConversionError, Marked("%%1: Should be true/false or a number")},

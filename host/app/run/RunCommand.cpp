@@ -9,6 +9,7 @@
 #include "host/app/DocumentJson.h"
 #include "host/app/DocumentText.h"
 #include "host/app/InputError.h"
+#include "host/app/NumberOption.h"
 #include "host/app/UnsavedChanges.h"
 #include "host/app/run/EventLines.h"
 #include "host/app/run/ProgressLines.h"
@@ -35,7 +36,8 @@ CLI::App* RunCommand::Declare(CLI::App& program) {
   auto* command = program.add_subcommand("run", Tr("Run the tests of a document on the tester"));
   command->add_option("FILE", options_.file, Tr("The document"))->required();
   options_.tester.Declare(*command);
-  command->add_option("--element", options_.elements, Tr("Run this element; may be given again"))
+  WholeNumbers(
+      command->add_option("--element", options_.elements, Tr("Run this element; may be given again")))
       ->allow_extra_args(false)
       ->type_name("ID");
   command->add_option("--standard", options_.standards, Tr("Judge by this standard; may be given again"))

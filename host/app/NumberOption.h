@@ -1,0 +1,16 @@
+#pragma once
+
+#include <CLI/CLI.hpp>
+#include <cstdint>
+#include <limits>
+
+namespace bench {
+
+/// Has an option or argument take whole numbers alone, in decimal digits: "010" is ten. Anything else is told
+/// by `InputError` with the option's name, the text, and what to write instead.
+/// @param highest of the numbers, and with a minus sign the lowest
+/// @returns the option
+CLI::Option* WholeNumbers(CLI::Option* option,
+                          std::int64_t highest = std::numeric_limits<std::int32_t>::max());
+
+}  // namespace bench
