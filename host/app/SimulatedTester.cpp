@@ -4,11 +4,14 @@
 #include <poll.h>
 #include <sys/prctl.h>
 #include <sys/wait.h>
+#include <unistd.h>
 
 #include <cerrno>
 #include <chrono>
 #include <csignal>
-#include <cstdlib>
+#include <filesystem>
+#include <random>
+#include <sstream>
 #include <system_error>
 #include <vector>
 
@@ -24,13 +27,18 @@ namespace {
 constexpr std::chrono::seconds kPatience{10};
 constexpr char kReady[] = "keld-sim: ready";
 
-std::filesystem::path NewFolder() {
+/// A path that nobody can guess, for a link that keld-sim makes and removes.
+std::string NewLink() {
   std::error_code none;
-  auto pattern = (std::filesystem::temp_directory_path(none) / "orvik-bench-XXXXXX").string();
-  if (none || !mkdtemp(pattern.data()))
+  const auto folder = std::filesystem::temp_directory_path(none);
+  if (none || access(folder.c_str(), W_OK | X_OK) != 0)
     throw IncompleteError(
-        Tr("--simulate: no temporary folder can be made; set TMPDIR to one that you may write to"));
-  return pattern;
+        Tr("--simulate: nothing can be put into the temporary folder; set TMPDIR to one that you may write "
+           "to"));
+  std::random_device random;
+  std::ostringstream name;
+  name << "orvik-bench-" << std::hex << random() << random();
+  return (folder / name.str()).string();
 }
 
 [[noreturn]] void Become(const std::vector<std::string>& command, int output, pid_t parent) {
@@ -50,7 +58,7 @@ std::filesystem::path NewFolder() {
 
 }  // namespace
 
-SimulatedTester::SimulatedTester(const std::string& profile, double timeScale) : folder_(NewFolder()) {
+SimulatedTester::SimulatedTester(const std::string& profile, double timeScale) : link_(NewLink()) {
   try {
     Start(profile, timeScale);
     AwaitReady();
@@ -107,8 +115,9 @@ void SimulatedTester::End() {
     }
     process_ = -1;
   }
+  // It stands there still when keld-sim came to grief.
   std::error_code gone;
-  std::filesystem::remove_all(folder_, gone);
+  std::filesystem::remove(link_, gone);
 }
 
 }  // namespace bench

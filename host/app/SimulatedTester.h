@@ -3,7 +3,6 @@
 #include <sys/types.h>
 
 #include <array>
-#include <filesystem>
 #include <string>
 
 #include "host/serial/UniqueFd.h"
@@ -14,7 +13,8 @@ namespace bench {
 inline constexpr std::array kSimulatedProfiles{"sound-class-1", "sound-class-2", "broken-earth", "leaky",
                                                "overloaded"};
 
-/// keld-sim on a pseudo-terminal, started and ended with this object.
+/// keld-sim on a pseudo-terminal, started and ended with this object. Nothing of it stays behind, even when
+/// this program is killed: keld-sim ends then, and takes its link with it.
 class SimulatedTester {
  public:
   /// @param profile a built-in profile or a profile file; empty for the simulator's own choice
@@ -26,14 +26,14 @@ class SimulatedTester {
   ~SimulatedTester();
 
   /// The serial device that the tester answers at.
-  std::string Device() const { return (folder_ / "tester").string(); }
+  const std::string& Device() const { return link_; }
 
  private:
   void Start(const std::string& profile, double timeScale);
   void AwaitReady();
   void End();
 
-  std::filesystem::path folder_;
+  const std::string link_;
   pid_t process_ = -1;
   UniqueFd output_;
 };

@@ -108,7 +108,7 @@ Ended Child::KilledAt(const Moment& moment) {
   bool over = moment.lines >= 0 && Read(Clock::now() + kPatience, moment.lines);
   if (moment.touches >= 0) over = over || ReadUntilTouched(moment.folders, moment.touches);
   over = over || Read(Clock::now() + moment.delay, -1);
-  if (!over) kill(process_, SIGKILL);
+  if (!over) kill(process_, moment.signal);
   return Wait();
 }
 
@@ -122,8 +122,8 @@ Ended Child::Wait() {
     if (errno != EINTR) throw std::system_error(errno, std::generic_category(), "waitpid");
   }
   process_ = -1;
-  return {WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL, WIFEXITED(status) ? WEXITSTATUS(status) : -1,
-          std::move(output_), All(error_.Get())};
+  return {WIFSIGNALED(status), WIFEXITED(status) ? WEXITSTATUS(status) : -1, std::move(output_),
+          All(error_.Get())};
 }
 
 Ended Run(std::vector<std::string> words) { return Child(std::move(words)).Finished(); }

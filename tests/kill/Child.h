@@ -3,6 +3,7 @@
 #include <sys/types.h>
 
 #include <chrono>
+#include <csignal>
 #include <string>
 #include <vector>
 
@@ -19,6 +20,8 @@ struct Moment {
   std::vector<std::string> folders = {};
   /// So long after that, or after the start.
   std::chrono::microseconds delay{0};
+  /// By this signal. One other than SIGKILL may be taken for a wish that the program ends in order.
+  int signal = SIGKILL;
 };
 
 /// What a program printed, and how it came to its end.
@@ -40,7 +43,7 @@ class Child {
   Child& operator=(const Child&) = delete;
   ~Child();
 
-  /// Reads what it prints up to the moment, kills it with SIGKILL, and reads the rest.
+  /// Reads what it prints up to the moment, kills it, and reads the rest.
   Ended KilledAt(const Moment& moment);
   /// Waits for its own end.
   Ended Finished();

@@ -3,10 +3,12 @@
 #include <algorithm>
 #include <atomic>
 #include <cstdlib>
+#include <cstring>
 #include <exception>
 #include <iostream>
 #include <mutex>
 #include <nlohmann/json.hpp>
+#include <optional>
 #include <random>
 #include <thread>
 
@@ -295,6 +297,54 @@ TEST(SimulatedTesterTest, EndsWithTheProgramThatStartedIt) {
   std::vector<std::string> names;
   ASSERT_NO_THROW(names = orphans.AwaitEnd());
   EXPECT_EQ(names, std::vector<std::string>{"keld-sim"});
+}
+
+/// The folder for what is temporary, as the programs see it, for as long as this object lives.
+class TemporaryPlace {
+ public:
+  explicit TemporaryPlace(std::string folder) : folder_(std::move(folder)) {
+    std::filesystem::create_directory(folder_);
+    if (const char* before = std::getenv("TMPDIR")) before_ = before;
+    setenv("TMPDIR", folder_.c_str(), 1);
+  }
+  TemporaryPlace(const TemporaryPlace&) = delete;
+  TemporaryPlace& operator=(const TemporaryPlace&) = delete;
+  ~TemporaryPlace() { before_ ? setenv("TMPDIR", before_->c_str(), 1) : unsetenv("TMPDIR"); }
+
+  const std::string& Folder() const { return folder_; }
+  std::vector<std::string> Left() const {
+    std::vector<std::string> names;
+    for (const auto& entry : std::filesystem::directory_iterator(folder_))
+      names.push_back(entry.path().filename());
+    return names;
+  }
+
+ private:
+  const std::string folder_;
+  std::optional<std::string> before_;
+};
+
+TEST(SimulatedTesterTest, LeavesNothingTemporaryHoweverAndWheneverTheProgramIsEnded) {
+  for (const int signal : {SIGINT, SIGTERM, SIGHUP, SIGKILL}) {
+    const Orphans orphans;
+    const FastFolder folder;
+    const Workplace place(folder.Path() / "place");
+    place.Bench({"new", "@d.orvik", "--add", "410"});
+    const TemporaryPlace temporary((folder.Path() / "tmp").string());
+    // The first thing that comes into the folder; shortly before it, maybe, and after it; during the session.
+    for (const Moment& moment : {Moment{.touches = 1, .folders = {temporary.Folder()}, .signal = signal},
+                                 Moment{.delay = std::chrono::milliseconds(10), .signal = signal},
+                                 Moment{.touches = 1,
+                                 .folders = {temporary.Folder()},
+                                 .delay = std::chrono::milliseconds(3),
+                                 .signal = signal},
+                                 Moment{.lines = 3, .signal = signal}}) {
+      Child(place.Words({"run", "@d.orvik", "--simulate", "--time-scale", "100", "--events"}))
+          .KilledAt(moment);
+      ASSERT_NO_THROW(orphans.AwaitEnd());
+      EXPECT_EQ(temporary.Left(), std::vector<std::string>{}) << strsignal(signal);
+    }
+  }
 }
 
 }  // namespace
