@@ -33,7 +33,7 @@ std::string NewLink() {
   const auto folder = std::filesystem::temp_directory_path(none);
   if (none || access(folder.c_str(), W_OK | X_OK) != 0)
     throw IncompleteError(
-        Tr("--simulate: nothing can be put into the temporary folder; set TMPDIR to one that you may write "
+        Tr("nothing can be put into the temporary folder; set TMPDIR to one that you may write "
            "to"));
   std::random_device random;
   std::ostringstream name;
@@ -75,12 +75,12 @@ void SimulatedTester::Start(const std::string& profile, double timeScale) {
                                    "--exit-with-parent",        "--time-scale", ShortNumber(timeScale)};
   if (!profile.empty()) command.insert(command.end(), {"--profile", profile});
   int ends[2];
-  if (pipe2(ends, O_CLOEXEC) != 0) throw IncompleteError(Tr("--simulate: no pipe can be made"));
+  if (pipe2(ends, O_CLOEXEC) != 0) throw IncompleteError(Tr("no pipe can be made"));
   output_ = UniqueFd(ends[0]);
   const UniqueFd theirs(ends[1]);
   const pid_t self = getpid();
   process_ = fork();
-  if (process_ < 0) throw IncompleteError(Tr("--simulate: no process can be started"));
+  if (process_ < 0) throw IncompleteError(Tr("no process can be started"));
   if (process_ == 0) Become(command, theirs.Get(), self);
 }
 
@@ -93,8 +93,7 @@ void SimulatedTester::AwaitReady() {
     pollfd readable{output_.Get(), POLLIN, 0};
     const int ready = left.count() > 0 ? poll(&readable, 1, static_cast<int>(left.count())) : 0;
     if (ready < 0 && errno == EINTR) continue;
-    if (ready <= 0)
-      throw IncompleteError(Tr("--simulate: the simulated tester is not ready after ten seconds"));
+    if (ready <= 0) throw IncompleteError(Tr("the simulated tester is not ready after ten seconds"));
     char buffer[512];
     const auto count = read(output_.Get(), buffer, sizeof buffer);
     if (count > 0) {
@@ -103,7 +102,7 @@ void SimulatedTester::AwaitReady() {
     }
     if (count < 0 && errno == EINTR) continue;
     if (said.empty()) said = Tr("%%1 cannot be started", {files::Simulator().string()});
-    throw InputError(Tr("--simulate: %%1", {said.substr(0, said.find_last_not_of('\n') + 1)}));
+    throw InputError(said.substr(0, said.find_last_not_of('\n') + 1));
   }
 }
 

@@ -18,22 +18,36 @@ constexpr char kLineSettings[] = "9600,O,8,1";
 constexpr double kLowestTimeScale = 0.001;
 constexpr double kHighestTimeScale = 1e6;
 
+std::string InField(const std::string& field, const std::exception& error) {
+  return Tr("%%1: %%2", {field, error.what()});
+}
+
 void Probe(const TesterChoice& choice) {
   try {
     const SerialDevice device(choice.port, ParseLineSettings(kLineSettings));
     if (choice.timeScale != 1.0 && !device.IsPseudoTerminal())
       throw InputError(
-          Tr("--time-scale: %%1 is a real serial line; a real tester needs its pauses whole", {choice.port}));
+          Tr("%%1 is a real serial line; a real tester needs its pauses whole, without --time-scale",
+             {choice.port}));
   } catch (const orvik::HostError& error) {
-    if (error.Number() == orvik::HostError::kPathError)
-      throw InputError(Tr("--port: %%1", {error.Description()}));
-    throw IncompleteError(Tr("--port: %%1", {error.Description()}));
+    if (error.Number() == orvik::HostError::kPathError) throw InputError(error.Description());
+    throw IncompleteError(error.Description());
   }
 }
 
 }  // namespace
 
 TesterConnection::TesterConnection(const TesterChoice& choice, PortManager& ports) {
+  try {
+    Connect(choice, ports);
+  } catch (const InputError& error) {
+    throw InputError(InField(choice.field, error));
+  } catch (const IncompleteError& error) {
+    throw IncompleteError(InField(choice.field, error));
+  }
+}
+
+void TesterConnection::Connect(const TesterChoice& choice, PortManager& ports) {
   if (choice.simulated)
     simulated_ = std::make_unique<SimulatedTester>(choice.profile, choice.timeScale);
   else

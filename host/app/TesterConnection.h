@@ -10,6 +10,7 @@ namespace bench {
 
 /// Which tester to use.
 struct TesterChoice {
+  std::string field;  ///< where it was chosen, "--port" or the name of a field: errors begin with it
   bool simulated = false;
   std::string port;        ///< serial device of a real one
   std::string profile;     ///< of a simulated one; empty for the simulator's own choice
@@ -20,10 +21,12 @@ struct TesterChoice {
 class TesterConnection {
  public:
   /// Starts the simulated tester, or sees to it that the device can be opened. `InputError` for a device that
-  /// is not there or is none; `IncompleteError` for one that cannot be had now.
+  /// is not there or is none; `IncompleteError` for one that cannot be had now. Both name the field.
   TesterConnection(const TesterChoice& choice, PortManager& ports);
 
  private:
+  void Connect(const TesterChoice& choice, PortManager& ports);
+
   std::unique_ptr<SimulatedTester> simulated_;
 };
 

@@ -38,6 +38,7 @@ void TesterOptions::Check() const {
 
 void TesterOptions::Connect(PortManager& ports) {
   choice_.simulated = simulate_->count() > 0;
+  choice_.field = choice_.simulated ? "--simulate" : "--port";
   connection_ = std::make_unique<TesterConnection>(choice_, ports);
 }
 

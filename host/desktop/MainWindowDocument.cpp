@@ -122,7 +122,7 @@ void MainWindow::SetUp() {
   const auto configuration = desk_.TheDocument().Find(*id)->Configuration();
   const auto dialog = configuration ? configuration->CreateDialog() : nullptr;
   const auto window = orvik::As<orvik::IDialogForm>(dialog);
-  if (!window) throw InputError(Tr("--element %%1: it has no settings", {std::to_string(*id)}));
+  if (!window) throw InputError(Tr("Element %%1 has no settings.", {std::to_string(*id)}));
   {
     const WhileOpen open(dialog_, window->Form().get());
     UpdateActions();

@@ -57,6 +57,7 @@ int TesterBox::FirstSimulated() const { return findData(QString(kSimulatedProfil
 
 TesterChoice TesterBox::Choice() const {
   TesterChoice choice;
+  choice.field = Tr("Tester");
   choice.timeScale = timeScale_;
   const int known = findText(currentText());
   if (known >= 0 && itemData(known).isValid()) {

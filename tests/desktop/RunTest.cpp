@@ -179,7 +179,7 @@ TEST_F(RunTest, ATesterThatIsNotThereIsNamed) {
   Open({"410"}, "sound-class-1");
   const auto before = Contents(file_);
   ChooseTester("/dev/no-such-tester");
-  Drive({Press("run"), Answer("message", "Close", "/dev/no-such-tester"), Idle()});
+  Drive({Press("run"), Answer("message", "Close", "Tester: serial device /dev/no-such-tester"), Idle()});
   EXPECT_EQ(Cell(1, kResult), "not tested");
   EXPECT_EQ(Contents(file_), before);
   EXPECT_FALSE(Changed());

@@ -51,8 +51,6 @@ bool MayBeTheSame(const std::string& language, const std::string& text) {
                                                  "Firmware",
                                                  "%%1 - %%2",
                                                  "calibrate: %%1",
-                                                 "--port: %%1",
-                                                 "--simulate: %%1",
                                                  "--low, --high, --unit: %%1"};
   static const std::map<std::string, std::set<std::string>> kSome{
       {"de", {"Element", "Status", "Revision", "System", "Version"}},
