@@ -1,8 +1,5 @@
 #include "host/document/ElementsCheck.h"
 
-#include "OrvikTypeLib/As.h"
-#include "OrvikTypeLib/ILimitData.h"
-#include "OrvikTypeLib/ITestContainer.h"
 #include "host/document/Findings.h"
 #include "host/document/KnownParts.h"
 #include "host/document/StandardsCheck.h"
@@ -11,7 +8,6 @@
 #include "host/services/Text.h"
 #include "host/services/Tr.h"
 #include "host/services/XmlNode.h"
-#include "host/standards/ElementLimits.h"
 
 namespace bench {
 namespace {
@@ -51,7 +47,7 @@ void ElementsCheck::Look(pugi::xml_node elements, bool cut) {
 void ElementsCheck::LookAt(pugi::xml_node element, pugi::xml_node top) {
   CheckIdentifier(element);
   CheckPlace(element, top);
-  const auto& kind = KindOf(element);
+  const auto kind = KindOf(element);
   if (!kind.fault.empty()) {
     const auto result = !kind.readable && element.child(tags::kResultItem)
                             ? Tr("; nobody can read its result")
@@ -82,7 +78,7 @@ void ElementsCheck::CheckIdentifier(pugi::xml_node element) {
 void ElementsCheck::CheckPlace(pugi::xml_node element, pugi::xml_node top) {
   const auto parent = element.parent();
   if (parent == top) return;
-  const auto& kind = KindOf(parent);
+  const auto kind = KindOf(parent);
   if (kind.readable && !kind.sequence)
     findings_.Wrong(element, Tr("element %%1 stands below element %%2, which is no sequence; it is never run",
                                 {IdentifierOf(element), IdentifierOf(parent)}));
@@ -152,41 +148,15 @@ void ElementsCheck::CheckStatus(pugi::xml_node holder) {
                        {text}));
 }
 
-const ElementsCheck::Kind& ElementsCheck::KindOf(pugi::xml_node element) {
-  const std::string plugIn = element.attribute(tags::kPlugInID).value();
+TestKind ElementsCheck::KindOf(pugi::xml_node element) {
   const std::string test = element.attribute(tags::kTestID).value();
-  const std::string classId = element.attribute(tags::kClass).value();
-  const auto [known, added] = kinds_.try_emplace({plugIn, test, classId});
-  if (!added) return known->second;
   if (const auto number = WholeNumber(test))
-    known->second = Learned({plugIn, *number, classId});
-  else
-    known->second.fault = test.empty() ? Tr("it names no test of the catalogue (\"TestID\")")
-                                       : Tr("the test \"%%1\" is no whole number", {test});
-  return known->second;
-}
-
-ElementsCheck::Kind ElementsCheck::Learned(const ElementFactory::Identity& identity) const {
-  Kind kind;
-  const auto plugIn = factory_.PlugIn(identity.plugInId);
-  const auto entry = plugIn ? plugIn->CreateTest(identity.testId) : nullptr;
-  const bool inCatalogue = entry && entry->TestID() == identity.testId;
-  const auto ofClass = orvik::As<orvik::ITestElement>(factory_.CreateObject(identity.classId));
-  const auto& shown = inCatalogue ? entry : ofClass;
-  kind.readable = ofClass || (inCatalogue && identity.classId.empty());
-  kind.sequence = orvik::As<orvik::ITestContainer>(identity.classId.empty() ? shown : ofClass) != nullptr;
-  if (!plugIn)
-    kind.fault = Tr("its plug-in \"%%1\" is not there", {identity.plugInId});
-  else if (!kind.readable)
-    kind.fault = Tr("its class \"%%1\" is not known", {identity.classId});
-  else if (!inCatalogue)
-    kind.fault = Tr("the catalogue has no test %%1", {std::to_string(identity.testId)});
-  else if (ofClass && LowerAscii(entry->ClassID()) != LowerAscii(ofClass->ClassID()))
-    kind.fault = Tr("it is of the class \"%%1\", the catalogue's test %%2 of \"%%3\"",
-                    {identity.classId, std::to_string(identity.testId), entry->ClassID()});
-  else if (const auto limits = entry->Limits())
-    kind.unit = RecordedUnit(*limits);
-  return kind;
+    return kinds_.Of(element.attribute(tags::kPlugInID).value(), *number,
+                     element.attribute(tags::kClass).value());
+  TestKind none;
+  none.fault = test.empty() ? Tr("it names no test of the catalogue (\"TestID\")")
+                            : Tr("the test \"%%1\" is no whole number", {test});
+  return none;
 }
 
 }  // namespace bench

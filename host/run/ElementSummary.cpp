@@ -12,6 +12,7 @@
 #include "OrvikTypeLib/IServiceRecord.h"
 #include "OrvikTypeLib/IStandard.h"
 #include "OrvikTypeLib/ITestContainer.h"
+#include "host/elements/TestKinds.h"
 #include "host/run/ElementDoubts.h"
 #include "host/run/ElementText.h"
 #include "host/run/ElementWalk.h"
@@ -81,6 +82,14 @@ void DoubtOwnData(const orvik::ITestElement& element, const std::shared_ptr<orvi
   if (!doubt.empty()) summary.doubts.push_back(std::move(doubt));
 }
 
+/// What speaks against a result that would count: it belongs to no test of the catalogue, so that nobody
+/// knows what it says.
+void DoubtTest(const orvik::ITestElement& element, TestKinds& kinds, ElementSummary& summary) {
+  if (!summary.CountsAsDone()) return;
+  const auto& fault = kinds.Of(element.PlugInID(), element.TestID(), element.ClassID()).fault;
+  if (!fault.empty()) summary.doubts.push_back(fault);
+}
+
 bool HasBounds(const orvik::IStandard& standard) {
   for (std::int32_t i = 1; i <= standard.LimitCount(); ++i) {
     const auto limit = standard.Limit(i);
@@ -101,7 +110,7 @@ bool HasLimits(const orvik::ITestElement& element, const orvik::IStandardColl& s
 }
 
 ElementSummary SummaryOf(const std::shared_ptr<orvik::ITestElement>& element, const ElementFactory& factory,
-                         const std::shared_ptr<orvik::IStandardColl>& standards) {
+                         const std::shared_ptr<orvik::IStandardColl>& standards, TestKinds& kinds) {
   ElementSummary summary;
   summary.id = element->ID();
   if (const auto parent = element->Parent()) summary.parent = parent->ID();
@@ -125,6 +134,7 @@ ElementSummary SummaryOf(const std::shared_ptr<orvik::ITestElement>& element, co
                            standards && !HasLimits(*element, *standards);
   }
   DoubtOwnData(*element, measurement, standards, summary);
+  DoubtTest(*element, kinds, summary);
   return summary;
 }
 
@@ -174,9 +184,10 @@ std::vector<ElementSummary> Summarise(const std::vector<std::shared_ptr<orvik::I
                                       const ElementFactory& factory,
                                       const std::shared_ptr<orvik::IStandardColl>& standards) {
   std::vector<ElementSummary> summaries;
+  TestKinds kinds(factory);
   for (const auto& top : elements) {
     WalkElements(top, [&](const std::shared_ptr<orvik::ITestElement>& element) {
-      summaries.push_back(SummaryOf(element, factory, standards));
+      summaries.push_back(SummaryOf(element, factory, standards, kinds));
     });
   }
   return summaries;

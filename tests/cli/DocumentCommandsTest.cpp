@@ -79,7 +79,10 @@ TEST_F(DocumentCommandsTest, NothingPassesAgainstItsOwnData) {
         Change{"<Value>123</Value>", "<Value>12.3.4</Value>", "is no number"},
         Change{"<Value>123</Value>", "<Value></Value>", "the saved reading is empty"},
         Change{"<Value>123</Value>", "", "the saved reading is empty"},
-        Change{"<Measurement>", "<Measurement Flags=\"O\">", "OL"}}) {
+        Change{"<Measurement>", "<Measurement Flags=\"O\">", "OL"},
+        Change{"TestID=\"410\"", "TestID=\"411\"", "the catalogue has no test 411"},
+        Change{"TestID=\"410\"", "TestID=\"400\"", "it is of the class"},
+        Change{"PlugInID=\"[^\"]*\"", "PlugInID=\"other\"", R"(its plug-in \"other\" is not there)"}}) {
     SCOPED_TRACE(from);
     const auto changed = std::regex_replace(text, std::regex(from), to);
     ASSERT_NE(changed, text);
@@ -87,6 +90,29 @@ TEST_F(DocumentCommandsTest, NothingPassesAgainstItsOwnData) {
     const auto shown = Show(file);
     EXPECT_EQ(shown["outcome"], "incomplete");
     EXPECT_NE(shown["elements"][0]["doubts"].dump().find(doubt), std::string::npos) << shown["elements"][0];
+  }
+}
+
+TEST_F(DocumentCommandsTest, WhatTheCatalogueDoesNotKnowCountsForNothingAnywhere) {
+  const auto file = NewDocument({"1220"});
+  ASSERT_EQ(Bench(Simulated(file, "sound-class-1")).status, 0);
+  const auto passed = Contents(file);
+  for (const char* status : {"1", "3"}) {
+    auto text = std::regex_replace(passed, std::regex("TestID=\"1220\""), "TestID=\"1221\"");
+    text = std::regex_replace(text, std::regex("<Status>1</Status>"),
+                              "<Status>" + std::string(status) + "</Status>");
+    Write("d.orvik", text);
+    const auto checked = Bench({"check", file});
+    EXPECT_NE(checked.out.find("element 1: the catalogue has no test 1221"), std::string::npos)
+        << checked.out;
+    EXPECT_EQ(Show(file)["outcome"], "incomplete");
+    EXPECT_EQ(Show(file)["elements"][0]["doubts"], nlohmann::json{"the catalogue has no test 1221"});
+    const auto told = Bench({"show", file});
+    EXPECT_NE(told.out.find("doubtful"), std::string::npos) << told.out;
+    EXPECT_NE(told.out.find("the catalogue has no test 1221"), std::string::npos) << told.out;
+    std::filesystem::remove(Path("d.txt"));
+    ASSERT_EQ(Bench({"report", file, "--to", Path("d.txt")}).status, 0);
+    EXPECT_NE(Contents(Path("d.txt")).find("the catalogue has no test 1221"), std::string::npos);
   }
 }
 

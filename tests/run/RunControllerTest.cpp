@@ -6,6 +6,7 @@
 #include "OrvikTypeLib/IStandard.h"
 #include "OrvikTypeLib/ITestContainer.h"
 #include "OrvikTypeLib/ITestEnumerator.h"
+#include "host/elements/ElementFactory.h"
 #include "host/instruments/InstrumentColl.h"
 #include "host/run/AutoOperator.h"
 #include "host/run/DocumentRunner.h"
@@ -21,6 +22,8 @@ using Elements = std::vector<std::shared_ptr<orvik::ITestElement>>;
 
 class RunControllerTest : public testing::Test {
  protected:
+  RunControllerTest() { bench_.Host().Elements()->AddPlugIn(bench_.PlugIn()); }
+
   std::shared_ptr<orvik::ITestElement> Element(std::int32_t testId, std::int32_t id) {
     auto element = bench_.CreateTest(testId);
     element->SetID(id);

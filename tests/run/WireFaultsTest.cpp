@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "OrvikTypeLib/IInstrumentColl.h"
+#include "host/elements/ElementFactory.h"
 #include "host/instruments/InstrumentColl.h"
 #include "host/run/AutoOperator.h"
 #include "host/run/DocumentRunner.h"
@@ -26,6 +27,7 @@ std::ostream& operator<<(std::ostream& out, const Fault& fault) {
 class WireFaultsTest : public testing::TestWithParam<Fault> {
  protected:
   WireFaultsTest() {
+    bench_.Host().Elements()->AddPlugIn(bench_.PlugIn());
     for (const int id : {1, 2}) {
       elements_.push_back(bench_.CreateTest(410));
       elements_.back()->SetID(id);
