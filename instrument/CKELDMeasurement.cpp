@@ -86,20 +86,14 @@ std::string CKELDMeasurement::IMeasurement_ValueFormat() const { return kFormat;
 
 void CKELDMeasurement::IMeasurement_Load(std::shared_ptr<orvik::IXmlNode> Node) {
   Attempt([&] { sFlags = Required(Node).Attribute(MXmlConstants::kFlags); });
-  std::shared_ptr<orvik::IXmlNode> Child;
-  Attempt([&] { Child = Required(Node).FirstChild(); });
-  while (Child) {
-    LoadChild(Child);
-    // A node that cannot tell its sibling ends the list.
-    std::shared_ptr<orvik::IXmlNode> Next;
-    Attempt([&] { Next = Child->NextSibling(); });
-    Child = std::move(Next);
-  }
+  // A node that cannot tell its children, or no more of them, ends the list.
+  Attempt([&] {
+    Required(Node).ForEachChild(
+        [&](const std::string& sName, const auto& Child) { LoadChild(sName, Child); });
+  });
 }
 
-void CKELDMeasurement::LoadChild(const std::shared_ptr<orvik::IXmlNode>& Child) {
-  std::string sName;
-  Attempt([&] { sName = Child->Name(); });
+void CKELDMeasurement::LoadChild(const std::string& sName, const std::shared_ptr<orvik::IXmlNode>& Child) {
   if (sName == MXmlConstants::kDescription) {
     Attempt([&] { sDescription = Child->Text(); });
   } else if (sName == MXmlConstants::kValue) {

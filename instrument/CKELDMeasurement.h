@@ -58,7 +58,7 @@ class CKELDMeasurement final : public orvik::IMeasurement {
   void IMeasurement_Load(std::shared_ptr<orvik::IXmlNode> Node) override;
   std::shared_ptr<orvik::IXmlNode> IMeasurement_Save(std::shared_ptr<orvik::IXmlNode> Parent) const override;
 
-  void LoadChild(const std::shared_ptr<orvik::IXmlNode>& Child);
+  void LoadChild(const std::string& sName, const std::shared_ptr<orvik::IXmlNode>& Child);
 
   orvik::Variant vValue;
   std::string sFlags;

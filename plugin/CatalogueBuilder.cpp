@@ -80,15 +80,14 @@ struct Fields {
 /// A later field of the same name overwrites an earlier one.
 Fields ReadFields(const IXmlNode& Entry) {
   Fields fields;
-  for (auto Child = Entry.FirstChild(); Child; Child = Child->NextSibling()) {
-    const std::string sName = Child->Name();
+  Entry.ForEachChild([&](const std::string& sName, const NodeRef& Child) {
     Attempt([&] {
       if (sName == MXmlConstants::kType) fields.sType = Child->Attribute(MXmlConstants::kLID);
       if (sName == MXmlConstants::kName) fields.sName = Child->Attribute(MXmlConstants::kLID);
       if (sName == MXmlConstants::kParameter) fields.sParameter = Child->Attribute(MXmlConstants::kLID);
       if (sName == MXmlConstants::kUnit) fields.sUnit = Child->Attribute(MXmlConstants::kLID);
     });
-  }
+  });
   return fields;
 }
 

@@ -39,16 +39,8 @@ void CKELDResultData::SetServiceRecord(std::shared_ptr<orvik::IServiceRecord> Se
 }
 
 std::string CKELDResultData::ReportPart(int iIndex) const {
-  switch (iIndex) {
-    case 1:
-      return sReportFormat;
-    case 2:
-      return sReportHeader;
-    case 3:
-      return sReportRow;
-    default:
-      return {};
-  }
+  const auto lIndex = static_cast<std::size_t>(iIndex);
+  return iIndex >= 1 && lIndex <= asReportParts.size() ? asReportParts[lIndex - 1] : std::string();
 }
 
 void CKELDResultData::Reset(std::shared_ptr<orvik::ITestElement> iteElement, std::int32_t lNewStatus) {
@@ -104,16 +96,15 @@ std::shared_ptr<orvik::IDialog> CKELDResultData::IResultData_CreateDialog() {
 void CKELDResultData::IResultData_PrintReport(std::shared_ptr<orvik::IReport> Report,
                                               std::shared_ptr<orvik::ITestElement>) {
   auto& Printer = Required(Report);
-  sReportFormat = ResultReport::Format(Printer);
-  sReportHeader = ResultReport::Header(Printer);
-  sReportRow.clear();
-  if (mMeasurement) sReportRow = Required(As<CKELDMeasurement>(mMeasurement)).ReportLine(Report);
-  if (sReportRow.empty()) return;
+  asReportParts = {ResultReport::Format(Printer), ResultReport::Header(Printer), ""};
+  if (!mMeasurement) return;
+  asReportParts.back() = Required(As<CKELDMeasurement>(mMeasurement)).ReportLine(Report);
+  if (asReportParts.back().empty()) return;
   constexpr std::int32_t kBoxColumnsAndRows = 7;
   Printer.SetTableBorder(kBoxColumnsAndRows);
   Printer.SetTableIndent(0);
   Printer.SetHeaderRows(1);
-  Printer.AddTable(sReportFormat, sReportHeader, sReportRow);
+  Printer.AddTable(asReportParts[0], asReportParts[1], asReportParts[2]);
 }
 
 }  // namespace keld

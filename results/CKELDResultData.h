@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "OrvikTypeLib/IResultData.h"
 #include "OrvikTypeLib/Variant.h"
@@ -63,16 +64,15 @@ class CKELDResultData final : public orvik::IResultData {
                                std::shared_ptr<orvik::ITestElement> iteElement) override;
 
   void ResetThis(const std::shared_ptr<orvik::ITestElement>& iteElement, std::int32_t lNewStatus);
-  void LoadChild(const std::shared_ptr<orvik::IXmlNode>& Child,
+  void LoadChild(const std::string& sName, const std::shared_ptr<orvik::IXmlNode>& Child,
                  const std::shared_ptr<orvik::IObject>& Context);
   orvik::Variant OwnValue() const;
 
   std::shared_ptr<orvik::IMeasurement> mMeasurement;
   std::int32_t lStatus = 0;
   std::int32_t lMTIIdentifier = 0;
-  std::string sReportRow;
-  std::string sReportHeader;
-  std::string sReportFormat;
+  /// Format, header and row of the table that was printed last; none before.
+  std::vector<std::string> asReportParts;
   std::string sComment;
   std::shared_ptr<orvik::IServiceRecord> mServiceRecord;
   std::weak_ptr<orvik::ITestElement> mOwner;

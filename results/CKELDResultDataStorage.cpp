@@ -33,12 +33,11 @@ void CKELDResultData::IResultData_Load(std::shared_ptr<orvik::IXmlNode> Node,
                                        std::shared_ptr<orvik::IObject> Context) {
   const std::string sIdentifier = Required(Node).Attribute(MXmlConstants::kMTI);
   if (!sIdentifier.empty()) lMTIIdentifier = orvik::RoundToInteger(orvik::LeadingNumber(sIdentifier));
-  for (auto Child = Node->FirstChild(); Child; Child = Child->NextSibling()) LoadChild(Child, Context);
+  Node->ForEachChild([&](const std::string& sName, const auto& Child) { LoadChild(sName, Child, Context); });
 }
 
-void CKELDResultData::LoadChild(const std::shared_ptr<orvik::IXmlNode>& Child,
+void CKELDResultData::LoadChild(const std::string& sName, const std::shared_ptr<orvik::IXmlNode>& Child,
                                 const std::shared_ptr<orvik::IObject>& Context) {
-  const std::string sName = Child->Name();
   if (sName == MXmlConstants::kStatus) {
     lStatus = MKELDGlobalVars::Persistence()->ReadStatus(Child);
   } else if (sName == MXmlConstants::kComment) {

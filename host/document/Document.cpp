@@ -67,7 +67,7 @@ void CheckVersion(pugi::xml_node root) {
 
 std::shared_ptr<orvik::IXmlNode> Wrapped(const std::shared_ptr<pugi::xml_document>& xml,
                                          pugi::xml_node node) {
-  return std::make_shared<XmlNode>(xml, node);
+  return XmlNode::Create(xml, node);
 }
 
 }  // namespace

@@ -148,15 +148,16 @@ void TestContainer::ClearChildren() {
 
 void TestContainer::LoadChildren(const std::shared_ptr<orvik::IXmlNode>& node) {
   const auto& saved = XmlNode::Of(node);
-  for (const auto child : saved.Raw().children(tags::kTestElement)) LoadChild(saved.Wrap(child), nullptr);
+  XmlReference reference(saved.Document());
+  for (const auto child : saved.Raw().children(tags::kTestElement)) LoadChild(reference.To(child), nullptr);
 }
 
 bool TestContainer::LoadChild(const std::shared_ptr<orvik::IXmlNode>& node,
                               const std::shared_ptr<IObject>& context) {
   const auto raw = XmlNode::Of(node).Raw();
-  auto child = Factory()->CreateForLoad({raw.attribute(tags::kPlugInID).value(),
-                                         xml::NumberAttribute(raw, tags::kTestID),
-                                         raw.attribute(tags::kClass).value()});
+  auto child = Factory()->CreateForLoad({.plugInId = raw.attribute(tags::kPlugInID).value(),
+                                         .testId = xml::NumberAttribute(raw, tags::kTestID),
+                                         .classId = raw.attribute(tags::kClass).value()});
   if (!child) child = std::make_shared<UnknownElement>(Factory());
   child->Load(node, context);
   Add(child, {}, {});

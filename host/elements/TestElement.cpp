@@ -26,7 +26,7 @@ constexpr char kElementSource[] = "OrvikTypeLib.TestElement";
 std::shared_ptr<orvik::IXmlNode> ScratchRoot(const std::string& name) {
   auto document = std::make_shared<pugi::xml_document>();
   const auto root = document->append_child(name.c_str());
-  return std::make_shared<XmlNode>(std::move(document), root);
+  return XmlNode::Create(std::move(document), root);
 }
 
 }  // namespace
@@ -74,8 +74,8 @@ void TestElement::ITestElement_Terminate() {
 }
 
 orvik::Variant TestElement::ITestElement_Info() const {
-  const auto first = information_->FirstText();
-  const auto second = information_->SecondText();
+  const auto first = Information()->FirstText();
+  const auto second = Information()->SecondText();
   return std::vector<std::string>{"::", first.empty() ? second : second + " " + first};
 }
 
@@ -108,11 +108,17 @@ void TestElement::ITestElement_PrintReport(std::shared_ptr<orvik::IReport> Repor
   report.SetTableIndent(0);
   report.SetHeaderRows(0);
   report.AddTable("<" + std::to_string(report.Metric(10)) + ";", "",
-                  "{\\b " + report.Escape(information_->DisplayName()) + "};");
+                  "{\\b " + report.Escape(Information()->DisplayName()) + "};");
   if (configuration_) configuration_->PrintReport(Report);
   if (limits_) limits_->PrintReport(Report, Shown());
   if (result_) result_->PrintReport(Report, Shown());
   PrintChildren(Report, Context);
+}
+
+// Part of the element, which lives as long as somebody holds the record.
+std::shared_ptr<orvik::IInformationRecord> TestElement::ITestElement_Information() const {
+  const auto self = std::const_pointer_cast<IObject>(shared_from_this());
+  return {self, const_cast<InformationRecord*>(&information_)};
 }
 
 void TestElement::IBaseElement_SetConfiguration(std::shared_ptr<orvik::IConfigData> Configuration) {
@@ -165,7 +171,7 @@ void TestElement::CopyIdentity(TestElement& copy) const {
   copy.id_ = id_;
   copy.testId_ = testId_;
   copy.plugInId_ = plugInId_;
-  copy.information_->CopyFrom(*information_);
+  copy.information_.CopyFrom(information_);
   if (!auxiliary_) return;
   copy.auxiliary_ = std::make_shared<AuxiliaryState>();
   copy.auxiliary_->CopyFrom(*auxiliary_);
@@ -222,12 +228,13 @@ void TestElement::LoadElement(const std::shared_ptr<orvik::IXmlNode>& node,
                               const std::shared_ptr<IObject>& context) {
   const auto& saved = XmlNode::Of(node);
   const auto raw = saved.Raw();
+  XmlReference reference(saved.Document());
   LoadIdentity(raw);
   ClearLimits();
   IBaseElement_SetResult(nullptr);
   ClearChildren();
   for (auto part = raw.first_child(); part; part = part.next_sibling()) {
-    if (!LoadPart(saved, part, context)) leftovers_.Add(part);
+    if (!LoadPart(part, reference, context)) leftovers_.Add(part);
   }
   if (result_) DoubtUnreadable(raw.child(tags::kResultItem).child(tags::kMeasurement));
 }
@@ -235,8 +242,9 @@ void TestElement::LoadElement(const std::shared_ptr<orvik::IXmlNode>& node,
 /// A saved reading that is no number is read as 0, or as the number that it begins with: it must not pass.
 void TestElement::DoubtUnreadable(pugi::xml_node measurement) {
   const auto value = xml::Text(measurement.child(tags::kValue));
+  if (!HasOneReading() || FiniteNumber(value)) return;
   const bool absent = value.empty() && xml::Text(measurement.child(tags::kUnit)).empty();
-  if (absent || !HasOneReading() || FiniteNumber(value)) return;
+  if (absent) return;
   const auto doubt = value.empty() ? Tr("the saved reading is empty")
                                    : Tr("the saved reading \"%%1\" is no number", {value});
   if (!auxiliary_) auxiliary_ = std::make_shared<AuxiliaryState>();
@@ -251,25 +259,25 @@ void TestElement::ClearLimits() {
 }
 
 /// @return false when the part is not known, or there is nothing that could hold it
-bool TestElement::LoadPart(const XmlNode& saved, pugi::xml_node part,
+bool TestElement::LoadPart(pugi::xml_node part, XmlReference& reference,
                            const std::shared_ptr<IObject>& context) {
-  const std::string_view name = part.name();
-  if (name == tags::kInformation) {
-    information_->Load(part);
-  } else if (name == tags::kAuxiliary) {
+  const auto is = [name = part.name()](const char* tag) { return xml::SameName(name, tag); };
+  if (is(tags::kInformation)) {
+    information_.Load(part);
+  } else if (is(tags::kAuxiliary)) {
     LoadAuxiliary(part);
-  } else if (name == tags::kConfiguration && configuration_) {
-    configuration_->Load(saved.Wrap(part));
+  } else if (is(tags::kConfiguration) && configuration_) {
+    configuration_->Load(reference.To(part));
     configurationLeftovers_.Take(part, {}, {tags::kPlugInData});
-  } else if (name == tags::kExpectedResult && limits_) {
-    limits_->Load(saved.Wrap(part), context);
-  } else if (name == tags::kResultItem && !outer_.expired()) {
-    Shown()->Load(saved.Wrap(part), context);
+  } else if (is(tags::kExpectedResult) && limits_) {
+    limits_->Load(reference.To(part), context);
+  } else if (is(tags::kResultItem) && !outer_.expired()) {
+    Shown()->Load(reference.To(part), context);
     // The plug-in's element ignores errors, but a result must not vanish.
     if (!result_)
       throw HostError(HostError::kInvalidArgument, kElementSource, Tr("the result could not be read"));
   } else {
-    return name == tags::kTestElement && LoadChild(saved.Wrap(part), context);
+    return is(tags::kTestElement) && LoadChild(reference.To(part), context);
   }
   return true;
 }
@@ -305,7 +313,7 @@ void TestElement::SaveTo(const std::shared_ptr<orvik::IXmlNode>& node) const {
   xml::AddAttribute(raw, tags::kPlugInID, plugInId_);
   xml::AddAttribute(raw, tags::kClass, Shown()->ClassID());
 
-  information_->Save(raw.append_child(tags::kInformation));
+  information_.Save(raw.append_child(tags::kInformation));
   const auto auxiliary = raw.append_child(tags::kAuxiliary);
   auxiliary_ ? auxiliary_->Save(auxiliary) : AuxiliaryState().Save(auxiliary);
   if (configuration_) {

@@ -12,7 +12,7 @@
 
 namespace bench {
 
-class XmlNode;
+class XmlReference;
 
 /// The standard element. Saved as
 ///
@@ -36,7 +36,7 @@ class TestElement : public orvik::IBaseElement {
   std::shared_ptr<ITestElement> Shown() const;
   /// The factory; `HostError` 91 when the host is gone.
   std::shared_ptr<ElementFactory> Factory() const;
-  InformationRecord& Texts() const { return *information_; }
+  InformationRecord& Texts() { return information_; }
 
   /// A new element of the same class.
   virtual std::shared_ptr<TestElement> NewOfSameClass() const;
@@ -77,9 +77,7 @@ class TestElement : public orvik::IBaseElement {
   std::shared_ptr<orvik::IResultData> ITestElement_Result() const override { return result_; }
   void ITestElement_PrintReport(std::shared_ptr<orvik::IReport> Report,
                                 std::shared_ptr<IObject> Context) override;
-  std::shared_ptr<orvik::IInformationRecord> ITestElement_Information() const override {
-    return information_;
-  }
+  std::shared_ptr<orvik::IInformationRecord> ITestElement_Information() const override;
   std::int32_t ITestElement_ID() const override { return id_; }
   void ITestElement_SetID(std::int32_t lID) override { id_ = lID; }
   std::shared_ptr<ITestElement> ITestElement_Parent() const override { return parent_.lock(); }
@@ -98,7 +96,7 @@ class TestElement : public orvik::IBaseElement {
   void CopyTo(TestElement& copy) const;
   std::shared_ptr<orvik::IResultData> CopyOfResult() const;
   void LoadElement(const std::shared_ptr<orvik::IXmlNode>& node, const std::shared_ptr<IObject>& context);
-  bool LoadPart(const XmlNode& saved, pugi::xml_node part, const std::shared_ptr<IObject>& context);
+  bool LoadPart(pugi::xml_node part, XmlReference& reference, const std::shared_ptr<IObject>& context);
   void LoadResult(const std::shared_ptr<orvik::IXmlNode>& node, const std::shared_ptr<IObject>& context);
   void LoadAuxiliary(pugi::xml_node node);
   void DoubtUnreadable(pugi::xml_node measurement);
@@ -117,7 +115,7 @@ class TestElement : public orvik::IBaseElement {
   std::weak_ptr<ITestElement> outer_;
   /// Under which the factory knows the outer element; it may be gone by now.
   const ITestElement* outerKey_ = nullptr;
-  std::shared_ptr<InformationRecord> information_ = std::make_shared<InformationRecord>();
+  InformationRecord information_;
   /// Created when somebody asks for it: few elements differ from the default.
   mutable std::shared_ptr<AuxiliaryState> auxiliary_;
   std::shared_ptr<orvik::IConfigData> configuration_;

@@ -30,7 +30,7 @@ std::shared_ptr<orvik::IXmlNode> UnknownElement::ITestElement_Save(
   const auto& parent = XmlNode::Of(Parent);
   auto node = parent.Raw().append_copy(saved_.document_element());
   xml::SetAttribute(node, tags::kID, std::to_string(ID()));
-  return std::make_shared<XmlNode>(parent.Document(), node);
+  return XmlNode::Create(parent.Document(), node);
 }
 
 }  // namespace bench

@@ -169,7 +169,7 @@ bool XmlDocument::IXmlDocument_LoadFromString(const std::string& sXml) {
 }
 
 std::shared_ptr<orvik::IXmlNode> XmlDocument::Wrap(pugi::xml_node node) const {
-  return node ? std::make_shared<XmlNode>(document_, node) : nullptr;
+  return node ? XmlNode::Create(document_, node) : nullptr;
 }
 
 std::shared_ptr<orvik::IXmlNode> XmlDocument::IXmlDocument_FindElement(const std::string& sName) const {

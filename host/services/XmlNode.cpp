@@ -5,6 +5,7 @@
 #include <typeinfo>
 
 #include "OrvikTypeLib/As.h"
+#include "host/services/NodeBlocks.h"
 #include "host/services/Text.h"
 #include "host/services/Tr.h"
 
@@ -66,8 +67,10 @@ pugi::xml_node NextInDocument(pugi::xml_node element, pugi::xml_node top) {
 }
 
 std::string Text(pugi::xml_node element) {
+  const auto first = element.first_child();
+  if (!first.next_sibling()) return IsText(first) ? first.value() : std::string();
   std::string text;
-  for (auto child = element.first_child(); child; child = child.next_sibling()) {
+  for (auto child = first; child; child = child.next_sibling()) {
     if (IsText(child)) text += child.value();
   }
   return text;
@@ -123,6 +126,10 @@ std::int32_t NumberIn(const char* text, pugi::xml_node element, const char* name
 
 }  // namespace xml
 
+std::shared_ptr<XmlNode> XmlNode::Create(std::shared_ptr<pugi::xml_document> document, pugi::xml_node node) {
+  return std::allocate_shared<XmlNode>(NodeBlocks<XmlNode>(), std::move(document), node);
+}
+
 const XmlNode& XmlNode::Of(const std::shared_ptr<orvik::IXmlNode>& node) {
   const auto& any = orvik::Required(node);
   // The class is final, so that its type tells.
@@ -133,7 +140,18 @@ const XmlNode& XmlNode::Of(const std::shared_ptr<orvik::IXmlNode>& node) {
 }
 
 std::shared_ptr<orvik::IXmlNode> XmlNode::Wrap(pugi::xml_node node) const {
-  return node ? std::make_shared<XmlNode>(document_, node) : nullptr;
+  return node ? Create(document_, node) : nullptr;
+}
+
+const std::shared_ptr<orvik::IXmlNode>& XmlReference::To(pugi::xml_node node) {
+  if (reference_.use_count() == 1) {
+    node_->node_ = node;
+  } else {
+    auto fresh = XmlNode::Create(document_, node);
+    node_ = fresh.get();
+    reference_ = std::move(fresh);
+  }
+  return reference_;
 }
 
 std::string XmlNode::IXmlNode_Name() const { return node_.name(); }
@@ -172,6 +190,17 @@ std::shared_ptr<orvik::IXmlNode> XmlNode::IXmlNode_FirstChild() const {
 
 std::shared_ptr<orvik::IXmlNode> XmlNode::IXmlNode_NextSibling() const {
   return Wrap(xml::NextElement(node_));
+}
+
+void XmlNode::IXmlNode_ForEachChild(const Visitor& Visit) const {
+  XmlReference reference(document_);
+  std::string name;
+  for (auto child = xml::FirstElement(node_); child;) {
+    const auto next = xml::NextElement(child);  // the visitor may move the child
+    name = child.name();
+    Visit(name, reference.To(child));
+    child = next;
+  }
 }
 
 std::shared_ptr<orvik::IXmlNode> XmlNode::IXmlNode_FindChild(const std::string& sName) const {

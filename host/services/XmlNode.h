@@ -12,8 +12,11 @@ namespace bench {
 /// One element of a document. It keeps the document alive.
 class XmlNode final : public orvik::IXmlNode {
  public:
+  /// Use `Create`.
   XmlNode(std::shared_ptr<pugi::xml_document> document, pugi::xml_node node)
       : document_(std::move(document)), node_(node) {}
+
+  static std::shared_ptr<XmlNode> Create(std::shared_ptr<pugi::xml_document> document, pugi::xml_node node);
 
   /// The node behind a reference; `HostError` 91 for an empty one and 13 for a node of another library.
   static const XmlNode& Of(const std::shared_ptr<orvik::IXmlNode>& node);
@@ -24,6 +27,8 @@ class XmlNode final : public orvik::IXmlNode {
   std::shared_ptr<IXmlNode> Wrap(pugi::xml_node node) const;
 
  private:
+  friend class XmlReference;
+
   std::string IXmlNode_Name() const override;
   void IXmlNode_SetName(const std::string& sName) override;
   std::string IXmlNode_Text() const override;
@@ -34,12 +39,28 @@ class XmlNode final : public orvik::IXmlNode {
   std::int32_t IXmlNode_ChildCount() const override;
   std::shared_ptr<IXmlNode> IXmlNode_FirstChild() const override;
   std::shared_ptr<IXmlNode> IXmlNode_NextSibling() const override;
+  void IXmlNode_ForEachChild(const Visitor& Visit) const override;
   std::shared_ptr<IXmlNode> IXmlNode_FindChild(const std::string& sName) const override;
   std::shared_ptr<IXmlNode> IXmlNode_AddChild(const std::string& sName) override;
   void IXmlNode_Append(std::shared_ptr<IXmlNode> Node) override;
 
   std::shared_ptr<pugi::xml_document> document_;
   pugi::xml_node node_;
+};
+
+/// A reference that goes from node to node of a document. Whoever keeps it keeps the node that it was given
+/// for: a new reference goes on.
+class XmlReference {
+ public:
+  explicit XmlReference(std::shared_ptr<pugi::xml_document> document) : document_(std::move(document)) {}
+
+  /// @param node must not be empty
+  const std::shared_ptr<orvik::IXmlNode>& To(pugi::xml_node node);
+
+ private:
+  std::shared_ptr<pugi::xml_document> document_;
+  std::shared_ptr<orvik::IXmlNode> reference_;
+  XmlNode* node_ = nullptr;
 };
 
 /// A fault in what a node holds, and where the node stands in the source it was read from.

@@ -40,6 +40,53 @@ TEST(XmlNode, ChildrenAreElementsOnly) {
   EXPECT_EQ(root->Text(), "textx");
 }
 
+TEST(XmlNode, GivesEachChildElementInOrder) {
+  std::string seen;
+  const auto root = Parsed("<a>text<b x='1'/><!-- c --><c x='2'/><b x='3'/></a>");
+  root->ForEachChild([&](const std::string& name, const auto& child) {
+    EXPECT_EQ(child->Name(), name);
+    seen += name + child->Attribute("x") + " ";
+  });
+  EXPECT_EQ(seen, "b1 c2 b3 ");
+  root->FindChild("b")->ForEachChild([](const auto&, const auto&) { FAIL(); });
+}
+
+TEST(XmlNode, AVisitorThatKeepsChildrenHasThemAll) {
+  std::vector<std::shared_ptr<orvik::IXmlNode>> kept;
+  Parsed("<a><b x='1'/><c x='2'/><d/><e x='4'/></a>")->ForEachChild([&](const auto& name, const auto& child) {
+    if (name != "d") kept.push_back(child);
+  });
+  ASSERT_EQ(kept.size(), 3U);
+  EXPECT_EQ(kept[0]->Attribute("x"), "1");
+  EXPECT_EQ(kept[1]->Attribute("x"), "2");
+  EXPECT_EQ(kept[2]->Attribute("x"), "4");
+}
+
+TEST(XmlNode, AVisitorMayMoveAChildAndStopByAnError) {
+  const auto root = Parsed("<a><b/><c/><d/></a>");
+  const auto last = root->AddChild("last");
+  std::string seen;
+  const auto visit = [&](const std::string& name, const auto& child) {
+    seen += name + " ";
+    if (name == "b") last->Append(child);
+    if (name == "c") throw HostError(HostError::kInvalidArgument, "test", "enough");
+  };
+  EXPECT_EQ(ErrorNumber([&] { root->ForEachChild(visit); }), HostError::kInvalidArgument);
+  EXPECT_EQ(seen, "b c ");
+  EXPECT_EQ(root->FirstChild()->Name(), "c");
+  EXPECT_TRUE(last->FindChild("b"));
+}
+
+TEST(XmlReference, StandsForTheNodeThatItWasLedTo) {
+  const auto root = Parsed("<a><b/><c/></a>");
+  const auto& raw = XmlNode::Of(root);
+  XmlReference reference(raw.Document());
+  EXPECT_EQ(reference.To(raw.Raw().child("b"))->Name(), "b");
+  const auto kept = reference.To(raw.Raw().child("c"));
+  EXPECT_EQ(reference.To(raw.Raw().child("b"))->Name(), "b");
+  EXPECT_EQ(kept->Name(), "c");
+}
+
 TEST(XmlNode, NamesAreMatchedToTheLetter) {
   const auto root = Parsed("<a><Value/><value/></a>");
   EXPECT_EQ(root->FindChild("value")->Name(), "value");

@@ -29,6 +29,10 @@ void Reading(Findings& findings) {
   findings.Equal("", first->Attribute("y"), "absent attribute");
   findings.Expect(!first->NextSibling()->NextSibling() && !first->NextSibling()->FirstChild(),
                   "the end is empty");
+  std::string visited;
+  root->ForEachChild(
+      [&](const std::string& name, const auto& child) { visited += name + child->Attribute("y") + ";"; });
+  findings.Equal("b;b2;", visited, "child elements, each in its turn");
   findings.Expect(document->FindElement("c") && !document->FindElement("C"),
                   "tags are matched to the letter");
   findings.Expect(root->FindChild("b") && !root->FindChild("c"), "only children are found among children");
