@@ -61,6 +61,9 @@ inline std::int32_t RoundToInteger(double rValue) {
 /// A number as text with at most 15 significant digits, so that 0.1 + 0.2 reads 0.3; no sign blank.
 inline std::string NumberText(double rValue) {
   if (rValue == 0) return "0";
+  // Most readings are whole numbers; as such they come to the same text, and sooner.
+  if (std::fabs(rValue) < 1e9 && rValue == std::trunc(rValue))
+    return std::to_string(static_cast<std::int32_t>(rValue));
   char acBuffer[40];
   const auto result =
       std::to_chars(acBuffer, acBuffer + sizeof acBuffer, rValue, std::chars_format::general, 15);

@@ -29,7 +29,7 @@ class CKELDElement : public orvik::ITestElement, public IKELDTest {
  public:
   /// The host's element behind this one. Setting it to empty is ignored.
   std::shared_ptr<orvik::IBaseElement> BaseElement() const { return mBaseElement; }
-  void SetBaseElement(std::shared_ptr<orvik::IBaseElement> Base);
+  virtual void SetBaseElement(std::shared_ptr<orvik::IBaseElement> Base);
 
  protected:
   CKELDElement() = default;

@@ -25,8 +25,9 @@ std::shared_ptr<CKELDSequence> CKELDSequence::Create() {
 
 std::string CKELDSequence::IObject_ClassID() const { return ClassIdentifiers::kSequence; }
 
-std::shared_ptr<orvik::ITestContainer> CKELDSequence::Children() const {
-  return As<orvik::ITestContainer>(BaseElement());
+void CKELDSequence::SetBaseElement(std::shared_ptr<orvik::IBaseElement> Base) {
+  if (Base) mChildren = As<orvik::ITestContainer>(Base);
+  CKELDElement::SetBaseElement(std::move(Base));
 }
 
 // --- ITestContainer ---
@@ -34,7 +35,7 @@ std::shared_ptr<orvik::ITestContainer> CKELDSequence::Children() const {
 void CKELDSequence::ITestContainer_Add(std::shared_ptr<orvik::ITestElement> iteElement,
                                        const orvik::Variant& vBefore, const orvik::Variant& vAfter) {
   try {
-    Required(Children()).Add(iteElement, vBefore, vAfter);
+    Required(mChildren).Add(iteElement, vBefore, vAfter);
     Required(iteElement).SetParent(SelfElement());
   } catch (const orvik::HostError& Error) {
     // The host sees no error, but an element that could not be added must not vanish without a trace.
@@ -46,28 +47,28 @@ void CKELDSequence::ITestContainer_Add(std::shared_ptr<orvik::ITestElement> iteE
 }
 
 std::int32_t CKELDSequence::ITestContainer_Count() const {
-  return AttemptValue(std::int32_t{0}, [&] { return Required(Children()).Count(); });
+  return AttemptValue(std::int32_t{0}, [&] { return Required(mChildren).Count(); });
 }
 
 std::shared_ptr<orvik::ITestElement> CKELDSequence::ITestContainer_item(std::int32_t lIndex) const {
   return AttemptValue(std::shared_ptr<orvik::ITestElement>(),
-                      [&] { return Required(Children()).item(lIndex); });
+                      [&] { return Required(mChildren).item(lIndex); });
 }
 
 std::shared_ptr<orvik::ITestElement> CKELDSequence::ITestContainer_FindElement(
     std::int32_t lIdentifier) const {
   return AttemptValue(std::shared_ptr<orvik::ITestElement>(),
-                      [&] { return Required(Children()).FindElement(lIdentifier); });
+                      [&] { return Required(mChildren).FindElement(lIdentifier); });
 }
 
 std::shared_ptr<orvik::ITestEnumerator> CKELDSequence::ITestContainer_NewEnum() const {
   return AttemptValue(std::shared_ptr<orvik::ITestEnumerator>(),
-                      [&] { return Required(Children()).NewEnum(); });
+                      [&] { return Required(mChildren).NewEnum(); });
 }
 
 void CKELDSequence::ITestContainer_Remove(std::shared_ptr<orvik::ITestElement> iteElement) {
   if (!iteElement) return;
-  Attempt([&] { Required(Children()).Remove(iteElement); });
+  Attempt([&] { Required(mChildren).Remove(iteElement); });
 }
 
 // --- ITestElement ---

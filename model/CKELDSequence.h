@@ -16,6 +16,8 @@ class CKELDSequence final : public CKELDElement, public orvik::ITestContainer {
   /// A sequence with a container element of the host, its own configuration and its own limits.
   static std::shared_ptr<CKELDSequence> Create();
 
+  void SetBaseElement(std::shared_ptr<orvik::IBaseElement> Base) override;
+
  private:
   std::string IObject_ClassID() const override;
 
@@ -38,7 +40,6 @@ class CKELDSequence final : public CKELDElement, public orvik::ITestContainer {
   /// A sequence without a result has nothing to print.
   bool Printable() const override;
 
-  std::shared_ptr<orvik::ITestContainer> Children() const;
   void RunChildren();
   /// False when no later child is to run.
   bool RunChild(const std::shared_ptr<orvik::ITestElement>& iteChild);
@@ -48,6 +49,8 @@ class CKELDSequence final : public CKELDElement, public orvik::ITestContainer {
   void ResetResult();
   void Summarise();
 
+  /// The base element as the container that it is.
+  std::shared_ptr<orvik::ITestContainer> mChildren;
   /// The child being run, or empty.
   std::shared_ptr<orvik::ITestElement> mCurrentChild;
   /// The operator has ended the present run.

@@ -55,7 +55,7 @@ void CKELDSequence::ResetResult() {
 
 void CKELDSequence::RunChildren() {
   Attempt([&] {
-    const auto Walk = Required(Children()).NewEnum();
+    const auto Walk = Required(mChildren).NewEnum();
     while (const auto iteChild = Required(Walk).Next()) {
       if (!RunChild(iteChild)) break;
     }
@@ -75,7 +75,7 @@ bool CKELDSequence::RunChild(const std::shared_ptr<orvik::ITestElement>& iteChil
 }
 
 void CKELDSequence::Summarise() {
-  const auto Summed = Children();
+  const auto Summed = mChildren;
   const std::int32_t lChildren = AttemptValue(std::int32_t{0}, [&] { return Required(Summed).Count(); });
   if (lChildren == 0) return;
   Attempt([&] { EnsureResult(); });

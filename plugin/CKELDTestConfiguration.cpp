@@ -105,9 +105,9 @@ void CKELDTestConfiguration::IConfigData_Load(std::shared_ptr<orvik::IXmlNode> N
   if (!Saved) return;
   Attempt([&] { mlOptions = WholeNumber(Saved->Attribute(MXmlConstants::kOptions)).value_or(mlOptions); });
   Attempt([&] {
-    if (Saved->HasAttribute(MXmlConstants::kValueFilter)) {
-      mlValueFilter = ConfigurationTables::ValueFilterCode(Saved->Attribute(MXmlConstants::kValueFilter));
-    }
+    const std::string sValueFilter = Saved->Attribute(MXmlConstants::kValueFilter);
+    if (!sValueFilter.empty() || Saved->HasAttribute(MXmlConstants::kValueFilter))
+      mlValueFilter = ConfigurationTables::ValueFilterCode(sValueFilter);
   });
 }
 

@@ -15,7 +15,7 @@ void ElementFactory::AddPlugIn(const std::shared_ptr<orvik::IPlugIn>& plugIn) {
   ForgetPrototypes();
 }
 
-std::shared_ptr<orvik::IPlugIn> ElementFactory::PlugIn(const std::string& id) const {
+std::shared_ptr<orvik::IPlugIn> ElementFactory::PlugIn(std::string_view id) const {
   const auto found =
       std::find_if(plugIns_.begin(), plugIns_.end(), [&](const auto& known) { return known->ID() == id; });
   return found == plugIns_.end() ? nullptr : *found;
@@ -37,26 +37,29 @@ std::shared_ptr<orvik::IObject> ElementFactory::CreateObject(const std::string& 
 
 std::shared_ptr<orvik::ITestElement> ElementFactory::CreateForLoad(const Identity& identity) {
   if (auto copy = FromCatalogue(identity)) return copy;
-  auto created = orvik::As<orvik::ITestElement>(CreateObject(identity.classId));
-  if (created) created->Initialize(identity.plugInId, 0, identity.testId);
+  auto created = orvik::As<orvik::ITestElement>(CreateObject(std::string(identity.classId)));
+  if (created) created->Initialize(std::string(identity.plugInId), 0, identity.testId);
   return created;
 }
 
 std::shared_ptr<orvik::ITestElement> ElementFactory::FromCatalogue(const Identity& identity) {
+  const auto* prototype = PrototypeOf(identity);
+  if (!prototype || !prototype->element) return nullptr;
+  const bool sameClass = identity.classId.empty() || SameApartFromCase(prototype->classId, identity.classId);
+  return sameClass ? prototype->element->Clone() : nullptr;
+}
+
+const ElementFactory::Prototype* ElementFactory::PrototypeOf(const Identity& identity) {
+  if (const auto known = prototypes_.find(identity); known != prototypes_.end()) return &known->second;
   const auto plugIn = PlugIn(identity.plugInId);
   if (!plugIn) return nullptr;
-  const auto [known, added] = prototypes_.try_emplace({identity.plugInId, identity.testId});
-  auto& prototype = known->second;
-  if (added) {
-    prototype.element = plugIn->CreateTest(identity.testId);
-    if (prototype.element) prototype.classId = prototype.element->ClassID();
-    if (const auto container = orvik::As<orvik::ITestContainer>(prototype.element)) {
-      while (container->Count() > 0) container->Remove(container->item(container->Count()));
-    }
+  auto& prototype = prototypes_[{identity.testId, std::string(identity.plugInId)}];
+  prototype.element = plugIn->CreateTest(identity.testId);
+  if (prototype.element) prototype.classId = prototype.element->ClassID();
+  if (const auto container = orvik::As<orvik::ITestContainer>(prototype.element)) {
+    while (container->Count() > 0) container->Remove(container->item(container->Count()));
   }
-  const bool sameClass = prototype.element &&
-                         (identity.classId.empty() || SameApartFromCase(prototype.classId, identity.classId));
-  return sameClass ? prototype.element->Clone() : nullptr;
+  return &prototype;
 }
 
 std::shared_ptr<orvik::IBaseElement> ElementFactory::BaseOf(

@@ -5,6 +5,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <unordered_map>
 #include <utility>
 #include <vector>
@@ -41,10 +42,10 @@ class ElementFactory {
 
   /// What a saved element tells of itself.
   struct Identity {
-    std::string plugInId;
+    std::string_view plugInId;
     std::int32_t testId = 0;
     /// Class identifier of the outermost element.
-    std::string classId;
+    std::string_view classId;
   };
 
   /// @param classes creates an object by class identifier; empty or `HostError` for an unknown one
@@ -54,7 +55,7 @@ class ElementFactory {
   void AddPlugIn(const std::shared_ptr<orvik::IPlugIn>& plugIn);
   std::vector<std::shared_ptr<orvik::IPlugIn>> PlugIns() const { return plugIns_; }
   /// The plug-in of that identifier, or empty.
-  std::shared_ptr<orvik::IPlugIn> PlugIn(const std::string& id) const;
+  std::shared_ptr<orvik::IPlugIn> PlugIn(std::string_view id) const;
   /// Lets go of all plug-ins and of everything that came from them.
   void ReleasePlugIns();
   /// The catalogue of a plug-in has changed.
@@ -78,11 +79,25 @@ class ElementFactory {
   Problems& Trouble() { return problems_; }
 
  private:
-  std::shared_ptr<orvik::ITestElement> FromCatalogue(const Identity& identity);
-
   struct Prototype {
     std::shared_ptr<orvik::ITestElement> element;
     std::string classId;
+  };
+
+  std::shared_ptr<orvik::ITestElement> FromCatalogue(const Identity& identity);
+  /// Nothing when the plug-in is not known.
+  const Prototype* PrototypeOf(const Identity& identity);
+
+  /// Which entry of which catalogue.
+  struct Entry {
+    std::int32_t testId = 0;
+    std::string plugInId;
+  };
+  struct EntryOrder {
+    using is_transparent = void;
+    bool operator()(const auto& left, const auto& right) const {
+      return left.testId != right.testId ? left.testId < right.testId : left.plugInId < right.plugInId;
+    }
   };
 
   /// Elements lie next to each other in memory, a few hundred bytes apart: so do their places in the table.
@@ -96,7 +111,7 @@ class ElementFactory {
   std::vector<std::shared_ptr<orvik::IPlugIn>> plugIns_;
   /// Childless copies of catalogue entries by plug-in and test; without an element for a test that is not in
   /// the catalogue.
-  std::map<std::pair<std::string, std::int32_t>, Prototype> prototypes_;
+  std::map<Entry, Prototype, EntryOrder> prototypes_;
   std::unordered_map<const orvik::ITestElement*, std::weak_ptr<orvik::IBaseElement>, Hash> bases_;
   Problems problems_;
 };

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <charconv>
 #include <clocale>
 #include <cstdint>
 #include <limits>
@@ -66,6 +67,19 @@ TEST(NumberText, ShowsFifteenDigitsAtMost) {
       {-2.5, "-2.5"}, {0.123, "0.123"}, {123456, "123456"}, {125, "125"}, {1000, "1000"},
   };
   for (const auto& [value, text] : table) EXPECT_EQ(NumberText(value), text);
+}
+
+TEST(NumberText, IsTheSameForWholeNumbersOfAnySize) {
+  for (const double size : {1.0, 7.0, 10.0, 123.0, 99999.0, 100000.0, 1e6, 123456789.0, 999999999.0, 1e9,
+                            1000000001.0, 2147483648.0, 1e14, 1e15}) {
+    for (const double value : {size, -size, size + 0.5, -size - 0.25}) {
+      char expected[40];
+      const auto end =
+          std::to_chars(expected, expected + sizeof expected, value, std::chars_format::general, 15).ptr;
+      EXPECT_EQ(NumberText(value), std::string(expected, end));
+    }
+  }
+  EXPECT_EQ(NumberText(-0.0), "0");
 }
 
 TEST(SignedNumberText, HasABlankForTheSign) {
