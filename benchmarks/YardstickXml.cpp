@@ -17,6 +17,12 @@ struct AttributeVisitor : pugi::xml_tree_walker {
   }
 };
 
+void Visit(pugi::xml_document& document) {
+  AttributeVisitor visitor;
+  document.traverse(visitor);
+  if (visitor.length == 0) throw std::runtime_error("the text has no attributes");
+}
+
 struct MemoryWriter : pugi::xml_writer {
   std::string text;
   void write(const void* data, std::size_t size) override {
@@ -36,9 +42,15 @@ std::unique_ptr<pugi::xml_document> Parsed(const std::string& text) {
 
 std::unique_ptr<pugi::xml_document> ParsedAndVisited(const std::string& text) {
   auto document = Parsed(text);
-  AttributeVisitor visitor;
-  document->traverse(visitor);
-  if (visitor.length == 0) throw std::runtime_error("the text has no attributes");
+  Visit(*document);
+  return document;
+}
+
+std::unique_ptr<pugi::xml_document> ReadAndVisited(const std::filesystem::path& file) {
+  auto document = std::make_unique<pugi::xml_document>();
+  const auto result = document->load_file(file.c_str(), pugi::parse_default, pugi::encoding_utf8);
+  if (!result) throw std::runtime_error(file.string() + ": " + result.description());
+  Visit(*document);
   return document;
 }
 
