@@ -67,8 +67,10 @@ std::string LineOf(const ElementSummary& element, bool coloured) {
 }
 
 std::string TextOf(const DocumentSummary& document, bool coloured) {
-  std::string text = VisibleText(std::filesystem::path(document.path).filename().string()) + ": " +
-                     Toned(Tr(OutcomeText(document.outcome)), ToneOf(document.outcome), coloured) + "\n";
+  std::string text =
+      Tr("%%1: %%2", {VisibleText(std::filesystem::path(document.path).filename().string()),
+                      Toned(Tr(OutcomeText(document.outcome)), ToneOf(document.outcome), coloured)}) +
+      "\n";
   if (document.instrument) {
     const auto& instrument = *document.instrument;
     text += Tr("Tester %%1, serial number %%2, firmware %%3, test leads %%4 mOhm",

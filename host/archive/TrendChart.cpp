@@ -158,7 +158,7 @@ class Chart {
   }
 
   std::string PointText(const Drawn& drawn) const {
-    return drawn.point->date + ": " + ReadingText(*drawn.point) + ", " + MarkText(drawn.mark);
+    return Tr("%%1: %%2, %%3", {drawn.point->date, ReadingText(*drawn.point), MarkText(drawn.mark)});
   }
 
   void DrawHeading() {

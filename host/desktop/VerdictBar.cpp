@@ -43,7 +43,7 @@ void VerdictBar::Show(const report::Verdict& verdict) {
   sign_->setVisible(true);
   word_->setText(Shown(verdict.word));
   sentence_->setText(Shown(verdict.sentence));
-  setAccessibleName(Shown(Tr("Verdict of the document")) + ": " + word_->text() + ", " + sentence_->text());
+  setAccessibleName(Shown(Tr("Verdict of the document: %%1, %%2", {verdict.word, verdict.sentence})));
   setStyleSheet(QString("#verdict { background: white; border: 2px solid %1; border-radius: 4px; }"
                         "#verdictWord { color: %1; } #verdictSentence { color: #1c2330; }")
                     .arg(colour));

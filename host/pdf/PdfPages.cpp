@@ -41,20 +41,18 @@ void DrawSharedLine(QPainter& painter, const std::string& left, const std::strin
            Qt::AlignRight);
 }
 
-std::string Labelled(const report::Fact& fact) { return fact.label + ": " + fact.value; }
-
 void DrawHeader(QPainter& painter, const report::Report& report, std::size_t page, std::size_t pages) {
   constexpr double kNumber = 1200, kLineHeight = 230;
-  const auto& facts = report.pageHeader;
+  const auto fact = [&](std::size_t number) {
+    return Labelled(report.words, report.pageHeader[number].label, report.pageHeader[number].value);
+  };
   const auto line = [](int number, double from, double to) {
     return QRectF(kMargin + from, kHeaderTop + number * kLineHeight, to - from, kLineHeight);
   };
-  DrawLine(painter, Labelled(facts[0]), line(0, 0, kUsable - kNumber), FontOf(kSmall, true), kInk,
-           Qt::AlignLeft);
+  DrawLine(painter, fact(0), line(0, 0, kUsable - kNumber), FontOf(kSmall, true), kInk, Qt::AlignLeft);
   DrawLine(painter, std::to_string(page + 1) + " / " + std::to_string(pages),
            line(0, kUsable - kNumber, kUsable), FontOf(kSmall, true), kInk, Qt::AlignRight);
-  DrawSharedLine(painter, Labelled(facts[1]), Labelled(facts[2]) + "    " + Labelled(facts[3]),
-                 line(1, 0, kUsable), FontOf(kSmall), kQuiet);
+  DrawSharedLine(painter, fact(1), fact(2) + "    " + fact(3), line(1, 0, kUsable), FontOf(kSmall), kQuiet);
   if (report.partial)
     DrawLine(painter, report.partialNotice, line(2, 0, kUsable), FontOf(kSmall, true),
              ColourOf(report::Standing::kOpen), Qt::AlignLeft);

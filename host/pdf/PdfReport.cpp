@@ -111,9 +111,8 @@ std::string PdfReport(const report::Report& report) {
   else
     OverviewBlock(report)->Place(pages);
   PlaceDetails(pages, report);
-  const Properties properties{
-      report.title + ": " + report.pageHeader.front().value + " - " + report.verdict.word, report.language,
-      report.created, kPageHeight / kPoint};
+  const Properties properties{report::CaptionOf(report), report.language, report.created,
+                              kPageHeight / kPoint};
   return Completed(pages.Write(report), properties, pages.Bookmarks());
 }
 

@@ -35,18 +35,14 @@ class Page {
   }
 
  private:
-  /// Equipment and verdict, as the window's title.
-  std::string Title() const {
-    return report_.title + ": " + report_.pageHeader.front().value + " - " + report_.verdict.word;
-  }
-
   void Head() {
     out_ += "<!DOCTYPE html>\n<html lang=\"" + Escaped(report_.language) +
             "\">\n<head>\n<meta charset=\"utf-8\"/>\n" +
             "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\"/>\n" +
             "<meta http-equiv=\"Content-Security-Policy\" content=\"default-src 'none'; style-src "
             "'unsafe-inline'\"/>\n" +
-            "<title>" + Escaped(Title()) + "</title>\n<style>" + html::kStyle + "</style>\n</head>\n";
+            "<title>" + Escaped(report::CaptionOf(report_)) + "</title>\n<style>" + html::kStyle +
+            "</style>\n</head>\n";
   }
 
   /// On paper alone, at the top of every page; the page itself says all of it, so listeners are spared it.
@@ -54,8 +50,8 @@ class Page {
     out_ += "<div class=\"running\" aria-hidden=\"true\"><div><p>";
     bool first = true;
     for (const auto& fact : report_.pageHeader) {
-      out_ += std::string(first ? "" : " &#183; ") + "<span>" + Escaped(fact.label) + ": " +
-              Isolated(fact.value) + "</span>";
+      out_ += std::string(first ? "" : " &#183; ") + "<span>" +
+              report::Labelled(report_.words, Escaped(fact.label), Isolated(fact.value)) + "</span>";
       first = false;
     }
     out_ += "</p>";

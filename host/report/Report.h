@@ -78,7 +78,7 @@ struct Section {
   std::vector<Table> tables;  ///< as the plug-in printed them
 };
 
-/// Headings and labels.
+/// Headings, labels, and how texts are put together: languages have colons and blanks of their own.
 struct Words {
   std::string summary, overview, details;
   std::string number, test, value, unit, result;         ///< columns of the overview
@@ -86,6 +86,8 @@ struct Words {
   std::string record;                                    ///< caption of a table that the plug-in printed
   std::string partial;                                   ///< the mark of a partial report, one word
   std::string nothing;                                   ///< instead of an empty overview
+  std::string labelled;                                  ///< "%%1: %%2", a label and what it is for
+  std::string caption;                                   ///< "%%1: %%2 - %%3", for `CaptionOf`
 };
 
 struct Report {
@@ -101,5 +103,11 @@ struct Report {
   std::vector<Section> sections;
   std::string created;  ///< the moment of the last result, such as "2026-11-21T14:03:22+01:00"; may be empty
 };
+
+/// A label and what it is for, in one line.
+std::string Labelled(const Words& words, const std::string& label, const std::string& value);
+
+/// Title, equipment and verdict in one line, as the title of a window.
+std::string CaptionOf(const Report& report);
 
 }  // namespace bench::report

@@ -124,7 +124,8 @@ class Text {
   }
 
   void Judgement(const report::Judgement& judgement) {
-    const auto line = judgement.standard + ": " + judgement.bounds + ": " + judgement.word;
+    const auto line = report::Labelled(report_.words, judgement.standard,
+                                       report::Labelled(report_.words, judgement.bounds, judgement.word));
     out_ +=
         "\n" + text::Indented(text::Wrapped(PlainSignOf(judgement.standing) + " " + line, kWidth - kIndent),
                               kIndent);

@@ -31,6 +31,8 @@ inline bench::report::Words Words() {
   words.record = "Record";
   words.partial = "Partial";
   words.nothing = "The document has no tests.";
+  words.labelled = "%%1: %%2";
+  words.caption = "%%1: %%2 - %%3";
   return words;
 }
 

@@ -73,6 +73,8 @@ report::Words WordsOfReport() {
   words.record = Tr("Record");
   words.partial = Tr("Partial");
   words.nothing = Tr("The document has no tests.");
+  words.labelled = Tr("%%1: %%2");
+  words.caption = Tr("%%1: %%2 - %%3");
   return words;
 }
 
