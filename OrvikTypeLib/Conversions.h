@@ -8,6 +8,7 @@
 #include <string>
 #include <string_view>
 #include <system_error>
+#include <utility>
 #include <variant>
 
 #include "OrvikTypeLib/Variant.h"
@@ -100,6 +101,12 @@ inline std::string TextOf(const Variant& vValue) {
   if (const auto* prValue = std::get_if<double>(&vValue)) return NumberText(*prValue);
   if (const auto* psValue = std::get_if<std::string>(&vValue)) return *psValue;
   return {};
+}
+
+/// The same of a value that nobody needs any more: a text, which may be a whole catalogue, is not copied.
+inline std::string TextOf(Variant&& vValue) {
+  if (auto* psValue = std::get_if<std::string>(&vValue)) return std::move(*psValue);
+  return TextOf(std::as_const(vValue));
 }
 
 /// A value in a format string. "0" is the only format in use; with any other the value is shown as it is.

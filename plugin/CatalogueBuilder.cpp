@@ -77,15 +77,21 @@ struct Fields {
   std::string sUnit;
 };
 
+/// Where a field goes; nothing for what is no field.
+std::string* FieldOf(Fields& fields, const std::string& sName) {
+  if (sName == MXmlConstants::kName) return &fields.sName;
+  if (sName == MXmlConstants::kType) return &fields.sType;
+  if (sName == MXmlConstants::kParameter) return &fields.sParameter;
+  if (sName == MXmlConstants::kUnit) return &fields.sUnit;
+  return nullptr;
+}
+
 /// A later field of the same name overwrites an earlier one.
 Fields ReadFields(const IXmlNode& Entry) {
   Fields fields;
   Entry.ForEachChild([&](const std::string& sName, const NodeRef& Child) {
     Attempt([&] {
-      if (sName == MXmlConstants::kType) fields.sType = Child->Attribute(MXmlConstants::kLID);
-      if (sName == MXmlConstants::kName) fields.sName = Child->Attribute(MXmlConstants::kLID);
-      if (sName == MXmlConstants::kParameter) fields.sParameter = Child->Attribute(MXmlConstants::kLID);
-      if (sName == MXmlConstants::kUnit) fields.sUnit = Child->Attribute(MXmlConstants::kLID);
+      if (std::string* psField = FieldOf(fields, sName)) *psField = Child->Attribute(MXmlConstants::kLID);
     });
   });
   return fields;

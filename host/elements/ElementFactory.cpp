@@ -4,9 +4,25 @@
 
 #include "OrvikTypeLib/As.h"
 #include "OrvikTypeLib/ITestContainer.h"
+#include "host/elements/InformationRecord.h"
+#include "host/elements/TestElement.h"
 #include "host/services/Text.h"
 
 namespace bench {
+namespace {
+
+/// A short way to the base element: nearly every plug-in's element shows the texts of that as its own.
+const TestElement* InsideByTexts(const orvik::ITestElement& element) {
+  try {
+    const auto texts = orvik::As<InformationRecord>(element.Information());
+    const auto* inside = texts ? texts->Element() : nullptr;
+    return inside && inside->IsInside(element) ? inside : nullptr;
+  } catch (const orvik::HostError&) {
+    return nullptr;  // the long way does not ask the plug-in
+  }
+}
+
+}  // namespace
 
 void ElementFactory::AddPlugIn(const std::shared_ptr<orvik::IPlugIn>& plugIn) {
   const auto id = orvik::Required(plugIn).ID();
@@ -65,12 +81,9 @@ const ElementFactory::Prototype* ElementFactory::PrototypeOf(const Identity& ide
 std::shared_ptr<orvik::IBaseElement> ElementFactory::BaseOf(
     const std::shared_ptr<orvik::ITestElement>& element) const {
   if (auto base = orvik::As<orvik::IBaseElement>(element)) return base;
-  const auto found = bases_.find(element.get());
-  return found == bases_.end() ? nullptr : found->second.lock();
-}
-
-void ElementFactory::Wrapped(const orvik::ITestElement* outer, std::weak_ptr<orvik::IBaseElement> base) {
-  bases_[outer] = std::move(base);
+  const auto* inside = element ? InsideByTexts(*element) : nullptr;
+  if (!inside) inside = wrapped_.Inside(element.get());
+  return inside ? inside->Self() : nullptr;
 }
 
 }  // namespace bench

@@ -6,7 +6,6 @@
 #include <memory>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -14,6 +13,7 @@
 #include "OrvikTypeLib/IObject.h"
 #include "OrvikTypeLib/IPlugIn.h"
 #include "OrvikTypeLib/ITestElement.h"
+#include "host/elements/WrappedElements.h"
 
 namespace bench {
 
@@ -72,9 +72,8 @@ class ElementFactory {
   /// The base element behind an element: itself, or the one that it wraps; empty when there is none.
   std::shared_ptr<orvik::IBaseElement> BaseOf(const std::shared_ptr<orvik::ITestElement>& element) const;
 
-  /// `base` has become, or is no longer, the inside of `outer`.
-  void Wrapped(const orvik::ITestElement* outer, std::weak_ptr<orvik::IBaseElement> base);
-  void Unwrapped(const orvik::ITestElement* outer) { bases_.erase(outer); }
+  /// The base elements that have another element around them.
+  WrappedElements& Wrapped() { return wrapped_; }
 
   Problems& Trouble() { return problems_; }
 
@@ -100,19 +99,12 @@ class ElementFactory {
     }
   };
 
-  /// Elements lie next to each other in memory, a few hundred bytes apart: so do their places in the table.
-  struct Hash {
-    std::size_t operator()(const orvik::ITestElement* element) const {
-      return reinterpret_cast<std::uintptr_t>(element) >> 8;
-    }
-  };
-
   Classes classes_;
   std::vector<std::shared_ptr<orvik::IPlugIn>> plugIns_;
   /// Childless copies of catalogue entries by plug-in and test; without an element for a test that is not in
   /// the catalogue.
   std::map<Entry, Prototype, EntryOrder> prototypes_;
-  std::unordered_map<const orvik::ITestElement*, std::weak_ptr<orvik::IBaseElement>, Hash> bases_;
+  WrappedElements wrapped_;
   Problems problems_;
 };
 

@@ -31,14 +31,18 @@ std::shared_ptr<orvik::IXmlNode> ScratchRoot(const std::string& name) {
 
 }  // namespace
 
-TestElement::~TestElement() { ForgetOuter(); }
+TestElement::~TestElement() = default;
+
+std::shared_ptr<orvik::IBaseElement> TestElement::Self() const {
+  return {std::const_pointer_cast<IObject>(shared_from_this()), const_cast<TestElement*>(this)};
+}
 
 std::string TestElement::IObject_ClassID() const { return orvik::HostClasses::kTestElement; }
 
 std::shared_ptr<orvik::ITestElement> TestElement::Shown() const {
   if (auto outer = outer_.lock()) return outer;
   // The element is only told from others by it; nobody changes it through this reference.
-  return {std::const_pointer_cast<IObject>(shared_from_this()), const_cast<TestElement*>(this)};
+  return Self();
 }
 
 std::shared_ptr<ElementFactory> TestElement::Factory() const { return orvik::Required(factory_); }
@@ -69,7 +73,7 @@ void TestElement::ITestElement_Initialize(const std::string& sPlugInID, std::int
 }
 
 void TestElement::ITestElement_Terminate() {
-  ForgetOuter();
+  wrapped_.Leave();
   outer_.reset();
 }
 
@@ -141,20 +145,11 @@ std::shared_ptr<orvik::IAuxiliaryState> TestElement::IBaseElement_Auxiliary() co
 }
 
 void TestElement::IBaseElement_SetOuter(std::shared_ptr<ITestElement> iteOuter) {
-  ForgetOuter();
+  wrapped_.Leave();
   outer_ = iteOuter;
-  if (iteOuter) {
-    outerKey_ = iteOuter.get();
-    if (const auto factory = factory_.lock())
-      factory->Wrapped(outerKey_, std::shared_ptr<IBaseElement>(shared_from_this(), this));
-  }
-  OuterChanged();
-}
-
-void TestElement::ForgetOuter() {
   const auto factory = factory_.lock();
-  if (outerKey_ && factory) factory->Unwrapped(outerKey_);
-  outerKey_ = nullptr;
+  if (iteOuter && factory) wrapped_.Join(factory->Wrapped(), iteOuter.get());
+  OuterChanged();
 }
 
 std::shared_ptr<orvik::ITestElement> TestElement::ITestElement_Clone() const {

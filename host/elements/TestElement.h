@@ -31,6 +31,10 @@ class TestElement : public orvik::IBaseElement {
   explicit TestElement(std::weak_ptr<ElementFactory> factory) : factory_(std::move(factory)) {}
   ~TestElement() override;
 
+  /// Whether `element` stands around this one.
+  bool IsInside(const ITestElement& element) const { return outer_.lock().get() == &element; }
+  std::shared_ptr<IBaseElement> Self() const;
+
  protected:
   /// The element that others see: the plug-in's element around this one, else this one.
   std::shared_ptr<ITestElement> Shown() const;
@@ -105,7 +109,6 @@ class TestElement : public orvik::IBaseElement {
   void SaveResult(const std::shared_ptr<orvik::IXmlNode>& node) const;
   template <class Step>
   auto Noted(std::ptrdiff_t offset, Step step) const;
-  void ForgetOuter();
 
   std::weak_ptr<ElementFactory> factory_;
   std::int32_t id_ = 0;
@@ -113,9 +116,8 @@ class TestElement : public orvik::IBaseElement {
   std::string plugInId_;
   std::weak_ptr<ITestElement> parent_;
   std::weak_ptr<ITestElement> outer_;
-  /// Under which the factory knows the outer element; it may be gone by now.
-  const ITestElement* outerKey_ = nullptr;
-  InformationRecord information_;
+  WrappedElements::Link wrapped_{*this};
+  InformationRecord information_{this};
   /// Created when somebody asks for it: few elements differ from the default.
   mutable std::shared_ptr<AuxiliaryState> auxiliary_;
   std::shared_ptr<orvik::IConfigData> configuration_;
