@@ -16,6 +16,7 @@
 #include "host/elements/Nesting.h"
 #include "host/elements/TestContainer.h"
 #include "host/instruments/InstrumentColl.h"
+#include "host/services/HeapRoom.h"
 #include "host/services/LargeText.h"
 #include "host/services/Tr.h"
 #include "host/services/XmlDocument.h"
@@ -37,6 +38,9 @@ constexpr char kModel[] = "Model";
 constexpr char kStandardsNode[] = "Standards";
 constexpr char kInstrumentsNode[] = "Instruments";
 constexpr char kElements[] = "Elements";
+
+/// About so many bytes of objects are made of two bytes of text.
+constexpr std::size_t kObjectsOfTwoBytes = 5;
 
 /// A tag that no file can hold, and how it begins when it is written; what follows depends on the format.
 constexpr char kNoName[] = "\x01";
@@ -104,6 +108,7 @@ void Document::MoveTo(const std::filesystem::path& file) { file_ = DocumentFile:
 // What is not read in pieces, for whatever reason, is read whole: that also tells where a fault stands.
 void Document::Load(const std::string& text) {
   textSize_ = text.size();
+  const HeapRoom room(text.size() / 2 * kObjectsOfTwoBytes);
   if (!LoadInPieces(text)) LoadWhole(text);
 }
 
@@ -205,7 +210,6 @@ std::string Document::Text() const {
 // A few elements after the other, so that a large document never stands in memory as a whole tree beside its
 // text.
 std::string Document::WrittenText() const {
-  RequireShallow(elements_);
   const auto frame = xml::Write(*Frame());
   if (elements_->Count() == 0) return frame;
   const auto place = frame.find(kPlaceOfElements);

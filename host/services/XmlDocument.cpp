@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "host/services/HeapRoom.h"
 #include "host/services/Tr.h"
 #include "host/services/XmlNode.h"
 #include "host/services/XmlReferences.h"
@@ -156,6 +157,9 @@ void WriteTo(std::string& text, pugi::xml_node element, unsigned depth) {
 }  // namespace xml
 
 bool XmlDocument::IXmlDocument_LoadFromString(const std::string& sXml) {
+  // The tree, and what is then made of it, take about so many bytes for a byte of the text.
+  constexpr std::size_t kObjectsOfText = 6;
+  const HeapRoom room(sXml.size() * kObjectsOfText);
   document_ = std::make_shared<pugi::xml_document>();
   const auto fault = xml::Parse(sXml, *document_);
   error_.clear();

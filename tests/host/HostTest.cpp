@@ -5,6 +5,7 @@
 #include "OrvikTypeLib/IRegistryReader.h"
 #include "OrvikTypeLib/IXmlDocument.h"
 #include "host/Host.h"
+#include "host/elements/InformationRecord.h"
 #include "host/services/RegistryStore.h"
 #include "tests/host/Errors.h"
 #include "tests/host/HostFixture.h"
@@ -109,6 +110,41 @@ TEST_F(HostTest, BaseElementIsFoundBehindItsOuterOne) {
   const auto copy = element->Clone();
   EXPECT_NE(host_->Elements()->BaseOf(copy), base);
   EXPECT_EQ(orvik::As<sample::ISampleTest>(copy)->BaseElement, host_->Elements()->BaseOf(copy));
+}
+
+TEST_F(HostTest, BaseElementIsFoundWhateverTextsTheOuterOneShows) {
+  const auto element = Element(1);
+  const auto other = Element(2);
+  const auto sample = orvik::As<sample::ISampleTest>(element);
+  const auto base = sample->BaseElement;
+  sample->OtherTexts = other->Information();
+  EXPECT_EQ(host_->Elements()->BaseOf(element), base);
+  sample->OtherTexts = std::make_shared<InformationRecord>();
+  EXPECT_EQ(host_->Elements()->BaseOf(element), base);
+  sample->fRefusesTexts = true;
+  EXPECT_EQ(host_->Elements()->BaseOf(element), base);
+  EXPECT_NE(host_->Elements()->BaseOf(other), base);
+
+  base->Terminate();
+  EXPECT_EQ(host_->Elements()->BaseOf(element), nullptr);
+  sample->fRefusesTexts = false;
+  sample->OtherTexts = nullptr;
+  EXPECT_EQ(host_->Elements()->BaseOf(element), nullptr) << "no longer inside, though its texts are shown";
+  base->SetOuter(other);
+  EXPECT_EQ(host_->Elements()->BaseOf(element), nullptr);
+}
+
+TEST_F(HostTest, BaseElementsOfManyAreFoundWhileSomeAreReleased) {
+  std::vector<std::shared_ptr<orvik::ITestElement>> elements;
+  for (std::int32_t id = 1; id <= 9; ++id) elements.push_back(Element(id));
+  for (const auto& element : elements) orvik::As<sample::ISampleTest>(element)->fRefusesTexts = true;
+  for (const std::size_t released : {8, 0, 4, 5, 1}) {
+    elements[released].reset();
+    for (const auto& element : elements) {
+      if (!element) continue;
+      EXPECT_EQ(host_->Elements()->BaseOf(element), orvik::As<sample::ISampleTest>(element)->BaseElement);
+    }
+  }
 }
 
 TEST_F(HostTest, FilesThatAreNoPlugInAreRefusedByName) {

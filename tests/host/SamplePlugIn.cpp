@@ -185,7 +185,8 @@ class Wrapper : public virtual ITestElement, public ISampleTest {
   std::int32_t ITestElement_TestID() const override { return BaseElement->TestID(); }
   std::string ITestElement_PlugInID() const override { return BaseElement->PlugInID(); }
   std::shared_ptr<IInformationRecord> ITestElement_Information() const override {
-    return BaseElement->Information();
+    if (fRefusesTexts) throw HostError(HostError::kInvalidArgument, kPlugInId, "no texts");
+    return OtherTexts ? OtherTexts : BaseElement->Information();
   }
   Variant ITestElement_Filter() const override { return BaseElement->Filter(); }
   Variant ITestElement_GetMeasurementList() const override { return BaseElement->GetMeasurementList(); }

@@ -7,6 +7,7 @@
 #include "OrvikTypeLib/IBaseElement.h"
 #include "OrvikTypeLib/IClassLibrary.h"
 #include "OrvikTypeLib/IHost.h"
+#include "OrvikTypeLib/IInformationRecord.h"
 #include "OrvikTypeLib/IPlugIn.h"
 #include "OrvikTypeLib/IResultData.h"
 #include "OrvikTypeLib/ITestContainer.h"
@@ -26,6 +27,9 @@ class ISampleTest : public virtual orvik::IObject {
   std::string sUnit;
   /// Installed in the base element when the element is created.
   std::shared_ptr<orvik::IBaseElement> BaseElement;
+  /// Shown in place of the base element's texts.
+  std::shared_ptr<orvik::IInformationRecord> OtherTexts;
+  bool fRefusesTexts = false;
 };
 
 /// A result with a status and a comment.
