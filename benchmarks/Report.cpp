@@ -67,6 +67,21 @@ std::string JsonOf(const std::vector<Outcome>& outcomes) {
   return json.dump(2, ' ', false, nlohmann::ordered_json::error_handler_t::replace) + "\n";
 }
 
+std::string TextOf(const Outcome& outcome) { return JsonOf(outcome).dump(); }
+
+Outcome OutcomeOf(const std::string& name, const std::string& text) {
+  const auto json = nlohmann::json::parse(text);
+  if (json.contains("failure")) return {name, {}, json["failure"]};
+  Figure figure;
+  figure.value = json["figure"];
+  figure.unit = json["unit"];
+  if (!json["yardstick"].is_null()) figure.yardstick = json["yardstick"];
+  figure.yardstickIs = json["yardstickIs"];
+  if (!json["limit"].is_null()) figure.limit = json["limit"];
+  figure.bound = json["bound"] == "at most" ? Bound::kAtMost : Bound::kAtLeast;
+  return {name, figure, ""};
+}
+
 std::string LoadRemark() {
   double load = 0;
   if (getloadavg(&load, 1) != 1 || load <= std::thread::hardware_concurrency()) return {};

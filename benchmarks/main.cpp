@@ -4,6 +4,7 @@
 #include <iostream>
 
 #include "benchmarks/Benchmark.h"
+#include "benchmarks/OwnProcess.h"
 #include "benchmarks/Report.h"
 
 namespace benchmarks {
@@ -35,9 +36,18 @@ bool Wanted(const Options& options, const std::string& name) {
          std::find(options.only.begin(), options.only.end(), name) != options.only.end();
 }
 
-Outcome Measure(const Benchmark& benchmark, const Context& context) {
+Outcome Measured(const Benchmark& benchmark, const Context& context) {
   try {
     return {benchmark.name, benchmark.measure(context), ""};
+  } catch (const std::exception& error) {
+    return {benchmark.name, {}, error.what()};
+  }
+}
+
+/// In a process of its own, so that no benchmark finds what another has left.
+Outcome Measure(const Benchmark& benchmark, const Context& context) {
+  try {
+    return OutcomeOf(benchmark.name, InOwnProcess([&] { return TextOf(Measured(benchmark, context)); }));
   } catch (const std::exception& error) {
     return {benchmark.name, {}, error.what()};
   }
