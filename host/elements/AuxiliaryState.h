@@ -24,11 +24,11 @@ class AuxiliaryState final : public orvik::IAuxiliaryState {
   /// Why the result must not be relied on, for people to read; none when nothing speaks against it. Set by
   /// the host, which watched the wire while the element ran; the result's own status says nothing of it.
   const std::vector<std::string>& Doubts() const { return doubts_; }
-  void SetDoubts(std::vector<std::string> doubts) { doubts_ = std::move(doubts); }
+  void SetDoubts(std::vector<std::string> doubts);
 
   /// Each element has its own: a document can be run in pieces, on several days and by several people.
   const std::optional<RunMark>& Run() const { return run_; }
-  void SetRun(std::optional<RunMark> run) { run_ = std::move(run); }
+  void SetRun(std::optional<RunMark> run);
 
   void CopyFrom(const AuxiliaryState& other);
   /// Replaces all by what an "Auxiliary" node says.
@@ -41,9 +41,15 @@ class AuxiliaryState final : public orvik::IAuxiliaryState {
   bool IAuxiliaryState_PrintElement() const override { return printElement_; }
   void IAuxiliaryState_SetPrintElement(bool fPrint) override { printElement_ = fPrint; }
 
+  void LoadDoubt(pugi::xml_node node);
+  void LoadRun(pugi::xml_node node);
+
   bool printElement_ = true;
   std::vector<std::string> doubts_;
+  /// What a file says beside each doubt: as many as there are doubts, or none.
+  std::vector<Leftovers> besideDoubts_;
   std::optional<RunMark> run_;
+  Leftovers besideRun_;
   Leftovers leftovers_;
 };
 
