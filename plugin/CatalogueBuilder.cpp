@@ -21,7 +21,6 @@
 
 namespace keld {
 
-using orvik::As;
 using orvik::ITestContainer;
 using orvik::ITestElement;
 using orvik::IXmlNode;

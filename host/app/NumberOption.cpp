@@ -33,7 +33,9 @@ std::string OneByOne(const CLI::Option& option, const std::vector<std::string>& 
   std::string words;
   for (const auto& number : numbers) {
     const bool named = words.empty() || !option.get_allow_extra_args();
-    words += (words.empty() ? "" : " ") + (named ? name + " " : "") + number;
+    if (!words.empty()) words += ' ';
+    if (named) words.append(name).append(" ");
+    words += number;
   }
   return words;
 }
