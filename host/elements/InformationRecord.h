@@ -14,10 +14,12 @@ class TestElement;
 /// The texts that people are shown of an element. The second one is the display name until it is set.
 class InformationRecord final : public orvik::IInformationRecord {
  public:
-  /// @param element the one that the record is part of; nothing for a record that stands alone
+  /// @param element whose texts they are; nothing for a record that stands alone
   explicit InformationRecord(TestElement* element = nullptr) : element_(element) {}
 
+  /// Nothing when the element is gone: the record does not keep it.
   TestElement* Element() const { return element_; }
+  void ForgetElement() { element_ = nullptr; }
 
   void CopyFrom(const InformationRecord& other);
   /// Replaces the texts by those of an "Information" node.
@@ -32,7 +34,7 @@ class InformationRecord final : public orvik::IInformationRecord {
   std::string IInformationRecord_DisplayName() const override { return displayName_; }
   void IInformationRecord_SetDisplayName(const std::string& sName) override { displayName_ = sName; }
 
-  TestElement* const element_;
+  TestElement* element_;
   std::string firstText_;
   std::string displayName_;
   std::optional<std::string> secondText_;

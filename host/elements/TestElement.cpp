@@ -31,7 +31,7 @@ std::shared_ptr<orvik::IXmlNode> ScratchRoot(const std::string& name) {
 
 }  // namespace
 
-TestElement::~TestElement() = default;
+TestElement::~TestElement() { information_->ForgetElement(); }
 
 std::shared_ptr<orvik::IBaseElement> TestElement::Self() const {
   return {std::const_pointer_cast<IObject>(shared_from_this()), const_cast<TestElement*>(this)};
@@ -78,8 +78,8 @@ void TestElement::ITestElement_Terminate() {
 }
 
 orvik::Variant TestElement::ITestElement_Info() const {
-  const auto first = Information()->FirstText();
-  const auto second = Information()->SecondText();
+  const auto first = information_->FirstText();
+  const auto second = information_->SecondText();
   return std::vector<std::string>{"::", first.empty() ? second : second + " " + first};
 }
 
@@ -112,17 +112,11 @@ void TestElement::ITestElement_PrintReport(std::shared_ptr<orvik::IReport> Repor
   report.SetTableIndent(0);
   report.SetHeaderRows(0);
   report.AddTable("<" + std::to_string(report.Metric(10)) + ";", "",
-                  "{\\b " + report.Escape(Information()->DisplayName()) + "};");
+                  "{\\b " + report.Escape(information_->DisplayName()) + "};");
   if (configuration_) configuration_->PrintReport(Report);
   if (limits_) limits_->PrintReport(Report, Shown());
   if (result_) result_->PrintReport(Report, Shown());
   PrintChildren(Report, Context);
-}
-
-// Part of the element, which lives as long as somebody holds the record.
-std::shared_ptr<orvik::IInformationRecord> TestElement::ITestElement_Information() const {
-  const auto self = std::const_pointer_cast<IObject>(shared_from_this());
-  return {self, const_cast<InformationRecord*>(&information_)};
 }
 
 void TestElement::IBaseElement_SetConfiguration(std::shared_ptr<orvik::IConfigData> Configuration) {
@@ -166,7 +160,7 @@ void TestElement::CopyIdentity(TestElement& copy) const {
   copy.id_ = id_;
   copy.testId_ = testId_;
   copy.plugInId_ = plugInId_;
-  copy.information_.CopyFrom(information_);
+  copy.information_->CopyFrom(*information_);
   if (!auxiliary_) return;
   copy.auxiliary_ = std::make_shared<AuxiliaryState>();
   copy.auxiliary_->CopyFrom(*auxiliary_);
@@ -258,7 +252,7 @@ bool TestElement::LoadPart(pugi::xml_node part, XmlReference& reference,
                            const std::shared_ptr<IObject>& context) {
   const auto is = [name = part.name()](const char* tag) { return xml::SameName(name, tag); };
   if (is(tags::kInformation)) {
-    information_.Load(part);
+    information_->Load(part);
   } else if (is(tags::kAuxiliary)) {
     LoadAuxiliary(part);
   } else if (is(tags::kConfiguration) && configuration_) {
@@ -308,7 +302,7 @@ void TestElement::SaveTo(const std::shared_ptr<orvik::IXmlNode>& node) const {
   xml::AddAttribute(raw, tags::kPlugInID, plugInId_);
   xml::AddAttribute(raw, tags::kClass, Shown()->ClassID());
 
-  information_.Save(raw.append_child(tags::kInformation));
+  information_->Save(raw.append_child(tags::kInformation));
   const auto auxiliary = raw.append_child(tags::kAuxiliary);
   auxiliary_ ? auxiliary_->Save(auxiliary) : AuxiliaryState().Save(auxiliary);
   if (configuration_) {

@@ -40,7 +40,7 @@ class TestElement : public orvik::IBaseElement {
   std::shared_ptr<ITestElement> Shown() const;
   /// The factory; `HostError` 91 when the host is gone.
   std::shared_ptr<ElementFactory> Factory() const;
-  InformationRecord& Texts() { return information_; }
+  InformationRecord& Texts() const { return *information_; }
 
   /// A new element of the same class.
   virtual std::shared_ptr<TestElement> NewOfSameClass() const;
@@ -81,7 +81,9 @@ class TestElement : public orvik::IBaseElement {
   std::shared_ptr<orvik::IResultData> ITestElement_Result() const override { return result_; }
   void ITestElement_PrintReport(std::shared_ptr<orvik::IReport> Report,
                                 std::shared_ptr<IObject> Context) override;
-  std::shared_ptr<orvik::IInformationRecord> ITestElement_Information() const override;
+  std::shared_ptr<orvik::IInformationRecord> ITestElement_Information() const override {
+    return information_;
+  }
   std::int32_t ITestElement_ID() const override { return id_; }
   void ITestElement_SetID(std::int32_t lID) override { id_ = lID; }
   std::shared_ptr<ITestElement> ITestElement_Parent() const override { return parent_.lock(); }
@@ -117,7 +119,7 @@ class TestElement : public orvik::IBaseElement {
   std::weak_ptr<ITestElement> parent_;
   std::weak_ptr<ITestElement> outer_;
   WrappedElements::Link wrapped_{*this};
-  InformationRecord information_{this};
+  std::shared_ptr<InformationRecord> information_ = std::make_shared<InformationRecord>(this);
   /// Created when somebody asks for it: few elements differ from the default.
   mutable std::shared_ptr<AuxiliaryState> auxiliary_;
   std::shared_ptr<orvik::IConfigData> configuration_;

@@ -134,6 +134,21 @@ TEST_F(HostTest, BaseElementIsFoundWhateverTextsTheOuterOneShows) {
   EXPECT_EQ(host_->Elements()->BaseOf(element), nullptr);
 }
 
+TEST_F(HostTest, WhoeverKeepsTheTextsDoesNotKeepTheElement) {
+  auto element = Element(1);
+  const std::weak_ptr<orvik::ITestElement> weak = element;
+  const std::weak_ptr<orvik::IBaseElement> base = orvik::As<sample::ISampleTest>(element)->BaseElement;
+  const auto texts = element->Information();
+  texts->SetDisplayName("kept");
+  element.reset();
+  EXPECT_TRUE(weak.expired() && base.expired());
+  EXPECT_EQ(texts->DisplayName(), "kept");
+
+  const auto other = Element(2);
+  orvik::As<sample::ISampleTest>(other)->OtherTexts = texts;
+  EXPECT_EQ(host_->Elements()->BaseOf(other), orvik::As<sample::ISampleTest>(other)->BaseElement);
+}
+
 TEST_F(HostTest, BaseElementsOfManyAreFoundWhileSomeAreReleased) {
   std::vector<std::shared_ptr<orvik::ITestElement>> elements;
   for (std::int32_t id = 1; id <= 9; ++id) elements.push_back(Element(id));
