@@ -88,15 +88,20 @@ bool StaysUnplugged(std::chrono::microseconds time, int stop) {
 /// the tester is to end.
 std::optional<std::chrono::microseconds> Serve(const Options& options, Tester& tester, int stop, Trace* trace,
                                                const std::string& greeting) {
-  const PseudoTerminal terminal;
-  const DeviceLink link(options.link, terminal.DevicePath());
-  std::printf("keld-sim: ready on %s (%s), %s\n", terminal.DevicePath().c_str(), options.link.c_str(),
-              greeting.c_str());
-  std::fflush(stdout);
-  SerialLoop loop(tester, terminal.Fd(), stop, trace);
-  if (loop.Run() == SerialLoop::End::Stopped) return std::nullopt;
-  Say(stdout, loop.BackAfter() ? "unplugged" : "hung up");
-  return loop.BackAfter();
+  std::optional<std::chrono::microseconds> backAfter;
+  {
+    const PseudoTerminal terminal;
+    const DeviceLink link(options.link, terminal.DevicePath());
+    std::printf("keld-sim: ready on %s (%s), %s\n", terminal.DevicePath().c_str(), options.link.c_str(),
+                greeting.c_str());
+    std::fflush(stdout);
+    SerialLoop loop(tester, terminal.Fd(), stop, trace);
+    if (loop.Run() == SerialLoop::End::Stopped) return std::nullopt;
+    backAfter = loop.BackAfter();
+  }
+  // Said once the link is gone, so that whoever reads it can rely on that.
+  Say(stdout, backAfter ? "unplugged" : "hung up");
+  return backAfter;
 }
 
 }  // namespace
