@@ -34,7 +34,8 @@ std::shared_ptr<orvik::IXmlNode> ScratchRoot(const std::string& name) {
 TestElement::~TestElement() { information_->ForgetElement(); }
 
 std::shared_ptr<orvik::IBaseElement> TestElement::Self() const {
-  return {std::const_pointer_cast<IObject>(shared_from_this()), const_cast<TestElement*>(this)};
+  const auto self = std::const_pointer_cast<IObject>(weak_from_this().lock());
+  return self ? std::shared_ptr<IBaseElement>(self, const_cast<TestElement*>(this)) : nullptr;
 }
 
 std::string TestElement::IObject_ClassID() const { return orvik::HostClasses::kTestElement; }

@@ -33,6 +33,7 @@ class TestElement : public orvik::IBaseElement {
 
   /// Whether `element` stands around this one.
   bool IsInside(const ITestElement& element) const { return outer_.lock().get() == &element; }
+  /// Nothing while the element ends.
   std::shared_ptr<IBaseElement> Self() const;
 
  protected:
