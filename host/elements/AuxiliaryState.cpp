@@ -9,6 +9,7 @@ namespace bench {
 
 void AuxiliaryState::CopyFrom(const AuxiliaryState& other) {
   printElement_ = other.printElement_;
+  recordOnly_ = other.recordOnly_;
   doubts_ = other.doubts_;
   besideDoubts_ = other.besideDoubts_;
   run_ = other.run_;
@@ -17,8 +18,9 @@ void AuxiliaryState::CopyFrom(const AuxiliaryState& other) {
 }
 
 void AuxiliaryState::Load(pugi::xml_node node) {
-  leftovers_.TakeAttributes(node, {tags::kPrint});
+  leftovers_.TakeAttributes(node, {tags::kPrint, tags::kRecordOnly});
   printElement_ = node.attribute(tags::kPrint).as_bool(true);
+  recordOnly_ = node.attribute(tags::kRecordOnly).as_bool(false);
   SetDoubts({});
   SetRun({});
   for (auto part = node.first_child(); part; part = part.next_sibling()) {
@@ -70,6 +72,7 @@ void AuxiliaryState::SetRun(std::optional<RunMark> run) {
 
 void AuxiliaryState::Save(pugi::xml_node node) const {
   xml::AddAttribute(node, tags::kPrint, printElement_ ? "1" : "0");
+  if (recordOnly_) xml::AddAttribute(node, tags::kRecordOnly, "1");
   for (std::size_t index = 0; index < doubts_.size(); ++index) {
     const auto saved = node.append_child(tags::kDoubt);
     xml::SetText(saved, doubts_[index]);

@@ -21,6 +21,11 @@ struct RunMark {
 /// The host's own settings of an element, and what it holds against the element's result.
 class AuxiliaryState final : public orvik::IAuxiliaryState {
  public:
+  /// Whether readings of the element are recorded and never judged: a decision that somebody made and that
+  /// the document keeps. Without it an element without limits is not judged.
+  bool RecordOnly() const { return recordOnly_; }
+  void SetRecordOnly(bool recordOnly) { recordOnly_ = recordOnly; }
+
   /// Why the result must not be relied on, for people to read; none when nothing speaks against it. Set by
   /// the host, which watched the wire while the element ran; the result's own status says nothing of it.
   const std::vector<std::string>& Doubts() const { return doubts_; }
@@ -35,7 +40,9 @@ class AuxiliaryState final : public orvik::IAuxiliaryState {
   void Load(pugi::xml_node node);
   void Save(pugi::xml_node node) const;
   /// Whether nothing differs from a new state.
-  bool IsDefault() const { return printElement_ && doubts_.empty() && !run_ && leftovers_.Empty(); }
+  bool IsDefault() const {
+    return printElement_ && !recordOnly_ && doubts_.empty() && !run_ && leftovers_.Empty();
+  }
 
  private:
   bool IAuxiliaryState_PrintElement() const override { return printElement_; }
@@ -45,6 +52,7 @@ class AuxiliaryState final : public orvik::IAuxiliaryState {
   void LoadRun(pugi::xml_node node);
 
   bool printElement_ = true;
+  bool recordOnly_ = false;
   std::vector<std::string> doubts_;
   /// What a file says beside each doubt: as many as there are doubts, or none.
   std::vector<Leftovers> besideDoubts_;

@@ -65,6 +65,21 @@ TEST(AuxiliaryState, WhatStoodBesideGoesWithItsDoubtAndItsRun) {
   EXPECT_EQ(Saved(state), R"(<Auxiliary Print="1"/>)");
 }
 
+TEST(AuxiliaryState, KeepsRecordOnlyAndSavesItOnlyWhenSet) {
+  AuxiliaryState state, copy;
+  EXPECT_FALSE(state.RecordOnly());
+  state.SetRecordOnly(true);
+  EXPECT_FALSE(state.IsDefault());
+  EXPECT_EQ(Saved(state), R"(<Auxiliary Print="1" RecordOnly="1"/>)");
+  copy.CopyFrom(state);
+  EXPECT_TRUE(copy.RecordOnly());
+  Load(copy, R"(<Auxiliary Print="0"/>)");
+  EXPECT_FALSE(copy.RecordOnly());
+  Load(copy, Saved(state));
+  EXPECT_TRUE(copy.RecordOnly());
+  EXPECT_EQ(Saved(copy), Saved(state));
+}
+
 TEST(AuxiliaryState, ReadsTheWholeTextOfADoubt) {
   AuxiliaryState state;
   Load(state, "<Auxiliary><Doubt>one<!-- of --> <![CDATA[& two]]></Doubt></Auxiliary>");

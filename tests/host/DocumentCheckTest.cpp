@@ -188,6 +188,12 @@ TEST_F(DocumentCheckTest, WhatIsNotKnownIsANote) {
                             "5:1 the element \"Photo\" is not known; it is kept"}));
 }
 
+TEST_F(DocumentCheckTest, KnowsTheMarksOfAnElement) {
+  const auto told = Check(With(Test("1", "<Auxiliary Print='0' RecordOnly='1'/>")));
+  EXPECT_EQ(told.wrong, std::vector<std::string>{});
+  EXPECT_EQ(told.notes, std::vector<std::string>{});
+}
+
 TEST_F(DocumentCheckTest, WhatStandsBeforeTheFaultIsLookedAtToo) {
   const auto told = Check(With(Test("1") + "\n" + Test("1") + "\n<TestElement TestID='110'\n"));
   ASSERT_EQ(told.wrong.size(), 2U);
