@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <cstddef>
@@ -23,8 +24,30 @@ inline std::string Trim(std::string_view sText) {
   return std::string(sText.substr(first, sText.find_last_not_of(' ') - first + 1));
 }
 
+/// Whether a decimal number that no double can hold is too large for one, and not too small.
+/// @param sNumber digits with at most one ".", and an exponent, as `std::from_chars` accepts them; no sign
+inline bool IsTooLarge(std::string_view sNumber) {
+  const auto exponentAt = sNumber.find_first_of("eE");
+  const std::string_view sMantissa = sNumber.substr(0, exponentAt);
+  const auto first = sMantissa.find_first_of("123456789");
+  if (first == std::string_view::npos) return false;
+  const auto point = std::min(sMantissa.find('.'), sMantissa.size());
+  // The power of ten of the first digit that counts: "0.05" has -2, "120" has 2.
+  double rPower = static_cast<double>(point) - static_cast<double>(first);
+  if (first < point) rPower -= 1;
+  if (exponentAt == std::string_view::npos) return rPower > 0;
+  // An exponent may itself have any number of digits; as a double it is at worst infinite.
+  std::string_view sExponent = sNumber.substr(exponentAt + 1);
+  const bool fNegative = sExponent.starts_with('-');
+  if (fNegative || sExponent.starts_with('+')) sExponent.remove_prefix(1);
+  double rExponent = 0;
+  for (const char c : sExponent) rExponent = rExponent * 10 + (c - '0');
+  return rPower + (fNegative ? -rExponent : rExponent) > 0;
+}
+
 /// The number at the start of a text: blanks, sign, digits, ".", exponent. Text that does not start with a
-/// number is 0. A number too large for a double is the largest double: read as 0 it could pass a limit.
+/// number is 0. A number too large for a double is the largest double: read as 0 it could pass a limit. One
+/// too small for a double is 0.
 inline double LeadingNumber(std::string_view sText) {
   const auto first = sText.find_first_not_of(" \t\r\n");
   if (first == std::string_view::npos) return 0;
@@ -39,11 +62,10 @@ inline double LeadingNumber(std::string_view sText) {
   const auto result = std::from_chars(sText.data(), sText.data() + sText.size(), rValue);
   if (result.ec == std::errc{}) return rValue;
   if (result.ec != std::errc::result_out_of_range) return 0;
+  const bool fNegative = sText.front() == '-';
   const std::string_view sNumber(sText.data(), static_cast<std::size_t>(result.ptr - sText.data()));
-  const bool fTiny =
-      sNumber.find("e-") != std::string_view::npos || sNumber.find("E-") != std::string_view::npos;
-  if (fTiny) return 0;
-  return sText.front() == '-' ? std::numeric_limits<double>::lowest() : std::numeric_limits<double>::max();
+  if (!IsTooLarge(sNumber.substr(fNegative ? 1 : 0))) return 0;
+  return fNegative ? std::numeric_limits<double>::lowest() : std::numeric_limits<double>::max();
 }
 
 /// Rounded to the nearest 32-bit integer, halves to the even neighbour, held within the 32-bit range;

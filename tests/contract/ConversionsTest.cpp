@@ -44,6 +44,31 @@ TEST(LeadingNumber, TooLargeIsTheLargestAndTooSmallIsZero) {
   EXPECT_EQ(LeadingNumber("-1E-999"), 0);
 }
 
+TEST(LeadingNumber, TellsTooLargeFromTooSmallByItsMagnitude) {
+  constexpr double kLargest = std::numeric_limits<double>::max();
+  const std::string zeros(400, '0');
+  const std::vector<std::pair<std::string, double>> table = {
+      {"0." + zeros + "1", 0},
+      {"-0." + zeros + "1", 0},
+      {"." + zeros + "1 V", 0},
+      {zeros + "." + zeros + "1", 0},
+      {"0." + zeros + "1e50", 0},
+      {"0." + zeros + "1E+50", 0},
+      {"1e-99999999999999999999999", 0},
+      {"1" + zeros, kLargest},
+      {"-1" + zeros, -kLargest},
+      {"1" + zeros + "e-5", kLargest},
+      {"+1" + zeros + ".5E-5 V", kLargest},
+      {zeros + "1" + zeros, kLargest},
+      {"1e99999999999999999999999", kLargest},
+      // In range once the exponent is counted.
+      {"0." + zeros + "1e401", 1},
+      {"1" + zeros + "e-400", 1},
+      {"0" + zeros + "e999", 0},
+  };
+  for (const auto& [text, value] : table) EXPECT_EQ(LeadingNumber(text), value) << text;
+}
+
 TEST(RoundToInteger, RoundsHalvesToTheEvenNeighbour) {
   const std::vector<std::pair<double, std::int32_t>> table = {
       {0, 0},    {0.4, 0},   {0.5, 0},   {0.6, 1},   {1.5, 2},   {2.5, 2},   {3.5, 4},
