@@ -11,11 +11,11 @@
 
 namespace orvik {
 class IRunController;
-class IStandardColl;
 }  // namespace orvik
 
 namespace keld {
 
+class CKELDMeasurement;
 class CKELDResultData;
 class CKELDTestConfiguration;
 class FTestGuide;
@@ -73,8 +73,9 @@ class CKELDElement : public orvik::ITestElement, public IKELDTest {
   virtual void SetLink(std::shared_ptr<CKELDInstrument> Instrument);
   std::shared_ptr<FTestGuide> TestGuide() const { return mTestGuide; }
   std::shared_ptr<orvik::IRunController> RunController() const { return mRunController.lock(); }
-  /// The standards to judge by; `HostError` when nobody names any, so that what was not judged does not pass.
-  std::shared_ptr<orvik::IStandardColl> SelectedStandards() const;
+  /// Whether the measurement fails the element's limits by the run's standards; false without limits. Raises
+  /// an error when limits or standards cannot be read, so that what was not judged does not pass.
+  bool FailsOwnLimits(CKELDMeasurement& Measurement) const;
   bool StandaloneRun() const { return fStandaloneRun; }
 
   bool fStopRequested = false;

@@ -4,6 +4,7 @@
 #include "OrvikTypeLib/IRunController.h"
 #include "OrvikTypeLib/IStandardColl.h"
 #include "instrument/CKELDInstrument.h"
+#include "instrument/CKELDMeasurement.h"
 #include "model/CKELDElement.h"
 #include "plugin/Attempt.h"
 #include "plugin/MKELDConstants.h"
@@ -62,10 +63,11 @@ void CKELDElement::RecordAbort(std::int32_t lStatus) {
   Attempt([&] { Required(ResultData()).BuildServiceRecord(SelfElement()); });
 }
 
-std::shared_ptr<orvik::IStandardColl> CKELDElement::SelectedStandards() const {
-  auto Standards = Required(mRunController)->Standards();
+bool CKELDElement::FailsOwnLimits(CKELDMeasurement& Measurement) const {
+  const auto Standards = Required(mRunController)->Standards();
   static_cast<void>(Required(Standards));
-  return Standards;
+  // From the base element itself: the element's own view of its limits ignores errors.
+  return Measurement.FailsLimits(Required(mBaseElement).Limits(), Standards);
 }
 
 void CKELDElement::TellFinished() {

@@ -48,6 +48,9 @@ class CKELDSequence final : public CKELDElement, public orvik::ITestContainer {
   void ReleaseRunningChild();
   void ResetResult();
   void Summarise();
+  /// Failed by the sequence's own limits, else what the children's results give. Not tested when the limits
+  /// cannot be read and no child failed.
+  std::int32_t SummaryStatus(CKELDMeasurement& Summary, bool fHasLimits) const;
 
   /// The base element as the container that it is.
   std::shared_ptr<orvik::ITestContainer> mChildren;

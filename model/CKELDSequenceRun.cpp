@@ -86,16 +86,21 @@ void CKELDSequence::Summarise() {
   const auto Measurement = CKELDMeasurement::Create();
   Attempt([&] { Required(Recorded).SetMeasurement(Measurement); });
   Attempt([&] { Measurement->AddValue(vValue, "", "", MKELDConstants::kLimitKey); });
-  Attempt([&] {
-    const bool fJudged = lMode != 1 && vValue != orvik::Variant(std::string());
-    // A summary that could not be judged keeps status 0: it never counts as passed.
-    const bool fFailed = fJudged && Measurement->FailsLimits(Limits(), SelectedStandards());
-    Measurement->SetStatus(fFailed ? MKELDConstants::kFailed : ChildrenStatus(*Summed));
-  });
+  const bool fHasLimits = lMode != 1 && vValue != orvik::Variant(std::string());
+  Attempt([&] { Measurement->SetStatus(SummaryStatus(*Measurement, fHasLimits)); });
   Attempt([&] { Required(Recorded).SetStatus(Measurement->Status()); });
   Attempt([&] {
     if (Required(Recorded).Status() == MKELDConstants::kNotTested) Required(BaseElement()).SetResult(nullptr);
   });
+}
+
+std::int32_t CKELDSequence::SummaryStatus(CKELDMeasurement& Summary, bool fHasLimits) const {
+  bool fFailed = false;
+  const bool fJudged = !fHasLimits || Attempt([&] { fFailed = FailsOwnLimits(Summary); });
+  if (fFailed) return MKELDConstants::kFailed;
+  const std::int32_t lChildren = ChildrenStatus(Required(mChildren));
+  // A summary that could not be judged never counts as passed, but a failed child fails it all the same.
+  return fJudged || lChildren == MKELDConstants::kFailed ? lChildren : MKELDConstants::kNotTested;
 }
 
 void CKELDSequence::IKELDTest_StopTest() {

@@ -129,7 +129,7 @@ void CKELDTestElement::RecordMeasurement(std::int16_t iTestNo) {
     Measurement->AddValue(Taken.rValue, Taken.sUnit, sDescription, MKELDConstants::kLimitKey);
     Measurement->SetDescription(sDescription);
     // A reading that could not be judged keeps status 0: it never counts as passed.
-    const bool fFailed = Measurement->FailsLimits(Limits(), SelectedStandards());
+    const bool fFailed = FailsOwnLimits(*Measurement);
     Measurement->SetStatus(fFailed ? MKELDConstants::kFailed : MKELDConstants::kPassed);
   });
   Attempt([&] { Required(Recorded).SetStatus(Measurement->Status()); });

@@ -1,4 +1,5 @@
 #include "platform/IListView.h"
+#include "tests/model/HostElements.h"
 #include "tests/model/ModelTest.h"
 
 // A sequence is performed: its children on one session, its summary, and what the operator does to it as a
@@ -117,6 +118,34 @@ TEST_F(CKELDSequenceRunTest, ASummaryThatCannotBeJudgedIsNotPassed) {
   controller->onTold = [this](const std::string& what) {
     if (what == "finished 413") controller->standards = nullptr;
   };
+  Perform(sequence);
+  EXPECT_EQ(ChildStatus(sequence), (Codes{1, 1, 1}));
+  EXPECT_FALSE(sequence->Result());
+}
+
+TEST_F(CKELDSequenceRunTest, AFailedChildFailsASummaryThatCannotBeJudged) {
+  const auto sequence = ThreeTests();
+  Configuration(sequence).SetValueFilter(3);
+  Limit(Container(sequence)->item(2), "", "10");
+  controller->onTold = [this](const std::string& what) {
+    if (what == "finished 413") controller->standards = nullptr;
+  };
+  Perform(sequence);
+  EXPECT_EQ(ChildStatus(sequence), (Codes{1, 2, 1}));
+  ASSERT_EQ(Status(sequence), 2);
+  EXPECT_EQ(sequence->Result()->Measurement(1)->Status(), 2);
+  EXPECT_EQ(sequence->Result()->ServiceRecord()->Code(), "F");
+}
+
+TEST_F(CKELDSequenceRunTest, ASummaryWhoseLimitsCannotBeReadIsNotPassed) {
+  const auto broken = std::make_shared<bool>(false);
+  support::RegisterUnlimitedElements(bench.Host(), broken);
+  const auto sequence = ThreeTests();
+  Configuration(sequence).SetValueFilter(3);
+  Perform(sequence);
+  ASSERT_EQ(Status(sequence), 1);
+  // The children are judged, then no limits can be read any more.
+  controller->onTold = [&](const std::string& what) { *broken = *broken || what == "finished 413"; };
   Perform(sequence);
   EXPECT_EQ(ChildStatus(sequence), (Codes{1, 1, 1}));
   EXPECT_FALSE(sequence->Result());

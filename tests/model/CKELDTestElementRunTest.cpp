@@ -1,4 +1,5 @@
 #include "platform/IForm.h"
+#include "tests/model/HostElements.h"
 #include "tests/model/ModelTest.h"
 
 // A single test is performed: what goes over the wire, what is recorded, what the run controller is told.
@@ -149,6 +150,33 @@ TEST_F(CKELDTestElementRunTest, AReadingThatCannotBeJudgedIsNotPassed) {
   AnswerResult("1,0,V");
   Perform(element);
   EXPECT_EQ(Status(element), 0);
+}
+
+TEST_F(CKELDTestElementRunTest, AReadingWhoseLimitsCannotBeReadIsNotPassed) {
+  const auto broken = std::make_shared<bool>(false);
+  support::RegisterUnlimitedElements(bench.Host(), broken);
+  const auto element = MakeTest(415);
+  Limit(element, "", "100");
+  for (const auto& [reading, sound] : {std::pair{"1,0,V", 1}, {"101,0,V", 2}}) {
+    AnswerResult(reading);
+    *broken = false;
+    Perform(element);
+    EXPECT_EQ(Status(element), sound);
+    *broken = true;
+    Perform(element);
+    EXPECT_EQ(Status(element), 0);
+    EXPECT_EQ(element->Result()->Measurement(1)->Status(), 0);
+    EXPECT_FALSE(element->Result()->ServiceRecord());
+  }
+  EXPECT_EQ(Value(element), "101") << "the reading is recorded all the same";
+}
+
+TEST_F(CKELDTestElementRunTest, WithoutLimitsThereIsNothingToFail) {
+  const auto element = MakeTest(415);
+  Base(element).SetLimits(nullptr);
+  AnswerResult("1,0,V");
+  Perform(element);
+  EXPECT_EQ(Status(element), 1);
 }
 
 TEST_F(CKELDTestElementRunTest, TheInstrumentRecordIsFilledAndItsNumberKept) {

@@ -16,6 +16,7 @@
 #include "OrvikTypeLib/ITestContainer.h"
 #include "OrvikTypeLib/ITestEnumerator.h"
 #include "host/Host.h"
+#include "host/elements/TestContainer.h"
 #include "host/elements/TestElement.h"
 
 /// Host elements that are watched or that fail, and limits that write down what they are told.
@@ -77,6 +78,62 @@ class Failing final : public bench::TestElement {
 inline void RegisterFailingElements(bench::Host& host) {
   host.Register(orvik::HostClasses::kTestElement,
                 [factory = std::weak_ptr(host.Elements())] { return std::make_shared<Failing>(factory); });
+}
+
+/// A base element whose limits cannot be read while the flag is set.
+class Unlimited : public bench::TestElement {
+ public:
+  Unlimited(std::weak_ptr<bench::ElementFactory> factory, std::shared_ptr<bool> broken)
+      : TestElement(std::move(factory)), broken_(std::move(broken)) {}
+
+ private:
+  void IBaseElement_SetLimits(std::shared_ptr<orvik::ILimitData> Limits) override {
+    limits_ = std::move(Limits);
+  }
+  std::shared_ptr<orvik::ILimitData> ITestElement_Limits() const override {
+    if (*broken_) throw orvik::HostError(5, "host", "no");
+    return limits_;
+  }
+
+  std::shared_ptr<bool> broken_;
+  std::shared_ptr<orvik::ILimitData> limits_;
+};
+
+/// The same with the children of a real container.
+class UnlimitedContainer final : public Unlimited, public orvik::ITestContainer {
+ public:
+  UnlimitedContainer(const std::weak_ptr<bench::ElementFactory>& factory, std::shared_ptr<bool> broken)
+      : Unlimited(factory, std::move(broken)), children_(std::make_shared<bench::TestContainer>(factory)) {}
+
+ private:
+  void ITestContainer_Add(std::shared_ptr<orvik::ITestElement> iteElement, const orvik::Variant& vBefore,
+                          const orvik::Variant& vAfter) override {
+    children_->Add(std::move(iteElement), vBefore, vAfter);
+  }
+  std::int32_t ITestContainer_Count() const override { return children_->Count(); }
+  std::shared_ptr<orvik::ITestElement> ITestContainer_item(std::int32_t lIndex) const override {
+    return children_->item(lIndex);
+  }
+  std::shared_ptr<orvik::ITestElement> ITestContainer_FindElement(std::int32_t lIdentifier) const override {
+    return children_->FindElement(lIdentifier);
+  }
+  std::shared_ptr<orvik::ITestEnumerator> ITestContainer_NewEnum() const override {
+    return children_->NewEnum();
+  }
+  void ITestContainer_Remove(std::shared_ptr<orvik::ITestElement> iteElement) override {
+    children_->Remove(std::move(iteElement));
+  }
+
+  std::shared_ptr<orvik::ITestContainer> children_;
+};
+
+/// From now on the host makes base elements whose limits cannot be read while the flag is set.
+inline void RegisterUnlimitedElements(bench::Host& host, const std::shared_ptr<bool>& broken) {
+  const std::weak_ptr<bench::ElementFactory> factory = host.Elements();
+  host.Register(orvik::HostClasses::kTestElement,
+                [factory, broken] { return std::make_shared<Unlimited>(factory, broken); });
+  host.Register(orvik::HostClasses::kTestContainer,
+                [factory, broken] { return std::make_shared<UnlimitedContainer>(factory, broken); });
 }
 
 /// Limits that write down who has their references updated.
