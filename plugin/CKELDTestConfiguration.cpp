@@ -97,17 +97,15 @@ std::shared_ptr<orvik::IDialog> CKELDTestConfiguration::IConfigData_CreateDialog
 
 bool CKELDTestConfiguration::IConfigData_HasDialog() const { return true; }
 
-// The host gives "Configuration", as to `Save`; the "PlugInData" inside it is understood as well. What is
-// missing or malformed leaves the setting as it was.
+// The host gives "Configuration", as to `Save`; the "PlugInData" inside it is understood as well. Options
+// that are missing or malformed stay as they were; a filter without a name has an unknown one, code 0.
 void CKELDTestConfiguration::IConfigData_Load(std::shared_ptr<orvik::IXmlNode> Node) {
   std::shared_ptr<orvik::IXmlNode> Saved;
   Attempt([&] { Saved = SavedConfiguration(Required(Node)); });
   if (!Saved) return;
   Attempt([&] { mlOptions = WholeNumber(Saved->Attribute(MXmlConstants::kOptions)).value_or(mlOptions); });
   Attempt([&] {
-    const std::string sValueFilter = Saved->Attribute(MXmlConstants::kValueFilter);
-    if (!sValueFilter.empty() || Saved->HasAttribute(MXmlConstants::kValueFilter))
-      mlValueFilter = ConfigurationTables::ValueFilterCode(sValueFilter);
+    mlValueFilter = ConfigurationTables::ValueFilterCode(Saved->Attribute(MXmlConstants::kValueFilter));
   });
 }
 

@@ -196,9 +196,20 @@ TEST_F(TestConfiguration, LoadsAnyWhole32BitNumber) {
   }
 }
 
-TEST_F(TestConfiguration, LeavesWhatTheRecordDoesNotNameAsItWas) {
+TEST_F(TestConfiguration, TakesAFilterWithoutANameForAnUnknownOne) {
+  for (const char* xml : {"<PlugInData><KELDConfig/></PlugInData>",
+                          "<PlugInData><KELDConfig ValueFilter=\"\"/></PlugInData>"}) {
+    const auto configuration = CKELDTestConfiguration::Create();
+    configuration->SetOptions(77);
+    configuration->SetValueFilter(3);
+    configuration->Load(Node(xml));
+    EXPECT_EQ(configuration->Options(), 77) << xml;
+    EXPECT_EQ(configuration->ValueFilter(), 0) << xml;
+  }
+}
+
+TEST_F(TestConfiguration, LeavesEverythingAsItWasWithoutARecord) {
   for (const char* xml : {"<Configuration/>", "<Configuration><PlugInData/></Configuration>",
-                          "<Configuration><PlugInData><KELDConfig/></PlugInData></Configuration>",
                           "<Configuration><keldconfig Options=\"1\" ValueFilter=\"x\"/></Configuration>"}) {
     const auto configuration = CKELDTestConfiguration::Create();
     configuration->SetOptions(77);
