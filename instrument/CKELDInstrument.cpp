@@ -104,10 +104,13 @@ void CKELDInstrument::DisconnectMTI() {
 void CKELDInstrument::AwaitRemote() {
   std::int32_t lWaiting = 0;
   bool fOpen = false;
-  WaitForMessage(lWaiting, fOpen);
-  for (; lWaiting > 0 && !fRemote; --lWaiting) {
+  while (!fRemote) {
+    WaitForMessage(lWaiting, fOpen);
+    if (lWaiting <= 0) break;
     const auto Reply = TakeMessage();
-    Attempt([&] { fRemote = Required(Reply).Mnemonic() == Commands::kRemoteEntered; });
+    // A library that cannot give its messages away would have one waiting for ever.
+    if (!Reply) break;
+    Attempt([&] { fRemote = Reply->Mnemonic() == Commands::kRemoteEntered; });
   }
   fRemoteAsked = false;
 }

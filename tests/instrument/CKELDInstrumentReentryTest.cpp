@@ -311,6 +311,52 @@ TEST(ReentryOrderTest, ASessionThatIsBeingEnteredIsWaitedForAndEnded) {
   EXPECT_EQ(link.Raised(), (Texts{"4 210", "2 0", "7 0"}));
 }
 
+TEST(ReentryOrderTest, StrayMessagesDoNotEndTheWaitForASessionThatIsBeingEntered) {
+  for (const Texts& stray : {Texts{"gres,410,0,1,0,Ohm"}, Texts{"stst", "erem", "ERRM,1003"}}) {
+    LinkBench link;
+    link.Link()->ConnectMTI();
+    link.Bench().Line().AnswerBy([&](const std::string& command) {
+      if (command == "IREM") link.Bench().Line().Reply("irem,KELD(IN),4711,1.05", milliseconds(1500));
+      if (command == "STST,210,0") link.Bench().Line().Reply("stst,210,0");
+      if (command == "EREM") link.Bench().Line().Reply("erem");
+    });
+    link.At(milliseconds(4000), [&] {
+      for (const auto& message : stray) link.Bench().Line().Reply(message);
+      link.Link()->DisconnectMTI();
+    });
+    link.Link()->RunMtiTest(410, 0);
+    EXPECT_EQ(link.Sent(), (Texts{"IREM", "STST,210,0", "EREM"}));
+    EXPECT_EQ(link.SentAt().back(), milliseconds(5000 + 7000));
+    EXPECT_EQ(link.Raised(), (Texts{"4 210", "2 0", "7 0"}));
+  }
+}
+
+TEST(ReentryOrderTest, AStreamOfStrayMessagesIsWaitedOutNoLongerThanTheTimeOut) {
+  LinkBench link;
+  link.Link()->ConnectMTI();
+  link.Script({});
+  link.At(milliseconds(4000), [&] {
+    for (int i = 0; i < 100; ++i) link.Bench().Line().Reply("stst", milliseconds(50 * i));
+    link.Link()->DisconnectMTI();
+  });
+  link.Link()->RunMtiTest(410, 0);
+  EXPECT_EQ(link.Elapsed(), milliseconds(5500));
+  EXPECT_EQ(link.Raised(), (Texts{"MessageSent 6 0 0", "7 0"}));
+}
+
+TEST(ReentryOrderTest, ACableUnpluggedEndsTheWaitForASessionThatIsBeingEntered) {
+  LinkBench link;
+  link.Link()->ConnectMTI();
+  link.Script({});
+  link.At(milliseconds(4000), [&] {
+    link.Bench().Line().Reply("stst");
+    link.At(milliseconds(500), [&] { link.Bench().Line().Unplug(); });
+    link.Link()->DisconnectMTI();
+  });
+  link.Link()->RunMtiTest(410, 0);
+  EXPECT_EQ(link.Elapsed(), milliseconds(4500));
+}
+
 TEST(ReentryOrderTest, ATesterThatNeverEnteredRemoteModeIsWaitedForNoLongerThanItsTimeOut) {
   LinkBench link;
   link.Link()->ConnectMTI();
