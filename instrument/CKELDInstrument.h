@@ -99,6 +99,8 @@ class CKELDInstrument final : public virtual orvik::IObject {
   /// Counts runs and disconnections; whoever finds another number than its own has been overtaken.
   std::uint32_t lTurn = 0;
   bool fDisconnecting = false;
+  /// Errors of the message pump since its last success.
+  int iPumpFailures = 0;
   /// "IREM" has been sent and is not answered yet.
   bool fRemoteAsked = false;
 

@@ -21,6 +21,9 @@ namespace {
 constexpr std::int16_t kPauseMilliseconds = 3500;
 constexpr std::int16_t kReplyMilliseconds = 2000;
 constexpr int kMaxAttempts = 3;
+/// An error in somebody's handler comes out of the pump, and the wait goes on; a pump that only fails does
+/// not wait.
+constexpr int kMaxPumpFailures = 100;
 /// The clock ends every wait; the pump is given a deadline that no pulse is beyond.
 constexpr std::chrono::milliseconds kBeyondPulse{kPauseMilliseconds};
 
@@ -98,13 +101,16 @@ void CKELDInstrument::WaitForMessage(std::int32_t& lWaiting, bool& fOpen) {
 }
 
 bool CKELDInstrument::Pump() {
-  // A clock that stands still, or a pump that fails, would be waited for in vain: the wait is over then.
-  return mfrmClock->Running() &&
-         Attempt([&] { Application->WaitMessages(Application->Now() + kBeyondPulse); });
+  // A clock that has stopped would be waited for in vain: the wait is over then.
+  if (!mfrmClock->Running()) return false;
+  const bool fPumped = Attempt([&] { Application->WaitMessages(Application->Now() + kBeyondPulse); });
+  iPumpFailures = fPumped ? 0 : iPumpFailures + 1;
+  return iPumpFailures < kMaxPumpFailures;
 }
 
 void CKELDInstrument::StartClock(std::int16_t iMilliseconds) {
   fClockPulsed = false;
+  iPumpFailures = 0;
   Attempt([&] { mfrmClock->StartClock(iMilliseconds); });
 }
 

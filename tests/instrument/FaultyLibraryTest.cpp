@@ -238,6 +238,53 @@ TEST_F(FaultyLibraryTest, AHandlerThatThrowsDoesNotBreakTheLink) {
   EXPECT_FALSE(link_.Bench().Tester().InRemoteMode());
 }
 
+TEST_F(FaultyLibraryTest, AMessageThatCannotBeTakenEndsTheWaitForASession) {
+  Link().ConnectMTI();
+  link_.Script({});
+  link_.At(milliseconds(4000), [&] {
+    faults_->failing = {"TakeMessage"};
+    link_.Bench().Line().Reply("stst");
+    Link().DisconnectMTI();
+  });
+  Link().RunMtiTest(410, 0);
+  EXPECT_EQ(link_.Elapsed(), milliseconds(4000));
+  EXPECT_FALSE(link_.Bench().Line().Line()->Connected());
+}
+
+TEST_F(FaultyLibraryTest, AnErrorInTheMessagePumpEndsNoPauseAndNoWait) {
+  // In the pause, while the reply is waited for, and several in a row.
+  for (const int errors : {1, 20}) {
+    LinkBench link;
+    link.Link()->ConnectMTI();
+    link.Bench().Line().AnswerBy([&](const std::string& command) {
+      if (command == "IREM") link.Bench().Line().Reply("irem,KELD(IN),4711,1.05", milliseconds(1500));
+    });
+    for (const int when : {1000, 4000}) {
+      link.At(milliseconds(when), [&] {
+        for (int i = 0; i < errors; ++i) link.Application().Post([] { throw 42; });
+      });
+    }
+    link.onResult = [](std::int32_t& state, std::int16_t) { state = CommsState::kInstrumentError; };
+    link.Link()->RunMtiTest(410, 0);
+    EXPECT_EQ(link.SentAt(), (std::vector{milliseconds(3500)})) << errors;
+    EXPECT_EQ(link.Raised(), (Texts{"GotMtiData", "3 0"})) << errors;
+    EXPECT_EQ(link.Elapsed(), milliseconds(5000)) << errors;
+  }
+}
+
+TEST_F(FaultyLibraryTest, AMessagePumpThatOnlyFailsEndsTheWaits) {
+  Link().ConnectMTI();
+  link_.Script({});
+  std::function<void()> fail = [&] {
+    link_.Application().Post(fail);
+    throw 42;
+  };
+  link_.At(milliseconds(1000), fail);
+  Link().RunMtiTest(410, 0);
+  EXPECT_EQ(link_.Raised(), (Texts{"7 0"}));
+  EXPECT_EQ(link_.Elapsed(), milliseconds(1000));
+}
+
 TEST_F(FaultyLibraryTest, AClockThatIsTakenAwayEndsTheWaits) {
   Link().ConnectMTI();
   link_.Script({});
