@@ -1,15 +1,14 @@
 #include "host/document/Document.h"
 
 #include <algorithm>
-#include <limits>
 #include <utility>
 #include <vector>
 
 #include "OrvikTypeLib/As.h"
 #include "OrvikTypeLib/HostClasses.h"
-#include "OrvikTypeLib/IPlugIn.h"
 #include "host/Host.h"
 #include "host/document/CutDocument.h"
+#include "host/document/RecordedIdentifiers.h"
 #include "host/document/SavedElements.h"
 #include "host/elements/ElementFactory.h"
 #include "host/elements/ElementTags.h"
@@ -35,6 +34,7 @@ constexpr char kAsset[] = "Asset";
 constexpr char kSerial[] = "Serial";
 constexpr char kMaker[] = "Maker";
 constexpr char kModel[] = "Model";
+constexpr char kComment[] = "Comment";
 constexpr char kStandardsNode[] = "Standards";
 constexpr char kInstrumentsNode[] = "Instruments";
 constexpr char kElements[] = "Elements";
@@ -170,10 +170,13 @@ void Document::LoadSections(const std::shared_ptr<pugi::xml_document>& xml, Save
   const auto equipped = root.child(kEquipment);
   equipment = {equipped.attribute(kAsset).value(), equipped.attribute(kSerial).value(),
                equipped.attribute(kMaker).value(), equipped.attribute(kModel).value()};
-  equipmentLeftovers_.Take(equipped, {kAsset, kSerial, kMaker, kModel}, {});
+  comment = equipped.attribute(kComment).value();
+  equipmentLeftovers_.Take(equipped, {kAsset, kSerial, kMaker, kModel, kComment}, {});
 
   if (const auto standards = root.child(kStandardsNode)) standards_->Load(Wrapped(xml, standards), nullptr);
   instruments_->Load(root.child(kInstrumentsNode));
+  highestRecordedId_ = HighestRecordedIdentifier(root);
+  highestId_ = highestRecordedId_;
 
   const auto elements = root.child(kElements);
   elementsLeftovers_.Take(elements, {}, {tags::kTestElement});
@@ -183,7 +186,7 @@ void Document::LoadSections(const std::shared_ptr<pugi::xml_document>& xml, Save
 void Document::LoadElements(const std::shared_ptr<pugi::xml_document>& xml, pugi::xml_node parent,
                             SavedElements& saved) {
   saved.Check(parent);
-  highestId_ = saved.HighestId();
+  highestId_ = std::max(saved.HighestId(), highestRecordedId_);
   elements_->LoadChildren(Wrapped(xml, parent));
 }
 
@@ -251,6 +254,7 @@ std::shared_ptr<pugi::xml_document> Document::Frame() const {
   xml::SetAttribute(saved, kSerial, equipment.serial);
   xml::SetAttribute(saved, kMaker, equipment.maker);
   xml::SetAttribute(saved, kModel, equipment.model);
+  if (!comment.empty()) xml::SetAttribute(saved, kComment, comment);
   equipmentLeftovers_.Restore(saved);
 
   standards_->Save(Wrapped(xml, root));
@@ -262,50 +266,6 @@ std::shared_ptr<pugi::xml_document> Document::Frame() const {
   rootLeftovers_.Restore(root);
   topLeftovers_.Restore(*xml);
   return xml;
-}
-
-std::shared_ptr<orvik::ITestElement> Document::AddTest(std::int32_t testId,
-                                                       const std::shared_ptr<orvik::ITestElement>& parent) {
-  const auto container = parent ? orvik::As<orvik::ITestContainer>(parent) : Elements();
-  if (!container)
-    RefuseDocument(Tr("element %%1 is no sequence; name one that is", {std::to_string(parent->ID())}));
-  auto added = FromCatalogue(testId);
-  RequireShallow(added);
-  GiveIdentifiers(added);
-  container->Add(added, {}, {});
-  // A plug-in's sequence may pass over an error of the container it wraps.
-  if (added->Parent() != orvik::As<orvik::ITestElement>(container))
-    RefuseDocument(
-        Tr("the test could not be added to element %%1", {std::to_string(parent ? parent->ID() : 0)}));
-  return added;
-}
-
-std::shared_ptr<orvik::ITestElement> Document::FromCatalogue(std::int32_t testId) const {
-  for (const auto& plugIn : host_->Elements()->PlugIns()) {
-    auto created = plugIn->CreateTest(testId);
-    if (created && created->TestID() == testId) return created;
-  }
-  RefuseDocument(
-      Tr("the catalogue has no test %%1; \"orvik-bench tests\" lists them", {std::to_string(testId)}));
-}
-
-void Document::GiveIdentifiers(const std::shared_ptr<orvik::ITestElement>& top) {
-  // Children wait in reverse order, so that identifiers are given in document order.
-  std::vector<std::shared_ptr<orvik::ITestElement>> waiting{top};
-  while (!waiting.empty()) {
-    const auto element = waiting.back();
-    waiting.pop_back();
-    if (highestId_ == std::numeric_limits<std::int32_t>::max())
-      RefuseDocument(Tr("the document has no identifiers left"));
-    element->SetID(++highestId_);
-    const auto container = orvik::As<orvik::ITestContainer>(element);
-    for (auto index = container ? container->Count() : 0; index > 0; --index)
-      waiting.push_back(container->item(index));
-  }
-}
-
-std::shared_ptr<orvik::ITestElement> Document::Find(std::int32_t id) const {
-  return elements_->FindElement(id);
 }
 
 }  // namespace bench

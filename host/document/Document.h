@@ -14,6 +14,7 @@
 #include "OrvikTypeLib/ITestContainer.h"
 #include "OrvikTypeLib/ITestElement.h"
 #include "host/document/DocumentFile.h"
+#include "host/document/ElementPlace.h"
 #include "host/services/Leftovers.h"
 
 namespace bench {
@@ -26,7 +27,7 @@ class TestContainer;
 /// A test document, an XML file:
 ///
 ///     <OrvikDocument Version="1">
-///       <Equipment Asset="..." Serial="..." Maker="..." Model="..."/>
+///       <Equipment Asset="..." Serial="..." Maker="..." Model="..." Comment="..."/>
 ///       <Standards>...</Standards>        the standards by which measurements are judged
 ///       <Instruments>...</Instruments>
 ///       <Elements><TestElement .../></Elements>
@@ -74,6 +75,9 @@ class Document {
 
   Equipment equipment;
 
+  /// A remark for people about the document. Not part of the equipment: changing it changes no result.
+  std::string comment;
+
   /// The standards by which measurements are judged.
   const std::shared_ptr<orvik::IStandardColl>& Standards() const { return standards_; }
   const std::shared_ptr<InstrumentColl>& Instruments() const { return instruments_; }
@@ -81,11 +85,24 @@ class Document {
   /// The top-level elements; itself it has the identifier 0.
   std::shared_ptr<orvik::ITestContainer> Elements() const;
 
-  /// Adds a copy of the catalogue's test at the end of the document, or of the sequence `parent`. It and all
-  /// below it get the next free identifiers in document order. `HostError` 5 when no opened plug-in has the
-  /// test.
+  /// Adds a copy of the catalogue's test. It and all below it get the next free identifiers in document
+  /// order; an identifier that a run's record names is never given again. `HostError` 5 when no opened
+  /// plug-in has the test, and for a place that cannot hold it.
+  std::shared_ptr<orvik::ITestElement> AddTest(std::int32_t testId, const ElementPlace& place);
+  /// At the end of the document, or of the sequence `parent`.
   std::shared_ptr<orvik::ITestElement> AddTest(std::int32_t testId,
                                                const std::shared_ptr<orvik::ITestElement>& parent = nullptr);
+
+  /// Adds what another document plans: its elements with their settings, limits and marks; no results and
+  /// nothing that a file says beside them. They get new identifiers, in document order.
+  void AddPlanOf(const Document& other);
+
+  /// Takes an element of this document, with all below it, to another place of it. `HostError` 5 for a place
+  /// inside or beside itself.
+  void Move(const std::shared_ptr<orvik::ITestElement>& element, const ElementPlace& place);
+
+  /// Removes an element of this document with all below it.
+  void Remove(const std::shared_ptr<orvik::ITestElement>& element);
 
   /// The element of that identifier at any depth, or empty.
   std::shared_ptr<orvik::ITestElement> Find(std::int32_t id) const;
@@ -105,6 +122,9 @@ class Document {
   std::shared_ptr<pugi::xml_document> Frame() const;
   std::shared_ptr<orvik::ITestElement> FromCatalogue(std::int32_t testId) const;
   void GiveIdentifiers(const std::shared_ptr<orvik::ITestElement>& top);
+  std::int32_t NextIdentifier();
+  void Put(const std::shared_ptr<orvik::ITestElement>& element, const ElementPlace& place);
+  void UpdateReferences() const;
 
   std::shared_ptr<Host> host_;
   DocumentFile file_;
@@ -112,6 +132,8 @@ class Document {
   std::shared_ptr<InstrumentColl> instruments_;
   std::shared_ptr<TestContainer> elements_;
   std::int32_t highestId_ = 0;
+  /// That a record of a run names: its element may be gone, its identifier is not given again.
+  std::int32_t highestRecordedId_ = 0;
   /// Of the text that was read or written last: the next one will be about as long.
   mutable std::size_t textSize_ = 0;
   std::optional<std::size_t> savedMark_;

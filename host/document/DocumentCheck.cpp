@@ -90,7 +90,7 @@ std::vector<Finding> CheckDocument(const std::string& text, ElementFactory& fact
   }
   CheckVersion(root, findings);
   CheckRoot(root, findings);
-  NoteUnknown(root.child("Equipment"), {"Asset", "Serial", "Maker", "Model"}, {}, findings);
+  NoteUnknown(root.child("Equipment"), {"Asset", "Serial", "Maker", "Model", "Comment"}, {}, findings);
   CheckStandards(root.child("Standards"), {}, findings);
   const auto testers = CheckInstruments(root.child("Instruments"), findings);
   ElementsCheck(factory, testers, findings).Look(root.child("Elements"), !fault.reason.empty());

@@ -108,7 +108,7 @@ TEST_F(DocumentTest, TestIsAddedToASequence) {
   const auto added = document->AddTest(110, group);
   EXPECT_EQ(added->Parent(), group);
   EXPECT_EQ(In(group)->Count(), 2);
-  EXPECT_TRUE(Holds(ErrorText([&] { document->AddTest(110, added); }), "is no sequence"));
+  EXPECT_TRUE(Holds(ErrorText([&] { document->AddTest(110, added); }), "is not a sequence"));
 }
 
 TEST_F(DocumentTest, UnknownTestIsNamed) {
