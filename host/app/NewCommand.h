@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "host/app/Command.h"
+#include "host/document/Document.h"
 
 namespace bench {
 
@@ -14,9 +15,12 @@ class NewCommand final : public Command {
   ExitStatus Run(const GlobalOptions& options) override;
 
  private:
+  void AddTests(Workbench& workbench, Document& document) const;
+
   std::string file_;
+  std::string from_;
   std::vector<std::int32_t> tests_;
-  std::string asset_, serial_, maker_, model_;
+  Document::Equipment equipment_;
 };
 
 }  // namespace bench

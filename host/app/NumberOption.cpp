@@ -32,7 +32,7 @@ std::string OneByOne(const CLI::Option& option, const std::vector<std::string>& 
   const auto name = option.get_name();
   std::string words;
   for (const auto& number : numbers) {
-    const bool named = words.empty() || !option.get_allow_extra_args();
+    const bool named = !option.get_positional() && (words.empty() || !option.get_allow_extra_args());
     if (!words.empty()) words += ' ';
     if (named) words.append(name).append(" ");
     words += number;

@@ -18,6 +18,10 @@
 #include "host/app/StandardsCommand.h"
 #include "host/app/TestsCommand.h"
 #include "host/app/archive/ArchiveCommand.h"
+#include "host/app/edit/AddCommand.h"
+#include "host/app/edit/EditCommand.h"
+#include "host/app/edit/MoveCommand.h"
+#include "host/app/edit/RemoveCommand.h"
 #include "host/app/help/CompletionCommand.h"
 #include "host/app/help/EmptyNames.h"
 #include "host/app/help/HelpFormat.h"
@@ -119,9 +123,10 @@ ExitStatus ParseAndRun(int argumentCount, const char* const* arguments) {
   program.formatter(std::make_shared<HelpFormat>());
   GlobalOptions options;
   DeclareGlobal(program, options);
-  const auto entries = Declare<TestsCommand, NewCommand, LimitCommand, StandardsCommand, CheckCommand,
-                               ConfigCommand, RunCommand, GuiCommand, ShowCommand, ReportCommand,
-                               CalibrateCommand, ArchiveCommand, CompletionCommand, ManualCommand>(program);
+  const auto entries =
+      Declare<TestsCommand, NewCommand, AddCommand, RemoveCommand, MoveCommand, EditCommand, LimitCommand,
+              StandardsCommand, CheckCommand, ConfigCommand, RunCommand, GuiCommand, ShowCommand,
+              ReportCommand, CalibrateCommand, ArchiveCommand, CompletionCommand, ManualCommand>(program);
   DeclareOwn(program);
   try {
     program.parse(argumentCount, arguments);

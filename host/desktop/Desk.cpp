@@ -13,7 +13,6 @@
 #include "host/app/report/DocumentReport.h"
 #include "host/app/report/ReportFile.h"
 #include "host/elements/ElementFactory.h"
-#include "host/run/ElementWalk.h"
 #include "host/run/SavedSettings.h"
 #include "host/services/Tr.h"
 
@@ -113,14 +112,7 @@ std::int32_t Desk::AddTests(const std::vector<std::int32_t>& testIds) {
   return last;
 }
 
-void Desk::Remove(std::int32_t id) {
-  const auto element = Found(id);
-  const auto container = orvik::As<orvik::ITestContainer>(element->Parent());
-  if (!container) throw InputError(Tr("element %%1 cannot be removed", {std::to_string(id)}));
-  container->Remove(element);
-  for (const auto& top : TopElements(*document_))
-    WalkElements(top, [](const Element& left) { left->UpdateReferences(); });
-}
+void Desk::Remove(std::int32_t id) { document_->Remove(Found(id)); }
 
 AppliedLimits Desk::ApplySet(const LimitSet& set, std::optional<std::int32_t> id) {
   const auto elements = id ? std::vector<Element>{Found(*id)} : TopElements(*document_);

@@ -1,12 +1,22 @@
 #include "host/app/help/Examples.h"
 
+#include "host/report/TextLines.h"
 #include "host/services/Tr.h"
 
 namespace bench {
 
-std::string Examples(const std::vector<std::string>& commandLines) {
+namespace {
+
+constexpr std::size_t kRemarkWidth = 100;
+
+}  // namespace
+
+std::string Examples(const std::vector<std::string>& commandLines, const std::string& remark) {
   auto text = Tr("Examples:");
   for (const auto& line : commandLines) text += "\n  " + line;
+  if (remark.empty()) return text;
+  text += "\n";
+  for (const auto& line : text::Wrapped(remark, kRemarkWidth)) text += "\n" + line;
   return text;
 }
 

@@ -6,6 +6,7 @@
 namespace bench {
 
 /// "Examples:" and below it the command lines, for the end of a command's help.
-std::string Examples(const std::vector<std::string>& commandLines);
+/// @param remark what else is to be known, in the chosen language; wrapped
+std::string Examples(const std::vector<std::string>& commandLines, const std::string& remark = {});
 
 }  // namespace bench

@@ -16,9 +16,11 @@ namespace {
 
 constexpr std::string_view kProfile = "[PROFILE]";
 constexpr std::string_view kSet = "SET";
+constexpr std::string_view kDocument = "DOCUMENT";
 constexpr std::string_view kFileOrAddress = "FILE|URL";
 constexpr std::array kFiles{std::string_view("FILE"),
                             kFileOrAddress,
+                            kDocument,
                             std::string_view("OUT"),
                             std::string_view("OUT.svg"),
                             std::string_view("LOG"),

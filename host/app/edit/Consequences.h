@@ -1,0 +1,42 @@
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <string>
+
+namespace bench {
+
+class Document;
+class Host;
+
+/// What a change of a document does to the results that counted before it. Every command that changes a
+/// document prints it, so that nobody learns it only from the report.
+class Consequences {
+ public:
+  /// Judges the document as it is before the change.
+  Consequences(const Document& document, Host& host);
+
+  /// Judges it again: a line for each element whose result no longer counts or counts as something else, with
+  /// the reasons, and one when the verdict of the document has changed. Empty when nothing has.
+  std::string Text() const;
+
+ private:
+  struct Verdict {
+    std::string name;     ///< of the element
+    std::string verdict;  ///< "passed", in English
+    bool counts = false;  ///< measured or decided, and nothing speaks against it
+    std::string reasons;  ///< for people; why it does not count, or which limits it exceeds
+  };
+  struct Judgement {
+    std::string outcome;  ///< of the document, in English
+    std::map<std::int32_t, Verdict> elements;
+  };
+
+  Judgement Now() const;
+
+  const Document& document_;
+  Host& host_;
+  Judgement before_;
+};
+
+}  // namespace bench

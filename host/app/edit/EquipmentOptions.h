@@ -1,0 +1,13 @@
+#pragma once
+
+#include <CLI/CLI.hpp>
+
+#include "host/document/Document.h"
+
+namespace bench {
+
+/// Adds --asset, --serial, --maker and --model to the command; they are read into `equipment`, which lives as
+/// long as the command.
+void AddEquipmentOptions(CLI::App& command, Document::Equipment& equipment);
+
+}  // namespace bench
