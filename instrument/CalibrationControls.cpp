@@ -7,7 +7,6 @@
 #include "platform/IContainerSite.h"
 #include "platform/IUserControl.h"
 #include "plugin/Attempt.h"
-#include "plugin/MKELDConstants.h"
 #include "plugin/MKELDGlobalVars.h"
 #include "plugin/MKELDLanguageConstants.h"
 
@@ -41,10 +40,6 @@ platform::Grid Layout() {
                 {"cmdSave", 8, 1},
                 {"cmdCancel", 8, 2}};
   return grid;
-}
-
-void SetToolTip(platform::IControl& control, const char* pcText) {
-  Attempt([&] { control.SetToolTip(MKELDGlobalVars::Translated(pcText)); });
 }
 
 }  // namespace
@@ -83,10 +78,10 @@ CalibrationControls CalibrationControls::AddTo(const std::shared_ptr<platform::I
   controls.cmdCancel = Form->AddButton("cmdCancel");
   controls.cmdCancel->SetCaption(Texts::kCancel);
 
-  Attempt([&] { MKELDGlobalVars::LanguageService()->TranslateControls(MKELDConstants::kModule, Form); });
-  SetToolTip(*controls.cmdCalibrate, Texts::kCalibrateToolTip);
-  SetToolTip(*controls.cmdSave, Texts::kSaveToolTip);
-  SetToolTip(*controls.cmdCancel, Texts::kCancelToolTip);
+  MKELDGlobalVars::TranslateCaptions(Form);
+  controls.cmdCalibrate->SetToolTip(MKELDGlobalVars::Shown(Texts::kCalibrateToolTip));
+  controls.cmdSave->SetToolTip(MKELDGlobalVars::Shown(Texts::kSaveToolTip));
+  controls.cmdCancel->SetToolTip(MKELDGlobalVars::Shown(Texts::kCancelToolTip));
   Form->SetGrid(grid);
   return controls;
 }

@@ -24,10 +24,6 @@ constexpr char kOhm[] = "Ohm";
 /// "IREM", "STST", "GRES", then "STST" and "EREM" to end the session.
 constexpr std::int32_t kProgressSteps = 5;
 
-std::string Shown(const char* pcText) {
-  return AttemptValue(std::string(pcText), [&] { return MKELDGlobalVars::Translated(pcText); });
-}
-
 }  // namespace
 
 std::shared_ptr<FCalibrateLeads> FCalibrateLeads::Create() {
@@ -153,7 +149,7 @@ void FCalibrateLeads::mVTI_ResultReceived(std::int32_t ecsCommsState, std::int16
   if (!Link || ecsCommsState != CommsState::kResultReceived || iTestNo != kLeadResistanceTest) return;
 
   if (orvik::TextOf(Link->MtiData(3)) == kOverloadMark) {
-    mControls.lblValue->SetCaption(Shown(Texts::kOverload));
+    mControls.lblValue->SetCaption(MKELDGlobalVars::Shown(Texts::kOverload));
     fValueValid = false;
     return;
   }
@@ -171,9 +167,13 @@ void FCalibrateLeads::mVTI_GotMtiData(const MtiDataArray& avData) {
   mControls.txtMTIType->SetText(orvik::TextOf(avData[0]));
 }
 
-void FCalibrateLeads::ShowStatus(const char* pcText) { mControls.lblStatus->SetCaption(Shown(pcText)); }
+void FCalibrateLeads::ShowStatus(const char* pcText) {
+  mControls.lblStatus->SetCaption(MKELDGlobalVars::Shown(pcText));
+}
 
-void FCalibrateLeads::ShowGuidance(const char* pcText) { mControls.lblHlpTxt->SetCaption(Shown(pcText)); }
+void FCalibrateLeads::ShowGuidance(const char* pcText) {
+  mControls.lblHlpTxt->SetCaption(MKELDGlobalVars::Shown(pcText));
+}
 
 void FCalibrateLeads::ShowProgress(std::int32_t lSteps) {
   lProgress = lSteps;

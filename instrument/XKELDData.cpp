@@ -8,7 +8,6 @@
 #include "platform/IPanel.h"
 #include "plugin/Attempt.h"
 #include "plugin/ClassIdentifiers.h"
-#include "plugin/MKELDConstants.h"
 #include "plugin/MKELDGlobalVars.h"
 #include "plugin/MKELDLanguageConstants.h"
 
@@ -40,7 +39,7 @@ void XKELDData::AttachTo(const std::shared_ptr<platform::IContainerSite>& site) 
   const auto panel = site->Panel();
   AddControls(*panel);
   panel->SetGrid(LabelsAndFields());
-  Attempt([&] { MKELDGlobalVars::LanguageService()->TranslateControls(MKELDConstants::kModule, panel); });
+  MKELDGlobalVars::TranslateCaptions(panel);
 
   // The control stays until its handler is done, whatever the serial number sets going.
   const auto Take = [this, Weak = weak_from_this()] {

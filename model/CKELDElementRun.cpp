@@ -97,13 +97,15 @@ void CKELDElement::SetLink(std::shared_ptr<CKELDInstrument> Instrument) { mVTI =
 bool CKELDElement::AskYesNo(const std::string& sText) {
   // A prompt that goes away without an answer is no consent.
   iYesNoAnswer = 2;
+  orvik::platform::Subscription Answered;
+  Attempt([&] { mfrmYesNoPrompt = FYesNoPrompt::Create(); });
   Attempt([&] {
-    mfrmYesNoPrompt = FYesNoPrompt::Create();
-    const auto Answered = mfrmYesNoPrompt->YesNoOption().Subscribe(
-        [this](std::int32_t lOption) { iYesNoAnswer = lOption == 1 ? 1 : 2; });
-    mfrmYesNoPrompt->SetPrompt(sText);
-    mfrmYesNoPrompt->ShowModal();
+    Answered = Required(mfrmYesNoPrompt).YesNoOption().Subscribe([this](std::int32_t lOption) {
+      iYesNoAnswer = lOption == 1 ? 1 : 2;
+    });
   });
+  Attempt([&] { Required(mfrmYesNoPrompt).SetPrompt(sText); });
+  Attempt([&] { Required(mfrmYesNoPrompt).ShowModal(); });
   Attempt([&] { Required(mfrmYesNoPrompt).Unload(); });
   mfrmYesNoPrompt.reset();
   return iYesNoAnswer == 1;

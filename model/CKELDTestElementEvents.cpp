@@ -1,5 +1,6 @@
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "OrvikTypeLib/As.h"
 #include "OrvikTypeLib/Conversions.h"
@@ -92,18 +93,16 @@ void CKELDTestElement::StoreInstrumentUpdate() {
 }
 
 void CKELDTestElement::ReportNoInstrument() {
-  const std::string sText = AttemptValue(
-      std::string(), [] { return MKELDGlobalVars::Translated(MKELDLanguageConstants::kNoInstrument); });
-  ReportFailure(sText, "CommsError");
+  ReportFailure(MKELDGlobalVars::Shown(MKELDLanguageConstants::kNoInstrument), "CommsError");
 }
 
 void CKELDTestElement::ReportTestNotSupported() {
-  const std::string sText = AttemptValue(std::string(), [&] {
+  std::vector<std::string> asTexts{"", ""};
+  Attempt([&] {
     const auto Texts = Information();
-    return MKELDGlobalVars::Translated(MKELDLanguageConstants::kTestNotSupported,
-                                       {Required(Texts).SecondText(), Texts->FirstText()});
+    asTexts = {Required(Texts).SecondText(), Texts->FirstText()};
   });
-  ReportFailure(sText, "CommsError");
+  ReportFailure(MKELDGlobalVars::Shown(MKELDLanguageConstants::kTestNotSupported, asTexts), "CommsError");
   RecordNotApplicable();
 }
 

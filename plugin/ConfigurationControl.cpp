@@ -9,7 +9,6 @@
 #include "platform/ITreeView.h"
 #include "plugin/Attempt.h"
 #include "plugin/CKELDTestConfiguration.h"
-#include "plugin/MKELDConstants.h"
 #include "plugin/MKELDGlobalVars.h"
 #include "plugin/MKELDLanguageConstants.h"
 
@@ -40,7 +39,7 @@ void ConfigurationControl::AttachTo(const std::shared_ptr<platform::IContainerSi
   grid.rows = {{}, {kTreeHeight, 1}};
   grid.cells = {{kTreeLabel, 0, 0}, {kTree, 1, 0}};
   AddControls(*panel, grid);
-  Attempt([&] { MKELDGlobalVars::LanguageService()->TranslateControls(MKELDConstants::kModule, panel); });
+  MKELDGlobalVars::TranslateCaptions(panel);
   panel->SetGrid(grid);
 
   // Whoever is told of the change may close the dialog: the control stays until the handler is done.
@@ -72,10 +71,8 @@ void ConfigurationControl::FillSettings() {
   if (!tvwSettings || !mOwner) return;
   tvwSettings->ClearNodes();
   for (const auto& option : ConfigurationTables::OptionsFor(mOwner->OwnerTestID())) {
-    std::string sCaption = option.sCaption;
-    Attempt([&] { sCaption = MKELDGlobalVars::Translated(option.sCaption); });
     const bool fChecked = (mOwner->Options() & option.lBit) != 0;
-    tvwSettings->AddNode(option.sKey, sCaption);
+    tvwSettings->AddNode(option.sKey, MKELDGlobalVars::Shown(option.sCaption));
     tvwSettings->SetChecked(option.sKey, fChecked);
     if (fChecked && ConfigurationTables::IsLead(option.sKey)) LeadShownChecked(option.sKey);
   }

@@ -8,7 +8,6 @@
 #include "platform/IUserControl.h"
 #include "plugin/Attempt.h"
 #include "plugin/ClassIdentifiers.h"
-#include "plugin/MKELDConstants.h"
 #include "plugin/MKELDGlobalVars.h"
 #include "plugin/MKELDLanguageConstants.h"
 
@@ -38,7 +37,7 @@ std::shared_ptr<FElementSetup> FElementSetup::Create() {
   Attempt([&] { Created->mForm = MKELDGlobalVars::Application()->CreateForm("FElementSetup"); });
   Attempt([&] {
     Required(Created->mForm).SetCaption(MKELDLanguageConstants::kPlugInName);
-    MKELDGlobalVars::LanguageService()->TranslateControls(MKELDConstants::kModule, Created->mForm);
+    MKELDGlobalVars::TranslateCaptions(Created->mForm);
   });
   Attempt([&] {
     const std::weak_ptr<FElementSetup> Weak = Created;

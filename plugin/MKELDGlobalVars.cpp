@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "OrvikTypeLib/HostClasses.h"
+#include "plugin/Attempt.h"
 #include "plugin/MKELDConstants.h"
 
 namespace keld::MKELDGlobalVars {
@@ -75,6 +76,14 @@ std::shared_ptr<orvik::IObject>& InstrumentDataSlot() { return Shared().Instrume
 
 std::string Translated(const std::string& sText, const std::vector<std::string>& asValues) {
   return LanguageService()->Translate(sText, MKELDConstants::kModule, asValues);
+}
+
+std::string Shown(const std::string& sText, const std::vector<std::string>& asValues) {
+  return AttemptValue(sText, [&] { return Translated(sText, asValues); });
+}
+
+void TranslateCaptions(const std::shared_ptr<orvik::platform::IPanel>& Controls) {
+  Attempt([&] { LanguageService()->TranslateControls(MKELDConstants::kModule, Controls); });
 }
 
 }  // namespace keld::MKELDGlobalVars

@@ -49,7 +49,14 @@ std::shared_ptr<Interface> CreateHostObject(const std::string& sClassID) {
   return Created;
 }
 
-/// The text to show for a language-string literal, with "%%1", "%%2" replaced by the values.
+/// The text to show for a language-string literal, with "%%1", "%%2" replaced by the values; the error of a
+/// language service that fails.
 std::string Translated(const std::string& sText, const std::vector<std::string>& asValues = {});
+
+/// The same on a window that must stay usable without a language service: the whole literal when it fails.
+std::string Shown(const std::string& sText, const std::vector<std::string>& asValues = {});
+
+/// Translates the captions of a form or user control; they stay literals when the language service fails.
+void TranslateCaptions(const std::shared_ptr<orvik::platform::IPanel>& Controls);
 
 }  // namespace keld::MKELDGlobalVars

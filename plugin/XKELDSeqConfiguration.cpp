@@ -3,7 +3,6 @@
 #include "OrvikTypeLib/As.h"
 #include "platform/Controls.h"
 #include "platform/IPanel.h"
-#include "plugin/Attempt.h"
 #include "plugin/CKELDTestConfiguration.h"
 #include "plugin/ClassIdentifiers.h"
 #include "plugin/MKELDGlobalVars.h"
@@ -32,11 +31,8 @@ void XKELDSeqConfiguration::AddControls(platform::IPanel& panel, platform::Grid&
   panel.AddLabel(kListLabel)->SetCaption(MKELDLanguageConstants::kAssign);
   const auto cmbAssign = panel.AddComboBox(kList);
   cmbAssign->SetEditable(false);
-  for (const char* sCaption : ConfigurationTables::ValueFilterCaptions()) {
-    std::string sItem = sCaption;
-    Attempt([&] { sItem = MKELDGlobalVars::Translated(sCaption); });
-    cmbAssign->AddItem(sItem);
-  }
+  for (const char* sCaption : ConfigurationTables::ValueFilterCaptions())
+    cmbAssign->AddItem(MKELDGlobalVars::Shown(sCaption));
   grid.rows.insert(grid.rows.end(), {{}, {}});
   grid.cells.push_back({kListLabel, 2, 0});
   grid.cells.push_back({kList, 3, 0});

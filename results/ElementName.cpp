@@ -13,7 +13,7 @@ std::string ElementName(const orvik::ITestElement& iteElement) {
   if (!pasInfo) return {};
   std::string sName;
   for (const std::string& sPart : *pasInfo) {
-    const std::string sText = MKELDGlobalVars::Translated(sPart);
+    const std::string sText = MKELDGlobalVars::Shown(sPart);
     if (!sName.empty() && !sText.empty()) sName += ' ';
     sName += sText;
   }

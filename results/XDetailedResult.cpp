@@ -53,7 +53,7 @@ void XDetailedResult::AttachTo(const std::shared_ptr<orvik::platform::IContainer
   lblTitle->SetCaption(MKELDLanguageConstants::kComment);
   txtComment = Panel->AddTextBox(kCommentName);
   txtComment->SetMultiLine(true);
-  MKELDGlobalVars::LanguageService()->TranslateControls(MKELDConstants::kModule, Panel);
+  MKELDGlobalVars::TranslateCaptions(Panel);
   Panel->SetGrid(BelowTitle());
   mResized = Panel->Resized().Subscribe([this] { PlaceTitle(); });
   PlaceTitle();

@@ -44,8 +44,8 @@ void FPretestPrompt::Listen() {
 void FPretestPrompt::SetPrompt(const std::string& sText, const std::string& sNewTag) {
   sTag = sNewTag;
   lblPrompt->SetCaption(sText);
-  mForm->SetCaption(MKELDGlobalVars::Translated(MKELDLanguageConstants::kPretestTitle));
-  cmdOK->SetCaption(MKELDGlobalVars::Translated(MKELDLanguageConstants::kOK));
+  mForm->SetCaption(MKELDGlobalVars::Shown(MKELDLanguageConstants::kPretestTitle));
+  cmdOK->SetCaption(MKELDGlobalVars::Shown(MKELDLanguageConstants::kOK));
   Load();
 }
 

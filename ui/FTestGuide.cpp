@@ -46,17 +46,22 @@ void FTestGuide::Load() {
     fBuilt = true;
     mWindow.Build();
     Listen();
-    mWindow.xtbToolbar->AddEntry(kCommandTools, kCommandCalibrate,
-                                 MKELDGlobalVars::Translated(MKELDLanguageConstants::kCalibrateEntry));
+    Attempt([&] {
+      Required(mWindow.xtbToolbar)
+          .AddEntry(kCommandTools, kCommandCalibrate,
+                    MKELDGlobalVars::Shown(MKELDLanguageConstants::kCalibrateEntry));
+    });
   }
   Window.Load();
 }
 
 void FTestGuide::Listen() {
   const auto Self = As<FTestGuide>(shared_from_this());
-  mWindow.xtbToolbar->Advise(Self);
-  mResultsMouseUp =
-      mWindow.xrvResultView->MouseUp().Subscribe(WhileAlive(Self, &FTestGuide::OnResultsMouseUp));
+  Attempt([&] { Required(mWindow.xtbToolbar).Advise(Self); });
+  Attempt([&] {
+    mResultsMouseUp =
+        Required(mWindow.xrvResultView).MouseUp().Subscribe(WhileAlive(Self, &FTestGuide::OnResultsMouseUp));
+  });
 }
 
 void FTestGuide::Initialize(std::shared_ptr<orvik::ITestElement> iteElement,
@@ -67,12 +72,12 @@ void FTestGuide::Initialize(std::shared_ptr<orvik::ITestElement> iteElement,
   fRanHere = false;
   Load();
   auto& Window = Required(mWindow.Form);
-  if (Window.Caption().empty())
-    Window.SetCaption(MKELDGlobalVars::Translated(MKELDLanguageConstants::kTestGuide));
-  Required(mWindow.xstShowMTI).SetTestElement(iteElement);
-  RefreshInstrumentData();
-  ShowGuidance();
-  SetButtons();
+  if (Window.Caption().empty()) Window.SetCaption(MKELDGlobalVars::Shown(MKELDLanguageConstants::kTestGuide));
+  // Step by step: a pane that fails must not take the buttons with it.
+  Attempt([&] { Required(mWindow.xstShowMTI).SetTestElement(iteElement); });
+  Attempt([&] { RefreshInstrumentData(); });
+  Attempt([&] { ShowGuidance(); });
+  Attempt([&] { SetButtons(); });
   Attempt([&] { SelectStandard(1); });
 }
 

@@ -139,7 +139,7 @@ void FTestGuide::SetButtons() {
 }
 
 void FTestGuide::SetStatusText(const char* sText) {
-  Required(mWindow.xtbToolbar).SetStatusText(MKELDGlobalVars::Translated(sText));
+  Required(mWindow.xtbToolbar).SetStatusText(MKELDGlobalVars::Shown(sText));
 }
 
 void FTestGuide::OnResultsMouseUp(int iButton, int, orvik::platform::Twips, orvik::platform::Twips) {

@@ -4,7 +4,6 @@
 #include "platform/IApplication.h"
 #include "platform/IForm.h"
 #include "plugin/Attempt.h"
-#include "plugin/MKELDConstants.h"
 #include "plugin/MKELDGlobalVars.h"
 #include "plugin/MKELDLanguageConstants.h"
 #include "ui/PromptLayout.h"
@@ -54,7 +53,7 @@ void FYesNoPrompt::Load() {
   lblPrompt->SetCaption(MKELDLanguageConstants::kEndTest);
   cmdAccept->SetCaption(MKELDLanguageConstants::kYes);
   cmdDecline->SetCaption(MKELDLanguageConstants::kNo);
-  MKELDGlobalVars::LanguageService()->TranslateControls(MKELDConstants::kModule, mForm);
+  MKELDGlobalVars::TranslateCaptions(mForm);
   fActivated = false;
   mForm->Load();
   // Return or the space bar alone must not give consent.
@@ -65,7 +64,7 @@ void FYesNoPrompt::Load() {
 void FYesNoPrompt::SetPrompt(const std::string& sText) {
   const auto Self = shared_from_this();
   Load();
-  lblPrompt->SetCaption(MKELDGlobalVars::Translated(sText));
+  lblPrompt->SetCaption(MKELDGlobalVars::Shown(sText));
 }
 
 void FYesNoPrompt::Show() {

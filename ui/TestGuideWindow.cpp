@@ -12,8 +12,8 @@
 #include "platform/IContainerSite.h"
 #include "platform/IForm.h"
 #include "platform/IUserControl.h"
+#include "plugin/Attempt.h"
 #include "plugin/ClassIdentifiers.h"
-#include "plugin/MKELDConstants.h"
 #include "plugin/MKELDGlobalVars.h"
 #include "plugin/MKELDLanguageConstants.h"
 #include "resources/Resources.h"
@@ -33,14 +33,11 @@ constexpr char kWizardName[] = "xtwWizard";
 constexpr char kInstrumentPaneName[] = "xstShowMTI";
 constexpr char kInstrumentTab[] = "tab:MtiData";
 
+/// The new control, or empty when the host has no such class.
 template <class View>
 std::shared_ptr<View> AddControl(platform::IForm& Form, const char* sClassID, const char* sName) {
-  const auto Site = Form.AddControl(sClassID, sName);
-  auto Control = As<View>(Required(Site).Object());
-  if (!Control)
-    throw orvik::HostError(orvik::HostError::kClassNotRegistered, MKELDConstants::kPlugInID,
-                           std::string("control class ") + sClassID + " is of another kind");
-  return Control;
+  return AttemptValue(std::shared_ptr<View>(),
+                      [&] { return As<View>(Required(Form.AddControl(sClassID, sName)).Object()); });
 }
 
 /// The tab's picture.
@@ -70,9 +67,14 @@ void TestGuideWindow::Build() {
   xrvResultView = AddControl<XKELDResultView>(Window, ClassIdentifiers::kResultView, kResultViewName);
   xstShowMTI =
       AddControl<orvik::ITgContentPane>(Window, orvik::HostClasses::kContentPane, kInstrumentPaneName);
-  Window.SetGrid(Layout());
-  xstShowMTI->AddTab(kInstrumentTab, MKELDGlobalVars::Translated(MKELDLanguageConstants::kMtiData),
-                     InstrumentPicture(), ClassIdentifiers::kDataControl);
+  platform::Grid Placed = Layout();
+  std::erase_if(Placed.cells, [&](const platform::Cell& Cell) { return !Window.Find(Cell.control); });
+  Attempt([&] { Window.SetGrid(Placed); });
+  Attempt([&] {
+    Required(xstShowMTI)
+        .AddTab(kInstrumentTab, MKELDGlobalVars::Shown(MKELDLanguageConstants::kMtiData), InstrumentPicture(),
+                ClassIdentifiers::kDataControl);
+  });
 }
 
 void TestGuideWindow::LockInstrumentData(bool fLocked) {

@@ -36,7 +36,8 @@ struct TestGuideWindow {
   std::shared_ptr<orvik::ITgContentPane> xtwWizard;
   std::shared_ptr<orvik::ITgContentPane> xstShowMTI;
 
-  /// Puts the controls on the form and places them. `HostError` when the host has no such control.
+  /// Puts the controls on the form and places them. A control that cannot be made stays empty: the others
+  /// must still let the operator act and leave.
   void Build();
   /// Keeps the operator from choosing another tester, or lets him again: its lead calibration would correct
   /// the readings of the one that is measuring.

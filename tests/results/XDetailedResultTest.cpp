@@ -1,7 +1,10 @@
+#include "OrvikTypeLib/IDialog.h"
+#include "OrvikTypeLib/IDialogForm.h"
 #include "platform/Controls.h"
 #include "results/XDetailedResult.h"
 #include "tests/results/ContainerProbe.h"
 #include "tests/results/Tools.h"
+#include "tests/support/FailingLanguage.h"
 
 namespace {
 
@@ -143,5 +146,43 @@ TEST_F(XDetailedResultTest, RefreshAndFocusReachTheControls) {
   control_->SetFocus();
   EXPECT_TRUE(comment_->HasFocus());
 }
+
+using support::LanguageFault;
+
+class ResultsWithoutLanguageTest : public results::ResultsTest,
+                                   public testing::WithParamInterface<LanguageFault> {
+ protected:
+  ResultsWithoutLanguageTest() { support::FailLanguage(host_.Host(), GetParam()); }
+};
+
+TEST_P(ResultsWithoutLanguageTest, TheDetailedResultIsShownAndClosed) {
+  const auto result = keld::CKELDResultData::Create();
+  result->SetComment("worn lead");
+  const auto dialog = result->CreateDialog();
+  ASSERT_TRUE(dialog);
+  const auto form = orvik::As<orvik::IDialogForm>(dialog)->Form();
+  form->Show();
+  const auto site = orvik::As<orvik::platform::IContainerSite>(form->Find("isc"));
+  ASSERT_TRUE(site);
+  EXPECT_EQ(site->Panel()->Find("lblTitle")->Caption(), "1708::Comment");
+  const auto comment = orvik::As<orvik::platform::ITextBox>(site->Panel()->Find("txtComment"));
+  EXPECT_EQ(comment->Text(), "worn lead");
+  EXPECT_TRUE(comment->Locked());
+  EXPECT_GT(comment->Bounds().width, 0);
+  form->Close();
+  EXPECT_TRUE(host_.Application().Forms().empty());
+}
+
+// Limits pass the host's errors on, to the letter; nothing must stay behind.
+TEST_P(ResultsWithoutLanguageTest, TheLimitDialogFailsWithoutLeavingAWindow) {
+  const auto element = Test(12);
+  EXPECT_ANY_THROW(element->Limits()->CreateDialog());
+  EXPECT_TRUE(host_.Application().Forms().empty());
+}
+
+INSTANTIATE_TEST_SUITE_P(Language, ResultsWithoutLanguageTest,
+                         testing::Values(LanguageFault::kRaisesHostError, LanguageFault::kRaisesAnythingElse,
+                                         LanguageFault::kIsMissing),
+                         [](const auto& tested) { return support::NameOf(tested.param); });
 
 }  // namespace
