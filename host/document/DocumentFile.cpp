@@ -3,12 +3,14 @@
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include <cerrno>
-#include <cstdio>
 #include <system_error>
+#include <utility>
 
+#include "host/services/FileErrors.h"
+#include "host/services/FreshFile.h"
+#include "host/services/Patience.h"
 #include "host/services/Tr.h"
 
 namespace bench {
@@ -17,27 +19,6 @@ namespace {
 constexpr int kOpenAttempts = 100;
 
 DocumentFile::Use constexpr kWrite = DocumentFile::Use::kWrite;
-
-std::filesystem::path Beside(const std::filesystem::path& file, const std::string& ending) {
-  auto beside = file;
-  beside += ending;
-  return beside;
-}
-
-/// Gives `fresh` the name `file`, which nobody else may have taken meanwhile.
-void MoveToNewName(const std::filesystem::path& fresh, const std::filesystem::path& file) {
-  if (renameat2(AT_FDCWD, fresh.c_str(), AT_FDCWD, file.c_str(), RENAME_NOREPLACE) == 0) return;
-  int error = errno;
-  // File systems that do not know the flag know links.
-  if (error == EINVAL || error == ENOSYS) {
-    error = link(fresh.c_str(), file.c_str()) == 0 ? 0 : errno;
-  }
-  unlink(fresh.c_str());
-  if (error == EEXIST)
-    ThrowFileError(file, Tr("%%1 is there already"), 0, Tr("choose another name, or remove the file first"));
-  if (error != 0)
-    ThrowFileError(file, Tr("%%1 cannot be created"), error, Tr("check the folder and your permissions"));
-}
 
 }  // namespace
 
@@ -61,12 +42,15 @@ DocumentFile DocumentFile::Existing(const std::filesystem::path& file, Use use) 
   if (error)
     ThrowFileError(file, Tr("%%1 cannot be opened"), error.value(),
                    Tr("check the name and your permissions"));
+  if (use == kWrite) RequireWritable(opened.path_);
   // Between opening and locking the file may be replaced by a new one: then that one is meant.
-  for (int attempt = 0; attempt < kOpenAttempts; ++attempt) {
-    if (opened.TryOpen(use)) return opened;
-  }
-  ThrowFileError(opened.path_, Tr("%%1 changes all the time"), 0,
-                 Tr("close the program that writes it and try again"));
+  return WaitUntilFree([&] {
+    for (int attempt = 0; attempt < kOpenAttempts; ++attempt) {
+      if (opened.TryOpen(use)) return std::move(opened);
+    }
+    ThrowFileBusy(opened.path_, Tr("%%1 changes all the time"),
+                  Tr("close the program that writes it and try again"));
+  });
 }
 
 bool DocumentFile::TryOpen(Use use) {
@@ -92,7 +76,7 @@ DocumentFile DocumentFile::New(const std::filesystem::path& file) {
 void DocumentFile::Lock(int descriptor) const {
   if (flock(descriptor, LOCK_EX | LOCK_NB) == 0) return;
   if (errno == EWOULDBLOCK)
-    ThrowFileError(path_, Tr("%%1 is open in another program"), 0, Tr("close it there and try again"));
+    ThrowFileBusy(path_, Tr("%%1 is open in another program"), Tr("close it there and try again"));
   ThrowFileError(path_, Tr("%%1 cannot be locked"), errno, Tr("keep documents on a local disk"));
 }
 
@@ -104,18 +88,19 @@ void DocumentFile::Write(std::string_view contents) {
   if (stamp_ && stamp_ != StampOf(path_))
     ThrowFileError(path_, Tr("%%1 was changed by another program since it was opened"), 0,
                    Tr("save under another name, and compare the two"));
-  // A new document is written beside the file of whoever else creates one of that name.
-  const auto fresh = Beside(path_, stamp_ ? ".new" : ".new." + std::to_string(getpid()));
-  auto written = WriteFreshFile(fresh, contents, FileMode(path_));
-  Lock(written.Get());
+  // Locked before it has its name: no other program can be faster.
   if (stamp_) {
-    MoveIntoPlace(fresh, path_);
+    RequireWritable(path_);
+    auto fresh = FreshFile::Beside(path_, contents, FileMode(path_));
+    Lock(fresh.Descriptor());
+    descriptor_ = std::move(fresh).Replace(path_);
   } else {
-    MoveToNewName(fresh, path_);
-    SyncFolderOf(path_);
+    auto fresh = FreshFile::ForNewName(path_, contents);
+    Lock(fresh.Descriptor());
+    descriptor_ = std::move(fresh).TakeNewName(path_);
   }
-  descriptor_ = std::move(written);
   stamp_ = StampOf(descriptor_.Get());
+  SyncFolderOf(path_);
 }
 
 }  // namespace bench

@@ -14,12 +14,12 @@ namespace bench {
 /// each new file that takes its place, so two programs never overwrite each other. Reading needs no lock,
 /// since a file is only ever replaced as a whole.
 ///
-/// All errors are `HostError` 75 naming the file.
+/// All errors are `HostError` 75 naming the file; `BusyError` when another program holds it.
 class DocumentFile {
  public:
   enum class Use { kRead, kWrite };
 
-  /// A file that is there. For writing it must not be open in another program.
+  /// A file that is there. For writing it must not be open in another program, nor write-protected.
   static DocumentFile Existing(const std::filesystem::path& file, Use use);
   /// A file that is created by the first write. Refused when it is there already.
   static DocumentFile New(const std::filesystem::path& file);
@@ -29,7 +29,7 @@ class DocumentFile {
   std::string Read() const;
 
   /// Replaces the content; a crash leaves the old or the new one. Refused when another program has changed
-  /// the file meanwhile.
+  /// the file meanwhile. When only the flush of the folder fails, the file has its new content all the same.
   void Write(std::string_view contents);
 
  private:

@@ -10,6 +10,7 @@
 #include <system_error>
 
 #include "OrvikTypeLib/Conversions.h"
+#include "host/services/FileErrors.h"
 #include "host/services/Files.h"
 #include "host/services/Text.h"
 #include "host/services/Tr.h"

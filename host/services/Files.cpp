@@ -10,26 +10,13 @@
 #include <thread>
 #include <vector>
 
-#include "OrvikTypeLib/HostError.h"
-#include "host/services/LanguageService.h"
+#include "host/services/FileErrors.h"
+#include "host/services/FreshFile.h"
 #include "host/services/LargeText.h"
-#include "host/services/SystemError.h"
+#include "host/services/Patience.h"
 #include "host/services/Tr.h"
 
 namespace bench {
-namespace {
-
-constexpr char kFilesSource[] = "orvik-bench";
-
-}  // namespace
-
-void ThrowFileError(const std::filesystem::path& file, const std::string& what, int error,
-                    const std::string& advice) {
-  const auto told = WithValues(what, {file.string()});
-  const auto text =
-      error == 0 ? Tr("%%1 (%%2)", {told, advice}) : Tr("%%1: %%2 (%%3)", {told, SystemError(error), advice});
-  throw orvik::HostError(orvik::HostError::kPathError, kFilesSource, text);
-}
 
 FileDescriptor& FileDescriptor::operator=(FileDescriptor&& other) noexcept {
   std::swap(descriptor_, other.descriptor_);
@@ -92,38 +79,21 @@ void SyncFolderOf(const std::filesystem::path& file) {
     ThrowFileError(folder, Tr("%%1 cannot be brought to the disk"), errno, Tr("check the disk"));
 }
 
-FileDescriptor WriteFreshFile(const std::filesystem::path& fresh, std::string_view contents,
-                              std::optional<mode_t> mode) {
-  FileDescriptor descriptor(open(fresh.c_str(), O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC, 0666));
-  if (!descriptor.Valid())
-    ThrowFileError(fresh, Tr("%%1 cannot be created"), errno, Tr("check the folder and your permissions"));
-  try {
-    if (ftruncate(descriptor.Get(), 0) != 0 || (mode && fchmod(descriptor.Get(), *mode) != 0))
-      ThrowFileError(fresh, Tr("%%1 cannot be written"), errno, Tr("check the disk"));
-    WriteDescriptor(descriptor.Get(), contents, fresh);
-    if (fsync(descriptor.Get()) != 0)
-      ThrowFileError(fresh, Tr("%%1 cannot be brought to the disk"), errno, Tr("check the disk"));
-  } catch (const orvik::HostError&) {
-    unlink(fresh.c_str());
-    throw;
-  }
-  return descriptor;
-}
-
-void MoveIntoPlace(const std::filesystem::path& fresh, const std::filesystem::path& file) {
-  if (rename(fresh.c_str(), file.c_str()) != 0) {
-    const int error = errno;
-    unlink(fresh.c_str());
-    ThrowFileError(file, Tr("%%1 cannot be replaced"), error, Tr("check the folder and your permissions"));
-  }
-  SyncFolderOf(file);
+void RequireWritable(const std::filesystem::path& file) {
+  const auto mode = FileMode(file);
+  if (!mode) return;
+  constexpr mode_t kAnybodyMayWrite = 0222;
+  // The superuser may write what nobody may: the bits say what was meant.
+  const bool meant = (*mode & kAnybodyMayWrite) != 0;
+  if (meant && faccessat(AT_FDCWD, file.c_str(), W_OK, AT_EACCESS) == 0) return;
+  ThrowFileError(file, Tr("%%1 is write-protected"), 0,
+                 Tr("allow writing, as by \"chmod u+w\", or use a copy"));
 }
 
 void ReplaceFile(const std::filesystem::path& file, std::string_view contents) {
-  std::filesystem::path fresh = file;
-  fresh += ".new";
-  WriteFreshFile(fresh, contents, FileMode(file));
-  MoveIntoPlace(fresh, file);
+  RequireWritable(file);
+  FreshFile::Beside(file, contents, FileMode(file)).Replace(file);
+  SyncFolderOf(file);
 }
 
 void CreateFolder(const std::filesystem::path& folder) {
@@ -139,14 +109,21 @@ FileLock::FileLock(const std::filesystem::path& lockFile, std::chrono::milliseco
   if (!descriptor_.Valid())
     ThrowFileError(lockFile, Tr("%%1 cannot be opened"), errno, Tr("check the folder and your permissions"));
   const auto deadline = std::chrono::steady_clock::now() + patience;
-  while (flock(descriptor_.Get(), LOCK_EX | LOCK_NB) != 0) {
-    if (errno != EWOULDBLOCK && errno != EINTR)
-      ThrowFileError(lockFile, Tr("%%1 cannot be locked"), errno, Tr("keep the folder on a local disk"));
-    if (std::chrono::steady_clock::now() >= deadline)
-      ThrowFileError(lockFile, Tr("%%1 is held by another program"), 0,
-                     Tr("close the other program and try again"));
-    std::this_thread::sleep_for(std::chrono::milliseconds(2));
-  }
+  WaitUntilFree([&] {
+    while (!TryLock(lockFile)) {
+      if (std::chrono::steady_clock::now() >= deadline)
+        ThrowFileBusy(lockFile, Tr("%%1 is held by another program"),
+                      Tr("close the other program and try again"));
+      std::this_thread::sleep_for(std::chrono::milliseconds(2));
+    }
+  });
+}
+
+bool FileLock::TryLock(const std::filesystem::path& lockFile) const {
+  if (flock(descriptor_.Get(), LOCK_EX | LOCK_NB) == 0) return true;
+  if (errno != EWOULDBLOCK && errno != EINTR)
+    ThrowFileError(lockFile, Tr("%%1 cannot be locked"), errno, Tr("keep the folder on a local disk"));
+  return false;
 }
 
 }  // namespace bench

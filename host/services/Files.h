@@ -45,21 +45,15 @@ void WriteDescriptor(int descriptor, std::string_view contents, const std::files
 /// The file's permission bits; none when it is not there.
 std::optional<mode_t> FileMode(const std::filesystem::path& file);
 
-/// Writes the contents into the new file `fresh`, on disk when the call returns. On an error nothing is left
-/// of it.
-/// @param mode permission bits of the file; none for the usual ones of a new file
-/// @return the new file, open
-FileDescriptor WriteFreshFile(const std::filesystem::path& fresh, std::string_view contents,
-                              std::optional<mode_t> mode);
+/// Refuses a write-protected file. Replacing one needs the permissions of its folder alone; who protects a
+/// file means that file. A file that is not there is not refused.
+void RequireWritable(const std::filesystem::path& file);
 
 /// Brings the folder in which the file stands to the disk, so that its name is there after a crash.
 void SyncFolderOf(const std::filesystem::path& file);
 
-/// Puts `fresh` in the place of `file`, on disk when the call returns: a crash leaves the one or the other.
-void MoveIntoPlace(const std::filesystem::path& fresh, const std::filesystem::path& file);
-
-/// Replaces the file by one with these contents, the way of the two above. Whoever calls it holds the lock
-/// that keeps others from doing the same.
+/// Replaces the file by one with these contents, on disk when the call returns: a crash leaves the old or the
+/// new one. The caller holds the lock that keeps others from doing the same.
 void ReplaceFile(const std::filesystem::path& file, std::string_view contents);
 
 /// Creates the folder and its parents.
@@ -68,20 +62,17 @@ void CreateFolder(const std::filesystem::path& folder);
 /// Holds a lock file for as long as it lives; a program that ends without letting go loses it too.
 class FileLock {
  public:
-  /// Waits until nobody else holds the lock, at most for `patience`; then `HostError` 75.
+  /// Waits until nobody else holds the lock, at most for `patience` and that of the program; then
+  /// `BusyError`.
   FileLock(const std::filesystem::path& lockFile, std::chrono::milliseconds patience);
 
  private:
+  bool TryLock(const std::filesystem::path& lockFile) const;
+
   FileDescriptor descriptor_;
 };
 
 /// How long the host waits for another program that is writing one of its files.
 inline constexpr std::chrono::milliseconds kLockPatience{2000};
-
-/// Throws `HostError` 75: the file, what was tried, the system's reason for `error` (0 for none), and what to
-/// do.
-/// @param what a translated sentence about the file, which is its "%%1": "%%1 cannot be opened"
-[[noreturn]] void ThrowFileError(const std::filesystem::path& file, const std::string& what, int error,
-                                 const std::string& advice);
 
 }  // namespace bench

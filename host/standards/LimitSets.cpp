@@ -4,6 +4,7 @@
 #include <system_error>
 
 #include "OrvikTypeLib/HostError.h"
+#include "host/services/FileErrors.h"
 #include "host/services/Files.h"
 #include "host/services/Tr.h"
 

@@ -1,4 +1,6 @@
 #include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -6,7 +8,11 @@
 #include <random>
 
 #include "host/document/DocumentFile.h"
+#include "host/services/FileErrors.h"
+#include "host/services/FreshFile.h"
+#include "tests/host/DiskCalls.h"
 #include "tests/host/Errors.h"
+#include "tests/host/InChild.h"
 #include "tests/host/TestFolder.h"
 #include "tests/support/Seed.h"
 
@@ -97,6 +103,104 @@ TEST(DocumentFile, LinkIsFollowed) {
 TEST(DocumentFile, MissingFileIsNamed) {
   EXPECT_TRUE(
       Holds(ErrorText([] { DocumentFile::Existing("/nowhere/a.orvik", Use::kRead); }), "/nowhere/a.orvik"));
+}
+
+TEST(DocumentFile, KeepsThePermissions) {
+  TestFolder folder;
+  const auto path = folder.Write("a.orvik", "old");
+  ASSERT_EQ(chmod(path.c_str(), 0600), 0);
+  DocumentFile::Existing(path, Use::kWrite).Write("new");
+  EXPECT_EQ(FileMode(path), mode_t{0600});
+}
+
+TEST(DocumentFile, RefusesAWriteProtectedFile) {
+  TestFolder folder;
+  const auto path = folder.Write("a.orvik", "old");
+  auto open = DocumentFile::Existing(path, Use::kWrite);
+  ASSERT_EQ(chmod(path.c_str(), 0444), 0);
+  EXPECT_TRUE(Holds(ErrorText([&] { open.Write("new"); }), path.string() + " is write-protected"));
+  open = DocumentFile();
+  EXPECT_TRUE(Holds(ErrorText([&] { DocumentFile::Existing(path, Use::kWrite); }), "is write-protected"));
+  EXPECT_EQ(DocumentFile::Existing(path, Use::kRead).Read(), "old");
+  EXPECT_EQ(folder.Read("a.orvik"), "old");
+  EXPECT_EQ(folder.Count(), 1U);
+}
+
+TEST(DocumentFile, SecondProgramIsToldToTryAgain) {
+  TestFolder folder;
+  const auto path = folder.Write("a.orvik", "old");
+  const auto first = DocumentFile::Existing(path, Use::kWrite);
+  EXPECT_THROW(DocumentFile::Existing(path, Use::kWrite), BusyError);
+}
+
+TEST(DocumentFile, OfProgramsThatCreateOneNameOneSucceeds) {
+  constexpr int kPrograms = 8;
+  TestFolder folder;
+  std::vector<pid_t> programs;
+  for (int number = 0; number < kPrograms; ++number)
+    programs.push_back(test::StartChild([&] {
+      auto file = DocumentFile::New(folder.Path() / "a.orvik");
+      file.Write(std::string(300'000, static_cast<char>('a' + number)));
+    }));
+  int succeeded = 0;
+  char winner = 0;
+  for (int number = 0; number < kPrograms; ++number) {
+    if (!test::ChildSucceeded(programs[static_cast<std::size_t>(number)])) continue;
+    ++succeeded;
+    winner = static_cast<char>('a' + number);
+  }
+  EXPECT_EQ(succeeded, 1);
+  EXPECT_EQ(folder.Read("a.orvik"), std::string(300'000, winner));
+  EXPECT_EQ(folder.Count(), 1U);
+}
+
+TEST(DocumentFile, NewFileHasNoNameUntilItIsComplete) {
+  TestFolder folder;
+  const auto fresh = FreshFile::ForNewName(folder.Path() / "a.orvik", "contents");
+  EXPECT_EQ(folder.Count(), 0U) << "a program that is killed now leaves nothing";
+}
+
+TEST(DocumentFile, NewFileWithAnEarlyNameIsGoneUnlessItGetsItsOwn) {
+  TestFolder folder;
+  const auto path = folder.Path() / "a.orvik";
+  const auto create = [&] { return FreshFile::ForNewName(path, "contents", FreshFile::Names::kEarly); };
+  {
+    const auto fresh = create();
+    EXPECT_EQ(folder.Count(), 1U);
+  }
+  EXPECT_EQ(folder.Count(), 0U);
+  create().TakeNewName(path);
+  EXPECT_EQ(folder.Read("a.orvik"), "contents");
+  EXPECT_TRUE(Holds(ErrorText([&] { create().TakeNewName(path); }), "is there already"));
+  EXPECT_EQ(folder.Count(), 1U);
+}
+
+// As on a full disk.
+TEST(DocumentFile, FailedWriteOfANewFileLeavesNothing) {
+  TestFolder folder;
+  EXPECT_TRUE(test::ChildSucceeded(test::StartChild([&] {
+    std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit limit{100, 100};
+    setrlimit(RLIMIT_FSIZE, &limit);
+    auto file = DocumentFile::New(folder.Path() / "a.orvik");
+    EXPECT_THROW(file.Write(std::string(100'000, 'x')), StorageError);
+  })));
+  EXPECT_EQ(folder.Count(), 0U);
+}
+
+TEST(DocumentFile, GoesOnAfterAFailedFlushOfTheFolder) {
+  TestFolder folder;
+  const auto path = folder.Write("a.orvik", "old");
+  auto file = DocumentFile::Existing(path, Use::kWrite);
+  {
+    const test::FoldersCannotBeFlushed broken;
+    EXPECT_THROW(file.Write("new"), StorageError);
+  }
+  EXPECT_EQ(folder.Read("a.orvik"), "new");
+  EXPECT_EQ(file.Read(), "new");
+  EXPECT_THROW(DocumentFile::Existing(path, Use::kWrite), BusyError) << "the lock has moved along";
+  EXPECT_EQ(ErrorText([&] { file.Write("newer"); }), "");
+  EXPECT_EQ(folder.Read("a.orvik"), "newer");
 }
 
 TEST(DocumentFile, ProgramKilledWhileItWritesLeavesTheOldOrTheNewFile) {

@@ -3,8 +3,10 @@
 #include <sys/stat.h>
 #include <sys/wait.h>
 
+#include <cerrno>
 #include <csignal>
 
+#include "host/services/FileErrors.h"
 #include "host/services/Files.h"
 #include "tests/host/Errors.h"
 #include "tests/host/TestFolder.h"
@@ -62,6 +64,26 @@ TEST(Files, FailedWriteLeavesTheOldContents) {
   EXPECT_EQ(folder.Count(), 1U);
 }
 
+TEST(Files, WriteProtectedFileIsNotReplaced) {
+  TestFolder folder;
+  const auto file = folder.Write("a.txt", "old");
+  chmod(file.c_str(), 0444);
+  EXPECT_TRUE(Holds(ErrorText([&] { ReplaceFile(file, "new"); }), "a.txt is write-protected"));
+  EXPECT_EQ(folder.Read("a.txt"), "old");
+  EXPECT_EQ(folder.Count(), 1U);
+}
+
+TEST(Files, MachinesErrorsAreToldFromWrongNames) {
+  for (const int error : {ENOSPC, EDQUOT, EFBIG, EIO, EMFILE})
+    EXPECT_THROW(ThrowFileError("f", "%%1 cannot be written", error, "x"), StorageError) << error;
+  for (const int error : {ENOENT, ENOTDIR, EACCES, EPERM, EROFS, EISDIR, 0}) {
+    const auto thrown = [error] { ThrowFileError("f", "%%1 cannot be written", error, "x"); };
+    EXPECT_THROW(
+        try { thrown(); } catch (const StorageError&){}, HostError)
+        << error;
+  }
+}
+
 TEST(Files, MissingFileAndFolderAreNamed) {
   EXPECT_TRUE(Holds(ErrorText([] { ReadFile("/nowhere/a.txt"); }), "/nowhere/a.txt"));
   EXPECT_TRUE(Holds(ErrorText([] { ReplaceFile("/nowhere/a.txt", "x"); }), "/nowhere/a.txt"));
@@ -82,6 +104,7 @@ TEST(Files, LockIsRefusedWhileAnotherHoldsIt) {
   {
     const FileLock held(file, kLockPatience);
     EXPECT_TRUE(Holds(ErrorText([&] { FileLock(file, std::chrono::milliseconds(0)); }), "held by another"));
+    EXPECT_THROW(FileLock(file, std::chrono::milliseconds(0)), BusyError);
   }
   EXPECT_EQ(ErrorText([&] { FileLock(file, std::chrono::milliseconds(0)); }), "");
 }

@@ -1,0 +1,50 @@
+#include "host/services/FileErrors.h"
+
+#include <cerrno>
+
+#include "host/services/LanguageService.h"
+#include "host/services/SystemError.h"
+#include "host/services/Tr.h"
+
+namespace bench {
+namespace {
+
+constexpr char kFilesSource[] = "orvik-bench";
+
+/// Whether the error is the machine's state and not the choice of the file.
+bool IsOfTheMachine(int error) {
+  switch (error) {
+    case ENOSPC:
+    case EDQUOT:
+    case EFBIG:
+    case EIO:
+    case EMFILE:
+    case ENFILE:
+    case ENOMEM:
+      return true;
+    default:
+      return false;
+  }
+}
+
+template <class Error>
+[[noreturn]] void Throw(const std::string& text) {
+  throw Error(orvik::HostError::kPathError, kFilesSource, text);
+}
+
+}  // namespace
+
+void ThrowFileError(const std::filesystem::path& file, const std::string& what, int error,
+                    const std::string& advice) {
+  const auto told = WithValues(what, {file.string()});
+  if (error == 0) Throw<orvik::HostError>(Tr("%%1 (%%2)", {told, advice}));
+  const auto text = Tr("%%1: %%2 (%%3)", {told, SystemError(error), advice});
+  if (IsOfTheMachine(error)) Throw<StorageError>(text);
+  Throw<orvik::HostError>(text);
+}
+
+void ThrowFileBusy(const std::filesystem::path& file, const std::string& what, const std::string& advice) {
+  Throw<BusyError>(Tr("%%1 (%%2)", {WithValues(what, {file.string()}), advice}));
+}
+
+}  // namespace bench
