@@ -30,7 +30,8 @@ class Host final : public orvik::IHost {
   using Factory = std::function<std::shared_ptr<orvik::IObject>()>;
 
   struct Settings {
-    /// Where registry and error log live; created when it is needed.
+    /// Where registry and error log live; created when it is needed. Empty for none: settings cannot be
+    /// saved.
     std::filesystem::path stateFolder;
     /// Language of texts, for example "da"; empty for English.
     std::string language;

@@ -51,7 +51,7 @@ CLI::App* CheckCommand::Declare(CLI::App& program) {
 
 ExitStatus CheckCommand::Run(const GlobalOptions& options) {
   const auto text = ReadFile(file_);
-  Workbench workbench(options);
+  Workbench workbench(options, Workbench::Settings::kIfReadable);
   auto findings = CheckDocument(text, *workbench.Host()->Elements());
   if (WrongOnes(findings) == 0) {
     // Whatever keeps the document from being opened is wrong with it.

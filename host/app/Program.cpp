@@ -1,5 +1,7 @@
 #include "host/app/Program.h"
 
+#include <chrono>
+#include <csignal>
 #include <iostream>
 #include <memory>
 #include <utility>
@@ -14,6 +16,7 @@
 #include "host/app/InputError.h"
 #include "host/app/LimitCommand.h"
 #include "host/app/NewCommand.h"
+#include "host/app/NumberOption.h"
 #include "host/app/ShowCommand.h"
 #include "host/app/StandardsCommand.h"
 #include "host/app/TestsCommand.h"
@@ -30,6 +33,8 @@
 #include "host/app/help/ProgramLanguage.h"
 #include "host/app/report/ReportCommand.h"
 #include "host/app/run/RunCommand.h"
+#include "host/services/FileErrors.h"
+#include "host/services/Patience.h"
 #include "host/services/Tr.h"
 
 namespace bench {
@@ -62,6 +67,11 @@ void DeclareGlobal(CLI::App& program, GlobalOptions& options) {
       .add_option("--lang", options.language,
                   Tr("Language of texts, such as de; otherwise that of ORVIK_LANG or the locale"))
       ->type_name("L");
+  WholeNumbers(
+      program.add_option("--wait", options.wait,
+                         Tr("Wait so long in all for a document, settings, an archive or a port that another "
+                            "program uses; otherwise 0")))
+      ->type_name("SECONDS");
   program.set_version_flag("--version", "orvik-bench " ORVIK_VERSION, Tr("Show the version"));
   program.require_subcommand(0, 1);  // a missing one is told below: an unknown one is then told as such
 }
@@ -69,14 +79,15 @@ void DeclareGlobal(CLI::App& program, GlobalOptions& options) {
 /// What the commands must not have of the program: they take over what is there when they are declared.
 void DeclareOwn(CLI::App& program) {
   program.set_help_all_flag("--help-all", Tr("Show the options of all commands"));
-  program.footer(Tr("Exit status: 0 passed or done, 1 something failed its limits, 2 something was not "
-                    "completed,\n3 bad input, 4 internal error.") +
-                 "\n\n" + Tr("Example:") +
-                 "\n"
-                 "  orvik-bench new pump.orvik --add 1700\n"
-                 "  orvik-bench limit pump.orvik --element 5 --standard \"IEC 62353\" --high 300\n"
-                 "  orvik-bench run pump.orvik --port /dev/ttyUSB0\n"
-                 "  orvik-bench run pump.orvik --simulate sound-class-1 --time-scale 100");
+  program.footer(
+      Tr("Exit status: 0 passed or done, 1 something failed its limits, 2 something was not "
+         "completed\nor not written, 3 bad input, 4 internal error, 5 in use by another program.") +
+      "\n\n" + Tr("Example:") +
+      "\n"
+      "  orvik-bench new pump.orvik --add 1700\n"
+      "  orvik-bench limit pump.orvik --element 5 --standard \"IEC 62353\" --high 300\n"
+      "  orvik-bench run pump.orvik --port /dev/ttyUSB0\n"
+      "  orvik-bench run pump.orvik --simulate sound-class-1 --time-scale 100");
 }
 
 ExitStatus Tell(ExitStatus status, const std::string& text) {
@@ -99,6 +110,17 @@ ExitStatus RunChosen(const std::vector<Entry>& entries, const GlobalOptions& opt
     return Written(entry.command->Run(options));
   }
   throw InputError(Tr("a command is needed; \"orvik-bench --help\" shows those there are"));
+}
+
+void WaitAsAsked(std::int32_t seconds) {
+  if (seconds < 0)
+    throw InputError(Tr("--wait %%1: give a number of seconds from 0", {std::to_string(seconds)}));
+  Patience::Set(std::chrono::seconds(seconds), [seconds](const std::string& reason) {
+    std::cout << std::flush;
+    std::cerr << "orvik-bench: "
+              << Tr("%%1; waiting, at most %%2 s (Ctrl-C gives up)", {reason, std::to_string(seconds)})
+              << std::endl;
+  });
 }
 
 /// Errors of the host about files, arguments and classes come from what was given on the command line.
@@ -139,18 +161,25 @@ ExitStatus ParseAndRun(int argumentCount, const char* const* arguments) {
   }
   RefuseEmptyNames(program);
   options.language = language;
+  WaitAsAsked(options.wait);
   return RunChosen(entries, options);
 }
 
 }  // namespace
 
 ExitStatus RunProgram(int argumentCount, const char* const* arguments) {
+  // A file that gets too large is an error like a full disk, and no reason to end at once.
+  std::signal(SIGXFSZ, SIG_IGN);
   try {
     return ParseAndRun(argumentCount, arguments);
   } catch (const InputError& error) {
     return Tell(ExitStatus::kBadInput, error.what());
   } catch (const IncompleteError& error) {
     return Tell(ExitStatus::kIncomplete, error.what());
+  } catch (const BusyError& error) {
+    return Tell(ExitStatus::kBusy, error.Description());
+  } catch (const StorageError& error) {
+    return Tell(ExitStatus::kIncomplete, error.Description());
   } catch (const orvik::HostError& error) {
     return Tell(StatusOf(error), error.Description());
   } catch (const std::exception& error) {

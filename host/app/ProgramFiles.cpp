@@ -34,19 +34,26 @@ std::filesystem::path Translations() { return Prefix() / "share" / "orvik" / "tr
 std::filesystem::path ShippedStandards() { return Prefix() / "share" / "orvik" / "standards"; }
 
 std::vector<std::filesystem::path> StandardsFolders(const std::string& stateOption) {
-  return {ShippedStandards(), StateFolder(stateOption) / "standards"};
+  std::vector<std::filesystem::path> folders{ShippedStandards()};
+  if (const auto state = FindStateFolder(stateOption)) folders.push_back(*state / "standards");
+  return folders;
 }
 
 std::filesystem::path Simulator() { return Prefix() / "bin" / "keld-sim"; }
 
-std::filesystem::path StateFolder(const std::string& option) {
-  if (!option.empty()) return option;
-  if (const auto own = Environment("ORVIK_STATE"); !own.empty()) return own;
+std::optional<std::filesystem::path> FindStateFolder(const std::string& option) {
+  if (!option.empty()) return std::filesystem::path(option);
+  if (const std::filesystem::path own = Environment("ORVIK_STATE"); !own.empty()) return own;
   // The XDG rules have a relative path ignored.
   if (const std::filesystem::path xdg = Environment("XDG_STATE_HOME"); xdg.is_absolute())
     return xdg / "orvik";
   if (const auto home = Environment("HOME"); !home.empty())
     return std::filesystem::path(home) / ".local" / "state" / "orvik";
+  return {};
+}
+
+std::filesystem::path StateFolder(const std::string& option) {
+  if (auto folder = FindStateFolder(option)) return *std::move(folder);
   throw InputError(
       Tr("there is no place for settings: neither ORVIK_STATE, XDG_STATE_HOME nor HOME is set; name a folder "
          "with --state"));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -21,13 +22,15 @@ std::filesystem::path Translations();
 /// PREFIX/share/orvik/standards
 std::filesystem::path ShippedStandards();
 /// Where sets of limits lie: the shipped ones, and the folder "standards" of the state folder for own ones.
-/// @param stateOption --state, as for `StateFolder`
+/// @param stateOption --state, as for `FindStateFolder`
 std::vector<std::filesystem::path> StandardsFolders(const std::string& stateOption);
 /// PREFIX/bin/keld-sim
 std::filesystem::path Simulator();
 
 /// Where registry and error log live: `option` (--state) when it is not empty, else ORVIK_STATE, else the
-/// folder "orvik" of the XDG state directory. `InputError` when there is none of them.
+/// folder "orvik" of the XDG state directory. None when the environment names none of them.
+std::optional<std::filesystem::path> FindStateFolder(const std::string& option);
+/// The same, for what cannot do without: `InputError` when there is none.
 std::filesystem::path StateFolder(const std::string& option);
 
 }  // namespace bench::files

@@ -24,7 +24,7 @@ CLI::App* ShowCommand::Declare(CLI::App& program) {
 }
 
 ExitStatus ShowCommand::Run(const GlobalOptions& options) {
-  Workbench workbench(options);
+  Workbench workbench(options, Workbench::Settings::kIfReadable);
   const auto document = Document::Open(workbench.Host(), file_, DocumentFile::Use::kRead);
   auto standards = document->Standards();
   if (standards->Count() == 0) standards = NamedStandards(*document, *workbench.Host());

@@ -7,6 +7,8 @@
 #include "host/app/InputError.h"
 #include "host/app/TextColumns.h"
 #include "host/serial/SerialDevice.h"
+#include "host/services/FileErrors.h"
+#include "host/services/Patience.h"
 #include "host/services/Tr.h"
 
 namespace bench {
@@ -24,11 +26,14 @@ std::string InField(const std::string& field, const std::exception& error) {
 
 void Probe(const TesterChoice& choice) {
   try {
-    const SerialDevice device(choice.port, ParseLineSettings(kLineSettings));
-    if (choice.timeScale != 1.0 && !device.IsPseudoTerminal())
+    const auto settings = ParseLineSettings(kLineSettings);
+    const auto device = WaitUntilFree([&] { return std::make_unique<SerialDevice>(choice.port, settings); });
+    if (choice.timeScale != 1.0 && !device->IsPseudoTerminal())
       throw InputError(
           Tr("%%1 is a real serial line; a real tester needs its pauses whole, without --time-scale",
              {choice.port}));
+  } catch (const BusyError&) {
+    throw;
   } catch (const orvik::HostError& error) {
     if (error.Number() == orvik::HostError::kPathError) throw InputError(error.Description());
     throw IncompleteError(error.Description());
@@ -44,6 +49,8 @@ TesterConnection::TesterConnection(const TesterChoice& choice, PortManager& port
     throw InputError(InField(choice.field, error));
   } catch (const IncompleteError& error) {
     throw IncompleteError(InField(choice.field, error));
+  } catch (const BusyError& error) {
+    throw BusyError(error.Number(), error.Source(), InField(choice.field, error));
   }
 }
 

@@ -21,7 +21,8 @@ struct TesterChoice {
 class TesterConnection {
  public:
   /// Starts the simulated tester, or sees to it that the device can be opened. `InputError` for a device that
-  /// is not there or is none; `IncompleteError` for one that cannot be had now. Both name the field.
+  /// is not there or is none; `IncompleteError` for one that cannot be had now, `BusyError` when another
+  /// program holds it. All name the field.
   TesterConnection(const TesterChoice& choice, PortManager& ports);
 
  private:

@@ -43,7 +43,7 @@ CLI::App* TestsCommand::Declare(CLI::App& program) {
 }
 
 ExitStatus TestsCommand::Run(const GlobalOptions& options) {
-  Workbench workbench(options);
+  Workbench workbench(options, Workbench::Settings::kIfReadable);
   const auto entries = CatalogueEntries(workbench);
   if (entries.empty())
     throw InputError(Tr(

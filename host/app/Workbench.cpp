@@ -1,12 +1,17 @@
 #include "host/app/Workbench.h"
 
+#include <iostream>
+
 #include "OrvikTypeLib/HostClasses.h"
+#include "OrvikTypeLib/HostError.h"
 #include "host/app/CatalogueFile.h"
 #include "host/app/InputError.h"
 #include "host/app/ProgramFiles.h"
 #include "host/controls/RegisterControls.h"
 #include "host/serial/CommApplication.h"
+#include "host/services/ErrorLog.h"
 #include "host/services/RegistryStore.h"
+#include "host/services/Tr.h"
 
 namespace bench {
 
@@ -18,7 +23,7 @@ constexpr char kCatalogueValue[] = "Configuration";
 
 Host::Settings SettingsOf(const GlobalOptions& options) {
   Host::Settings settings;
-  settings.stateFolder = files::StateFolder(options.state);
+  settings.stateFolder = files::FindStateFolder(options.state).value_or("");
   settings.language = options.language;
   if (!options.catalogue.empty()) settings.catalogue = ReadCatalogue(options.catalogue);
   if (std::filesystem::is_directory(files::Translations()))
@@ -28,7 +33,7 @@ Host::Settings SettingsOf(const GlobalOptions& options) {
 
 }  // namespace
 
-Workbench::Workbench(const GlobalOptions& options, double timeScale)
+Workbench::Workbench(const GlobalOptions& options, double timeScale, Settings settings)
     : timeScale_(timeScale),
       application_(std::make_shared<headless::Application>(ClockKind::kReal, timeScale)),
       ports_(std::make_shared<PortManager>(application_, DeviceOpener(application_))),
@@ -37,7 +42,7 @@ Workbench::Workbench(const GlobalOptions& options, double timeScale)
   ConnectControls(*application_, *host_);
   const auto comm = std::make_shared<CommApplication>(ports_);
   host_->Register(orvik::HostClasses::kCommApplication, [comm] { return comm; });
-  SeedCatalogue();
+  ProvideCatalogue(settings);
   try {
     plugIn_ = host_->OpenPlugIn(files::PlugInLibrary());
   } catch (...) {
@@ -49,12 +54,27 @@ Workbench::Workbench(const GlobalOptions& options, double timeScale)
 Workbench::~Workbench() {
   plugIn_.reset();
   host_->Close();
+  if (const auto& failure = host_->Log()->Failure(); !failure.empty())
+    std::cerr << "orvik-bench: " << Tr("the error log could not be written: %%1", {failure}) << "\n";
 }
 
-void Workbench::SeedCatalogue() {
-  auto& registry = *host_->Registry();
-  if (!orvik::IsEmpty(registry.Read(kHive, kSettingsKey, kCatalogueValue))) return;
-  registry.Write(kHive, kSettingsKey, kCatalogueValue, ReadCatalogue(files::Catalogue()));
+/// Without a catalogue in the settings the shipped one is used.
+void Workbench::ProvideCatalogue(Settings settings) {
+  if (!HasOwnCatalogue(settings))
+    host_->Registry()->StandIn(kHive, kSettingsKey, kCatalogueValue, ReadCatalogue(files::Catalogue()));
+}
+
+bool Workbench::HasOwnCatalogue(Settings settings) const {
+  try {
+    return !orvik::IsEmpty(host_->Registry()->Read(kHive, kSettingsKey, kCatalogueValue));
+  } catch (const orvik::HostError& error) {
+    if (settings == Settings::kNeeded) throw;
+    std::cerr << "orvik-bench: "
+              << Tr("the settings are left aside, and the shipped catalogue is used: %%1",
+                    {error.Description()})
+              << "\n";
+    return false;
+  }
 }
 
 }  // namespace bench

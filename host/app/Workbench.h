@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <string>
 
@@ -15,13 +16,21 @@ struct GlobalOptions {
   std::string state;
   std::string catalogue;
   std::string language;
+  std::int32_t wait = 0;  ///< seconds in all for what another program holds
 };
 
 /// The host without a screen, with its serial library and the plug-in opened.
 class Workbench {
  public:
+  /// Whether the saved settings must be readable. What only looks at documents does without them; a run does
+  /// not, since the resistance of the test leads is among them.
+  enum class Settings { kNeeded, kIfReadable };
+
   /// @param timeScale how many times faster than the wall all pauses and time-outs pass
-  explicit Workbench(const GlobalOptions& options, double timeScale = 1.0);
+  /// @throws HostError when the settings are needed and cannot be read
+  explicit Workbench(const GlobalOptions& options, double timeScale = 1.0,
+                     Settings settings = Settings::kNeeded);
+  Workbench(const GlobalOptions& options, Settings settings) : Workbench(options, 1.0, settings) {}
   Workbench(const Workbench&) = delete;
   Workbench& operator=(const Workbench&) = delete;
   ~Workbench();
@@ -33,7 +42,8 @@ class Workbench {
   double TimeScale() const { return timeScale_; }
 
  private:
-  void SeedCatalogue();
+  void ProvideCatalogue(Settings settings);
+  bool HasOwnCatalogue(Settings settings) const;
 
   const double timeScale_;
   const std::shared_ptr<headless::Application> application_;

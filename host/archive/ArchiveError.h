@@ -11,6 +11,7 @@ class ArchiveError : public std::runtime_error {
  public:
   enum class Kind {
     kUnreachable,  ///< the server, the folder, the permission, the room on the disk is missing
+    kBusy,         ///< another program is using it
     kBadInput      ///< what was named is no archive, is damaged, or is of a newer version
   };
 

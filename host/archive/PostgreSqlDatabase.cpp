@@ -10,6 +10,7 @@
 #include "host/archive/PostgreSqlUrl.h"
 #include "host/archive/PostgreSqlValues.h"
 #include "host/archive/PqLibrary.h"
+#include "host/services/Patience.h"
 #include "host/services/Text.h"
 #include "host/services/Tr.h"
 
@@ -160,7 +161,7 @@ class PostgreSqlDatabase::Connection {
     if (code.empty()) FailLost();
     if (code == "55P03")
       throw ArchiveError(
-          Kind::kUnreachable,
+          Kind::kBusy,
           Tr("the archive %%1 is in use by another program (try again when that has ended)", {name_}));
     if (code == "42501")
       throw ArchiveError(Kind::kUnreachable,
@@ -189,7 +190,7 @@ class PostgreSqlDatabase::Connection {
 
 PostgreSqlDatabase::PostgreSqlDatabase(const std::string& url)
     : name_(ShownUrl(url)), connection_(std::make_unique<Connection>(url, name_)) {
-  Run("SET lock_timeout = '15s'", {});
+  Run("SET lock_timeout = '5s'", {});
   Run("SET statement_timeout = '50s'", {});
 }
 
@@ -204,9 +205,21 @@ void PostgreSqlDatabase::Begin(Use use) {
     Run("BEGIN ISOLATION LEVEL REPEATABLE READ READ ONLY", {});
     return;
   }
+  while (!TakeTurn()) continue;
+}
+
+/// False when another program writes, and it is worth trying again.
+bool PostgreSqlDatabase::TakeTurn() {
   // Each statement sees what was committed before it, so what follows the lock sees all earlier writers.
   Run("BEGIN ISOLATION LEVEL READ COMMITTED", {});
-  Run(kTakeTurn, {});
+  try {
+    Run(kTakeTurn, {});
+  } catch (const ArchiveError& error) {
+    Rollback();
+    if (error.Why() != Kind::kBusy || !Patience::WaitsFor(error.what())) throw;
+    return false;
+  }
+  return true;
 }
 
 void PostgreSqlDatabase::Commit() { Run("COMMIT", {}); }

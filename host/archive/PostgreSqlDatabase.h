@@ -28,6 +28,8 @@ class PostgreSqlDatabase final : public Database {
  private:
   class Connection;
 
+  bool TakeTurn();
+
   std::string name_;
   std::unique_ptr<Connection> connection_;
 };

@@ -5,6 +5,7 @@
 #include "OrvikTypeLib/HostError.h"
 #include "host/archive/ArchiveError.h"
 #include "host/services/Files.h"
+#include "host/services/Patience.h"
 #include "host/services/Tr.h"
 
 namespace bench {
@@ -80,7 +81,7 @@ SqliteDatabase::SqliteDatabase(const std::filesystem::path& file, Missing missin
   std::error_code error;
   const bool there = std::filesystem::exists(file, error);
   if (!there && !error && missing == Missing::kRefuse)
-    throw ArchiveError(Kind::kUnreachable,
+    throw ArchiveError(Kind::kBadInput,
                        Tr("there is no archive %%1; \"orvik-bench archive add\" creates it", {name_}));
   if (!there && !error) CreateFolderOf(file);
   sqlite3* opened = nullptr;
@@ -90,7 +91,7 @@ SqliteDatabase::SqliteDatabase(const std::filesystem::path& file, Missing missin
   const int code = sqlite3_open_v2(path.c_str(), &opened, flags, nullptr);
   database_.reset(opened);
   if (code != SQLITE_OK) Fail(code);
-  sqlite3_busy_timeout(opened, kPatienceMilliseconds);
+  sqlite3_busy_handler(opened, &SqliteDatabase::OnBusy, this);
   // The rollback journal, not the write-ahead log: the archive is one file, which can be copied while nobody
   // writes, and may lie on a network drive. With "extra" the journal's removal is on disk too.
   Run("PRAGMA synchronous = EXTRA", {});
@@ -129,6 +130,19 @@ bool SqliteDatabase::HasTable(const std::string& name) {
 
 bool SqliteDatabase::TakesNewArchive() { return Run("SELECT name FROM sqlite_master LIMIT 1", {}).empty(); }
 
+/// Whether to try again what another program has kept from being done, after so many attempts.
+int SqliteDatabase::OnBusy(void* database, int attempts) {
+  constexpr int kPauseMilliseconds = 10;
+  if (attempts >= kPatienceMilliseconds / kPauseMilliseconds)
+    return Patience::WaitsFor(static_cast<const SqliteDatabase*>(database)->BusyText()) ? 1 : 0;
+  sqlite3_sleep(kPauseMilliseconds);
+  return 1;
+}
+
+std::string SqliteDatabase::BusyText() const {
+  return Tr("the archive %%1 is in use by another program (try again when that has ended)", {name_});
+}
+
 void SqliteDatabase::Check(int code) const {
   if (code != SQLITE_OK) Fail(code);
 }
@@ -144,9 +158,7 @@ void SqliteDatabase::Fail(int code) const {
                             {name_, reason}));
     case SQLITE_BUSY:
     case SQLITE_LOCKED:
-      throw ArchiveError(
-          Kind::kUnreachable,
-          Tr("the archive %%1 is in use by another program (try again when that has ended)", {name_}));
+      throw ArchiveError(Kind::kBusy, BusyText());
     case SQLITE_CANTOPEN:
     case SQLITE_READONLY:
     case SQLITE_PERM:

@@ -12,12 +12,13 @@ struct sqlite3;
 namespace bench {
 
 /// An SQLite file. What was committed is on the disk; a program that is killed, or a power cut, leaves the
-/// state before or after a transaction. Another program that is writing is waited for, up to `kPatience`.
+/// state before or after a transaction. Another program that is writing is waited for, up to
+/// `kPatienceMilliseconds` and then as long as this program's `Patience` lasts.
 class SqliteDatabase final : public Database {
  public:
   enum class Missing { kCreate, kRefuse };
 
-  static constexpr int kPatienceMilliseconds = 15000;
+  static constexpr int kPatienceMilliseconds = 5000;
 
   /// @param missing what to do when the file is not there; with its folder, it is created
   SqliteDatabase(const std::filesystem::path& file, Missing missing);
@@ -35,6 +36,8 @@ class SqliteDatabase final : public Database {
     void operator()(sqlite3* database) const;
   };
 
+  static int OnBusy(void* database, int attempts);
+  std::string BusyText() const;
   void Check(int code) const;
   [[noreturn]] void Fail(int code) const;
 

@@ -4,6 +4,7 @@
 #include "host/app/InputError.h"
 #include "host/desktop/DesktopModule.h"
 #include "host/desktop/DesktopProgram.h"
+#include "host/services/FileErrors.h"
 
 namespace {
 
@@ -38,6 +39,12 @@ __attribute__((visibility("default"))) Ending OrvikRunDesktop(const bench::Deskt
     return Ending::kBadInput;
   } catch (const bench::IncompleteError& error) {
     reason = error.what();
+    return Ending::kNotPossible;
+  } catch (const bench::BusyError& error) {
+    reason = error.Description();
+    return Ending::kBusy;
+  } catch (const bench::StorageError& error) {
+    reason = error.Description();
     return Ending::kNotPossible;
   } catch (const orvik::HostError& error) {
     reason = error.Description();

@@ -5,6 +5,7 @@
 #include <stdexcept>
 
 #include "host/app/InputError.h"
+#include "host/services/FileErrors.h"
 #include "host/services/Tr.h"
 
 namespace bench {
@@ -44,6 +45,8 @@ bool RunDesktopModule(const DesktopOptions& options, const std::filesystem::path
       throw InputError(reason);
     case desktop::Ending::kNotPossible:
       throw IncompleteError(reason);
+    case desktop::Ending::kBusy:
+      throw BusyError(orvik::HostError::kPathError, "orvik-bench", reason);
     case desktop::Ending::kInternalError:
       break;
   }

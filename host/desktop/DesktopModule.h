@@ -35,6 +35,7 @@ enum class Ending {
   kLeftOver,      ///< a run was stopped, or changes were not saved
   kBadInput,      ///< the reason says why
   kNotPossible,   ///< the same
+  kBusy,          ///< the same
   kInternalError  ///< the same
 };
 

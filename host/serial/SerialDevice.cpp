@@ -12,6 +12,7 @@
 
 #include "OrvikTypeLib/HostError.h"
 #include "host/serial/LineMode.h"
+#include "host/services/FileErrors.h"
 #include "host/services/SystemError.h"
 #include "host/services/Tr.h"
 
@@ -19,11 +20,12 @@ namespace bench {
 
 namespace {
 
+constexpr char kSerialSource[] = "OrvikComm.PortManager";
 constexpr int kWriteTimeoutMs = 500;
 
 /// `number` 75: this is no serial device; 57: it is one, and cannot be had now.
 [[noreturn]] void Fail(std::int32_t number, const std::string& path, const std::string& reason) {
-  throw orvik::HostError(number, "OrvikComm.PortManager", Tr("serial device %%1: %%2", {path, reason}));
+  throw orvik::HostError(number, kSerialSource, Tr("serial device %%1: %%2", {path, reason}));
 }
 
 [[noreturn]] void FailToOpen(const std::string& path, int error) {
@@ -43,8 +45,9 @@ constexpr int kWriteTimeoutMs = 500;
            Tr("no permission to use it; add your account to the device's group (often \"dialout\") and log "
               "in anew"));
     case EBUSY:
-      Fail(orvik::HostError::kDeviceError, path,
-           Tr("is held by another program; close that program and try again"));
+      throw BusyError(orvik::HostError::kDeviceError, kSerialSource,
+                      Tr("serial device %%1: %%2",
+                         {path, Tr("is held by another program; close that program and try again")}));
     default:
       Fail(orvik::HostError::kDeviceError, path, Tr("cannot be opened: %%1", {SystemError(error)}));
   }

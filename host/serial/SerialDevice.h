@@ -12,8 +12,8 @@ namespace bench {
 class SerialDevice {
  public:
   /// Opens the device and throws away what had come in before. `HostError` naming the device and what to do:
-  /// 75 when it does not exist or is no serial device, 57 when it may not be used, is held by another
-  /// program, or does not take the settings.
+  /// 75 when it does not exist or is no serial device, 57 when it may not be used, does not take the
+  /// settings, or, as `BusyError`, is held by another program.
   ///
   /// A pseudo-terminal has no parity: that it drops the parity bit is no failure.
   SerialDevice(std::string path, const LineSettings& settings);

@@ -4,18 +4,31 @@
 #include <sys/stat.h>
 #include <time.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <utility>
 
 #include "OrvikTypeLib/HostError.h"
 #include "host/serial/Latin1.h"
+#include "host/services/FileErrors.h"
 #include "host/services/SystemError.h"
 #include "host/services/Tr.h"
 
 namespace bench {
 
 namespace {
+
+constexpr char kWireLogSource[] = "orvik";
+
+/// How a line begins: a digit for each 9.
+constexpr std::string_view kBeginOfLine = "9999-99-99T99:99:99.999999Z ";
+
+bool BeginsLine(std::string_view text) {
+  return std::equal(
+      text.begin(), text.end(), kBeginOfLine.begin(), kBeginOfLine.end(),
+      [](char c, char expected) { return expected == '9' ? c >= '0' && c <= '9' : c == expected; });
+}
 
 std::string_view DirectionOf(WireRecord::Kind kind) {
   switch (kind) {
@@ -33,6 +46,17 @@ std::string_view DirectionOf(WireRecord::Kind kind) {
   return "note";
 }
 
+/// Whether the file has contents that do not begin as a wire log does. Pipes and devices have none.
+bool HoldsAnythingElse(const std::string& path) {
+  const UniqueFd file(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
+  struct stat status {};
+  if (!file || fstat(file.Get(), &status) != 0 || !S_ISREG(status.st_mode) || status.st_size == 0)
+    return false;
+  char begin[kBeginOfLine.size() + 1]{};
+  const ssize_t count = read(file.Get(), begin, kBeginOfLine.size());
+  return !BeginsLine({begin, count > 0 ? static_cast<std::size_t>(count) : 0});
+}
+
 std::string UtcNow() {
   timespec now{};
   clock_gettime(CLOCK_REALTIME, &now);
@@ -48,12 +72,19 @@ std::string UtcNow() {
 }  // namespace
 
 WireLog::WireLog(std::string path, std::uint64_t maxBytes) : path_(std::move(path)), maxBytes_(maxBytes) {
-  Open();
-  if (!file_)
-    throw orvik::HostError(
-        orvik::HostError::kPathError, "orvik",
-        Tr("wire log %%1: cannot be written: %%2; name a file that you may write to with --wire-log",
-           {path_, failure_}));
+  if (HoldsAnythingElse(path_))
+    throw orvik::HostError(orvik::HostError::kPathError, kWireLogSource,
+                           Tr("wire log %%1: holds something else and was left as it is; name a new file, or "
+                              "an earlier wire log, "
+                              "with --wire-log",
+                              {path_}));
+  const int error = Open();
+  if (error == 0) return;
+  const auto text =
+      Tr("wire log %%1: cannot be written: %%2; name a file that you may write to with --wire-log",
+         {path_, failure_});
+  if (IsErrorOfMachine(error)) throw StorageError(orvik::HostError::kPathError, kWireLogSource, text);
+  throw orvik::HostError(orvik::HostError::kPathError, kWireLogSource, text);
 }
 
 void WireLog::Write(const WireRecord& record) {
@@ -75,29 +106,39 @@ void WireLog::WriteLine(std::string_view direction, std::string_view bytes) {
     if (count < 0 && errno == EINTR) continue;
     if (count < 0) {
       failure_ = SystemError(errno);
+      // A part of a line would be taken for another file's content by the next run.
+      [[maybe_unused]] const int cut = ftruncate(file_.Get(), static_cast<off_t>(size_));
       file_.Reset();
       return;
     }
     rest.remove_prefix(static_cast<std::size_t>(count));
-    size_ += static_cast<std::uint64_t>(count);
   }
+  size_ += line.size();
 }
 
-void WireLog::Open() {
+/// Opens the file; the system's error, or 0.
+int WireLog::Open() {
   // Not blocking: the name may be that of a pipe that nobody reads.
   file_ =
       UniqueFd(open(path_.c_str(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC | O_NONBLOCK | O_NOCTTY, 0644));
   if (!file_) {
-    failure_ = SystemError(errno);
-    return;
+    const int error = errno;
+    failure_ = SystemError(error);
+    return error;
   }
   struct stat status {};
   size_ = fstat(file_.Get(), &status) == 0 ? static_cast<std::uint64_t>(status.st_size) : 0;
+  return 0;
 }
 
 void WireLog::Rotate() {
   file_.Reset();
-  if (std::rename(path_.c_str(), (path_ + ".1").c_str()) != 0) {
+  const auto older = path_ + ".1";
+  if (HoldsAnythingElse(older)) {
+    failure_ = Tr("%%1 is in its way and is not a wire log", {older});
+    return;
+  }
+  if (std::rename(path_.c_str(), older.c_str()) != 0) {
     failure_ = SystemError(errno);
     return;
   }

@@ -13,12 +13,13 @@ namespace bench {
 ///
 /// TIME is UTC to the microsecond; DIRECTION is "sent", "recv", "lost" (a dropped line) or "note". Later runs
 /// add to the file. Once it is larger than `maxBytes` it becomes FILE.1, in the place of an older one, and a
-/// new one is begun.
+/// new one is begun; a FILE.1 that is not a wire log stays, and the log ends there.
 class WireLog {
  public:
   static constexpr std::uint64_t kMaxBytes = 4 * 1024 * 1024;
 
-  /// `HostError` 75 naming the file when it cannot be opened for writing.
+  /// `HostError` 75 naming the file when it cannot be opened for writing, or holds anything else than a wire
+  /// log; it is left as it is then.
   explicit WireLog(std::string path, std::uint64_t maxBytes = kMaxBytes);
 
   /// Writes one record. A log that cannot be written does not disturb the run: `Failure` tells.
@@ -32,7 +33,7 @@ class WireLog {
 
  private:
   void WriteLine(std::string_view direction, std::string_view bytes);
-  void Open();
+  int Open();
   void Rotate();
 
   const std::string path_;

@@ -10,6 +10,7 @@
 #include <system_error>
 
 #include "OrvikTypeLib/Conversions.h"
+#include "OrvikTypeLib/HostError.h"
 #include "host/services/FileErrors.h"
 #include "host/services/Files.h"
 #include "host/services/Text.h"
@@ -73,19 +74,24 @@ std::filesystem::path Numbered(const std::filesystem::path& file, int number) {
 }  // namespace
 
 ErrorLog::ErrorLog(const std::filesystem::path& folder, std::uintmax_t limit, Clock clock)
-    : file_(folder / "error.log"), limit_(limit), clock_(std::move(clock)) {}
+    : file_(folder.empty() ? folder : folder / "error.log"), limit_(limit), clock_(std::move(clock)) {}
 
 void ErrorLog::IErrorLog_LogEntry(const std::string& sSource, std::int32_t lNumber, const std::string& sPlace,
                                   std::int32_t lLevel, const orvik::Variant& v1, const orvik::Variant& v2,
                                   const orvik::Variant& v3, const orvik::Variant& v4,
                                   const orvik::Variant& v5) {
+  if (file_.empty()) return;
   std::string entry = "\t" + Field(sSource) + "\t" + NumberFields(lNumber) + "\t" + Field(sPlace) + "\t" +
                       std::to_string(lLevel);
   for (const auto* value : {&v1, &v2, &v3, &v4, &v5}) {
     if (!orvik::IsEmpty(*value)) entry += "\t" + Field(ValueText(*value));
   }
   // A catalogue with a hundred thousand entries of one fault must not wait for the disk as often.
-  Append(UtcText(clock_()) + entry + "\n", entry != lastEntry_);
+  try {
+    Append(UtcText(clock_()) + entry + "\n", entry != lastEntry_);
+  } catch (const orvik::HostError& error) {
+    failure_ = error.Description();
+  }
   lastEntry_ = std::move(entry);
 }
 

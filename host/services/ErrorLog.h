@@ -16,18 +16,22 @@ namespace bench {
 ///
 /// An entry is on disk when the call returns; one that repeats the entry before it is written, and comes to
 /// the disk when the system likes. A full file becomes "error.log.1", that one "error.log.2"; the oldest
-/// goes. Several programs may write at once. `HostError` 75 when the file cannot be written.
+/// goes. Several programs may write at once. An entry that cannot be written is lost, and `Failure` says why:
+/// whatever wanted to log an error goes on.
 class ErrorLog final : public orvik::IErrorLog {
  public:
   using Clock = std::function<std::chrono::system_clock::time_point()>;
 
   static constexpr std::uintmax_t kDefaultLimit = 1024 * 1024;
 
+  /// @param folder where the file is; empty when there is no state folder: entries are dropped
   /// @param limit bytes after which a new file is begun
   explicit ErrorLog(const std::filesystem::path& folder, std::uintmax_t limit = kDefaultLimit,
                     Clock clock = &std::chrono::system_clock::now);
 
   const std::filesystem::path& File() const { return file_; }
+  /// Why an entry could not be written; empty as long as all could.
+  const std::string& Failure() const { return failure_; }
 
  private:
   void IErrorLog_LogEntry(const std::string& sSource, std::int32_t lNumber, const std::string& sPlace,
@@ -41,6 +45,7 @@ class ErrorLog final : public orvik::IErrorLog {
   std::filesystem::path file_;
   std::uintmax_t limit_;
   Clock clock_;
+  std::string failure_;
   std::string lastEntry_;  ///< without its time
 };
 

@@ -11,8 +11,14 @@ namespace {
 
 constexpr char kFilesSource[] = "orvik-bench";
 
-/// Whether the error is the machine's state and not the choice of the file.
-bool IsOfTheMachine(int error) {
+template <class Error>
+[[noreturn]] void Throw(const std::string& text) {
+  throw Error(orvik::HostError::kPathError, kFilesSource, text);
+}
+
+}  // namespace
+
+bool IsErrorOfMachine(int error) {
   switch (error) {
     case ENOSPC:
     case EDQUOT:
@@ -27,19 +33,12 @@ bool IsOfTheMachine(int error) {
   }
 }
 
-template <class Error>
-[[noreturn]] void Throw(const std::string& text) {
-  throw Error(orvik::HostError::kPathError, kFilesSource, text);
-}
-
-}  // namespace
-
 void ThrowFileError(const std::filesystem::path& file, const std::string& what, int error,
                     const std::string& advice) {
   const auto told = WithValues(what, {file.string()});
   if (error == 0) Throw<orvik::HostError>(Tr("%%1 (%%2)", {told, advice}));
   const auto text = Tr("%%1: %%2 (%%3)", {told, SystemError(error), advice});
-  if (IsOfTheMachine(error)) Throw<StorageError>(text);
+  if (IsErrorOfMachine(error)) Throw<StorageError>(text);
   Throw<orvik::HostError>(text);
 }
 

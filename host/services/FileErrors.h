@@ -20,6 +20,9 @@ class StorageError : public orvik::HostError {
   using HostError::HostError;
 };
 
+/// Whether the system's error is the machine's state, and not the choice of the file.
+bool IsErrorOfMachine(int error);
+
 /// Throws `HostError` 75: the file, what was tried, the system's reason for `error` (0 for none), and what to
 /// do. It is a `StorageError` when the system's reason is the machine's state.
 /// @param what a translated sentence about the file, which is its "%%1": "%%1 cannot be opened"

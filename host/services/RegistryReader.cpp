@@ -8,14 +8,18 @@ namespace {
 constexpr std::int32_t kLevelConfiguration = 3;
 }
 
+void RegistryReader::Report(const orvik::HostError& error) const {
+  log_->LogEntry(error.Source(), error.Number(), "RegistryReader", kLevelConfiguration, error.Description(),
+                 {}, {}, {}, {});
+}
+
 /// The step's answer; false, and an entry in the error log, when the store fails.
 template <class Step>
 bool RegistryReader::Reported(Step step) const {
   try {
     return step();
   } catch (const orvik::HostError& error) {
-    log_->LogEntry(error.Source(), error.Number(), "RegistryReader", kLevelConfiguration, error.Description(),
-                   {}, {}, {}, {});
+    Report(error);
     return false;
   }
 }
@@ -46,7 +50,12 @@ void RegistryReader::IRegistryReader_WriteValue(const std::string& sName, const 
   if (!key_)
     throw orvik::HostError(orvik::HostError::kInvalidArgument, "OrvikTypeLib.RegistryReader",
                            Tr("no key is open; open or create one before \"%%1\" is written", {sName}));
-  store_->Write(key_->hive, key_->path, sName, vValue);
+  try {
+    store_->Write(key_->hive, key_->path, sName, vValue);
+  } catch (const orvik::HostError& error) {
+    Report(error);
+    throw;
+  }
 }
 
 std::vector<std::string> RegistryReader::IRegistryReader_ValueNames() const {

@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 
+#include "OrvikTypeLib/HostError.h"
 #include "OrvikTypeLib/IErrorLog.h"
 #include "OrvikTypeLib/IRegistryReader.h"
 #include "host/services/RegistryStore.h"
@@ -11,7 +12,7 @@
 namespace bench {
 
 /// One open key of the registry store. A store that cannot be read is reported to the error log, and its keys
-/// do not open.
+/// do not open; a failed write is reported and passed on.
 class RegistryReader final : public orvik::IRegistryReader {
  public:
   RegistryReader(std::shared_ptr<RegistryStore> store, std::shared_ptr<orvik::IErrorLog> log)
@@ -30,6 +31,7 @@ class RegistryReader final : public orvik::IRegistryReader {
   void IRegistryReader_WriteValue(const std::string& sName, const orvik::Variant& vValue) override;
   std::vector<std::string> IRegistryReader_ValueNames() const override;
 
+  void Report(const orvik::HostError& error) const;
   template <class Step>
   bool Reported(Step step) const;
 

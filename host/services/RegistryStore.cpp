@@ -102,7 +102,7 @@ Json ToJson(const orvik::Variant& value) {
 }  // namespace
 
 RegistryStore::RegistryStore(const std::filesystem::path& folder)
-    : file_(folder / "registry.json"), lock_(folder / "registry.lock") {}
+    : file_(folder.empty() ? folder : folder / "registry.json"), lock_(folder / "registry.lock") {}
 
 bool RegistryStore::HasKey(std::int32_t hive, const std::string& path) const {
   const auto key = KeyName(hive, path);
@@ -196,7 +196,7 @@ std::optional<RegistryStore::Stamp> RegistryStore::StampNow() const {
 
 RegistryStore::Json RegistryStore::ReadAll() const {
   struct stat status {};
-  if (stat(file_.c_str(), &status) != 0 && errno == ENOENT) return EmptyStore();
+  if (file_.empty() || (stat(file_.c_str(), &status) != 0 && errno == ENOENT)) return EmptyStore();
   Json all = Parsed(ReadFile(file_), file_);
   Check(all, file_);
   return all;
@@ -204,6 +204,9 @@ RegistryStore::Json RegistryStore::ReadAll() const {
 
 template <class Change>
 void RegistryStore::Modify(Change change) {
+  if (file_.empty())
+    throw HostError(HostError::kPathError, kRegistrySource,
+                    Tr("there is no folder for settings; name one with --state or ORVIK_STATE"));
   CreateFolder(file_.parent_path());
   const FileLock lock(lock_, kLockPatience);
   Json all = ReadAll();

@@ -22,6 +22,7 @@ namespace bench {
 /// 75 that names it. What is in the file beyond what this class knows is kept.
 class RegistryStore {
  public:
+  /// @param folder the state folder; empty when there is none: the store is empty and cannot be written
   explicit RegistryStore(const std::filesystem::path& folder);
 
   /// Whether the key exists. A key exists too when one below it does.

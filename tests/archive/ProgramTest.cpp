@@ -146,6 +146,23 @@ TEST_P(ProgramTest, TwoProgramsAddAtOnceAndNothingIsLost) {
   EXPECT_EQ(assets.size(), 20U);
 }
 
+TEST_P(ProgramTest, AnArchiveThatAnotherProgramWritesEndsWithFiveOrIsWaitedFor) {
+  const auto file = Document("a.orvik", "P-7");
+  ASSERT_EQ(Run({"add", file}).status, 0);
+  const auto database = Database();
+  database->Begin(bench::Database::Use::kWrite);
+  const auto next = Document("b.orvik", "P-8");
+  const auto waiting =
+      Start({"--state", Path("state"), "archive", "--archive", location_, "add", next, "--wait", "600"});
+  const auto refused = Run({"add", next});
+  EXPECT_EQ(refused.status, 5) << refused.error;
+  EXPECT_THAT(refused.error, HasSubstr("is in use by another program"));
+  ASSERT_TRUE(waiting->AwaitError("waiting, at most 600 s"));
+  database->Rollback();
+  EXPECT_EQ(waiting->Wait().status, 0);
+  EXPECT_EQ(Json({"list"})["documents"].size(), 2U);
+}
+
 ON_BOTH_DATABASES(ProgramTest);
 
 /// What goes wrong, in the words of the real program.
@@ -170,7 +187,7 @@ TEST_F(ErrorTest, WrongWordsAreTold) {
 
 TEST_F(ErrorTest, AFileThatIsNotThereIsNotMadeByAsking) {
   const auto ended = On(Path("none.sqlite"), {"list"});
-  EXPECT_EQ(ended.status, 2);
+  EXPECT_EQ(ended.status, 3);
   EXPECT_THAT(ended.error, HasSubstr("none.sqlite"));
   EXPECT_FALSE(std::filesystem::exists(Path("none.sqlite")));
 }

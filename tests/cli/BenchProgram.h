@@ -76,6 +76,10 @@ class RunningProgram {
       return true;
     });
   }
+  /// Reads until the standard error holds the text; false when the program ends first.
+  bool AwaitError(const std::string& text) {
+    return ReadUntil([&] { return streams_[1].text.find(text) != std::string::npos; });
+  }
   const std::string& Output() const { return streams_[0].text; }
 
   /// Waits for the end, at most a minute.

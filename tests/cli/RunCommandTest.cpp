@@ -165,9 +165,20 @@ TEST_F(RunCommandTest, ADeviceThatIsHeldIsNamed) {
   const auto second = Path("e.orvik");
   EXPECT_EQ(Bench({"new", second, "--add", "410"}).status, 0);
   const auto refused = Bench({"run", second, "--port", terminal.Path()});
-  EXPECT_EQ(refused.status, 2);
-  EXPECT_NE(refused.error.find(terminal.Path() + ": is held by another program"), std::string::npos)
+  EXPECT_EQ(refused.status, 5);
+  EXPECT_NE(refused.error.find("--port: serial device " + terminal.Path() + ": is held by another program"),
+            std::string::npos)
       << refused.error;
+}
+
+TEST_F(RunCommandTest, AWireLogThatCannotBeWrittenIsReported) {
+  const auto file = NewDocument({"410"});
+  SetLimit(file, "1", "300");
+  const auto run = Bench(Simulated(file, "sound-class-1", {"--wire-log", "/dev/full"}));
+  EXPECT_EQ(run.status, 0) << run.error;
+  EXPECT_NE(run.out.find("The wire log /dev/full could not be written: No space left on device"),
+            std::string::npos)
+      << run.out;
 }
 
 TEST_F(RunCommandTest, AnUnpluggedTesterEndsTheRunAndKeepsWhatWasDone) {

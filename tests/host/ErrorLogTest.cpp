@@ -112,9 +112,19 @@ TEST(ErrorLog, TwoProgramsLoseNoEntryAndMixNone) {
   EXPECT_EQ(count, kPrograms * kEntries);
 }
 
-TEST(ErrorLog, FolderThatCannotBeMadeIsNamed) {
-  ErrorLog log("/proc/nowhere");
-  EXPECT_TRUE(Holds(test::ErrorText([&] { Log(log, "S"); }), "/proc/nowhere"));
+TEST(ErrorLog, EntryThatCannotBeWrittenIsLostAndSaysWhy) {
+  TestFolder folder;
+  ErrorLog log(folder.Write("file", "") / "below");
+  EXPECT_EQ(log.Failure(), "");
+  EXPECT_EQ(test::ErrorText([&] { Log(log, "S"); }), "");
+  EXPECT_TRUE(Holds(log.Failure(), "file/below"));
+}
+
+TEST(ErrorLog, DropsEntriesWithoutAFolder) {
+  ErrorLog log({});
+  EXPECT_EQ(test::ErrorText([&] { Log(log, "S"); }), "");
+  EXPECT_EQ(log.Failure(), "");
+  EXPECT_FALSE(std::filesystem::exists("error.log"));
 }
 
 }  // namespace

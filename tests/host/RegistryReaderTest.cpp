@@ -61,5 +61,13 @@ TEST_F(RegistryReaderTest, DamagedStoreDoesNotOpenAndIsLogged) {
   EXPECT_EQ(folder_.Read("registry.json"), "{ cut");
 }
 
+TEST_F(RegistryReaderTest, FailedWriteIsLoggedAndPassedOn) {
+  auto reader = Reader();
+  ASSERT_TRUE(reader.CreateKey(kHive, "Software\\X"));
+  std::filesystem::permissions(folder_.Path() / "registry.json", std::filesystem::perms::owner_read);
+  EXPECT_EQ(ErrorNumber([&] { reader.WriteValue("v", "1"); }), HostError::kPathError);
+  EXPECT_TRUE(Holds(folder_.Read("error.log"), "registry.json is write-protected"));
+}
+
 }  // namespace
 }  // namespace bench

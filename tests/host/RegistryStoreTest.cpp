@@ -44,6 +44,16 @@ TEST(RegistryStore, ValuesComeBackInAnotherProgram) {
   EXPECT_EQ(store.Read(kStoreHive, kInner, "A17"), Variant(std::int32_t{-35}));
 }
 
+TEST(RegistryStore, IsEmptyAndCannotBeWrittenWithoutAFolder) {
+  RegistryStore store({});
+  EXPECT_FALSE(store.HasKey(0, "Key"));
+  EXPECT_EQ(store.Read(0, "Key", "v"), orvik::Variant());
+  EXPECT_TRUE(test::Holds(test::ErrorText([&] { store.Write(0, "Key", "v", std::string("x")); }), "--state"));
+  store.StandIn(0, "Key", "v", "text");
+  EXPECT_EQ(store.Read(0, "Key", "v"), orvik::Variant(std::string("text")));
+  EXPECT_FALSE(std::filesystem::exists("registry.json"));
+}
+
 TEST(RegistryStore, StateFolderIsCreatedByTheFirstWrite) {
   TestFolder folder;
   RegistryStore store(folder.Path() / "a" / "b");

@@ -9,6 +9,7 @@
 #include "OrvikTypeLib/HostError.h"
 #include "host/loop/EventLoop.h"
 #include "host/serial/DeviceTransport.h"
+#include "host/services/FileErrors.h"
 #include "tests/support/PseudoTerminal.h"
 
 namespace bench {
@@ -121,6 +122,7 @@ TEST_F(DeviceTransportTest, MayBeLetGoOfFromItsReceiver) {
 TEST_F(DeviceTransportTest, ASecondHolderIsKeptOut) {
   auto first = Open(terminal_.Path());
   EXPECT_NE(RefusalOf(terminal_.Path()).find("held by another program"), std::string::npos);
+  EXPECT_THROW(Open(terminal_.Path()), BusyError);
   first.reset();
   EXPECT_TRUE(Open(terminal_.Path())->IsOpen());
 }

@@ -82,6 +82,35 @@ TEST_F(WireLogTest, AFileThatCannotBeWrittenIsNamed) {
   }
 }
 
+TEST_F(WireLogTest, NeverAddsToAFileThatHoldsAnythingElse) {
+  for (const auto* contents : {"<?xml version=\"1.0\"?>\n<OrvikDocument/>\n", "short", "\n",
+                               "2026-11-22 my own notes", "2026-11-22T10:00:00.12345"}) {
+    std::ofstream(Path()) << contents;
+    try {
+      WireLog log(Path());
+      ADD_FAILURE() << contents;
+    } catch (const orvik::HostError& error) {
+      EXPECT_NE(error.Description().find(Path() + ": holds something else"), std::string::npos);
+      EXPECT_NE(error.Description().find("--wire-log"), std::string::npos);
+    }
+    EXPECT_EQ(Contents(Path()), contents);
+  }
+}
+
+TEST_F(WireLogTest, AddsToAnEmptyFile) {
+  std::ofstream(Path()).flush();
+  WireLog(Path()).Note("first");
+  EXPECT_NE(Contents(Path()).find("note first"), std::string::npos);
+}
+
+TEST_F(WireLogTest, NeverReplacesAnOlderFileThatIsNotAWireLog) {
+  std::ofstream(Path() + ".1") << "mine";
+  WireLog log(Path(), 100);
+  for (int i = 0; i < 10; ++i) log.Note("line");
+  EXPECT_EQ(Contents(Path() + ".1"), "mine");
+  EXPECT_NE(log.Failure().find(".1 is in its way"), std::string::npos) << log.Failure();
+}
+
 TEST_F(WireLogTest, AFullDiskDoesNotDisturbTheRun) {
   WireLog log("/dev/full");
   log.Note("x");

@@ -8,6 +8,7 @@
 #include "host/app/archive/ArchiveCommandTrend.h"
 #include "host/app/help/Examples.h"
 #include "host/archive/ArchiveError.h"
+#include "host/services/FileErrors.h"
 #include "host/services/Tr.h"
 
 namespace bench {
@@ -52,8 +53,14 @@ ExitStatus ArchiveCommand::Run(const GlobalOptions& options) {
     for (const auto& part : parts_)
       if (part.declared->parsed()) return part.command->Run(options);
   } catch (const ArchiveError& error) {
-    if (error.Why() == ArchiveError::Kind::kBadInput) throw InputError(error.what());
-    throw IncompleteError(error.what());
+    switch (error.Why()) {
+      case ArchiveError::Kind::kBadInput:
+        throw InputError(error.what());
+      case ArchiveError::Kind::kBusy:
+        throw BusyError(orvik::HostError::kPathError, "orvik-bench", error.what());
+      case ArchiveError::Kind::kUnreachable:
+        throw IncompleteError(error.what());
+    }
   }
   throw InputError(
       Tr("archive: say what is to be done: add, list, show, trend or export; \"orvik-bench archive --help\" "

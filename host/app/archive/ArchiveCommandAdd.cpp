@@ -56,7 +56,7 @@ ExitStatus ArchiveCommandAdd::Run(const GlobalOptions& options) {
 }
 
 std::vector<ArchivedDocument> ArchiveCommandAdd::Read(const GlobalOptions& options) {
-  Workbench workbench(options);
+  Workbench workbench(options, Workbench::Settings::kIfReadable);
   std::vector<ArchivedDocument> documents;
   for (const auto& file : files_) {
     try {

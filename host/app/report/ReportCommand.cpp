@@ -26,7 +26,7 @@ CLI::App* ReportCommand::Declare(CLI::App& program) {
 ExitStatus ReportCommand::Run(const GlobalOptions& options) {
   const std::filesystem::path out(to_);
   CheckReportFile(file_, out);
-  Workbench workbench(options);
+  Workbench workbench(options, Workbench::Settings::kIfReadable);
   const auto document = Document::Open(workbench.Host(), file_, DocumentFile::Use::kRead);
   WriteReport(*document, *workbench.Host(), options.language, out);
   std::cout << out.string() << "\n";
