@@ -4,7 +4,7 @@
 
 #include "host/app/DocumentJson.h"
 #include "host/app/ProgramFiles.h"
-#include "host/app/SetOfLimits.h"
+#include "host/app/limits/SetOfLimits.h"
 #include "host/app/TextColumns.h"
 #include "host/app/help/Examples.h"
 #include "host/services/Text.h"

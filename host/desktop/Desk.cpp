@@ -117,8 +117,7 @@ void Desk::Remove(std::int32_t id) { document_->Remove(Found(id)); }
 AppliedLimits Desk::ApplySet(const LimitSet& set, std::optional<std::int32_t> id) {
   const auto elements = id ? std::vector<Element>{Found(*id)} : TopElements(*document_);
   auto told = ApplyLimitSet(set, elements, *workbench_.Host()->Elements());
-  if (told.applied.empty())
-    throw InputError(Tr("%%1: the set knows nothing of these elements", {set.Name()}));
+  if (told.applied.empty()) throw InputError(Tr("%%1: the set covers none of these elements", {set.Name()}));
   return told;
 }
 

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "host/app/DocumentView.h"
-#include "host/app/SetOfLimits.h"
+#include "host/app/limits/SetOfLimits.h"
 #include "host/app/Workbench.h"
 #include "host/document/Document.h"
 #include "host/report/Report.h"
@@ -51,7 +51,7 @@ class Desk {
   /// Removes the element with all that stands below it.
   void Remove(std::int32_t id);
   /// Gives the element, or all where there is none, and what stands below the limits of the set. `InputError`
-  /// when the set knows nothing of them.
+  /// when the set covers none of them.
   AppliedLimits ApplySet(const LimitSet& set, std::optional<std::int32_t> id);
   void WriteReport(const std::filesystem::path& out) const;
 

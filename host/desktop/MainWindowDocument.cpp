@@ -31,8 +31,8 @@ std::string DocumentKinds() { return Tr("Test documents (*.orvik)") + ";;" + Tr(
 std::string LinesOf(const LimitSet& set, const AppliedLimits& told) {
   std::string lines = set.standard + ", " + set.Description() + ":\n";
   for (const auto& line : told.applied) lines += "  " + line + "\n";
-  if (!told.unknown.empty()) lines += "\n" + Tr("The set knows nothing of these:") + "\n";
-  for (const auto& line : told.unknown) lines += "  " + line + "\n";
+  if (!told.uncovered.empty()) lines += "\n" + Tr("Not covered by this set:") + "\n";
+  for (const auto& line : told.uncovered) lines += "  " + line + "\n";
   return lines;
 }
 

@@ -21,7 +21,10 @@ class Breaker {
         continue;
       }
       const auto columns = CellsOf(letter);
-      if (columns_ + columns > width_) Overflow(letter);
+      if (columns_ + columns > width_) {
+        Overflow(letter);
+        if (letter == ' ') continue;  // the line's end stands for it
+      }
       if (letter == ' ') blank_ = line_.size() + 1;
       report::AppendUtf8(line_, letter);
       columns_ += columns;

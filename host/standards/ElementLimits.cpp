@@ -30,7 +30,45 @@ std::string Converted(const std::string& bound, const std::string& from, const s
                  : Tr("a bound in %%1 does not fit the element, which is recorded in %%2", {from, to}));
 }
 
+std::vector<LimitOfElement> LimitsOf(const orvik::IStandard& standard) {
+  std::vector<LimitOfElement> found;
+  for (std::int32_t i = 1; i <= standard.LimitCount(); ++i) {
+    const auto limit = standard.Limit(i);
+    found.push_back(
+        {standard.Name(), standard.Description(), limit->LowText(), limit->HighText(), limit->Unit()});
+  }
+  if (found.empty()) found.push_back({standard.Name(), standard.Description(), {}, {}, {}});
+  return found;
+}
+
 }  // namespace
+
+std::vector<LimitOfElement> LimitsOf(orvik::ILimitData& limits) {
+  std::vector<LimitOfElement> found;
+  const auto standards = limits.Standards();
+  for (std::int32_t i = 1; standards && i <= standards->Count(); ++i) {
+    const auto some = LimitsOf(*standards->item(i));
+    found.insert(found.end(), some.begin(), some.end());
+  }
+  return found;
+}
+
+std::vector<LimitOfElement> RemoveStandards(orvik::ILimitData& limits,
+                                            const std::function<bool(const orvik::IStandard&)>& fits) {
+  std::vector<LimitOfElement> removed;
+  const auto standards = limits.Standards();
+  for (std::int32_t i = 1; standards && i <= standards->Count();) {
+    const auto standard = standards->item(i);
+    if (!fits(*standard)) {
+      ++i;
+      continue;
+    }
+    const auto some = LimitsOf(*standard);
+    removed.insert(removed.end(), some.begin(), some.end());
+    standards->Remove(standard);
+  }
+  return removed;
+}
 
 std::string RecordedUnit(orvik::ILimitData& limits) { return NewLimit(limits)->Unit(); }
 

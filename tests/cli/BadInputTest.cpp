@@ -74,7 +74,7 @@ INSTANTIATE_TEST_SUITE_P(
                  {"--element one: ", "whole number"}},
         BadInput{"LimitElementsInAList",
                  {"limit", "@d.orvik", "--element", "1,2", "--standard", "S", "--high", "1"},
-                 {"--element 1,2: ", "whole number"}},
+                 {"--element 1,2: ", ": --element 1 2"}},
         BadInput{
             "ConfigElementNoNumber", {"config", "@d.orvik", "--element", "a"}, {"--element a: ", "whole"}},
         BadInput{"ConfigOptionsNoNumber",

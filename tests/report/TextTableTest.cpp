@@ -55,6 +55,7 @@ TEST(TextTable, AWideColumnGivesWayAndLosesNothing) {
 
 TEST(TextLines, BreakAtBlanksAndInsideLongWords) {
   EXPECT_EQ(text::Wrapped("one two three", 8), (std::vector<std::string>{"one two", "three"}));
+  EXPECT_EQ(text::Wrapped("one two three", 7), (std::vector<std::string>{"one two", "three"}));
   EXPECT_EQ(text::Wrapped("abcdefghij", 4), (std::vector<std::string>{"abcd", "efgh", "ij"}));
   EXPECT_EQ(text::Wrapped("a\n\nb", 9), (std::vector<std::string>{"a", "", "b"}));
   EXPECT_EQ(text::Wrapped("", 9), (std::vector<std::string>{""}));
