@@ -2,6 +2,7 @@
 
 #include "OrvikTypeLib/As.h"
 #include "host/app/TextColumns.h"
+#include "host/judge/ReasonText.h"
 #include "host/run/GuideToolbar.h"
 #include "host/services/Tr.h"
 #include "platform/Controls.h"
@@ -46,7 +47,7 @@ void CalibrationWindow::Run() {
 
 void CalibrationWindow::Show() {
   doubts_.ElementStarts(kCalibration);
-  const auto noted = doubts_.Noted().Subscribe([this](std::int32_t, const std::string&) {
+  const auto noted = doubts_.Noted().Subscribe([this](std::int32_t, const bench::Reason&) {
     workbench_.Application()->Post([this, alive = std::weak_ptr<int>(alive_)] {
       if (!alive.expired()) RefuseDoubtful();
     });
@@ -58,10 +59,7 @@ void CalibrationWindow::Show() {
 void CalibrationWindow::DoubtTooMuch() {
   const auto ohms = doubts_.LastOhms();
   if (!ohms || *ohms <= kMostOhmsOfLeads) return;
-  doubts_.Add(kCalibration,
-              Tr("%%1 mOhm is more than test leads have; put the clip firmly at the ground of the "
-                 "tester's power socket",
-                 {ShortNumber(*ohms * 1000)}));
+  doubts_.Add(kCalibration, {"leads-implausible", {ShortNumber(*ohms * 1000)}});
 }
 
 void CalibrationWindow::RefuseDoubtful() {
@@ -90,7 +88,7 @@ std::string CalibrationWindow::Obstacle() const {
   if (cancelled_) return Tr("stopped; nothing was stored");
   if (const auto& error = workbench_.Ports().LastError(); !error.empty()) return error;
   const auto& doubts = doubts_.Of(kCalibration);
-  if (!doubts.empty()) return Tr("the measurement is doubtful and was not stored: %%1", {doubts.front()});
+  if (!doubts.empty()) return Tr("the measurement is doubtful and was not stored: %%1", {judge::ReasonText(doubts.front())});
   const auto serial = TextBox(*form_, kSerial);
   if (serial && serial->Text().empty())
     return Tr("the tester told no serial number to store the value under; give one with --serial");

@@ -7,7 +7,16 @@
 namespace bench {
 
 /// What `run --json` and `show --json` print of a document.
-nlohmann::ordered_json JsonOf(const DocumentSummary& document);
+nlohmann::ordered_json JsonOf(const DocumentView& document);
+
+/// What the object says of one element.
+nlohmann::ordered_json JsonOf(const judge::JudgedElement& element);
+
+/// The reasons with their codes, arguments and sentences.
+nlohmann::ordered_json JsonOf(const std::vector<Reason>& reasons);
+
+/// A tester as the object names it.
+nlohmann::ordered_json JsonOf(const RecordedTester& tester);
 
 /// JSON text of one line; bytes that are no UTF-8 are replaced.
 std::string OneLine(const nlohmann::ordered_json& json);

@@ -5,6 +5,7 @@
 
 #include "host/app/Colour.h"
 #include "host/app/TextColumns.h"
+#include "host/judge/ReasonText.h"
 #include "host/report/VisibleText.h"
 #include "host/services/Tr.h"
 
@@ -12,11 +13,14 @@ namespace bench {
 
 namespace {
 
+using judge::JudgedElement;
+using judge::Outcome;
+using judge::Verdict;
 using report::VisibleText;
 
-Tone ToneOf(const ElementSummary& element) {
-  if (element.CountsAsDone()) return Tone::kGood;
-  return element.Failed() ? Tone::kBad : Tone::kOpen;
+Tone ToneOf(Verdict verdict) {
+  if (verdict == Verdict::kFailed) return Tone::kBad;
+  return judge::IsDone(verdict) ? Tone::kGood : Tone::kOpen;
 }
 
 Tone ToneOf(Outcome outcome) {
@@ -31,7 +35,24 @@ Tone ToneOf(Outcome outcome) {
   return Tone::kOpen;
 }
 
-std::string ElementsOf(const DocumentSummary& document, bool coloured) {
+std::string TesterLine(const RecordedTester& tester) {
+  auto line = Tr("Tester %%1, serial number %%2, firmware %%3, test leads %%4 mOhm",
+                 {VisibleText(tester.type), VisibleText(tester.serial), VisibleText(tester.firmware),
+                  std::to_string(tester.leads)});
+  return line + " (" +
+         (tester.leadsMeasured.empty() ? Tr("date not known")
+                                       : Tr("measured %%1", {VisibleText(tester.leadsMeasured)})) +
+         ")";
+}
+
+std::string EquipmentLine(const Equipment& equipment) {
+  std::vector<std::string> parts;
+  for (const auto* part : {&equipment.asset, &equipment.maker, &equipment.model, &equipment.serial})
+    if (!part->empty()) parts.push_back(VisibleText(*part));
+  return parts.empty() ? std::string() : Tr("Equipment %%1", {Joined(parts, ", ")}) + "\n";
+}
+
+std::string ElementsOf(const judge::JudgedDocument& document, bool coloured) {
   std::string text;
   std::map<std::int32_t, int> depths;
   for (const auto& element : document.elements) {
@@ -39,46 +60,54 @@ std::string ElementsOf(const DocumentSummary& document, bool coloured) {
     const int depth = parent == depths.end() ? 0 : parent->second + 1;
     depths[element.id] = depth;
     text += LeftPadded(std::to_string(element.id), 4) + "  " +
-            Toned(Padded(Tr(element.Verdict()), 15), ToneOf(element), coloured) +
+            Toned(Padded(Tr(judge::VerdictText(element.verdict)), 15), ToneOf(element.verdict), coloured) +
             Padded(ReadingText(element), 16) + std::string(2 * static_cast<std::size_t>(depth), ' ') +
             VisibleText(element.name) + "\n";
-    if (!element.failedStandards.empty())
-      text +=
-          std::string(6, ' ') + Tr("fails %%1", {VisibleText(Joined(element.failedStandards, ", "))}) + "\n";
-    if (element.recordedOnly) text += std::string(6, ' ') + Tr("no limits: recorded, not judged") + "\n";
-    for (const auto& doubt : element.doubts)
-      text += std::string(6, ' ') + Tr("doubt: %%1", {VisibleText(doubt)}) + "\n";
+    for (const auto& reason : ReasonTexts(element)) text += std::string(6, ' ') + VisibleText(reason) + "\n";
   }
   return text;
 }
 
 }  // namespace
 
-std::string ReadingText(const ElementSummary& element) {
-  if (!element.measurement || !element.measurement->value) return "-";
-  if (element.measurement->flags.find('O') != std::string::npos) return "OL";
+std::string ReadingText(const JudgedElement& element) {
+  // A result that does not count is no reading of the equipment.
+  if (!element.Current() || !element.measurement || !element.measurement->value) return "-";
+  if (element.measurement->Overloaded()) return "OL";
   const auto number = ShortNumber(*element.measurement->value);
   return element.measurement->unit.empty() ? number : number + " " + VisibleText(element.measurement->unit);
 }
 
-std::string LineOf(const ElementSummary& element, bool coloured) {
-  return std::to_string(element.id) + "  " + Toned(Tr(element.Verdict()), ToneOf(element), coloured) + "  " +
+std::vector<std::string> ReasonTexts(const JudgedElement& element) {
+  std::vector<std::string> texts;
+  for (const auto& reason : element.reasons) {
+    const auto text = judge::ReasonText(reason);
+    texts.push_back(element.verdict == Verdict::kDoubtful ? Tr("doubt: %%1", {text}) : text);
+  }
+  if (element.verdict == Verdict::kRecorded) texts.push_back(Tr("record only: not judged by any limit"));
+  return texts;
+}
+
+std::string LineOf(const JudgedElement& element, bool coloured) {
+  return std::to_string(element.id) + "  " +
+         Toned(Tr(judge::VerdictText(element.verdict)), ToneOf(element.verdict), coloured) + "  " +
          ReadingText(element) + "  " + VisibleText(element.name);
 }
 
-std::string TextOf(const DocumentSummary& document, bool coloured) {
+std::string TextOf(const DocumentView& document, bool coloured) {
+  const auto& judged = document.judged;
   std::string text =
       Tr("%%1: %%2", {VisibleText(std::filesystem::path(document.path).filename().string()),
-                      Toned(Tr(OutcomeText(document.outcome)), ToneOf(document.outcome), coloured)}) +
+                      Toned(Tr(judge::OutcomeText(judged.outcome)), ToneOf(judged.outcome), coloured)}) +
       "\n";
-  if (document.instrument) {
-    const auto& instrument = *document.instrument;
-    text += Tr("Tester %%1, serial number %%2, firmware %%3, test leads %%4 mOhm",
-               {VisibleText(instrument.type), VisibleText(instrument.serial),
-                VisibleText(instrument.firmware), std::to_string(instrument.calibration)}) +
+  text += EquipmentLine(document.equipment);
+  if (judged.simulated) text += Tr("SIMULATED: a simulated tester was used; nothing was measured.") + "\n";
+  if (document.instrument) text += TesterLine(*document.instrument) + "\n";
+  if (!judged.leftOut.empty())
+    text += Tr("Judged by %%1 alone; left out: %%2",
+               {VisibleText(Joined(judged.standards, ", ")), VisibleText(Joined(judged.leftOut, ", "))}) +
             "\n";
-  }
-  return text + ElementsOf(document, coloured);
+  return text + ElementsOf(judged, coloured);
 }
 
 }  // namespace bench

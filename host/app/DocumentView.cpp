@@ -1,30 +1,25 @@
 #include "host/app/DocumentView.h"
 
-#include <charconv>
+#include <unordered_set>
+#include <utility>
 
 #include "OrvikTypeLib/As.h"
 #include "OrvikTypeLib/HostClasses.h"
-#include "OrvikTypeLib/IInstrumentRecord.h"
 #include "OrvikTypeLib/ILimitData.h"
 #include "OrvikTypeLib/IStandard.h"
 #include "OrvikTypeLib/ITestEnumerator.h"
 #include "host/Host.h"
-#include "host/document/Document.h"
-#include "host/instruments/InstrumentColl.h"
+#include "host/judge/CaseOf.h"
 #include "host/run/ElementWalk.h"
 
 namespace bench {
 
 namespace {
 
-std::optional<InstrumentSummary> LastInstrument(const orvik::IInstrumentColl& instruments) {
-  if (instruments.Count() == 0) return std::nullopt;
-  const auto record = instruments.item(instruments.Count());
-  InstrumentSummary summary{record->MTIType(), record->SerialNumber(), record->FirmwareVersion(), 0};
-  if (summary.type.empty()) summary.type = record->TypeName();
-  const auto calibration = record->Property("calib");
-  std::from_chars(calibration.data(), calibration.data() + calibration.size(), summary.calibration);
-  return summary;
+std::optional<RecordedTester> LastTester(const std::vector<RunRecord>& runs) {
+  for (auto run = runs.rbegin(); run != runs.rend(); ++run)
+    if (!run->testers.empty()) return run->testers.back();
+  return std::nullopt;
 }
 
 }  // namespace
@@ -54,15 +49,26 @@ std::shared_ptr<orvik::IStandardColl> NamedStandards(const Document& document, H
   return named;
 }
 
-DocumentSummary SummaryOf(const Document& document, const Host& host,
-                          const std::shared_ptr<orvik::IStandardColl>& standards) {
-  DocumentSummary summary;
-  summary.path = document.Path().string();
-  const std::shared_ptr<orvik::IInstrumentColl> instruments = document.Instruments();
-  summary.instrument = LastInstrument(*instruments);
-  summary.elements = Summarise(TopElements(document), *host.Elements(), standards);
-  summary.outcome = OutcomeOf(summary.elements);
-  return summary;
+DocumentView ViewOf(const Document& document, const Host& host, std::vector<std::string> standards) {
+  DocumentView view;
+  view.path = document.Path().string();
+  view.equipment = document.equipment;
+  view.instrument = LastTester(document.Runs().All());
+  view.judged = judge::Judge(document, *host.Elements(), std::move(standards));
+  return view;
+}
+
+judge::JudgedDocument JudgedPart(const judge::JudgedDocument& judged,
+                                 const std::vector<std::shared_ptr<orvik::ITestElement>>& elements) {
+  std::unordered_set<std::int32_t> wanted;
+  for (const auto& top : elements)
+    WalkElements(top,
+                 [&](const std::shared_ptr<orvik::ITestElement>& element) { wanted.insert(element->ID()); });
+  auto part = judged;
+  std::erase_if(part.elements,
+                [&](const judge::JudgedElement& element) { return !wanted.contains(element.id); });
+  part.outcome = judge::OutcomeOf(part.elements);
+  return part;
 }
 
 }  // namespace bench

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
@@ -8,37 +7,34 @@
 
 #include "OrvikTypeLib/IStandardColl.h"
 #include "OrvikTypeLib/ITestElement.h"
-#include "host/run/ElementSummary.h"
+#include "host/document/Document.h"
+#include "host/judge/Verdict.h"
 
 namespace bench {
 
-class Document;
 class Host;
 
-/// The tester that a document was measured with last.
-struct InstrumentSummary {
-  std::string type;
-  std::string serial;
-  std::string firmware;
-  std::int32_t calibration = 0;  ///< resistance of the test leads, mOhm
+/// What there is to show of a document.
+struct DocumentView {
+  std::string path;
+  Equipment equipment;
+  /// The tester of the last run that had one.
+  std::optional<RecordedTester> instrument;
+  judge::JudgedDocument judged;
 };
 
-/// What there is to show of a document.
-struct DocumentSummary {
-  std::string path;
-  Outcome outcome = Outcome::kIncomplete;
-  std::optional<InstrumentSummary> instrument;
-  std::vector<ElementSummary> elements;
-};
+/// The document and what counts of it now.
+/// @param standards names of those to judge by; empty for every one that an element names
+DocumentView ViewOf(const Document& document, const Host& host, std::vector<std::string> standards = {});
+
+/// What counts of these elements and all below them, as if the document had no others.
+judge::JudgedDocument JudgedPart(const judge::JudgedDocument& judged,
+                                 const std::vector<std::shared_ptr<orvik::ITestElement>>& elements);
 
 /// The elements at the top of the document, in order.
 std::vector<std::shared_ptr<orvik::ITestElement>> TopElements(const Document& document);
 
 /// Every standard that the limits of the document's elements name, each once, in order.
 std::shared_ptr<orvik::IStandardColl> NamedStandards(const Document& document, Host& host);
-
-/// @param standards those by which the elements are judged
-DocumentSummary SummaryOf(const Document& document, const Host& host,
-                          const std::shared_ptr<orvik::IStandardColl>& standards);
 
 }  // namespace bench

@@ -26,10 +26,8 @@ CLI::App* ShowCommand::Declare(CLI::App& program) {
 ExitStatus ShowCommand::Run(const GlobalOptions& options) {
   Workbench workbench(options, Workbench::Settings::kIfReadable);
   const auto document = Document::Open(workbench.Host(), file_, DocumentFile::Use::kRead);
-  auto standards = document->Standards();
-  if (standards->Count() == 0) standards = NamedStandards(*document, *workbench.Host());
-  const auto summary = SummaryOf(*document, *workbench.Host(), standards);
-  std::cout << (json_ ? Indented(JsonOf(summary)) + "\n" : TextOf(summary, ColoursWanted(STDOUT_FILENO)));
+  const auto view = ViewOf(*document, *workbench.Host());
+  std::cout << (json_ ? Indented(JsonOf(view)) + "\n" : TextOf(view, ColoursWanted(STDOUT_FILENO)));
   return ExitStatus::kPassed;
 }
 

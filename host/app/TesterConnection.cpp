@@ -24,7 +24,8 @@ std::string InField(const std::string& field, const std::exception& error) {
   return Tr("%%1: %%2", {field, error.what()});
 }
 
-void Probe(const TesterChoice& choice) {
+/// Sees to it that the device can be opened; returns whether it is a pseudo-terminal.
+bool ProbeForTerminal(const TesterChoice& choice) {
   try {
     const auto settings = ParseLineSettings(kLineSettings);
     const auto device = WaitUntilFree([&] { return std::make_unique<SerialDevice>(choice.port, settings); });
@@ -32,6 +33,7 @@ void Probe(const TesterChoice& choice) {
       throw InputError(
           Tr("%%1 is a real serial line; a real tester needs its pauses whole, without --time-scale",
              {choice.port}));
+    return device->IsPseudoTerminal();
   } catch (const BusyError&) {
     throw;
   } catch (const orvik::HostError& error) {
@@ -58,8 +60,9 @@ void TesterConnection::Connect(const TesterChoice& choice, PortManager& ports) {
   if (choice.simulated)
     simulated_ = std::make_unique<SimulatedTester>(choice.profile, choice.timeScale);
   else
-    Probe(choice);
-  ports.Assign(kInstrument, simulated_ ? simulated_->Device() : choice.port);
+    isSimulated_ = ProbeForTerminal(choice);
+  device_ = simulated_ ? simulated_->Device() : choice.port;
+  ports.Assign(kInstrument, device_);
 }
 
 std::string TimeScaleRemark(double timeScale) {

@@ -25,10 +25,17 @@ class TesterConnection {
   /// program holds it. All name the field.
   TesterConnection(const TesterChoice& choice, PortManager& ports);
 
+  /// The serial device that the tester answers at.
+  const std::string& Device() const { return device_; }
+  /// Whether its readings are none of real equipment: whatever answers at a pseudo-terminal is a program.
+  bool Simulated() const { return isSimulated_; }
+
  private:
   void Connect(const TesterChoice& choice, PortManager& ports);
 
   std::unique_ptr<SimulatedTester> simulated_;
+  std::string device_;
+  bool isSimulated_ = true;
 };
 
 /// "All pauses and time-outs are divided by 20. That is for simulated testers only."; empty when time is the

@@ -36,10 +36,11 @@ void TesterOptions::Check() const {
            "two"));
 }
 
-void TesterOptions::Connect(PortManager& ports) {
+const TesterConnection& TesterOptions::Connect(PortManager& ports) {
   choice_.simulated = simulate_->count() > 0;
   choice_.field = choice_.simulated ? "--simulate" : "--port";
   connection_ = std::make_unique<TesterConnection>(choice_, ports);
+  return *connection_;
 }
 
 }  // namespace bench

@@ -21,7 +21,7 @@ class TesterOptions {
   double TimeScale() const { return choice_.timeScale; }
 
   /// Makes the tester ready, as `TesterConnection` does.
-  void Connect(PortManager& ports);
+  const TesterConnection& Connect(PortManager& ports);
   /// What to tell the person about the tester's time; empty when it is the wall's.
   std::string TimeRemark() const { return TimeScaleRemark(choice_.timeScale); }
 

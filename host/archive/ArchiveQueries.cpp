@@ -5,7 +5,7 @@
 #include "host/archive/Archive.h"
 #include "host/archive/ArchiveError.h"
 #include "host/archive/ArchiveRows.h"
-#include "host/archive/Sha256.h"
+#include "host/services/Sha256.h"
 #include "host/services/Tr.h"
 
 namespace bench {

@@ -1,6 +1,9 @@
 #include "host/archive/ArchiveRows.h"
 
+#include <array>
 #include <cmath>
+
+#include "host/judge/ReasonText.h"
 
 namespace bench::rows {
 
@@ -19,6 +22,20 @@ Value Real(const std::optional<double>& number) {
 std::optional<double> RealOf(const Value& value) {
   const auto* number = std::get_if<double>(&value);
   return number ? std::optional(*number) : std::nullopt;
+}
+
+std::vector<std::string> DoubtsOf(const judge::JudgedElement& element) {
+  std::vector<std::string> doubts;
+  if (element.verdict != judge::Verdict::kDoubtful) return doubts;
+  for (const auto& reason : element.reasons) doubts.push_back(judge::ReasonText(reason));
+  return doubts;
+}
+
+judge::Verdict VerdictOf(std::int32_t status) {
+  constexpr std::array kVerdicts{judge::Verdict::kNotTested, judge::Verdict::kPassed, judge::Verdict::kFailed,
+                                 judge::Verdict::kNotApplicable, judge::Verdict::kAborted};
+  return status >= 0 && status <= 4 ? kVerdicts[static_cast<std::size_t>(status)]
+                                    : judge::Verdict::kNotTested;
 }
 
 void InsertEntry(Database& database, const ArchivedDocument& document, const std::string& key) {
@@ -81,9 +98,9 @@ void InsertElement(Database& database, std::int64_t document, std::int64_t posit
       " status, mti_id, service_code, service_value, run_date, operator, recorded_only)"
       " VALUES ($1, $2, $3, $4, $5, $6, $7, $8, $9, $10, $11, $12, $13, $14)",
       {document, position, Whole(summary.id), Whole(summary.parent), Whole(summary.testId),
-       Whole(summary.sequence), summary.name, Whole(summary.status), Whole(summary.mtiId),
+       Whole(summary.group), summary.name, Whole(summary.status), Whole(summary.instrument),
        summary.serviceCode, summary.serviceValue, element.runDate, element.operatorName,
-       Whole(summary.recordedOnly)});
+       Whole(summary.verdict == judge::Verdict::kRecorded)});
   if (const auto& measurement = summary.measurement)
     database.Run(
         "INSERT INTO orvik_measurements (document_id, position, value, unit, flags, status)"
@@ -91,8 +108,8 @@ void InsertElement(Database& database, std::int64_t document, std::int64_t posit
         {document, position, Real(measurement->value), measurement->unit, measurement->flags,
          Whole(measurement->status)});
   InsertLimits(database, document, position, element.limits);
-  InsertNotes(database, document, position, kDoubt, summary.doubts);
-  InsertNotes(database, document, position, kFailed, summary.failedStandards);
+  InsertNotes(database, document, position, kDoubt, DoubtsOf(summary));
+  InsertNotes(database, document, position, kFailed, summary.FailedStandards());
 }
 
 }  // namespace
@@ -141,19 +158,20 @@ ArchivedElement ElementOf(RowReader& row) {
   summary.id = row.Small();
   summary.parent = row.Small();
   summary.testId = row.Small();
-  summary.sequence = row.Flag();
+  summary.group = row.Flag();
   summary.name = row.Text();
   summary.status = row.Small();
-  summary.mtiId = row.Small();
+  summary.instrument = row.Small();
   summary.serviceCode = row.Text();
   summary.serviceValue = row.Text();
   element.runDate = row.Text();
   element.operatorName = row.Text();
-  summary.recordedOnly = row.Flag();
+  summary.verdict = row.Flag() ? judge::Verdict::kRecorded : VerdictOf(summary.status);
   const auto value = RealOf(row.Next());
   const auto& unit = row.Next();
   if (!std::holds_alternative<std::string>(unit)) return element;  // no measurement
-  summary.measurement = MeasurementSummary{value, std::get<std::string>(unit), row.Text(), row.Small()};
+  summary.run = 1;
+  summary.measurement = judge::Measurement{value, std::get<std::string>(unit), row.Text(), row.Small()};
   return element;
 }
 
@@ -171,8 +189,17 @@ void ReadDetails(Database& database, std::int64_t document, std::int64_t positio
                                         " WHERE document_id = $1 AND position = $2 ORDER BY kind, number",
                                         {document, position})) {
     RowReader row(found);
-    auto& texts = row.Text() == kDoubt ? element.summary.doubts : element.summary.failedStandards;
-    texts.push_back(row.Text());
+    const bool doubt = row.Text() == kDoubt;
+    auto text = row.Text();
+    if (doubt) {
+      element.summary.verdict = judge::Verdict::kDoubtful;
+      element.summary.reasons.push_back({text, {}});
+    } else {
+      judge::JudgedLimit failed;
+      failed.standard = text;
+      failed.verdict = judge::LimitVerdict::kExceeded;
+      element.summary.limits.push_back(failed);
+    }
   }
 }
 

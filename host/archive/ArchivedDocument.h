@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "host/run/ElementSummary.h"
+#include "host/judge/Verdict.h"
 
 namespace bench {
 
@@ -29,7 +29,7 @@ struct ArchivedInstrument {
 };
 
 struct ArchivedElement {
-  ElementSummary summary;
+  judge::JudgedElement summary;
   std::string runDate;                ///< UTC, ISO; empty when the document does not tell it
   std::string operatorName;           ///< empty when the document does not tell it
   std::vector<StandardLimit> limits;  ///< those with a bound

@@ -18,11 +18,11 @@ class Collector final : public pugi::xml_tree_walker {
 
   bool for_each(pugi::xml_node& node) override {
     if (std::string_view(node.name()) != tags::kTestElement) return true;
-    const auto run = node.child(tags::kAuxiliary).child(tags::kRun);
+    const auto run = node.child(tags::kAuxiliary).child("Run");
     const auto id = WholeNumber(node.attribute(tags::kID).value());
     if (run && id)
-      marks[*id] = {UtcText(run.attribute(tags::kDate).value()).value_or(""),
-                    ValidUtf8(run.attribute(tags::kOperator).value())};
+      marks[*id] = {UtcText(run.attribute("Date").value()).value_or(""),
+                    ValidUtf8(run.attribute("Operator").value())};
     return true;
   }
 };

@@ -34,11 +34,11 @@ void DrawCross(Svg& svg, double x, double y) {
 
 Mark MarkOf(const TrendPoint& point) {
   const auto& summary = point.element.summary;
-  const bool doubtful = !summary.doubts.empty();
+  const bool doubtful = summary.verdict == judge::Verdict::kDoubtful;
   if (point.Overloaded()) return Mark::kOverloaded;
-  if (summary.status == kFailed) return doubtful ? Mark::kFailedDoubtful : Mark::kFailed;
+  if (summary.verdict == judge::Verdict::kFailed) return doubtful ? Mark::kFailedDoubtful : Mark::kFailed;
   if (doubtful) return Mark::kDoubtful;
-  return summary.status == kPassed && !summary.recordedOnly ? Mark::kPassed : Mark::kOther;
+  return summary.verdict == judge::Verdict::kPassed ? Mark::kPassed : Mark::kOther;
 }
 
 std::string MarkText(Mark mark) {

@@ -81,11 +81,7 @@ std::filesystem::path Desk::UnsavedFile() const { return bench::UnsavedFile(*doc
 
 std::filesystem::path Desk::KeepUnsaved() const { return bench::KeepUnsaved(*document_); }
 
-DocumentSummary Desk::Summary() const {
-  auto standards = document_->Standards();
-  if (standards->Count() == 0) standards = NamedStandards(*document_, *workbench_.Host());
-  return SummaryOf(*document_, *workbench_.Host(), standards);
-}
+DocumentView Desk::View() const { return ViewOf(*document_, *workbench_.Host()); }
 
 report::Verdict Desk::Verdict() const { return VerdictOf(*document_, *workbench_.Host()); }
 

@@ -40,7 +40,7 @@ class Desk {
   /// and so on; the document is left as it is. Returns the path.
   std::filesystem::path KeepUnsaved() const;
 
-  DocumentSummary Summary() const;
+  DocumentView View() const;
   report::Verdict Verdict() const;
   std::optional<report::Section> Section(std::int32_t id) const;
   /// The element's settings in words.

@@ -26,14 +26,7 @@ QString VisibleInTree(const std::string& text) { return Shown(report::VisibleTex
 
 QString TipOf(const std::string& text) { return qt::PlainToolTip(report::VisibleText(text)); }
 
-std::string RemarkOf(const ElementSummary& element) {
-  std::vector<std::string> remarks;
-  for (const auto& doubt : element.doubts) remarks.push_back(Tr("doubt: %%1", {doubt}));
-  if (!element.failedStandards.empty())
-    remarks.push_back(Tr("fails %%1", {Joined(element.failedStandards, ", ")}));
-  if (element.recordedOnly) remarks.push_back(Tr("no limits: recorded, not judged"));
-  return Joined(remarks, "; ");
-}
+std::string RemarkOf(const judge::JudgedElement& element) { return Joined(ReasonTexts(element), "; "); }
 
 /// The colours of results are made to be read on white; elsewhere the sign alone has them.
 QBrush ColourIn(const QTreeWidget& tree, report::Standing standing) {
@@ -41,18 +34,11 @@ QBrush ColourIn(const QTreeWidget& tree, report::Standing standing) {
   return dark ? QBrush() : QBrush(QColor(ColourName(standing)));
 }
 
-/// As in reports: nobody has said that a reading without limits is good, and a green tick would.
-report::Standing ShownStanding(const ElementSummary& element) {
+void Fill(QTreeWidgetItem& row, const judge::JudgedElement& element, bool running) {
   const auto standing = parts::StandingOf(element);
-  const bool unjudged = element.recordedOnly && standing == report::Standing::kPassed;
-  return unjudged ? report::Standing::kNotApplicable : standing;
-}
-
-void Fill(QTreeWidgetItem& row, const ElementSummary& element, bool running) {
-  const auto standing = ShownStanding(element);
   const auto name = VisibleInTree(element.name);
   const auto remark = VisibleInTree(RemarkOf(element));
-  const auto word = running ? Shown(Tr("running")) : Shown(Tr(element.Verdict()));
+  const auto word = running ? Shown(Tr("running")) : Shown(Tr(judge::VerdictText(element.verdict)));
   row.setText(kNumber, QString::number(element.id));
   row.setText(kName, name);
   row.setToolTip(kName, TipOf(element.name));
@@ -93,7 +79,7 @@ ElementTree::ElementTree(QWidget* parent) : QTreeWidget(parent) {
   setColumnWidth(kValue, width("00000.0 mOhm") + 16);
 }
 
-void ElementTree::Show(const DocumentSummary& document, std::int32_t running) {
+void ElementTree::Show(const judge::JudgedDocument& document, std::int32_t running) {
   const bool same = ShowsTheSame(document);
   if (!same) Build(document);
   for (std::size_t i = 0; i < rows_.size(); ++i)
@@ -118,7 +104,7 @@ void ElementTree::OnChosen(std::function<void()> chosen) {
   connect(this, &QTreeWidget::itemSelectionChanged, this, std::move(chosen));
 }
 
-bool ElementTree::ShowsTheSame(const DocumentSummary& document) const {
+bool ElementTree::ShowsTheSame(const judge::JudgedDocument& document) const {
   if (rows_.size() != document.elements.size()) return false;
   for (std::size_t i = 0; i < rows_.size(); ++i) {
     if (rows_[i]->data(kNumber, kIdentifier).toInt() != document.elements[i].id ||
@@ -128,7 +114,7 @@ bool ElementTree::ShowsTheSame(const DocumentSummary& document) const {
   return true;
 }
 
-void ElementTree::Build(const DocumentSummary& document) {
+void ElementTree::Build(const judge::JudgedDocument& document) {
   const auto chosen = Chosen();
   const QSignalBlocker quiet(this);
   clear();
@@ -139,7 +125,7 @@ void ElementTree::Build(const DocumentSummary& document) {
     auto* row = above == sequences.end() ? new QTreeWidgetItem(this) : new QTreeWidgetItem(above->second);
     row->setData(kNumber, kIdentifier, element.id);
     row->setData(kNumber, kParent, element.parent);
-    if (element.sequence) sequences[element.id] = row;
+    if (element.group) sequences[element.id] = row;
     rows_.push_back(row);
   }
   expandAll();

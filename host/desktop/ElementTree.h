@@ -17,7 +17,7 @@ class ElementTree : public QTreeWidget {
 
   /// Shows the document; what was chosen and folded stays so.
   /// @param running identifier of the element that runs; 0 for none
-  void Show(const DocumentSummary& document, std::int32_t running);
+  void Show(const judge::JudgedDocument& document, std::int32_t running);
   /// The identifier of the element that is chosen.
   std::optional<std::int32_t> Chosen() const;
   void Choose(std::int32_t id);
@@ -25,8 +25,8 @@ class ElementTree : public QTreeWidget {
   void OnChosen(std::function<void()> chosen);
 
  private:
-  bool ShowsTheSame(const DocumentSummary& document) const;
-  void Build(const DocumentSummary& document);
+  bool ShowsTheSame(const judge::JudgedDocument& document) const;
+  void Build(const judge::JudgedDocument& document);
 
   std::vector<QTreeWidgetItem*> rows_;  ///< as in the document
 };

@@ -278,7 +278,7 @@ void MainWindow::Try(const std::function<void()>& work) {
 void MainWindow::Refresh() {
   const bool open = desk_.HasDocument();
   if (!open) equipment_->Show({});
-  tree_->Show(open ? desk_.Summary() : DocumentSummary{}, progress_ ? progress_->Running() : 0);
+  tree_->Show(open ? desk_.View().judged : judge::JudgedDocument{}, progress_ ? progress_->Running() : 0);
   ShowVerdict();
   ShowDetails();
   UpdateActions();
@@ -302,13 +302,12 @@ void MainWindow::ShowDetails() {
     const auto id = tree_->Chosen();
     if (const auto section = id ? desk_.Section(*id) : std::nullopt)
       return details_->Show(*section, desk_.Settings(*id));
-    const auto summary = desk_.Summary();
+    const auto view = desk_.View();
     std::vector<std::string> facts{desk_.TheDocument().Path().string()};
-    if (const auto& tester = summary.instrument)
-      facts.push_back(
-          Tr("Tester %%1, serial number %%2, firmware %%3, test leads %%4 mOhm",
-             {tester->type, tester->serial, tester->firmware, std::to_string(tester->calibration)}));
-    if (summary.elements.empty()) facts.push_back(Tr("The document has no tests yet: add some."));
+    if (const auto& tester = view.instrument)
+      facts.push_back(Tr("Tester %%1, serial number %%2, firmware %%3, test leads %%4 mOhm",
+                         {tester->type, tester->serial, tester->firmware, std::to_string(tester->leads)}));
+    if (view.judged.elements.empty()) facts.push_back(Tr("The document has no tests yet: add some."));
     details_->ShowFacts(desk_.TheDocument().Path().filename().string(), facts);
   } catch (const orvik::HostError& error) {
     details_->ShowFacts({}, {error.Description()});

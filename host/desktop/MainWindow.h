@@ -123,7 +123,8 @@ class MainWindow : public QMainWindow {
   void RunSelected();
   void Run(RunSelection selection);
   bool MayReplaceResults(const std::vector<std::shared_ptr<orvik::ITestElement>>& elements);
-  void PerformRun(const std::vector<std::shared_ptr<orvik::ITestElement>>& elements, WireLog& log);
+  void PerformRun(const std::vector<std::shared_ptr<orvik::ITestElement>>& elements, WireLog& log,
+                  const TesterConnection& tester);
   void RunChanged();
   void TellEnd(DocumentRunner::End end, const std::string& reason);
   void Stop();

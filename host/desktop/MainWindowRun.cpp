@@ -37,32 +37,31 @@ void MainWindow::Run(RunSelection selection) {
   WireLog log(selection.file + ".wire.log");
   const TesterConnection tester(tester_->Choice(), desk_.Bench().Ports());
   SelectStandards(document, *desk_.Bench().Host(), selection);
-  const auto elements =
-      selection.resume ? WithoutResult(selected, *desk_.Bench().Host(), document.Standards()) : selected;
+  const auto elements = selection.resume ? Unfinished(selected, document, desk_.View().judged) : selected;
   // The document may have got limits of other standards since.
   Refresh();
   if (elements.empty())
     return ShowMessage(this, Tr("Every element has a result; there is nothing to go on with."));
   // What cannot be saved had better be known before anything is measured.
   desk_.Save();
-  PerformRun(elements, log);
+  PerformRun(elements, log, tester);
 }
 
 bool MainWindow::MayReplaceResults(const std::vector<std::shared_ptr<orvik::ITestElement>>& elements) {
-  const auto summaries =
-      Summarise(elements, *desk_.Bench().Host()->Elements(), desk_.TheDocument().Standards());
-  const bool some = std::any_of(summaries.begin(), summaries.end(),
-                                [](const ElementSummary& element) { return element.status != 0; });
+  const auto part = JudgedPart(desk_.View().judged, elements);
+  const bool some = std::any_of(part.elements.begin(), part.elements.end(),
+                                [](const judge::JudgedElement& element) { return element.Current(); });
   return !some || Ask(this, Tr("There are results already. Run these tests again and replace their results?"),
                       {Tr("Run again"), Tr("Cancel")}) == 0;
 }
 
-void MainWindow::PerformRun(const std::vector<std::shared_ptr<orvik::ITestElement>>& elements, WireLog& log) {
+void MainWindow::PerformRun(const std::vector<std::shared_ptr<orvik::ITestElement>>& elements, WireLog& log,
+                            const TesterConnection& tester) {
   auto& bench = desk_.Bench();
   RunProgress progress(
       *bench.Application(), bench.TimeScale(), [this] { RunChanged(); },
       [this](const std::string& text) { Remark(text); });
-  RunSession session(bench, desk_.TheDocument(), log, progress, OperatorKind::kScreen,
+  RunSession session(bench, desk_.TheDocument(), log, progress, OperatorKind::kScreen, tester,
                      OperatorName(operator_->text().toStdString()));
   Remark({});
   auto end = DocumentRunner::End::kFinished;

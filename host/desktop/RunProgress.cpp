@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "host/judge/ReasonText.h"
 #include "host/report/VisibleText.h"
 #include "host/services/Tr.h"
 
@@ -29,13 +30,13 @@ void RunProgress::Reached(std::size_t place, std::size_t count) {
   changed_();
 }
 
-void RunProgress::Started(const ElementSummary& element) {
+void RunProgress::Started(const judge::JudgedElement& element) {
   running_ = element.id;
   element_ = std::to_string(element.testId) + " " + report::VisibleText(element.name);
   changed_();
 }
 
-void RunProgress::Finished(const ElementSummary&) {
+void RunProgress::Finished(const judge::JudgedElement&) {
   running_ = 0;
   changed_();
 }
@@ -46,8 +47,8 @@ void RunProgress::Wire(const WireRecord& record) {
   if (record.kind == WireRecord::Kind::kFailed) remark_(Tr("the line to the tester has failed"));
 }
 
-void RunProgress::Doubted(std::int32_t, const std::string& doubt) {
-  remark_(Tr("doubt: %%1", {doubt}));
+void RunProgress::Doubted(std::int32_t, const Reason& doubt) {
+  remark_(Tr("doubt: %%1", {judge::ReasonText(doubt)}));
   changed_();
 }
 

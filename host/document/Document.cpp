@@ -8,7 +8,6 @@
 #include "OrvikTypeLib/HostClasses.h"
 #include "host/Host.h"
 #include "host/document/CutDocument.h"
-#include "host/document/RecordedIdentifiers.h"
 #include "host/document/SavedElements.h"
 #include "host/elements/ElementFactory.h"
 #include "host/elements/ElementTags.h"
@@ -38,6 +37,7 @@ constexpr char kComment[] = "Comment";
 constexpr char kStandardsNode[] = "Standards";
 constexpr char kInstrumentsNode[] = "Instruments";
 constexpr char kElements[] = "Elements";
+constexpr char kRuns[] = "Runs";
 
 /// About so many bytes of objects are made of two bytes of text.
 constexpr std::size_t kObjectsOfTwoBytes = 5;
@@ -85,6 +85,7 @@ void Document::BeginEmpty() {
   standards_ = orvik::As<orvik::IStandardColl>(host_->CreateObject(orvik::HostClasses::kStandardColl));
   instruments_ = std::make_shared<InstrumentColl>();
   elements_ = std::make_shared<TestContainer>(host_->Elements());
+  runs_.Load({});
   highestId_ = 0;
 }
 
@@ -160,12 +161,13 @@ void Document::LoadWhole(const std::string& text) {
 void Document::LoadSections(const std::shared_ptr<pugi::xml_document>& xml, SavedElements& saved) {
   const auto root = xml->document_element();
   // Only the first would be read, and the other lost when the document is saved.
-  for (const auto* section : {kEquipment, kStandardsNode, kInstrumentsNode, kElements}) {
+  for (const auto* section : {kEquipment, kStandardsNode, kInstrumentsNode, kElements, kRuns}) {
     if (const auto second = root.child(section).next_sibling(section))
       throw XmlError(second, Tr("there is a second \"%%1\"; join the two", {section}));
   }
   topLeftovers_.Take(*xml, {}, {kRoot});
-  rootLeftovers_.Take(root, {kVersionAttribute}, {kEquipment, kStandardsNode, kInstrumentsNode, kElements});
+  rootLeftovers_.Take(root, {kVersionAttribute},
+                      {kEquipment, kStandardsNode, kInstrumentsNode, kElements, kRuns});
 
   const auto equipped = root.child(kEquipment);
   equipment = {equipped.attribute(kAsset).value(), equipped.attribute(kSerial).value(),
@@ -175,8 +177,8 @@ void Document::LoadSections(const std::shared_ptr<pugi::xml_document>& xml, Save
 
   if (const auto standards = root.child(kStandardsNode)) standards_->Load(Wrapped(xml, standards), nullptr);
   instruments_->Load(root.child(kInstrumentsNode));
-  highestRecordedId_ = HighestRecordedIdentifier(root);
-  highestId_ = highestRecordedId_;
+  runs_.Load(root.child(kRuns));
+  highestId_ = runs_.HighestElement();
 
   const auto elements = root.child(kElements);
   elementsLeftovers_.Take(elements, {}, {tags::kTestElement});
@@ -186,7 +188,8 @@ void Document::LoadSections(const std::shared_ptr<pugi::xml_document>& xml, Save
 void Document::LoadElements(const std::shared_ptr<pugi::xml_document>& xml, pugi::xml_node parent,
                             SavedElements& saved) {
   saved.Check(parent);
-  highestId_ = std::max(saved.HighestId(), highestRecordedId_);
+  // An identifier that a run names is not given again: its record would count for another element.
+  highestId_ = std::max(highestId_, saved.HighestId());
   elements_->LoadChildren(Wrapped(xml, parent));
 }
 
@@ -263,6 +266,7 @@ std::shared_ptr<pugi::xml_document> Document::Frame() const {
   auto elements = root.append_child(kElements);
   if (elements_->Count() > 0) elements.append_child(kNoName);
   elementsLeftovers_.Restore(elements);
+  runs_.Save(root);
   rootLeftovers_.Restore(root);
   topLeftovers_.Restore(*xml);
   return xml;

@@ -15,6 +15,8 @@
 #include "OrvikTypeLib/ITestElement.h"
 #include "host/document/DocumentFile.h"
 #include "host/document/ElementPlace.h"
+#include "host/document/Equipment.h"
+#include "host/document/Runs.h"
 #include "host/services/Leftovers.h"
 
 namespace bench {
@@ -31,19 +33,14 @@ class TestContainer;
 ///       <Standards>...</Standards>        the standards by which measurements are judged
 ///       <Instruments>...</Instruments>
 ///       <Elements><TestElement .../></Elements>
+///       <Runs><Run .../></Runs>             what was done, see RunXml.h
 ///     </OrvikDocument>
 ///
 /// A file that cannot be read is refused with `HostError` 75 naming file, line and reason, and left as it is.
 /// What the file holds beyond this is kept and written back.
 class Document {
  public:
-  struct Equipment {
-    std::string asset;
-    std::string serial;
-    std::string maker;
-    std::string model;
-    bool operator==(const Equipment&) const = default;
-  };
+  using Equipment = bench::Equipment;
 
   /// Version of the format that this program reads and writes.
   static constexpr std::int32_t kVersion = 1;
@@ -81,6 +78,10 @@ class Document {
   /// The standards by which measurements are judged.
   const std::shared_ptr<orvik::IStandardColl>& Standards() const { return standards_; }
   const std::shared_ptr<InstrumentColl>& Instruments() const { return instruments_; }
+
+  /// The record of every run.
+  bench::Runs& Runs() { return runs_; }
+  const bench::Runs& Runs() const { return runs_; }
 
   /// The top-level elements; itself it has the identifier 0.
   std::shared_ptr<orvik::ITestContainer> Elements() const;
@@ -131,9 +132,8 @@ class Document {
   std::shared_ptr<orvik::IStandardColl> standards_;
   std::shared_ptr<InstrumentColl> instruments_;
   std::shared_ptr<TestContainer> elements_;
+  bench::Runs runs_;
   std::int32_t highestId_ = 0;
-  /// That a record of a run names: its element may be gone, its identifier is not given again.
-  std::int32_t highestRecordedId_ = 0;
   /// Of the text that was read or written last: the next one will be about as long.
   mutable std::size_t textSize_ = 0;
   std::optional<std::size_t> savedMark_;

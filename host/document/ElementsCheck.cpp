@@ -105,8 +105,7 @@ void ElementsCheck::CheckParts(pugi::xml_node element) {
   NoteUnknown(element.child(tags::kInformation), {tags::kFirstText, tags::kSecondText, tags::kDisplayName},
               {}, findings_);
   const auto auxiliary = element.child(tags::kAuxiliary);
-  NoteUnknown(auxiliary, {tags::kPrint, tags::kRecordOnly}, {tags::kDoubt, tags::kRun}, findings_);
-  NoteUnknown(auxiliary.child(tags::kRun), {tags::kDate, tags::kOperator}, {}, findings_);
+  NoteUnknown(auxiliary, {tags::kPrint, tags::kRecordOnly}, {}, findings_);
   NoteUnknown(element.child(tags::kConfiguration), {}, {tags::kPlugInData}, findings_);
 }
 

@@ -10,7 +10,8 @@ namespace bench {
 class Findings;
 
 /// The sections of a document.
-inline constexpr std::string_view kDocumentSections[] = {"Equipment", "Standards", "Instruments", "Elements"};
+inline constexpr std::string_view kDocumentSections[] = {"Equipment", "Standards", "Instruments", "Elements",
+                                                         "Runs"};
 
 /// Notes the attributes and elements of the node that are not known. The loader keeps them.
 void NoteUnknown(pugi::xml_node node, std::initializer_list<std::string_view> attributes,

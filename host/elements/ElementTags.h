@@ -17,10 +17,6 @@ inline constexpr char kDisplayName[] = "DisplayName";
 inline constexpr char kAuxiliary[] = "Auxiliary";
 inline constexpr char kPrint[] = "Print";
 inline constexpr char kRecordOnly[] = "RecordOnly";
-inline constexpr char kDoubt[] = "Doubt";
-inline constexpr char kRun[] = "Run";
-inline constexpr char kDate[] = "Date";
-inline constexpr char kOperator[] = "Operator";
 
 inline constexpr char kConfiguration[] = "Configuration";
 inline constexpr char kPlugInData[] = "PlugInData";

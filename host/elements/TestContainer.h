@@ -37,7 +37,6 @@ class TestContainer final : public TestElement, public orvik::ITestContainer {
 
   std::shared_ptr<TestElement> NewOfSameClass() const override;
   bool HasChildren() const override;
-  bool HasOneReading() const override { return false; }
   void CloneChildren(TestElement& copy) const override;
   void ClearChildren() override;
   bool LoadChild(const std::shared_ptr<orvik::IXmlNode>& node,

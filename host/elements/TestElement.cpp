@@ -226,23 +226,9 @@ void TestElement::LoadElement(const std::shared_ptr<orvik::IXmlNode>& node,
   for (auto part = raw.first_child(); part; part = part.next_sibling()) {
     if (!LoadPart(part, reference, context)) leftovers_.Add(part);
   }
-  if (result_) DoubtUnreadable(raw.child(tags::kResultItem).child(tags::kMeasurement));
 }
 
 /// A saved reading that is no number is read as 0, or as the number that it begins with: it must not pass.
-void TestElement::DoubtUnreadable(pugi::xml_node measurement) {
-  const auto value = xml::Text(measurement.child(tags::kValue));
-  if (!HasOneReading() || FiniteNumber(value)) return;
-  const bool absent = value.empty() && xml::Text(measurement.child(tags::kUnit)).empty();
-  if (absent) return;
-  const auto doubt = value.empty() ? Tr("the saved reading is empty")
-                                   : Tr("the saved reading \"%%1\" is no number", {value});
-  if (!auxiliary_) auxiliary_ = std::make_shared<AuxiliaryState>();
-  auto doubts = auxiliary_->Doubts();
-  if (std::find(doubts.begin(), doubts.end(), doubt) == doubts.end()) doubts.push_back(doubt);
-  auxiliary_->SetDoubts(std::move(doubts));
-}
-
 /// What a file has no limits for has none.
 void TestElement::ClearLimits() {
   if (limits_ && limits_->Standards()) limits_->Load(ScratchRoot(tags::kExpectedResult), nullptr);

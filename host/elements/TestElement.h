@@ -18,7 +18,7 @@ class XmlReference;
 ///
 ///     <TestElement ID="3" TestID="410" PlugInID="KELD(IN)" Class="orvikKELD.CKELDTestElement">
 ///       <Information FirstText="" SecondText="" DisplayName="Protective earth"/>
-///       <Auxiliary Print="1"><Run Date="2026-11-21T14:03:22+01:00" Operator="M. Holm"/></Auxiliary>
+///       <Auxiliary Print="1" RecordOnly="1"/>
 ///       <Configuration>what the configuration saves</Configuration>
 ///       <ExpectedResult>what the limits save</ExpectedResult>
 ///       <ResultItem>what the result saves</ResultItem>
@@ -47,8 +47,6 @@ class TestElement : public orvik::IBaseElement {
   virtual std::shared_ptr<TestElement> NewOfSameClass() const;
   /// What a container adds to the deep operations.
   virtual bool HasChildren() const { return false; }
-  /// Whether its result is a reading; a container's is made of its children's.
-  virtual bool HasOneReading() const { return true; }
   virtual void CloneChildren(TestElement&) const {}
   virtual void SaveChildren(const std::shared_ptr<orvik::IXmlNode>&) const {}
   virtual void ClearChildren() {}
@@ -106,7 +104,6 @@ class TestElement : public orvik::IBaseElement {
   bool LoadPart(pugi::xml_node part, XmlReference& reference, const std::shared_ptr<IObject>& context);
   void LoadResult(const std::shared_ptr<orvik::IXmlNode>& node, const std::shared_ptr<IObject>& context);
   void LoadAuxiliary(pugi::xml_node node);
-  void DoubtUnreadable(pugi::xml_node measurement);
   void ClearLimits();
   void SaveTo(const std::shared_ptr<orvik::IXmlNode>& node) const;
   void SaveResult(const std::shared_ptr<orvik::IXmlNode>& node) const;

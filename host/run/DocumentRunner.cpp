@@ -2,7 +2,39 @@
 
 namespace bench {
 
-DocumentRunner::End DocumentRunner::Run(const std::vector<std::shared_ptr<orvik::ITestElement>>& elements) {
+namespace {
+
+RunRecord::End RecordedEnd(DocumentRunner::End end) {
+  switch (end) {
+    case DocumentRunner::End::kFinished:
+      return RunRecord::End::kFinished;
+    case DocumentRunner::End::kAborted:
+      return RunRecord::End::kAborted;
+    case DocumentRunner::End::kTesterLost:
+      return RunRecord::End::kLost;
+    case DocumentRunner::End::kStopped:
+    case DocumentRunner::End::kNotSaved:
+      break;
+  }
+  return RunRecord::End::kStopped;
+}
+
+}  // namespace
+
+DocumentRunner::End DocumentRunner::Run(const RunRecorder::Heading& heading,
+                                        const std::vector<std::shared_ptr<orvik::ITestElement>>& elements) {
+  if (elements.empty()) return End::kFinished;
+  auto end = End::kNotSaved;
+  if (controller_->Begin(heading, elements)) end = Walk(elements);
+  controller_->End(RecordedEnd(end));
+  if (!controller_->SaveFailure().empty()) {
+    reason_ = controller_->SaveFailure();
+    end = End::kNotSaved;
+  }
+  return end;
+}
+
+DocumentRunner::End DocumentRunner::Walk(const std::vector<std::shared_ptr<orvik::ITestElement>>& elements) {
   for (std::size_t place = 0; place < elements.size();) {
     if (stop_.Asked()) return End::kStopped;
     reached_.Raise(place + 1, elements.size(), elements[place]);

@@ -31,10 +31,13 @@ class DocumentRunner {
     return reached_;
   }
 
-  End Run(const std::vector<std::shared_ptr<orvik::ITestElement>>& elements);
+  /// Records the run and performs the elements; the session with the tester is over when it returns.
+  End Run(const RunRecorder::Heading& heading,
+          const std::vector<std::shared_ptr<orvik::ITestElement>>& elements);
   const std::string& Reason() const { return reason_; }
 
  private:
+  End Walk(const std::vector<std::shared_ptr<orvik::ITestElement>>& elements);
   void Perform(const std::shared_ptr<orvik::ITestElement>& element);
 
   const std::shared_ptr<RunController> controller_;

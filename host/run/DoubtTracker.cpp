@@ -4,9 +4,23 @@
 
 #include "host/run/ReplyDoubts.h"
 #include "host/serial/Latin1.h"
-#include "host/services/Tr.h"
 
 namespace bench {
+
+namespace {
+
+/// A tester that keeps sending must not fill the document.
+constexpr std::size_t kMostSaid = 8;
+constexpr std::size_t kShownOfLine = 60;
+
+template <class Lists>
+const typename Lists::mapped_type& ListIn(const Lists& lists, std::int32_t id) {
+  static const typename Lists::mapped_type kNone;
+  const auto found = lists.find(id);
+  return found == lists.end() ? kNone : found->second;
+}
+
+}  // namespace
 
 DoubtTracker::DoubtTracker(Wire& wire)
     : watch_(wire.Subscribe([this](const WireRecord& record) { Watch(record); })) {}
@@ -14,42 +28,42 @@ DoubtTracker::DoubtTracker(Wire& wire)
 void DoubtTracker::ElementStarts(std::int32_t id) {
   running_ = id;
   lastOhms_.reset();
-  doubts_.erase(id);
+  Forget(id);
+  for (const auto& doubt : session_) Add(id, doubt);
 }
 
-void DoubtTracker::Add(std::int32_t id, const std::string& doubt) {
+void DoubtTracker::Forget(std::int32_t id) {
+  doubts_.erase(id);
+  said_.erase(id);
+}
+
+void DoubtTracker::Add(std::int32_t id, const Reason& doubt) {
   auto& noted = doubts_[id];
   if (std::find(noted.begin(), noted.end(), doubt) != noted.end()) return;
   noted.push_back(doubt);
   noted_.Raise(id, doubt);
 }
 
-const std::vector<std::string>& DoubtTracker::Of(std::int32_t id) const {
-  static const std::vector<std::string> kNone;
-  const auto found = doubts_.find(id);
-  return found == doubts_.end() ? kNone : found->second;
-}
+const std::vector<Reason>& DoubtTracker::Of(std::int32_t id) const { return ListIn(doubts_, id); }
+
+const std::vector<std::string>& DoubtTracker::Said(std::int32_t id) const { return ListIn(said_, id); }
 
 void DoubtTracker::Watch(const WireRecord& record) {
   switch (record.kind) {
     case WireRecord::Kind::kOpened:
       lastCommand_.reset();
+      session_.clear();
       break;
     case WireRecord::Kind::kSent:
-      if (record.replyWaiting)
-        Note(Tr("a reply was already waiting when \"%%1\" was sent: a late or a doubled one",
-                {VisibleLatin1(record.text)}));
+      if (record.replyWaiting) Note({"late-reply", {VisibleLatin1(record.text)}});
       lastCommand_.emplace(record.message->MnemonicText(), record.message->Parameters(),
                            record.message->Line());
       break;
     case WireRecord::Kind::kReceived:
-      if (const auto ohms = OhmsIn(*record.message)) lastOhms_ = ohms;
-      if (!lastCommand_) break;  // it waits, and is noted when a command goes out
-      for (const auto& doubt : ReplyDoubts(*lastCommand_, *record.message)) Note(doubt);
+      TakeReply(*record.message);
       break;
     case WireRecord::Kind::kDropped:
-      Note(Tr("a line came in that is no message, and was dropped: \"%%1\"",
-              {VisibleLatin1(record.text.substr(0, 60))}));
+      Note({"invalid-line", {VisibleLatin1(record.text.substr(0, kShownOfLine))}});
       break;
     case WireRecord::Kind::kFailed:
     case WireRecord::Kind::kClosed:
@@ -57,7 +71,20 @@ void DoubtTracker::Watch(const WireRecord& record) {
   }
 }
 
-void DoubtTracker::Note(const std::string& doubt) {
+void DoubtTracker::TakeReply(const Message& reply) {
+  if (const auto ohms = OhmsIn(reply)) lastOhms_ = ohms;
+  const auto& mnemonic = reply.MnemonicText();
+  if (running_ && (mnemonic == "gres" || mnemonic == "ERRM")) {
+    auto& said = said_[*running_];
+    if (said.size() < kMostSaid) said.push_back(Utf8FromLatin1(reply.Line()));
+  }
+  if (!lastCommand_) return;  // it waits, and is noted when a command goes out
+  const auto doubts = ReplyDoubts(*lastCommand_, reply);
+  if (mnemonic == "irem") session_.insert(session_.end(), doubts.begin(), doubts.end());
+  for (const auto& doubt : doubts) Note(doubt);
+}
+
+void DoubtTracker::Note(const Reason& doubt) {
   if (running_) Add(*running_, doubt);
 }
 

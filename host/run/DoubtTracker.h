@@ -6,12 +6,14 @@
 #include <string>
 #include <vector>
 
+#include "host/document/Reason.h"
 #include "host/serial/Message.h"
 #include "host/serial/Wire.h"
 
 namespace bench {
 
-/// Watches the wire for what makes a result doubtful, and notes it for the element that runs.
+/// Watches the wire for the element that runs: what the tester says of it, and what makes its result
+/// doubtful.
 class DoubtTracker {
  public:
   explicit DoubtTracker(Wire& wire);
@@ -19,27 +21,33 @@ class DoubtTracker {
   /// The element runs from now on; what was noted for it before is forgotten.
   void ElementStarts(std::int32_t id);
   /// Forgets what was noted for the element.
-  void Forget(std::int32_t id) { doubts_.erase(id); }
+  void Forget(std::int32_t id);
   /// Notes something that was not seen on the wire.
-  void Add(std::int32_t id, const std::string& doubt);
+  void Add(std::int32_t id, const Reason& doubt);
   /// What was noted, oldest first, each once.
-  const std::vector<std::string>& Of(std::int32_t id) const;
+  const std::vector<Reason>& Of(std::int32_t id) const;
+  /// The results and refusals that came in while the element ran, as UTF-8, oldest first; at most a few.
+  const std::vector<std::string>& Said(std::int32_t id) const;
 
   /// The last reading in ohms that the tester told of the running element, before any correction.
   std::optional<double> LastOhms() const { return lastOhms_; }
 
-  /// Raised when something is noted: element, text.
-  orvik::platform::Event<std::int32_t, const std::string&>& Noted() { return noted_; }
+  /// Raised when something is noted: element, reason.
+  orvik::platform::Event<std::int32_t, const Reason&>& Noted() { return noted_; }
 
  private:
   void Watch(const WireRecord& record);
-  void Note(const std::string& doubt);
+  void TakeReply(const Message& reply);
+  void Note(const Reason& doubt);
 
   std::optional<std::int32_t> running_;
   std::optional<Message> lastCommand_;
   std::optional<double> lastOhms_;
-  std::map<std::int32_t, std::vector<std::string>> doubts_;
-  orvik::platform::Event<std::int32_t, const std::string&> noted_;
+  std::map<std::int32_t, std::vector<Reason>> doubts_;
+  std::map<std::int32_t, std::vector<std::string>> said_;
+  /// What is wrong with the tester itself: it holds for every element of its session.
+  std::vector<Reason> session_;
+  orvik::platform::Event<std::int32_t, const Reason&> noted_;
   orvik::platform::Subscription watch_;
 };
 

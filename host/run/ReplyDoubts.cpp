@@ -7,9 +7,9 @@
 #include <optional>
 #include <string_view>
 
+#include "host/plugins/keld/KeldTests.h"
 #include "host/serial/Latin1.h"
 #include "host/serial/Message.h"
-#include "host/services/Tr.h"
 
 namespace bench {
 
@@ -41,33 +41,40 @@ std::optional<double> NumberOf(std::string_view text) {
   return number;
 }
 
-/// Whether the reply repeats the command's parameter, where it has one.
-bool Repeats(const Message& command, const Message& reply, std::size_t index) {
-  if (command.Parameters().size() <= index) return true;
-  if (reply.Parameters().size() <= index) return false;
-  return Trimmed(command.Parameters()[index]) == Trimmed(reply.Parameters()[index]);
+/// Whether the reply names another parameter than the command; one that names none says nothing wrong.
+bool NamesAnother(const Message& command, const Message& reply, std::size_t index) {
+  if (command.Parameters().size() <= index || reply.Parameters().size() <= index) return false;
+  return Trimmed(command.Parameters()[index]) != Trimmed(reply.Parameters()[index]);
 }
 
-std::string Quoted(const Message& message) { return "\"" + VisibleLatin1(message.Line()) + "\""; }
+std::string Shown(const Message& message) { return VisibleLatin1(message.Line()); }
 
-void CheckReading(const Message& reply, std::vector<std::string>& doubts) {
+void CheckReading(const Message& reply, std::vector<Reason>& doubts) {
   const auto& fields = reply.Parameters();
   if (fields.size() != kReadingFields) {
-    doubts.push_back(Tr("the reading %%1 has %%2 fields instead of %%3",
-                        {Quoted(reply), std::to_string(fields.size()), std::to_string(kReadingFields)}));
+    doubts.push_back(
+        {"reading-fields", {Shown(reply), std::to_string(fields.size()), std::to_string(kReadingFields)}});
     return;
   }
   const auto value = NumberOf(fields[2]);
-  if (!value) doubts.push_back(Tr("the reading \"%%1\" is no number", {fields[2]}));
-  if (value && *value < 0)
-    doubts.push_back(
-        Tr("the reading \"%%1\" is negative; an upper limit would take it for a small one", {fields[2]}));
+  if (!value) doubts.push_back({"not-a-number", {fields[2]}});
+  if (value && *value < 0) doubts.push_back({"negative-reading", {fields[2]}});
   if (Trimmed(fields[3]) != "0" && Trimmed(fields[3]) != "1")
-    doubts.push_back(Tr("the reading's overload mark \"%%1\" is neither 0 nor 1", {fields[3]}));
-  if (Trimmed(fields[3]) == "1")
-    doubts.push_back(Tr("overload (OL): the reading is beyond the tester's range"));
+    doubts.push_back({"overload-mark", {fields[3]}});
+  if (Trimmed(fields[3]) == "1") doubts.push_back({"overload", {}});
   if (std::find(kUnits.begin(), kUnits.end(), fields[4]) == kUnits.end())
-    doubts.push_back(Tr("the reading's unit \"%%1\" is none that the tester measures in", {fields[4]}));
+    doubts.push_back({"unknown-unit", {fields[4]}});
+}
+
+void CheckIdentity(const Message& reply, std::vector<Reason>& doubts) {
+  const auto& fields = reply.Parameters();
+  if (fields.size() < kIdentityFields) {
+    doubts.push_back({"identity-incomplete", {Shown(reply)}});
+    return;
+  }
+  if (Trimmed(fields[1]).empty()) doubts.push_back({"no-serial-number", {}});
+  if (Trimmed(fields[0]) != keld_facts::kTesterType)
+    doubts.push_back({"other-tester", {fields[0], std::string(keld_facts::kTesterType)}});
 }
 
 /// The number of an error reply, read as generously as by whoever acts on it; 0 when there is none.
@@ -82,14 +89,10 @@ int ErrorNumber(const Message& reply) {
 }
 
 /// A test is recorded as not applicable on the tester's word. It counts only when the word is the right one.
-void CheckRefusal(const Message& command, int error, std::vector<std::string>& doubts) {
+void CheckRefusal(const Message& command, int error, std::vector<Reason>& doubts) {
   const bool startsTest = command.MnemonicText() == "STST";
-  if (error == kNotAllowedNow && startsTest)
-    doubts.push_back(
-        Tr("the tester refused the test as not allowed now (1003); it was not found to lack it"));
-  if (error == kNoSuchTest && !startsTest)
-    doubts.push_back(Tr("the tester answered %%1 with 6002, as if it lacked the test; only STST asks for one",
-                        {Quoted(command)}));
+  if (error == kNotAllowedNow && startsTest) doubts.push_back({"refused-now", {}});
+  if (error == kNoSuchTest && !startsTest) doubts.push_back({"refused-elsewhere", {Shown(command)}});
 }
 
 }  // namespace
@@ -102,17 +105,14 @@ std::optional<double> OhmsIn(const Message& reply) {
   return value && fields[4] == "mOhm" ? *value / 1000 : value;
 }
 
-std::vector<std::string> ReplyDoubts(const Message& command, const Message& reply) {
-  std::vector<std::string> doubts;
+std::vector<Reason> ReplyDoubts(const Message& command, const Message& reply) {
+  std::vector<Reason> doubts;
   const auto& mnemonic = reply.MnemonicText();
-  if (mnemonic == "stst" || mnemonic == "gres") {
-    if (!Repeats(command, reply, 0) || !Repeats(command, reply, 1))
-      doubts.push_back(
-          Tr("the reply %%1 names another test than the command %%2", {Quoted(reply), Quoted(command)}));
-  }
+  if ((mnemonic == "stst" || mnemonic == "gres") &&
+      (NamesAnother(command, reply, 0) || NamesAnother(command, reply, 1)))
+    doubts.push_back({"other-test-named", {Shown(reply), Shown(command)}});
   if (mnemonic == "gres") CheckReading(reply, doubts);
-  if (mnemonic == "irem" && reply.Parameters().size() < kIdentityFields)
-    doubts.push_back(Tr("the tester's identity %%1 is incomplete", {Quoted(reply)}));
+  if (mnemonic == "irem") CheckIdentity(reply, doubts);
   if (mnemonic == "ERRM") CheckRefusal(command, ErrorNumber(reply), doubts);
   return doubts;
 }

@@ -6,41 +6,35 @@
 #include <optional>
 #include <set>
 #include <string>
+#include <vector>
 
 #include "OrvikTypeLib/IInstrumentColl.h"
 #include "OrvikTypeLib/IRunController.h"
 #include "OrvikTypeLib/IStandardColl.h"
 #include "OrvikTypeLib/ITestElement.h"
 #include "host/run/DoubtTracker.h"
-#include "host/run/ResultWatch.h"
-#include "host/services/WallClock.h"
+#include "host/run/RunRecorder.h"
 #include "platform/Event.h"
 
 namespace bench {
 
-class ElementFactory;
-
 /// What the operator asked for when an element was left.
 enum class Navigation { kNext = 0, kPrevious = 1, kAbort = 2, kSkip = 3, kNotApplicable = 4 };
 
-/// What elements ask and tell while they run. Notes the doubts about each, and has the document saved after
-/// each that has finished.
+/// What elements ask and report while they run. Has everything written into the record of the run, and the
+/// document saved before an element is measured again and after each that has finished.
 class RunController final : public orvik::IRunController {
  public:
   struct Parts {
     std::shared_ptr<orvik::IStandardColl> standards;
     std::shared_ptr<orvik::IInstrumentColl> instruments;
-    const ElementFactory& factory;
     DoubtTracker& doubts;
+    RunRecorder& recorder;
     /// Saves the document; may throw `HostError`.
     std::function<void()> save;
-    /// Tells the time of day that results are marked with; without it they get no mark.
-    WallClock clock = {};
-    /// Who operates the tester.
-    std::string by = {};
   };
 
-  explicit RunController(Parts parts) : parts_(std::move(parts)), results_(parts_.doubts) {}
+  explicit RunController(Parts parts) : parts_(std::move(parts)) {}
 
   /// An element has begun to run, or its run is over.
   orvik::platform::Event<const std::shared_ptr<orvik::ITestElement>&>& Started() { return started_; }
@@ -50,11 +44,16 @@ class RunController final : public orvik::IRunController {
   void Open(const orvik::ITestElement& element) { opening_ = element.ID(); }
   /// What was asked for last.
   Navigation Asked() const { return asked_; }
-  /// Stores what was noted about the element and all that stands below it, and saves the document. What came
-  /// to light while the session was being closed counts too.
+  /// The run begins with these elements: they have no current result from here on. Returns whether that could
+  /// be saved; otherwise nothing may be measured.
+  bool Begin(const RunRecorder::Heading& heading,
+             const std::vector<std::shared_ptr<orvik::ITestElement>>& elements);
+  /// Records what came to light about the element and all below it while the session was being closed, and
+  /// saves the document.
   void Settle(const std::shared_ptr<orvik::ITestElement>& element);
-  /// Why the document could not be saved while an element ran; empty as long as it could. The element could
-  /// not be told.
+  /// The run is over.
+  void End(RunRecord::End end);
+  /// Why the document could not be saved the last time; empty when it could. The element could not be told.
   const std::string& SaveFailure() const { return saveFailure_; }
 
  private:
@@ -66,13 +65,9 @@ class RunController final : public orvik::IRunController {
     return parts_.instruments;
   }
 
-  void MarkRun(const std::shared_ptr<orvik::ITestElement>& element);
-  void ForgetDoubts(const std::shared_ptr<orvik::ITestElement>& element);
-  void StoreDoubts(const std::shared_ptr<orvik::ITestElement>& element);
   void Save();
 
   const Parts parts_;
-  ResultWatch results_;
   std::optional<std::int32_t> opening_;
   std::set<std::int32_t> running_;  ///< started, and not finished
   Navigation asked_ = Navigation::kNext;

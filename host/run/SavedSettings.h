@@ -1,8 +1,11 @@
 #pragma once
 
+#include <cstdint>
 #include <memory>
+#include <string>
 
 #include "OrvikTypeLib/IConfigData.h"
+#include "OrvikTypeLib/ITestElement.h"
 #include "OrvikTypeLib/IXmlNode.h"
 #include "host/services/XmlDocument.h"
 
@@ -26,5 +29,11 @@ class SavedSettings {
   std::shared_ptr<orvik::IXmlNode> node_;
   std::shared_ptr<orvik::IXmlNode> settings_;
 };
+
+/// The option bits of the element that decide what is measured; 0 when it has none.
+std::int32_t MeasuringSettings(const orvik::ITestElement& element);
+
+/// How the element makes a value of its children's; empty when it has no such setting.
+std::string ValueFilter(const orvik::ITestElement& element);
 
 }  // namespace bench

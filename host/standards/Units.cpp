@@ -58,18 +58,30 @@ bool SameUnit(const std::string& one, const std::string& other) {
   return first && first == UnitOf(other);
 }
 
+bool SameQuantity(const std::string& one, const std::string& other) {
+  if (one == other) return true;
+  const auto first = UnitOf(one), second = UnitOf(other);
+  return first && second && first->quantity == second->quantity;
+}
+
+std::optional<double> InUnit(double number, const std::string& from, const std::string& to) {
+  if (SameUnit(from, to)) return number;
+  if (!SameQuantity(from, to)) return {};
+  const int steps = UnitOf(from)->exponent - UnitOf(to)->exponent;
+  // Powers of ten are exact as factor and as divisor, not as fraction.
+  const double factor = std::pow(10.0, std::abs(steps));
+  const double converted = steps < 0 ? number / factor : number * factor;
+  if (!std::isfinite(converted)) return {};
+  return converted;
+}
+
 std::optional<std::string> InUnit(const std::string& number, const std::string& from, const std::string& to) {
   const auto value = FiniteNumber(number);
   if (!value) return {};
   if (SameUnit(from, to)) return orvik::Trim(number);
-  const auto source = UnitOf(from), target = UnitOf(to);
-  if (!source || !target || source->quantity != target->quantity) return {};
-  const int steps = source->exponent - target->exponent;
-  // Powers of ten are exact as factor and as divisor, not as fraction.
-  const double factor = std::pow(10.0, std::abs(steps));
-  const double converted = steps < 0 ? *value / factor : *value * factor;
-  if (!std::isfinite(converted)) return {};
-  return Told(converted);
+  const auto converted = InUnit(*value, from, to);
+  if (!converted) return {};
+  return Told(*converted);
 }
 
 }  // namespace bench

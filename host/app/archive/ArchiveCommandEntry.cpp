@@ -2,20 +2,16 @@
 
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <filesystem>
 
-#include "OrvikTypeLib/ILimit.h"
-#include "OrvikTypeLib/ILimitData.h"
-#include "OrvikTypeLib/IStandard.h"
-#include "OrvikTypeLib/IStandardColl.h"
 #include "host/app/DocumentView.h"
 #include "host/app/InputError.h"
+#include "host/app/TextColumns.h"
 #include "host/app/Workbench.h"
 #include "host/archive/IsoTime.h"
-#include "host/archive/SavedRunMarks.h"
 #include "host/document/Document.h"
-#include "host/run/ElementWalk.h"
 #include "host/services/Files.h"
 #include "host/services/Text.h"
 #include "host/services/Tr.h"
@@ -24,66 +20,54 @@ namespace bench {
 
 namespace {
 
-enum Status { kNotTested = 0, kAborted = 4 };
-
 std::string MachineName() {
   std::array<char, 256> name{};
   return gethostname(name.data(), name.size() - 1) == 0 ? ValidUtf8(name.data()) : std::string();
 }
 
-bool HasResult(const ElementSummary& element) {
-  return element.status != kNotTested && element.status != kAborted;
+bool HasResult(const judge::JudgedElement& element) {
+  return element.verdict != judge::Verdict::kNotTested && element.verdict != judge::Verdict::kAborted;
 }
 
-void MakeValid(std::vector<std::string>& texts) {
-  for (auto& text : texts) text = ValidUtf8(text);
-}
-
-ElementSummary Valid(ElementSummary summary) {
-  for (auto* text : {&summary.name, &summary.serviceCode, &summary.serviceValue}) *text = ValidUtf8(*text);
-  if (summary.measurement) {
-    summary.measurement->unit = ValidUtf8(summary.measurement->unit);
-    summary.measurement->flags = ValidUtf8(summary.measurement->flags);
+judge::JudgedElement Valid(judge::JudgedElement element) {
+  for (auto* text : {&element.name, &element.serviceCode, &element.serviceValue}) *text = ValidUtf8(*text);
+  if (element.measurement) {
+    element.measurement->unit = ValidUtf8(element.measurement->unit);
+    element.measurement->flags = ValidUtf8(element.measurement->flags);
   }
-  MakeValid(summary.failedStandards);
-  MakeValid(summary.doubts);
-  return summary;
+  return element;
 }
 
-std::vector<StandardLimit> LimitsOf(const orvik::ITestElement& element) {
+std::vector<StandardLimit> LimitsOf(const judge::JudgedElement& element) {
   std::vector<StandardLimit> limits;
-  const auto data = element.Limits();
-  const auto standards = data ? data->Standards() : nullptr;
-  for (std::int32_t i = 1; standards && i <= standards->Count(); ++i) {
-    const auto standard = standards->item(i);
-    for (std::int32_t j = 1; j <= standard->LimitCount(); ++j) {
-      const auto limit = standard->Limit(j);
-      const auto low = limit->LowBound(), high = limit->HighBound();
-      if (low || high)
-        limits.push_back({ValidUtf8(standard->Name()), ValidUtf8(standard->Description()),
-                          ValidUtf8(limit->Unit()), low, high});
-    }
-  }
+  for (const auto& limit : element.limits)
+    limits.push_back({ValidUtf8(limit.standard), ValidUtf8(limit.description), ValidUtf8(limit.unit),
+                      limit.low, limit.high});
   return limits;
 }
 
-std::vector<ArchivedElement> ElementsOf(const Document& document, const DocumentSummary& summary,
-                                        const std::map<std::int32_t, SavedRunMark>& marks) {
+std::vector<ArchivedElement> ElementsOf(const judge::JudgedDocument& judged) {
   std::vector<ArchivedElement> elements;
-  for (const auto& element : summary.elements) {
-    ArchivedElement kept{Valid(element), {}, {}, {}};
-    const auto mark = marks.find(element.id);
-    if (mark != marks.end()) kept.runDate = mark->second.date, kept.operatorName = mark->second.by;
-    if (const auto found = document.Find(element.id)) kept.limits = LimitsOf(*found);
-    elements.push_back(std::move(kept));
-  }
+  for (const auto& element : judged.elements)
+    elements.push_back(
+        {Valid(element), UtcText(element.at).value_or(""), ValidUtf8(element.by), LimitsOf(element)});
   return elements;
 }
 
-/// A result that was set aside has no run.
-void DropUntested(const DocumentSummary& summary, std::map<std::int32_t, SavedRunMark>& marks) {
-  for (const auto& element : summary.elements)
-    if (element.status == kNotTested) marks.erase(element.id);
+std::string LastDate(const std::vector<ArchivedElement>& elements) {
+  std::string last;
+  for (const auto& element : elements) last = std::max(last, element.runDate);
+  return last;
+}
+
+/// Each once, in the order of the elements: "A. Berg, K. Holm".
+std::string Operators(const std::vector<ArchivedElement>& elements) {
+  std::vector<std::string> names;
+  for (const auto& element : elements)
+    if (!element.operatorName.empty() &&
+        std::find(names.begin(), names.end(), element.operatorName) == names.end())
+      names.push_back(element.operatorName);
+  return Joined(names, ", ");
 }
 
 }  // namespace
@@ -94,16 +78,11 @@ ArchivedDocument EntryOf(const std::string& file, Workbench& workbench) {
   const auto document = Document::Open(workbench.Host(), file, DocumentFile::Use::kRead);
   if (ReadFile(file) != entry.contents)
     throw InputError(Tr("%%1 is being changed by another program; try again when that has ended", {file}));
-  auto standards = document->Standards();
-  if (standards->Count() == 0) standards = NamedStandards(*document, *workbench.Host());
-  const auto summary = SummaryOf(*document, *workbench.Host(), standards);
-
-  auto marks = SavedRunMarks(entry.contents);
-  DropUntested(summary, marks);
-  entry.elements = ElementsOf(*document, summary, marks);
-  if (const auto& tester = summary.instrument)
+  const auto view = ViewOf(*document, *workbench.Host());
+  entry.elements = ElementsOf(view.judged);
+  if (const auto& tester = view.instrument)
     entry.instrument = ArchivedInstrument{ValidUtf8(tester->type), ValidUtf8(tester->serial),
-                                          ValidUtf8(tester->firmware), tester->calibration};
+                                          ValidUtf8(tester->firmware), tester->leads};
   auto& told = entry.entry;
   told.bench = MachineName();
   told.path = ValidUtf8(document->Path().string());
@@ -111,10 +90,10 @@ ArchivedDocument EntryOf(const std::string& file, Workbench& workbench) {
   told.serial = ValidUtf8(document->equipment.serial);
   told.maker = ValidUtf8(document->equipment.maker);
   told.model = ValidUtf8(document->equipment.model);
-  told.outcome = OutcomeText(summary.outcome);
+  told.outcome = judge::OutcomeText(view.judged.outcome);
   told.finished = UnfinishedReason(entry).empty();
-  told.runDate = LastDate(marks);
-  told.operatorName = Operators(marks);
+  told.runDate = LastDate(entry.elements);
+  told.operatorName = Operators(entry.elements);
   told.added = IsoText(UtcNow());
   return entry;
 }
@@ -122,7 +101,7 @@ ArchivedDocument EntryOf(const std::string& file, Workbench& workbench) {
 std::string UnfinishedReason(const ArchivedDocument& document) {
   if (document.elements.empty()) return Tr("it has no tests");
   std::size_t open = 0;
-  const ElementSummary* first = nullptr;
+  const judge::JudgedElement* first = nullptr;
   for (const auto& element : document.elements) {
     if (HasResult(element.summary)) continue;
     ++open;
@@ -131,7 +110,7 @@ std::string UnfinishedReason(const ArchivedDocument& document) {
   if (!first) return {};
   return Tr("%%1 of its %%2 elements have no result, the first is element %%3, %%4 (%%5)",
             {std::to_string(open), std::to_string(document.elements.size()), std::to_string(first->id),
-             first->name, Tr(StatusText(first->status))});
+             first->name, Tr(judge::VerdictText(first->verdict))});
 }
 
 std::string ReceiptText(const std::string& file, const Archive::Receipt& receipt) {

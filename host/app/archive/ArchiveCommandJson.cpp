@@ -45,11 +45,11 @@ Json JsonOf(const TrendPoint& point) {
   json["flags"] = measurement ? measurement->flags : "";
   json["overload"] = point.Overloaded();
   json["status"] = summary.status;
-  json["statusText"] = StatusText(summary.status);
-  json["verdict"] = summary.Verdict();
+  json["statusText"] = judge::StatusText(summary.status);
+  json["verdict"] = judge::VerdictText(summary.verdict);
   json["limits"] = JsonOf(point.element.limits);
-  json["failedStandards"] = summary.failedStandards;
-  json["doubts"] = summary.doubts;
+  json["failedStandards"] = summary.FailedStandards();
+  json["reasons"] = bench::JsonOf(summary.reasons);
   return json;
 }
 
@@ -77,7 +77,7 @@ Json JsonOf(const ArchiveEntry& entry) {
 }
 
 Json JsonOf(const ArchivedDocument& document) {
-  auto json = JsonOf(SummaryOf(document));
+  auto json = JsonOf(ViewOf(document));
   for (std::size_t i = 0; i < document.elements.size(); ++i) {
     auto& element = json["elements"][i];
     element["limits"] = JsonOf(document.elements[i].limits);
@@ -97,20 +97,16 @@ Json JsonOf(const Trend& trend) {
   return json;
 }
 
-DocumentSummary SummaryOf(const ArchivedDocument& document) {
-  DocumentSummary summary;
-  summary.path = document.entry.path;
-  if (const auto& instrument = document.instrument) {
-    InstrumentSummary told;
-    told.type = instrument->type;
-    told.serial = instrument->serial;
-    told.firmware = instrument->firmware;
-    told.calibration = instrument->calibration;
-    summary.instrument = std::move(told);
-  }
-  for (const auto& element : document.elements) summary.elements.push_back(element.summary);
-  summary.outcome = OutcomeOf(summary.elements);
-  return summary;
+DocumentView ViewOf(const ArchivedDocument& document) {
+  DocumentView view;
+  view.path = document.entry.path;
+  view.equipment = {document.entry.asset, document.entry.serial, document.entry.maker, document.entry.model};
+  if (const auto& instrument = document.instrument)
+    view.instrument = RecordedTester{
+        instrument->type, instrument->serial, instrument->firmware, instrument->calibration, {}};
+  for (const auto& element : document.elements) view.judged.elements.push_back(element.summary);
+  view.judged.outcome = judge::OutcomeOf(view.judged.elements);
+  return view;
 }
 
 }  // namespace bench

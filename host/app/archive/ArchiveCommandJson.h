@@ -15,6 +15,6 @@ nlohmann::ordered_json JsonOf(const ArchivedDocument& document);
 nlohmann::ordered_json JsonOf(const Trend& trend);
 
 /// What `show` prints of the document.
-DocumentSummary SummaryOf(const ArchivedDocument& document);
+DocumentView ViewOf(const ArchivedDocument& document);
 
 }  // namespace bench

@@ -52,7 +52,7 @@ ExitStatus ArchiveCommandShow::Run(const GlobalOptions& options) {
   if (json_)
     std::cout << Indented(JsonOf(document)) << "\n";
   else
-    std::cout << HeadOf(document.entry) << TextOf(SummaryOf(document));
+    std::cout << HeadOf(document.entry) << TextOf(ViewOf(document));
   return ExitStatus::kPassed;
 }
 

@@ -41,7 +41,7 @@ std::vector<std::string> LineOf(const TrendPoint& point) {
   return {VisibleText(point.date) + (point.dated ? "" : "*"),
           ValueText(point),
           summary.measurement ? VisibleText(summary.measurement->unit) : "",
-          VisibleText(Tr(summary.Verdict())),
+          VisibleText(Tr(judge::VerdictText(summary.verdict))),
           std::to_string(point.document),
           std::to_string(summary.id),
           limits};

@@ -1,6 +1,7 @@
 #include "host/app/edit/Consequences.h"
 
 #include "host/Host.h"
+#include "host/app/DocumentText.h"
 #include "host/app/DocumentView.h"
 #include "host/app/TextColumns.h"
 #include "host/document/Document.h"
@@ -13,15 +14,13 @@ Consequences::Consequences(const Document& document, Host& host)
     : document_(document), host_(host), before_(Now()) {}
 
 Consequences::Judgement Consequences::Now() const {
-  const auto summary = SummaryOf(document_, host_, NamedStandards(document_, host_));
-  Judgement judgement{OutcomeText(summary.outcome), {}};
-  for (const auto& element : summary.elements) {
-    auto reasons = element.doubts;
-    if (!element.failedStandards.empty())
-      reasons.push_back(Tr("fails %%1", {Joined(element.failedStandards, ", ")}));
-    judgement.elements[element.id] = {element.name, element.Verdict(),
-                                      element.CountsAsDone() || element.Failed(), Joined(reasons, "; ")};
-  }
+  const auto judged = ViewOf(document_, host_).judged;
+  Judgement judgement{judge::OutcomeText(judged.outcome), {}};
+  for (const auto& element : judged.elements)
+    judgement.elements[element.id] = {
+        element.name, judge::VerdictText(element.verdict),
+        judge::IsDone(element.verdict) || element.verdict == judge::Verdict::kFailed,
+        Joined(ReasonTexts(element), "; ")};
   return judgement;
 }
 

@@ -1,8 +1,3 @@
-#include <cmath>
-
-#include "OrvikTypeLib/ILimit.h"
-#include "OrvikTypeLib/ILimitData.h"
-#include "OrvikTypeLib/IStandard.h"
 #include "host/app/TextColumns.h"
 #include "host/app/report/ReportParts.h"
 #include "host/report/VisibleText.h"
@@ -25,12 +20,11 @@ std::string BoundText(double bound, const std::string& entered) {
   return entered.ends_with('%') ? ShortNumber(bound) + " (" + VisibleText(entered) + ")" : ShortNumber(bound);
 }
 
-std::string BoundsText(const orvik::ILimit& limit, const std::string& unit) {
-  const auto low = limit.LowBound(), high = limit.HighBound();
-  const auto lowText = low ? BoundText(*low, limit.LowText()) : "";
-  const auto highText = high ? BoundText(*high, limit.HighText()) : "";
-  if (low && high) return Tr("%%1 to %%2", {lowText, WithUnit(highText, unit)});
-  if (low) return Tr("at least %%1", {WithUnit(lowText, unit)});
+std::string BoundsText(const judge::JudgedLimit& limit, const std::string& unit) {
+  const auto lowText = limit.low ? BoundText(*limit.low, limit.lowText) : "";
+  const auto highText = limit.high ? BoundText(*limit.high, limit.highText) : "";
+  if (limit.low && limit.high) return Tr("%%1 to %%2", {lowText, WithUnit(highText, unit)});
+  if (limit.low) return Tr("at least %%1", {WithUnit(lowText, unit)});
   return Tr("at most %%1", {WithUnit(highText, unit)});
 }
 
@@ -50,38 +44,40 @@ std::string PlaceText(Bar::Place place) {
   return Tr("within the bounds");
 }
 
-/// Why the reading cannot be put to the limit; empty when it can.
-std::string Hindrance(const orvik::ILimit& limit, const ElementSummary& summary) {
-  if (!summary.measurement || !summary.measurement->value) return Tr("not judged");
-  if (Overloaded(summary)) return Tr("not judged: overload (OL)");
-  // The value of a sequence is computed, and carries no unit.
-  if (!summary.sequence && !limit.Unit().empty() && limit.Unit() != summary.measurement->unit)
-    return Tr("not judged: the reading is in another unit");
-  return {};
+/// Why the reading was not judged by the limit; empty when it was.
+std::string Hindrance(const judge::JudgedLimit& limit, const judge::JudgedElement& element) {
+  switch (limit.verdict) {
+    case judge::LimitVerdict::kNotApplied:
+      return Tr("not judged");
+    case judge::LimitVerdict::kNotComparable:
+      return Overloaded(element) ? Tr("not judged: overload (OL)")
+                                 : Tr("not judged: the reading is in another unit");
+    default:
+      return {};
+  }
 }
 
-Judgement JudgementOf(const std::string& standard, const orvik::ILimit& limit,
-                      const ElementSummary& summary) {
-  const auto unit = VisibleText(limit.Unit());
+Judgement JudgementOf(const judge::JudgedLimit& limit, const judge::JudgedElement& element) {
+  const auto unit = VisibleText(limit.unit);
   Judgement judgement;
-  judgement.standard = standard;
+  judgement.standard = VisibleText(limit.standard);
+  if (!limit.description.empty()) judgement.standard += " (" + VisibleText(limit.description) + ")";
   judgement.bounds = BoundsText(limit, unit);
-  judgement.word = Hindrance(limit, summary);
+  judgement.word = Hindrance(limit, element);
   if (!judgement.word.empty()) {
     judgement.standing =
-        StandingOf(summary) == Standing::kNotApplicable ? Standing::kNotApplicable : Standing::kOpen;
+        StandingOf(element) == Standing::kNotApplicable ? Standing::kNotApplicable : Standing::kOpen;
     return judgement;
   }
-  const double value = *summary.measurement->value;
-  judgement.bar = report::MakeBar(limit.LowBound(), limit.HighBound(), value);
-  const bool kept = judgement.bar && judgement.bar->place != Bar::Place::kBelow &&
-                    judgement.bar->place != Bar::Place::kAbove;
-  judgement.standing = kept ? Standing::kPassed : Standing::kFailed;
-  judgement.word = kept ? Tr("kept") : Tr("broken");
+  judgement.bar = report::MakeBar(limit.low, limit.high, *limit.value);
+  judgement.standing = limit.Broken() ? Standing::kFailed : Standing::kPassed;
+  judgement.word = limit.verdict == judge::LimitVerdict::kWithin  ? Tr("within limit")
+                   : limit.verdict == judge::LimitVerdict::kBelow ? Tr("below limit")
+                                                                  : Tr("exceeded");
   if (!judgement.bar) return judgement;
-  if (limit.LowBound()) judgement.lowLabel = ShortNumber(*limit.LowBound());
-  if (limit.HighBound()) judgement.highLabel = ShortNumber(*limit.HighBound());
-  judgement.valueLabel = ShortNumber(value);
+  if (limit.low) judgement.lowLabel = ShortNumber(*limit.low);
+  if (limit.high) judgement.highLabel = ShortNumber(*limit.high);
+  judgement.valueLabel = ShortNumber(*limit.value);
   judgement.inWords = Tr("%%1 is %%2: %%3", {WithUnit(judgement.valueLabel, unit),
                                              PlaceText(judgement.bar->place), judgement.bounds});
   return judgement;
@@ -89,21 +85,10 @@ Judgement JudgementOf(const std::string& standard, const orvik::ILimit& limit,
 
 }  // namespace
 
-std::vector<Judgement> JudgementsOf(const orvik::ITestElement& element, const ElementSummary& summary,
-                                    const orvik::IStandardColl& selected) {
+std::vector<Judgement> JudgementsOf(const judge::JudgedElement& element) {
   std::vector<Judgement> judgements;
-  const auto limits = element.Limits();
-  const auto standards = limits ? limits->Standards() : nullptr;
-  for (std::int32_t i = 1; standards && i <= standards->Count(); ++i) {
-    const auto standard = standards->item(i);
-    if (!selected.Find(standard->Name(), standard->Description())) continue;
-    auto name = VisibleText(standard->Name());
-    if (!standard->Description().empty()) name += " (" + VisibleText(standard->Description()) + ")";
-    for (std::int32_t k = 1; k <= standard->LimitCount(); ++k) {
-      const auto limit = standard->Limit(k);
-      if (limit->LowBound() || limit->HighBound()) judgements.push_back(JudgementOf(name, *limit, summary));
-    }
-  }
+  for (const auto& limit : element.limits)
+    if (limit.selected) judgements.push_back(JudgementOf(limit, element));
   return judgements;
 }
 

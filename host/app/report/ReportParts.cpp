@@ -26,12 +26,12 @@ std::string SpanText(const RunTimes& times) {
             {MinuteText(times.first), first->day == last->day ? last->minute : MinuteText(times.last)});
 }
 
-bool Overloaded(const ElementSummary& element) {
-  return element.measurement && element.measurement->flags.find('O') != std::string::npos;
+bool Overloaded(const judge::JudgedElement& element) {
+  return element.measurement && element.measurement->Overloaded();
 }
 
-std::string ValueText(const ElementSummary& element) {
-  if (!element.measurement || !element.measurement->value) return {};
+std::string ValueText(const judge::JudgedElement& element) {
+  if (!element.Current() || !element.measurement || !element.measurement->value) return {};
   return Overloaded(element) ? "OL" : ShortNumber(*element.measurement->value);
 }
 

@@ -8,108 +8,113 @@
 namespace bench::parts {
 namespace {
 
-enum Kind { kFailed, kNotTested, kAborted, kDoubtful, kPassed, kNotApplicable, kKinds };
+using judge::JudgedElement;
+using judge::Verdict;
 
-Kind KindOf(const ElementSummary& element) {
-  if (element.Failed()) return kFailed;
-  if (element.CountsAsDone()) return element.status == 1 ? kPassed : kNotApplicable;
-  if (element.status == 1 || element.status == 3) return kDoubtful;
-  return element.status == 0 ? kNotTested : kAborted;
-}
+constexpr std::size_t kKinds = 8;
+
+constexpr std::size_t Place(Verdict verdict) { return static_cast<std::size_t>(verdict); }
 
 /// How many tests there are of each kind. A sequence counts only where none of its children says the same.
-std::array<int, kKinds> Counts(const std::vector<ElementSummary>& elements) {
+std::array<int, kKinds> Counts(const std::vector<JudgedElement>& elements) {
   std::array<int, kKinds> counts{};
   std::map<std::int32_t, std::array<bool, kKinds>> below;  // by the identifier of the sequence
   // From the end: children come after their parents.
   for (auto element = elements.rbegin(); element != elements.rend(); ++element) {
-    const auto kind = KindOf(*element);
-    const bool done = kind == kPassed || kind == kNotApplicable;
+    const auto kind = Place(element->verdict);
+    const bool done = judge::IsDone(element->verdict);
     auto kinds = below[element->id];
-    if (!element->sequence || (!done && !kinds[kind])) ++counts[kind];
-    kinds[kind] = kinds[kind] || !element->sequence || !done;
+    if (!element->group || (!done && !kinds[kind])) ++counts[kind];
+    kinds[kind] = kinds[kind] || !element->group || !done;
     auto& above = below[element->parent];
     for (std::size_t i = 0; i < kKinds; ++i) above[i] = above[i] || kinds[i];
   }
   return counts;
 }
 
-std::string Piece(Kind kind, const std::string& count) {
-  switch (kind) {
-    case kFailed:
+std::string Piece(Verdict verdict, const std::string& count) {
+  switch (verdict) {
+    case Verdict::kFailed:
       return Tr("%%1 failed", {count});
-    case kNotTested:
+    case Verdict::kNotTested:
       return Tr("%%1 not tested", {count});
-    case kAborted:
+    case Verdict::kAborted:
       return Tr("%%1 aborted", {count});
-    case kDoubtful:
+    case Verdict::kDoubtful:
       return Tr("%%1 doubtful", {count});
-    case kNotApplicable:
+    case Verdict::kNotJudged:
+      return Tr("%%1 not judged", {count});
+    case Verdict::kRecorded:
+      return Tr("%%1 recorded only", {count});
+    case Verdict::kNotApplicable:
       return Tr("%%1 not applicable", {count});
-    default:
-      return Tr("%%1 passed", {count});
+    case Verdict::kPassed:
+      break;
   }
+  return Tr("%%1 passed", {count});
 }
 
 /// "2 of 6 failed, 1 not tested".
-std::string Pieces(const std::array<int, kKinds>& counts, std::initializer_list<Kind> kinds) {
+std::string Pieces(const std::array<int, kKinds>& counts, std::initializer_list<Verdict> verdicts) {
   int all = 0;
   for (const int count : counts) all += count;
   std::string text;
-  for (const auto kind : kinds) {
-    if (counts[kind] == 0) continue;
-    const auto count = std::to_string(counts[kind]);
-    text += text.empty() ? Piece(kind, Tr("%%1 of %%2", {count, std::to_string(all)}))
-                         : ", " + Piece(kind, count);
+  for (const auto verdict : verdicts) {
+    if (counts[Place(verdict)] == 0) continue;
+    const auto count = std::to_string(counts[Place(verdict)]);
+    text += text.empty() ? Piece(verdict, Tr("%%1 of %%2", {count, std::to_string(all)}))
+                         : ", " + Piece(verdict, count);
   }
   return text;
 }
 
+constexpr std::initializer_list<Verdict> kEvery = {
+    Verdict::kFailed,    Verdict::kNotTested, Verdict::kAborted,  Verdict::kDoubtful,
+    Verdict::kNotJudged, Verdict::kPassed,    Verdict::kRecorded, Verdict::kNotApplicable};
+constexpr std::initializer_list<Verdict> kOpen = {Verdict::kNotTested, Verdict::kAborted, Verdict::kDoubtful,
+                                                  Verdict::kNotJudged};
+
 }  // namespace
 
-report::Standing StandingOf(const ElementSummary& element) {
-  switch (KindOf(element)) {
-    case kFailed:
+report::Standing StandingOf(const JudgedElement& element) {
+  switch (element.verdict) {
+    case Verdict::kFailed:
       return report::Standing::kFailed;
-    case kPassed:
+    case Verdict::kPassed:
       return report::Standing::kPassed;
-    case kNotApplicable:
+    case Verdict::kNotApplicable:
+    case Verdict::kRecorded:
       return report::Standing::kNotApplicable;
     default:
       return report::Standing::kOpen;
   }
 }
 
-report::Standing StandingOf(Outcome outcome) {
+report::Standing StandingOf(judge::Outcome outcome) {
   switch (outcome) {
-    case Outcome::kPassed:
+    case judge::Outcome::kPassed:
       return report::Standing::kPassed;
-    case Outcome::kFailed:
+    case judge::Outcome::kFailed:
       return report::Standing::kFailed;
-    case Outcome::kIncomplete:
+    case judge::Outcome::kIncomplete:
       break;
   }
   return report::Standing::kOpen;
 }
 
-report::Verdict VerdictOf(const std::vector<ElementSummary>& elements, Outcome outcome) {
+report::Verdict VerdictOf(const std::vector<JudgedElement>& elements, judge::Outcome outcome) {
   report::Verdict verdict;
   verdict.standing = StandingOf(outcome);
-  verdict.word = outcome == Outcome::kPassed   ? Tr("Passed")
-                 : outcome == Outcome::kFailed ? Tr("Failed")
-                                               : Tr("Incomplete");
-  const auto counts = Counts(elements);
-  verdict.sentence =
-      elements.empty() ? Tr("The document has no tests.")
-      : outcome == Outcome::kPassed
-          ? Pieces(counts, {kPassed, kNotApplicable})
-          : Pieces(counts, {kFailed, kNotTested, kAborted, kDoubtful, kPassed, kNotApplicable});
+  verdict.word = outcome == judge::Outcome::kPassed   ? Tr("Passed")
+                 : outcome == judge::Outcome::kFailed ? Tr("Failed")
+                                                      : Tr("Incomplete");
+  verdict.sentence = elements.empty() ? Tr("The document has no tests.") : Pieces(Counts(elements), kEvery);
   return verdict;
 }
 
-std::string OpenParts(const std::vector<ElementSummary>& elements) {
+std::string OpenParts(const std::vector<JudgedElement>& elements) {
   if (elements.empty()) return Tr("The document has no tests.");
-  return Pieces(Counts(elements), {kNotTested, kAborted, kDoubtful});
+  return Pieces(Counts(elements), kOpen);
 }
 
 }  // namespace bench::parts

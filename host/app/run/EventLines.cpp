@@ -3,6 +3,7 @@
 #include <ostream>
 
 #include "host/app/DocumentJson.h"
+#include "host/judge/ReasonText.h"
 #include "host/serial/Latin1.h"
 
 namespace bench {
@@ -22,7 +23,7 @@ void EventLines::Reached(std::size_t place, std::size_t count) {
   Print(line);
 }
 
-void EventLines::Started(const ElementSummary& element) {
+void EventLines::Started(const judge::JudgedElement& element) {
   auto line = Line("started");
   line["element"] = element.id;
   line["testId"] = element.testId;
@@ -30,14 +31,18 @@ void EventLines::Started(const ElementSummary& element) {
   Print(line);
 }
 
-void EventLines::Finished(const ElementSummary& element) {
+void EventLines::Finished(const judge::JudgedElement& element) {
   auto line = Line("finished");
   line["element"] = element.id;
   line["testId"] = element.testId;
   line["name"] = element.name;
   line["status"] = element.status;
-  line["statusText"] = StatusText(element.status);
-  line["doubts"] = element.doubts;
+  line["statusText"] = judge::StatusText(element.status);
+  line["verdict"] = judge::VerdictText(element.verdict);
+  line["value"] =
+      element.measurement && element.measurement->value ? Json(*element.measurement->value) : Json(nullptr);
+  line["unit"] = element.measurement ? element.measurement->unit : std::string();
+  line["reasons"] = JsonOf(element.reasons);
   Print(line);
 }
 
@@ -71,10 +76,12 @@ void EventLines::Prompted(const std::string& text) {
   Print(line);
 }
 
-void EventLines::Doubted(std::int32_t element, const std::string& doubt) {
+void EventLines::Doubted(std::int32_t element, const Reason& doubt) {
   auto line = Line("doubt");
   line["element"] = element;
-  line["text"] = doubt;
+  line["code"] = doubt.code;
+  line["arguments"] = doubt.arguments;
+  line["text"] = judge::ReasonText(doubt);
   Print(line);
 }
 

@@ -17,11 +17,11 @@ class EventLines final : public RunReporter {
 
   void Planned(const std::vector<std::size_t>& tests) override;
   void Reached(std::size_t place, std::size_t count) override;
-  void Started(const ElementSummary& element) override;
-  void Finished(const ElementSummary& element) override;
+  void Started(const judge::JudgedElement& element) override;
+  void Finished(const judge::JudgedElement& element) override;
   void Wire(const WireRecord& record) override;
   void Prompted(const std::string& text) override;
-  void Doubted(std::int32_t element, const std::string& doubt) override;
+  void Doubted(std::int32_t element, const Reason& doubt) override;
   void Remark(const std::string& text) override;
   void Over() override {}  // "ended" tells it, with the outcome
   /// The last line: the outcome of the run and the exit status.

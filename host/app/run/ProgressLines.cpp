@@ -7,6 +7,7 @@
 
 #include "host/app/Colour.h"
 #include "host/app/DocumentText.h"
+#include "host/judge/ReasonText.h"
 #include "host/report/VisibleText.h"
 #include "host/serial/Latin1.h"
 #include "host/services/TextCells.h"
@@ -53,12 +54,14 @@ void ProgressLines::Reached(std::size_t place, std::size_t count) {
   place_ = "[" + std::to_string(place) + "/" + std::to_string(count) + "] ";
 }
 
-void ProgressLines::Started(const ElementSummary& element) {
+void ProgressLines::Started(const judge::JudgedElement& element) {
   element_ = std::to_string(element.testId) + " " + report::VisibleText(element.name);
   Print(place_ + element_);
 }
 
-void ProgressLines::Finished(const ElementSummary& element) { Print("      " + LineOf(element, coloured_)); }
+void ProgressLines::Finished(const judge::JudgedElement& element) {
+  Print("      " + LineOf(element, coloured_));
+}
 
 void ProgressLines::Wire(const WireRecord& record) {
   exchange_.Take(record);
@@ -74,8 +77,8 @@ void ProgressLines::Prompted(const std::string& text) {
   Print("      " + report::VisibleText(text, report::LineEnds::kKept));
 }
 
-void ProgressLines::Doubted(std::int32_t, const std::string& doubt) {
-  Print("      " + Tr("doubt: %%1", {report::VisibleText(doubt)}));
+void ProgressLines::Doubted(std::int32_t, const Reason& doubt) {
+  Print("      " + Tr("doubt: %%1", {report::VisibleText(judge::ReasonText(doubt))}));
 }
 
 void ProgressLines::Remark(const std::string& text) { Print(text); }

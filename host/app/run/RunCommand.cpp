@@ -8,6 +8,7 @@
 #include "host/app/Colour.h"
 #include "host/app/DocumentJson.h"
 #include "host/app/DocumentText.h"
+#include "host/app/DocumentView.h"
 #include "host/app/InputError.h"
 #include "host/app/NumberOption.h"
 #include "host/app/UnsavedChanges.h"
@@ -23,9 +24,9 @@ namespace bench {
 
 namespace {
 
-ExitStatus StatusOf(DocumentRunner::End end, Outcome outcome) {
-  if (outcome == Outcome::kFailed) return ExitStatus::kFailed;
-  if (end != DocumentRunner::End::kFinished || outcome == Outcome::kIncomplete)
+ExitStatus StatusOf(DocumentRunner::End end, judge::Outcome outcome) {
+  if (outcome == judge::Outcome::kFailed) return ExitStatus::kFailed;
+  if (end != DocumentRunner::End::kFinished || outcome == judge::Outcome::kIncomplete)
     return ExitStatus::kIncomplete;
   return ExitStatus::kPassed;
 }
@@ -97,9 +98,9 @@ ExitStatus RunCommand::Perform(Workbench& workbench, Document& document, RunRepo
   const auto selected = SelectedElements(document, options_);
   SelectStandards(document, *workbench.Host(), options_);
   const auto elements =
-      options_.resume ? WithoutResult(selected, *workbench.Host(), document.Standards()) : selected;
+      options_.resume ? Unfinished(selected, document, ViewOf(document, *workbench.Host()).judged) : selected;
   WireLog log(options_.wireLog.empty() ? options_.file + ".wire.log" : options_.wireLog);
-  options_.tester.Connect(workbench.Ports());
+  const auto& tester = options_.tester.Connect(workbench.Ports());
   if (const auto remark = options_.tester.TimeRemark(); !remark.empty()) reporter.Remark(remark);
   if (elements.empty()) reporter.Remark(Tr("Every element has a result; there is nothing to go on with."));
 
@@ -107,7 +108,8 @@ ExitStatus RunCommand::Perform(Workbench& workbench, Document& document, RunRepo
   {
     RunSession session(workbench, document, log, reporter,
                        options_.operatorKind == "ask" ? OperatorKind::kTerminal : OperatorKind::kProgram,
-                       OperatorName(options_.by));
+                       tester, OperatorName(options_.by));
+    session.JudgeBy(options_.standards);
     const StopSignals signals(*workbench.Application(), [&session](int) { session.AskToStop(); });
     end = session.Run(elements);
     reporter.Over();
@@ -117,14 +119,12 @@ ExitStatus RunCommand::Perform(Workbench& workbench, Document& document, RunRepo
   if (!log.Failure().empty())
     reporter.Remark(Tr("The wire log %%1 could not be written: %%2", {log.Path(), log.Failure()}));
 
-  const auto summary = SummaryOf(document, *workbench.Host(), document.Standards());
-  const auto run = OutcomeOf(Summarise(selected, *workbench.Host()->Elements(), document.Standards()));
-  const auto status = StatusOf(end, run);
+  const auto view = ViewOf(document, *workbench.Host(), options_.standards);
+  const auto status = StatusOf(end, JudgedPart(view.judged, selected).outcome);
   if (auto* events = dynamic_cast<EventLines*>(&reporter))
-    events->Ended(OutcomeText(summary.outcome), static_cast<int>(status));
+    events->Ended(judge::OutcomeText(view.judged.outcome), static_cast<int>(status));
   else
-    std::cout << (options_.json ? Indented(JsonOf(summary)) + "\n"
-                                : TextOf(summary, ColoursWanted(STDOUT_FILENO)))
+    std::cout << (options_.json ? Indented(JsonOf(view)) + "\n" : TextOf(view, ColoursWanted(STDOUT_FILENO)))
               << std::flush;
   return status;
 }

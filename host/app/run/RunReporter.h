@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "OrvikTypeLib/ITestElement.h"
-#include "host/run/ElementSummary.h"
+#include "host/judge/Verdict.h"
 #include "host/serial/Wire.h"
 
 namespace bench {
@@ -22,11 +22,11 @@ class RunReporter {
   virtual void Planned(const std::vector<std::size_t>& tests) = 0;
   /// The run has reached an element at the top: its place from 1, the number of all.
   virtual void Reached(std::size_t place, std::size_t count) = 0;
-  virtual void Started(const ElementSummary& element) = 0;
-  virtual void Finished(const ElementSummary& element) = 0;
+  virtual void Started(const judge::JudgedElement& element) = 0;
+  virtual void Finished(const judge::JudgedElement& element) = 0;
   virtual void Wire(const WireRecord& record) = 0;
   virtual void Prompted(const std::string& text) = 0;
-  virtual void Doubted(std::int32_t element, const std::string& doubt) = 0;
+  virtual void Doubted(std::int32_t element, const Reason& doubt) = 0;
   /// Something that people should know.
   virtual void Remark(const std::string& text) = 0;
   /// The run is over, nothing is waited for any more.

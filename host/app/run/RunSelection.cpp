@@ -2,12 +2,15 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <optional>
+#include <unordered_set>
 
 #include "OrvikTypeLib/IStandard.h"
 #include "host/Host.h"
 #include "host/app/DocumentView.h"
 #include "host/app/InputError.h"
 #include "host/document/Document.h"
+#include "host/run/ElementWalk.h"
 #include "host/services/Tr.h"
 
 namespace bench {
@@ -48,17 +51,30 @@ Elements SelectedElements(const Document& document, const RunSelection& selectio
   return selected;
 }
 
-Elements WithoutResult(const Elements& elements, const Host& host,
-                       const std::shared_ptr<orvik::IStandardColl>& standards) {
-  Elements open;
-  for (const auto& element : elements) {
-    const auto summaries = Summarise({element}, *host.Elements(), standards);
-    const bool done = std::all_of(summaries.begin(), summaries.end(), [](const ElementSummary& summary) {
-      return summary.status != 0 && summary.Verdict() != "aborted" && summary.Verdict() != "doubtful";
-    });
-    if (!done) open.push_back(element);
+Elements Unfinished(const Elements& elements, const Document& document, const judge::JudgedDocument& judged) {
+  const auto& runs = document.Runs().All();
+  // An interrupted run says what it was about; everything else was not asked for.
+  std::optional<std::unordered_set<std::int32_t>> taken;
+  if (!runs.empty() && runs.back().end != RunRecord::End::kFinished) {
+    const auto ids = runs.back().Elements();
+    taken.emplace(ids.begin(), ids.end());
   }
-  return open;
+  std::unordered_set<std::int32_t> settled;
+  for (const auto& element : judged.elements)
+    if (element.Current() && element.verdict != judge::Verdict::kDoubtful &&
+        element.verdict != judge::Verdict::kNotTested && element.verdict != judge::Verdict::kAborted)
+      settled.insert(element.id);
+  const auto open = [&](const std::shared_ptr<orvik::ITestElement>& element) {
+    return (!taken || taken->contains(element->ID())) && !settled.contains(element->ID());
+  };
+  Elements unfinished;
+  for (const auto& top : elements) {
+    bool any = false;
+    WalkElements(top,
+                 [&](const std::shared_ptr<orvik::ITestElement>& element) { any = any || open(element); });
+    if (any) unfinished.push_back(top);
+  }
+  return unfinished;
 }
 
 void SelectStandards(Document& document, Host& host, const RunSelection& selection) {

@@ -7,6 +7,7 @@
 
 #include "OrvikTypeLib/IStandardColl.h"
 #include "OrvikTypeLib/ITestElement.h"
+#include "host/judge/Verdict.h"
 
 namespace bench {
 
@@ -26,15 +27,15 @@ struct RunSelection {
 std::vector<std::shared_ptr<orvik::ITestElement>> SelectedElements(const Document& document,
                                                                    const RunSelection& selection);
 
-/// Those of the elements that have no result yet, or one that does not count, which a resumed run goes on
-/// with.
-/// @param standards those by which the document is judged
-std::vector<std::shared_ptr<orvik::ITestElement>> WithoutResult(
-    const std::vector<std::shared_ptr<orvik::ITestElement>>& elements, const Host& host,
-    const std::shared_ptr<orvik::IStandardColl>& standards);
+/// Those of the elements with which a resumed run goes on. When the last runs were not finished, those that
+/// the last of them took up and that have no result since; otherwise those of which something has no current
+/// result, or a doubtful one.
+std::vector<std::shared_ptr<orvik::ITestElement>> Unfinished(
+    const std::vector<std::shared_ptr<orvik::ITestElement>>& elements, const Document& document,
+    const judge::JudgedDocument& judged);
 
-/// Has the document judge by the standards that the selection names, else by every one that it names itself.
-/// `InputError` for a standard that no limit of the document belongs to.
+/// Has the plug-in judge by the standards that the selection names, else by every one that the document
+/// names. `InputError` for a standard that no limit of the document belongs to.
 void SelectStandards(Document& document, Host& host, const RunSelection& selection);
 
 /// The operator's name that was given, else that of the account; may be empty.

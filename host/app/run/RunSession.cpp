@@ -2,13 +2,16 @@
 
 #include "OrvikTypeLib/As.h"
 #include "OrvikTypeLib/ITestContainer.h"
+#include "host/app/InputError.h"
 #include "host/app/run/AskOperator.h"
 #include "host/app/run/ScreenOperator.h"
 #include "host/document/Document.h"
 #include "host/elements/ElementFactory.h"
 #include "host/instruments/InstrumentColl.h"
+#include "host/judge/CaseOf.h"
 #include "host/run/AutoOperator.h"
 #include "host/run/ElementWalk.h"
+#include "host/services/LeadCalibrations.h"
 #include "host/services/Tr.h"
 
 namespace bench {
@@ -29,47 +32,81 @@ std::vector<std::size_t> TestsOfEach(const std::vector<Element>& elements) {
   return tests;
 }
 
+RunRecorder::Heading HeadingOf(const Workbench& workbench, const Document& document,
+                               const TesterConnection& tester, const std::string& by) {
+  RunRecorder::Heading heading;
+  heading.equipment = document.equipment;
+  heading.by = by;
+  heading.port = tester.Device();
+  heading.program = "orvik-bench " ORVIK_VERSION;
+  heading.simulated = tester.Simulated();
+  heading.timeScale = workbench.TimeScale();
+  return heading;
+}
+
 }  // namespace
 
+void RequireOneKindOfRuns(const Document& document, bool simulated) {
+  const auto& runs = document.Runs().All();
+  if (runs.empty() || runs.front().simulated == simulated) return;
+  throw InputError(simulated
+                       ? Tr("%%1 holds runs on a real tester; simulated ones need a document of their own "
+                            "(\"orvik-bench new FILE --from %%1\")",
+                            {document.Path().string()})
+                       : Tr("%%1 holds simulated runs; runs on a real tester need a document of their own "
+                            "(\"orvik-bench new FILE --from %%1\")",
+                            {document.Path().string()}));
+}
+
 RunSession::RunSession(Workbench& workbench, Document& document, WireLog& log, RunReporter& reporter,
-                       OperatorKind kind, const std::string& by)
+                       OperatorKind kind, const TesterConnection& tester, const std::string& by)
     : workbench_(workbench),
       document_(document),
       log_(log),
       reporter_(reporter),
       kind_(kind),
+      heading_(HeadingOf(workbench, document, tester, by)),
       doubts_(*workbench.Ports().TheWire()),
       link_(workbench.Ports()),
       stopProgress_(*workbench.Ports().TheWire(), *workbench.Application(), workbench.TimeScale()),
+      recorder_(RunRecorder::Parts{
+          document.Runs(), document.Instruments(), document.Standards(), doubts_, LocalTimeText,
+          [&workbench](const std::string& serial, std::int32_t leads) {
+            return LeadsMeasured(*workbench.Host()->Registry(), serial, leads).value_or("");
+          }}),
       controller_(std::make_shared<RunController>(
-          RunController::Parts{document.Standards(), document.Instruments(), *workbench.Host()->Elements(),
-                               doubts_, [&document] { document.Save(); }, LocalTimeText, by})),
+          RunController::Parts{document.Standards(), document.Instruments(), doubts_, recorder_,
+                               [&document] { document.Save(); }})),
       runner_(controller_, link_, stop_) {
+  RequireOneKindOfRuns(document, heading_.simulated);
   Listen();
 }
 
 void RunSession::Listen() {
-  const auto summary = [this](const Element& element) {
-    return Summarise({element}, *workbench_.Host()->Elements(), document_.Standards()).front();
-  };
   heard_.push_back(workbench_.Ports().TheWire()->Subscribe([this](const WireRecord& record) {
     log_.Write(record);
     reporter_.Wire(record);
   }));
   heard_.push_back(doubts_.Noted().Subscribe(
-      [this](std::int32_t element, const std::string& doubt) { reporter_.Doubted(element, doubt); }));
+      [this](std::int32_t element, const bench::Reason& doubt) { reporter_.Doubted(element, doubt); }));
   heard_.push_back(controller_->Started().Subscribe(
-      [this, summary](const Element& element) { reporter_.Started(summary(element)); }));
+      [this](const Element& element) { reporter_.Started(Judged(*element)); }));
   heard_.push_back(controller_->Finished().Subscribe(
-      [this, summary](const Element& element) { reporter_.Finished(summary(element)); }));
+      [this](const Element& element) { reporter_.Finished(Judged(*element)); }));
   heard_.push_back(runner_.Reached().Subscribe(
       [this](std::size_t place, std::size_t count, const Element&) { reporter_.Reached(place, count); }));
+}
+
+judge::JudgedElement RunSession::Judged(const orvik::ITestElement& element) const {
+  const auto judged = judge::Judge(document_, *workbench_.Host()->Elements(), standards_);
+  const auto* found = judged.Find(element.ID());
+  return found ? *found : judge::JudgedElement{};
 }
 
 DocumentRunner::End RunSession::Run(const std::vector<Element>& elements) {
   reporter_.Planned(TestsOfEach(elements));
   const auto person = MakeOperator();
-  return runner_.Run(elements);
+  return runner_.Run(heading_, elements);
 }
 
 std::unique_ptr<IOperator> RunSession::MakeOperator() {

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "OrvikTypeLib/ITestElement.h"
+#include "host/app/TesterConnection.h"
 #include "host/app/Workbench.h"
 #include "host/app/run/RunReporter.h"
 #include "host/app/run/StopProgress.h"
@@ -11,6 +12,7 @@
 #include "host/run/DoubtTracker.h"
 #include "host/run/IOperator.h"
 #include "host/run/LinkWatch.h"
+#include "host/run/RunRecorder.h"
 #include "host/serial/WireLog.h"
 
 namespace bench {
@@ -21,13 +23,19 @@ class Document;
 /// windows.
 enum class OperatorKind { kProgram, kTerminal, kScreen };
 
+/// `InputError` when the document has runs of the other kind: simulated and real ones never meet.
+void RequireOneKindOfRuns(const Document& document, bool simulated);
+
 /// One run of a document: everything that takes part in it, joined.
 class RunSession {
  public:
-  /// @param by the name of the operator, for the results
+  /// @param by the name of the operator, for the record
+  /// `InputError` when the document has runs on a tester of the other kind, real or simulated.
   RunSession(Workbench& workbench, Document& document, WireLog& log, RunReporter& reporter, OperatorKind kind,
-             const std::string& by);
+             const TesterConnection& tester, const std::string& by);
 
+  /// What `reporter` hears is judged by these standards; without any by every one that an element names.
+  void JudgeBy(std::vector<std::string> standards) { standards_ = std::move(standards); }
   /// Runs the elements; returns when the session with the tester is over and the document saved.
   DocumentRunner::End Run(const std::vector<std::shared_ptr<orvik::ITestElement>>& elements);
   /// Why it ended so.
@@ -38,6 +46,7 @@ class RunSession {
 
  private:
   void Listen();
+  judge::JudgedElement Judged(const orvik::ITestElement& element) const;
   std::unique_ptr<IOperator> MakeOperator();
 
   Workbench& workbench_;
@@ -45,10 +54,13 @@ class RunSession {
   WireLog& log_;
   RunReporter& reporter_;
   const OperatorKind kind_;
+  std::vector<std::string> standards_;
   StopRequest stop_;
+  const RunRecorder::Heading heading_;
   DoubtTracker doubts_;
   LinkWatch link_;
   StopProgress stopProgress_;
+  RunRecorder recorder_;
   const std::shared_ptr<RunController> controller_;
   DocumentRunner runner_;
   std::vector<orvik::platform::Subscription> heard_;

@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
-#include "host/archive/Sha256.h"
+#include "host/services/Sha256.h"
 
-namespace archive_tests {
+namespace host_tests {
 namespace {
 
 // FIPS 180-4 and its examples.
@@ -16,4 +16,4 @@ TEST(Sha256, DigestsAsTheStandardSays) {
 }
 
 }  // namespace
-}  // namespace archive_tests
+}  // namespace host_tests

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <string>
+
+namespace bench {
+
+/// The equipment under test.
+struct Equipment {
+  std::string asset;
+  std::string serial;
+  std::string maker;
+  std::string model;
+  bool operator==(const Equipment&) const = default;
+};
+
+}  // namespace bench

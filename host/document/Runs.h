@@ -1,0 +1,47 @@
+#pragma once
+
+#include <cstdint>
+#include <pugixml.hpp>
+#include <vector>
+
+#include "host/document/RunRecord.h"
+#include "host/services/Leftovers.h"
+
+namespace bench {
+
+/// What was done with a document: runs, each appended once and never changed afterwards. Saved as the node
+/// "Runs"; runs that were read are written back as they were, with all that another program added.
+class Runs {
+ public:
+  Runs() = default;
+
+  /// Reads the section; an empty node gives no runs. `XmlError` for a malformed run.
+  void Load(pugi::xml_node section);
+  /// Adds the section to the parent; nothing while there are no runs.
+  void Save(pugi::xml_node parent) const;
+
+  /// From the oldest; the last one may be going on.
+  const std::vector<RunRecord>& All() const { return all_; }
+  bool Empty() const { return all_.empty(); }
+  /// The highest identifier of an element that any run names: it is never given again. 0 without runs.
+  std::int32_t HighestElement() const;
+
+  /// Appends a run, which gets its number here. It goes on, and may change, until `Close`.
+  RunRecord& Open(RunRecord run);
+  /// The run that goes on; null when none does.
+  RunRecord* Current() { return open_ ? &all_.back() : nullptr; }
+  /// The run is over: from here on nothing changes it.
+  void Close();
+
+ private:
+  std::string LastDigest() const;
+  pugi::xml_node WriteCurrent(pugi::xml_node parent) const;
+
+  std::vector<RunRecord> all_;
+  bool open_ = false;
+  /// The finished runs as they are saved; the one that goes on is added when the document is saved.
+  pugi::xml_document saved_;
+  Leftovers besideRuns_;
+};
+
+}  // namespace bench

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <vector>
+
+#include "host/judge/Case.h"
+#include "host/judge/Records.h"
+#include "host/judge/Verdict.h"
+
+namespace bench::judge {
+
+/// A child of a group, judged already.
+struct Child {
+  const JudgedElement* judged = nullptr;
+  LastRecord last;
+};
+
+/// Why the group's record does not belong to its children's: a child was taken up again afterwards, or in a
+/// later run. None when it does.
+std::optional<Reason> OlderThanChildren(const LastRecord& group, const std::vector<Child>& children);
+
+/// Judges a group whose record is current: by its children, and by its own limits with the value that its
+/// filter makes of its children's readings.
+void JudgeGroup(const CaseElement& element, const LastRecord& last, const std::vector<Child>& children,
+                JudgedElement& judged);
+
+}  // namespace bench::judge

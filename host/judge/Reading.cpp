@@ -1,0 +1,91 @@
+#include "host/judge/Reading.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <memory>
+
+#include "host/plugins/keld/KeldTests.h"
+#include "host/serial/Latin1.h"
+#include "host/serial/Message.h"
+#include "host/services/Text.h"
+#include "host/standards/Units.h"
+
+namespace bench::judge {
+namespace {
+
+constexpr std::size_t kValueField = 2, kUnitField = 4, kFields = 5;
+constexpr char kOhm[] = "Ohm", kMilliohm[] = "mOhm";
+/// Two readings of the same leads, in mOhm, may be so far apart: what clips and sockets do to them
+/// (practice).
+constexpr double kSpreadOfLeads = 20;
+
+/// The reply that was the result; null without one, or with several that differ.
+std::shared_ptr<Message> ResultIn(const RecordedTest& test, std::vector<Reason>& doubts) {
+  std::shared_ptr<Message> result;
+  for (const auto& line : test.said) {
+    auto message = ParseMessage(Latin1FromUtf8(line).value_or(std::string()));
+    if (!message || message->MnemonicText() != "gres") continue;
+    if (result && result->Line() != message->Line()) {
+      doubts.push_back({"several-readings", {result->Line(), message->Line()}});
+      return nullptr;
+    }
+    result = std::move(message);
+  }
+  if (!result) doubts.push_back({"no-reading", {}});
+  return result;
+}
+
+/// Takes the resistance of the test leads away; what is left is never negative.
+void CorrectByLeads(Reading& reading, const RecordedTester* tester) {
+  const auto milliohms = InUnit(*reading.value, reading.unit, kMilliohm);
+  if (!tester || !milliohms) return;
+  const auto leads = tester->leads;
+  if (leads > keld_facts::kMostLeads || leads < 0)
+    reading.doubts.push_back({"leads-implausible", {std::to_string(leads)}});
+  if (leads - *milliohms > kSpreadOfLeads && *milliohms >= 0)
+    reading.doubts.push_back(
+        {"below-leads", {std::to_string(std::lround(*milliohms)), std::to_string(leads)}});
+  reading.value = InUnit(std::max(*milliohms - leads, 0.0), kMilliohm, reading.unit);
+}
+
+}  // namespace
+
+Reading ReadingOf(const CaseElement& element, const RecordedTest& test, const RecordedTester* tester) {
+  Reading reading;
+  const auto said = ResultIn(test, reading.doubts);
+  if (!said) return reading;
+  const auto& fields = said->Parameters();
+  reading.value = fields.size() >= kFields ? FiniteNumber(fields[kValueField]) : std::nullopt;
+  if (!reading.value) {
+    reading.doubts.push_back({"no-reading", {}});
+    return reading;
+  }
+  if (*reading.value < 0) reading.doubts.push_back({"negative-reading", {fields[kValueField]}});
+  reading.unit = fields[kUnitField];
+  if (!element.expectedUnit.empty() && !SameQuantity(reading.unit, element.expectedUnit)) {
+    reading.doubts.push_back({"unit-of-test", {reading.unit, element.expectedUnit}});
+    return reading;
+  }
+  // The tester's ohms are recorded in the unit of the test; other units stay.
+  if (reading.unit == kOhm && !element.expectedUnit.empty()) {
+    reading.value = InUnit(*reading.value, kOhm, element.expectedUnit);
+    reading.unit = element.expectedUnit;
+  }
+  if (keld_facts::CorrectedByLeads(element.testId)) CorrectByLeads(reading, tester);
+  return reading;
+}
+
+bool SameNumber(double one, double other) {
+  constexpr double kLost = 1e-12;
+  return std::abs(one - other) <= kLost * std::max(std::abs(one), std::abs(other));
+}
+
+std::string NumberText(double number, const std::string& unit) {
+  char buffer[64];
+  const auto end = std::to_chars(buffer, buffer + sizeof buffer, number, std::chars_format::general, 15).ptr;
+  std::string text(buffer, end);
+  return unit.empty() ? text : text + " " + unit;
+}
+
+}  // namespace bench::judge

@@ -1,0 +1,117 @@
+#include "host/judge/ReasonText.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "host/services/Tr.h"
+
+namespace bench::judge {
+namespace {
+
+using Entry = std::pair<std::string_view, const char*>;
+
+// By code. A sentence names the arguments in the order in which the reason has them.
+constexpr Entry kSentences[] = {
+    // Seen on the wire while the element ran.
+    {"late-reply", Marked("a reply was already waiting when \"%%1\" was sent: it was late, or sent twice")},
+    {"invalid-line", Marked("an invalid line was received and discarded: \"%%1\"")},
+    {"other-test-named", Marked("the reply \"%%1\" names another test or setting than the command \"%%2\"")},
+    {"reading-fields", Marked("the reading \"%%1\" has %%2 fields instead of %%3")},
+    {"not-a-number", Marked("the reading \"%%1\" is not a number")},
+    {"negative-reading",
+     Marked("the reading \"%%1\" is negative; an upper limit would take it for a small one")},
+    {"overload-mark", Marked("the overload mark \"%%1\" of the reading is neither 0 nor 1")},
+    {"overload", Marked("overload (OL): the reading is beyond the tester's range")},
+    {"unknown-unit", Marked("the reading's unit \"%%1\" is none that the tester measures in")},
+    {"refused-now",
+     Marked("the tester refused the test as not allowed now (1003), not because it lacks the test")},
+    {"refused-elsewhere",
+     Marked("the tester answered \"%%1\" with 6002, as if it lacked the test; only STST asks for one")},
+    {"identity-incomplete", Marked("the tester's identity \"%%1\" is incomplete")},
+    {"no-serial-number", Marked("the tester reported no serial number, so its test leads are not known")},
+    {"other-tester", Marked("the tester is a %%1, not a %%2")},
+    {"changed-after-finish",
+     Marked("the result was \"%%1\" when the test had finished and was changed to \"%%2\" afterwards")},
+    // By the judge's own arithmetic.
+    {"several-readings", Marked("the tester sent two different readings: \"%%1\" and \"%%2\"")},
+    {"no-reading", Marked("the record holds no reading of the tester")},
+    {"unit-of-test",
+     Marked("the reading is in \"%%1\", which this test cannot have (it is recorded in %%2)")},
+    {"below-leads",
+     Marked(
+         "the reading of %%1 mOhm is less than the %%2 mOhm of the test leads; calibrate the leads again")},
+    {"leads-implausible",
+     Marked("the test leads were taken as %%1 mOhm; more than 500 mOhm or less than 0 cannot be right, "
+            "calibrate the leads again")},
+    {"arithmetic-differs", Marked("by the tester's reply the reading is %%1, but the plug-in recorded %%2")},
+    {"judged-differently",
+     Marked("%%1: the reading is %%2, but the plug-in compared the bare number %%3 with limits in %%4")},
+    {"limit-unit", Marked("%%1: limits in \"%%2\" cannot be compared with a reading in \"%%3\"")},
+    {"limit-key", Marked("%%1: the limit has the key \"%%2\"; the plug-in did not judge by it")},
+    {"summary-differs",
+     Marked("the readings of the group give %%1, but the plug-in recorded %%2; run the group again")},
+    {"units-of-children", Marked("the group has readings in \"%%1\" and in \"%%2\"")},
+    {"above-limit", Marked("%%1: %%2 exceeds the limit of %%3")},
+    {"below-limit", Marked("%%1: %%2 is below the limit of %%3")},
+    {"failed-by-plug-in",
+     Marked("failed when it was run, by limits that have been changed since; run it again")},
+    {"child", Marked("element %%1 of the group is %%2")},
+    {"refused-with-limits",
+     Marked("the tester refused the test although limits are selected for it; nothing was measured")},
+    {"refused-by-tester", Marked("the tester does not have this test")},
+    {"set-aside-by-operator", Marked("recorded as not applicable by the operator")},
+    {"unknown-test", Marked("%%1")},
+    {"service-code", Marked("the saved service code is \"%%1\", but the result is \"%%2\"")},
+    {"record-changed", Marked("the record of run %%1 or of a later run was changed by another program")},
+    // Why a result is not current.
+    {"never-run", Marked("not run yet")},
+    {"not-recorded", Marked("the saved result was not recorded by a run")},
+    {"not-finished", Marked("run %%1 took it up and did not finish it")},
+    {"other-test", Marked("run %%1 measured another test, %%2")},
+    {"other-equipment", Marked("run %%1 measured other equipment: %%2 was \"%%3\" and is \"%%4\"")},
+    {"other-settings", Marked("the settings that decide what is measured were changed after run %%1")},
+    {"other-status",
+     Marked("the saved result is not the one of run %%1: recorded as \"%%2\", saved as \"%%3\"")},
+    {"other-reading", Marked("the saved reading is not the one that run %%1 recorded")},
+    {"older-than-child",
+     Marked("element %%1 of the group was taken up again by run %%2; run the group again")},
+    {"skipped", Marked("skipped by the operator")},
+    {"no-result", Marked("it ended without a result")},
+    {"aborted", Marked("aborted by the operator")},
+    // Why nothing was judged.
+    {"no-limit", Marked("no limit: give it one, or mark it as record only")},
+    {"limits-left-out", Marked("its limits are of standards that this view leaves out")},
+    {"group-without-value",
+     Marked("the group's limits judge nothing: its value filter gives no value, or nothing was measured")},
+};
+
+/// Arguments that are words of this program, told in the reader's language too.
+std::vector<std::string> Translated(const Reason& reason) {
+  static constexpr std::array<std::string_view, 4> kWithWords{"changed-after-finish", "child", "service-code",
+                                                              "other-status"};
+  auto values = reason.arguments;
+  if (reason.code == "other-equipment" && values.size() > 1) {
+    if (values[1] == "asset") values[1] = Tr("the asset number");
+    if (values[1] == "serial") values[1] = Tr("the serial number");
+    if (values[1] == "maker") values[1] = Tr("the maker");
+    if (values[1] == "model") values[1] = Tr("the model");
+  }
+  if (std::find(kWithWords.begin(), kWithWords.end(), reason.code) != kWithWords.end())
+    for (auto& value : values) value = Tr(value);
+  return values;
+}
+
+}  // namespace
+
+std::string ReasonText(const Reason& reason) {
+  for (const auto& [code, sentence] : kSentences)
+    if (reason.code == code) return Tr(sentence, Translated(reason));
+  auto text = reason.code;
+  for (const auto& argument : reason.arguments) text += " \"" + argument + "\"";
+  return text;
+}
+
+}  // namespace bench::judge

@@ -1,0 +1,30 @@
+#include "host/judge/Records.h"
+
+namespace bench::judge {
+
+Records::Records(const std::vector<RunRecord>* runs) {
+  if (!runs) return;
+  std::size_t step = 0;
+  std::int32_t lastChanged = 0;
+  for (const auto& run : *runs) {
+    if (!run.intact) lastChanged = static_cast<std::int32_t>(&run - runs->data()) + 1;
+    for (const auto& done : run.steps) {
+      ++step;
+      if (const auto* takes = std::get_if<RecordedTakes>(&done)) {
+        for (const auto id : takes->elements) last_[id] = {&run, nullptr, step, false};
+      } else {
+        const auto& test = std::get<RecordedTest>(done);
+        last_[test.element] = {&run, &test, step, false};
+      }
+    }
+  }
+  // A changed run may have hidden what it or a run before it did with any element.
+  for (auto& [id, record] : last_) record.changed = record.run - runs->data() < lastChanged;
+}
+
+LastRecord Records::Of(std::int32_t element) const {
+  const auto found = last_.find(element);
+  return found == last_.end() ? LastRecord{} : found->second;
+}
+
+}  // namespace bench::judge

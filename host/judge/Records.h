@@ -1,0 +1,32 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <unordered_map>
+#include <vector>
+
+#include "host/document/RunRecord.h"
+
+namespace bench::judge {
+
+/// What the runs say last of one element.
+struct LastRecord {
+  const RunRecord* run = nullptr;      ///< the last run that took it up; null when none did
+  const RecordedTest* test = nullptr;  ///< null while that run has not finished it
+  std::size_t step = 0;                ///< place among the steps of all runs
+  bool changed = false;                ///< this run or a later one was changed by another program
+};
+
+/// The runs of a document, read once from the oldest to the newest.
+class Records {
+ public:
+  /// @param runs must outlive this object; null for none
+  explicit Records(const std::vector<RunRecord>* runs);
+
+  LastRecord Of(std::int32_t element) const;
+
+ private:
+  std::unordered_map<std::int32_t, LastRecord> last_;
+};
+
+}  // namespace bench::judge

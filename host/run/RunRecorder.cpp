@@ -1,0 +1,181 @@
+#include "host/run/RunRecorder.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "OrvikTypeLib/Codes.h"
+#include "OrvikTypeLib/IInstrumentRecord.h"
+#include "OrvikTypeLib/ILimit.h"
+#include "OrvikTypeLib/ILimitData.h"
+#include "OrvikTypeLib/IResultData.h"
+#include "OrvikTypeLib/IStandard.h"
+#include "host/run/ElementWalk.h"
+#include "host/run/SavedSettings.h"
+#include "host/services/Text.h"
+
+namespace bench {
+
+namespace {
+
+std::int32_t StatusOf(const orvik::ITestElement& element) {
+  const auto result = element.Result();
+  return result ? result->Status() : orvik::ResultStatus::kNotTested;
+}
+
+RecordedReading ReadingOf(const orvik::IMeasurement& measurement) {
+  RecordedReading reading{{}, measurement.Unit(), measurement.Flags()};
+  const auto value = measurement.value();
+  if (const auto* number = std::get_if<double>(&value)) reading.value = ExactNumberText(*number);
+  if (const auto* whole = std::get_if<std::int32_t>(&value)) reading.value = std::to_string(*whole);
+  return reading;
+}
+
+RecordedTakes TakesOf(const std::vector<RunRecorder::Element>& elements) {
+  RecordedTakes takes;
+  for (const auto& top : elements)
+    WalkElements(top, [&](const RunRecorder::Element& element) { takes.elements.push_back(element->ID()); });
+  return takes;
+}
+
+}  // namespace
+
+void RunRecorder::Begin(const Heading& heading, const std::vector<Element>& elements) {
+  RunRecord run;
+  run.begun = parts_.clock();
+  run.by = heading.by;
+  run.simulated = heading.simulated;
+  run.timeScale = heading.timeScale;
+  run.port = heading.port;
+  run.program = heading.program;
+  run.equipment = heading.equipment;
+  run.steps.emplace_back(TakesOf(elements));
+  parts_.runs.Open(std::move(run));
+}
+
+bool RunRecorder::Starts(const Element& element) {
+  auto* run = parts_.runs.Current();
+  if (!run) return false;
+  const auto taken = TakesOf({element});
+  const auto known = run->Elements();
+  const bool again = std::any_of(taken.elements.begin(), taken.elements.end(), [&](std::int32_t id) {
+    return LastTest(id) || std::find(known.begin(), known.end(), id) == known.end();
+  });
+  if (again) run->steps.emplace_back(taken);
+  return again;
+}
+
+void RunRecorder::Finished(const Element& element, RecordedTest::By by) {
+  if (!parts_.runs.Current()) return;
+  if (by == RecordedTest::By::kTester) return Append(*element, by);
+  WalkElements(element, [&](const Element& below) { Append(*below, by); });
+}
+
+void RunRecorder::Settle(const Element& element) {
+  if (!parts_.runs.Current()) return;
+  WalkElements(element, [&](const Element& below) {
+    auto* test = LastTest(below->ID());
+    const auto status = StatusOf(*below);
+    if (!test) {
+      // An abort gives no notice.
+      if (status == orvik::ResultStatus::kAborted) Append(*below, RecordedTest::By::kOperator);
+      return;
+    }
+    for (const auto& doubt : parts_.doubts.Of(below->ID()))
+      if (std::find(test->doubts.begin(), test->doubts.end(), doubt) == test->doubts.end())
+        test->doubts.push_back(doubt);
+    if (test->status != status) {
+      if (status == orvik::ResultStatus::kAborted) return Append(*below, RecordedTest::By::kOperator);
+      const Reason changed{"changed-after-finish", {std::to_string(test->status), std::to_string(status)}};
+      if (std::find(test->doubts.begin(), test->doubts.end(), changed) == test->doubts.end())
+        test->doubts.push_back(changed);
+    }
+  });
+}
+
+void RunRecorder::End(RunRecord::End end) {
+  auto* run = parts_.runs.Current();
+  if (!run) return;
+  run->end = end;
+  run->ended = parts_.clock();
+  parts_.runs.Close();
+}
+
+RecordedTest* RunRecorder::LastTest(std::int32_t element) {
+  auto* run = parts_.runs.Current();
+  for (auto step = run->steps.rbegin(); step != run->steps.rend(); ++step) {
+    if (auto* test = std::get_if<RecordedTest>(&*step)) {
+      if (test->element == element) return test;
+    } else {
+      const auto& taken = std::get<RecordedTakes>(*step).elements;
+      if (std::find(taken.begin(), taken.end(), element) != taken.end()) return nullptr;
+    }
+  }
+  return nullptr;
+}
+
+void RunRecorder::Append(const orvik::ITestElement& element, RecordedTest::By by) {
+  // First, since it may add a tester to the run.
+  auto test = TestOf(element, by);
+  parts_.runs.Current()->steps.emplace_back(std::move(test));
+}
+
+RecordedTest RunRecorder::TestOf(const orvik::ITestElement& element, RecordedTest::By by) {
+  RecordedTest test;
+  test.element = element.ID();
+  test.testId = element.TestID();
+  test.settings = MeasuringSettings(element);
+  test.at = parts_.clock();
+  test.status = StatusOf(element);
+  test.by = by;
+  const auto result = element.Result();
+  if (by == RecordedTest::By::kTester) {
+    test.said = parts_.doubts.Said(test.element);
+    test.doubts = parts_.doubts.Of(test.element);
+    if (result) test.tester = TesterOf(result->MTIID());
+  }
+  const auto measurement = result && result->MeasurementCount() > 0 ? result->Measurement(1) : nullptr;
+  if (!measurement) return test;
+  test.recorded = ReadingOf(*measurement);
+  test.judged = JudgedBy(element, *measurement);
+  return test;
+}
+
+std::int32_t RunRecorder::TesterOf(std::int32_t instrument) {
+  const auto& all = parts_.instruments;
+  if (!all || instrument < 1 || instrument > all->Count()) return 0;
+  const auto record = all->item(instrument);
+  RecordedTester tester{record->MTIType(),
+                        record->SerialNumber(),
+                        record->FirmwareVersion(),
+                        WholeNumber(record->Property("calib")).value_or(0),
+                        {}};
+  if (parts_.leadsMeasured) tester.leadsMeasured = parts_.leadsMeasured(tester.serial, tester.leads);
+  auto& testers = parts_.runs.Current()->testers;
+  const auto known = std::find(testers.begin(), testers.end(), tester);
+  if (known != testers.end()) return static_cast<std::int32_t>(known - testers.begin()) + 1;
+  testers.push_back(std::move(tester));
+  return static_cast<std::int32_t>(testers.size());
+}
+
+std::vector<RecordedLimit> RunRecorder::JudgedBy(const orvik::ITestElement& element,
+                                                 const orvik::IMeasurement& measurement) const {
+  std::vector<RecordedLimit> judged;
+  const auto value = measurement.value();
+  const auto* number = std::get_if<double>(&value);
+  const auto limits = element.Limits();
+  const auto own = limits ? limits->Standards() : nullptr;
+  for (std::int32_t i = 1; number && parts_.standards && own && i <= own->Count(); ++i) {
+    const auto standard = own->item(i);
+    if (!parts_.standards->Find(standard->Name(), standard->Description())) continue;
+    const auto status = standard->Evaluate(static_cast<float>(*number), measurement.LimitKey(), {});
+    for (std::int32_t k = 1; k <= standard->LimitCount(); ++k) {
+      const auto limit = standard->Limit(k);
+      if (limit->LowText().empty() && limit->HighText().empty()) continue;
+      judged.push_back({standard->Name(), standard->Description(), limit->Unit(), limit->LowText(),
+                        limit->HighText(), status});
+    }
+  }
+  return judged;
+}
+
+}  // namespace bench
