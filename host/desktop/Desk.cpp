@@ -8,6 +8,7 @@
 #include "OrvikTypeLib/IConfigData.h"
 #include "OrvikTypeLib/ITestContainer.h"
 #include "host/app/InputError.h"
+#include "host/app/TestOptions.h"
 #include "host/app/TextColumns.h"
 #include "host/app/UnsavedChanges.h"
 #include "host/app/report/DocumentReport.h"
@@ -22,20 +23,11 @@ namespace {
 
 using Element = std::shared_ptr<orvik::ITestElement>;
 
-constexpr int kOffersNotApplicable = 1, kOffersSkip = 2, kFirstLead = 4, kAllLeads = 4096;
-constexpr int kLeads = 10;
-
-std::vector<std::string> OptionsInWords(int options) {
+std::vector<std::string> OptionsInWords(std::int32_t bits, std::int32_t testId) {
   std::vector<std::string> words;
-  if (options & kOffersNotApplicable) words.push_back(Tr("The guide offers \"not applicable\"."));
-  if (options & kOffersSkip) words.push_back(Tr("The guide offers \"skip\"."));
-  std::vector<std::string> leads;
-  for (int lead = 0; lead < kLeads; ++lead)
-    if (options & (kFirstLead << lead)) leads.push_back(std::to_string(lead + 1));
-  if (options & kAllLeads)
-    words.push_back(Tr("Leads: all."));
-  else if (!leads.empty())
-    words.push_back(Tr("Leads: %%1.", {Joined(leads, ", ")}));
+  if (bits & options::kOffersNotApplicable) words.push_back(Tr("The guide offers \"not applicable\"."));
+  if (bits & options::kOffersSkip) words.push_back(Tr("The guide offers \"skip\"."));
+  if (options::SaysLeads(bits, testId)) words.push_back(Tr("Leads: %%1.", {options::LeadsInWords(bits)}));
   return words;
 }
 
@@ -95,7 +87,8 @@ std::vector<std::string> Desk::Settings(std::int32_t id) const {
   if (!configuration) return {};
   const SavedSettings saved(*configuration);
   if (!saved.Settings()) return {};
-  auto words = OptionsInWords(std::atoi(saved.Settings()->Attribute(SavedSettings::kOptions).c_str()));
+  auto words = OptionsInWords(std::atoi(saved.Settings()->Attribute(SavedSettings::kOptions).c_str()),
+                              element->TestID());
   const auto filter = saved.Settings()->Attribute(SavedSettings::kFilter);
   if (orvik::As<orvik::ITestContainer>(element) && !filter.empty())
     words.push_back(Tr("Value of the sequence: %%1.", {FilterInWords(filter)}));

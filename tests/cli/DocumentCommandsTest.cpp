@@ -144,7 +144,7 @@ TEST_F(DocumentCommandsTest, LimitTakesNegativeBoundsAndReplacesOlderOnes) {
 TEST_F(DocumentCommandsTest, ConfigShowsAndChangesSettings) {
   const auto file = NewDocument({"910", "400"});
   EXPECT_EQ(Bench({"config", file, "--element", "1", "--options", "4"}).out,
-            "element 1: options 4, filter No values\n");
+            "element 1: options 4 (leads: 1; buttons: none)\n");
   EXPECT_EQ(Bench({"config", file, "--element", "2", "--filter", "Maximum value"}).status, 0);
   EXPECT_NE(Bench({"config", file, "--element", "2"}).out.find("Maximum value"), std::string::npos);
   EXPECT_EQ(Bench(Simulated(file, "sound-class-1")).status, 0);

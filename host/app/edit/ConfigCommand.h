@@ -1,6 +1,6 @@
 #pragma once
 
-#include <optional>
+#include <cstdint>
 #include <string>
 
 #include "host/app/Command.h"
@@ -14,10 +14,15 @@ class ConfigCommand final : public Command {
   ExitStatus Run(const GlobalOptions& options) override;
 
  private:
+  bool Given(const char* option) const { return command_->count(option) > 0; }
+  bool ChangesOptions() const;
+  std::int32_t Changed(std::int32_t settings, std::int32_t testId) const;
+
   std::string file_;
   std::int32_t element_ = 0;
-  std::optional<std::int32_t> settings_;
-  std::optional<std::string> filter_;
+  std::int32_t settings_ = 0;
+  std::string leads_, filter_;
+  CLI::App* command_ = nullptr;
 };
 
 }  // namespace bench

@@ -1,0 +1,77 @@
+#include "host/app/TestOptions.h"
+
+#include <vector>
+
+#include "host/app/InputError.h"
+#include "host/app/TextColumns.h"
+#include "host/services/Text.h"
+#include "host/services/Tr.h"
+
+namespace bench::options {
+
+namespace {
+
+constexpr std::int32_t kLeads = 10;
+constexpr std::int32_t kLeadBits = kEverything - kOffersNotApplicable - kOffersSkip;
+
+std::int32_t BitOfLead(std::int32_t lead) { return kFirstLead << (lead - 1); }
+
+/// Patient leakage currents: by lead, or through all leads at once.
+bool MeasuresAllLeads(std::int32_t testId) { return testId >= 910 && testId < 966; }
+
+/// Patient auxiliary currents too: by lead, against all others.
+bool MeasuresByLead(std::int32_t testId) {
+  return MeasuresAllLeads(testId) || (testId >= 1110 && testId < 1166);
+}
+
+}  // namespace
+
+std::string LeadsInWords(std::int32_t options) {
+  std::vector<std::string> set;
+  for (std::int32_t lead = 1; lead <= kLeads; ++lead)
+    if (options & BitOfLead(lead)) set.push_back(std::to_string(lead));
+  if (options & kAllLeads) set.push_back(Tr("all"));
+  if (set.empty()) return Tr("none");
+  if (set.size() == 1) return set.front();
+  const std::vector<std::string> others(set.begin() + 1, set.end());
+  return Tr("%%1 (set too, but not measured: %%2)", {set.front(), Joined(others, ", ")});
+}
+
+bool SaysLeads(std::int32_t options, std::int32_t testId) {
+  return MeasuresByLead(testId) || (options & kLeadBits) != 0;
+}
+
+std::string ButtonsInWords(std::int32_t options) {
+  std::vector<std::string> buttons;
+  if (options & kOffersNotApplicable) buttons.push_back(Tr("not applicable"));
+  if (options & kOffersSkip) buttons.push_back(Tr("skip"));
+  return buttons.empty() ? Tr("none") : Joined(buttons, ", ");
+}
+
+std::string InWords(std::int32_t options, std::int32_t testId) {
+  const auto buttons = Tr("buttons: %%1", {ButtonsInWords(options)});
+  return SaysLeads(options, testId) ? Tr("leads: %%1", {LeadsInWords(options)}) + "; " + buttons : buttons;
+}
+
+std::int32_t WithLeads(std::int32_t options, std::int32_t testId, const std::string& leads) {
+  const auto word = LowerAscii(leads);
+  const auto others = options & ~kLeadBits;
+  if (word == "none") return others;
+  const auto test = std::to_string(testId);
+  if (!MeasuresByLead(testId))
+    throw InputError(Tr("--leads %%1: test %%2 has no leads to choose", {leads, test}));
+  if (word == "all") {
+    if (MeasuresAllLeads(testId)) return others | kAllLeads;
+    throw InputError(
+        Tr("--leads %%1: test %%2 measures one lead at a time; give a number from 1 to 10", {leads, test}));
+  }
+  const auto lead = WholeNumber(word);
+  if (!lead || *lead < 1 || *lead > kLeads)
+    throw InputError(
+        Tr("--leads %%1: give all, none or one lead from 1 to 10; to measure several leads one "
+           "by one, add the test once for each",
+           {leads}));
+  return others | BitOfLead(*lead);
+}
+
+}  // namespace bench::options
