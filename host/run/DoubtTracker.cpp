@@ -67,6 +67,8 @@ void DoubtTracker::Watch(const WireRecord& record) {
       break;
     case WireRecord::Kind::kFailed:
     case WireRecord::Kind::kClosed:
+      // The next element starts before its own session is opened.
+      session_.clear();
       break;
   }
 }
