@@ -88,7 +88,8 @@ std::string CalibrationWindow::Obstacle() const {
   if (cancelled_) return Tr("stopped; nothing was stored");
   if (const auto& error = workbench_.Ports().LastError(); !error.empty()) return error;
   const auto& doubts = doubts_.Of(kCalibration);
-  if (!doubts.empty()) return Tr("the measurement is doubtful and was not stored: %%1", {judge::ReasonText(doubts.front())});
+  if (!doubts.empty())
+    return Tr("the measurement is doubtful and was not stored: %%1", {judge::ReasonText(doubts.front())});
   const auto serial = TextBox(*form_, kSerial);
   if (serial && serial->Text().empty())
     return Tr("the tester told no serial number to store the value under; give one with --serial");

@@ -103,6 +103,7 @@ Json JsonOf(const DocumentView& document) {
   json["simulated"] = document.judged.simulated;
   json["run"] = document.judged.run;
   json["equipment"] = JsonOf(document.equipment);
+  json["comment"] = document.comment;
   json["instrument"] = document.instrument ? JsonOf(*document.instrument) : Json(nullptr);
   json["standards"] = document.judged.standards;
   json["leftOut"] = document.judged.leftOut;

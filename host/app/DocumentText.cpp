@@ -101,6 +101,7 @@ std::string TextOf(const DocumentView& document, bool coloured) {
                       Toned(Tr(judge::OutcomeText(judged.outcome)), ToneOf(judged.outcome), coloured)}) +
       "\n";
   text += EquipmentLine(document.equipment);
+  if (!document.comment.empty()) text += Tr("Comment: %%1", {VisibleText(document.comment)}) + "\n";
   if (judged.simulated) text += Tr("SIMULATED: a simulated tester was used; nothing was measured.") + "\n";
   if (document.instrument) text += TesterLine(*document.instrument) + "\n";
   if (!judged.leftOut.empty())

@@ -53,6 +53,7 @@ DocumentView ViewOf(const Document& document, const Host& host, std::vector<std:
   DocumentView view;
   view.path = document.Path().string();
   view.equipment = document.equipment;
+  view.comment = document.comment;
   view.instrument = LastTester(document.Runs().All());
   view.judged = judge::Judge(document, *host.Elements(), std::move(standards));
   return view;

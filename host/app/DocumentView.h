@@ -18,6 +18,7 @@ class Host;
 struct DocumentView {
   std::string path;
   Equipment equipment;
+  std::string comment;  ///< a remark about the document; may be empty
   /// The tester of the last run that had one.
   std::optional<RecordedTester> instrument;
   judge::JudgedDocument judged;

@@ -4,9 +4,9 @@
 
 #include "host/app/DocumentJson.h"
 #include "host/app/ProgramFiles.h"
-#include "host/app/limits/SetOfLimits.h"
 #include "host/app/TextColumns.h"
 #include "host/app/help/Examples.h"
+#include "host/app/limits/SetOfLimits.h"
 #include "host/services/Text.h"
 #include "host/services/Tr.h"
 

@@ -51,6 +51,16 @@ TEST_F(ConfigCommandTest, ASequenceHasAFilter) {
             "element 1: options 3 (buttons: not applicable, skip), filter Maximum value\n");
 }
 
+TEST_F(ConfigCommandTest, OtherLeadsMakeAResultNoLongerCount) {
+  const auto file = NewDocument({"910"});
+  ASSERT_EQ(Bench({"limit", file, "--element", "1", "--standard", "S", "--high", "100"}).status, 0);
+  ASSERT_EQ(Bench(Simulated(file, "sound-class-1")).status, 0);
+  EXPECT_EQ(Config(file, {"--no-skip"}).find("no longer counts"), std::string::npos);
+  const auto changed = Config(file, {"--leads", "1"});
+  EXPECT_NE(changed.find("element 1 no longer counts: not tested (was: passed): "), std::string::npos)
+      << changed;
+}
+
 struct ConfigRefusal {
   const char* name;
   std::vector<std::string> words;

@@ -54,7 +54,7 @@ TEST_F(EditCommandsTest, MoveChangesTheOrderOfTesting) {
   EXPECT_EQ(Order(file), (cli::Order{1, 3, 2}));
   Done({"move", file, "--element", "1", "--to-end"});
   EXPECT_EQ(Order(file), (cli::Order{3, 2, 1}));
-  Done(Simulated(file, "sound-class-1"));
+  Bench(Simulated(file, "sound-class-1"));
   Words tests;
   for (const auto& command : SentIn(file + ".wire.log"))
     if (command.starts_with("STST,") && !command.starts_with("STST,210")) tests.push_back(command);
@@ -92,6 +92,30 @@ TEST_F(EditCommandsTest, EditShowsAndChangesTheFields) {
   EXPECT_EQ(Bench({"check", file}).status, 0);
   Done({"edit", file, "--asset", "A7", "--serial", "", "--model", "", "--maker", "M", "--comment", ""});
   EXPECT_EQ(Contents(file), before);
+}
+
+TEST_F(EditCommandsTest, TheCommentIsInEveryOutput) {
+  const auto file = NewDocument({"410"});
+  Done({"edit", file, "--comment", "after <repair>"});
+  EXPECT_NE(Done({"show", file}).find("Comment: after <repair>\n"), std::string::npos);
+  EXPECT_EQ(Show(file)["comment"], "after <repair>");
+  Done({"report", file, "--to", Path("d.txt")});
+  EXPECT_NE(Contents(Path("d.txt")).find("after <repair>"), std::string::npos);
+  Done({"report", file, "--to", Path("d.html")});
+  EXPECT_NE(Contents(Path("d.html")).find("after &lt;repair&gt;"), std::string::npos);
+}
+
+TEST_F(EditCommandsTest, AnotherDeviceHasNoResults) {
+  const auto file = NewDocument({"410"});
+  SetLimit(file, "1", "300");
+  ASSERT_EQ(Bench(Simulated(file, "sound-class-1")).status, 0);
+  EXPECT_EQ(Done({"edit", file, "--comment", "c"}).find("no longer counts"), std::string::npos);
+  const auto changed = Done({"edit", file, "--asset", "A8"});
+  EXPECT_NE(changed.find("element 1 no longer counts: not tested (was: passed): "), std::string::npos)
+      << changed;
+  EXPECT_NE(changed.find("the document is now: incomplete (was: passed)\n"), std::string::npos) << changed;
+  const auto back = Done({"edit", file, "--asset", ""});
+  EXPECT_EQ(Show(file)["outcome"], "passed");
 }
 
 TEST_F(EditCommandsTest, NewFromTakesThePlanAndNoResult) {

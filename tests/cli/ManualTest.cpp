@@ -64,7 +64,8 @@ TEST_F(ManualTest, HelpThatCannotBeWrittenIsNotDone) {
 }
 
 TEST_F(ManualTest, HelpSaysWhichOptionsGoWithEveryCommand) {
-  const std::string ofAll = "\"orvik-bench --help\" explains: --state DIR, --catalogue FILE, --lang L, --wait SECONDS\n";
+  const std::string ofAll =
+      "\"orvik-bench --help\" explains: --state DIR, --catalogue FILE, --lang L, --wait SECONDS\n";
   for (const std::string command : {"run", "show", "standards"})
     EXPECT_NE(Bench({command, "--help"}).out.find(ofAll), std::string::npos) << command;
   EXPECT_NE(Bench({"archive", "add", "--help"}).out.find("explains: --archive FILE|URL\n"),

@@ -6,7 +6,6 @@
 #include "OrvikTypeLib/HostError.h"
 #include "OrvikTypeLib/ILimit.h"
 #include "OrvikTypeLib/ILimitData.h"
-#include "OrvikTypeLib/IStandardColl.h"
 #include "OrvikTypeLib/ITestContainer.h"
 #include "host/app/DocumentElements.h"
 #include "host/app/DocumentView.h"
@@ -42,12 +41,6 @@ std::shared_ptr<orvik::ILimitData> LimitsFor(orvik::ITestElement& element) {
   auto limits = element.Limits();
   if (!limits) throw InputError(Tr("--element %%1: it takes no limits", {std::to_string(element.ID())}));
   return limits;
-}
-
-/// A selection of standards that an earlier run left must not hide the limits as they are now.
-void JudgeByAllStandards(const Document& document) {
-  const auto& selected = document.Standards();
-  while (selected->Count() > 0) selected->Remove(selected->item(selected->Count()));
 }
 
 }  // namespace
@@ -95,7 +88,6 @@ ExitStatus LimitCommand::Run(const GlobalOptions& options) {
   const auto document = Document::Open(workbench.Host(), file_);
   const Consequences consequences(*document, *workbench.Host());
   const auto told = Change(workbench, *document, options);
-  JudgeByAllStandards(*document);
   document->Save();
   std::cout << told << consequences.Text();
   return ExitStatus::kPassed;

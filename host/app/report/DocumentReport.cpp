@@ -111,6 +111,7 @@ class Builder {
     AddFact(Tr("Serial number"), VisibleText(equipment.serial));
     AddFact(Tr("Maker"), VisibleText(equipment.maker));
     AddFact(Tr("Model"), VisibleText(equipment.model));
+    AddFact(Tr("Comment"), VisibleText(document_.comment));
     AddFact(Tr("Tested"), parts::SpanText(times_));
     AddFact(Tr("Operator"), times_.operators.empty() ? Tr("not recorded") : Joined(times_.operators, ", "));
     if (testers_.empty()) AddFact(Tr("Tester"), Tr("not recorded"));
