@@ -1,0 +1,226 @@
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "OrvikTypeLib/ILimit.h"
+#include "OrvikTypeLib/ILimitData.h"
+#include "OrvikTypeLib/IStandard.h"
+#include "OrvikTypeLib/ITestContainer.h"
+#include "OrvikTypeLib/ITestEnumerator.h"
+#include "host/document/Document.h"
+#include "host/elements/ElementFactory.h"
+#include "host/instruments/InstrumentColl.h"
+#include "host/judge/CaseOf.h"
+#include "host/run/AutoOperator.h"
+#include "host/run/DocumentRunner.h"
+#include "host/run/ElementState.h"
+#include "host/run/GuideToolbar.h"
+#include "host/services/LeadCalibrations.h"
+#include "tests/support/VirtualBench.h"
+
+namespace support {
+
+/// Replies that the test chooses in place of the simulated tester's own, by the beginning of the command.
+class ChosenReplies final : public sim::Faults {
+ public:
+  /// @param command the whole command or its beginning, such as "GRES,410,"; the longest one that fits counts
+  /// @param reply a line without its end, ISO 8859-1
+  void Set(const std::string& command, const std::string& reply) { replies_[command] = reply; }
+  void Clear() { replies_.clear(); }
+
+ private:
+  void OnReply(const sim::Exchange& exchange, sim::Reply& reply) override {
+    // From the end: a longer beginning comes after those that it begins with.
+    for (auto chosen = replies_.rbegin(); chosen != replies_.rend(); ++chosen) {
+      if (!exchange.line.starts_with(chosen->first) || reply.lines.empty()) continue;
+      reply.lines.front().bytes = chosen->second + "\r\n";
+      return;
+    }
+  }
+
+  std::map<std::string, std::string> replies_;
+};
+
+/// Presses one button of each guide, such as "not applicable", and leaves it.
+class ButtonOperator final : public bench::IOperator {
+ public:
+  ButtonOperator(std::shared_ptr<orvik::platform::IApplication> application, std::int32_t button)
+      : application_(std::move(application)), button_(button) {
+    shown_ = application_->FormShown().Subscribe([this](const Form& form) {
+      application_->Post([this, form, alive = std::weak_ptr<int>(alive_)] {
+        if (!alive.expired()) Operate(form);
+      });
+    });
+  }
+
+ private:
+  using Form = std::shared_ptr<orvik::platform::IForm>;
+
+  void Operate(const Form& form) {
+    if (!form->Visible()) return;
+    if (form->Name() == bench::guide::kYesNoForm) return bench::ClickButton(*form, bench::guide::kYes);
+    if (form->Name() == bench::guide::kPretestForm)
+      return bench::ClickButton(*form, bench::guide::kPretestOk);
+    if (form->Name() == bench::guide::kGuideForm) bench::GuideToolbar(*form)->Click(button_);
+  }
+
+  const std::shared_ptr<orvik::platform::IApplication> application_;
+  const std::int32_t button_;
+  std::shared_ptr<int> alive_ = std::make_shared<int>();
+  orvik::platform::Subscription shown_;
+};
+
+/// How a document is run.
+struct RunOf {
+  std::vector<std::int32_t> elements = {};  ///< empty for all at the top
+  std::string at = "2026-11-21T14:03:22+01:00";
+  std::string by = "M. Holm";
+  bool simulated = false;
+  /// Pressed in every guide in the place of play and next, such as `bench::guide::kNotApplicable`.
+  std::int32_t button = 0;
+  /// The program is killed when it has saved the document so often; 0: it ends in good order. The document is
+  /// then the one that is on the disk.
+  int killedAfterSaves = 0;
+};
+
+/// A document whose results are made as a bench makes them: run by the real run controller and the simulated
+/// tester in memory, on the virtual clock, with replies of the test's choice.
+///
+///     RecordedDocument file;
+///     file.Add(410);                            // element 1
+///     file.Limit(1, "", "300");                 // mOhm, IEC 62353
+///     file.Reads(410, "0.123,0,Ohm");           // value, overload, unit
+///     file.Run({.by = "M. Holm"});
+///     EXPECT_EQ(file.Judged().outcome, bench::judge::Outcome::kPassed);
+class RecordedDocument {
+ public:
+  using Element = std::shared_ptr<orvik::ITestElement>;
+  using Settings = VirtualBench::Settings;
+
+  explicit RecordedDocument(Settings settings = {}, const std::string& name = "a.orvik")
+      : bench_(std::move(settings)) {
+    bench_.Host().Elements()->AddPlugIn(bench_.PlugIn());
+    bench_.Tester().UseFaults(replies_);
+    document_ = bench::Document::Create(bench_.Only().SharedHost(), bench_.Only().Folder() / name);
+    document_->equipment = {"VENT-1", "S-2", "Maker", "Model"};
+  }
+  RecordedDocument(const RecordedDocument&) = delete;
+  RecordedDocument& operator=(const RecordedDocument&) = delete;
+  ~RecordedDocument() {
+    document_.reset();
+    bench_.Host().Elements()->ReleasePlugIns();
+  }
+
+  VirtualBench& Bench() { return bench_; }
+  bench::Host& Host() { return bench_.Host(); }
+  bench::Document& Document() { return *document_; }
+  const std::vector<bench::RunRecord>& Runs() const { return document_->Runs().All(); }
+
+  /// Adds the catalogue's test, or a whole sequence, at the end.
+  Element Add(std::int32_t testId) { return document_->AddTest(testId); }
+  Element Find(std::int32_t element) const { return document_->Find(element); }
+
+  /// Gives the element a limit of the standard, in place of the one that it has, and selects the standard.
+  void Limit(std::int32_t element, const std::string& low, const std::string& high,
+             const std::string& standard = "IEC 62353", const std::string& description = {}) {
+    const auto limits = Find(element)->Limits();
+    auto own = limits->Standards() ? limits->Standards()->Find(standard, description) : nullptr;
+    if (!own) own = limits->CreateStandard(standard, description);
+    own->Limit(1)->SetBounds(low, high);
+    if (document_->Standards()->Find(standard, description)) return;
+    const auto selected = orvik::As<orvik::IStandard>(Host().CreateObject(orvik::HostClasses::kStandard));
+    selected->Initialize(standard, description, 1);
+    document_->Standards()->Add(selected);
+  }
+  void RecordOnly(std::int32_t element) {
+    bench::StateOf(Find(element), *Host().Elements())->SetRecordOnly(true);
+  }
+
+  /// What the tester reads from now on in the test, in any setting: "0.123,0,Ohm" is value, overload, unit.
+  void Reads(std::int32_t testId, const std::string& reading) {
+    for (int setting = 0; setting <= sim::Profile::kHighestSetting; ++setting) {
+      const auto asked = "," + std::to_string(testId) + "," + std::to_string(setting);
+      replies_->Set("GRES" + asked, "gres" + asked + "," + reading);
+    }
+  }
+  /// The tester lacks the test.
+  void Refuses(std::int32_t testId) { Answers("STST," + std::to_string(testId) + ",", "ERRM,6002"); }
+  /// What the tester answers to commands that begin so: "IREM" with "irem,KELD(IN),S-9,3.10".
+  void Answers(const std::string& command, const std::string& reply) { replies_->Set(command, reply); }
+  /// The registry holds these test leads for the tester, 0 to 500 mOhm or what a test needs otherwise.
+  /// @param measured when, as `WallClock` returns it
+  void Leads(const std::string& serial, std::int32_t milliohms, const std::string& measured) {
+    bench::StoreLeads(*Host().Registry(), serial, milliohms, measured);
+  }
+
+  bench::DocumentRunner::End Run(const RunOf& run = {}) {
+    int saves = 0;
+    bench::StopRequest stop;
+    bench::DoubtTracker doubts(*bench_.Ports().TheWire());
+    bench::LinkWatch link(bench_.Ports());
+    bench::RunRecorder recorder(
+        {document_->Runs(), document_->Instruments(), document_->Standards(), doubts, [&] { return run.at; },
+         [this](const std::string& serial, std::int32_t leads) {
+           return bench::LeadsMeasured(*Host().Registry(), serial, leads).value_or("");
+         }});
+    const auto controller = std::make_shared<bench::RunController>(
+        bench::RunController::Parts{document_->Standards(), document_->Instruments(), doubts, recorder, [&] {
+                                      if (run.killedAfterSaves == 0 || saves++ < run.killedAfterSaves)
+                                        document_->Save();
+                                    }});
+    const auto person = OperatorOf(run, stop);
+    const auto end = bench::DocumentRunner(controller, link, stop).Run(HeadingOf(run), ElementsOf(run));
+    if (run.killedAfterSaves > 0) Reopen();
+    return end;
+  }
+
+  /// The document as the file has it.
+  void Reopen() {
+    const auto path = document_->Path();
+    document_.reset();
+    document_ = bench::Document::Open(bench_.Only().SharedHost(), path);
+  }
+
+  /// What counts now.
+  /// @param standards to judge by; empty for all
+  bench::judge::JudgedDocument Judged(std::vector<std::string> standards = {}) {
+    return bench::judge::Judge(*document_, *Host().Elements(), std::move(standards));
+  }
+
+ private:
+  bench::RunRecorder::Heading HeadingOf(const RunOf& run) const {
+    bench::RunRecorder::Heading heading;
+    heading.equipment = document_->equipment;
+    heading.by = run.by;
+    heading.port = VirtualBench::kDevice;
+    heading.program = "orvik-bench";
+    heading.simulated = run.simulated;
+    return heading;
+  }
+
+  std::vector<Element> ElementsOf(const RunOf& run) const {
+    std::vector<Element> elements;
+    for (const auto id : run.elements) elements.push_back(Find(id));
+    if (!run.elements.empty()) return elements;
+    const auto all = document_->Elements()->NewEnum();
+    while (auto element = all->Next()) elements.push_back(std::move(element));
+    return elements;
+  }
+
+  std::unique_ptr<bench::IOperator> OperatorOf(const RunOf& run, bench::StopRequest& stop) {
+    const auto application = bench_.Only().SharedApplication();
+    if (run.button == 0) return std::make_unique<bench::AutoOperator>(application, stop);
+    return std::make_unique<ButtonOperator>(application, run.button);
+  }
+
+  VirtualBench bench_;
+  const std::shared_ptr<ChosenReplies> replies_ = std::make_shared<ChosenReplies>();
+  std::shared_ptr<bench::Document> document_;
+};
+
+}  // namespace support
