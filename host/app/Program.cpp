@@ -29,6 +29,7 @@
 #include "host/app/help/HelpFormat.h"
 #include "host/app/help/ManualCommand.h"
 #include "host/app/help/ParseErrorText.h"
+#include "host/app/help/PlainWords.h"
 #include "host/app/help/ProgramLanguage.h"
 #include "host/app/limits/LimitCommand.h"
 #include "host/app/report/ReportCommand.h"
@@ -160,6 +161,7 @@ ExitStatus ParseAndRun(int argumentCount, const char* const* arguments) {
                 Tr("%%1; \"orvik-bench --help\" shows what can be given", {ParseErrorText(error)}));
   }
   RefuseEmptyNames(program);
+  RefuseControlCharacters(program);
   options.language = language;
   WaitAsAsked(options.wait);
   return RunChosen(entries, options);

@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QLineEdit>
 
+#include "host/desktop/PlainTextValidator.h"
 #include "host/desktop/Shown.h"
 #include "host/services/Tr.h"
 
@@ -15,6 +16,7 @@ EquipmentBar::EquipmentBar(std::function<void()> edited, QWidget* parent) : QWid
   const auto add = [&](const char* name, const std::string& label) {
     auto* box = new QLineEdit(this);
     box->setObjectName(name);
+    box->setValidator(new PlainTextValidator(box));
     auto* text = new QLabel(Shown(label), this);
     text->setBuddy(box);
     box->setAccessibleName(text->text().remove('&'));

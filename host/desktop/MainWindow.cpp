@@ -23,6 +23,7 @@
 #include "host/desktop/Dialogs.h"
 #include "host/desktop/ElementTree.h"
 #include "host/desktop/EquipmentBar.h"
+#include "host/desktop/PlainTextValidator.h"
 #include "host/desktop/RunProgress.h"
 #include "host/desktop/Shown.h"
 #include "host/desktop/TesterBox.h"
@@ -199,6 +200,7 @@ void MainWindow::MakeToolbars() {
   run->addSeparator();
   operator_ = new QLineEdit(Shown(OperatorName({})), run);
   operator_->setObjectName("operator");
+  operator_->setValidator(new PlainTextValidator(operator_));
   operator_->setAccessibleName(Shown(Tr("Operator")));
   operator_->setMaximumWidth(220);
   run->addWidget(LabelFor(operator_, Tr("Operator")));

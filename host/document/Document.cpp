@@ -18,6 +18,7 @@
 #include "host/services/LargeText.h"
 #include "host/services/Tr.h"
 #include "host/services/XmlDocument.h"
+#include "host/services/XmlEncoding.h"
 #include "host/services/XmlNode.h"
 
 namespace bench {
@@ -96,15 +97,21 @@ std::shared_ptr<Document> Document::Create(std::shared_ptr<Host> host, const std
 std::shared_ptr<Document> Document::Open(std::shared_ptr<Host> host, const std::filesystem::path& file,
                                          DocumentFile::Use use) {
   auto opened = DocumentFile::Existing(file, use);
-  const auto text = opened.Read();
+  const auto decoded = xml::Decode(opened.Read());
   auto document = std::make_shared<Document>(std::move(host), std::move(opened));
-  document->Load(text);
+  document->Require(decoded.text, decoded.fault);
+  document->Load(decoded.text);
   return document;
 }
 
 std::shared_ptr<orvik::ITestContainer> Document::Elements() const { return elements_; }
 
 void Document::MoveTo(const std::filesystem::path& file) { file_ = DocumentFile::New(file); }
+
+void Document::Require(const std::string& text, const xml::Fault& fault) const {
+  if (!fault.reason.empty())
+    RefuseFile(Path(), text, static_cast<std::ptrdiff_t>(fault.offset), fault.reason);
+}
 
 // What is not read in pieces, for whatever reason, is read whole: that also tells where a fault stands.
 void Document::Load(const std::string& text) {
@@ -139,8 +146,7 @@ bool Document::LoadInPieces(const std::string& text) {
 void Document::LoadWhole(const std::string& text) {
   const auto xml = std::make_shared<pugi::xml_document>();
   const auto fault = xml::Parse(text, *xml);
-  if (!fault.reason.empty())
-    RefuseFile(Path(), text, static_cast<std::ptrdiff_t>(fault.offset), fault.reason);
+  Require(text, fault);
   auto& trouble = host_->Elements()->Trouble();
   trouble.Clear();
   BeginEmpty();  // what an attempt in pieces has left

@@ -18,6 +18,7 @@
 #include "host/document/Equipment.h"
 #include "host/document/Runs.h"
 #include "host/services/Leftovers.h"
+#include "host/services/XmlDocument.h"
 
 namespace bench {
 
@@ -37,6 +38,7 @@ class TestContainer;
 ///     </OrvikDocument>
 ///
 /// A file that cannot be read is refused with `HostError` 75 naming file, line and reason, and left as it is.
+/// A file in another encoding than UTF-8 is converted (`xml::Decode`); saving writes UTF-8.
 /// What the file holds beyond this is kept and written back.
 class Document {
  public:
@@ -111,6 +113,8 @@ class Document {
  private:
   /// Without standards, instruments and elements.
   void BeginEmpty();
+  /// Refuses the file when there is a fault.
+  void Require(const std::string& text, const xml::Fault& fault) const;
   void Load(const std::string& text);
   /// @return false when the document must be read whole; what it holds by then counts for nothing
   bool LoadInPieces(const std::string& text);

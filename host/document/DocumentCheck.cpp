@@ -1,5 +1,6 @@
 #include "host/document/DocumentCheck.h"
 
+#include <algorithm>
 #include <string_view>
 
 #include "host/document/Document.h"
@@ -9,26 +10,25 @@
 #include "host/services/Text.h"
 #include "host/services/Tr.h"
 #include "host/services/XmlDocument.h"
+#include "host/services/XmlEncoding.h"
 #include "host/services/XmlNode.h"
 
 namespace bench {
 namespace {
 
-void CheckEncoding(std::string_view text, Findings& findings) {
-  for (auto bad = InvalidUtf8(text); bad != std::string_view::npos;) {
-    findings.Wrong(bad, Tr("there are bytes that are not UTF-8 text; saving would replace them"));
-    // One finding for each line.
-    bad = std::min(text.find('\n', bad), text.size());
-    bad = InvalidUtf8(text, bad);
+void CheckEncoding(const xml::Decoded& decoded, Findings& findings) {
+  const auto& [text, encoding, fault] = decoded;
+  if (fault.reason.empty()) {
+    if (!encoding.empty())
+      findings.Note(0, Tr("the file is in the encoding \"%%1\"; saving writes UTF-8", {encoding}));
+    return;
   }
-  if (!text.starts_with("<?xml")) return;
-  const auto head = text.substr(0, text.find("?>"));
-  const auto at = head.find("encoding=");
-  if (at == std::string_view::npos || head.size() < at + 11) return;
-  const auto value = head.substr(at + 10, head.find(head[at + 9], at + 10) - at - 10);
-  if (LowerAscii(value) != "utf-8")
-    findings.Wrong(at,
-                   Tr("the text is declared as \"%%1\"; documents are read as UTF-8", {std::string(value)}));
+  findings.Wrong(fault.offset, fault.reason);
+  if (!encoding.empty()) return;
+  // One finding for each line.
+  auto bad = InvalidUtf8(text, std::min(text.find('\n', fault.offset), text.size()));
+  for (; bad != std::string_view::npos; bad = InvalidUtf8(text, std::min(text.find('\n', bad), text.size())))
+    findings.Wrong(bad, fault.reason);
 }
 
 void CheckVersion(pugi::xml_node root, Findings& findings) {
@@ -75,9 +75,12 @@ void CheckRoot(pugi::xml_node root, Findings& findings) {
 
 }  // namespace
 
-std::vector<Finding> CheckDocument(const std::string& text, ElementFactory& factory) {
+std::vector<Finding> CheckDocument(const std::string& bytes, ElementFactory& factory) {
+  const auto decoded = xml::Decode(bytes);
+  const auto& text = decoded.text;
   Findings findings(text);
-  CheckEncoding(text, findings);
+  CheckEncoding(decoded, findings);
+  if (!decoded.fault.reason.empty() && !decoded.encoding.empty()) return findings.InOrder();
   pugi::xml_document xml;
   const auto fault = xml::ParseAsFarAsPossible(text, xml);
   if (!fault.reason.empty())

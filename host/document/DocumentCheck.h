@@ -9,9 +9,9 @@ namespace bench {
 
 class ElementFactory;
 
-/// Looks through the text of a document and tells everything that is wrong with it, not only the first
-/// thing. What the document's loader keeps without knowing it is a note.
+/// Looks through a document as it is in its file and tells everything that is wrong with it, not only the
+/// first thing. What the document's loader keeps without knowing it is a note.
 /// @param factory knows the plug-ins, their classes and their catalogues
-std::vector<Finding> CheckDocument(const std::string& text, ElementFactory& factory);
+std::vector<Finding> CheckDocument(const std::string& bytes, ElementFactory& factory);
 
 }  // namespace bench

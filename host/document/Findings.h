@@ -25,6 +25,7 @@ class Findings {
   void Wrong(pugi::xml_node where, std::string text) { Add(true, PlaceOf(where), std::move(text)); }
   void Wrong(std::size_t offset, std::string text) { Add(true, offset, std::move(text)); }
   void Note(pugi::xml_node where, std::string text) { Add(false, PlaceOf(where), std::move(text)); }
+  void Note(std::size_t offset, std::string text) { Add(false, offset, std::move(text)); }
 
   /// All of them as they stand in the text.
   std::vector<Finding> InOrder() const;

@@ -75,6 +75,20 @@ TEST_F(DocumentWindowTest, UnsavedChangesAreAskedForOnClose) {
   EXPECT_FALSE(window_->isVisible());
 }
 
+// As from a scanner that ends with a line, or the clipboard.
+TEST_F(DocumentWindowTest, ControlCharactersDoNotEnterAField) {
+  window_->Open(NewDocument({"410"}));
+  for (const auto* name : {"asset", "serial", "maker", "model", "operator"}) {
+    auto* field = window_->findChild<QLineEdit*>(name);
+    field->clear();
+    field->insert(
+        QString::fromUtf8("\x02PUMP\t-\x1BΩ\xC2\x9B"
+                          "9\r\n"));
+    EXPECT_EQ(field->text().toStdString(), "PUMP-Ω9") << name;
+    EXPECT_EQ(field->cursorPosition(), 7) << name;
+  }
+}
+
 TEST_F(DocumentWindowTest, ChangesMayBeDropped) {
   const auto file = NewDocument({"410"});
   const auto before = Contents(file);

@@ -96,8 +96,11 @@ class FaultyDocument : public DocumentCheckTest, public testing::WithParamInterf
         {"VersionZero", "<OrvikDocument Version='0'/>", "1:1 there is no document format 0"},
         {"NotUtf8", "<OrvikDocument Version='1'>\n <Equipment Asset='\xE6'/></OrvikDocument>",
          "2:20 there are bytes that are not UTF-8"},
-        {"OtherEncoding", "<?xml version='1.0' encoding='ISO-8859-1'?><OrvikDocument Version='1'/>",
-         "1:21 the text is declared as \"ISO-8859-1\""},
+        {"UnknownEncoding", "<?xml version='1.0' encoding='EBCDIC'?><OrvikDocument Version='1'/>",
+         "1:31 the file is declared as \"EBCDIC\""},
+        {"NotInItsEncoding",
+         "<?xml version='1.0' encoding='windows-1252'?>\n<OrvikDocument Version='1' A='\x81'/>",
+         "2:31 there are bytes that are not text in the encoding"},
         {"SecondSection", "<OrvikDocument Version='1'><Elements/>\n<Elements/></OrvikDocument>",
          "2:1 there is a second \"Elements\"; the first is in line 1"},
         {"ElementOutside", "<OrvikDocument Version='1'>\n" + Test("1") + "</OrvikDocument>",
@@ -173,6 +176,23 @@ TEST_P(FaultyDocument, IsToldWithItsPlaceAndNothingElseIs) {
 
 INSTANTIATE_TEST_SUITE_P(Table, FaultyDocument, testing::ValuesIn(FaultyDocument::All()),
                          [](const auto& tested) { return std::string(tested.param.name); });
+
+TEST_F(DocumentCheckTest, BytesThatAreNotUtf8AreReportedOnceALine) {
+  const auto told =
+      Check("<OrvikDocument Version='1'>\n<Equipment Asset='\xE6\xE6'\n Serial='\xE6'/></OrvikDocument>");
+  ASSERT_EQ(told.wrong.size(), 2U);
+  EXPECT_TRUE(Holds(told.wrong[0], "2:19 there are bytes that are not UTF-8"));
+  EXPECT_TRUE(Holds(told.wrong[1], "3:10 there are bytes that are not UTF-8"));
+}
+
+TEST_F(DocumentCheckTest, AnotherEncodingIsANote) {
+  const auto told = Check(
+      "<?xml version='1.0' encoding='iso-8859-1'?>\n"
+      "<OrvikDocument Version='1'><Equipment Asset='\xE6'/></OrvikDocument>");
+  EXPECT_EQ(told.wrong, std::vector<std::string>{});
+  EXPECT_EQ(told.notes,
+            std::vector<std::string>{"1:1 the file is in the encoding \"iso-8859-1\"; saving writes UTF-8"});
+}
 
 TEST_F(DocumentCheckTest, WhatIsNotKnownIsANote) {
   const auto told = Check(

@@ -19,6 +19,7 @@
 namespace bench {
 namespace {
 
+using namespace std::string_literals;
 using orvik::HostError;
 using test::ErrorNumber;
 using test::ErrorText;
@@ -121,6 +122,27 @@ TEST_F(DocumentTest, AddedTestIsACopyOfTheCatalogues) {
   EXPECT_EQ(document->AddTest(110)->Information()->DisplayName(), "Voltage");
 }
 
+// A file of another program, with its letters in its own encoding.
+TEST_F(DocumentTest, OtherEncodingsAreReadAndSavedAsUtf8) {
+  const std::string wide =
+      "<\0O\0r\0v\0i\0k\0D\0o\0c\0u\0m\0e\0n\0t\0 \0V\0e\0r\0s\0i\0o\0n\0=\0'\0"
+      "1\0'\0>\0"
+      "<\0E\0q\0u\0i\0p\0m\0e\0n\0t\0 \0A\0s\0s\0e\0t\0=\0'\0\xB5\0'\0/\0>\0"
+      "<\0/\0O\0r\0v\0i\0k\0D\0o\0c\0u\0m\0e\0n\0t\0>\0"s;
+  const std::string narrow = "<OrvikDocument Version='1'><Equipment Asset='\xB5'/></OrvikDocument>";
+  for (const auto& bytes :
+       {"<?xml version='1.0' encoding='iso-8859-1'?>" + narrow,
+        "<?xml version='1.0' encoding='windows-1252'?>" + narrow, wide, "\xFF\xFE" + wide}) {
+    folder_.Write("given.orvik", bytes);
+    auto document = Document::Open(host_, folder_.Path() / "given.orvik");
+    EXPECT_EQ(document->equipment.asset, "µ");
+    document->Save();
+    const auto saved = folder_.Read("given.orvik");
+    EXPECT_TRUE(Holds(saved, "encoding=\"UTF-8\""));
+    EXPECT_TRUE(Holds(saved, "Asset=\"µ\""));
+  }
+}
+
 struct DocumentFault {
   const char* text;
   const char* complaint;
@@ -138,6 +160,14 @@ TEST_P(MalformedDocument, IsRefusedWithFileAndReasonAndLeftAsItIs) {
 INSTANTIATE_TEST_SUITE_P(
     Texts, MalformedDocument,
     ::testing::Values(
+        DocumentFault{"<OrvikDocument Version='1'>\n<Equipment Asset='\xE6'/></OrvikDocument>",
+                      "line 2: there are bytes that are not UTF-8 text"},
+        DocumentFault{"<?xml version='1.0' encoding='koi8-r'?>\n<OrvikDocument Version='1'/>",
+                      "line 1: the file is declared as \"koi8-r\""},
+        DocumentFault{"<?xml version='1.0' encoding='UTF-16'?>\n<OrvikDocument Version='1'/>",
+                      "line 1: the file is declared as \"UTF-16\""},
+        DocumentFault{"<?xml version='1.0' encoding='windows-1252'?>\n<OrvikDocument Version='1' A='\x81'/>",
+                      "line 2: there are bytes that are not text in the encoding"},
         DocumentFault{"", "no root element"}, DocumentFault{"no xml", "line 1"},
         DocumentFault{"<OrvikDocument Version='1'>\n<Elements>\n", "line 2"},
         DocumentFault{"<OrvikDocument Version='1'>\n</OrvikDocument>\ntrailing", "line 3"},

@@ -1,0 +1,25 @@
+#include "host/app/help/PlainWords.h"
+
+#include "host/app/InputError.h"
+#include "host/app/help/OptionValues.h"
+#include "host/services/PlainText.h"
+#include "host/services/Tr.h"
+
+namespace bench {
+
+void RefuseControlCharacters(const CLI::App& program) {
+  for (const auto* option : program.get_options()) {
+    if (NamesFile(*option) || NamesFolder(*option)) continue;
+    for (const auto& text : option->results()) {
+      const auto bad = FindNotPlain(text);
+      if (bad != std::string::npos)
+        throw InputError(
+            Tr("%%1: the text has a control character, or a byte that is not UTF-8, behind \"%%2\"; "
+               "give it without",
+               {option->get_name(), text.substr(0, bad)}));
+    }
+  }
+  for (const auto* command : program.get_subcommands()) RefuseControlCharacters(*command);
+}
+
+}  // namespace bench

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <CLI/CLI.hpp>
+
+namespace bench {
+
+/// Refuses texts on the command line that a document cannot hold: control characters, line ends among them,
+/// and bytes that are not UTF-8. Names of files and folders may have them. `InputError` naming the option.
+void RefuseControlCharacters(const CLI::App& program);
+
+}  // namespace bench
