@@ -38,7 +38,7 @@ TEST_F(UnwritableTest, AFullDiskEndsEveryCommandThatWritesWithTwo) {
        {Words{"limit", file, "--element", "1", "--standard", "S", "--high", "9"},
         Words{"config", file, "--element", "1", "--options", "3"},
         Words{"report", file, "--to", Path("a.html")}, Words{"report", file, "--to", Path("a.pdf")},
-        Words{"archive", "--archive", Path("a.sqlite"), "add", finished}}) {
+        Words{"archive", "--archive", Path("a.sqlite"), "add", "--incomplete", finished}}) {
     const auto ended = OnAFullDisk(words);
     EXPECT_EQ(ended.status, 2) << words[0] << ": " << ended.error;
     EXPECT_NE(ended.error, "") << words[0];
