@@ -5,6 +5,8 @@
 
 #include "OrvikTypeLib/HostError.h"
 #include "host/app/DocumentJson.h"
+#include "host/app/DocumentView.h"
+#include "host/app/JudgedCheck.h"
 #include "host/app/help/Examples.h"
 #include "host/document/Document.h"
 #include "host/document/DocumentCheck.h"
@@ -56,7 +58,11 @@ ExitStatus CheckCommand::Run(const GlobalOptions& options) {
   if (WrongOnes(findings) == 0) {
     // Whatever keeps the document from being opened is wrong with it.
     try {
-      Document::Open(workbench.Host(), file_, DocumentFile::Use::kRead);
+      const auto document = Document::Open(workbench.Host(), file_, DocumentFile::Use::kRead);
+      const auto judged = CheckJudged(text, ViewOf(*document, *workbench.Host()).judged);
+      findings.insert(findings.end(), judged.begin(), judged.end());
+      std::stable_sort(findings.begin(), findings.end(),
+                       [](const Finding& one, const Finding& other) { return one.line < other.line; });
     } catch (const orvik::HostError& error) {
       findings.push_back({true, 1, 1, error.Description()});
     }

@@ -32,15 +32,6 @@ Json JsonOf(const judge::JudgedLimit& limit) {
   return json;
 }
 
-Json JsonOf(const Equipment& equipment) {
-  Json json;
-  json["asset"] = equipment.asset;
-  json["serial"] = equipment.serial;
-  json["maker"] = equipment.maker;
-  json["model"] = equipment.model;
-  return json;
-}
-
 /// Those that make the element doubtful, as sentences.
 std::vector<std::string> Doubts(const judge::JudgedElement& element) {
   std::vector<std::string> doubts;
@@ -50,6 +41,15 @@ std::vector<std::string> Doubts(const judge::JudgedElement& element) {
 }
 
 }  // namespace
+
+Json JsonOf(const Equipment& equipment) {
+  Json json;
+  json["asset"] = equipment.asset;
+  json["serial"] = equipment.serial;
+  json["maker"] = equipment.maker;
+  json["model"] = equipment.model;
+  return json;
+}
 
 Json JsonOf(const std::vector<Reason>& reasons) {
   Json json = Json::array();

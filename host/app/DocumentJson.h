@@ -12,6 +12,9 @@ nlohmann::ordered_json JsonOf(const DocumentView& document);
 /// What the object says of one element.
 nlohmann::ordered_json JsonOf(const judge::JudgedElement& element);
 
+/// The equipment under test.
+nlohmann::ordered_json JsonOf(const Equipment& equipment);
+
 /// The reasons with their codes, arguments and sentences.
 nlohmann::ordered_json JsonOf(const std::vector<Reason>& reasons);
 

@@ -6,6 +6,7 @@
 #include "host/document/Document.h"
 #include "host/document/ElementsCheck.h"
 #include "host/document/KnownParts.h"
+#include "host/document/RunsCheck.h"
 #include "host/document/StandardsCheck.h"
 #include "host/services/Text.h"
 #include "host/services/Tr.h"
@@ -96,6 +97,7 @@ std::vector<Finding> CheckDocument(const std::string& bytes, ElementFactory& fac
   NoteUnknown(root.child("Equipment"), {"Asset", "Serial", "Maker", "Model", "Comment"}, {}, findings);
   CheckStandards(root.child("Standards"), {}, findings);
   const auto testers = CheckInstruments(root.child("Instruments"), findings);
+  CheckRuns(root.child("Runs"), findings);
   ElementsCheck(factory, testers, findings).Look(root.child("Elements"), !fault.reason.empty());
   return findings.InOrder();
 }

@@ -11,7 +11,7 @@
 namespace bench {
 namespace {
 
-constexpr char kDigest[] = "Digest";
+constexpr char kDigest[] = "Digest", kBefore[] = "Before";
 constexpr char kByTester[] = "tester", kByOperator[] = "operator";
 
 // --- reading
@@ -240,6 +240,11 @@ pugi::xml_node WriteRun(const RunRecord& run, pugi::xml_node parent) {
       WriteTest(std::get<RecordedTest>(step), node);
   }
   return node;
+}
+
+bool IsIntact(pugi::xml_node run, std::size_t place, std::string_view before) {
+  return run.attribute("Number").value() == std::to_string(place) &&
+         run.attribute(kBefore).value() == before && run.attribute(kDigest).value() == DigestOf(run);
 }
 
 std::string DigestOf(pugi::xml_node run) {

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <cstddef>
 #include <pugixml.hpp>
 #include <string>
+#include <string_view>
 
 #include "host/document/RunRecord.h"
 
@@ -28,6 +30,10 @@ RunRecord ReadRun(pugi::xml_node node);
 
 /// Adds the run to the parent, without its digest.
 pugi::xml_node WriteRun(const RunRecord& run, pugi::xml_node parent);
+
+/// Whether the run's node is as this program wrote it, in this place (from 1) and after a run of that digest.
+/// @param before empty for the first run
+bool IsIntact(pugi::xml_node run, std::size_t place, std::string_view before);
 
 /// "sha256:" and the digest of all that the run's node holds but its own digest, independent of layout.
 std::string DigestOf(pugi::xml_node run);

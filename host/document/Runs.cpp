@@ -13,12 +13,6 @@ namespace {
 
 constexpr char kRuns[] = "Runs", kRun[] = "Run", kDigest[] = "Digest", kBefore[] = "Before";
 
-/// Whether the run's node is as it was written, after a run with that digest.
-bool Intact(pugi::xml_node run, std::int32_t number, std::size_t place, const std::string& before) {
-  return number == static_cast<std::int32_t>(place) && run.attribute(kBefore).value() == before &&
-         run.attribute(kDigest).value() == DigestOf(run);
-}
-
 }  // namespace
 
 void Runs::Load(pugi::xml_node section) {
@@ -29,7 +23,7 @@ void Runs::Load(pugi::xml_node section) {
   std::string before;
   for (const auto node : section.children(kRun)) {
     all_.push_back(ReadRun(node));
-    all_.back().intact = Intact(node, all_.back().number, all_.size(), before);
+    all_.back().intact = IsIntact(node, all_.size(), before);
     before = node.attribute(kDigest).value();
     saved_.append_copy(node);
   }

@@ -5,6 +5,7 @@
 
 #include "host/document/Findings.h"
 #include "host/document/KnownParts.h"
+#include "host/plugins/keld/KeldTests.h"
 #include "host/services/Text.h"
 #include "host/services/Tr.h"
 #include "host/services/XmlNode.h"
@@ -22,6 +23,14 @@ void CheckLimit(pugi::xml_node node, const std::optional<std::string>& unit, Fin
     findings.Wrong(node, error.Description());
   }
   const std::string given = node.attribute("Unit").value();
+  const std::string key = node.attribute("Key").value();
+  if (unit && key != keld_facts::kLimitKey)
+    findings.Wrong(node, Tr("the limit has the key \"%%1\"; the plug-in judges by limits with the key "
+                            "\"%%2\" alone",
+                            {key, std::string(keld_facts::kLimitKey)}));
+  const bool bounded = *node.attribute("Low").value() || *node.attribute("High").value();
+  if (unit && !unit->empty() && bounded && given.empty())
+    findings.Wrong(node, Tr("the limit names no unit; readings of the element are recorded in %%1", {*unit}));
   if (unit && !given.empty() && !SameUnit(given, *unit))
     findings.Wrong(node, Tr("the bounds are in %%1, but the element is recorded in %%2, and a reading is "
                             "compared with the bare number",

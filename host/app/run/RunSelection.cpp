@@ -98,6 +98,16 @@ void SelectStandards(Document& document, Host& host, const RunSelection& selecti
   }
 }
 
+void RequireStandards(const judge::JudgedDocument& judged, const std::vector<std::string>& names,
+                      const std::string& file) {
+  auto known = judged.standards;
+  known.insert(known.end(), judged.leftOut.begin(), judged.leftOut.end());
+  std::string all;
+  for (const auto& name : known) all += (all.empty() ? "\"" : ", \"") + name + "\"";
+  for (const auto& name : names)
+    if (std::find(known.begin(), known.end(), name) == known.end()) throw NoSuchStandard(name, file, all);
+}
+
 std::string OperatorName(const std::string& given) {
   if (!given.empty()) return given;
   for (const auto* variable : {"USER", "LOGNAME"}) {

@@ -38,6 +38,10 @@ std::vector<std::shared_ptr<orvik::ITestElement>> Unfinished(
 /// names. `InputError` for a standard that no limit of the document belongs to.
 void SelectStandards(Document& document, Host& host, const RunSelection& selection);
 
+/// `InputError` for a name that is not among the document's standards.
+void RequireStandards(const judge::JudgedDocument& judged, const std::vector<std::string>& names,
+                      const std::string& file);
+
 /// The operator's name that was given, else that of the account; may be empty.
 std::string OperatorName(const std::string& given);
 

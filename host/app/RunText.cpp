@@ -1,0 +1,144 @@
+#include "host/app/RunText.h"
+
+#include <map>
+
+#include "host/app/InputError.h"
+#include "host/app/TextColumns.h"
+#include "host/judge/ReasonText.h"
+#include "host/judge/Verdict.h"
+#include "host/report/VisibleText.h"
+#include "host/services/Tr.h"
+
+namespace bench {
+
+namespace {
+
+using report::VisibleText;
+
+std::string EquipmentText(const Equipment& equipment) {
+  std::vector<std::string> parts;
+  for (const auto* part : {&equipment.asset, &equipment.maker, &equipment.model, &equipment.serial})
+    if (!part->empty()) parts.push_back(VisibleText(*part));
+  return parts.empty() ? Tr("not recorded") : Joined(parts, ", ");
+}
+
+std::string TesterText(const RecordedTester& tester) {
+  const auto measured = tester.leadsMeasured.empty()
+                            ? Tr("date not known")
+                            : Tr("measured %%1", {VisibleText(tester.leadsMeasured)});
+  return Tr("Tester %%1, serial number %%2, firmware %%3, test leads %%4 mOhm (%%5)",
+            {VisibleText(tester.type), VisibleText(tester.serial), VisibleText(tester.firmware),
+             std::to_string(tester.leads), measured});
+}
+
+std::string BoundsText(const RecordedLimit& limit) {
+  if (!limit.low.empty() && !limit.high.empty())
+    return Tr("%%1 to %%2", {limit.low, limit.high + " " + limit.unit});
+  return limit.low.empty() ? Tr("at most %%1", {limit.high + " " + limit.unit})
+                           : Tr("at least %%1", {limit.low + " " + limit.unit});
+}
+
+std::string Reading(const RecordedTest& test) {
+  if (!test.recorded || test.recorded->value.empty()) return "-";
+  if (test.recorded->flags.find('O') != std::string::npos) return "OL";
+  return test.recorded->unit.empty() ? test.recorded->value
+                                     : test.recorded->value + " " + VisibleText(test.recorded->unit);
+}
+
+std::string TestText(const RecordedTest& test) {
+  constexpr char kIndent[] = "      ";
+  auto text =
+      LeftPadded(std::to_string(test.element), 4) + "  " + LeftPadded(std::to_string(test.testId), 4) + "  " +
+      Padded(Tr(judge::StatusText(test.status)), 15) + Padded(Reading(test), 16) + VisibleText(test.at) +
+      (test.by == RecordedTest::By::kOperator ? "  " + Tr("by the operator") : "") + "\n";
+  for (const auto& line : test.said) text += kIndent + Tr("said: %%1", {VisibleText(line)}) + "\n";
+  for (const auto& limit : test.judged)
+    text += kIndent +
+            Tr("judged: %%1, %%2: %%3",
+               {VisibleText(limit.description.empty() ? limit.standard
+                                                      : limit.standard + ", " + limit.description),
+                VisibleText(BoundsText(limit)), limit.status == 2 ? Tr("exceeded") : Tr("within limit")}) +
+            "\n";
+  for (const auto& doubt : test.doubts)
+    text += kIndent + Tr("doubt: %%1", {VisibleText(judge::ReasonText(doubt))}) + "\n";
+  return text;
+}
+
+}  // namespace
+
+std::string EndWord(const RunRecord& run) {
+  switch (run.end) {
+    case RunRecord::End::kFinished:
+      return Tr("finished");
+    case RunRecord::End::kStopped:
+      return Tr("stopped");
+    case RunRecord::End::kAborted:
+      return Tr("aborted");
+    case RunRecord::End::kLost:
+      return Tr("tester lost");
+    case RunRecord::End::kNone:
+      break;
+  }
+  return Tr("interrupted");
+}
+
+RunProgressCount CountOf(const RunRecord& run) {
+  std::map<std::int32_t, bool> done;
+  for (const auto& step : run.steps) {
+    if (const auto* takes = std::get_if<RecordedTakes>(&step)) {
+      for (const auto id : takes->elements) done[id] = false;
+    } else {
+      const auto& test = std::get<RecordedTest>(step);
+      done[test.element] = test.status >= 1 && test.status <= 3;
+    }
+  }
+  RunProgressCount count;
+  count.taken = done.size();
+  for (const auto& [id, finished] : done) count.finished += finished ? 1 : 0;
+  return count;
+}
+
+std::string RunsText(const std::vector<RunRecord>& runs) {
+  if (runs.empty()) return Tr("The document has not been run yet.") + "\n";
+  std::vector<std::vector<std::string>> lines{{Tr("Run"), Tr("Begun"), Tr("End"), Tr("Finished"),
+                                               Tr("Operator"), Tr("Tester"), Tr("Equipment"), Tr("Remark")}};
+  for (const auto& run : runs) {
+    const auto count = CountOf(run);
+    std::vector<std::string> remarks;
+    if (run.simulated) remarks.push_back(Tr("SIMULATED"));
+    if (!run.intact) remarks.push_back(Tr("changed by another program"));
+    lines.push_back({std::to_string(run.number), VisibleText(run.begun), EndWord(run),
+                     Tr("%%1 of %%2", {std::to_string(count.finished), std::to_string(count.taken)}),
+                     VisibleText(run.by), run.testers.empty() ? "-" : VisibleText(run.testers.back().serial),
+                     EquipmentText(run.equipment), Joined(remarks, ", ")});
+  }
+  return Columned(lines, {0});
+}
+
+std::string RunText(const RunRecord& run, std::size_t count) {
+  auto text = Tr("Run %%1 of %%2, as it was done; what counts now is what \"show\" prints without --run.",
+                 {std::to_string(run.number), std::to_string(count)}) +
+              "\n";
+  if (run.simulated) text += Tr("SIMULATED: a simulated tester was used; nothing was measured.") + "\n";
+  if (!run.intact) text += Tr("This record was changed by another program.") + "\n";
+  text += Tr("Begun %%1, ended %%2: %%3",
+             {VisibleText(run.begun), run.ended.empty() ? "-" : VisibleText(run.ended), EndWord(run)}) +
+          "\n";
+  text += Tr("Equipment %%1", {EquipmentText(run.equipment)}) + "\n";
+  if (!run.by.empty()) text += Tr("Operator %%1", {VisibleText(run.by)}) + "\n";
+  for (const auto& tester : run.testers) text += TesterText(tester) + "\n";
+  for (const auto& step : run.steps)
+    if (const auto* test = std::get_if<RecordedTest>(&step)) text += TestText(*test);
+  return text;
+}
+
+const RunRecord& FoundRun(const std::vector<RunRecord>& runs, std::int32_t number) {
+  for (const auto& run : runs)
+    if (run.number == number) return run;
+  if (runs.empty())
+    throw InputError(Tr("--run %%1: the document has not been run yet", {std::to_string(number)}));
+  throw InputError(
+      Tr("--run %%1: the document has runs 1 to %%2", {std::to_string(number), std::to_string(runs.size())}));
+}
+
+}  // namespace bench
