@@ -9,11 +9,16 @@
 
 namespace keld {
 
+class FPretestPrompt;
+
 /// One test of the catalogue: one measurement on the tester.
 class CKELDTestElement final : public CKELDElement {
  public:
   /// An element with a base element of the host, its own configuration and its own limits.
   static std::shared_ptr<CKELDTestElement> Create();
+
+  /// The message about a failure that is on the screen, with the key of its picture; empty without one.
+  std::shared_ptr<FPretestPrompt> FailureMessage() const { return mfrmPretestPrompt; }
 
  private:
   std::string IObject_ClassID() const override;
@@ -39,6 +44,7 @@ class CKELDTestElement final : public CKELDElement {
   void ReportFailure(const std::string& sText, const std::string& sKey);
   void RecordMeasurement(std::int16_t iTestNo);
 
+  std::shared_ptr<FPretestPrompt> mfrmPretestPrompt;
   orvik::platform::Subscription mGotMtiData;
   orvik::platform::Subscription mResultReceived;
 };

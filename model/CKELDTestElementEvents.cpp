@@ -107,11 +107,15 @@ void CKELDTestElement::ReportTestNotSupported() {
 }
 
 void CKELDTestElement::ReportFailure(const std::string& sText, const std::string& sKey) {
+  // The operator may abort while the message is shown, and the session's end bring another one.
+  const auto Outer = mfrmPretestPrompt;
   std::shared_ptr<FPretestPrompt> Prompt;
   Attempt([&] { Prompt = FPretestPrompt::Create(); });
+  mfrmPretestPrompt = Prompt;
   Attempt([&] { Required(Prompt).SetPrompt(sText, sKey); });
   Attempt([&] { Required(Prompt).ShowModal(); });
   Attempt([&] { Required(Prompt).Unload(); });
+  mfrmPretestPrompt = Outer;
 }
 
 void CKELDTestElement::RecordMeasurement(std::int16_t iTestNo) {

@@ -138,14 +138,15 @@ TEST_F(CKELDSequenceRunTest, AFailedChildFailsASummaryThatCannotBeJudged) {
 }
 
 TEST_F(CKELDSequenceRunTest, ASummaryWhoseLimitsCannotBeReadIsNotPassed) {
-  const auto broken = std::make_shared<bool>(false);
-  support::RegisterUnlimitedElements(bench.Host(), broken);
+  const auto onLimits = support::RegisterLimitsWatchedElements(bench.Host());
   const auto sequence = ThreeTests();
   Configuration(sequence).SetValueFilter(3);
   Perform(sequence);
   ASSERT_EQ(Status(sequence), 1);
   // The children are judged, then no limits can be read any more.
-  controller->onTold = [&](const std::string& what) { *broken = *broken || what == "finished 413"; };
+  controller->onTold = [&](const std::string& what) {
+    if (what == "finished 413") *onLimits = [] { throw orvik::HostError(5, "host", "no"); };
+  };
   Perform(sequence);
   EXPECT_EQ(ChildStatus(sequence), (Codes{1, 1, 1}));
   EXPECT_FALSE(sequence->Result());
@@ -249,7 +250,7 @@ TEST_F(CKELDSequenceRunTest, TheResultIsShownThenTheHostIsToldThenTheSessionIsEn
     sent = bench.Wire().Sent();
   };
   Perform(sequence);
-  EXPECT_GT(rows, 0);
+  EXPECT_EQ(rows, 4);
   EXPECT_EQ(sent.back(), "GRES,413,0");
   EXPECT_EQ(bench.Wire().Sent().back(), "EREM");
   ASSERT_TRUE(sequence->Result()->ServiceRecord());

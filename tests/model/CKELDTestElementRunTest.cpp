@@ -32,13 +32,14 @@ TEST_F(CKELDTestElementRunTest, AWholeTestGoesOverTheWireInOrder) {
 
 TEST_F(CKELDTestElementRunTest, AResultIsMadeBeforeTheHostIsAsked) {
   const auto element = MakeTest(210);
-  bool hadResult = false;
+  Element owner;
   controller->mayStart = [&](const auto& asked) {
-    hadResult = asked->Result() != nullptr;
+    const auto made = orvik::As<CKELDResultData>(asked->Result());
+    if (made) owner = made->Owner();
     return false;
   };
   Perform(element);
-  EXPECT_TRUE(hadResult);
+  EXPECT_EQ(owner, element);
   EXPECT_EQ(person.guidesShown, 0);
   EXPECT_EQ(controller->told, (Texts{"start 210"}));
 }
@@ -153,16 +154,15 @@ TEST_F(CKELDTestElementRunTest, AReadingThatCannotBeJudgedIsNotPassed) {
 }
 
 TEST_F(CKELDTestElementRunTest, AReadingWhoseLimitsCannotBeReadIsNotPassed) {
-  const auto broken = std::make_shared<bool>(false);
-  support::RegisterUnlimitedElements(bench.Host(), broken);
+  const auto onLimits = support::RegisterLimitsWatchedElements(bench.Host());
   const auto element = MakeTest(415);
   Limit(element, "", "100");
   for (const auto& [reading, sound] : {std::pair{"1,0,V", 1}, {"101,0,V", 2}}) {
     AnswerResult(reading);
-    *broken = false;
+    *onLimits = nullptr;
     Perform(element);
     EXPECT_EQ(Status(element), sound);
-    *broken = true;
+    *onLimits = [] { throw orvik::HostError(5, "host", "no"); };
     Perform(element);
     EXPECT_EQ(Status(element), 0);
     EXPECT_EQ(element->Result()->Measurement(1)->Status(), 0);
@@ -363,15 +363,13 @@ TEST_F(CKELDTestElementRunTest, AnEarlierYesIsNotTakenForAnAnswer) {
   person.guide = {support::GuideOperator::kAbort};
   Perform(element);
   ASSERT_EQ(Status(element), 4);
-  // This time the prompt goes away without an answer.
-  person.guide = {};
-  person.abort = false;
-  const auto closePrompt = bench.Application().FormShown().Subscribe([](const auto& form) {
-    if (form->Name() == "FYesNoPrompt") form->Close();
+  // This time the prompt goes away without an answer: closing it would be one.
+  const auto unloadPrompt = bench.Application().FormShown().Subscribe([](const auto& form) {
+    if (form->Name() == "FYesNoPrompt") form->Unload();
   });
-  person.guide = {support::GuideOperator::kAbort};
   controller->told.clear();
   Perform(element);
+  EXPECT_EQ(person.prompts.size(), 2u);
   EXPECT_EQ(controller->Count("navigate 2"), 0u);
 }
 

@@ -9,6 +9,7 @@
 #include "plugin/MKELDGlobalVars.h"
 #include "tests/model/HostElements.h"
 #include "tests/model/ModelTest.h"
+#include "tests/results/ServiceRecordProbe.h"
 
 namespace keld {
 
@@ -110,14 +111,36 @@ TEST_F(CKELDTestElementTest, LoadingAWholeElementReadsItsResultToo) {
   EXPECT_EQ(orvik::As<CKELDResultData>(element->Result())->Owner(), element);
 }
 
-TEST_F(CKELDTestElementTest, AnElementNodeKeepsTheResultThatIsThere) {
+TEST_F(CKELDTestElementTest, AnElementNodeWithoutAResultTakesTheResultAway) {
+  const auto element = MakeTest(410);
+  Base(element).SetResult(CKELDResultData::Create());
+  const auto document = MKELDGlobalVars::XmlDocument();
+  ASSERT_TRUE(document->LoadFromString("<TestElement ID='3' TestID='410'/>"));
+  element->Load(document->Root(), nullptr);
+  EXPECT_EQ(element->ID(), 3);
+  EXPECT_FALSE(element->Result());
+}
+
+TEST_F(CKELDTestElementTest, ANodeThatTheHostRefusesKeepsTheResultAndRaisesNothing) {
   const auto element = MakeTest(410);
   const auto before = CKELDResultData::Create();
   Base(element).SetResult(before);
   const auto document = MKELDGlobalVars::XmlDocument();
-  ASSERT_TRUE(document->LoadFromString("<TestElement ID=\"3\"/>"));
-  element->Load(document->Root(), nullptr);
-  EXPECT_EQ(element->Result(), before);
+  for (const char* text : {"<TestElement ID='3'/>", "<Something/>"}) {
+    ASSERT_TRUE(document->LoadFromString(text));
+    EXPECT_NO_THROW(element->Load(document->Root(), nullptr));
+    EXPECT_EQ(element->Result(), before) << text;
+  }
+}
+
+TEST_F(CKELDTestElementTest, NodeAndContextReachTheBaseElement) {
+  const auto record = std::make_shared<results::ServiceRecordProbe>();
+  bench.Host().Register(orvik::HostClasses::kServiceRecord, [&] { return record; });
+  const auto context = MakeTest(420);
+  const auto document = MKELDGlobalVars::XmlDocument();
+  ASSERT_TRUE(document->LoadFromString("<ResultItem><ServiceRecord/></ResultItem>"));
+  MakeTest(410)->Load(document->Root(), context);
+  EXPECT_EQ(record->loadedIn, context);
 }
 
 TEST_F(CKELDTestElementTest, ACloneSharesNothingAndOwnsWhatItHas) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <utility>
@@ -80,30 +81,34 @@ inline void RegisterFailingElements(bench::Host& host) {
                 [factory = std::weak_ptr(host.Elements())] { return std::make_shared<Failing>(factory); });
 }
 
-/// A base element whose limits cannot be read while the flag is set.
-class Unlimited : public bench::TestElement {
+/// Called whenever somebody reads the limits of an element; what it throws the reader gets.
+using OnLimitsRead = std::shared_ptr<std::function<void()>>;
+
+/// A base element whose limits are watched.
+class LimitsWatched : public bench::TestElement {
  public:
-  Unlimited(std::weak_ptr<bench::ElementFactory> factory, std::shared_ptr<bool> broken)
-      : TestElement(std::move(factory)), broken_(std::move(broken)) {}
+  LimitsWatched(std::weak_ptr<bench::ElementFactory> factory, OnLimitsRead onRead)
+      : TestElement(std::move(factory)), onRead_(std::move(onRead)) {}
 
  private:
   void IBaseElement_SetLimits(std::shared_ptr<orvik::ILimitData> Limits) override {
     limits_ = std::move(Limits);
   }
   std::shared_ptr<orvik::ILimitData> ITestElement_Limits() const override {
-    if (*broken_) throw orvik::HostError(5, "host", "no");
+    if (*onRead_) (*onRead_)();
     return limits_;
   }
 
-  std::shared_ptr<bool> broken_;
+  OnLimitsRead onRead_;
   std::shared_ptr<orvik::ILimitData> limits_;
 };
 
 /// The same with the children of a real container.
-class UnlimitedContainer final : public Unlimited, public orvik::ITestContainer {
+class LimitsWatchedContainer final : public LimitsWatched, public orvik::ITestContainer {
  public:
-  UnlimitedContainer(const std::weak_ptr<bench::ElementFactory>& factory, std::shared_ptr<bool> broken)
-      : Unlimited(factory, std::move(broken)), children_(std::make_shared<bench::TestContainer>(factory)) {}
+  LimitsWatchedContainer(const std::weak_ptr<bench::ElementFactory>& factory, OnLimitsRead onRead)
+      : LimitsWatched(factory, std::move(onRead)),
+        children_(std::make_shared<bench::TestContainer>(factory)) {}
 
  private:
   void ITestContainer_Add(std::shared_ptr<orvik::ITestElement> iteElement, const orvik::Variant& vBefore,
@@ -127,13 +132,15 @@ class UnlimitedContainer final : public Unlimited, public orvik::ITestContainer 
   std::shared_ptr<orvik::ITestContainer> children_;
 };
 
-/// From now on the host makes base elements whose limits cannot be read while the flag is set.
-inline void RegisterUnlimitedElements(bench::Host& host, const std::shared_ptr<bool>& broken) {
+/// From now on the host makes base elements whose limits are watched.
+inline OnLimitsRead RegisterLimitsWatchedElements(bench::Host& host) {
+  const auto onRead = std::make_shared<std::function<void()>>();
   const std::weak_ptr<bench::ElementFactory> factory = host.Elements();
   host.Register(orvik::HostClasses::kTestElement,
-                [factory, broken] { return std::make_shared<Unlimited>(factory, broken); });
+                [factory, onRead] { return std::make_shared<LimitsWatched>(factory, onRead); });
   host.Register(orvik::HostClasses::kTestContainer,
-                [factory, broken] { return std::make_shared<UnlimitedContainer>(factory, broken); });
+                [factory, onRead] { return std::make_shared<LimitsWatchedContainer>(factory, onRead); });
+  return onRead;
 }
 
 /// Limits that write down who has their references updated.

@@ -27,6 +27,8 @@ class RecordingController final : public virtual orvik::IRunController {
   std::vector<std::string> told;
   /// Looks around at the moment in which something is told.
   std::function<void(const std::string& what)> onTold;
+  /// Looks around at the moment in which the testers are asked for.
+  std::function<void()> onInstruments;
   /// Every notice and request breaks off with an error, after it was written down.
   bool broken = false;
 
@@ -53,6 +55,7 @@ class RecordingController final : public virtual orvik::IRunController {
   std::shared_ptr<orvik::IStandardColl> IRunController_Standards() const override { return standards; }
   std::shared_ptr<orvik::IInstrumentColl> IRunController_Instruments() const override {
     if (broken) throw orvik::HostError(orvik::HostError::kInvalidArgument, "test", "broken");
+    if (onInstruments) onInstruments();
     return instruments;
   }
 };
