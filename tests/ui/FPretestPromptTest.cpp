@@ -9,6 +9,15 @@ using support::Numbers;
 
 using FPretestPromptTest = support::PromptTest<keld::FPretestPrompt>;
 
+TEST_F(FPretestPromptTest, TitleAndButtonAreThePlugInsInEveryLanguage) {
+  const support::TemporaryFolder folder;
+  support::SpeakByModule(host_.Host(), folder.Path());
+  prompt_->SetPrompt("20999::Go on?", "");
+  EXPECT_EQ(Form()->Caption(), "KELD 20001");
+  EXPECT_EQ(Caption("cmdOK"), "KELD 1");
+  EXPECT_EQ(Caption("lblPrompt"), "20999::Go on?");
+}
+
 TEST_F(FPretestPromptTest, ShowsTheTextAsItStands) {
   for (const char* text : {"Connect the lead.", "20803::not translated", "::", "a %%1 b", ""}) {
     prompt_->SetPrompt(text, "");

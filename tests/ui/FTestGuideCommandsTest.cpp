@@ -1,4 +1,5 @@
 #include "instrument/CKELDData.h"
+#include "tests/support/WatchedLanguage.h"
 #include "tests/ui/GuideTest.h"
 #include "ui/FTestGuide.h"
 
@@ -108,6 +109,45 @@ TEST_F(FTestGuideCommandsTest, RunClearsTheResultView) {
   EXPECT_EQ(element->Result()->Status(), 2);
 }
 
+TEST_F(FTestGuideCommandsTest, TheStatusIsSaidBeforeTheResultViewIsCleared) {
+  const auto language = support::WatchLanguage(bench_.Host());
+  const auto element = Element();
+  orvik::As<keld::CKELDLimitData>(element->Limits())->AddStandard(Standard("A", "1"));
+  controller_->standards = Standards({"A"});
+  int rows = -1;
+  Perform(element, [&](GuideScreen guide) {
+    guide.Click(202);
+    language->onText = [&, guide](const std::string& text) {
+      if (text.starts_with("20310::")) rows = guide.Results()->RowCount();
+    };
+    guide.Click(202);
+    language->onText = nullptr;
+  });
+  EXPECT_EQ(rows, 1);
+}
+
+TEST_F(FTestGuideCommandsTest, TheTestIsStoppedBeforeTheStatusSaysSo) {
+  const auto language = support::WatchLanguage(bench_.Host());
+  const auto element = Element();
+  const auto link = keld::CKELDInstrument::Create();
+  const auto guide = keld::FTestGuide::Create();
+  guide->Initialize(element, controller_);
+  element->InitAutoRun(link, guide, controller_);
+  bool said = false;
+  language->onText = [&](const std::string& text) {
+    if (!text.starts_with("20309::")) return;
+    said = true;
+    // A result that comes in now is dropped.
+    std::int32_t status = 5;
+    link->ResultReceived().Raise(status, 210);
+  };
+  orvik::As<orvik::ITgToolbarEvents>(guide)->OnCommand(201);
+  language->onText = nullptr;
+  EXPECT_TRUE(said);
+  EXPECT_TRUE(element->Stopped());
+  EXPECT_FALSE(element->Result());
+}
+
 TEST_F(FTestGuideCommandsTest, PlayGoesOnAfterATestThatPassed) {
   Perform(Element(), [](GuideScreen guide) {
     guide.Click(202);
@@ -126,6 +166,21 @@ TEST_F(FTestGuideCommandsTest, PlayRunsATestThatPassedInAnEarlierOpening) {
   Perform(element, [](GuideScreen guide) { guide.Click(202); });
   EXPECT_FALSE(left_);
   EXPECT_EQ(controller_->finished, (Codes{7, 7}));
+}
+
+TEST_F(FTestGuideCommandsTest, PlayRunsATestAgainWhenTheSameGuideIsOpenedAnew) {
+  const auto element = Element();
+  const auto guide = keld::FTestGuide::Create();
+  const auto events = orvik::As<orvik::ITgToolbarEvents>(guide);
+  for (const auto& finished : {Codes{7}, Codes{7, 7}}) {
+    const auto link = keld::CKELDInstrument::Create();
+    guide->Initialize(element, controller_);
+    element->InitAutoRun(link, guide, controller_);
+    events->OnCommand(202);
+    EXPECT_EQ(controller_->finished, finished);
+    EXPECT_TRUE(controller_->navigation.empty());
+    link->DisconnectMTI();
+  }
 }
 
 TEST_F(FTestGuideCommandsTest, PlayGoesOnAfterATestThatTheTesterLacks) {
@@ -312,18 +367,21 @@ TEST_F(FTestGuideCommandsTest, AbortDuringARunAnsweredNoLetsItFinish) {
 
 TEST_F(FTestGuideCommandsTest, TheQuestionIsAskedOnce) {
   const auto element = Element();
-  std::shared_ptr<orvik::platform::IForm> guideForm;
+  const auto guide = keld::FTestGuide::Create();
+  guide->Initialize(element, controller_);
+  element->InitAutoRun(nullptr, guide, controller_);
+  guide->Form()->Show();
+  const auto events = orvik::As<orvik::ITgToolbarEvents>(guide);
   onWindow_ = [&](const std::shared_ptr<orvik::platform::IForm>& form) {
     // Another request to end while the question is on the screen, past the window that it blocks.
-    const auto toolbar = GuideScreen(guideForm).Toolbar();
-    toolbar->Click(101);
+    if (windows_.size() == 1) events->OnCommand(101);
     orvik::As<orvik::platform::IButton>(form->Find("cmdDecline"))->Click();
   };
-  Perform(element, [&](GuideScreen guide) {
-    guideForm = App().ActiveForm();
-    guide.Click(101);
-  });
+  events->OnCommand(101);
   EXPECT_EQ(windows_, Texts{"FYesNoPrompt"});
+  // And once more when it is asked for again.
+  events->OnCommand(101);
+  EXPECT_EQ(windows_, (Texts{"FYesNoPrompt", "FYesNoPrompt"}));
 }
 
 TEST_F(FTestGuideCommandsTest, GuideMayBeReleasedByWhatItsButtonDoes) {
@@ -366,6 +424,21 @@ TEST_F(FTestGuideCommandsTest, CalibrateShowsItsWindowOverTheGuide) {
     EXPECT_EQ(App().Forms().size(), 1U) << "the calibration window is unloaded";
   });
   EXPECT_EQ(forms, Texts{"FCalibrateLeads"});
+}
+
+TEST_F(FTestGuideCommandsTest, TheCalibrationBelongsToTheGuide) {
+  const auto other = App().CreateForm("Other");
+  onWindow_ = [&](const std::shared_ptr<orvik::platform::IForm>& form) {
+    if (form->Name() != "FCalibrateLeads") return;
+    // The window that was used last is another one; the owner is what comes back all the same.
+    other->Show();
+    orvik::As<orvik::platform::IButton>(form->Find("cmdCancel"))->Click();
+  };
+  Perform(Element(), [&](GuideScreen guide) {
+    guide.Click(900);
+    EXPECT_EQ(App().ActiveForm()->Name(), "FTestGuide");
+  });
+  other->Unload();
 }
 
 TEST_F(FTestGuideCommandsTest, StoredCalibrationIsShown) {

@@ -1,4 +1,7 @@
+#include "host/toolkit/headless/Tabs.h"
+#include "instrument/CKELDData.h"
 #include "instrument/XKELDData.h"
+#include "resources/Resources.h"
 #include "tests/ui/GuideTest.h"
 #include "ui/FTestGuide.h"
 
@@ -40,6 +43,18 @@ TEST_F(FTestGuideTest, InstrumentPaneGetsTheElementAndTheDataTab) {
   ASSERT_TRUE(tabs);
   EXPECT_EQ(tabs->Keys(), Texts{"tab:MtiData"});
   EXPECT_EQ(tabs->PageCaption("tab:MtiData"), "MTI Data");
+  const auto picture = keld::FindResource("tab:MtiData");
+  ASSERT_FALSE(picture.empty());
+  EXPECT_EQ(std::dynamic_pointer_cast<bench::headless::Tabs>(tabs)->PageBitmap("tab:MtiData"),
+            (std::vector<std::byte>(picture.begin(), picture.end())));
+}
+
+TEST_F(FTestGuideTest, OpeningShowsTheInstrumentDataAsTheyAreThen) {
+  const auto guide = keld::FTestGuide::Create();
+  guide->Load();
+  keld::CKELDData::Shared()->SetFirmwareVersion("9.9");
+  guide->Initialize(Element(), controller_);
+  EXPECT_EQ(GuideScreen(guide->Form()).InstrumentField<orvik::platform::ITextBox>("txtFwVer")->Text(), "9.9");
 }
 
 TEST_F(FTestGuideTest, WizardGuidesToTheElement) {
@@ -108,12 +123,14 @@ TEST_F(FTestGuideTest, WorksWithoutRunControllerAndStandards) {
   EXPECT_NO_THROW(Opened(Element()));
 }
 
-TEST_F(FTestGuideTest, RefreshReachesTheInstrumentData) {
+TEST_F(FTestGuideTest, RefreshReachesTheInstrumentDataAndTheWindow) {
   const auto guide = Opened(Element());
   const auto panel = GuideScreen(guide->Form()).Site("xstShowMTI")->Panel();
   const int before = panel->RefreshCount();
+  const int windowBefore = guide->Form()->RefreshCount();
   guide->Refresh();
   EXPECT_GT(panel->RefreshCount(), before);
+  EXPECT_EQ(guide->Form()->RefreshCount(), windowBefore + 1);
 }
 
 TEST_F(FTestGuideTest, KeepsNeitherElementNorControllerAlive) {
@@ -158,6 +175,25 @@ TEST_F(FTestGuideTest, WindowWithoutATestCanBeClosed) {
   guide->Form()->Close();
   EXPECT_FALSE(guide->Form()->Loaded());
   EXPECT_TRUE(windows_.empty());
+}
+
+TEST_F(FTestGuideTest, WindowThatLacksAControlOtherThanItsButtonsCanStillBeOperated) {
+  for (const std::string missing : {orvik::HostClasses::kContentPane, "orvikKELD.XKELDResultView"}) {
+    controller_->navigation.clear();
+    App().SetControlFactory([&](const std::string& classId) {
+      return classId == missing
+                 ? nullptr
+                 : orvik::As<orvik::platform::IUserControl>(bench_.Host().CreateObject(classId));
+    });
+    const auto element = Element();
+    Perform(element, [](GuideScreen guide) {
+      guide.Click(202);
+      guide.Click(103);
+    });
+    EXPECT_TRUE(left_) << missing;
+    EXPECT_EQ(element->Result()->Status(), 1) << missing;
+    EXPECT_EQ(controller_->navigation, (std::vector<std::int32_t>{0, 0})) << missing;
+  }
 }
 
 TEST_F(FTestGuideTest, WindowThatLacksItsControlsCanStillBeLeft) {

@@ -29,6 +29,18 @@ TEST_F(FYesNoPromptTest, LoadingSetsTheCaptions) {
   EXPECT_EQ(Caption("cmdDecline"), "&No");
 }
 
+TEST_F(FYesNoPromptTest, TextsAreThePlugInsInEveryLanguage) {
+  const support::TemporaryFolder folder;
+  support::SpeakByModule(host_.Host(), folder.Path());
+  prompt_->Load();
+  EXPECT_EQ(Form()->Caption(), "KELD 20450");
+  EXPECT_EQ(Caption("lblPrompt"), "KELD 202");
+  EXPECT_EQ(Caption("cmdAccept"), "KELD 3");
+  EXPECT_EQ(Caption("cmdDecline"), "KELD 4");
+  prompt_->SetPrompt("20999::Go on?");
+  EXPECT_EQ(Caption("lblPrompt"), "KELD 20999");
+}
+
 TEST_F(FYesNoPromptTest, NoticesBringTheFormItself) {
   std::vector<FYesNoPrompt*> tellers;
   const auto listening = prompt_->YesNoStatusChanged().Subscribe(

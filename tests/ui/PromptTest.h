@@ -2,14 +2,19 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <fstream>
 #include <memory>
 #include <string>
 #include <vector>
 
 #include "OrvikTypeLib/As.h"
+#include "OrvikTypeLib/HostClasses.h"
+#include "host/services/LanguageService.h"
 #include "platform/Controls.h"
 #include "platform/IForm.h"
 #include "tests/support/HostOnly.h"
+#include "tests/support/TemporaryFolder.h"
 #include "ui/FPretestPrompt.h"
 #include "ui/FYesNoPrompt.h"
 
@@ -37,6 +42,20 @@ inline const char* FirstButton(const keld::FPretestPrompt&) { return "cmdOK"; }
 
 inline void ClickOn(const orvik::platform::IForm& form, const std::string& button) {
   orvik::Required(orvik::As<orvik::platform::IButton>(form.Find(button))).Click();
+}
+
+/// From now on the host speaks a language in which the plug-in's texts and the host's differ: "KELD 3" and
+/// "orvik 3" for the text of number 3. To be called before the plug-in first asks for a text.
+inline void SpeakByModule(bench::Host& host, const std::filesystem::path& folder) {
+  for (const std::string module : {"KELD", "orvik"}) {
+    std::ofstream file(folder / (module + ".xx.po"));
+    file << "msgid \"\"\nmsgstr \"Content-Type: text/plain; charset=UTF-8\\n\"\n\n";
+    for (const std::string number : {"1", "3", "4", "202", "20001", "20450", "20999"})
+      file << "msgctxt \"" << number << "\"\nmsgid \"x\"\nmsgstr \"" << module << " " << number << "\"\n\n";
+  }
+  host.Register(orvik::HostClasses::kLanguageService, [folder] {
+    return std::make_shared<bench::LanguageService>("xx", std::vector<std::filesystem::path>{folder});
+  });
 }
 
 /// A prompt on the real host, with its status notices written down.
