@@ -47,8 +47,8 @@ TEST_P(Controls, CanBePlacedShownResizedAndLetGo) {
   ASSERT_FALSE(identifiers.empty());
   for (const auto& id : identifiers) {
     SCOPED_TRACE(id);
-    const auto form = library_.Application().CreateForm("FControls");
-    const auto site = form->AddControl(id, "isc");
+    auto form = library_.Application().CreateForm("FControls");
+    auto site = form->AddControl(id, "isc");
     ASSERT_TRUE(site->Object());
     EXPECT_FALSE(site->Panel()->Controls().empty()) << "the control shows nothing";
     form->SetGrid({{{0, 1}}, {{0, 1}}, {{"isc", 0, 0}}});
@@ -59,6 +59,10 @@ TEST_P(Controls, CanBePlacedShownResizedAndLetGo) {
       EXPECT_EQ(control->Caption().find("::"), std::string::npos) << control->Name() << " is not translated";
     const std::weak_ptr<platform::IUserControl> watched = site->Object();
     form->Unload();
+    site.reset();
+    form.reset();
+    library_.Application().ProcessMessages();
+    EXPECT_TRUE(watched.expired()) << "somebody still holds the control";
   }
 }
 

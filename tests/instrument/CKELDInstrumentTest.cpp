@@ -184,8 +184,14 @@ TEST_F(CKELDInstrumentTest, AReplyThatCameDuringThePauseIsLookedAtAfterTheComman
   link_.Script({});
   link_.At(milliseconds(1000), [&] { link_.Bench().Line().Reply("irem,A,B,C"); });
   link_.At(milliseconds(3499), [&] { EXPECT_TRUE(link_.Raised().empty()); });
-  link_.onResult = [&](std::int32_t& state, std::int16_t) { state = 0; };
+  Texts sent;
+  link_.onResult = [&](std::int32_t& state, std::int16_t) {
+    sent = link_.Sent();
+    state = 0;
+  };
   Link().RunMtiTest(410, 0);
+  EXPECT_EQ(sent, Texts{"IREM"});
+  EXPECT_EQ(link_.SentAt(), std::vector{milliseconds(3500)});
   EXPECT_EQ(link_.Elapsed(), milliseconds(3500));
   EXPECT_EQ(link_.Raised(), (Texts{"GotMtiData", "3 0"}));
 }

@@ -47,7 +47,7 @@ class CKELDMeasurementTest : public testing::Test {
   }
 
   support::HostOnly host_;
-  const std::shared_ptr<keld::CKELDMeasurement> measurement_ = keld::CKELDMeasurement::Create();
+  std::shared_ptr<keld::CKELDMeasurement> measurement_ = keld::CKELDMeasurement::Create();
 };
 
 TEST_F(CKELDMeasurementTest, IsEmptyAtFirst) {
@@ -212,11 +212,22 @@ TEST_F(CKELDMeasurementTest, TheSavedValueHasNoBlanksAround) {
 }
 
 TEST_F(CKELDMeasurementTest, ALoadedValueIsADouble) {
-  const std::pair<std::string, double> cases[] = {{"12.5", 12.5}, {"OL", 0},    {"", 0},     {"7x", 7},
+  const std::pair<std::string, double> cases[] = {{"12.5", 12.5}, {"OL", 0},    {"7x", 7},
                                                   {" -3 ", -3},   {"1e2", 100}, {"12,5", 12}};
   for (const auto& [text, value] : cases) {
+    measurement_ = keld::CKELDMeasurement::Create();
     Load("<Measurement><Value>" + text + "</Value></Measurement>");
     EXPECT_EQ(measurement_->value(), Variant(value)) << text;
+  }
+}
+
+// The host's persistence service reads no value from it: it must not become a reading of 0.
+TEST_F(CKELDMeasurementTest, AnEmptySavedValueIsNoValue) {
+  for (const char* text : {"<Value/>", "<Value></Value>"}) {
+    measurement_ = keld::CKELDMeasurement::Create();
+    Load("<Measurement>" + std::string(text) + "<Unit>V</Unit></Measurement>");
+    EXPECT_EQ(measurement_->value(), Variant{}) << text;
+    EXPECT_EQ(measurement_->Unit(), "V") << text;
   }
 }
 

@@ -14,6 +14,7 @@
 #include "plugin/CKELDTestConfiguration.h"
 #include "resources/Resources.h"
 #include "tests/support/HostOnly.h"
+#include "tests/support/WatchedLanguage.h"
 
 namespace {
 
@@ -155,6 +156,16 @@ TEST(Plugin, BuildsAllAnewWhenItIsInitialisedAgain) {
   EXPECT_EQ(plugin->Tests()->Count(), 0);
   EXPECT_EQ(plugin->Flags(), 1);
   EXPECT_EQ(before->Count(), 2) << "whoever holds the old catalogue keeps it whole";
+}
+
+TEST(Plugin, TakesItsNameAnewWhenItIsInitialisedAgain) {
+  support::HostOnly bench{std::string(kSmallCatalogue)};
+  const auto language = support::WatchLanguage(bench.Host());
+  const auto plugin = Initialised();
+  ASSERT_EQ(plugin->Name(), "KELD Safety Tester");
+  language->answer = "Another language";
+  plugin->Initialize(nullptr);
+  EXPECT_EQ(plugin->Name(), "Another language");
 }
 
 TEST(Plugin, CreatesCopiesThatAreIndependent) {

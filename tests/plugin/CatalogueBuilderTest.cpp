@@ -133,12 +133,16 @@ TEST_F(CatalogueBuilder, TakesAMissingOrEmptyLanguageTextAsEmpty) {
 TEST_F(CatalogueBuilder, NamesAnEntryByNameElseTypeAndParameterElseType) {
   const std::string type = "<Type LID=\"1::Resistance\"/>", name = "<Name LID=\"2::PE\"/>",
                     parameter = "<Parameter LID=\"3::With cord\"/>";
-  const std::vector<std::pair<std::string, std::string>> rows = {{type + name + parameter, "PE"},
-                                                                 {type + parameter, "Resistance - With cord"},
-                                                                 {type, "Resistance"},
-                                                                 {name, "PE"},
-                                                                 {parameter, " - With cord"},
-                                                                 {"", ""}};
+  const std::vector<std::pair<std::string, std::string>> rows = {
+      {type + name + parameter, "PE"},
+      {type + parameter, "Resistance - With cord"},
+      {type, "Resistance"},
+      {name, "PE"},
+      {parameter, " - With cord"},
+      {"", ""},
+      // The translation decides, not the literal.
+      {"<Name LID=\"21001::\"/>" + type, "Resistance"},
+      {"<Parameter LID=\"21002::\"/>" + type, "Resistance"}};
   for (const auto& [fields, expected] : rows) {
     EXPECT_EQ(DisplayNameOf(Only("<TestElement ID=\"410\">" + fields + "</TestElement>")), expected)
         << fields;

@@ -1,74 +1,125 @@
 #include <gtest/gtest.h>
 
-#include "plugin/MKELDConstants.h"
-#include "plugin/MKELDLanguageConstants.h"
-#include "plugin/MXmlConstants.h"
+#include <algorithm>
 
+#include "OrvikTypeLib/As.h"
+#include "OrvikTypeLib/Conversions.h"
+#include "OrvikTypeLib/HostClasses.h"
+#include "OrvikTypeLib/IXmlDocument.h"
+#include "OrvikTypeLib/IXmlNode.h"
+#include "instrument/CKELDData.h"
+#include "instrument/CKELDMeasurement.h"
+#include "model/CKELDTestElement.h"
+#include "platform/IForm.h"
+#include "plugin/CKELDPlugin.h"
+#include "plugin/CKELDTestConfiguration.h"
+#include "results/CKELDLimitData.h"
+#include "results/CKELDResultData.h"
+#include "tests/plugin/Recorders.h"
+#include "tests/support/HostOnly.h"
+#include "tests/support/WatchedLanguage.h"
+
+// The constants by what they are for: what is in a saved document, in the registry, and asked of the language
+// service.
 namespace {
 
-TEST(MKELDConstants, HoldTheIdentity) {
-  EXPECT_STREQ(keld::MKELDConstants::kPlugInID, "KELD(IN)");
-  EXPECT_STREQ(keld::MKELDConstants::kModule, "KELD");
-  EXPECT_STREQ(keld::MKELDConstants::kPlugInClass, "CKELDPlugin");
-  EXPECT_STREQ(keld::MKELDLanguageConstants::kPlugInName, "20000::KELD Safety Tester");
+using orvik::As;
+using Texts = std::vector<std::string>;
+
+constexpr std::int32_t kLocalMachine = static_cast<std::int32_t>(0x80000002U);
+constexpr char kSettings[] = R"(Software\Telvane\orvik\KELD(IN))";
+constexpr char kTesters[] = R"(Software\Telvane\orvik\KELD(IN)\MTI)";
+
+class Constants : public testing::Test {
+ protected:
+  /// What `save` writes below the root of a document, without the blanks between the tags.
+  template <class Save>
+  static std::string Saved(Save save) {
+    const auto document =
+        keld::MKELDGlobalVars::CreateHostObject<orvik::IXmlDocument>(orvik::HostClasses::kXmlDocument);
+    save(document->CreateRoot("R"));
+    std::string text = document->SaveToString();
+    for (auto end = text.find(">\n"); end != std::string::npos; end = text.find(">\n"))
+      text.erase(end + 1, text.find_first_not_of(" \t\n", end + 1) - end - 1);
+    return text.substr(text.find("<R>"));
+  }
+
+  support::HostOnly bench_;
+};
+
+TEST_F(Constants, AResultIsSavedToTheLetter) {
+  const auto measurement = keld::CKELDMeasurement::Create();
+  measurement->SetDescription("20702::No values");
+  measurement->AddValue(5.3, "mA", "O", "");
+  measurement->SetStatus(2);
+  const auto result = keld::CKELDResultData::Create();
+  result->SetMTIIdentifier(3);
+  result->SetStatus(2);
+  result->SetComment("worn lead");
+  result->SetMeasurement(measurement);
+  EXPECT_EQ(Saved([&](const auto& root) { result->Save(root); }),
+            "<R><ResultItem MTI=\"3\"><Status>2</Status><Comment>worn lead</Comment>"
+            "<Measurement Flags=\"O\"><Description>20702::No values</Description><Value>5.3</Value>"
+            "<Unit>mA</Unit><Status>2</Status></Measurement></ResultItem></R>");
 }
 
-TEST(MKELDConstants, HoldThePlacesInTheRegistry) {
-  EXPECT_EQ(static_cast<std::uint32_t>(keld::MKELDConstants::kHive), 0x80000002U);
-  EXPECT_STREQ(keld::MKELDConstants::kSettingsKey, R"(Software\Telvane\orvik\KELD(IN))");
-  EXPECT_STREQ(keld::MKELDConstants::kInstrumentsKey, R"(Software\Telvane\orvik\KELD(IN)\MTI)");
-  EXPECT_STREQ(keld::MKELDConstants::kConfigurationValue, "Configuration");
-  EXPECT_STREQ(keld::MKELDConstants::kLastInstrumentValue, "LastMTI");
+TEST_F(Constants, AServiceRecordIsSavedBelowTheResult) {
+  const auto element = keld::CKELDTestElement::Create();
+  const auto result = keld::CKELDResultData::Create();
+  result->SetStatus(3);
+  element->BaseElement()->SetResult(result);
+  result->BuildServiceRecord(element);
+  EXPECT_EQ(
+      Saved([&](const auto& root) { result->Save(root); }),
+      "<R><ResultItem><Status>3</Status><ServiceRecord Name=\"\" Code=\"NA\" Value=\"\" /></ResultItem></R>");
 }
 
-TEST(MKELDConstants, HoldTheErrorNumbers) {
-  EXPECT_EQ(keld::MKELDConstants::kErrorCatalogue, -2147179988);
-  EXPECT_EQ(keld::MKELDConstants::kErrorSettingsKey, -2147179890);
-  EXPECT_EQ(keld::MKELDConstants::kLevelConfiguration, 3);
+TEST_F(Constants, AConfigurationIsSavedToTheLetter) {
+  const auto configuration = keld::CKELDTestConfiguration::Create();
+  configuration->SetOptions(7);
+  configuration->SetValueFilter(3);
+  EXPECT_EQ(Saved([&](const auto& root) { configuration->Save(root); }),
+            "<R><PlugInData><KELDConfig Options=\"7\" ValueFilter=\"Maximum value\" /></PlugInData></R>");
 }
 
-TEST(MXmlConstants, HoldTheTagsToTheLetter) {
-  namespace Tag = keld::MXmlConstants;
-  EXPECT_STREQ(Tag::kTemplateData, "TemplateData");
-  EXPECT_STREQ(Tag::kTestElement, "TestElement");
-  EXPECT_STREQ(Tag::kID, "ID");
-  EXPECT_STREQ(Tag::kLID, "LID");
-  EXPECT_STREQ(Tag::kType, "Type");
-  EXPECT_STREQ(Tag::kName, "Name");
-  EXPECT_STREQ(Tag::kParameter, "Parameter");
-  EXPECT_STREQ(Tag::kUnit, "Unit");
-  EXPECT_STREQ(Tag::kKELDConfig, "KELDConfig");
-  EXPECT_STREQ(Tag::kOptions, "Options");
-  EXPECT_STREQ(Tag::kValueFilter, "ValueFilter");
-  EXPECT_STREQ(Tag::kPlugInData, "PlugInData");
-  EXPECT_STREQ(Tag::kMTI, "MTI");
-  EXPECT_STREQ(Tag::kStatus, "Status");
-  EXPECT_STREQ(Tag::kComment, "Comment");
-  EXPECT_STREQ(Tag::kServiceRecord, "ServiceRecord");
-  EXPECT_STREQ(Tag::kMeasurement, "Measurement");
-  EXPECT_STREQ(Tag::kResultItem, "ResultItem");
-  EXPECT_STREQ(Tag::kExpectedResult, "ExpectedResult");
-  EXPECT_STREQ(Tag::kFlags, "Flags");
-  EXPECT_STREQ(Tag::kDescription, "Description");
-  EXPECT_STREQ(Tag::kValue, "Value");
+TEST_F(Constants, LimitsAreSavedUnderTheirName) {
+  const auto element = keld::CKELDTestElement::Create();
+  As<keld::CKELDLimitData>(element->Limits())->CreateStandard("IEC 62353", "class I");
+  const auto saved = Saved([&](const auto& root) { element->Limits()->Save(root); });
+  EXPECT_TRUE(saved.starts_with("<R><ExpectedResult>")) << saved;
+  EXPECT_NE(saved.find("\"NO LIMIT KEY\""), std::string::npos) << saved;
 }
 
-TEST(MKELDLanguageConstants, HoldTheTextsThatAreSharedWithTheHost) {
-  namespace Text = keld::MKELDLanguageConstants;
-  EXPECT_STREQ(Text::kOK, "1::&OK");
-  EXPECT_STREQ(Text::kYes, "3::&Yes");
-  EXPECT_STREQ(Text::kNo, "4::&No");
-  EXPECT_STREQ(Text::kTestGuide, "200::TEST GUIDE");
-  EXPECT_STREQ(Text::kEndTest, "202::Do you want to end this test and discard all previous test results?");
-  EXPECT_STREQ(Text::kValue, "231::Value");
-  EXPECT_STREQ(Text::kHighLimit, "232::High limit");
-  EXPECT_STREQ(Text::kLowLimit, "233::Low limit");
-  EXPECT_STREQ(Text::kUnit, "234::Unit");
-  EXPECT_STREQ(Text::kResult, "312::Result:");
-  EXPECT_STREQ(Text::kLimits, "320::Limits:");
-  EXPECT_STREQ(Text::kHighValue, "321::High value");
-  EXPECT_STREQ(Text::kLowValue, "322::Low value");
-  EXPECT_STREQ(Text::kMtiData, "462::MTI Data");
+TEST_F(Constants, TheCatalogueIsReadFromItsPlaceInTheRegistry) {
+  const auto registry = keld::MKELDGlobalVars::RegistryReader();
+  ASSERT_TRUE(registry->CreateKey(kLocalMachine, kSettings));
+  registry->WriteValue("Configuration",
+                       std::string("<TemplateData><TestElement ID=\"410\"/></TemplateData>"));
+  const auto plugin = keld::CKELDPlugin::Create();
+  plugin->Initialize(nullptr);
+  EXPECT_TRUE(plugin->CreateTest(410));
+}
+
+TEST_F(Constants, TheTestersAreKeptInTheirPlaceInTheRegistry) {
+  keld::CKELDData::Shared()->SetSerialNumber("4711");
+  keld::CKELDData::Shared()->SetCalibValue(35);
+  const auto registry = keld::MKELDGlobalVars::RegistryReader();
+  ASSERT_TRUE(registry->OpenKey(kLocalMachine, kTesters));
+  EXPECT_EQ(orvik::TextOf(registry->ReadValue("4711")), "35");
+  ASSERT_TRUE(registry->OpenKey(kLocalMachine, kSettings));
+  EXPECT_EQ(orvik::TextOf(registry->ReadValue("LastMTI")), "4711");
+}
+
+TEST_F(Constants, TextsSharedWithTheHostHaveItsNumbers) {
+  const auto language = support::WatchLanguage(bench_.Host());
+  Texts asked;
+  language->onText = [&](const std::string& text) { asked.push_back(text); };
+  const auto form = bench_.Application().CreateForm("F");
+  form->AddControl("orvikKELD.XKELDResultView", "view");
+  EXPECT_EQ(asked, (Texts{"20340::KELD test", "231::Value", "232::High limit", "233::Low limit"}));
+  asked.clear();
+  keld::CKELDResultData::Create()->PrintReport(std::make_shared<recorders::Report>(), nullptr);
+  EXPECT_EQ(asked, (Texts{"312::Result:", "231::Value", "234::Unit"}));
 }
 
 }  // namespace

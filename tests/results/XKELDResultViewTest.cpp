@@ -4,6 +4,7 @@
 #include "OrvikTypeLib/IMeasurement.h"
 #include "results/XKELDResultView.h"
 #include "tests/results/Tools.h"
+#include "tests/support/WatchedLanguage.h"
 
 namespace {
 
@@ -71,6 +72,23 @@ TEST_F(XKELDResultViewTest, HasFourColumns) {
     EXPECT_EQ(columns[i].alignment, i == 0 ? Alignment::kLeft : Alignment::kRight);
   }
   EXPECT_TRUE(list_->Visible());
+}
+
+TEST_F(XKELDResultViewTest, ListIsHiddenWhileItsColumnsAreAdded) {
+  form_->Unload();
+  keld::MKELDGlobalVars::Close();
+  keld::MKELDGlobalVars::Open(host_.SharedHost());
+  const auto language = support::WatchLanguage(host_.Host());
+  std::vector<bool> visible;
+  // A caption is translated for each column that is added.
+  language->onText = [&](const std::string&) {
+    const auto site = orvik::As<orvik::platform::IContainerSite>(form_->Find("ctl"));
+    visible.push_back(site->Panel()->Find("lvwResults")->Visible());
+  };
+  site_ = Placed("orvikKELD.XKELDResultView");
+  language->onText = nullptr;
+  EXPECT_EQ(visible, std::vector<bool>(4, false));
+  EXPECT_TRUE(site_->Panel()->Find("lvwResults")->Visible());
 }
 
 TEST_F(XKELDResultViewTest, ColumnsAreMadeOnce) {
