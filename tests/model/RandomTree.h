@@ -91,9 +91,6 @@ class RandomTree {
     orvik::IAuxiliaryState& state = host;
     state.SetPrintElement(Below(2) == 0);
     host.SetRecordOnly(Below(3) == 0);
-    std::vector<std::string> doubts;
-    for (auto left = Below(3); left > 0; --left) doubts.push_back(Text());
-    host.SetDoubts(doubts);
   }
 
   void GiveStandard(orvik::ILimitData& limits) {

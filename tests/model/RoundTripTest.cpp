@@ -114,7 +114,8 @@ std::vector<RoundTripTest::Change> RoundTripTest::Changes() {
   changes.push_back({"the host's own part", [](const Element& element) {
                        const auto state = BaseOf(element).Auxiliary();
                        state->SetPrintElement(!state->PrintElement());
-                       dynamic_cast<bench::AuxiliaryState&>(*state).SetDoubts({"doubtful"});
+                       auto& host = dynamic_cast<bench::AuxiliaryState&>(*state);
+                       host.SetRecordOnly(!host.RecordOnly());
                      }});
   changes.push_back({"configuration", [](const Element& element) {
                        auto& settings = Configuration(element);
