@@ -6,6 +6,8 @@
 #include <utility>
 #include <vector>
 
+#include "host/judge/Verdict.h"
+#include "host/services/Text.h"
 #include "host/services/Tr.h"
 
 namespace bench::judge {
@@ -99,6 +101,8 @@ std::vector<std::string> Translated(const Reason& reason) {
     if (values[1] == "maker") values[1] = Tr("the maker");
     if (values[1] == "model") values[1] = Tr("the model");
   }
+  if (reason.code == "changed-after-finish")
+    for (auto& value : values) value = StatusText(WholeNumber(value).value_or(-1));
   if (std::find(kWithWords.begin(), kWithWords.end(), reason.code) != kWithWords.end())
     for (auto& value : values) value = Tr(value);
   return values;

@@ -25,7 +25,10 @@ DocumentRunner::End DocumentRunner::Run(const RunRecorder::Heading& heading,
                                         const std::vector<std::shared_ptr<orvik::ITestElement>>& elements) {
   if (elements.empty()) return End::kFinished;
   auto end = End::kNotSaved;
-  if (controller_->Begin(heading, elements)) end = Walk(elements);
+  if (controller_->Begin(heading, elements))
+    end = Walk(elements);
+  else
+    reason_ = controller_->SaveFailure();
   controller_->End(RecordedEnd(end));
   if (!controller_->SaveFailure().empty()) {
     reason_ = controller_->SaveFailure();

@@ -1,236 +1,244 @@
 #include <gtest/gtest.h>
 
 #include "OrvikTypeLib/HostError.h"
-#include "OrvikTypeLib/ILimit.h"
-#include "OrvikTypeLib/ILimitData.h"
-#include "OrvikTypeLib/IStandard.h"
-#include "OrvikTypeLib/ITestContainer.h"
-#include "OrvikTypeLib/ITestEnumerator.h"
-#include "host/elements/ElementFactory.h"
-#include "host/instruments/InstrumentColl.h"
-#include "host/run/AutoOperator.h"
-#include "host/run/DocumentRunner.h"
-#include "host/run/ElementSummary.h"
-#include "host/run/GuideToolbar.h"
-#include "host/run/RunController.h"
-#include "tests/support/VirtualBench.h"
+#include "OrvikTypeLib/IResultData.h"
+#include "host/judge/ReasonText.h"
+#include "tests/run/RunFixture.h"
 
+namespace run {
 namespace {
 
-using bench::DocumentRunner;
-using Elements = std::vector<std::shared_ptr<orvik::ITestElement>>;
+using namespace bench::guide;
+using bench::RunRecord;
 
-class RunControllerTest : public testing::Test {
+class RunControllerTest : public RunFixture {
  protected:
-  RunControllerTest() { bench_.Host().Elements()->AddPlugIn(bench_.PlugIn()); }
-
-  std::shared_ptr<orvik::ITestElement> Element(std::int32_t testId, std::int32_t id) {
-    auto element = bench_.CreateTest(testId);
-    element->SetID(id);
-    return element;
+  /// The document is saved, apart from the times that are named, counted from 1.
+  void FailSaves(std::set<int> times) {
+    parts_.save = [this, times, count = 0]() mutable {
+      if (times.contains(++count))
+        throw orvik::HostError(orvik::HostError::kPathError, "test", "the disk is full");
+      document_->Save();
+    };
   }
-
-  DocumentRunner::End Run(const Elements& elements) {
-    bench::AutoOperator person(bench_.Only().SharedApplication(), stop_);
-    return DocumentRunner(controller_, link_, stop_).Run(elements);
-  }
-
-  bench::ElementSummary Summary(const std::shared_ptr<orvik::ITestElement>& element) {
-    return bench::Summarise({element}, *bench_.Host().Elements(), standards_).front();
-  }
-
-  /// Answers as the tester does, with this reading.
-  void AnswerWith(const std::string& reading) {
-    bench_.Line().AnswerBy([this, reading](const std::string& command) {
-      if (command == "IREM") return bench_.Line().Reply("irem,KELD(IN),1,1");
-      if (command == "EREM") return bench_.Line().Reply("erem");
-      if (command.substr(0, 4) == "STST") return bench_.Line().Reply("stst" + command.substr(4));
-      bench_.Line().Reply("gres" + command.substr(4) + "," + reading);
-    });
-  }
-
-  support::VirtualBench bench_;
-  bench::StopRequest stop_;
-  bench::DoubtTracker doubts_{*bench_.Ports().TheWire()};
-  bench::LinkWatch link_{bench_.Ports()};
-  std::shared_ptr<orvik::IStandardColl> standards_ =
-      orvik::As<orvik::IStandardColl>(bench_.Host().CreateObject(orvik::HostClasses::kStandardColl));
-  std::function<void()> save_ = [] {};
-  std::shared_ptr<bench::RunController> controller_ = std::make_shared<bench::RunController>(
-      bench::RunController::Parts{standards_, std::make_shared<bench::InstrumentColl>(),
-                                  *bench_.Host().Elements(), doubts_, [this] { save_(); }});
 };
 
 TEST_F(RunControllerTest, ADoubtfulResultStaysDoubtfulUntilItIsMeasuredAgain) {
-  const auto element = Element(410, 1);
-  AnswerWith("0.1,1,Ohm");
-  Run({element});
-  EXPECT_EQ(Summary(element).Verdict(), "doubtful");
+  AddLimited(410);
+  AddLimited(420);
+  ReadEverywhere("0.1,1,Ohm");
+  // The first guide is opened again and left without a run.
+  RunByHand({{kPlay, kNext}, {kPrevious}, {kNext}, {kNext}});
+  EXPECT_EQ(Verdict(1), "doubtful: overload");
+  EXPECT_EQ(Verdict(2), "not tested: not-finished");
 
-  // The guide is opened and left without a run.
-  stop_.Ask();
-  {
-    bench::AutoOperator person(bench_.Only().SharedApplication(), stop_);
-    controller_->Open(*element);
-    element->Perform(controller_);
-  }
-  EXPECT_EQ(Summary(element).Verdict(), "doubtful");
-
-  AnswerWith("0.1,0,Ohm");
-  bench::StopRequest none;
-  bench::AutoOperator person(bench_.Only().SharedApplication(), none);
-  DocumentRunner(controller_, link_, none).Run({element});
-  EXPECT_EQ(Summary(element).Verdict(), "passed");
+  ReadEverywhere("0.1,0,Ohm");
+  Run();
+  EXPECT_EQ(Verdict(1), "passed");
+  EXPECT_EQ(Verdict(2), "passed");
 }
 
-TEST_F(RunControllerTest, AReadingInAnotherUnitThanItsLimitsIsDoubtful) {
-  const auto element = Element(610, 1);
-  const auto standard = element->Limits()->CreateStandard("S", "");
-  standard->Limit(1)->SetBounds("", "500");
-  standards_->Add(standard);
-  AnswerWith("0.9,0,mA");  // 900 times a thousandth of the limit's unit
-  Run({element});
-  EXPECT_EQ(Summary(element).status, 1);
-  EXPECT_EQ(Summary(element).Verdict(), "doubtful");
+TEST_F(RunControllerTest, AnElementThatARunTookUpAndDidNotMeasureHasNoResult) {
+  AddLimited(410);
+  Run();
+  EXPECT_EQ(Verdict(1), "passed");
+  RunByHand({{kNext}});
+  EXPECT_EQ(document_->Find(1)->Result()->Status(), 1) << "the plug-in's own result stays";
+  EXPECT_EQ(Verdict(1), "not tested: not-finished");
+}
+
+TEST_F(RunControllerTest, AReadingInAnotherUnitThanItsLimitsIsNotComparedByNumber) {
+  AddLimited(610);
+  Read("610", "0.9,0,mA");  // 900 times a thousandth of the limit's unit
+  Run();
+  EXPECT_EQ(Judged(1).status, 1) << "the plug-in compares by number";
+  EXPECT_EQ(Verdict(1), "doubtful: above-limit, judged-differently");
 }
 
 TEST_F(RunControllerTest, ASequenceWithADoubtfulChildIsIncomplete) {
-  const auto sequence = Element(400, 1);
-  std::int32_t id = 2;
-  const auto children = orvik::As<orvik::ITestContainer>(sequence)->NewEnum();
-  while (const auto child = children->Next()) child->SetID(id++);
-  AnswerWith("0.1,1,Ohm");
-  Run({sequence});
-  const auto summaries = bench::Summarise({sequence}, *bench_.Host().Elements(), standards_);
-  EXPECT_EQ(summaries.at(0).status, 1);
-  EXPECT_EQ(bench::OutcomeOf(summaries), bench::Outcome::kIncomplete);
+  Add(400);
+  Limit(2, "", "300");
+  Limit(3, "", "300");
+  ReadEverywhere("0.1,1,Ohm");
+  Run();
+  EXPECT_EQ(Judged(1).status, 1);
+  EXPECT_EQ(Verdict(1), "doubtful: child");
+  EXPECT_EQ(Outcome(), bench::judge::Outcome::kIncomplete);
 }
 
-TEST_F(RunControllerTest, TheDocumentIsSavedAfterEachElementOfASequence) {
-  const auto sequence = Element(400, 1);
-  int saved = 0;
-  save_ = [&] { ++saved; };
-  Run({sequence});
-  EXPECT_EQ(saved, 4);  // two children, the sequence, and the end of the session
+TEST_F(RunControllerTest, SavesAtTheBeginningAfterEachElementAndAtTheEnd) {
+  Add(400);
+  Texts saved;
+  parts_.save = [&] {
+    const auto steps = StepsOf(Runs().back());
+    saved.push_back(steps.back() + (Runs().back().end == RunRecord::End::kNone ? "" : ", ended"));
+  };
+  Run();
+  EXPECT_EQ(saved, (Texts{"takes 1 2 3", "2 status 1 by tester", "3 status 1 by tester",
+                          "1 status 1 by tester",  // finished
+                          "1 status 1 by tester",  // its session is closed
+                          "1 status 1 by tester, ended"}));
+}
+
+TEST_F(RunControllerTest, MeasuresNothingWhenTheBeginningCannotBeSaved) {
+  AddLimited(410);
+  document_->Save();
+  FailSaves({1});
+  EXPECT_EQ(Run(), End::kNotSaved);
+  EXPECT_EQ(parts_.runner.Reason(), "the disk is full") << "though the end could be saved";
+  EXPECT_TRUE(bench_.Wire().All().empty());
+  EXPECT_FALSE(document_->Find(1)->Result());
+  EXPECT_EQ(bench_.Application().Now().count(), 0) << "no guide was opened";
 }
 
 TEST_F(RunControllerTest, ADocumentThatCannotBeSavedEndsTheRun) {
-  save_ = [] { throw orvik::HostError(orvik::HostError::kPathError, "test", "the disk is full"); };
-  const auto first = Element(410, 1);
-  const auto second = Element(420, 2);
-  bench::AutoOperator person(bench_.Only().SharedApplication(), stop_);
-  DocumentRunner runner(controller_, link_, stop_);
-  EXPECT_EQ(runner.Run({first, second}), DocumentRunner::End::kNotSaved);
-  EXPECT_EQ(runner.Reason(), "the disk is full");
-  EXPECT_FALSE(second->Result());
+  AddLimited(410);
+  AddLimited(420);
+  FailSaves({2, 3, 4, 5, 6});
+  EXPECT_EQ(Run(), End::kNotSaved);
+  EXPECT_EQ(parts_.runner.Reason(), "the disk is full");
+  EXPECT_FALSE(document_->Find(2)->Result());
+  EXPECT_EQ(StepsOf(OnDisk()->Runs().All().back()), Texts{"takes 1 2"});
+  EXPECT_EQ(VerdictIn(*OnDisk(), 1), "not tested: not-finished");
+}
+
+// Each save writes the whole document: one that succeeds makes up for those that failed.
+TEST_F(RunControllerTest, GoesOnWhenALaterSaveSucceeds) {
+  Add(400);
+  Limit(2, "", "300");
+  Limit(3, "", "300");
+  FailSaves({2});  // the first child has finished
+  EXPECT_EQ(Run(), End::kFinished);
+  EXPECT_EQ(parts_.controller->SaveFailure(), "");
+  for (const std::int32_t id : {1, 2, 3}) EXPECT_EQ(VerdictIn(*OnDisk(), id), "passed") << id;
+}
+
+TEST_F(RunControllerTest, StartsNothingWhileTheDocumentCannotBeSaved) {
+  Add(400);
+  FailSaves({2, 3, 4, 5, 6, 7, 8, 9});  // from the first child on
+  EXPECT_EQ(Run(), End::kNotSaved);
+  EXPECT_EQ(bench_.Wire().Sent(), (Texts{"IREM", "STST,410,0", "GRES,410,0", "STST,210,0", "EREM"}));
+}
+
+// The element has no current result once it is to be measured again, and that is on disk before.
+TEST_F(RunControllerTest, MeasuresNothingAgainThatIsNotOnRecord) {
+  AddLimited(410);
+  FailSaves({4, 5});  // beginning, finished, left; each press of play
+  RunByHand({{kPlay, kPrevious}, {kPlay, kPlay, kNext}});
+  EXPECT_EQ(bench_.Wire().Sent().size(), 5U) << "the first session alone";
+  EXPECT_EQ(StepsOf(Runs().back()), (Texts{"takes 1", "1 status 1 by tester", "takes 1"}));
+  EXPECT_EQ(Verdict(1), "not tested: not-finished");
 }
 
 TEST_F(RunControllerTest, AResultThatChangesWhileTheSessionIsClosedDoesNotCount) {
+  AddLimited(410);
   // The tester's last word of the session makes the test "not applicable", passed or failed as it was.
-  bench_.Line().AnswerBy([this](const std::string& command) {
-    if (command == "IREM") return bench_.Line().Reply("irem,KELD(IN),1,1");
-    if (command == "STST,210,0") return bench_.Line().Reply("ERRM,6002");
-    if (command == "EREM") return bench_.Line().Reply("erem");
-    if (command.starts_with("STST")) return bench_.Line().Reply("stst" + command.substr(4));
-    bench_.Line().Reply("gres" + command.substr(4) + ",0.1,0,Ohm");
-  });
-  const auto element = Element(410, 1);
-  Run({element});
-  EXPECT_NE(Summary(element).Verdict(), "passed");
-  EXPECT_NE(Summary(element).Verdict(), "not applicable");
+  Answer("STST,210,0", "ERRM,6002");
+  Run();
+  EXPECT_EQ(Verdict(1), "not tested: other-status");
+  EXPECT_EQ(TestOf(OnDisk()->Runs().All().back(), 1).doubts,
+            (std::vector<bench::Reason>{{"changed-after-finish", {"1", "3"}}}));
+  EXPECT_EQ(bench::judge::ReasonText({"changed-after-finish", {"1", "3"}}),
+            "the result was \"passed\" when the test had finished and was changed to \"not applicable\" "
+            "afterwards");
 }
 
 TEST_F(RunControllerTest, ATestThatIsLackingOnlyWhenItsResultIsAskedForDoesNotCount) {
-  bench_.Line().AnswerBy([this](const std::string& command) {
-    if (command == "IREM") return bench_.Line().Reply("irem,KELD(IN),1,1");
-    if (command.starts_with("GRES")) return bench_.Line().Reply("ERRM,+6002.0");
-    if (command.starts_with("STST")) return bench_.Line().Reply("stst" + command.substr(4));
-    bench_.Line().Reply("erem");
-  });
-  const auto element = Element(410, 1);
-  Run({element});
-  EXPECT_EQ(Summary(element).status, 3);
-  EXPECT_EQ(Summary(element).Verdict(), "doubtful");
+  Add(410);
+  Answer("GRES,410,0", "ERRM,+6002.0");
+  Run();
+  EXPECT_EQ(Judged(1).status, 3);
+  EXPECT_EQ(Verdict(1), "doubtful: refused-elsewhere");
 }
 
 TEST_F(RunControllerTest, ASequenceDoesNotCountWhenATestOfItDoesNot) {
-  for (const auto* reply : {"ERRM,77", "gres,410,0,0.1,1,Ohm"}) {
-    const auto sequence = Element(400, 1);
-    const auto children = orvik::As<orvik::ITestContainer>(sequence);
-    for (std::int32_t i = 1; i <= children->Count(); ++i) children->item(i)->SetID(1 + i);
-    ASSERT_EQ(children->Count(), 2);
-    bench_.Line().AnswerBy([this, reply](const std::string& command) {
-      if (command == "IREM") return bench_.Line().Reply("irem,KELD(IN),1,1");
-      if (command == "GRES,410,0") return bench_.Line().Reply(reply);
-      if (command == "EREM") return bench_.Line().Reply("erem");
-      if (command.starts_with("STST")) return bench_.Line().Reply("stst" + command.substr(4));
-      bench_.Line().Reply("gres" + command.substr(4) + ",0.1,0,Ohm");
-    });
-    Run({sequence});
-    EXPECT_EQ(Summary(children->item(2)).Verdict(), "passed");
-    EXPECT_NE(Summary(children->item(1)).Verdict(), "passed") << reply;
-    EXPECT_EQ(Summary(sequence).status, 1) << "one test that passed makes a sequence pass";
-    EXPECT_EQ(Summary(sequence).Verdict(), "doubtful") << reply;
+  struct Row {
+    std::string child, reply, verdict, ofSequence;
+  };
+  const Row rows[] = {
+      {"410", "ERRM,77", "not tested: no-result", "not tested: child"},
+      {"410", "gres,410,0,0.1,1,Ohm", "doubtful: overload", "doubtful: child"},
+      {"420", "ERRM,77", "not tested: no-result", "not tested: child"},
+      {"420", "gres,420,0,0.1,1,Ohm", "doubtful: overload", "doubtful: child"},
+  };
+  Add(400);
+  Limit(2, "", "300");
+  Limit(3, "", "300");
+  for (const auto& [child, reply, verdict, ofSequence] : rows) {
+    SCOPED_TRACE(child + " " + reply);
+    replies_->Clear();
+    ReadEverywhere("0.1,0,Ohm");
+    Answer("GRES," + child + ",0", reply);
+    Run();
+    EXPECT_EQ(Verdict(child == "410" ? 2 : 3), verdict);
+    EXPECT_EQ(Verdict(child == "410" ? 3 : 2), "passed");
+    EXPECT_EQ(Judged(1).status, 1) << "one test that passed makes a sequence pass";
+    EXPECT_EQ(Verdict(1), ofSequence);
   }
 }
 
 TEST_F(RunControllerTest, RefusesNavigationThatIsNotThere) {
-  orvik::IRunController& controller = *controller_;
+  orvik::IRunController& controller = *parts_.controller;
   EXPECT_THROW(controller.NavigationRequest(5), orvik::HostError);
   EXPECT_THROW(controller.NavigationRequest(-1), orvik::HostError);
   EXPECT_THROW(controller.StartQuery(nullptr), orvik::HostError);
   EXPECT_THROW(controller.FinishedNotice(nullptr), orvik::HostError);
 }
 
-// Presses these buttons, one for each guide that opens.
-class Presser {
- public:
-  Presser(support::VirtualBench& bench, std::vector<std::int32_t> buttons) : buttons_(std::move(buttons)) {
-    shown_ = bench.Application().FormShown().Subscribe(
-        [this, &bench](const std::shared_ptr<orvik::platform::IForm>& form) {
-          if (form->Name() != bench::guide::kGuideForm || place_ >= buttons_.size()) return;
-          bench.Application().Post([form, button = buttons_[place_++]] {
-            if (button == bench::guide::kNext) bench::GuideToolbar(*form)->Click(bench::guide::kPlay);
-            bench::GuideToolbar(*form)->Click(button);
-          });
-        });
-  }
-  std::size_t Guides() const { return place_; }
-
- private:
-  std::vector<std::int32_t> buttons_;
-  std::size_t place_ = 0;
-  orvik::platform::Subscription shown_;
-};
-
 TEST_F(RunControllerTest, PreviousGoesBackAndStaysAtTheFirst) {
-  using namespace bench::guide;
-  const Presser person(bench_, {kPrevious, kNext, kPrevious, kNext, kNext});
+  Add(410);
+  Add(420);
   std::vector<std::size_t> places;
-  DocumentRunner runner(controller_, link_, stop_);
-  const auto reached = runner.Reached().Subscribe(
+  const auto reached = parts_.runner.Reached().Subscribe(
       [&](std::size_t place, std::size_t, const auto&) { places.push_back(place); });
-  EXPECT_EQ(runner.Run({Element(410, 1), Element(420, 2)}), DocumentRunner::End::kFinished);
+  EXPECT_EQ(RunByHand({{kPrevious}, {kPlay, kNext}, {kPrevious}, {kPlay, kNext}, {kPlay, kNext}}),
+            End::kFinished);
   EXPECT_EQ(places, (std::vector<std::size_t>{1, 1, 2, 1, 2}));
 }
 
 TEST_F(RunControllerTest, SkippedIsNotTestedAndNotApplicableIsDone) {
-  using namespace bench::guide;
-  const Presser person(bench_, {kSkip, kNotApplicable});
-  const auto skipped = Element(410, 1);
-  const auto notApplicable = Element(420, 2);
-  EXPECT_EQ(DocumentRunner(controller_, link_, stop_).Run({skipped, notApplicable}),
-            DocumentRunner::End::kFinished);
-  EXPECT_EQ(Summary(skipped).Verdict(), "not tested");
-  EXPECT_EQ(Summary(notApplicable).Verdict(), "not applicable");
+  AddLimited(410);
+  AddLimited(420);
+  EXPECT_EQ(RunByHand({{kSkip}, {kNotApplicable}}), End::kFinished);
+  EXPECT_EQ(Verdict(1), "not tested: skipped");
+  EXPECT_EQ(Verdict(2), "not applicable: set-aside-by-operator");
   EXPECT_TRUE(bench_.Wire().Sent().empty());
 }
 
+// What the tester said of a test that is then set aside is no longer about its result.
+TEST_F(RunControllerTest, SettingAsideForgetsTheDoubtsOfTheMeasurement) {
+  AddLimited(410);
+  ReadEverywhere("0.1,1,Ohm");
+  RunByHand({{kPlay, kNotApplicable}});
+  EXPECT_EQ(StepsOf(Runs().back()), (Texts{"takes 1", "1 status 1 by tester", "1 status 3 by operator"}));
+  EXPECT_TRUE(TestOf(Runs().back(), 1).doubts.empty());
+  EXPECT_EQ(Verdict(1), "not applicable: set-aside-by-operator");
+}
+
+// Another test's reading says nothing of one that the operator sets aside.
+TEST_F(RunControllerTest, SettingAsideTakesNothingFromTheTestBefore) {
+  AddLimited(410);
+  AddLimited(420);
+  bench::StoreLeads(*bench_.Host().Registry(), "SIM-0001", 290, "2026-11-01T08:00:00+01:00");
+  ReadEverywhere("0.1,0,Ohm");  // less than the leads
+  RunByHand({{kPlay, kNext}, {kNotApplicable}});
+  EXPECT_EQ(Verdict(1), "doubtful: below-leads");
+  const auto& aside = TestOf(Runs().back(), 2);
+  EXPECT_TRUE(aside.doubts.empty());
+  EXPECT_TRUE(aside.said.empty());
+  EXPECT_EQ(aside.tester, 0);
+  EXPECT_EQ(Verdict(2), "not applicable: set-aside-by-operator");
+}
+
 TEST_F(RunControllerTest, AMuteTesterEndsTheRunAfterItsBoundedWaits) {
+  AddLimited(410);
+  AddLimited(420);
   bench_.Line().AnswerBy([](const std::string&) {});
-  EXPECT_EQ(Run({Element(410, 1), Element(420, 2)}), DocumentRunner::End::kTesterLost);
-  EXPECT_EQ(bench_.Wire().Sent(), (std::vector<std::string>{"IREM", "IREM", "IREM"}));
+  EXPECT_EQ(Run(), End::kTesterLost);
+  EXPECT_EQ(bench_.Wire().Sent(), (Texts{"IREM", "IREM", "IREM"}));
   EXPECT_EQ(bench_.Application().Now(), std::chrono::milliseconds(3 * (3500 + 2000)));
+  EXPECT_EQ(Runs().back().end, RunRecord::End::kLost);
 }
 
 }  // namespace
+}  // namespace run

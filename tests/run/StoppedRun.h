@@ -10,17 +10,12 @@
 #include <string>
 #include <vector>
 
-#include "OrvikTypeLib/As.h"
-#include "OrvikTypeLib/IStandardColl.h"
-#include "OrvikTypeLib/ITestContainer.h"
 #include "host/app/run/ScreenOperator.h"
-#include "host/instruments/InstrumentColl.h"
-#include "host/run/AutoOperator.h"
-#include "host/run/DocumentRunner.h"
+#include "host/elements/ElementFactory.h"
 #include "host/run/GuideToolbar.h"
-#include "host/run/RunController.h"
 #include "host/run/StopSignals.h"
 #include "tests/model/GuideOperator.h"
+#include "tests/support/RunParts.h"
 #include "tests/support/VirtualBench.h"
 
 namespace support {
@@ -80,18 +75,14 @@ class StoppedRun {
   };
 
   explicit StoppedRun(Settings settings) : settings_(settings) {
+    bench_.Host().Elements()->AddPlugIn(bench_.PlugIn());
     bench_.Application().SetStallHandler([this] {
       outcome_.stalled = true;
       throw std::logic_error("the run waits for ever");
     });
     if (settings.muteFrom > 0) bench_.Tester().UseFaults(std::make_shared<MuteFrom>(settings.muteFrom));
-    std::int32_t id = 1;
-    for (const std::int32_t testId : {410, 400}) {
-      elements_.push_back(bench_.CreateTest(testId));
-      elements_.back()->SetID(id++);
-    }
-    const auto children = orvik::As<orvik::ITestContainer>(elements_.back());
-    for (std::int32_t i = 1; i <= children->Count(); ++i) children->item(i)->SetID(id++);
+    for (const std::int32_t testId : {410, 400}) document_->AddTest(testId);
+    parts_.save = [] {};
   }
 
   /// Nobody ends it.
@@ -113,21 +104,21 @@ class StoppedRun {
       outcome_.pumps.push_back(bench_.Application().Now());
       if (endAtPump_ && outcome_.pumps.size() == *endAtPump_ + 1) End();
     });
-    const bench::StopSignals signals(bench_.Application(), [this](int) { stop_.Ask(); });
+    const bench::StopSignals signals(bench_.Application(), [this](int) { parts_.stop.Ask(); });
     std::unique_ptr<GuideOperator> person;
     std::unique_ptr<bench::IOperator> program;
     if (settings_.ending == Ending::kSignal) {
-      program = std::make_unique<bench::AutoOperator>(bench_.Only().SharedApplication(), stop_);
+      program = std::make_unique<bench::AutoOperator>(bench_.Only().SharedApplication(), parts_.stop);
     } else {
       person = std::make_unique<GuideOperator>(bench_.Application());
       person->thinks = settings_.thinks;
       person->onAnswer = [this](const std::string& form) {
         if (form == bench::guide::kYesNoForm) NoteMoment();
       };
-      program = std::make_unique<bench::ScreenOperator>(bench_.Only().SharedApplication(), stop_);
+      program = std::make_unique<bench::ScreenOperator>(bench_.Only().SharedApplication(), parts_.stop);
     }
     person_ = person.get();
-    bench::DocumentRunner(controller_, link_, stop_).Run(elements_);
+    parts_.Run();
     outcome_.ended = bench_.Application().Now();
     outcome_.wire = bench_.Wire().All();
     outcome_.leftPort = bench_.Line().Line()->Connected();
@@ -169,14 +160,9 @@ class StoppedRun {
 
   const Settings settings_;
   VirtualBench bench_;
-  std::vector<std::shared_ptr<orvik::ITestElement>> elements_;
-  bench::StopRequest stop_;
-  bench::DoubtTracker doubts_{*bench_.Ports().TheWire()};
-  bench::LinkWatch link_{bench_.Ports()};
-  std::shared_ptr<bench::RunController> controller_ =
-      std::make_shared<bench::RunController>(bench::RunController::Parts{
-          orvik::As<orvik::IStandardColl>(bench_.Host().CreateObject(orvik::HostClasses::kStandardColl)),
-          std::make_shared<bench::InstrumentColl>(), *bench_.Host().Elements(), doubts_, [] {}});
+  const std::shared_ptr<bench::Document> document_ =
+      bench::Document::Create(bench_.Only().SharedHost(), bench_.Only().Folder() / "run.orvik");
+  RunParts parts_{bench_.Ports(), *document_};
   GuideOperator* person_ = nullptr;
   std::optional<std::size_t> endAtPump_;
   Outcome outcome_;

@@ -1,17 +1,16 @@
 #include <gtest/gtest.h>
 
-#include "OrvikTypeLib/IInstrumentColl.h"
 #include "host/elements/ElementFactory.h"
-#include "host/instruments/InstrumentColl.h"
-#include "host/run/AutoOperator.h"
-#include "host/run/DocumentRunner.h"
-#include "host/run/ElementSummary.h"
+#include "host/judge/CaseOf.h"
 #include "tester/FaultScript.h"
+#include "tests/support/RunParts.h"
 #include "tests/support/VirtualBench.h"
 
 namespace {
 
-using bench::DocumentRunner;
+using bench::judge::JudgedElement;
+using bench::judge::Verdict;
+using End = bench::DocumentRunner::End;
 
 struct Fault {
   std::string command;
@@ -23,44 +22,35 @@ std::ostream& operator<<(std::ostream& out, const Fault& fault) {
   return out << "at " << fault.command << " " << fault.nth << " " << fault.kind;
 }
 
-/// One run of two elements, with a fault on the wire.
+/// One run of two elements, each with a limit of 300 mOhm, with a fault on the wire.
 class WireFaultsTest : public testing::TestWithParam<Fault> {
  protected:
   WireFaultsTest() {
     bench_.Host().Elements()->AddPlugIn(bench_.PlugIn());
     for (const int id : {1, 2}) {
-      elements_.push_back(bench_.CreateTest(410));
-      elements_.back()->SetID(id);
+      document_->AddTest(410);
+      support::SetLimit(*document_, bench_.Host(), id, "", "300");
     }
+    parts_.save = [this] { ++saved_; };
   }
 
-  DocumentRunner::End Run() {
-    bench::AutoOperator person(bench_.Only().SharedApplication(), stop_);
-    return DocumentRunner(controller_, link_, stop_).Run(elements_);
-  }
+  End Run() { return parts_.RunByProgram(bench_.Only().SharedApplication()); }
 
-  bench::ElementSummary Summary(std::size_t index) {
-    return bench::Summarise({elements_[index]}, *bench_.Host().Elements(), standards_).front();
+  std::vector<JudgedElement> Judged() {
+    return bench::judge::Judge(*document_, *bench_.Host().Elements()).elements;
   }
 
   support::VirtualBench bench_;
-  std::vector<std::shared_ptr<orvik::ITestElement>> elements_;
-  bench::StopRequest stop_;
-  bench::DoubtTracker doubts_{*bench_.Ports().TheWire()};
-  bench::LinkWatch link_{bench_.Ports()};
+  std::shared_ptr<bench::Document> document_ =
+      bench::Document::Create(bench_.Only().SharedHost(), bench_.Only().Folder() / "run.orvik");
+  support::RunParts parts_{bench_.Ports(), *document_};
   int saved_ = 0;
-  std::shared_ptr<orvik::IStandardColl> standards_ =
-      orvik::As<orvik::IStandardColl>(bench_.Host().CreateObject(orvik::HostClasses::kStandardColl));
-  std::shared_ptr<bench::RunController> controller_ = std::make_shared<bench::RunController>(
-      bench::RunController::Parts{standards_, std::make_shared<bench::InstrumentColl>(),
-                                  *bench_.Host().Elements(), doubts_, [this] { ++saved_; }});
 };
 
 TEST_F(WireFaultsTest, WithoutAFaultBothPass) {
-  EXPECT_EQ(Run(), DocumentRunner::End::kFinished);
-  EXPECT_EQ(Summary(0).Verdict(), "passed");
-  EXPECT_EQ(Summary(1).Verdict(), "passed");
-  EXPECT_EQ(saved_, 4);
+  EXPECT_EQ(Run(), End::kFinished);
+  for (const auto& element : Judged()) EXPECT_EQ(element.verdict, Verdict::kPassed);
+  EXPECT_EQ(saved_, 6) << "the beginning, each element as it finished and when it was left, the end";
 }
 
 TEST_P(WireFaultsTest, NeverPassesWithAnythingButTheTrueReading) {
@@ -68,17 +58,24 @@ TEST_P(WireFaultsTest, NeverPassesWithAnythingButTheTrueReading) {
   const auto rule = "at " + fault.command + " " + std::to_string(fault.nth) + " " + fault.kind + "\n";
   bench_.Tester().UseFaults(std::make_shared<sim::FaultScript>(rule, "fault"));
   Run();
-  for (const std::size_t index : {0U, 1U}) {
-    const auto summary = Summary(index);
-    if (summary.Verdict() != "passed") continue;
-    ASSERT_TRUE(summary.measurement && summary.measurement->value);
-    EXPECT_DOUBLE_EQ(*summary.measurement->value, 123.0);
-    EXPECT_EQ(summary.measurement->unit, "mOhm");
+  const auto elements = Judged();
+  ASSERT_EQ(elements.size(), 2U);
+  for (const auto& element : elements) {
+    EXPECT_NE(element.verdict, Verdict::kFailed);
+    if (element.verdict != Verdict::kPassed) {
+      EXPECT_FALSE(element.reasons.empty());
+      continue;
+    }
+    ASSERT_TRUE(element.measurement && element.measurement->value);
+    EXPECT_DOUBLE_EQ(*element.measurement->value, 123.0);
+    EXPECT_EQ(element.measurement->unit, "mOhm");
+    ASSERT_TRUE(element.value);
+    EXPECT_DOUBLE_EQ(*element.value, 123.0);
   }
   // A reply to GRES that is anything but the true one, whole and in time, spoils its element.
   const bool harmless = fault.kind == "drop" || fault.kind == "delay 100";
   if (fault.command == "GRES" && !harmless) {
-    EXPECT_NE(Summary(0).Verdict(), "passed");
+    EXPECT_NE(elements[0].verdict, Verdict::kPassed);
   }
   EXPECT_FALSE(bench_.Line().Line()->Connected()) << "a port was left open";
 }

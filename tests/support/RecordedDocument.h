@@ -7,20 +7,14 @@
 #include <utility>
 #include <vector>
 
-#include "OrvikTypeLib/ILimit.h"
-#include "OrvikTypeLib/ILimitData.h"
-#include "OrvikTypeLib/IStandard.h"
-#include "OrvikTypeLib/ITestContainer.h"
-#include "OrvikTypeLib/ITestEnumerator.h"
 #include "host/document/Document.h"
 #include "host/elements/ElementFactory.h"
-#include "host/instruments/InstrumentColl.h"
 #include "host/judge/CaseOf.h"
 #include "host/run/AutoOperator.h"
-#include "host/run/DocumentRunner.h"
 #include "host/run/ElementState.h"
 #include "host/run/GuideToolbar.h"
 #include "host/services/LeadCalibrations.h"
+#include "tests/support/RunParts.h"
 #include "tests/support/VirtualBench.h"
 
 namespace support {
@@ -128,14 +122,7 @@ class RecordedDocument {
   /// Gives the element a limit of the standard, in place of the one that it has, and selects the standard.
   void Limit(std::int32_t element, const std::string& low, const std::string& high,
              const std::string& standard = "IEC 62353", const std::string& description = {}) {
-    const auto limits = Find(element)->Limits();
-    auto own = limits->Standards() ? limits->Standards()->Find(standard, description) : nullptr;
-    if (!own) own = limits->CreateStandard(standard, description);
-    own->Limit(1)->SetBounds(low, high);
-    if (document_->Standards()->Find(standard, description)) return;
-    const auto selected = orvik::As<orvik::IStandard>(Host().CreateObject(orvik::HostClasses::kStandard));
-    selected->Initialize(standard, description, 1);
-    document_->Standards()->Add(selected);
+    SetLimit(*document_, Host(), element, low, high, standard, description);
   }
   void RecordOnly(std::int32_t element) {
     bench::StateOf(Find(element), *Host().Elements())->SetRecordOnly(true);
@@ -159,22 +146,18 @@ class RecordedDocument {
   }
 
   bench::DocumentRunner::End Run(const RunOf& run = {}) {
+    RunParts parts(bench_.Ports(), *document_);
+    parts.heading = HeadingOf(run);
+    parts.clock = [&] { return run.at; };
+    parts.leadsMeasured = [this](const std::string& serial, std::int32_t leads) {
+      return bench::LeadsMeasured(*Host().Registry(), serial, leads).value_or("");
+    };
     int saves = 0;
-    bench::StopRequest stop;
-    bench::DoubtTracker doubts(*bench_.Ports().TheWire());
-    bench::LinkWatch link(bench_.Ports());
-    bench::RunRecorder recorder(
-        {document_->Runs(), document_->Instruments(), document_->Standards(), doubts, [&] { return run.at; },
-         [this](const std::string& serial, std::int32_t leads) {
-           return bench::LeadsMeasured(*Host().Registry(), serial, leads).value_or("");
-         }});
-    const auto controller = std::make_shared<bench::RunController>(
-        bench::RunController::Parts{document_->Standards(), document_->Instruments(), doubts, recorder, [&] {
-                                      if (run.killedAfterSaves == 0 || saves++ < run.killedAfterSaves)
-                                        document_->Save();
-                                    }});
-    const auto person = OperatorOf(run, stop);
-    const auto end = bench::DocumentRunner(controller, link, stop).Run(HeadingOf(run), ElementsOf(run));
+    parts.save = [&] {
+      if (run.killedAfterSaves == 0 || saves++ < run.killedAfterSaves) document_->Save();
+    };
+    const auto person = OperatorOf(run, parts.stop);
+    const auto end = parts.Run(ElementsOf(run));
     if (run.killedAfterSaves > 0) Reopen();
     return end;
   }
@@ -204,11 +187,9 @@ class RecordedDocument {
   }
 
   std::vector<Element> ElementsOf(const RunOf& run) const {
+    if (run.elements.empty()) return TopOf(*document_);
     std::vector<Element> elements;
     for (const auto id : run.elements) elements.push_back(Find(id));
-    if (!run.elements.empty()) return elements;
-    const auto all = document_->Elements()->NewEnum();
-    while (auto element = all->Next()) elements.push_back(std::move(element));
     return elements;
   }
 
