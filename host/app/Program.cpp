@@ -26,11 +26,13 @@
 #include "host/app/edit/RemoveCommand.h"
 #include "host/app/help/CompletionCommand.h"
 #include "host/app/help/EmptyNames.h"
+#include "host/app/help/HelpCommand.h"
 #include "host/app/help/HelpFormat.h"
 #include "host/app/help/ManualCommand.h"
 #include "host/app/help/ParseErrorText.h"
 #include "host/app/help/PlainWords.h"
 #include "host/app/help/ProgramLanguage.h"
+#include "host/app/help/UnknownWords.h"
 #include "host/app/limits/LimitCommand.h"
 #include "host/app/report/ReportCommand.h"
 #include "host/app/run/RunCommand.h"
@@ -73,7 +75,7 @@ void DeclareGlobal(CLI::App& program, GlobalOptions& options) {
                          Tr("Wait so long in all for a document, settings, an archive or a port that another "
                             "program uses; otherwise 0")))
       ->type_name("SECONDS");
-  program.set_version_flag("--version", "orvik-bench " ORVIK_VERSION, Tr("Show the version"));
+  program.set_version_flag("-V,--version", "orvik-bench " ORVIK_VERSION, Tr("Show the version"));
   program.require_subcommand(0, 1);  // a missing one is told below: an unknown one is then told as such
 }
 
@@ -138,6 +140,17 @@ ExitStatus StatusOf(const orvik::HostError& error) {
   }
 }
 
+/// A word that is not known explains an error better than what is missing for it.
+std::string Refusal(const CLI::App& program, const CLI::ParseError& error) {
+  const auto code = error.get_exit_code();
+  const bool unknown = code == static_cast<int>(CLI::ExitCodes::ExtrasError) ||
+                       code == static_cast<int>(CLI::ExitCodes::RequiredError);
+  auto reason = unknown ? UnknownWords(program) : std::string();
+  if (reason.empty()) reason = ParseErrorText(error);
+  const auto help = Tr("\"%%1 --help\" shows what can be given", {CommandTyped(program)});
+  return reason.back() == '?' ? reason + " " + help : Tr("%%1; %%2", {reason, help});
+}
+
 ExitStatus ParseAndRun(int argumentCount, const char* const* arguments) {
   // Before anything is told: the help is in that language too.
   const auto language = ChooseProgramLanguage(argumentCount, arguments);
@@ -149,7 +162,8 @@ ExitStatus ParseAndRun(int argumentCount, const char* const* arguments) {
   const auto entries =
       Declare<TestsCommand, NewCommand, AddCommand, RemoveCommand, MoveCommand, EditCommand, LimitCommand,
               StandardsCommand, CheckCommand, ConfigCommand, RunCommand, GuiCommand, ShowCommand,
-              ReportCommand, CalibrateCommand, ArchiveCommand, CompletionCommand, ManualCommand>(program);
+              ReportCommand, CalibrateCommand, ArchiveCommand, HelpCommand, CompletionCommand, ManualCommand>(
+          program);
   DeclareOwn(program);
   try {
     program.parse(argumentCount, arguments);
@@ -157,8 +171,7 @@ ExitStatus ParseAndRun(int argumentCount, const char* const* arguments) {
     program.exit(asked);
     return Written(ExitStatus::kPassed);
   } catch (const CLI::ParseError& error) {
-    return Tell(ExitStatus::kBadInput,
-                Tr("%%1; \"orvik-bench --help\" shows what can be given", {ParseErrorText(error)}));
+    return Tell(ExitStatus::kBadInput, Refusal(program, error));
   }
   RefuseEmptyNames(program);
   RefuseControlCharacters(program);

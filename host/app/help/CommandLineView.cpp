@@ -1,5 +1,7 @@
 #include "host/app/help/CommandLineView.h"
 
+#include <algorithm>
+
 #include "host/services/Tr.h"
 
 namespace bench {
@@ -55,6 +57,31 @@ std::vector<std::string> InheritedOptions(const CLI::App& command) {
     lines.push_back(Tr("Further options, which \"%%1 --help\" explains: %%2", {path, names}));
   }
   return lines;
+}
+
+const CLI::App* CommandNamed(const CLI::App& program, const std::string& name) {
+  for (const auto* command : program.get_subcommands(std::function<bool(const CLI::App*)>())) {
+    if (command->get_name() == name) return command;
+  }
+  return nullptr;
+}
+
+std::vector<std::string> CommandNamesOf(const CLI::App& command) {
+  std::vector<std::string> names;
+  for (const auto* below : CommandsOf(command)) names.push_back(below->get_name());
+  return names;
+}
+
+std::vector<std::string> SpellingsAt(const CLI::App& command) {
+  std::vector<std::string> all;
+  for (const auto* at = &command; at; at = at->get_parent()) {
+    for (const auto* option : OptionsOf(*at)) {
+      for (const auto& spelling : SpellingsOf(*option)) {
+        if (std::find(all.begin(), all.end(), spelling) == all.end()) all.push_back(spelling);
+      }
+    }
+  }
+  return all;
 }
 
 bool TakesValue(const CLI::Option& option) { return option.get_items_expected_max() > 0; }

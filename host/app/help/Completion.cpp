@@ -1,6 +1,5 @@
 #include "host/app/help/Completion.h"
 
-#include <algorithm>
 #include <functional>
 
 #include "host/app/TextColumns.h"
@@ -25,12 +24,6 @@ std::string ListOf(const std::vector<std::string>& words) {
   return "$'" + list + "'";
 }
 
-std::vector<std::string> CommandNamesOf(const CLI::App& command) {
-  std::vector<std::string> names;
-  for (const auto* below : CommandsOf(command)) names.push_back(below->get_name());
-  return names;
-}
-
 /// Calls `take` with each command and its path: "run", "archive add".
 void Walk(const CLI::App& command, const std::string& path,
           const std::function<void(const CLI::App&, const std::string&)>& take) {
@@ -39,19 +32,6 @@ void Walk(const CLI::App& command, const std::string& path,
     take(*below, name);
     Walk(*below, name, take);
   }
-}
-
-/// The spellings of the command's options, and of those of the commands above it: they may follow its name.
-std::vector<std::string> SpellingsAt(const CLI::App& command) {
-  std::vector<std::string> all;
-  for (const auto* at = &command; at; at = at->get_parent()) {
-    for (const auto* option : OptionsOf(*at)) {
-      for (const auto& spelling : SpellingsOf(*option)) {
-        if (std::find(all.begin(), all.end(), spelling) == all.end()) all.push_back(spelling);
-      }
-    }
-  }
-  return all;
 }
 
 /// What "compgen" is asked for a value of the option.

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <CLI/CLI.hpp>
+#include <string>
+
+namespace bench {
+
+/// What the parser did not know of a command line, with what was probably meant; empty when it knew every
+/// word.
+/// @param program after it has parsed, also in vain
+std::string UnknownWords(const CLI::App& program);
+
+/// The command that was being parsed, as it is typed: "orvik-bench archive add".
+std::string CommandTyped(const CLI::App& program);
+
+}  // namespace bench
