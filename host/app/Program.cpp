@@ -25,6 +25,7 @@
 #include "host/app/edit/MoveCommand.h"
 #include "host/app/edit/RemoveCommand.h"
 #include "host/app/help/CompletionCommand.h"
+#include "host/app/help/ElementNumbersCommand.h"
 #include "host/app/help/EmptyNames.h"
 #include "host/app/help/HelpCommand.h"
 #include "host/app/help/HelpFormat.h"
@@ -159,11 +160,10 @@ ExitStatus ParseAndRun(int argumentCount, const char* const* arguments) {
   program.formatter(std::make_shared<HelpFormat>());
   GlobalOptions options;
   DeclareGlobal(program, options);
-  const auto entries =
-      Declare<TestsCommand, NewCommand, AddCommand, RemoveCommand, MoveCommand, EditCommand, LimitCommand,
-              StandardsCommand, CheckCommand, ConfigCommand, RunCommand, GuiCommand, ShowCommand,
-              ReportCommand, CalibrateCommand, ArchiveCommand, HelpCommand, CompletionCommand, ManualCommand>(
-          program);
+  const auto entries = Declare<TestsCommand, NewCommand, AddCommand, RemoveCommand, MoveCommand, EditCommand,
+                               LimitCommand, StandardsCommand, CheckCommand, ConfigCommand, RunCommand,
+                               GuiCommand, ShowCommand, ReportCommand, CalibrateCommand, ArchiveCommand,
+                               HelpCommand, CompletionCommand, ManualCommand, ElementNumbersCommand>(program);
   DeclareOwn(program);
   try {
     program.parse(argumentCount, arguments);

@@ -139,6 +139,38 @@ TEST_F(CompletionTest, OffersFilesAndFolders) {
   std::filesystem::create_directory(Path("pumps"));
   EXPECT_EQ(Offered({"orvik-bench", "show", Path("pump.")}), Path("pump.orvik") + "\n");
   EXPECT_EQ(Offered({"orvik-bench", "show", "--state", Path("pump")}), Path("pumps") + "\n");
+  EXPECT_EQ(Offered({"orvik-bench", "tests", "--catalogue", Path("pump.")}), Path("pump.orvik") + "\n");
+}
+
+TEST_F(CompletionTest, OffersDocumentsAndTheFoldersOnTheWay) {
+  for (const auto* name : {"pump.orvik", "pump.pdf", "pump.orvik.wire.log"}) Write(name, "");
+  std::filesystem::create_directory(Path("pumps"));
+  const auto both = Path("pump.orvik") + "\n" + Path("pumps") + "\n";
+  EXPECT_EQ(Offered({"orvik-bench", "show", Path("pu")}), both);
+  EXPECT_EQ(Offered({"orvik-bench", "archive", "add", Path("pu")}), both);
+  EXPECT_EQ(Offered({"orvik-bench", "new", Path("next.orvik"), "--from", Path("pu")}), both);
+}
+
+TEST_F(CompletionTest, OffersTheElementsOfTheDocumentOnTheLine) {
+  const auto file = Path("my pump.orvik");
+  ASSERT_EQ(Bench({"new", file, "--add", "400", "610"}).status, 0);
+  const std::string bench = ORVIK_BENCH_PATH;
+  EXPECT_EQ(Offered({bench, "run", file, "--element", ""}), "1\n2\n3\n4\n");
+  EXPECT_EQ(Offered({bench, "limit", file, "--element", "1", ""}), "1\n2\n3\n4\n");
+  EXPECT_EQ(Offered({bench, "move", file, "--element", "1", "--after", "4"}), "4\n");
+  EXPECT_EQ(Offered({bench, "run", "--element", ""}), "\n");
+  EXPECT_EQ(Offered({bench, "run", Path("none.orvik"), "--element", ""}), "\n");
+  EXPECT_EQ(Bench({"element-numbers", file}).out,
+            "1\tProtective earth resistance\n2\tProtective earth, with mains cord\n"
+            "3\tProtective earth, without mains cord\n4\tEarth leakage, NC\n");
+}
+
+TEST_F(CompletionTest, ListsElementsWithTheirNames) {
+  const auto file = NewDocument({"610"});
+  setenv("COMP_TYPE", "63", 1);
+  const auto listed = Offered({ORVIK_BENCH_PATH, "run", file, "--element", ""});
+  unsetenv("COMP_TYPE");
+  EXPECT_EQ(listed, "1  (Earth leakage, NC)\n");
 }
 
 TEST_F(CompletionTest, ANameWithBlanksIsOne) {
@@ -153,6 +185,8 @@ TEST_F(CompletionTest, AnOptionsValueMayFollowAnEqualsSign) {
 
 TEST_F(CompletionTest, OffersWhatAnArgumentMayBe) {
   EXPECT_EQ(Offered({"orvik-bench", "completion", ""}), "bash\nzsh\nfish\n");
+  EXPECT_EQ(Offered({"orvik-bench", "help", "arch"}), "archive\n");
+  EXPECT_EQ(Offered({"orvik-bench", "config", "a.orvik", "--leads", "a"}), "all\n");
   EXPECT_EQ(Offered({"orvik-bench", "archive", "list", "--outcome", "f"}), "failed\n");
   EXPECT_EQ(Offered({"orvik-bench", "--lang", "d"}), "de\n");
   EXPECT_EQ(Offered({"orvik-bench", "run", "--simulate", "bro"}), "broken-earth\n");
@@ -172,6 +206,8 @@ TEST_F(CompletionTest, EveryShellThatIsNamedHasAScript) {
   const auto fish = Bench({"completion", "fish"});
   EXPECT_EQ(fish.status, 0);
   EXPECT_NE(fish.out.find("-l operator -x -a 'auto ask'"), std::string::npos) << fish.out;
+  EXPECT_NE(fish.out.find("-l element -x -a '(__orvik_bench_elements)'"), std::string::npos) << fish.out;
+  EXPECT_NE(fish.out.find("__fish_complete_suffix .orvik"), std::string::npos) << fish.out;
   EXPECT_NE(fish.out.find("-l help -d"), std::string::npos) << "a flag takes no value: " << fish.out;
   const auto unknown = Bench({"completion", "tcsh"});
   EXPECT_EQ(unknown.status, 3);

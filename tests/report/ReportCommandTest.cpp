@@ -33,6 +33,35 @@ TEST_F(ReportCommandTest, AnotherEndingIsRefusedNamingTheThree) {
   }
 }
 
+TEST_F(ReportCommandTest, GoesToTheStandardOutputInEachFormat) {
+  const auto file = NewDocument({"410"});
+  for (const char* format : {"html", "pdf", "txt"}) {
+    const auto name = Path(std::string("a.") + format);
+    ASSERT_EQ(Bench({"report", file, "--to", name}).status, 0);
+    const auto written = Bench({"report", file, "--to", "-", "--format", format});
+    EXPECT_EQ(written.status, 0) << written.error;
+    EXPECT_EQ(written.error, "");
+    EXPECT_EQ(written.out, Contents(name)) << format;
+  }
+  EXPECT_EQ(Bench({"report", file, "--to", "-"}).out, Contents(Path("a.txt")));
+}
+
+TEST_F(ReportCommandTest, TheFormatMayBeAnotherThanTheEndings) {
+  const auto file = NewDocument({"410"});
+  ASSERT_EQ(Bench({"report", file, "--to", Path("a"), "--format", "HTML"}).status, 0);
+  EXPECT_EQ(Contents(Path("a")).substr(0, 9), "<!DOCTYPE");
+  const auto refused = Bench({"report", file, "--to", "-", "--format", "doc"});
+  EXPECT_EQ(refused.status, 3);
+  EXPECT_EQ(refused.out, "");
+  EXPECT_THAT(refused.error, HasSubstr("--format doc: unknown format (html, pdf, txt)"));
+}
+
+TEST_F(ReportCommandTest, AReportIsNotDoneWhenTheStandardOutputIsFull) {
+  const auto file = NewDocument({"410"});
+  const auto line = std::string(ORVIK_BENCH_PATH) + " report '" + file + "' --to - > /dev/full";
+  EXPECT_EQ(RunningProgram("/bin/sh", {"-c", line}).Wait().status, 2);
+}
+
 TEST_F(ReportCommandTest, APlaceThatCannotBeWrittenIsNamed) {
   const auto file = NewDocument({"410"});
   const auto refused = Bench({"report", file, "--to", Path("none/a.html")});

@@ -12,7 +12,8 @@ namespace {
 
 bool MustNotBeEmpty(const CLI::Option& option) {
   const bool mayStandAlone = option.get_items_expected_min() == 0;
-  return !mayStandAlone && (option.get_positional() || NamesFile(option) || NamesFolder(option));
+  return !mayStandAlone &&
+         (option.get_positional() || NamesDocument(option) || NamesFile(option) || NamesFolder(option));
 }
 
 }  // namespace

@@ -20,7 +20,6 @@ constexpr std::string_view kDocument = "DOCUMENT";
 constexpr std::string_view kFileOrAddress = "FILE|URL";
 constexpr std::array kFiles{std::string_view("FILE"),
                             kFileOrAddress,
-                            kDocument,
                             std::string_view("OUT"),
                             std::string_view("OUT.svg"),
                             std::string_view("LOG"),
@@ -57,9 +56,20 @@ std::vector<std::string> ShippedSets() {
 
 }  // namespace
 
-bool NamesFile(const CLI::Option& option) { return Among(kFiles, TypeOf(option)); }
+bool NamesDocument(const CLI::Option& option) {
+  const auto type = TypeOf(option);
+  return type == kDocument || (option.get_positional() && type == "FILE");
+}
+
+bool NamesFile(const CLI::Option& option) { return !NamesDocument(option) && Among(kFiles, TypeOf(option)); }
 
 bool NamesFolder(const CLI::Option& option) { return Among(kFolders, TypeOf(option)); }
+
+bool NamesElement(const CLI::Option& option) { return !option.get_positional() && TypeOf(option) == "ID"; }
+
+bool NamesCommand(const CLI::Option& option) {
+  return option.get_positional() && TypeOf(option) == "COMMAND";
+}
 
 std::vector<std::string> WordsFor(const CLI::Option& option) {
   const auto type = TypeOf(option);

@@ -9,8 +9,15 @@ namespace bench {
 /// What the value of an option or an argument may be, told by the name of its type: "FILE", "DIR",
 /// "passed|failed".
 
+/// A document of tests, FILE.orvik.
+bool NamesDocument(const CLI::Option& option);
+/// Another file.
 bool NamesFile(const CLI::Option& option);
 bool NamesFolder(const CLI::Option& option);
+/// An element of the document on the same command line.
+bool NamesElement(const CLI::Option& option);
+/// A command of the program.
+bool NamesCommand(const CLI::Option& option);
 /// The words that can be given; beside files, where those can be given too.
 std::vector<std::string> WordsFor(const CLI::Option& option);
 

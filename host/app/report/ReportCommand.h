@@ -3,6 +3,7 @@
 #include <string>
 
 #include "host/app/Command.h"
+#include "host/app/report/ReportFile.h"
 
 namespace bench {
 
@@ -13,8 +14,12 @@ class ReportCommand final : public Command {
   ExitStatus Run(const GlobalOptions& options) override;
 
  private:
+  ReportFormat Format() const;
+
   std::string file_;
   std::string to_;
+  std::string format_;
+  CLI::App* command_ = nullptr;
 };
 
 }  // namespace bench

@@ -1,5 +1,7 @@
 #include "host/app/report/ReportFile.h"
 
+#include <optional>
+
 #include "host/app/InputError.h"
 #include "host/app/ProgramFiles.h"
 #include "host/app/report/DocumentReport.h"
@@ -14,34 +16,57 @@ namespace bench {
 
 namespace {
 
-using Output = std::string (*)(const report::Report&);
+std::optional<ReportFormat> FormatNamed(const std::string& name) {
+  if (name == "html") return ReportFormat::kHtml;
+  if (name == "pdf") return ReportFormat::kPdf;
+  if (name == "txt") return ReportFormat::kText;
+  return {};
+}
 
-std::string PdfReport(const report::Report& report) { return WritePdf(report, files::PdfModule()); }
+}  // namespace
 
-/// The output that a file's ending stands for.
-Output OutputFor(const std::filesystem::path& file) {
+ReportFormat ReportFormatNamed(const std::string& name) {
+  if (const auto format = FormatNamed(LowerAscii(name))) return *format;
+  throw InputError(Tr("--format %%1: unknown format (html, pdf, txt)", {name}));
+}
+
+ReportFormat ReportFormatOf(const std::filesystem::path& file) {
   const auto ending = LowerAscii(file.extension().string());
-  if (ending == ".html") return HtmlReport;
-  if (ending == ".pdf") return PdfReport;
-  if (ending == ".txt") return TextReport;
+  if (const auto format = ending.empty() ? std::nullopt : FormatNamed(ending.substr(1))) return *format;
   throw InputError(
       Tr("--to %%1: reports are written as .html, .pdf or .txt; give a name that ends with one of them",
          {file.string()}));
 }
 
-}  // namespace
+std::string ReportText(const Document& document, Host& host, const std::string& language,
+                       ReportFormat format) {
+  const auto report = ReportOf(document, host, language);
+  switch (format) {
+    case ReportFormat::kHtml:
+      return HtmlReport(report);
+    case ReportFormat::kPdf:
+      return WritePdf(report, files::PdfModule());
+    case ReportFormat::kText:
+      break;
+  }
+  return TextReport(report);
+}
 
-void CheckReportFile(const std::filesystem::path& document, const std::filesystem::path& out) {
-  OutputFor(out);
+void RefuseDocumentAsReport(const std::filesystem::path& document, const std::filesystem::path& out) {
   std::error_code absent;  // what is not there is no other file either
   if (std::filesystem::equivalent(document, out, absent))
     throw InputError(
         Tr("--to %%1: this is the document itself; give the report another name", {out.string()}));
 }
 
+void CheckReportFile(const std::filesystem::path& document, const std::filesystem::path& out) {
+  ReportFormatOf(out);
+  RefuseDocumentAsReport(document, out);
+}
+
 void WriteReport(const Document& document, Host& host, const std::string& language,
                  const std::filesystem::path& out) {
-  ReplaceFile(out, OutputFor(out)(ReportOf(document, host, language)));
+  ReplaceFile(out, ReportText(document, host, language, ReportFormatOf(out)));
 }
 
 }  // namespace bench
