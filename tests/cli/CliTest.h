@@ -60,6 +60,11 @@ class CliTest : public testing::Test {
     EXPECT_EQ(set.status, 0) << set.error;
   }
 
+  /// Limits that every reading of a sound piece of equipment holds.
+  void SetWideLimits(const std::string& file, const Words& elements) const {
+    for (const auto& element : elements) SetLimit(file, element, "100000");
+  }
+
   nlohmann::json Show(const std::string& file) const {
     const auto shown = Bench({"show", file, "--json"});
     EXPECT_EQ(shown.status, 0) << shown.error;

@@ -67,6 +67,8 @@ TEST_F(JsonSchemaTest, DocumentBeforeAndAfterItsRun) {
   SetLimit(file, "4", "100");
   Keeps("document", Bench(Simulated(file, "sound-class-1", {"--json"})).out);
   Keeps("document", Bench({"show", file, "--json"}).out);
+  Keeps("runs", Bench({"show", file, "--runs", "--json"}).out);
+  Keeps("run", Bench({"show", file, "--run", "1", "--json"}).out);
 }
 
 TEST_F(JsonSchemaTest, EventsOfARunWithADoubt) {

@@ -10,7 +10,7 @@ class RunCommandTest : public CliTest {};
 
 TEST_F(RunCommandTest, ADocumentThatPassesEndsWithZero) {
   const auto file = NewDocument({"410", "400"});
-  SetLimit(file, "1", "300");
+  SetWideLimits(file, {"1", "3", "4"});
   const auto run = Bench(Simulated(file, "sound-class-1"));
   EXPECT_EQ(run.status, 0) << run.error;
   EXPECT_NE(run.out.find("[1/2] 410 Protective earth, with mains cord"), std::string::npos) << run.out;
@@ -40,20 +40,26 @@ TEST_F(RunCommandTest, AValueOnTheBoundPasses) {
 
 TEST_F(RunCommandTest, JsonTellsEverythingOfEachElement) {
   const auto file = NewDocument({"400"});
-  const auto run = Bench(Simulated(file, "sound-class-1", {"--json"}));
+  SetWideLimits(file, {"2", "3"});
+  const auto run = Bench(Simulated(file, "sound-class-1", {"--json", "--by", "M. Holm"}));
   ASSERT_EQ(run.status, 0) << run.error;
   const auto json = nlohmann::json::parse(run.out);
   const auto instrument = nlohmann::json::parse(
-      R"json({"type": "KELD(IN)", "serial": "SIM-0001", "firmware": "3.10", "calibration": 0})json");
+      R"json({"type": "KELD(IN)", "serial": "SIM-0001", "firmware": "3.10", "calibration": 0,
+                "calibrated": ""})json");
   EXPECT_EQ(json["instrument"], instrument);
   ASSERT_EQ(json["elements"].size(), 3u);
   EXPECT_EQ(json["elements"][0]["kind"], "sequence");
   EXPECT_EQ(json["elements"][0]["parent"], 0);
   auto test = json["elements"][1];
   EXPECT_TRUE(test["serviceValue"].is_string());
-  test.erase("serviceValue");
+  EXPECT_TRUE(test["at"].is_string());
+  for (const auto* varying : {"serviceValue", "at"}) test.erase(varying);
   const auto expected = nlohmann::json::parse(R"json({"id": 2, "parent": 1, "testId": 410, "kind": "test",
       "name": "Protective earth, with mains cord", "status": 1, "statusText": "passed", "mtiId": 1,
+      "verdict": "passed", "judged": true, "recordOnly": false, "reasons": [], "run": 1, "operator": "M. Holm",
+      "limits": [{"standard": "IEC 62353", "description": "", "unit": "mOhm", "low": null, "high": 100000.0,
+                  "selected": true, "value": 123.0, "verdict": "passed"}],
       "serviceCode": "P", "measurement": {"value": 123.0, "unit": "mOhm", "flags": "", "status": 1},
       "failedStandards": [], "doubts": []})json");
   EXPECT_EQ(test, expected);
@@ -61,6 +67,7 @@ TEST_F(RunCommandTest, JsonTellsEverythingOfEachElement) {
 
 TEST_F(RunCommandTest, EventsAreOneObjectALine) {
   const auto file = NewDocument({"410"});
+  SetWideLimits(file, {"1"});
   const auto run = Bench(Simulated(file, "sound-class-1", {"--events"}));
   ASSERT_EQ(run.status, 0) << run.error;
   std::istringstream lines(run.out);
@@ -87,7 +94,8 @@ TEST_F(RunCommandTest, AnOverloadedReadingIsNeverCountedAsPassed) {
 
 TEST_F(RunCommandTest, ATestThatTheTesterLacksIsNotApplicable) {
   Write("lacks", "based-on = sound-class-1\nlacks = 410\n");
-  const auto file = NewDocument({"410"});
+  const auto file = NewDocument({"410", "210"});
+  SetWideLimits(file, {"2"});
   const auto run = Bench(Simulated(file, Path("lacks")));
   EXPECT_EQ(run.status, 0) << run.error;
   EXPECT_NE(run.out.find("does not support the test"), std::string::npos) << run.out;
@@ -96,6 +104,7 @@ TEST_F(RunCommandTest, ATestThatTheTesterLacksIsNotApplicable) {
 
 TEST_F(RunCommandTest, RunsTheElementsThatAreNamed) {
   const auto file = NewDocument({"410", "420", "210"});
+  SetWideLimits(file, {"1", "2", "3"});
   const auto run = Bench(Simulated(file, "sound-class-1", {"--element", "3", "--element", "2"}));
   EXPECT_EQ(run.status, 0) << run.error;
   EXPECT_EQ(SentIn(file + ".wire.log"), (Words{"IREM", "STST,210,0", "GRES,210,0", "STST,210,0", "EREM",
@@ -105,6 +114,7 @@ TEST_F(RunCommandTest, RunsTheElementsThatAreNamed) {
 
 TEST_F(RunCommandTest, ResumeGoesOnWithWhatHasNoResult) {
   const auto file = NewDocument({"410", "420"});
+  SetWideLimits(file, {"1", "2"});
   EXPECT_EQ(Bench(Simulated(file, "sound-class-1", {"--element", "1"})).status, 0);
   std::filesystem::remove(file + ".wire.log");
   EXPECT_EQ(Bench(Simulated(file, "sound-class-1", {"--resume"})).status, 0);
@@ -125,14 +135,18 @@ TEST_F(RunCommandTest, ResumePassesOverWhatPassedOrFailedItsLimits) {
   EXPECT_EQ(SentIn(file + ".wire.log"), (Words{"IREM", "STST,210,0", "GRES,210,0", "STST,210,0", "EREM"}));
 }
 
-TEST_F(RunCommandTest, ResumeTestsAgainWhatBreaksLimitsThatCameAfterIt) {
+TEST_F(RunCommandTest, LimitsThatAreSetAfterTheRunJudgeItEverywhere) {
   const auto file = NewDocument({"410"});
   SetLimit(file, "1", "300");
   EXPECT_EQ(Bench(Simulated(file, "sound-class-1")).status, 0);
-  SetLimit(file, "1", "100");
-  EXPECT_EQ(Show(file)["outcome"], "incomplete");
-  EXPECT_EQ(Bench(Simulated(file, "sound-class-1", {"--resume"})).status, 1);
-  EXPECT_EQ(Show(file)["outcome"], "failed");
+  EXPECT_EQ(Bench({"limit", file, "--element", "1", "--standard", "Further", "--high", "100"}).status, 0);
+  const auto shown = Show(file);
+  EXPECT_EQ(shown["outcome"], "failed");
+  EXPECT_EQ(shown["elements"][0]["failedStandards"], nlohmann::json({"Further"}));
+  EXPECT_EQ(shown["elements"][0]["reasons"][0]["code"], "above-limit");
+  EXPECT_NE(Bench({"show", file}).out.find("Further: 123 mOhm exceeds the limit of 100 mOhm"),
+            std::string::npos);
+  EXPECT_EQ(Bench(Simulated(file, "sound-class-1", {"--resume"})).status, 1) << "there is nothing to resume";
 }
 
 TEST_F(RunCommandTest, JudgesByTheStandardThatIsNamed) {
@@ -257,6 +271,7 @@ TEST_P(EndingSignal, ClosesTheSessionAndSaves) {
 // With "nohup" the terminal may go.
 TEST_F(RunCommandTest, ARunThatOutlivesItsTerminalGoesOn) {
   const auto file = NewDocument({"410"});
+  SetWideLimits(file, {"1"});
   std::string line = "trap '' HUP; exec " ORVIK_BENCH_PATH;
   for (const auto& word : Simulated(file, "sound-class-1", {"--events"})) line += " '" + word + "'";
   RunningProgram run("/bin/sh", {"-c", line});
@@ -273,6 +288,7 @@ INSTANTIATE_TEST_SUITE_P(Moments, Interruption,
 
 TEST_F(RunCommandTest, TheOperatorIsAskedAtTheTerminal) {
   const auto file = NewDocument({"410"});
+  SetWideLimits(file, {"1"});
   const auto run = Start(Simulated(file, "sound-class-1", {"--operator", "ask"}));
   ASSERT_TRUE(run->AwaitOutput("play")) << run->Output();
   run->Type("play\n");

@@ -10,6 +10,7 @@ class TerminalTest : public CliTest {
   std::string Shown(const std::string& term, const std::string& noColour) {
     const auto file = NewDocument({"410", "210"});
     SetLimit(file, "1", "100");
+    SetLimit(file, "2", "253");
     return ShownOnTerminal(ORVIK_BENCH_PATH, Simulated(file, "sound-class-1"),
                            {{"TERM", term}, {"NO_COLOR", noColour}});
   }

@@ -42,7 +42,7 @@ TEST(Judge, FailsAReadingBeyondALimitThatWasSetAfterTheRun) {
 
 TEST(Judge, FailsAReadingBelowALowerBound) {
   CaseBuilder insulation;
-  insulation.Add(1, 1310, "MOhm").standards = {CaseBuilder::Limit("MOhm", 2, {})};
+  insulation.Add(1, 1010, "MOhm").standards = {CaseBuilder::Limit("MOhm", 2, {})};
   insulation.Begin({1});
   insulation.Measure(1, "1.5,0,MOhm", 1.5, "MOhm", 2);
   EXPECT_EQ(insulation.Verdict(), Verdict::kFailed);
@@ -262,7 +262,7 @@ INSTANTIATE_TEST_SUITE_P(
     Judge, DoubtfulReading,
     testing::Values(
         // The plug-in multiplies ohms by a thousand whatever the unit of the test is.
-        Doubtful{"ohmsOfInsulation", 1310, "MOhm", "500,0,Ohm", 500000, "MOhm", "arithmetic-differs"},
+        Doubtful{"ohmsOfInsulation", 1010, "MOhm", "500,0,Ohm", 500000, "MOhm", "arithmetic-differs"},
         Doubtful{"wrongQuantity", 610,
                  "\xC2\xB5"
                  "A",
