@@ -51,7 +51,7 @@ void RegistryReader::IRegistryReader_WriteValue(const std::string& sName, const 
     throw orvik::HostError(orvik::HostError::kInvalidArgument, "OrvikTypeLib.RegistryReader",
                            Tr("no key is open; open or create one before \"%%1\" is written", {sName}));
   try {
-    store_->Write(key_->hive, key_->path, sName, vValue);
+    store_->WriteForPlugIn(key_->hive, key_->path, sName, vValue);
   } catch (const orvik::HostError& error) {
     Report(error);
     throw;

@@ -171,6 +171,21 @@ void RegistryStore::StandIn(std::int32_t hive, const std::string& path, const st
   standIns_[KeyName(hive, path)][name] = text;
 }
 
+orvik::platform::Subscription RegistryStore::GuardWrites(std::int32_t hive, const std::string& path,
+                                                         Writer writer) {
+  const auto guard = std::make_shared<Writer>(std::move(writer));
+  guards_[KeyName(hive, path)] = guard;
+  return orvik::platform::Subscription(guard);
+}
+
+void RegistryStore::WriteForPlugIn(std::int32_t hive, const std::string& path, const std::string& name,
+                                   const orvik::Variant& value) {
+  const auto known = guards_.find(KeyName(hive, path));
+  const auto guard = known == guards_.end() ? nullptr : known->second.lock();
+  if (guard) return (*guard)(name, value);
+  Write(hive, path, name, value);
+}
+
 const RegistryStore::Json* RegistryStore::Key(const std::string& key) const {
   const auto& keys = Current().at("keys");
   const auto found = keys.find(key);

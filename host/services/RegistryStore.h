@@ -3,7 +3,9 @@
 #include <chrono>
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <map>
+#include <memory>
 #include <nlohmann/json.hpp>
 #include <optional>
 #include <string>
@@ -11,6 +13,7 @@
 #include <vector>
 
 #include "OrvikTypeLib/Variant.h"
+#include "platform/Event.h"
 
 namespace bench {
 
@@ -42,6 +45,15 @@ class RegistryStore {
   /// From now on this text is the value, and its key exists, whatever the file says; the file is not changed.
   void StandIn(std::int32_t hive, const std::string& path, const std::string& name, const std::string& text);
 
+  /// Takes a plug-in's write of one value: its name and the value. May throw `HostError`.
+  using Writer = std::function<void(const std::string& name, const orvik::Variant& value)>;
+  /// From now on, until the subscription ends, `writer` gets what plug-ins write into the key
+  /// (`RegistryReader`) in the place of the file. One for a key; a later one replaces it.
+  orvik::platform::Subscription GuardWrites(std::int32_t hive, const std::string& path, Writer writer);
+  /// Writes for a plug-in: as `Write`, unless the key is guarded.
+  void WriteForPlugIn(std::int32_t hive, const std::string& path, const std::string& name,
+                      const orvik::Variant& value);
+
   const std::filesystem::path& File() const { return file_; }
 
  private:
@@ -65,6 +77,8 @@ class RegistryStore {
   std::filesystem::path lock_;
   /// Stand-ins by key and value name.
   std::map<std::string, std::map<std::string, std::string>> standIns_;
+  /// Writers of guarded keys, held by their subscriptions.
+  std::map<std::string, std::weak_ptr<Writer>> guards_;
   mutable Json cached_;
   mutable std::optional<Stamp> cachedStamp_;
 };

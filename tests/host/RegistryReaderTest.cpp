@@ -45,6 +45,28 @@ TEST_F(RegistryReaderTest, CreatedKeyIsOpenAndThereForOthers) {
   EXPECT_EQ(other.ValueNames(), std::vector<std::string>{"v"});
 }
 
+TEST_F(RegistryReaderTest, AGuardedKeyIsWrittenByItsGuard) {
+  const auto store = std::make_shared<RegistryStore>(folder_.Path());
+  RegistryReader reader(store, std::make_shared<ErrorLog>(folder_.Path()));
+  std::vector<std::string> seen;
+  {
+    const auto guard =
+        store->GuardWrites(kHive, "Software\\\\X\\", [&](const std::string& name, const Variant& value) {
+          seen.push_back(name + "=" + std::get<std::string>(value));
+        });
+    ASSERT_TRUE(reader.CreateKey(kHive, "Software\\X"));
+    reader.WriteValue("v", "1");
+    EXPECT_EQ(reader.ReadValue("v"), Variant());
+    ASSERT_TRUE(reader.CreateKey(kHive, "Software\\Y"));
+    reader.WriteValue("v", "2");
+    EXPECT_EQ(reader.ReadValue("v"), Variant("2"));
+  }
+  ASSERT_TRUE(reader.OpenKey(kHive, "Software\\X"));
+  reader.WriteValue("v", "3");
+  EXPECT_EQ(reader.ReadValue("v"), Variant("3"));
+  EXPECT_EQ(seen, std::vector<std::string>{"v=1"});
+}
+
 TEST_F(RegistryReaderTest, FailedOpenClosesTheKeyThatWasOpen) {
   auto reader = Reader();
   ASSERT_TRUE(reader.CreateKey(kHive, "Software\\X"));
