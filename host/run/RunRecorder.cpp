@@ -22,12 +22,24 @@ std::int32_t StatusOf(const orvik::ITestElement& element) {
   return result ? result->Status() : orvik::ResultStatus::kNotTested;
 }
 
+void AddOnce(std::vector<Reason>& doubts, const Reason& doubt) {
+  if (std::find(doubts.begin(), doubts.end(), doubt) == doubts.end()) doubts.push_back(doubt);
+}
+
 RecordedReading ReadingOf(const orvik::IMeasurement& measurement) {
   RecordedReading reading{{}, measurement.Unit(), measurement.Flags()};
   const auto value = measurement.value();
   if (const auto* number = std::get_if<double>(&value)) reading.value = ExactNumberText(*number);
   if (const auto* whole = std::get_if<std::int32_t>(&value)) reading.value = std::to_string(*whole);
   return reading;
+}
+
+/// The element and all below it, children before the group that they are in.
+std::vector<RunRecorder::Element> ChildrenFirst(const RunRecorder::Element& top) {
+  std::vector<RunRecorder::Element> elements;
+  WalkElements(top, [&](const RunRecorder::Element& element) { elements.push_back(element); });
+  std::reverse(elements.begin(), elements.end());
+  return elements;
 }
 
 RecordedTakes TakesOf(const std::vector<RunRecorder::Element>& elements) {
@@ -67,29 +79,24 @@ bool RunRecorder::Starts(const Element& element) {
 void RunRecorder::Finished(const Element& element, RecordedTest::By by) {
   if (!parts_.runs.Current()) return;
   if (by == RecordedTest::By::kTester) return Append(*element, by);
-  WalkElements(element, [&](const Element& below) { Append(*below, by); });
+  for (const auto& below : ChildrenFirst(element)) Append(*below, by);
 }
 
 void RunRecorder::Settle(const Element& element) {
   if (!parts_.runs.Current()) return;
-  WalkElements(element, [&](const Element& below) {
-    auto* test = LastTest(below->ID());
-    const auto status = StatusOf(*below);
-    if (!test) {
-      // An abort gives no notice.
-      if (status == orvik::ResultStatus::kAborted) Append(*below, RecordedTest::By::kOperator);
-      return;
-    }
-    for (const auto& doubt : parts_.doubts.Of(below->ID()))
-      if (std::find(test->doubts.begin(), test->doubts.end(), doubt) == test->doubts.end())
-        test->doubts.push_back(doubt);
-    if (test->status != status) {
-      if (status == orvik::ResultStatus::kAborted) return Append(*below, RecordedTest::By::kOperator);
-      const Reason changed{"changed-after-finish", {std::to_string(test->status), std::to_string(status)}};
-      if (std::find(test->doubts.begin(), test->doubts.end(), changed) == test->doubts.end())
-        test->doubts.push_back(changed);
-    }
-  });
+  for (const auto& below : ChildrenFirst(element)) SettleOne(*below);
+}
+
+void RunRecorder::SettleOne(const orvik::ITestElement& element) {
+  auto* test = LastTest(element.ID());
+  const auto status = StatusOf(element);
+  const bool aborted = status == orvik::ResultStatus::kAborted;
+  // An abort gives no notice.
+  if (aborted && (!test || test->status != status)) return Append(element, RecordedTest::By::kOperator);
+  if (!test) return;
+  for (const auto& doubt : parts_.doubts.Of(element.ID())) AddOnce(test->doubts, doubt);
+  if (test->status != status)
+    AddOnce(test->doubts, {"changed-after-finish", {std::to_string(test->status), std::to_string(status)}});
 }
 
 void RunRecorder::End(RunRecord::End end) {

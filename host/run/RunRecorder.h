@@ -57,6 +57,8 @@ class RunRecorder {
   void End(RunRecord::End end);
 
  private:
+  void SettleOne(const orvik::ITestElement& element);
+  /// What the run that goes on recorded last of the element; null when it is yet to finish it.
   RecordedTest* LastTest(std::int32_t element);
   RecordedTest TestOf(const orvik::ITestElement& element, RecordedTest::By by);
   void Append(const orvik::ITestElement& element, RecordedTest::By by);

@@ -123,10 +123,11 @@ TEST_F(RunControllerTest, StartsNothingWhileTheDocumentCannotBeSaved) {
 // The element has no current result once it is to be measured again, and that is on disk before.
 TEST_F(RunControllerTest, MeasuresNothingAgainThatIsNotOnRecord) {
   AddLimited(410);
-  FailSaves({4, 5});  // beginning, finished, left; each press of play
-  RunByHand({{kPlay, kPrevious}, {kPlay, kPlay, kNext}});
+  ReadEverywhere("1.85,0,Ohm");  // fails, so that play measures again
+  FailSaves({3, 4});             // each press of play but the first
+  RunByHand({{kPlay, kPlay, kPlay, kNext}});
   EXPECT_EQ(bench_.Wire().Sent().size(), 5U) << "the first session alone";
-  EXPECT_EQ(StepsOf(Runs().back()), (Texts{"takes 1", "1 status 1 by tester", "takes 1"}));
+  EXPECT_EQ(StepsOf(Runs().back()), (Texts{"takes 1", "1 status 2 by tester", "takes 1"}));
   EXPECT_EQ(Verdict(1), "not tested: not-finished");
 }
 
