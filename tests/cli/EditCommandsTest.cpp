@@ -115,7 +115,22 @@ TEST_F(EditCommandsTest, AnotherDeviceHasNoResults) {
       << changed;
   EXPECT_NE(changed.find("the document is now: incomplete (was: passed)\n"), std::string::npos) << changed;
   const auto back = Done({"edit", file, "--asset", ""});
+  EXPECT_NE(
+      back.find(
+          "element 1 counts now: passed (was: not tested)\nthe document is now: passed (was: incomplete)\n"),
+      std::string::npos)
+      << back;
   EXPECT_EQ(Show(file)["outcome"], "passed");
+}
+
+TEST_F(EditCommandsTest, AChildMoreOrLessEndsItsGroupsResult) {
+  const auto file = NewDocument({"400"});
+  Done({"limit", file, "--element", "2", "3", "--standard", "S", "--high", "300"});
+  Done({"limit", file, "--element", "1", "--record-only"});
+  Bench(Simulated(file, "sound-class-1"));
+  const auto added = Done({"add", file, "410", "--to", "1"});
+  EXPECT_NE(added.find("element 1 no longer counts: "), std::string::npos) << added;
+  EXPECT_NE(Done({"remove", file, "--element", "4"}).find("element 1 counts now: "), std::string::npos);
 }
 
 TEST_F(EditCommandsTest, NewFromTakesThePlanAndNoResult) {

@@ -201,13 +201,21 @@ TEST_F(CompletionTest, OptionsOfTheCommandAboveMayFollow) {
   EXPECT_EQ(Offered({"orvik-bench", "archive", "add", "--archive", Path("a.s")}), Path("a.sqlite") + "\n");
 }
 
+// They are the search path and the settings of zsh: without a search path no command is found.
+TEST_F(CompletionTest, NoVariableIsOneThatZshKnows) {
+  const auto script = Bench({"completion", "zsh"}).out;
+  for (const auto* name :
+       {" path=", " path ", "$path", " options=", " options ", "$options", " words=", "$words"})
+    EXPECT_EQ(script.find(name), std::string::npos) << name;
+}
+
 TEST_F(CompletionTest, EveryShellThatIsNamedHasAScript) {
   EXPECT_EQ(Bench({"completion", "zsh"}).status, 0);
   const auto fish = Bench({"completion", "fish"});
   EXPECT_EQ(fish.status, 0);
   EXPECT_NE(fish.out.find("-l operator -x -a 'auto ask'"), std::string::npos) << fish.out;
   EXPECT_NE(fish.out.find("-l element -x -a '(__orvik_bench_elements)'"), std::string::npos) << fish.out;
-  EXPECT_NE(fish.out.find("__fish_complete_suffix .orvik"), std::string::npos) << fish.out;
+  EXPECT_NE(fish.out.find("-a '(__orvik_bench_documents)'"), std::string::npos) << fish.out;
   EXPECT_NE(fish.out.find("-l help -d"), std::string::npos) << "a flag takes no value: " << fish.out;
   const auto unknown = Bench({"completion", "tcsh"});
   EXPECT_EQ(unknown.status, 3);

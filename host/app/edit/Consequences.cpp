@@ -24,28 +24,27 @@ Consequences::Judgement Consequences::Now() const {
   return judgement;
 }
 
+std::string Consequences::LineOf(std::int32_t id, const Verdict& before, const Verdict& after) {
+  if (after.verdict == before.verdict || (!before.counts && !after.counts)) return {};
+  const std::vector<std::string> values{std::to_string(id), Tr(after.verdict), Tr(before.verdict)};
+  const auto reasons = after.reasons.empty() ? std::string() : ": " + report::VisibleText(after.reasons);
+  const auto change = !after.counts    ? Tr("element %%1 no longer counts: %%2 (was: %%3)", values)
+                      : !before.counts ? Tr("element %%1 counts now: %%2 (was: %%3)", values)
+                                       : Tr("element %%1 is now: %%2 (was: %%3)", values);
+  return change + reasons + "\n";
+}
+
 std::string Consequences::Text() const {
-  using report::VisibleText;
   const auto now = Now();
   std::string text;
   for (const auto& [id, before] : before_.elements) {
-    if (!before.counts) continue;
-    const auto number = std::to_string(id);
-    const auto found = now.elements.find(id);
-    if (found == now.elements.end()) {
-      text += Tr("element %%1 is removed; its result was: %%2", {number, Tr(before.verdict)}) + "\n";
-      continue;
-    }
-    const auto& after = found->second;
-    if (after.verdict == before.verdict) continue;
-    const auto reasons = after.reasons.empty() ? std::string() : ": " + VisibleText(after.reasons);
-    text += (after.counts
-                 ? Tr("element %%1 is now: %%2 (was: %%3)", {number, Tr(after.verdict), Tr(before.verdict)})
-                 : Tr("element %%1 no longer counts: %%2 (was: %%3)",
-                      {number, Tr(after.verdict), Tr(before.verdict)})) +
-            reasons + "\n";
+    if (const auto after = now.elements.find(id); after != now.elements.end())
+      text += LineOf(id, before, after->second);
+    else if (before.counts)
+      text +=
+          Tr("element %%1 is removed; its result was: %%2", {std::to_string(id), Tr(before.verdict)}) + "\n";
   }
-  if (now.outcome != before_.outcome && !text.empty())
+  if (now.outcome != before_.outcome)
     text += Tr("the document is now: %%1 (was: %%2)", {Tr(now.outcome), Tr(before_.outcome)}) + "\n";
   return text;
 }

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <map>
 #include <string>
+#include <vector>
 
 namespace bench {
 
@@ -16,8 +17,9 @@ class Consequences {
   /// Judges the document as it is before the change.
   Consequences(const Document& document, Host& host);
 
-  /// Judges it again: a line for each element whose result no longer counts or counts as something else, with
-  /// the reasons, and one when the verdict of the document has changed. Empty when nothing has.
+  /// Judges it again: a line for each element whose result no longer counts, counts now or counts as
+  /// something else, with the reasons, and one when the outcome of the document has changed. Empty when
+  /// nothing has.
   std::string Text() const;
 
  private:
@@ -33,6 +35,8 @@ class Consequences {
   };
 
   Judgement Now() const;
+  /// The line for an element that is still there; empty when nothing has changed.
+  static std::string LineOf(std::int32_t id, const Verdict& before, const Verdict& after);
 
   const Document& document_;
   Host& host_;

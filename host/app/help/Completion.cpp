@@ -112,23 +112,24 @@ std::string BashFunctions() {
 
 std::string BashCompletion(const CLI::App& program) {
   std::string paths;
-  auto options = "    '') options=" + ListOf(SpellingsAt(program)) + " ;;\n";
+  auto options = "    '') offered=" + ListOf(SpellingsAt(program)) + " ;;\n";
   auto values = BashOptions(program, "");
   auto arguments = BashArguments(program, "");
   std::string several;
   Walk(program, "", [&](const CLI::App& command, const std::string& path) {
-    paths += "      " + Quoted(" " + path) + ") path=" + Quoted(path) + " ;;\n";
-    options += "    " + Quoted(path) + ") options=" + ListOf(SpellingsAt(command)) + " ;;\n";
+    paths += "      " + Quoted(" " + path) + ") chosen=" + Quoted(path) + " ;;\n";
+    options += "    " + Quoted(path) + ") offered=" + ListOf(SpellingsAt(command)) + " ;;\n";
     values += BashOptions(command, path);
     arguments += BashArguments(command, path);
     several += BashSeveral(command, path);
   });
   const auto& name = program.get_name();
+  // No variable may be called "path" or "options": zsh knows the search path and its own settings by them.
   return "# Completion of " + name +
          " for bash: source it, or put it into the folder of your completions.\n" + BashFunctions() +
          "_orvik_bench() {\n"
          "  local IFS=$'\\n' current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD-1]}\n"
-         "  local path= word place options\n"
+         "  local chosen= word place offered\n"
          "  # --option=value is three words\n"
          "  if [[ $current == = ]]; then\n"
          "    current=\n"
@@ -137,7 +138,7 @@ std::string BashCompletion(const CLI::App& program) {
          "  fi\n"
          "  for (( place = 1; place < COMP_CWORD; place++ )); do\n"
          "    word=${COMP_WORDS[place]}\n"
-         "    case \"${path:+ $path} $word\" in\n" +
+         "    case \"${chosen:+ $chosen} $word\" in\n" +
          paths +
          "    esac\n"
          "  done\n"
@@ -145,22 +146,22 @@ std::string BashCompletion(const CLI::App& program) {
          "  for (( place = COMP_CWORD - 1; place > 0; place-- )); do\n"
          "    word=${COMP_WORDS[place]}\n"
          "    [[ $word == -* ]] || continue\n"
-         "    case \"$path:$word\" in\n" +
+         "    case \"$chosen:$word\" in\n" +
          several +
          "    esac\n"
          "    break\n"
          "  done\n"
-         "  case \"$path:$previous\" in\n" +
+         "  case \"$chosen:$previous\" in\n" +
          values +
          "  esac\n"
          "  if [[ $current == -* ]]; then\n"
-         "    case \"$path\" in\n" +
+         "    case \"$chosen\" in\n" +
          options +
          "    esac\n"
-         "    COMPREPLY=( $(compgen -W \"$options\" -- \"$current\") )\n"
+         "    COMPREPLY=( $(compgen -W \"$offered\" -- \"$current\") )\n"
          "    return\n"
          "  fi\n"
-         "  case \"$path\" in\n" +
+         "  case \"$chosen\" in\n" +
          arguments +
          "  esac\n"
          "}\n"
@@ -178,11 +179,18 @@ std::string ZshCompletion(const CLI::App& program) {
 
 namespace {
 
-constexpr char kFishDocuments[] = " -a '(__fish_complete_suffix .orvik)'";
+constexpr char kFishDocuments[] = " -a '(__orvik_bench_documents)'";
 
-/// The elements of the document that the line names: numbers with names beside them.
+/// Documents, and the folders on the way to them; and the elements of the document that the line names, with
+/// their names beside the numbers.
 std::string FishFunctions(const std::string& program) {
-  return "function __orvik_bench_elements\n"
+  return "function __orvik_bench_documents\n"
+         "  set -l token (commandline -ct)\n"
+         "  for name in $token*.orvik $token*/\n"
+         "    echo $name\n"
+         "  end\n"
+         "end\n"
+         "function __orvik_bench_elements\n"
          "  for word in (commandline -opc)\n"
          "    if string match -q -- '*.orvik' $word\n"
          "      " +
