@@ -2,12 +2,14 @@
 
 #include <unistd.h>
 
-#include <charconv>
 #include <iostream>
 
 #include "host/app/CalibrationWindow.h"
 #include "host/app/DocumentJson.h"
 #include "host/app/InputError.h"
+#include "host/app/ProgramFiles.h"
+#include "host/app/StoredLeadsView.h"
+#include "host/app/help/Examples.h"
 #include "host/app/run/ProgressLines.h"
 #include "host/app/run/StopProgress.h"
 #include "host/run/StopSignals.h"
@@ -15,36 +17,27 @@
 
 namespace bench {
 
-namespace {
-
-nlohmann::ordered_json JsonOf(const CalibrationWindow::Saved& saved) {
-  std::int32_t value = 0;
-  std::from_chars(saved.value.data(), saved.value.data() + saved.value.size(), value);
-  nlohmann::ordered_json instrument;
-  instrument["type"] = saved.type;
-  instrument["serial"] = saved.serial;
-  instrument["calibration"] = value;
-  return nlohmann::ordered_json{{"instrument", std::move(instrument)}};
-}
-
-}  // namespace
-
 CLI::App* CalibrateCommand::Declare(CLI::App& program) {
   auto* command = program.add_subcommand(
       "calibrate",
       Tr("Measure the resistance of the test leads, which protective-earth readings are corrected by"));
   tester_.Declare(*command);
-  command->add_option("--serial", serial_,
-                      Tr("Store the value under this serial number instead of the tester's own"));
+  const auto* serial = command->add_option(
+      "--serial", serial_, Tr("Store the value under this serial number instead of the tester's own"));
+  auto* list = command->add_flag("--list", list_, Tr("Show the stored value of each tester, and its date"));
+  for (const auto* name : {"--port", "--simulate", "--time-scale"}) list->excludes(command->get_option(name));
+  list->excludes(const_cast<CLI::Option*>(serial));
   command->add_flag("--json", json_, Tr("Print one JSON object"));
   command->footer(
-      Tr("Examples:\n"
-         "  orvik-bench calibrate --port /dev/ttyUSB0\n"
-         "  orvik-bench calibrate --simulate --time-scale 20\n"
-         "\n"
-         "Put the clip of the test lead at the ground of the tester's power socket first. The value is kept "
-         "for the\n"
-         "tester's serial number; readings of the protective earth are corrected by it."));
+      Examples({"orvik-bench calibrate --port /dev/ttyUSB0",
+                "orvik-bench calibrate --simulate --time-scale 20", "orvik-bench calibrate --list"}) +
+      Tr("\n"
+         "Put the clip of the test lead at the ground of the tester's power socket first. The value is "
+         "stored "
+         "under\n"
+         "the tester's serial number, with the date; readings of the protective earth are corrected by it. A "
+         "value\n"
+         "that test leads cannot have (below 0 or above 500 mOhm) is not stored."));
   return command;
 }
 
@@ -65,18 +58,27 @@ void CalibrateCommand::Operate(Workbench& workbench, CalibrationWindow& window) 
 }
 
 ExitStatus CalibrateCommand::Run(const GlobalOptions& options) {
+  if (list_)
+    List(options);
+  else
+    Measure(options);
+  return ExitStatus::kPassed;
+}
+
+void CalibrateCommand::List(const GlobalOptions& options) const {
+  const auto stored = StoredLeads(RegistryStore(files::StateFolder(options.state)));
+  std::cout << (json_ ? Indented(JsonOf(stored)) + "\n" : TextOf(stored));
+}
+
+void CalibrateCommand::Measure(const GlobalOptions& options) {
   tester_.Check();
   Workbench workbench(options, tester_.TimeScale());
   tester_.Connect(workbench.Ports());
   CalibrationWindow window(workbench, serial_);
   Operate(workbench, window);
-  if (!window.Stored()) throw IncompleteError(Tr("calibrate: %%1", {window.Reason()}));
-  const auto& saved = *window.Stored();
-  if (json_)
-    std::cout << Indented(JsonOf(saved)) << "\n";
-  else
-    std::cout << Tr("The test leads of tester %%1 have %%2 mOhm.", {saved.serial, saved.value}) << "\n";
-  return ExitStatus::kPassed;
+  const auto& stored = workbench.Leads().Value();
+  if (!stored) throw IncompleteError(Tr("calibrate: %%1", {window.Reason()}));
+  std::cout << (json_ ? Indented(JsonOf(*stored, window.TesterType())) : TextOf(*stored)) << "\n";
 }
 
 }  // namespace bench

@@ -37,7 +37,9 @@ Workbench::Workbench(const GlobalOptions& options, double timeScale, Settings se
     : timeScale_(timeScale),
       application_(std::make_shared<headless::Application>(ClockKind::kReal, timeScale)),
       ports_(std::make_shared<PortManager>(application_, DeviceOpener(application_))),
-      host_(Host::Create(SettingsOf(options), application_)) {
+      host_(Host::Create(SettingsOf(options), application_)),
+      leads_(std::make_unique<LeadCalibrationGuard>(
+          LeadCalibrationGuard::Parts{*application_, *ports_, *host_->Registry()})) {
   RegisterControls(*host_);
   ConnectControls(*application_, *host_);
   const auto comm = std::make_shared<CommApplication>(ports_);

@@ -6,6 +6,7 @@
 
 #include "OrvikTypeLib/IPlugIn.h"
 #include "host/Host.h"
+#include "host/run/LeadCalibrationGuard.h"
 #include "host/serial/PortManager.h"
 #include "host/toolkit/headless/Application.h"
 
@@ -38,6 +39,8 @@ class Workbench {
   const std::shared_ptr<headless::Application>& Application() const { return application_; }
   const std::shared_ptr<bench::Host>& Host() const { return host_; }
   PortManager& Ports() { return *ports_; }
+  /// Guards the calibration of the test leads, whoever opens it.
+  LeadCalibrationGuard& Leads() { return *leads_; }
   orvik::IPlugIn& PlugIn() { return *plugIn_; }
   double TimeScale() const { return timeScale_; }
 
@@ -49,6 +52,7 @@ class Workbench {
   const std::shared_ptr<headless::Application> application_;
   const std::shared_ptr<PortManager> ports_;
   std::shared_ptr<bench::Host> host_;
+  std::unique_ptr<LeadCalibrationGuard> leads_;
   std::shared_ptr<orvik::IPlugIn> plugIn_;
 };
 

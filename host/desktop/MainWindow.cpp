@@ -58,6 +58,7 @@ MainWindow::MainWindow(Workbench& workbench, const GlobalOptions& options, std::
   progressTimer_ = new QTimer(this);
   progressTimer_->setInterval(kRedrawMilliseconds);
   connect(progressTimer_, &QTimer::timeout, this, [this] { ShowProgress(); });
+  ListenToCalibrations();
   Begin();
 }
 

@@ -22,6 +22,7 @@ class IForm;
 namespace bench {
 class CalibrationWindow;
 class RunSession;
+class TesterConnection;
 class WireLog;
 }  // namespace bench
 
@@ -129,6 +130,7 @@ class MainWindow : public QMainWindow {
   void TellEnd(DocumentRunner::End end, const std::string& reason);
   void Stop();
   void Calibrate();
+  void ListenToCalibrations();
 
   void closeEvent(QCloseEvent* event) override;
   void LeaveIfOver();
@@ -154,6 +156,7 @@ class MainWindow : public QMainWindow {
   orvik::platform::IForm* dialog_ = nullptr;  ///< the plug-in's for settings, while it is shown
   std::vector<std::string> untold_;           ///< errors that `TellLater` has been given
   bool telling_ = false;
+  orvik::platform::Subscription leadsStored_, leadsRefused_;
   bool working_ = false;
   bool leaveWhenOver_ = false;  ///< once nothing is open any more
   bool byRequest_ = false;

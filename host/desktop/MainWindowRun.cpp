@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "host/app/CalibrationWindow.h"
+#include "host/app/StoredLeadsView.h"
 #include "host/app/run/RunSession.h"
 #include "host/desktop/Dialogs.h"
 #include "host/desktop/ElementTree.h"
@@ -126,7 +127,13 @@ void MainWindow::Calibrate() {
     window.Show();
   }
   UpdateActions();
-  if (!window.Reason().empty()) TellLater(window.Reason());
+}
+
+void MainWindow::ListenToCalibrations() {
+  // The guide opens the dialog too.
+  auto& leads = desk_.Bench().Leads();
+  leadsStored_ = leads.Stored().Subscribe([this](const LeadCalibration& stored) { Remark(TextOf(stored)); });
+  leadsRefused_ = leads.Refused().Subscribe([this](const std::string& reason) { TellLater(reason); });
 }
 
 }  // namespace bench::desktop

@@ -29,6 +29,14 @@ inline constexpr char kYes[] = "cmdAccept";
 inline constexpr char kNo[] = "cmdDecline";
 inline constexpr char kPromptText[] = "lblPrompt";
 
+inline constexpr std::int32_t kCalibrate = 900;
+inline constexpr char kLeadsForm[] = "FCalibrateLeads";
+inline constexpr char kLeadsMeasure[] = "cmdCalibrate";
+inline constexpr char kLeadsSave[] = "cmdSave";
+inline constexpr char kLeadsCancel[] = "cmdCancel";
+inline constexpr char kLeadsSerial[] = "txtSerial";
+inline constexpr char kLeadsType[] = "txtMTIType";
+
 }  // namespace guide
 
 /// The toolbar of a test guide's window; empty when it has none.

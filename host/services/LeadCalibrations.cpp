@@ -5,6 +5,7 @@
 #include "OrvikTypeLib/Conversions.h"
 #include "OrvikTypeLib/HostError.h"
 #include "host/services/Text.h"
+#include "host/services/Tr.h"
 #include "host/services/WallClock.h"
 
 namespace bench {
@@ -63,6 +64,11 @@ std::optional<std::string> LeadsMeasured(const RegistryStore& registry, const st
   auto date = note->substr(blank + 1);
   if (!MomentOf(date)) return {};
   return date;
+}
+
+std::string MeasuredText(const std::optional<std::string>& measured) {
+  const auto moment = measured ? MomentOf(*measured) : std::nullopt;
+  return moment ? Tr("measured %%1", {moment->day + " " + moment->minute}) : Tr("date not known");
 }
 
 void StoreLeads(RegistryStore& registry, const std::string& serial, std::int32_t milliohms,

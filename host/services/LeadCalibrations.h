@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "host/plugins/keld/KeldTests.h"
 #include "host/services/RegistryStore.h"
 
 /// The resistances of test leads that the registry holds, one for each tester, and when each was measured.
@@ -17,10 +18,8 @@ namespace bench {
 inline constexpr std::int32_t kLeadsHive = static_cast<std::int32_t>(0x80000002U);
 inline constexpr char kLeadsKey[] = "Software\\Telvane\\orvik\\KELD(IN)\\MTI";
 
-/// More than this, in mOhm, is a bad contact and not the test leads. The figure is from practice: leads have
-/// 20 to 200 mOhm, and protective-earth limits are 100 to 300 mOhm, so whoever subtracts more makes any
-/// earth pass.
-inline constexpr std::int32_t kMostLeadMilliohms = 500;
+/// More than this, in mOhm, is a bad contact and not the test leads.
+inline constexpr std::int32_t kMostLeadMilliohms = keld_facts::kMostLeads;
 
 /// One stored value.
 struct LeadCalibration {
@@ -45,6 +44,9 @@ std::optional<LeadCalibration> StoredLeadsOf(const RegistryStore& registry, cons
 /// @param milliohms the value in question, which need not be the stored one any more
 std::optional<std::string> LeadsMeasured(const RegistryStore& registry, const std::string& serial,
                                          std::int32_t milliohms);
+
+/// The date for people: "measured 2026-11-21 14:03", or "date not known".
+std::string MeasuredText(const std::optional<std::string>& measured);
 
 /// Stores a value, and then its date.
 /// @param when as `WallClock` returns it

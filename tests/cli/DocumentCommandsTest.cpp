@@ -153,29 +153,6 @@ TEST_F(DocumentCommandsTest, ASequenceWithoutAValueShowsNoneEitherWhenItIsOpened
   EXPECT_NE(Bench({"show", file}).out.find("   1  passed          -  "), std::string::npos);
 }
 
-TEST_F(DocumentCommandsTest, CalibrateStoresAndTheReadingIsCorrected) {
-  const auto calibrated = Bench({"calibrate", "--simulate", "--time-scale", kTimeScale, "--json"});
-  EXPECT_EQ(calibrated.status, 0) << calibrated.error;
-  EXPECT_EQ(nlohmann::json::parse(calibrated.out)["instrument"]["calibration"], 123);
-  const auto file = NewDocument({"410"});
-  SetWideLimits(file, {"1"});
-  EXPECT_EQ(Bench(Simulated(file, "sound-class-1")).status, 0);
-  const auto shown = Show(file);
-  EXPECT_EQ(shown["instrument"]["calibration"], 123);
-  EXPECT_EQ(shown["elements"][0]["measurement"]["value"], 0.0);
-}
-
-// A clip that does not hold: stored, it would turn every earth into a good one.
-TEST_F(DocumentCommandsTest, MoreThanTestLeadsHaveIsNotStored) {
-  const auto refused = Bench({"calibrate", "--simulate", "broken-earth", "--time-scale", kTimeScale});
-  EXPECT_EQ(refused.status, 2);
-  EXPECT_NE(refused.error.find("1850 mOhm is more than test leads have"), std::string::npos) << refused.error;
-  const auto file = NewDocument({"410"});
-  SetWideLimits(file, {"1"});
-  EXPECT_EQ(Bench(Simulated(file, "sound-class-1")).status, 0);
-  EXPECT_EQ(Show(file)["instrument"]["calibration"], 0);
-}
-
 TEST_F(DocumentCommandsTest, AReadingBelowTheTestLeadsIsDoubtful) {
   Write("leads", "based-on = sound-class-1\n410 = 400 mOhm\n");
   ASSERT_EQ(Bench({"calibrate", "--simulate", Path("leads"), "--time-scale", kTimeScale}).status, 0);
@@ -187,17 +164,6 @@ TEST_F(DocumentCommandsTest, AReadingBelowTheTestLeadsIsDoubtful) {
   EXPECT_NE(element["doubts"].dump().find("123 mOhm is less than the 400 mOhm of the test leads"),
             std::string::npos)
       << element;
-}
-
-TEST_F(DocumentCommandsTest, AnOverloadedCalibrationIsNotStored) {
-  Write("over", "based-on = sound-class-1\n410 = 9.9 Ohm overload\n");
-  const auto refused = Bench({"calibrate", "--simulate", Path("over"), "--time-scale", kTimeScale});
-  EXPECT_EQ(refused.status, 2);
-  EXPECT_NE(refused.error.find("not stored"), std::string::npos) << refused.error;
-  const auto file = NewDocument({"410"});
-  SetWideLimits(file, {"1"});
-  EXPECT_EQ(Bench(Simulated(file, "sound-class-1")).status, 0);
-  EXPECT_EQ(Show(file)["instrument"]["calibration"], 0);
 }
 
 TEST_F(DocumentCommandsTest, ReportWritesWhatWasMeasured) {

@@ -92,6 +92,7 @@ TEST_F(JsonSchemaTest, EventsOfALostTester) {
 
 TEST_F(JsonSchemaTest, Calibration) {
   Keeps("calibration", Bench({"calibrate", "--simulate", "--time-scale", kTimeScale, "--json"}).out);
+  Keeps("calibration-list", Bench({"calibrate", "--list", "--json"}).out);
 }
 
 TEST_F(JsonSchemaTest, FindingsInADocument) {

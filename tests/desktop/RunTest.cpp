@@ -226,27 +226,6 @@ TEST_F(RunTest, TheOperatorMayAbortInTheGuide) {
               HasSubstr("Ended by the operator"));
 }
 
-TEST_F(RunTest, LeadsAreCalibratedByHand) {
-  Open({"410"}, "sound-class-1");
-  const auto button = [](const char* name) {
-    auto* window = Visible("FCalibrateLeads");
-    auto* found = window ? window->findChild<QPushButton*>(name) : nullptr;
-    return found && found->isEnabled() ? found : nullptr;
-  };
-  const auto click = [button](const char* name) {
-    return [button, name] {
-      auto* found = button(name);
-      if (found) QTest::mouseClick(found, Qt::LeftButton);
-      return found != nullptr;
-    };
-  };
-  Drive({Press("calibrate"), Await("calibrate", click("cmdCalibrate")), Await("save", click("cmdSave")),
-         Idle()});
-  Drive({Press("run"), Guide(kPlay), Await("a result", [this] { return Cell(1, kResult) == "passed"; }),
-         Guide(kNext), Idle()});
-  EXPECT_GT(Show(file_)["instrument"]["calibration"], 0);
-}
-
 TEST(SimulatedProfiles, AreThoseOfTheSimulator) {
   std::vector<std::string> offered(bench::kSimulatedProfiles.begin(), bench::kSimulatedProfiles.end()), known;
   for (const auto& profile : sim::BuiltInProfiles()) known.emplace_back(profile.name);

@@ -1,0 +1,77 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "OrvikTypeLib/Variant.h"
+#include "host/serial/PortManager.h"
+#include "host/services/LeadCalibrations.h"
+#include "host/services/WallClock.h"
+#include "platform/IApplication.h"
+
+namespace bench {
+
+/// Sees to it that only a sound measurement of the test leads is stored, whoever opens the plug-in's dialog
+/// for it: the command, the window's menu or the guide.
+///
+/// The dialog believes any number. The guard reads the wire itself and closes the dialog when the measurement
+/// cannot be used. It carries out the plug-in's write of the value once the session with the tester is over,
+/// reads the value back, and notes the date. Any other write of such a value is refused.
+class LeadCalibrationGuard {
+ public:
+  struct Parts {
+    orvik::platform::IApplication& application;
+    PortManager& ports;
+    RegistryStore& registry;
+    WallClock clock = LocalTimeText;
+  };
+
+  /// @param parts must outlive the guard
+  explicit LeadCalibrationGuard(Parts parts);
+  LeadCalibrationGuard(const LeadCalibrationGuard&) = delete;
+  LeadCalibrationGuard& operator=(const LeadCalibrationGuard&) = delete;
+  ~LeadCalibrationGuard();
+
+  /// Raised when the dialog has closed and a value was stored, or could not be (the reason, a sentence for
+  /// people). Neither is raised when the operator cancelled.
+  orvik::platform::Event<const LeadCalibration&>& Stored() { return stored_; }
+  orvik::platform::Event<const std::string&>& Refused() { return refused_; }
+
+  /// What the dialog that was opened last has stored, as read back; none when it stored nothing.
+  const std::optional<LeadCalibration>& Value() const { return value_; }
+  /// Why it stored nothing; empty when it did, or when the operator cancelled.
+  const std::string& Reason() const { return reason_; }
+
+  /// Closes the dialog. Nothing is stored, whatever the tester still says.
+  void Cancel();
+
+ private:
+  struct Dialog;
+
+  void Shown(const std::shared_ptr<orvik::platform::IForm>& form);
+  void Watch(const WireRecord& record);
+  void MeasurementOver();
+  void SaveClicked();
+  void Closed();
+  void Refuse(const std::string& reason);
+  std::string Doubt() const;
+  std::string Obstacle() const;
+  std::int32_t Measured() const;
+  void Write(const std::string& serial, const orvik::Variant& value);
+  void Save(const std::string& serial);
+  void Store(const std::string& serial);
+
+  const Parts parts_;
+  std::shared_ptr<Dialog> dialog_;  ///< while it is loaded
+  std::optional<LeadCalibration> value_;
+  std::string reason_;
+  bool cancelled_ = false;
+  orvik::platform::Event<const LeadCalibration&> stored_;
+  orvik::platform::Event<const std::string&> refused_;
+  orvik::platform::Subscription shown_;
+  orvik::platform::Subscription writing_;
+};
+
+}  // namespace bench
