@@ -198,5 +198,19 @@ TEST_F(CalibrateCommandTest, ListNeedsNoTesterAndNoState) {
   EXPECT_EQ(Bench({"calibrate", "--list", "--serial", "A"}).status, 3);
 }
 
+TEST_F(CalibrateCommandTest, ARunWarnsOfAValueThatTestLeadsCannotHave) {
+  Bench({"tests"});
+  Store(kSerial, std::int32_t{600});
+  const auto earth = NewDocument({"400"});
+  const auto warned = Bench(Simulated(earth, "sound-class-1"));
+  EXPECT_THAT(warned.out,
+              HasSubstr("Test leads of tester SIM-0001: 600 mOhm (date not known), above 500 mOhm"));
+  EXPECT_LT(warned.out.find("Test leads of tester"), warned.out.find("STST,410,0"));
+  EXPECT_EQ(warned.out.find("Test leads of tester"), warned.out.rfind("Test leads of tester"));
+  std::filesystem::remove(earth);
+  const auto leakage = Bench(Simulated(NewDocument({"610"}), "sound-class-1"));
+  EXPECT_EQ(leakage.out.find("Test leads of"), std::string::npos);
+}
+
 }  // namespace
 }  // namespace cli

@@ -5,6 +5,7 @@
 #include "host/app/InputError.h"
 #include "host/app/run/AskOperator.h"
 #include "host/app/run/ScreenOperator.h"
+#include "host/app/run/StoredLeadsNotice.h"
 #include "host/document/Document.h"
 #include "host/elements/ElementFactory.h"
 #include "host/instruments/InstrumentColl.h"
@@ -105,6 +106,8 @@ judge::JudgedElement RunSession::Judged(const orvik::ITestElement& element) cons
 
 DocumentRunner::End RunSession::Run(const std::vector<Element>& elements) {
   reporter_.Planned(TestsOfEach(elements));
+  const StoredLeadsNotice leads(*workbench_.Ports().TheWire(), *workbench_.Host()->Registry(), elements,
+                                [this](const std::string& text) { reporter_.Remark(text); });
   const auto person = MakeOperator();
   return runner_.Run(heading_, elements);
 }
@@ -123,6 +126,8 @@ void RunSession::AskToStop() {
   if (stopProgress_.Begun()) return reporter_.Remark(stopProgress_.Text());
   reporter_.Remark(Tr("Stopping: the running test is dropped and the session with the tester closed."));
   stopProgress_.Begin();
+  // In front of the guide it would keep the guide from answering.
+  workbench_.Leads().Cancel();
   stop_.Ask();
 }
 
