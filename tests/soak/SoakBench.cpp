@@ -1,28 +1,16 @@
 #include "tests/soak/SoakBench.h"
 
-#include "OrvikTypeLib/ILimit.h"
-#include "OrvikTypeLib/ILimitData.h"
-#include "OrvikTypeLib/IStandard.h"
-#include "OrvikTypeLib/IStandardColl.h"
-#include "OrvikTypeLib/ITestContainer.h"
 #include "host/document/Document.h"
 #include "host/elements/ElementFactory.h"
-#include "host/instruments/InstrumentColl.h"
-#include "host/run/AutoOperator.h"
-#include "host/run/DoubtTracker.h"
-#include "host/run/LinkWatch.h"
-#include "host/run/RunController.h"
 #include "host/serial/WireLog.h"
 #include "instrument/CKELDData.h"
 #include "tester/FaultScript.h"
 #include "tester/SeededFaults.h"
+#include "tests/support/RunParts.h"
 
 namespace soak {
 
 namespace {
-
-constexpr char kName[] = "IEC 62353";
-constexpr char kClass[] = "class I";
 
 /// The tester of one run: what it reads, and what goes wrong.
 class RunFaults final : public sim::Faults {
@@ -45,10 +33,6 @@ class RunFaults final : public sim::Faults {
   const std::map<int, int> truth_;
   std::unique_ptr<sim::Faults> faults_;
 };
-
-std::vector<std::shared_ptr<orvik::ITestElement>> TopOf(const bench::Document& document) {
-  return {document.Elements()->item(1)};
-}
 
 /// What is known of the tester is kept for the whole process, and a text keeps the room that its longest
 /// content took, a block of its own: each has that from the start, so that a garbled identity later on adds
@@ -77,15 +61,7 @@ void SoakBench::Prepare(Kind kind) {
   const auto document = bench::Document::Create(bench_.Only().SharedHost(), Prepared(kind));
   document->AddTest(kind == Kind::kTest ? 410 : 400);
   for (const std::int32_t id : kind == Kind::kTest ? std::vector{1} : std::vector{2, 3})
-    document->Find(id)
-        ->Limits()
-        ->CreateStandard(kName, kClass)
-        ->Limit(1)
-        ->SetBounds("", std::to_string(kHighest));
-  const auto selected =
-      orvik::As<orvik::IStandard>(bench_.Host().CreateObject(orvik::HostClasses::kStandard));
-  selected->Initialize(kName, kClass, 1);
-  document->Standards()->Add(selected);
+    support::SetLimit(*document, bench_.Host(), id, "", std::to_string(kHighest));
   document->Save();
 }
 
@@ -97,8 +73,9 @@ Evidence SoakBench::Run(const Plan& plan, bool save) {
   {
     const auto document = bench::Document::Open(bench_.Only().SharedHost(), file);
     Perform(plan, *document, save, evidence);
-    evidence.elements = Summary(*document);
-    evidence.outcome = bench::OutcomeOf(evidence.elements);
+    const auto judged = Judged(*document);
+    evidence.elements = judged.elements;
+    evidence.outcome = judged.outcome;
   }
   LetTimePass();
   evidence.sent = bench_.Wire().Sent();
@@ -108,7 +85,8 @@ Evidence SoakBench::Run(const Plan& plan, bool save) {
   evidence.windows = bench_.Application().Forms().size();
   if (save)
     evidence.reopened =
-        Summary(*bench::Document::Open(bench_.Only().SharedHost(), file, bench::DocumentFile::Use::kRead));
+        Judged(*bench::Document::Open(bench_.Only().SharedHost(), file, bench::DocumentFile::Use::kRead))
+            .elements;
   bench_.Wire().Clear();
   bench_.Tester().UseFaults(nullptr);
   return evidence;
@@ -124,23 +102,20 @@ void SoakBench::Perform(const Plan& plan, bench::Document& document, bool save, 
   auto& wire = *bench_.Ports().TheWire();
   bench::WireLog log(bench_.Only().Folder() / "run.orvik.wire.log");
   const auto logged = wire.Subscribe([&](const bench::WireRecord& record) { log.Write(record); });
-  bench::DoubtTracker doubts(wire);
-  bench::LinkWatch link(bench_.Ports());
-  bench::StopRequest stop;
+  support::RunParts parts(bench_.Ports(), document);
+  parts.heading.by = "M. Holm";
+  parts.heading.simulated = true;
+  parts.clock = bench::LocalTimeText;
+  parts.save = [&] { save ? document.Save() : static_cast<void>(document.Text()); };
   int calls = 0;
   const auto pumped = bench_.Application().Pumped().Subscribe([&] {
-    if (calls++ == plan.stopAt) stop.Ask();
+    if (calls++ == plan.stopAt) parts.stop.Ask();
   });
-  const auto keep = [&] { save ? document.Save() : static_cast<void>(document.Text()); };
-  const auto controller = std::make_shared<bench::RunController>(
-      bench::RunController::Parts{document.Standards(), document.Instruments(), *bench_.Host().Elements(),
-                                  doubts, keep, bench::LocalTimeText, "M. Holm"});
-  bench::AutoOperator person(bench_.Only().SharedApplication(), stop);
-  evidence.end = bench::DocumentRunner(controller, link, stop).Run(TopOf(document));
+  evidence.end = parts.RunByProgram(bench_.Only().SharedApplication());
 }
 
-std::vector<bench::ElementSummary> SoakBench::Summary(const bench::Document& document) {
-  return bench::Summarise(TopOf(document), *bench_.Host().Elements(), document.Standards());
+bench::judge::JudgedDocument SoakBench::Judged(const bench::Document& document) {
+  return bench::judge::Judge(document, *bench_.Host().Elements());
 }
 
 void SoakBench::LetTimePass() {

@@ -8,7 +8,6 @@
 
 namespace bench {
 class Document;
-class StopRequest;
 }  // namespace bench
 
 namespace soak {
@@ -29,7 +28,7 @@ class SoakBench {
   void Prepare(Kind kind);
   void Disturb(const Plan& plan);
   void Perform(const Plan& plan, bench::Document& document, bool save, Evidence& evidence);
-  std::vector<bench::ElementSummary> Summary(const bench::Document& document);
+  bench::judge::JudgedDocument Judged(const bench::Document& document);
   void LetTimePass();
 
   support::VirtualBench bench_;

@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "host/judge/Verdict.h"
 #include "host/run/DocumentRunner.h"
-#include "host/run/ElementSummary.h"
 
 namespace soak {
 
@@ -42,15 +42,15 @@ std::string TextOf(const Plan& plan);
 /// What a run left behind.
 struct Evidence {
   bench::DocumentRunner::End end{};
-  std::vector<bench::ElementSummary> elements;
-  bench::Outcome outcome{};
+  std::vector<bench::judge::JudgedElement> elements;
+  bench::judge::Outcome outcome{};
   std::vector<std::string> sent;
   std::vector<std::string> received;
   bool inRemoteMode = false;  ///< the tester
   bool portOpen = false;
   std::size_t windows = 0;  ///< still open
   /// How the elements read when the saved document is opened again; empty when it was not saved.
-  std::vector<bench::ElementSummary> reopened;
+  std::vector<bench::judge::JudgedElement> reopened;
 };
 
 /// What must not be: a pass that was not measured, a verdict that is none of the tester's own reading, a run
@@ -60,8 +60,7 @@ std::vector<std::string> Offences(const Plan& plan, const Evidence& evidence);
 /// How the tester says its reading of a test.
 std::string ReplyTo(int testId, int milliohms);
 
-/// How each element ended, one letter each: P passed, F failed, N not applicable, A aborted, - not tested; a
-/// small p or n is doubtful and does not count.
-std::string LettersOf(const std::vector<bench::ElementSummary>& elements);
+/// How the elements ended: "doubtful, passed, doubtful".
+std::string VerdictsOf(const std::vector<bench::judge::JudgedElement>& elements);
 
 }  // namespace soak

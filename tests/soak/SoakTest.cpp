@@ -15,6 +15,8 @@
 namespace soak {
 namespace {
 
+using bench::judge::Verdict;
+
 #ifdef __SANITIZE_ADDRESS__
 constexpr int kRunsOfThisBuild = 5000;
 #else
@@ -74,11 +76,11 @@ void ExpectFlat(const Look& now, const Look& first, int runs) {
 }
 
 /// One run by its plan; how it ended.
-bench::Outcome RunAndCheck(SoakBench& bench, unsigned seed, int run) {
+bench::judge::Outcome RunAndCheck(SoakBench& bench, unsigned seed, int run) {
   const auto plan = DrawPlan(seed, run);
   const auto evidence = bench.Run(plan, run % kSavedEvery == 0);
   for (const auto& offence : Offences(plan, evidence))
-    ADD_FAILURE() << "run " << run << " (" << TextOf(plan) << ") ended " << LettersOf(evidence.elements)
+    ADD_FAILURE() << "run " << run << " (" << TextOf(plan) << ") ended " << VerdictsOf(evidence.elements)
                   << ": " << offence;
   return evidence.outcome;
 }
@@ -89,7 +91,7 @@ TEST(SoakTest, ManyRunsWithFaultsLeaveNothingAndEndRight) {
   UseFilesInMemory();
   SoakBench bench;
   std::optional<Look> first;
-  std::map<bench::Outcome, int> outcomes;
+  std::map<bench::judge::Outcome, int> outcomes;
   for (int run = 1; run <= runs && !HasFailure(); ++run) {
     ++outcomes[RunAndCheck(bench, seed, run)];
     if (run % kBetweenLooks != 0) continue;
@@ -97,11 +99,12 @@ TEST(SoakTest, ManyRunsWithFaultsLeaveNothingAndEndRight) {
     if (!first) first = look;
     ExpectFlat(look, *first, run);
   }
-  std::cout << runs << " runs: " << outcomes[bench::Outcome::kPassed] << " passed, "
-            << outcomes[bench::Outcome::kFailed] << " failed, " << outcomes[bench::Outcome::kIncomplete]
-            << " incomplete" << std::endl;
-  for (const auto outcome : {bench::Outcome::kPassed, bench::Outcome::kFailed, bench::Outcome::kIncomplete})
-    EXPECT_GT(outcomes[outcome], runs / 20) << "hardly any run is " << bench::OutcomeText(outcome);
+  std::cout << runs << " runs: " << outcomes[bench::judge::Outcome::kPassed] << " passed, "
+            << outcomes[bench::judge::Outcome::kFailed] << " failed, "
+            << outcomes[bench::judge::Outcome::kIncomplete] << " incomplete" << std::endl;
+  for (const auto outcome :
+       {bench::judge::Outcome::kPassed, bench::judge::Outcome::kFailed, bench::judge::Outcome::kIncomplete})
+    EXPECT_GT(outcomes[outcome], runs / 20) << "hardly any run is " << bench::judge::OutcomeText(outcome);
 }
 
 class OffencesTest : public testing::Test {
@@ -110,18 +113,19 @@ class OffencesTest : public testing::Test {
   OffencesTest() {
     plan_.truth = {{410, 123}, {420, 131}};
     plan_.faultRate = 0.2;
-    bench::ElementSummary element;
+    bench::judge::JudgedElement element;
     element.id = 1;
     element.testId = 410;
     element.status = 1;
-    element.measurement = bench::MeasurementSummary{123.0, "mOhm", "", 1};
+    element.verdict = Verdict::kPassed;
+    element.measurement = bench::judge::Measurement{123.0, "mOhm", "", 1};
     evidence_.elements = {element};
-    evidence_.outcome = bench::Outcome::kPassed;
+    evidence_.outcome = bench::judge::Outcome::kPassed;
     evidence_.sent = {"IREM", "STST,410,0", "GRES,410,0", "STST,210,0", "EREM"};
     evidence_.received = {ReplyTo(410, 123)};
   }
 
-  bench::ElementSummary& Element() { return evidence_.elements.front(); }
+  bench::judge::JudgedElement& Element() { return evidence_.elements.front(); }
   std::size_t Found() const { return Offences(plan_, evidence_).size(); }
 
   Plan plan_;
@@ -148,18 +152,33 @@ TEST_F(OffencesTest, APassBeyondTheLimitIsFound) {
 }
 
 TEST_F(OffencesTest, AFailureWithinTheLimitIsFound) {
-  Element().status = 2;
-  evidence_.outcome = bench::Outcome::kFailed;
+  Element().verdict = Verdict::kFailed;
+  Element().reasons = {{"failed-by-plug-in", {}}};
+  evidence_.outcome = bench::judge::Outcome::kFailed;
   EXPECT_EQ(Found(), 1u);
 }
 
-TEST_F(OffencesTest, NotApplicableWithoutTheTestersWordIsFound) {
-  Element().status = 3;
+TEST_F(OffencesTest, NotApplicableInSpiteOfALimitIsFound) {
+  Element().verdict = Verdict::kNotApplicable;
+  Element().reasons = {{"refused-by-tester", {}}};
   EXPECT_EQ(Found(), 1u);
 }
 
-TEST_F(OffencesTest, ADoubtfulPassInAPassedRunIsFound) {
-  Element().doubts = {"a late reply"};
+TEST_F(OffencesTest, AReadingThatNoLimitJudgedIsFound) {
+  Element().verdict = Verdict::kRecorded;
+  Element().reasons = {{"no-limit", {}}};
+  EXPECT_EQ(Found(), 1u);
+}
+
+TEST_F(OffencesTest, ADoubtfulElementInAPassedRunIsFound) {
+  Element().verdict = Verdict::kDoubtful;
+  Element().reasons = {{"late-reply", {"STST,410,0"}}};
+  EXPECT_EQ(Found(), 1u);
+}
+
+TEST_F(OffencesTest, WhatHasNotPassedWithoutAReasonIsFound) {
+  Element().verdict = Verdict::kNotTested;
+  evidence_.outcome = bench::judge::Outcome::kIncomplete;
   EXPECT_EQ(Found(), 1u);
 }
 
@@ -183,7 +202,7 @@ TEST_F(OffencesTest, AnUndisturbedRunHasToBeExact) {
 
 TEST_F(OffencesTest, ASavedDocumentThatReadsOtherwiseIsFound) {
   evidence_.reopened = evidence_.elements;
-  evidence_.reopened.front().status = 0;
+  evidence_.reopened.front().verdict = Verdict::kNotTested;
   EXPECT_EQ(Found(), 1u);
 }
 
