@@ -35,9 +35,13 @@ Figure MeasureGuidedTest(const Context& context) {
 
   bench::StopRequest stop;
   bench::DoubtTracker doubts(*rig.Ports().TheWire());
-  const auto controller = std::make_shared<bench::RunController>(bench::RunController::Parts{
-      orvik::As<orvik::IStandardColl>(host.CreateObject(orvik::HostClasses::kStandardColl)),
-      std::make_shared<bench::InstrumentColl>(), *host.Elements(), doubts, [] {}});
+  const auto standards =
+      orvik::As<orvik::IStandardColl>(host.CreateObject(orvik::HostClasses::kStandardColl));
+  const auto instruments = std::make_shared<bench::InstrumentColl>();
+  bench::Runs runs;  // no run is begun, so nothing is recorded
+  bench::RunRecorder recorder({runs, instruments, standards, doubts});
+  const auto controller = std::make_shared<bench::RunController>(
+      bench::RunController::Parts{standards, instruments, doubts, recorder, [] {}});
   bench::AutoOperator person(rig.Only().SharedApplication(), stop);
   const auto rate = BestRate([&] {
     element->Perform(controller);

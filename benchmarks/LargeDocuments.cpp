@@ -1,5 +1,6 @@
 #include <stdexcept>
 #include <string>
+#include <utility>
 
 #include "OrvikTypeLib/IResultData.h"
 #include "OrvikTypeLib/ITestContainer.h"
@@ -12,6 +13,7 @@
 #include "benchmarks/YardstickXml.h"
 #include "host/document/Document.h"
 #include "host/elements/ElementFactory.h"
+#include "host/judge/CaseOf.h"
 #include "plugin/ClassIdentifiers.h"
 
 namespace benchmarks {
@@ -19,13 +21,14 @@ namespace benchmarks {
 namespace {
 
 constexpr int kRounds = 15;
+constexpr int kJudgeRounds = 5;
 constexpr int kLargeResults = 100'000;
 
 /// A host with the plug-in opened, and the file of a document with 100,000 results.
 class LargeDocument {
  public:
-  explicit LargeDocument(const Context& context)
-      : rig_(TextOf(context.Catalogue())), measured_(context), file_(measured_.Times(kLargeResults)) {
+  explicit LargeDocument(const Context& context, int results = kLargeResults)
+      : rig_(TextOf(context.Catalogue())), measured_(context), file_(measured_.Times(results)) {
     const auto plugIn =
         orvik::As<orvik::IPlugIn>(rig_.Only().Host().CreateObject(keld::ClassIdentifiers::kPlugin));
     orvik::Required(plugIn).Initialize(nullptr);
@@ -52,6 +55,21 @@ class LargeDocument {
     return document;
   }
 
+  /// The least that judging and that loading took.
+  std::pair<double, double> SecondsToJudgeAndLoad() {
+    const auto document = Open();
+    if (bench::judge::Judge(*document, *rig_.Only().Host().Elements()).outcome !=
+        bench::judge::Outcome::kPassed)
+      throw std::runtime_error("the document has not passed as it was measured");
+    const auto [judged, loaded] = LeastOfEach(
+        kJudgeRounds,
+        [&] {
+          return SecondsOf([&] { return bench::judge::Judge(*document, *rig_.Only().Host().Elements()); });
+        },
+        [&] { return SecondsOf([&] { return Open(); }); });
+    return {judged, loaded};
+  }
+
  private:
   VirtualRig rig_;
   const MeasuredDocument measured_;
@@ -68,7 +86,7 @@ Figure MeasureDocumentLoad(const Context& context) {
       [&] {
         return SecondsInOwnProcess([&] { return SecondsOf([&] { return ReadAndVisited(large.File()); }); });
       });
-  return {ours / yardstick, "x", yardstick, "the XML library alone, in s", 2, Bound::kAtMost};
+  return {ours / yardstick, "x", yardstick, "the XML library alone, in s", 3, Bound::kAtMost};
 }
 
 // Into memory on both sides: the disk takes what it takes.
@@ -79,7 +97,23 @@ Figure MeasureDocumentSave(const Context& context) {
   const auto [ours, yardstick] = LeastOfEach(
       kRounds, [&] { return SecondsOf([&] { return document->Text(); }); },
       [&] { return SecondsOf([&] { return Written(*tree); }); });
-  return {ours / yardstick, "x", yardstick, "the XML library alone, in s", 2, Bound::kAtMost};
+  return {ours / yardstick, "x", yardstick, "the XML library alone, in s", 3, Bound::kAtMost};
+}
+
+// Beside the loading of the same document, in one process.
+Figure MeasureJudge(const Context& context) {
+  LargeDocument large(context);
+  const auto [ours, yardstick] = large.SecondsToJudgeAndLoad();
+  return {ours / yardstick, "x", yardstick, "loading the document, in s", 0.5, Bound::kAtMost};
+}
+
+// The time for an element in a document of 100,000, beside that in one of 10,000.
+Figure MeasureJudgeGrowth(const Context& context) {
+  LargeDocument large(context);
+  LargeDocument small(context, kLargeResults / 10);
+  const auto ofLarge = large.SecondsToJudgeAndLoad().first / kLargeResults;
+  const auto ofSmall = small.SecondsToJudgeAndLoad().first / (kLargeResults / 10);
+  return {ofLarge / ofSmall, "x", ofSmall * 1e6, "an element of 10,000, in us", 2, Bound::kAtMost};
 }
 
 }  // namespace benchmarks

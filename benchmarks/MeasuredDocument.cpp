@@ -4,8 +4,26 @@
 #include <stdexcept>
 
 #include "benchmarks/ChildProcess.h"
+#include "host/document/RunXml.h"
 
 namespace benchmarks {
+
+namespace {
+
+/// Has the run take up and finish so many elements, each as it did the first.
+void RecordAll(pugi::xml_node run, int count) {
+  std::string taken;
+  const auto test = run.child("Test");
+  for (int id = 1; id <= count; ++id) {
+    taken += (id == 1 ? "" : " ") + std::to_string(id);
+    run.append_copy(test).attribute("Element").set_value(id);
+  }
+  run.remove_child(test);
+  run.child("Takes").attribute("Elements").set_value(taken.c_str());
+  run.attribute("Digest").set_value(bench::DigestOf(run).c_str());
+}
+
+}  // namespace
 
 MeasuredDocument::MeasuredDocument(const Context& context) : context_(context) {
   Bench({"new", one_, "--add", "410", "--asset", "VENT-0042"});
@@ -28,6 +46,7 @@ std::filesystem::path MeasuredDocument::Times(int count) const {
   if (!element.child("ResultItem")) throw std::runtime_error("the element was not measured");
   for (int id = 1; id <= count; ++id) elements.append_copy(element).attribute("ID").set_value(id);
   elements.remove_child(element);
+  RecordAll(xml.document_element().child("Runs").child("Run"), count);
   const auto to = folder_.Path() / (std::to_string(count) + ".orvik");
   if (!xml.save_file(to.c_str(), "  ")) throw std::runtime_error(to.string() + " cannot be written");
   return to;

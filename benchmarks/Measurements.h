@@ -17,6 +17,8 @@ Figure MeasureCatalogueTime(const Context& context);
 Figure MeasureCatalogueMemory(const Context& context);
 Figure MeasureDocumentLoad(const Context& context);
 Figure MeasureDocumentSave(const Context& context);
+Figure MeasureJudge(const Context& context);
+Figure MeasureJudgeGrowth(const Context& context);
 Figure MeasureResultView(const Context& context);
 Figure MeasureLibrarySize(const Context& context);
 Figure MeasureStart(const Context& context);

@@ -16,6 +16,8 @@ const std::vector<Benchmark>& AllBenchmarks() {
       {"catalogue-memory", "what each of those elements holds", MeasureCatalogueMemory},
       {"document-load", "a document with 100,000 results opened", MeasureDocumentLoad},
       {"document-save", "the same document written out", MeasureDocumentSave},
+      {"judge", "the same document judged", MeasureJudge},
+      {"judge-growth", "an element of it beside one of 10,000", MeasureJudgeGrowth},
       {"result-view", "the 100,000th row of the list of results, beside the 100th", MeasureResultView},
       {"library-size", "size of the plug-in library, stripped", MeasureLibrarySize},
       {"html-report", "a document with 1,000 results written as HTML", MeasureHtmlReport},
