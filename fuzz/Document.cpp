@@ -9,6 +9,7 @@
 #include "fuzz/Scratch.h"
 #include "host/app/DocumentJson.h"
 #include "host/app/DocumentText.h"
+#include "host/app/DocumentView.h"
 #include "host/app/report/DocumentReport.h"
 #include "host/document/DocumentCheck.h"
 #include "host/report/HtmlReport.h"
@@ -35,10 +36,37 @@ void CheckFindings(const std::string& text) {
             "a finding says something and stands in the text");
 }
 
+bench::DocumentView View(const Document& document) {
+  return bench::ViewOf(document, fuzz::TheBench().Host());
+}
+
+std::vector<bench::judge::Verdict> VerdictsOf(const bench::DocumentView& view) {
+  std::vector<bench::judge::Verdict> verdicts;
+  for (const auto& element : view.judged.elements) verdicts.push_back(element.verdict);
+  return verdicts;
+}
+
+/// What passed was measured in a run, which is as it was written.
+void CheckJudged(const Document& document, const bench::DocumentView& view) {
+  for (const auto& element : view.judged.elements) {
+    if (element.verdict != bench::judge::Verdict::kPassed) {
+      Require(element.verdict == bench::judge::Verdict::kRecorded || !element.reasons.empty(),
+              "what has not passed says why");
+      continue;
+    }
+    Require(element.run >= 1, "what passed was run");
+    const auto& runs = document.Runs().All();
+    Require(static_cast<std::size_t>(element.run) <= runs.size(), "what passed has a record");
+    Require(runs[static_cast<std::size_t>(element.run) - 1].intact,
+            "what passed has a record that is intact");
+  }
+}
+
 /// Whatever the document holds can be shown, and is text everywhere, never markup.
 void Show(const Document& document) {
   auto& host = fuzz::TheBench().Host();
-  const auto summary = bench::SummaryOf(document, host, bench::NamedStandards(document, host));
+  const auto summary = View(document);
+  CheckJudged(document, summary);
   const auto json = bench::Indented(bench::JsonOf(summary));
   Require(nlohmann::json::accept(json), "shown as JSON it is JSON");
   Require(bench::InvalidUtf8(json) == std::string::npos, "shown as JSON it is UTF-8");
@@ -66,8 +94,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   if (!document) return 0;
 
   const auto saved = document->Text();
-  Require(Opened(scratch.Write("saved.orvik", saved))->Text() == saved,
-          "what was saved and opened again is saved as the same bytes");
+  const auto again = Opened(scratch.Write("saved.orvik", saved));
+  Require(again->Text() == saved, "what was saved and opened again is saved as the same bytes");
+  Require(VerdictsOf(View(*again)) == VerdictsOf(View(*document)),
+          "what was saved and opened again counts for the same");
   Show(*document);
   return 0;
 }

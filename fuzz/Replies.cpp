@@ -5,29 +5,20 @@
 // sequence.
 #include <algorithm>
 #include <cmath>
-#include <cstdlib>
 
-#include "OrvikTypeLib/ILimit.h"
-#include "OrvikTypeLib/ILimitData.h"
-#include "OrvikTypeLib/IStandard.h"
-#include "OrvikTypeLib/IStandardColl.h"
-#include "OrvikTypeLib/ITestContainer.h"
 #include "fuzz/Bench.h"
 #include "fuzz/Promise.h"
-#include "host/document/Document.h"
-#include "host/instruments/InstrumentColl.h"
-#include "host/run/AutoOperator.h"
-#include "host/run/DocumentRunner.h"
-#include "host/run/ElementSummary.h"
+#include "host/judge/CaseOf.h"
 #include "host/serial/Message.h"
+#include "tests/support/RunParts.h"
 
 namespace {
 
+using bench::judge::JudgedElement;
+using bench::judge::Verdict;
 using fuzz::Require;
 
-constexpr char kName[] = "IEC 62353";
 constexpr int kHighest = 300;  // mOhm
-enum Status { kPassed = 1, kNotApplicable = 3 };
 
 /// Answers each command with the next piece of the input.
 class Answers {
@@ -81,30 +72,17 @@ std::shared_ptr<bench::Document> NewDocument(bool sequence) {
   auto document = bench::Document::Create(host.SharedHost(), host.Folder() / "run.orvik");
   document->AddTest(sequence ? 400 : 410);
   for (const std::int32_t id : sequence ? std::vector{2, 3} : std::vector{1})
-    document->Find(id)->Limits()->CreateStandard(kName, "")->Limit(1)->SetBounds("",
-                                                                                 std::to_string(kHighest));
-  const auto selected = orvik::As<orvik::IStandard>(host.Host().CreateObject(orvik::HostClasses::kStandard));
-  selected->Initialize(kName, "", 1);
-  document->Standards()->Add(selected);
+    support::SetLimit(*document, host.Host(), id, "", std::to_string(kHighest));
   return document;
-}
-
-std::vector<std::shared_ptr<orvik::ITestElement>> TopOf(const bench::Document& document) {
-  return {document.Elements()->item(1)};
 }
 
 void Run(bench::Document& document, const std::string& input) {
   auto& bench = fuzz::TheBench();
   Answers answers(input);
   bench.Line().AnswerBy([&](const std::string& command) { answers.To(command); });
-  bench::DoubtTracker doubts(*bench.Ports().TheWire());
-  bench::LinkWatch link(bench.Ports());
-  bench::StopRequest stop;
-  const auto controller = std::make_shared<bench::RunController>(
-      bench::RunController::Parts{document.Standards(), document.Instruments(), *bench.Host().Elements(),
-                                  doubts, [&] { document.Text(); }});
-  bench::AutoOperator person(bench.Only().SharedApplication(), stop);
-  bench::DocumentRunner(controller, link, stop).Run(TopOf(document));
+  support::RunParts parts(bench.Ports(), document);
+  parts.save = [&] { document.Text(); };
+  parts.RunByProgram(bench.Only().SharedApplication());
   bench.Line().AnswerBy([](const std::string&) {});
 }
 
@@ -131,36 +109,25 @@ bool CameReading(std::int32_t testId) {
   });
 }
 
-/// An error reply holds its number alone, or behind another parameter.
-bool CameNoSuchTest() {
-  constexpr int kNoSuchTest = 6002;
-  return Came("ERRM", [](const std::vector<std::string>& parameters) {
-    if (parameters.empty()) return false;
-    const auto& number = parameters[parameters.size() == 1 ? 0 : 1];
-    return std::nearbyint(std::strtod(number.c_str(), nullptr)) == kNoSuchTest;
-  });
-}
-
 /// A verdict that counts is the tester's own.
-void CheckElement(const bench::ElementSummary& element) {
-  if (element.sequence || !element.CountsAsDone()) return;
-  if (element.status == kNotApplicable) {
-    Require(CameNoSuchTest(), "a test is not applicable when the tester says so");
-    return;
-  }
-  Require(element.status == kPassed, "what counts as done has passed or is not applicable");
+void CheckElement(const JudgedElement& element) {
+  Require(element.verdict == Verdict::kPassed || !element.reasons.empty(), "what has not passed says why");
+  if (element.group || !bench::judge::IsDone(element.verdict)) return;
+  Require(element.verdict == Verdict::kPassed, "a test with a limit that is done has passed");
   const auto& measured = element.measurement;
   Require(measured && measured->value && std::isfinite(*measured->value), "what passed was measured");
   Require(measured->flags.empty() && measured->unit == "mOhm", "what passed was measured in its unit");
   Require(*measured->value <= kHighest, "what passed keeps its limit");
+  Require(element.value && element.judged, "what passed was judged by the tester's own words");
   Require(CameReading(element.testId), "what passed came over the wire");
 }
 
-void CheckOutcome(const std::vector<bench::ElementSummary>& elements) {
-  const bool allDone =
-      std::all_of(elements.begin(), elements.end(),
-                  [](const bench::ElementSummary& element) { return element.CountsAsDone(); });
-  Require((bench::OutcomeOf(elements) == bench::Outcome::kPassed) == allDone,
+void CheckOutcome(const bench::judge::JudgedDocument& judged) {
+  const auto& elements = judged.elements;
+  const bool allDone = std::all_of(elements.begin(), elements.end(), [](const JudgedElement& element) {
+    return bench::judge::IsDone(element.verdict);
+  });
+  Require((judged.outcome == bench::judge::Outcome::kPassed) == allDone,
           "a document has passed when all of it has");
   for (const auto& element : elements) CheckElement(element);
 }
@@ -183,10 +150,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   Require(!bench.Line().Line()->Connected(), "no port stays open");
   Require(bench.Application().Forms().empty(), "no window stays open");
 
-  const auto summary = [&] {
-    return bench::Summarise(TopOf(*document), *bench.Host().Elements(), document->Standards());
-  };
-  CheckOutcome(summary());
+  CheckOutcome(bench::judge::Judge(*document, *bench.Host().Elements()));
   const auto saved = document->Text();
   LetTimePass();
   Require(document->Text() == saved, "what comes after the run changes nothing");
