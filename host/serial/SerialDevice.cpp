@@ -12,6 +12,7 @@
 
 #include "OrvikTypeLib/HostError.h"
 #include "host/serial/LineMode.h"
+#include "host/serial/OutputQueue.h"
 #include "host/services/FileErrors.h"
 #include "host/services/SystemError.h"
 #include "host/services/Tr.h"
@@ -111,9 +112,13 @@ SerialDevice::ReadOutcome SerialDevice::Read(char* buffer, std::size_t room, std
 
 void SerialDevice::Close() {
   if (!descriptor_) return;
-  int unsent = 0;
-  // Closing would wait for bytes that a stuck line does not take.
-  if (ioctl(descriptor_.Get(), TIOCOUTQ, &unsent) == 0 && unsent > 0) tcflush(descriptor_.Get(), TCOFLUSH);
+  const int descriptor = descriptor_.Get();
+  const auto unsent = [descriptor] {
+    int bytes = 0;
+    return ioctl(descriptor, TIOCOUTQ, &bytes) == 0 ? bytes : 0;
+  };
+  // Closing would wait without end for bytes that a stuck line does not take.
+  if (!AwaitEmptyQueue(unsent, [] { poll(nullptr, 0, 1); })) tcflush(descriptor, TCOFLUSH);
   if (exclusive_) ioctl(descriptor_.Get(), TIOCNXCL);
   descriptor_.Reset();
 }

@@ -34,6 +34,7 @@ class SerialDevice {
   /// Reads what has come in, at most `room` bytes of it; `count` tells how many. A hang-up is a failure.
   ReadOutcome Read(char* buffer, std::size_t room, std::size_t& count);
 
+  /// Gives what was written a tenth of a second to go out, and discards the rest.
   void Close();
 
  private:

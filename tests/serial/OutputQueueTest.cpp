@@ -1,0 +1,41 @@
+#include <gtest/gtest.h>
+
+#include "host/serial/OutputQueue.h"
+
+namespace bench {
+namespace {
+
+/// A queue that sends one byte in each pause.
+struct Queue {
+  int unsent = 0;
+  int pauses = 0;
+
+  bool Await(int sentAtOnce = 1) {
+    return AwaitEmptyQueue([this] { return unsent; },
+                           [this, sentAtOnce] {
+                             unsent -= sentAtOnce;
+                             ++pauses;
+                           });
+  }
+};
+
+TEST(OutputQueue, NothingIsWaitedForWhenItIsEmpty) {
+  Queue queue;
+  EXPECT_TRUE(queue.Await());
+  EXPECT_EQ(queue.pauses, 0);
+}
+
+TEST(OutputQueue, IsWaitedForUntilItIsEmpty) {
+  Queue queue{7};
+  EXPECT_TRUE(queue.Await());
+  EXPECT_EQ(queue.pauses, 7);
+}
+
+TEST(OutputQueue, IsGivenUpWhenTheLineTakesNothing) {
+  Queue queue{1};
+  EXPECT_FALSE(queue.Await(0));
+  EXPECT_EQ(queue.pauses, kLooksAtQueue);
+}
+
+}  // namespace
+}  // namespace bench
