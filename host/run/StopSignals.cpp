@@ -1,7 +1,6 @@
 #include "host/run/StopSignals.h"
 
 #include <atomic>
-#include <csignal>
 #include <utility>
 
 #include "host/toolkit/headless/Application.h"
@@ -21,13 +20,6 @@ void Handle(int signal) {
   if (auto* application = signalReceiver.load()) application->Wake();
 }
 
-void Install(int signal, void (*handler)(int)) {
-  struct sigaction action {};
-  action.sa_handler = handler;
-  sigemptyset(&action.sa_mask);
-  sigaction(signal, &action, nullptr);
-}
-
 /// Whether the program was started as one that outlives its terminal, as by "nohup".
 bool OutlivesItsTerminal() {
   struct sigaction action {};
@@ -42,16 +34,21 @@ StopSignals::StopSignals(headless::Application& application, std::function<void(
   signalReceiver.store(&application);
   for (const int signal : kSignals) {
     if (signal == SIGHUP && OutlivesItsTerminal()) continue;
-    handled_.push_back(signal);
     Install(signal, &Handle);
   }
   Install(SIGPIPE, SIG_IGN);
 }
 
 StopSignals::~StopSignals() {
-  for (const int signal : handled_) Install(signal, SIG_DFL);
-  Install(SIGPIPE, SIG_DFL);
+  for (const auto& [signal, action] : before_) sigaction(signal, &action, nullptr);
   signalReceiver.store(nullptr);
+}
+
+void StopSignals::Install(int signal, void (*handler)(int)) {
+  struct sigaction action {};
+  action.sa_handler = handler;
+  sigemptyset(&action.sa_mask);
+  sigaction(signal, &action, &before_.emplace_back(signal, action).second);
 }
 
 void StopSignals::Deliver() {

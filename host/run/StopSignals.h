@@ -1,6 +1,8 @@
 #pragma once
 
+#include <csignal>
 #include <functional>
+#include <utility>
 #include <vector>
 
 #include "platform/Event.h"
@@ -13,7 +15,8 @@ class Application;
 
 /// Turns SIGINT, SIGTERM and SIGHUP into calls on the user-interface thread, for as long as it lives. One for
 /// the process. A SIGHUP that the program was told to ignore, as by "nohup", stays ignored. A reader of the
-/// output who has gone does not end the program meanwhile.
+/// output who has gone does not end the program meanwhile. Then each signal does again what it did
+/// before.
 class StopSignals {
  public:
   /// `stop` is called while messages are processed, with the number of the signal: for every signal once.
@@ -23,10 +26,11 @@ class StopSignals {
   ~StopSignals();
 
  private:
+  void Install(int signal, void (*handler)(int));
   void Deliver();
 
   std::function<void(int)> stop_;
-  std::vector<int> handled_;
+  std::vector<std::pair<int, struct sigaction>> before_;  ///< what was set for each signal
   orvik::platform::Subscription woken_;
 };
 

@@ -185,6 +185,18 @@ TEST_F(RunCommandTest, ADeviceThatIsHeldIsNamed) {
       << refused.error;
 }
 
+// As "run … | head -2".
+TEST_F(RunCommandTest, AReaderWhoHasGoneLeavesNoSessionOpen) {
+  const auto file = NewDocument({"410", "420"});
+  std::string line = ORVIK_BENCH_PATH;
+  for (const auto& word : Simulated(file, "sound-class-1", {"--events"})) line += " '" + word + "'";
+  RunningProgram("/bin/sh", {"-c", line + " | head -2"}).Wait();
+  const auto sent = SentIn(file + ".wire.log");
+  ASSERT_FALSE(sent.empty());
+  EXPECT_EQ(sent.back(), "EREM");
+  EXPECT_EQ(Show(file)["elements"][1]["statusText"], "passed");
+}
+
 TEST_F(RunCommandTest, AWireLogThatCannotBeWrittenIsReported) {
   const auto file = NewDocument({"410"});
   SetLimit(file, "1", "300");
