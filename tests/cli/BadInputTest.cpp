@@ -116,6 +116,9 @@ INSTANTIATE_TEST_SUITE_P(
                  {"--options 9000"}},
         BadInput{
             "ConfigFilter", {"config", "@d.orvik", "--element", "1", "--filter", "Best"}, {"--filter Best"}},
+        BadInput{"ConfigEmptyFilter",
+                 {"config", "@d.orvik", "--element", "1", "--filter", ""},
+                 {"--filter : ", "Maximum value"}},
         BadInput{"RunWithoutTester", {"run", "@d.orvik"}, {"--port", "--simulate"}},
         BadInput{"RunWithTwoTesters", {"run", "@d.orvik", "--port", "/dev/null", "--simulate"}, {"--port"}},
         BadInput{

@@ -91,6 +91,12 @@ class CliTest : public testing::Test {
     return sent;
   }
 
+  /// The text of the command that was sent in that place, from 0; empty when there were fewer.
+  static std::string SentIn(const std::string& wireLog, std::size_t place) {
+    const auto sent = SentIn(wireLog);
+    return place < sent.size() ? sent[place] : "";
+  }
+
   support::TemporaryFolder folder_;
 };
 

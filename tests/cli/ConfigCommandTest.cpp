@@ -33,7 +33,7 @@ TEST_F(ConfigCommandTest, TheLeadThatIsNamedIsMeasured) {
   EXPECT_EQ(Config(file, {"--options", "4104"}),
             "element 1: options 4104 (leads: 2 (set too, but not measured: all); buttons: none)\n");
   Bench(Simulated(file, "sound-class-1"));
-  EXPECT_EQ(SentIn(file + ".wire.log")[1], "STST,910,2");
+  EXPECT_EQ(SentIn(file + ".wire.log", 1), "STST,910,2");
 }
 
 TEST_F(ConfigCommandTest, ButtonsAreAllowedAndTakenBack) {

@@ -132,7 +132,7 @@ ExitStatus ConfigCommand::Run(const GlobalOptions& options) {
   configuration->Load(wanted.Node());
   // What the element now says of itself is what it has taken.
   const auto taken = SettingsOf(*configuration);
-  if (Given(kFilter) && taken.Settings()->Attribute(SavedSettings::kFilter) != filter_)
+  if (Given(kFilter) && (filter_.empty() || taken.Settings()->Attribute(SavedSettings::kFilter) != filter_))
     throw InputError(
         Tr("--filter %%1: give \"No values\", \"All values\", \"Maximum value\" or \"Minimum value\"",
            {filter_}));
