@@ -1,8 +1,11 @@
 #include "host/app/CatalogueEntries.h"
 
+#include <limits>
+
 #include "OrvikTypeLib/As.h"
 #include "OrvikTypeLib/ILimit.h"
 #include "OrvikTypeLib/ILimitData.h"
+#include "OrvikTypeLib/IPicture.h"
 #include "OrvikTypeLib/IStandard.h"
 #include "OrvikTypeLib/ITestContainer.h"
 #include "OrvikTypeLib/ITestEnumerator.h"
@@ -23,6 +26,13 @@ std::string UnitOf(orvik::IPlugIn& plugIn, std::int32_t testId) {
 }
 
 }  // namespace
+
+std::vector<std::byte> PictureOf(Workbench& workbench, std::int32_t testId) {
+  constexpr std::int16_t kSmall = 0;
+  if (testId > std::numeric_limits<std::int16_t>::max() || testId < 1) return {};
+  const auto picture = workbench.PlugIn().Icon(static_cast<std::int16_t>(testId), kSmall);
+  return picture ? picture->Bitmap() : std::vector<std::byte>();
+}
 
 std::vector<CatalogueEntry> CatalogueEntries(Workbench& workbench) {
   struct Level {

@@ -19,6 +19,9 @@ struct CatalogueEntry {
   std::string unit;  ///< that its readings are recorded in; empty for a sequence
 };
 
+/// The bitmap file of the test's small picture; empty when the plug-in has none.
+std::vector<std::byte> PictureOf(Workbench& workbench, std::int32_t testId);
+
 /// The catalogue's entries in its order, parents before children.
 std::vector<CatalogueEntry> CatalogueEntries(Workbench& workbench);
 

@@ -2,6 +2,7 @@
 
 #include <QDialogButtonBox>
 #include <QHeaderView>
+#include <QIcon>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -14,6 +15,7 @@
 
 #include "host/desktop/Shown.h"
 #include "host/services/Tr.h"
+#include "host/toolkit/qt/Pictures.h"
 #include "host/toolkit/qt/Texts.h"
 
 namespace bench::desktop {
@@ -99,6 +101,14 @@ void AddTestsDialog::GrowToNames() {
   resize(std::clamp(wanted, kCatalogueSize.width(),
                     std::max(kCatalogueSize.width(), screen()->availableSize().width())),
          kCatalogueSize.height());
+}
+
+void AddTestsDialog::ShowPictures(
+    const std::function<std::vector<std::byte>(std::int32_t testId)>& pictureOf) {
+  for (auto* row : rows_) {
+    const auto picture = qt::PictureOf(pictureOf(row->text(kTestNumber).toInt()));
+    if (!picture.isNull()) row->setIcon(kTestName, QIcon(picture));
+  }
 }
 
 std::vector<std::int32_t> AddTestsDialog::Chosen() const {

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QDialog>
+#include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <vector>
 
 #include "host/app/CatalogueEntries.h"
@@ -17,6 +19,10 @@ namespace bench::desktop {
 class AddTestsDialog : public QDialog {
  public:
   AddTestsDialog(const std::vector<CatalogueEntry>& entries, QWidget* parent);
+
+  /// Shows the picture of each test beside its name.
+  /// @param pictureOf the bitmap file of a test's picture; empty when it has none
+  void ShowPictures(const std::function<std::vector<std::byte>(std::int32_t testId)>& pictureOf);
 
   /// What was chosen, in the catalogue's order. A group stands for all its tests.
   std::vector<std::int32_t> Chosen() const;

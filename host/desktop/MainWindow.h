@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "host/app/TesterConnection.h"
 #include "host/app/run/RunSelection.h"
 #include "host/desktop/Desk.h"
 #include "host/run/DocumentRunner.h"

@@ -84,6 +84,7 @@ void MainWindow::AddTests() {
     throw InputError(Tr(
         "the catalogue has no tests; see error.log in the state folder, or name another with --catalogue"));
   AddTestsDialog dialog(entries, this);
+  dialog.ShowPictures([this](std::int32_t testId) { return PictureOf(desk_.Bench(), testId); });
   if (dialog.exec() != QDialog::Accepted) return;
   const auto last = desk_.AddTests(dialog.Chosen());
   Refresh();

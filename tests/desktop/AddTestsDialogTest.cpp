@@ -3,7 +3,10 @@
 #include <QHeaderView>
 #include <QTreeWidget>
 
+#include "OrvikTypeLib/IPicture.h"
 #include "host/desktop/AddTestsDialog.h"
+#include "host/toolkit/qt/Pictures.h"
+#include "tests/desktop/DesktopTest.h"
 
 namespace desktop_test {
 namespace {
@@ -45,6 +48,22 @@ TEST(AddTestsDialogTest, ANameWiderThanTheScreenKeepsItsEndAndTellsTheRest) {
   EXPECT_EQ(tests.textElideMode(), Qt::ElideMiddle);
   EXPECT_NE(tests.topLevelItem(0)->toolTip(kNameColumn).indexOf(", mains reversed"), -1);
   EXPECT_LT(dialog.width(), 10000);
+}
+
+/// The pictures are the real plug-in's.
+class AddTestsPicturesTest : public DesktopTest {};
+
+TEST_F(AddTestsPicturesTest, StandBesideTheNamesOfTheTests) {
+  AddTestsDialog dialog({Entry(400, 0, "Protective earth"), Entry(410, 400, "With mains cord"),
+                         Entry(99999, 400, "Beyond all numbers of tests")},
+                        nullptr);
+  dialog.ShowPictures([this](std::int32_t id) { return bench::PictureOf(*bench_, id); });
+  const auto& group = *dialog.findChild<QTreeWidget*>("catalogue")->topLevelItem(0);
+  EXPECT_FALSE(group.icon(kNameColumn).isNull());
+  const auto expected = bench::qt::PictureOf(bench_->PlugIn().Icon(410, 0)->Bitmap());
+  ASSERT_FALSE(expected.isNull());
+  EXPECT_EQ(group.child(0)->icon(kNameColumn).pixmap(expected.size()).toImage(), expected.toImage());
+  EXPECT_TRUE(group.child(1)->icon(kNameColumn).isNull());
 }
 
 }  // namespace
