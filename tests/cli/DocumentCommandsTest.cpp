@@ -140,7 +140,7 @@ TEST_F(DocumentCommandsTest, ConfigShowsAndChangesSettings) {
   EXPECT_NE(Bench({"config", file, "--element", "2"}).out.find("Maximum value"), std::string::npos);
   SetWideLimits(file, {"1", "3", "4"});
   EXPECT_EQ(Bench(Simulated(file, "sound-class-1")).status, 0);
-  EXPECT_EQ(SentIn(file + ".wire.log")[1], "STST,910,1");
+  EXPECT_EQ(SentIn(file + ".wire.log", 1), "STST,910,1");
   EXPECT_EQ(Show(file)["elements"][1]["measurement"]["value"], 123.0);
 }
 
@@ -177,6 +177,33 @@ TEST_F(DocumentCommandsTest, ReportWritesWhatWasMeasured) {
   const auto text = Contents(Path("a.txt"));
   for (const char* told : {"A|7;{}", "INCOMPLETE", "SIM-0001", "123 mOhm", "OL", "doubtful", "passed"})
     EXPECT_NE(text.find(told), std::string::npos) << told << " is not in:\n" << text;
+}
+
+// A limit that opening would otherwise drop: the element would count as not tested, without a word.
+TEST_F(DocumentCommandsTest, AFaultInAnElementOfTheRealPlugInIsRefused) {
+  const auto good = Contents(SOURCE_PATH "/tests/archive/finished.orvik");
+  const struct {
+    const char *from, *to, *reason;
+  } kFaults[] = {{"High=\"300\"", "High=\"abc\"", "abc"},
+                 {"ID=\"2\" TestID=\"1010\"", "ID=\"1\" TestID=\"1010\"", "the identifier 1 is used twice"}};
+  for (const auto& [from, to, reason] : kFaults) {
+    auto text = good;
+    const auto at = text.find(from);
+    ASSERT_NE(at, std::string::npos) << from;
+    const auto line = 1 + std::count(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(at), '\n');
+    text.replace(at, std::string(from).size(), to);
+    Write("d.orvik", text);
+    for (const auto* command : {"show", "check"}) {
+      const auto refused = Bench({command, Path("d.orvik")});
+      EXPECT_EQ(refused.status, 3) << command << from;
+      EXPECT_NE((refused.out + refused.error).find("d.orvik, line " + std::to_string(line)),
+                std::string::npos)
+          << refused.out << refused.error;
+      EXPECT_NE((refused.out + refused.error).find(reason), std::string::npos)
+          << refused.out << refused.error;
+    }
+    EXPECT_EQ(Contents(Path("d.orvik")), text);
+  }
 }
 
 TEST_F(DocumentCommandsTest, HelpAndVersionEndWithZero) {
