@@ -9,7 +9,7 @@ namespace bench {
 
 void RefuseControlCharacters(const CLI::App& program) {
   for (const auto* option : program.get_options()) {
-    if (NamesFile(*option) || NamesFolder(*option)) continue;
+    if (NamesFile(*option) || NamesDocument(*option) || NamesFolder(*option)) continue;
     for (const auto& text : option->results()) {
       const auto bad = FindNotPlain(text);
       if (bad != std::string::npos)
