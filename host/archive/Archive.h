@@ -48,9 +48,10 @@ class Archive {
   /// None when there is no such document. `ArchiveError` when its contents are not those that were added.
   std::optional<ArchivedDocument> Find(std::int64_t id);
 
-  /// The readings of the test, in the order of their dates. An element that several revisions of a document
-  /// hold with the same date of run counts once, as in the last one; so does one without a date.
-  Trend TrendOf(const std::string& asset, std::int32_t testId);
+  /// The readings of the test that counted when their documents were added, in the order of their dates. A
+  /// result that several revisions of a document hold of the same run appears once, as in the last one.
+  /// @param simulated whether to give readings of simulated testers instead of real ones
+  Trend TrendOf(const std::string& asset, std::int32_t testId, bool simulated = false);
 
   const std::string& Name() const { return database_->Name(); }
 

@@ -1,4 +1,3 @@
-#include <map>
 #include <string>
 #include <utility>
 
@@ -16,13 +15,27 @@ namespace {
 constexpr char kDate[] = "CASE WHEN d.run_date = '' THEN d.added ELSE d.run_date END";
 
 /// Elements of a document can be run on different days.
-constexpr char kElementDate[] =
-    "CASE WHEN e.run_date <> '' THEN e.run_date WHEN d.run_date <> '' THEN d.run_date ELSE d.added END";
+constexpr char kElementDate[] = "CASE WHEN e.run_date = '' THEN d.added ELSE e.run_date END";
 
-std::optional<ArchivedInstrument> InstrumentOf(RowReader& row) {
+/// What the judge counted when the document was added.
+constexpr char kCurrent[] = "e.run > 0 AND e.verdict <> 'not tested'";
+
+/// The results of test $2 of asset $1, each as in the last revision that holds it.
+constexpr char kFromResults[] =
+    " FROM orvik_documents d JOIN orvik_elements e ON e.document_id = d.id"
+    " LEFT JOIN orvik_measurements m ON m.document_id = e.document_id AND m.position = e.position"
+    " WHERE substr(d.asset, 1, 100) = substr($1, 1, 100) AND d.asset = $1 AND e.test_id = $2"
+    " AND NOT EXISTS (SELECT 1 FROM orvik_documents r JOIN orvik_elements f ON f.document_id = r.id"
+    " WHERE r.document_key = d.document_key AND r.revision > d.revision"
+    " AND f.element_id = e.element_id AND f.run = e.run AND f.run_date = e.run_date) AND ";
+
+std::optional<RecordedTester> InstrumentOf(RowReader& row) {
   const auto& type = row.Next();
   if (!std::holds_alternative<std::string>(type)) return {};
-  return ArchivedInstrument{std::get<std::string>(type), row.Text(), row.Text(), row.Small()};
+  RecordedTester tester{std::get<std::string>(type), row.Text(), row.Text(), row.Small(), {}};
+  // Archives of before did not keep it.
+  if (const auto* calibrated = std::get_if<std::string>(&row.Next())) tester.leadsMeasured = *calibrated;
+  return tester;
 }
 
 std::vector<ArchivedElement> ElementsOf(Database& database, std::int64_t id) {
@@ -72,7 +85,7 @@ std::optional<ArchivedDocument> Archive::Find(std::int64_t id) {
   const auto found =
       database_->Run(std::string("SELECT ") + rows::kEntryColumns +
                          ", c.contents, d.instrument_type, d.instrument_serial, d.instrument_firmware,"
-                         " d.instrument_calibration FROM orvik_documents d"
+                         " d.instrument_calibration, d.instrument_calibrated FROM orvik_documents d"
                          " JOIN orvik_contents c ON c.document_id = d.id WHERE d.id = $1",
                      {id});
   if (found.empty()) return {};
@@ -92,30 +105,31 @@ std::optional<ArchivedDocument> Archive::Find(std::int64_t id) {
   return document;
 }
 
-Trend Archive::TrendOf(const std::string& asset, std::int32_t testId) {
+Trend Archive::TrendOf(const std::string& asset, std::int32_t testId, bool simulated) {
   Transaction transaction(*database_, Database::Use::kRead);
-  Trend trend{asset, testId, {}};
-  const auto found = database_->Run(
-      std::string("SELECT e.document_id, e.position, ") + kElementDate +
-          ", CASE WHEN e.run_date = '' THEN d.run_date ELSE e.run_date END, d.serial, " +
-          rows::kElementColumns +
-          " FROM orvik_documents d JOIN orvik_elements e ON e.document_id = d.id"
-          " LEFT JOIN orvik_measurements m ON m.document_id = e.document_id AND m.position = e.position"
-          " WHERE substr(d.asset, 1, 100) = substr($1, 1, 100) AND d.asset = $1 AND e.test_id = $2"
-          " AND (e.status <> 0 OR m.position IS NOT NULL)"
-          " AND NOT EXISTS (SELECT 1 FROM orvik_documents r JOIN orvik_elements f ON f.document_id = r.id"
-          " WHERE r.document_key = d.document_key AND r.revision > d.revision"
-          " AND f.element_id = e.element_id AND f.run_date = e.run_date)"
-          " ORDER BY " +
-          kElementDate + ", d.id, e.position",
-      {asset, std::int64_t{testId}});
-  for (const auto& values : found) {
-    RowReader row(values);
+  const std::vector<Value> values = {asset, std::int64_t{testId}};
+  const auto ofKind = [](bool kind) {
+    return std::string(kCurrent) + " AND d.simulated = " + (kind ? "1" : "0");
+  };
+  const auto count = [&](const std::string& condition) {
+    const auto found = database_->Run("SELECT COUNT(*)" + (kFromResults + condition), values);
+    return static_cast<std::size_t>(RowReader(found.at(0)).Whole());
+  };
+  Trend trend{asset, testId, simulated, {}, 0, 0};
+  trend.otherKind = count(ofKind(!simulated));
+  trend.notCurrent = count("e.run = 0 AND e.status <> 0");
+  for (const auto& found :
+       database_->Run(std::string("SELECT e.document_id, e.position, ") + kElementDate +
+                          ", e.run_date, d.added, d.serial, " + rows::kElementColumns + kFromResults +
+                          ofKind(simulated) + " ORDER BY " + kElementDate + ", d.id, e.position",
+                      values)) {
+    RowReader row(found);
     TrendPoint point;
     point.document = row.Whole();
     const auto position = row.Whole();
     point.date = row.Text();
     point.dated = !row.Text().empty();
+    point.added = row.Text();
     point.serial = row.Text();
     point.element = rows::ElementOf(row);
     rows::ReadDetails(*database_, point.document, position, point.element);

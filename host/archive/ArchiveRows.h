@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <map>
 #include <string>
 
 #include "host/archive/ArchivedDocument.h"
@@ -9,7 +8,7 @@
 
 namespace bench::rows {
 
-/// How documents stand in the tables of `Schema.h`.
+/// Documents in the tables of `Schema.h`.
 
 /// Writes all rows of a document with its identifier, revision and hash.
 void Insert(Database& database, const ArchivedDocument& document, const std::string& key);
@@ -22,7 +21,7 @@ ArchiveEntry EntryOf(RowReader& row);
 extern const char* const kElementColumns;
 ArchivedElement ElementOf(RowReader& row);
 
-/// Gives an element what stands in rows of their own: limits, doubts, standards that it fails.
+/// Adds what an element has in rows of their own: limits and reasons.
 void ReadDetails(Database& database, std::int64_t document, std::int64_t position, ArchivedElement& element);
 
 }  // namespace bench::rows

@@ -3,12 +3,19 @@
 namespace bench {
 
 bool TrendPoint::Overloaded() const {
-  const auto& measurement = element.summary.measurement;
-  return measurement && measurement->flags.find('O') != std::string::npos;
+  const auto& measurement = element.result.measurement;
+  return measurement && measurement->Overloaded();
 }
 
-bool TrendPoint::HasValue() const {
-  return element.summary.measurement && element.summary.measurement->value && !Overloaded();
+std::optional<double> TrendPoint::Value() const {
+  const auto& measurement = element.result.measurement;
+  return measurement && !Overloaded() ? measurement->value : std::nullopt;
+}
+
+std::string TrendPoint::Unit() const {
+  const auto& measurement = element.result.measurement;
+  if (!measurement) return {};
+  return measurement->unit.empty() ? element.result.unit : measurement->unit;
 }
 
 }  // namespace bench

@@ -4,7 +4,6 @@
 #include <span>
 
 #include "host/archive/ArchiveError.h"
-#include "host/archive/SavedRunMarks.h"
 #include "host/services/Tr.h"
 
 namespace bench::schema {
@@ -66,30 +65,40 @@ constexpr const char* kSecond[] = {
     "CREATE INDEX orvik_elements_by_test ON orvik_elements (test_id, document_id)",
 };
 
-void DoNothing(Database&) {}
-
-/// Version 1 left it to the document's text when and by whom each element was run.
-void TakeRunMarks(Database& database) {
-  for (const auto& row : database.Run("SELECT document_id FROM orvik_contents ORDER BY document_id", {})) {
-    const auto id = RowReader(row).Whole();
-    const auto contents =
-        database.Run("SELECT contents FROM orvik_contents WHERE document_id = $1", {id}).at(0).at(0);
-    const auto marks = SavedRunMarks(std::get<Bytes>(contents).data);
-    database.Run("UPDATE orvik_documents SET operator = $1 WHERE id = $2", {Operators(marks), id});
-    for (const auto& [element, mark] : marks)
-      database.Run(
-          "UPDATE orvik_elements SET run_date = $1, operator = $2 WHERE document_id = $3 AND element_id = $4",
-          {mark.date, mark.by, id, std::int64_t{element}});
-  }
-}
-
-/// What brings an archive from the version before to the next.
-struct Step {
-  std::span<const char* const> statements;
-  void (*after)(Database&);
+// Results are kept as the judge had them when the document was added. Those of before were not recorded by a
+// run: they are kept, but do not count, and neither does what was noted against them.
+constexpr const char* kThird[] = {
+    "ALTER TABLE orvik_documents ADD COLUMN comment TEXT NOT NULL DEFAULT ''",
+    "ALTER TABLE orvik_documents ADD COLUMN simulated BIGINT NOT NULL DEFAULT 0",
+    "ALTER TABLE orvik_documents ADD COLUMN run BIGINT NOT NULL DEFAULT 0",
+    "ALTER TABLE orvik_documents ADD COLUMN instrument_calibrated TEXT",
+    "UPDATE orvik_documents SET outcome = 'incomplete', finished = 0",
+    "ALTER TABLE orvik_elements RENAME COLUMN recorded_only TO record_only",
+    "ALTER TABLE orvik_elements ADD COLUMN verdict TEXT NOT NULL DEFAULT 'not tested'",
+    "ALTER TABLE orvik_elements ADD COLUMN judged BIGINT NOT NULL DEFAULT 0",
+    "ALTER TABLE orvik_elements ADD COLUMN run BIGINT NOT NULL DEFAULT 0",
+    // As the record has it; run_date is the same moment in UTC.
+    "ALTER TABLE orvik_elements ADD COLUMN run_at TEXT NOT NULL DEFAULT ''",
+    "ALTER TABLE orvik_elements ADD COLUMN value DOUBLE PRECISION",
+    "ALTER TABLE orvik_elements ADD COLUMN unit TEXT NOT NULL DEFAULT ''",
+    "UPDATE orvik_elements SET record_only = 0, run_date = '', operator = ''",
+    "ALTER TABLE orvik_limits ADD COLUMN selected BIGINT NOT NULL DEFAULT 1",
+    "ALTER TABLE orvik_limits ADD COLUMN verdict TEXT NOT NULL DEFAULT 'not applied'",
+    "ALTER TABLE orvik_limits ADD COLUMN value DOUBLE PRECISION",
+    // Argument 0 is the reason's code.
+    "CREATE TABLE orvik_reasons ("
+    " document_id BIGINT NOT NULL, position BIGINT NOT NULL, number BIGINT NOT NULL, argument BIGINT NOT "
+    "NULL,"
+    " text TEXT NOT NULL, PRIMARY KEY (document_id, position, number, argument),"
+    " FOREIGN KEY (document_id, position) REFERENCES orvik_elements (document_id, position))",
+    "INSERT INTO orvik_reasons (document_id, position, number, argument, text)"
+    " SELECT document_id, position, 1, 0, CASE WHEN status = 0 THEN 'never-run' ELSE 'not-recorded' END"
+    " FROM orvik_elements",
+    "DROP TABLE orvik_notes",
 };
 
-constexpr std::array<Step, kVersion> kSteps = {Step{kFirst, DoNothing}, Step{kSecond, TakeRunMarks}};
+/// The statements that bring an archive from the version before to the next.
+constexpr std::array<std::span<const char* const>, kVersion> kSteps = {kFirst, kSecond, kThird};
 
 /// 0 where there is no archive yet.
 std::int64_t VersionOf(Database& database) {
@@ -120,9 +129,7 @@ void BringUpTo(Database& database, std::int64_t version) {
   Transaction transaction(database, Database::Use::kWrite);
   // Another program may have done it meanwhile.
   for (auto done = VersionOf(database); done < version; ++done) {
-    const auto& step = kSteps.at(static_cast<std::size_t>(done));
-    for (const auto* statement : step.statements) database.Run(statement, {});
-    step.after(database);
+    for (const auto* statement : kSteps.at(static_cast<std::size_t>(done))) database.Run(statement, {});
     database.Run("UPDATE orvik_archive_version SET version = $1", {done + 1});
   }
   transaction.Commit();

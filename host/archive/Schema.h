@@ -10,10 +10,10 @@ namespace bench {
 namespace schema {
 
 /// The version that this program reads and writes.
-inline constexpr std::int64_t kVersion = 2;
+inline constexpr std::int64_t kVersion = 3;
 
-/// Lays out an archive where there is none, and brings an older one up, both in one transaction: whoever
-/// comes between sees it as it was. `ArchiveError` for one that is newer, and for a database that holds
+/// Lays out an archive where there is none, and brings an older one up, both in one transaction: other
+/// programs see it as it was until then. `ArchiveError` for one that is newer, and for a database that holds
 /// something else; both are left as they are.
 void BringUp(Database& database);
 

@@ -21,7 +21,7 @@ namespace {
 // The page, in units of about a point.
 constexpr double kWidth = 900, kLeft = 80, kRight = 780, kTop = 90, kBottom = 420, kLine = 20;
 constexpr double kLegendTop = kBottom + 70;
-constexpr char kInk[] = "#222222", kFaint[] = "#dddddd", kGreen[] = "#1a7f37";
+constexpr char kInk[] = "#222222", kFaint[] = "#dddddd", kGreen[] = "#1a7f37", kWarning[] = "#b00020";
 constexpr std::array<const char*, 6> kDashes = {"none", "8 4", "2 3", "12 3 2 3", "5 2", "1 5"};
 
 /// What is drawn of a reading.
@@ -41,10 +41,9 @@ std::string LetterOf(std::size_t index) {
 }
 
 std::string ReadingText(const TrendPoint& point) {
-  const auto& measurement = point.element.summary.measurement;
   if (point.Overloaded()) return "OL";
-  if (!point.HasValue()) return "-";
-  return NumberText(*measurement->value) + " " + measurement->unit;
+  const auto value = point.Value();
+  return value ? NumberText(*value) + " " + point.Unit() : "-";
 }
 
 class Chart {
@@ -85,16 +84,15 @@ class Chart {
   /// That of the last reading with a value, or else of the last overload; the others are told in it.
   void ChooseUnit() {
     for (const auto& point : trend_.points)
-      if (point.Overloaded()) unit_ = point.element.summary.measurement->unit;
+      if (point.Overloaded()) unit_ = point.Unit();
     for (const auto& point : trend_.points)
-      if (point.HasValue()) unit_ = point.element.summary.measurement->unit;
+      if (point.Value()) unit_ = point.Unit();
   }
 
   void Take(const TrendPoint& point) {
     const auto at = IsoMoment(point.date);
-    const auto& measurement = point.element.summary.measurement;
-    std::optional<double> value;
-    if (point.HasValue()) value = NumberIn(unit_, *measurement->value, measurement->unit);
+    auto value = point.Value();
+    if (value) value = NumberIn(unit_, *value, point.Unit());
     if (at && (value || point.Overloaded()))
       drawn_.push_back({&point, *at, MarkOf(point), value});
     else
@@ -138,7 +136,7 @@ class Chart {
   }
 
   std::string TestName() const {
-    return trend_.points.empty() ? std::string() : trend_.points.back().element.summary.name;
+    return trend_.points.empty() ? std::string() : trend_.points.back().element.result.name;
   }
 
   std::string Title() const {
@@ -146,7 +144,8 @@ class Chart {
   }
 
   std::string Description() const {
-    std::string text = Tr("%%1 readings drawn over time.", {std::to_string(drawn_.size())});
+    std::string text = trend_.simulated ? SimulatedText() + " " : std::string();
+    text += Tr("%%1 readings drawn over time.", {std::to_string(drawn_.size())});
     for (const auto& drawn : drawn_) text += " " + PointText(drawn) + ".";
     for (const auto& standard : limits_.standards) text += " " + Tr("Limits of %%1.", {standard});
     if (leftOut_ > 0) text += " " + LeftOutText();
@@ -158,10 +157,18 @@ class Chart {
   }
 
   std::string PointText(const Drawn& drawn) const {
-    return Tr("%%1: %%2, %%3", {drawn.point->date, ReadingText(*drawn.point), MarkText(drawn.mark)});
+    return Tr("%%1: %%2, %%3", {drawn.point->date, ReadingText(*drawn.point),
+                                Tr(judge::VerdictText(drawn.point->element.result.verdict))});
+  }
+
+  static std::string SimulatedText() {
+    return Tr("SIMULATED: a simulated tester was used; nothing was measured.");
   }
 
   void DrawHeading() {
+    if (trend_.simulated)
+      svg_.AddText("text", {{"x", kLeft}, {"y", kTop - 14}, {"font-weight", "bold"}, {"fill", kWarning}},
+                   SimulatedText());
     svg_.AddText("text", {{"x", kLeft}, {"y", 30.0}, {"font-size", 18.0}, {"font-weight", "bold"}},
                  Shortened(trend_.asset, 60));
     svg_.AddText("text", {{"x", kLeft}, {"y", 52.0}, {"font-size", 14.0}},
@@ -240,7 +247,7 @@ class Chart {
     std::map<std::int32_t, std::string> paths;
     for (const auto& drawn : drawn_) {
       if (!drawn.value) continue;
-      auto& path = paths[drawn.point->element.summary.id];
+      auto& path = paths[drawn.point->element.result.id];
       path += (path.empty() ? "" : " ") + NumberText(X(drawn.at)) + "," + NumberText(HeightOf(drawn));
     }
     for (const auto& [id, path] : paths)

@@ -28,7 +28,8 @@ std::size_t IndexOf(std::vector<std::string>& texts, const std::string& text) {
 std::vector<LimitStretch> StretchesAt(const TrendPoint& point, const std::string& unit,
                                       std::vector<std::string>& standards) {
   std::vector<LimitStretch> stretches;
-  for (const auto& limit : point.element.limits) {
+  for (const auto& limit : point.element.result.limits) {
+    if (!limit.selected) continue;
     const auto low = Drawable(limit.low, limit.unit, unit), high = Drawable(limit.high, limit.unit, unit);
     if (low || high)
       stretches.push_back({IndexOf(standards, StandardText(limit)), point.date, {}, low, high});
@@ -77,7 +78,7 @@ TrendLimits LimitsOf(const std::vector<TrendPoint>& points, const std::string& u
   TrendLimits limits;
   std::map<std::int32_t, Series> series;
   for (const auto& point : points)
-    series[point.element.summary.id].Take(point, StretchesAt(point, unit, limits.standards));
+    series[point.element.result.id].Take(point, StretchesAt(point, unit, limits.standards));
   // Elements that are judged alike share their lines.
   for (const auto& [id, one] : series)
     for (const auto& stretch : one.All())
@@ -86,11 +87,11 @@ TrendLimits LimitsOf(const std::vector<TrendPoint>& points, const std::string& u
   return limits;
 }
 
-std::string StandardText(const StandardLimit& limit) {
+std::string StandardText(const judge::JudgedLimit& limit) {
   return limit.description.empty() ? limit.standard : limit.standard + ", " + limit.description;
 }
 
-std::string LimitText(const StandardLimit& limit) {
+std::string LimitText(const judge::JudgedLimit& limit) {
   const auto name = StandardText(limit);
   const auto low = limit.low ? NumberText(*limit.low) : "", high = limit.high ? NumberText(*limit.high) : "";
   if (limit.low && limit.high) return Tr("%%1: %%2 to %%3 %%4", {name, low, high, limit.unit});

@@ -27,9 +27,9 @@ struct TrendLimits {
 TrendLimits LimitsOf(const std::vector<TrendPoint>& points, const std::string& unit);
 
 /// "IEC 62353, class I"
-std::string StandardText(const StandardLimit& limit);
+std::string StandardText(const judge::JudgedLimit& limit);
 
 /// "IEC 62353, class I: 100 to 300 mOhm", "...: at most 300 mOhm"
-std::string LimitText(const StandardLimit& limit);
+std::string LimitText(const judge::JudgedLimit& limit);
 
 }  // namespace bench

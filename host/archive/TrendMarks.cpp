@@ -6,8 +6,6 @@ namespace bench {
 
 namespace {
 
-enum Status { kPassed = 1, kFailed = 2 };
-
 constexpr char kBlue[] = "#1b4f8a", kRed[] = "#b00020", kAmber[] = "#8a5a00", kBlack[] = "#222222";
 
 std::string Text(double number) { return std::to_string(number); }
@@ -18,6 +16,12 @@ void DrawDiamond(Svg& svg, double x, double y, double size, const char* fill) {
                    {"fill", fill},
                    {"stroke", kAmber},
                    {"stroke-width", 2.0}});
+}
+
+void DrawTriangle(Svg& svg, double x, double y) {
+  svg.Add("path", {{"d", "M" + Text(x) + " " + Text(y - 7) + " L" + Text(x + 7) + " " + Text(y + 5) + " L" +
+                             Text(x - 7) + " " + Text(y + 5) + " Z"},
+                   {"fill", kBlack}});
 }
 
 void DrawCross(Svg& svg, double x, double y) {
@@ -33,12 +37,21 @@ void DrawCross(Svg& svg, double x, double y) {
 }  // namespace
 
 Mark MarkOf(const TrendPoint& point) {
-  const auto& summary = point.element.summary;
-  const bool doubtful = summary.verdict == judge::Verdict::kDoubtful;
-  if (point.Overloaded()) return Mark::kOverloaded;
-  if (summary.verdict == judge::Verdict::kFailed) return doubtful ? Mark::kFailedDoubtful : Mark::kFailed;
-  if (doubtful) return Mark::kDoubtful;
-  return summary.verdict == judge::Verdict::kPassed ? Mark::kPassed : Mark::kOther;
+  using judge::Verdict;
+  const auto verdict = point.element.result.verdict;
+  if (point.Overloaded()) return verdict == Verdict::kFailed ? Mark::kOverloadedFailed : Mark::kOverloaded;
+  switch (verdict) {
+    case Verdict::kPassed:
+      return Mark::kPassed;
+    case Verdict::kFailed:
+      return Mark::kFailed;
+    case Verdict::kDoubtful:
+      return Mark::kDoubtful;
+    case Verdict::kRecorded:
+      return Mark::kRecorded;
+    default:
+      return Mark::kOther;
+  }
 }
 
 std::string MarkText(Mark mark) {
@@ -49,10 +62,12 @@ std::string MarkText(Mark mark) {
       return Tr("failed");
     case Mark::kDoubtful:
       return Tr("doubtful");
-    case Mark::kFailedDoubtful:
-      return Tr("failed, doubtful");
+    case Mark::kRecorded:
+      return Tr("record only");
     case Mark::kOverloaded:
       return Tr("overload (OL), not to scale");
+    case Mark::kOverloadedFailed:
+      return Tr("overload (OL), failed, not to scale");
     case Mark::kOther:
       break;
   }
@@ -73,14 +88,21 @@ void DrawMark(Svg& svg, Mark mark, double x, double y) {
           "text",
           {{"x", x}, {"y", y + 3.5}, {"font-size", 10.0}, {"text-anchor", "middle"}, {"fill", kAmber}}, "?");
       return;
-    case Mark::kFailedDoubtful:
-      DrawDiamond(svg, x, y, 11, "none");
+    case Mark::kRecorded:
+      svg.Add("rect", {{"x", x - 5},
+                       {"y", y - 5},
+                       {"width", 10.0},
+                       {"height", 10.0},
+                       {"fill", "#ffffff"},
+                       {"stroke", kBlue},
+                       {"stroke-width", 2.0}});
+      return;
+    case Mark::kOverloadedFailed:
+      DrawTriangle(svg, x, y);
       DrawCross(svg, x, y);
       return;
     case Mark::kOverloaded:
-      svg.Add("path", {{"d", "M" + Text(x) + " " + Text(y - 7) + " L" + Text(x + 7) + " " + Text(y + 5) +
-                                 " L" + Text(x - 7) + " " + Text(y + 5) + " Z"},
-                       {"fill", kBlack}});
+      DrawTriangle(svg, x, y);
       return;
     case Mark::kOther:
       svg.Add("circle", {{"cx", x},

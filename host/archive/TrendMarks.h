@@ -7,11 +7,20 @@
 
 namespace bench {
 
-/// How a reading is marked; each kind has a shape of its own, so that it is told in print too.
-enum class Mark { kPassed, kFailed, kDoubtful, kFailedDoubtful, kOverloaded, kOther };
+/// How a reading is marked; each kind has a shape of its own, so that print shows it too.
+enum class Mark {
+  kPassed,
+  kFailed,
+  kDoubtful,
+  kRecorded,
+  kOverloaded,
+  kOverloadedFailed,
+  kOther  ///< not judged, or without a verdict about the equipment
+};
 
-inline constexpr Mark kMarks[] = {Mark::kPassed,         Mark::kFailed,     Mark::kDoubtful,
-                                  Mark::kFailedDoubtful, Mark::kOverloaded, Mark::kOther};
+inline constexpr Mark kMarks[] = {Mark::kPassed,   Mark::kFailed,     Mark::kDoubtful,
+                                  Mark::kRecorded, Mark::kOverloaded, Mark::kOverloadedFailed,
+                                  Mark::kOther};
 
 Mark MarkOf(const TrendPoint& point);
 

@@ -151,6 +151,13 @@ void MainWindow::AddToArchive() {
   if (desk_.Changed()) Save();
   const auto file = desk_.TheDocument().Path().string();
   const auto entry = EntryOf(file, desk_.Bench());
+  if (entry.entry.simulated && Ask(this,
+                                   Tr("%%1 was run on a simulated tester; nothing was measured. Add it to "
+                                      "the archive all the same? It "
+                                      "is marked there.",
+                                      {file}),
+                                   {Tr("Add it as it is"), Tr("Cancel")}) != 0)
+    return;
   const auto reason = UnfinishedReason(entry);
   if (!reason.empty() &&
       Ask(this,
@@ -158,7 +165,7 @@ void MainWindow::AddToArchive() {
           {Tr("Add it as it is"), Tr("Cancel")}) != 0)
     return;
   auto archive = OpenArchiveToAdd({}, desk_.Options());
-  ShowMessage(this, ReceiptText(file, archive.Add(entry)));
+  ShowMessage(this, ReceiptText(entry, file, archive.Add(entry)));
 }
 
 bool MainWindow::MayLeaveDocument() {

@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 
+#include "host/archive/ArchiveError.h"
 #include "tests/archive/ArchiveTest.h"
 #include "tests/archive/Documents.h"
 
@@ -8,25 +9,16 @@ namespace {
 
 using bench::Archive;
 using Added = bench::Archive::Added;
+using bench::judge::LimitVerdict;
+using bench::judge::Verdict;
 
 class AddTest : public ArchiveTest {};
 
-TEST_P(AddTest, GivesBackEverythingThatWasAdded) {
+TEST_P(AddTest, GivesBackTheDocumentAsAdded) {
   auto document = Measured("/d/a.orvik", "P-7", 412.125);
-  auto first = document.elements[0];
-  first.summary.measurement->flags = "O";
-  first.summary.doubts = {"late reply", "overload"};
-  first.limits.push_back({"AAMI", "", "mOhm", 1.5, 500.25});
-  document.elements[0] = first;
-  bench::ArchivedElement sequence;
-  sequence.summary.id = 7;
-  sequence.summary.parent = 1;
-  sequence.summary.sequence = true;
-  sequence.summary.serviceValue = "x";
-  sequence.summary.recordedOnly = true;
-  document.elements.push_back(sequence);
   document.contents = std::string("\x00\xFF<\r\n'\x80", 7);
-
+  document.entry.comment = "back from repair";
+  document.entry.run = 12;
   auto archive = Open();
   const auto receipt = archive.Add(document);
   EXPECT_EQ(receipt.id, 1);
@@ -34,38 +26,125 @@ TEST_P(AddTest, GivesBackEverythingThatWasAdded) {
   ASSERT_TRUE(found);
   EXPECT_EQ(found->contents, document.contents);
   EXPECT_EQ(found->instrument, document.instrument);
+  EXPECT_EQ(found->entry.comment, "back from repair");
   EXPECT_EQ(found->entry.operatorName, "A. Berg");
+  EXPECT_EQ(found->entry.run, 12);
   EXPECT_EQ(found->entry.runDate, "2026-03-01T09:30:00Z");
-  EXPECT_EQ(found->entry.outcome, "failed");
+  EXPECT_EQ(found->entry.outcome, bench::judge::Outcome::kFailed);
   EXPECT_TRUE(found->entry.finished);
+  EXPECT_FALSE(found->entry.simulated);
+}
+
+TEST_P(AddTest, GivesBackEachElementAsJudged) {
+  auto document = Measured("/d/a.orvik", "P-7", 412.125);
+  auto first = document.elements[0].result;
+  first.measurement->flags = "O";
+  first.reasons = {{"late-reply", {"STST,410,0"}}, {"overload", {}}, {"judged-differently", {"a", "", "c"}}};
+  first.limits.push_back({"AAMI", "", "uA", 1.5, {}, "", "", false, {}, {}});
+  document.elements[0].result = first;
+  bench::ArchivedElement sequence;
+  sequence.result.id = 7;
+  sequence.result.parent = 1;
+  sequence.result.group = true;
+  sequence.result.serviceValue = "x";
+  sequence.result.recordOnly = true;
+  document.elements.push_back(sequence);
+
+  auto archive = Open();
+  archive.Add(document);
+  const auto found = archive.Find(1);
+  ASSERT_TRUE(found);
   ASSERT_EQ(found->elements.size(), 2U);
-  const auto& element = found->elements[0];
-  EXPECT_EQ(element.limits, first.limits);
-  EXPECT_EQ(element.summary.doubts, first.summary.doubts);
-  EXPECT_EQ(element.summary.failedStandards, first.summary.failedStandards);
-  ASSERT_TRUE(element.summary.measurement);
-  EXPECT_EQ(element.summary.measurement->value, 412.125);
-  EXPECT_EQ(element.summary.measurement->flags, "O");
-  EXPECT_EQ(element.summary.measurement->status, 2);
-  EXPECT_EQ(element.summary.serviceCode, "F");
-  EXPECT_EQ(found->elements[1].summary.parent, 1);
-  EXPECT_TRUE(found->elements[1].summary.sequence);
-  EXPECT_FALSE(found->elements[1].summary.measurement);
-  EXPECT_TRUE(found->elements[1].summary.recordedOnly);
-  EXPECT_FALSE(element.summary.recordedOnly);
+  const auto& element = found->elements[0].result;
+  EXPECT_EQ(found->elements[0].runDate, "2026-03-01T09:30:00Z");
+  EXPECT_EQ(element.verdict, Verdict::kFailed);
+  EXPECT_EQ(element.reasons, first.reasons);
+  EXPECT_TRUE(element.judged);
+  EXPECT_FALSE(element.recordOnly);
+  EXPECT_EQ(element.run, 1);
+  EXPECT_EQ(element.at, first.at);
+  EXPECT_EQ(element.by, "A. Berg");
+  EXPECT_EQ(element.value, 412.125);
+  EXPECT_EQ(element.unit, "mOhm");
+  EXPECT_EQ(element.serviceCode, "F");
+  EXPECT_EQ(element.FailedStandards(), (std::vector<std::string>{"IEC 62353"}));
+  ASSERT_TRUE(element.measurement);
+  EXPECT_EQ(element.measurement->value, 412.125);
+  EXPECT_EQ(element.measurement->flags, "O");
+  EXPECT_EQ(element.measurement->status, 2);
+  ASSERT_EQ(element.limits.size(), 2U);
+  EXPECT_EQ(element.limits[0].description, "class I");
+  EXPECT_EQ(element.limits[0].high, 300.0);
+  EXPECT_TRUE(element.limits[0].selected);
+  EXPECT_EQ(element.limits[0].verdict, LimitVerdict::kExceeded);
+  EXPECT_EQ(element.limits[0].value, 412.125);
+  EXPECT_EQ(element.limits[1].unit, "uA");
+  EXPECT_EQ(element.limits[1].low, 1.5);
+  EXPECT_FALSE(element.limits[1].high);
+  EXPECT_FALSE(element.limits[1].selected);
+  EXPECT_FALSE(element.limits[1].value);
+  const auto& group = found->elements[1].result;
+  EXPECT_EQ(group.parent, 1);
+  EXPECT_TRUE(group.group);
+  EXPECT_FALSE(group.measurement);
+  EXPECT_TRUE(group.recordOnly);
+  EXPECT_FALSE(group.judged);
+  EXPECT_EQ(group.run, 0);
+  EXPECT_EQ(group.verdict, Verdict::kNotTested);
   EXPECT_EQ(found->elements[1].runDate, "");
+}
+
+TEST_P(AddTest, GivesBackEveryVerdict) {
+  const Verdict verdicts[] = {Verdict::kFailed,    Verdict::kDoubtful,     Verdict::kAborted,
+                              Verdict::kNotTested, Verdict::kNotJudged,    Verdict::kRecorded,
+                              Verdict::kPassed,    Verdict::kNotApplicable};
+  const LimitVerdict limits[] = {LimitVerdict::kNotApplied, LimitVerdict::kWithin, LimitVerdict::kBelow,
+                                 LimitVerdict::kExceeded, LimitVerdict::kNotComparable};
+  auto document = Measured("/d/a.orvik", "P-7", 100);
+  const auto element = document.elements[0];
+  document.elements.clear();
+  for (const auto verdict : verdicts) {
+    document.elements.push_back(element);
+    document.elements.back().result.verdict = verdict;
+  }
+  for (const auto verdict : limits) {
+    document.elements.push_back(element);
+    document.elements.back().result.limits[0].verdict = verdict;
+  }
+  auto archive = Open();
+  archive.Add(document);
+  const auto found = archive.Find(1);
+  for (std::size_t i = 0; i < document.elements.size(); ++i) {
+    EXPECT_EQ(found->elements[i].result.verdict, document.elements[i].result.verdict) << i;
+    EXPECT_EQ(found->elements[i].result.limits[0].verdict, document.elements[i].result.limits[0].verdict)
+        << i;
+  }
+}
+
+TEST_P(AddTest, RefusesAVerdictThatItDoesNotKnow) {
+  auto archive = Open();
+  archive.Add(Measured("/d/a.orvik", "P-7", 100));
+  Database()->Run("UPDATE orvik_elements SET verdict = 'good'", {});
+  EXPECT_THROW(archive.Find(1), bench::ArchiveError);
+}
+
+TEST_P(AddTest, MarksWhatIsSimulated) {
+  auto archive = Open();
+  archive.Add(Simulated(Measured("/d/a.orvik", "P-7", 100)));
+  EXPECT_TRUE(archive.Find(1)->entry.simulated);
+  EXPECT_TRUE(archive.List({}).at(0).simulated);
 }
 
 TEST_P(AddTest, KeepsNoTesterAndNoValueAsNone) {
   auto document = Measured("/d/a.orvik", "P-7", 1);
   document.instrument.reset();
-  document.elements[0].summary.measurement->value.reset();
+  document.elements[0].result.measurement->value.reset();
   auto archive = Open();
   archive.Add(document);
   const auto found = archive.Find(1);
   EXPECT_FALSE(found->instrument);
-  ASSERT_TRUE(found->elements[0].summary.measurement);
-  EXPECT_FALSE(found->elements[0].summary.measurement->value);
+  ASSERT_TRUE(found->elements[0].result.measurement);
+  EXPECT_FALSE(found->elements[0].result.measurement->value);
 }
 
 TEST_P(AddTest, TheSameDocumentAgainChangesNothing) {
@@ -108,6 +187,17 @@ TEST_P(AddTest, AnotherAssetInTheSameFileIsAnotherDocument) {
   EXPECT_EQ(other.revision, 1);
 }
 
+TEST_P(AddTest, AnotherSerialNumberInTheSameFileIsAnotherDocument) {
+  auto archive = Open();
+  archive.Add(Measured("/d/a.orvik", "P-7", 120));
+  auto other = Measured("/d/a.orvik", "P-7", 121);
+  other.entry.serial = "S-2";
+  const auto receipt = archive.Add(other);
+  EXPECT_EQ(receipt.added, Added::kNew);
+  EXPECT_EQ(receipt.revision, 1);
+  EXPECT_EQ(archive.Find(1)->entry.revisions, 1);
+}
+
 TEST_P(AddTest, TextsAreDataWhateverTheyHold) {
   const std::string nasty[] = {"'; DROP TABLE orvik_documents; --",
                                "100 %s %n \\",
@@ -119,12 +209,12 @@ TEST_P(AddTest, TextsAreDataWhateverTheyHold) {
   std::int64_t id = 0;
   for (const auto& text : nasty) {
     auto document = Measured("/d/" + text, text, 120);
-    document.elements[0].summary.name = text;
-    document.elements[0].summary.doubts = {text};
+    document.elements[0].result.name = text;
+    document.elements[0].result.reasons = {{text, {"", text}}};
     ASSERT_EQ(archive.Add(document).id, ++id);
     const auto found = archive.Find(id);
     EXPECT_EQ(found->entry.asset, text);
-    EXPECT_EQ(found->elements[0].summary.doubts.at(0), text);
+    EXPECT_EQ(found->elements[0].result.reasons, document.elements[0].result.reasons);
     EXPECT_EQ(archive.List({.asset = text}).size(), 1U) << text;
     EXPECT_EQ(archive.TrendOf(text, 410).points.size(), 1U) << text;
   }

@@ -16,7 +16,7 @@ class ListTest : public ArchiveTest {
     archive_.Add(Measured("/d/2", "P-8", 400, "2026-01-01T00:00:00Z"));
     auto late = Measured("/d/3", "P-7", 130, "");  // counts by the date of adding
     late.entry.serial = "S-2";
-    late.entry.outcome = "incomplete";
+    late.entry.outcome = bench::judge::Outcome::kIncomplete;
     late.entry.finished = false;
     archive_.Add(late);
   }

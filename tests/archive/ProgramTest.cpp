@@ -7,6 +7,7 @@
 
 #include "tests/archive/ArchiveTest.h"
 #include "tests/cli/BenchProgram.h"
+#include "tests/support/RecordedDocument.h"
 
 namespace archive_tests {
 namespace {
@@ -52,17 +53,32 @@ class ProgramTest : public ArchiveTest, protected WithProgram {
     return nlohmann::json::parse(ended.out);
   }
 
-  /// A document that was run to its end: test 410 measured 123 mOhm and test 1010 152 MOhm.
-  std::string Document(const std::string& name, const std::string& asset,
-                       const std::string& value = "123") const {
-    auto text = Contents(SOURCE_PATH "/tests/archive/finished.orvik");
-    const auto replace = [&](const std::string& from, const std::string& to) {
-      text.replace(text.find(from), from.size(), to);
-    };
-    replace("PUMP-7", asset);
-    replace("<Value>123<", "<Value>" + value + "<");
-    std::ofstream(Path(name)) << text;
-    return Path(name);
+  /// A document whose test 410 was run to its end, judged by "IEC 62353" (at most 300 mOhm).
+  /// @param ohms what the tester read
+  std::string Document(const std::string& name, const std::string& asset, const std::string& ohms = "0.123",
+                       const support::RunOf& run = {}) const {
+    support::RecordedDocument document({}, name);
+    document.Document().equipment.asset = asset;
+    document.Add(410);
+    document.Limit(1, "", "300");
+    document.Reads(410, ohms + ",0,Ohm");
+    document.Run(run);
+    return Kept(document);
+  }
+
+  /// Takes the document's file into the test's folder; returns its path.
+  std::string Kept(support::RecordedDocument& recorded) const {
+    const auto file = Path(recorded.Document().Path().filename().string());
+    std::filesystem::copy_file(recorded.Document().Path(), file,
+                               std::filesystem::copy_options::overwrite_existing);
+    return file;
+  }
+
+  /// Runs a command that must end with 0.
+  void Done(Words words) const {
+    words.insert(words.begin(), {"--state", Path("state")});
+    const auto ended = Start(std::move(words))->Wait();
+    EXPECT_EQ(ended.status, 0) << ended.error;
   }
 };
 
@@ -70,31 +86,66 @@ TEST_P(ProgramTest, AddsListsShowsAndGivesBackTheVeryBytes) {
   const auto file = Document("a.orvik", "P-7");
   const auto added = Run({"add", file});
   EXPECT_EQ(added.status, 0) << added.error;
-  EXPECT_THAT(added.out, HasSubstr("added as document 1"));
+  EXPECT_THAT(added.out, HasSubstr("added as document 1\n"));
   EXPECT_EQ(Json({"list"})["documents"][0]["asset"], "P-7");
   const auto shown = Json({"show", "1"});
   EXPECT_EQ(shown["outcome"], "passed");
   EXPECT_EQ(shown["elements"][0]["measurement"]["value"], 123.0);
   EXPECT_EQ(shown["elements"][0]["limits"][0]["high"], 300.0);
-  EXPECT_EQ(shown["archive"]["runDate"], "2026-11-21T13:12:37Z");
-  EXPECT_EQ(Run({"export", "1", "--to", Path("b.orvik")}).status, 0);
+  EXPECT_EQ(shown["archive"]["runDate"], "2026-11-21T13:03:22Z");
+  EXPECT_EQ(shown["archive"]["operator"], "M. Holm");
+  const auto exported = Run({"export", "1", "--to", Path("b.orvik")});
+  EXPECT_EQ(exported.status, 0);
+  EXPECT_EQ(exported.out, Path("b.orvik") + "\n");
   EXPECT_EQ(Contents(Path("b.orvik")), Contents(file));
   const auto again = Run({"export", "1", "--to", Path("b.orvik")});
   EXPECT_EQ(again.status, 3);
   EXPECT_THAT(again.error, HasSubstr("b.orvik"));
 }
 
+TEST_P(ProgramTest, ShowsADocumentAsShowDidWhenItWasAdded) {
+  support::RecordedDocument recorded;
+  recorded.Document().comment = "after repair";
+  recorded.Leads("S-9", 21, "2026-05-04T10:00:00+02:00");
+  recorded.Answers("IREM", "irem,KELD(IN),S-9,3.10");
+  for (const int test : {410, 420, 610, 1010, 400}) recorded.Add(test);
+  recorded.Limit(1, "", "300");  // passed
+  recorded.Limit(1, "0.1", "", "AAMI", "class I");
+  recorded.Limit(2, "", "10");          // failed
+  recorded.RecordOnly(3);               // recorded; the next is not judged
+  recorded.Reads(1010, "-152,0,MOhm");  // negative: doubtful, were it judged
+  recorded.Run();
+  const auto file = Kept(recorded);
+  Run({"add", file});
+  for (const std::string language : {"en", "de"}) {
+    const Words in{"--state", Path("state"), "--lang", language};
+    const auto printed = [&](Words words) {
+      words.insert(words.begin(), in.begin(), in.end());
+      words.push_back("--json");
+      const auto ended = Start(words)->Wait();
+      EXPECT_EQ(ended.status, 0) << ended.error;
+      return nlohmann::json::parse(ended.out);
+    };
+    auto archived = printed({"archive", "--archive", location_, "show", "1"});
+    EXPECT_EQ(archived["archive"]["outcome"], "failed");
+    archived.erase("archive");
+    const auto shown = printed({"show", file});
+    EXPECT_EQ(archived, shown) << nlohmann::json::diff(shown, archived).dump(1);
+    EXPECT_EQ(archived["elements"].size(), 7U);
+  }
+}
+
 TEST_P(ProgramTest, TellsWhatIsUnchangedAndWhatIsARevision) {
   EXPECT_EQ(Json({"add", Document("a.orvik", "P-7")})["documents"][0]["result"], "added");
   EXPECT_EQ(Json({"add", Path("a.orvik")})["documents"][0]["result"], "unchanged");
-  const auto changed = Json({"add", Document("a.orvik", "P-7", "124")});
+  const auto changed = Json({"add", Document("a.orvik", "P-7", "0.124")});
   EXPECT_EQ(changed["documents"][0]["result"], "revision");
   EXPECT_EQ(changed["documents"][0]["revision"], 2);
 }
 
 TEST_P(ProgramTest, RefusesAnUnfinishedDocumentButTakesTheOthers) {
   const auto open = Path("open.orvik");
-  ASSERT_EQ(Start({"--state", Path("state"), "new", open, "--add", "410"})->Wait().status, 0);
+  Done({"new", open, "--add", "410"});
   const auto refused = Run({"add", open, Document("a.orvik", "P-7"), Path("none.orvik")});
   EXPECT_EQ(refused.status, 3);
   EXPECT_THAT(refused.error, HasSubstr("open.orvik is not finished"));
@@ -107,12 +158,134 @@ TEST_P(ProgramTest, RefusesAnUnfinishedDocumentButTakesTheOthers) {
   EXPECT_EQ(listed["documents"][0]["finished"], false);
 }
 
+TEST_P(ProgramTest, RefusesAnAbortedTest) {
+  const auto file = Document("a.orvik", "P-7", "0.123", {.button = bench::guide::kAbort});
+  const auto refused = Run({"add", file});
+  EXPECT_EQ(refused.status, 3);
+  EXPECT_THAT(refused.error, HasSubstr("is not finished"));
+}
+
+TEST_P(ProgramTest, TakesDoubtfulAndNotJudgedResultsButNeverAsPassed) {
+  EXPECT_EQ(Run({"add", Document("a.orvik", "P-7", "-0.1")}).status, 0);
+  Document("b.orvik", "P-8");
+  Done({"limit", Path("b.orvik"), "--element", "1", "--remove"});
+  EXPECT_EQ(Run({"add", Path("b.orvik")}).status, 0);
+  EXPECT_EQ(Json({"show", "1"})["elements"][0]["verdict"], "doubtful");
+  EXPECT_EQ(Json({"show", "1"})["elements"][0]["statusText"], "passed");
+  EXPECT_EQ(Json({"show", "2"})["elements"][0]["verdict"], "not judged");
+  const auto listed = Json({"list"})["documents"];
+  for (const auto& entry : listed) {
+    EXPECT_EQ(entry["outcome"], "incomplete");
+    EXPECT_EQ(entry["finished"], true);
+  }
+  EXPECT_EQ(listed.size(), 2U);
+  const auto trend = Run({"trend", "--asset", "P-8", "--test", "410"});
+  EXPECT_THAT(trend.out, HasSubstr("not judged"));
+}
+
+TEST_P(ProgramTest, ALimitSetLaterFailsTheNextRevisionAndLeavesTheFirst) {
+  const auto file = Document("a.orvik", "P-7");
+  Run({"add", file});
+  Done({"limit", file, "--element", "1", "--standard", "AAMI", "--high", "100"});
+  EXPECT_EQ(Json({"add", file})["documents"][0]["outcome"], "failed");
+  EXPECT_EQ(Json({"show", "1"})["outcome"], "passed");
+  const auto second = Json({"show", "2"});
+  EXPECT_EQ(second["outcome"], "failed");
+  EXPECT_EQ(second["elements"][0]["failedStandards"], nlohmann::json({"AAMI"}));
+  EXPECT_THAT(Run({"show", "1"}).out, HasSubstr("; shown as it was judged then\n"));
+  // The same run, so one reading.
+  const auto points = Json({"trend", "--asset", "P-7", "--test", "410"})["points"];
+  ASSERT_EQ(points.size(), 1U);
+  EXPECT_EQ(points[0]["verdict"], "failed");
+  EXPECT_EQ(points[0]["document"], 2);
+}
+
+TEST_P(ProgramTest, SimulatedDocumentsAreTakenOnlyWhenAskedAndMarked) {
+  const auto file = Document("a.orvik", "P-7", "0.123", {.simulated = true});
+  const auto refused = Run({"add", file, "--incomplete"});
+  EXPECT_EQ(refused.status, 3);
+  EXPECT_THAT(refused.error, HasSubstr("a.orvik was not added: it was run on a simulated tester"));
+  EXPECT_THAT(refused.error, HasSubstr("--simulated"));
+
+  const auto mark = HasSubstr("(simulated: nothing was measured)\n");
+  EXPECT_THAT(Run({"add", file, "--simulated"}).out, testing::AllOf(HasSubstr("added as document 1 "), mark));
+  EXPECT_THAT(Run({"list"}).out, mark);
+  EXPECT_THAT(Run({"show", "1"}).out, HasSubstr("SIMULATED"));
+  EXPECT_THAT(Run({"export", "1", "--to", Path("b.orvik")}).out, mark);
+  EXPECT_EQ(Json({"list"})["documents"][0]["simulated"], true);
+  EXPECT_EQ(Json({"show", "1"})["simulated"], true);
+  EXPECT_EQ(Json({"show", "1"})["archive"]["simulated"], true);
+  EXPECT_EQ(Json({"add", file, "--simulated"})["documents"][0]["simulated"], true);
+}
+
+TEST_P(ProgramTest, ATrendIsOfSimulatedReadingsOnlyWhenAsked) {
+  Run({"add", Document("a.orvik", "P-7", "0.099", {.simulated = true}), "--simulated"});
+  const Words asked{"trend", "--asset", "P-7", "--test", "410"};
+  auto simulated = asked;
+  simulated.push_back("--simulated");
+  const auto none = Run(asked);
+  EXPECT_EQ(none.status, 3);
+  EXPECT_THAT(none.error, HasSubstr("Simulated readings left out (--simulated shows them): 1\n"));
+
+  Run({"add", Document("b.orvik", "P-7")});
+  const auto real = Run(asked);
+  EXPECT_THAT(real.out, HasSubstr("123  mOhm"));
+  EXPECT_THAT(real.out, Not(HasSubstr("99  mOhm")));
+  EXPECT_THAT(real.out, HasSubstr("Simulated readings left out (--simulated shows them): 1\n"));
+  EXPECT_THAT(real.out, Not(HasSubstr("SIMULATED")));
+  EXPECT_EQ(Json(asked)["simulated"], false);
+  EXPECT_EQ(Json(asked)["otherKind"], 1);
+
+  auto drawn = simulated;
+  drawn.insert(drawn.end(), {"--to", Path("t.svg")});
+  const auto practice = Run(drawn);
+  EXPECT_THAT(practice.out, HasSubstr("SIMULATED"));
+  EXPECT_THAT(practice.out, HasSubstr("99  mOhm"));
+  EXPECT_THAT(practice.out, Not(HasSubstr("123  mOhm")));
+  EXPECT_THAT(practice.out, HasSubstr("Real readings left out: 1\n"));
+  EXPECT_THAT(Contents(Path("t.svg")), HasSubstr("SIMULATED"));
+  EXPECT_EQ(Json(simulated)["simulated"], true);
+  EXPECT_EQ(Json(simulated)["points"].size(), 1U);
+}
+
+TEST_P(ProgramTest, ResultsOfOtherEquipmentDoNotCount) {
+  const auto file = Document("a.orvik", "P-7");
+  Done({"edit", file, "--asset", "P-9"});
+  const auto refused = Run({"add", file});
+  EXPECT_EQ(refused.status, 3);
+  EXPECT_THAT(refused.error, HasSubstr("1 of its 1 elements have no result"));
+
+  EXPECT_EQ(Run({"add", file, "--incomplete"}).status, 0);
+  const auto shown = Json({"show", "1"});
+  EXPECT_EQ(shown["outcome"], "incomplete");
+  EXPECT_EQ(shown["elements"][0]["verdict"], "not tested");
+  EXPECT_EQ(shown["elements"][0]["reasons"][0]["code"], "other-equipment");
+  EXPECT_THAT(Run({"show", "1"}).out, HasSubstr("the asset number was \"P-7\" and is \"P-9\""));
+  const auto trend = Run({"trend", "--asset", "P-9", "--test", "410"});
+  EXPECT_EQ(trend.status, 3);
+  EXPECT_THAT(
+      trend.error,
+      HasSubstr("Results left out that did not count when they were added (\"archive show\" says why): 1"));
+}
+
+TEST_P(ProgramTest, AResultThatNoRunRecordedDoesNotCount) {
+  const auto file = Document("a.orvik", "P-7");
+  auto text = Contents(file);
+  const auto begin = text.find("<Runs>"), end = text.find("</Runs>");
+  text.erase(begin, end + 7 - begin);
+  std::ofstream(file) << text;
+  EXPECT_EQ(Run({"add", file}).status, 3);
+  EXPECT_EQ(Run({"add", file, "--incomplete"}).status, 0);
+  EXPECT_EQ(Json({"show", "1"})["elements"][0]["reasons"][0]["code"], "not-recorded");
+}
+
 TEST_P(ProgramTest, DrawsATrend) {
-  Run({"add", Document("a.orvik", "P&amp;&lt;7&gt; '%'")});
+  Run({"add", Document("a.orvik", "P&<7> '%'")});
   const auto drawn = Run({"trend", "--asset", "P&<7> '%'", "--test", "410", "--to", Path("t.svg")});
   EXPECT_EQ(drawn.status, 0) << drawn.error;
   EXPECT_THAT(drawn.out, HasSubstr("123  mOhm"));
   EXPECT_THAT(drawn.out, HasSubstr("IEC 62353: at most 300 mOhm"));
+  EXPECT_THAT(drawn.out, HasSubstr("as it was judged when its document was added"));
   EXPECT_THAT(Contents(Path("t.svg")), HasSubstr("P&amp;&lt;7&gt; &#39;%&#39;"));
   EXPECT_EQ(Json({"trend", "--asset", "P&<7> '%'", "--test", "410"})["points"][0]["value"], 123.0);
   EXPECT_EQ(Run({"trend", "--asset", "other", "--test", "410"}).status, 3);
@@ -122,7 +295,7 @@ TEST_P(ProgramTest, TwoProgramsAddAtOnceAndNothingIsLost) {
   Words all[2];
   for (int i = 0; i < 20; ++i) {
     const auto name = "d" + std::to_string(i) + ".orvik";
-    all[i % 2].push_back(Document(name, "P-" + std::to_string(i), std::to_string(100 + i)));
+    all[i % 2].push_back(Document(name, "P-" + std::to_string(i), "0." + std::to_string(100 + i)));
   }
   const auto shared = Document("both.orvik", "P-7");  // both add this one too
   std::unique_ptr<RunningProgram> programs[2];
@@ -218,7 +391,8 @@ TEST_F(ErrorTest, ADatabaseOfSomethingElseIsRefused) {
 
 TEST_F(ErrorTest, AFolderThatTakesNoFilesIsTold) {
   // Not even root makes files there.
-  const auto ended = On("/proc/self/archive.sqlite", {"add", SOURCE_PATH "/tests/archive/finished.orvik"});
+  ASSERT_EQ(Start({"--state", Path("s"), "new", Path("a.orvik"), "--add", "410"})->Wait().status, 0);
+  const auto ended = On("/proc/self/archive.sqlite", {"add", "--incomplete", Path("a.orvik")});
   EXPECT_EQ(ended.status, 2);
   EXPECT_THAT(ended.error, HasSubstr("/proc/self/archive.sqlite"));
 }

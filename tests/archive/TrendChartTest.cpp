@@ -22,18 +22,19 @@ bench::TrendPoint Point(const std::string& date, double value) {
 }
 
 bench::TrendPoint Doubtful(bench::TrendPoint point) {
-  point.element.summary.doubts = {"late reply"};
+  point.element.result.verdict = bench::judge::Verdict::kDoubtful;
   return point;
 }
 
 bench::TrendPoint Overloaded(bench::TrendPoint point) {
-  point.element.summary.measurement->flags = "O";
+  point.element.result.measurement->flags = "O";
   return point;
 }
 
 /// The picture, which must be well-formed and in itself complete.
-std::string Drawn(const std::vector<bench::TrendPoint>& points, const std::string& asset = "P-7") {
-  const auto svg = bench::TrendChart({asset, 410, points});
+std::string Drawn(const std::vector<bench::TrendPoint>& points, const std::string& asset = "P-7",
+                  bool simulated = false) {
+  const auto svg = bench::TrendChart({asset, 410, simulated, points, 0, 0});
   pugi::xml_document xml;
   EXPECT_TRUE(xml.load_string(svg.c_str())) << svg;
   const auto root = xml.document_element();
@@ -53,19 +54,35 @@ std::size_t CountOf(const std::string& text, const std::string& part) {
   return count;
 }
 
-TEST(TrendMarks, TellEachKindOfReading) {
-  const auto passed = Point("2024-01-01T00:00:00Z", 100), failed = Point("2024-01-01T00:00:00Z", 400);
-  EXPECT_EQ(MarkOf(passed), Mark::kPassed);
-  EXPECT_EQ(MarkOf(failed), Mark::kFailed);
-  EXPECT_EQ(MarkOf(Doubtful(passed)), Mark::kDoubtful);
-  EXPECT_EQ(MarkOf(Doubtful(failed)), Mark::kFailedDoubtful);
-  EXPECT_EQ(MarkOf(Doubtful(Overloaded(passed))), Mark::kOverloaded);
-  auto aborted = passed;
-  aborted.element.summary.status = 4;
-  EXPECT_EQ(MarkOf(aborted), Mark::kOther);
-  auto unjudged = passed;
-  unjudged.element.summary.recordedOnly = true;
-  EXPECT_EQ(MarkOf(unjudged), Mark::kOther);
+TEST(TrendMarks, FollowTheVerdict) {
+  using bench::judge::Verdict;
+  const auto marked = [](Verdict verdict, bool overloaded = false) {
+    auto point = Point("2024-01-01T00:00:00Z", 100);
+    point.element.result.verdict = verdict;
+    point.element.result.status = 1;  // the plug-in's has no say
+    return MarkOf(overloaded ? Overloaded(point) : point);
+  };
+  EXPECT_EQ(marked(Verdict::kPassed), Mark::kPassed);
+  EXPECT_EQ(marked(Verdict::kFailed), Mark::kFailed);
+  EXPECT_EQ(marked(Verdict::kDoubtful), Mark::kDoubtful);
+  EXPECT_EQ(marked(Verdict::kRecorded), Mark::kRecorded);
+  EXPECT_EQ(marked(Verdict::kNotJudged), Mark::kOther);
+  EXPECT_EQ(marked(Verdict::kAborted), Mark::kOther);
+  EXPECT_EQ(marked(Verdict::kDoubtful, true), Mark::kOverloaded);
+  EXPECT_EQ(marked(Verdict::kFailed, true), Mark::kOverloadedFailed);
+}
+
+TEST(TrendPoint, AnOverloadHasNoValueToDraw) {
+  const auto point = Point("2024-01-01T00:00:00Z", 100);
+  EXPECT_EQ(point.Value(), 100.0);
+  EXPECT_FALSE(Overloaded(point).Value());
+  EXPECT_EQ(Overloaded(point).Unit(), "mOhm");
+}
+
+TEST(TrendPoint, AGroupHasTheUnitOfItsTests) {
+  auto group = Point("2024-01-01T00:00:00Z", 100);
+  group.element.result.measurement->unit = "";
+  EXPECT_EQ(group.Unit(), "mOhm");
 }
 
 TEST(TrendMarks, HaveAShapeEach) {
@@ -90,9 +107,9 @@ TEST(TrendChart, TellsReadingsAndLimitsInWordsToo) {
 
 TEST(TrendChart, TextsAreNoMarkup) {
   auto point = Point("2024-01-01T00:00:00Z", 100);
-  point.element.summary.name = "</title><script>alert(1)</script>";
-  point.element.limits[0].standard = "\"><script/>";
-  point.element.summary.measurement->unit = "<b>&\x01";
+  point.element.result.name = "</title><script>alert(1)</script>";
+  point.element.result.limits[0].standard = "\"><script/>";
+  point.element.result.measurement->unit = "<b>&\x01";
   const auto svg = Drawn({point}, "<script>'\"&%1 %%1 ]]> \x1b[31m \xff");
   EXPECT_THAT(svg, HasSubstr("&lt;script&gt;"));
   EXPECT_THAT(svg, Not(HasSubstr("\x1b")));
@@ -114,10 +131,10 @@ TEST(TrendChart, OverloadsAloneHaveTheirUnitAndLimitsToo) {
 
 TEST(TrendChart, OtherUnitsOfTheSameQuantityAreToldInTheLastOne) {
   auto ohms = Point("2024-01-01T00:00:00Z", 0.2);
-  ohms.element.summary.measurement->unit = "Ohm";
-  ohms.element.limits.clear();
+  ohms.element.result.measurement->unit = "Ohm";
+  ohms.element.result.limits.clear();
   auto same = Point("2024-01-01T00:00:00Z", 200);
-  same.element.limits.clear();
+  same.element.result.limits.clear();
   const auto last = Point("2025-01-01T00:00:00Z", 200);
   const auto polyline = [](const std::string& svg) {
     const auto at = svg.find("<polyline");
@@ -128,11 +145,22 @@ TEST(TrendChart, OtherUnitsOfTheSameQuantityAreToldInTheLastOne) {
 
 TEST(TrendChart, SaysWhatItDidNotDraw) {
   auto volts = Point("2024-01-01T00:00:00Z", 230), none = Point("2024-01-01T00:00:00Z", 1);
-  volts.element.summary.measurement->unit = "V";
-  none.element.summary.measurement.reset();
+  volts.element.result.measurement->unit = "V";
+  none.element.result.measurement.reset();
   const auto svg = Drawn({volts, none, Point("2025-01-01T00:00:00Z", 100)});
   EXPECT_EQ(CountOf(svg, "2 readings are not drawn"), 2U);  // description and legend
   EXPECT_EQ(CountOf(svg, "<circle"), 2U);                   // the reading and its legend
+}
+
+TEST(TrendChart, SaysSimulatedInItsDescriptionAndOnThePicture) {
+  const std::vector<bench::TrendPoint> points = {Point("2024-01-01T00:00:00Z", 100)};
+  EXPECT_EQ(CountOf(Drawn(points, "P-7", true), "SIMULATED"), 2U);
+  EXPECT_EQ(CountOf(Drawn(points), "SIMULATED"), 0U);
+}
+
+TEST(TrendChart, SaysTheVerdictOfAnOverload) {
+  auto failed = Overloaded(Point("2025-01-01T00:00:00Z", 400));
+  EXPECT_THAT(Drawn({failed}), HasSubstr("<title>2025-01-01T00:00:00Z: OL, failed</title>"));
 }
 
 TEST(TrendChart, HoldsWhateverTheValues) {

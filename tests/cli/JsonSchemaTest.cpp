@@ -120,10 +120,11 @@ TEST_F(JsonSchemaTest, TheArchive) {
   ASSERT_EQ(Bench({"new", file, "--add", "410", "--asset", "PUMP-7"}).status, 0);
   ASSERT_EQ(Bench({"limit", file, "--from", "iec-62353-class-1-bf"}).status, 0);
   ASSERT_EQ(Bench(Simulated(file, "sound-class-1")).status, 0);
-  Keeps("archive-add", Bench({"archive", "add", file, Path("none.orvik"), "--json"}).out);
+  Keeps("archive-add", Bench({"archive", "add", "--simulated", file, Path("none.orvik"), "--json"}).out);
   Keeps("archive-list", Bench({"archive", "list", "--json"}).out);
   Keeps("archive-show", Bench({"archive", "show", "1", "--json"}).out);
-  const auto trend = Bench({"archive", "trend", "--asset", "PUMP-7", "--test", "410", "--json"}).out;
+  const auto trend =
+      Bench({"archive", "trend", "--asset", "PUMP-7", "--test", "410", "--simulated", "--json"}).out;
   Keeps("archive-trend", trend);
   EXPECT_EQ(nlohmann::json::parse(trend)["points"].size(), 1u);
 }

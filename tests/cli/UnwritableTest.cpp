@@ -31,14 +31,13 @@ TEST_F(UnwritableTest, ANewDocumentOnAFullDiskEndsWithTwoAndLeavesNothing) {
 
 TEST_F(UnwritableTest, AFullDiskEndsEveryCommandThatWritesWithTwo) {
   const auto file = NewDocument({"410"});
-  const auto finished = SOURCE_PATH "/tests/archive/finished.orvik";
   const auto before = Contents(file);
   const auto files = Files();
   for (const auto& words :
        {Words{"limit", file, "--element", "1", "--standard", "S", "--high", "9"},
         Words{"config", file, "--element", "1", "--options", "3"},
         Words{"report", file, "--to", Path("a.html")}, Words{"report", file, "--to", Path("a.pdf")},
-        Words{"archive", "--archive", Path("a.sqlite"), "add", "--incomplete", finished}}) {
+        Words{"archive", "--archive", Path("a.sqlite"), "add", "--incomplete", file}}) {
     const auto ended = OnAFullDisk(words);
     EXPECT_EQ(ended.status, 2) << words[0] << ": " << ended.error;
     EXPECT_NE(ended.error, "") << words[0];

@@ -104,7 +104,10 @@ TEST_F(RunTest, ANewDocumentIsFilledRunByHandReportedAndSaved) {
   Drive({Press("report"), TakeFile(Path("pump.pdf")),
          Await("a report", [this] { return std::filesystem::exists(Path("pump.pdf")); })});
   EXPECT_TRUE(Contents(Path("pump.pdf")).starts_with("%PDF"));
-  Drive({Press("archive"), Answer("message", "Close", "added as document 1")});
+  Drive({Press("archive"), Answer("question", "Cancel", "was run on a simulated tester")});
+  EXPECT_FALSE(std::filesystem::exists(Path("state/archive.sqlite")));
+  Drive({Press("archive"), Answer("question", "Add it as it is", "was run on a simulated tester"),
+         Answer("message", "Close", "added as document 1 (simulated: nothing was measured)")});
 }
 
 TEST_F(RunTest, SoundEquipmentPassesAndTheCommandLineSaysTheSame) {

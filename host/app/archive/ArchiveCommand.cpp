@@ -34,7 +34,8 @@ CLI::App* ArchiveCommand::Declare(CLI::App& program) {
     parts_.push_back({std::move(command), declared});
   };
   add(std::make_unique<ArchiveCommandAdd>(location_), {"orvik-bench archive add pump-7.orvik pump-8.orvik",
-                                                       "orvik-bench archive add pump-7.orvik --incomplete"});
+                                                       "orvik-bench archive add pump-7.orvik --incomplete",
+                                                       "orvik-bench archive add practice.orvik --simulated"});
   add(std::make_unique<ArchiveCommandList>(location_),
       {"orvik-bench archive list --asset PUMP-7",
        "orvik-bench archive list --since 2026-01-01 --outcome failed"});
@@ -42,7 +43,8 @@ CLI::App* ArchiveCommand::Declare(CLI::App& program) {
       {"orvik-bench archive show 12", "orvik-bench archive show 12 --json"});
   add(std::make_unique<ArchiveCommandTrend>(location_),
       {"orvik-bench archive trend --asset PUMP-7 --test 410",
-       "orvik-bench archive trend --asset PUMP-7 --test 410 --to pump-7.svg"});
+       "orvik-bench archive trend --asset PUMP-7 --test 410 --to pump-7.svg",
+       "orvik-bench archive trend --asset PRACTICE --test 410 --simulated"});
   add(std::make_unique<ArchiveCommandExport>(location_),
       {"orvik-bench archive export 12 --to pump-7-of-then.orvik"});
   return archive;

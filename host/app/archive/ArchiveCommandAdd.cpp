@@ -33,6 +33,7 @@ CLI::App* ArchiveCommandAdd::Declare(CLI::App& archive) {
   command->add_option("FILE", files_, Tr("The documents"))->required();
   command->add_flag("--incomplete", incomplete_,
                     Tr("Take documents too in which something has no result; they are marked"));
+  command->add_flag("--simulated", simulated_, Tr("Take documents of simulated runs too; they are marked"));
   command->add_flag("--json", json_, Tr("Print one JSON object"));
   return command;
 }
@@ -42,7 +43,8 @@ ExitStatus ArchiveCommandAdd::Run(const GlobalOptions& options) {
   try {
     if (!documents.empty()) {
       auto archive = OpenArchiveToAdd(location_, options);
-      for (std::size_t i = 0; i < documents.size(); ++i) Tell(taken_[i], archive.Add(documents[i]));
+      for (std::size_t i = 0; i < documents.size(); ++i)
+        Tell(documents[i], taken_[i], archive.Add(documents[i]));
     }
   } catch (const ArchiveError&) {
     PrintJson();  // what was added before is in the archive
@@ -61,6 +63,12 @@ std::vector<ArchivedDocument> ArchiveCommandAdd::Read(const GlobalOptions& optio
   for (const auto& file : files_) {
     try {
       auto document = EntryOf(file, workbench);
+      if (document.entry.simulated && !simulated_) {
+        Refuse(file, Tr("%%1 was not added: it was run on a simulated tester, and nothing was measured "
+                        "(--simulated adds it, marked as simulated)",
+                        {file}));
+        continue;
+      }
       const auto reason = UnfinishedReason(document);
       if (!reason.empty() && !incomplete_) {
         Refuse(file,
@@ -85,10 +93,15 @@ void ArchiveCommandAdd::Refuse(const std::string& file, const std::string& reaso
   told_.push_back({{"file", file}, {"result", "refused"}, {"reason", reason}});
 }
 
-void ArchiveCommandAdd::Tell(const std::string& file, const Archive::Receipt& receipt) {
-  told_.push_back(
-      {{"file", file}, {"result", KeyOf(receipt.added)}, {"id", receipt.id}, {"revision", receipt.revision}});
-  if (!json_) std::cout << ReceiptText(file, receipt) << std::endl;  // each as soon as it is kept
+void ArchiveCommandAdd::Tell(const ArchivedDocument& document, const std::string& file,
+                             const Archive::Receipt& receipt) {
+  told_.push_back({{"file", file},
+                   {"result", KeyOf(receipt.added)},
+                   {"id", receipt.id},
+                   {"revision", receipt.revision},
+                   {"outcome", judge::OutcomeText(document.entry.outcome)},
+                   {"simulated", document.entry.simulated}});
+  if (!json_) std::cout << ReceiptText(document, file, receipt) << std::endl;  // each as soon as it is kept
 }
 
 void ArchiveCommandAdd::PrintJson() const {

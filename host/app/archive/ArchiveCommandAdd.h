@@ -22,12 +22,13 @@ class ArchiveCommandAdd final : public Command {
  private:
   std::vector<ArchivedDocument> Read(const GlobalOptions& options);
   void Refuse(const std::string& file, const std::string& reason);
-  void Tell(const std::string& file, const Archive::Receipt& receipt);
+  void Tell(const ArchivedDocument& document, const std::string& file, const Archive::Receipt& receipt);
   void PrintJson() const;
 
   const std::string& location_;
   std::vector<std::string> files_;
   bool incomplete_ = false;
+  bool simulated_ = false;
   bool json_ = false;
 
   std::vector<std::string> taken_;  ///< the files of the documents that were read

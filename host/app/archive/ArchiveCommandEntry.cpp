@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <filesystem>
+#include <initializer_list>
 
 #include "host/app/DocumentView.h"
 #include "host/app/InputError.h"
@@ -29,28 +30,27 @@ bool HasResult(const judge::JudgedElement& element) {
   return element.verdict != judge::Verdict::kNotTested && element.verdict != judge::Verdict::kAborted;
 }
 
-judge::JudgedElement Valid(judge::JudgedElement element) {
-  for (auto* text : {&element.name, &element.serviceCode, &element.serviceValue}) *text = ValidUtf8(*text);
-  if (element.measurement) {
-    element.measurement->unit = ValidUtf8(element.measurement->unit);
-    element.measurement->flags = ValidUtf8(element.measurement->flags);
-  }
-  return element;
+void MakeValid(std::initializer_list<std::string*> texts) {
+  for (auto* text : texts) *text = ValidUtf8(*text);
 }
 
-std::vector<StandardLimit> LimitsOf(const judge::JudgedElement& element) {
-  std::vector<StandardLimit> limits;
-  for (const auto& limit : element.limits)
-    limits.push_back({ValidUtf8(limit.standard), ValidUtf8(limit.description), ValidUtf8(limit.unit),
-                      limit.low, limit.high});
-  return limits;
+/// The databases take nothing but UTF-8.
+judge::JudgedElement Valid(judge::JudgedElement element) {
+  MakeValid(
+      {&element.name, &element.serviceCode, &element.serviceValue, &element.unit, &element.at, &element.by});
+  if (element.measurement) MakeValid({&element.measurement->unit, &element.measurement->flags});
+  for (auto& limit : element.limits) MakeValid({&limit.standard, &limit.description, &limit.unit});
+  for (auto& reason : element.reasons) {
+    MakeValid({&reason.code});
+    for (auto& argument : reason.arguments) MakeValid({&argument});
+  }
+  return element;
 }
 
 std::vector<ArchivedElement> ElementsOf(const judge::JudgedDocument& judged) {
   std::vector<ArchivedElement> elements;
   for (const auto& element : judged.elements)
-    elements.push_back(
-        {Valid(element), UtcText(element.at).value_or(""), ValidUtf8(element.by), LimitsOf(element)});
+    elements.push_back({Valid(element), UtcText(element.at).value_or("")});
   return elements;
 }
 
@@ -64,9 +64,8 @@ std::string LastDate(const std::vector<ArchivedElement>& elements) {
 std::string Operators(const std::vector<ArchivedElement>& elements) {
   std::vector<std::string> names;
   for (const auto& element : elements)
-    if (!element.operatorName.empty() &&
-        std::find(names.begin(), names.end(), element.operatorName) == names.end())
-      names.push_back(element.operatorName);
+    if (!element.result.by.empty() && std::find(names.begin(), names.end(), element.result.by) == names.end())
+      names.push_back(element.result.by);
   return Joined(names, ", ");
 }
 
@@ -80,21 +79,24 @@ ArchivedDocument EntryOf(const std::string& file, Workbench& workbench) {
     throw InputError(Tr("%%1 is being changed by another program; try again when that has ended", {file}));
   const auto view = ViewOf(*document, *workbench.Host());
   entry.elements = ElementsOf(view.judged);
-  if (const auto& tester = view.instrument)
-    entry.instrument = ArchivedInstrument{ValidUtf8(tester->type), ValidUtf8(tester->serial),
-                                          ValidUtf8(tester->firmware), tester->leads};
-  auto& told = entry.entry;
-  told.bench = MachineName();
-  told.path = ValidUtf8(document->Path().string());
-  told.asset = ValidUtf8(document->equipment.asset);
-  told.serial = ValidUtf8(document->equipment.serial);
-  told.maker = ValidUtf8(document->equipment.maker);
-  told.model = ValidUtf8(document->equipment.model);
-  told.outcome = judge::OutcomeText(view.judged.outcome);
-  told.finished = UnfinishedReason(entry).empty();
-  told.runDate = LastDate(entry.elements);
-  told.operatorName = Operators(entry.elements);
-  told.added = IsoText(UtcNow());
+  entry.instrument = view.instrument;
+  if (auto& tester = entry.instrument)
+    MakeValid({&tester->type, &tester->serial, &tester->firmware, &tester->leadsMeasured});
+  auto& head = entry.entry;
+  head.bench = MachineName();
+  head.path = ValidUtf8(document->Path().string());
+  head.asset = ValidUtf8(document->equipment.asset);
+  head.serial = ValidUtf8(document->equipment.serial);
+  head.maker = ValidUtf8(document->equipment.maker);
+  head.model = ValidUtf8(document->equipment.model);
+  head.comment = ValidUtf8(document->comment);
+  head.outcome = view.judged.outcome;
+  head.simulated = view.judged.simulated;
+  head.run = view.judged.run;
+  head.finished = UnfinishedReason(entry).empty();
+  head.runDate = LastDate(entry.elements);
+  head.operatorName = Operators(entry.elements);
+  head.added = IsoText(UtcNow());
   return entry;
 }
 
@@ -103,9 +105,9 @@ std::string UnfinishedReason(const ArchivedDocument& document) {
   std::size_t open = 0;
   const judge::JudgedElement* first = nullptr;
   for (const auto& element : document.elements) {
-    if (HasResult(element.summary)) continue;
+    if (HasResult(element.result)) continue;
     ++open;
-    if (!first) first = &element.summary;
+    if (!first) first = &element.result;
   }
   if (!first) return {};
   return Tr("%%1 of its %%2 elements have no result, the first is element %%3, %%4 (%%5)",
@@ -113,14 +115,21 @@ std::string UnfinishedReason(const ArchivedDocument& document) {
              first->name, Tr(judge::VerdictText(first->verdict))});
 }
 
-std::string ReceiptText(const std::string& file, const Archive::Receipt& receipt) {
+std::string SimulatedMark(const ArchiveEntry& entry) {
+  return entry.simulated ? Tr("(simulated: nothing was measured)") : std::string();
+}
+
+std::string ReceiptText(const ArchivedDocument& document, const std::string& file,
+                        const Archive::Receipt& receipt) {
   const std::vector<std::string> values = {file, std::to_string(receipt.id),
                                            std::to_string(receipt.revision)};
+  const auto mark = SimulatedMark(document.entry);
+  const auto after = mark.empty() ? std::string() : " " + mark;
   switch (receipt.added) {
     case Archive::Added::kNew:
-      return Tr("%%1: added as document %%2", values);
+      return Tr("%%1: added as document %%2", values) + after;
     case Archive::Added::kRevision:
-      return Tr("%%1: has changed, added as document %%2, revision %%3", values);
+      return Tr("%%1: has changed, added as document %%2, revision %%3", values) + after;
     case Archive::Added::kUnchanged:
       break;
   }

@@ -4,6 +4,7 @@
 #include <limits>
 
 #include "host/app/NumberOption.h"
+#include "host/app/archive/ArchiveCommandEntry.h"
 #include "host/app/archive/ArchiveCommandOpen.h"
 #include "host/document/DocumentFile.h"
 #include "host/services/Tr.h"
@@ -24,8 +25,10 @@ CLI::App* ArchiveCommandExport::Declare(CLI::App& archive) {
 ExitStatus ArchiveCommandExport::Run(const GlobalOptions& options) {
   auto file = DocumentFile::New(to_);
   auto archive = OpenArchiveToAsk(location_, options);
-  file.Write(Fetched(archive, id_).contents);
-  std::cout << to_ << "\n";
+  const auto document = Fetched(archive, id_);
+  file.Write(document.contents);
+  const auto mark = SimulatedMark(document.entry);
+  std::cout << to_ << (mark.empty() ? "" : " ") << mark << "\n";
   return ExitStatus::kPassed;
 }
 

@@ -1,5 +1,7 @@
 #include "host/app/archive/ArchiveCommandJson.h"
 
+#include <algorithm>
+
 #include "host/app/DocumentJson.h"
 
 namespace bench {
@@ -8,49 +10,38 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-template <class T>
-Json OrNull(const std::optional<T>& value) {
-  return value ? Json(*value) : Json(nullptr);
-}
-
-/// Dates and operators that are not told.
+/// Dates and operators that are not recorded.
 Json OrNull(const std::string& text) { return text.empty() ? Json(nullptr) : Json(text); }
 
-Json JsonOf(const std::vector<StandardLimit>& limits) {
-  Json all = Json::array();
-  for (const auto& limit : limits) {
-    Json json;
-    json["standard"] = limit.standard;
-    json["description"] = limit.description;
-    json["low"] = OrNull(limit.low);
-    json["high"] = OrNull(limit.high);
-    json["unit"] = limit.unit;
-    all.push_back(std::move(json));
-  }
-  return all;
-}
-
 Json JsonOf(const TrendPoint& point) {
-  const auto& summary = point.element.summary;
-  const auto& measurement = summary.measurement;
+  const auto value =
+      point.element.result.measurement ? point.element.result.measurement->value : std::nullopt;
   Json json;
   json["document"] = point.document;
   json["date"] = point.date;
   json["dated"] = point.dated;
+  json["added"] = point.added;
   json["serial"] = point.serial;
-  json["element"] = summary.id;
-  json["name"] = summary.name;
-  json["value"] = measurement ? OrNull(measurement->value) : Json(nullptr);
-  json["unit"] = measurement ? measurement->unit : "";
-  json["flags"] = measurement ? measurement->flags : "";
+  json["element"] = point.element.result.id;
+  json["value"] = value ? Json(*value) : Json(nullptr);
+  json["unit"] = point.Unit();
+  json["flags"] = point.element.result.measurement ? point.element.result.measurement->flags : "";
   json["overload"] = point.Overloaded();
-  json["status"] = summary.status;
-  json["statusText"] = judge::StatusText(summary.status);
-  json["verdict"] = judge::VerdictText(summary.verdict);
-  json["limits"] = JsonOf(point.element.limits);
-  json["failedStandards"] = summary.FailedStandards();
-  json["reasons"] = bench::JsonOf(summary.reasons);
+  auto element = bench::JsonOf(point.element.result);
+  for (const char* shared : {"name", "run", "operator", "status", "statusText", "verdict", "judged",
+                             "recordOnly", "limits", "failedStandards", "reasons", "doubts"})
+    json[shared] = std::move(element[shared]);
   return json;
+}
+
+/// Those by which the document was judged, each once.
+std::vector<std::string> StandardsOf(const ArchivedDocument& document) {
+  std::vector<std::string> names;
+  for (const auto& element : document.elements)
+    for (const auto& limit : element.result.limits)
+      if (limit.selected && std::find(names.begin(), names.end(), limit.standard) == names.end())
+        names.push_back(limit.standard);
+  return names;
 }
 
 }  // namespace
@@ -66,8 +57,10 @@ Json JsonOf(const ArchiveEntry& entry) {
   json["serial"] = entry.serial;
   json["maker"] = entry.maker;
   json["model"] = entry.model;
-  json["outcome"] = entry.outcome;
+  json["outcome"] = judge::OutcomeText(entry.outcome);
   json["finished"] = entry.finished;
+  json["simulated"] = entry.simulated;
+  json["run"] = entry.run;
   json["date"] = entry.Date();
   json["runDate"] = OrNull(entry.runDate);
   json["operator"] = OrNull(entry.operatorName);
@@ -78,12 +71,6 @@ Json JsonOf(const ArchiveEntry& entry) {
 
 Json JsonOf(const ArchivedDocument& document) {
   auto json = JsonOf(ViewOf(document));
-  for (std::size_t i = 0; i < document.elements.size(); ++i) {
-    auto& element = json["elements"][i];
-    element["limits"] = JsonOf(document.elements[i].limits);
-    element["runDate"] = OrNull(document.elements[i].runDate);
-    element["operator"] = OrNull(document.elements[i].operatorName);
-  }
   json["archive"] = JsonOf(document.entry);
   return json;
 }
@@ -92,20 +79,26 @@ Json JsonOf(const Trend& trend) {
   Json json;
   json["asset"] = trend.asset;
   json["testId"] = trend.testId;
+  json["simulated"] = trend.simulated;
+  json["otherKind"] = trend.otherKind;
+  json["notCurrent"] = trend.notCurrent;
   json["points"] = Json::array();
   for (const auto& point : trend.points) json["points"].push_back(JsonOf(point));
   return json;
 }
 
 DocumentView ViewOf(const ArchivedDocument& document) {
+  const auto& entry = document.entry;
   DocumentView view;
-  view.path = document.entry.path;
-  view.equipment = {document.entry.asset, document.entry.serial, document.entry.maker, document.entry.model};
-  if (const auto& instrument = document.instrument)
-    view.instrument = RecordedTester{
-        instrument->type, instrument->serial, instrument->firmware, instrument->calibration, {}};
-  for (const auto& element : document.elements) view.judged.elements.push_back(element.summary);
-  view.judged.outcome = judge::OutcomeOf(view.judged.elements);
+  view.path = entry.path;
+  view.equipment = {entry.asset, entry.serial, entry.maker, entry.model};
+  view.comment = entry.comment;
+  view.instrument = document.instrument;
+  view.judged.outcome = entry.outcome;
+  view.judged.simulated = entry.simulated;
+  view.judged.run = entry.run;
+  view.judged.standards = StandardsOf(document);
+  for (const auto& element : document.elements) view.judged.elements.push_back(element.result);
   return view;
 }
 

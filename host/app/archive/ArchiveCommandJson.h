@@ -9,7 +9,7 @@ namespace bench {
 
 nlohmann::ordered_json JsonOf(const ArchiveEntry& entry);
 
-/// As `show --json`, with the limits and the run of each element, and "archive" for what the archive adds.
+/// As `show --json` printed it when the document was added, and "archive" for what the archive adds.
 nlohmann::ordered_json JsonOf(const ArchivedDocument& document);
 
 nlohmann::ordered_json JsonOf(const Trend& trend);

@@ -6,6 +6,7 @@
 #include "host/app/InputError.h"
 #include "host/app/NumberOption.h"
 #include "host/app/TextColumns.h"
+#include "host/app/archive/ArchiveCommandEntry.h"
 #include "host/app/archive/ArchiveCommandJson.h"
 #include "host/app/archive/ArchiveCommandOpen.h"
 #include "host/archive/IsoTime.h"
@@ -22,21 +23,27 @@ std::vector<std::string> ListHeading() {
   return {Tr("ID"), Tr("Date"), Tr("Revision"), Tr("Outcome"), Tr("Asset"), Tr("Serial number")};
 }
 
+std::string MarksOf(const ArchiveEntry& entry) {
+  std::vector<std::string> marks;
+  if (!entry.finished) marks.push_back(Tr("(not finished)"));
+  if (entry.simulated) marks.push_back(SimulatedMark(entry));
+  return Joined(marks, " ");
+}
+
 std::vector<std::string> LineOf(const ArchiveEntry& entry) {
   return {std::to_string(entry.id),
           VisibleText(entry.Date()),
           std::to_string(entry.revision) + "/" + std::to_string(entry.revisions),
-          VisibleText(Tr(entry.outcome)),
+          Tr(judge::OutcomeText(entry.outcome)),
           VisibleText(entry.asset),
           VisibleText(entry.serial),
-          entry.finished ? "" : Tr("(not finished)")};
+          MarksOf(entry)};
 }
 
 }  // namespace
 
 CLI::App* ArchiveCommandList::Declare(CLI::App& archive) {
-  auto* command =
-      archive.add_subcommand("list", Tr("Tell which documents the archive has, the newest first"));
+  auto* command = archive.add_subcommand("list", Tr("List the documents of the archive, the newest first"));
   command->add_option("--asset", asset_, Tr("Those of this asset"));
   command->add_option("--serial", serial_, Tr("Those of equipment with this serial number"));
   command

@@ -32,7 +32,10 @@ std::string HeadOf(const ArchiveEntry& entry) {
   AddLine(text, Tr("Model: %%1", {VisibleText(entry.model)}), entry.model);
   AddLine(text, Tr("Run: %%1", {VisibleText(entry.runDate)}), entry.runDate);
   AddLine(text, Tr("Operator: %%1", {VisibleText(entry.operatorName)}), entry.operatorName);
-  return text + Tr("Added: %%1, by %%2", {VisibleText(entry.added), VisibleText(entry.bench)}) + "\n";
+  return text +
+         Tr("Added: %%1, by %%2; shown as it was judged then",
+            {VisibleText(entry.added), VisibleText(entry.bench)}) +
+         "\n";
 }
 
 }  // namespace

@@ -8,7 +8,7 @@
 
 namespace bench {
 
-/// `archive trend`: tells how the readings of one test of one asset went over time, and draws them.
+/// `archive trend`: shows and plots the readings of one test of one asset over time.
 class ArchiveCommandTrend final : public Command {
  public:
   /// @param location --archive, as it will be
@@ -23,6 +23,7 @@ class ArchiveCommandTrend final : public Command {
   const std::string& location_;
   std::string asset_, to_;
   std::int32_t test_ = 0;
+  bool simulated_ = false;
   bool json_ = false;
 };
 
