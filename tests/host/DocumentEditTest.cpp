@@ -91,8 +91,8 @@ TEST_F(DocumentEditTest, RemovesWithAllBelow) {
 
 TEST_F(DocumentEditTest, AnIdentifierThatARecordNamesIsNotGivenAgain) {
   const std::string runs =
-      "<Runs><Run Number='1'><Takes Elements='1 7'/><Test Element='5'/></Run>"
-      "<Run Number='2'><Takes Elements='x'/><Test Element='6'/></Run></Runs>";
+      "<Runs><Run Number='1' Simulated='0' TimeScale='1'><Takes Elements='1 7'/></Run>"
+      "<Run Number='2' Simulated='0' TimeScale='1'><Takes Elements='6'/></Run></Runs>";
   const std::string element = "<TestElement ID='2' TestID='110' PlugInID='SAMPLE'/>";
   for (const auto& elements : {"<Elements>" + element + "</Elements>", std::string()}) {
     const auto document = Opened("<OrvikDocument Version='1'>" + elements + runs + "</OrvikDocument>");

@@ -107,9 +107,9 @@ INSTANTIATE_TEST_SUITE_P(
     Lines, MistakeInGerman,
     testing::Values(
         Mistake{"NoCommand", {}, "a command is needed", "ein Befehl ist nötig"},
-        Mistake{"UnknownOption", {"--nosuch"}, "was not expected: --nosuch", "nicht erwartet: --nosuch"},
-        Mistake{"UnknownCommand", {"frob", "x"}, "were not expected: ", "nicht erwartet: "},
-        Mistake{"RequiredOption", {"new", "x.orvik"}, "--add is required", "--add ist erforderlich"},
+        Mistake{"UnknownOption", {"--nosuch"}, "unknown option --nosuch", "unbekannte Option --nosuch"},
+        Mistake{"UnknownCommand", {"frob", "x"}, "unknown command \"frob\"", "unbekannter Befehl"},
+        Mistake{"RequiredOption", {"report", "x.orvik"}, "--to is required", "--to ist erforderlich"},
         Mistake{"RequiredWord", {"run"}, "FILE is required", "FILE ist erforderlich"},
         Mistake{"NoNumber",
                 {"new", "x", "--add", "y"},
