@@ -167,7 +167,7 @@ class Chart {
 
   void DrawHeading() {
     if (trend_.simulated)
-      svg_.AddText("text", {{"x", kLeft}, {"y", kTop - 14}, {"font-weight", "bold"}, {"fill", kWarning}},
+      svg_.AddText("text", {{"x", kLeft}, {"y", kTop - 22}, {"font-weight", "bold"}, {"fill", kWarning}},
                    SimulatedText());
     svg_.AddText("text", {{"x", kLeft}, {"y", 30.0}, {"font-size", 18.0}, {"font-weight", "bold"}},
                  Shortened(trend_.asset, 60));

@@ -36,6 +36,18 @@ TEST(Schemas, TellSomethingOfEveryField) {
   EXPECT_GE(schemas, 11u);
 }
 
+TEST(Schemas, OfTheArchiveAgreeWithThatOfADocument) {
+  const auto document = Schema("document").Text()["properties"];
+  auto shown = Schema("archive-show").Text()["properties"];
+  shown.erase("archive");
+  EXPECT_EQ(shown, document) << nlohmann::json::diff(document, shown).dump(1);
+  const auto element = document["elements"]["items"]["properties"];
+  const auto point = Schema("archive-trend").Text()["properties"]["points"]["items"]["properties"];
+  for (const char* field : {"name", "run", "operator", "status", "statusText", "verdict", "judged",
+                            "recordOnly", "limits", "failedStandards", "reasons", "doubts"})
+    EXPECT_EQ(point[field], element[field]) << field;
+}
+
 class JsonSchemaTest : public CliTest {
  protected:
   static void Keeps(const std::string& schema, const std::string& output) {
