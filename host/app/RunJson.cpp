@@ -23,6 +23,7 @@ Json HeadOf(const RunRecord& run) {
   json["port"] = run.port;
   json["program"] = run.program;
   json["intact"] = run.intact;
+  json["gapAfter"] = run.gapAfter;
   json["equipment"] = JsonOf(run.equipment);
   json["testers"] = Json::array();
   for (const auto& tester : run.testers) json["testers"].push_back(JsonOf(tester));

@@ -107,6 +107,7 @@ std::string RunsText(const std::vector<RunRecord>& runs) {
     std::vector<std::string> remarks;
     if (run.simulated) remarks.push_back(Tr("SIMULATED"));
     if (!run.intact) remarks.push_back(Tr("changed by another program"));
+    if (run.gapAfter) remarks.push_back(Tr("a later run is missing"));
     lines.push_back({std::to_string(run.number), VisibleText(run.begun), EndWord(run),
                      Tr("%%1 of %%2", {std::to_string(count.finished), std::to_string(count.taken)}),
                      VisibleText(run.by), run.testers.empty() ? "-" : VisibleText(run.testers.back().serial),
@@ -121,6 +122,7 @@ std::string RunText(const RunRecord& run, std::size_t count) {
               "\n";
   if (run.simulated) text += Tr("SIMULATED: a simulated tester was used; nothing was measured.") + "\n";
   if (!run.intact) text += Tr("This record was changed by another program.") + "\n";
+  if (run.gapAfter) text += Tr("A run that came after it was removed or changed by another program.") + "\n";
   text += Tr("Begun %%1, ended %%2: %%3",
              {VisibleText(run.begun), run.ended.empty() ? "-" : VisibleText(run.ended), EndWord(run)}) +
           "\n";

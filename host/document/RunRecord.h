@@ -83,8 +83,10 @@ struct RunRecord {
   Equipment equipment;
   std::vector<RecordedTester> testers;
   std::vector<Step> steps;
-  /// Whether it is as this program wrote it, and follows the run before it.
+  /// Whether it is as this program wrote it.
   bool intact = true;
+  /// Whether a run that came after it is missing, or another one was put in its place.
+  bool gapAfter = false;
 
   /// Every element that it took up, each once, in the order of the first time.
   std::vector<std::int32_t> Elements() const;

@@ -242,9 +242,16 @@ pugi::xml_node WriteRun(const RunRecord& run, pugi::xml_node parent) {
   return node;
 }
 
-bool IsIntact(pugi::xml_node run, std::size_t place, std::string_view before) {
-  return run.attribute("Number").value() == std::to_string(place) &&
-         run.attribute(kBefore).value() == before && run.attribute(kDigest).value() == DigestOf(run);
+bool IsIntact(pugi::xml_node run) { return run.attribute(kDigest).value() == DigestOf(run); }
+
+std::vector<bool> GapsAfter(pugi::xml_node section) {
+  std::vector<bool> gaps;
+  for (auto run = section.child("Run"); run; run = run.next_sibling("Run")) {
+    const auto next = run.next_sibling("Run");
+    const auto* named = next ? next.attribute(kBefore).value() : section.attribute("Last").value();
+    gaps.push_back(std::string_view(named) != run.attribute(kDigest).value());
+  }
+  return gaps;
 }
 
 std::string DigestOf(pugi::xml_node run) {

@@ -1,13 +1,12 @@
 #pragma once
 
-#include <cstddef>
 #include <pugixml.hpp>
 #include <string>
-#include <string_view>
+#include <vector>
 
 #include "host/document/RunRecord.h"
 
-/// Run records as XML:
+/// Run records as XML, in a section `<Runs Last="sha256:…">` that names the digest of its last run:
 ///
 ///     <Run Number="3" Begun="…" Ended="…" End="finished" Operator="…" Simulated="0" TimeScale="1" Port="…"
 ///          Program="orvik-bench 2.2.0.2" Digest="sha256:…" Before="sha256:…">
@@ -31,9 +30,12 @@ RunRecord ReadRun(pugi::xml_node node);
 /// Adds the run to the parent, without its digest.
 pugi::xml_node WriteRun(const RunRecord& run, pugi::xml_node parent);
 
-/// Whether the run's node is as this program wrote it, in this place (from 1) and after a run of that digest.
-/// @param before empty for the first run
-bool IsIntact(pugi::xml_node run, std::size_t place, std::string_view before);
+/// Whether the run's node is as this program wrote it.
+bool IsIntact(pugi::xml_node run);
+
+/// For each run of the section, oldest first, whether a run that came after it is missing. Each names the
+/// digest of the run before it, and the section that of the last one.
+std::vector<bool> GapsAfter(pugi::xml_node section);
 
 /// "sha256:" and the digest of all that the run's node holds but its own digest, independent of layout.
 std::string DigestOf(pugi::xml_node run);

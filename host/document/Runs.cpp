@@ -11,7 +11,7 @@
 namespace bench {
 namespace {
 
-constexpr char kRuns[] = "Runs", kRun[] = "Run", kDigest[] = "Digest", kBefore[] = "Before";
+constexpr char kRuns[] = "Runs", kRun[] = "Run", kDigest[] = "Digest", kBefore[] = "Before", kLast[] = "Last";
 
 }  // namespace
 
@@ -19,20 +19,24 @@ void Runs::Load(pugi::xml_node section) {
   all_.clear();
   saved_.reset();
   open_ = false;
-  besideRuns_.Take(section, {}, {kRun});
-  std::string before;
+  const char* last = "";
+  besideRuns_.Take(section, {{kLast, last}}, {kRun});
+  last_ = last;
   for (const auto node : section.children(kRun)) {
     all_.push_back(ReadRun(node));
-    all_.back().intact = IsIntact(node, all_.size(), before);
-    before = node.attribute(kDigest).value();
+    all_.back().intact = IsIntact(node);
     saved_.append_copy(node);
   }
+  const auto gaps = GapsAfter(section);
+  for (std::size_t place = 0; place < all_.size(); ++place) all_[place].gapAfter = gaps[place];
 }
 
 void Runs::Save(pugi::xml_node parent) const {
   auto section = parent.append_child(kRuns);
+  auto last = last_;
   for (const auto run : saved_.children()) section.append_copy(run);
-  if (open_) WriteCurrent(section);
+  if (open_) last = WriteCurrent(section).attribute(kDigest).value();
+  if (!last.empty()) xml::AddAttribute(section, kLast, last);
   besideRuns_.Restore(section);
   if (!section.first_child() && !section.first_attribute()) parent.remove_child(section);
 }
@@ -46,7 +50,7 @@ std::int32_t Runs::HighestElement() const {
 
 RunRecord& Runs::Open(RunRecord run) {
   Close();
-  run.number = static_cast<std::int32_t>(all_.size()) + 1;
+  run.number = all_.empty() ? 1 : all_.back().number + 1;
   all_.push_back(std::move(run));
   open_ = true;
   return all_.back();
@@ -54,15 +58,13 @@ RunRecord& Runs::Open(RunRecord run) {
 
 void Runs::Close() {
   if (!std::exchange(open_, false)) return;
-  WriteCurrent(saved_);
+  last_ = WriteCurrent(saved_).attribute(kDigest).value();
 }
 
-std::string Runs::LastDigest() const { return saved_.last_child().attribute(kDigest).value(); }
-
 pugi::xml_node Runs::WriteCurrent(pugi::xml_node parent) const {
-  const auto before = LastDigest();
   auto node = WriteRun(all_.back(), parent);
-  xml::AddAttribute(node, kBefore, before);
+  // The digest that the file named: where a run is missing, that shows for ever.
+  xml::AddAttribute(node, kBefore, last_);
   xml::AddAttribute(node, kDigest, DigestOf(node));
   return node;
 }

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <pugixml.hpp>
+#include <string>
 #include <vector>
 
 #include "host/document/RunRecord.h"
@@ -34,13 +35,14 @@ class Runs {
   void Close();
 
  private:
-  std::string LastDigest() const;
   pugi::xml_node WriteCurrent(pugi::xml_node parent) const;
 
   std::vector<RunRecord> all_;
   bool open_ = false;
   /// The finished runs as they are saved; the one that goes on is added when the document is saved.
   pugi::xml_document saved_;
+  /// The digest of the last finished run, as the file names it.
+  std::string last_;
   Leftovers besideRuns_;
 };
 

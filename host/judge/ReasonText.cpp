@@ -67,7 +67,8 @@ constexpr Entry kSentences[] = {
     {"set-aside-by-operator", Marked("recorded as not applicable by the operator")},
     {"unknown-test", Marked("%%1")},
     {"service-code", Marked("the saved service code is \"%%1\", but the result is \"%%2\"")},
-    {"record-changed", Marked("the record of run %%1 or of a later run was changed by another program")},
+    {"record-changed",
+     Marked("the record of run %%1 or of a later run was changed or removed by another program")},
     // Why a result is not current.
     {"never-run", Marked("not run yet")},
     {"not-recorded", Marked("the saved result was not recorded by a run")},

@@ -7,7 +7,7 @@ Records::Records(const std::vector<RunRecord>* runs) {
   std::size_t step = 0;
   std::int32_t lastChanged = 0;
   for (const auto& run : *runs) {
-    if (!run.intact) lastChanged = static_cast<std::int32_t>(&run - runs->data()) + 1;
+    if (!run.intact || run.gapAfter) lastChanged = static_cast<std::int32_t>(&run - runs->data()) + 1;
     for (const auto& done : run.steps) {
       ++step;
       if (const auto* takes = std::get_if<RecordedTakes>(&done)) {

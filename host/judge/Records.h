@@ -14,7 +14,7 @@ struct LastRecord {
   const RunRecord* run = nullptr;      ///< the last run that took it up; null when none did
   const RecordedTest* test = nullptr;  ///< null while that run has not finished it
   std::size_t step = 0;                ///< place among the steps of all runs
-  bool changed = false;                ///< this run or a later one was changed by another program
+  bool changed = false;                ///< this run or a later one was changed or removed by another program
 };
 
 /// The runs of a document, read once from the oldest to the newest.

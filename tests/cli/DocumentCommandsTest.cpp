@@ -89,6 +89,8 @@ TEST_F(DocumentCommandsTest, NothingPassesThatTheRunDidNotRecord) {
         Change{"<Said>gres,410,0,0.123", "<Said>gres,410,0,0.12", "doubtful", "record-changed"},
         Change{"<Takes Elements=\"1\"", "<Takes Elements=\"1 2\"", "doubtful", "record-changed"},
         Change{"<Run [^]*</Run>", "", "not tested", "not-recorded"},
+        Change{"<Runs Last=\"[^\"]*\"", "<Runs Last=\"sha256:0\"", "doubtful", "record-changed"},
+        Change{"<Runs Last=\"[^\"]*\"", "<Runs", "doubtful", "record-changed"},
         Change{"Asset=\"\" Serial=\"\" Maker=\"\" Model=\"\" />\n<Standards", "Asset=\"B\" />\n<Standards",
                "not tested", "other-equipment", false},
         Change{"Options=\"3\"", "Options=\"4096\"", "not tested", "other-settings", false},

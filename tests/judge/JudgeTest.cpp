@@ -198,6 +198,11 @@ TEST(Judge, DoubtsEverythingUpToAChangedRecord) {
   earth.runs[0].intact = true;
   earth.Begin({2}).intact = false;
   EXPECT_EQ(earth.Verdict(), Verdict::kDoubtful);
+  // So may one that is missing.
+  earth.runs[1].intact = true;
+  EXPECT_EQ(earth.Verdict(), Verdict::kPassed);
+  earth.runs[0].gapAfter = true;
+  EXPECT_EQ(earth.Verdict(), Verdict::kDoubtful);
   // What was measured after it counts.
   earth.Begin({1});
   earth.Measure(1, "0.123,0,Ohm", 123, "mOhm", 1);
