@@ -43,8 +43,11 @@ void Runs::Save(pugi::xml_node parent) const {
 
 std::int32_t Runs::HighestElement() const {
   std::int32_t highest = 0;
-  for (const auto& run : all_)
+  for (const auto& run : all_) {
     for (const auto id : run.Elements()) highest = std::max(highest, id);
+    for (const auto& step : run.steps)
+      if (const auto* test = std::get_if<RecordedTest>(&step)) highest = std::max(highest, test->element);
+  }
   return highest;
 }
 

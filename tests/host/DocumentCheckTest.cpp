@@ -60,7 +60,8 @@ TEST_F(DocumentCheckTest, EverythingIsToldNotOnlyTheFirstThing) {
                                Test("x", "<ResultItem><Status>7</Status></ResultItem>") + "\n" +
                                Group("3", "\n" + Test("4",
                                                       "<ExpectedResult><Standard Name='S'>\n"
-                                                      "<Limit High='abc'/></Standard></ExpectedResult>"))));
+                                                      "<Limit Key='NO LIMIT KEY' Unit='V' High='abc'/>"
+                                                      "</Standard></ExpectedResult>"))));
   EXPECT_EQ(told.wrong.size(), 4U);
   ASSERT_GE(told.wrong.size(), 4U);
   EXPECT_EQ(told.wrong[0], "3:1 the identifier 1 is used twice; first in line 2");
@@ -85,6 +86,7 @@ class FaultyDocument : public DocumentCheckTest, public testing::WithParamInterf
       return With(Test(
           "1", "<ExpectedResult><Standard Name='S'><Limit " + attributes + "/></Standard></ExpectedResult>"));
     };
+    const std::string judging = "Key='NO LIMIT KEY' Unit='V' ";
     return {
         {"CutShort", With(Test("1")).substr(0, 200), "2:"},
         {"Mismatch", "<OrvikDocument Version='1'>\n<Elements>\n</OrvikDocument>", "3:3 "},
@@ -146,11 +148,15 @@ class FaultyDocument : public DocumentCheckTest, public testing::WithParamInterf
         {"ValueNoNumber", result("><Measurement>\n<Value>OL</Value></Measurement>"),
          "3:1 the value \"OL\" is no number"},
         {"TesterUnknown", result(" MTI='2'>"), "the result names the tester 2, which the document does not"},
-        {"BoundNoNumber", limit("Low='1,5'"), "the bound \"1,5\" is not a number"},
-        {"BoundsCrossed", limit("Low='2' High='1'"), "the lower bound lies above the upper one"},
-        {"BoundInPercent", limit("High='110%'"), "a bound in percent needs a nominal value"},
-        {"BoundUnit", limit("Unit='Ohm' High='1'"),
+        {"BoundNoNumber", limit(judging + "Low='1,5'"), "the bound \"1,5\" is not a number"},
+        {"BoundsCrossed", limit(judging + "Low='2' High='1'"), "the lower bound lies above the upper one"},
+        {"BoundInPercent", limit(judging + "High='110%'"), "a bound in percent needs a nominal value"},
+        {"BoundUnit", limit("Key='NO LIMIT KEY' Unit='Ohm' High='1'"),
          "the bounds are in Ohm, but the element is recorded in V"},
+        {"BoundWithoutUnit", limit("Key='NO LIMIT KEY' High='1'"),
+         "the limit names no unit; readings of the element are recorded in V"},
+        {"LimitKey", limit("Key='OTHER' Unit='V' High='1'"),
+         "the limit has the key \"OTHER\"; the plug-in judges by limits with the key"},
         {"StandardTwice",
          With(Test("1", "<ExpectedResult><Standard Name='S'/>\n<Standard Name='S'/></ExpectedResult>")),
          "3:1 the standard \"S\" is there already, in line 2; only that one judges"},
