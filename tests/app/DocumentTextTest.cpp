@@ -5,6 +5,7 @@
 #include <sstream>
 
 #include "host/app/DocumentText.h"
+#include "host/app/DocumentView.h"
 #include "host/app/run/ProgressLines.h"
 #include "tests/app/VirtualLine.h"
 
@@ -18,17 +19,18 @@ using testing::Not;
 constexpr char kForged[] = "\x1b[2K\n   1  passed          120 mOhm\xe2\x80\xae";
 constexpr char kForgedShown[] = "[U+001B][2K[U+000A]   1  passed          120 mOhm[U+202E]";
 
-ElementSummary Forged() {
-  ElementSummary element;
+judge::JudgedElement Forged() {
+  judge::JudgedElement element;
   element.id = 1;
   element.testId = 410;
+  element.run = 1;
   element.status = 2;
+  element.verdict = judge::Verdict::kFailed;
   element.name = kForged;
-  element.measurement = MeasurementSummary{};
+  element.measurement = judge::Measurement{};
   element.measurement->value = 1850;
   element.measurement->unit = kForged;
-  element.failedStandards = {kForged};
-  element.doubts = {kForged};
+  element.reasons = {{"above-limit", {kForged, kForged, "300"}}, {"unheard-of", {kForged}}};
   return element;
 }
 
@@ -42,15 +44,29 @@ void ExpectShown(const std::string& text, std::ptrdiff_t lines, std::size_t plac
 }
 
 TEST(DocumentText, WhatComesFromOutsideMovesNoCursorAndMakesNoLine) {
-  DocumentSummary document;
+  DocumentView document;
   document.path = std::string("/tmp/") + kForged + ".orvik";
-  document.outcome = Outcome::kFailed;
-  document.instrument = InstrumentSummary{};
-  document.instrument->type = document.instrument->serial = document.instrument->firmware = kForged;
-  document.elements = {Forged()};
-  // The document and its tester; the element, the standard that it fails, its doubt.
-  ExpectShown(TextOf(document, false), 5, 1 + 3 + 2 + 1 + 1);
+  document.equipment = {kForged, kForged, kForged, kForged};
+  document.comment = kForged;
+  document.instrument = RecordedTester{kForged, kForged, kForged, 0, kForged};
+  document.judged.simulated = true;
+  document.judged.outcome = judge::Outcome::kFailed;
+  document.judged.standards = {kForged};
+  document.judged.leftOut = {kForged};
+  document.judged.elements = {Forged()};
+  // The document, its equipment and comment, its tester, its standards; the element, its two reasons.
+  ExpectShown(TextOf(document, false), 9, 1 + 4 + 1 + 4 + 2 + 2 + 2 + 1);
   ExpectShown(LineOf(Forged(), false), 0, 2);
+}
+
+TEST(DocumentText, AReadingThatDoesNotCountIsNotShown) {
+  auto element = Forged();
+  element.measurement->unit = "mOhm";
+  EXPECT_EQ(ReadingText(element), "1850 mOhm");
+  element.measurement->flags = "O";
+  EXPECT_EQ(ReadingText(element), "OL");
+  element.run = 0;
+  EXPECT_EQ(ReadingText(element), "-");
 }
 
 TEST(ProgressLinesText, WhatComesFromOutsideMovesNoCursorAndMakesNoLine) {
@@ -59,7 +75,7 @@ TEST(ProgressLinesText, WhatComesFromOutsideMovesNoCursorAndMakesNoLine) {
   ProgressLines progress(out, -1, line.SharedLoop(), 1);
   progress.Reached(1, 1);
   progress.Started(Forged());
-  progress.Doubted(1, kForged);
+  progress.Doubted(1, {"invalid-line", {kForged}});
   progress.Finished(Forged());
   ExpectShown(out.str(), 3, 1 + 1 + 2);
 }

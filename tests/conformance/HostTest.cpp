@@ -7,9 +7,11 @@
 #include "OrvikTypeLib/IResultData.h"
 #include "OrvikTypeLib/IStandard.h"
 #include "OrvikTypeLib/IStandardColl.h"
+#include "host/document/Runs.h"
 #include "host/instruments/InstrumentColl.h"
 #include "host/report/ReportObject.h"
 #include "host/run/RunController.h"
+#include "host/run/RunRecorder.h"
 #include "tests/checker-plugin/IHostChecker.h"
 #include "tests/conformance/Asked.h"
 #include "tests/conformance/Windows.h"
@@ -86,10 +88,11 @@ class ReferenceRun : public ReferenceHost {
   std::shared_ptr<orvik::IStandardColl> standards_ =
       library_.New<orvik::IStandardColl>(orvik::HostClasses::kStandardColl);
   std::shared_ptr<bench::InstrumentColl> instruments_ = std::make_shared<bench::InstrumentColl>();
+  bench::Runs runs_;
+  bench::RunRecorder recorder_{{runs_, instruments_, standards_, doubts_}};
   int saved_ = 0;
-  std::shared_ptr<bench::RunController> controller_ =
-      std::make_shared<bench::RunController>(bench::RunController::Parts{
-          standards_, instruments_, *library_.Host().Elements(), doubts_, [this] { ++saved_; }});
+  std::shared_ptr<bench::RunController> controller_ = std::make_shared<bench::RunController>(
+      bench::RunController::Parts{standards_, instruments_, doubts_, recorder_, [this] { ++saved_; }});
 };
 
 TEST_F(ReferenceRun, ControlsRuns) {
@@ -118,12 +121,20 @@ TEST_F(ReferenceRun, RunsAPlugInsElement) {
       [&](const auto& which) { heard.push_back(which == element ? "finished" : "another finished"); });
   const auto shown = library_.Application().FormShown().Subscribe(
       [&](const auto& form) { library_.Application().Post([form] { Click(*form, "cmdUndamaged"); }); });
+  ASSERT_TRUE(controller_->Begin({}, {element}));
   element->Perform(controller_);
   EXPECT_EQ(heard, (std::vector<std::string>{"started", "finished"}));
   ASSERT_TRUE(element->Result());
   EXPECT_EQ(element->Result()->Status(), 1);
   EXPECT_EQ(controller_->Asked(), bench::Navigation::kNext);
-  EXPECT_EQ(saved_, 1);
+  EXPECT_EQ(saved_, 2) << "the beginning and the finished element";
+  ASSERT_EQ(runs_.All().size(), 1U);
+  ASSERT_EQ(runs_.All()[0].steps.size(), 2U);
+  const auto& test = std::get<bench::RecordedTest>(runs_.All()[0].steps[1]);
+  EXPECT_EQ(test.element, element->ID());
+  EXPECT_EQ(test.testId, element->TestID());
+  EXPECT_EQ(test.status, 1);
+  EXPECT_EQ(test.by, bench::RecordedTest::By::kTester);
 }
 
 /// The host's limit view on limits of the plug-in's own, edited by hand.
