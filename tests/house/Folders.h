@@ -15,6 +15,10 @@ Findings FolderFindings(const std::vector<SourceFile>& files);
 /// and the class library.
 Findings RoomFindings(const std::vector<SourceFile>& files);
 
+/// Includes by which the judge could look at anything else than a document and its records: files, the wire,
+/// windows, the clock. Its procedure over plain data may not even look at documents.
+Findings JudgeFindings(const std::vector<SourceFile>& files);
+
 /// Files that include themselves by way of others.
 Findings CircleFindings(const std::vector<SourceFile>& files);
 

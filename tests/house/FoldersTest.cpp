@@ -90,6 +90,19 @@ TEST(RoomFindings, NameAPlugInFileWithoutARoom) {
   EXPECT_THAT(RoomFindings({MakeSourceFile("plugin/Stray.h", "")}), ElementsAre(Where("plugin/Stray.h")));
 }
 
+TEST(JudgeFindings, NameFilesWireWindowsAndClocks) {
+  for (const auto* include :
+       {"\"host/serial/Port.h\"", "\"host/services/Files.h\"", "\"host/app/Workbench.h\"",
+        "\"host/document/Document.h\"", "<fstream>", "<chrono>"})
+    EXPECT_THAT(
+        JudgeFindings({MakeSourceFile("host/judge/Judge.cpp", std::string("#include ") + include + "\n")}),
+        ElementsAre(Where("host/judge/Judge.cpp:1")))
+        << include;
+  EXPECT_THAT(
+      JudgeFindings({MakeSourceFile("host/judge/CaseOf.cpp", "#include \"host/document/Document.h\"\n")}),
+      IsEmpty());
+}
+
 TEST(CircleFindings, NameTheWayRound) {
   const auto findings = CircleFindings({MakeSourceFile("a/A.h", "#include \"a/B.h\"\n"),
                                         MakeSourceFile("a/B.h", "#include \"a/C.h\"\n"),
@@ -109,6 +122,8 @@ TEST(Repository, HasItsFilesFound) { EXPECT_GT(Tree().size(), 100U); }
 TEST(Repository, HasAllArrowsBetweenFoldersOneWay) { EXPECT_THAT(FolderFindings(Tree()), IsEmpty()); }
 
 TEST(Repository, HasNoRoomThatReachesIntoAHigherOne) { EXPECT_THAT(RoomFindings(Tree()), IsEmpty()); }
+
+TEST(Repository, HasAJudgeThatSeesDocumentsAlone) { EXPECT_THAT(JudgeFindings(Tree()), IsEmpty()); }
 
 TEST(Repository, HasNoCircleAmongItsFiles) { EXPECT_THAT(CircleFindings(Tree()), IsEmpty()); }
 
