@@ -59,10 +59,9 @@ TEST(RunChain, AnyOtherAttributeShows) {
       what = attribute.name();
       attribute.set_value(Another(attribute).c_str());
     });
-    const auto intact = IntactIn(changed);
-    EXPECT_TRUE(intact.at(0)) << what;
-    EXPECT_FALSE(intact.at(1)) << what;
-    EXPECT_EQ(intact.at(2), what != "Digest") << what;
+    const States wanted{what == "Before" ? "intact, gap" : "intact",
+                        what == "Digest" ? "changed, gap" : "changed", "intact"};
+    EXPECT_EQ(StatesIn(changed), wanted) << what;
   }
 }
 
@@ -72,11 +71,11 @@ TEST(RunChain, AnyOtherTextShows) {
   const auto all = Parts(RunAt(original.child("Runs"), 2)).texts.size();
   ASSERT_EQ(all, 6U);
   for (std::size_t place = 0; place < all; ++place) {
-    EXPECT_EQ(IntactIn(Changed([&](pugi::xml_node section) {
+    EXPECT_EQ(StatesIn(Changed([&](pugi::xml_node section) {
                 auto text = Parts(RunAt(section, 2)).texts[place];
                 text.set_value((std::string(text.value()) + "1").c_str());
               })),
-              (Intact{true, false, true}))
+              (States{"intact", "changed", "intact"}))
         << place;
   }
 }
@@ -85,7 +84,7 @@ TEST(RunChain, AnyElementRemovedAddedOrMovedShows) {
   pugi::xml_document original;
   original.load_string(ThreeRuns().c_str());
   const auto all = Parts(RunAt(original.child("Runs"), 2)).elements.size();
-  const Intact shows{true, false, true};
+  const States shows{"intact", "changed", "intact"};
   for (std::size_t place = 1; place < all; ++place) {
     std::string what;
     const auto removed = Changed([&](pugi::xml_node section) {
@@ -94,30 +93,30 @@ TEST(RunChain, AnyElementRemovedAddedOrMovedShows) {
       // A test that names a tester needs one.
       if (what != "Tester") element.parent().remove_child(element);
     });
-    if (what != "Tester") EXPECT_EQ(IntactIn(removed), shows) << "without " << what;
-    EXPECT_EQ(IntactIn(Changed([&](pugi::xml_node section) {
+    if (what != "Tester") EXPECT_EQ(StatesIn(removed), shows) << "without " << what;
+    EXPECT_EQ(StatesIn(Changed([&](pugi::xml_node section) {
                 auto element = Parts(RunAt(section, 2)).elements[place];
                 element.parent().insert_copy_after(element, element);
               })),
               shows)
         << "twice " << what;
   }
-  EXPECT_EQ(IntactIn(Changed([&](pugi::xml_node section) {
+  EXPECT_EQ(StatesIn(Changed([&](pugi::xml_node section) {
               auto run = RunAt(section, 2);
               run.append_move(run.child("Takes"));
             })),
             shows);
   // The same texts under other names, or in another place.
-  EXPECT_EQ(IntactIn(Changed([&](pugi::xml_node section) {
+  EXPECT_EQ(StatesIn(Changed([&](pugi::xml_node section) {
               RunAt(section, 2).child("Test").child("Said").set_name("Heard");
             })),
             shows);
-  EXPECT_EQ(IntactIn(Changed([&](pugi::xml_node section) {
+  EXPECT_EQ(StatesIn(Changed([&](pugi::xml_node section) {
               auto test = RunAt(section, 2).child("Test");
               test.child("Recorded").append_move(test.child("Said"));
             })),
             shows);
-  EXPECT_EQ(IntactIn(Changed([&](pugi::xml_node section) {
+  EXPECT_EQ(StatesIn(Changed([&](pugi::xml_node section) {
               RunAt(section, 2).child("Equipment").remove_attribute("Maker");
             })),
             shows);
@@ -127,26 +126,45 @@ TEST(RunChain, ARunRemovedMovedOrRepeatedShows) {
   const auto without = [](int number) {
     return Changed([&](pugi::xml_node section) { section.remove_child(RunAt(section, number)); });
   };
-  EXPECT_EQ(IntactIn(without(1)), (Intact{false, false}));
-  EXPECT_EQ(IntactIn(without(2)), (Intact{true, false}));
-  EXPECT_EQ(IntactIn(Changed([](pugi::xml_node section) {
+  EXPECT_EQ(StatesIn(without(2)), (States{"intact, gap", "intact"}));
+  EXPECT_EQ(StatesIn(without(3)), (States{"intact", "intact, gap"}));
+  // Whatever an earlier run did, the later ones are decisive.
+  EXPECT_EQ(StatesIn(without(1)), AllIntact(2));
+  EXPECT_EQ(StatesIn(Changed([](pugi::xml_node section) {
               section.insert_move_before(RunAt(section, 2), RunAt(section, 1));
             })),
-            (Intact{false, false, false}));
-  EXPECT_EQ(IntactIn(Changed([](pugi::xml_node section) { section.append_copy(RunAt(section, 3)); })),
-            (Intact{true, true, true, false}));
+            (States{"intact, gap", "intact, gap", "intact"}));
+  EXPECT_EQ(StatesIn(Changed([](pugi::xml_node section) { section.append_copy(RunAt(section, 3)); })),
+            (States{"intact", "intact", "intact, gap", "intact"}));
+  EXPECT_EQ(StatesIn(Changed([](pugi::xml_node section) { section.remove_attribute("Last"); })),
+            (States{"intact", "intact", "intact, gap"}));
+}
+
+TEST(RunChain, AMissingRunShowsForEver) {
+  for (const int missing : {2, 3}) {
+    auto runs =
+        Loaded(Changed([&](pugi::xml_node section) { section.remove_child(RunAt(section, missing)); }));
+    Add(runs, MakeRun("Dan"));
+    auto again = Loaded(TextOf(runs));
+    Add(again, MakeRun("Eve"));
+    const auto states = StatesIn(TextOf(again));
+    EXPECT_EQ(std::count(states.begin(), states.end(), "intact, gap"), 1) << missing;
+    EXPECT_EQ(states.at(static_cast<std::size_t>(missing) - 2), "intact, gap") << missing;
+    for (std::size_t place = 1; place < again.All().size(); ++place)
+      EXPECT_GT(again.All()[place].number, again.All()[place - 1].number);
+  }
 }
 
 TEST(RunChain, LayoutAndCommentsDoNotMatter) {
-  EXPECT_EQ(IntactIn(Changed([](pugi::xml_node) {})), Intact(3, true));
-  EXPECT_EQ(IntactIn(Changed([](pugi::xml_node section) {
+  EXPECT_EQ(StatesIn(Changed([](pugi::xml_node) {})), AllIntact(3));
+  EXPECT_EQ(StatesIn(Changed([](pugi::xml_node section) {
               for (auto element : Parts(RunAt(section, 2)).elements) {
                 element.parent().insert_child_before(pugi::node_comment, element).set_value("looked at");
                 if (element.first_child().type() == pugi::node_element)
                   element.prepend_child(pugi::node_pcdata).set_value("\n\t  ");
               }
             })),
-            Intact(3, true));
+            AllIntact(3));
 }
 
 // A later program may say more of a run; it stays, and shows.
@@ -160,13 +178,13 @@ TEST(RunChain, KeepsWhatAnotherProgramAdded) {
     run.prepend_child(pugi::node_comment).set_value("looked at");
   });
   auto runs = Loaded(text);
-  EXPECT_EQ(IntactIn(text), (Intact{true, false, true}));
+  EXPECT_EQ(StatesIn(text), (States{"intact", "changed", "intact"}));
   Add(runs, MakeRun("Dan"));
   const auto saved = TextOf(runs);
   for (const auto* part : {"Room=\"7\"", "<Weather Is=\"fine\" />", "Signed=\"yes\"", "<Photo>a.png</Photo>",
                            "<!--looked at-->"})
     EXPECT_TRUE(Holds(saved, part));
-  EXPECT_EQ(IntactIn(saved), (Intact{true, false, true, true}));
+  EXPECT_EQ(StatesIn(saved), (States{"intact", "changed", "intact", "intact"}));
   EXPECT_EQ(TextOf(Loaded(saved)), saved) << "the same bytes";
 }
 

@@ -11,7 +11,8 @@
 
 namespace bench::test::runs {
 
-using Intact = std::vector<bool>;
+/// What is to be seen of each run: "intact", "changed", and "gap" where a run that came after it is missing.
+using States = std::vector<std::string>;
 
 inline constexpr char kNasty[] = "  <&\"'>\n\tend\r\n\xC2\xB5 ";
 
@@ -74,11 +75,14 @@ inline Runs Loaded(const std::string& text) {
   return runs;
 }
 
-inline Intact IntactIn(const std::string& text) {
-  Intact intact;
-  for (const auto& run : Loaded(text).All()) intact.push_back(run.intact);
-  return intact;
+inline States StatesIn(const std::string& text) {
+  States states;
+  for (const auto& run : Loaded(text).All())
+    states.push_back(std::string(run.intact ? "intact" : "changed") + (run.gapAfter ? ", gap" : ""));
+  return states;
 }
+
+inline States AllIntact(std::size_t count) { return States(count, "intact"); }
 
 /// Three runs, as they are saved.
 inline std::string ThreeRuns() {
