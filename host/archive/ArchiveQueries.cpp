@@ -17,8 +17,8 @@ constexpr char kDate[] = "CASE WHEN d.run_date = '' THEN d.added ELSE d.run_date
 /// Elements of a document can be run on different days.
 constexpr char kElementDate[] = "CASE WHEN e.run_date = '' THEN d.added ELSE e.run_date END";
 
-/// What the judge counted when the document was added.
-constexpr char kCurrent[] = "e.run > 0 AND e.verdict <> 'not tested'";
+/// Results that counted when the document was added: the judge leaves an element without one not tested.
+constexpr char kCounted[] = "e.verdict <> 'not tested'";
 
 /// The results of test $2 of asset $1, each as in the last revision that holds it.
 constexpr char kFromResults[] =
@@ -109,7 +109,7 @@ Trend Archive::TrendOf(const std::string& asset, std::int32_t testId, bool simul
   Transaction transaction(*database_, Database::Use::kRead);
   const std::vector<Value> values = {asset, std::int64_t{testId}};
   const auto ofKind = [](bool kind) {
-    return std::string(kCurrent) + " AND d.simulated = " + (kind ? "1" : "0");
+    return std::string(kCounted) + " AND d.simulated = " + (kind ? "1" : "0");
   };
   const auto count = [&](const std::string& condition) {
     const auto found = database_->Run("SELECT COUNT(*)" + (kFromResults + condition), values);
