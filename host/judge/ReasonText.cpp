@@ -96,15 +96,13 @@ std::vector<std::string> Translated(const Reason& reason) {
   static constexpr std::array<std::string_view, 4> kWithWords{"changed-after-finish", "child", "service-code",
                                                               "other-status"};
   auto values = reason.arguments;
-  // The record keeps the plug-in's numbers.
-  if (reason.code == "changed-after-finish")
-    for (auto& value : values) value = StatusText(WholeNumber(value).value_or(-1));
   if (reason.code == "other-equipment" && values.size() > 1) {
     if (values[1] == "asset") values[1] = Tr("the asset number");
     if (values[1] == "serial") values[1] = Tr("the serial number");
     if (values[1] == "maker") values[1] = Tr("the maker");
     if (values[1] == "model") values[1] = Tr("the model");
   }
+  // The record keeps the plug-in's numbers.
   if (reason.code == "changed-after-finish")
     for (auto& value : values) value = StatusText(WholeNumber(value).value_or(-1));
   if (std::find(kWithWords.begin(), kWithWords.end(), reason.code) != kWithWords.end())
