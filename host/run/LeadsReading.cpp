@@ -14,8 +14,7 @@ namespace {
 constexpr std::size_t kLeadsFields = 5;  // test, setting, value, overload, unit
 constexpr double kMilliohmsOfOhm = 1000;
 
-/// The dialog stores what it shows, and shows at most 15 digits: 0.1235 Ohm are 123.5 mOhm, not a little
-/// less.
+/// The dialog stores what it shows, with at most 15 digits: 123.49999999999999 is shown as 123.5.
 double AsShown(double milliohms) { return FiniteNumber(orvik::NumberText(milliohms)).value_or(milliohms); }
 
 LeadsReading Unusable(std::string fault) { return {0, std::move(fault)}; }

