@@ -44,15 +44,17 @@ ensure_packages() {
   sudo apt-get update && sudo apt-get install --no-install-recommends ${missing[*]}"
   fi
   say "Installing: ${missing[*]}"
+  # A machine that has just started may still be updating itself: wait for the package manager's lock.
+  local apt_options=(-o DPkg::Lock::Timeout=300 -o Acquire::Retries=3 -qq)
   export DEBIAN_FRONTEND=noninteractive
   # The tests start a database server of their own; the system wants none for them.
   if [[ " ${missing[*]} " == *" postgresql"* && ! -e /etc/postgresql-common/createcluster.conf ]]; then
     mkdir -p /etc/postgresql-common
     say "create_main_cluster = false" >/etc/postgresql-common/createcluster.conf
   fi
-  logged apt-update apt-get -o Acquire::Retries=3 -qq update ||
+  logged apt-update apt-get "${apt_options[@]}" update ||
     fail "the package lists could not be fetched: is there a network? Missing: ${missing[*]}"
-  logged apt-install apt-get -o Acquire::Retries=3 -qq install -y --no-install-recommends "${missing[@]}" </dev/null ||
+  logged apt-install apt-get "${apt_options[@]}" install -y --no-install-recommends "${missing[@]}" </dev/null ||
     fail "could not install: ${missing[*]}"
 }
 
