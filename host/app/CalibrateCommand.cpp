@@ -13,6 +13,7 @@
 #include "host/app/run/ProgressLines.h"
 #include "host/app/run/StopProgress.h"
 #include "host/run/StopSignals.h"
+#include "host/services/FileErrors.h"
 #include "host/services/Tr.h"
 
 namespace bench {
@@ -77,7 +78,12 @@ void CalibrateCommand::Measure(const GlobalOptions& options) {
   CalibrationWindow window(workbench, serial_);
   Operate(workbench, window);
   const auto& stored = workbench.Leads().Value();
-  if (!stored) throw IncompleteError(Tr("calibrate: %%1", {window.Reason()}));
+  if (!stored) {
+    const auto reason = Tr("calibrate: %%1", {window.Reason()});
+    if (workbench.Leads().RegistryWasBusy())
+      throw BusyError(orvik::HostError::kPathError, "orvik-bench", reason);
+    throw IncompleteError(reason);
+  }
   std::cout << (json_ ? Indented(JsonOf(*stored, window.TesterType())) : TextOf(*stored)) << "\n";
 }
 

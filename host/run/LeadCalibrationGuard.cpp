@@ -11,6 +11,7 @@
 #include "host/run/LeadsReading.h"
 #include "host/serial/Latin1.h"
 #include "host/serial/Message.h"
+#include "host/services/FileErrors.h"
 #include "host/services/Tr.h"
 #include "platform/Controls.h"
 #include "platform/IForm.h"
@@ -93,6 +94,7 @@ void LeadCalibrationGuard::Shown(const std::shared_ptr<platform::IForm>& form) {
   value_.reset();
   reason_.clear();
   cancelled_ = false;
+  registryWasBusy_ = false;
   // The plug-in's own handlers were there first, so each of these runs when its operation is over.
   auto& heard = dialog_->heard;
   heard.push_back(parts_.ports.TheWire()->Subscribe([this](const WireRecord& record) { Watch(record); }));
@@ -203,6 +205,7 @@ void LeadCalibrationGuard::Store(const std::string& serial) {
   const auto milliohms = Measured();
   auto& registry = parts_.registry;
   std::string failure;
+  registryWasBusy_ = false;
   try {
     StoreLeads(registry, serial, milliohms, parts_.clock());
     const auto readBack = StoredLeadsOf(registry, serial);
@@ -211,6 +214,9 @@ void LeadCalibrationGuard::Store(const std::string& serial) {
       return;
     }
     failure = Tr("%%1 does not hold it", {registry.File().string()});
+  } catch (const BusyError& error) {
+    registryWasBusy_ = true;
+    failure = error.Description();
   } catch (const orvik::HostError& error) {
     failure = error.Description();
   }

@@ -43,6 +43,8 @@ class LeadCalibrationGuard {
   const std::optional<LeadCalibration>& Value() const { return value_; }
   /// Why it stored nothing; empty when it did, or when the operator cancelled.
   const std::string& Reason() const { return reason_; }
+  /// Whether the reason is that another program was using the registry.
+  bool RegistryWasBusy() const { return registryWasBusy_; }
 
   /// Closes the dialog. Nothing is stored, whatever the tester still says.
   void Cancel();
@@ -68,6 +70,7 @@ class LeadCalibrationGuard {
   std::optional<LeadCalibration> value_;
   std::string reason_;
   bool cancelled_ = false;
+  bool registryWasBusy_ = false;
   orvik::platform::Event<const LeadCalibration&> stored_;
   orvik::platform::Event<const std::string&> refused_;
   orvik::platform::Subscription shown_;

@@ -58,6 +58,24 @@ TEST_F(BusyTest, WaitGoesOnWhenThePortIsFree) {
   EXPECT_TRUE(waiting->AwaitOutput("port-opened"));
 }
 
+TEST_F(BusyTest, SettingsThatAreHeldEndWithFiveOrAreWaitedFor) {
+  std::filesystem::create_directory(Path("state"));
+  Write("state/registry.lock", "");
+  auto holder = Hold(Path("state/registry.lock"));
+  const Words calibrate{"calibrate", "--simulate", "--time-scale", kTimeScale};
+  auto patient = calibrate;
+  patient.insert(patient.end(), {"--wait", "600"});
+  const auto waiting = Start(patient);
+  const auto refused = Bench(calibrate);
+  EXPECT_EQ(refused.status, 5) << refused.error;
+  EXPECT_NE(refused.error.find("registry.lock is held by another program"), std::string::npos)
+      << refused.error;
+  ASSERT_TRUE(waiting->AwaitError("waiting, at most 600 s"));
+  holder.Reset();
+  const auto ended = waiting->Wait();
+  EXPECT_EQ(ended.status, 0) << ended.error;
+}
+
 TEST_F(BusyTest, WaitEndsWithFiveWhenTheTimeIsOver) {
   const auto holder = Hold(file_);
   EXPECT_EQ(Bench(Limit({"--wait", "1"})).status, 5);
