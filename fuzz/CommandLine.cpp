@@ -40,7 +40,7 @@ class Workplace {
       : outer_(outer), before_(std::filesystem::current_path()) {
     const auto folder = outer_ / "inner";
     std::filesystem::create_directories(folder);
-    std::filesystem::copy_file(SOURCE_PATH "/tests/archive/finished.orvik", folder / "a.orvik");
+    std::filesystem::copy_file(SOURCE_PATH "/fuzz/corpus/document/two-runs.orvik", folder / "a.orvik");
     std::filesystem::current_path(folder);
   }
   Workplace(const Workplace&) = delete;

@@ -183,7 +183,9 @@ TEST_F(DocumentCommandsTest, ReportWritesWhatWasMeasured) {
 
 // A limit that opening would otherwise drop: the element would count as not tested, without a word.
 TEST_F(DocumentCommandsTest, AFaultInAnElementOfTheRealPlugInIsRefused) {
-  const auto good = Contents(SOURCE_PATH "/tests/archive/finished.orvik");
+  const auto file = NewDocument({"410", "1010"});
+  SetLimit(file, "1", "300");
+  const auto good = Contents(file);
   const struct {
     const char *from, *to, *reason;
   } kFaults[] = {{"High=\"300\"", "High=\"abc\"", "abc"},
