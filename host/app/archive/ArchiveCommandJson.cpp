@@ -14,8 +14,7 @@ using Json = nlohmann::ordered_json;
 Json OrNull(const std::string& text) { return text.empty() ? Json(nullptr) : Json(text); }
 
 Json JsonOf(const TrendPoint& point) {
-  const auto value =
-      point.element.result.measurement ? point.element.result.measurement->value : std::nullopt;
+  const auto& measurement = point.element.result.measurement;
   Json json;
   json["document"] = point.document;
   json["date"] = point.date;
@@ -23,9 +22,9 @@ Json JsonOf(const TrendPoint& point) {
   json["added"] = point.added;
   json["serial"] = point.serial;
   json["element"] = point.element.result.id;
-  json["value"] = value ? Json(*value) : Json(nullptr);
+  json["value"] = measurement && measurement->value ? Json(*measurement->value) : Json(nullptr);
   json["unit"] = point.Unit();
-  json["flags"] = point.element.result.measurement ? point.element.result.measurement->flags : "";
+  json["flags"] = measurement ? measurement->flags : "";
   json["overload"] = point.Overloaded();
   auto element = bench::JsonOf(point.element.result);
   for (const char* shared : {"name", "run", "operator", "status", "statusText", "verdict", "judged",

@@ -44,12 +44,12 @@ SavedSettings SettingsOf(const orvik::IConfigData& configuration) {
   return saved;
 }
 
-std::int32_t OptionsOf(const SavedSettings& saved) {
+std::int32_t OptionBitsOf(const SavedSettings& saved) {
   return WholeNumber(saved.Settings()->Attribute(SavedSettings::kOptions)).value_or(0);
 }
 
 std::string Answer(const orvik::ITestElement& element, const SavedSettings& saved, bool withFilter) {
-  const auto set = OptionsOf(saved);
+  const auto set = OptionBitsOf(saved);
   auto text = Tr("element %%1: options %%2 (%%3)", {std::to_string(element.ID()), std::to_string(set),
                                                     options::InWords(set, element.TestID())});
   if (withFilter) text += Tr(", filter %%1", {saved.Settings()->Attribute(SavedSettings::kFilter)});
@@ -127,7 +127,7 @@ ExitStatus ConfigCommand::Run(const GlobalOptions& options) {
   const auto wanted = SettingsOf(*configuration);
   if (ChangesOptions())
     wanted.Settings()->SetAttribute(SavedSettings::kOptions,
-                                    std::to_string(Changed(OptionsOf(wanted), element->TestID())));
+                                    std::to_string(Changed(OptionBitsOf(wanted), element->TestID())));
   if (Given(kFilter)) wanted.Settings()->SetAttribute(SavedSettings::kFilter, filter_);
   configuration->Load(wanted.Node());
   // What the element now says of itself is what it has taken.
