@@ -3,6 +3,7 @@
 #include <map>
 
 #include "host/app/InputError.h"
+#include "host/app/RunOutcome.h"
 #include "host/app/TextColumns.h"
 #include "host/judge/ReasonText.h"
 #include "host/judge/Verdict.h"
@@ -57,7 +58,7 @@ std::string TestText(const RecordedTest& test) {
             Tr("judged: %%1, %%2: %%3",
                {VisibleText(limit.description.empty() ? limit.standard
                                                       : limit.standard + ", " + limit.description),
-                VisibleText(BoundsText(limit)), limit.status == 2 ? Tr("exceeded") : Tr("within limit")}) +
+                VisibleText(BoundsText(limit)), LimitWord(VerdictThen(limit, test))}) +
             "\n";
   for (const auto& doubt : test.doubts)
     text += kIndent + Tr("doubt: %%1", {VisibleText(judge::ReasonText(doubt))}) + "\n";

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <unordered_map>
+#include <unordered_set>
+#include <vector>
+
+#include "host/document/RunRecord.h"
+#include "host/judge/Verdict.h"
+
+namespace bench {
+
+/// A finished test and what it counted for when it was done.
+struct TestThen {
+  const RecordedTest* test = nullptr;
+  judge::Verdict verdict = judge::Verdict::kNotTested;
+};
+
+/// What came of the elements of one run, by its record alone. Not what counts now: `judge::Judge`.
+struct RunOutcome {
+  std::vector<TestThen> tests;           ///< in the order in which they finished
+  std::vector<std::int32_t> unfinished;  ///< taken up and not finished, in the order of the elements' numbers
+};
+
+class RunOutcomes {
+ public:
+  /// @param now which elements are groups, and of which children
+  explicit RunOutcomes(const judge::JudgedDocument& now);
+
+  RunOutcome Of(const RunRecord& run) const;
+  /// "failed: 1; passed: 2-4, 7"; a group is named only where none of its children had the same outcome.
+  std::string TextOf(const RunOutcome& outcome) const;
+
+ private:
+  using Verdicts = std::unordered_map<std::int32_t, judge::Verdict>;
+
+  judge::Verdict VerdictThen(const RecordedTest& test, const Verdicts& before) const;
+
+  std::unordered_set<std::int32_t> groups_;
+  std::unordered_map<std::int32_t, std::vector<std::int32_t>> children_;
+};
+
+/// What a limit said of the test's reading when it was measured.
+judge::LimitVerdict VerdictThen(const RecordedLimit& limit, const RecordedTest& test);
+
+/// "within limit", "exceeded", "below limit", "not judged".
+std::string LimitWord(judge::LimitVerdict verdict);
+
+}  // namespace bench
