@@ -112,7 +112,7 @@ AppliedLimits Desk::ApplySet(const LimitSet& set, std::optional<std::int32_t> id
 
 void Desk::WriteReport(const std::filesystem::path& out) const {
   CheckReportFile(document_->Path(), out);
-  bench::WriteReport(*document_, *workbench_.Host(), options_.language, out);
+  bench::WriteReport(ReportOf(*document_, *workbench_.Host(), options_.language), out);
 }
 
 Element Desk::Found(std::int32_t id) const {

@@ -41,34 +41,62 @@ void DrawSharedLine(QPainter& painter, const std::string& left, const std::strin
            Qt::AlignRight);
 }
 
-void DrawHeader(QPainter& painter, const report::Report& report, std::size_t page, std::size_t pages) {
-  constexpr double kNumber = 1200, kLineHeight = 230;
-  const auto fact = [&](std::size_t number) {
-    return Labelled(report.words, report.pageHeader[number].label, report.pageHeader[number].value);
-  };
-  const auto line = [](int number, double from, double to) {
-    return QRectF(kMargin + from, kHeaderTop + number * kLineHeight, to - from, kLineHeight);
-  };
-  DrawLine(painter, fact(0), line(0, 0, kUsable - kNumber), FontOf(kSmall, true), kInk, Qt::AlignLeft);
-  DrawLine(painter, std::to_string(page + 1) + " / " + std::to_string(pages),
-           line(0, kUsable - kNumber, kUsable), FontOf(kSmall, true), kInk, Qt::AlignRight);
-  DrawSharedLine(painter, fact(1), fact(2) + "    " + fact(3), line(1, 0, kUsable), FontOf(kSmall), kQuiet);
-  if (report.partial)
-    DrawLine(painter, report.partialNotice, line(2, 0, kUsable), FontOf(kSmall, true),
-             ColourOf(report::Standing::kOpen), Qt::AlignLeft);
-  painter.setPen(QPen(kAccent, 12));
-  const double y = kHeaderTop + 3 * kLineHeight + 50;
-  painter.drawLine(QPointF(kMargin, y), QPointF(kMargin + kUsable, y));
-}
+/// The lines at the top of a page, from above.
+class Header {
+ public:
+  Header(QPainter& painter, const report::Report& report) : painter_(painter), report_(report) {}
 
-void DrawWatermark(QPainter& painter, const report::Report& report) {
+  void Draw(std::size_t page, std::size_t pages) {
+    constexpr double kNumber = 1200;
+    DrawLine(painter_, Fact(0), Line(0, kUsable - kNumber), FontOf(kSmall, true), kInk, Qt::AlignLeft);
+    DrawLine(painter_, std::to_string(page + 1) + " / " + std::to_string(pages),
+             Line(kUsable - kNumber, kUsable), FontOf(kSmall, true), kInk, Qt::AlignRight);
+    y_ += kLineHeight;
+    DrawLine(painter_, Fact(1), Line(0, kUsable), FontOf(kSmall), kQuiet, Qt::AlignLeft);
+    y_ += kLineHeight;
+    DrawSharedLine(painter_, Fact(2), Fact(3), Line(0, kUsable), FontOf(kSmall), kQuiet);
+    y_ += kLineHeight;
+    for (const auto& mark : report_.marks) Mark(mark);
+    painter_.setPen(QPen(kAccent, 12));
+    painter_.drawLine(QPointF(kMargin, y_ + kBelow), QPointF(kMargin + kUsable, y_ + kBelow));
+  }
+
+ private:
+  static constexpr double kLineHeight = 220, kStrongHeight = 270, kBelow = 50;
+
+  std::string Fact(std::size_t number) const {
+    const auto& fact = report_.pageHeader[number];
+    return Labelled(report_.words, fact.label, fact.value);
+  }
+
+  QRectF Line(double from, double to) const { return {kMargin + from, y_, to - from, kLineHeight}; }
+
+  void Mark(const report::PageMark& mark) {
+    if (!mark.strong) {
+      DrawLine(painter_, mark.text, Line(0, kUsable), FontOf(kSmall, true), ColourOf(report::Standing::kOpen),
+               Qt::AlignLeft);
+      y_ += kLineHeight;
+      return;
+    }
+    painter_.fillRect(QRectF(kMargin, y_, kUsable, kStrongHeight), Qt::black);
+    DrawLine(painter_, mark.text, QRectF(kMargin + 80, y_ + 20, kUsable - 160, kStrongHeight),
+             FontOf(9.5, true), Qt::white, Qt::AlignLeft);
+    y_ += kStrongHeight + 30;
+  }
+
+  QPainter& painter_;
+  const report::Report& report_;
+  double y_ = kHeaderTop;
+};
+
+void DrawWatermark(QPainter& painter, const report::PageMark& mark) {
   painter.save();
   painter.translate(kPageWidth / 2, kPageHeight / 2);
   painter.rotate(-55);
   painter.setFont(FontOf(120, true));
-  painter.setPen(kFaint);
+  painter.setPen(mark.strong ? kFaintStrong : kFaint);
   painter.drawText(QRectF(-kPageHeight / 2, -2000, kPageHeight, 4000), Qt::AlignCenter,
-                   Text(report.words.partial).toUpper());
+                   Text(mark.word).toUpper());
   painter.restore();
 }
 
@@ -102,8 +130,8 @@ std::string PdfPages::Write(const report::Report& report) const {
   if (!painter.begin(&writer)) throw std::runtime_error("the pages cannot be drawn");
   for (std::size_t page = 0; page < pages_.size(); ++page) {
     if (page > 0 && !writer.newPage()) throw std::runtime_error("a page cannot be added");
-    if (report.partial) DrawWatermark(painter, report);
-    DrawHeader(painter, report, page, pages_.size());
+    if (!report.marks.empty()) DrawWatermark(painter, report.marks.front());
+    Header(painter, report).Draw(page, pages_.size());
     for (const auto& drawing : pages_[page]) drawing(painter);
   }
   if (!painter.end()) throw std::runtime_error("the pages cannot be finished");

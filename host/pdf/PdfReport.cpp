@@ -88,9 +88,9 @@ void PlaceSummary(PdfPages& pages, const report::Report& report) {
   TextBlock(report.title, {13, true, kAccent}).Place(pages);
   pages.Advance(240);
   VerdictBlock(report.verdict).Place(pages);
-  if (report.partial) {
+  for (const auto& mark : report.marks) {
     pages.Gap(200);
-    TextBlock(report.partialNotice, {11, true, ColourOf(report::Standing::kOpen)}).Place(pages);
+    TextBlock(mark.text, {11, true, mark.strong ? kInk : ColourOf(report::Standing::kOpen)}).Place(pages);
   }
   PlaceHeading(pages, report.words.summary);
   FactsBlock(report.facts)->Place(pages);
@@ -110,6 +110,10 @@ std::string PdfReport(const report::Report& report) {
     TextBlock(report.words.nothing, {}).Place(pages);
   else
     OverviewBlock(report)->Place(pages);
+  if (!report.runs.rows.empty()) {
+    PlaceHeading(pages, report.words.runs);
+    PrintedBlock(report.runs)->Place(pages);
+  }
   PlaceDetails(pages, report);
   const Properties properties{report::CaptionOf(report), report.language, report.created,
                               kPageHeight / kPoint};

@@ -79,6 +79,14 @@ void AddJudgements(Blocks& blocks, const report::Section& section, const report:
   blocks.push_back(std::move(table));
 }
 
+/// The name, and below it the reason; deeper elements further in.
+report::Cell NameCell(const report::OverviewRow& line) {
+  const std::string indent(4 * static_cast<std::size_t>(std::min(line.depth, 8)), ' ');
+  report::Cell cell{{indent + line.name}};
+  if (!line.note.empty()) cell.push_back({"\n" + indent + line.note, false, true});
+  return cell;
+}
+
 Qt::AlignmentFlag AlignmentOf(orvik::platform::Alignment alignment) {
   if (alignment == orvik::platform::Alignment::kRight) return Qt::AlignRight;
   return alignment == orvik::platform::Alignment::kCentre ? Qt::AlignHCenter : Qt::AlignLeft;
@@ -96,6 +104,8 @@ std::vector<TableBlock::Column> ColumnsOf(const report::Table& table) {
   return columns;
 }
 
+}  // namespace
+
 std::unique_ptr<Block> PrintedBlock(const report::Table& table) {
   const bool boxed = table.border != 0;
   auto block = std::make_unique<TableBlock>(ColumnsOf(table), boxed ? Rules::kGrid : Rules::kNone, 100,
@@ -107,8 +117,6 @@ std::unique_ptr<Block> PrintedBlock(const report::Table& table) {
   for (const auto& row : table.rows) add(block->AddRow(), row);
   return block;
 }
-
-}  // namespace
 
 std::unique_ptr<Block> FactsBlock(const std::vector<report::Fact>& facts) {
   auto table = std::make_unique<TableBlock>(
@@ -124,9 +132,9 @@ std::unique_ptr<Block> FactsBlock(const std::vector<report::Fact>& facts) {
 std::unique_ptr<Block> OverviewBlock(const report::Report& report) {
   const auto& words = report.words;
   auto table = std::make_unique<TableBlock>(std::vector<TableBlock::Column>{{kUsable * 0.07, Qt::AlignRight},
-                                                                            {kUsable * 0.47},
-                                                                            {kUsable * 0.14, Qt::AlignRight},
-                                                                            {kUsable * 0.11},
+                                                                            {kUsable * 0.49},
+                                                                            {kUsable * 0.13, Qt::AlignRight},
+                                                                            {kUsable * 0.1},
                                                                             {kUsable * 0.21}},
                                             Rules::kRows);
   auto& head = table->AddHead();
@@ -135,7 +143,7 @@ std::unique_ptr<Block> OverviewBlock(const report::Report& report) {
   for (const auto& line : report.overview) {
     auto& row = table->AddRow();
     row.Text(std::to_string(line.id), {9.5, false, kQuiet});
-    row.Text(std::string(4 * static_cast<std::size_t>(std::min(line.depth, 8)), ' ') + line.name);
+    row.Text(NameCell(line), {});
     row.Text(line.value.empty() ? "\u2013" : line.value);
     row.Text(line.unit);
     row.Word(line.standing, line.word);
@@ -155,6 +163,12 @@ Blocks SectionBlocks(const report::Section& section, const report::Words& words,
     blocks.push_back(FactsBlock(section.facts));
   }
   AddJudgements(blocks, section, words);
+  if (!section.readings.rows.empty()) {
+    AddGap(blocks, 160);
+    blocks.push_back(std::make_unique<TextBlock>(words.readings, Quiet()));
+    AddGap(blocks, 40);
+    blocks.push_back(PrintedBlock(section.readings));
+  }
   for (const auto& table : section.tables) {
     AddGap(blocks, 160);
     blocks.push_back(PrintedBlock(table));

@@ -14,8 +14,8 @@ inline constexpr double kPoint = 20;
 inline constexpr double kPageWidth = 11906, kPageHeight = 16838;  // A4
 inline constexpr double kMargin = 1134;                           // 20 mm
 inline constexpr double kUsable = kPageWidth - 2 * kMargin;
-inline constexpr double kHeaderTop = 680;
-inline constexpr double kBodyTop = 1700;
+inline constexpr double kHeaderTop = 500;
+inline constexpr double kBodyTop = 1940;
 inline constexpr double kBodyBottom = kPageHeight - 1000;
 
 // All texts have a contrast of at least 4.5 to 1 against what they stand on.
@@ -28,16 +28,18 @@ inline const QColor kAllowed(0x9f, 0xb9, 0xd9);
 inline const QColor kTrack(0xe3, 0xe7, 0xed);
 /// Of the watermark: no text to be read, so faint that what stands on it can be.
 inline const QColor kFaint(0xf9, 0xf3, 0xe8);
+/// Of one that nobody may overlook.
+inline const QColor kFaintStrong(0xe6, 0xe6, 0xe6);
 
 inline QColor ColourOf(report::Standing standing) {
-  switch (standing) {
-    case report::Standing::kPassed:
+  switch (report::ToneOf(standing)) {
+    case report::Tone::kGood:
       return {0x14, 0x69, 0x2f};
-    case report::Standing::kFailed:
+    case report::Tone::kBad:
       return {0xb3, 0x20, 0x1a};
-    case report::Standing::kNotApplicable:
+    case report::Tone::kQuiet:
       return kQuiet;
-    case report::Standing::kOpen:
+    case report::Tone::kOpen:
       break;
   }
   return {0x85, 0x50, 0x00};

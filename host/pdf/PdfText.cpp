@@ -9,6 +9,17 @@ namespace {
 
 constexpr double kLeading = 1.16;
 
+void DrawQuestionMark(QPainter& painter, const QRectF& square) {
+  const auto at = [&square](double x, double y) {
+    return QPointF(square.x() + x * square.width(), square.y() + y * square.height());
+  };
+  QPainterPath hook(at(0.25, 0.3));
+  hook.cubicTo(at(0.3, 0.0), at(0.8, 0.0), at(0.75, 0.32));
+  hook.cubicTo(at(0.72, 0.45), at(0.5, 0.45), at(0.5, 0.65));
+  painter.drawPath(hook);
+  painter.drawLine(at(0.5, 0.93), at(0.5, 0.931));
+}
+
 }  // namespace
 
 QFont FontOf(double points, bool bold, bool italic) {
@@ -113,6 +124,22 @@ void DrawSign(QPainter& painter, report::Standing standing, const QRectF& square
     case report::Standing::kOpen:
       painter.drawLine(at(0.5, 0.1), at(0.5, 0.58));
       painter.drawLine(at(0.5, 0.88), at(0.5, 0.881));
+      break;
+    case report::Standing::kDoubtful:
+      DrawQuestionMark(painter, square);
+      break;
+    case report::Standing::kAborted:
+      painter.fillRect(QRectF(at(0.15, 0.15), at(0.85, 0.85)), colour);
+      break;
+    case report::Standing::kNotTested:
+      painter.drawEllipse(QRectF(at(0.15, 0.15), at(0.85, 0.85)));
+      break;
+    case report::Standing::kNotJudged:
+      painter.drawPolyline(QPolygonF({at(0.1, 0.6), at(0.32, 0.42), at(0.68, 0.6), at(0.9, 0.42)}));
+      break;
+    case report::Standing::kRecorded:
+      painter.drawLine(at(0.2, 0.36), at(0.8, 0.36));
+      painter.drawLine(at(0.2, 0.66), at(0.8, 0.66));
       break;
     case report::Standing::kNotApplicable:
       painter.drawLine(at(0.2, 0.5), at(0.8, 0.5));

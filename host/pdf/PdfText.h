@@ -46,7 +46,8 @@ class PdfText {
   QColor colour_;
 };
 
-/// The sign of a standing as a drawing in that square: a tick, a cross, an exclamation mark, a dash.
+/// The sign of a standing as a drawing in that square, each its own: a tick, a cross, a question mark and so
+/// on.
 void DrawSign(QPainter& painter, report::Standing standing, const QRectF& square, const QColor& colour);
 
 }  // namespace bench::pdf

@@ -23,11 +23,17 @@ class Page {
 
   std::string Write() {
     Head();
-    out_ += "<body>\n<div class=\"page\">\n";
+    out_ += "<body>\n";
+    StrongMarks();
+    out_ += "<div class=\"page\">\n";
     RunningHeader();
     out_ += "<main>\n";
     Summary();
     Overview();
+    if (!report_.runs.rows.empty()) {
+      Heading2("runs", report_.words.runs);
+      Printed(report_.words.runs, report_.runs);
+    }
     if (!report_.sections.empty()) Heading2("details", report_.words.details);
     for (const auto& section : report_.sections) Element(section);
     out_ += "</main>\n</div>\n</body>\n</html>\n";
@@ -45,7 +51,16 @@ class Page {
             "</style>\n</head>\n";
   }
 
-  /// On paper alone, at the top of every page; the page itself says all of it, so listeners are spared it.
+  /// What is never scrolled away on a screen, and across every page on paper.
+  void StrongMarks() {
+    for (const auto& mark : report_.marks) {
+      if (!mark.strong) continue;
+      out_ += "<p class=\"band\" role=\"note\">" + Escaped(mark.text) +
+              "</p>\n<div class=\"across\" aria-hidden=\"true\">" + Escaped(mark.word) + "</div>\n";
+    }
+  }
+
+  /// On paper alone, at the top of every page; the page itself has all of it, so screen readers skip it.
   void RunningHeader() {
     out_ += "<div class=\"running\" aria-hidden=\"true\"><div><p>";
     bool first = true;
@@ -55,7 +70,9 @@ class Page {
       first = false;
     }
     out_ += "</p>";
-    if (report_.partial) out_ += "<p class=\"mark\">" + Escaped(report_.partialNotice) + "</p>";
+    for (const auto& mark : report_.marks)
+      out_ += std::string("<p class=\"mark") + (mark.strong ? " strong" : "") + "\">" + Escaped(mark.text) +
+              "</p>";
     out_ += "</div></div>\n";
   }
 
@@ -69,8 +86,8 @@ class Page {
     out_ += "<div class=\"verdict " + std::string(ClassOf(verdict.standing)) + "\">" +
             SignOf(verdict.standing) + "<p style=\"margin:0\"><strong>" + Escaped(verdict.word) +
             "</strong> <span class=\"why\">" + Escaped(verdict.sentence) + "</span></p></div>\n";
-    if (report_.partial)
-      out_ += "<p class=\"partial\" role=\"note\">" + Escaped(report_.partialNotice) + "</p>\n";
+    for (const auto& mark : report_.marks)
+      if (!mark.strong) out_ += "<p class=\"partial\" role=\"note\">" + Escaped(mark.text) + "</p>\n";
     Heading2("summary", report_.words.summary);
     Facts(report_.facts);
   }
@@ -130,7 +147,8 @@ class Page {
     out_ += "<tr role=\"row\"><td role=\"cell\" class=\"right number\">" + id +
             "</td><th scope=\"row\" role=\"rowheader\" class=\"name\"";
     if (row.depth > 0) out_ += " style=\"--depth:" + std::to_string(std::min(row.depth, kDeepest)) + "\"";
-    out_ += ">" + (row.detailed ? "<a href=\"#element-" + id + "\">" + name + "</a>" : name) +
+    out_ += ">" + (row.anchor.empty() ? name : "<a href=\"#" + Escaped(row.anchor) + "\">" + name + "</a>") +
+            (row.note.empty() ? "" : "<span class=\"note\">" + Isolated(row.note) + "</span>") +
             "</th><td role=\"cell\" class=\"right value\">" +
             (row.value.empty() ? "\u2013" : Isolated(row.value)) + "</td><td role=\"cell\" class=\"unit\">" +
             Isolated(row.unit) + "</td><td role=\"cell\" class=\"result\">" + Word(row.standing, row.word) +
@@ -138,17 +156,20 @@ class Page {
   }
 
   void Element(const report::Section& section) {
-    const auto id = std::to_string(section.id);
-    out_ += "<section class=\"element\" id=\"element-" + id + "\" aria-labelledby=\"heading-" + id +
-            "\">\n<div class=\"head\"><h3 id=\"heading-" + id + "\"><span class=\"no\">" + id + "</span>" +
-            Isolated(section.name) + "</h3> " + Word(section.standing, section.word) + "</div>\n";
+    const auto anchor = Escaped(section.anchor);
+    out_ += "<section class=\"element\" id=\"" + anchor + "\" aria-labelledby=\"heading-" + anchor +
+            "\">\n<div class=\"head\"><h3 id=\"heading-" + anchor + "\"><span class=\"no\">" +
+            std::to_string(section.id) + "</span>" + Isolated(section.name) + "</h3> " +
+            Word(section.standing, section.word) + "</div>\n";
     if (!section.value.empty())
       out_ += "<p class=\"reading\">" + Isolated(section.value) + " <span class=\"unit\">" +
               Isolated(section.unit) + "</span></p>\n";
     Notes(section);
     Facts(section.facts);
     Judgements(section);
-    for (const auto& table : section.tables) Printed(section, table);
+    if (!section.readings.rows.empty())
+      Printed(report_.words.readings + ", " + section.name, section.readings, report_.words.readings);
+    for (const auto& table : section.tables) Printed(report_.words.record + ", " + section.name, table);
     out_ += "</section>\n";
   }
 
@@ -182,10 +203,12 @@ class Page {
     return alignment == orvik::platform::Alignment::kCentre ? " class=\"centre\"" : "";
   }
 
-  void Printed(const report::Section& section, const report::Table& table) {
-    out_ += Scroll(report_.words.record + ", " + section.name) + "<table class=\"printed " +
-            (table.border ? "ruled" : "plain") + "\">\n<caption class=\"hidden\">" +
-            Escaped(report_.words.record + ", " + section.name) + "</caption>\n";
+  /// @param caption shown above the table; without one its name is for screen readers alone
+  void Printed(const std::string& name, const report::Table& table, const std::string& caption = {}) {
+    out_ +=
+        Scroll(name) + "<table class=\"printed " + (table.border ? "ruled" : "plain") + "\">\n" +
+        (caption.empty() ? "<caption class=\"hidden\">" + Escaped(name) : "<caption>" + Escaped(caption)) +
+        "</caption>\n";
     if (!table.header.empty()) {
       out_ += "<thead>\n";
       for (const auto& row : table.header) PrintedRow(table, row, "th scope=\"col\"", "th");

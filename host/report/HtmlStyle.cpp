@@ -12,7 +12,9 @@ html { -webkit-text-size-adjust: 100%; }
 body { margin: 0; background: #fff; color: var(--ink); overflow-wrap: anywhere;
   font: 1rem/1.55 system-ui, -apple-system, "Segoe UI", Roboto, "Liberation Sans", "DejaVu Sans", sans-serif; }
 .page { max-width: 56rem; margin: 0 auto; padding: 2.5rem 1.25rem 5rem; }
-.running { display: none; }
+.running, .across { display: none; }
+.band { position: sticky; top: 0; z-index: 1; margin: 0; padding: .6rem 1.25rem; background: #000; color: #fff;
+  font-weight: 700; text-align: center; border: .35rem solid #000; outline: .2rem dashed #fff; outline-offset: -.45rem; }
 h1 { margin: 0 0 1.5rem; font-size: 1.1rem; font-weight: 600; color: var(--accent); }
 h2 { margin: 3.5rem 0 1.25rem; padding-bottom: .5rem; border-bottom: 2px solid var(--accent); font-size: 1.35rem;
   line-height: 1.3; color: var(--accent); }
@@ -41,6 +43,7 @@ tbody th { font-weight: 400; }
 td.right, .result { white-space: nowrap; } .unit { padding-left: 0; }
 .name { min-width: 12rem; max-width: 30rem; padding-left: calc(.75rem + 1rem * var(--depth, 0)); }
 .number { width: 3rem; min-width: 3rem; color: var(--quiet); }
+.name .note { display: block; color: var(--quiet); font-size: .875rem; }
 a { color: var(--accent); text-underline-offset: .15em; }
 .word { font-weight: 600; white-space: nowrap; }
 .word.passed { color: var(--passed); } .word.failed { color: var(--failed); } .word.open { color: var(--open); }
@@ -60,6 +63,9 @@ a { color: var(--accent); text-underline-offset: .15em; }
 .printed td, .printed th { white-space: pre-wrap; }
 .printed.ruled { border: 1px solid var(--line); } .printed.ruled th, .printed.ruled td { border: 1px solid var(--line); }
 .printed.plain th, .printed.plain td { border: 0; padding: .15rem 0; }
+.printed caption { padding-top: .4rem; }
+#runs + .scroll td, #runs + .scroll th { min-width: 6.5rem; padding: .4rem .5rem; font-size: .875rem; }
+#runs + .scroll td:first-child, #runs + .scroll th:first-child { min-width: 2.5rem; }
 .standard { min-width: 9rem; } .bounds, .judgement { min-width: 7rem; } .judgement .word { white-space: normal; } .barcell { min-width: 15rem; }
 svg.bar { display: block; width: 100%; max-width: 19rem; height: auto; }
 .bar .track { fill: #e3e7ed; } .bar .allowed { fill: #9fb9d9; } .bar .bound { stroke: var(--ink); stroke-width: 1.5; }
@@ -93,6 +99,12 @@ svg.bar { display: block; width: 100%; max-width: 19rem; height: auto; }
   .running span { display: inline-block; max-width: 100%; overflow: hidden; white-space: nowrap;
     text-overflow: ellipsis; vertical-align: bottom; }
   .running p { margin: 0; } .running .mark { color: var(--open); font-weight: 700; }
+  /* Black on white: printed even where backgrounds are not. */
+  .running .strong { margin: 1mm 0; padding: .5mm 2mm; border: .8mm solid #000; color: #000; font-size: 11pt; }
+  /* The header of each page has it. */
+  .band { display: none; }
+  .across { display: block; position: fixed; top: 50%; left: 50%; z-index: -1; color: #e3e3e3; font-size: 72pt;
+    font-weight: 700; transform: translate(-50%, -50%) rotate(-55deg); white-space: nowrap; }
   main { display: table-row-group; }
   h2, h3, .head { break-after: avoid; } h2 { margin-top: 10mm; }
   tr, .verdict, .notes li, svg, dl { break-inside: avoid; }

@@ -41,25 +41,49 @@ std::string Isolated(std::string_view text) {
 }
 
 const char* ClassOf(report::Standing standing) {
-  switch (standing) {
-    case report::Standing::kPassed:
+  switch (report::ToneOf(standing)) {
+    case report::Tone::kGood:
       return "passed";
-    case report::Standing::kFailed:
+    case report::Tone::kBad:
       return "failed";
-    case report::Standing::kNotApplicable:
+    case report::Tone::kQuiet:
       return "na";
-    case report::Standing::kOpen:
+    case report::Tone::kOpen:
       break;
   }
   return "open";
 }
 
+namespace {
+
+const char* Sign(report::Standing standing) {
+  switch (standing) {
+    case report::Standing::kPassed:
+      return "\u2713";
+    case report::Standing::kFailed:
+      return "\u2717";
+    case report::Standing::kDoubtful:
+      return "?";
+    case report::Standing::kAborted:
+      return "\u25A0";
+    case report::Standing::kNotTested:
+      return "\u25CB";
+    case report::Standing::kNotJudged:
+      return "~";
+    case report::Standing::kRecorded:
+      return "=";
+    case report::Standing::kNotApplicable:
+      return "\u2013";
+    case report::Standing::kOpen:
+      break;
+  }
+  return "!";
+}
+
+}  // namespace
+
 std::string SignOf(report::Standing standing) {
-  const char* sign = "!";
-  if (standing == report::Standing::kPassed) sign = "\u2713";
-  if (standing == report::Standing::kFailed) sign = "\u2717";
-  if (standing == report::Standing::kNotApplicable) sign = "\u2013";
-  return std::string("<span class=\"sign\" aria-hidden=\"true\">") + sign + "</span>";
+  return std::string("<span class=\"sign\" aria-hidden=\"true\">") + Sign(standing) + "</span>";
 }
 
 }  // namespace bench::html

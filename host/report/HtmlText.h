@@ -14,10 +14,10 @@ std::string Escaped(std::string_view text);
 /// The same, apart from what stands around it whatever its direction of writing, with its line ends.
 std::string Isolated(std::string_view text);
 
-/// The CSS class of a standing: "passed", "failed", "open", "na".
+/// The CSS class of a standing, which is its colour: "passed", "failed", "open", "na".
 const char* ClassOf(report::Standing standing);
 
-/// The sign that stands before a word, hidden from whoever listens to the page.
+/// The sign before a word, each standing its own; hidden from screen readers.
 std::string SignOf(report::Standing standing);
 
 /// A picture of the value between its bounds.

@@ -13,14 +13,40 @@
 /// own escaping and no words.
 namespace bench::report {
 
-/// How something stands. Outputs give each a colour and a sign of its own; the word stands beside them
-/// always.
+/// What something counts for. Outputs give each a sign of its own, and a colour by its tone; the word is
+/// always there too.
 enum class Standing {
   kPassed,
   kFailed,
-  kOpen,  ///< not tested, aborted, doubtful, incomplete: cannot be relied on
+  kOpen,  ///< incomplete, or not judged by one limit
+  kDoubtful,
+  kAborted,
+  kNotTested,
+  kNotJudged,
+  kRecorded,
   kNotApplicable
 };
+
+enum class Tone {
+  kGood,  ///< passed, and nothing else
+  kBad,
+  kOpen,  ///< cannot be relied on
+  kQuiet  ///< recorded, not applicable: neither good nor bad
+};
+
+constexpr Tone ToneOf(Standing standing) {
+  switch (standing) {
+    case Standing::kPassed:
+      return Tone::kGood;
+    case Standing::kFailed:
+      return Tone::kBad;
+    case Standing::kRecorded:
+    case Standing::kNotApplicable:
+      return Tone::kQuiet;
+    default:
+      return Tone::kOpen;
+  }
+}
 
 struct Fact {
   std::string label;
@@ -34,6 +60,13 @@ struct Verdict {
   std::string sentence;  ///< why, such as "2 of 6 tests failed, 1 not tested."
 };
 
+/// What every page says.
+struct PageMark {
+  std::string word;     ///< one or two words, for across the page, such as "SIMULATED"
+  std::string text;     ///< a sentence
+  bool strong = false;  ///< white on black: nothing here is about the equipment
+};
+
 /// A line of the overview.
 struct OverviewRow {
   std::int32_t id = 0;
@@ -43,7 +76,8 @@ struct OverviewRow {
   std::string unit;
   Standing standing = Standing::kOpen;
   std::string word;
-  bool detailed = true;  ///< whether a section tells more
+  std::string note;    ///< the weightiest reason; empty for one that passed
+  std::string anchor;  ///< of its section, unique in the report; empty when there is none
 };
 
 /// An element's reading put to one limit of a standard.
@@ -51,7 +85,7 @@ struct Judgement {
   std::string standard;
   std::string bounds;  ///< such as "at most 300 mOhm"
   Standing standing = Standing::kOpen;
-  std::string word;  ///< such as "kept"
+  std::string word;  ///< such as "within limit"
   std::optional<Bar> bar;
   std::string lowLabel, highLabel, valueLabel;  ///< of the bar
   std::string inWords;                          ///< the bar for whoever does not see it
@@ -67,6 +101,7 @@ struct Note {
 struct Section {
   std::int32_t id = 0;
   int depth = 0;
+  std::string anchor;  ///< as in its row of the overview
   std::string name;
   Standing standing = Standing::kOpen;
   std::string word;
@@ -75,6 +110,7 @@ struct Section {
   std::vector<Note> notes;
   std::vector<Fact> facts;
   std::vector<Judgement> judgements;
+  Table readings;             ///< by run; without rows where there was one only
   std::vector<Table> tables;  ///< as the plug-in printed them
 };
 
@@ -84,7 +120,7 @@ struct Words {
   std::string number, test, value, unit, result;         ///< columns of the overview
   std::string limits, standard, bounds, judgement, bar;  ///< the table of limits and its columns
   std::string record;                                    ///< caption of a table that the plug-in printed
-  std::string partial;                                   ///< the mark of a partial report, one word
+  std::string runs, readings;                            ///< of the tables of runs, and of readings by run
   std::string nothing;                                   ///< instead of an empty overview
   std::string labelled;                                  ///< "%%1: %%2", a label and what it is for
   std::string caption;                                   ///< "%%1: %%2 - %%3", for `CaptionOf`
@@ -94,12 +130,12 @@ struct Report {
   std::string language;  ///< such as "en"
   std::string title;
   Verdict verdict;
-  bool partial = false;
-  std::string partialNotice;     ///< why, one sentence; for every page
+  std::vector<PageMark> marks;   ///< for every page, the weightiest first
   std::vector<Fact> facts;       ///< equipment, tester, dates, operators, standards
   std::vector<Fact> pageHeader;  ///< equipment, tester, date, operator: short, for every page
   Words words;
   std::vector<OverviewRow> overview;
+  Table runs;  ///< what was done, a row for each run; without rows before the first one
   std::vector<Section> sections;
   std::string created;  ///< the moment of the last result, such as "2026-11-21T14:03:22+01:00"; may be empty
 };

@@ -18,18 +18,32 @@ constexpr std::size_t kWidth = 100;
 constexpr std::size_t kIndent = 3;
 constexpr std::size_t kBar = 49;
 
-std::string PlainSignOf(Standing standing) {
+const char* PlainSignOf(Standing standing) {
   switch (standing) {
     case Standing::kPassed:
       return "[+]";
     case Standing::kFailed:
       return "[X]";
+    case Standing::kDoubtful:
+      return "[?]";
+    case Standing::kAborted:
+      return "[#]";
+    case Standing::kNotTested:
+      return "[o]";
+    case Standing::kNotJudged:
+      return "[~]";
+    case Standing::kRecorded:
+      return "[=]";
     case Standing::kNotApplicable:
       return "[-]";
     case Standing::kOpen:
       break;
   }
   return "[!]";
+}
+
+std::string Signed(Standing standing, const std::string& text) {
+  return PlainSignOf(standing) + (" " + text);
 }
 
 /// With the small letters of ISO 8859-1 as capitals, as far as it has them.
@@ -56,22 +70,42 @@ class Text {
     Facts(report_.facts, 0);
     Heading(report_.words.overview, '-');
     Overview();
+    if (!report_.runs.rows.empty()) {
+      Heading(report_.words.runs, '-');
+      out_ += TextTable(report_.runs, kWidth);
+    }
     if (!report_.sections.empty()) Heading(report_.words.details, '-');
     for (const auto& section : report_.sections) Element(section);
-    if (report_.partial) out_ += "\n*** " + report_.partialNotice + " ***\n";
+    Marks();
     return std::move(out_);
   }
 
  private:
   void Heading(const std::string& text, char line) {
     out_ += (out_.empty() ? "" : "\n\n") + text + "\n" + std::string(CellsOf(text), line) + "\n\n";
+    StrongMarks();
+  }
+
+  void Marks() {
+    for (const auto& mark : report_.marks) out_ += "\n*** " + mark.text + " ***\n";
+  }
+
+  /// A text has no pages: each part says it, so that any screen or sheet of it does.
+  void StrongMarks() {
+    bool any = false;
+    for (const auto& mark : report_.marks) {
+      if (!mark.strong) continue;
+      out_ += "*** " + mark.word + " ***\n";
+      any = true;
+    }
+    if (any) out_ += "\n";
   }
 
   void Verdict() {
     const auto& verdict = report_.verdict;
-    out_ += "    " + PlainSignOf(verdict.standing) + "  " + Upper(verdict.word) + "\n\n         " +
+    out_ += "    " + Signed(verdict.standing, " " + Upper(verdict.word)) + "\n\n         " +
             verdict.sentence + "\n";
-    if (report_.partial) out_ += "\n*** " + report_.partialNotice + " ***\n";
+    Marks();
   }
 
   void Facts(const std::vector<report::Fact>& facts, std::size_t indent) {
@@ -98,27 +132,29 @@ class Text {
     table.header = {{CellOf(words.number), CellOf(words.test), CellOf(words.value), CellOf(words.unit),
                      CellOf(words.result)}};
     for (const auto& row : report_.overview)
-      table.rows.push_back(
-          {CellOf(std::to_string(row.id)),
-           CellOf(std::string(2 * static_cast<std::size_t>(std::min(row.depth, 10)), ' ') + row.name),
-           CellOf(row.value.empty() ? "-" : row.value), CellOf(row.unit),
-           CellOf(PlainSignOf(row.standing) + " " + row.word)});
+      table.rows.push_back({CellOf(std::to_string(row.id)),
+                            CellOf(std::string(2 * static_cast<std::size_t>(std::min(row.depth, 10)), ' ') +
+                                   row.name + (row.note.empty() ? "" : "\n  " + row.note)),
+                            CellOf(row.value.empty() ? "-" : row.value), CellOf(row.unit),
+                            CellOf(Signed(row.standing, row.word))});
     out_ += TextTable(table, kWidth);
   }
 
   void Element(const report::Section& section) {
-    const auto word = PlainSignOf(section.standing) + " " + section.word;
+    if (&section != &report_.sections.front()) StrongMarks();
+    const auto word = Signed(section.standing, section.word);
     const auto lines = text::Wrapped(std::to_string(section.id) + "  " + section.name, kWidth - 24);
     out_ += text::Filled(lines.front(), kWidth - 22, Alignment::kLeft) + word + "\n";
     out_ += text::Indented({lines.begin() + 1, lines.end()}, kIndent);
     if (!section.value.empty())
       out_ += text::Indented(text::Wrapped(section.value + " " + section.unit, kWidth - kIndent), kIndent);
     for (const auto& note : section.notes)
-      out_ += text::Indented(text::Wrapped(PlainSignOf(note.standing) + " " + note.text, kWidth - kIndent),
-                             kIndent);
+      out_ += text::Indented(text::Wrapped(Signed(note.standing, note.text), kWidth - kIndent), kIndent);
     if (!section.facts.empty()) out_ += "\n";
     Facts(section.facts, kIndent);
     for (const auto& judgement : section.judgements) Judgement(judgement);
+    if (!section.readings.rows.empty())
+      Indent("\n" + report_.words.readings + "\n" + TextTable(section.readings, kWidth - kIndent));
     for (const auto& table : section.tables) Indent("\n" + TextTable(table, kWidth - kIndent));
     out_ += "\n\n";
   }
@@ -126,9 +162,7 @@ class Text {
   void Judgement(const report::Judgement& judgement) {
     const auto line = report::Labelled(report_.words, judgement.standard,
                                        report::Labelled(report_.words, judgement.bounds, judgement.word));
-    out_ +=
-        "\n" + text::Indented(text::Wrapped(PlainSignOf(judgement.standing) + " " + line, kWidth - kIndent),
-                              kIndent);
+    out_ += "\n" + text::Indented(text::Wrapped(Signed(judgement.standing, line), kWidth - kIndent), kIndent);
     if (!judgement.bar) return;
     Indent(TextBar(*judgement.bar) + "\n");
     out_ += text::Indented(text::Wrapped(judgement.inWords, kWidth - kIndent - 4), kIndent + 4);

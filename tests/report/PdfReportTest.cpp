@@ -60,12 +60,11 @@ TEST_F(PdfReportTest, EveryPageTellsEquipmentTesterDateOperatorAndItsNumber) {
   }
 }
 
-TEST_F(PdfReportTest, ATestersLongDescriptionHasTheRoomThatTheRestLeavesInThePagesHeader) {
+TEST_F(PdfReportTest, SeveralTestersHaveALineOfThePagesHeader) {
   auto report = sample::Report();
-  report.pageHeader[1] = {"Appareil d'essai",
-                          "KELD(IN), num\u00E9ro de s\u00E9rie SIM-0001, micrologiciel 3.10"};
+  report.pageHeader[1] = {"Tester", "KELD(IN) A-1001; KELD(IN) A-1002; KELD(IN) A-1003; KELD(IN) A-1004"};
   EXPECT_THAT(Pages(report).at(0), HasSubstr(report.pageHeader[1].value));
-  // Neither side takes more than its half when both are long.
+  // A longer one is cut short; date and operator are there all the same, each in about its half.
   report.pageHeader[1] = {"Tester", "KELD(IN), SIM-0001" + std::string(500, 'W')};
   report.pageHeader[3].value = std::string(500, 'W');
   EXPECT_THAT(Pages(report).at(0), HasSubstr("Tester: KELD(IN), SIM-0001W"));
@@ -91,7 +90,7 @@ TEST_F(PdfReportTest, TheHeadingOfTheDetailsStandsOnThePageOfItsFirstTest) {
 TEST_F(PdfReportTest, TellsTheVerdictAndEveryElement) {
   const auto text = Told(sample::Report(), "pdftotext -layout", "-");
   for (const char* told : {"Failed", "1 of 3 failed, 2 passed", "Asset number", "1850", "Fails IEC 62353",
-                           "at most 300 mOhm", "broken", "Result:"})
+                           "at most 300 mOhm", "exceeded", "Result:"})
     EXPECT_THAT(text, HasSubstr(told));
 }
 
@@ -102,6 +101,29 @@ TEST_F(PdfReportTest, APartialReportSaysSoOnEveryPage) {
   const auto pages = Pages(report);
   ASSERT_GT(pages.size(), 3U);
   for (const auto& page : pages) EXPECT_THAT(page, HasSubstr("Partial report: 1 of 3 not tested"));
+}
+
+TEST_F(PdfReportTest, ASimulatedReportSaysSoOnEveryPage) {
+  auto report = sample::Report(30);
+  sample::MakePartial(report);
+  sample::MakeSimulated(report);
+  const auto pages = Pages(report);
+  ASSERT_GT(pages.size(), 3U);
+  for (const auto& page : pages) {
+    EXPECT_THAT(page, HasSubstr("SIMULATED: nothing was measured."));
+    EXPECT_THAT(page, HasSubstr("Partial report: 1 of 3 not tested"));
+    // Across the page too, where its letters are turned.
+    EXPECT_GE(std::count(page.begin(), page.end(), 'U'), 2) << page;
+  }
+}
+
+TEST_F(PdfReportTest, ShowsRunsReadingsByRunAndReasons) {
+  auto report = sample::Report();
+  sample::AddRuns(report);
+  const auto text = Told(report, "pdftotext -layout", "-");
+  for (const char* told : {"Runs", "How it ended", "interrupted", "Readings by run", "failed in run 1"})
+    EXPECT_THAT(text, HasSubstr(told));
+  EXPECT_LT(text.find("Fails IEC 62353"), text.find("Tests in detail")) << "the overview has the reason";
 }
 
 TEST_F(PdfReportTest, HasTitleLanguageDateAndBookmarks) {

@@ -78,6 +78,7 @@ TEST_F(ReportCommandTest, TheDocumentItselfIsNotOverwritten) {
 
 TEST_F(ReportCommandTest, AnExistingReportIsReplacedAndTheSameDocumentGivesTheSameBytes) {
   const auto file = NewDocument({"410"});
+  SetLimit(file, "1", "300");
   EXPECT_EQ(Bench(Simulated(file, "sound-class-1", {"--by", "M. Holm"})).status, 0);
   for (const char* name : {"a.html", "a.pdf", "a.txt"}) {
     Write(name, "old");
@@ -88,6 +89,38 @@ TEST_F(ReportCommandTest, AnExistingReportIsReplacedAndTheSameDocumentGivesTheSa
     EXPECT_EQ(Contents(Path(name)), first) << name;
   }
   EXPECT_THAT(Contents(Path("a.txt")), HasSubstr("M. Holm"));
+}
+
+TEST_F(ReportCommandTest, ReportsOneRunAndRefusesOneThatIsNotThere) {
+  const auto file = NewDocument({"410"});
+  SetLimit(file, "1", "300");
+  const auto none = Bench({"report", file, "--to", Path("a.txt"), "--run", "1"});
+  EXPECT_EQ(none.status, 3);
+  EXPECT_THAT(none.error, HasSubstr("--run 1"));
+  EXPECT_EQ(Bench(Simulated(file, "broken-earth", {"--by", "A. Berg"})).status, 1);
+  EXPECT_EQ(Bench(Simulated(file, "sound-class-1", {"--by", "M. Holm"})).status, 0);
+  for (const char* name : {"a.html", "a.pdf", "a.txt"})
+    EXPECT_EQ(Bench({"report", file, "--to", Path(name), "--run", "1"}).status, 0) << name;
+  const auto text = Contents(Path("a.txt"));
+  EXPECT_THAT(text, HasSubstr("Run 1 of 2: what was done then, not what counts now."));
+  EXPECT_THAT(text, HasSubstr("A. Berg"));
+  EXPECT_THAT(text, testing::Not(HasSubstr("M. Holm")));
+  for (const char* number : {"0", "3", "-1"}) {
+    const auto refused = Bench({"report", file, "--to", Path("b.txt"), "--run", number});
+    EXPECT_EQ(refused.status, 3) << number;
+    EXPECT_THAT(refused.error, HasSubstr("--run"));
+  }
+  EXPECT_FALSE(std::filesystem::exists(Path("b.txt")));
+}
+
+TEST_F(ReportCommandTest, JudgesByTheStandardsThatAreNamed) {
+  const auto file = NewDocument({"410"});
+  SetLimit(file, "1", "300");
+  const auto narrowed = Bench({"report", file, "--to", "-", "--standard", "IEC 62353"});
+  EXPECT_EQ(narrowed.status, 0);
+  const auto refused = Bench({"report", file, "--to", "-", "--standard", "IEC 1"});
+  EXPECT_EQ(refused.status, 3);
+  EXPECT_THAT(refused.error, HasSubstr("\"IEC 62353\""));
 }
 
 }  // namespace

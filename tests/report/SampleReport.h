@@ -29,7 +29,8 @@ inline bench::report::Words Words() {
   words.judgement = "Judgement";
   words.bar = "Value between its bounds";
   words.record = "Record";
-  words.partial = "Partial";
+  words.runs = "Runs";
+  words.readings = "Readings by run";
   words.nothing = "The document has no tests.";
   words.labelled = "%%1: %%2";
   words.caption = "%%1: %%2 - %%3";
@@ -46,12 +47,23 @@ inline bench::report::Judgement Judgement(std::optional<double> low, std::option
   const bool kept = judgement.bar && judgement.bar->place != Bar::Place::kAbove &&
                     judgement.bar->place != Bar::Place::kBelow;
   judgement.standing = kept ? bench::report::Standing::kPassed : bench::report::Standing::kFailed;
-  judgement.word = kept ? "kept" : "broken";
+  judgement.word = kept ? "within limit" : "exceeded";
   if (low) judgement.lowLabel = std::to_string(static_cast<int>(*low));
   if (high) judgement.highLabel = std::to_string(static_cast<int>(*high));
   judgement.valueLabel = std::to_string(static_cast<int>(value));
   judgement.inWords = judgement.valueLabel + " mOhm is somewhere";
   return judgement;
+}
+
+/// A table of one column and row.
+inline bench::report::Table OneCell(const std::string& head, const std::string& text) {
+  bench::report::Table table;
+  table.border = 7;
+  table.columns.resize(1);
+  table.columns[0].width = 2000;
+  table.header = {{{{head, true}}}};
+  table.rows = {{{{text}}}};
+  return table;
 }
 
 /// A report of `tests` elements, the second of which has failed.
@@ -72,10 +84,12 @@ inline bench::report::Report Report(int tests = 3) {
     const bool failed = i == 2;
     const auto standing = failed ? Standing::kFailed : Standing::kPassed;
     const std::string name = "Protective earth " + std::to_string(i);
-    report.overview.push_back(
-        {i, 0, name, failed ? "1850" : "123", "mOhm", standing, failed ? "failed" : "passed", true});
+    report.overview.push_back({i, 0, name, failed ? "1850" : "123", "mOhm", standing,
+                               failed ? "failed" : "passed", failed ? "Fails IEC 62353" : "",
+                               "element-" + std::to_string(i)});
     bench::report::Section section;
     section.id = i;
+    section.anchor = "element-" + std::to_string(i);
     section.name = name;
     section.standing = standing;
     section.word = failed ? "failed" : "passed";
@@ -98,22 +112,34 @@ inline bench::report::Report Report(int tests = 3) {
 }
 
 inline void MakePartial(bench::report::Report& report) {
-  report.partial = true;
-  report.partialNotice = "Partial report: 1 of 3 not tested";
+  report.marks.push_back({"Partial", "Partial report: 1 of 3 not tested"});
+}
+
+inline void MakeSimulated(bench::report::Report& report) {
+  report.marks.insert(report.marks.begin(), {"SIMULATED", "SIMULATED: nothing was measured.", true});
+}
+
+inline void AddRuns(bench::report::Report& report) {
+  report.runs = OneCell("How it ended", "interrupted");
+  for (auto& section : report.sections) section.readings = OneCell("Result then", "failed in run 1");
 }
 
 /// The same text in every place that something from outside can come to.
 inline bench::report::Report Everywhere(const std::string& text) {
   auto report = Report();
   MakePartial(report);
-  report.title = report.verdict.word = report.verdict.sentence = report.partialNotice = text;
+  MakeSimulated(report);
+  report.runs = OneCell(text, text);
+  for (auto& mark : report.marks) mark.word = mark.text = text;
+  report.title = report.verdict.word = report.verdict.sentence = text;
   for (auto* facts : {&report.facts, &report.pageHeader})
     for (auto& fact : *facts) fact = {text, text};
-  for (auto& row : report.overview) row.name = row.value = row.unit = row.word = text;
+  for (auto& row : report.overview) row.name = row.value = row.unit = row.word = row.note = text;
   for (auto& section : report.sections) {
     section.name = section.word = section.value = section.unit = text;
     section.notes = {{bench::report::Standing::kOpen, text}};
     section.facts = {{text, text}};
+    section.readings = OneCell(text, text);
     for (auto& judgement : section.judgements)
       judgement.standard = judgement.bounds = judgement.word = judgement.lowLabel = judgement.highLabel =
           judgement.valueLabel = judgement.inWords = text;

@@ -1,6 +1,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <set>
+
 #include "host/report/TextReport.h"
 #include "tests/report/SampleReport.h"
 
@@ -14,8 +16,8 @@ TEST(TextReport, TellsTheVerdictTheFactsAndEachElement) {
   const auto text = TextReport(sample::Report());
   for (const char* told :
        {"[X]  FAILED", "1 of 3 failed, 2 passed", "Asset number   VENT-0042", "Operator       M. Holm",
-        "|   2 | Protective earth 2 |  1850 | mOhm | [X] failed |", "Fails IEC 62353",
-        "IEC 62353: at most 300 mOhm: broken", "1850 mOhm is somewhere"})
+        "|   2 | Protective earth 2 |  1850 | mOhm | [X] failed |", "|     |   Fails IEC 62353  |",
+        "[X] Fails IEC 62353", "IEC 62353: at most 300 mOhm: exceeded", "1850 mOhm is somewhere"})
     EXPECT_THAT(text, HasSubstr(told));
 }
 
@@ -38,6 +40,42 @@ TEST(TextReport, APartialReportSaysSoAtBothEnds) {
   const auto mark = std::string("*** Partial report: 1 of 3 not tested ***");
   EXPECT_LT(text.find(mark), text.find("Summary"));
   EXPECT_TRUE(text.ends_with(mark + "\n"));
+}
+
+TEST(TextReport, ASimulatedReportSaysSoInEachPart) {
+  auto report = sample::Report();
+  sample::AddRuns(report);
+  sample::MakeSimulated(report);
+  const auto text = TextReport(report);
+  for (const char* part : {"Electrical safety test", "Summary", "Overview", "Runs", "Tests in detail"}) {
+    const auto at = text.find(std::string(part) + "\n");
+    EXPECT_LT(text.find("*** SIMULATED ***", at) - at, 80U) << part;
+  }
+  EXPECT_THAT(text, HasSubstr("*** SIMULATED ***\n\n2  Protective earth 2"));
+  EXPECT_THAT(text, HasSubstr("*** SIMULATED ***\n\n3  Protective earth 3"));
+  EXPECT_TRUE(text.ends_with("*** SIMULATED: nothing was measured. ***\n"));
+}
+
+TEST(TextReport, ShowsRunsAndReadingsByRun) {
+  auto report = sample::Report();
+  sample::AddRuns(report);
+  const auto text = TextReport(report);
+  EXPECT_THAT(text, HasSubstr("Runs\n----\n\n+--------------+\n| How it ended |"));
+  EXPECT_THAT(text, HasSubstr("   Readings by run\n   +-----------------+\n   | Result then     |"));
+}
+
+TEST(TextReport, EveryStandingHasItsOwnSign) {
+  using report::Standing;
+  std::set<std::string> signs;
+  for (const auto standing :
+       {Standing::kPassed, Standing::kFailed, Standing::kOpen, Standing::kDoubtful, Standing::kAborted,
+        Standing::kNotTested, Standing::kNotJudged, Standing::kRecorded, Standing::kNotApplicable}) {
+    auto report = sample::Report(0);
+    report.verdict = {standing, "word", "why"};
+    const auto text = TextReport(report);
+    signs.insert(text.substr(text.find('['), 3));
+  }
+  EXPECT_EQ(signs.size(), 9U);
 }
 
 TEST(TextReport, LongTextsAreBrokenAndLoseNothing) {

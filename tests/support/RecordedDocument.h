@@ -13,6 +13,7 @@
 #include "host/run/AutoOperator.h"
 #include "host/run/ElementState.h"
 #include "host/run/GuideToolbar.h"
+#include "host/run/SavedSettings.h"
 #include "host/services/LeadCalibrations.h"
 #include "tests/support/RunParts.h"
 #include "tests/support/VirtualBench.h"
@@ -123,6 +124,13 @@ class RecordedDocument {
   void Limit(std::int32_t element, const std::string& low, const std::string& high,
              const std::string& standard = "IEC 62353", const std::string& description = {}) {
     SetLimit(*document_, Host(), element, low, high, standard, description);
+  }
+  /// @param setting such as `bench::SavedSettings::kFilter`
+  void Set(std::int32_t element, const std::string& setting, const std::string& value) {
+    const auto configuration = Find(element)->Configuration();
+    const bench::SavedSettings wanted(*configuration);
+    wanted.Settings()->SetAttribute(setting, value);
+    configuration->Load(wanted.Node());
   }
   void RecordOnly(std::int32_t element) {
     bench::StateOf(Find(element), *Host().Elements())->SetRecordOnly(true);

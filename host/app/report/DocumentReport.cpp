@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <map>
 #include <set>
+#include <unordered_map>
+#include <utility>
 
 #include "OrvikTypeLib/IAuxiliaryState.h"
 #include "OrvikTypeLib/IBaseElement.h"
@@ -29,36 +31,36 @@ using report::VisibleText;
 /// Puts together the report of one document.
 class Builder {
  public:
-  Builder(const Document& document, Host& host, const std::string& language)
-      : document_(document), host_(host), view_(ViewOf(document, host)) {
+  Builder(const Document& document, Host& host, std::vector<std::string> standards = {})
+      : document_(document),
+        host_(host),
+        view_(ViewOf(document, host, std::move(standards))),
+        outcomes_(view_.judged) {
     for (const auto& top : TopElements(document))
       WalkElements(top, [this](const Element& element) { elements_.push_back(element); });
-    report_.language = language.empty() ? "en" : VisibleText(language);
-    std::replace(report_.language.begin(), report_.language.end(), '_', '-');
-  }
-
-  report::Report Build() {
-    report_.title = Tr("Electrical safety test");
-    report_.words = parts::WordsOfReport();
-    report_.verdict = Verdict();
-    const auto open = parts::OpenParts(Judged());
-    report_.partial = !open.empty();
-    if (report_.partial) report_.partialNotice = Tr("Partial report: %%1", {open});
     FindTimes();
     FindTesters();
+    FindReadings();
+  }
+
+  report::Report Build(const std::string& language) {
+    report_.language = parts::LanguageTag(language);
+    report_.title = parts::TitleOf(view_.judged.simulated);
+    report_.words = parts::WordsOfReport();
+    report_.verdict = parts::VerdictOf(Judged(), view_.judged.outcome);
+    report_.created = times_.last;
+    AddMarks();
     AddFacts();
-    AddPageHeader();
+    report_.pageHeader =
+        parts::PageHeader(document_.equipment, document_.Path().filename().string(), testers_, times_);
+    report_.runs = parts::RunsTable(document_.Runs().All(), outcomes_, document_.equipment);
     for (std::size_t i = 0; i < elements_.size(); ++i) AddElement(elements_[i], Judged()[i]);
     return std::move(report_);
   }
 
-  report::Verdict Verdict() const { return parts::VerdictOf(Judged(), view_.judged.outcome); }
-
-  std::optional<report::Section> Section(std::int32_t id) {
-    FindTesters();
-    for (std::size_t i = 0; i < elements_.size(); ++i) {
+  std::optional<report::Section> Section(std::int32_t id) const {
+    for (std::size_t i = 0; i < elements_.size(); ++i)
       if (Judged()[i].id == id) return SectionOf(elements_[i], Judged()[i], RowOf(Judged()[i]));
-    }
     return {};
   }
 
@@ -78,7 +80,6 @@ class Builder {
       if (!first || moment->utc < *first) first = moment->utc, times_.first = element.at;
       if (!last || moment->utc >= *last) last = moment->utc, times_.last = element.at;
     }
-    report_.created = times_.last;
   }
 
   void FindTesters() {
@@ -89,42 +90,35 @@ class Builder {
     }
   }
 
-  static std::string TesterText(const RecordedTester& tester) {
-    return Tr("%%1, serial number %%2, firmware %%3",
-              {VisibleText(tester.type), VisibleText(tester.serial), VisibleText(tester.firmware)});
+  void FindReadings() {
+    for (const auto& run : document_.Runs().All())
+      for (const auto& then : outcomes_.Of(run).tests)
+        if (then.test->recorded) readings_[then.test->element].push_back({&run, then});
   }
 
-  static std::string LeadsText(const RecordedTester& tester) {
-    const auto measured = tester.leadsMeasured.empty()
-                              ? Tr("date not known")
-                              : Tr("measured %%1", {parts::MinuteText(tester.leadsMeasured)});
-    return Tr("%%1 mOhm, %%2", {std::to_string(tester.leads), measured});
+  void AddMarks() {
+    if (view_.judged.simulated) report_.marks.push_back(parts::SimulatedMark());
+    if (const auto open = parts::OpenParts(Judged()); !open.empty())
+      report_.marks.push_back({Tr("Partial"), Tr("Partial report: %%1", {open})});
+    if (!view_.judged.leftOut.empty())
+      report_.marks.push_back({Tr("Partial"), Tr("Standards left out: %%1", {LeftOut()})});
   }
 
-  void AddFact(const std::string& label, const std::string& value) {
-    if (!value.empty()) report_.facts.push_back({label, value});
-  }
+  std::string LeftOut() const { return VisibleText(Joined(view_.judged.leftOut, ", ")); }
 
   void AddFacts() {
-    const auto& equipment = document_.equipment;
-    AddFact(Tr("Asset number"), VisibleText(equipment.asset));
-    AddFact(Tr("Serial number"), VisibleText(equipment.serial));
-    AddFact(Tr("Maker"), VisibleText(equipment.maker));
-    AddFact(Tr("Model"), VisibleText(equipment.model));
-    AddFact(Tr("Comment"), VisibleText(document_.comment));
-    AddFact(Tr("Tested"), parts::SpanText(times_));
-    AddFact(Tr("Operator"), times_.operators.empty() ? Tr("not recorded") : Joined(times_.operators, ", "));
-    if (testers_.empty()) AddFact(Tr("Tester"), Tr("not recorded"));
-    for (std::size_t i = 0; i < testers_.size(); ++i) {
-      AddFact(testers_.size() == 1 ? Tr("Tester") : Tr("Tester %%1", {std::to_string(i + 1)}),
-              TesterText(testers_[i]));
-      AddFact(Tr("Its test leads"), LeadsText(testers_[i]));
-    }
-    AddFact(Tr("Standards"), StandardsText());
-    AddFact(Tr("Document"), VisibleText(document_.Path().filename().string()));
+    auto& facts = report_.facts;
+    parts::AddEquipment(facts, document_.equipment);
+    parts::AddFact(facts, Tr("Comment"), VisibleText(document_.comment, LineEnds::kKept));
+    parts::AddFact(facts, Tr("Tested"), parts::SpanText(times_));
+    parts::AddFact(facts, Tr("Operator"), parts::OperatorsText(times_));
+    parts::AddTesters(facts, testers_);
+    parts::AddFact(facts, Tr("Standards"), StandardsText());
+    parts::AddFact(facts, Tr("Standards left out"), LeftOut());
+    parts::AddFact(facts, Tr("Document"), VisibleText(document_.Path().filename().string()));
   }
 
-  /// Every standard that judged, each with its description.
+  /// Every standard by which the document is judged, each with its description.
   std::string StandardsText() const {
     std::vector<std::string> names;
     for (const auto& element : Judged()) {
@@ -138,88 +132,79 @@ class Builder {
     return names.empty() ? Tr("none selected: nothing was judged by limits") : Joined(names, "; ");
   }
 
-  std::string TestersText() const {
-    std::vector<std::string> texts;
-    for (const auto& tester : testers_) texts.push_back(TesterText(tester));
-    return texts.empty() ? Tr("not recorded") : Joined(texts, "; ");
-  }
-
-  void AddPageHeader() {
-    const auto& equipment = document_.equipment;
-    std::vector<std::string> names;
-    for (const auto& part : {equipment.asset, equipment.maker, equipment.model, equipment.serial})
-      if (!part.empty()) names.push_back(VisibleText(part));
-    report_.pageHeader = {
-        {Tr("Equipment"),
-         names.empty() ? VisibleText(document_.Path().filename().string()) : Joined(names, ", ")},
-        {Tr("Tester"), TestersText()},
-        {Tr("Tested"), parts::SpanText(times_)},
-        {Tr("Operator"), times_.operators.empty() ? Tr("not recorded") : Joined(times_.operators, ", ")}};
-  }
-
-  void AddElement(const Element& element, const judge::JudgedElement& summary) {
-    const bool atTop = summary.parent == 0;
-    const int depth = atTop ? 0 : depths_[summary.parent] + 1;
-    depths_[summary.id] = depth;
+  void AddElement(const Element& element, const judge::JudgedElement& judged) {
+    const bool atTop = judged.parent == 0;
+    const int depth = atTop ? 0 : depths_[judged.parent] + 1;
+    depths_[judged.id] = depth;
     const auto base = host_.Elements()->BaseOf(element);
     const bool printed =
-        (!base || base->Auxiliary()->PrintElement()) && (atTop || !unprinted_.contains(summary.parent));
-    if (!printed) unprinted_.insert(summary.id);
+        (!base || base->Auxiliary()->PrintElement()) && (atTop || !unprinted_.contains(judged.parent));
+    if (!printed) unprinted_.insert(judged.id);
 
-    auto row = RowOf(summary);
+    auto row = RowOf(judged);
     row.depth = depth;
-    row.detailed = printed;
-    if (printed) report_.sections.push_back(SectionOf(element, summary, row));
+    if (printed) {
+      row.anchor = "element-" + std::to_string(judged.id);
+      report_.sections.push_back(SectionOf(element, judged, row));
+    }
     report_.overview.push_back(std::move(row));
   }
 
-  report::OverviewRow RowOf(const judge::JudgedElement& summary) const {
+  static report::OverviewRow RowOf(const judge::JudgedElement& judged) {
     report::OverviewRow row;
-    row.id = summary.id;
-    row.name = VisibleText(summary.name);
-    row.value = parts::ValueText(summary);
-    if (!row.value.empty()) row.unit = VisibleText(summary.measurement->unit);
-    row.standing = parts::StandingOf(summary);
-    row.word = VisibleText(Tr(judge::VerdictText(summary.verdict)));
+    row.id = judged.id;
+    row.name = VisibleText(judged.name);
+    row.value = parts::ValueText(judged);
+    if (!row.value.empty()) row.unit = VisibleText(judged.measurement->unit);
+    row.standing = parts::StandingOf(judged);
+    row.word = VisibleText(Tr(judge::VerdictText(judged.verdict)));
+    const auto reasons = ReasonTexts(judged);
+    if (judged.verdict != judge::Verdict::kPassed && !reasons.empty())
+      row.note = VisibleText(reasons.front());
     return row;
   }
 
-  report::Section SectionOf(const Element& element, const judge::JudgedElement& summary,
+  report::Section SectionOf(const Element& element, const judge::JudgedElement& judged,
                             const report::OverviewRow& row) const {
     report::Section section;
     section.id = row.id;
     section.depth = row.depth;
+    section.anchor = row.anchor;
     section.name = row.name;
     section.standing = row.standing;
     section.word = row.word;
     section.value = row.value;
     section.unit = row.unit;
-    for (const auto& reason : ReasonTexts(summary))
+    for (const auto& reason : ReasonTexts(judged))
       section.notes.push_back({row.standing, VisibleText(reason, LineEnds::kKept)});
-    section.facts = FactsOf(summary);
-    section.judgements = parts::JudgementsOf(summary);
+    section.facts = FactsOf(judged);
+    section.judgements = parts::JudgementsOf(judged);
+    if (const auto found = readings_.find(judged.id); found != readings_.end() && found->second.size() > 1)
+      section.readings = parts::ReadingsTable(found->second);
     section.tables = parts::TablesOf(*element, section.name);
     return section;
   }
 
-  std::vector<Fact> FactsOf(const judge::JudgedElement& summary) const {
+  std::vector<Fact> FactsOf(const judge::JudgedElement& judged) const {
     std::vector<Fact> facts;
-    if (summary.Current()) {
-      facts.push_back({Tr("Tested"), parts::MinuteText(summary.at)});
-      if (!summary.by.empty()) facts.push_back({Tr("Operator"), VisibleText(summary.by)});
+    if (judged.Current()) {
+      facts.push_back({Tr("Tested"), parts::MinuteText(judged.at)});
+      parts::AddFact(facts, Tr("Operator"), VisibleText(judged.by));
     }
-    if (testers_.size() > 1 && summary.tester) facts.push_back({Tr("Tester"), TesterText(*summary.tester)});
-    if (!summary.comment.empty())
-      facts.push_back({Tr("Comment"), VisibleText(summary.comment, LineEnds::kKept)});
+    if (testers_.size() > 1 && judged.tester)
+      facts.push_back({Tr("Tester"), parts::TesterText(*judged.tester)});
+    parts::AddFact(facts, Tr("Comment"), VisibleText(judged.comment, LineEnds::kKept));
     return facts;
   }
 
   const Document& document_;
   Host& host_;
   const DocumentView view_;
+  const RunOutcomes outcomes_;
   std::vector<Element> elements_;  ///< as they are judged
   parts::RunTimes times_;
   std::vector<RecordedTester> testers_;
+  std::unordered_map<std::int32_t, std::vector<parts::RecordedIn>> readings_;
   std::map<std::int32_t, int> depths_;
   std::set<std::int32_t> unprinted_;
   report::Report report_;
@@ -227,16 +212,18 @@ class Builder {
 
 }  // namespace
 
-report::Report ReportOf(const Document& document, Host& host, const std::string& language) {
-  return Builder(document, host, language).Build();
+report::Report ReportOf(const Document& document, Host& host, const std::string& language,
+                        std::vector<std::string> standards) {
+  return Builder(document, host, std::move(standards)).Build(language);
 }
 
 report::Verdict VerdictOf(const Document& document, Host& host) {
-  return Builder(document, host, {}).Verdict();
+  const auto judged = ViewOf(document, host).judged;
+  return parts::VerdictOf(judged.elements, judged.outcome);
 }
 
 std::optional<report::Section> SectionOf(const Document& document, Host& host, std::int32_t id) {
-  return Builder(document, host, {}).Section(id);
+  return Builder(document, host).Section(id);
 }
 
 }  // namespace bench

@@ -3,7 +3,13 @@
 #include <filesystem>
 #include <iostream>
 
+#include "host/app/DocumentView.h"
+#include "host/app/NumberOption.h"
+#include "host/app/RunText.h"
 #include "host/app/help/Examples.h"
+#include "host/app/report/DocumentReport.h"
+#include "host/app/report/RunReport.h"
+#include "host/app/run/RunSelection.h"
 #include "host/document/Document.h"
 #include "host/services/Files.h"
 #include "host/services/Tr.h"
@@ -31,8 +37,18 @@ CLI::App* ReportCommand::Declare(CLI::App& program) {
                    Tr("What to write, whatever the name ends with; plain text on the standard output when it "
                       "is not given"))
       ->type_name("html|pdf|txt");
+  auto* run = WholeNumbers(command->add_option(
+      "--run", run_, Tr("Report this run as it was done, whatever counts now; \"show --runs\" lists them")));
+  run->type_name("N");
+  command
+      ->add_option("--standard", standards_,
+                   Tr("Judge by this standard alone; may be given again. What is left out is named"))
+      ->allow_extra_args(false)
+      ->type_name("NAME")
+      ->excludes(run);
   command->footer(Examples({"orvik-bench report pump-7.orvik --to pump-7.html",
                             "orvik-bench report pump-7.orvik --to pump-7.pdf",
+                            "orvik-bench report pump-7.orvik --to first-run.pdf --run 1",
                             "orvik-bench report pump-7.orvik --to - --format html > pump-7.html"}));
   command_ = command;
   return command;
@@ -43,6 +59,13 @@ ReportFormat ReportCommand::Format() const {
   return to_ == kStandardOutput ? ReportFormat::kText : ReportFormatOf(to_);
 }
 
+report::Report ReportCommand::Report(const Document& document, Host& host,
+                                     const std::string& language) const {
+  if (run_) return RunReportOf(document, host, FoundRun(document.Runs().All(), *run_), language);
+  if (!standards_.empty()) RequireStandards(ViewOf(document, host, standards_).judged, standards_, file_);
+  return ReportOf(document, host, language, standards_);
+}
+
 ExitStatus ReportCommand::Run(const GlobalOptions& options) {
   const std::filesystem::path out(to_);
   const bool toOutput = to_ == kStandardOutput;
@@ -50,7 +73,7 @@ ExitStatus ReportCommand::Run(const GlobalOptions& options) {
   if (!toOutput) RefuseDocumentAsReport(file_, out);
   Workbench workbench(options, Workbench::Settings::kIfReadable);
   const auto document = Document::Open(workbench.Host(), file_, DocumentFile::Use::kRead);
-  const auto report = ReportText(*document, *workbench.Host(), options.language, format);
+  const auto report = ReportText(Report(*document, *workbench.Host(), options.language), format);
   if (toOutput) {
     std::cout << report;
     return ExitStatus::kPassed;

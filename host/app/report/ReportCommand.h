@@ -1,11 +1,17 @@
 #pragma once
 
+#include <cstdint>
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "host/app/Command.h"
 #include "host/app/report/ReportFile.h"
 
 namespace bench {
+
+class Document;
+class Host;
 
 /// `report`: writes a document as a report.
 class ReportCommand final : public Command {
@@ -15,10 +21,13 @@ class ReportCommand final : public Command {
 
  private:
   ReportFormat Format() const;
+  report::Report Report(const Document& document, Host& host, const std::string& language) const;
 
   std::string file_;
   std::string to_;
   std::string format_;
+  std::vector<std::string> standards_;
+  std::optional<std::int32_t> run_;
   CLI::App* command_ = nullptr;
 };
 

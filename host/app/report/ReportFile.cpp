@@ -4,7 +4,6 @@
 
 #include "host/app/InputError.h"
 #include "host/app/ProgramFiles.h"
-#include "host/app/report/DocumentReport.h"
 #include "host/pdf/PdfModule.h"
 #include "host/report/HtmlReport.h"
 #include "host/report/TextReport.h"
@@ -38,9 +37,7 @@ ReportFormat ReportFormatOf(const std::filesystem::path& file) {
          {file.string()}));
 }
 
-std::string ReportText(const Document& document, Host& host, const std::string& language,
-                       ReportFormat format) {
-  const auto report = ReportOf(document, host, language);
+std::string ReportText(const report::Report& report, ReportFormat format) {
   switch (format) {
     case ReportFormat::kHtml:
       return HtmlReport(report);
@@ -64,9 +61,8 @@ void CheckReportFile(const std::filesystem::path& document, const std::filesyste
   RefuseDocumentAsReport(document, out);
 }
 
-void WriteReport(const Document& document, Host& host, const std::string& language,
-                 const std::filesystem::path& out) {
-  ReplaceFile(out, ReportText(document, host, language, ReportFormatOf(out)));
+void WriteReport(const report::Report& report, const std::filesystem::path& out) {
+  ReplaceFile(out, ReportText(report, ReportFormatOf(out)));
 }
 
 }  // namespace bench

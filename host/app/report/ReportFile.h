@@ -3,10 +3,9 @@
 #include <filesystem>
 #include <string>
 
-namespace bench {
+#include "host/report/Report.h"
 
-class Document;
-class Host;
+namespace bench {
 
 /// What a report is written as.
 enum class ReportFormat { kHtml, kPdf, kText };
@@ -17,10 +16,8 @@ ReportFormat ReportFormatNamed(const std::string& name);
 ReportFormat ReportFormatOf(const std::filesystem::path& file);
 
 /// The report, as it is to be written.
-/// @param language of the report, such as "de"; empty for English
-/// @throws HostError when the report cannot be made
-std::string ReportText(const Document& document, Host& host, const std::string& language,
-                       ReportFormat format);
+/// @throws HostError when the PDF cannot be made
+std::string ReportText(const report::Report& report, ReportFormat format);
 
 /// Makes sure that a report of the document can be written there. `InputError` for the document itself.
 void RefuseDocumentAsReport(const std::filesystem::path& document, const std::filesystem::path& out);
@@ -28,10 +25,8 @@ void RefuseDocumentAsReport(const std::filesystem::path& document, const std::fi
 /// The same, and an ending that says the format.
 void CheckReportFile(const std::filesystem::path& document, const std::filesystem::path& out);
 
-/// Writes the report, as its ending says: HTML, PDF or plain text. The file is replaced as a whole.
-/// @param language of the report, such as "de"; empty for English
-/// @throws HostError when the report cannot be made or written
-void WriteReport(const Document& document, Host& host, const std::string& language,
-                 const std::filesystem::path& out);
+/// Writes the report, as the file's ending says: HTML, PDF or plain text. The file is replaced as a whole.
+/// @throws HostError when it cannot be made or written
+void WriteReport(const report::Report& report, const std::filesystem::path& out);
 
 }  // namespace bench

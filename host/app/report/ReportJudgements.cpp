@@ -1,6 +1,7 @@
 #include "host/app/TextColumns.h"
 #include "host/app/report/ReportParts.h"
 #include "host/report/VisibleText.h"
+#include "host/services/Text.h"
 #include "host/services/Tr.h"
 
 namespace bench::parts {
@@ -20,12 +21,15 @@ std::string BoundText(double bound, const std::string& entered) {
   return entered.ends_with('%') ? ShortNumber(bound) + " (" + VisibleText(entered) + ")" : ShortNumber(bound);
 }
 
+std::string BoundsText(const std::string& low, const std::string& high, const std::string& unit) {
+  if (!low.empty() && !high.empty()) return Tr("%%1 to %%2", {low, WithUnit(high, unit)});
+  if (!low.empty()) return Tr("at least %%1", {WithUnit(low, unit)});
+  return Tr("at most %%1", {WithUnit(high, unit)});
+}
+
 std::string BoundsText(const judge::JudgedLimit& limit, const std::string& unit) {
-  const auto lowText = limit.low ? BoundText(*limit.low, limit.lowText) : "";
-  const auto highText = limit.high ? BoundText(*limit.high, limit.highText) : "";
-  if (limit.low && limit.high) return Tr("%%1 to %%2", {lowText, WithUnit(highText, unit)});
-  if (limit.low) return Tr("at least %%1", {WithUnit(lowText, unit)});
-  return Tr("at most %%1", {WithUnit(highText, unit)});
+  return BoundsText(limit.low ? BoundText(*limit.low, limit.lowText) : "",
+                    limit.high ? BoundText(*limit.high, limit.highText) : "", unit);
 }
 
 std::string PlaceText(Bar::Place place) {
@@ -57,11 +61,33 @@ std::string Hindrance(const judge::JudgedLimit& limit, const judge::JudgedElemen
   }
 }
 
+std::string StandardText(const std::string& name, const std::string& description) {
+  return description.empty() ? VisibleText(name) : VisibleText(name) + " (" + VisibleText(description) + ")";
+}
+
+/// Draws the value between its bounds, and says it in words.
+void AddBar(Judgement& judgement, std::optional<double> low, std::optional<double> high, double value,
+            const std::string& unit) {
+  judgement.bar = report::MakeBar(low, high, value);
+  if (!judgement.bar) return;
+  if (low) judgement.lowLabel = ShortNumber(*low);
+  if (high) judgement.highLabel = ShortNumber(*high);
+  judgement.valueLabel = ShortNumber(value);
+  judgement.inWords = Tr("%%1 is %%2: %%3", {WithUnit(judgement.valueLabel, unit),
+                                             PlaceText(judgement.bar->place), judgement.bounds});
+}
+
+/// A limit that holds is a good sign only where the reading can be relied on.
+Standing Judged(bool broken, const judge::Verdict verdict) {
+  if (broken) return Standing::kFailed;
+  const bool relied = verdict == judge::Verdict::kPassed || verdict == judge::Verdict::kFailed;
+  return relied ? Standing::kPassed : StandingOf(verdict);
+}
+
 Judgement JudgementOf(const judge::JudgedLimit& limit, const judge::JudgedElement& element) {
   const auto unit = VisibleText(limit.unit);
   Judgement judgement;
-  judgement.standard = VisibleText(limit.standard);
-  if (!limit.description.empty()) judgement.standard += " (" + VisibleText(limit.description) + ")";
+  judgement.standard = StandardText(limit.standard, limit.description);
   judgement.bounds = BoundsText(limit, unit);
   judgement.word = Hindrance(limit, element);
   if (!judgement.word.empty()) {
@@ -69,17 +95,30 @@ Judgement JudgementOf(const judge::JudgedLimit& limit, const judge::JudgedElemen
         StandingOf(element) == Standing::kNotApplicable ? Standing::kNotApplicable : Standing::kOpen;
     return judgement;
   }
-  judgement.bar = report::MakeBar(limit.low, limit.high, *limit.value);
-  judgement.standing = limit.Broken() ? Standing::kFailed : Standing::kPassed;
-  judgement.word = limit.verdict == judge::LimitVerdict::kWithin  ? Tr("within limit")
-                   : limit.verdict == judge::LimitVerdict::kBelow ? Tr("below limit")
-                                                                  : Tr("exceeded");
-  if (!judgement.bar) return judgement;
-  if (limit.low) judgement.lowLabel = ShortNumber(*limit.low);
-  if (limit.high) judgement.highLabel = ShortNumber(*limit.high);
-  judgement.valueLabel = ShortNumber(*limit.value);
-  judgement.inWords = Tr("%%1 is %%2: %%3", {WithUnit(judgement.valueLabel, unit),
-                                             PlaceText(judgement.bar->place), judgement.bounds});
+  judgement.standing = Judged(limit.Broken(), element.verdict);
+  judgement.word = LimitWord(limit.verdict);
+  AddBar(judgement, limit.low, limit.high, *limit.value, unit);
+  return judgement;
+}
+
+Judgement JudgementOf(const RecordedLimit& limit, const RecordedTest& test) {
+  const auto unit = VisibleText(limit.unit);
+  const auto verdict = VerdictThen(limit, test);
+  Judgement judgement;
+  judgement.standard = StandardText(limit.standard, limit.description);
+  judgement.bounds = BoundsText(VisibleText(limit.low), VisibleText(limit.high), unit);
+  judgement.word = LimitWord(verdict);
+  judgement.standing = verdict == judge::LimitVerdict::kNotApplied ? Standing::kOpen
+                       : verdict != judge::LimitVerdict::kWithin   ? Standing::kFailed
+                       : test.doubts.empty()                       ? Standing::kPassed
+                                                                   : Standing::kDoubtful;
+  // A percentage was of a nominal value that is not recorded.
+  const auto low = FiniteNumber(limit.low), high = FiniteNumber(limit.high);
+  const auto value = test.recorded ? FiniteNumber(test.recorded->value) : std::nullopt;
+  const bool told = (low || limit.low.empty()) && (high || limit.high.empty());
+  const bool overload = test.recorded && test.recorded->flags.find('O') != std::string::npos;
+  if (value && told && !overload && test.recorded->unit == limit.unit)
+    AddBar(judgement, low, high, *value, unit);
   return judgement;
 }
 
@@ -89,6 +128,12 @@ std::vector<Judgement> JudgementsOf(const judge::JudgedElement& element) {
   std::vector<Judgement> judgements;
   for (const auto& limit : element.limits)
     if (limit.selected) judgements.push_back(JudgementOf(limit, element));
+  return judgements;
+}
+
+std::vector<Judgement> JudgementsOf(const RecordedTest& test) {
+  std::vector<Judgement> judgements;
+  for (const auto& limit : test.judged) judgements.push_back(JudgementOf(limit, test));
   return judgements;
 }
 

@@ -5,26 +5,10 @@
 #include "host/elements/PrintAlone.h"
 #include "host/report/ReportObject.h"
 #include "host/report/VisibleText.h"
+#include "host/services/Text.h"
 #include "host/services/Tr.h"
 
 namespace bench::parts {
-
-std::string MinuteText(const std::string& date) {
-  const auto moment = MomentOf(date);
-  return moment ? moment->day + " " + moment->minute : report::VisibleText(date);
-}
-
-std::string SpanText(const RunTimes& times) {
-  if (times.first.empty()) return Tr("not recorded");
-  const auto first = MomentOf(times.first), last = MomentOf(times.last);
-  if (!first || !last || MinuteText(times.first) == MinuteText(times.last)) return MinuteText(times.first);
-  // Clocks of two zones are told apart, or the last could read as before the first.
-  if (first->zone != last->zone)
-    return Tr("%%1 to %%2",
-              {MinuteText(times.first) + " " + first->zone, MinuteText(times.last) + " " + last->zone});
-  return Tr("%%1 to %%2",
-            {MinuteText(times.first), first->day == last->day ? last->minute : MinuteText(times.last)});
-}
 
 bool Overloaded(const judge::JudgedElement& element) {
   return element.measurement && element.measurement->Overloaded();
@@ -33,6 +17,13 @@ bool Overloaded(const judge::JudgedElement& element) {
 std::string ValueText(const judge::JudgedElement& element) {
   if (!element.Current() || !element.measurement || !element.measurement->value) return {};
   return Overloaded(element) ? "OL" : ShortNumber(*element.measurement->value);
+}
+
+std::string ValueText(const RecordedTest& test) {
+  if (!test.recorded || test.recorded->value.empty()) return {};
+  if (test.recorded->flags.find('O') != std::string::npos) return "OL";
+  const auto number = FiniteNumber(test.recorded->value);
+  return number ? ShortNumber(*number) : report::VisibleText(test.recorded->value);
 }
 
 std::vector<report::Table> TablesOf(orvik::ITestElement& element, const std::string& name) {
@@ -71,7 +62,8 @@ report::Words WordsOfReport() {
   words.judgement = Tr("Judgement");
   words.bar = Tr("Value between its bounds");
   words.record = Tr("Record");
-  words.partial = Tr("Partial");
+  words.runs = Tr("Runs");
+  words.readings = Tr("Readings by run");
   words.nothing = Tr("The document has no tests.");
   words.labelled = Tr("%%1: %%2");
   words.caption = Tr("%%1: %%2 - %%3");

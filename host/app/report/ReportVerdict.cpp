@@ -76,19 +76,29 @@ constexpr std::initializer_list<Verdict> kOpen = {Verdict::kNotTested, Verdict::
 
 }  // namespace
 
-report::Standing StandingOf(const JudgedElement& element) {
-  switch (element.verdict) {
+report::Standing StandingOf(Verdict verdict) {
+  switch (verdict) {
     case Verdict::kFailed:
       return report::Standing::kFailed;
+    case Verdict::kDoubtful:
+      return report::Standing::kDoubtful;
+    case Verdict::kAborted:
+      return report::Standing::kAborted;
+    case Verdict::kNotTested:
+      return report::Standing::kNotTested;
+    case Verdict::kNotJudged:
+      return report::Standing::kNotJudged;
+    case Verdict::kRecorded:
+      return report::Standing::kRecorded;
+    case Verdict::kNotApplicable:
+      return report::Standing::kNotApplicable;
     case Verdict::kPassed:
       return report::Standing::kPassed;
-    case Verdict::kNotApplicable:
-    case Verdict::kRecorded:
-      return report::Standing::kNotApplicable;
-    default:
-      return report::Standing::kOpen;
   }
+  return report::Standing::kOpen;
 }
+
+report::Standing StandingOf(const JudgedElement& element) { return StandingOf(element.verdict); }
 
 report::Standing StandingOf(judge::Outcome outcome) {
   switch (outcome) {
@@ -108,7 +118,13 @@ report::Verdict VerdictOf(const std::vector<JudgedElement>& elements, judge::Out
   verdict.word = outcome == judge::Outcome::kPassed   ? Tr("Passed")
                  : outcome == judge::Outcome::kFailed ? Tr("Failed")
                                                       : Tr("Incomplete");
-  verdict.sentence = elements.empty() ? Tr("The document has no tests.") : Pieces(Counts(elements), kEvery);
+  if (elements.empty()) {
+    verdict.sentence = Tr("The document has no tests.");
+    return verdict;
+  }
+  verdict.sentence = Pieces(Counts(elements), kEvery);
+  if (outcome == judge::Outcome::kIncomplete && OpenParts(elements).empty())
+    verdict.sentence += "; " + Tr("nothing was judged by a limit");
   return verdict;
 }
 
