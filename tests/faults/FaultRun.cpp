@@ -1,11 +1,10 @@
 #include "tests/faults/FaultRun.h"
 
-#include <array>
+#include <algorithm>
 #include <atomic>
 #include <exception>
 #include <filesystem>
 #include <fstream>
-#include <map>
 #include <sstream>
 #include <stdexcept>
 #include <thread>
@@ -21,7 +20,9 @@ namespace fs = std::filesystem;
 using cli::RunningProgram;
 
 /// Readings come without a measuring time, so that a reply has the whole of its time on a slow machine.
-constexpr char kProfile[] = "410 = 0.123 Ohm 0 ms\n420 = 0.131 Ohm 0 ms\n210 = 231.4 V 0 ms\n";
+constexpr char kProfile[] =
+    "410 = 0.123 Ohm 0 ms\n420 = 0.131 Ohm 0 ms\n1010 = 2.5 MOhm 0 ms\n610 = 90 µA 0 ms\n210 = 231.4 V 0 "
+    "ms\n";
 
 /// Which one of its mnemonic the command is in a run.
 struct Place {
@@ -29,17 +30,14 @@ struct Place {
   int nth;
 };
 
-Place PlaceOf(Kind kind, char command) {
-  static const std::map<char, std::string> kMnemonics{{'I', "IREM"}, {'S', "STST"}, {'s', "STST"},
-                                                      {'c', "STST"}, {'G', "GRES"}, {'g', "GRES"},
-                                                      {'E', "EREM"}};
-  const std::string& mnemonic = kMnemonics.at(command);
+Place PlaceOf(Kind kind, const std::string& command) {
+  const auto mnemonicOf = [](const std::string& text) { return text.substr(0, 4); };
   int nth = 0;
-  for (const char other : CommandsOf(kind)) {
-    if (kMnemonics.at(other) == mnemonic) ++nth;
-    if (other == command) return {mnemonic, nth};
+  for (const auto& other : CommandsOf(kind)) {
+    if (mnemonicOf(other) == mnemonicOf(command)) ++nth;
+    if (other == command) return {mnemonicOf(command), nth};
   }
-  throw std::logic_error("the run has no such command");
+  throw std::logic_error("the run has no command " + command);
 }
 
 std::string ScriptOf(const Case& what) {
@@ -53,30 +51,60 @@ std::string ScriptOf(const Case& what) {
 
 }  // namespace
 
-std::string CommandsOf(Kind kind) { return kind == Kind::kTest ? "ISGcE" : "ISGsgcE"; }
+std::vector<std::string> CommandsOf(Kind kind) {
+  if (kind == Kind::kSequence) return {"IREM", "STST 1", "GRES 1", "STST 2", "GRES 2", "STST end", "EREM"};
+  return {"IREM", "STST 1", "GRES 1", "STST end", "EREM"};
+}
+
+std::string TextOf(const std::vector<std::string>& commands) {
+  std::string text;
+  for (auto at = commands.begin(); at != commands.end();) {
+    const auto next =
+        std::find_if(at, commands.end(), [&](const std::string& other) { return other != *at; });
+    text += (text.empty() ? "" : ", ") + *at;
+    if (next - at > 1) text += " x" + std::to_string(next - at);
+    at = next;
+  }
+  return text;
+}
+
+std::vector<std::string> CommandsIn(const std::string& text) {
+  std::vector<std::string> commands;
+  std::istringstream parts(text);
+  for (std::string part; std::getline(parts >> std::ws, part, ',');) {
+    const auto times = part.find(" x");
+    commands.insert(commands.end(), times == std::string::npos ? 1U : std::stoul(part.substr(times + 2)),
+                    part.substr(0, times));
+  }
+  return commands;
+}
 
 FaultRig::FaultRig(int timeScale, std::size_t atOnce)
     : timeScale_(std::to_string(timeScale)), atOnce_(atOnce) {
   std::ofstream(folder_.Path() / "profile") << kProfile;
-  MakeDocument(Kind::kTest, "410", {"1"});
-  MakeDocument(Kind::kSequence, "400", {"2", "3"});
+  MakeDocument(Kind::kTest, "410", {"1"}, {"--high", "300", "--unit", "mOhm"});
+  MakeDocument(Kind::kLeakage, "610", {"1"}, {"--high", "500", "--unit", "µA"});
+  MakeDocument(Kind::kInsulation, "1010", {"1"}, {"--low", "2", "--unit", "MOhm"});
+  MakeDocument(Kind::kSequence, "400", {"2", "3"}, {"--high", "300", "--unit", "mOhm"});
 }
 
 std::string FaultRig::Document(Kind kind) const {
-  return (folder_.Path() / (kind == Kind::kTest ? "test.orvik" : "sequence.orvik")).string();
+  return (folder_.Path() / (std::to_string(static_cast<int>(kind)) + ".orvik")).string();
 }
 
-void FaultRig::MakeDocument(Kind kind, const std::string& test,
-                            const std::vector<std::string>& elements) const {
+void FaultRig::MakeDocument(Kind kind, const std::string& test, const std::vector<std::string>& elements,
+                            const std::vector<std::string>& limit) const {
   const auto bench = [&](std::vector<std::string> words) {
     words.insert(words.end(), {"--state", (folder_.Path() / "state").string()});
     const auto done = RunningProgram(ORVIK_BENCH_PATH, words).Wait();
     if (done.status != 0) throw std::runtime_error(words[0] + ": " + done.error);
   };
   bench({"new", Document(kind), "--add", test});
-  for (const auto& element : elements)
-    bench({"limit", Document(kind), "--element", element, "--standard", "IEC 62353", "--high", "300",
-           "--unit", "mOhm"});
+  for (const auto& element : elements) {
+    std::vector<std::string> words{"limit", Document(kind), "--element", element, "--standard", "IEC 62353"};
+    words.insert(words.end(), limit.begin(), limit.end());
+    bench(words);
+  }
 }
 
 Observed FaultRig::Run(const Case& what) const {
@@ -124,7 +152,7 @@ std::vector<Observed> FaultRig::RunAll(std::size_t count,
         try {
           observed[at] = run(at);
         } catch (const std::exception& failure) {  // a hang, above all
-          observed[at] = {true, "(no end)", {failure.what()}, {}};
+          observed[at].offences = {failure.what()};
         }
       }
     });

@@ -9,31 +9,39 @@
 
 namespace faults {
 
-/// What is run: one test, or a sequence of two.
-enum class Kind { kTest, kSequence };
+/// What is run: one test, of protective earth (410), leakage (610, in ÂµA) or insulation (1010, with a lower
+/// bound), or a sequence of two (410 and 420).
+enum class Kind { kTest, kLeakage, kInsulation, kSequence };
 
-/// The commands of a run without a fault, one letter each: I is IREM; S and G are STST and GRES of test 410,
-/// s and g those of test 420; c is the STST of test 210 that closes a session; E is EREM.
-std::string CommandsOf(Kind kind);
+/// The commands of a run without a fault: "STST 1" and "GRES 1" start the first test and ask for its result,
+/// "STST 2" and "GRES 2" the second one's; "STST end" is the STST of test 210 that closes a session.
+std::vector<std::string> CommandsOf(Kind kind);
+
+/// The commands in one text: "IREM, STST 1 x3", where one was sent three times in a row.
+std::string TextOf(const std::vector<std::string>& commands);
+std::vector<std::string> CommandsIn(const std::string& text);
 
 /// A fault in the reply to one command, at its first, second or third attempt. The attempts before it are
 /// lost.
 struct Case {
   Kind kind = Kind::kTest;
-  char command = 'I';
+  std::string command = "IREM";
   int attempt = 1;
   std::string fault;  ///< as in a fault script
 };
 
 /// What became of a run.
 struct Observed {
-  bool met = true;  ///< the run met its fault
-  /// "ISGcE P 0": the commands sent, how each element ended, and the exit status. An element is P passed, F
-  /// failed, N not applicable, A aborted, - not tested; a small p or n is doubtful and does not count.
-  std::string cell;
+  bool met = true;       ///< the run met its fault
+  std::string sent;      ///< the commands, as `TextOf` has them
+  std::string verdicts;  ///< how each element ended, in the words of the JSON: "doubtful, passed, doubtful"
+  int exitStatus = -1;
   /// What must not be, whatever the fault: a pass that was not measured, a hang.
   std::vector<std::string> offences;
   std::vector<std::string> wireLog;  ///< the lines of orvik-bench's log
+
+  /// "IREM x3: not tested, exit status 2".
+  std::string Text() const { return sent + ": " + verdicts + ", exit status " + std::to_string(exitStatus); }
 };
 
 /// Runs the real orvik-bench with the real keld-sim over a pseudo-terminal, in a folder of its own.
@@ -56,7 +64,8 @@ class FaultRig {
 
  private:
   std::string Document(Kind kind) const;
-  void MakeDocument(Kind kind, const std::string& test, const std::vector<std::string>& elements) const;
+  void MakeDocument(Kind kind, const std::string& test, const std::vector<std::string>& elements,
+                    const std::vector<std::string>& limit) const;
 
   const support::TemporaryFolder folder_;
   const std::string timeScale_;

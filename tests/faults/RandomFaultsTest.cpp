@@ -23,9 +23,9 @@ TEST(RandomFaults, NeverPassUnmeasured) {
   int spoiled = 0;
   for (std::size_t at = 0; at < kRuns; ++at) {
     for (const auto& offence : observed[at].offences)
-      ADD_FAILURE() << "--fault-seed " << kFirstSeed + at << " --fault-rate 0.25 (" << observed[at].cell
+      ADD_FAILURE() << "--fault-seed " << kFirstSeed + at << " --fault-rate 0.25 (" << observed[at].Text()
                     << "): " << offence;
-    if (observed[at].cell.back() != '0') ++spoiled;
+    if (observed[at].exitStatus != 0) ++spoiled;
   }
   EXPECT_GT(spoiled, 10) << "the faults do next to nothing";
 }
@@ -43,7 +43,7 @@ TEST_F(ReplayOfARun, EndsAsTheRunDid) {
   const FaultRig rig(kTimeScale, faults.size());
   const support::TemporaryFolder logs;
   const auto first = rig.RunAll(faults.size(), [&](std::size_t at) {
-    return rig.Run({Kind::kTest, 'G', 1, faults[at]});
+    return rig.Run({Kind::kTest, "GRES 1", 1, faults[at]});
   });
   const auto again = rig.RunAll(faults.size(), [&](std::size_t at) {
     const auto log = logs.Path() / std::to_string(at);
@@ -55,7 +55,7 @@ TEST_F(ReplayOfARun, EndsAsTheRunDid) {
   });
   for (std::size_t at = 0; at < faults.size(); ++at) {
     EXPECT_TRUE(first[at].met) << faults[at];
-    EXPECT_EQ(again[at].cell, first[at].cell) << faults[at];
+    EXPECT_EQ(again[at].Text(), first[at].Text()) << faults[at];
     EXPECT_TRUE(again[at].offences.empty()) << faults[at] << ": " << again[at].offences.front();
   }
 }

@@ -14,10 +14,13 @@ using Json = nlohmann::json;
 /// What the tester reads, in the unit in which the elements keep it, and how its reply says so.
 struct Reading {
   double value;
+  const char* unit;
   const char* reply;
 };
-const std::map<int, Reading> kTruth{{410, {123.0, "gres,410,0,0.123,0,Ohm"}},
-                                    {420, {131.0, "gres,420,0,0.131,0,Ohm"}}};
+const std::map<int, Reading> kTruth{{410, {123.0, "mOhm", "gres,410,0,0.123,0,Ohm"}},
+                                    {420, {131.0, "mOhm", "gres,420,0,0.131,0,Ohm"}},
+                                    {1010, {2.5, "MOhm", "gres,1010,0,2.5,0,MOhm"}},
+                                    {610, {90.0, "µA", "gres,610,0,90,0,µA"}}};
 
 /// The texts of one direction of the log, in order.
 std::vector<std::string> Texts(const std::vector<std::string>& log, const std::string& direction) {
@@ -34,54 +37,52 @@ bool Contains(const std::vector<std::string>& texts, const std::string& text) {
   return std::find(texts.begin(), texts.end(), text) != texts.end();
 }
 
-char LetterOfCommand(const std::string& text) {
-  static const std::map<std::string, char> kLetters{
-      {"IREM", 'I'},       {"STST,410,0", 'S'}, {"GRES,410,0", 'G'}, {"STST,420,0", 's'},
-      {"GRES,420,0", 'g'}, {"STST,210,0", 'c'}, {"EREM", 'E'}};
-  const auto found = kLetters.find(text);
-  return found == kLetters.end() ? '?' : found->second;
+/// "STST 1" of "STST,410,0": the test by its place in the run.
+std::string CommandOf(const std::string& text) {
+  if (text == "IREM" || text == "EREM") return text;
+  if (text == "STST,210,0") return "STST end";
+  const auto mnemonic = text.substr(0, 4);
+  for (const auto* first : {"410", "1010", "610"})
+    if (text == mnemonic + "," + first + ",0") return mnemonic + " 1";
+  return text == mnemonic + ",420,0" ? mnemonic + " 2" : "unknown " + text;
 }
 
-char LetterOfElement(const Json& element) {
-  const bool doubtful = !element["doubts"].empty();
-  switch (element["status"].get<int>()) {
-    case 0:
-      return '-';
-    case 1:
-      return doubtful ? 'p' : 'P';
-    case 2:
-      return 'F';
-    case 3:
-      return doubtful ? 'n' : 'N';
-    case 4:
-      return 'A';
-    default:
-      return '?';
-  }
+std::string Joined(const std::vector<std::string>& texts) {
+  std::string joined;
+  for (const auto& text : texts) joined += (joined.empty() ? "" : ", ") + text;
+  return joined;
+}
+
+bool IsDone(const std::string& verdict) {
+  return verdict == "passed" || verdict == "recorded" || verdict == "not applicable";
 }
 
 /// A pass counts only when the tester's own reading came over the wire and stands in the result.
 void LookForUnmeasuredPass(const Json& element, const std::vector<std::string>& received,
                            std::vector<std::string>& offences) {
-  if (LetterOfElement(element) != 'P' || element["kind"] == "sequence") return;
+  if (element["verdict"] != "passed" || element["kind"] == "sequence") return;
   const auto& truth = kTruth.at(element["testId"].get<int>());
   const auto& measurement = element["measurement"];
   const std::string name = "element " + element["id"].dump() + " passed, ";
   if (!Contains(received, truth.reply)) offences.push_back(name + "and its reading never came");
-  if (measurement.is_null() || measurement["value"] != truth.value || measurement["unit"] != "mOhm" ||
+  if (measurement.is_null() || measurement["value"] != truth.value || measurement["unit"] != truth.unit ||
       measurement["flags"] != "")
     offences.push_back(name + "with another reading than the tester's: " + measurement.dump());
 }
 
-void LookAtTheWhole(const Json& run, const std::string& letters, int exitStatus,
+void LookAtTheWhole(const Json& run, const std::vector<std::string>& verdicts, int exitStatus,
                     std::vector<std::string>& offences) {
-  const bool good = letters.find_first_not_of("PN") == std::string::npos;
-  if ((run["outcome"] == "passed") != good)
-    offences.push_back("the outcome is " + run["outcome"].dump() + " with elements " + letters);
-  if (exitStatus == 0 && !good) offences.push_back("exit status 0 with elements " + letters);
-  // The first letter is the whole where there is a sequence.
-  if (letters.size() > 1 && letters[0] == 'P' && letters.find_first_not_of("PN", 1) != std::string::npos)
-    offences.push_back("the sequence passed with children " + letters.substr(1));
+  const auto all = Joined(verdicts);
+  const bool done = std::all_of(verdicts.begin(), verdicts.end(), IsDone);
+  const bool failed = std::count(verdicts.begin(), verdicts.end(), "failed") > 0;
+  const bool passed = done && std::count(verdicts.begin(), verdicts.end(), "passed") > 0;
+  const std::string outcome = failed ? "failed" : passed ? "passed" : "incomplete";
+  if (run["outcome"] != outcome)
+    offences.push_back("the outcome is " + run["outcome"].dump() + " with elements " + all);
+  if (exitStatus == 0 && !passed) offences.push_back("exit status 0 with elements " + all);
+  // The first one is the whole where there is a sequence.
+  if (verdicts.size() > 1 && IsDone(verdicts[0]) && !done)
+    offences.push_back("the sequence passed with children " + Joined({verdicts.begin() + 1, verdicts.end()}));
 }
 
 }  // namespace
@@ -95,20 +96,25 @@ std::vector<std::string> ReadLines(const std::string& path) {
 
 Observed Judge(const RunEvidence& evidence, const std::string& fault) {
   Observed observed;
-  for (const auto& command : Texts(evidence.wireLog, "sent")) observed.cell += LetterOfCommand(command);
+  std::vector<std::string> commands, verdicts;
+  for (const auto& command : Texts(evidence.wireLog, "sent")) commands.push_back(CommandOf(command));
   const Json run = Json::parse(evidence.json, nullptr, false);
-  std::string letters;
   if (run.is_discarded()) {
     observed.offences.push_back("no JSON: " + evidence.json + evidence.said);
   } else {
     const auto received = Texts(evidence.wireLog, "recv");
     for (const auto& element : run["elements"]) {
-      letters += LetterOfElement(element);
+      verdicts.push_back(element["verdict"]);
+      if (verdicts.back() != "passed" && element["reasons"].empty())
+        observed.offences.push_back("element " + element["id"].dump() + " is " + verdicts.back() +
+                                    ", and nothing says why");
       LookForUnmeasuredPass(element, received, observed.offences);
     }
-    LookAtTheWhole(run, letters, evidence.exitStatus, observed.offences);
+    LookAtTheWhole(run, verdicts, evidence.exitStatus, observed.offences);
   }
-  observed.cell += " " + letters + " " + std::to_string(evidence.exitStatus);
+  observed.sent = TextOf(commands);
+  observed.verdicts = Joined(verdicts);
+  observed.exitStatus = evidence.exitStatus;
   observed.wireLog = evidence.wireLog;
   observed.met = fault.empty() || Contains(Texts(evidence.trace, "note"), "fault: " + fault);
   return observed;

@@ -12,7 +12,7 @@ using testing::UnorderedElementsAre;
 
 constexpr const char* kPassed =
     R"json({"outcome": "passed", "elements": [{"id": 1, "testId": 410, "kind": "test",
-  "status": 1, "doubts": [], "measurement": {"value": 123.0, "unit": "mOhm", "flags": ""}}]})json";
+  "verdict": "passed", "reasons": [], "measurement": {"value": 123.0, "unit": "mOhm", "flags": ""}}]})json";
 
 /// A run of one test in which all went well, but for what the tests below change.
 RunEvidence Sound() {
@@ -30,7 +30,7 @@ std::string Replaced(std::string text, const std::string& what, const std::strin
 
 TEST(RunEvidence, IsSummedUpInOneLine) {
   const auto observed = Judge(Sound(), "delay 500");
-  EXPECT_EQ(observed.cell, "ISGcE P 0");
+  EXPECT_EQ(observed.Text(), "IREM, STST 1, GRES 1, STST end, EREM: passed, exit status 0");
   EXPECT_TRUE(observed.met);
   EXPECT_THAT(observed.offences, IsEmpty());
 }
@@ -56,22 +56,38 @@ TEST(RunEvidence, APassWithAnotherReadingIsAnOffence) {
 
 TEST(RunEvidence, ADoubtfulElementCountsForNothing) {
   auto evidence = Sound();
-  evidence.json = Replaced(kPassed, "\"doubts\": []", "\"doubts\": [\"a line was dropped\"]");
+  evidence.json = Replaced(kPassed, R"("verdict": "passed", "reasons": [])",
+                           R"("verdict": "doubtful", "reasons": [{"code": "late-reply"}])");
   const auto observed = Judge(evidence, "delay 500");
-  EXPECT_EQ(observed.cell, "ISGcE p 0");
+  EXPECT_EQ(observed.Text(), "IREM, STST 1, GRES 1, STST end, EREM: doubtful, exit status 0");
   EXPECT_THAT(observed.offences,
               UnorderedElementsAre(HasSubstr("the outcome is"), HasSubstr("exit status 0")));
+}
+
+TEST(RunEvidence, AVerdictWithoutAReasonIsAnOffence) {
+  auto evidence = Sound();
+  evidence.exitStatus = 2;
+  evidence.json = Replaced(Replaced(kPassed, R"("verdict": "passed")", R"("verdict": "not tested")"),
+                           R"("outcome": "passed")", R"("outcome": "incomplete")");
+  EXPECT_THAT(Judge(evidence, "delay 500").offences, UnorderedElementsAre(HasSubstr("nothing says why")));
 }
 
 TEST(RunEvidence, ASequenceThatPassesWithoutATestOfItIsAnOffence) {
   auto evidence = Sound();
   evidence.exitStatus = 2;
   evidence.json = R"json({"outcome": "incomplete", "elements": [
-    {"id": 1, "testId": 400, "kind": "sequence", "status": 1, "doubts": [], "measurement": null},
-    {"id": 2, "testId": 410, "kind": "test", "status": 0, "doubts": [], "measurement": null}]})json";
+    {"id": 1, "testId": 400, "kind": "sequence", "verdict": "passed", "reasons": [], "measurement": null},
+    {"id": 2, "testId": 410, "kind": "test", "verdict": "not tested", "reasons": [{"code": "no-result"}],
+     "measurement": null}]})json";
   const auto observed = Judge(evidence, "delay 500");
-  EXPECT_EQ(observed.cell, "ISGcE P- 2");
-  EXPECT_THAT(observed.offences, UnorderedElementsAre("the sequence passed with children -"));
+  EXPECT_EQ(observed.verdicts, "passed, not tested");
+  EXPECT_THAT(observed.offences, UnorderedElementsAre("the sequence passed with children not tested"));
+}
+
+TEST(RunEvidence, CommandsAreCountedAndReadBack) {
+  const std::vector<std::string> commands{"IREM", "STST 1", "STST 1", "STST 1", "IREM"};
+  EXPECT_EQ(TextOf(commands), "IREM, STST 1 x3, IREM");
+  EXPECT_EQ(CommandsIn(TextOf(commands)), commands);
 }
 
 TEST(RunEvidence, ARunWithoutAResultIsAnOffence) {
