@@ -58,6 +58,25 @@ void Require(bool holds, const std::string& what) {
 void PrepareRun(const Workplace& place) {
   place.Bench({"new", "@d.orvik", "--add", "400", "910"});
   place.Bench({"limit", "@d.orvik", "--from", "iec-60601-1-class-1-bf"});
+  // All of it passed a year ago.
+  place.Bench({"run", "@d.orvik", "--simulate", "sound-class-1", "--time-scale", kTimeScale});
+}
+
+/// From the first command on the results of the run before count no more, whenever the new one is killed.
+void RequireNothingOfTheRunBefore(const Workplace& place, const Json& shown, const Ended& ended) {
+  const auto runs = Json::parse(place.Bench({"show", "@d.orvik", "--runs", "--json"}))["runs"];
+  const auto lines = ended.Lines();
+  const bool commanded = std::any_of(lines.begin(), lines.end(), [](const std::string& line) {
+    return Json::parse(line)["event"] == "command";
+  });
+  Require(runs.size() == 2 || (runs.size() == 1 && !commanded), "no record of the run: " + runs.dump());
+  const int current = static_cast<int>(runs.size());
+  for (const auto& run : runs) Require(run["intact"] == true, "a record is damaged: " + run.dump());
+  for (const auto& element : shown["elements"]) {
+    const bool counts = element["verdict"] != "not tested";
+    Require(!counts || element["run"] == current, "a result of the run before counts: " + element.dump());
+  }
+  Require(ended.killed || current == 2, "the run came to its end without a record");
 }
 
 /// Every element that was told to be finished is in the document as it was told.
@@ -73,14 +92,19 @@ void VerifyRun(const Workplace& place, const Ended& ended, const Workplace& old,
     const auto element =
         std::find_if(all.begin(), all.end(), [&](const Json& one) { return one["id"] == event["element"]; });
     Require(element != all.end(), "not in the document: " + line);
-    Require((*element)["status"] == event["status"], "the document has " + element->dump() + " for " + line);
-    // What is found out later, while the session is closed, adds to the doubts.
-    for (const auto& doubt : event["doubts"]) {
-      const auto& doubts = (*element)["doubts"];
-      Require(std::find(doubts.begin(), doubts.end(), doubt) != doubts.end(),
+    for (const auto* part : {"status", "verdict"})
+      Require((*element)[part] == event[part], "the document has " + element->dump() + " for " + line);
+    const auto& measurement = (*element)["measurement"];
+    const auto value = measurement.is_null() ? Json() : measurement["value"];
+    Require(value == event["value"], "the document has " + element->dump() + " for " + line);
+    // What is found out later, while the session is closed, adds to the reasons.
+    for (const auto& reason : event["reasons"]) {
+      const auto& reasons = (*element)["reasons"];
+      Require(std::find(reasons.begin(), reasons.end(), reason) != reasons.end(),
               "the document has " + element->dump() + " for " + line);
     }
   }
+  RequireNothingOfTheRunBefore(place, shown, ended);
 }
 
 void PrepareLimit(const Workplace& place) {
