@@ -50,8 +50,10 @@ void MainWindow::Run(RunSelection selection) {
 
 bool MainWindow::MayReplaceResults(const std::vector<std::shared_ptr<orvik::ITestElement>>& elements) {
   const auto part = JudgedPart(desk_.View().judged, elements);
-  const bool some = std::any_of(part.elements.begin(), part.elements.end(),
-                                [](const judge::JudgedElement& element) { return element.Current(); });
+  const bool some =
+      std::any_of(part.elements.begin(), part.elements.end(), [](const judge::JudgedElement& element) {
+        return element.Current() && element.verdict != judge::Verdict::kNotTested;
+      });
   return !some || Ask(this, Tr("There are results already. Run these tests again and replace their results?"),
                       {Tr("Run again"), Tr("Cancel")}) == 0;
 }

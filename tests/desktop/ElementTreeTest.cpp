@@ -16,11 +16,11 @@ using bench::desktop::ElementTree;
 
 constexpr int kResultColumn = 2;
 
-bench::DocumentSummary OnePassed() {
-  bench::DocumentSummary document;
+bench::judge::JudgedDocument OnePassed() {
+  bench::judge::JudgedDocument document;
   document.elements.emplace_back();
   document.elements.back().id = 1;
-  document.elements.back().status = 1;
+  document.elements.back().verdict = bench::judge::Verdict::kPassed;
   return document;
 }
 
@@ -85,7 +85,7 @@ TEST(ElementTreeTest, AResultIsReadOnADarkDesktop) {
 TEST(ElementTreeTest, WhatADocumentHoldsIsNeverTakenForMarkup) {
   auto document = OnePassed();
   document.elements.back().name = "<b>failed</b>";
-  document.elements.back().doubts = {"<i>none</i>"};
+  document.elements.back().reasons = {{"negative-reading", {"<i>none</i>"}}};
   ElementTree tree;
   tree.Show(document, 0);
   for (const int column : {1, 4}) {

@@ -85,7 +85,9 @@ TEST_F(RunTest, ANewDocumentIsFilledRunByHandReportedAndSaved) {
          Await("a passed test", [this] { return Cell(2, kResult) == "passed"; }), Guide(kNext), Idle()});
 
   EXPECT_EQ(Cell(1, kValue), "1850 mOhm");
-  EXPECT_THAT(Cell(1, kRemark), HasSubstr("fails IEC 60601-1"));
+  EXPECT_THAT(
+      Cell(1, kRemark),
+      HasSubstr("IEC 60601-1, 2005+A1:2012, class I, type CF: 1850 mOhm exceeds the limit of 200 mOhm"));
   EXPECT_EQ(Verdict(), "Failed");
   EXPECT_FALSE(Changed());
   ChooseElement(1);
@@ -121,14 +123,15 @@ TEST_F(RunTest, SoundEquipmentPassesAndTheCommandLineSaysTheSame) {
 TEST_F(RunTest, WhatWasOnlyRecordedIsToldInTheVerdict) {
   // No set has limits for the mains voltage.
   file_ = NewDocument({"210", "410"});
+  ASSERT_EQ(Bench({"limit", file_, "--element", "1", "--record-only"}).status, 0);
   window_->Open(file_);
   ChooseTester("Simulated tester: sound-class-1");
-  Drive({Press("run"), Guide(kPlay), Await("a result", [this] { return Cell(1, kResult) == "passed"; }),
+  Drive({Press("run"), Guide(kPlay), Await("a result", [this] { return Cell(1, kResult) == "recorded"; }),
          Guide(kNext), Guide(kPlay), Await("a result", [this] { return Cell(2, kResult) == "passed"; }),
          Guide(kNext), Idle()});
-  EXPECT_EQ(Cell(1, kRemark), "no limits: recorded, not judged");
+  EXPECT_EQ(Cell(1, kRemark), "record only: not judged by any limit");
   EXPECT_THAT(window_->findChild<QLabel*>("verdictSentence")->text().toStdString(),
-              HasSubstr("without a limit"));
+              HasSubstr("1 recorded only"));
   // Nobody has said that the first is good; the second has limits.
   EXPECT_NE(ResultColour(1), ResultColour(2));
   EXPECT_EQ(ResultColour(1),
