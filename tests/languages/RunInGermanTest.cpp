@@ -7,6 +7,18 @@ class RunInGerman : public cli::CliTest {
   static bool Holds(const std::string& text, const std::string& part) {
     return text.find(part) != std::string::npos;
   }
+
+  /// The object without its sentences for people, and without what differs from run to run.
+  static nlohmann::json ForPrograms(const std::string& text) {
+    auto object = nlohmann::json::parse(text);
+    object.erase("run");
+    for (auto& element : object["elements"]) {
+      element.erase("run");
+      element.erase("at");
+      for (auto& reason : element["reasons"]) EXPECT_EQ(reason.erase("text"), 1U);
+    }
+    return object;
+  }
 };
 
 TEST_F(RunInGerman, TellsEverythingInGerman) {
@@ -16,8 +28,10 @@ TEST_F(RunInGerman, TellsEverythingInGerman) {
   EXPECT_EQ(run.status, 1) << run.error;
   EXPECT_TRUE(Holds(run.out, "Alle Pausen und Zeitgrenzen sind durch 10 geteilt.")) << run.out;
   EXPECT_TRUE(Holds(run.out, "Versuch 1 von 3"));
-  EXPECT_TRUE(Holds(run.out, ": nicht bestanden\nPrüfgerät KELD(IN), Seriennummer SIM-0001, Firmware 3.10"));
-  EXPECT_TRUE(Holds(run.out, "verletzt IEC 62353"));
+  EXPECT_TRUE(Holds(run.out, ": nicht bestanden\nSIMULIERT: ein simuliertes Prüfgerät wurde verwendet"));
+  EXPECT_TRUE(Holds(run.out, "Prüfgerät KELD(IN), Seriennummer SIM-0001, Firmware 3.10"));
+  EXPECT_TRUE(Holds(run.out, "1  nicht beurteilt 231.4 V"));
+  EXPECT_TRUE(Holds(run.out, "IEC 62353: 1850 mOhm überschreitet den Grenzwert von 300 mOhm"));
   for (const char* english : {"passed", "failed", "fails", "attempt", "Tester", "All pauses"})
     EXPECT_FALSE(Holds(run.out, english)) << english;
 }
@@ -30,7 +44,7 @@ TEST_F(RunInGerman, WritesTheReportInGerman) {
   const auto written = Bench({"report", file, "--to", report, "--lang", "de"});
   ASSERT_EQ(written.status, 0) << written.error;
   const auto text = Contents(report);
-  EXPECT_TRUE(Holds(text, "Elektrische Sicherheitsprüfung")) << text;
+  EXPECT_TRUE(Holds(text, "SIMULIERTE elektrische Sicherheitsprüfung")) << text;
   EXPECT_TRUE(Holds(text, "NICHT BESTANDEN"));
   EXPECT_TRUE(Holds(text, "höchstens 300 mOhm"));
   for (const char* english : {"passed", "failed", "Result", "Tester", "at most"})
@@ -51,7 +65,7 @@ TEST_F(RunInGerman, LeavesTheJsonObjectAsItIs) {
   EXPECT_EQ(Bench(Simulated(file, "broken-earth", {"--lang", "de"})).status, 1);
   const auto german = Bench({"show", file, "--json", "--lang", "de"});
   const auto english = Bench({"show", file, "--json"});
-  EXPECT_EQ(german.out, english.out);
+  EXPECT_EQ(ForPrograms(german.out), ForPrograms(english.out));
   EXPECT_EQ(nlohmann::json::parse(german.out)["outcome"], "failed");
 }
 
@@ -68,11 +82,12 @@ TEST_F(RunInGerman, JudgesAsInEnglish) {
   inGerman.insert(inGerman.end(), {"--lang", "de"});
   const auto told = Bench(inGerman);
   EXPECT_EQ(told.status, english.status);
-  EXPECT_EQ(told.out, english.out);
+  EXPECT_EQ(ForPrograms(told.out), ForPrograms(english.out));
 }
 
 TEST_F(RunInGerman, TakesTheSameWordsFromTheOperator) {
   const auto file = NewDocument({"210"});
+  SetWideLimits(file, {"1"});
   const auto program = Start(Simulated(file, "sound-class-1", {"--operator", "ask", "--lang", "de"}));
   ASSERT_TRUE(program->AwaitOutput("PRÜFABLAUF"));
   program->Type("play\n");

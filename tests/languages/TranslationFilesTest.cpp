@@ -51,7 +51,8 @@ bool MayBeTheSame(const std::string& language, const std::string& text) {
                                                  "Firmware",
                                                  "%%1 - %%2",
                                                  "calibrate: %%1",
-                                                 "--low, --high, --unit: %%1"};
+                                                 "%%1 mOhm, %%2",
+                                                 "--element %%1, --low, --high, --unit: %%2"};
   static const std::map<std::string, std::set<std::string>> kSome{
       {"de", {"Element", "Status", "Revision", "System", "Version"}},
       {"fr", {"Description", "OPTIONS", "Document", "Date", "Partial", "Type", "Version", "Configuration"}},
