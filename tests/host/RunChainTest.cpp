@@ -113,7 +113,7 @@ TEST(RunChain, AnyElementRemovedAddedOrMovedShows) {
             shows);
   EXPECT_EQ(StatesIn(Changed([&](pugi::xml_node section) {
               auto test = RunAt(section, 2).child("Test");
-              test.child("Recorded").append_move(test.child("Said"));
+              test.child("Recorded").append_move(test.child("Judged"));
             })),
             shows);
   EXPECT_EQ(StatesIn(Changed([&](pugi::xml_node section) {
