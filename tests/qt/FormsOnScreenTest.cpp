@@ -153,6 +153,40 @@ TEST_F(FormsOnScreen, AFormThatBecomesModalWhileItIsOpenBlocks) {
   EXPECT_EQ(WidgetOf(*second).windowModality(), Qt::NonModal);
 }
 
+TEST_F(FormsOnScreen, WindowsAreDialogsOfTheHostsWindow) {
+  QWidget host;
+  onScreen->SetHostWindow(&host);
+  host.show();
+  auto first = Window("First");
+  auto second = Window("Second");
+  // Only those are kept above their owner by window managers.
+  EXPECT_EQ(WidgetOf(*first).windowHandle()->type(), Qt::Dialog);
+  EXPECT_EQ(WidgetOf(*first).windowHandle()->transientParent(), host.windowHandle());
+  EXPECT_EQ(WidgetOf(*second).windowHandle()->transientParent(), WidgetOf(*first).windowHandle());
+}
+
+TEST_F(FormsOnScreen, WindowBelongsToQuestionOfTheHost) {
+  QWidget host;
+  onScreen->SetHostWindow(&host);
+  host.show();
+  QWidget question(&host, Qt::Dialog);
+  question.setWindowModality(Qt::ApplicationModal);
+  question.show();
+  auto form = Window("First");
+  EXPECT_EQ(WidgetOf(*form).windowHandle()->transientParent(), question.windowHandle());
+}
+
+TEST_F(FormsOnScreen, MinimisedWindowReturnsWithAClickIntoTheHosts) {
+  QWidget host;
+  onScreen->SetHostWindow(&host);
+  host.show();
+  auto form = Window("First");
+  WidgetOf(*form).showMinimized();
+  ASSERT_TRUE(WidgetOf(*form).isMinimized());
+  person::Click(host);
+  EXPECT_FALSE(WidgetOf(*form).isMinimized());
+}
+
 TEST_F(FormsOnScreen, KeysComeToTheFormFirst) {
   auto form = Window("First");
   form->SetKeyPreview(true);

@@ -32,7 +32,12 @@ class FormWidget final : public QWidget {
 
 QWidget* NewFormWidget(Stage& stage, headless::Control& control) {
   const auto& form = dynamic_cast<const headless::Form&>(control);
-  return new FormWidget(stage.EmbeddedIn(form), control.weak_from_this(), stage.GetUnits());
+  QWidget* outer = stage.EmbeddedIn(form);
+  auto* widget = new FormWidget(outer, control.weak_from_this(), stage.GetUnits());
+  // Window managers keep dialogs above their owner and minimise them with it; a plain window could be
+  // covered.
+  if (!outer) widget->setWindowFlags(Qt::Dialog);
+  return widget;
 }
 
 /// Above its owner, and not blocked by it.

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QWindow>
 #include <utility>
 
 #include "OrvikTypeLib/HostError.h"
@@ -25,6 +26,32 @@ class Stage::EventFilter final : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override {
     const auto found = stage_.watched_.find(watched);
     return found != stage_.watched_.end() && found->second->Filter(*watched, *event);
+  }
+
+ private:
+  Stage& stage_;
+};
+
+/// Looks after the host's own window.
+class Stage::HostWatch final : public QObject {
+ public:
+  explicit HostWatch(Stage& stage) : stage_(stage) {}
+
+  bool eventFilter(QObject*, QEvent* event) override {
+    switch (event->type()) {
+      case QEvent::Show:
+        // The native window sees what is done to everything inside.
+        if (auto* window = stage_.hostWindow_->windowHandle()) window->installEventFilter(this);
+        break;
+      case QEvent::WindowActivate:
+      case QEvent::MouseButtonPress:
+      case QEvent::KeyPress:
+        stage_.RestoreMinimised();
+        break;
+      default:
+        break;
+    }
+    return false;
   }
 
  private:
@@ -209,7 +236,22 @@ QWidget* Stage::EmbeddedIn(const headless::Form& form) const {
   return found == embedded_.end() ? nullptr : found->second.data();
 }
 
+void Stage::SetHostWindow(QWidget* window) {
+  hostWindow_ = window;
+  hostWatch_ = std::make_unique<HostWatch>(*this);
+  if (window) window->installEventFilter(hostWatch_.get());
+}
+
+void Stage::RestoreMinimised() {
+  for (const auto& [handle, presenter] : presenters_) {
+    QWidget* window = presenter->Widget();
+    if (window && window->isWindow() && window->isVisible() && window->isMinimized()) window->showNormal();
+  }
+}
+
 QWidget* Stage::OwnerOfNext(const headless::Form& form) const {
+  // The windows here are modal among themselves only, so a modal one is the host's.
+  if (QWidget* question = hostWindow_ ? QApplication::activeModalWidget() : nullptr) return question;
   const headless::Form* owner = nullptr;
   for (const auto& [handle, presenter] : presenters_) {
     const auto* other = dynamic_cast<headless::Form*>(&presenter->Control());

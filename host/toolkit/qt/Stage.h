@@ -46,7 +46,7 @@ class Stage final : public headless::IScreen {
   void SetErrorHandler(std::function<void(const std::string&)> handler) {
     errorHandler_ = std::move(handler);
   }
-  void SetHostWindow(QWidget* window) { hostWindow_ = window; }
+  void SetHostWindow(QWidget* window);
   QWidget* HostWindow() const { return hostWindow_; }
   /// Brings all widgets up to date. While something that the person did is still on its way to the model,
   /// that waits, and the answer is false: the model is behind the widgets.
@@ -61,8 +61,11 @@ class Stage final : public headless::IScreen {
   headless::Application& Application() const { return *application_; }
   /// Where the form is embedded, or null.
   QWidget* EmbeddedIn(const headless::Form& form) const;
-  /// The widget above which a window that appears now belongs, or null.
+  /// The widget above which a window that appears now belongs, or null: the window shown last, or else the
+  /// host's own. A question of the host that is open comes first, or it would be covered.
   QWidget* OwnerOfNext(const headless::Form& form) const;
+  /// Brings back windows that were minimised without the host's own: what waits for the person must be seen.
+  void RestoreMinimised();
 
   /// Puts the action of a person into the message queue. While widgets are being brought up to date nothing
   /// comes from a person, and nothing is put there.
@@ -79,6 +82,7 @@ class Stage final : public headless::IScreen {
 
  private:
   class EventFilter;
+  class HostWatch;
 
   void Show(headless::Control& control);
   void Present(headless::Control& control);
@@ -93,6 +97,7 @@ class Stage final : public headless::IScreen {
   Units units_;
   std::unique_ptr<headless::IMetrics> metrics_;
   QPointer<QWidget> hostWindow_;
+  std::unique_ptr<HostWatch> hostWatch_;
   std::function<void(const std::string&)> errorHandler_;
   std::unique_ptr<EventFilter> filter_;
   std::unordered_map<QObject*, Presenter*> watched_;
