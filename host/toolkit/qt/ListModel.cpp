@@ -3,6 +3,7 @@
 #include <QFont>
 #include <QPalette>
 
+#include "host/services/Tr.h"
 #include "host/toolkit/qt/Texts.h"
 #include "host/toolkit/qt/Units.h"
 
@@ -37,7 +38,12 @@ QVariant ColorOf(const platform::ListCell& cell) {
   return ToQt(cell.color, QPalette());
 }
 
+/// Bold and red is how a plug-in marks a reading that failed; nothing else is shown so.
+bool IsFailed(const platform::ListCell& cell) { return cell.bold && cell.color == platform::kRed; }
+
 }  // namespace
+
+QString FailedText(const QString& text) { return ToQt(Tr("failed: %%1", {FromQt(text)})); }
 
 void ListModel::Update() {
   auto columns = list_.Columns();
@@ -80,6 +86,10 @@ QVariant ListModel::data(const QModelIndex& index, int role) const {
       return FontOf(*cell);
     case Qt::ForegroundRole:
       return ColorOf(*cell);
+    case kFailedRole:
+      return IsFailed(*cell);
+    case Qt::AccessibleTextRole:
+      return index.column() == 0 && IsFailed(*cell) ? FailedText(ToQt(cell->text)) : ToQt(cell->text);
     default:
       return {};
   }

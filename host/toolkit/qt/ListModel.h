@@ -7,6 +7,12 @@
 
 namespace bench::qt {
 
+/// Whether the cell belongs to a reading that failed.
+inline constexpr int kFailedRole = Qt::UserRole;
+
+/// The text of a failed row's first cell, with the word that says so.
+QString FailedText(const QString& text);
+
 /// The rows of a list as Qt's views ask for them, one cell at a time: nothing is copied, and a long list
 /// costs what is seen of it.
 class ListModel final : public QAbstractTableModel {

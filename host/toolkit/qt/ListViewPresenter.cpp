@@ -4,6 +4,7 @@
 #include <QMouseEvent>
 
 #include "host/toolkit/qt/Keys.h"
+#include "host/toolkit/qt/ListDelegate.h"
 #include "host/toolkit/qt/Stage.h"
 #include "host/toolkit/qt/Units.h"
 
@@ -29,6 +30,7 @@ ListViewPresenter::ListViewPresenter(Stage& stage, headless::Control& control)
     : PresenterFor(stage, control, new QTreeView), list_(GetModel()) {
   QTreeView& shown = GetShown();
   shown.setModel(&list_);
+  shown.setItemDelegate(new ListDelegate(&shown));
   shown.setRootIsDecorated(false);
   shown.setUniformRowHeights(true);
   shown.setAllColumnsShowFocus(true);

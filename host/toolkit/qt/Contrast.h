@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QColor>
+
+namespace bench::qt {
+
+/// The contrast of two colours as the Web Content Accessibility Guidelines define it: 1 for the same, 21 for
+/// black on white.
+double Contrast(const QColor& one, const QColor& other);
+
+/// The colour, made darker or lighter until it can be read on the background (a contrast of at least 4.5).
+QColor Legible(const QColor& color, const QColor& background);
+
+}  // namespace bench::qt
