@@ -39,12 +39,13 @@ void XTgToolbar::Build(orvik::platform::IPanel& panel) {
     toolbar_->SetCommandToolTip(button.command, Text(button.toolTip));
   }
   status_ = panel.AddLabel("lblStatus");
+  panel.AddLabel("lblJudgement")->SetVisible(false);
   chosen_ = toolbar_->CommandChosen().Subscribe([this](int command) { Tell(command); });
 
   orvik::platform::Grid grid;
-  grid.rows = {{}};
+  grid.rows = {{}, {}};
   grid.columns = {{}, {0, 1}};
-  grid.cells = {{"tbrCommands", 0, 0}, {"lblStatus", 0, 1}};
+  grid.cells = {{"tbrCommands", 0, 0}, {"lblStatus", 0, 1}, {"lblJudgement", 1, 0, 1, 2}};
   grid.margin = 0;
   panel.SetGrid(grid);
 }

@@ -10,7 +10,8 @@
 
 namespace bench {
 
-/// The test-guide toolbar: the buttons "tbrCommands" and the status text "lblStatus" beside them.
+/// The test-guide toolbar: the buttons "tbrCommands" and the status text "lblStatus" beside them, and
+/// below both "lblJudgement", in which the host says how the readings were judged; hidden while it is empty.
 /// Operations fail with `HostError` 91 until the control has been placed.
 class XTgToolbar final : public virtual orvik::ITgToolbar, public HostControl {
  public:

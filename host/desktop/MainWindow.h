@@ -132,6 +132,8 @@ class MainWindow : public QMainWindow {
   void Stop();
   void Calibrate();
   void ListenToCalibrations();
+  /// Which standards the readings in the guide fail or keep: its own list shows the limits of one alone.
+  void ShowJudgementInGuide();
 
   void closeEvent(QCloseEvent* event) override;
   void LeaveIfOver();

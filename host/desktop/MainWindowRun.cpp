@@ -3,16 +3,19 @@
 #include <QLineEdit>
 #include <QTimer>
 #include <algorithm>
+#include <utility>
 
 #include "host/app/CalibrationWindow.h"
 #include "host/app/StoredLeadsView.h"
 #include "host/app/run/RunSession.h"
 #include "host/desktop/Dialogs.h"
 #include "host/desktop/ElementTree.h"
+#include "host/desktop/GuideJudgement.h"
 #include "host/desktop/MainWindow.h"
 #include "host/desktop/RunProgress.h"
 #include "host/desktop/TesterBox.h"
 #include "host/desktop/WhileOpen.h"
+#include "host/run/GuideToolbar.h"
 #include "host/services/Tr.h"
 #include "platform/IForm.h"
 
@@ -86,6 +89,15 @@ void MainWindow::RunChanged() {
 }
 
 MainWindow::Part::Part(MainWindow& window, RunSession& session, RunProgress& progress) : window_(window) {
+  ShowJudgementInGuide();
+}
+
+void MainWindow::ShowJudgementInGuide() {
+  if (!progress_) return;
+  std::vector<report::Section> sections;
+  for (const auto id : progress_->FinishedInGuide())
+    if (auto section = desk_.Section(id)) sections.push_back(std::move(*section));
+  ShowJudgement(*desk_.Bench().Application(), GuideJudgement(sections));
   window_.session_ = &session;
   window_.progress_ = &progress;
   window_.progressTimer_->start();

@@ -27,17 +27,22 @@ void RunProgress::Reached(std::size_t place, std::size_t count) {
   place_ = place;
   count_ = count;
   element_.clear();
+  finished_.clear();
   changed_();
 }
 
 void RunProgress::Started(const judge::JudgedElement& element) {
   running_ = element.id;
+  // The guide's own test begins again with everything in it.
+  if (element.parent == 0) finished_.clear();
   element_ = std::to_string(element.testId) + " " + report::VisibleText(element.name);
   changed_();
 }
 
-void RunProgress::Finished(const judge::JudgedElement&) {
+void RunProgress::Finished(const judge::JudgedElement& element) {
   running_ = 0;
+  std::erase(finished_, element.id);
+  finished_.push_back(element.id);
   changed_();
 }
 

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "host/app/run/ExchangeView.h"
 #include "host/app/run/RunEstimate.h"
@@ -23,6 +24,8 @@ class RunProgress final : public RunReporter {
   std::string Text() const;
   /// The element that runs; 0 for none.
   std::int32_t Running() const { return running_; }
+  /// The elements that have finished in the guide that is open, in this order.
+  const std::vector<std::int32_t>& FinishedInGuide() const { return finished_; }
   /// Its place among all that are run, from 1, and how many those are; 0 before the first.
   std::size_t Place() const { return place_; }
   std::size_t Count() const { return count_; }
@@ -47,6 +50,7 @@ class RunProgress final : public RunReporter {
   std::size_t place_ = 0;
   std::size_t count_ = 0;
   std::int32_t running_ = 0;
+  std::vector<std::int32_t> finished_;
   std::string element_;
 };
 

@@ -54,9 +54,7 @@ const char* ClassOf(report::Standing standing) {
   return "open";
 }
 
-namespace {
-
-const char* Sign(report::Standing standing) {
+const char* PlainSignOf(report::Standing standing) {
   switch (standing) {
     case report::Standing::kPassed:
       return "\u2713";
@@ -80,10 +78,8 @@ const char* Sign(report::Standing standing) {
   return "!";
 }
 
-}  // namespace
-
 std::string SignOf(report::Standing standing) {
-  return std::string("<span class=\"sign\" aria-hidden=\"true\">") + Sign(standing) + "</span>";
+  return std::string("<span class=\"sign\" aria-hidden=\"true\">") + PlainSignOf(standing) + "</span>";
 }
 
 }  // namespace bench::html

@@ -17,6 +17,8 @@ std::string Isolated(std::string_view text);
 /// The CSS class of a standing, which is its colour: "passed", "failed", "open", "na".
 const char* ClassOf(report::Standing standing);
 
+/// The sign of a standing, one character.
+const char* PlainSignOf(report::Standing standing);
 /// The sign before a word, each standing its own; hidden from screen readers.
 std::string SignOf(report::Standing standing);
 

@@ -13,6 +13,17 @@ std::shared_ptr<orvik::ITgToolbar> GuideToolbar(const platform::IForm& form) {
   return site ? std::dynamic_pointer_cast<orvik::ITgToolbar>(site->Object()) : nullptr;
 }
 
+void ShowJudgement(const platform::IApplication& application, const std::string& text) {
+  for (const auto& form : application.Forms()) {
+    if (form->Name() != guide::kGuideForm || !form->Visible()) continue;
+    const auto site = std::dynamic_pointer_cast<platform::IContainerSite>(form->Find(guide::kToolbar));
+    const auto label = site ? site->Panel()->Find(guide::kJudgement) : nullptr;
+    if (!label) continue;
+    label->SetCaption(text);
+    label->SetVisible(!text.empty());
+  }
+}
+
 std::string CaptionOf(const platform::IForm& form, const std::string& control) {
   const auto found = form.Find(control);
   return found ? found->Caption() : std::string();

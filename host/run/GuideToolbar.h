@@ -14,6 +14,7 @@ namespace guide {
 
 inline constexpr char kGuideForm[] = "FTestGuide";
 inline constexpr char kToolbar[] = "xtbToolbar";
+inline constexpr char kJudgement[] = "lblJudgement";
 inline constexpr std::int32_t kAbort = 101;
 inline constexpr std::int32_t kPrevious = 102;
 inline constexpr std::int32_t kNext = 103;
@@ -41,6 +42,9 @@ inline constexpr char kLeadsType[] = "txtMTIType";
 
 /// The toolbar of a test guide's window; empty when it has none.
 std::shared_ptr<orvik::ITgToolbar> GuideToolbar(const orvik::platform::IForm& form);
+
+/// Shows the host's judgement of the readings below the buttons of the guide that is shown; empty for none.
+void ShowJudgement(const orvik::platform::IApplication& application, const std::string& text);
 
 /// The caption of the form's control; empty when there is none.
 std::string CaptionOf(const orvik::platform::IForm& form, const std::string& control);

@@ -112,6 +112,39 @@ TEST_F(RunTest, ANewDocumentIsFilledRunByHandReportedAndSaved) {
          Answer("message", "Close", "added as document 1 (simulated: nothing was measured)")});
 }
 
+TEST_F(RunTest, GuideSaysWhichStandardFails) {
+  file_ = NewDocument({"410", "910"});
+  // The standard whose limits the guide's own list shows is the first: that one holds.
+  ASSERT_EQ(Bench({"limit", file_, "--element", "1", "--standard", "A", "--high", "5000"}).status, 0);
+  window_->Open(file_);
+  ChooseTester("Simulated tester: broken-earth");
+  const auto shown = [] {
+    auto* guide = Visible("FTestGuide");
+    auto* label = guide ? guide->findChild<QLabel*>("lblJudgement") : nullptr;
+    return label && label->isVisible() ? label->text().toStdString() : std::string();
+  };
+  std::string failed, next;
+  QWidget* first = nullptr;
+  Drive({Press("run"), Guide(kPlay), Await("a judgement", [&] { return !(failed = shown()).empty(); }),
+         Await("the first guide",
+               [&] {
+                 first = Visible("FTestGuide");
+                 return first != nullptr;
+               }),
+         Guide(kNext),
+         Await("the next guide", [&] { return Visible("FTestGuide") && Visible("FTestGuide") != first; }),
+         Await("its texts",
+               [&] {
+                 next = shown();
+                 return true;
+               }),
+         Press("stop"), Idle()});
+  EXPECT_THAT(failed, HasSubstr("\u2717 Protective earth, with mains cord: failed"));
+  EXPECT_THAT(failed, HasSubstr("\u2717 IEC 60601-1 (2005+A1:2012, class I, type CF): at most 200 mOhm, "));
+  EXPECT_THAT(failed, HasSubstr("\u2713 A: at most 5000 mOhm, "));
+  EXPECT_EQ(next, "");
+}
+
 TEST_F(RunTest, SoundEquipmentPassesAndTheCommandLineSaysTheSame) {
   Open({"410"}, "sound-class-1");
   Drive({Press("run"), Guide(kPlay), Await("a result", [this] { return Cell(1, kResult) == "passed"; }),
