@@ -73,6 +73,17 @@ std::filesystem::path Desk::UnsavedFile() const { return bench::UnsavedFile(*doc
 
 std::filesystem::path Desk::KeepUnsaved() const { return bench::KeepUnsaved(*document_); }
 
+std::string Desk::Device() const {
+  const auto& equipment = document_->equipment;
+  std::vector<std::string> kind;
+  for (const auto& part : {equipment.maker, equipment.model})
+    if (!part.empty()) kind.push_back(part);
+  const auto& number = equipment.asset.empty() ? equipment.serial : equipment.asset;
+  if (number.empty() && kind.empty()) return document_->Path().filename().string();
+  if (number.empty()) return Joined(kind, " ");
+  return kind.empty() ? number : number + " (" + Joined(kind, " ") + ")";
+}
+
 DocumentView Desk::View() const { return ViewOf(*document_, *workbench_.Host()); }
 
 report::Verdict Desk::Verdict() const { return VerdictOf(*document_, *workbench_.Host()); }

@@ -8,8 +8,8 @@
 #include <vector>
 
 #include "host/app/DocumentView.h"
-#include "host/app/limits/SetOfLimits.h"
 #include "host/app/Workbench.h"
+#include "host/app/limits/SetOfLimits.h"
 #include "host/document/Document.h"
 #include "host/report/Report.h"
 
@@ -39,6 +39,10 @@ class Desk {
   /// Keeps unsaved changes in that file, or, while that holds those of an earlier session, in FILE.unsaved.2
   /// and so on; the document is left as it is. Returns the path.
   std::filesystem::path KeepUnsaved() const;
+
+  /// The equipment as questions name it: "PUMP-7 (Acme X2)", else its serial number, maker and model, else
+  /// the document's file.
+  std::string Device() const;
 
   DocumentView View() const;
   report::Verdict Verdict() const;

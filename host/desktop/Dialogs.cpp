@@ -9,6 +9,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <QWindow>
 
 #include "host/desktop/Shown.h"
 #include "host/services/Tr.h"
@@ -19,6 +20,23 @@ namespace {
 
 constexpr QSize kMessageSize(900, 460);
 constexpr char kProgramName[] = "orvik-bench";
+
+/// The innermost window that is open above this one, such as the guide, or the window itself.
+QWindow* TopAbove(QWindow* window) {
+  for (auto* other : QGuiApplication::topLevelWindows())
+    if (other->transientParent() == window && other->isVisible() && other->type() == Qt::Dialog)
+      return TopAbove(other);
+  return window;
+}
+
+/// Shows the dialog until it is closed, above whatever is open: a click into another window must not cover
+/// what everything waits for.
+int ExecOnTop(QDialog& dialog) {
+  dialog.winId();
+  auto* const owner = dialog.parentWidget() ? dialog.parentWidget()->window()->windowHandle() : nullptr;
+  if (owner) dialog.windowHandle()->setTransientParent(TopAbove(owner));
+  return dialog.exec();
+}
 
 /// A message with a list below it.
 void ShowList(QWidget* parent, const std::string& text, const std::string& details) {
@@ -44,7 +62,7 @@ void ShowList(QWidget* parent, const std::string& text, const std::string& detai
   layout->addWidget(heading);
   layout->addWidget(list, 1);
   layout->addWidget(buttons);
-  dialog.exec();
+  ExecOnTop(dialog);
 }
 
 void ShowBox(QWidget* parent, QMessageBox::Icon icon, const std::string& text) {
@@ -52,7 +70,7 @@ void ShowBox(QWidget* parent, QMessageBox::Icon icon, const std::string& text) {
   box.setObjectName("message");
   box.setTextFormat(Qt::PlainText);
   box.addButton(Shown(Tr("Close")), QMessageBox::AcceptRole);
-  box.exec();
+  ExecOnTop(box);
 }
 
 }  // namespace
@@ -77,9 +95,10 @@ std::size_t Ask(QWidget* parent, const std::string& question, const std::vector<
     button->setObjectName("answer" + QString::number(i));
     buttons.push_back(button);
   }
-  box.setDefaultButton(static_cast<QPushButton*>(buttons.front()));
+  // Neither Return, which a scanner sends too, nor Escape may change or end anything.
+  box.setDefaultButton(static_cast<QPushButton*>(buttons.back()));
   box.setEscapeButton(buttons.back());
-  box.exec();
+  ExecOnTop(box);
   for (std::size_t i = 0; i < buttons.size(); ++i)
     if (box.clickedButton() == buttons[i]) return i;
   return answers.size() - 1;
@@ -104,7 +123,7 @@ std::optional<std::filesystem::path> AskForFile(QWidget* parent, const FileWish&
     const auto ending = kind.mid(from, kind.lastIndexOf(')') - from);
     if (from > 1 && !ending.contains('*')) dialog.setDefaultSuffix(ending);
   });
-  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
+  if (ExecOnTop(dialog) != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
   return std::filesystem::path(QFile::encodeName(dialog.selectedFiles().first()).toStdString());
 }
 

@@ -16,7 +16,8 @@ void ShowError(QWidget* parent, const std::string& text);
 /// What was done.
 /// @param details further lines; empty for none
 void ShowMessage(QWidget* parent, const std::string& text, const std::string& details = {});
-/// Puts a question; the answers are buttons, the last one is what escape means.
+/// Puts a question; the answers are buttons. The last is the safe one, which changes nothing: Return and
+/// Escape give it, and so does closing the question.
 /// @return the place of the answer, from 0
 std::size_t Ask(QWidget* parent, const std::string& question, const std::vector<std::string>& answers);
 

@@ -367,7 +367,9 @@ void MainWindow::closeEvent(QCloseEvent* event) {
   Later(
       [this] {
         if (session_ && !leaveWhenOver_ &&
-            Ask(this, Tr("A run is on. Stop it, close the session with the tester, and quit?"),
+            Ask(this,
+                Tr("%%1 is being tested. Stop the run, close the session with the tester, and quit?",
+                   {desk_.Device()}),
                 {Tr("Stop and quit"), Tr("Go on with the run")}) != 0)
           return;
         leaveWhenOver_ = true;

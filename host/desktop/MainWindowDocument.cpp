@@ -97,7 +97,8 @@ void MainWindow::Remove() {
   const auto element = desk_.TheDocument().Find(*id);
   const auto name = ElementName(*element, *desk_.Bench().Host()->Elements());
   if (Ask(this,
-          Tr("Remove %%1, %%2, with its result and all that stands in it?", {std::to_string(*id), name}),
+          Tr("Remove test %%1, %%2, from %%3, with its result and everything in it?",
+             {std::to_string(*id), name, desk_.Device()}),
           {Tr("Remove"), Tr("Cancel")}) != 0)
     return;
   desk_.Remove(*id);

@@ -57,7 +57,10 @@ bool MainWindow::MayReplaceResults(const std::vector<std::shared_ptr<orvik::ITes
       std::any_of(part.elements.begin(), part.elements.end(), [](const judge::JudgedElement& element) {
         return element.Current() && element.verdict != judge::Verdict::kNotTested;
       });
-  return !some || Ask(this, Tr("There are results already. Run these tests again and replace their results?"),
+  return !some || Ask(this,
+                      Tr("%%1 has results already. Run these tests again? The earlier run stays on record, "
+                         "the new one counts.",
+                         {desk_.Device()}),
                       {Tr("Run again"), Tr("Cancel")}) == 0;
 }
 
@@ -86,9 +89,6 @@ void MainWindow::RunChanged() {
   Refresh();
   // What runs is what the person wants to look at.
   if (progress_ && progress_->Running() != 0) tree_->Choose(progress_->Running());
-}
-
-MainWindow::Part::Part(MainWindow& window, RunSession& session, RunProgress& progress) : window_(window) {
   ShowJudgementInGuide();
 }
 
@@ -98,6 +98,9 @@ void MainWindow::ShowJudgementInGuide() {
   for (const auto id : progress_->FinishedInGuide())
     if (auto section = desk_.Section(id)) sections.push_back(std::move(*section));
   ShowJudgement(*desk_.Bench().Application(), GuideJudgement(sections));
+}
+
+MainWindow::Part::Part(MainWindow& window, RunSession& session, RunProgress& progress) : window_(window) {
   window_.session_ = &session;
   window_.progress_ = &progress;
   window_.progressTimer_->start();

@@ -41,6 +41,12 @@ QString TextOf(const QDialog& dialog) {
   return text;
 }
 
+/// What a question that is in the way asks.
+std::string OpenQuestion() {
+  const auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+  return dialog ? "; instead: " + TextOf(*dialog).toStdString() : "";
+}
+
 }  // namespace
 
 DesktopTest::DesktopTest() {
@@ -115,7 +121,7 @@ void DesktopTest::Drive(const Steps& steps) {
       if (steps[now].done()) ++next;
     } else if (next < steps.size() && !late) {
       late = true;
-      ADD_FAILURE() << "this did not happen: " << steps[next].name;
+      ADD_FAILURE() << "this did not happen: " << steps[next].name << OpenQuestion();
       window_->EndByRequest();
     } else if (late && std::chrono::steady_clock::now() > deadline + kPatience) {
       // Loops within loops: there is no other way out.

@@ -104,7 +104,7 @@ TEST_F(EndTest, AQuestionDuringARunSpoilsNoReading) {
   OpenOnSoundEquipment();
   Drive({Press("run"), Guide(kPlay), OnTheWire("GRES"), Await("closed", [this] { return !window_->close(); }),
          In("question", [](QDialog&) { return true; }), OnTheWire("gres"),
-         Answer("question", "Go on with the run", "A run is on"),
+         Answer("question", "Go on with the run", "PUMP-7 is being tested"),
          Await("a result", [this] { return Cell(1, kResult) != "running"; }), OnTheWire("EREM"), Guide(kNext),
          Idle()});
   EXPECT_EQ(Cell(1, kResult), "passed");

@@ -194,7 +194,7 @@ TEST_F(RunTest, TheChosenElementAloneIsRunAndResultsAreReplacedOnlyWhenAsked) {
          Await("a result", [this] { return Cell(2, kResult) == "passed"; }), Guide(kNext), Idle()});
   EXPECT_EQ(Cell(1, kResult), "not tested");
   EXPECT_EQ(Verdict(), "Incomplete");
-  Drive({Press("run"), Answer("question", "Cancel", "There are results already"), Idle()});
+  Drive({Press("run"), Answer("question", "Cancel", "PUMP-7 has results already"), Idle()});
   EXPECT_EQ(Cell(2, kResult), "passed");
 }
 
@@ -227,9 +227,10 @@ TEST_F(RunTest, ATesterThatIsNotThereIsNamed) {
 TEST_F(RunTest, ClosingDuringARunAsksAndLeavesTheSessionInOrder) {
   Open({"410", "910"}, "sound-class-1");
   Drive({Press("run"), Guide(kPlay), Reached("STST"), Await("closed", [this] { return !window_->close(); }),
-         Answer("question", "Go on with the run", "A run is on"),
+         Answer("question", "Go on with the run", "PUMP-7 is being tested"),
          Await("closed again", [this] { return !window_->close(); }),
-         Answer("question", "Stop and quit", "A run is on"), Await("left", [this] { return left_; })});
+         Answer("question", "Stop and quit", "PUMP-7 is being tested"),
+         Await("left", [this] { return left_; })});
   EXPECT_EQ(Sent(file_).back(), "EREM");
   EXPECT_FALSE(window_->LeftOver());
   EXPECT_EQ(Show(file_)["outcome"], "incomplete");
