@@ -23,6 +23,8 @@ EquipmentBar::EquipmentBar(std::function<void()> edited, QWidget* parent) : QWid
     layout->addWidget(text);
     layout->addWidget(box, 1);
     connect(box, &QLineEdit::textEdited, this, edited);
+    // A scanner ends with Return: the next scan belongs into the next field.
+    connect(box, &QLineEdit::returnPressed, this, [this] { focusNextChild(); });
     return box;
   };
   asset_ = add("asset", Tr("Asset number"));
@@ -36,6 +38,11 @@ void EquipmentBar::Show(const Document::Equipment& equipment) {
   serial_->setText(Shown(equipment.serial));
   maker_->setText(Shown(equipment.maker));
   model_->setText(Shown(equipment.model));
+}
+
+void EquipmentBar::FocusOnAsset() {
+  asset_->setFocus(Qt::OtherFocusReason);
+  asset_->selectAll();
 }
 
 Document::Equipment EquipmentBar::Entered() const {

@@ -17,6 +17,8 @@ class EquipmentBar : public QWidget {
 
   void Show(const Document::Equipment& equipment);
   Document::Equipment Entered() const;
+  /// Moves the keyboard to the asset number, which is then replaced by what is typed or scanned.
+  void FocusOnAsset();
 
  private:
   QLineEdit* asset_;

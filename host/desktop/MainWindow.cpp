@@ -36,6 +36,7 @@ namespace bench::desktop {
 namespace {
 
 constexpr QSize kWindowSize(1260, 780);
+constexpr int kFrameHeight = 60;  ///< title and borders, at most
 constexpr int kRedrawMilliseconds = 250;
 
 /// A label before a box that it names, with its access key.
@@ -50,7 +51,7 @@ QLabel* LabelFor(QWidget* box, const std::string& text) {
 MainWindow::MainWindow(Workbench& workbench, const GlobalOptions& options, std::function<void()> quit)
     : desk_(workbench, options), quit_(std::move(quit)) {
   setObjectName("main");
-  resize(kWindowSize);
+  FitToScreen();
   MakeActions();
   MakeMenus();
   MakeToolbars();
@@ -63,6 +64,14 @@ MainWindow::MainWindow(Workbench& workbench, const GlobalOptions& options, std::
 }
 
 MainWindow::~MainWindow() = default;
+
+void MainWindow::FitToScreen() {
+  const QSize room = screen()->availableSize();
+  resize(kWindowSize.boundedTo(room));
+  // On a small screen the whole of it: with frame and title a window of its size would stick out.
+  if (room.width() <= kWindowSize.width() || room.height() <= kWindowSize.height() + kFrameHeight)
+    setWindowState(Qt::WindowMaximized);
+}
 
 void MainWindow::Open(const std::filesystem::path& file) {
   desk_.Open(file);
@@ -80,6 +89,14 @@ void MainWindow::Begin() {
   // What was remarked of another document is no longer true.
   Remark(TimeScaleRemark(desk_.Bench().TimeScale()));
   Refresh();
+  FocusForScan();
+}
+
+void MainWindow::FocusForScan() {
+  if (desk_.HasDocument() && desk_.TheDocument().equipment.asset.empty())
+    equipment_->FocusOnAsset();
+  else
+    tree_->setFocus(Qt::OtherFocusReason);
 }
 
 void MainWindow::EndByRequest() {
@@ -197,6 +214,8 @@ void MainWindow::MakeToolbars() {
   tester_ = new TesterBox(desk_.Bench().TimeScale(), run);
   run->addWidget(LabelFor(tester_, Tr("Tester")));
   run->addWidget(tester_);
+  // A scan must not end up where the tester's port is.
+  tester_->OnChosen([this] { FocusForScan(); });
   run->addAction(actions_.calibrate);
   run->addSeparator();
   operator_ = new QLineEdit(Shown(OperatorName({})), run);

@@ -79,6 +79,7 @@ class MainWindow : public QMainWindow {
   /// Whether something may begin while something else goes on.
   enum class When { kIdle, kAlways };
 
+  void FitToScreen();
   void MakeActions();
   QAction* NewAction(const char* name, const std::string& text, const QKeySequence& keys,
                      void (MainWindow::*work)(), When when = When::kIdle);
@@ -94,6 +95,9 @@ class MainWindow : public QMainWindow {
 
   /// Shows the document on the desk, or that there is none, from the beginning.
   void Begin();
+  /// Moves the keyboard to where a scanned asset number belongs: to its field while that is empty, else to
+  /// the list, where a scan changes nothing.
+  void FocusForScan();
   void Refresh();
   void ShowVerdict();
   void ShowDetails();
@@ -128,12 +132,12 @@ class MainWindow : public QMainWindow {
   void PerformRun(const std::vector<std::shared_ptr<orvik::ITestElement>>& elements, WireLog& log,
                   const TesterConnection& tester);
   void RunChanged();
+  /// Which standards the readings in the guide fail or keep: its own list shows the limits of one alone.
+  void ShowJudgementInGuide();
   void TellEnd(DocumentRunner::End end, const std::string& reason);
   void Stop();
   void Calibrate();
   void ListenToCalibrations();
-  /// Which standards the readings in the guide fail or keep: its own list shows the limits of one alone.
-  void ShowJudgementInGuide();
 
   void closeEvent(QCloseEvent* event) override;
   void LeaveIfOver();

@@ -1,5 +1,6 @@
 #include "host/desktop/TesterBox.h"
 
+#include <QLineEdit>
 #include <QWheelEvent>
 #include <algorithm>
 #include <filesystem>
@@ -70,6 +71,11 @@ TesterChoice TesterBox::Choice() const {
     throw InputError(
         Tr("No tester is named: choose its serial device, or a simulated tester, above the list of tests."));
   return choice;
+}
+
+void TesterBox::OnChosen(const std::function<void()>& chosen) {
+  connect(this, &QComboBox::activated, this, chosen);
+  connect(lineEdit(), &QLineEdit::returnPressed, this, chosen);
 }
 
 void TesterBox::Fill() {

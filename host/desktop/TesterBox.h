@@ -26,6 +26,8 @@ class TesterBox : public QComboBox {
 
   /// `InputError` when none is named.
   TesterChoice Choice() const;
+  /// Called when the person has chosen an entry, or has ended typing with Return.
+  void OnChosen(const std::function<void()>& chosen);
 
  private:
   void Fill();
