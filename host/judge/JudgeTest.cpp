@@ -71,7 +71,8 @@ void JudgeReading(const CaseElement& element, const LastRecord& last, std::vecto
 
   judged.reasons = std::move(findings.broke);
   const bool failed = last.test->status == orvik::ResultStatus::kFailed || (findings.broken && !differs);
-  if (last.test->status == orvik::ResultStatus::kFailed && judged.reasons.empty())
+  // A reading beyond the range is reason enough: its number is the range's end.
+  if (last.test->status == orvik::ResultStatus::kFailed && judged.reasons.empty() && !put.overload)
     judged.reasons.push_back({"failed-by-plug-in", {}});
   if (failed)
     judged.verdict = Verdict::kFailed;

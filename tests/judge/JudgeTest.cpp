@@ -312,6 +312,19 @@ TEST(Judge, DoubtsAnOverload) {
   EXPECT_EQ(earth.Judged(1).limits[0].verdict, judge::LimitVerdict::kNotComparable);
 }
 
+TEST(Judge, FailsAnOverloadThatThePlugInFailedForBeingOne) {
+  auto earth = PassedEarth();
+  auto& test = std::get<RecordedTest>(earth.runs[0].steps.back());
+  test.said = {"gres,410,0,0.123,1,Ohm"};
+  test.status = 2;
+  test.recorded->flags = "O";
+  earth.Element(1).result->flags = "O";
+  earth.Element(1).result->status = earth.Element(1).result->measurementStatus = 2;
+  earth.Element(1).result->serviceCode = "F";
+  EXPECT_EQ(earth.Verdict(), Verdict::kFailed);
+  EXPECT_THAT(earth.Codes(), ElementsAre("overload"));
+}
+
 // --- test leads
 
 TEST(Judge, TakesTheTestLeadsAway) {
