@@ -46,11 +46,12 @@ std::string Reading(const RecordedTest& test) {
                                      : test.recorded->value + " " + VisibleText(test.recorded->unit);
 }
 
-std::string TestText(const RecordedTest& test) {
+std::string TestText(const TestThen& then) {
+  const auto& test = *then.test;
   constexpr char kIndent[] = "      ";
   auto text =
       LeftPadded(std::to_string(test.element), 4) + "  " + LeftPadded(std::to_string(test.testId), 4) + "  " +
-      Padded(Tr(judge::StatusText(test.status)), 15) + Padded(Reading(test), 16) + VisibleText(test.at) +
+      Padded(Tr(judge::VerdictText(then.verdict)), 15) + Padded(Reading(test), 16) + VisibleText(test.at) +
       (test.by == RecordedTest::By::kOperator ? "  " + Tr("by the operator") : "") + "\n";
   for (const auto& line : test.said) text += kIndent + Tr("said: %%1", {VisibleText(line)}) + "\n";
   for (const auto& limit : test.judged)
@@ -117,7 +118,7 @@ std::string RunsText(const std::vector<RunRecord>& runs) {
   return Columned(lines, {0});
 }
 
-std::string RunText(const RunRecord& run, std::size_t count) {
+std::string RunText(const RunRecord& run, std::size_t count, const RunOutcomes& outcomes) {
   auto text = Tr("Run %%1 of %%2, as it was done; what counts now is what \"show\" prints without --run.",
                  {std::to_string(run.number), std::to_string(count)}) +
               "\n";
@@ -130,8 +131,7 @@ std::string RunText(const RunRecord& run, std::size_t count) {
   text += Tr("Equipment %%1", {EquipmentText(run.equipment)}) + "\n";
   if (!run.by.empty()) text += Tr("Operator %%1", {VisibleText(run.by)}) + "\n";
   for (const auto& tester : run.testers) text += TesterText(tester) + "\n";
-  for (const auto& step : run.steps)
-    if (const auto* test = std::get_if<RecordedTest>(&step)) text += TestText(*test);
+  for (const auto& test : outcomes.Of(run).tests) text += TestText(test);
   return text;
 }
 

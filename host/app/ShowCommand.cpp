@@ -44,7 +44,8 @@ void ShowCommand::Print(const Document& document, const Host& host) const {
     std::cout << (json_ ? Indented(JsonOf(runs, document.Path().string())) + "\n" : RunsText(runs));
   } else if (run_) {
     const auto& run = FoundRun(runs, *run_);
-    std::cout << (json_ ? Indented(JsonOf(run)) + "\n" : RunText(run, runs.size()));
+    const RunOutcomes outcomes(ViewOf(document, host).judged);
+    std::cout << (json_ ? Indented(JsonOf(run)) + "\n" : RunText(run, runs.size(), outcomes));
   } else {
     const auto view = ViewOf(document, host, standards_);
     RequireStandards(view.judged, standards_, file_);

@@ -234,5 +234,15 @@ TEST_F(WhatCountsTest, RunsAreListedAndShownAsTheyWereDone) {
   EXPECT_NE(absent.error.find("--run 3: the document has runs 1 to 2"), std::string::npos) << absent.error;
 }
 
+TEST_F(WhatCountsTest, ARunShowsAReadingWithoutALimitAsNotJudged) {
+  const auto file = NewDocument({"410"});
+  EXPECT_EQ(RunSimulated(file).status, 2);
+  SetLimit(file, "1", "200");
+  EXPECT_EQ(Outcome(file), "passed");
+  const auto run = Bench({"show", file, "--run", "1"}).out;
+  EXPECT_NE(run.find("not judged      123 mOhm"), std::string::npos) << run;
+  EXPECT_EQ(run.find("passed"), std::string::npos) << run;
+}
+
 }  // namespace
 }  // namespace cli
