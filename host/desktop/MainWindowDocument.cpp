@@ -114,7 +114,7 @@ void MainWindow::SetLimits() {
   const auto& set = *dialog.Set();
   const auto told = desk_.ApplySet(set, dialog.ForAll() ? std::nullopt : id);
   Refresh();
-  ShowMessage(this, Tr("These limits were set. They judge what is measured from now on."),
+  ShowMessage(this, Tr("These limits were set. They also judge readings that were measured before."),
               LinesOf(set, told));
 }
 
