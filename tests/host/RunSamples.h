@@ -77,7 +77,8 @@ inline Runs Loaded(const std::string& text) {
 
 inline States StatesIn(const std::string& text) {
   States states;
-  for (const auto& run : Loaded(text).All())
+  const auto runs = Loaded(text);
+  for (const auto& run : runs.All())
     states.push_back(std::string(run.intact ? "intact" : "changed") + (run.gapAfter ? ", gap" : ""));
   return states;
 }
