@@ -59,7 +59,7 @@ constexpr Entry kSentences[] = {
     {"above-limit", Marked("%%1: %%2 exceeds the limit of %%3")},
     {"below-limit", Marked("%%1: %%2 is below the limit of %%3")},
     {"failed-by-plug-in",
-     Marked("failed when it was run, by limits that have been changed since; run it again")},
+     Marked("failed when it was run, by a limit that has been changed since or that this view leaves out")},
     {"child", Marked("element %%1 of the group is %%2")},
     {"refused-with-limits",
      Marked("the tester refused the test although limits are selected for it; nothing was measured")},
