@@ -24,7 +24,6 @@ bool RunController::IRunController_StartQuery(std::shared_ptr<orvik::ITestElemen
   if (again || !saveFailure_.empty()) Save();
   // What is not on record must not be measured: a power cut would leave the earlier result.
   if (!saveFailure_.empty()) return false;
-  ForgetDoubts(iteElement);
   parts_.doubts.ElementStarts(id);
   running_.insert(id);
   started_.Raise(iteElement);
@@ -42,7 +41,10 @@ void RunController::IRunController_NavigationRequest(std::int32_t lCode) {
 void RunController::IRunController_FinishedNotice(std::shared_ptr<orvik::ITestElement> iteElement) {
   // Without a run the operator set the element aside, or said that the test does not apply.
   const bool ran = running_.erase(orvik::Required(iteElement).ID()) > 0;
-  if (!ran) ForgetDoubts(iteElement);
+  if (!ran)
+    WalkElements(iteElement, [this](const std::shared_ptr<orvik::ITestElement>& below) {
+      parts_.doubts.Forget(below->ID());
+    });
   parts_.recorder.Finished(iteElement, ran ? RecordedTest::By::kTester : RecordedTest::By::kOperator);
   // Whoever hears that it has finished may rely on the document.
   Save();
@@ -57,12 +59,6 @@ void RunController::Settle(const std::shared_ptr<orvik::ITestElement>& element) 
 void RunController::End(RunRecord::End end) {
   parts_.recorder.End(end);
   Save();
-}
-
-void RunController::ForgetDoubts(const std::shared_ptr<orvik::ITestElement>& element) {
-  WalkElements(element, [this](const std::shared_ptr<orvik::ITestElement>& below) {
-    parts_.doubts.Forget(below->ID());
-  });
 }
 
 void RunController::Save() {

@@ -65,8 +65,6 @@ class RunController final : public orvik::IRunController {
     return parts_.instruments;
   }
 
-  /// The element is about to be measured, or set aside: what was noted is about an earlier measurement.
-  void ForgetDoubts(const std::shared_ptr<orvik::ITestElement>& element);
   void Save();
 
   const Parts parts_;

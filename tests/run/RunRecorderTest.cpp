@@ -209,6 +209,25 @@ TEST_F(RunRecorderTest, RecordsWhoSetAnElementAside) {
   EXPECT_EQ(Verdict(3), "not tested: skipped");
 }
 
+// What is said next of a test that was stopped is the operator's word.
+TEST_F(RunRecorderTest, SettingAStoppedElementAsideIsTheOperatorsWord) {
+  for (const std::int32_t test : {410, 400}) {
+    const auto id = AddLimited(test)->ID();
+    At("GRES,410,0", test == 410 ? 1 : 2, [this] {
+      for (const auto& form : bench_.Application().Forms())
+        if (form->Name() == kGuideForm)
+          bench_.Application().Post([form] { bench::GuideToolbar(*form)->Click(kStop); });
+    });
+    RunByHand(test == 410 ? Presser::Guides{{kPlay, kNotApplicable}}
+                          : Presser::Guides{{kPlay, kNext}, {kPlay, kNotApplicable}});
+    EXPECT_EQ(Steps(), test == 410 ? (Texts{"takes 1", "1 status 0 by tester", "1 status 3 by operator"})
+                                   : (Texts{"takes 1 2 3 4", "1 status 1 by tester", "3 status 0 by tester",
+                                            "2 status 0 by tester", "4 status 3 by operator",
+                                            "3 status 3 by operator", "2 status 3 by operator"}));
+    EXPECT_EQ(Verdict(id), "not applicable: set-aside-by-operator");
+  }
+}
+
 TEST_F(RunRecorderTest, SettingAGroupAsideFinishesItsChildren) {
   Add(400);
   Run();
@@ -252,6 +271,9 @@ TEST_F(RunRecorderTest, AnAbortAfterAMeasurementTakesItsPlace) {
   AddLimited(410);
   EXPECT_EQ(RunByHand({{kPlay, kAbort}}), End::kAborted);
   EXPECT_EQ(Steps(), (Texts{"takes 1", "1 status 1 by tester", "1 status 4 by operator"}));
+  const auto& aborted = TestOf(Runs().back(), 1);
+  EXPECT_TRUE(aborted.said.empty()) << "the tester said nothing of the abort";
+  EXPECT_EQ(aborted.tester, 0);
   EXPECT_EQ(Verdict(1), "aborted: aborted");
 }
 
