@@ -29,16 +29,13 @@ CLI::App* CalibrateCommand::Declare(CLI::App& program) {
   for (const auto* name : {"--port", "--simulate", "--time-scale"}) list->excludes(command->get_option(name));
   list->excludes(const_cast<CLI::Option*>(serial));
   command->add_flag("--json", json_, Tr("Print one JSON object"));
-  command->footer(
-      Examples({"orvik-bench calibrate --port /dev/ttyUSB0",
-                "orvik-bench calibrate --simulate --time-scale 20", "orvik-bench calibrate --list"}) +
-      Tr("\n"
-         "Put the clip of the test lead at the ground of the tester's power socket first. The value is "
+  command->footer(Examples(
+      {"orvik-bench calibrate --port /dev/ttyUSB0", "orvik-bench calibrate --simulate --time-scale 20",
+       "orvik-bench calibrate --list"},
+      Tr("Put the clip of the test lead at the ground of the tester's power socket first. The value is "
          "stored "
-         "under\n"
-         "the tester's serial number, with the date; readings of the protective earth are corrected by it. A "
-         "value\n"
-         "that test leads cannot have (below 0 or above 500 mOhm) is not stored."));
+         "with its date under the tester's serial number; protective-earth readings are corrected by it. A "
+         "value that test leads cannot have (below 0 or above 500 mOhm) is not stored.")));
   return command;
 }
 

@@ -28,7 +28,7 @@ CLI::App* NewCommand::Declare(CLI::App& program) {
        "orvik-bench new pump-8.orvik --from pump-7.orvik --asset PUMP-8 --serial 2209-118",
        "orvik-bench new ward.orvik --add 400"},
       Tr("A sequence, such as 400, is added with its tests. \"orvik-bench tests\" prints what can be added. "
-         "Of the equipment nothing is taken over with --from: give what the new document is about.")));
+         "With --from, the equipment's fields are not taken over: give those of the new device.")));
   return command;
 }
 

@@ -71,10 +71,10 @@ void DeclareGlobal(CLI::App& program, GlobalOptions& options) {
       .add_option("--lang", options.language,
                   Tr("Language of texts, such as de; otherwise that of ORVIK_LANG or the locale"))
       ->type_name("L");
-  WholeNumbers(
-      program.add_option("--wait", options.wait,
-                         Tr("Wait so long in all for a document, settings, an archive or a port that another "
-                            "program uses; otherwise 0")))
+  WholeNumbers(program.add_option(
+                   "--wait", options.wait,
+                   Tr("Wait up to this long in total for a document, settings, an archive or a port that "
+                      "another program uses; otherwise 0")))
       ->type_name("SECONDS");
   program.set_version_flag("-V,--version", "orvik-bench " ORVIK_VERSION, Tr("Show the version"));
   program.require_subcommand(0, 1);  // a missing one is told below: an unknown one is then told as such

@@ -72,8 +72,7 @@ bool Workbench::HasOwnCatalogue(Settings settings) const {
   } catch (const orvik::HostError& error) {
     if (settings == Settings::kNeeded) throw;
     std::cerr << "orvik-bench: "
-              << Tr("the settings are left aside, and the shipped catalogue is used: %%1",
-                    {error.Description()})
+              << Tr("the settings are ignored, and the shipped catalogue is used: %%1", {error.Description()})
               << "\n";
     return false;
   }

@@ -14,8 +14,8 @@ void RefuseControlCharacters(const CLI::App& program) {
       const auto bad = FindNotPlain(text);
       if (bad != std::string::npos)
         throw InputError(
-            Tr("%%1: the text has a control character, or a byte that is not UTF-8, behind \"%%2\"; "
-               "give it without",
+            Tr("%%1: the text has a control character, or a byte that is not UTF-8, after \"%%2\"; "
+               "remove it",
                {option->get_name(), text.substr(0, bad)}));
     }
   }

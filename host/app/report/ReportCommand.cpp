@@ -27,15 +27,17 @@ CLI::App* ReportCommand::Declare(CLI::App& program) {
       program.add_subcommand("report", Tr("Write a document as a report: HTML, PDF or plain text"));
   command->add_option("FILE", file_, Tr("The document"))->required();
   command
-      ->add_option("--to", to_,
-                   Tr("The report to write; its ending, .html, .pdf or .txt, says as what. - is the standard "
-                      "output"))
+      ->add_option(
+          "--to", to_,
+          Tr("The report to write; its ending, .html, .pdf or .txt, sets the format. - is the standard "
+             "output"))
       ->required()
       ->type_name("OUT");
   command
-      ->add_option("--format", format_,
-                   Tr("What to write, whatever the name ends with; plain text on the standard output when it "
-                      "is not given"))
+      ->add_option(
+          "--format", format_,
+          Tr("Format of the report, whatever its name ends with; otherwise plain text on the standard "
+             "output"))
       ->type_name("html|pdf|txt");
   auto* run = WholeNumbers(command->add_option(
       "--run", run_, Tr("Report this run as it was done, whatever counts now; \"show --runs\" lists them")));
