@@ -6,16 +6,21 @@
 #include "OrvikTypeLib/As.h"
 #include "OrvikTypeLib/HostError.h"
 #include "OrvikTypeLib/IConfigData.h"
+#include "OrvikTypeLib/ILimitData.h"
 #include "OrvikTypeLib/ITestContainer.h"
 #include "host/app/InputError.h"
 #include "host/app/TestOptions.h"
 #include "host/app/TextColumns.h"
 #include "host/app/UnsavedChanges.h"
+#include "host/app/limits/RecordOnlyMark.h"
 #include "host/app/report/DocumentReport.h"
 #include "host/app/report/ReportFile.h"
+#include "host/app/report/ReportParts.h"
 #include "host/elements/ElementFactory.h"
+#include "host/report/VisibleText.h"
 #include "host/run/SavedSettings.h"
 #include "host/services/Tr.h"
+#include "host/standards/ElementLimits.h"
 
 namespace bench::desktop {
 
@@ -39,11 +44,32 @@ std::string FilterInWords(const std::string& filter) {
   return filter;
 }
 
+/// What made the result.
+std::vector<report::Fact> OriginOf(const judge::JudgedElement& element, bool simulated) {
+  using report::VisibleText;
+  std::vector<report::Fact> facts;
+  if (element.Current()) {
+    parts::AddFact(facts, Tr("Run"), std::to_string(element.run) + (simulated ? ", " + Tr("SIMULATED") : ""));
+    parts::AddFact(facts, Tr("Tested"), parts::MinuteText(element.at));
+    parts::AddFact(facts, Tr("Operator"), VisibleText(element.by));
+    if (element.tester) parts::AddTesters(facts, {*element.tester});
+  }
+  parts::AddFact(facts, Tr("Comment"), VisibleText(element.comment, report::LineEnds::kKept));
+  return facts;
+}
+
 }  // namespace
 
 void Desk::Create(const std::filesystem::path& file) {
   document_ = Document::Create(workbench_.Host(), file);
   openedMark_.reset();  // a new document is worth saving
+}
+
+void Desk::CreateFromThis(const std::filesystem::path& file) {
+  const auto next = Document::Create(workbench_.Host(), file);
+  next->AddPlanOf(*document_);
+  document_ = next;
+  openedMark_.reset();
 }
 
 void Desk::Open(const std::filesystem::path& file) {
@@ -86,11 +112,16 @@ std::string Desk::Device() const {
 
 DocumentView Desk::View() const { return ViewOf(*document_, *workbench_.Host()); }
 
-report::Verdict Desk::Verdict() const { return VerdictOf(*document_, *workbench_.Host()); }
-
-std::optional<report::Section> Desk::Section(std::int32_t id) const {
-  return SectionOf(*document_, *workbench_.Host(), id);
+std::vector<report::Section> Desk::Sections(const DocumentView& view,
+                                            const std::vector<std::int32_t>& ids) const {
+  auto sections = SectionsOf(*document_, *workbench_.Host(), view, ids);
+  for (auto& section : sections)
+    if (const auto* element = view.judged.Find(section.id))
+      section.facts = OriginOf(*element, view.judged.simulated);
+  return sections;
 }
+
+report::Table Desk::Runs(const DocumentView& view) const { return RunsOf(*document_, view); }
 
 std::vector<std::string> Desk::Settings(std::int32_t id) const {
   const auto element = document_->Find(id);
@@ -113,6 +144,24 @@ std::int32_t Desk::AddTests(const std::vector<std::int32_t>& testIds) {
 }
 
 void Desk::Remove(std::int32_t id) { document_->Remove(Found(id)); }
+
+bool Desk::IsRecordOnly(std::int32_t id) const {
+  return bench::IsRecordOnly(Found(id), *workbench_.Host()->Elements());
+}
+
+void Desk::SetRecordOnly(std::int32_t id, bool recordOnly) {
+  MarkRecordOnly(Found(id), *workbench_.Host()->Elements(), recordOnly);
+}
+
+bool Desk::HasLimits(std::int32_t id) const {
+  const auto limits = Found(id)->Limits();
+  return limits && !LimitsOf(*limits).empty();
+}
+
+void Desk::RemoveLimits(std::int32_t id) {
+  if (const auto limits = Found(id)->Limits())
+    RemoveStandards(*limits, [](const orvik::IStandard&) { return true; });
+}
 
 AppliedLimits Desk::ApplySet(const LimitSet& set, std::optional<std::int32_t> id) {
   const auto elements = id ? std::vector<Element>{Found(*id)} : TopElements(*document_);

@@ -9,6 +9,7 @@
 
 #include "host/app/DocumentView.h"
 #include "host/app/Workbench.h"
+#include "host/app/edit/Consequences.h"
 #include "host/app/limits/SetOfLimits.h"
 #include "host/document/Document.h"
 #include "host/report/Report.h"
@@ -28,6 +29,8 @@ class Desk {
   Document& TheDocument() const { return *document_; }
   /// A new document in the place of the present one; its file comes into being when it is saved.
   void Create(const std::filesystem::path& file);
+  /// A new document for the next device: tests, settings, limits and marks of the present one, no results.
+  void CreateFromThis(const std::filesystem::path& file);
   void Open(const std::filesystem::path& file);
   void Save() { document_->Save(); }
   /// Saves under another name, which must not exist yet, and goes on under that; the file so far stays.
@@ -45,15 +48,24 @@ class Desk {
   std::string Device() const;
 
   DocumentView View() const;
-  report::Verdict Verdict() const;
-  std::optional<report::Section> Section(std::int32_t id) const;
+  /// What there is to say of these elements: as in a report, but with all that made their results.
+  std::vector<report::Section> Sections(const DocumentView& view, const std::vector<std::int32_t>& ids) const;
+  report::Table Runs(const DocumentView& view) const;
   /// The element's settings in words.
   std::vector<std::string> Settings(std::int32_t id) const;
 
   /// Adds the catalogue's tests at the end of the document; returns the identifier of the last one.
   std::int32_t AddTests(const std::vector<std::int32_t>& testIds);
-  /// Removes the element with all that stands below it.
+  /// Removes the element with everything below it.
   void Remove(std::int32_t id);
+  /// Judges the document as it is before a change.
+  Consequences BeforeChange() const { return Consequences(*document_, *workbench_.Host()); }
+  bool IsRecordOnly(std::int32_t id) const;
+  /// `InputError` for a mark that the element's limits contradict.
+  void SetRecordOnly(std::int32_t id, bool recordOnly);
+  bool HasLimits(std::int32_t id) const;
+  /// Takes all limits from the element; those below it keep theirs.
+  void RemoveLimits(std::int32_t id);
   /// Gives the element, or all where there is none, and what stands below the limits of the set. `InputError`
   /// when the set covers none of them.
   AppliedLimits ApplySet(const LimitSet& set, std::optional<std::int32_t> id);

@@ -112,15 +112,19 @@ void DetailsView::Show(const report::Section& section, const std::vector<std::st
     for (const auto& line : settings) page += Escaped(line) + "<br/>";
     page += "</p>";
   }
+  if (!section.readings.rows.empty())
+    page += Heading(parts::WordsOfReport().readings) + TableText(section.readings);
   if (!section.tables.empty()) page += Heading(Tr("Record"));
   for (const auto& table : section.tables) page += TableText(table);
   ShowPage(page);
 }
 
-void DetailsView::ShowFacts(const std::string& title, const std::vector<std::string>& facts) {
+void DetailsView::ShowFacts(const std::string& title, const std::vector<std::string>& facts,
+                            const report::Table& runs) {
   document()->clear();
   std::string page = title.empty() ? "" : "<h2>" + Escaped(title) + "</h2>";
   for (const auto& fact : facts) page += "<p>" + Lines(fact) + "</p>";
+  if (!runs.rows.empty()) page += Heading(parts::WordsOfReport().runs) + TableText(runs);
   ShowPage(page);
 }
 

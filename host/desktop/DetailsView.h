@@ -8,15 +8,17 @@
 
 namespace bench::desktop {
 
-/// All there is to tell of one element, as a page: result, doubts, limits with a picture of the value between
-/// its bounds, settings, and the tables that the plug-in prints.
+/// One element in full, as a page: result, reasons, what made it, limits with a picture of the value between
+/// its bounds, earlier readings, settings, and the tables that the plug-in prints. Or the document, with its
+/// runs.
 class DetailsView : public QTextBrowser {
  public:
   explicit DetailsView(QWidget* parent = nullptr);
 
   void Show(const report::Section& section, const std::vector<std::string>& settings);
-  /// Shows a title with a line of text for each fact.
-  void ShowFacts(const std::string& title, const std::vector<std::string>& facts);
+  /// Shows a title with a line of text for each fact, and the table of runs unless it is empty.
+  void ShowFacts(const std::string& title, const std::vector<std::string>& facts,
+                 const report::Table& runs = {});
 
  private:
   void ShowPage(const std::string& page);

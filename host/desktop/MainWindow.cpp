@@ -37,7 +37,7 @@ namespace {
 
 constexpr QSize kWindowSize(1260, 780);
 constexpr int kFrameHeight = 60;  ///< title and borders, at most
-constexpr int kRedrawMilliseconds = 250;
+constexpr int kProgressMilliseconds = 250;
 
 /// A label before a box that it names, with its access key.
 QLabel* LabelFor(QWidget* box, const std::string& text) {
@@ -57,8 +57,11 @@ MainWindow::MainWindow(Workbench& workbench, const GlobalOptions& options, std::
   MakeToolbars();
   MakeBody();
   progressTimer_ = new QTimer(this);
-  progressTimer_->setInterval(kRedrawMilliseconds);
-  connect(progressTimer_, &QTimer::timeout, this, [this] { ShowProgress(); });
+  progressTimer_->setInterval(kProgressMilliseconds);
+  connect(progressTimer_, &QTimer::timeout, this, [this] {
+    ShowProgress();
+    if (runChanged_) Later([this] { ShowRun(); }, When::kAlways);
+  });
   ListenToCalibrations();
   Begin();
 }
@@ -85,6 +88,7 @@ void MainWindow::Open(const std::filesystem::path& file) {
 }
 
 void MainWindow::Begin() {
+  beforeEdit_.reset();
   equipment_->Show(desk_.HasDocument() ? desk_.TheDocument().equipment : Document::Equipment{});
   // What was remarked of another document is no longer true.
   Remark(TimeScaleRemark(desk_.Bench().TimeScale()));
@@ -156,6 +160,8 @@ void MainWindow::MakeActions() {
   actions_.save = NewAction("save", Tr("&Save"), QKeySequence::Save, &MainWindow::Save);
   actions_.save->setIcon(icon(QStyle::SP_DialogSaveButton));
   actions_.saveAs = NewAction("saveAs", Tr("Sa&ve as..."), QKeySequence::SaveAs, &MainWindow::SaveAs);
+  actions_.newFrom = NewAction("newFrom", Tr("New for the next &device..."), {}, &MainWindow::NewFromThis);
+  actions_.runs = NewAction("runs", Tr("R&uns of the document"), Qt::Key_F9, &MainWindow::ShowRuns);
   actions_.report = NewAction("report", Tr("Re&port..."), QKeySequence::Print, &MainWindow::Report);
   actions_.archive = NewAction("archive", Tr("Add to &archive"), {}, &MainWindow::AddToArchive);
   actions_.quit = new QAction(Shown(Tr("&Quit")), this);
@@ -165,6 +171,12 @@ void MainWindow::MakeActions() {
   actions_.remove = NewAction("remove", Tr("&Remove"), Qt::CTRL | Qt::Key_Delete, &MainWindow::Remove);
   actions_.limits =
       NewAction("limits", Tr("&Limits from set..."), Qt::CTRL | Qt::Key_L, &MainWindow::SetLimits);
+  actions_.removeLimits = NewAction("removeLimits", Tr("Remo&ve its limits"), {}, &MainWindow::RemoveLimits);
+  actions_.recordOnly = NewAction("recordOnly", Tr("Record &only"), {}, &MainWindow::SetRecordOnly);
+  actions_.recordOnly->setCheckable(true);
+  actions_.recordOnly->setToolTip(
+      Shown(Tr("Readings of the chosen element are recorded and not judged; without this mark and without a "
+               "limit the document stays incomplete")));
   actions_.setUp = NewAction("setUp", Tr("Set &up..."), Qt::CTRL | Qt::Key_U, &MainWindow::SetUp);
   actions_.calibrate = NewAction("calibrate", Tr("&Calibrate leads..."), {}, &MainWindow::Calibrate);
   actions_.run = NewAction("run", Tr("&Run"), Qt::Key_F5, &MainWindow::RunAll);
@@ -185,9 +197,10 @@ void MainWindow::MakeMenus() {
     auto* menu = menuBar()->addMenu(Shown(title));
     for (auto* action : actions) action ? menu->addAction(action) : (void)menu->addSeparator();
   };
-  add(Tr("&Document"), {actions_.create, actions_.open, actions_.save, actions_.saveAs, nullptr,
-                        actions_.report, actions_.archive, nullptr, actions_.quit});
-  add(Tr("&Tests"), {actions_.add, actions_.remove, nullptr, actions_.limits, actions_.setUp});
+  add(Tr("&Document"), {actions_.create, actions_.newFrom, actions_.open, actions_.save, actions_.saveAs,
+                        nullptr, actions_.runs, actions_.report, actions_.archive, nullptr, actions_.quit});
+  add(Tr("&Tests"), {actions_.add, actions_.remove, nullptr, actions_.limits, actions_.removeLimits,
+                     actions_.recordOnly, actions_.setUp});
   add(Tr("&Run"), {actions_.run, actions_.resume, actions_.runSelected, nullptr, actions_.stop, nullptr,
                    actions_.calibrate});
 }
@@ -295,90 +308,6 @@ void MainWindow::Try(const std::function<void()>& work) {
   if (trouble.empty()) return;
   Tell(trouble);
   Refresh();
-}
-
-void MainWindow::Refresh() {
-  const bool open = desk_.HasDocument();
-  if (!open) equipment_->Show({});
-  tree_->Show(open ? desk_.View().judged : judge::JudgedDocument{}, progress_ ? progress_->Running() : 0);
-  ShowVerdict();
-  ShowDetails();
-  UpdateActions();
-  if (!Busy()) UpdateTitle();
-}
-
-void MainWindow::ShowVerdict() {
-  if (!desk_.HasDocument()) return verdict_->ShowNothing();
-  auto verdict = desk_.Verdict();
-  // What a run has not yet come to may be about to change.
-  if (session_) {
-    verdict.standing = report::Standing::kOpen;
-    verdict.word = Tr("Running");
-  }
-  verdict_->Show(verdict);
-}
-
-void MainWindow::ShowDetails() {
-  if (!desk_.HasDocument()) return details_->ShowFacts({}, {Tr("Make a new document, or open one.")});
-  try {
-    const auto id = tree_->Chosen();
-    if (const auto section = id ? desk_.Section(*id) : std::nullopt)
-      return details_->Show(*section, desk_.Settings(*id));
-    const auto view = desk_.View();
-    std::vector<std::string> facts{desk_.TheDocument().Path().string()};
-    if (const auto& tester = view.instrument)
-      facts.push_back(Tr("Tester %%1, serial number %%2, firmware %%3, test leads %%4 mOhm",
-                         {tester->type, tester->serial, tester->firmware, std::to_string(tester->leads)}));
-    if (view.judged.elements.empty()) facts.push_back(Tr("The document has no tests yet: add some."));
-    details_->ShowFacts(desk_.TheDocument().Path().filename().string(), facts);
-  } catch (const orvik::HostError& error) {
-    details_->ShowFacts({}, {error.Description()});
-  }
-}
-
-void MainWindow::ShowProgress() {
-  if (!progress_) return;
-  progressText_->setText(Shown(progress_->Text()));
-  progressText_->setToolTip(qt::PlainToolTip(progress_->Text()));
-  progressBar_->setRange(0, static_cast<int>(progress_->Count()));
-  progressBar_->setValue(static_cast<int>(progress_->Place()) - (progress_->Place() > 0 ? 1 : 0));
-}
-
-void MainWindow::UpdateActions() {
-  const bool free = !Busy();
-  const bool open = free && desk_.HasDocument();
-  const auto chosen = open ? tree_->Chosen() : std::nullopt;
-  const bool some = open && tree_->topLevelItemCount() > 0;
-  for (auto* action : {actions_.create, actions_.open, actions_.calibrate}) action->setEnabled(free);
-  for (auto* action : {actions_.save, actions_.saveAs, actions_.add}) action->setEnabled(open);
-  for (auto* action : {actions_.limits, actions_.report, actions_.archive, actions_.run, actions_.resume})
-    action->setEnabled(some);
-  for (auto* action : {actions_.remove, actions_.runSelected}) action->setEnabled(chosen.has_value());
-  const auto element = chosen ? desk_.TheDocument().Find(*chosen) : nullptr;
-  const auto configuration = element ? element->Configuration() : nullptr;
-  actions_.setUp->setEnabled(configuration && configuration->HasDialog());
-  actions_.stop->setEnabled(session_ || calibration_);
-  equipment_->setEnabled(open);
-  tester_->setEnabled(free);
-  operator_->setEnabled(free);
-  progressBar_->setVisible(session_);
-}
-
-void MainWindow::UpdateTitle() {
-  const auto name = desk_.HasDocument() ? desk_.TheDocument().Path().filename().string() + "[*] – " : "[*]";
-  setWindowTitle(Shown(name + "orvik-bench"));
-  setWindowModified(desk_.Changed());
-}
-
-void MainWindow::Remark(const std::string& text) {
-  remark_->setText(Shown(text));
-  remark_->setVisible(!text.empty());
-}
-
-void MainWindow::EquipmentEdited() {
-  if (!desk_.HasDocument()) return;
-  desk_.TheDocument().equipment = equipment_->Entered();
-  UpdateTitle();
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

@@ -60,7 +60,8 @@ class MainWindow : public QMainWindow {
 
  private:
   struct Actions {
-    QAction *create, *open, *save, *saveAs, *add, *remove, *limits, *setUp, *report, *archive;
+    QAction *create, *newFrom, *open, *save, *saveAs, *runs, *report, *archive;
+    QAction *add, *remove, *limits, *removeLimits, *recordOnly, *setUp;
     QAction *calibrate, *run, *resume, *runSelected, *stop, *quit;
   };
 
@@ -101,14 +102,20 @@ class MainWindow : public QMainWindow {
   void Refresh();
   void ShowVerdict();
   void ShowDetails();
+  void ShowDocument();
+  /// Chooses no element: the details are those of the document.
+  void ShowRuns();
   void ShowProgress();
   void UpdateActions();
   void UpdateTitle();
   void Remark(const std::string& text);
+  /// Makes a change and remarks which results count otherwise because of it.
+  void Change(const std::function<void()>& change);
   void EquipmentEdited();
 
   // Of the document.
   void New();
+  void NewFromThis();
   void OpenOther();
   void Save();
   void SaveAs();
@@ -116,6 +123,8 @@ class MainWindow : public QMainWindow {
   void AddTests();
   void Remove();
   void SetLimits();
+  void RemoveLimits();
+  void SetRecordOnly();
   void SetUp();
   void Report();
   void AddToArchive();
@@ -131,7 +140,10 @@ class MainWindow : public QMainWindow {
   bool MayReplaceResults(const std::vector<std::shared_ptr<orvik::ITestElement>>& elements);
   void PerformRun(const std::vector<std::shared_ptr<orvik::ITestElement>>& elements, WireLog& log,
                   const TesterConnection& tester);
+  /// Has the run shown: now, or a little later when it was shown just before. To judge a large document takes
+  /// time that belongs to the person at the window.
   void RunChanged();
+  void ShowRun();
   /// Which standards the readings in the guide fail or keep: its own list shows the limits of one alone.
   void ShowJudgementInGuide();
   void TellEnd(DocumentRunner::End end, const std::string& reason);
@@ -156,6 +168,11 @@ class MainWindow : public QMainWindow {
   QLabel* progressText_ = nullptr;
   QProgressBar* progressBar_ = nullptr;
   QTimer* progressTimer_ = nullptr;
+
+  DocumentView view_;                       ///< what is shown
+  std::optional<Consequences> beforeEdit_;  ///< before the first letter was typed into the equipment
+  bool runChanged_ = false;                 ///< since it was shown
+  orvik::platform::Time runShown_{};
 
   RunSession* session_ = nullptr;  ///< while a run is on
   RunProgress* progress_ = nullptr;

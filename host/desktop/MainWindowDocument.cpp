@@ -50,6 +50,18 @@ void MainWindow::New() {
   Begin();
 }
 
+void MainWindow::NewFromThis() {
+  if (!MayLeaveDocument()) return;
+  const auto file = AskForFile(this, {.title = Tr("New document with the same tests and limits"),
+                                      .kinds = DocumentKinds(),
+                                      .ending = "orvik",
+                                      .at = Folder(),
+                                      .toWrite = true});
+  if (!file) return;
+  desk_.CreateFromThis(*file);
+  Begin();
+}
+
 void MainWindow::OpenOther() {
   if (!MayLeaveDocument()) return;
   const auto file = AskForFile(
@@ -71,6 +83,11 @@ void MainWindow::SaveAs() {
   if (!file) return;
   desk_.SaveAs(*file);
   TellSaved();
+  if (view_.judged.run != 0)
+    Remark(
+        Tr("Saved: %%1. Its results are those of the same equipment; for another device make a new "
+           "document with \"New for the next device\".",
+           {desk_.TheDocument().Path().string()}));
 }
 
 void MainWindow::TellSaved() {
@@ -101,8 +118,7 @@ void MainWindow::Remove() {
              {std::to_string(*id), name, desk_.Device()}),
           {Tr("Remove"), Tr("Cancel")}) != 0)
     return;
-  desk_.Remove(*id);
-  Refresh();
+  Change([&] { desk_.Remove(*id); });
 }
 
 void MainWindow::SetLimits() {
@@ -112,10 +128,35 @@ void MainWindow::SetLimits() {
   LimitSetDialog dialog(LimitSets(files::StandardsFolders(desk_.Options().state)).All(), Shown(name), this);
   if (dialog.exec() != QDialog::Accepted) return;
   const auto& set = *dialog.Set();
+  const auto before = desk_.BeforeChange();
   const auto told = desk_.ApplySet(set, dialog.ForAll() ? std::nullopt : id);
+  beforeEdit_.reset();
   Refresh();
+  const auto consequences = before.Text();
   ShowMessage(this, Tr("These limits were set. They also judge readings that were measured before."),
-              LinesOf(set, told));
+              LinesOf(set, told) + (consequences.empty() ? "" : "\n" + consequences));
+}
+
+void MainWindow::RemoveLimits() {
+  const auto id = tree_->Chosen();
+  if (!id) return;
+  const auto name = ElementName(*desk_.TheDocument().Find(*id), *desk_.Bench().Host()->Elements());
+  if (Ask(this,
+          Tr("Remove all limits of test %%1, %%2? Its readings are then judged by none.",
+             {std::to_string(*id), name}),
+          {Tr("Remove the limits"), Tr("Cancel")}) != 0)
+    return;
+  Change([&] { desk_.RemoveLimits(*id); });
+}
+
+void MainWindow::SetRecordOnly() {
+  const auto id = tree_->Chosen();
+  if (!id) return;
+  const bool mark = !desk_.IsRecordOnly(*id);
+  if (mark && desk_.HasLimits(*id))
+    throw InputError(Tr("Test %%1 has limits, so its readings are judged. Remove its limits first.",
+                        {std::to_string(*id)}));
+  Change([&] { desk_.SetRecordOnly(*id, mark); });
 }
 
 void MainWindow::SetUp() {
@@ -125,13 +166,14 @@ void MainWindow::SetUp() {
   const auto dialog = configuration ? configuration->CreateDialog() : nullptr;
   const auto window = orvik::As<orvik::IDialogForm>(dialog);
   if (!window) throw InputError(Tr("Element %%1 has no settings.", {std::to_string(*id)}));
-  {
-    const WhileOpen open(dialog_, window->Form().get());
-    UpdateActions();
-    window->Form()->ShowModal(nullptr);
-  }
-  dialog->Unload();
-  Refresh();
+  Change([&] {
+    {
+      const WhileOpen open(dialog_, window->Form().get());
+      UpdateActions();
+      window->Form()->ShowModal(nullptr);
+    }
+    dialog->Unload();
+  });
 }
 
 void MainWindow::Report() {

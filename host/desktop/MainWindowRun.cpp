@@ -21,6 +21,13 @@
 
 namespace bench::desktop {
 
+namespace {
+
+/// Between two times that a run is shown.
+constexpr std::chrono::milliseconds kShortestPause(250);
+
+}  // namespace
+
 void MainWindow::Resume() {
   RunSelection selection;
   selection.resume = true;
@@ -36,10 +43,11 @@ void MainWindow::Run(RunSelection selection) {
   auto& document = desk_.TheDocument();
   selection.file = document.Path().string();
   const auto selected = SelectedElements(document, selection);
-  if (!selection.resume && !MayReplaceResults(selected)) return;
-  // Without its tester nothing of the document changes.
-  WireLog log(selection.file + ".wire.log");
+  // Without its tester nothing of the document changes, nor on one of the other kind.
   const TesterConnection tester(tester_->Choice(), desk_.Bench().Ports());
+  RequireOneKindOfRuns(document, tester.Simulated());
+  if (!selection.resume && !MayReplaceResults(selected)) return;
+  WireLog log(selection.file + ".wire.log");
   SelectStandards(document, *desk_.Bench().Host(), selection);
   const auto elements = selection.resume ? Unfinished(selected, document, desk_.View().judged) : selected;
   // The document may have got limits of other standards since.
@@ -73,12 +81,14 @@ void MainWindow::PerformRun(const std::vector<std::shared_ptr<orvik::ITestElemen
   RunSession session(bench, desk_.TheDocument(), log, progress, OperatorKind::kScreen, tester,
                      OperatorName(operator_->text().toStdString()));
   Remark({});
+  beforeEdit_.reset();
   auto end = DocumentRunner::End::kFinished;
   {
     const Part part(*this, session, progress);
     Refresh();
     end = session.Run(elements);
   }
+  runChanged_ = false;
   Refresh();
   TellEnd(end, session.Reason());
   if (!log.Failure().empty())
@@ -86,17 +96,22 @@ void MainWindow::PerformRun(const std::vector<std::shared_ptr<orvik::ITestElemen
 }
 
 void MainWindow::RunChanged() {
+  runChanged_ = true;
+  if (desk_.Bench().Application()->Now() - runShown_ >= kShortestPause) ShowRun();
+}
+
+void MainWindow::ShowRun() {
+  runChanged_ = false;
   Refresh();
   // What runs is what the person wants to look at.
   if (progress_ && progress_->Running() != 0) tree_->Choose(progress_->Running());
   ShowJudgementInGuide();
+  runShown_ = desk_.Bench().Application()->Now();
 }
 
 void MainWindow::ShowJudgementInGuide() {
   if (!progress_) return;
-  std::vector<report::Section> sections;
-  for (const auto id : progress_->FinishedInGuide())
-    if (auto section = desk_.Section(id)) sections.push_back(std::move(*section));
+  const auto sections = desk_.Sections(view_, progress_->FinishedInGuide());
   ShowJudgement(*desk_.Bench().Application(), GuideJudgement(sections));
 }
 

@@ -3,6 +3,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 
+#include "host/app/report/ReportParts.h"
 #include "host/desktop/Shown.h"
 #include "host/services/Tr.h"
 
@@ -16,20 +17,27 @@ constexpr double kWordSize = 1.5;  ///< of the usual letters
 }  // namespace
 
 VerdictBar::VerdictBar(QWidget* parent)
-    : QFrame(parent), sign_(new QLabel(this)), word_(new QLabel(this)), sentence_(new QLabel(this)) {
+    : QFrame(parent),
+      mark_(new QLabel(this)),
+      sign_(new QLabel(this)),
+      word_(new QLabel(this)),
+      sentence_(new QLabel(this)) {
   setObjectName("verdict");
+  mark_->setObjectName("simulated");
   word_->setObjectName("verdictWord");
   sentence_->setObjectName("verdictSentence");
   auto font = word_->font();
   font.setPointSizeF(font.pointSizeF() * kWordSize);
   font.setBold(true);
   word_->setFont(font);
+  mark_->setFont(font);
   // What a document holds is shown, never taken for markup.
   word_->setTextFormat(Qt::PlainText);
   sentence_->setTextFormat(Qt::PlainText);
   sentence_->setWordWrap(true);
   auto* layout = new QHBoxLayout(this);
   layout->setContentsMargins(12, 6, 12, 6);
+  layout->addWidget(mark_);
   layout->addWidget(sign_);
   layout->addWidget(word_);
   layout->addSpacing(12);
@@ -37,19 +45,25 @@ VerdictBar::VerdictBar(QWidget* parent)
   ShowNothing();
 }
 
-void VerdictBar::Show(const report::Verdict& verdict) {
+void VerdictBar::Show(const report::Verdict& verdict, bool simulated) {
   const auto colour = ColourName(verdict.standing);
   sign_->setPixmap(SignIcon(verdict.standing).pixmap(kSignSize, kSignSize));
   sign_->setVisible(true);
   word_->setText(Shown(verdict.word));
-  sentence_->setText(Shown(verdict.sentence));
-  setAccessibleName(Shown(Tr("Verdict of the document: %%1, %%2", {verdict.word, verdict.sentence})));
+  const auto mark = simulated ? parts::SimulatedMark() : report::PageMark{};
+  const auto sentence = simulated ? mark.text + "\n" + verdict.sentence : verdict.sentence;
+  mark_->setText(Shown(mark.word));
+  mark_->setVisible(simulated);
+  sentence_->setText(Shown(sentence));
+  setAccessibleName(Shown(Tr("Verdict of the document: %%1, %%2", {verdict.word, sentence})));
   setStyleSheet(QString("#verdict { background: white; border: 2px solid %1; border-radius: 4px; }"
-                        "#verdictWord { color: %1; } #verdictSentence { color: #1c2330; }")
+                        "#verdictWord { color: %1; } #verdictSentence { color: #1c2330; }"
+                        "#simulated { color: white; background: black; padding: 2px 8px; }")
                     .arg(colour));
 }
 
 void VerdictBar::ShowNothing() {
+  mark_->setVisible(false);
   sign_->setVisible(false);
   word_->clear();
   sentence_->setText(Shown(Tr("No document is open.")));

@@ -8,16 +8,19 @@ class QLabel;
 
 namespace bench::desktop {
 
-/// The one verdict of the document: sign, word, and why, in its colour.
+/// The one verdict of the document: sign, word, and why, in its colour. Of a simulated run it says so, white
+/// on black, before everything else.
 class VerdictBar : public QFrame {
  public:
   explicit VerdictBar(QWidget* parent = nullptr);
 
-  void Show(const report::Verdict& verdict);
+  /// @param simulated whether nothing of it was measured
+  void Show(const report::Verdict& verdict, bool simulated);
   /// There is no document.
   void ShowNothing();
 
  private:
+  QLabel* mark_;
   QLabel* sign_;
   QLabel* word_;
   QLabel* sentence_;

@@ -19,9 +19,6 @@ using testing::HasSubstr;
 
 class CalibrationTest : public DesktopTest {
  protected:
-  static constexpr int kNext = bench::guide::kNext, kPlay = bench::guide::kPlay;
-  static constexpr int kResult = 2;
-
   void Open(const std::string& profile) {
     file_ = NewDocument({"410"});
     window_->Open(file_);

@@ -183,7 +183,6 @@ DesktopTest::Step DesktopTest::TakeFile(const std::string& path) {
 
 DesktopTest::Step DesktopTest::Guide(int command) {
   return {"guide " + std::to_string(command), [this, command] {
-            constexpr int kNext = 103;
             auto* guide = Visible("FTestGuide");
             // What was clicked may still wait for its turn; the next click is for the next test's guide.
             if (!guide || guide == leftGuide_) return false;
@@ -226,8 +225,7 @@ QTreeWidgetItem* DesktopTest::Row(int id) const {
 std::string DesktopTest::Cell(int id, int column) const { return Row(id)->text(column).toStdString(); }
 
 std::string DesktopTest::ResultColour(int id) const {
-  constexpr int kResultColumn = 2;
-  return Row(id)->foreground(kResultColumn).color().name().toStdString();
+  return Row(id)->foreground(kResult).color().name().toStdString();
 }
 
 void DesktopTest::ChooseElement(int id) {

@@ -13,6 +13,7 @@
 
 #include "host/app/Workbench.h"
 #include "host/desktop/MainWindow.h"
+#include "host/run/GuideToolbar.h"
 #include "host/toolkit/qt/Screen.h"
 #include "tests/cli/BenchProgram.h"
 #include "tests/support/TemporaryFolder.h"
@@ -35,6 +36,12 @@ class DesktopTest : public testing::Test {
 
   /// Pauses are divided by this; a reply may still take 200 ms.
   static constexpr double kTimeScale = 10;
+
+  /// Of the guide's buttons.
+  static constexpr int kAbort = bench::guide::kAbort, kNext = bench::guide::kNext,
+                       kPlay = bench::guide::kPlay;
+  /// Columns of the tree.
+  static constexpr int kName = 1, kResult = 2, kValue = 3, kRemark = 4;
 
   DesktopTest();
   ~DesktopTest() override;
@@ -74,7 +81,7 @@ class DesktopTest : public testing::Test {
   static QWidget* Visible(const std::string& name);
   void ChooseTester(const std::string& text);
   std::string Verdict() const;
-  /// The text of a column (2: result, 3: value, 4: remark) in the row of that element.
+  /// The text of a column in the row of that element.
   std::string Cell(int id, int column) const;
   /// The name of the colour in which the result stands in the row of that element.
   std::string ResultColour(int id) const;

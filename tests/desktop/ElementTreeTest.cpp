@@ -2,10 +2,13 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QImage>
 #include <QPalette>
 #include <QTreeWidget>
 #include <algorithm>
 #include <cmath>
+#include <set>
+#include <vector>
 
 #include "host/desktop/ElementTree.h"
 
@@ -16,13 +19,15 @@ using bench::desktop::ElementTree;
 
 constexpr int kResultColumn = 2;
 
-bench::judge::JudgedDocument OnePassed() {
+bench::judge::JudgedDocument One(bench::judge::Verdict verdict) {
   bench::judge::JudgedDocument document;
   document.elements.emplace_back();
   document.elements.back().id = 1;
-  document.elements.back().verdict = bench::judge::Verdict::kPassed;
+  document.elements.back().verdict = verdict;
   return document;
 }
+
+bench::judge::JudgedDocument OnePassed() { return One(bench::judge::Verdict::kPassed); }
 
 double Luminance(const QColor& colour) {
   const auto linear = [](double part) {
@@ -58,6 +63,31 @@ constexpr double kReadable = 4.5;
 TEST(ElementTreeTest, ANameThatDoesNotFitKeepsItsEnd) {
   const ElementTree tree;
   EXPECT_EQ(tree.textElideMode(), Qt::ElideMiddle);
+}
+
+TEST(ElementTreeTest, EveryVerdictHasItsOwnSignAndOnlyPassedIsGreen) {
+  using bench::judge::Verdict;
+  std::vector<QImage> signs;
+  std::set<QString> words;
+  for (const auto verdict :
+       {Verdict::kFailed, Verdict::kDoubtful, Verdict::kAborted, Verdict::kNotTested, Verdict::kNotJudged,
+        Verdict::kRecorded, Verdict::kNotApplicable, Verdict::kPassed}) {
+    ElementTree tree;
+    tree.Show(One(verdict), 0);
+    const auto* row = tree.topLevelItem(0);
+    words.insert(row->text(kResultColumn));
+    // As drawn: the colour is not to be what tells one from another.
+    auto sign = row->icon(kResultColumn).pixmap(32, 32).toImage().convertToFormat(QImage::Format_ARGB32);
+    const auto colour = row->foreground(kResultColumn).color();
+    EXPECT_EQ(colour.green() > colour.red() && colour.green() > colour.blue(), verdict == Verdict::kPassed)
+        << row->text(kResultColumn).toStdString();
+    for (int x = 0; x < sign.width(); ++x)
+      for (int y = 0; y < sign.height(); ++y)
+        sign.setPixelColor(x, y, sign.pixelColor(x, y).lightness() > 200 ? Qt::white : Qt::black);
+    EXPECT_EQ(std::count(signs.begin(), signs.end(), sign), 0) << row->text(kResultColumn).toStdString();
+    signs.push_back(sign);
+  }
+  EXPECT_EQ(words.size(), signs.size());
 }
 
 TEST(ElementTreeTest, AResultIsReadInEveryRow) {

@@ -20,9 +20,6 @@ namespace {
 using testing::HasSubstr;
 using testing::Not;
 
-constexpr int kAbort = 101, kNext = 103, kPlay = 202;
-constexpr int kResult = 2, kRemark = 4;
-
 class EndTest : public DesktopTest {
  protected:
   void OpenOnSoundEquipment() {

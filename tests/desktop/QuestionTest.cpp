@@ -21,8 +21,6 @@ using testing::Not;
 /// The key that a person answers a question with.
 class QuestionTest : public DesktopTest, public testing::WithParamInterface<Qt::Key> {
  protected:
-  static constexpr int kNext = 103, kPlay = 202, kResult = 2;
-
   /// Presses the key in the question, which must show the text.
   Step AnswerByKey(const std::string& text) {
     return In("question", [text](QDialog& shown) {

@@ -22,9 +22,6 @@ using testing::Contains;
 using testing::HasSubstr;
 using testing::Not;
 
-constexpr int kAbort = 101, kNext = 103, kPlay = 202, kStop = 201;
-constexpr int kResult = 2, kValue = 3, kRemark = 4;
-
 class RunTest : public DesktopTest {
  protected:
   /// Opens a document with these tests, on a simulated tester with that profile.

@@ -13,7 +13,7 @@ using testing::IsEmpty;
 
 class ReportVerdict : public ReportTest {
  protected:
-  report::Verdict Verdict() { return VerdictOf(file_.Document(), file_.Host()); }
+  report::Verdict Verdict() { return ReportOf(file_.Document(), file_.Host()).verdict; }
 };
 
 TEST_F(ReportVerdict, IsPassedWhenAllPassed) {

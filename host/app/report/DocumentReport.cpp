@@ -31,11 +31,8 @@ using report::VisibleText;
 /// Puts together the report of one document.
 class Builder {
  public:
-  Builder(const Document& document, Host& host, std::vector<std::string> standards = {})
-      : document_(document),
-        host_(host),
-        view_(ViewOf(document, host, std::move(standards))),
-        outcomes_(view_.judged) {
+  Builder(const Document& document, Host& host, DocumentView view)
+      : document_(document), host_(host), view_(std::move(view)), outcomes_(view_.judged) {
     for (const auto& top : TopElements(document))
       WalkElements(top, [this](const Element& element) { elements_.push_back(element); });
     FindTimes();
@@ -214,16 +211,21 @@ class Builder {
 
 report::Report ReportOf(const Document& document, Host& host, const std::string& language,
                         std::vector<std::string> standards) {
-  return Builder(document, host, std::move(standards)).Build(language);
+  return Builder(document, host, ViewOf(document, host, std::move(standards))).Build(language);
 }
 
-report::Verdict VerdictOf(const Document& document, Host& host) {
-  const auto judged = ViewOf(document, host).judged;
-  return parts::VerdictOf(judged.elements, judged.outcome);
+std::vector<report::Section> SectionsOf(const Document& document, Host& host, DocumentView view,
+                                        const std::vector<std::int32_t>& ids) {
+  if (ids.empty()) return {};
+  const Builder builder(document, host, std::move(view));
+  std::vector<report::Section> sections;
+  for (const auto id : ids)
+    if (auto section = builder.Section(id)) sections.push_back(std::move(*section));
+  return sections;
 }
 
-std::optional<report::Section> SectionOf(const Document& document, Host& host, std::int32_t id) {
-  return Builder(document, host).Section(id);
+report::Table RunsOf(const Document& document, const DocumentView& view) {
+  return parts::RunsTable(document.Runs().All(), RunOutcomes(view.judged), document.equipment);
 }
 
 }  // namespace bench

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -11,6 +10,7 @@ namespace bench {
 
 class Document;
 class Host;
+struct DocumentView;
 
 /// What a report of the document consists of: what counts of it now. The same document gives the same report.
 /// @param language of the report, such as "da"; empty for English
@@ -19,12 +19,12 @@ class Host;
 report::Report ReportOf(const Document& document, Host& host, const std::string& language = {},
                         std::vector<std::string> standards = {});
 
-/// The verdict of the document, as its report has it.
-report::Verdict VerdictOf(const Document& document, Host& host);
-
-/// What a report says of one element in full, even of one that reports leave out. None when the document has
-/// no such element.
-/// @throws HostError when the element cannot be printed
-std::optional<report::Section> SectionOf(const Document& document, Host& host, std::int32_t id);
+/// What a report says of these elements in full, in this order, by what has been judged already; also of
+/// those that reports leave out. Without any that the document does not have.
+/// @throws HostError when an element cannot be printed
+std::vector<report::Section> SectionsOf(const Document& document, Host& host, DocumentView view,
+                                        const std::vector<std::int32_t>& ids);
+/// A row for each run of the document, as its report has it.
+report::Table RunsOf(const Document& document, const DocumentView& view);
 
 }  // namespace bench

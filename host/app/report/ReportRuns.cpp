@@ -38,6 +38,7 @@ report::Cell EndCell(const RunRecord& run, const Equipment& now) {
   const auto add = [&cell](const std::string& text) { cell.push_back({"\n" + text, true}); };
   if (run.simulated) add(Tr("SIMULATED"));
   if (!run.intact) add(Tr("the record was changed by another program"));
+  if (run.gapAfter) add(Tr("a later run is missing"));
   if (run.equipment != now) {
     const auto header = PageHeader(run.equipment, Tr("without a name"), {}, {});
     add(Tr("on other equipment: %%1", {header.front().value}));

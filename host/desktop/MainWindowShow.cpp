@@ -1,0 +1,156 @@
+// What the window shows.
+#include <QAction>
+#include <QLabel>
+#include <QLineEdit>
+#include <QProgressBar>
+#include <algorithm>
+#include <sstream>
+
+#include "OrvikTypeLib/HostError.h"
+#include "OrvikTypeLib/IConfigData.h"
+#include "host/app/report/ReportParts.h"
+#include "host/desktop/DetailsView.h"
+#include "host/desktop/ElementTree.h"
+#include "host/desktop/EquipmentBar.h"
+#include "host/desktop/MainWindow.h"
+#include "host/desktop/RunProgress.h"
+#include "host/desktop/Shown.h"
+#include "host/desktop/TesterBox.h"
+#include "host/desktop/VerdictBar.h"
+#include "host/services/Tr.h"
+#include "host/toolkit/qt/Texts.h"
+
+namespace bench::desktop {
+
+namespace {
+
+constexpr std::size_t kMostLines = 4;  ///< of remarks: the window must still fit on a small screen
+
+/// The first lines, and how many more there are.
+std::string Shortened(const std::string& text) {
+  std::vector<std::string> lines;
+  std::istringstream all(text);
+  for (std::string line; std::getline(all, line);) lines.push_back(line);
+  std::string shown;
+  const auto most = lines.size() > kMostLines ? kMostLines - 1 : lines.size();
+  for (std::size_t i = 0; i < most; ++i) shown += (i > 0 ? "\n" : "") + lines[i];
+  if (most == lines.size()) return shown;
+  return shown + "\n" + Tr("%%1 more lines: see the list of tests", {std::to_string(lines.size() - most)});
+}
+
+}  // namespace
+
+void MainWindow::Refresh() {
+  const bool open = desk_.HasDocument();
+  if (!open) equipment_->Show({});
+  view_ = open ? desk_.View() : DocumentView{};
+  tree_->Show(view_.judged, progress_ ? progress_->Running() : 0);
+  ShowVerdict();
+  ShowDetails();
+  UpdateActions();
+  if (!Busy()) UpdateTitle();
+}
+
+void MainWindow::ShowVerdict() {
+  if (!desk_.HasDocument()) return verdict_->ShowNothing();
+  auto verdict = parts::VerdictOf(view_.judged.elements, view_.judged.outcome);
+  // What a run has not yet come to may be about to change.
+  if (session_) {
+    verdict.standing = report::Standing::kOpen;
+    verdict.word = Tr("Running");
+  }
+  verdict_->Show(verdict, view_.judged.simulated);
+}
+
+void MainWindow::ShowDetails() {
+  if (!desk_.HasDocument()) return details_->ShowFacts({}, {Tr("Make a new document, or open one.")});
+  try {
+    const auto id = tree_->Chosen();
+    if (const auto sections = id ? desk_.Sections(view_, {*id}) : std::vector<report::Section>{};
+        !sections.empty())
+      return details_->Show(sections.front(), desk_.Settings(*id));
+    ShowDocument();
+  } catch (const orvik::HostError& error) {
+    details_->ShowFacts({}, {error.Description()});
+  }
+}
+
+void MainWindow::ShowDocument() {
+  std::vector<std::string> facts{desk_.TheDocument().Path().string()};
+  if (const auto& tester = view_.instrument)
+    facts.push_back(Tr("Tester %%1, serial number %%2, firmware %%3, test leads %%4 mOhm",
+                       {tester->type, tester->serial, tester->firmware, std::to_string(tester->leads)}));
+  if (view_.judged.simulated) facts.push_back(parts::SimulatedMark().text);
+  if (view_.judged.elements.empty()) facts.push_back(Tr("The document has no tests yet: add some."));
+  if (view_.judged.run == 0) facts.push_back(Tr("The document has not been run yet."));
+  details_->ShowFacts(desk_.TheDocument().Path().filename().string(), facts, desk_.Runs(view_));
+}
+
+void MainWindow::ShowRuns() {
+  tree_->clearSelection();
+  tree_->setCurrentItem(nullptr);
+}
+
+void MainWindow::ShowProgress() {
+  if (!progress_) return;
+  progressText_->setText(Shown(progress_->Text()));
+  progressText_->setToolTip(qt::PlainToolTip(progress_->Text()));
+  progressBar_->setRange(0, static_cast<int>(progress_->Count()));
+  progressBar_->setValue(static_cast<int>(progress_->Place()) - (progress_->Place() > 0 ? 1 : 0));
+}
+
+void MainWindow::UpdateActions() {
+  const bool free = !Busy();
+  const bool open = free && desk_.HasDocument();
+  const auto chosen = open ? tree_->Chosen() : std::nullopt;
+  const bool some = open && tree_->topLevelItemCount() > 0;
+  for (auto* action : {actions_.create, actions_.open, actions_.calibrate}) action->setEnabled(free);
+  for (auto* action : {actions_.save, actions_.saveAs, actions_.add, actions_.runs}) action->setEnabled(open);
+  for (auto* action :
+       {actions_.newFrom, actions_.limits, actions_.report, actions_.archive, actions_.run, actions_.resume})
+    action->setEnabled(some);
+  for (auto* action : {actions_.remove, actions_.runSelected, actions_.recordOnly})
+    action->setEnabled(chosen.has_value());
+  const auto element = chosen ? desk_.TheDocument().Find(*chosen) : nullptr;
+  const auto configuration = element ? element->Configuration() : nullptr;
+  actions_.setUp->setEnabled(configuration && configuration->HasDialog());
+  actions_.removeLimits->setEnabled(element && desk_.HasLimits(element->ID()));
+  actions_.recordOnly->setChecked(element && desk_.IsRecordOnly(element->ID()));
+  actions_.stop->setEnabled(session_ || calibration_);
+  equipment_->setEnabled(open);
+  tester_->setEnabled(free);
+  operator_->setEnabled(free);
+  progressBar_->setVisible(session_);
+}
+
+void MainWindow::UpdateTitle() {
+  const auto name = desk_.HasDocument() ? desk_.TheDocument().Path().filename().string() + "[*] – " : "[*]";
+  setWindowTitle(Shown(name + "orvik-bench"));
+  setWindowModified(desk_.Changed());
+}
+
+void MainWindow::Remark(const std::string& text) {
+  remark_->setText(Shown(text));
+  remark_->setVisible(!text.empty());
+}
+
+void MainWindow::Change(const std::function<void()>& change) {
+  const auto before = desk_.BeforeChange();
+  change();
+  beforeEdit_.reset();
+  Refresh();
+  if (const auto text = before.Text(); !text.empty()) Remark(Shortened(text));
+}
+
+void MainWindow::EquipmentEdited() {
+  if (!desk_.HasDocument()) return;
+  Try([this] {
+    // Compared with what was before the first letter: half a number never counts.
+    if (!beforeEdit_) beforeEdit_.emplace(desk_.BeforeChange());
+    desk_.TheDocument().equipment = equipment_->Entered();
+    Refresh();
+    Remark(Shortened(beforeEdit_->Text()));
+  });
+}
+
+}  // namespace bench::desktop
