@@ -52,7 +52,7 @@ void RunController::IRunController_FinishedNotice(std::shared_ptr<orvik::ITestEl
 }
 
 void RunController::Settle(const std::shared_ptr<orvik::ITestElement>& element) {
-  parts_.recorder.Settle(element);
+  parts_.recorder.Settle(element, asked_ == Navigation::kAbort);
   Save();
 }
 

@@ -82,17 +82,17 @@ void RunRecorder::Finished(const Element& element, RecordedTest::By by) {
   for (const auto& below : ChildrenFirst(element)) Append(*below, by);
 }
 
-void RunRecorder::Settle(const Element& element) {
+void RunRecorder::Settle(const Element& element, bool aborted) {
   if (!parts_.runs.Current()) return;
-  for (const auto& below : ChildrenFirst(element)) SettleOne(*below);
+  for (const auto& below : ChildrenFirst(element)) SettleOne(*below, aborted);
 }
 
-void RunRecorder::SettleOne(const orvik::ITestElement& element) {
+void RunRecorder::SettleOne(const orvik::ITestElement& element, bool aborted) {
   auto* test = LastTest(element.ID());
   const auto status = StatusOf(element);
-  const bool aborted = status == orvik::ResultStatus::kAborted;
   // An abort gives no notice.
-  if (aborted && (!test || test->status != status)) return Append(element, RecordedTest::By::kOperator);
+  if (aborted && status == orvik::ResultStatus::kAborted && (!test || test->status != status))
+    return Append(element, RecordedTest::By::kOperator);
   if (!test) return;
   for (const auto& doubt : parts_.doubts.Of(element.ID())) AddOnce(test->doubts, doubt);
   if (test->status != status)

@@ -52,12 +52,13 @@ class RunRecorder {
   void Finished(const Element& element, RecordedTest::By by);
   /// The element has been left and its session is closed: writes down what came to light since it finished,
   /// for it and all below it.
-  void Settle(const Element& element);
+  /// @param aborted whether it was left by an abort; otherwise a saved "aborted" is of an earlier run
+  void Settle(const Element& element, bool aborted);
   /// The run is over.
   void End(RunRecord::End end);
 
  private:
-  void SettleOne(const orvik::ITestElement& element);
+  void SettleOne(const orvik::ITestElement& element, bool aborted);
   /// What the run that goes on recorded last of the element; null when it is yet to finish it.
   RecordedTest* LastTest(std::int32_t element);
   RecordedTest TestOf(const orvik::ITestElement& element, RecordedTest::By by);

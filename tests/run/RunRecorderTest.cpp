@@ -277,6 +277,14 @@ TEST_F(RunRecorderTest, AnAbortAfterAMeasurementTakesItsPlace) {
   EXPECT_EQ(Verdict(1), "aborted: aborted");
 }
 
+TEST_F(RunRecorderTest, AnAbortIsRecordedOnlyInItsOwnRun) {
+  AddLimited(410);
+  RunByHand({{kAbort}});
+  EXPECT_EQ(RunByHand({{kNext}}), End::kFinished);
+  EXPECT_EQ(Steps(), (Texts{"takes 1"}));
+  EXPECT_EQ(Verdict(1), "not tested: not-finished");
+}
+
 TEST_F(RunRecorderTest, AStopLeavesTheRunningElementWithoutResult) {
   AddLimited(410);
   AddLimited(420);
