@@ -40,6 +40,7 @@ void FollowChildren(const std::vector<Child>& children, JudgedElement& judged) {
   constexpr std::array kWorstFirst{Verdict::kFailed,    Verdict::kDoubtful,     Verdict::kAborted,
                                    Verdict::kNotTested, Verdict::kNotJudged,    Verdict::kPassed,
                                    Verdict::kRecorded,  Verdict::kNotApplicable};
+  if (children.empty()) judged.reasons.push_back({"no-children", {}});
   for (const auto verdict : kWorstFirst) {
     const auto found = std::find_if(children.begin(), children.end(), [verdict](const Child& child) {
       return child.judged->verdict == verdict;

@@ -60,6 +60,7 @@ constexpr Entry kSentences[] = {
     {"below-limit", Marked("%%1: %%2 is below the limit of %%3")},
     {"failed-by-plug-in",
      Marked("failed when it was run, by a limit that has been changed since or that this view leaves out")},
+    {"no-children", Marked("the group has no tests any more")},
     {"child", Marked("element %%1 of the group is %%2")},
     {"refused-with-limits",
      Marked("the tester refused the test although limits are selected for it; nothing was measured")},

@@ -60,6 +60,15 @@ TEST(JudgeGroup, IsNotTestedWithAChildThatWasNot) {
   EXPECT_THAT(group.Codes(), ElementsAre("child"));
 }
 
+TEST(JudgeGroup, SaysWhyItIsNotTestedWithoutTests) {
+  CaseBuilder builder;
+  builder.Add(1, 400, "");
+  builder.Begin({1, 2});
+  builder.Sum(1, {}, 1);  // of a test that was removed afterwards
+  EXPECT_EQ(builder.Verdict(), Verdict::kNotTested);
+  EXPECT_THAT(builder.Codes(), ElementsAre("no-children"));
+}
+
 TEST(JudgeGroup, IsOlderThanAChildThatWasRunAgain) {
   auto group = PassedGroup(Filter::kMaximum, 123);
   group.Begin({2});
