@@ -106,8 +106,8 @@ void JudgeGroup(const CaseElement& element, const LastRecord& last, const std::v
   auto doubts = RecordDoubts(element, last);
   if (last.test->status == orvik::ResultStatus::kNotApplicable &&
       last.test->by == RecordedTest::By::kOperator) {
-    judged.verdict = Verdict::kNotApplicable;
-    judged.reasons = {{"set-aside-by-operator", {judged.by}}};
+    judged.verdict = doubts.empty() ? Verdict::kNotApplicable : Verdict::kDoubtful;
+    if (doubts.empty()) judged.reasons = {{"set-aside-by-operator", {judged.by}}};
   } else if (last.test->status == orvik::ResultStatus::kNotTested) {
     judged.verdict = Verdict::kNotTested;
     judged.reasons = {{last.test->by == RecordedTest::By::kOperator ? "skipped" : "no-result", {}}};

@@ -30,15 +30,14 @@ bool HasSelectedLimit(const JudgedElement& judged) {
 }
 
 void JudgeNotApplicable(const RecordedTest& test, std::vector<Reason> doubts, JudgedElement& judged) {
-  if (test.by == RecordedTest::By::kOperator) {
-    judged.verdict = Verdict::kNotApplicable;
-    judged.reasons = {{"set-aside-by-operator", {judged.by}}};
-    return;
-  }
+  const bool byOperator = test.by == RecordedTest::By::kOperator;
   // A tester that lacks the test says nothing of the equipment.
-  if (HasSelectedLimit(judged)) doubts.insert(doubts.begin(), {"refused-with-limits", {}});
+  if (!byOperator && HasSelectedLimit(judged)) doubts.insert(doubts.begin(), {"refused-with-limits", {}});
   judged.verdict = doubts.empty() ? Verdict::kNotApplicable : Verdict::kDoubtful;
-  judged.reasons = doubts.empty() ? std::vector<Reason>{{"refused-by-tester", {}}} : std::move(doubts);
+  judged.reasons = std::move(doubts);
+  if (!judged.reasons.empty()) return;
+  judged.reasons.push_back(byOperator ? Reason{"set-aside-by-operator", {judged.by}}
+                                      : Reason{"refused-by-tester", {}});
 }
 
 /// Why no limit judged the reading.

@@ -431,6 +431,25 @@ TEST(Judge, BelievesTheOperatorThatATestDoesNotApply) {
   EXPECT_EQ(earth.Judged().outcome, Outcome::kIncomplete) << "nothing was judged";
 }
 
+TEST(Judge, DoubtsTheOperatorsWordInAChangedRecord) {
+  CaseBuilder earth;
+  earth.Add(1, 410, "mOhm");
+  earth.Begin({1});
+  // It was the tester's before somebody changed it, or that of another element.
+  earth.Finish(1, 3, RecordedTest::By::kOperator);
+  earth.runs[0].intact = false;
+  EXPECT_EQ(earth.Verdict(), Verdict::kDoubtful);
+  EXPECT_THAT(earth.Codes(), ElementsAre("record-changed"));
+
+  CaseBuilder group;
+  group.Add(1, 400, "").group = true;
+  group.Begin({1});
+  group.Finish(1, 3, RecordedTest::By::kOperator);
+  EXPECT_EQ(group.Verdict(), Verdict::kNotApplicable);
+  group.runs[0].intact = false;
+  EXPECT_EQ(group.Verdict(), Verdict::kDoubtful);
+}
+
 TEST(Judge, DoubtsARefusalWhereLimitsAreSelected) {
   CaseBuilder earth;
   earth.Add(1, 410, "mOhm").standards = {CaseBuilder::Limit("mOhm", {}, 300)};
