@@ -1,0 +1,108 @@
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <charconv>
+#include <cstdlib>
+#include <iostream>
+
+#include "tests/history/Generator.h"
+#include "tests/history/Player.h"
+#include "tests/history/Shrink.h"
+#include "tests/support/Seed.h"
+
+namespace history {
+namespace {
+
+constexpr int kHistories = 3000;
+/// One of so many goes through the command line.
+constexpr int kByCommandEvery = 16;
+
+/// How many are wanted; 0 for as many as there is time for.
+int HistoriesWanted() {
+  const char* given = std::getenv("ORVIK_HISTORIES");
+  if (!given) return kHistories;
+  const std::string text = given;
+  int histories = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), histories);
+  if (error != std::errc{} || end != text.data() + text.size() || histories < 0)
+    throw std::runtime_error("ORVIK_HISTORIES is \"" + text +
+                             "\"; give it a whole number, 0 for no end, or leave it out");
+  return histories;
+}
+
+/// Documents are made in memory, where flushing takes no time.
+void UseFilesInMemory() {
+  constexpr char kFolder[] = "/dev/shm";
+  if (access(kFolder, W_OK) == 0) setenv("TMPDIR", kFolder, 1);
+}
+
+class Histories {
+ public:
+  explicit Histories(unsigned seed) : seed_(seed) {}
+
+  /// Plays the history of that number; what goes wrong with it, shrunk and as commands, or none.
+  std::optional<std::string> Play(int number) {
+    const bool byCommand = number % kByCommandEvery == 0;
+    Generator generator(seed_ + static_cast<std::uint64_t>(number) * 0x9E3779B97F4A7C15U);
+    std::vector<Operation> history;
+    player_.Begin(byCommand);
+    for (int step = 0; step < generator.Length(); ++step) {
+      history.push_back(generator.Next(player_.Now()));
+      if (player_.Step(history.back()))
+        return Told(
+            Shrunk(history, [&](const std::vector<Operation>& shorter) { return Again(shorter, byCommand); }),
+            byCommand);
+    }
+    return {};
+  }
+
+  const Player::Counts& Seen() const { return player_.Seen(); }
+
+ private:
+  std::optional<std::string> Again(const std::vector<Operation>& history, bool byCommand) {
+    player_.Begin(byCommand);
+    for (const auto& operation : history)
+      if (auto offence = player_.Step(operation)) return offence;
+    return {};
+  }
+
+  std::string Told(const std::vector<Operation>& history, bool byCommand) {
+    std::string text = "\n";
+    for (const auto& operation : history) text += "  " + TextOf(operation) + "\n";
+    return text + "then " + Again(history, byCommand).value_or("nothing, the second time");
+  }
+
+  const unsigned seed_;
+  Bench bench_;
+  Player player_{bench_};
+};
+
+TEST(History, SaysOfEveryHistoryWhatWasMeasured) {
+  const int wanted = HistoriesWanted();
+  const auto seed = support::Seed();
+  UseFilesInMemory();
+  Histories histories(seed);
+  int played = 0;
+  for (; (wanted == 0 || played < wanted) && !HasFailure(); ++played)
+    if (const auto wrong = histories.Play(played)) ADD_FAILURE() << "history " << played << ":" << *wrong;
+
+  const auto& seen = histories.Seen();
+  std::cout << played << " histories, " << seen.operations << " operations, " << seen.elements
+            << " verdicts, of which " << seen.exact << " were certain:";
+  for (const auto& [verdict, count] : seen.verdicts) std::cout << " " << count << " " << verdict;
+  std::cout << "; documents:";
+  for (const auto& [outcome, count] : seen.outcomes) std::cout << " " << count << " " << outcome;
+  std::cout << std::endl;
+
+  // Otherwise it would show little.
+  if (played < 1000) return;
+  EXPECT_GT(seen.exact * 10, seen.elements * 8);
+  for (const auto* verdict :
+       {"failed", "doubtful", "aborted", "not tested", "not judged", "recorded", "not applicable", "passed"})
+    EXPECT_GT(seen.verdicts.at(verdict) * 500, seen.elements) << verdict;
+  for (const auto* outcome : {"passed", "failed", "incomplete"})
+    EXPECT_GT(seen.outcomes.at(outcome) * 50, seen.operations) << outcome;
+}
+
+}  // namespace
+}  // namespace history
