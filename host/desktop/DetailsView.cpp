@@ -65,6 +65,19 @@ std::string TableText(const report::Table& table) {
   return text + "</table><p></p>";
 }
 
+/// Row by row, each as lines of its own: the page is too narrow for many columns.
+std::string RowsText(const report::Table& table) {
+  std::string text;
+  for (const auto& row : table.rows) {
+    text += "<table cellpadding=\"2\">";
+    for (std::size_t i = 0; i < row.size(); ++i)
+      text += "<tr><td><span style=\"color: #566072;\">" + StyledCell(table.header.front()[i]) +
+              "</span></td>" + Cell(StyledCell(row[i])) + "</tr>";
+    text += "</table><hr/>";
+  }
+  return text;
+}
+
 std::string FactsText(const std::vector<report::Fact>& facts) {
   std::string text = "<table cellpadding=\"2\">";
   for (const auto& fact : facts)
@@ -124,7 +137,7 @@ void DetailsView::ShowFacts(const std::string& title, const std::vector<std::str
   document()->clear();
   std::string page = title.empty() ? "" : "<h2>" + Escaped(title) + "</h2>";
   for (const auto& fact : facts) page += "<p>" + Lines(fact) + "</p>";
-  if (!runs.rows.empty()) page += Heading(parts::WordsOfReport().runs) + TableText(runs);
+  if (!runs.rows.empty()) page += Heading(parts::WordsOfReport().runs) + RowsText(runs);
   ShowPage(page);
 }
 

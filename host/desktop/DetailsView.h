@@ -16,7 +16,7 @@ class DetailsView : public QTextBrowser {
   explicit DetailsView(QWidget* parent = nullptr);
 
   void Show(const report::Section& section, const std::vector<std::string>& settings);
-  /// Shows a title with a line of text for each fact, and the table of runs unless it is empty.
+  /// Shows a title with a line of text for each fact, and the runs unless there are none.
   void ShowFacts(const std::string& title, const std::vector<std::string>& facts,
                  const report::Table& runs = {});
 

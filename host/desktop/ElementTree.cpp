@@ -1,8 +1,10 @@
 #include "host/desktop/ElementTree.h"
 
+#include <QEvent>
 #include <QHeaderView>
 #include <algorithm>
 #include <map>
+#include <utility>
 
 #include "host/app/DocumentText.h"
 #include "host/app/TextColumns.h"
@@ -34,25 +36,33 @@ QBrush ColourIn(const QTreeWidget& tree, report::Standing standing) {
   return dark ? QBrush() : QBrush(QColor(ColourName(standing)));
 }
 
-void Fill(QTreeWidgetItem& row, const judge::JudgedElement& element, bool running) {
-  const auto standing = parts::StandingOf(element);
-  const auto name = VisibleInTree(element.name);
-  const auto remark = VisibleInTree(RemarkOf(element));
-  const auto word = running ? Shown(Tr("running")) : Shown(Tr(judge::VerdictText(element.verdict)));
-  row.setText(kNumber, QString::number(element.id));
+void Fill(QTreeWidgetItem& row, const ElementTree::RowText& text) {
+  const auto name = VisibleInTree(text.name);
+  const auto word = Shown(text.word);
+  row.setText(kNumber, QString::number(text.id));
   row.setText(kName, name);
-  row.setToolTip(kName, TipOf(element.name));
+  row.setToolTip(kName, TipOf(text.name));
   row.setText(kResult, word);
-  row.setIcon(kResult, running ? QIcon() : SignIcon(standing));
-  row.setForeground(kResult, running ? QBrush() : ColourIn(*row.treeWidget(), standing));
-  row.setText(kValue, VisibleInTree(ReadingText(element)));
+  row.setIcon(kResult, text.running ? QIcon() : SignIcon(text.standing));
+  row.setForeground(kResult, text.running ? QBrush() : ColourIn(*row.treeWidget(), text.standing));
+  row.setText(kValue, VisibleInTree(text.value));
   row.setTextAlignment(kValue, Qt::AlignRight | Qt::AlignVCenter);
-  row.setText(kRemark, remark);
-  row.setToolTip(kRemark, TipOf(RemarkOf(element)));
+  row.setText(kRemark, VisibleInTree(text.remark));
+  row.setToolTip(kRemark, TipOf(text.remark));
   row.setData(kName, Qt::AccessibleTextRole, name + ", " + word);
   auto font = row.font(kName);
-  font.setBold(running);
+  font.setBold(text.running);
   for (int column = 0; column < kColumns; ++column) row.setFont(column, font);
+}
+
+ElementTree::RowText RowTextOf(const judge::JudgedElement& element, bool running) {
+  return {element.id,
+          element.name,
+          running ? Tr("running") : Tr(judge::VerdictText(element.verdict)),
+          ReadingText(element),
+          RemarkOf(element),
+          parts::StandingOf(element),
+          running};
 }
 
 }  // namespace
@@ -82,8 +92,13 @@ ElementTree::ElementTree(QWidget* parent) : QTreeWidget(parent) {
 void ElementTree::Show(const judge::JudgedDocument& document, std::int32_t running) {
   const bool same = ShowsTheSame(document);
   if (!same) Build(document);
-  for (std::size_t i = 0; i < rows_.size(); ++i)
-    Fill(*rows_[i], document.elements[i], document.elements[i].id == running);
+  for (std::size_t i = 0; i < rows_.size(); ++i) {
+    auto text = RowTextOf(document.elements[i], document.elements[i].id == running);
+    // To fill a row costs far more than to judge its element.
+    if (same && text == texts_[i]) continue;
+    Fill(*rows_[i], text);
+    texts_[i] = std::move(text);
+  }
   if (same) return;
   for (const auto column : {kName, kResult})
     setColumnWidth(column, std::clamp(sizeHintForColumn(column) + kColumnRoom, columnWidth(column), kWidest));
@@ -102,6 +117,12 @@ void ElementTree::Choose(std::int32_t id) {
 
 void ElementTree::OnChosen(std::function<void()> chosen) {
   connect(this, &QTreeWidget::itemSelectionChanged, this, std::move(chosen));
+}
+
+void ElementTree::changeEvent(QEvent* event) {
+  QTreeWidget::changeEvent(event);
+  // The rows' colours depend on it.
+  if (event->type() == QEvent::PaletteChange) texts_.assign(rows_.size(), {});
 }
 
 bool ElementTree::ShowsTheSame(const judge::JudgedDocument& document) const {
@@ -128,6 +149,7 @@ void ElementTree::Build(const judge::JudgedDocument& document) {
     if (element.group) sequences[element.id] = row;
     rows_.push_back(row);
   }
+  texts_.assign(rows_.size(), {});
   expandAll();
   if (chosen) Choose(*chosen);
 }

@@ -4,8 +4,11 @@
 #include <cstdint>
 #include <functional>
 #include <optional>
+#include <string>
+#include <vector>
 
 #include "host/app/DocumentView.h"
+#include "host/report/Report.h"
 
 namespace bench::desktop {
 
@@ -13,6 +16,16 @@ namespace bench::desktop {
 /// colour and word, value, and what is to be noticed.
 class ElementTree : public QTreeWidget {
  public:
+  /// What a row shows.
+  struct RowText {
+    std::int32_t id = 0;
+    std::string name, word, value, remark;
+    report::Standing standing = report::Standing::kOpen;
+    bool running = false;
+
+    bool operator==(const RowText&) const = default;
+  };
+
   explicit ElementTree(QWidget* parent = nullptr);
 
   /// Shows the document; what was chosen and folded stays so.
@@ -25,10 +38,12 @@ class ElementTree : public QTreeWidget {
   void OnChosen(std::function<void()> chosen);
 
  private:
+  void changeEvent(QEvent* event) override;
   bool ShowsTheSame(const judge::JudgedDocument& document) const;
   void Build(const judge::JudgedDocument& document);
 
   std::vector<QTreeWidgetItem*> rows_;  ///< as in the document
+  std::vector<RowText> texts_;          ///< of the rows
 };
 
 }  // namespace bench::desktop
