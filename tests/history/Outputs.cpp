@@ -20,7 +20,7 @@ std::optional<std::string> OutputsDiffer(const bench::DocumentView& view, const 
   const auto text = bench::TextOf(view, false);
   if (text.substr(0, text.find('\n')).find(": " + outcome) == std::string::npos)
     return "the text says " + text.substr(0, text.find('\n'));
-  const auto word = bench::LowerAscii(bench::VerdictOf(document, host).word);
+  const auto word = bench::LowerAscii(bench::ReportOf(document, host).verdict.word);
   if (word != outcome) return "the report says " + word;
   return {};
 }
