@@ -54,14 +54,13 @@ std::optional<std::string> Bench::Perform(const Operation& operation, World& wor
   using Kind = Operation::Kind;
   const auto arguments = ArgumentsOf(operation, Folder());
   if (arguments.empty() || operation.kind == Kind::kRun) byCommand = false;
-  if (operation.kind == Kind::kArchive || operation.kind == Kind::kReport) byCommand = true;
   try {
     if (byCommand) {
       const auto told = Command(arguments);
       return told.status == 0 ? std::nullopt : std::optional(told.error);
     }
     if (operation.kind == Kind::kRun)
-      RunOf(bench_, Folder()).Perform(operation, world);
+      return RunOf(bench_, Folder()).Perform(operation, world);
     else
       EditsOf(bench_, Folder()).Perform(operation);
     return {};

@@ -26,7 +26,7 @@ class Bench {
   /// Does the operation; for a run writes down in the world what really happens.
   /// @param byCommand through the program's command line where there is one, instead of the procedures behind
   /// it
-  /// @return why it was refused; none when it was done
+  /// @return why it was refused, or what it must not have done; none when all is well
   std::optional<std::string> Perform(const Operation& operation, World& world, bool byCommand);
 
   /// The document as its file has it.

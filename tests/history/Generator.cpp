@@ -37,7 +37,7 @@ Operation Generator::Draw(const World& world) {
   }
   // First a plan with limits, then a run, and then all of it.
   const bool planning = state.runs == 0 && drawn_ < 4;
-  const std::array<std::pair<int, int>, 7> weights{{{0, planning ? 3 : 6},    // plan
+  const std::array<std::pair<int, int>, 7> weights{{{0, planning ? 5 : 6},    // plan
                                                     {0, planning ? 12 : 14},  // limits
                                                     {0, planning ? 4 : 10},   // world
                                                     {0, planning ? 0 : 7},    // equipment fields
@@ -90,7 +90,8 @@ Operation Generator::New(const World& world) {
 
 Operation Generator::OfPlan(const DocumentState& document) {
   Operation operation;
-  const std::array<std::pair<int, int>, 5> weights{{{0, 4}, {0, 3}, {0, 3}, {0, 5}, {0, 5}}};
+  const bool planning = document.runs == 0;
+  const std::array<std::pair<int, int>, 5> weights{{{0, 4}, {0, 3}, {0, 3}, {0, 5}, {0, planning ? 25 : 8}}};
   auto which = document.plan.elements.empty() ? 0 : dice_.ByWeight(weights);
   if (which == 0) {
     operation.kind = Operation::Kind::kAdd;
@@ -176,7 +177,7 @@ Operation Generator::OfLimits(const DocumentState& document) {
   const std::array<std::pair<int, int>, 4> weights{{{0, 7}, {0, 5}, {0, 3}, {0, 4}}};
   switch (dice_.ByWeight(weights)) {
     case 0:
-      return HandLimit(AnyElement(document));
+      return HandLimit(dice_.Chance(35) ? document.plan.elements.front() : AnyElement(document));
     case 1:
       operation.kind = Operation::Kind::kLimitSet;
       operation.set = dice_.One(LimitSets()).name;

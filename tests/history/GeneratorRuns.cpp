@@ -42,6 +42,7 @@ std::string Generator::Faults(const Plan& plan) {
                                         "error 6002",
                                         "forget",
                                         "hang-up",
+                                        "hang-up",
                                         "unplug 500",
                                         "reply gres,610,0,0.001,0,Ohm",
                                         "reply gres," + number + ",0,0.001,0,A",
@@ -51,8 +52,8 @@ std::string Generator::Faults(const Plan& plan) {
   std::string script;
   for (int rule = 1 + dice_.Below(2); rule > 0; --rule)
     script += "at " +
-              dice_.One<std::string>(
-                  {"IREM 1", "STST 1", "GRES 1", "GRES 1", "STST 2", "GRES 2", "EREM 1", "ANY"}) +
+              dice_.One<std::string>({"IREM 1", "STST 1", "GRES 1", "GRES 1", "STST 2", "GRES 2", "STST 4",
+                                      "STST 5", "EREM 1", "ANY"}) +
               " " + dice_.One(faults) + "\n";
   return script;
 }
@@ -62,7 +63,7 @@ TesterSetup Generator::Tester(const Plan& plan) {
   if (dice_.Chance(15)) tester.serial = "T-2";
   if (dice_.Chance(4)) tester.serial = "";
   if (dice_.Chance(3)) tester.type = "KELD(XX)";
-  while (dice_.Chance(22)) {
+  while (dice_.Chance(25)) {
     const auto& element = *dice_.One(plan.All());
     if (element.group) continue;
     Behaviour behaviour;
@@ -87,7 +88,10 @@ Operation Generator::Run(const DocumentState& document) {
     run.resume = true;
   else if (dice_.Chance(35))
     for (int elements = 1 + dice_.Below(2); elements > 0; --elements)
-      run.elements.push_back(AnyElement(document).id);
+      run.elements.push_back(elements == 1 || dice_.Chance(50) ? AnyElement(document).id
+                                                               : document.plan.elements.front().id);
+  // The same once more: what was measured first no longer counts.
+  if (!run.elements.empty() && dice_.Chance(25)) run.elements.push_back(run.elements.front());
   if (dice_.Chance(10)) run.standards = {dice_.One<std::string>({"IEC 62353", "House rule", "IEC 60601-1"})};
   run.simulated = document.simulated.value_or(dice_.Chance(8));
   run.newProgram = dice_.Chance(60);
@@ -108,6 +112,9 @@ Operation Generator::Tampered(const DocumentState& document) {
   operation.kind = Operation::Kind::kTamper;
   auto& tampering = operation.tampering;
   tampering.kind = static_cast<Kind>(dice_.Below(static_cast<std::size_t>(Kind::kEquipment) + 1));
+  // Most of what can be changed is where something was done.
+  if (!document.records.empty() && dice_.Chance(40))
+    tampering.kind = dice_.One({Kind::kResultStatus, Kind::kResultValue});
   tampering.element = AnyElement(document).id;
   tampering.which = static_cast<std::uint32_t>(dice_.Next() % 1000000);
   switch (tampering.kind) {
@@ -127,6 +134,12 @@ Operation Generator::Tampered(const DocumentState& document) {
       break;
     case Kind::kLimitBound:
       tampering.value = dice_.One<std::string>({"1", "100", "300", "9999"});
+      break;
+    case Kind::kLimitUnit:
+      tampering.value = dice_.One<std::string>({"Ohm", "mOhm", "kOhm", "mA", "V", ""});
+      break;
+    case Kind::kLimitKey:
+      tampering.value = "ANOTHER KEY";
       break;
     case Kind::kOptions:
       tampering.value = dice_.One<std::string>({"3", "7", "11", "4099"});

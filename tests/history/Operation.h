@@ -66,6 +66,8 @@ struct Tampering {
     kRunRemoved,    ///< a run that is not the last
     kRunsSwapped,
     kLimitBound,  ///< a bound of an element, without its program
+    kLimitUnit,   ///< its unit
+    kLimitKey,    ///< its key
     kOptions,     ///< an element's settings
     kEquipment
   };
@@ -94,9 +96,7 @@ struct Operation {
     kLeads,
     kEquipmentIs,
     kRun,
-    kTamper,
-    kArchive,
-    kReport
+    kTamper
   };
 
   Kind kind = Kind::kNew;

@@ -100,7 +100,7 @@ std::string Remark(const RunSetup& run) {
 }
 
 std::string TextOf(const Tampering& tampering) {
-  static constexpr std::array<const char*, 12> kNames{"lays the file out anew",
+  static constexpr std::array<const char*, 14> kNames{"lays the file out anew",
                                                       "changes the saved status of element",
                                                       "changes the saved value of element",
                                                       "removes the saved result of element",
@@ -110,6 +110,8 @@ std::string TextOf(const Tampering& tampering) {
                                                       "removes a run",
                                                       "swaps two runs",
                                                       "changes a bound of element",
+                                                      "changes a limit's unit of element",
+                                                      "changes a limit's key of element",
                                                       "changes the settings of element",
                                                       "changes the equipment"};
   return std::string("another program ") + kNames[static_cast<std::size_t>(tampering.kind)] + " " +
@@ -185,12 +187,6 @@ std::vector<std::string> ArgumentsOf(const Operation& operation, const std::stri
       break;
     case Operation::Kind::kFilter:
       arguments = {"config", file, "--element", elements.front(), "--filter", operation.text};
-      break;
-    case Operation::Kind::kArchive:
-      arguments = {"archive", "add", file, "--incomplete", "--archive", folder + "archive.db"};
-      break;
-    case Operation::Kind::kReport:
-      arguments = {"report", file, "--to", "-"};
       break;
     case Operation::Kind::kRun:
       arguments = {"run", file};

@@ -71,7 +71,10 @@ Verdicts Oracle::ByRecord(const Element& element, const Record& record, const Sa
 Verdicts Oracle::OfTest(const Element& element, const Record& record) const {
   Verdicts allowed;
   const bool usual = !record.read || record.read->unit == UsualUnit(element.testId);
-  const bool exact = usual && !record.spoiled && !record.doubtful && !record.interrupted;
+  const auto foreign = [](const Limit& limit) { return limit.foreign; };
+  const bool own = std::none_of(record.limits.begin(), record.limits.end(), foreign) &&
+                   std::none_of(element.limits.begin(), element.limits.end(), foreign);
+  const bool exact = own && usual && !record.spoiled && !record.doubtful && !record.interrupted;
   if (!record.doubtful) allowed.insert(Exactly(element, record));
   if (exact) return allowed;
   allowed.insert(kDoubtful);
@@ -122,6 +125,8 @@ bool Oracle::CouldHaveFailed(const Element& element, const Record& record) const
           if (BreaksByNumber(limit, leads == 0 ? less : std::max(less, Decimal(0)), element.testId))
             return true;
         }
+      // Compared as it is, whatever its unit.
+      if ((limit.low && *number < *limit.low) || (limit.high && *number > *limit.high)) return true;
       if (record.read &&
           limit.BrokenBy(Corrected(*record.read, element.testId, record.leads)).value_or(false))
         return true;
@@ -198,7 +203,10 @@ Verdicts Oracle::OfGroup(const Element& group, const Record& record, const Said&
     comparable = comparable && (!summary.amount || breaks);
   }
   const auto number = summary.amount ? std::optional(summary.amount->number) : std::nullopt;
-  const bool asThen = record.summaryKnown && summary.known && !summary.mixed && number == record.summary;
+  const bool foreign =
+      std::any_of(group.limits.begin(), group.limits.end(), [](const Limit& limit) { return limit.foreign; });
+  const bool asThen =
+      !foreign && record.summaryKnown && summary.known && !summary.mixed && number == record.summary;
   const bool sure = asThen && record.failed == Maybe::kNo && !record.interrupted;
   if (sure && broken) return {kFailed};
   if (!done) {

@@ -25,4 +25,30 @@ std::optional<std::string> OutputsDiffer(const bench::DocumentView& view, const 
   return {};
 }
 
+std::optional<std::string> CommandsDiffer(const bench::DocumentView& view, Bench& program, bool tampered) {
+  const auto outcome = bench::judge::OutcomeText(view.judged.outcome);
+  const auto shown = nlohmann::json::parse(program.Command({"show", view.path, "--json"}).out);
+  if (shown["outcome"] != outcome) return "show --json says " + shown["outcome"].dump();
+  const auto text = program.Command({"show", view.path}).out;
+  if (text.find(": " + outcome) == std::string::npos) return "show says " + text.substr(0, text.find('\n'));
+  const auto report = bench::LowerAscii(program.Command({"report", view.path, "--to", "-"}).out);
+  if (report.substr(0, report.find("summary")).find(outcome) == std::string::npos)
+    return "the report does not say " + outcome + ": " + report;
+  if (outcome == "passed" && !tampered) {
+    const auto checked = program.Command({"check", view.path});
+    if (checked.status != 0) return "it is passed, and check says " + checked.out;
+  }
+  const auto location = view.path + ".db";
+  std::vector<std::string> add{"archive", "add", view.path, "--incomplete", "--archive", location};
+  if (view.judged.simulated) add.emplace_back("--simulated");
+  const auto added = program.Command(add);
+  if (added.status != 0) return "the archive refuses it: " + added.error;
+  const auto listed =
+      nlohmann::json::parse(program.Command({"archive", "list", "--json", "--archive", location}).out);
+  if (listed["documents"].size() != 1 || listed["documents"][0]["outcome"] != outcome)
+    return "the archive says " + listed.dump();
+  std::filesystem::remove(location);
+  return {};
+}
+
 }  // namespace history

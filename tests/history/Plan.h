@@ -18,6 +18,7 @@ struct Limit {
   std::string standard, description;
   std::optional<Decimal> low, high;  ///< inclusive
   std::string unit;
+  bool foreign = false;  ///< another program has put in its unit or key: the plug-in compares otherwise
 
   /// Whether the amount breaks it; none when the two cannot be compared.
   std::optional<bool> BrokenBy(const Amount& amount) const;

@@ -14,6 +14,9 @@
 namespace history {
 namespace {
 
+/// What all commands say is looked at after every so many operations.
+constexpr int kCommandsEvery = 4;
+
 std::string TextOf(const Verdicts& verdicts) {
   std::string text;
   for (const auto& verdict : verdicts) text += (text.empty() ? "\"" : " or \"") + verdict + "\"";
@@ -153,7 +156,8 @@ std::optional<std::string> Player::Check(const std::string& file) {
   if (judged.simulated != known.anySimulated) return std::string("simulated is told wrongly");
   if (auto offence = CheckRuns(file)) return offence;
   if (auto offence = OutputsDiffer(view, *document, bench_.Host())) return offence;
-  return {};
+  return byCommand_ && step_ % kCommandsEvery == 0 ? CommandsDiffer(view, bench_, known.tampered)
+                                                   : std::nullopt;
 }
 
 std::optional<std::string> Player::CheckRuns(const std::string& file) {

@@ -29,13 +29,13 @@ void TellOfWire(const bench::WireRecord& record, RunWatch& watch) {
       return watch.Dropped();
     case What::kFailed:
     case What::kClosed:
-      return;
+      return watch.PortClosed();
   }
 }
 
 }  // namespace
 
-void RunOf::Perform(const Operation& operation, World& world) {
+std::optional<std::string> RunOf::Perform(const Operation& operation, World& world) {
   const auto& run = operation.run;
   if (run.newProgram) keld::MKELDGlobalVars::InstrumentDataSlot().reset();
   const auto document = bench::Document::Open(bench_.Only().SharedHost(), folder_ + operation.file);
@@ -50,6 +50,7 @@ void RunOf::Perform(const Operation& operation, World& world) {
   LetTimePass();
   bench_.Tester().UseFaults(nullptr);
   bench_.Wire().Clear();
+  return watch.Offence();
 }
 
 RunOf::Elements RunOf::Selected(const Operation& operation, bench::Document& document) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -21,7 +22,8 @@ class RunOf {
   RunOf(support::VirtualBench& bench, std::string folder) : bench_(bench), folder_(std::move(folder)) {}
 
   /// Runs, and writes down in the world what really happens.
-  void Perform(const Operation& operation, World& world);
+  /// @return what the run must not have done; none when all is well
+  std::optional<std::string> Perform(const Operation& operation, World& world);
 
  private:
   using Elements = std::vector<std::shared_ptr<orvik::ITestElement>>;

@@ -61,6 +61,7 @@ bool RunWatch::Over() {
 void RunWatch::Saved(bool last) {
   if (Over()) return;
   lastSave_ = last;
+  savedSince_ = true;
   if (std::exchange(begun_, true)) return;
   document_.inFile.push_back(++document_.runs);
   document_.simulated = document_.simulated.value_or(run_.simulated);
@@ -118,6 +119,9 @@ void RunWatch::Finished(int element) {
   if (frozen_) return;
   frozen_ = lastSave_;
   const bool byTester = running_.erase(element) > 0;
+  if (!savedSince_)
+    offence_ = "element " + std::to_string(element) + " is told as finished before it is saved";
+  savedSince_ = false;
   ++document_.step;
   const auto& finished = *document_.plan.Find(element);
   for (const auto* below : Below(finished)) {
@@ -139,6 +143,8 @@ void RunWatch::Finished(int element) {
 Maybe RunWatch::FoundFailed(const Element& element, const Record& record) const {
   if (record.spoiled || record.doubtful || record.interrupted) return Maybe::kUnknown;
   if (!record.read) return Maybe::kNo;
+  for (const auto& limit : record.limits)
+    if (limit.foreign) return Maybe::kUnknown;
   if (record.read->unit != UsualUnit(element.testId)) return Maybe::kUnknown;
   const auto value = Corrected(*record.read, element.testId, record.leads);
   const bool broken = std::any_of(record.limits.begin(), record.limits.end(), [&](const Limit& limit) {
@@ -168,6 +174,8 @@ void RunWatch::SumUp(const Element& group, Record& record) const {
     if (!record.summary || (highest ? *value > *record.summary : *value < *record.summary))
       record.summary = value;
   }
+  for (const auto& limit : record.limits)
+    if (limit.foreign) record.failed = Maybe::kUnknown;
   if (!record.summaryKnown) record.failed = Maybe::kUnknown;
   if (record.failed != Maybe::kNo || !record.summary) return;
   for (const auto& limit : record.limits)
@@ -199,6 +207,9 @@ void RunWatch::Stopped() {
 void RunWatch::PortOpened() {
   waiting_ = 0;
   answered_ = true;
+}
+
+void RunWatch::PortClosed() {
   plausible_ = true;
   spoiled_ = doubtful_ = false;
 }
@@ -209,6 +220,8 @@ void RunWatch::Sent(const std::string& line, bool somethingWaits, Time at) {
     measured->doubtful = measured->doubtful || waiting_ > 0;
     measured->spoiled = measured->spoiled || somethingWaits;
   }
+  if (!begun_) offence_ = line + " is sent before the run is on record";
+  savedSince_ = false;
   command_ = line;
   sentAt_ = at;
   answered_ = waiting_ > 0;
@@ -230,7 +243,7 @@ void RunWatch::Received(const std::string& line, Time at) {
   const bool over = !running_.contains(leaf_);
   const bool takenBack = over && ((line == "ERRM,1003" && command_.starts_with("STST")) ||
                                   (line == "ERRM,6002" && leaf_ == top_));
-  if (takenBack && !(isTrue && measured->lacked)) measured->spoiled = measured->doubtful = true;
+  if (takenBack && !(line == "ERRM,6002" && measured->lacked)) measured->spoiled = measured->doubtful = true;
   if (!isTrue) return Suspect(line, *measured);
   TakeReading(line, *measured);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <optional>
 #include <set>
 #include <string>
 #include <vector>
@@ -34,7 +35,11 @@ class RunWatch {
   void Aborted(bool inWaitingGuide);
   void Stopped();
 
+  /// What the run must not have done; none when all is well.
+  const std::optional<std::string>& Offence() const { return offence_; }
+
   void PortOpened();
+  void PortClosed();
   void Sent(const std::string& line, bool somethingWaits, Time at);
   void Received(const std::string& line, Time at);
   void Dropped();
@@ -56,6 +61,8 @@ class RunWatch {
   DocumentState& document_;
   const RunSetup& run_;
   const TrueTester& tester_;
+  std::optional<std::string> offence_;
+  bool savedSince_ = false;  ///< since something was heard of the running element
   bool begun_ = false, lastSave_ = false, frozen_ = false;
   std::vector<int> tops_;
   std::set<int> running_;

@@ -144,12 +144,14 @@ bool ChangeLimit(const pugi::xml_document& xml, const Tampering& tampering, Docu
   auto* element = document.plan.Find(tampering.element);
   if (!chosen || !element) return false;
   const auto attribute = chosen->attribute("High") ? chosen->attribute("High") : chosen->attribute("Low");
-  if (!Set(attribute, tampering.value)) return false;
+  const bool ofBound = tampering.kind == Tampering::Kind::kLimitBound;
+  const char* other = tampering.kind == Tampering::Kind::kLimitKey ? "Key" : "Unit";
+  if (!Set(ofBound ? attribute : chosen->attribute(other), tampering.value)) return false;
   const auto standard = chosen->parent();
   const auto bound = [&](const char* name) { return Decimal::Parsed(chosen->attribute(name).value()); };
   const bool marked = element->recordOnly;
   element->SetLimit({standard.attribute("Name").value(), standard.attribute("Description").value(),
-                     bound("Low"), bound("High"), chosen->attribute("Unit").value()});
+                     bound("Low"), bound("High"), chosen->attribute("Unit").value(), !ofBound});
   element->recordOnly = marked;
   return true;
 }
@@ -179,6 +181,8 @@ bool Change(const pugi::xml_document& xml, const Tampering& tampering, DocumentS
     case Tampering::Kind::kResultRemoved:
       return ChangeResult(xml, tampering, document);
     case Tampering::Kind::kLimitBound:
+    case Tampering::Kind::kLimitUnit:
+    case Tampering::Kind::kLimitKey:
       return ChangeLimit(xml, tampering, document);
     case Tampering::Kind::kOptions:
       return ChangeOptions(xml, tampering, document);
@@ -207,6 +211,7 @@ bool Tamper(const std::filesystem::path& file, const Tampering& tampering, Docum
   if (!xml.load_file(file.c_str(), pugi::parse_full)) throw std::runtime_error("no XML: " + file.string());
   if (!Change(xml, tampering, document)) return false;
   NoteKindOfRuns(xml, document);
+  document.tampered = true;
   const bool anew = tampering.kind == Tampering::Kind::kReformat;
   return xml.save_file(file.c_str(), anew ? "\t" : "  ",
                        anew && tampering.which % 2 ? pugi::format_raw : pugi::format_indent);

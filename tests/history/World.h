@@ -66,6 +66,7 @@ struct DocumentState {
   std::vector<int> inFile;                  ///< those that the file holds, in its order
   std::optional<bool> simulated;            ///< once there is a run: whether the first is
   bool anySimulated = false;
+  bool tampered = false;  ///< whether another program has ever changed the file
   long step = 0;
   int highestTaken = 0;  ///< the highest identifier that a run has named
 };
