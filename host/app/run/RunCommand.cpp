@@ -65,9 +65,9 @@ CLI::App* RunCommand::Declare(CLI::App& program) {
          "\n"
          "The document is saved after each element. Ctrl-C stops: the session with the tester is closed, the "
          "document\n"
-         "saved, and --resume goes on later. Exit status 0: all passed or not applicable, 1: something "
-         "failed its\n"
-         "limits, 2: something was not completed."));
+         "saved, and --resume goes on later. Exit status 0: all passed, recorded or not applicable, 1: "
+         "something failed its\n"
+         "limits, 2: something was not completed, is doubtful or not judged."));
   return command;
 }
 
