@@ -310,6 +310,53 @@ TEST_F(RunCommandTest, TheOperatorIsAskedAtTheTerminal) {
   EXPECT_EQ(ended.status, 0) << ended.out << ended.error;
 }
 
+TEST_F(RunCommandTest, EachGuideAtTheTerminalNamesItsTest) {
+  const auto file = NewDocument({"410", "210"});
+  const auto run = Start(Simulated(file, "sound-class-1", {"--operator", "ask"}));
+  ASSERT_TRUE(run->AwaitOutput("410 Protective earth, with mains cord [play")) << run->Output();
+  run->Type("next\n");
+  ASSERT_TRUE(run->AwaitOutput("210 Mains voltage [play")) << run->Output();
+  run->EndInput();
+  EXPECT_EQ(run->Wait().status, 2);
+}
+
+TEST_F(RunCommandTest, NotApplicableAtTheTerminalIsConfirmed) {
+  const auto file = NewDocument({"410"});
+  const auto run = Start(Simulated(file, "sound-class-1", {"--operator", "ask"}));
+  const std::string question =
+      "Record test 410 Protective earth, with mains cord as not applicable? [yes, no]";
+  int asked = 0;
+  // Only "yes" is consent; the guide asks again after anything else.
+  for (const std::string answer : {"", "no", "na", "y"}) {
+    ++asked;
+    ASSERT_TRUE(run->AwaitOutput("[play", asked)) << run->Output();
+    run->Type("na\n");
+    ASSERT_TRUE(run->AwaitOutput(question, asked)) << run->Output();
+    run->Type(answer + "\n");
+  }
+  ASSERT_TRUE(run->AwaitOutput("[play", asked + 1)) << run->Output();
+  run->Type("na\n");
+  ASSERT_TRUE(run->AwaitOutput(question, asked + 1)) << run->Output();
+  EXPECT_EQ(Show(file)["elements"][0]["statusText"], "not tested");
+  run->Type("yes\n");
+  run->Wait();
+  EXPECT_EQ(Show(file)["elements"][0]["statusText"], "not applicable");
+}
+
+TEST_F(RunCommandTest, EmptyLineAtTheTerminalAnswersNoQuestion) {
+  const auto file = NewDocument({"410"});
+  const auto run = Start(Simulated(file, "sound-class-1", {"--operator", "ask"}));
+  ASSERT_TRUE(run->AwaitOutput("[play")) << run->Output();
+  run->Type("abort\n");
+  ASSERT_TRUE(run->AwaitOutput("[yes, no]")) << run->Output();
+  run->Type("\n");
+  ASSERT_TRUE(run->AwaitOutput("[yes, no]", 2)) << run->Output();
+  run->Type("no\n");
+  ASSERT_TRUE(run->AwaitOutput("[play", 2)) << run->Output();
+  run->EndInput();
+  EXPECT_EQ(run->Wait().status, 2);
+}
+
 TEST_F(RunCommandTest, TheOperatorCanAbort) {
   const auto file = NewDocument({"410", "420"});
   const auto run = Start(Simulated(file, "sound-class-1", {"--operator", "ask"}));

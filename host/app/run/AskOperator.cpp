@@ -6,8 +6,10 @@
 #include <array>
 #include <cerrno>
 #include <string_view>
+#include <utility>
 
 #include "host/run/GuideToolbar.h"
+#include "host/services/Tr.h"
 
 namespace bench {
 
@@ -36,10 +38,11 @@ std::string WithChoices(const std::string& prompt, const std::string& words) {
 }  // namespace
 
 AskOperator::AskOperator(std::shared_ptr<headless::Application> application, StopRequest& stop,
-                         RunReporter& reporter)
+                         RunReporter& reporter, std::function<std::string()> test)
     : application_(std::move(application)),
       stop_(stop),
       reporter_(reporter),
+      test_(std::move(test)),
       watch_(application_->WatchReadable(STDIN_FILENO, [this] { ReadInput(); })),
       shown_(application_->FormShown().Subscribe([this](const Form& form) {
         application_->Post([this, form, alive = std::weak_ptr<int>(alive_)] {
@@ -67,7 +70,7 @@ void AskOperator::PutGuide(const Form& form) {
   for (const auto& button : kButtons) {
     if (toolbar->IsEnabled(button.command)) words += (words.empty() ? "" : ", ") + std::string(button.word);
   }
-  reporter_.Prompted(WithChoices(form->Caption(), words));
+  reporter_.Prompted(WithChoices(Tr("%%1: %%2", {form->Caption(), test_()}), words));
 }
 
 void AskOperator::ReadInput() {
@@ -91,7 +94,7 @@ void AskOperator::ReadInput() {
 
 void AskOperator::Choose(const std::string& word) {
   const auto form = application_->ActiveForm();
-  if (!form || word.empty()) return;
+  if (!form) return;
   if (form->Name() == guide::kGuideForm) return ChooseInGuide(form, word);
   if (form->Name() == guide::kPretestForm && word == "ok") return ClickButton(*form, guide::kPretestOk);
   if (form->Name() == guide::kYesNoForm && word == "yes") return ClickButton(*form, guide::kYes);
@@ -100,11 +103,25 @@ void AskOperator::Choose(const std::string& word) {
 }
 
 void AskOperator::ChooseInGuide(const Form& form, const std::string& word) {
+  if (std::exchange(unconfirmed_, {}).lock() == form) {
+    if (word == "yes") return Click(form, guide::kNotApplicable);
+    return Put(form);
+  }
   const auto button =
       std::find_if(kButtons.begin(), kButtons.end(), [&](const Button& known) { return known.word == word; });
   const auto toolbar = GuideToolbar(*form);
-  if (toolbar && button != kButtons.end())
-    toolbar->Click(button->command);  // play returns when the run is over
+  if (!toolbar || button == kButtons.end() || !toolbar->IsEnabled(button->command)) return Put(form);
+  if (button->command != guide::kNotApplicable) return Click(form, button->command);
+  unconfirmed_ = form;
+  AskNotApplicable();
+}
+
+void AskOperator::AskNotApplicable() {
+  reporter_.Prompted(WithChoices(Tr("Record test %%1 as not applicable?", {test_()}), "yes, no"));
+}
+
+void AskOperator::Click(const Form& form, std::int32_t command) {
+  if (const auto toolbar = GuideToolbar(*form)) toolbar->Click(command);  // play returns when the run is over
   if (form->Visible()) Put(form);
 }
 

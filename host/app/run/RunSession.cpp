@@ -10,7 +10,9 @@
 #include "host/elements/ElementFactory.h"
 #include "host/instruments/InstrumentColl.h"
 #include "host/judge/CaseOf.h"
+#include "host/report/VisibleText.h"
 #include "host/run/AutoOperator.h"
+#include "host/run/ElementText.h"
 #include "host/run/ElementWalk.h"
 #include "host/services/LeadCalibrations.h"
 #include "host/services/Tr.h"
@@ -94,8 +96,16 @@ void RunSession::Listen() {
       [this](const Element& element) { reporter_.Started(Judged(*element)); }));
   heard_.push_back(controller_->Finished().Subscribe(
       [this](const Element& element) { reporter_.Finished(Judged(*element)); }));
-  heard_.push_back(runner_.Reached().Subscribe(
-      [this](std::size_t place, std::size_t count, const Element&) { reporter_.Reached(place, count); }));
+  heard_.push_back(
+      runner_.Reached().Subscribe([this](std::size_t place, std::size_t count, const Element& element) {
+        reached_ = element;
+        reporter_.Reached(place, count);
+      }));
+}
+
+std::string RunSession::ReachedTest() const {
+  return std::to_string(reached_->TestID()) + " " +
+         report::VisibleText(ElementName(*reached_, *workbench_.Host()->Elements()));
 }
 
 judge::JudgedElement RunSession::Judged(const orvik::ITestElement& element) const {
@@ -114,7 +124,8 @@ DocumentRunner::End RunSession::Run(const std::vector<Element>& elements) {
 
 std::unique_ptr<IOperator> RunSession::MakeOperator() {
   const auto& application = workbench_.Application();
-  if (kind_ == OperatorKind::kTerminal) return std::make_unique<AskOperator>(application, stop_, reporter_);
+  if (kind_ == OperatorKind::kTerminal)
+    return std::make_unique<AskOperator>(application, stop_, reporter_, [this] { return ReachedTest(); });
   if (kind_ == OperatorKind::kScreen) return std::make_unique<ScreenOperator>(application, stop_);
   auto program = std::make_unique<AutoOperator>(application, stop_);
   heard_.push_back(

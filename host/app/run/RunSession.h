@@ -47,6 +47,8 @@ class RunSession {
  private:
   void Listen();
   judge::JudgedElement Judged(const orvik::ITestElement& element) const;
+  /// Number and name of the test that the run has reached, whose guide is shown.
+  std::string ReachedTest() const;
   std::unique_ptr<IOperator> MakeOperator();
 
   Workbench& workbench_;
@@ -63,6 +65,7 @@ class RunSession {
   RunRecorder recorder_;
   const std::shared_ptr<RunController> controller_;
   DocumentRunner runner_;
+  std::shared_ptr<orvik::ITestElement> reached_;
   std::vector<orvik::platform::Subscription> heard_;
 };
 
