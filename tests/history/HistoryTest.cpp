@@ -14,6 +14,10 @@ namespace history {
 namespace {
 
 constexpr int kHistories = 3000;
+/// They are played in so many parts, each a test, which can run at the same time.
+constexpr int kParts = 2;
+/// Where a part of histories without end begins.
+constexpr int kPartsApart = 1'000'000;
 /// One of so many goes through the command line.
 constexpr int kByCommandEvery = 16;
 
@@ -77,14 +81,18 @@ class Histories {
   Player player_{bench_};
 };
 
-TEST(History, SaysOfEveryHistoryWhatWasMeasured) {
+class HistoryTest : public testing::TestWithParam<int> {};
+
+TEST_P(HistoryTest, SaysOfEveryHistoryWhatWasMeasured) {
   const int wanted = HistoriesWanted();
+  const int first = wanted == 0 ? GetParam() * kPartsApart : wanted * GetParam() / kParts;
+  const int end = wanted * (GetParam() + 1) / kParts;
   const auto seed = support::Seed();
   UseFilesInMemory();
   Histories histories(seed);
   int played = 0;
-  for (; (wanted == 0 || played < wanted) && !HasFailure(); ++played)
-    if (const auto wrong = histories.Play(played)) ADD_FAILURE() << "history " << played << ":" << *wrong;
+  for (int number = first; (wanted == 0 || number < end) && !HasFailure(); ++number, ++played)
+    if (const auto wrong = histories.Play(number)) ADD_FAILURE() << "history " << number << ":" << *wrong;
 
   const auto& seen = histories.Seen();
   std::cout << played << " histories, " << seen.operations << " operations, " << seen.elements
@@ -103,6 +111,8 @@ TEST(History, SaysOfEveryHistoryWhatWasMeasured) {
   for (const auto* outcome : {"passed", "failed", "incomplete"})
     EXPECT_GT(seen.outcomes.at(outcome) * 50, seen.operations) << outcome;
 }
+
+INSTANTIATE_TEST_SUITE_P(Parts, HistoryTest, testing::Range(0, kParts));
 
 }  // namespace
 }  // namespace history
