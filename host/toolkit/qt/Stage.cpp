@@ -43,7 +43,7 @@ class Stage::HostWatch final : public QObject {
         // The native window sees what is done to everything inside.
         if (auto* window = stage_.hostWindow_->windowHandle()) window->installEventFilter(this);
         break;
-      case QEvent::WindowActivate:
+      // Not when it becomes active: window managers do that in passing while they minimise both.
       case QEvent::MouseButtonPress:
       case QEvent::KeyPress:
         stage_.RestoreMinimised();
