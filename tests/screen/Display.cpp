@@ -9,6 +9,7 @@ namespace screen_test {
 
 namespace {
 
+constexpr char kSetPrivileges[] = "/usr/bin/setpriv";
 constexpr char kServer[] = "/usr/bin/Xvfb", kManager[] = "/usr/bin/openbox";
 constexpr char kMouseAndKeys[] = "/usr/bin/xdotool", kProperties[] = "/usr/bin/xprop";
 
@@ -21,6 +22,12 @@ std::vector<unsigned long> WindowsIn(const std::string& property) {
   return windows;
 }
 
+/// The program ends with the test, even if that crashes.
+std::unique_ptr<cli::RunningProgram> Started(std::vector<std::string> words) {
+  words.insert(words.begin(), {"--pdeathsig", "KILL"});
+  return std::make_unique<cli::RunningProgram>(kSetPrivileges, std::move(words));
+}
+
 }  // namespace
 
 Display::Display(QSize size) {
@@ -28,13 +35,11 @@ Display::Display(QSize size) {
   for (const auto* variable : {"HOME", "XDG_RUNTIME_DIR"}) setenv(variable, home_.Path().c_str(), 1);
   for (const auto* variable : {"XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_DATA_HOME"}) unsetenv(variable);
   const auto geometry = std::to_string(size.width()) + "x" + std::to_string(size.height()) + "x24";
-  server_ = std::make_unique<cli::RunningProgram>(
-      kServer, std::vector<std::string>{"-displayfd", "1", "-screen", "0", geometry, "-nolisten", "tcp"});
+  server_ = Started({kServer, "-displayfd", "1", "-screen", "0", geometry, "-nolisten", "tcp"});
   if (!server_->AwaitOutput("\n")) throw std::runtime_error("Xvfb does not start: " + server_->Wait().error);
   setenv("DISPLAY", (":" + std::to_string(std::stoi(server_->Output()))).c_str(), 1);
   // The command is run once it manages windows.
-  manager_ = std::make_unique<cli::RunningProgram>(
-      kManager, std::vector<std::string>{"--sm-disable", "--startup", "/bin/echo ready"});
+  manager_ = Started({kManager, "--sm-disable", "--startup", "/bin/echo ready"});
   if (!manager_->AwaitOutput("ready"))
     throw std::runtime_error("openbox does not start: " + manager_->Wait().error);
 }

@@ -77,7 +77,6 @@ TEST_P(SizeTest, LongVerdictIsSeenWhole) {
 }
 
 TEST_P(SizeTest, GuideFitsOnTheScreen) {
-  constexpr int kPlay = 202, kValue = 3;
   DriveRun({"410", "910"}, "broken-earth",
            {Guide(kPlay), Await("a failed reading", [this] { return Cell(1, kValue) == "1850 mOhm"; }),
             Await("the whole guide on the screen", [] {
