@@ -42,7 +42,7 @@ Operation Generator::Draw(const World& world) {
                                                     {0, planning ? 4 : 10},   // world
                                                     {0, planning ? 0 : 7},    // equipment fields
                                                     {0, planning ? 4 : 30},   // run
-                                                    {0, planning ? 0 : 7},    // tampering
+                                                    {0, planning ? 0 : 11},   // tampering
                                                     {0, planning ? 0 : 3}}};  // another document
   switch (dice_.ByWeight(weights)) {
     case 0:

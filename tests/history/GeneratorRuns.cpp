@@ -61,6 +61,7 @@ std::string Generator::Faults(const Plan& plan) {
 TesterSetup Generator::Tester(const Plan& plan) {
   TesterSetup tester;
   if (dice_.Chance(15)) tester.serial = "T-2";
+  if (dice_.Chance(6)) tester.laterSerial = tester.serial == "T-1" ? "T-2" : "T-1";
   if (dice_.Chance(4)) tester.serial = "";
   if (dice_.Chance(3)) tester.type = "KELD(XX)";
   while (dice_.Chance(25)) {
@@ -115,6 +116,9 @@ Operation Generator::Tampered(const DocumentState& document) {
   // Most of what can be changed is where something was done.
   if (!document.records.empty() && dice_.Chance(40))
     tampering.kind = dice_.One({Kind::kResultStatus, Kind::kResultValue});
+  else if (document.runs > 1 && dice_.Chance(60))
+    tampering.kind = dice_.One(
+        {Kind::kRunAttribute, Kind::kRunNode, Kind::kRunText, Kind::kRunRemoved, Kind::kRunsSwapped});
   tampering.element = AnyElement(document).id;
   tampering.which = static_cast<std::uint32_t>(dice_.Next() % 1000000);
   switch (tampering.kind) {

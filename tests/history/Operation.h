@@ -34,6 +34,7 @@ struct Behaviour {
 
 struct TesterSetup {
   std::string serial = "T-1";
+  std::string laterSerial;  ///< of the tester that is there from the second session on; empty for the same
   std::string type = "KELD(IN)";
   std::vector<Behaviour> behaviours;
   std::string faults;           ///< lines of a fault script

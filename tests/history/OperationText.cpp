@@ -82,6 +82,7 @@ std::string TextOf(const Behaviour& behaviour) {
 
 std::string Remark(const RunSetup& run) {
   auto text = "tester \"" + run.tester.serial + "\"";
+  if (!run.tester.laterSerial.empty()) text += ", then \"" + run.tester.laterSerial + "\"";
   if (run.tester.type != "KELD(IN)") text += " of type " + run.tester.type;
   for (const auto& behaviour : run.tester.behaviours) text += "; " + TextOf(behaviour);
   std::string faults = run.tester.faults;

@@ -50,8 +50,11 @@ Verdicts Oracle::Allowed(const Element& element, const Said& said) const {
   const auto* record = RecordOf(element.id);
   if (!record) return {kNotTested};
   auto allowed = ByRecord(element, *record, said);
-  if (record->resultChanged || record->recordChanged) allowed.insert({kDoubtful, kNotTested});
-  if (record->recordChanged) {
+  if (record->resultChanges == 1 && !allowed.contains(kAborted)) allowed = {kNotTested};
+  const bool inDoubt = InDoubt(*record, document_);
+  if (record->resultChanges > 0 || inDoubt) allowed.insert(kNotTested);
+  if (record->resultChanges > 1 || inDoubt) allowed.insert(kDoubtful);
+  if (inDoubt) {
     // What came last may be hidden.
     if (FailedBefore(element)) allowed.insert(kFailed);
     for (const auto& done : {kPassed, kRecorded, kNotApplicable}) allowed.erase(done);
@@ -65,7 +68,11 @@ Verdicts Oracle::ByRecord(const Element& element, const Record& record, const Sa
   if (record.how == Record::How::kAborted) return {kAborted};
   if (element.group && OlderThanAChild(element, record)) return {kNotTested};
   if (record.how == Record::How::kNotApplicable) return {kNotApplicable};
-  return element.group ? OfGroup(element, record, said) : OfTest(element, record);
+  auto allowed = element.group ? OfGroup(element, record, said) : OfTest(element, record);
+  if (record.interrupted) allowed.insert(kNotTested);
+  if (element.group && record.anyResult == Maybe::kNo) allowed = {kNotTested};
+  if (element.group && record.anyResult == Maybe::kUnknown) allowed.insert(kNotTested);
+  return allowed;
 }
 
 Verdicts Oracle::OfTest(const Element& element, const Record& record) const {
@@ -119,14 +126,14 @@ bool Oracle::CouldHaveFailed(const Element& element, const Record& record) const
       continue;
     }
     for (const auto& limit : limits) {
-      for (const int power : {0, 3, -3})
-        for (const int leads : {0, record.leads}) {
-          const auto less = number->TimesPowerOfTen(power) - Decimal(leads);
-          if (BreaksByNumber(limit, leads == 0 ? less : std::max(less, Decimal(0)), element.testId))
-            return true;
-        }
-      // Compared as it is, whatever its unit.
-      if ((limit.low && *number < *limit.low) || (limit.high && *number > *limit.high)) return true;
+      for (const int power : {0, 3, -3}) {
+        // Compared as it is, whatever the limit's unit, or less the leads.
+        const auto bare = number->TimesPowerOfTen(power);
+        const auto less = std::max(bare - Decimal(record.leads), Decimal(0));
+        if ((limit.low && bare < *limit.low) || (limit.high && bare > *limit.high)) return true;
+        if (BreaksByNumber(limit, bare, element.testId) || BreaksByNumber(limit, less, element.testId))
+          return true;
+      }
       if (record.read &&
           limit.BrokenBy(Corrected(*record.read, element.testId, record.leads)).value_or(false))
         return true;
@@ -154,7 +161,7 @@ Oracle::Summary Oracle::ValueOf(const Element& element) const {
   Summary value;
   const auto* record = RecordOf(element.id);
   if (!record || !StillHolds(element, *record) || record->how != Record::How::kTester) return value;
-  if (record->resultChanged || record->recordChanged || record->interrupted) value.known = false;
+  if (record->resultChanges > 0 || InDoubt(*record, document_) || record->interrupted) value.known = false;
   if (element.group) return OlderThanAChild(element, *record) ? value : SummaryOf(element);
   if (record->spoiled || record->doubtful) value.known = false;
   if (!record->read) return value;

@@ -64,6 +64,7 @@ void RunWatch::Saved(bool last) {
   savedSince_ = true;
   if (std::exchange(begun_, true)) return;
   document_.inFile.push_back(++document_.runs);
+  document_.runBefore[document_.runs] = std::exchange(document_.lastRun, document_.runs);
   document_.simulated = document_.simulated.value_or(run_.simulated);
   document_.anySimulated = document_.anySimulated || run_.simulated;
   for (const int top : tops_) TakeUp(*document_.plan.Find(top));
@@ -81,6 +82,7 @@ void RunWatch::Begin(const Element& element) {
   record.equipment = document_.plan.equipment;
   record.testId = element.testId;
   record.options = MeasuringPart(element.options);
+  record.interrupted = pressed_;
   for (const auto& limit : element.limits) {
     const auto& names = run_.standards;
     if (names.empty() || std::find(names.begin(), names.end(), limit.standard) != names.end())
@@ -97,6 +99,7 @@ void RunWatch::Reached(int element) {
   if (Over()) return;
   top_ = element;
   leaf_ = 0;
+  pressed_ = false;
 }
 
 void RunWatch::Started(int element) {
@@ -158,6 +161,10 @@ void RunWatch::SumUp(const Element& group, Record& record) const {
   record.summaryKnown = !record.interrupted;
   for (const auto& child : group.children) {
     const auto& below = document_.records.at(child.id);
+    const bool unsure = below.spoiled || below.doubtful || below.interrupted;
+    auto result = child.group ? below.anyResult : unsure ? Maybe::kUnknown : Maybe::kNo;
+    if (!child.group && (below.read || below.lacked || below.refusedNow) && !unsure) result = Maybe::kYes;
+    if (record.anyResult != Maybe::kYes && result != Maybe::kNo) record.anyResult = result;
     if (below.failed == Maybe::kYes && record.failed == Maybe::kNo) record.failed = Maybe::kYes;
     if (below.failed == Maybe::kUnknown) record.failed = Maybe::kUnknown;
     std::optional<Decimal> value;
@@ -165,7 +172,7 @@ void RunWatch::SumUp(const Element& group, Record& record) const {
       record.summaryKnown = record.summaryKnown && below.summaryKnown;
       value = below.summary;
     } else {
-      if (below.spoiled || below.doubtful || below.interrupted) record.summaryKnown = false;
+      if (unsure) record.summaryKnown = false;
       if (below.read && below.read->unit != UsualUnit(child.testId)) record.summaryKnown = false;
       if (below.read) value = Corrected(*below.read, child.testId, below.leads).number;
     }
@@ -185,6 +192,7 @@ void RunWatch::SumUp(const Element& group, Record& record) const {
 void RunWatch::Aborted(bool inWaitingGuide) {
   if (Over() || top_ == 0) return;
   if (!inWaitingGuide) {
+    pressed_ = true;
     for (const auto* element : Below(*document_.plan.Find(top_))) RecordOf(element->id).interrupted = true;
     return;
   }
@@ -192,12 +200,13 @@ void RunWatch::Aborted(bool inWaitingGuide) {
     for (const auto* below : Below(child)) RecordOf(below->id).interrupted = true;
   auto& record = RecordOf(top_);
   record.finished = !document_.plan.Find(top_)->group;
-  record.finishedAt = ++document_.step;
+  if (record.finished) record.finishedAt = ++document_.step;
   record.how = Record::How::kAborted;
 }
 
 void RunWatch::Stopped() {
   if (Over()) return;
+  pressed_ = true;
   if (auto* measured = Measured()) measured->interrupted = true;
   // Stopped, a sequence takes back what its tests have measured.
   for (const int element : running_)
@@ -229,6 +238,9 @@ void RunWatch::Sent(const std::string& line, bool somethingWaits, Time at) {
 }
 
 void RunWatch::Received(const std::string& line, Time at) {
+  // Remembered by the settings, whatever becomes of the document.
+  const auto fields = FieldsOf(line);
+  if (fields[0] == "irem" && fields.size() >= 3 && !fields[2].empty()) world_.lastSerial = fields[2];
   if (Over()) return;
   if (!answered_ && at - sentAt_ <= kWaitForReply)
     answered_ = true;
@@ -265,7 +277,6 @@ void RunWatch::TakeIdentity(const std::string& line, bool isTrue) {
   if (!whole && isTrue) plausible_ = false;
   if (!whole && !isTrue) doubtful_ = true;
   if (!isTrue) spoiled_ = true;
-  if (fields.size() >= 3 && !fields[2].empty()) world_.lastSerial = fields[2];
   if (auto* measured = Measured()) {
     measured->leads = world_.LeadsOf(world_.lastSerial);
     measured->plausible = measured->plausible && plausible_;
@@ -284,7 +295,8 @@ void RunWatch::Suspect(const std::string& line, Record& record) const {
   if (line == "ERRM,1003" && command[0] == "STST") record.doubtful = true;
   if (line != "ERRM,6002") return;
   // The tester's word counts where it was asked for, whatever made it say so.
-  (command[0] == "STST" && running_.contains(leaf_) ? record.lacked : record.doubtful) = true;
+  if (command[0] != "STST") record.doubtful = true;
+  if (command[0] == "STST" && running_.contains(leaf_)) record.lacked = true;
 }
 
 void RunWatch::Dropped() {

@@ -67,6 +67,7 @@ class RunWatch {
   std::vector<int> tops_;
   std::set<int> running_;
   int top_ = 0, leaf_ = 0;
+  bool pressed_ = false;  ///< stop or abort, since the guide was shown
   Record::How word_ = Record::How::kTester;
 
   // The session with the tester.

@@ -8,7 +8,7 @@ namespace {
 
 using Simplify = void (*)(RunSetup&);
 
-constexpr std::array<Simplify, 10> kSimpler{{
+constexpr std::array<Simplify, 11> kSimpler{{
     [](RunSetup& run) { run.presses.clear(); },
     [](RunSetup& run) { run.tester.behaviours.clear(); },
     [](RunSetup& run) { run.tester.faults.clear(); },
@@ -19,6 +19,7 @@ constexpr std::array<Simplify, 10> kSimpler{{
     [](RunSetup& run) { run.standards.clear(); },
     [](RunSetup& run) { run.newProgram = true; },
     [](RunSetup& run) { run.tester.serial = "T-1"; },
+    [](RunSetup& run) { run.tester.laterSerial.clear(); },
 }};
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <map>
 #include <pugixml.hpp>
+#include <sstream>
 #include <stdexcept>
 #include <vector>
 
@@ -45,18 +46,6 @@ bool SetText(pugi::xml_node node, const std::string& value) {
   return node.text().set(value.c_str());
 }
 
-int PlaceOf(const Record& record, const DocumentState& document) {
-  const auto& runs = document.inFile;
-  const auto found = std::find(runs.begin(), runs.end(), record.run);
-  return found == runs.end() ? -1 : static_cast<int>(found - runs.begin());
-}
-
-/// No result of these runs can be relied on.
-void DoubtRunsUpTo(int place, DocumentState& document) {
-  for (auto& [id, record] : document.records)
-    if (PlaceOf(record, document) <= place) record.recordChanged = true;
-}
-
 /// Runs are gone, or in another order: the last record of an element may be another one.
 void OrderRecordsAnew(DocumentState& document) {
   std::map<int, Record> last;
@@ -69,7 +58,8 @@ void OrderRecordsAnew(DocumentState& document) {
     });
     if (past.empty()) continue;
     last[id] = past.back();
-    last[id].resultChanged = last[id].resultChanged || last[id].run != record.run;
+    // The saved result is of another run, and may look the same.
+    if (last[id].run != record.run) last[id].resultChanges = 2;
     past.pop_back();
   }
   document.records = std::move(last);
@@ -80,17 +70,20 @@ bool ChangeResult(const pugi::xml_document& xml, const Tampering& tampering, Doc
   const auto record = document.records.find(tampering.element);
   if (!result || record == document.records.end()) return false;
   bool changed = false;
+  const std::string status = result.child("Status").text().get();
+  // Where nothing passed or failed, nobody asks for the reading.
+  const bool matters = tampering.kind != Tampering::Kind::kResultValue || status == "1" || status == "2";
   if (tampering.kind == Tampering::Kind::kResultRemoved)
     changed = result.parent().remove_child(result);
   else if (tampering.kind == Tampering::Kind::kResultStatus)
     changed = SetText(result.child("Status"), tampering.value);
   else
     changed = SetText(result.child("Measurement").child("Value"), tampering.value);
-  record->second.resultChanged = record->second.resultChanged || changed;
+  if (changed) record->second.resultChanges += matters ? 1 : 2;
   return changed;
 }
 
-bool ChangeRun(pugi::xml_node run, int place, const Tampering& tampering, DocumentState& document) {
+bool ChangeRun(pugi::xml_node run, int number, const Tampering& tampering, DocumentState& document) {
   if (tampering.kind == Tampering::Kind::kRunAttribute) {
     std::vector<pugi::xml_attribute> attributes;
     for (const auto node : Below(run, pugi::node_element, true))
@@ -108,7 +101,7 @@ bool ChangeRun(pugi::xml_node run, int place, const Tampering& tampering, Docume
     if (!chosen) return false;
     chosen->parent().remove_child(*chosen);
   }
-  DoubtRunsUpTo(place, document);
+  document.changedRuns.insert(number);
   return true;
 }
 
@@ -122,17 +115,15 @@ bool ChangeRuns(const pugi::xml_document& xml, const Tampering& tampering, Docum
     section.remove_child(runs[place]);
     inFile.erase(inFile.begin() + static_cast<std::ptrdiff_t>(place));
     OrderRecordsAnew(document);
-    DoubtRunsUpTo(static_cast<int>(place) - 1, document);
     return true;
   }
   if (tampering.kind != Tampering::Kind::kRunsSwapped)
-    return ChangeRun(runs[place], static_cast<int>(place), tampering, document);
+    return ChangeRun(runs[place], inFile[place], tampering, document);
   if (runs.size() < 2) return false;
   place %= runs.size() - 1;
   section.insert_move_before(runs[place + 1], runs[place]);
   std::swap(inFile[place], inFile[place + 1]);
   OrderRecordsAnew(document);
-  DoubtRunsUpTo(static_cast<int>(place) + 1, document);
   return true;
 }
 
@@ -150,8 +141,16 @@ bool ChangeLimit(const pugi::xml_document& xml, const Tampering& tampering, Docu
   const auto standard = chosen->parent();
   const auto bound = [&](const char* name) { return Decimal::Parsed(chosen->attribute(name).value()); };
   const bool marked = element->recordOnly;
-  element->SetLimit({standard.attribute("Name").value(), standard.attribute("Description").value(),
-                     bound("Low"), bound("High"), chosen->attribute("Unit").value(), !ofBound});
+  Limit limit{standard.attribute("Name").value(),
+              standard.attribute("Description").value(),
+              bound("Low"),
+              bound("High"),
+              chosen->attribute("Unit").value(),
+              !ofBound};
+  for (const auto& known : element->limits)
+    if (known.standard == limit.standard && known.description == limit.description)
+      limit.foreign = limit.foreign || known.foreign;
+  element->SetLimit(limit);
   element->recordOnly = marked;
   return true;
 }
@@ -193,14 +192,22 @@ bool Change(const pugi::xml_document& xml, const Tampering& tampering, DocumentS
   }
 }
 
-/// Which runs may come next depends on what the file says of those that it holds.
-void NoteKindOfRuns(const pugi::xml_document& xml, DocumentState& document) {
+/// What may come next depends on what the file says of the runs that it holds: their kind, and the
+/// identifiers that they name.
+void NoteRuns(const pugi::xml_document& xml, DocumentState& document) {
   document.simulated.reset();
   document.anySimulated = false;
+  document.highestTaken = 0;
   for (const auto run : xml.document_element().child("Runs").children("Run")) {
     const bool simulated = std::string_view(run.attribute("Simulated").value()) == "1";
     document.simulated = document.simulated.value_or(simulated);
     document.anySimulated = document.anySimulated || simulated;
+    for (const auto takes : run.children("Takes")) {
+      std::istringstream identifiers(takes.attribute("Elements").value());
+      for (int id = 0; identifiers >> id;) document.highestTaken = std::max(document.highestTaken, id);
+    }
+    for (const auto test : run.children("Test"))
+      document.highestTaken = std::max(document.highestTaken, test.attribute("Element").as_int());
   }
 }
 
@@ -210,7 +217,7 @@ bool Tamper(const std::filesystem::path& file, const Tampering& tampering, Docum
   pugi::xml_document xml;
   if (!xml.load_file(file.c_str(), pugi::parse_full)) throw std::runtime_error("no XML: " + file.string());
   if (!Change(xml, tampering, document)) return false;
-  NoteKindOfRuns(xml, document);
+  NoteRuns(xml, document);
   document.tampered = true;
   const bool anew = tampering.kind == Tampering::Kind::kReformat;
   return xml.save_file(file.c_str(), anew ? "\t" : "  ",

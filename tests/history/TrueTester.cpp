@@ -53,7 +53,10 @@ void TrueTester::OnReply(const sim::Exchange& exchange, sim::Reply& reply) {
 
 std::string TrueTester::TrueLine(const std::string& command, const std::string& said) {
   readings_.erase(command);
-  if (said.starts_with("irem")) return "irem," + setup_.type + "," + setup_.serial + ",3.10";
+  if (said.starts_with("irem")) {
+    const bool later = ++sessions_ > 1 && !setup_.laterSerial.empty();
+    return "irem," + setup_.type + "," + (later ? setup_.laterSerial : setup_.serial) + ",3.10";
+  }
   int testId = 0, setting = 0;
   if (std::sscanf(command.c_str() + 4, ",%d,%d", &testId, &setting) != 2) return said;
   if (said.starts_with("stst")) {

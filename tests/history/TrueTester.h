@@ -39,6 +39,7 @@ class TrueTester final : public sim::Faults {
   const TesterSetup& setup_;
   std::unique_ptr<sim::Faults> script_, random_;
   std::uint64_t commands_ = 0;
+  int sessions_ = 0;
   std::map<std::string, std::string> replies_;
   std::map<std::string, Reading> readings_;
 };

@@ -50,10 +50,10 @@ struct Record {
   Maybe failed = Maybe::kNo;       ///< whether the plug-in found it failed; of a single test too
   std::optional<Decimal> summary;  ///< by number
   bool summaryKnown = true;
+  Maybe anyResult = Maybe::kNo;  ///< whether any of its tests had a result
 
   // What other programs did since.
-  bool resultChanged = false;
-  bool recordChanged = false;
+  int resultChanges = 0;  ///< of the saved result; after several it may be as before
 
   long LastAt() const { return finishedAt > takenAt ? finishedAt : takenAt; }
 };
@@ -64,12 +64,21 @@ struct DocumentState {
   std::map<int, std::vector<Record>> past;  ///< those of runs before it, oldest first
   int runs = 0;                             ///< that were ever begun; each has its number here
   std::vector<int> inFile;                  ///< those that the file holds, in its order
+  std::set<int> changedRuns;                ///< those that another program has changed
+  std::map<int, int> runBefore;             ///< which run came before each, when it was begun
+  int lastRun = 0;                          ///< the one that was begun last
   std::optional<bool> simulated;            ///< once there is a run: whether the first is
   bool anySimulated = false;
   bool tampered = false;  ///< whether another program has ever changed the file
   long step = 0;
   int highestTaken = 0;  ///< the highest identifier that a run has named
 };
+
+/// The place of the record's run in the file, from 0; -1 when the file does not hold it.
+int PlaceOf(const Record& record, const DocumentState& document);
+/// Whether another program has changed the record's run or a later one, taken a later one away, or changed
+/// their order: what came last may be hidden.
+bool InDoubt(const Record& record, const DocumentState& document);
 
 struct World {
   std::map<std::string, DocumentState> documents;
