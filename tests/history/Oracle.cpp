@@ -67,7 +67,11 @@ Verdicts Oracle::ByRecord(const Element& element, const Record& record, const Sa
   if (!StillHolds(element, record) || record.how == Record::How::kSkipped) return {kNotTested};
   if (record.how == Record::How::kAborted) return {kAborted};
   if (element.group && OlderThanAChild(element, record)) return {kNotTested};
-  if (record.how == Record::How::kNotApplicable) return {kNotApplicable};
+  if (record.how == Record::How::kNotApplicable) {
+    // Set aside at once, none of them is the older one; a test that another group had then may be either.
+    if (HasMovedIn(element, record)) return {kNotApplicable, kNotTested};
+    return {kNotApplicable};
+  }
   auto allowed = element.group ? OfGroup(element, record, said) : OfTest(element, record);
   if (record.interrupted) allowed.insert(kNotTested);
   if (element.group && record.anyResult == Maybe::kNo) allowed = {kNotTested};
@@ -148,6 +152,13 @@ bool Oracle::FailedBefore(const Element& element) const {
          std::any_of(past->second.begin(), past->second.end(), [&](const Record& record) {
            return record.failed != Maybe::kNo || CouldHaveFailed(element, record);
          });
+}
+
+bool Oracle::HasMovedIn(const Element& group, const Record& record) const {
+  return std::any_of(group.children.begin(), group.children.end(), [&](const Element& child) {
+    const auto* below = RecordOf(child.id);
+    return below && below->run == record.run && below->parent != group.id;
+  });
 }
 
 bool Oracle::OlderThanAChild(const Element& group, const Record& record) const {

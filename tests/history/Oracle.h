@@ -36,6 +36,7 @@ class Oracle {
   bool FailedBefore(const Element& element) const;
 
   Verdicts OfGroup(const Element& group, const Record& record, const Said& said) const;
+  bool HasMovedIn(const Element& group, const Record& record) const;
   bool OlderThanAChild(const Element& group, const Record& record) const;
   /// What the group's filter makes of the readings that count.
   struct Summary {

@@ -37,7 +37,10 @@ void TellOfWire(const bench::WireRecord& record, RunWatch& watch) {
 
 std::optional<std::string> RunOf::Perform(const Operation& operation, World& world) {
   const auto& run = operation.run;
-  if (run.newProgram) keld::MKELDGlobalVars::InstrumentDataSlot().reset();
+  if (run.newProgram) {
+    keld::MKELDGlobalVars::InstrumentDataSlot().reset();
+    world.leadsInUse = world.LeadsOf(world.lastSerial);
+  }
   const auto document = bench::Document::Open(bench_.Only().SharedHost(), folder_ + operation.file);
   bench::RequireOneKindOfRuns(*document, run.simulated);
   const auto elements = Selected(operation, *document);

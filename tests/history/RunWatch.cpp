@@ -80,6 +80,8 @@ void RunWatch::Begin(const Element& element) {
   record.run = document_.runs;
   record.takenAt = document_.step;
   record.equipment = document_.plan.equipment;
+  const auto* parent = document_.plan.ParentOf(element.id);
+  record.parent = parent ? parent->id : 0;
   record.testId = element.testId;
   record.options = MeasuringPart(element.options);
   record.interrupted = pressed_;
@@ -112,7 +114,7 @@ void RunWatch::Started(int element) {
   if (started.group) return;
   leaf_ = element;
   auto& record = RecordOf(element);
-  record.leads = world_.LeadsOf(world_.lastSerial);
+  record.leads = world_.leadsInUse;
   record.plausible = plausible_;
   record.spoiled = spoiled_;
   record.doubtful = doubtful_;
@@ -240,7 +242,10 @@ void RunWatch::Sent(const std::string& line, bool somethingWaits, Time at) {
 void RunWatch::Received(const std::string& line, Time at) {
   // Remembered by the settings, whatever becomes of the document.
   const auto fields = FieldsOf(line);
-  if (fields[0] == "irem" && fields.size() >= 3 && !fields[2].empty()) world_.lastSerial = fields[2];
+  if (fields[0] == "irem" && fields.size() >= 3 && !fields[2].empty()) {
+    world_.lastSerial = fields[2];
+    world_.leadsInUse = world_.LeadsOf(fields[2]);
+  }
   if (Over()) return;
   if (!answered_ && at - sentAt_ <= kWaitForReply)
     answered_ = true;
@@ -278,7 +283,7 @@ void RunWatch::TakeIdentity(const std::string& line, bool isTrue) {
   if (!whole && !isTrue) doubtful_ = true;
   if (!isTrue) spoiled_ = true;
   if (auto* measured = Measured()) {
-    measured->leads = world_.LeadsOf(world_.lastSerial);
+    measured->leads = world_.leadsInUse;
     measured->plausible = measured->plausible && plausible_;
     measured->doubtful = measured->doubtful || doubtful_;
     measured->spoiled = measured->spoiled || spoiled_;

@@ -30,6 +30,7 @@ struct Record {
 
   // On what, and under which settings.
   Equipment equipment;
+  int parent = 0;  ///< what held it; 0 for an element at the top
   int testId = 0;
   int options = 0;            ///< those that decide what is measured
   std::vector<Limit> limits;  ///< by which the plug-in judged
@@ -84,6 +85,7 @@ struct World {
   std::map<std::string, DocumentState> documents;
   std::map<std::string, int> leads;  ///< stored, by serial number of the tester
   std::string lastSerial;            ///< of the tester that the program had last
+  int leadsInUse = 0;                ///< as the program had them for that tester
   std::map<Equipment, std::map<std::pair<int, int>, Amount>> equipment;
 
   /// What the equipment has in the test and setting, as a tester without fault reads it.
