@@ -13,7 +13,6 @@
 #include <algorithm>
 #include <map>
 
-#include "host/desktop/Shown.h"
 #include "host/services/Tr.h"
 #include "host/toolkit/qt/Pictures.h"
 #include "host/toolkit/qt/Texts.h"
@@ -38,14 +37,14 @@ bool StandsBelowChosen(const QTreeWidgetItem& row) {
 AddTestsDialog::AddTestsDialog(const std::vector<CatalogueEntry>& entries, QWidget* parent)
     : QDialog(parent), search_(new QLineEdit(this)), tests_(new QTreeWidget(this)) {
   setObjectName("addTests");
-  setWindowTitle(Shown(Tr("Add tests")));
+  setWindowTitle(qt::ToQt(Tr("Add tests")));
   search_->setObjectName("search");
-  search_->setPlaceholderText(Shown(Tr("Search by name or number")));
+  search_->setPlaceholderText(qt::ToQt(Tr("Search by name or number")));
   search_->setAccessibleName(search_->placeholderText());
   search_->setClearButtonEnabled(true);
   tests_->setObjectName("catalogue");
-  tests_->setAccessibleName(Shown(Tr("Catalogue of tests")));
-  tests_->setHeaderLabels({Shown(Tr("No.")), Shown(Tr("Test")), Shown(Tr("Unit"))});
+  tests_->setAccessibleName(qt::ToQt(Tr("Catalogue of tests")));
+  tests_->setHeaderLabels({qt::ToQt(Tr("No.")), qt::ToQt(Tr("Test")), qt::ToQt(Tr("Unit"))});
   tests_->setSelectionMode(QAbstractItemView::ExtendedSelection);
   tests_->setTreePosition(kTestName);
   tests_->setUniformRowHeights(true);
@@ -56,9 +55,9 @@ AddTestsDialog::AddTestsDialog(const std::vector<CatalogueEntry>& entries, QWidg
     const auto above = groups.find(entry.parent);
     auto* row = above == groups.end() ? new QTreeWidgetItem(tests_) : new QTreeWidgetItem(above->second);
     row->setText(kTestNumber, QString::number(entry.testId));
-    row->setText(kTestName, Shown(entry.name));
+    row->setText(kTestName, qt::ToQt(entry.name));
     row->setToolTip(kTestName, qt::PlainToolTip(entry.name));
-    row->setText(kTestUnit, Shown(entry.unit));
+    row->setText(kTestUnit, qt::ToQt(entry.unit));
     if (entry.sequence) groups[entry.testId] = row;
     rows_.push_back(row);
   }
@@ -70,11 +69,12 @@ AddTestsDialog::AddTestsDialog(const std::vector<CatalogueEntry>& entries, QWidg
   tests_->expandToDepth(kFirstDepth);
 
   auto* buttons = new QDialogButtonBox(this);
-  add_ = buttons->addButton(Shown(Tr("Add")), QDialogButtonBox::AcceptRole);
+  add_ = buttons->addButton(qt::ToQt(Tr("Add")), QDialogButtonBox::AcceptRole);
   add_->setObjectName("add");
   add_->setEnabled(false);
-  buttons->addButton(Shown(Tr("Cancel")), QDialogButtonBox::RejectRole);
-  auto* hint = new QLabel(Shown(Tr("A group adds all its tests. Choose several with Ctrl or Shift.")), this);
+  buttons->addButton(qt::ToQt(Tr("Cancel")), QDialogButtonBox::RejectRole);
+  auto* hint =
+      new QLabel(qt::ToQt(Tr("A group adds all its tests. Choose several with Ctrl or Shift.")), this);
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(search_);
   layout->addWidget(tests_, 1);

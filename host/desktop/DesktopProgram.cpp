@@ -16,10 +16,10 @@
 #include "host/app/TesterConnection.h"
 #include "host/desktop/DesktopModule.h"
 #include "host/desktop/MainWindow.h"
-#include "host/desktop/Shown.h"
 #include "host/run/StopSignals.h"
 #include "host/services/Tr.h"
 #include "host/toolkit/qt/Screen.h"
+#include "host/toolkit/qt/Texts.h"
 
 namespace bench::desktop {
 
@@ -61,7 +61,7 @@ class QtProgram {
     std::setlocale(LC_NUMERIC, "C");
     QApplication::setApplicationName("orvik-bench");
     QApplication::setQuitOnLastWindowClosed(false);
-    if (translator_.load(QLocale(Shown(language.empty() ? "en" : language)), "qtbase", "_",
+    if (translator_.load(QLocale(qt::ToQt(language.empty() ? "en" : language)), "qtbase", "_",
                          QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
       QApplication::installTranslator(&translator_);
   }
@@ -89,7 +89,7 @@ bool RunDesktop(const DesktopOptions& options) {
   qt::Screen screen(workbench.Application());
   MainWindow window(workbench, global, [&screen] { screen.Quit(); });
   screen.SetHostWindow(&window);
-  screen.SetErrorHandler([&window](const std::string& error) { window.TellLater(error); });
+  screen.SetErrorHandler([&window](const std::string& error) { window.ShowErrorLater(error); });
   const StopSignals signals(*workbench.Application(), [&window](int) { window.EndByRequest(); });
   if (!options.file.empty()) window.Open(options.file);
   window.show();

@@ -5,11 +5,12 @@
 #include <QUrl>
 
 #include "host/app/report/ReportParts.h"
-#include "host/desktop/Shown.h"
+#include "host/desktop/Signs.h"
 #include "host/pdf/PdfBar.h"
 #include "host/pdf/PdfStyle.h"
 #include "host/report/HtmlText.h"
 #include "host/services/Tr.h"
+#include "host/toolkit/qt/Texts.h"
 
 namespace bench::desktop {
 
@@ -104,7 +105,7 @@ QPixmap BarPicture(const report::Judgement& judgement, const QWidget& screen) {
 
 DetailsView::DetailsView(QWidget* parent) : QTextBrowser(parent) {
   setObjectName("details");
-  setAccessibleName(Shown(Tr("Details of the chosen element")));
+  setAccessibleName(qt::ToQt(Tr("Details of the chosen element")));
   setOpenLinks(false);
   // A page of paper, whatever the colours of the desktop: the signs are made to be read on white.
   setStyleSheet("QTextBrowser { background: white; color: #1c2330; }");
@@ -141,7 +142,7 @@ void DetailsView::ShowFacts(const std::string& title, const std::vector<std::str
   ShowPage(page);
 }
 
-void DetailsView::ShowPage(const std::string& page) { setHtml(Shown(page)); }
+void DetailsView::ShowPage(const std::string& page) { setHtml(qt::ToQt(page)); }
 
 std::string DetailsView::LimitsOf(const report::Section& section) {
   const auto words = parts::WordsOfReport();
@@ -153,7 +154,7 @@ std::string DetailsView::LimitsOf(const report::Section& section) {
             Cell(Coloured(judgement.standing, Escaped(judgement.word))) + "</tr>";
     if (!judgement.bar) continue;
     const auto name = "bar-" + std::to_string(i);
-    document()->addResource(QTextDocument::ImageResource, QUrl(Shown(name)), BarPicture(judgement, *this));
+    document()->addResource(QTextDocument::ImageResource, QUrl(qt::ToQt(name)), BarPicture(judgement, *this));
     text +=
         "<tr><td colspan=\"3\"><img src=\"" + name + "\"/><br/>" + Escaped(judgement.inWords) + "</td></tr>";
   }

@@ -11,8 +11,8 @@
 #include <QVBoxLayout>
 #include <QWindow>
 
-#include "host/desktop/Shown.h"
 #include "host/services/Tr.h"
+#include "host/toolkit/qt/Texts.h"
 
 namespace bench::desktop {
 
@@ -44,10 +44,10 @@ void ShowList(QWidget* parent, const std::string& text, const std::string& detai
   dialog.setObjectName("message");
   dialog.setWindowTitle(kProgramName);
   dialog.resize(kMessageSize);
-  auto* heading = new QLabel(Shown(text), &dialog);
+  auto* heading = new QLabel(qt::ToQt(text), &dialog);
   heading->setTextFormat(Qt::PlainText);
   heading->setWordWrap(true);
-  auto* list = new QPlainTextEdit(Shown(details), &dialog);
+  auto* list = new QPlainTextEdit(qt::ToQt(details), &dialog);
   list->setReadOnly(true);
   list->setLineWrapMode(QPlainTextEdit::NoWrap);
   list->setTabChangesFocus(true);
@@ -56,7 +56,7 @@ void ShowList(QWidget* parent, const std::string& text, const std::string& detai
   font.setStyleHint(QFont::Monospace);
   list->setFont(font);
   auto* buttons = new QDialogButtonBox(&dialog);
-  buttons->addButton(Shown(Tr("Close")), QDialogButtonBox::AcceptRole)->setDefault(true);
+  buttons->addButton(qt::ToQt(Tr("Close")), QDialogButtonBox::AcceptRole)->setDefault(true);
   QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
   auto* layout = new QVBoxLayout(&dialog);
   layout->addWidget(heading);
@@ -66,10 +66,10 @@ void ShowList(QWidget* parent, const std::string& text, const std::string& detai
 }
 
 void ShowBox(QWidget* parent, QMessageBox::Icon icon, const std::string& text) {
-  QMessageBox box(icon, kProgramName, Shown(text), QMessageBox::NoButton, parent);
+  QMessageBox box(icon, kProgramName, qt::ToQt(text), QMessageBox::NoButton, parent);
   box.setObjectName("message");
   box.setTextFormat(Qt::PlainText);
-  box.addButton(Shown(Tr("Close")), QMessageBox::AcceptRole);
+  box.addButton(qt::ToQt(Tr("Close")), QMessageBox::AcceptRole);
   ExecOnTop(box);
 }
 
@@ -85,13 +85,13 @@ void ShowMessage(QWidget* parent, const std::string& text, const std::string& de
 }
 
 std::size_t Ask(QWidget* parent, const std::string& question, const std::vector<std::string>& answers) {
-  QMessageBox box(QMessageBox::Question, kProgramName, Shown(question), QMessageBox::NoButton, parent);
+  QMessageBox box(QMessageBox::Question, kProgramName, qt::ToQt(question), QMessageBox::NoButton, parent);
   box.setObjectName("question");
   box.setTextFormat(Qt::PlainText);
   std::vector<QAbstractButton*> buttons;
   for (std::size_t i = 0; i < answers.size(); ++i) {
     const auto role = i + 1 == answers.size() ? QMessageBox::RejectRole : QMessageBox::AcceptRole;
-    auto* button = box.addButton(Shown(answers[i]), role);
+    auto* button = box.addButton(qt::ToQt(answers[i]), role);
     button->setObjectName("answer" + QString::number(i));
     buttons.push_back(button);
   }
@@ -105,10 +105,10 @@ std::size_t Ask(QWidget* parent, const std::string& question, const std::vector<
 }
 
 std::optional<std::filesystem::path> AskForFile(QWidget* parent, const FileWish& wish) {
-  QFileDialog dialog(parent, Shown(wish.title));
+  QFileDialog dialog(parent, qt::ToQt(wish.title));
   dialog.setObjectName("fileDialog");
-  dialog.setNameFilters(Shown(wish.kinds).split(";;"));
-  dialog.setDefaultSuffix(Shown(wish.ending));
+  dialog.setNameFilters(qt::ToQt(wish.kinds).split(";;"));
+  dialog.setDefaultSuffix(qt::ToQt(wish.ending));
   dialog.setAcceptMode(wish.toWrite ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
   dialog.setFileMode(wish.toWrite ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
   dialog.setOption(QFileDialog::DontConfirmOverwrite, !wish.mayReplace);

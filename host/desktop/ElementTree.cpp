@@ -9,7 +9,7 @@
 #include "host/app/DocumentText.h"
 #include "host/app/TextColumns.h"
 #include "host/app/report/ReportParts.h"
-#include "host/desktop/Shown.h"
+#include "host/desktop/Signs.h"
 #include "host/report/VisibleText.h"
 #include "host/services/Tr.h"
 #include "host/toolkit/qt/Texts.h"
@@ -24,7 +24,7 @@ constexpr int kColumnRoom = 12, kWidest = 400;  ///< of a column, in pixels
 constexpr int kParent = Qt::UserRole + 1;
 constexpr int kHalfLight = 128;
 
-QString VisibleInTree(const std::string& text) { return Shown(report::VisibleText(text)); }
+QString VisibleInTree(const std::string& text) { return qt::ToQt(report::VisibleText(text)); }
 
 QString TipOf(const std::string& text) { return qt::PlainToolTip(report::VisibleText(text)); }
 
@@ -38,7 +38,7 @@ QBrush ColourIn(const QTreeWidget& tree, report::Standing standing) {
 
 void Fill(QTreeWidgetItem& row, const ElementTree::RowText& text) {
   const auto name = VisibleInTree(text.name);
-  const auto word = Shown(text.word);
+  const auto word = qt::ToQt(text.word);
   row.setText(kNumber, QString::number(text.id));
   row.setText(kName, name);
   row.setToolTip(kName, TipOf(text.name));
@@ -69,10 +69,10 @@ ElementTree::RowText RowTextOf(const judge::JudgedElement& element, bool running
 
 ElementTree::ElementTree(QWidget* parent) : QTreeWidget(parent) {
   setObjectName("tree");
-  setAccessibleName(Shown(Tr("Elements of the document")));
+  setAccessibleName(qt::ToQt(Tr("Elements of the document")));
   setColumnCount(kColumns);
-  setHeaderLabels(
-      {Shown(Tr("No.")), Shown(Tr("Test")), Shown(Tr("Result")), Shown(Tr("Value")), Shown(Tr("Remark"))});
+  setHeaderLabels({qt::ToQt(Tr("No.")), qt::ToQt(Tr("Test")), qt::ToQt(Tr("Result")), qt::ToQt(Tr("Value")),
+                   qt::ToQt(Tr("Remark"))});
   setUniformRowHeights(true);
   // What tells one test from another often stands at the end, such as "mains reversed".
   setTextElideMode(Qt::ElideMiddle);
@@ -85,7 +85,7 @@ ElementTree::ElementTree(QWidget* parent) : QTreeWidget(parent) {
   const auto width = [this](const QString& text) { return fontMetrics().horizontalAdvance(text); };
   setColumnWidth(kNumber, width("00000"));
   setColumnWidth(kName, width("Protective earth, with mains cord, lead 1") + 40);
-  setColumnWidth(kResult, width(Shown(Tr("not applicable"))) + 36);
+  setColumnWidth(kResult, width(qt::ToQt(Tr("not applicable"))) + 36);
   setColumnWidth(kValue, width("00000.0 mOhm") + 16);
 }
 

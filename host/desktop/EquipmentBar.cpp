@@ -5,8 +5,8 @@
 #include <QLineEdit>
 
 #include "host/desktop/PlainTextValidator.h"
-#include "host/desktop/Shown.h"
 #include "host/services/Tr.h"
+#include "host/toolkit/qt/Texts.h"
 
 namespace bench::desktop {
 
@@ -17,7 +17,7 @@ EquipmentBar::EquipmentBar(std::function<void()> edited, QWidget* parent) : QWid
     auto* box = new QLineEdit(this);
     box->setObjectName(name);
     box->setValidator(new PlainTextValidator(box));
-    auto* text = new QLabel(Shown(label), this);
+    auto* text = new QLabel(qt::ToQt(label), this);
     text->setBuddy(box);
     box->setAccessibleName(text->text().remove('&'));
     layout->addWidget(text);
@@ -34,10 +34,10 @@ EquipmentBar::EquipmentBar(std::function<void()> edited, QWidget* parent) : QWid
 }
 
 void EquipmentBar::Show(const Document::Equipment& equipment) {
-  asset_->setText(Shown(equipment.asset));
-  serial_->setText(Shown(equipment.serial));
-  maker_->setText(Shown(equipment.maker));
-  model_->setText(Shown(equipment.model));
+  asset_->setText(qt::ToQt(equipment.asset));
+  serial_->setText(qt::ToQt(equipment.serial));
+  maker_->setText(qt::ToQt(equipment.maker));
+  model_->setText(qt::ToQt(equipment.model));
 }
 
 void EquipmentBar::FocusOnAsset() {

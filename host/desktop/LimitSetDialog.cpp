@@ -6,7 +6,6 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
-#include "host/desktop/Shown.h"
 #include "host/services/Tr.h"
 #include "host/toolkit/qt/Texts.h"
 
@@ -23,24 +22,25 @@ LimitSetDialog::LimitSetDialog(std::vector<LimitSets::Entry> sets, const QString
     : QDialog(parent),
       sets_(std::move(sets)),
       list_(new QTreeWidget(this)),
-      all_(new QRadioButton(Shown(Tr("For &all elements")), this)),
+      all_(new QRadioButton(qt::ToQt(Tr("For &all elements")), this)),
       one_(new QRadioButton(this)) {
   setObjectName("limitSets");
-  setWindowTitle(Shown(Tr("Limits from a set")));
+  setWindowTitle(qt::ToQt(Tr("Limits from a set")));
   resize(kSetsSize);
   list_->setObjectName("sets");
-  list_->setAccessibleName(Shown(Tr("Sets of limits")));
-  list_->setHeaderLabels({Shown(Tr("Standard")), Shown(Tr("Edition, class, type")), Shown(Tr("Set"))});
+  list_->setAccessibleName(qt::ToQt(Tr("Sets of limits")));
+  list_->setHeaderLabels(
+      {qt::ToQt(Tr("Standard")), qt::ToQt(Tr("Edition, class, type")), qt::ToQt(Tr("Set"))});
   list_->setRootIsDecorated(false);
   for (std::size_t i = 0; i < sets_.size(); ++i) {
     auto* row = new QTreeWidgetItem(list_);
     row->setData(0, kPlace, static_cast<int>(i));
     if (const auto& set = sets_[i].set) {
-      row->setText(0, Shown(set->standard));
-      row->setText(1, Shown(set->Description()));
-      row->setText(2, Shown(set->Name()));
+      row->setText(0, qt::ToQt(set->standard));
+      row->setText(1, qt::ToQt(set->Description()));
+      row->setText(2, qt::ToQt(set->Name()));
     } else {
-      row->setText(0, Shown(sets_[i].fault));
+      row->setText(0, qt::ToQt(sets_[i].fault));
       row->setToolTip(0, qt::PlainToolTip(sets_[i].fault));
       row->setDisabled(true);
     }
@@ -49,15 +49,15 @@ LimitSetDialog::LimitSetDialog(std::vector<LimitSets::Entry> sets, const QString
   all_->setObjectName("forAll");
   all_->setChecked(true);
   one_->setObjectName("forOne");
-  one_->setText(Shown(Tr("Only for the &chosen one, with all below it: %%1",
-                         {QString(chosen).replace("&", "&&").toStdString()})));
+  one_->setText(qt::ToQt(Tr("Only for the &chosen one, with all below it: %%1",
+                            {QString(chosen).replace("&", "&&").toStdString()})));
   one_->setVisible(!chosen.isEmpty());
 
   auto* buttons = new QDialogButtonBox(this);
-  apply_ = buttons->addButton(Shown(Tr("Set limits")), QDialogButtonBox::AcceptRole);
+  apply_ = buttons->addButton(qt::ToQt(Tr("Set limits")), QDialogButtonBox::AcceptRole);
   apply_->setObjectName("apply");
   apply_->setEnabled(false);
-  buttons->addButton(Shown(Tr("Cancel")), QDialogButtonBox::RejectRole);
+  buttons->addButton(qt::ToQt(Tr("Cancel")), QDialogButtonBox::RejectRole);
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(list_, 1);
   layout->addWidget(all_);

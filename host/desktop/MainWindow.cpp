@@ -23,9 +23,9 @@
 #include "host/desktop/Dialogs.h"
 #include "host/desktop/ElementTree.h"
 #include "host/desktop/EquipmentBar.h"
+#include "host/desktop/MenuText.h"
 #include "host/desktop/PlainTextValidator.h"
 #include "host/desktop/RunProgress.h"
-#include "host/desktop/Shown.h"
 #include "host/desktop/TesterBox.h"
 #include "host/desktop/VerdictBar.h"
 #include "host/services/Tr.h"
@@ -41,7 +41,7 @@ constexpr int kProgressMilliseconds = 250;
 
 /// A label before a box that it names, with its access key.
 QLabel* LabelFor(QWidget* box, const std::string& text) {
-  auto* label = new QLabel(" " + Shown(text) + " ");
+  auto* label = new QLabel(" " + qt::ToQt(text) + " ");
   label->setBuddy(box);
   return label;
 }
@@ -49,7 +49,7 @@ QLabel* LabelFor(QWidget* box, const std::string& text) {
 }  // namespace
 
 MainWindow::MainWindow(Workbench& workbench, const GlobalOptions& options, std::function<void()> quit)
-    : desk_(workbench, options), quit_(std::move(quit)) {
+    : session_(workbench, options), quit_(std::move(quit)) {
   setObjectName("main");
   FitToScreen();
   MakeActions();
@@ -62,78 +62,75 @@ MainWindow::MainWindow(Workbench& workbench, const GlobalOptions& options, std::
     ShowProgress();
     if (runChanged_) Later([this] { ShowRun(); }, When::kAlways);
   });
-  ListenToCalibrations();
-  Begin();
+  SubscribeToCalibrations();
+  ShowOpened();
 }
 
 MainWindow::~MainWindow() = default;
 
 void MainWindow::FitToScreen() {
-  const QSize room = screen()->availableSize();
-  resize(kWindowSize.boundedTo(room));
-  // On a small screen the whole of it: with frame and title a window of its size would stick out.
-  if (room.width() <= kWindowSize.width() || room.height() <= kWindowSize.height() + kFrameHeight)
+  const QSize available = screen()->availableSize();
+  resize(kWindowSize.boundedTo(available));
+  // On a small screen the window with its frame would not fit.
+  if (available.width() <= kWindowSize.width() || available.height() <= kWindowSize.height() + kFrameHeight)
     setWindowState(Qt::WindowMaximized);
 }
 
 void MainWindow::Open(const std::filesystem::path& file) {
-  desk_.Open(file);
-  Begin();
+  session_.Open(file);
+  ShowOpened();
   std::error_code none;
-  if (const auto unsaved = desk_.UnsavedFile(); std::filesystem::exists(unsaved, none))
+  if (const auto unsaved = session_.UnsavedFile(); std::filesystem::exists(unsaved, none))
     Remark(
         Tr("An earlier session left changes of this document unsaved; they are in %%1: open that file to "
            "keep them, or remove it.",
            {unsaved.string()}));
 }
 
-void MainWindow::Begin() {
+void MainWindow::ShowOpened() {
   beforeEdit_.reset();
-  equipment_->Show(desk_.HasDocument() ? desk_.TheDocument().equipment : Document::Equipment{});
-  // What was remarked of another document is no longer true.
-  Remark(TimeScaleRemark(desk_.Bench().TimeScale()));
+  equipment_->Show(session_.HasDocument() ? session_.TheDocument().equipment : Document::Equipment{});
+  Remark(TimeScaleRemark(session_.Bench().TimeScale()));
   Refresh();
   FocusForScan();
 }
 
 void MainWindow::FocusForScan() {
-  if (desk_.HasDocument() && desk_.TheDocument().equipment.asset.empty())
+  if (session_.HasDocument() && session_.TheDocument().equipment.asset.empty())
     equipment_->FocusOnAsset();
   else
     tree_->setFocus(Qt::OtherFocusReason);
 }
 
 void MainWindow::EndByRequest() {
-  byRequest_ = true;
-  leaveWhenOver_ = true;
+  state_.RequireClose();
   CloseQuestions();
-  if (session_) leftOver_ = true;
-  if (Busy()) Stop();
-  LeaveIfOver();
+  if (state_.Running()) leftOver_ = true;
+  Stop();
+  CloseIfReady();
 }
 
-void MainWindow::TellLater(const std::string& error) {
-  // What goes on again and again need be told but once.
-  if (std::find(untold_.begin(), untold_.end(), error) == untold_.end()) untold_.push_back(error);
+void MainWindow::ShowErrorLater(const std::string& error) {
+  if (std::find(pendingErrors_.begin(), pendingErrors_.end(), error) == pendingErrors_.end())
+    pendingErrors_.push_back(error);
   Remark(error);
   Later([] {}, When::kAlways);
 }
 
-void MainWindow::TellWhatWaits() {
-  // A message to be closed would hold up the session with the tester; and one is enough at a time.
-  if (session_ || calibration_ || telling_) return;
-  telling_ = true;
-  while (!untold_.empty()) {
-    const auto error = untold_.front();
-    untold_.erase(untold_.begin());
-    Tell(error);
+void MainWindow::ReportPendingErrors() {
+  // A message box would hold up the session with the tester. One box at a time is enough.
+  if (state_.UsesTester() || reportingErrors_) return;
+  reportingErrors_ = true;
+  while (!pendingErrors_.empty()) {
+    const auto error = pendingErrors_.front();
+    pendingErrors_.erase(pendingErrors_.begin());
+    ReportError(error);
   }
-  telling_ = false;
+  reportingErrors_ = false;
 }
 
-void MainWindow::Tell(const std::string& error) {
-  // Once the program is told to end there may be nobody to read it there.
-  if (byRequest_)
+void MainWindow::ReportError(const std::string& error) {
+  if (state_.Unattended())
     std::cerr << "orvik-bench: " << error << std::endl;
   else
     ShowError(this, error);
@@ -141,7 +138,7 @@ void MainWindow::Tell(const std::string& error) {
 
 QAction* MainWindow::NewAction(const char* name, const std::string& text, const QKeySequence& keys,
                                void (MainWindow::*work)(), When when) {
-  auto* action = new QAction(Shown(text), this);
+  auto* action = new QAction(qt::ToQt(text), this);
   action->setIconText(ButtonText(text));
   action->setObjectName(name);
   action->setShortcut(keys);
@@ -164,7 +161,7 @@ void MainWindow::MakeActions() {
   actions_.runs = NewAction("runs", Tr("R&uns of the document"), Qt::Key_F9, &MainWindow::ShowRuns);
   actions_.report = NewAction("report", Tr("Re&port..."), QKeySequence::Print, &MainWindow::Report);
   actions_.archive = NewAction("archive", Tr("Add to &archive"), {}, &MainWindow::AddToArchive);
-  actions_.quit = new QAction(Shown(Tr("&Quit")), this);
+  actions_.quit = new QAction(qt::ToQt(Tr("&Quit")), this);
   actions_.quit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
   connect(actions_.quit, &QAction::triggered, this, &QWidget::close);
   actions_.add = NewAction("addTests", Tr("&Add tests..."), Qt::Key_Insert, &MainWindow::AddTests);
@@ -174,9 +171,9 @@ void MainWindow::MakeActions() {
   actions_.removeLimits = NewAction("removeLimits", Tr("Remo&ve its limits"), {}, &MainWindow::RemoveLimits);
   actions_.recordOnly = NewAction("recordOnly", Tr("Record &only"), {}, &MainWindow::SetRecordOnly);
   actions_.recordOnly->setCheckable(true);
-  actions_.recordOnly->setToolTip(
-      Shown(Tr("Readings of the chosen element are recorded and not judged; without this mark and without a "
-               "limit the document stays incomplete")));
+  actions_.recordOnly->setToolTip(qt::ToQt(
+      Tr("Readings of the chosen element are recorded and not judged; without this mark and without a "
+         "limit the document stays incomplete")));
   actions_.setUp = NewAction("setUp", Tr("Set &up..."), Qt::CTRL | Qt::Key_U, &MainWindow::SetUp);
   actions_.calibrate = NewAction("calibrate", Tr("&Calibrate leads..."), {}, &MainWindow::Calibrate);
   actions_.run = NewAction("run", Tr("&Run"), Qt::Key_F5, &MainWindow::RunAll);
@@ -185,16 +182,16 @@ void MainWindow::MakeActions() {
   actions_.runSelected = NewAction("runSelected", Tr("Run se&lected"), Qt::Key_F7, &MainWindow::RunSelected);
   actions_.stop = NewAction("stop", Tr("S&top"), Qt::Key_F8, &MainWindow::Stop, When::kAlways);
   actions_.stop->setIcon(icon(QStyle::SP_MediaStop));
-  // The guide's window has the keyboard while there is something to stop.
+  // The guide has the focus during a run.
   actions_.stop->setShortcutContext(Qt::ApplicationShortcut);
-  actions_.resume->setToolTip(Shown(Tr("Run only what has no result yet (F6)")));
+  actions_.resume->setToolTip(qt::ToQt(Tr("Run only what has no result yet (F6)")));
   actions_.stop->setToolTip(
-      Shown(Tr("Drop the running test and close the session with the tester in good order (F8)")));
+      qt::ToQt(Tr("Drop the running test and close the session with the tester in good order (F8)")));
 }
 
 void MainWindow::MakeMenus() {
   const auto add = [this](const std::string& title, std::initializer_list<QAction*> actions) {
-    auto* menu = menuBar()->addMenu(Shown(title));
+    auto* menu = menuBar()->addMenu(qt::ToQt(title));
     for (auto* action : actions) action ? menu->addAction(action) : (void)menu->addSeparator();
   };
   add(Tr("&Document"), {actions_.create, actions_.newFrom, actions_.open, actions_.save, actions_.saveAs,
@@ -207,7 +204,7 @@ void MainWindow::MakeMenus() {
 
 void MainWindow::MakeToolbars() {
   const auto add = [this](const char* name, const std::string& title) {
-    auto* bar = addToolBar(Shown(title));
+    auto* bar = addToolBar(qt::ToQt(title));
     bar->setObjectName(name);
     bar->setMovable(false);
     bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
@@ -224,17 +221,17 @@ void MainWindow::MakeToolbars() {
   auto* run = add("runBar", Tr("Run"));
   run->addActions({actions_.run, actions_.resume, actions_.runSelected, actions_.stop});
   run->addSeparator();
-  tester_ = new TesterBox(desk_.Bench().TimeScale(), run);
+  tester_ = new TesterBox(session_.Bench().TimeScale(), run);
   run->addWidget(LabelFor(tester_, Tr("Tester")));
   run->addWidget(tester_);
-  // A scan must not end up where the tester's port is.
+  // A scan must not change the tester's port.
   tester_->OnChosen([this] { FocusForScan(); });
   run->addAction(actions_.calibrate);
   run->addSeparator();
-  operator_ = new QLineEdit(Shown(OperatorName({})), run);
+  operator_ = new QLineEdit(qt::ToQt(OperatorName({})), run);
   operator_->setObjectName("operator");
   operator_->setValidator(new PlainTextValidator(operator_));
-  operator_->setAccessibleName(Shown(Tr("Operator")));
+  operator_->setAccessibleName(qt::ToQt(Tr("Operator")));
   operator_->setMaximumWidth(220);
   run->addWidget(LabelFor(operator_, Tr("Operator")));
   run->addWidget(operator_);
@@ -265,10 +262,10 @@ void MainWindow::MakeBody() {
   progressText_ = new QLabel(this);
   progressText_->setObjectName("progress");
   progressText_->setTextFormat(Qt::PlainText);
-  // However long the text is, the window keeps its width.
+  // A long text must not widen the window.
   progressText_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   progressBar_ = new QProgressBar(this);
-  progressBar_->setAccessibleName(Shown(Tr("Progress of the run")));
+  progressBar_->setAccessibleName(qt::ToQt(Tr("Progress of the run")));
   progressBar_->setFormat("%v / %m");
   progressBar_->setMaximumWidth(160);
   progressBar_->setVisible(false);
@@ -281,68 +278,68 @@ void MainWindow::MakeBody() {
 }
 
 void MainWindow::Later(std::function<void()> work, When when) {
-  desk_.Bench().Application()->Post([this, when, work = std::move(work)] {
-    // What is asked for twice, such as by a double click, is done once; and nothing after the end.
-    if ((working_ || left_) && when == When::kIdle) return;
-    const bool outer = std::exchange(working_, true);
-    Try(work);
-    TellWhatWaits();
-    working_ = outer;
-    LeaveIfOver();
+  session_.Bench().Application()->Post([this, when, work = std::move(work)] {
+    if (when == When::kIdle && !state_.AcceptsCommand()) return;
+    {
+      const auto working = state_.Work();
+      Try(work);
+      ReportPendingErrors();
+    }
+    CloseIfReady();
   });
 }
 
 void MainWindow::Try(const std::function<void()>& work) {
-  std::string trouble;
+  std::string failure;
   try {
     work();
   } catch (const orvik::HostError& error) {
-    trouble = error.Description();
+    failure = error.Description();
   } catch (const InputError& error) {
-    trouble = error.what();
+    failure = error.what();
   } catch (const IncompleteError& error) {
-    trouble = error.what();
+    failure = error.what();
   } catch (const std::exception& error) {
-    trouble = Tr("internal error: %%1", {error.what()});
+    failure = Tr("internal error: %%1", {error.what()});
   }
-  if (trouble.empty()) return;
-  Tell(trouble);
+  if (failure.empty()) return;
+  ReportError(failure);
   Refresh();
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-  event->ignore();  // the window closes with the program, once nothing is left open
+  event->ignore();  // `CloseWindow` closes it after the run
   Later(
       [this] {
-        if (session_ && !leaveWhenOver_ &&
+        if (state_.Running() && state_.CloseStatus() == WindowState::Closing::kNo &&
             Ask(this,
                 Tr("%%1 is being tested. Stop the run, close the session with the tester, and quit?",
-                   {desk_.Device()}),
+                   {session_.Device()}),
                 {Tr("Stop and quit"), Tr("Go on with the run")}) != 0)
           return;
-        leaveWhenOver_ = true;
-        if (Busy()) Stop();
+        state_.Close();
+        Stop();
       },
       When::kAlways);
 }
 
-void MainWindow::LeaveIfOver() {
-  if (!leaveWhenOver_ || Busy() || left_) return;
-  leaveWhenOver_ = byRequest_;  // until the next time, if the person would rather go on
-  if (byRequest_ || MayLeaveDocument()) Leave();
+void MainWindow::CloseIfReady() {
+  if (!state_.ReadyToClose()) return;
+  state_.KeepOpen();  // until the question about changes is answered
+  if (state_.Unattended() || MayLeaveDocument()) CloseWindow();
 }
 
-void MainWindow::Leave() {
-  if (byRequest_ && desk_.Changed()) {
+void MainWindow::CloseWindow() {
+  if (state_.Unattended() && session_.Changed()) {
     leftOver_ = true;
     Try([this] {
       std::cerr << "orvik-bench: "
                 << Tr("the changes of %%1 were not saved; they are kept in %%2",
-                      {desk_.TheDocument().Path().string(), desk_.KeepUnsaved().string()})
+                      {session_.TheDocument().Path().string(), session_.KeepUnsaved().string()})
                 << std::endl;
     });
   }
-  left_ = true;
+  state_.Closed();
   hide();
   quit_();
 }

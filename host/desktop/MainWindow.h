@@ -7,7 +7,8 @@
 
 #include "host/app/TesterConnection.h"
 #include "host/app/run/RunSelection.h"
-#include "host/desktop/Desk.h"
+#include "host/desktop/DocumentSession.h"
+#include "host/desktop/WindowState.h"
 #include "host/run/DocumentRunner.h"
 
 class QLabel;
@@ -16,16 +17,9 @@ class QProgressBar;
 class QTimer;
 class QToolBar;
 
-namespace orvik::platform {
-class IForm;
-}
-
 namespace bench {
-class CalibrationWindow;
-class RunSession;
-class TesterConnection;
 class WireLog;
-}  // namespace bench
+}
 
 namespace bench::desktop {
 
@@ -36,27 +30,27 @@ class RunProgress;
 class TesterBox;
 class VerdictBar;
 
-/// The window: a document, its elements, what there is to tell of the chosen one, the verdict, and everything
-/// that a technician does with them.
+/// The window: a document, its elements, the details of the selected one, the verdict, and all commands that
+/// a technician gives.
 ///
-/// Whatever is asked for runs from the application's message queue, never inside the toolkit's own calls, so
-/// that a run can wait and be stopped. Errors are shown in the words of the command line.
+/// Commands run from the application's message queue, never inside Qt's own calls, so that a run can wait and
+/// be stopped. Error messages are those of the command line.
 class MainWindow : public QMainWindow {
  public:
-  /// @param quit called when the window has been closed for good
+  /// @param quit called after the window has closed
   MainWindow(Workbench& workbench, const GlobalOptions& options, std::function<void()> quit);
   ~MainWindow() override;
 
-  /// Opens a document; errors are thrown.
+  /// Opens a document. Throws on errors.
   void Open(const std::filesystem::path& file);
-  /// The program is told to end: nobody is asked. A run ends in good order first; changes that were not saved
-  /// are kept beside the document.
+  /// Ends the program without questions: stops a run, closes the session with the tester, and keeps unsaved
+  /// changes beside the document.
   void EndByRequest();
-  /// Whether a run was stopped, or changes were left unsaved, by `EndByRequest`.
+  /// Whether `EndByRequest` stopped a run or left changes unsaved.
   bool LeftOver() const { return leftOver_; }
-  /// Shows an error once what goes on now has ended: at once in the line for remarks, and to be closed when
-  /// no session with the tester is on.
-  void TellLater(const std::string& error);
+  /// Shows an error in the line for remarks at once, and in a message box as soon as no session with the
+  /// tester is open. The same error is shown once.
+  void ShowErrorLater(const std::string& error);
 
  private:
   struct Actions {
@@ -65,19 +59,19 @@ class MainWindow : public QMainWindow {
     QAction *calibrate, *run, *resume, *runSelected, *stop, *quit;
   };
 
-  /// The window's part of a run, for as long as that is on.
-  class Part {
+  /// Shows the progress of a run while it lasts.
+  class ProgressDisplay {
    public:
-    Part(MainWindow& window, RunSession& session, RunProgress& progress);
-    Part(const Part&) = delete;
-    Part& operator=(const Part&) = delete;
-    ~Part();
+    ProgressDisplay(MainWindow& window, RunProgress& progress);
+    ProgressDisplay(const ProgressDisplay&) = delete;
+    ProgressDisplay& operator=(const ProgressDisplay&) = delete;
+    ~ProgressDisplay();
 
    private:
     MainWindow& window_;
   };
 
-  /// Whether something may begin while something else goes on.
+  /// Whether a command may begin while another is carried out.
   enum class When { kIdle, kAlways };
 
   void FitToScreen();
@@ -90,36 +84,35 @@ class MainWindow : public QMainWindow {
 
   void Later(std::function<void()> work, When when = When::kIdle);
   void Try(const std::function<void()>& work);
-  void Tell(const std::string& error);
-  void TellWhatWaits();
-  bool Busy() const { return session_ || calibration_ || dialog_; }
+  void ReportError(const std::string& error);
+  void ReportPendingErrors();
 
-  /// Shows the document on the desk, or that there is none, from the beginning.
-  void Begin();
-  /// Moves the keyboard to where a scanned asset number belongs: to its field while that is empty, else to
-  /// the list, where a scan changes nothing.
+  /// Shows the document that was opened, or that none is open.
+  void ShowOpened();
+  /// Moves the focus to the asset number while that is empty, otherwise to the list, where a scan changes
+  /// nothing.
   void FocusForScan();
   void Refresh();
   void ShowVerdict();
   void ShowDetails();
   void ShowDocument();
-  /// Chooses no element: the details are those of the document.
+  /// Selects no element, so that the details are those of the document.
   void ShowRuns();
   void ShowProgress();
   void UpdateActions();
   void UpdateTitle();
   void Remark(const std::string& text);
-  /// Makes a change and remarks which results count otherwise because of it.
+  /// Makes a change and remarks which results it affects.
   void Change(const std::function<void()>& change);
   void EquipmentEdited();
 
-  // Of the document.
+  // Document commands, in MainWindowDocument.cpp.
   void New();
   void NewFromThis();
   void OpenOther();
   void Save();
   void SaveAs();
-  void TellSaved();
+  void ShowSaved();
   void AddTests();
   void Remove();
   void SetLimits();
@@ -128,11 +121,13 @@ class MainWindow : public QMainWindow {
   void SetUp();
   void Report();
   void AddToArchive();
-  /// Asks what is to become of unsaved changes; false when the person would rather go on.
+  /// Asks what to do with unsaved changes; false if the user wants to keep the document open.
   bool MayLeaveDocument();
+  /// The file that the user chose for a new document; empty if none.
+  std::optional<std::filesystem::path> AskForNewDocument(const std::string& title);
   std::filesystem::path Folder() const;
 
-  // With the tester.
+  // Commands that use the tester, in MainWindowRun.cpp.
   void RunAll() { Run({}); }
   void Resume();
   void RunSelected();
@@ -140,22 +135,23 @@ class MainWindow : public QMainWindow {
   bool MayReplaceResults(const std::vector<std::shared_ptr<orvik::ITestElement>>& elements);
   void PerformRun(const std::vector<std::shared_ptr<orvik::ITestElement>>& elements, WireLog& log,
                   const TesterConnection& tester);
-  /// Has the run shown: now, or a little later when it was shown just before. To judge a large document takes
-  /// time that belongs to the person at the window.
+  /// Shows the run now, or a little later if it was shown just before: judging a large document takes time,
+  /// and the window must respond.
   void RunChanged();
   void ShowRun();
-  /// Which standards the readings in the guide fail or keep: its own list shows the limits of one alone.
+  /// Shows how each standard judged the readings in the guide, whose own list shows the limits of one
+  /// standard.
   void ShowJudgementInGuide();
-  void TellEnd(DocumentRunner::End end, const std::string& reason);
-  void Stop();
+  void ShowEnd(DocumentRunner::End end, const std::string& reason);
+  void Stop() { state_.Stop(); }
   void Calibrate();
-  void ListenToCalibrations();
+  void SubscribeToCalibrations();
 
   void closeEvent(QCloseEvent* event) override;
-  void LeaveIfOver();
-  void Leave();
+  void CloseIfReady();
+  void CloseWindow();
 
-  Desk desk_;
+  DocumentSession session_;
   const std::function<void()> quit_;
   Actions actions_{};
   EquipmentBar* equipment_ = nullptr;
@@ -169,23 +165,16 @@ class MainWindow : public QMainWindow {
   QProgressBar* progressBar_ = nullptr;
   QTimer* progressTimer_ = nullptr;
 
-  DocumentView view_;                       ///< what is shown
+  WindowState state_;
+  DocumentView view_;                       ///< the document as it is shown
   std::optional<Consequences> beforeEdit_;  ///< before the first letter was typed into the equipment
+  RunProgress* progress_ = nullptr;         ///< during a run
   bool runChanged_ = false;                 ///< since it was shown
   orvik::platform::Time runShown_{};
-
-  RunSession* session_ = nullptr;  ///< while a run is on
-  RunProgress* progress_ = nullptr;
-  CalibrationWindow* calibration_ = nullptr;  ///< while it is shown
-  orvik::platform::IForm* dialog_ = nullptr;  ///< the plug-in's for settings, while it is shown
-  std::vector<std::string> untold_;           ///< errors that `TellLater` has been given
-  bool telling_ = false;
-  orvik::platform::Subscription leadsStored_, leadsRefused_;
-  bool working_ = false;
-  bool leaveWhenOver_ = false;  ///< once nothing is open any more
-  bool byRequest_ = false;
-  bool left_ = false;
+  std::vector<std::string> pendingErrors_;  ///< of `ShowErrorLater`
+  bool reportingErrors_ = false;
   bool leftOver_ = false;
+  orvik::platform::Subscription leadsStored_, leadsRefused_;
 };
 
 }  // namespace bench::desktop

@@ -1,4 +1,4 @@
-// What the window does with the document.
+// The window's commands for the document.
 #include "OrvikTypeLib/As.h"
 #include "OrvikTypeLib/IConfigData.h"
 #include "OrvikTypeLib/IDialog.h"
@@ -14,11 +14,10 @@
 #include "host/desktop/EquipmentBar.h"
 #include "host/desktop/LimitSetDialog.h"
 #include "host/desktop/MainWindow.h"
-#include "host/desktop/Shown.h"
-#include "host/desktop/WhileOpen.h"
 #include "host/elements/ElementFactory.h"
 #include "host/run/ElementText.h"
 #include "host/services/Tr.h"
+#include "host/toolkit/qt/Texts.h"
 #include "platform/IForm.h"
 
 namespace bench::desktop {
@@ -40,26 +39,18 @@ std::string LinesOf(const LimitSet& set, const AppliedLimits& told) {
 
 void MainWindow::New() {
   if (!MayLeaveDocument()) return;
-  const auto file = AskForFile(this, {.title = Tr("New document"),
-                                      .kinds = DocumentKinds(),
-                                      .ending = "orvik",
-                                      .at = Folder(),
-                                      .toWrite = true});
+  const auto file = AskForNewDocument(Tr("New document"));
   if (!file) return;
-  desk_.Create(*file);
-  Begin();
+  session_.Create(*file);
+  ShowOpened();
 }
 
 void MainWindow::NewFromThis() {
   if (!MayLeaveDocument()) return;
-  const auto file = AskForFile(this, {.title = Tr("New document with the same tests and limits"),
-                                      .kinds = DocumentKinds(),
-                                      .ending = "orvik",
-                                      .at = Folder(),
-                                      .toWrite = true});
+  const auto file = AskForNewDocument(Tr("New document with the same tests and limits"));
   if (!file) return;
-  desk_.CreateFromThis(*file);
-  Begin();
+  session_.CreateFromThis(*file);
+  ShowOpened();
 }
 
 void MainWindow::OpenOther() {
@@ -70,40 +61,36 @@ void MainWindow::OpenOther() {
 }
 
 void MainWindow::Save() {
-  desk_.Save();
-  TellSaved();
+  session_.Save();
+  ShowSaved();
 }
 
 void MainWindow::SaveAs() {
-  const auto file = AskForFile(this, {.title = Tr("Save under another name"),
-                                      .kinds = DocumentKinds(),
-                                      .ending = "orvik",
-                                      .at = Folder(),
-                                      .toWrite = true});
+  const auto file = AskForNewDocument(Tr("Save under another name"));
   if (!file) return;
-  desk_.SaveAs(*file);
-  TellSaved();
+  session_.SaveAs(*file);
+  ShowSaved();
   if (view_.judged.run != 0)
     Remark(
         Tr("Saved: %%1. Its results are those of the same equipment; for another device make a new "
            "document with \"New for the next device\".",
-           {desk_.TheDocument().Path().string()}));
+           {session_.TheDocument().Path().string()}));
 }
 
-void MainWindow::TellSaved() {
-  Remark(Tr("Saved: %%1", {desk_.TheDocument().Path().string()}));
+void MainWindow::ShowSaved() {
+  Remark(Tr("Saved: %%1", {session_.TheDocument().Path().string()}));
   Refresh();
 }
 
 void MainWindow::AddTests() {
-  const auto entries = CatalogueEntries(desk_.Bench());
+  const auto entries = CatalogueEntries(session_.Bench());
   if (entries.empty())
     throw InputError(Tr(
         "the catalogue has no tests; see error.log in the state folder, or name another with --catalogue"));
   AddTestsDialog dialog(entries, this);
-  dialog.ShowPictures([this](std::int32_t testId) { return PictureOf(desk_.Bench(), testId); });
+  dialog.ShowPictures([this](std::int32_t testId) { return PictureOf(session_.Bench(), testId); });
   if (dialog.exec() != QDialog::Accepted) return;
-  const auto last = desk_.AddTests(dialog.Chosen());
+  const auto last = session_.AddTests(dialog.Chosen());
   Refresh();
   tree_->Choose(last);
 }
@@ -111,25 +98,26 @@ void MainWindow::AddTests() {
 void MainWindow::Remove() {
   const auto id = tree_->Chosen();
   if (!id) return;
-  const auto element = desk_.TheDocument().Find(*id);
-  const auto name = ElementName(*element, *desk_.Bench().Host()->Elements());
+  const auto element = session_.TheDocument().Find(*id);
+  const auto name = ElementName(*element, *session_.Bench().Host()->Elements());
   if (Ask(this,
           Tr("Remove test %%1, %%2, from %%3, with its result and everything in it?",
-             {std::to_string(*id), name, desk_.Device()}),
+             {std::to_string(*id), name, session_.Device()}),
           {Tr("Remove"), Tr("Cancel")}) != 0)
     return;
-  Change([&] { desk_.Remove(*id); });
+  Change([&] { session_.Remove(*id); });
 }
 
 void MainWindow::SetLimits() {
   const auto id = tree_->Chosen();
-  const auto element = id ? desk_.TheDocument().Find(*id) : nullptr;
-  const auto name = element ? ElementName(*element, *desk_.Bench().Host()->Elements()) : "";
-  LimitSetDialog dialog(LimitSets(files::StandardsFolders(desk_.Options().state)).All(), Shown(name), this);
+  const auto element = id ? session_.TheDocument().Find(*id) : nullptr;
+  const auto name = element ? ElementName(*element, *session_.Bench().Host()->Elements()) : "";
+  LimitSetDialog dialog(LimitSets(files::StandardsFolders(session_.Options().state)).All(), qt::ToQt(name),
+                        this);
   if (dialog.exec() != QDialog::Accepted) return;
   const auto& set = *dialog.Set();
-  const auto before = desk_.BeforeChange();
-  const auto told = desk_.ApplySet(set, dialog.ForAll() ? std::nullopt : id);
+  const auto before = session_.BeforeChange();
+  const auto told = session_.ApplySet(set, dialog.ForAll() ? std::nullopt : id);
   beforeEdit_.reset();
   Refresh();
   const auto consequences = before.Text();
@@ -140,35 +128,36 @@ void MainWindow::SetLimits() {
 void MainWindow::RemoveLimits() {
   const auto id = tree_->Chosen();
   if (!id) return;
-  const auto name = ElementName(*desk_.TheDocument().Find(*id), *desk_.Bench().Host()->Elements());
+  const auto name = ElementName(*session_.TheDocument().Find(*id), *session_.Bench().Host()->Elements());
   if (Ask(this,
           Tr("Remove all limits of test %%1, %%2? Its readings are then judged by none.",
              {std::to_string(*id), name}),
           {Tr("Remove the limits"), Tr("Cancel")}) != 0)
     return;
-  Change([&] { desk_.RemoveLimits(*id); });
+  Change([&] { session_.RemoveLimits(*id); });
 }
 
 void MainWindow::SetRecordOnly() {
   const auto id = tree_->Chosen();
   if (!id) return;
-  const bool mark = !desk_.IsRecordOnly(*id);
-  if (mark && desk_.HasLimits(*id))
+  const bool mark = !session_.IsRecordOnly(*id);
+  if (mark && session_.HasLimits(*id))
     throw InputError(Tr("Test %%1 has limits, so its readings are judged. Remove its limits first.",
                         {std::to_string(*id)}));
-  Change([&] { desk_.SetRecordOnly(*id, mark); });
+  Change([&] { session_.SetRecordOnly(*id, mark); });
 }
 
 void MainWindow::SetUp() {
   const auto id = tree_->Chosen();
   if (!id) return;
-  const auto configuration = desk_.TheDocument().Find(*id)->Configuration();
+  const auto configuration = session_.TheDocument().Find(*id)->Configuration();
   const auto dialog = configuration ? configuration->CreateDialog() : nullptr;
   const auto window = orvik::As<orvik::IDialogForm>(dialog);
   if (!window) throw InputError(Tr("Element %%1 has no settings.", {std::to_string(*id)}));
   Change([&] {
     {
-      const WhileOpen open(dialog_, window->Form().get());
+      const auto settingUp =
+          state_.Begin(WindowState::Activity::kSettingUp, [window] { window->Form()->Close(); });
       UpdateActions();
       window->Form()->ShowModal(nullptr);
     }
@@ -177,7 +166,7 @@ void MainWindow::SetUp() {
 }
 
 void MainWindow::Report() {
-  auto suggestion = desk_.TheDocument().Path();
+  auto suggestion = session_.TheDocument().Path();
   const auto file = AskForFile(this, {.title = Tr("Write a report"),
                                       .kinds = std::string("PDF (*.pdf)") + ";;" + Tr("Web page (*.html)") +
                                                ";;" + Tr("Plain text (*.txt)"),
@@ -186,14 +175,14 @@ void MainWindow::Report() {
                                       .toWrite = true,
                                       .mayReplace = true});
   if (!file) return;
-  desk_.WriteReport(*file);
+  session_.WriteReport(*file);
   Remark(Tr("Report written: %%1", {file->string()}));
 }
 
 void MainWindow::AddToArchive() {
-  if (desk_.Changed()) Save();
-  const auto file = desk_.TheDocument().Path().string();
-  const auto entry = EntryOf(file, desk_.Bench());
+  if (session_.Changed()) Save();
+  const auto file = session_.TheDocument().Path().string();
+  const auto entry = EntryOf(file, session_.Bench());
   if (entry.entry.simulated && Ask(this,
                                    Tr("%%1 was run on a simulated tester; nothing was measured. Add it to "
                                       "the archive all the same? It "
@@ -207,14 +196,14 @@ void MainWindow::AddToArchive() {
           Tr("%%1 is not finished: %%2. Add it to the archive as it is? It is marked there.", {file, reason}),
           {Tr("Add it as it is"), Tr("Cancel")}) != 0)
     return;
-  auto archive = OpenArchiveToAdd({}, desk_.Options());
+  auto archive = OpenArchiveToAdd({}, session_.Options());
   ShowMessage(this, ReceiptText(entry, file, archive.Add(entry)));
 }
 
 bool MainWindow::MayLeaveDocument() {
-  if (!desk_.Changed()) return true;
+  if (!session_.Changed()) return true;
   switch (Ask(this,
-              Tr("%%1 has changes that were not saved.", {desk_.TheDocument().Path().filename().string()}),
+              Tr("%%1 has changes that were not saved.", {session_.TheDocument().Path().filename().string()}),
               {Tr("Save"), Tr("Drop the changes"), Tr("Cancel")})) {
     case 0:
       Save();
@@ -226,9 +215,14 @@ bool MainWindow::MayLeaveDocument() {
   }
 }
 
+std::optional<std::filesystem::path> MainWindow::AskForNewDocument(const std::string& title) {
+  return AskForFile(
+      this, {.title = title, .kinds = DocumentKinds(), .ending = "orvik", .at = Folder(), .toWrite = true});
+}
+
 std::filesystem::path MainWindow::Folder() const {
-  return desk_.HasDocument() ? std::filesystem::absolute(desk_.TheDocument().Path()).parent_path()
-                             : std::filesystem::current_path();
+  return session_.HasDocument() ? std::filesystem::absolute(session_.TheDocument().Path()).parent_path()
+                                : std::filesystem::current_path();
 }
 
 }  // namespace bench::desktop

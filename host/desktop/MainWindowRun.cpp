@@ -1,4 +1,4 @@
-// What the window does with the tester.
+// The window's commands that use the tester.
 #include <QLabel>
 #include <QLineEdit>
 #include <QTimer>
@@ -14,7 +14,6 @@
 #include "host/desktop/MainWindow.h"
 #include "host/desktop/RunProgress.h"
 #include "host/desktop/TesterBox.h"
-#include "host/desktop/WhileOpen.h"
 #include "host/run/GuideToolbar.h"
 #include "host/services/Tr.h"
 #include "platform/IForm.h"
@@ -23,8 +22,8 @@ namespace bench::desktop {
 
 namespace {
 
-/// Between two times that a run is shown.
-constexpr std::chrono::milliseconds kShortestPause(250);
+/// The shortest time between two refreshes during a run.
+constexpr std::chrono::milliseconds kRefreshInterval(250);
 
 }  // namespace
 
@@ -39,28 +38,28 @@ void MainWindow::RunSelected() {
 }
 
 void MainWindow::Run(RunSelection selection) {
-  if (Busy() || !desk_.HasDocument()) return;
-  auto& document = desk_.TheDocument();
+  if (!session_.HasDocument()) return;
+  auto& document = session_.TheDocument();
   selection.file = document.Path().string();
   const auto selected = SelectedElements(document, selection);
-  // Without its tester nothing of the document changes, nor on one of the other kind.
-  const TesterConnection tester(tester_->Choice(), desk_.Bench().Ports());
+  // A missing tester, or one of the other kind, must leave the document unchanged.
+  const TesterConnection tester(tester_->Choice(), session_.Bench().Ports());
   RequireOneKindOfRuns(document, tester.Simulated());
   if (!selection.resume && !MayReplaceResults(selected)) return;
   WireLog log(selection.file + ".wire.log");
-  SelectStandards(document, *desk_.Bench().Host(), selection);
-  const auto elements = selection.resume ? Unfinished(selected, document, desk_.View().judged) : selected;
-  // The document may have got limits of other standards since.
+  SelectStandards(document, *session_.Bench().Host(), selection);
+  const auto elements = selection.resume ? Unfinished(selected, document, session_.View().judged) : selected;
+  // The selected standards may have changed.
   Refresh();
   if (elements.empty())
     return ShowMessage(this, Tr("Every element has a result; there is nothing to go on with."));
-  // What cannot be saved had better be known before anything is measured.
-  desk_.Save();
+  // A document that cannot be saved must be reported before anything is measured.
+  session_.Save();
   PerformRun(elements, log, tester);
 }
 
 bool MainWindow::MayReplaceResults(const std::vector<std::shared_ptr<orvik::ITestElement>>& elements) {
-  const auto part = JudgedPart(desk_.View().judged, elements);
+  const auto part = JudgedPart(session_.View().judged, elements);
   const bool some =
       std::any_of(part.elements.begin(), part.elements.end(), [](const judge::JudgedElement& element) {
         return element.Current() && element.verdict != judge::Verdict::kNotTested;
@@ -68,68 +67,66 @@ bool MainWindow::MayReplaceResults(const std::vector<std::shared_ptr<orvik::ITes
   return !some || Ask(this,
                       Tr("%%1 has results already. Run these tests again? The earlier run stays on record, "
                          "the new one counts.",
-                         {desk_.Device()}),
+                         {session_.Device()}),
                       {Tr("Run again"), Tr("Cancel")}) == 0;
 }
 
 void MainWindow::PerformRun(const std::vector<std::shared_ptr<orvik::ITestElement>>& elements, WireLog& log,
                             const TesterConnection& tester) {
-  auto& bench = desk_.Bench();
+  auto& bench = session_.Bench();
   RunProgress progress(
       *bench.Application(), bench.TimeScale(), [this] { RunChanged(); },
       [this](const std::string& text) { Remark(text); });
-  RunSession session(bench, desk_.TheDocument(), log, progress, OperatorKind::kScreen, tester,
+  RunSession session(bench, session_.TheDocument(), log, progress, OperatorKind::kScreen, tester,
                      OperatorName(operator_->text().toStdString()));
   Remark({});
   beforeEdit_.reset();
   auto end = DocumentRunner::End::kFinished;
   {
-    const Part part(*this, session, progress);
+    const auto running = state_.Begin(WindowState::Activity::kRunning, [&session] { session.AskToStop(); });
+    const ProgressDisplay display(*this, progress);
     Refresh();
     end = session.Run(elements);
   }
   runChanged_ = false;
   Refresh();
-  TellEnd(end, session.Reason());
+  ShowEnd(end, session.Reason());
   if (!log.Failure().empty())
     Remark(Tr("The wire log %%1 could not be written: %%2", {log.Path(), log.Failure()}));
 }
 
 void MainWindow::RunChanged() {
   runChanged_ = true;
-  if (desk_.Bench().Application()->Now() - runShown_ >= kShortestPause) ShowRun();
+  if (session_.Bench().Application()->Now() - runShown_ >= kRefreshInterval) ShowRun();
 }
 
 void MainWindow::ShowRun() {
   runChanged_ = false;
   Refresh();
-  // What runs is what the person wants to look at.
   if (progress_ && progress_->Running() != 0) tree_->Choose(progress_->Running());
   ShowJudgementInGuide();
-  runShown_ = desk_.Bench().Application()->Now();
+  runShown_ = session_.Bench().Application()->Now();
 }
 
 void MainWindow::ShowJudgementInGuide() {
   if (!progress_) return;
-  const auto sections = desk_.Sections(view_, progress_->FinishedInGuide());
-  ShowJudgement(*desk_.Bench().Application(), GuideJudgement(sections));
+  const auto sections = session_.Sections(view_, progress_->FinishedInGuide());
+  ShowJudgement(*session_.Bench().Application(), GuideJudgement(sections));
 }
 
-MainWindow::Part::Part(MainWindow& window, RunSession& session, RunProgress& progress) : window_(window) {
-  window_.session_ = &session;
+MainWindow::ProgressDisplay::ProgressDisplay(MainWindow& window, RunProgress& progress) : window_(window) {
   window_.progress_ = &progress;
   window_.progressTimer_->start();
 }
 
-MainWindow::Part::~Part() {
+MainWindow::ProgressDisplay::~ProgressDisplay() {
   window_.progressTimer_->stop();
   window_.progressText_->clear();
   window_.progressText_->setToolTip({});
-  window_.session_ = nullptr;
   window_.progress_ = nullptr;
 }
 
-void MainWindow::TellEnd(DocumentRunner::End end, const std::string& reason) {
+void MainWindow::ShowEnd(DocumentRunner::End end, const std::string& reason) {
   switch (end) {
     case DocumentRunner::End::kFinished:
       return;
@@ -138,34 +135,29 @@ void MainWindow::TellEnd(DocumentRunner::End end, const std::string& reason) {
     case DocumentRunner::End::kAborted:
       return Remark(Tr("Ended by the operator. The document is saved."));
     case DocumentRunner::End::kTesterLost:
-      return TellLater(Tr("The run has ended: %%1.", {reason}));
+      return ShowErrorLater(Tr("The run has ended: %%1.", {reason}));
     case DocumentRunner::End::kNotSaved:
-      return TellLater(Tr("The run has ended, since the document cannot be saved: %%1", {reason}));
+      return ShowErrorLater(Tr("The run has ended, since the document cannot be saved: %%1", {reason}));
   }
 }
 
-void MainWindow::Stop() {
-  if (session_) return session_->AskToStop();
-  if (calibration_) return calibration_->Cancel();
-  if (dialog_) dialog_->Close();
-}
-
 void MainWindow::Calibrate() {
-  const TesterConnection tester(tester_->Choice(), desk_.Bench().Ports());
-  CalibrationWindow window(desk_.Bench(), {});
+  const TesterConnection tester(tester_->Choice(), session_.Bench().Ports());
+  CalibrationWindow window(session_.Bench(), {});
   {
-    const WhileOpen open(calibration_, &window);
+    const auto calibrating =
+        state_.Begin(WindowState::Activity::kCalibrating, [&window] { window.Cancel(); });
     UpdateActions();
     window.Show();
   }
   UpdateActions();
 }
 
-void MainWindow::ListenToCalibrations() {
-  // The guide opens the dialog too.
-  auto& leads = desk_.Bench().Leads();
+void MainWindow::SubscribeToCalibrations() {
+  // The guide opens the calibration dialog too.
+  auto& leads = session_.Bench().Leads();
   leadsStored_ = leads.Stored().Subscribe([this](const LeadCalibration& stored) { Remark(TextOf(stored)); });
-  leadsRefused_ = leads.Refused().Subscribe([this](const std::string& reason) { TellLater(reason); });
+  leadsRefused_ = leads.Refused().Subscribe([this](const std::string& reason) { ShowErrorLater(reason); });
 }
 
 }  // namespace bench::desktop

@@ -1,4 +1,4 @@
-// What the window shows.
+// The window's display.
 #include <QAction>
 #include <QLabel>
 #include <QLineEdit>
@@ -14,7 +14,6 @@
 #include "host/desktop/EquipmentBar.h"
 #include "host/desktop/MainWindow.h"
 #include "host/desktop/RunProgress.h"
-#include "host/desktop/Shown.h"
 #include "host/desktop/TesterBox.h"
 #include "host/desktop/VerdictBar.h"
 #include "host/services/Tr.h"
@@ -24,7 +23,7 @@ namespace bench::desktop {
 
 namespace {
 
-constexpr std::size_t kMostLines = 4;  ///< of remarks: the window must still fit on a small screen
+constexpr std::size_t kMostLines = 4;  ///< of a remark; the window must fit on a small screen
 
 /// The first lines, and how many more there are.
 std::string Shortened(const std::string& text) {
@@ -41,21 +40,21 @@ std::string Shortened(const std::string& text) {
 }  // namespace
 
 void MainWindow::Refresh() {
-  const bool open = desk_.HasDocument();
+  const bool open = session_.HasDocument();
   if (!open) equipment_->Show({});
-  view_ = open ? desk_.View() : DocumentView{};
+  view_ = open ? session_.View() : DocumentView{};
   tree_->Show(view_.judged, progress_ ? progress_->Running() : 0);
   ShowVerdict();
   ShowDetails();
   UpdateActions();
-  if (!Busy()) UpdateTitle();
+  if (!state_.Busy()) UpdateTitle();
 }
 
 void MainWindow::ShowVerdict() {
-  if (!desk_.HasDocument()) return verdict_->ShowNothing();
+  if (!session_.HasDocument()) return verdict_->ShowNothing();
   auto verdict = parts::VerdictOf(view_.judged.elements, view_.judged.outcome);
-  // What a run has not yet come to may be about to change.
-  if (session_) {
+  // The run may still change the verdict.
+  if (state_.Running()) {
     verdict.standing = report::Standing::kOpen;
     verdict.word = Tr("Running");
   }
@@ -63,12 +62,12 @@ void MainWindow::ShowVerdict() {
 }
 
 void MainWindow::ShowDetails() {
-  if (!desk_.HasDocument()) return details_->ShowFacts({}, {Tr("Make a new document, or open one.")});
+  if (!session_.HasDocument()) return details_->ShowFacts({}, {Tr("Make a new document, or open one.")});
   try {
     const auto id = tree_->Chosen();
-    if (const auto sections = id ? desk_.Sections(view_, {*id}) : std::vector<report::Section>{};
+    if (const auto sections = id ? session_.Sections(view_, {*id}) : std::vector<report::Section>{};
         !sections.empty())
-      return details_->Show(sections.front(), desk_.Settings(*id));
+      return details_->Show(sections.front(), session_.Settings(*id));
     ShowDocument();
   } catch (const orvik::HostError& error) {
     details_->ShowFacts({}, {error.Description()});
@@ -76,14 +75,14 @@ void MainWindow::ShowDetails() {
 }
 
 void MainWindow::ShowDocument() {
-  std::vector<std::string> facts{desk_.TheDocument().Path().string()};
+  std::vector<std::string> facts{session_.TheDocument().Path().string()};
   if (const auto& tester = view_.instrument)
     facts.push_back(Tr("Tester %%1, serial number %%2, firmware %%3, test leads %%4 mOhm",
                        {tester->type, tester->serial, tester->firmware, std::to_string(tester->leads)}));
   if (view_.judged.simulated) facts.push_back(parts::SimulatedMark().text);
   if (view_.judged.elements.empty()) facts.push_back(Tr("The document has no tests yet: add some."));
   if (view_.judged.run == 0) facts.push_back(Tr("The document has not been run yet."));
-  details_->ShowFacts(desk_.TheDocument().Path().filename().string(), facts, desk_.Runs(view_));
+  details_->ShowFacts(session_.TheDocument().Path().filename().string(), facts, session_.Runs(view_));
 }
 
 void MainWindow::ShowRuns() {
@@ -93,15 +92,15 @@ void MainWindow::ShowRuns() {
 
 void MainWindow::ShowProgress() {
   if (!progress_) return;
-  progressText_->setText(Shown(progress_->Text()));
+  progressText_->setText(qt::ToQt(progress_->Text()));
   progressText_->setToolTip(qt::PlainToolTip(progress_->Text()));
   progressBar_->setRange(0, static_cast<int>(progress_->Count()));
   progressBar_->setValue(static_cast<int>(progress_->Place()) - (progress_->Place() > 0 ? 1 : 0));
 }
 
 void MainWindow::UpdateActions() {
-  const bool free = !Busy();
-  const bool open = free && desk_.HasDocument();
+  const bool free = !state_.Busy();
+  const bool open = free && session_.HasDocument();
   const auto chosen = open ? tree_->Chosen() : std::nullopt;
   const bool some = open && tree_->topLevelItemCount() > 0;
   for (auto* action : {actions_.create, actions_.open, actions_.calibrate}) action->setEnabled(free);
@@ -111,31 +110,32 @@ void MainWindow::UpdateActions() {
     action->setEnabled(some);
   for (auto* action : {actions_.remove, actions_.runSelected, actions_.recordOnly})
     action->setEnabled(chosen.has_value());
-  const auto element = chosen ? desk_.TheDocument().Find(*chosen) : nullptr;
+  const auto element = chosen ? session_.TheDocument().Find(*chosen) : nullptr;
   const auto configuration = element ? element->Configuration() : nullptr;
   actions_.setUp->setEnabled(configuration && configuration->HasDialog());
-  actions_.removeLimits->setEnabled(element && desk_.HasLimits(element->ID()));
-  actions_.recordOnly->setChecked(element && desk_.IsRecordOnly(element->ID()));
-  actions_.stop->setEnabled(session_ || calibration_);
+  actions_.removeLimits->setEnabled(element && session_.HasLimits(element->ID()));
+  actions_.recordOnly->setChecked(element && session_.IsRecordOnly(element->ID()));
+  actions_.stop->setEnabled(state_.UsesTester());
   equipment_->setEnabled(open);
   tester_->setEnabled(free);
   operator_->setEnabled(free);
-  progressBar_->setVisible(session_);
+  progressBar_->setVisible(state_.Running());
 }
 
 void MainWindow::UpdateTitle() {
-  const auto name = desk_.HasDocument() ? desk_.TheDocument().Path().filename().string() + "[*] – " : "[*]";
-  setWindowTitle(Shown(name + "orvik-bench"));
-  setWindowModified(desk_.Changed());
+  const auto name =
+      session_.HasDocument() ? session_.TheDocument().Path().filename().string() + "[*] – " : "[*]";
+  setWindowTitle(qt::ToQt(name + "orvik-bench"));
+  setWindowModified(session_.Changed());
 }
 
 void MainWindow::Remark(const std::string& text) {
-  remark_->setText(Shown(text));
+  remark_->setText(qt::ToQt(text));
   remark_->setVisible(!text.empty());
 }
 
 void MainWindow::Change(const std::function<void()>& change) {
-  const auto before = desk_.BeforeChange();
+  const auto before = session_.BeforeChange();
   change();
   beforeEdit_.reset();
   Refresh();
@@ -143,11 +143,11 @@ void MainWindow::Change(const std::function<void()>& change) {
 }
 
 void MainWindow::EquipmentEdited() {
-  if (!desk_.HasDocument()) return;
+  if (!session_.HasDocument()) return;
   Try([this] {
-    // Compared with what was before the first letter: half a number never counts.
-    if (!beforeEdit_) beforeEdit_.emplace(desk_.BeforeChange());
-    desk_.TheDocument().equipment = equipment_->Entered();
+    // Compared with the document before the first letter, not with a number that is half typed.
+    if (!beforeEdit_) beforeEdit_.emplace(session_.BeforeChange());
+    session_.TheDocument().equipment = equipment_->Entered();
     Refresh();
     Remark(Shortened(beforeEdit_->Text()));
   });

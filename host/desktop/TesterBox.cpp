@@ -8,8 +8,8 @@
 #include <utility>
 
 #include "host/app/InputError.h"
-#include "host/desktop/Shown.h"
 #include "host/services/Tr.h"
+#include "host/toolkit/qt/Texts.h"
 
 namespace bench::desktop {
 
@@ -41,8 +41,8 @@ std::vector<std::string> SerialDevices() {
 TesterBox::TesterBox(double timeScale, QWidget* parent, std::function<std::vector<std::string>()> devices)
     : QComboBox(parent), timeScale_(timeScale), devices_(std::move(devices)) {
   setObjectName("tester");
-  setAccessibleName(Shown(Tr("Tester")));
-  setToolTip(Shown(Tr("The serial device of the tester, such as /dev/ttyUSB0, or a simulated tester")));
+  setAccessibleName(qt::ToQt(Tr("Tester")));
+  setToolTip(qt::ToQt(Tr("The serial device of the tester, such as /dev/ttyUSB0, or a simulated tester")));
   setEditable(true);
   setInsertPolicy(QComboBox::NoInsert);
   // What is typed is taken as it is: "/dev/ttyUSB1" is not the beginning of another.
@@ -80,9 +80,9 @@ void TesterBox::OnChosen(const std::function<void()>& chosen) {
 
 void TesterBox::Fill() {
   clear();
-  for (const auto& device : devices_()) addItem(Shown(device));
+  for (const auto& device : devices_()) addItem(qt::ToQt(device));
   for (const auto* profile : kSimulatedProfiles)
-    addItem(Shown(Tr("Simulated tester: %%1", {profile})), QString(profile));
+    addItem(qt::ToQt(Tr("Simulated tester: %%1", {profile})), QString(profile));
 }
 
 void TesterBox::showPopup() {

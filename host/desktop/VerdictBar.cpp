@@ -4,8 +4,9 @@
 #include <QLabel>
 
 #include "host/app/report/ReportParts.h"
-#include "host/desktop/Shown.h"
+#include "host/desktop/Signs.h"
 #include "host/services/Tr.h"
+#include "host/toolkit/qt/Texts.h"
 
 namespace bench::desktop {
 
@@ -49,13 +50,13 @@ void VerdictBar::Show(const report::Verdict& verdict, bool simulated) {
   const auto colour = ColourName(verdict.standing);
   sign_->setPixmap(SignIcon(verdict.standing).pixmap(kSignSize, kSignSize));
   sign_->setVisible(true);
-  word_->setText(Shown(verdict.word));
+  word_->setText(qt::ToQt(verdict.word));
   const auto mark = simulated ? parts::SimulatedMark() : report::PageMark{};
   const auto sentence = simulated ? mark.text + "\n" + verdict.sentence : verdict.sentence;
-  mark_->setText(Shown(mark.word));
+  mark_->setText(qt::ToQt(mark.word));
   mark_->setVisible(simulated);
-  sentence_->setText(Shown(sentence));
-  setAccessibleName(Shown(Tr("Verdict of the document: %%1, %%2", {verdict.word, sentence})));
+  sentence_->setText(qt::ToQt(sentence));
+  setAccessibleName(qt::ToQt(Tr("Verdict of the document: %%1, %%2", {verdict.word, sentence})));
   setStyleSheet(QString("#verdict { background: white; border: 2px solid %1; border-radius: 4px; }"
                         "#verdictWord { color: %1; } #verdictSentence { color: #1c2330; }"
                         "#simulated { color: white; background: black; padding: 2px 8px; }")
@@ -66,7 +67,7 @@ void VerdictBar::ShowNothing() {
   mark_->setVisible(false);
   sign_->setVisible(false);
   word_->clear();
-  sentence_->setText(Shown(Tr("No document is open.")));
+  sentence_->setText(qt::ToQt(Tr("No document is open.")));
   setAccessibleName(sentence_->text());
   setStyleSheet("#verdict { border: 1px solid palette(mid); border-radius: 4px; }");
 }

@@ -60,8 +60,8 @@ TEST_F(EndTest, WhatIsAskedForTogetherWithTheEndIsNotBegun) {
 TEST_F(EndTest, AnErrorDuringARunIsRemarkedAndToldOnceTheSessionIsOver) {
   OpenOnSoundEquipment();
   Drive({Press("run"), Guide(kPlay), OnTheWire("STST"), Do([this] {
-           window_->TellLater("the lamp is out");
-           window_->TellLater("the lamp is out");
+           window_->ShowErrorLater("the lamp is out");
+           window_->ShowErrorLater("the lamp is out");
          }),
          Await("a result", [this] { return Cell(1, kResult) == "passed"; }), Do([this] {
            EXPECT_FALSE(QApplication::activeModalWidget());
@@ -77,7 +77,7 @@ TEST_F(EndTest, AnErrorOnTheWayOutAsksForNobody) {
   testing::internal::CaptureStderr();
   Drive({Press("run"), Guide(kPlay), OnTheWire("STST"), Do([this] {
            window_->EndByRequest();
-           window_->TellLater("the lamp is out");
+           window_->ShowErrorLater("the lamp is out");
          }),
          Left()});
   EXPECT_THAT(testing::internal::GetCapturedStderr(), HasSubstr("orvik-bench: the lamp is out"));
@@ -85,8 +85,8 @@ TEST_F(EndTest, AnErrorOnTheWayOutAsksForNobody) {
 }
 
 TEST_F(EndTest, ErrorsThatWaitToBeToldDoNotHoldUpTheEnd) {
-  window_->TellLater("the lamp is out");
-  window_->TellLater("the bell is out");
+  window_->ShowErrorLater("the lamp is out");
+  window_->ShowErrorLater("the bell is out");
   testing::internal::CaptureStderr();
   Drive({In("message",
             [this](QDialog&) {

@@ -1,11 +1,11 @@
 #include <gtest/gtest.h>
 
-#include "host/desktop/Shown.h"
+#include "host/desktop/MenuText.h"
 
 namespace desktop_test {
 namespace {
 
-TEST(ButtonText, HasNoLetterToPressAndNoDots) {
+TEST(ButtonText, OmitsAccessKeyAndDots) {
   EXPECT_EQ(bench::desktop::ButtonText("&New..."), "New");
   EXPECT_EQ(bench::desktop::ButtonText("R&esume"), "Resume");
   EXPECT_EQ(bench::desktop::ButtonText("\u65B0\u5EFA(&N)..."), "\u65B0\u5EFA");

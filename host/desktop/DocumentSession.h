@@ -16,11 +16,12 @@
 
 namespace bench::desktop {
 
-/// The one document on the desk and what is done with it, by the same procedures as on the command line, and
-/// with the same errors. What is asked of the document needs one.
-class Desk {
+/// The document that is open and the operations on it: the procedures of the command line, with the same
+/// errors. Everything but `Create`, `Open` and `HasDocument` needs an open document.
+class DocumentSession {
  public:
-  Desk(Workbench& workbench, GlobalOptions options) : workbench_(workbench), options_(std::move(options)) {}
+  DocumentSession(Workbench& workbench, GlobalOptions options)
+      : workbench_(workbench), options_(std::move(options)) {}
 
   Workbench& Bench() { return workbench_; }
   const GlobalOptions& Options() const { return options_; }

@@ -1,8 +1,7 @@
-#include "host/desktop/Shown.h"
+#include "host/desktop/Signs.h"
 
 #include <QPainter>
 #include <QPixmap>
-#include <QRegularExpression>
 
 #include "host/pdf/PdfStyle.h"
 #include "host/pdf/PdfText.h"
@@ -11,18 +10,10 @@ namespace bench::desktop {
 
 namespace {
 
-constexpr int kIconSize = 64;  // Qt makes it smaller where it is shown
-constexpr int kSignRoom = 15;
+constexpr int kIconSize = 64;  ///< in pixels; Qt scales it down
+constexpr int kSignMargin = 15;
 
 }  // namespace
-
-QString ButtonText(const std::string& text) {
-  auto shown = Shown(text);
-  shown.remove(QRegularExpression("\\(&.\\)"));
-  shown.remove('&');
-  if (shown.endsWith("...")) shown.chop(3);
-  return shown;
-}
 
 QIcon SignIcon(report::Standing standing) {
   QPixmap picture(kIconSize, kIconSize);
@@ -32,8 +23,8 @@ QIcon SignIcon(report::Standing standing) {
   painter.setPen(Qt::NoPen);
   painter.setBrush(pdf::ColourOf(standing));
   painter.drawEllipse(0, 0, kIconSize, kIconSize);
-  const double side = kIconSize - 2.0 * kSignRoom;
-  pdf::DrawSign(painter, standing, QRectF(kSignRoom, kSignRoom, side, side), Qt::white);
+  const double side = kIconSize - 2.0 * kSignMargin;
+  pdf::DrawSign(painter, standing, QRectF(kSignMargin, kSignMargin, side, side), Qt::white);
   return QIcon(picture);
 }
 

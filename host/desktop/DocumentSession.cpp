@@ -1,4 +1,4 @@
-#include "host/desktop/Desk.h"
+#include "host/desktop/DocumentSession.h"
 
 #include <array>
 #include <cstdlib>
@@ -60,19 +60,19 @@ std::vector<report::Fact> OriginOf(const judge::JudgedElement& element, bool sim
 
 }  // namespace
 
-void Desk::Create(const std::filesystem::path& file) {
+void DocumentSession::Create(const std::filesystem::path& file) {
   document_ = Document::Create(workbench_.Host(), file);
   openedMark_.reset();  // a new document is worth saving
 }
 
-void Desk::CreateFromThis(const std::filesystem::path& file) {
+void DocumentSession::CreateFromThis(const std::filesystem::path& file) {
   const auto next = Document::Create(workbench_.Host(), file);
   next->AddPlanOf(*document_);
   document_ = next;
   openedMark_.reset();
 }
 
-void Desk::Open(const std::filesystem::path& file) {
+void DocumentSession::Open(const std::filesystem::path& file) {
   std::error_code absent;
   // The document holds its file alone, also against ourselves.
   if (document_ && std::filesystem::equivalent(document_->Path(), file, absent)) document_.reset();
@@ -80,12 +80,12 @@ void Desk::Open(const std::filesystem::path& file) {
   openedMark_ = Document::MarkOf(document_->Text());
 }
 
-void Desk::SaveAs(const std::filesystem::path& file) {
+void DocumentSession::SaveAs(const std::filesystem::path& file) {
   document_->MoveTo(file);
   Save();
 }
 
-bool Desk::Changed() const {
+bool DocumentSession::Changed() const {
   if (!document_) return false;
   const auto saved = document_->SavedMark();
   try {
@@ -95,11 +95,11 @@ bool Desk::Changed() const {
   }
 }
 
-std::filesystem::path Desk::UnsavedFile() const { return bench::UnsavedFile(*document_); }
+std::filesystem::path DocumentSession::UnsavedFile() const { return bench::UnsavedFile(*document_); }
 
-std::filesystem::path Desk::KeepUnsaved() const { return bench::KeepUnsaved(*document_); }
+std::filesystem::path DocumentSession::KeepUnsaved() const { return bench::KeepUnsaved(*document_); }
 
-std::string Desk::Device() const {
+std::string DocumentSession::Device() const {
   const auto& equipment = document_->equipment;
   std::vector<std::string> kind;
   for (const auto& part : {equipment.maker, equipment.model})
@@ -110,10 +110,10 @@ std::string Desk::Device() const {
   return kind.empty() ? number : number + " (" + Joined(kind, " ") + ")";
 }
 
-DocumentView Desk::View() const { return ViewOf(*document_, *workbench_.Host()); }
+DocumentView DocumentSession::View() const { return ViewOf(*document_, *workbench_.Host()); }
 
-std::vector<report::Section> Desk::Sections(const DocumentView& view,
-                                            const std::vector<std::int32_t>& ids) const {
+std::vector<report::Section> DocumentSession::Sections(const DocumentView& view,
+                                                       const std::vector<std::int32_t>& ids) const {
   auto sections = SectionsOf(*document_, *workbench_.Host(), view, ids);
   for (auto& section : sections)
     if (const auto* element = view.judged.Find(section.id))
@@ -121,9 +121,9 @@ std::vector<report::Section> Desk::Sections(const DocumentView& view,
   return sections;
 }
 
-report::Table Desk::Runs(const DocumentView& view) const { return RunsOf(*document_, view); }
+report::Table DocumentSession::Runs(const DocumentView& view) const { return RunsOf(*document_, view); }
 
-std::vector<std::string> Desk::Settings(std::int32_t id) const {
+std::vector<std::string> DocumentSession::Settings(std::int32_t id) const {
   const auto element = document_->Find(id);
   const auto configuration = element ? element->Configuration() : nullptr;
   if (!configuration) return {};
@@ -137,45 +137,45 @@ std::vector<std::string> Desk::Settings(std::int32_t id) const {
   return words;
 }
 
-std::int32_t Desk::AddTests(const std::vector<std::int32_t>& testIds) {
+std::int32_t DocumentSession::AddTests(const std::vector<std::int32_t>& testIds) {
   std::int32_t last = 0;
   for (const auto testId : testIds) last = document_->AddTest(testId)->ID();
   return last;
 }
 
-void Desk::Remove(std::int32_t id) { document_->Remove(Found(id)); }
+void DocumentSession::Remove(std::int32_t id) { document_->Remove(Found(id)); }
 
-bool Desk::IsRecordOnly(std::int32_t id) const {
+bool DocumentSession::IsRecordOnly(std::int32_t id) const {
   return bench::IsRecordOnly(Found(id), *workbench_.Host()->Elements());
 }
 
-void Desk::SetRecordOnly(std::int32_t id, bool recordOnly) {
+void DocumentSession::SetRecordOnly(std::int32_t id, bool recordOnly) {
   MarkRecordOnly(Found(id), *workbench_.Host()->Elements(), recordOnly);
 }
 
-bool Desk::HasLimits(std::int32_t id) const {
+bool DocumentSession::HasLimits(std::int32_t id) const {
   const auto limits = Found(id)->Limits();
   return limits && !LimitsOf(*limits).empty();
 }
 
-void Desk::RemoveLimits(std::int32_t id) {
+void DocumentSession::RemoveLimits(std::int32_t id) {
   if (const auto limits = Found(id)->Limits())
     RemoveStandards(*limits, [](const orvik::IStandard&) { return true; });
 }
 
-AppliedLimits Desk::ApplySet(const LimitSet& set, std::optional<std::int32_t> id) {
+AppliedLimits DocumentSession::ApplySet(const LimitSet& set, std::optional<std::int32_t> id) {
   const auto elements = id ? std::vector<Element>{Found(*id)} : TopElements(*document_);
   auto told = ApplyLimitSet(set, elements, *workbench_.Host()->Elements());
   if (told.applied.empty()) throw InputError(Tr("%%1: the set covers none of these elements", {set.Name()}));
   return told;
 }
 
-void Desk::WriteReport(const std::filesystem::path& out) const {
+void DocumentSession::WriteReport(const std::filesystem::path& out) const {
   CheckReportFile(document_->Path(), out);
   bench::WriteReport(ReportOf(*document_, *workbench_.Host(), options_.language), out);
 }
 
-Element Desk::Found(std::int32_t id) const {
+Element DocumentSession::Found(std::int32_t id) const {
   auto element = document_->Find(id);
   if (!element) throw InputError(Tr("The document has no element %%1.", {std::to_string(id)}));
   return element;

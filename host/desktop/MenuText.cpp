@@ -1,0 +1,15 @@
+#include "host/desktop/MenuText.h"
+
+#include <QRegularExpression>
+
+#include "host/toolkit/qt/Texts.h"
+
+namespace bench::desktop {
+
+QString ButtonText(const std::string& menuText) {
+  auto text = qt::ToQt(menuText);
+  text.remove(QRegularExpression("\\(&.\\)|&|\\.\\.\\.$"));
+  return text;
+}
+
+}  // namespace bench::desktop

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QString>
+#include <string>
+
+namespace bench::desktop {
+
+/// The text of a menu entry for a tool button: without the access key, which some languages put into
+/// brackets, and without the dots at its end.
+QString ButtonText(const std::string& menuText);
+
+}  // namespace bench::desktop
