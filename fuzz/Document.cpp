@@ -8,7 +8,7 @@
 #include "fuzz/HostErrors.h"
 #include "fuzz/Scratch.h"
 #include "host/app/DocumentJson.h"
-#include "host/app/DocumentText.h"
+#include "host/app/DocumentLines.h"
 #include "host/app/DocumentView.h"
 #include "host/app/report/DocumentReport.h"
 #include "host/document/DocumentCheck.h"

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "host/app/DocumentView.h"
+#include "host/judge/Verdict.h"
 
 namespace bench {
 
@@ -13,11 +13,5 @@ std::string ReadingText(const judge::JudgedElement& element);
 
 /// Why the element counts as it does, a sentence each, in the reader's language; none for one that passed.
 std::vector<std::string> ReasonTexts(const judge::JudgedElement& element);
-
-/// The element in one line: identifier, verdict, reading, name.
-std::string LineOf(const judge::JudgedElement& element, bool coloured = false);
-
-/// What `run` and `show` print of a document.
-std::string TextOf(const DocumentView& document, bool coloured = false);
 
 }  // namespace bench

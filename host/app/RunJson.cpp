@@ -1,7 +1,7 @@
 #include "host/app/RunJson.h"
 
 #include "host/app/DocumentJson.h"
-#include "host/app/RunText.h"
+#include "host/app/RunOutcome.h"
 #include "host/services/Text.h"
 
 namespace bench {

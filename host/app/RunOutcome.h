@@ -47,4 +47,14 @@ judge::LimitVerdict VerdictThen(const RecordedLimit& limit, const RecordedTest& 
 /// "within limit", "exceeded", "below limit", "not judged".
 std::string LimitWord(judge::LimitVerdict verdict);
 
+/// "finished", "stopped", "aborted", "tester lost", "interrupted"; in the reader's language.
+std::string EndWord(const RunRecord& run);
+
+/// How many of the elements that the run took up it finished with a result, and how many there are.
+struct RunProgressCount {
+  std::size_t finished = 0;
+  std::size_t taken = 0;
+};
+RunProgressCount CountOf(const RunRecord& run);
+
 }  // namespace bench

@@ -1,7 +1,5 @@
 #include "host/app/RunText.h"
 
-#include <map>
-
 #include "host/app/InputError.h"
 #include "host/app/RunOutcome.h"
 #include "host/app/TextColumns.h"
@@ -67,38 +65,6 @@ std::string TestText(const TestThen& then) {
 }
 
 }  // namespace
-
-std::string EndWord(const RunRecord& run) {
-  switch (run.end) {
-    case RunRecord::End::kFinished:
-      return Tr("finished");
-    case RunRecord::End::kStopped:
-      return Tr("stopped");
-    case RunRecord::End::kAborted:
-      return Tr("aborted");
-    case RunRecord::End::kLost:
-      return Tr("tester lost");
-    case RunRecord::End::kNone:
-      break;
-  }
-  return Tr("interrupted");
-}
-
-RunProgressCount CountOf(const RunRecord& run) {
-  std::map<std::int32_t, bool> done;
-  for (const auto& step : run.steps) {
-    if (const auto* takes = std::get_if<RecordedTakes>(&step)) {
-      for (const auto id : takes->elements) done[id] = false;
-    } else {
-      const auto& test = std::get<RecordedTest>(step);
-      done[test.element] = test.status >= 1 && test.status <= 3;
-    }
-  }
-  RunProgressCount count;
-  count.taken = done.size();
-  for (const auto& [id, finished] : done) count.finished += finished ? 1 : 0;
-  return count;
-}
 
 std::string RunsText(const std::vector<RunRecord>& runs) {
   if (runs.empty()) return Tr("The document has not been run yet.") + "\n";

@@ -8,16 +8,6 @@
 
 namespace bench {
 
-/// "finished", "stopped", "aborted", "tester lost", "interrupted"; in the reader's language.
-std::string EndWord(const RunRecord& run);
-
-/// How many of the elements that the run took up it finished with a result, and how many there are.
-struct RunProgressCount {
-  std::size_t finished = 0;
-  std::size_t taken = 0;
-};
-RunProgressCount CountOf(const RunRecord& run);
-
 /// What `show --runs` prints: a line for each run, oldest first.
 std::string RunsText(const std::vector<RunRecord>& runs);
 

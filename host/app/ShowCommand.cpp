@@ -6,7 +6,7 @@
 
 #include "host/app/Colour.h"
 #include "host/app/DocumentJson.h"
-#include "host/app/DocumentText.h"
+#include "host/app/DocumentLines.h"
 #include "host/app/NumberOption.h"
 #include "host/app/RunJson.h"
 #include "host/app/RunText.h"

@@ -8,6 +8,7 @@
 #include "host/app/CalibrationWindow.h"
 #include "host/app/StoredLeadsView.h"
 #include "host/app/run/RunSession.h"
+#include "host/app/run/ScreenOperator.h"
 #include "host/desktop/Dialogs.h"
 #include "host/desktop/ElementTree.h"
 #include "host/desktop/GuideJudgement.h"
@@ -77,8 +78,9 @@ void MainWindow::PerformRun(const std::vector<std::shared_ptr<orvik::ITestElemen
   RunProgress progress(
       *bench.Application(), bench.TimeScale(), [this] { RunChanged(); },
       [this](const std::string& text) { Remark(text); });
-  RunSession session(bench, session_.TheDocument(), log, progress, OperatorKind::kScreen, tester,
+  RunSession session(bench, session_.TheDocument(), log, progress, tester,
                      OperatorName(operator_->text().toStdString()));
+  const ScreenOperator person(bench.Application(), session.Stop());
   Remark({});
   beforeEdit_.reset();
   auto end = DocumentRunner::End::kFinished;

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <sstream>
 
+#include "host/app/DocumentLines.h"
 #include "host/app/DocumentText.h"
 #include "host/app/DocumentView.h"
 #include "host/app/run/ProgressLines.h"

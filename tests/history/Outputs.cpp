@@ -3,7 +3,7 @@
 #include <nlohmann/json.hpp>
 
 #include "host/app/DocumentJson.h"
-#include "host/app/DocumentText.h"
+#include "host/app/DocumentLines.h"
 #include "host/app/report/DocumentReport.h"
 #include "host/services/Text.h"
 

@@ -4,7 +4,7 @@
 #include <limits>
 
 #include "host/app/DocumentJson.h"
-#include "host/app/DocumentText.h"
+#include "host/app/DocumentLines.h"
 #include "host/app/NumberOption.h"
 #include "host/app/archive/ArchiveCommandJson.h"
 #include "host/app/archive/ArchiveCommandOpen.h"

@@ -1,4 +1,4 @@
-#include "host/app/RunText.h"
+#include "host/app/RunOutcome.h"
 #include "host/app/TextColumns.h"
 #include "host/app/report/ReportParts.h"
 #include "host/report/VisibleText.h"

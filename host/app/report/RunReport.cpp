@@ -5,7 +5,7 @@
 #include <map>
 
 #include "host/app/DocumentView.h"
-#include "host/app/RunText.h"
+#include "host/app/RunOutcome.h"
 #include "host/app/TextColumns.h"
 #include "host/app/report/ReportParts.h"
 #include "host/document/Document.h"

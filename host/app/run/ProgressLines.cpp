@@ -6,7 +6,7 @@
 #include <ostream>
 
 #include "host/app/Colour.h"
-#include "host/app/DocumentText.h"
+#include "host/app/DocumentLines.h"
 #include "host/judge/ReasonText.h"
 #include "host/report/VisibleText.h"
 #include "host/serial/Latin1.h"

@@ -3,20 +3,23 @@
 #include <unistd.h>
 
 #include <iostream>
+#include <optional>
 
 #include "OrvikTypeLib/HostError.h"
 #include "host/app/Colour.h"
 #include "host/app/DocumentJson.h"
-#include "host/app/DocumentText.h"
+#include "host/app/DocumentLines.h"
 #include "host/app/DocumentView.h"
 #include "host/app/InputError.h"
 #include "host/app/NumberOption.h"
 #include "host/app/UnsavedChanges.h"
+#include "host/app/run/AskOperator.h"
 #include "host/app/run/EventLines.h"
 #include "host/app/run/ProgressLines.h"
 #include "host/app/run/RunSelection.h"
 #include "host/app/run/RunSession.h"
 #include "host/document/Document.h"
+#include "host/run/AutoOperator.h"
 #include "host/run/StopSignals.h"
 #include "host/services/Tr.h"
 
@@ -106,11 +109,19 @@ ExitStatus RunCommand::Perform(Workbench& workbench, Document& document, RunRepo
 
   auto end = DocumentRunner::End::kFinished;
   {
-    RunSession session(workbench, document, log, reporter,
-                       options_.operatorKind == "ask" ? OperatorKind::kTerminal : OperatorKind::kProgram,
-                       tester, OperatorName(options_.by));
+    const auto& application = workbench.Application();
+    RunSession session(workbench, document, log, reporter, tester, OperatorName(options_.by));
     session.JudgeBy(options_.standards);
-    const StopSignals signals(*workbench.Application(), [&session](int) { session.AskToStop(); });
+    std::optional<AskOperator> person;
+    std::optional<AutoOperator> program;
+    orvik::platform::Subscription prompted;
+    if (options_.operatorKind == "ask") {
+      person.emplace(application, session.Stop(), reporter, [&session] { return session.ReachedTest(); });
+    } else {
+      program.emplace(application, session.Stop());
+      prompted = program->Prompted().Subscribe([&](const std::string& text) { reporter.Prompted(text); });
+    }
+    const StopSignals signals(*application, [&session](int) { session.AskToStop(); });
     end = session.Run(elements);
     reporter.Over();
     Tell(end, session.Reason(), reporter);

@@ -3,15 +3,12 @@
 #include "OrvikTypeLib/As.h"
 #include "OrvikTypeLib/ITestContainer.h"
 #include "host/app/InputError.h"
-#include "host/app/run/AskOperator.h"
-#include "host/app/run/ScreenOperator.h"
 #include "host/app/run/StoredLeadsNotice.h"
 #include "host/document/Document.h"
 #include "host/elements/ElementFactory.h"
 #include "host/instruments/InstrumentColl.h"
 #include "host/judge/CaseOf.h"
 #include "host/report/VisibleText.h"
-#include "host/run/AutoOperator.h"
 #include "host/run/ElementText.h"
 #include "host/run/ElementWalk.h"
 #include "host/services/LeadCalibrations.h"
@@ -62,12 +59,11 @@ void RequireOneKindOfRuns(const Document& document, bool simulated) {
 }
 
 RunSession::RunSession(Workbench& workbench, Document& document, WireLog& log, RunReporter& reporter,
-                       OperatorKind kind, const TesterConnection& tester, const std::string& by)
+                       const TesterConnection& tester, const std::string& by)
     : workbench_(workbench),
       document_(document),
       log_(log),
       reporter_(reporter),
-      kind_(kind),
       heading_(HeadingOf(workbench, document, tester, by)),
       doubts_(*workbench.Ports().TheWire()),
       link_(workbench.Ports()),
@@ -118,19 +114,7 @@ DocumentRunner::End RunSession::Run(const std::vector<Element>& elements) {
   reporter_.Planned(TestsOfEach(elements));
   const StoredLeadsNotice leads(*workbench_.Ports().TheWire(), *workbench_.Host()->Registry(), elements,
                                 [this](const std::string& text) { reporter_.Remark(text); });
-  const auto person = MakeOperator();
   return runner_.Run(heading_, elements);
-}
-
-std::unique_ptr<IOperator> RunSession::MakeOperator() {
-  const auto& application = workbench_.Application();
-  if (kind_ == OperatorKind::kTerminal)
-    return std::make_unique<AskOperator>(application, stop_, reporter_, [this] { return ReachedTest(); });
-  if (kind_ == OperatorKind::kScreen) return std::make_unique<ScreenOperator>(application, stop_);
-  auto program = std::make_unique<AutoOperator>(application, stop_);
-  heard_.push_back(
-      program->Prompted().Subscribe([this](const std::string& text) { reporter_.Prompted(text); }));
-  return program;
 }
 
 void RunSession::AskToStop() {

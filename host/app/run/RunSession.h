@@ -10,18 +10,14 @@
 #include "host/app/run/StopProgress.h"
 #include "host/run/DocumentRunner.h"
 #include "host/run/DoubtTracker.h"
-#include "host/run/IOperator.h"
 #include "host/run/LinkWatch.h"
 #include "host/run/RunRecorder.h"
+#include "host/run/StopRequest.h"
 #include "host/serial/WireLog.h"
 
 namespace bench {
 
 class Document;
-
-/// Who operates the guide: the program itself, the person at the terminal by words, or the person before the
-/// windows.
-enum class OperatorKind { kProgram, kTerminal, kScreen };
 
 /// `InputError` when the document has runs of the other kind: simulated and real ones never meet.
 void RequireOneKindOfRuns(const Document& document, bool simulated);
@@ -31,12 +27,17 @@ class RunSession {
  public:
   /// @param by the name of the operator, for the record
   /// `InputError` when the document has runs on a tester of the other kind, real or simulated.
-  RunSession(Workbench& workbench, Document& document, WireLog& log, RunReporter& reporter, OperatorKind kind,
+  RunSession(Workbench& workbench, Document& document, WireLog& log, RunReporter& reporter,
              const TesterConnection& tester, const std::string& by);
 
   /// What `reporter` hears is judged by these standards; without any by every one that an element names.
   void JudgeBy(std::vector<std::string> standards) { standards_ = std::move(standards); }
-  /// Runs the elements; returns when the session with the tester is over and the document saved.
+  /// The run's stop request, for the operator of the guide.
+  StopRequest& Stop() { return stop_; }
+  /// Number and name of the test that the run has reached, whose guide is shown.
+  std::string ReachedTest() const;
+  /// Runs the elements while an operator works the guide; returns when the session with the tester is over
+  /// and the document saved.
   DocumentRunner::End Run(const std::vector<std::shared_ptr<orvik::ITestElement>>& elements);
   /// Why it ended so.
   const std::string& Reason() const { return runner_.Reason(); }
@@ -47,15 +48,11 @@ class RunSession {
  private:
   void Listen();
   judge::JudgedElement Judged(const orvik::ITestElement& element) const;
-  /// Number and name of the test that the run has reached, whose guide is shown.
-  std::string ReachedTest() const;
-  std::unique_ptr<IOperator> MakeOperator();
 
   Workbench& workbench_;
   Document& document_;
   WireLog& log_;
   RunReporter& reporter_;
-  const OperatorKind kind_;
   std::vector<std::string> standards_;
   StopRequest stop_;
   const RunRecorder::Heading heading_;
