@@ -71,7 +71,7 @@ std::shared_ptr<CKELDTestConfiguration> CKELDElement::TestConfiguration() const 
   return As<CKELDTestConfiguration>(Configuration());
 }
 
-// --- ITestElement: passed to the base element ---
+// --- ITestElement: forwarded to the base element ---
 
 void CKELDElement::ITestElement_Initialize(const std::string& sPlugInID, std::int32_t lElementID,
                                            std::int32_t lTestID) {

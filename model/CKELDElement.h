@@ -21,10 +21,10 @@ class CKELDTestConfiguration;
 class FTestGuide;
 class FYesNoPrompt;
 
-/// What a single test and a sequence have in common: the host's base element that each wraps, and the frame
-/// of a run.
+/// The common part of single tests and sequences: the host's base element that each wraps, and the frame of
+/// a run.
 ///
-/// Every operation ignores errors step by step: a failing call is passed over and the next step runs.
+/// Every operation ignores errors step by step: a failing call is skipped and the next step runs.
 class CKELDElement : public orvik::ITestElement, public IKELDTest {
  public:
   /// The host's element behind this one. Setting it to empty is ignored.
@@ -35,9 +35,9 @@ class CKELDElement : public orvik::ITestElement, public IKELDTest {
   CKELDElement() = default;
   ~CKELDElement() override;
 
-  /// Makes the base element of the host's class and installs configuration and limits in it.
+  /// Creates the base element from the host's class and installs configuration and limits in it.
   void InstallBaseElement(const std::string& sHostClass);
-  /// Tells configuration, limits and result that they belong to this element.
+  /// Make this element the owner of its configuration, limits and result.
   void OwnConfiguration();
   void OwnLimits();
   void OwnResult();
@@ -48,24 +48,24 @@ class CKELDElement : public orvik::ITestElement, public IKELDTest {
   std::shared_ptr<orvik::ITestElement> SelfElement();
   std::shared_ptr<CKELDTestConfiguration> TestConfiguration() const;
 
-  /// The result as the plug-in's own class; empty when there is none.
+  /// The result as the plug-in's own class, or empty.
   std::shared_ptr<CKELDResultData> ResultData() const;
-  /// The result, made first when there is none.
+  /// The result; creates one if there is none.
   std::shared_ptr<CKELDResultData> EnsureResult();
-  /// Status 3, no measurement, owned by this element.
+  /// Records status 3 without a measurement.
   void RecordNotApplicable();
-  /// The status of an aborted element, which has no service record, not even one of an earlier run.
+  /// Records the status of an aborted element, and removes the service record of an earlier run.
   void RecordAbort(std::int32_t lStatus);
-  /// Whether the run controller lets the element start; no where nobody answers.
+  /// True if the run controller lets the element start; false if it cannot be asked.
   bool MayStart();
 
-  void TellFinished();
+  void NotifyFinished();
   void HideGuide();
   void Navigate(std::int32_t lRequest);
   void ShowResultInGuide();
-  /// Ends the test and remote mode on the link, then lets go of it.
+  /// Ends the test and remote mode on the link, then releases it.
   void CloseLink();
-  /// Asks with the yes/no prompt; true when the operator answered yes.
+  /// Asks with the yes/no prompt; true only if the operator answered yes.
   bool AskYesNo(const std::string& sText);
 
   /// The instrument link of the current run, or empty.
@@ -73,8 +73,8 @@ class CKELDElement : public orvik::ITestElement, public IKELDTest {
   virtual void SetLink(std::shared_ptr<CKELDInstrument> Instrument);
   std::shared_ptr<FTestGuide> TestGuide() const { return mTestGuide; }
   std::shared_ptr<orvik::IRunController> RunController() const { return mRunController.lock(); }
-  /// Whether the measurement fails the element's limits by the run's standards; false without limits. Raises
-  /// an error when limits or standards cannot be read, so that what was not judged does not pass.
+  /// Whether the measurement fails the element's limits under the run's standards; false without limits.
+  /// Raises an error if limits or standards cannot be read, so that an unjudged reading does not pass.
   bool FailsOwnLimits(CKELDMeasurement& Measurement) const;
   bool StandaloneRun() const { return fStandaloneRun; }
 
@@ -115,7 +115,7 @@ class CKELDElement : public orvik::ITestElement, public IKELDTest {
                              std::shared_ptr<orvik::IRunController> RunController) override;
   void IKELDTest_ResetAutoRun() override;
 
-  /// Whether the report shows the element at all, beyond the host's own setting.
+  /// Whether reports may show the element, in addition to the host's own setting.
   virtual bool Printable() const { return true; }
   void GuideOperator(const std::shared_ptr<orvik::IRunController>& RunController);
 
@@ -124,8 +124,7 @@ class CKELDElement : public orvik::ITestElement, public IKELDTest {
   std::int16_t iYesNoAnswer = 2;
   bool fStandaloneRun = false;
   std::shared_ptr<FTestGuide> mTestGuide;
-  // Weak: whoever performs a run holds its controller, and the controller holds the document with its
-  // elements.
+  // Weak: the caller of Perform holds the controller, which holds the document and so this element.
   std::weak_ptr<orvik::IRunController> mRunController;
   std::shared_ptr<CKELDInstrument> mVTI;
   std::shared_ptr<FYesNoPrompt> mfrmYesNoPrompt;

@@ -66,11 +66,11 @@ void CKELDElement::RecordAbort(std::int32_t lStatus) {
 bool CKELDElement::FailsOwnLimits(CKELDMeasurement& Measurement) const {
   const auto Standards = Required(mRunController)->Standards();
   static_cast<void>(Required(Standards));
-  // From the base element itself: the element's own view of its limits ignores errors.
+  // Ask the base element: `Limits()` of this element would hide the error.
   return Measurement.FailsLimits(Required(mBaseElement).Limits(), Standards);
 }
 
-void CKELDElement::TellFinished() {
+void CKELDElement::NotifyFinished() {
   Attempt([&] { Required(mRunController)->FinishedNotice(SelfElement()); });
 }
 
@@ -95,7 +95,7 @@ void CKELDElement::CloseLink() {
 void CKELDElement::SetLink(std::shared_ptr<CKELDInstrument> Instrument) { mVTI = std::move(Instrument); }
 
 bool CKELDElement::AskYesNo(const std::string& sText) {
-  // A prompt that goes away without an answer is no consent.
+  // A prompt that closes without an answer is not consent.
   iYesNoAnswer = 2;
   orvik::platform::Subscription Answered;
   Attempt([&] { mfrmYesNoPrompt = FYesNoPrompt::Create(); });

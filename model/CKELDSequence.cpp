@@ -38,7 +38,7 @@ void CKELDSequence::ITestContainer_Add(std::shared_ptr<orvik::ITestElement> iteE
     Required(mChildren).Add(iteElement, vBefore, vAfter);
     Required(iteElement).SetParent(SelfElement());
   } catch (const orvik::HostError& Error) {
-    // The host sees no error, but an element that could not be added must not vanish without a trace.
+    // The host gets no error, so log the element that could not be added.
     Attempt([&] {
       MKELDGlobalVars::ErrorLog()->LogEntry(MKELDConstants::kPlugInID, Error.Number(), "CKELDSequence",
                                             MKELDConstants::kLevelConfiguration, {}, {}, {}, {}, {});
@@ -74,10 +74,10 @@ void CKELDSequence::ITestContainer_Remove(std::shared_ptr<orvik::ITestElement> i
 // --- ITestElement ---
 
 std::shared_ptr<orvik::ITestElement> CKELDSequence::ITestElement_Clone() const {
-  // Without the base element, configuration and limits of `Create`: those of the copy would replace them.
+  // Not `Create`: the clone brings its own base element, configuration and limits.
   auto Copy = std::make_shared<CKELDSequence>();
   if (!CloneInto(*Copy)) return nullptr;
-  // The host copied the children into its own container; they stand in the sequence.
+  // The host copied the children into its own container; make the sequence their parent.
   ForEachChild(*Copy, [&](const auto& iteChild) { iteChild->SetParent(Copy); });
   return Copy;
 }

@@ -41,22 +41,22 @@ class CKELDSequence final : public CKELDElement, public orvik::ITestContainer {
   bool Printable() const override;
 
   void RunChildren();
-  /// False when no later child is to run.
+  /// Returns false if no later child may run.
   bool RunChild(const std::shared_ptr<orvik::ITestElement>& iteChild);
-  /// The running child, and those that run inside it, let go of the link, so that nobody is told of a lost
-  /// tester.
+  /// Takes the link from the running child and from those running inside it, so that none of them reports a
+  /// lost tester.
   void ReleaseRunningChild();
   void ResetResult();
   void Summarise();
-  /// Failed by the sequence's own limits, else what the children's results give. Not tested when the limits
-  /// cannot be read and no child failed.
+  /// Failed if the sequence's own limits are exceeded, else the status from the children's results. Not
+  /// tested if the limits cannot be read and no child failed.
   std::int32_t SummaryStatus(CKELDMeasurement& Summary, bool fHasLimits) const;
 
-  /// The base element as the container that it is.
+  /// The base element, viewed as a container.
   std::shared_ptr<orvik::ITestContainer> mChildren;
   /// The child being run, or empty.
   std::shared_ptr<orvik::ITestElement> mCurrentChild;
-  /// The operator has ended the present run.
+  /// The operator has aborted the present run.
   bool fAborted = false;
 };
 

@@ -41,9 +41,9 @@ void CKELDSequence::IKELDTest_RunTest() {
     });
   }
   ShowResultInGuide();
-  TellFinished();
+  NotifyFinished();
   if (StandaloneRun()) CloseLink();
-  // An abort while the session was being closed comes after the summary, and discards it all the same.
+  // An abort while the session is closing comes after the summary; it must discard that too.
   if (fAborted) ResetResult();
 }
 
@@ -99,7 +99,7 @@ std::int32_t CKELDSequence::SummaryStatus(CKELDMeasurement& Summary, bool fHasLi
   const bool fJudged = !fHasLimits || Attempt([&] { fFailed = FailsOwnLimits(Summary); });
   if (fFailed) return MKELDConstants::kFailed;
   const std::int32_t lChildren = ChildrenStatus(Required(mChildren));
-  // A summary that could not be judged never counts as passed, but a failed child fails it all the same.
+  // A summary that could not be judged never passes, but a failed child still fails it.
   return fJudged || lChildren == MKELDConstants::kFailed ? lChildren : MKELDConstants::kNotTested;
 }
 
@@ -113,7 +113,7 @@ void CKELDSequence::IKELDTest_AbortTest() {
   const auto Self = shared_from_this();
   if (!AskYesNo(MKELDLanguageConstants::kEndTest)) return;
   fAborted = true;
-  // The loop over the children ends as it does after a stop, without a summary.
+  // End the loop over the children as a stop does, without a summary.
   StopTest();
   ReleaseRunningChild();
   CloseLink();
@@ -134,7 +134,7 @@ void CKELDSequence::IKELDTest_NATest() {
   ForEachChild(*this, [](const auto& iteChild) {
     if (const auto Test = As<IKELDTest>(iteChild)) Test->NATest();
   });
-  TellFinished();
+  NotifyFinished();
   HideGuide();
   Navigate(MKELDConstants::kNavigateNotApplicable);
 }
@@ -145,7 +145,7 @@ void CKELDSequence::IKELDTest_SkipTest() {
   ForEachChild(*this, [](const auto& iteChild) {
     if (const auto Test = As<IKELDTest>(iteChild)) Test->SkipTest();
   });
-  TellFinished();
+  NotifyFinished();
   HideGuide();
   Navigate(MKELDConstants::kNavigateSkip);
 }

@@ -38,8 +38,8 @@ void CKELDTestElement::ITestElement_Initialize(const std::string& sPlugInID, std
   if (!fOneLead && !fAllLeads) return;
   Attempt([&] {
     auto& Configured = Required(TestConfiguration());
-    // An addition, not a bit set: a word that already has the 4 carries into the 8. One that would overflow
-    // stays as it is.
+    // Adds 4 instead of setting a bit, on purpose: a word that already has the 4 carries into the 8. A word
+    // that would overflow stays unchanged.
     constexpr std::int32_t kHighest = std::numeric_limits<std::int32_t>::max() - 4;
     if (fOneLead && Configured.Options() <= kHighest) Configured.SetOptions(Configured.Options() + 4);
     if (fAllLeads) Configured.SetOptions(Configured.Options() | 4096);
@@ -47,7 +47,7 @@ void CKELDTestElement::ITestElement_Initialize(const std::string& sPlugInID, std
 }
 
 std::shared_ptr<orvik::ITestElement> CKELDTestElement::ITestElement_Clone() const {
-  // Without the base element, configuration and limits of `Create`: those of the copy would replace them.
+  // Not `Create`: the clone brings its own base element, configuration and limits.
   auto Copy = std::make_shared<CKELDTestElement>();
   if (!CloneInto(*Copy)) return nullptr;
   return Copy;
@@ -77,7 +77,7 @@ void CKELDTestElement::IKELDTest_RunTest() {
   }
   if (StandaloneRun()) Attempt([&] { SetLink(CKELDInstrument::Create()); });
   MeasureOnLink();
-  TellFinished();
+  NotifyFinished();
   if (StandaloneRun()) CloseLink();
 }
 
@@ -102,7 +102,7 @@ void CKELDTestElement::IKELDTest_StopTest() { fStopRequested = true; }
 void CKELDTestElement::IKELDTest_SkipTest() {
   const auto Self = shared_from_this();
   Attempt([&] { Required(BaseElement()).SetResult(nullptr); });
-  TellFinished();
+  NotifyFinished();
   HideGuide();
   Navigate(MKELDConstants::kNavigateSkip);
 }
@@ -110,7 +110,7 @@ void CKELDTestElement::IKELDTest_SkipTest() {
 void CKELDTestElement::IKELDTest_NATest() {
   const auto Self = shared_from_this();
   RecordNotApplicable();
-  TellFinished();
+  NotifyFinished();
   HideGuide();
   Navigate(MKELDConstants::kNavigateNotApplicable);
 }

@@ -17,7 +17,7 @@ class CKELDTestElement final : public CKELDElement {
   /// An element with a base element of the host, its own configuration and its own limits.
   static std::shared_ptr<CKELDTestElement> Create();
 
-  /// The message about a failure that is on the screen, with the key of its picture; empty without one.
+  /// The failure message now on the screen, tagged with the key of its picture; empty if there is none.
   std::shared_ptr<FPretestPrompt> FailureMessage() const { return mfrmPretestPrompt; }
 
  private:

@@ -18,27 +18,27 @@
 #include "ui/FPretestPrompt.h"
 #include "ui/FTestGuide.h"
 
-// What a single test does when its instrument link reports something.
+// How a single test handles the events of its instrument link.
 namespace keld {
 
 using orvik::Required;
 
 namespace {
 
-/// The reading as it is recorded: value and unit.
+/// A reading as it is recorded.
 struct Reading {
   double rValue;
   std::string sUnit;
 };
 
-/// Protective-earth resistance comes in ohms and is recorded a thousandfold in the element's own unit,
-/// whatever that is.
+/// Protective-earth resistance arrives in ohms and is recorded times 1000 in the element's own unit, which is
+/// not checked.
 Reading InExpectedUnits(Reading Taken, const std::string& sExpectedUnits) {
   if (Taken.sUnit != "Ohm") return Taken;
   return {Taken.rValue * 1000, sExpectedUnits};
 }
 
-/// The resistance of the test leads is no part of the equipment's protective earth.
+/// The resistance of the test leads is not part of the equipment's protective earth.
 Reading WithoutLeads(Reading Taken, std::int16_t iTestNo) {
   if (iTestNo != 410 && iTestNo != 420) return Taken;
   Taken.rValue -= CKELDData::Shared()->CalibValue();
@@ -107,7 +107,7 @@ void CKELDTestElement::ReportTestNotSupported() {
 }
 
 void CKELDTestElement::ReportFailure(const std::string& sText, const std::string& sKey) {
-  // The operator may abort while the message is shown, and the session's end bring another one.
+  // The operator may abort while this message is shown; ending the session can then show another one.
   const auto Outer = mfrmPretestPrompt;
   std::shared_ptr<FPretestPrompt> Prompt;
   Attempt([&] { Prompt = FPretestPrompt::Create(); });
@@ -127,7 +127,7 @@ void CKELDTestElement::RecordMeasurement(std::int16_t iTestNo) {
     auto& Instrument = Required(Link());
     Reading Taken{orvik::NumericValue(Instrument.MtiData(2)), orvik::TextOf(Instrument.MtiData(4))};
     Taken = WithoutLeads(InExpectedUnits(Taken, ExpectedUnits()), iTestNo);
-    // Field 3 is both: the flags, in which the result view looks for an overload, and the description.
+    // Field 3 is both the flags, which the result view checks for an overload, and the description.
     const std::string sDescription = orvik::TextOf(Instrument.MtiData(3));
     Measurement->AddValue(Taken.rValue, Taken.sUnit, sDescription, MKELDConstants::kLimitKey);
     Measurement->SetDescription(sDescription);

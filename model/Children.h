@@ -10,9 +10,9 @@
 
 namespace keld {
 
-/// Does something with each child of a container, in the container's order. A child with which it fails is
-/// passed over; a container that cannot be walked on ends the walk.
-/// @return true when every child was reached and nothing failed
+/// Calls `step` with each child of a container, in the container's order. If `step` fails, the next child
+/// follows; if the enumeration fails, the walk ends.
+/// @return true if every child was reached and nothing failed
 template <class Step>
 bool ForEachChild(const orvik::ITestContainer& Container, Step&& step) {
   bool fAll = true;

@@ -29,17 +29,17 @@ class IKELDTest : public virtual orvik::IObject {
   void AbortTest() { IKELDTest_AbortTest(); }
   /// Records the element as not applicable and moves on.
   void NATest() { IKELDTest_NATest(); }
-  /// Leaves the element and goes to the next one.
+  /// Leaves the element and moves to the next one.
   void NextTest() { IKELDTest_NextTest(); }
-  /// Leaves the element and goes to the previous one.
+  /// Leaves the element and moves to the previous one.
   void PrevTest() { IKELDTest_PrevTest(); }
   /// Performs the measurement on the instrument; returns when it is over.
   void RunTest() { IKELDTest_RunTest(); }
   /// Leaves the element without a result and moves on.
   void SkipTest() { IKELDTest_SkipTest(); }
-  /// Asks for the running measurement to be dropped at the next instrument event.
+  /// Requests that the running measurement is discarded at the next instrument event.
   void StopTest() { IKELDTest_StopTest(); }
-  /// Hands the element the objects of a run that is driven from outside; any of them may be empty.
+  /// Gives the element the objects of a run that another object drives; any of them may be empty.
   void InitAutoRun(std::shared_ptr<CKELDInstrument> Instrument, std::shared_ptr<FTestGuide> Guide,
                    std::shared_ptr<orvik::IRunController> RunController) {
     IKELDTest_InitAutoRun(std::move(Instrument), std::move(Guide), std::move(RunController));

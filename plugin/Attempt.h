@@ -4,12 +4,11 @@
 
 namespace keld {
 
-/// Runs one step whose failure is ignored: the step is left where it failed, and the caller goes on with its
-/// next one.
+/// Runs one step and ignores its failure; the caller continues with its next step.
 ///
-/// The only place where an error is swallowed. A fault in a host object must never take the host down,
-/// whatever it throws.
-/// @return true when the step went through
+/// The only place where an error is swallowed: a fault in a host object, of any type, must not crash the
+/// host.
+/// @return true if the step succeeded
 template <class Step>
 bool Attempt(Step&& step) noexcept {
   try {
@@ -20,7 +19,7 @@ bool Attempt(Step&& step) noexcept {
   }
 }
 
-/// What the step answers, or `Fallback` when it failed.
+/// Returns the step's value, or `Fallback` if the step fails.
 template <class Value, class Step>
 Value AttemptValue(Value Fallback, Step&& step) noexcept {
   Attempt([&] { Fallback = std::forward<Step>(step)(); });

@@ -22,7 +22,7 @@ using orvik::Required;
 
 namespace {
 
-/// The text of the settings value "Configuration"; empty, and logged, when the settings key is not there.
+/// The text of the settings value "Configuration". If the settings key is missing, logs that and returns "".
 std::string ReadCatalogueText() {
   const bool fOpen = AttemptValue(false, [] {
     return MKELDGlobalVars::RegistryReader()->OpenKey(MKELDConstants::kHive, MKELDConstants::kSettingsKey);
@@ -89,7 +89,7 @@ std::shared_ptr<orvik::ITestElement> CKELDPlugin::IPlugIn_CreateTest(std::int32_
   });
 }
 
-// The plug-in has no control panel, no data of the equipment under test, no menu and no set-up of its own.
+// The plug-in has no control panel, no data of the equipment under test, no menu and no set-up.
 std::shared_ptr<orvik::IObject> CKELDPlugin::IPlugIn_ControlPanel() const { return {}; }
 std::shared_ptr<orvik::IObject> CKELDPlugin::IPlugIn_CreateDUTData() const { return {}; }
 std::shared_ptr<orvik::IObject> CKELDPlugin::IPlugIn_PlugInMenu() const { return {}; }

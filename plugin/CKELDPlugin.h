@@ -8,15 +8,15 @@
 
 namespace keld {
 
-/// The object by which the host enters the plug-in: identity, icons, the catalogue of tests, and new tests.
+/// The host's entry to the plug-in: identity, icons, the catalogue of tests, and new tests.
 ///
-/// Nothing here raises an error: what cannot be had is answered by an empty text, an empty reference or 0.
-/// Faults of the settings and the catalogue go to the host's error log.
+/// No operation raises an error: a value that is not available is an empty text, an empty reference or 0.
+/// Faults in the settings and the catalogue are written to the host's error log.
 class CKELDPlugin final : public virtual orvik::IPlugIn {
  public:
   static std::shared_ptr<CKELDPlugin> Create();
 
-  /// The object viewed as a container, or empty when it is none.
+  /// The object viewed as a container, or empty.
   std::shared_ptr<orvik::ITestContainer> Cast_ITestContainer(
       const std::shared_ptr<orvik::IObject>& Object) const;
 

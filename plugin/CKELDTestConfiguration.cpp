@@ -31,12 +31,12 @@ namespace {
 
 /// Report metric: the usable width of the page in twips.
 constexpr std::int32_t kUsableWidth = 10;
-/// The same for a report that does not tell: A4 with margins of 2 cm.
+/// The width assumed if the report does not return one: A4 with margins of 2 cm.
 constexpr std::int32_t kUsualWidth = 9638;
 constexpr std::int32_t kMargin = 560;
 constexpr char kSixSpaces[] = "      ";
 
-/// A whole decimal integer of 32 bits, blanks around it allowed.
+/// Parses a whole 32-bit decimal integer; surrounding blanks are allowed.
 std::optional<std::int32_t> WholeNumber(const std::string& sText) {
   const std::string sNumber = orvik::Trim(sText);
   std::int32_t lValue = 0;
@@ -50,7 +50,7 @@ std::shared_ptr<orvik::IXmlNode> FoundOrAdded(orvik::IXmlNode& Parent, const cha
   return Child ? Child : Parent.AddChild(sName);
 }
 
-/// Where "KELDConfig" stands: directly below the node given, or below its "PlugInData".
+/// Finds "KELDConfig" directly below the node or below its "PlugInData".
 std::shared_ptr<orvik::IXmlNode> SavedConfiguration(const orvik::IXmlNode& Node) {
   if (auto Direct = Node.FindChild(MXmlConstants::kKELDConfig)) return Direct;
   const auto PlugInData = Node.FindChild(MXmlConstants::kPlugInData);
@@ -85,7 +85,7 @@ std::shared_ptr<orvik::IDialog> CKELDTestConfiguration::IConfigData_CreateDialog
   Attempt([&] { Control = As<ConfigurationControl>(Required(Site).Object()); });
   Attempt([&] { Required(Control).SetOwner(As<CKELDTestConfiguration>(shared_from_this())); });
   if (fSequence) {
-    // A code that the list does not hold shows its first entry, and from then on is what the list shows.
+    // For an unknown code, select the first entry; the selection then replaces the code.
     Attempt([&] {
       const auto cmbAssign = As<orvik::platform::IComboBox>(Required(Control).GetControl("cmbAssign"));
       Required(cmbAssign).SetSelectedIndex(mlValueFilter >= 1 && mlValueFilter <= 4 ? mlValueFilter - 1 : 0);
@@ -97,8 +97,8 @@ std::shared_ptr<orvik::IDialog> CKELDTestConfiguration::IConfigData_CreateDialog
 
 bool CKELDTestConfiguration::IConfigData_HasDialog() const { return true; }
 
-// The host gives "Configuration", as to `Save`; the "PlugInData" inside it is understood as well. Options
-// that are missing or malformed stay as they were; a filter without a name has an unknown one, code 0.
+// The host passes "Configuration", as to `Save`; its "PlugInData" is accepted too. Missing or malformed
+// options stay unchanged; a filter without a name is unknown, code 0.
 void CKELDTestConfiguration::IConfigData_Load(std::shared_ptr<orvik::IXmlNode> Node) {
   std::shared_ptr<orvik::IXmlNode> Saved;
   Attempt([&] { Saved = SavedConfiguration(Required(Node)); });
@@ -109,7 +109,7 @@ void CKELDTestConfiguration::IConfigData_Load(std::shared_ptr<orvik::IXmlNode> N
   });
 }
 
-// Given "Configuration" or its "PlugInData": elements that are there already are used again.
+// Accepts "Configuration" or its "PlugInData", and reuses elements that exist already.
 void CKELDTestConfiguration::IConfigData_Save(std::shared_ptr<orvik::IXmlNode> Node) const {
   std::shared_ptr<orvik::IXmlNode> Saved;
   Attempt([&] {

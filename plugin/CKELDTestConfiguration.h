@@ -13,8 +13,8 @@ class ITestElement;
 
 namespace keld {
 
-/// The settings that a user attaches to one test or sequence: which extra buttons the test guide offers,
-/// which leads a leakage test covers, which measured values of a group are kept.
+/// The settings of one test or sequence: which extra buttons the test guide offers, which leads a leakage
+/// test covers, which measured values of a group are kept.
 ///
 /// Saved as `<PlugInData><KELDConfig Options="3" ValueFilter="No values"/></PlugInData>` inside the host's
 /// "Configuration" record. Errors inside the host interface's operations are ignored.
@@ -25,8 +25,7 @@ class CKELDTestConfiguration final : public orvik::IConfigData {
   /// Option bits: 1 NA button, 2 skip button, 4 to 2048 leads 1 to 10, 4096 all leads. 3 in a new object.
   std::int32_t Options() const { return mlOptions; }
   void SetOptions(std::int32_t lOptions) { mlOptions = lOptions; }
-  /// Value filter: 1 no values, 2 all, 3 maximum, 4 minimum; 0 after a name that is none of them. 1 in a new
-  /// object.
+  /// Value filter: 1 no values, 2 all, 3 maximum, 4 minimum; 0 after an unknown name. 1 in a new object.
   std::int32_t ValueFilter() const { return mlValueFilter; }
   void SetValueFilter(std::int32_t lValueFilter) { mlValueFilter = lValueFilter; }
   /// The element that owns the configuration, or empty. Not kept alive.

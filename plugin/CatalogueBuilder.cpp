@@ -38,7 +38,7 @@ void LogCatalogueFault() {
   });
 }
 
-/// "TemplateData", or empty when the text holds none or cannot be parsed.
+/// Finds "TemplateData"; empty if the text has none or cannot be parsed.
 NodeRef TemplateData(const std::string& sXml) {
   NodeRef Found;
   Attempt([&] {
@@ -48,13 +48,13 @@ NodeRef TemplateData(const std::string& sXml) {
   return Found;
 }
 
-/// The first "TestElement" among the node and the siblings that follow it, or empty.
+/// The first "TestElement" among the node and its following siblings, or empty.
 NodeRef EntryFrom(NodeRef Node) {
   while (Node && Node->Name() != MXmlConstants::kTestElement) Node = Node->NextSibling();
   return Node;
 }
 
-/// The number that an identifier's text starts with; 0 for a text without one or with one beyond 32 bits.
+/// The leading number of an identifier's text; 0 if there is none or it exceeds 32 bits.
 std::int32_t IdentifierOf(const std::string& sText) {
   const double rValue = std::trunc(orvik::LeadingNumber(sText));
   constexpr double rLow = std::numeric_limits<std::int32_t>::min();
@@ -68,7 +68,7 @@ std::int32_t ReadIdentifier(const IXmlNode& Entry) {
   return IdentifierOf(sID);
 }
 
-/// The fields of an entry as they stand in the catalogue.
+/// The fields of an entry as the catalogue has them.
 struct Fields {
   std::string sType;
   std::string sName;
@@ -76,7 +76,7 @@ struct Fields {
   std::string sUnit;
 };
 
-/// Where a field goes; nothing for what is no field.
+/// The member for a field's name; null for an unknown name.
 std::string* FieldOf(Fields& fields, const std::string& sName) {
   if (sName == MXmlConstants::kName) return &fields.sName;
   if (sName == MXmlConstants::kType) return &fields.sType;
@@ -96,7 +96,7 @@ Fields ReadFields(const IXmlNode& Entry) {
   return fields;
 }
 
-/// A field in the user's language; empty when it cannot be had.
+/// A field in the user's language; empty if it cannot be translated.
 std::string FieldText(const std::string& sField) {
   if (sField.empty()) return {};
   return AttemptValue(std::string(), [&] { return MKELDGlobalVars::Translated(sField); });
@@ -125,7 +125,7 @@ std::shared_ptr<Element> NewElement(const Fields& fields, std::int32_t lID) {
   return Created;
 }
 
-/// One entry without its members; empty when the host could not make it.
+/// Creates one entry without its members; empty if the host cannot create it.
 NewEntry EntryOf(const IXmlNode& Node) {
   NewEntry Entry;
   Attempt([&] {
@@ -141,7 +141,7 @@ NewEntry EntryOf(const IXmlNode& Node) {
   return Entry;
 }
 
-/// A container that is being filled, and the entry that comes next in it.
+/// A container being filled, and its next entry.
 struct Level {
   std::shared_ptr<ITestElement> iteContainer;
   std::shared_ptr<ITestContainer> Container;
@@ -152,8 +152,8 @@ void AddTo(const Level& level, const std::shared_ptr<ITestElement>& iteEntry) {
   Attempt([&] { Required(level.Container).Add(iteEntry, {}, {}); });
 }
 
-/// Fills the root from the children of "TemplateData". A list of levels instead of recursion, so that the
-/// depth of the text cannot overflow the stack; a sequence is added once it is complete, so that adding never
+/// Fills the root from the children of "TemplateData". Uses a list of levels instead of recursion, so that
+/// deep nesting cannot overflow the stack, and adds each sequence once it is complete, so that adding never
 /// walks up a long chain of parents.
 void Fill(const std::shared_ptr<ITestContainer>& Root, const IXmlNode& TemplateData) {
   std::vector<Level> aLevels;

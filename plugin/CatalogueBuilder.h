@@ -12,9 +12,9 @@ namespace keld {
 /// Builds the catalogue of tests from its XML: below "TemplateData" each "TestElement" becomes a sequence
 /// (identifier a multiple of 100) with its members, or a single test.
 ///
-/// Faults are logged and the build goes on with what it has; nothing is raised. Nesting may be of any depth.
+/// Faults are logged and skipped; no error is raised. Nesting may be of any depth.
 /// @param sXml the text of the settings value "Configuration"
-/// @return the root container; empty of entries when the text holds no catalogue
+/// @return the root container, without entries if the text is not a catalogue
 std::shared_ptr<orvik::ITestContainer> BuildCatalogue(const std::string& sXml);
 
 }  // namespace keld

@@ -68,7 +68,7 @@ const Entry& EntryAt(std::int32_t lIndex) {
   return kClasses[lIndex - 1];
 }
 
-// Not std::toupper: an identifier must be found under every locale.
+// Not std::toupper, which depends on the locale.
 char ToUpper(char sLetter) {
   return sLetter >= 'a' && sLetter <= 'z' ? static_cast<char>(sLetter - 'a' + 'A') : sLetter;
 }

@@ -4,7 +4,7 @@
 
 namespace keld {
 
-/// The classes that the host can create by identifier, from the one table of them.
+/// The classes that the host can create by identifier.
 class ClassLibrary final : public virtual orvik::IClassLibrary {
  private:
   std::int32_t IClassLibrary_Count() const override;

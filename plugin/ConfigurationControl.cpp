@@ -33,7 +33,7 @@ void ConfigurationControl::AttachTo(const std::shared_ptr<platform::IContainerSi
   panel->AddLabel(kTreeLabel)->SetCaption(MKELDLanguageConstants::kGeneralSettings);
   const auto tvwSettings = panel->AddTreeView(kTree);
 
-  // The tree takes what room there is, so it is stretched whenever the control is.
+  // The tree takes all remaining space.
   platform::Grid grid;
   grid.columns = {{kTreeWidth, 1}};
   grid.rows = {{}, {kTreeHeight, 1}};
@@ -42,7 +42,7 @@ void ConfigurationControl::AttachTo(const std::shared_ptr<platform::IContainerSi
   MKELDGlobalVars::TranslateCaptions(panel);
   panel->SetGrid(grid);
 
-  // Whoever is told of the change may close the dialog: the control stays until the handler is done.
+  // The call-back may close the dialog: keep the control alive until the handler returns.
   mClickSubscription =
       tvwSettings->NodeClicked().Subscribe([this, Weak = weak_from_this()](const std::string& sKey) {
         if (const auto Self = Weak.lock()) OnNodeClicked(std::string(sKey));
@@ -145,7 +145,7 @@ void ConfigurationControl::ICustomControl_SetVisible(bool fVisible) {
   Required(Site()).SetExtenderProperty("Visible", fVisible);
 }
 
-// The configuration comes through `SetOwner`; the host's values mean nothing here.
+// The configuration comes through `SetOwner`; the host's values are ignored.
 void ConfigurationControl::ICustomControl_Initialize(std::shared_ptr<orvik::IObject> /*Data*/,
                                                      const orvik::Variant& /*v1*/,
                                                      const orvik::Variant& /*v2*/,

@@ -18,16 +18,16 @@ namespace keld {
 
 class CKELDTestConfiguration;
 
-/// What the two controls that edit a `CKELDTestConfiguration` share: the tree "tvwSettings" with one check
-/// box for each option, under the label "lblGeneralSettings". Every change goes into the configuration at
-/// once and is told to the call-back object with the text "Change".
+/// The common part of the two controls that edit a `CKELDTestConfiguration`: the tree "tvwSettings" with one
+/// check box for each option, under the label "lblGeneralSettings". Every change is stored in the
+/// configuration at once and notified to the call-back object with the text "Change".
 class ConfigurationControl : public virtual orvik::ICustomControl, public orvik::platform::IUserControl {
  public:
   /// The configuration to edit; kept alive by the control.
   void SetOwner(std::shared_ptr<CKELDTestConfiguration> Owner);
-  /// The control of that name among those inside, or empty.
+  /// The contained control of that name, or empty.
   std::shared_ptr<orvik::platform::IControl> GetControl(const std::string& sName) const;
-  /// Fills the tree with the options that the configuration's owner offers, checked as they are set.
+  /// Fills the tree with the options of the configuration's owner, checked if they are set.
   void FillSettings();
 
   void AttachTo(const std::shared_ptr<orvik::platform::IContainerSite>& site) final;
@@ -37,17 +37,17 @@ class ConfigurationControl : public virtual orvik::ICustomControl, public orvik:
   std::shared_ptr<orvik::platform::IPanel> Panel() const;
   std::shared_ptr<orvik::platform::ITreeView> Tree() const;
 
-  /// Adds what the control has beside the tree to its panel, and to the grid of one column.
+  /// Adds further controls below the tree, to the panel and to its one-column grid.
   virtual void AddControls(orvik::platform::IPanel& panel, orvik::platform::Grid& grid);
-  /// A lead has just been put into the tree with its check box checked.
+  /// Called when a checked lead was added to the tree.
   virtual void LeadShownChecked(const std::string& sKey);
-  /// The operator has clicked the check box of a node that is not one of the two buttons'.
+  /// Called when the operator clicked the check box of a lead.
   virtual void OnLeadClicked(const std::string& sKey);
   virtual void LockControls(bool fLocked);
 
   /// Sets or clears the bit of the node's key to match its check box.
   void StoreCheck(const std::string& sKey);
-  /// Tells the call-back object, if there is one, that the configuration was changed.
+  /// Notifies the call-back object, if there is one, of a change.
   void NotifyChange();
 
  private:

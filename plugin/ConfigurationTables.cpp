@@ -45,7 +45,7 @@ constexpr std::string_view kFilterNames[] = {"No values", "All values", "Maximum
 std::span<const Option> OptionsFor(std::int16_t iTestID) {
   const std::span<const Option> All(kOptions);
   if (iTestID >= 1110 && iTestID < 1166)
-    return All.first(kButtonsAndLeads);  // no "All Leads" here, on purpose
+    return All.first(kButtonsAndLeads);  // without "All Leads", on purpose
   if (iTestID >= 910 && iTestID < 966) return All;
   return All.first(kButtons);
 }

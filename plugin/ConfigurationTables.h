@@ -21,24 +21,24 @@ inline constexpr std::int32_t kSkipButton = 2;
 inline constexpr std::int32_t kDefaultOptions = kNAButton | kSkipButton;
 inline constexpr std::int32_t kDefaultValueFilter = 1;
 
-/// The options that an element with that test identifier offers, in the order of the tree: the two buttons
-/// for every element, ten leads from 1110 to 1165 and from 910 to 965, "All Leads" for the latter alone.
+/// The options of an element with that test identifier, in the order of the tree: two buttons for every
+/// element, ten leads from 1110 to 1165 and from 910 to 965, "All Leads" for the latter alone.
 std::span<const Option> OptionsFor(std::int16_t iTestID);
 
-/// The bit of a node's key, 0 for a key that is none of them.
+/// The bit of a node's key; 0 for an unknown key.
 std::int32_t BitOf(std::string_view sKey);
-/// Whether the key is a lead's or that of all leads.
+/// Whether the key is that of a lead or of all leads.
 bool IsLead(std::string_view sKey);
 
 /// Captions of the value filters in the order of their codes, which count from 1.
 std::span<const char* const> ValueFilterCaptions();
 /// The name under which a filter code is saved; empty for a code outside 1 to 4.
 std::string ValueFilterName(std::int32_t lCode);
-/// The code of a saved name; 0 for a name that is none of the four.
+/// The code of a saved name; 0 for an unknown name.
 std::int32_t ValueFilterCode(std::string_view sName);
 
-/// The language string that tells a report which leads were tested. Only the first selected lead is named, on
-/// purpose, even when several are selected.
+/// The language string by which a report names the tested leads. Only the first selected lead is named, on
+/// purpose.
 const char* LeadText(std::int16_t iTestID, std::int32_t lOptions);
 
 }  // namespace keld::ConfigurationTables

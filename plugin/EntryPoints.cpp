@@ -3,7 +3,7 @@
 #include "plugin/ClassLibrary.h"
 #include "plugin/MKELDGlobalVars.h"
 
-// The functions that the library exports, and nothing else.
+// The functions that the library exports.
 
 extern "C" {
 

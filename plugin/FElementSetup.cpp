@@ -89,7 +89,7 @@ void FElementSetup::IDialog_Dock(orvik::WindowHandle hParent) {
     MKELDGlobalVars::Application()->SetParent(Required(mCustomControl).hWnd(), hParent);
     mfDocked = true;
   });
-  // From now on the host places the control, not the form's layout; the form keeps its size.
+  // From now on the host places the control, not the form's layout. The form keeps its size.
   if (!mfDocked) return;
   Attempt([&] {
     const orvik::platform::Rect Place = mForm->Bounds();
@@ -98,7 +98,7 @@ void FElementSetup::IDialog_Dock(orvik::WindowHandle hParent) {
   });
 }
 
-// The flag stays, on purpose: after it `Hide`, `Show` and `Move` still act on the control.
+// The flag stays set, on purpose: `Hide`, `Show` and `Move` continue to act on the control.
 void FElementSetup::IDialog_UnDock() { ReturnControlToForm(); }
 
 void FElementSetup::IDialog_Hide() {
@@ -141,7 +141,7 @@ void FElementSetup::IDialog_Initialize(std::shared_ptr<orvik::IObject> Data, con
 }
 
 void FElementSetup::IDialog_Unload() {
-  // The host's window must not be left holding a window of an unloaded form.
+  // The host's window must not keep a child window of an unloaded form.
   if (mfDocked) ReturnControlToForm();
   Attempt([&] { Required(mForm).Unload(); });
 }

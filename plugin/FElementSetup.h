@@ -15,20 +15,20 @@ class IForm;
 
 namespace keld {
 
-/// The one dialog through which every editing view of the plug-in reaches the host: a form with one user
-/// control, which the host docks into a window of its own or shows as a window.
+/// The dialog for every editing view of the plug-in: a form with one user control, which the host docks into
+/// its own window or shows as a window.
 ///
 /// Errors inside its operations are ignored; without a control the operations that need one do nothing.
-/// `Show` acts on a docked dialog alone: the host shows the window itself, through `IDialogForm`. The form is
-/// unloaded with the dialog at the latest.
+/// `Show` acts on a docked dialog only: otherwise the host shows the form itself, through `IDialogForm`.
+/// Destroying the dialog unloads the form.
 class FElementSetup final : public virtual orvik::IDialog, public virtual orvik::IDialogForm {
  public:
   static std::shared_ptr<FElementSetup> Create();
   ~FElementSetup() override;
 
-  /// Creates the dialog's control and keeps it. The dialog holds one control: a second call adds nothing.
+  /// Creates the dialog's one control; a second call adds nothing.
   /// @param sClassID class identifier of an `ICustomControl`; empty creates nothing
-  /// @return the control's site, or empty when there is none
+  /// @return the control's site, or empty
   std::shared_ptr<orvik::platform::IContainerSite> CreateSetupCtrl(const std::string& sClassID);
 
  private:

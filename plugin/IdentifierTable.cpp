@@ -20,7 +20,8 @@ constexpr std::string_view kItemWhite = "TE:ITEM(16X16)_WHT";
 
 constexpr std::int16_t kWhiteGroups[] = {400, 1000, 1200, 1300, 1400, 1500, 1700};
 
-/// Tests by identifier. The small icons of 1210 to 1245 are white although their wide ones are not: kept so.
+/// Tests by identifier. The small icons of 1210 to 1245 are white although their wide ones are not, on
+/// purpose.
 struct Single {
   std::int16_t iTestID;
   std::string_view sWide;
@@ -53,12 +54,12 @@ constexpr Single kSingles[] = {
     {1245, "TE:CUR(32X16)", kItemWhite},
 };
 
-/// Tests by range. The bounds are compared as texts, on purpose: 62, 625 and 6150 all lie between "610" and
+/// Tests by range. The bounds are compared as texts, on purpose: 62, 625 and 6150 are all between "610" and
 /// "640".
 struct TextRange {
   std::string_view sFirst;
   std::string_view sLast;
-  bool fLastDigitFive;  ///< whether identifiers that end in 5 belong to it
+  bool fLastDigitFive;  ///< whether it includes identifiers that end in 5
   std::string_view sWide;
 };
 

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-/// Constant texts and numbers that several classes of the plug-in share.
+/// Constants that several classes of the plug-in share.
 namespace keld::MKELDConstants {
 
 /// Plug-in identifier: also the source of every error-log entry and the device name of the tester's serial
@@ -30,7 +30,7 @@ inline constexpr std::int32_t kLevelConfiguration = 3;
 /// Every limit that the plug-in creates carries this key: an element has a single measured value.
 inline constexpr char kLimitKey[] = "NO LIMIT KEY";
 
-/// What an element of the MTI data holds when the reply had no such parameter.
+/// Value of an element of the MTI data for which the reply had no parameter.
 inline constexpr char kNoValue[] = "NO VALUE";
 
 /// Result and measurement status.
@@ -40,7 +40,7 @@ inline constexpr std::int32_t kFailed = 2;
 inline constexpr std::int32_t kNotApplicable = 3;
 inline constexpr std::int32_t kAborted = 4;
 
-/// What the host's run controller is asked to do once an element has finished.
+/// Navigation requests to the host's run controller once an element has finished.
 inline constexpr std::int32_t kNavigateNext = 0;
 inline constexpr std::int32_t kNavigatePrevious = 1;
 inline constexpr std::int32_t kNavigateAbort = 2;

@@ -39,8 +39,7 @@ void Open(std::shared_ptr<orvik::IHost> Host) {
 }
 
 void Close() {
-  // The slots are empty before the first object goes: one that asks for another on its way out must not find
-  // a half-released one.
+  // Empty the slots first: a destructor that asks for another object must not find a half-released one.
   const SharedObjects Ended = std::exchange(Shared(), {});
 }
 

@@ -14,11 +14,11 @@
 #include "OrvikTypeLib/IXmlDocument.h"
 #include "platform/IApplication.h"
 
-/// The process-wide objects. Each host service is created by whoever touches it first and lives until the
-/// library is closed. User-interface thread only, so nothing is locked.
+/// The process-wide objects. Each host service is created on first use and lives until the library is closed.
+/// User-interface thread only, so there are no locks.
 namespace keld::MKELDGlobalVars {
 
-/// The library was opened by `Host`; closing it lets go of the host and of every shared object.
+/// Opens the library for `Host`; closing it releases the host and every shared object.
 void Open(std::shared_ptr<orvik::IHost> Host);
 void Close();
 
@@ -38,8 +38,8 @@ std::shared_ptr<orvik::ICommApplication> CommApplication();
 /// empties it with the rest.
 std::shared_ptr<orvik::IObject>& InstrumentDataSlot();
 
-/// A new object of a host class, seen as `Interface`; `HostError` when the host has no such class or it has
-/// no such view.
+/// A new object of a host class, viewed as `Interface`; `HostError` if the host lacks the class or the class
+/// lacks the view.
 template <class Interface>
 std::shared_ptr<Interface> CreateHostObject(const std::string& sClassID) {
   auto Created = orvik::As<Interface>(Host().CreateObject(sClassID));
@@ -49,14 +49,14 @@ std::shared_ptr<Interface> CreateHostObject(const std::string& sClassID) {
   return Created;
 }
 
-/// The text to show for a language-string literal, with "%%1", "%%2" replaced by the values; the error of a
-/// language service that fails.
+/// The translation of a language string, with "%%1", "%%2" replaced by the values. Passes on the errors of
+/// the language service.
 std::string Translated(const std::string& sText, const std::vector<std::string>& asValues = {});
 
-/// The same on a window that must stay usable without a language service: the whole literal when it fails.
+/// As `Translated`, but returns the literal if the language service fails, so that windows stay usable.
 std::string Shown(const std::string& sText, const std::vector<std::string>& asValues = {});
 
-/// Translates the captions of a form or user control; they stay literals when the language service fails.
+/// Translates the captions of a form or user control; they stay literals if the language service fails.
 void TranslateCaptions(const std::shared_ptr<orvik::platform::IPanel>& Controls);
 
 }  // namespace keld::MKELDGlobalVars

@@ -1,8 +1,7 @@
 #pragma once
 
-/// Every text that a person can see, in the form number, "::", English text. Numbers below 20000 are shared
-/// with the host. The whole literal goes to the language service; the plug-in never splits it and never keeps
-/// what comes back.
+/// Every text that the operator sees, as number, "::", English text. Numbers below 20000 are shared with the
+/// host. The plug-in passes the whole literal to the language service and never stores the translation.
 namespace keld::MKELDLanguageConstants {
 
 inline constexpr char kOK[] = "1::&OK";

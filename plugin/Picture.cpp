@@ -7,7 +7,7 @@
 namespace keld {
 namespace {
 
-// Places in a bitmap file: 32-bit numbers, lowest byte first.
+// Offsets in a bitmap file, of 32-bit little-endian numbers.
 constexpr std::size_t kWidthOffset = 18;
 constexpr std::size_t kHeightOffset = 22;
 constexpr std::size_t kHeaderSize = 54;
@@ -31,7 +31,7 @@ std::vector<std::byte> Picture::IPicture_Bitmap() const { return maBitmap; }
 
 std::int32_t Picture::IPicture_Width() const { return NumberAt(maBitmap, kWidthOffset); }
 
-// A negative height means that the rows stand from top to bottom.
+// A negative height means top-down row order.
 std::int32_t Picture::IPicture_Height() const { return std::abs(NumberAt(maBitmap, kHeightOffset)); }
 
 }  // namespace keld

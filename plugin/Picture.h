@@ -8,10 +8,10 @@
 
 namespace keld {
 
-/// A bitmap of the library, handed to the host.
+/// A bitmap resource of the library, as the host gets it.
 class Picture final : public virtual orvik::IPicture {
  public:
-  /// The bitmap resource with that key (upper and lower case are the same), or empty when there is none.
+  /// The bitmap resource with that key (case-insensitive), or empty.
   static std::shared_ptr<Picture> FromResource(std::string_view sKey);
 
  private:

@@ -5,8 +5,7 @@
 #include <string>
 #include <vector>
 
-/// The host's report language: what the three strings of a report table are made of. Used by everything that
-/// prints.
+/// The host's report markup: builds the three strings of a report table.
 namespace keld::ReportMarkup {
 
 /// Alignment marks of a column.
@@ -25,11 +24,11 @@ struct Column {
 /// The column format, for example "<+560|>+!2240;".
 std::string Format(std::initializer_list<Column> Columns);
 
-/// One row, header or body: the cells separated by "|", ended by ";". An empty first cell stands under a
-/// margin. Cells are markup: text that comes from elsewhere goes through `IReport::Escape` first.
+/// One row, header or body: the cells separated by "|", ended by ";". An empty first cell makes a
+/// margin. Cells are markup: escape other text with `IReport::Escape` first.
 std::string Row(const std::vector<std::string>& asCells);
 
-/// A cell's content in bold italics, as headings are printed. `sMarkup` is markup, like a cell.
+/// A heading: the cell's markup in bold italics.
 std::string BoldItalic(const std::string& sMarkup);
 
 }  // namespace keld::ReportMarkup

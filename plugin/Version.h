@@ -1,6 +1,6 @@
 #pragma once
 
-/// The library's version, and the only place where it stands: the build reads it from these lines.
+/// The library's version. The build reads it from these lines; it is written nowhere else.
 namespace keld::Version {
 
 inline constexpr int kMajor = 2;

@@ -13,13 +13,13 @@ std::string XKELDTestConfiguration::IObject_ClassID() const {
   return ClassIdentifiers::kTestConfigurationControl;
 }
 
-// A dialog that is opened again knows the lead that was chosen before.
+// A reopened dialog remembers the selected lead.
 void XKELDTestConfiguration::LeadShownChecked(const std::string& sKey) { msLastLead = sKey; }
 
 void XKELDTestConfiguration::OnLeadClicked(const std::string& sKey) {
   const auto tvwSettings = Tree();
   if (!tvwSettings) return;
-  // A click on the chosen lead keeps it: only another lead takes its place.
+  // A click on the selected lead keeps it: only another lead replaces it.
   tvwSettings->SetChecked(sKey, true);
   if (!msLastLead.empty() && msLastLead != sKey) {
     tvwSettings->SetChecked(msLastLead, false);

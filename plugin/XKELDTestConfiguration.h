@@ -8,7 +8,7 @@
 namespace keld {
 
 /// Edits the configuration of a single test (class "orvikKELD.XKELDTestConfiguration"). Leads are exclusive:
-/// a lead that the operator clicks is checked, and the one before it is cleared.
+/// clicking a lead checks it and clears the one before.
 class XKELDTestConfiguration final : public ConfigurationControl {
  public:
   static std::shared_ptr<XKELDTestConfiguration> Create();
@@ -20,7 +20,7 @@ class XKELDTestConfiguration final : public ConfigurationControl {
   void LeadShownChecked(const std::string& sKey) override;
   void OnLeadClicked(const std::string& sKey) override;
 
-  std::string msLastLead;  ///< key of the lead checked last; empty while there is none
+  std::string msLastLead;  ///< key of the lead checked last, or empty
 };
 
 }  // namespace keld

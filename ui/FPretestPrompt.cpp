@@ -74,7 +74,7 @@ void FPretestPrompt::Unload() { mForm->Unload(); }
 void FPretestPrompt::OnActivated() {
   mForm->SetTopmost(true);
   mPromptStatus.Raise(kStatusActivated);
-  // After the notice, unlike the yes/no prompt.
+  // After the event, on purpose; the yes/no prompt sets it before.
   fActivated = true;
 }
 

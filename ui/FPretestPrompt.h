@@ -16,9 +16,8 @@ namespace keld {
 
 /// Shows an instruction that the operator acknowledges with OK, above all other windows.
 ///
-/// Whoever is told of an event may unload or release the prompt. Closing its window by the cross acknowledges
-/// too. A prompt that is let go is unloaded with it, without a notice. Errors of the platform pass to the
-/// caller.
+/// An event handler may unload or release the prompt. Closing the window acknowledges too. Destroying the
+/// prompt unloads its window without an event. Errors of the platform pass to the caller.
 class FPretestPrompt final : public std::enable_shared_from_this<FPretestPrompt> {
  public:
   static constexpr std::int32_t kStatusLoaded = 1;
@@ -28,10 +27,8 @@ class FPretestPrompt final : public std::enable_shared_from_this<FPretestPrompt>
   static std::shared_ptr<FPretestPrompt> Create();
   ~FPretestPrompt();
 
-  /// Shows the text as it stands, untranslated, keeps the tag, and loads the prompt. Does not show the
-  /// window.
+  /// Sets the text, untranslated, and the tag, and loads the prompt. Does not show the window.
   void SetPrompt(const std::string& sText, const std::string& sTag);
-  /// The tag given with the text.
   std::string Tag() const { return sTag; }
   void Load();
   /// Shows the window without waiting.
@@ -39,7 +36,7 @@ class FPretestPrompt final : public std::enable_shared_from_this<FPretestPrompt>
   /// Shows the window and processes messages until the operator has acknowledged or the prompt is unloaded.
   void ShowModal();
   void Unload();
-  /// Whether the window has been the active one since it was loaded.
+  /// Whether the window has been active since it was loaded.
   bool Activated() const { return fActivated; }
 
   /// 1 loaded, 2 became the active window (each time), 3 is being unloaded.

@@ -18,7 +18,7 @@
 #include "results/XKELDResultView.h"
 #include "ui/WhileAlive.h"
 
-// The guide as its element sees it. What the operator's buttons do stands in FTestGuideCommands.cpp.
+// The operations that the element calls; FTestGuideCommands.cpp has what the operator's buttons do.
 namespace keld {
 
 using orvik::As;
@@ -33,14 +33,14 @@ std::shared_ptr<FTestGuide> FTestGuide::Create() {
 FTestGuide::~FTestGuide() {
   mCloseRequested.End();
   mResultsMouseUp.End();
-  // A loaded window would outlive the guide, and nobody could leave it.
+  // A loaded window would outlive the guide and could not be closed.
   if (mWindow.Form) Attempt([&] { mWindow.Form->Unload(); });
 }
 
 void FTestGuide::Load() {
   auto& Window = Required(mWindow.Form);
   if (!fBuilt) {
-    // Before anything that can fail: the window can be left, whatever else it lacks.
+    // First, before anything that can fail: the window must always be closable.
     mCloseRequested = Window.CloseRequested().Subscribe(
         WhileAlive(As<FTestGuide>(shared_from_this()), &FTestGuide::OnCloseRequested));
     fBuilt = true;
@@ -73,7 +73,7 @@ void FTestGuide::Initialize(std::shared_ptr<orvik::ITestElement> iteElement,
   Load();
   auto& Window = Required(mWindow.Form);
   if (Window.Caption().empty()) Window.SetCaption(MKELDGlobalVars::Shown(MKELDLanguageConstants::kTestGuide));
-  // Step by step: a pane that fails must not take the buttons with it.
+  // Each in its own step: a failing pane must not disable the buttons.
   Attempt([&] { Required(mWindow.xstShowMTI).SetTestElement(iteElement); });
   Attempt([&] { RefreshInstrumentData(); });
   Attempt([&] { ShowGuidance(); });
@@ -117,7 +117,7 @@ void FTestGuide::SelectStandard(std::int32_t lIndex) {
     Results.SelectStandard("", "");
     return;
   }
-  // After the last comes the first again.
+  // Wraps around after the last.
   lStandard = lIndex > lCount ? 1 : lIndex;
   const auto Shown = Standards->item(lStandard);
   Results.SelectStandard(Required(Shown).Name(), Shown->Description());

@@ -19,13 +19,13 @@ namespace keld {
 
 class IKELDTest;
 
-/// The window in which the operator steps through one element's run. Every button becomes a call on the
+/// The window in which the operator steps through one element's run. Every button becomes a call to the
 /// element's `IKELDTest`; the window holds no test logic.
 ///
-/// While a test runs, only stop, play (which then stops) and abort act. Closing the window is abort, with its
+/// While a test runs, only stop, play (which then stops) and abort act. Closing the window aborts, after its
 /// question. The element may hide, unload and release the guide from inside any of these calls. The guide
-/// keeps neither the element nor the run controller alive. Errors of the platform pass to the caller of the
-/// operations; what happens on a button ignores errors step by step.
+/// keeps neither the element nor the run controller alive. The operations pass the platform's errors to the
+/// caller; the buttons ignore errors step by step.
 class FTestGuide final : public virtual orvik::ITgToolbarEvents {
  public:
   static std::shared_ptr<FTestGuide> Create();
@@ -33,9 +33,8 @@ class FTestGuide final : public virtual orvik::ITgToolbarEvents {
 
   /// Builds the window; loading twice changes nothing.
   void Load();
-  /// Opens the guide for an element: loads it if need be, and shows the first of the run controller's
-  /// standards.
-  /// @param RunController may be empty: no standard is shown then
+  /// Opens the guide for an element: loads it if needed, and shows the run controller's first standard.
+  /// @param RunController may be empty: then no standard is shown
   void Initialize(std::shared_ptr<orvik::ITestElement> iteElement,
                   std::shared_ptr<orvik::IRunController> RunController);
   /// Shows the guide and processes messages until it is hidden or unloaded.
@@ -47,7 +46,7 @@ class FTestGuide final : public virtual orvik::ITgToolbarEvents {
   /// Shows the element's result in the result view.
   void ShowResult(std::shared_ptr<orvik::ITestElement> iteElement);
 
-  /// Whether a run is on.
+  /// True while a test runs.
   bool Running() const { return fRunning; }
   std::shared_ptr<orvik::platform::IForm> Form() const { return mWindow.Form; }
 
@@ -72,7 +71,7 @@ class FTestGuide final : public virtual orvik::ITgToolbarEvents {
   void SelectStandard(std::int32_t lIndex);
 
   TestGuideWindow mWindow;
-  // Weak: the element holds the guide, and whoever performs the run holds its controller.
+  // Weak: the element holds the guide, and the caller of `Perform` holds the controller.
   std::weak_ptr<IKELDTest> mTest;
   std::weak_ptr<orvik::ITestElement> mElement;
   std::weak_ptr<orvik::IRunController> mRunController;

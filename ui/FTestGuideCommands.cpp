@@ -13,7 +13,7 @@
 #include "results/XKELDResultView.h"
 #include "ui/FTestGuide.h"
 
-// What the operator does in the guide.
+// What the operator's buttons do.
 namespace keld {
 
 using orvik::As;
@@ -64,7 +64,7 @@ void FTestGuide::ITgToolbarEvents_OnCommand(std::int32_t lCommand) {
 }
 
 void FTestGuide::OnCloseRequested(bool& fKeepOpen) {
-  // Without a test there is nothing to ask about.
+  // Without a test there is nothing to abort.
   if (mTest.expired()) return;
   fKeepOpen = true;
   Abort();

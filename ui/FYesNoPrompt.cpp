@@ -22,7 +22,7 @@ std::shared_ptr<FYesNoPrompt> FYesNoPrompt::Create() {
 
 FYesNoPrompt::~FYesNoPrompt() {
   for (auto& Held : mSubscriptions) Held.End();
-  // A loaded window would outlive the prompt, and nobody could answer it.
+  // A loaded window would outlive the prompt and could not be answered.
   if (mForm) Attempt([&] { mForm->Unload(); });
 }
 
@@ -92,7 +92,7 @@ void FYesNoPrompt::OnActivated() {
 
 void FYesNoPrompt::Answer(std::int32_t lOption) {
   mYesNoOption.Raise(lOption);
-  // It stays loaded; whoever asked unloads it.
+  // The window stays loaded; the caller unloads it.
   mForm->Hide();
 }
 
@@ -101,7 +101,7 @@ void FYesNoPrompt::OnKeyDown(int iKey, int /*iShift*/) {
   if (iKey == orvik::platform::kKeyN) Decline();
 }
 
-// The cross is no consent.
+// Closing the window is not consent.
 void FYesNoPrompt::OnCloseRequested(bool& fKeepOpen) {
   fKeepOpen = true;
   Decline();

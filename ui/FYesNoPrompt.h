@@ -16,8 +16,8 @@ namespace keld {
 
 /// Asks the operator a yes/no question, above all other windows.
 ///
-/// Whoever is told of an event may hide, unload or release the prompt. Closing its window by the cross is no.
-/// A prompt that is let go is unloaded with it, without a notice. Errors of the platform pass to the caller.
+/// An event handler may hide, unload or release the prompt. Closing the window answers no. Destroying the
+/// prompt unloads its window without an event. Errors of the platform pass to the caller.
 class FYesNoPrompt final : public std::enable_shared_from_this<FYesNoPrompt> {
  public:
   static constexpr std::int32_t kYes = 1;
@@ -29,9 +29,9 @@ class FYesNoPrompt final : public std::enable_shared_from_this<FYesNoPrompt> {
   static std::shared_ptr<FYesNoPrompt> Create();
   ~FYesNoPrompt();
 
-  /// Loads the prompt, where that has not been done, with its default captions and its default question.
+  /// Loads the prompt with its default captions and question, if it is not loaded yet.
   void Load();
-  /// Loads the prompt if need be and asks the question: a language string. Does not show the window.
+  /// Loads the prompt if needed and sets the question, a language string. Does not show the window.
   void SetPrompt(const std::string& sText);
   /// Shows the window without waiting.
   void Show();
@@ -39,7 +39,7 @@ class FYesNoPrompt final : public std::enable_shared_from_this<FYesNoPrompt> {
   void ShowModal();
   void Hide();
   void Unload();
-  /// Whether the window has been the active one since it was loaded.
+  /// Whether the window has been active since it was loaded.
   bool Activated() const { return fActivated; }
 
   /// The operator has answered: 1 yes, 2 no. The window is hidden afterwards and stays loaded.

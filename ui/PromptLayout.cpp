@@ -13,7 +13,7 @@ platform::Grid PromptLayout(const std::string& sText, const std::vector<std::str
   platform::Grid grid;
   grid.margin = 240;
   grid.rows = {{kTextHeight, 1}, {kButtonHeight, 0}};
-  // A flexible column at either side keeps the buttons in the middle.
+  // A flexible column on each side centres the buttons.
   const platform::Twips lSide = (kTextWidth - nButtons * kButtonWidth) / 2;
   grid.columns.push_back({lSide, 1});
   grid.cells.push_back({sText, 0, 0, 1, nButtons + 2});

@@ -7,7 +7,7 @@
 
 namespace keld {
 
-/// The layout of a prompt: its text on top, its buttons side by side below, in the middle of the window.
+/// The layout of a prompt: the text above its buttons, which are centred side by side.
 orvik::platform::Grid PromptLayout(const std::string& sText, const std::vector<std::string>& asButtons);
 
 }  // namespace keld

@@ -33,20 +33,19 @@ constexpr char kWizardName[] = "xtwWizard";
 constexpr char kInstrumentPaneName[] = "xstShowMTI";
 constexpr char kInstrumentTab[] = "tab:MtiData";
 
-/// The new control, or empty when the host has no such class.
+/// Adds a control; empty if the host lacks the class.
 template <class View>
 std::shared_ptr<View> AddControl(platform::IForm& Form, const char* sClassID, const char* sName) {
   return AttemptValue(std::shared_ptr<View>(),
                       [&] { return As<View>(Required(Form.AddControl(sClassID, sName)).Object()); });
 }
 
-/// The tab's picture.
 std::vector<std::byte> InstrumentPicture() {
   const auto Bitmap = FindResource(kInstrumentTab);
   return {Bitmap.begin(), Bitmap.end()};
 }
 
-/// The toolbar on top, guidance beside the results, the instrument data below.
+/// The toolbar at the top, guidance beside the results, the instrument data below.
 platform::Grid Layout() {
   platform::Grid grid;
   grid.rows = {{}, {3000, 3}, {1500, 1}};

@@ -36,11 +36,11 @@ struct TestGuideWindow {
   std::shared_ptr<orvik::ITgContentPane> xtwWizard;
   std::shared_ptr<orvik::ITgContentPane> xstShowMTI;
 
-  /// Puts the controls on the form and places them. A control that cannot be made stays empty: the others
-  /// must still let the operator act and leave.
+  /// Adds the controls to the form and lays them out. A control that cannot be created stays empty: the
+  /// operator must still be able to use the others and leave.
   void Build();
-  /// Keeps the operator from choosing another tester, or lets him again: its lead calibration would correct
-  /// the readings of the one that is measuring.
+  /// Locks or unlocks the choice of tester: another tester's lead calibration would correct the readings of
+  /// the one that is measuring.
   void LockInstrumentData(bool fLocked);
 };
 

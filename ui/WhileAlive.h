@@ -4,8 +4,8 @@
 
 namespace keld {
 
-/// A handler that calls the method on its object as long as somebody holds it, and keeps it alive meanwhile:
-/// whoever is told may release it from inside the call.
+/// Returns a handler that calls the method while the object exists, and keeps the object alive during the
+/// call: the method may cause its release.
 template <class Object, class... Args>
 auto WhileAlive(const std::shared_ptr<Object>& Target, void (Object::*pMethod)(Args...)) {
   return [Weak = std::weak_ptr<Object>(Target), pMethod](Args... args) {
