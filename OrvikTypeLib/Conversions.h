@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <limits>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -66,6 +67,20 @@ inline double LeadingNumber(std::string_view sText) {
   const std::string_view sNumber(sText.data(), static_cast<std::size_t>(result.ptr - sText.data()));
   if (!IsTooLarge(sNumber.substr(fNegative ? 1 : 0))) return 0;
   return fNegative ? std::numeric_limits<double>::lowest() : std::numeric_limits<double>::max();
+}
+
+/// The finite number that the whole text stands for ("." as decimal sign, optional sign and exponent, blanks
+/// around it); empty for anything else.
+inline std::optional<double> FiniteNumber(std::string_view sText) {
+  const auto first = sText.find_first_not_of(' ');
+  if (first == std::string_view::npos) return {};
+  sText = sText.substr(first, sText.find_last_not_of(' ') - first + 1);
+  if (sText.size() > 1 && sText[0] == '+' && sText[1] != '-') sText.remove_prefix(1);
+  double rValue = 0;
+  const auto result = std::from_chars(sText.data(), sText.data() + sText.size(), rValue);
+  const bool fWhole = result.ec == std::errc{} && result.ptr == sText.data() + sText.size();
+  if (!fWhole || !std::isfinite(rValue)) return {};
+  return rValue;
 }
 
 /// Rounded to the nearest 32-bit integer, halves to the even neighbour, held within the 32-bit range;

@@ -3,6 +3,7 @@
 #include "OrvikTypeLib/As.h"
 #include "OrvikTypeLib/HostClasses.h"
 #include "host/PlugInLibrary.h"
+#include "host/controls/ControlClasses.h"
 #include "host/elements/ElementFactory.h"
 #include "host/elements/TestContainer.h"
 #include "host/elements/TestElement.h"
@@ -43,6 +44,7 @@ std::shared_ptr<Host> Host::Create(Settings settings,
       [weak](const std::string& classId) { return orvik::Required(weak)->CreateObject(classId); });
   host->RegisterServices(settings);
   host->RegisterElements();
+  host->RegisterControls();
   return host;
 }
 
@@ -72,6 +74,13 @@ void Host::RegisterElements() {
   Register(classes::kStandard, [] { return std::make_shared<Standard>(); });
   Register(classes::kLimit, [] { return std::make_shared<Limit>(); });
   Register(classes::kInstrumentRecord, [] { return std::make_shared<InstrumentRecord>(); });
+}
+
+void Host::RegisterControls() {
+  for (const auto& [identifier, create] : ControlClasses())
+    Register(identifier, [this, create = create] {
+      return create(orvik::As<orvik::ILanguageService>(CreateObject(classes::kLanguageService)));
+    });
 }
 
 void Host::Register(const std::string& classId, Factory factory) {

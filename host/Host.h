@@ -73,6 +73,7 @@ class Host final : public orvik::IHost {
 
   void RegisterServices(const Settings& settings);
   void RegisterElements();
+  void RegisterControls();
 
   std::shared_ptr<orvik::platform::IApplication> application_;
   std::unordered_map<std::string, Factory, HashApartFromCase, EqualApartFromCase> factories_;

@@ -7,7 +7,7 @@
 #include "host/app/CatalogueFile.h"
 #include "host/app/InputError.h"
 #include "host/app/ProgramFiles.h"
-#include "host/controls/RegisterControls.h"
+#include "host/controls/ControlClasses.h"
 #include "host/serial/CommApplication.h"
 #include "host/services/ErrorLog.h"
 #include "host/services/RegistryStore.h"
@@ -40,7 +40,6 @@ Workbench::Workbench(const GlobalOptions& options, double timeScale, Settings se
       host_(Host::Create(SettingsOf(options), application_)),
       leads_(std::make_unique<LeadCalibrationGuard>(
           LeadCalibrationGuard::Parts{*application_, *ports_, *host_->Registry()})) {
-  RegisterControls(*host_);
   ConnectControls(*application_, *host_);
   const auto comm = std::make_shared<CommApplication>(ports_);
   host_->Register(orvik::HostClasses::kCommApplication, [comm] { return comm; });

@@ -1,15 +1,18 @@
 #include "host/controls/HostControl.h"
 
 #include "OrvikTypeLib/As.h"
-#include "host/services/Tr.h"
 #include "platform/IPanel.h"
 
 namespace bench {
+namespace {
+
+constexpr char kSource[] = "orvik-bench";
+
+}  // namespace
 
 void HostControl::AttachTo(const std::shared_ptr<orvik::platform::IContainerSite>& site) {
   if (attached_)
-    throw orvik::HostError(orvik::HostError::kInvalidArgument, "orvik-bench",
-                           Tr("the control has been placed already"));
+    throw orvik::HostError(orvik::HostError::kInvalidArgument, kSource, "the control is already placed");
   attached_ = true;
   site_ = site;
   Build(orvik::Required(orvik::Required(site).Panel()));

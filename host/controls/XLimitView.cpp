@@ -7,7 +7,6 @@
 #include "OrvikTypeLib/IStandardColl.h"
 #include "host/controls/ControlTexts.h"
 #include "host/controls/LimitBound.h"
-#include "host/services/Text.h"
 
 namespace bench {
 namespace {
@@ -188,7 +187,7 @@ bool XLimitView::Store() {
   orvik::Variant nominal = limit->Nominal();
   const std::string nominalText = orvik::Trim(controls_.txtNominal->Text());
   if (nominalText != orvik::TextOf(nominal)) {
-    const auto number = FiniteNumber(nominalText);
+    const auto number = orvik::FiniteNumber(nominalText);
     if (!number && !nominalText.empty()) return refuse(Text(ControlTexts::kNominalWrong));
     nominal = number ? orvik::Variant(*number) : orvik::Variant();
   }

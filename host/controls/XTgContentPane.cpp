@@ -4,7 +4,6 @@
 #include "OrvikTypeLib/HostClasses.h"
 #include "OrvikTypeLib/ICustomControl.h"
 #include "OrvikTypeLib/ITestElement.h"
-#include "host/services/Tr.h"
 #include "platform/IPanel.h"
 
 namespace bench {
@@ -51,7 +50,7 @@ std::shared_ptr<orvik::IObject> XTgContentPane::ITgContentPane_AddTab(const std:
                                                                       const std::string& sClassID) {
   if (sites_.count(sKey) != 0)
     throw orvik::HostError(orvik::HostError::kInvalidArgument, orvik::HostClasses::kContentPane,
-                           Tr("the pane already has a tab \"%%1\"", {sKey}));
+                           "the pane already has a tab \"" + sKey + "\"");
   auto page = Required(tabs_).Page(sKey);
   if (!page) page = tabs_->AddPage(sKey, sCaption);
   tabs_->SetPageBitmap(sKey, Picture);

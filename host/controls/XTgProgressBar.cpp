@@ -4,7 +4,6 @@
 
 #include "OrvikTypeLib/As.h"
 #include "OrvikTypeLib/HostClasses.h"
-#include "host/services/Tr.h"
 #include "platform/IPanel.h"
 
 namespace bench {
@@ -26,8 +25,8 @@ void XTgProgressBar::Build(orvik::platform::IPanel& panel) {
 void XTgProgressBar::ITgProgressBar_SetRange(std::int32_t lMinimum, std::int32_t lMaximum) {
   if (lMaximum <= lMinimum)
     throw orvik::HostError(orvik::HostError::kInvalidArgument, orvik::HostClasses::kProgressBar,
-                           Tr("the progress bar's maximum %%1 must be above its minimum %%2",
-                              {std::to_string(lMaximum), std::to_string(lMinimum)}));
+                           "the progress bar's maximum " + std::to_string(lMaximum) +
+                               " must be above its minimum " + std::to_string(lMinimum));
   Required(bar_).SetRange(lMinimum, lMaximum);
 }
 

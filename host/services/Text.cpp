@@ -2,25 +2,10 @@
 
 #include <algorithm>
 #include <charconv>
-#include <cmath>
 #include <cstring>
 
 namespace bench {
 namespace {
-
-std::string_view WithoutPlus(std::string_view text) {
-  if (text.size() > 1 && text[0] == '+' && text[1] != '-') text.remove_prefix(1);
-  return text;
-}
-
-template <class Value>
-std::optional<Value> Whole(std::string_view text) {
-  text = WithoutPlus(text);
-  Value value{};
-  const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
-  if (result.ec != std::errc{} || result.ptr != text.data() + text.size()) return {};
-  return value;
-}
 
 char Lower(char letter) {
   return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
@@ -67,14 +52,11 @@ std::string LowerAscii(std::string_view text) {
   return lower;
 }
 
-std::optional<std::int32_t> WholeNumber(std::string_view text) { return Whole<std::int32_t>(text); }
-
-std::optional<double> FiniteNumber(std::string_view text) {
-  const auto first = text.find_first_not_of(' ');
-  if (first == std::string_view::npos) return {};
-  text = text.substr(first, text.find_last_not_of(' ') - first + 1);
-  const auto value = Whole<double>(text);
-  if (!value || !std::isfinite(*value)) return {};
+std::optional<std::int32_t> WholeNumber(std::string_view text) {
+  if (text.size() > 1 && text[0] == '+' && text[1] != '-') text.remove_prefix(1);
+  std::int32_t value = 0;
+  const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
+  if (result.ec != std::errc{} || result.ptr != text.data() + text.size()) return {};
   return value;
 }
 

@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "OrvikTypeLib/Conversions.h"
+
 /// Small conversions of texts that the host's files and services share. None of them looks at the C locale.
 namespace bench {
 
@@ -30,9 +32,7 @@ struct EqualApartFromCase {
 /// The 32-bit number that the whole text stands for (decimal, optional sign); none for anything else.
 std::optional<std::int32_t> WholeNumber(std::string_view text);
 
-/// The finite number that the whole text stands for ("." as decimal sign, optional sign and exponent, blanks
-/// around it); none for anything else.
-std::optional<double> FiniteNumber(std::string_view text);
+using orvik::FiniteNumber;
 
 /// The shortest text that reads back as the same number.
 std::string ExactNumberText(double value);

@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "OrvikTypeLib/IXmlDocument.h"
-#include "host/controls/RegisterControls.h"
+#include "host/controls/ControlClasses.h"
 #include "host/elements/ElementFactory.h"
 #include "tester/BuiltInProfiles.h"
 
@@ -22,7 +22,6 @@ LoadedLibrary::LoadedLibrary(Subject subject)
                                                         line_.Line());
                                                   })),
       wire_(*ports_->TheWire()) {
-  bench::RegisterControls(*host_);
   bench::ConnectControls(*application_, *host_);
   ports_->Assign(subject_.plugInId, "memory");
   host_->Register(orvik::HostClasses::kCommApplication,

@@ -11,7 +11,7 @@
 
 #include "OrvikTypeLib/IRegistryReader.h"
 #include "host/Host.h"
-#include "host/controls/RegisterControls.h"
+#include "host/controls/ControlClasses.h"
 #include "host/toolkit/headless/Application.h"
 #include "plugin/ClassLibrary.h"
 #include "plugin/MKELDConstants.h"
@@ -35,7 +35,6 @@ class HostOnly {
                                    .translationFolders = {}},
                                   application_)) {
     host_->AddClasses(std::make_shared<keld::ClassLibrary>());
-    bench::RegisterControls(*host_);
     bench::ConnectControls(*application_, *host_);
     keld::MKELDGlobalVars::Open(host_);
   }

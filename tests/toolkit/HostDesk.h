@@ -10,7 +10,7 @@
 #include "OrvikTypeLib/As.h"
 #include "OrvikTypeLib/HostClasses.h"
 #include "host/Host.h"
-#include "host/controls/RegisterControls.h"
+#include "host/controls/ControlClasses.h"
 #include "tests/toolkit/Desk.h"
 
 namespace bench::headless {
@@ -23,7 +23,6 @@ class HostDesk : public Desk {
     if (!mkdtemp(pattern.data())) throw std::runtime_error("no temporary folder can be made: " + pattern);
     folder = pattern;
     host = Host::Create({folder, {}, {}, {}}, app);
-    RegisterControls(*host);
     ConnectControls(*app, *host);
   }
   ~HostDesk() override {
