@@ -23,7 +23,7 @@ class IMeasurement : public virtual IObject {
   std::string Key() const { return IMeasurement_Key(); }
   /// The key by which limits are matched.
   std::string LimitKey() const { return IMeasurement_LimitKey(); }
-  /// 0 not judged, 1 passed, 2 failed, 3 not applicable.
+  /// A code of `MeasurementStatus`.
   std::int32_t Status() const { return IMeasurement_Status(); }
   /// The unit.
   std::string Unit() const { return IMeasurement_Unit(); }

@@ -27,7 +27,7 @@ class IResultData : public virtual IObject {
   void SetComment(const std::string& sComment) { IResultData_SetComment(sComment); }
   /// Whether there is something to show beyond the measurement.
   bool HasDialog() const { return IResultData_HasDialog(); }
-  /// 0 not tested, 1 passed, 2 failed, 3 not applicable, 4 aborted.
+  /// A code of `ResultStatus`.
   std::int32_t Status() const { return IResultData_Status(); }
   /// The measurement at the index, or empty.
   std::shared_ptr<IMeasurement> Measurement(std::int32_t lIndex) const {

@@ -21,8 +21,8 @@ class IRunController : public virtual IObject {
   bool StartQuery(std::shared_ptr<ITestElement> iteElement) {
     return IRunController_StartQuery(std::move(iteElement));
   }
-  /// What the host is to do once the element has finished: 0 next, 1 previous, 2 abort, 3 skip, 4 not
-  /// applicable.
+  /// What the host is to do once the element has finished.
+  /// @param lCode a code of `Navigation`; any other raises `HostError` 5
   void NavigationRequest(std::int32_t lCode) { IRunController_NavigationRequest(lCode); }
   /// The element's run is over; its result is final.
   void FinishedNotice(std::shared_ptr<ITestElement> iteElement) {

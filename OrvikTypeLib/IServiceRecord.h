@@ -16,14 +16,14 @@ class IXmlNode;
 /// Implemented by: the host. Mandatory. Since contract version 1. User-interface thread only.
 class IServiceRecord : public virtual IObject {
  public:
-  /// Fills the record: the element's information record, code ("P", "F", "NA") and value text.
+  /// Fills the record: the element's information record, a `ServiceCode`, and value text.
   void Initialize(std::shared_ptr<IInformationRecord> Information, const std::string& sCode,
                   const std::string& sValue) {
     IServiceRecord_Initialize(std::move(Information), sCode, sValue);
   }
   /// The display name that the information record had.
   std::string Name() const { return IServiceRecord_Name(); }
-  /// "P" passed, "F" failed, "NA" not applicable.
+  /// A `ServiceCode`.
   std::string Code() const { return IServiceRecord_Code(); }
   /// The value text.
   std::string Value() const { return IServiceRecord_Value(); }

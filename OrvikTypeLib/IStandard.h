@@ -33,9 +33,9 @@ class IStandard : public virtual IObject {
   std::shared_ptr<ILimit> Limit(std::int32_t lIndex) const { return IStandard_Limit(lIndex); }
   /// Adds a limit.
   void AddLimit(std::shared_ptr<ILimit> Limit) { IStandard_AddLimit(std::move(Limit)); }
-  /// Judges a value by the limits of that key: 2 a bound is broken, 1 at least one bound was checked and all
-  /// held, 0 nothing to check. Bounds are inclusive. `vNominal` (empty when missing) stands in for the
-  /// limits' nominal value.
+  /// Judges a value by the limits of that key; bounds are inclusive.
+  /// @param vNominal replaces the nominal value of the limits; empty keeps it
+  /// @return the worst `Judgement` of these limits
   std::int32_t Evaluate(float rValue, const std::string& sKey, const Variant& vNominal) const {
     return IStandard_Evaluate(rValue, sKey, vNominal);
   }

@@ -1,13 +1,13 @@
 #include <utility>
 
 #include "OrvikTypeLib/As.h"
+#include "OrvikTypeLib/Codes.h"
 #include "OrvikTypeLib/IRunController.h"
 #include "OrvikTypeLib/IStandardColl.h"
 #include "instrument/CKELDInstrument.h"
 #include "instrument/CKELDMeasurement.h"
 #include "model/CKELDElement.h"
 #include "plugin/Attempt.h"
-#include "plugin/MKELDConstants.h"
 #include "results/CKELDResultData.h"
 #include "ui/FTestGuide.h"
 #include "ui/FYesNoPrompt.h"
@@ -28,7 +28,7 @@ void CKELDElement::ITestElement_Perform(std::shared_ptr<orvik::IRunController> R
 }
 
 void CKELDElement::GuideOperator(const std::shared_ptr<orvik::IRunController>& RunController) {
-  Navigate(MKELDConstants::kNavigateNext);
+  Navigate(orvik::Navigation::kNext);
   Attempt([&] { mTestGuide = FTestGuide::Create(); });
   Attempt([&] { Required(mTestGuide).Load(); });
   Attempt([&] { Required(mTestGuide).Initialize(SelfElement(), RunController); });
@@ -53,7 +53,7 @@ std::shared_ptr<CKELDResultData> CKELDElement::EnsureResult() {
 
 void CKELDElement::RecordNotApplicable() {
   Attempt([&] { EnsureResult(); });
-  Attempt([&] { Required(ResultData()).SetStatus(MKELDConstants::kNotApplicable); });
+  Attempt([&] { Required(ResultData()).SetStatus(orvik::ResultStatus::kNotApplicable); });
   Attempt([&] { Required(ResultData()).SetMeasurement(nullptr); });
   Attempt([&] { Required(ResultData()).BuildServiceRecord(SelfElement()); });
 }
@@ -114,13 +114,13 @@ bool CKELDElement::AskYesNo(const std::string& sText) {
 void CKELDElement::IKELDTest_NextTest() {
   const auto Self = shared_from_this();
   HideGuide();
-  Navigate(MKELDConstants::kNavigateNext);
+  Navigate(orvik::Navigation::kNext);
 }
 
 void CKELDElement::IKELDTest_PrevTest() {
   const auto Self = shared_from_this();
   HideGuide();
-  Navigate(MKELDConstants::kNavigatePrevious);
+  Navigate(orvik::Navigation::kPrevious);
 }
 
 void CKELDElement::IKELDTest_InitAutoRun(std::shared_ptr<CKELDInstrument> Instrument,

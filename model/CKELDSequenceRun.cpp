@@ -2,6 +2,7 @@
 #include <utility>
 
 #include "OrvikTypeLib/As.h"
+#include "OrvikTypeLib/Codes.h"
 #include "OrvikTypeLib/IRunController.h"
 #include "instrument/CKELDInstrument.h"
 #include "instrument/CKELDMeasurement.h"
@@ -49,7 +50,7 @@ void CKELDSequence::IKELDTest_RunTest() {
 
 void CKELDSequence::ResetResult() {
   Attempt([&] {
-    if (const auto Previous = ResultData()) Previous->Reset(SelfElement(), MKELDConstants::kNotTested);
+    if (const auto Previous = ResultData()) Previous->Reset(SelfElement(), orvik::ResultStatus::kNotTested);
   });
 }
 
@@ -90,17 +91,19 @@ void CKELDSequence::Summarise() {
   Attempt([&] { Measurement->SetStatus(SummaryStatus(*Measurement, fHasLimits)); });
   Attempt([&] { Required(Recorded).SetStatus(Measurement->Status()); });
   Attempt([&] {
-    if (Required(Recorded).Status() == MKELDConstants::kNotTested) Required(BaseElement()).SetResult(nullptr);
+    if (Required(Recorded).Status() == orvik::ResultStatus::kNotTested)
+      Required(BaseElement()).SetResult(nullptr);
   });
 }
 
 std::int32_t CKELDSequence::SummaryStatus(CKELDMeasurement& Summary, bool fHasLimits) const {
   bool fFailed = false;
   const bool fJudged = !fHasLimits || Attempt([&] { fFailed = FailsOwnLimits(Summary); });
-  if (fFailed) return MKELDConstants::kFailed;
+  if (fFailed) return orvik::ResultStatus::kFailed;
   const std::int32_t lChildren = ChildrenStatus(Required(mChildren));
   // A summary that could not be judged never passes, but a failed child still fails it.
-  return fJudged || lChildren == MKELDConstants::kFailed ? lChildren : MKELDConstants::kNotTested;
+  if (fJudged || lChildren == orvik::ResultStatus::kFailed) return lChildren;
+  return orvik::ResultStatus::kNotTested;
 }
 
 void CKELDSequence::IKELDTest_StopTest() {
@@ -118,9 +121,9 @@ void CKELDSequence::IKELDTest_AbortTest() {
   ReleaseRunningChild();
   CloseLink();
   // Not tested, unlike a single element, which is recorded as aborted.
-  RecordAbort(MKELDConstants::kNotTested);
+  RecordAbort(orvik::ResultStatus::kNotTested);
   HideGuide();
-  Navigate(MKELDConstants::kNavigateAbort);
+  Navigate(orvik::Navigation::kAbort);
 }
 
 void CKELDSequence::ReleaseRunningChild() {
@@ -136,7 +139,7 @@ void CKELDSequence::IKELDTest_NATest() {
   });
   NotifyFinished();
   HideGuide();
-  Navigate(MKELDConstants::kNavigateNotApplicable);
+  Navigate(orvik::Navigation::kNotApplicable);
 }
 
 void CKELDSequence::IKELDTest_SkipTest() {
@@ -147,7 +150,7 @@ void CKELDSequence::IKELDTest_SkipTest() {
   });
   NotifyFinished();
   HideGuide();
-  Navigate(MKELDConstants::kNavigateSkip);
+  Navigate(orvik::Navigation::kSkip);
 }
 
 }  // namespace keld

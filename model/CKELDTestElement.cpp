@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "OrvikTypeLib/As.h"
+#include "OrvikTypeLib/Codes.h"
 #include "OrvikTypeLib/Conversions.h"
 #include "OrvikTypeLib/HostClasses.h"
 #include "OrvikTypeLib/IInformationRecord.h"
@@ -12,7 +13,6 @@
 #include "plugin/Attempt.h"
 #include "plugin/CKELDTestConfiguration.h"
 #include "plugin/ClassIdentifiers.h"
-#include "plugin/MKELDConstants.h"
 #include "plugin/MKELDLanguageConstants.h"
 #include "results/CKELDResultData.h"
 
@@ -42,7 +42,7 @@ void CKELDTestElement::ITestElement_Initialize(const std::string& sPlugInID, std
     // that would overflow stays unchanged.
     constexpr std::int32_t kHighest = std::numeric_limits<std::int32_t>::max() - 4;
     if (fOneLead && Configured.Options() <= kHighest) Configured.SetOptions(Configured.Options() + 4);
-    if (fAllLeads) Configured.SetOptions(Configured.Options() | 4096);
+    if (fAllLeads) Configured.SetOptions(Configured.Options() | orvik::OptionBits::kAllLeads);
   });
 }
 
@@ -69,7 +69,7 @@ orvik::Variant CKELDTestElement::ITestElement_Info() const {
 
 void CKELDTestElement::IKELDTest_RunTest() {
   const auto Self = shared_from_this();
-  Attempt([&] { Required(ResultData()).Reset(SelfElement(), MKELDConstants::kNotTested); });
+  Attempt([&] { Required(ResultData()).Reset(SelfElement(), orvik::ResultStatus::kNotTested); });
   fStopRequested = false;
   if (!MayStart()) {
     Attempt([&] { Required(BaseElement()).SetResult(nullptr); });
@@ -104,7 +104,7 @@ void CKELDTestElement::IKELDTest_SkipTest() {
   Attempt([&] { Required(BaseElement()).SetResult(nullptr); });
   NotifyFinished();
   HideGuide();
-  Navigate(MKELDConstants::kNavigateSkip);
+  Navigate(orvik::Navigation::kSkip);
 }
 
 void CKELDTestElement::IKELDTest_NATest() {
@@ -112,16 +112,16 @@ void CKELDTestElement::IKELDTest_NATest() {
   RecordNotApplicable();
   NotifyFinished();
   HideGuide();
-  Navigate(MKELDConstants::kNavigateNotApplicable);
+  Navigate(orvik::Navigation::kNotApplicable);
 }
 
 void CKELDTestElement::IKELDTest_AbortTest() {
   const auto Self = shared_from_this();
   if (!AskYesNo(MKELDLanguageConstants::kEndTest)) return;
   CloseLink();
-  RecordAbort(MKELDConstants::kAborted);
+  RecordAbort(orvik::ResultStatus::kAborted);
   HideGuide();
-  Navigate(MKELDConstants::kNavigateAbort);
+  Navigate(orvik::Navigation::kAbort);
 }
 
 }  // namespace keld

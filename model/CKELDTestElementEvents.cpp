@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "OrvikTypeLib/As.h"
+#include "OrvikTypeLib/Codes.h"
 #include "OrvikTypeLib/Conversions.h"
 #include "OrvikTypeLib/IInformationRecord.h"
 #include "OrvikTypeLib/IRunController.h"
@@ -133,7 +134,7 @@ void CKELDTestElement::RecordMeasurement(std::int16_t iTestNo) {
     Measurement->SetDescription(sDescription);
     // A reading that could not be judged keeps status 0: it never counts as passed.
     const bool fFailed = FailsOwnLimits(*Measurement);
-    Measurement->SetStatus(fFailed ? MKELDConstants::kFailed : MKELDConstants::kPassed);
+    Measurement->SetStatus(fFailed ? orvik::MeasurementStatus::kFailed : orvik::MeasurementStatus::kPassed);
   });
   Attempt([&] { Required(Recorded).SetStatus(Measurement->Status()); });
   Attempt([&] { Required(Recorded).BuildServiceRecord(SelfElement()); });

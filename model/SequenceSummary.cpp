@@ -3,11 +3,11 @@
 #include <functional>
 #include <string>
 
+#include "OrvikTypeLib/Codes.h"
 #include "OrvikTypeLib/Conversions.h"
 #include "OrvikTypeLib/IMeasurement.h"
 #include "OrvikTypeLib/IResultData.h"
 #include "model/Children.h"
-#include "plugin/MKELDConstants.h"
 
 namespace keld {
 
@@ -55,16 +55,16 @@ std::int32_t ChildrenStatus(const orvik::ITestContainer& Children) {
     const auto Result = iteChild->Result();
     if (!Result) return;
     const std::int32_t lStatus = Result->Status();
-    fFailed = fFailed || lStatus == MKELDConstants::kFailed;
-    fPassed = fPassed || lStatus == MKELDConstants::kPassed;
-    fNotApplicable = fNotApplicable || lStatus == MKELDConstants::kNotApplicable;
+    fFailed = fFailed || lStatus == orvik::ResultStatus::kFailed;
+    fPassed = fPassed || lStatus == orvik::ResultStatus::kPassed;
+    fNotApplicable = fNotApplicable || lStatus == orvik::ResultStatus::kNotApplicable;
   });
-  if (fFailed) return MKELDConstants::kFailed;
+  if (fFailed) return orvik::ResultStatus::kFailed;
   // The child that could not be read may be the one that failed.
-  if (!fAllRead) return MKELDConstants::kNotTested;
-  if (fPassed) return MKELDConstants::kPassed;
-  if (fNotApplicable) return MKELDConstants::kNotApplicable;
-  return MKELDConstants::kNotTested;
+  if (!fAllRead) return orvik::ResultStatus::kNotTested;
+  if (fPassed) return orvik::ResultStatus::kPassed;
+  if (fNotApplicable) return orvik::ResultStatus::kNotApplicable;
+  return orvik::ResultStatus::kNotTested;
 }
 
 }  // namespace keld

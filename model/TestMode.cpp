@@ -1,15 +1,15 @@
 #include "model/TestMode.h"
 
+#include "OrvikTypeLib/Codes.h"
+
 namespace keld {
 
 std::int16_t ComputeTestMode(std::int32_t lOptions, std::int32_t lTestID) {
-  constexpr std::int32_t kFirstLead = 4;
-  constexpr std::int32_t kAllLeads = 4096;
   // The first lead wins, even when several are set.
   for (std::int16_t iLead = 1; iLead <= 10; ++iLead) {
-    if (lOptions & (kFirstLead << (iLead - 1))) return iLead;
+    if (lOptions & orvik::OptionBits::Lead(iLead)) return iLead;
   }
-  if (lOptions & kAllLeads) return 99;
+  if (lOptions & orvik::OptionBits::kAllLeads) return 99;
   if (lTestID == 1220) return 9999;
   if (lTestID == 1210 || lTestID == 1230 || lTestID == 1240) return 99;
   return 999;

@@ -4,22 +4,30 @@
 #include <array>
 #include <iterator>
 
+#include "OrvikTypeLib/Codes.h"
 #include "plugin/MKELDLanguageConstants.h"
 
 namespace keld::ConfigurationTables {
 namespace {
 
 namespace Text = MKELDLanguageConstants;
+using orvik::OptionBits;
 
 // In the order of the tree: the buttons, the ten leads, all leads.
 constexpr Option kOptions[] = {
-    {kNAButton, "NA key", Text::kEnableNA},   {kSkipButton, "Skip key", Text::kEnableSkip},
-    {4, "Lead 1 key", Text::kLead1},          {8, "Lead 2 key", Text::kLead2},
-    {16, "Lead 3 key", Text::kLead3},         {32, "Lead 4 key", Text::kLead4},
-    {64, "Lead 5 key", Text::kLead5},         {128, "Lead 6 key", Text::kLead6},
-    {256, "Lead 7 key", Text::kLead7},        {512, "Lead 8 key", Text::kLead8},
-    {1024, "Lead 9 key", Text::kLead9},       {2048, "Lead 10 key", Text::kLead10},
-    {4096, "All leads key", Text::kAllLeads},
+    {OptionBits::kOffersNotApplicable, "NA key", Text::kEnableNA},
+    {OptionBits::kOffersSkip, "Skip key", Text::kEnableSkip},
+    {OptionBits::Lead(1), "Lead 1 key", Text::kLead1},
+    {OptionBits::Lead(2), "Lead 2 key", Text::kLead2},
+    {OptionBits::Lead(3), "Lead 3 key", Text::kLead3},
+    {OptionBits::Lead(4), "Lead 4 key", Text::kLead4},
+    {OptionBits::Lead(5), "Lead 5 key", Text::kLead5},
+    {OptionBits::Lead(6), "Lead 6 key", Text::kLead6},
+    {OptionBits::Lead(7), "Lead 7 key", Text::kLead7},
+    {OptionBits::Lead(8), "Lead 8 key", Text::kLead8},
+    {OptionBits::Lead(9), "Lead 9 key", Text::kLead9},
+    {OptionBits::Lead(10), "Lead 10 key", Text::kLead10},
+    {OptionBits::kAllLeads, "All leads key", Text::kAllLeads},
 };
 constexpr std::size_t kButtons = 2;
 constexpr std::size_t kButtonsAndLeads = 12;
@@ -30,10 +38,12 @@ struct LeadLine {
 };
 
 constexpr LeadLine kLeadLines[] = {
-    {4, Text::kLead1Tested},     {8, Text::kLead2Tested},       {16, Text::kLead3Tested},
-    {32, Text::kLead4Tested},    {64, Text::kLead5Tested},      {128, Text::kLead6Tested},
-    {256, Text::kLead7Tested},   {512, Text::kLead8Tested},     {1024, Text::kLead9Tested},
-    {2048, Text::kLead10Tested}, {4096, Text::kAllLeadsTested},
+    {OptionBits::Lead(1), Text::kLead1Tested},      {OptionBits::Lead(2), Text::kLead2Tested},
+    {OptionBits::Lead(3), Text::kLead3Tested},      {OptionBits::Lead(4), Text::kLead4Tested},
+    {OptionBits::Lead(5), Text::kLead5Tested},      {OptionBits::Lead(6), Text::kLead6Tested},
+    {OptionBits::Lead(7), Text::kLead7Tested},      {OptionBits::Lead(8), Text::kLead8Tested},
+    {OptionBits::Lead(9), Text::kLead9Tested},      {OptionBits::Lead(10), Text::kLead10Tested},
+    {OptionBits::kAllLeads, Text::kAllLeadsTested},
 };
 
 constexpr const char* kFilterCaptions[] = {Text::kNoValues, Text::kAllValues, Text::kMaximumValue,
@@ -56,7 +66,7 @@ std::int32_t BitOf(std::string_view sKey) {
   return Found == std::end(kOptions) ? 0 : Found->lBit;
 }
 
-bool IsLead(std::string_view sKey) { return BitOf(sKey) > kSkipButton; }
+bool IsLead(std::string_view sKey) { return (BitOf(sKey) & OptionBits::kAnyLead) != 0; }
 
 std::span<const char* const> ValueFilterCaptions() { return kFilterCaptions; }
 

@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "OrvikTypeLib/Codes.h"
+
 /// The tables behind the test configuration: option bits, value filters, and the texts about leads.
 namespace keld::ConfigurationTables {
 
@@ -15,10 +17,9 @@ struct Option {
   const char* sCaption;  ///< language string
 };
 
-inline constexpr std::int32_t kNAButton = 1;
-inline constexpr std::int32_t kSkipButton = 2;
 /// A new configuration offers both buttons and selects no lead.
-inline constexpr std::int32_t kDefaultOptions = kNAButton | kSkipButton;
+inline constexpr std::int32_t kDefaultOptions =
+    orvik::OptionBits::kOffersNotApplicable | orvik::OptionBits::kOffersSkip;
 inline constexpr std::int32_t kDefaultValueFilter = 1;
 
 /// The options of an element with that test identifier, in the order of the tree: two buttons for every

@@ -33,18 +33,4 @@ inline constexpr char kLimitKey[] = "NO LIMIT KEY";
 /// Value of an element of the MTI data for which the reply had no parameter.
 inline constexpr char kNoValue[] = "NO VALUE";
 
-/// Result and measurement status.
-inline constexpr std::int32_t kNotTested = 0;
-inline constexpr std::int32_t kPassed = 1;
-inline constexpr std::int32_t kFailed = 2;
-inline constexpr std::int32_t kNotApplicable = 3;
-inline constexpr std::int32_t kAborted = 4;
-
-/// Navigation requests to the host's run controller once an element has finished.
-inline constexpr std::int32_t kNavigateNext = 0;
-inline constexpr std::int32_t kNavigatePrevious = 1;
-inline constexpr std::int32_t kNavigateAbort = 2;
-inline constexpr std::int32_t kNavigateSkip = 3;
-inline constexpr std::int32_t kNavigateNotApplicable = 4;
-
 }  // namespace keld::MKELDConstants

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "OrvikTypeLib/As.h"
+#include "OrvikTypeLib/Codes.h"
 #include "OrvikTypeLib/HostClasses.h"
 #include "OrvikTypeLib/ILimit.h"
 #include "OrvikTypeLib/ILimitView.h"
@@ -42,8 +43,7 @@ std::vector<std::string> ReportHeader() {
 /// passed.
 bool Fails(const orvik::IStandard& Standard, const std::optional<float>& Value,
            const std::string& sLimitKey) {
-  constexpr std::int32_t kBoundBroken = 2;
-  return !Value || Standard.Evaluate(*Value, sLimitKey, {}) == kBoundBroken;
+  return !Value || Standard.Evaluate(*Value, sLimitKey, {}) == orvik::Judgement::kLimitExceeded;
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "OrvikTypeLib/As.h"
+#include "OrvikTypeLib/Codes.h"
 #include "OrvikTypeLib/Conversions.h"
 #include "OrvikTypeLib/IMeasurement.h"
 #include "OrvikTypeLib/IResultData.h"
@@ -11,7 +12,6 @@
 #include "OrvikTypeLib/ITestElement.h"
 #include "OrvikTypeLib/ITestEnumerator.h"
 #include "plugin/CKELDTestConfiguration.h"
-#include "plugin/MKELDConstants.h"
 
 namespace keld::ResultValueText {
 namespace {
@@ -52,7 +52,7 @@ std::string Extreme(const std::string& sList, double rStart,
 std::string ValueText(const orvik::ITestElement& iteElement, const orvik::Variant& vOwnValue) {
   const std::int32_t lMode =
       orvik::Required(orvik::As<CKELDTestConfiguration>(iteElement.Configuration())).ValueFilter();
-  if (orvik::Required(iteElement.Result()).Status() == MKELDConstants::kNotApplicable) return {};
+  if (orvik::Required(iteElement.Result()).Status() == orvik::ResultStatus::kNotApplicable) return {};
   switch (lMode) {
     case 0:
     case 3:

@@ -3,13 +3,13 @@
 #include <any>
 
 #include "OrvikTypeLib/As.h"
+#include "OrvikTypeLib/Codes.h"
 #include "OrvikTypeLib/Conversions.h"
 #include "OrvikTypeLib/IMeasurement.h"
 #include "OrvikTypeLib/IResultData.h"
 #include "OrvikTypeLib/ITestElement.h"
 #include "platform/IContainerSite.h"
 #include "plugin/ClassIdentifiers.h"
-#include "plugin/MKELDConstants.h"
 #include "plugin/MKELDGlobalVars.h"
 #include "plugin/MKELDLanguageConstants.h"
 #include "results/ElementName.h"
@@ -113,7 +113,7 @@ void XKELDResultView::ShowResult(const std::shared_ptr<orvik::ITestElement>& ite
   } else {
     AddRow(sRow, iteElement, sValue, Measurement);
   }
-  StyleRow(sRow, Measurement->Status() == MKELDConstants::kFailed);
+  StyleRow(sRow, Measurement->Status() == orvik::MeasurementStatus::kFailed);
   List().EnsureVisible(sRow);
   List().Refresh();
   List().SelectRow(sRow);

@@ -1,4 +1,5 @@
 #include "OrvikTypeLib/As.h"
+#include "OrvikTypeLib/Codes.h"
 #include "OrvikTypeLib/IResultData.h"
 #include "OrvikTypeLib/ITestElement.h"
 #include "OrvikTypeLib/ITgToolbar.h"
@@ -7,7 +8,6 @@
 #include "platform/IForm.h"
 #include "plugin/Attempt.h"
 #include "plugin/CKELDTestConfiguration.h"
-#include "plugin/MKELDConstants.h"
 #include "plugin/MKELDGlobalVars.h"
 #include "plugin/MKELDLanguageConstants.h"
 #include "results/XKELDResultView.h"
@@ -21,8 +21,6 @@ using orvik::Required;
 
 namespace {
 
-constexpr std::int32_t kNotApplicableOption = 1;
-constexpr std::int32_t kSkipOption = 2;
 constexpr int kRightButton = 2;
 
 bool ActsDuringRun(std::int32_t lCommand) {
@@ -86,11 +84,11 @@ void FTestGuide::Play() {
 
 bool FTestGuide::FinishedHere() const {
   if (!fRanHere) return false;
-  const std::int32_t lStatus = AttemptValue(MKELDConstants::kNotTested, [&] {
+  const std::int32_t lStatus = AttemptValue(std::int32_t{orvik::ResultStatus::kNotTested}, [&] {
     const auto Result = Required(mElement)->Result();
     return Required(Result).Status();
   });
-  return lStatus == MKELDConstants::kPassed || lStatus == MKELDConstants::kNotApplicable;
+  return lStatus == orvik::ResultStatus::kPassed || lStatus == orvik::ResultStatus::kNotApplicable;
 }
 
 void FTestGuide::RunRoutine() {
@@ -133,8 +131,8 @@ void FTestGuide::SetButtons() {
   Buttons.EnableCommand(kCommandPlay, true);
   Buttons.EnableCommand(kCommandAbort, true);
   const std::int32_t lOptions = OptionsOf(mElement.lock());
-  Buttons.ShowCommand(kCommandNotApplicable, (lOptions & kNotApplicableOption) != 0);
-  Buttons.ShowCommand(kCommandSkip, (lOptions & kSkipOption) != 0);
+  Buttons.ShowCommand(kCommandNotApplicable, (lOptions & orvik::OptionBits::kOffersNotApplicable) != 0);
+  Buttons.ShowCommand(kCommandSkip, (lOptions & orvik::OptionBits::kOffersSkip) != 0);
   Attempt([&] { mWindow.LockInstrumentData(fRunning); });
 }
 

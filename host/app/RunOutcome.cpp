@@ -74,7 +74,7 @@ Verdict RunOutcomes::VerdictThen(const RecordedTest& test, const Verdicts& befor
   if (!test.doubts.empty()) return Verdict::kDoubtful;
   if (test.status == orvik::ResultStatus::kNotApplicable) return Verdict::kNotApplicable;
   if (std::any_of(test.judged.begin(), test.judged.end(),
-                  [](const RecordedLimit& limit) { return limit.status == 1; }))
+                  [](const RecordedLimit& limit) { return limit.status == orvik::Judgement::kWithinLimits; }))
     return Verdict::kPassed;
   // A group without a limit of its own is what its children are.
   const auto children = children_.find(test.element);
@@ -113,8 +113,8 @@ std::string RunOutcomes::TextOf(const RunOutcome& outcome) const {
 }
 
 LimitVerdict VerdictThen(const RecordedLimit& limit, const RecordedTest& test) {
-  if (limit.status == 1) return LimitVerdict::kWithin;
-  if (limit.status != 2) return LimitVerdict::kNotApplied;
+  if (limit.status == orvik::Judgement::kWithinLimits) return LimitVerdict::kWithin;
+  if (limit.status != orvik::Judgement::kLimitExceeded) return LimitVerdict::kNotApplied;
   const auto value = test.recorded ? FiniteNumber(test.recorded->value) : std::nullopt;
   const auto low = FiniteNumber(limit.low);
   const bool below = value && low && static_cast<float>(*value) < static_cast<float>(*low);
@@ -159,7 +159,8 @@ RunProgressCount CountOf(const RunRecord& run) {
       for (const auto id : takes->elements) done[id] = false;
     } else {
       const auto& test = std::get<RecordedTest>(step);
-      done[test.element] = test.status >= 1 && test.status <= 3;
+      done[test.element] =
+          test.status >= orvik::ResultStatus::kPassed && test.status <= orvik::ResultStatus::kNotApplicable;
     }
   }
   RunProgressCount count;

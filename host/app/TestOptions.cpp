@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "OrvikTypeLib/Codes.h"
 #include "host/app/InputError.h"
 #include "host/app/TextColumns.h"
 #include "host/services/Text.h"
@@ -9,12 +10,11 @@
 
 namespace bench::options {
 
+using orvik::OptionBits;
+
 namespace {
 
 constexpr std::int32_t kLeads = 10;
-constexpr std::int32_t kLeadBits = kEverything - kOffersNotApplicable - kOffersSkip;
-
-std::int32_t BitOfLead(std::int32_t lead) { return kFirstLead << (lead - 1); }
 
 /// Patient leakage currents: by lead, or through all leads at once.
 bool MeasuresAllLeads(std::int32_t testId) { return testId >= 910 && testId < 966; }
@@ -29,8 +29,8 @@ bool MeasuresByLead(std::int32_t testId) {
 std::string LeadsInWords(std::int32_t options) {
   std::vector<std::string> set;
   for (std::int32_t lead = 1; lead <= kLeads; ++lead)
-    if (options & BitOfLead(lead)) set.push_back(std::to_string(lead));
-  if (options & kAllLeads) set.push_back(Tr("all"));
+    if (options & OptionBits::Lead(lead)) set.push_back(std::to_string(lead));
+  if (options & OptionBits::kAllLeads) set.push_back(Tr("all"));
   if (set.empty()) return Tr("none");
   if (set.size() == 1) return set.front();
   const std::vector<std::string> others(set.begin() + 1, set.end());
@@ -38,13 +38,13 @@ std::string LeadsInWords(std::int32_t options) {
 }
 
 bool SaysLeads(std::int32_t options, std::int32_t testId) {
-  return MeasuresByLead(testId) || (options & kLeadBits) != 0;
+  return MeasuresByLead(testId) || (options & OptionBits::kAnyLead) != 0;
 }
 
 std::string ButtonsInWords(std::int32_t options) {
   std::vector<std::string> buttons;
-  if (options & kOffersNotApplicable) buttons.push_back(Tr("not applicable"));
-  if (options & kOffersSkip) buttons.push_back(Tr("skip"));
+  if (options & OptionBits::kOffersNotApplicable) buttons.push_back(Tr("not applicable"));
+  if (options & OptionBits::kOffersSkip) buttons.push_back(Tr("skip"));
   return buttons.empty() ? Tr("none") : Joined(buttons, ", ");
 }
 
@@ -55,13 +55,13 @@ std::string InWords(std::int32_t options, std::int32_t testId) {
 
 std::int32_t WithLeads(std::int32_t options, std::int32_t testId, const std::string& leads) {
   const auto word = LowerAscii(leads);
-  const auto others = options & ~kLeadBits;
+  const auto others = options & ~OptionBits::kAnyLead;
   if (word == "none") return others;
   const auto test = std::to_string(testId);
   if (!MeasuresByLead(testId))
     throw InputError(Tr("--leads %%1: test %%2 has no leads to choose", {leads, test}));
   if (word == "all") {
-    if (MeasuresAllLeads(testId)) return others | kAllLeads;
+    if (MeasuresAllLeads(testId)) return others | OptionBits::kAllLeads;
     throw InputError(
         Tr("--leads %%1: test %%2 measures one lead at a time; give a number from 1 to 10", {leads, test}));
   }
@@ -71,7 +71,7 @@ std::int32_t WithLeads(std::int32_t options, std::int32_t testId, const std::str
         Tr("--leads %%1: give all, none or one lead from 1 to 10; to measure several leads one "
            "by one, add the test once for each",
            {leads}));
-  return others | BitOfLead(*lead);
+  return others | OptionBits::Lead(*lead);
 }
 
 }  // namespace bench::options

@@ -6,16 +6,8 @@
 
 namespace bench {
 
-/// The settings of a test of the KELD: a sum of bits that says which buttons the guide offers and which leads
-/// are measured.
+/// The settings of a test of the KELD (`orvik::OptionBits`) in words.
 namespace options {
-
-inline constexpr std::int32_t kOffersNotApplicable = 1;
-inline constexpr std::int32_t kOffersSkip = 2;
-inline constexpr std::int32_t kFirstLead = 4;  ///< leads 1 to 10 are the bits from here to 2048
-inline constexpr std::int32_t kAllLeads = 4096;
-/// All of them.
-inline constexpr std::int32_t kEverything = 8191;
 
 /// The leads that are measured: "all", "3", "none". One lead at a time is, and the lowest is when several are
 /// set; the others are named as set and not measured.

@@ -4,6 +4,7 @@
 #include <cstdlib>
 
 #include "OrvikTypeLib/As.h"
+#include "OrvikTypeLib/Codes.h"
 #include "OrvikTypeLib/HostError.h"
 #include "OrvikTypeLib/IConfigData.h"
 #include "OrvikTypeLib/ILimitData.h"
@@ -30,8 +31,9 @@ using Element = std::shared_ptr<orvik::ITestElement>;
 
 std::vector<std::string> OptionsInWords(std::int32_t bits, std::int32_t testId) {
   std::vector<std::string> words;
-  if (bits & options::kOffersNotApplicable) words.push_back(Tr("The guide offers \"not applicable\"."));
-  if (bits & options::kOffersSkip) words.push_back(Tr("The guide offers \"skip\"."));
+  if (bits & orvik::OptionBits::kOffersNotApplicable)
+    words.push_back(Tr("The guide offers \"not applicable\"."));
+  if (bits & orvik::OptionBits::kOffersSkip) words.push_back(Tr("The guide offers \"skip\"."));
   if (options::SaysLeads(bits, testId)) words.push_back(Tr("Leads: %%1.", {options::LeadsInWords(bits)}));
   return words;
 }

@@ -1,5 +1,6 @@
 #include "host/document/ElementsCheck.h"
 
+#include "OrvikTypeLib/Codes.h"
 #include "host/document/Findings.h"
 #include "host/document/KnownParts.h"
 #include "host/document/StandardsCheck.h"
@@ -11,9 +12,6 @@
 
 namespace bench {
 namespace {
-
-/// From not tested to aborted.
-constexpr std::int32_t kHighestStatus = 4;
 
 std::string IdentifierOf(pugi::xml_node element) { return element.attribute(tags::kID).value(); }
 
@@ -140,7 +138,7 @@ void ElementsCheck::CheckStatus(pugi::xml_node holder) {
   if (!node) return;
   const auto text = xml::Text(node);
   const auto status = WholeNumber(text);
-  if (!status || *status < 0 || *status > kHighestStatus)
+  if (!status || *status < orvik::ResultStatus::kNotTested || *status > orvik::ResultStatus::kAborted)
     findings_.Wrong(node,
                     Tr("the status \"%%1\" is not one of 0 (not tested), 1 (passed), 2 (failed), 3 (not "
                        "applicable) and 4 (aborted)",

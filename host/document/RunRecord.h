@@ -38,7 +38,7 @@ struct RecordedLimit {
   std::string unit;
   std::string low;  ///< as entered; empty when there is none
   std::string high;
-  std::int32_t status = 0;  ///< 1 within, 2 exceeded
+  std::int32_t status = 0;  ///< `orvik::Judgement`
 
   bool operator==(const RecordedLimit&) const = default;
 };
@@ -51,7 +51,7 @@ struct RecordedTest {
   std::int32_t testId = 0;
   std::int32_t settings = 0;  ///< the option bits that decide what is measured
   std::string at;             ///< ISO 8601
-  std::int32_t status = 0;    ///< the plug-in's: 0 not tested to 4 aborted
+  std::int32_t status = 0;    ///< `orvik::ResultStatus`
   By by = By::kTester;
   std::int32_t tester = 0;        ///< which of the run's testers answered, from 1; 0 when none did
   std::vector<std::string> said;  ///< results and refusals as they came in, as UTF-8

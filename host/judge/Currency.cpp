@@ -37,7 +37,7 @@ bool SameReading(const RecordedTest& test, const SavedResult& saved) {
 
 std::optional<Reason> OtherResult(const CaseElement& element, const LastRecord& last) {
   const auto& test = *last.test;
-  const auto status = element.result ? element.result->status : 0;
+  const auto status = element.result ? element.result->status : std::int32_t{orvik::ResultStatus::kNotTested};
   if (status != test.status)
     return Reason{"other-status", {RunOf(last), StatusText(test.status), StatusText(status)}};
   if (status != orvik::ResultStatus::kPassed && status != orvik::ResultStatus::kFailed) return {};
@@ -52,8 +52,9 @@ std::optional<Reason> OtherResult(const CaseElement& element, const LastRecord& 
 std::optional<Reason> NotCurrent(const CaseElement& element, const LastRecord& last,
                                  const Equipment& equipment) {
   if (!last.run)
-    return element.result && element.result->status != 0 ? Reason{"not-recorded", {}}
-                                                         : Reason{"never-run", {}};
+    return element.result && element.result->status != orvik::ResultStatus::kNotTested
+               ? Reason{"not-recorded", {}}
+               : Reason{"never-run", {}};
   if (!last.test) return Reason{"not-finished", {RunOf(last)}};
   if (last.test->testId != element.testId)
     return Reason{"other-test", {RunOf(last), std::to_string(last.test->testId)}};

@@ -11,19 +11,6 @@
 namespace bench::judge {
 namespace {
 
-const char* ServiceCodeOf(std::int32_t status) {
-  switch (status) {
-    case orvik::ResultStatus::kPassed:
-      return "P";
-    case orvik::ResultStatus::kFailed:
-      return "F";
-    case orvik::ResultStatus::kNotApplicable:
-      return "NA";
-    default:
-      return "";
-  }
-}
-
 bool HasSelectedLimit(const JudgedElement& judged) {
   return std::any_of(judged.limits.begin(), judged.limits.end(),
                      [](const JudgedLimit& limit) { return limit.selected; });
@@ -98,7 +85,7 @@ std::vector<Reason> RecordDoubts(const CaseElement& element, const LastRecord& l
   if (last.changed) doubts.push_back({"record-changed", {std::to_string(last.run->number)}});
   if (!element.fault.empty()) doubts.push_back({"unknown-test", {element.fault}});
   const auto& code = element.result ? element.result->serviceCode : std::string();
-  if (!code.empty() && code != ServiceCodeOf(last.test->status))
+  if (!code.empty() && code != orvik::ServiceCode::Of(last.test->status))
     doubts.push_back({"service-code", {code, StatusText(last.test->status)}});
   return doubts;
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "OrvikTypeLib/Codes.h"
 #include "host/services/Tr.h"
 
 namespace bench::judge {
@@ -42,15 +43,15 @@ std::string OutcomeText(Outcome outcome) {
 
 std::string StatusText(std::int32_t status) {
   switch (status) {
-    case 0:
+    case orvik::ResultStatus::kNotTested:
       return Marked("not tested");
-    case 1:
+    case orvik::ResultStatus::kPassed:
       return Marked("passed");
-    case 2:
+    case orvik::ResultStatus::kFailed:
       return Marked("failed");
-    case 3:
+    case orvik::ResultStatus::kNotApplicable:
       return Marked("not applicable");
-    case 4:
+    case orvik::ResultStatus::kAborted:
       return Marked("aborted");
     default:
       return "unknown status " + std::to_string(status);

@@ -45,10 +45,10 @@ DocumentRunner::End DocumentRunner::Walk(const std::vector<std::shared_ptr<orvik
     reason_ = controller_->SaveFailure();
     if (!reason_.empty()) return End::kNotSaved;
     if (stop_.Asked()) return End::kStopped;
-    if (controller_->Asked() == Navigation::kAbort) return End::kAborted;
+    if (controller_->Asked() == orvik::Navigation::kAbort) return End::kAborted;
     reason_ = link_.Loss();
     if (!reason_.empty()) return End::kTesterLost;
-    if (controller_->Asked() != Navigation::kPrevious)
+    if (controller_->Asked() != orvik::Navigation::kPrevious)
       ++place;
     else if (place > 0)
       --place;

@@ -31,11 +31,10 @@ bool RunController::IRunController_StartQuery(std::shared_ptr<orvik::ITestElemen
 }
 
 void RunController::IRunController_NavigationRequest(std::int32_t lCode) {
-  if (lCode < static_cast<std::int32_t>(Navigation::kNext) ||
-      lCode > static_cast<std::int32_t>(Navigation::kNotApplicable))
+  if (lCode < orvik::Navigation::kNext || lCode > orvik::Navigation::kNotApplicable)
     throw orvik::HostError(orvik::HostError::kInvalidArgument, "orvik.RunController",
                            Tr("navigation request %%1 is not one of 0 to 4", {std::to_string(lCode)}));
-  asked_ = static_cast<Navigation>(lCode);
+  asked_ = static_cast<orvik::Navigation::Code>(lCode);
 }
 
 void RunController::IRunController_FinishedNotice(std::shared_ptr<orvik::ITestElement> iteElement) {
@@ -52,7 +51,7 @@ void RunController::IRunController_FinishedNotice(std::shared_ptr<orvik::ITestEl
 }
 
 void RunController::Settle(const std::shared_ptr<orvik::ITestElement>& element) {
-  parts_.recorder.Settle(element, asked_ == Navigation::kAbort);
+  parts_.recorder.Settle(element, asked_ == orvik::Navigation::kAbort);
   Save();
 }
 

@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "OrvikTypeLib/Codes.h"
 #include "OrvikTypeLib/IInstrumentColl.h"
 #include "OrvikTypeLib/IRunController.h"
 #include "OrvikTypeLib/IStandardColl.h"
@@ -17,9 +18,6 @@
 #include "platform/Event.h"
 
 namespace bench {
-
-/// What the operator asked for when an element was left.
-enum class Navigation { kNext = 0, kPrevious = 1, kAbort = 2, kSkip = 3, kNotApplicable = 4 };
 
 /// What elements ask and report while they run. Has everything written into the record of the run, and the
 /// document saved before an element is measured again and after each that has finished.
@@ -42,8 +40,8 @@ class RunController final : public orvik::IRunController {
 
   /// The element is about to be performed. Its first start query is for its guide; those after it for runs.
   void Open(const orvik::ITestElement& element) { opening_ = element.ID(); }
-  /// What was asked for last.
-  Navigation Asked() const { return asked_; }
+  /// What the operator asked for when the last element was left.
+  orvik::Navigation::Code Asked() const { return asked_; }
   /// The run begins with these elements: they have no current result from here on. Returns whether that could
   /// be saved; otherwise nothing may be measured.
   bool Begin(const RunRecorder::Heading& heading,
@@ -70,7 +68,7 @@ class RunController final : public orvik::IRunController {
   const Parts parts_;
   std::optional<std::int32_t> opening_;
   std::set<std::int32_t> running_;  ///< started, and not finished
-  Navigation asked_ = Navigation::kNext;
+  orvik::Navigation::Code asked_ = orvik::Navigation::kNext;
   std::string saveFailure_;
   orvik::platform::Event<const std::shared_ptr<orvik::ITestElement>&> started_;
   orvik::platform::Event<const std::shared_ptr<orvik::ITestElement>&> finished_;

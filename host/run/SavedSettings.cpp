@@ -1,6 +1,6 @@
 #include "host/run/SavedSettings.h"
 
-#include "host/plugins/keld/KeldTests.h"
+#include "OrvikTypeLib/Codes.h"
 #include "host/services/Text.h"
 
 namespace bench {
@@ -23,7 +23,7 @@ SavedSettings::SavedSettings(const orvik::IConfigData& configuration) {
 }
 
 std::int32_t MeasuringSettings(const orvik::ITestElement& element) {
-  return WholeNumber(SettingOf(element, SavedSettings::kOptions)).value_or(0) & keld_facts::kMeasuringOptions;
+  return WholeNumber(SettingOf(element, SavedSettings::kOptions)).value_or(0) & orvik::OptionBits::kAnyLead;
 }
 
 std::string ValueFilter(const orvik::ITestElement& element) {

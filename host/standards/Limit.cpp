@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "OrvikTypeLib/Codes.h"
 #include "OrvikTypeLib/Conversions.h"
 #include "OrvikTypeLib/HostError.h"
 #include "host/services/Text.h"
@@ -12,6 +13,7 @@ namespace bench {
 namespace {
 
 using orvik::HostError;
+using orvik::Judgement;
 
 constexpr char kLimitSource[] = "OrvikTypeLib.Limit";
 constexpr char kKey[] = "Key";
@@ -86,15 +88,15 @@ std::optional<double> Limit::Resolved(const std::optional<Bound>& bound) const {
   return bound->Resolved(nominal_);
 }
 
-int Limit::Evaluate(float value, std::optional<double> nominal) const {
-  if (!low_ && !high_) return 0;
-  if (!std::isfinite(value)) return 2;
+std::int32_t Limit::Evaluate(float value, std::optional<double> nominal) const {
+  if (!low_ && !high_) return Judgement::kNothingToCheck;
+  if (!std::isfinite(value)) return Judgement::kLimitExceeded;
   const auto reference = nominal ? nominal : nominal_;
   // The value comes in single precision: a bound is brought to the same, or 0.3 would break the bound 0.3.
   const auto bound = [&](const Bound& entered) { return static_cast<float>(entered.Resolved(reference)); };
-  if (low_ && !(value >= bound(*low_))) return 2;
-  if (high_ && !(value <= bound(*high_))) return 2;
-  return 1;
+  if (low_ && !(value >= bound(*low_))) return Judgement::kLimitExceeded;
+  if (high_ && !(value <= bound(*high_))) return Judgement::kLimitExceeded;
+  return Judgement::kWithinLimits;
 }
 
 std::shared_ptr<Limit> Limit::Copy() const {

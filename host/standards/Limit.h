@@ -14,10 +14,9 @@ namespace bench {
 /// `<Limit Key="NO LIMIT KEY" Unit="mOhm" Low="" High="300" Nominal=""/>`.
 class Limit final : public orvik::ILimit {
  public:
-  /// 2 when a bound is broken, 1 when one was checked and held, 0 when there is none. A value that is not a
-  /// finite number breaks every bound.
+  /// A code of `orvik::Judgement`. A value that is not a finite number exceeds every bound.
   /// @param nominal stands in for the limit's own nominal value; none keeps that
-  int Evaluate(float value, std::optional<double> nominal) const;
+  std::int32_t Evaluate(float value, std::optional<double> nominal) const;
 
   std::shared_ptr<Limit> Copy() const;
   /// `XmlError` for bounds that `SetBounds` would refuse.

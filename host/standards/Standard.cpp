@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "OrvikTypeLib/As.h"
+#include "OrvikTypeLib/Codes.h"
 #include "OrvikTypeLib/Conversions.h"
 #include "host/services/Tr.h"
 #include "host/services/XmlNode.h"
@@ -48,7 +49,7 @@ std::int32_t Standard::IStandard_Evaluate(float rValue, const std::string& sKey,
                                           const orvik::Variant& vNominal) const {
   std::optional<double> nominal;
   if (!orvik::IsEmpty(vNominal)) nominal = orvik::NumericValue(vNominal);
-  int worst = 0;
+  std::int32_t worst = orvik::Judgement::kNothingToCheck;
   for (const auto& limit : limits_) {
     if (limit->Key() == sKey) worst = std::max(worst, limit->Evaluate(rValue, nominal));
   }

@@ -97,7 +97,7 @@ class ReferenceRun : public ReferenceHost {
 
 TEST_F(ReferenceRun, ControlsRuns) {
   ExpectNone(checker_->RunController(controller_));
-  EXPECT_EQ(controller_->Asked(), bench::Navigation::kNotApplicable);
+  EXPECT_EQ(controller_->Asked(), orvik::Navigation::kNotApplicable);
   EXPECT_EQ(saved_, 2) << "each finished element is saved";
   EXPECT_EQ(controller_->orvik::IRunController::Standards(), standards_);
   EXPECT_EQ(instruments_->Count(), 1);
@@ -109,7 +109,7 @@ TEST_F(ReferenceRun, RefusesNavigationThatThereIsNot) {
   for (const std::int32_t code : {-1, 5, std::numeric_limits<std::int32_t>::max()}) {
     EXPECT_EQ(ErrorNumberOf([&] { controller.NavigationRequest(code); }), orvik::HostError::kInvalidArgument);
   }
-  EXPECT_EQ(controller_->Asked(), bench::Navigation::kSkip);
+  EXPECT_EQ(controller_->Asked(), orvik::Navigation::kSkip);
 }
 
 TEST_F(ReferenceRun, RunsAPlugInsElement) {
@@ -126,7 +126,7 @@ TEST_F(ReferenceRun, RunsAPlugInsElement) {
   EXPECT_EQ(heard, (std::vector<std::string>{"started", "finished"}));
   ASSERT_TRUE(element->Result());
   EXPECT_EQ(element->Result()->Status(), 1);
-  EXPECT_EQ(controller_->Asked(), bench::Navigation::kNext);
+  EXPECT_EQ(controller_->Asked(), orvik::Navigation::kNext);
   EXPECT_EQ(saved_, 2) << "the beginning and the finished element";
   ASSERT_EQ(runs_.All().size(), 1U);
   ASSERT_EQ(runs_.All()[0].steps.size(), 2U);

@@ -3,10 +3,11 @@
 #include <algorithm>
 #include <stdexcept>
 
+#include "OrvikTypeLib/Codes.h"
+
 namespace history {
 namespace {
 
-constexpr int kAllLeads = 4096, kFirstLead = 4;
 const std::string kMicroampere =
     "\xC2\xB5"
     "A";
@@ -53,8 +54,8 @@ const std::vector<TestKind>& TestKinds() {
       Test(620, {{176}, kMicroampere}),
       Test(630, {{341}, kMicroampere}),
       Test(640, {{328}, kMicroampere}),
-      ByLead(910, kAllLeads, {34, -1}),
-      ByLead(1110, kFirstLead, {39, -1}),
+      ByLead(910, orvik::OptionBits::kAllLeads, {34, -1}),
+      ByLead(1110, orvik::OptionBits::Lead(1), {39, -1}),
       Group(400, "mOhm", {410, 420}),
       Group(1000, "MOhm", {1010, 1020}),
       Group(600, kMicroampere, {610, 620, 630, 640}),
@@ -73,7 +74,7 @@ const TestKind& KindOf(int testId) {
 
 int SettingOf(int options) {
   for (int lead = 1; lead <= 10; ++lead)
-    if (options & (kFirstLead << (lead - 1))) return lead;
+    if (options & orvik::OptionBits::Lead(lead)) return lead;
   return 0;
 }
 

@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "OrvikTypeLib/Codes.h"
 #include "tests/history/Decimal.h"
 
 namespace history {
@@ -25,6 +26,6 @@ const TestKind& KindOf(int testId);
 /// What the tester calls the setting of a test with these options on the wire: a lead, or 0.
 int SettingOf(int options);
 /// Of the options, those that decide what is measured.
-constexpr int MeasuringPart(int options) { return options & 8188; }
+constexpr int MeasuringPart(int options) { return options & orvik::OptionBits::kAnyLead; }
 
 }  // namespace history

@@ -34,7 +34,7 @@ TEST_F(VirtualBenchTest, RunsOneTestFromTheGuideToTheResult) {
   EXPECT_EQ(element->Result()->Status(), 1);
   EXPECT_FALSE(bench_.Tester().InRemoteMode());
   EXPECT_FALSE(bench_.Line().Line()->Connected());
-  EXPECT_EQ(parts_.controller->Asked(), bench::Navigation::kNext);
+  EXPECT_EQ(parts_.controller->Asked(), orvik::Navigation::kNext);
   EXPECT_TRUE(parts_.doubts.Of(1).empty());
 }
 

@@ -5,6 +5,7 @@
 #include <iostream>
 
 #include "OrvikTypeLib/As.h"
+#include "OrvikTypeLib/Codes.h"
 #include "OrvikTypeLib/IConfigData.h"
 #include "OrvikTypeLib/ITestContainer.h"
 #include "host/app/DocumentElements.h"
@@ -32,10 +33,10 @@ struct Button {
   std::int32_t bit;
   bool offered;
 };
-constexpr std::array<Button, 4> kButtons{{{"--allow-na", options::kOffersNotApplicable, true},
-                                          {"--no-na", options::kOffersNotApplicable, false},
-                                          {"--allow-skip", options::kOffersSkip, true},
-                                          {"--no-skip", options::kOffersSkip, false}}};
+constexpr std::array<Button, 4> kButtons{{{"--allow-na", orvik::OptionBits::kOffersNotApplicable, true},
+                                          {"--no-na", orvik::OptionBits::kOffersNotApplicable, false},
+                                          {"--allow-skip", orvik::OptionBits::kOffersSkip, true},
+                                          {"--no-skip", orvik::OptionBits::kOffersSkip, false}}};
 
 /// The settings as the element saves them now.
 SavedSettings SettingsOf(const orvik::IConfigData& configuration) {
@@ -108,7 +109,7 @@ std::int32_t ConfigCommand::Changed(std::int32_t settings, std::int32_t testId) 
 }
 
 ExitStatus ConfigCommand::Run(const GlobalOptions& options) {
-  if (settings_ < 0 || settings_ > options::kEverything)
+  if (settings_ < 0 || settings_ > orvik::OptionBits::kEveryOption)
     throw InputError(Tr("--options %%1: give a number from 0 to 8191", {std::to_string(settings_)}));
   Workbench workbench(options);
   const bool changes = ChangesOptions() || Given(kFilter);

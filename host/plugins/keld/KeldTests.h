@@ -12,10 +12,6 @@ inline constexpr std::string_view kTesterType = "KELD(IN)";
 /// The key of the limits by which the plug-in judges.
 inline constexpr std::string_view kLimitKey = "NO LIMIT KEY";
 
-/// Of the option bits: those that decide what is measured (leads 1 to 10, all leads). The others only offer
-/// buttons of the guide.
-inline constexpr std::int32_t kMeasuringOptions = 8188;
-
 /// Whether readings of the test are corrected by the resistance of the test leads: protective earth.
 constexpr bool CorrectedByLeads(std::int32_t testId) { return testId == 410 || testId == 420; }
 

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "OrvikTypeLib/Codes.h"
 #include "OrvikTypeLib/HostClasses.h"
 #include "OrvikTypeLib/IConfigData.h"
 #include "OrvikTypeLib/IInformationRecord.h"
@@ -62,12 +63,13 @@ void CInspection::ITestElement_Perform(std::shared_ptr<orvik::IRunController> co
 
   const auto answer = AskUndamaged(Information()->DisplayName());
   const auto result = NewResult();
-  if (answer == Answer::kUndamaged) result->Decide(CInspectionResult::kPassed, *self);
-  if (answer == Answer::kDamaged) result->Decide(CInspectionResult::kFailed, *self);
+  if (answer == Answer::kUndamaged) result->Decide(orvik::ResultStatus::kPassed, *self);
+  if (answer == Answer::kDamaged) result->Decide(orvik::ResultStatus::kFailed, *self);
   // A window closed without an answer leaves "not tested": never a pass that nobody gave.
 
   controller->FinishedNotice(self);
-  controller->NavigationRequest(answer == Answer::kNone ? 2 : 0);
+  controller->NavigationRequest(answer == Answer::kNone ? orvik::Navigation::kAbort
+                                                        : orvik::Navigation::kNext);
 }
 
 // --- passed on ---

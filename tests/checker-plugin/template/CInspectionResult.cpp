@@ -1,5 +1,6 @@
 #include "tests/checker-plugin/template/CInspectionResult.h"
 
+#include "OrvikTypeLib/Codes.h"
 #include "OrvikTypeLib/HostClasses.h"
 #include "OrvikTypeLib/IDialog.h"
 #include "OrvikTypeLib/IInformationRecord.h"
@@ -27,8 +28,8 @@ std::shared_ptr<orvik::IPersistence> Persistence() {
 }
 
 std::string VerdictText(std::int32_t status) {
-  if (status == CInspectionResult::kPassed) return Translated("30005::undamaged");
-  if (status == CInspectionResult::kFailed) return Translated("30006::DAMAGED");
+  if (status == orvik::ResultStatus::kPassed) return Translated("30005::undamaged");
+  if (status == orvik::ResultStatus::kFailed) return Translated("30006::DAMAGED");
   return Translated("30007::not inspected");
 }
 
@@ -44,7 +45,7 @@ std::string CInspectionResult::IObject_ClassID() const { return names::kResultCl
 void CInspectionResult::Decide(std::int32_t status, const orvik::ITestElement& element) {
   status_ = status;
   serviceRecord_ = NewServiceRecord();
-  serviceRecord_->Initialize(element.Information(), status == kPassed ? "P" : "F", "");
+  serviceRecord_->Initialize(element.Information(), orvik::ServiceCode::Of(status), "");
 }
 
 std::shared_ptr<orvik::IMeasurement> CInspectionResult::IResultData_Measurement(std::int32_t) const {

@@ -14,8 +14,6 @@ class CInspectionResult final : public orvik::IResultData {
  public:
   /// The node that a result is saved as.
   static constexpr char kNode[] = "ResultItem";
-  static constexpr std::int32_t kPassed = 1;
-  static constexpr std::int32_t kFailed = 2;
 
   static std::shared_ptr<CInspectionResult> Create();
 
