@@ -11,6 +11,7 @@
 #include "host/instruments/InstrumentColl.h"
 #include "host/run/AutoOperator.h"
 #include "host/run/DoubtTracker.h"
+#include "host/run/OperatorEvents.h"
 #include "host/run/RunController.h"
 #include "plugin/ClassIdentifiers.h"
 
@@ -42,7 +43,9 @@ Figure MeasureGuidedTest(const Context& context) {
   bench::RunRecorder recorder({runs, instruments, standards, doubts});
   const auto controller = std::make_shared<bench::RunController>(
       bench::RunController::Parts{standards, instruments, doubts, recorder, [] {}});
-  bench::AutoOperator person(rig.Only().SharedApplication(), stop);
+  const auto application = rig.Only().SharedApplication();
+  const bench::OperatorEvents program(application, stop,
+                                      std::make_unique<bench::AutoOperator>(application, stop));
   const auto rate = BestRate([&] {
     element->Perform(controller);
     if (!element->Result() || element->Result()->Status() != kPassed)

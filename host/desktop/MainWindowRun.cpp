@@ -80,7 +80,6 @@ void MainWindow::PerformRun(const std::vector<std::shared_ptr<orvik::ITestElemen
       [this](const std::string& text) { Remark(text); });
   RunSession session(bench, session_.TheDocument(), log, progress, tester,
                      OperatorName(operator_->text().toStdString()));
-  const ScreenOperator person(bench.Application(), session.Stop());
   Remark({});
   beforeEdit_.reset();
   auto end = DocumentRunner::End::kFinished;
@@ -88,7 +87,7 @@ void MainWindow::PerformRun(const std::vector<std::shared_ptr<orvik::ITestElemen
     const auto running = state_.Begin(WindowState::Activity::kRunning, [&session] { session.AskToStop(); });
     const ProgressDisplay display(*this, progress);
     Refresh();
-    end = session.Run(elements);
+    end = session.Run(elements, std::make_unique<ScreenOperator>(bench.Application()));
   }
   runChanged_ = false;
   Refresh();

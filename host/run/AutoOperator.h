@@ -1,40 +1,37 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 
 #include "host/run/IOperator.h"
 #include "host/run/StopRequest.h"
 #include "platform/IApplication.h"
-#include "platform/IForm.h"
 
 namespace bench {
 
-/// Operates the plug-in's windows by itself: in the guide play, then next; prompts are acknowledged. A stop
-/// that is asked for presses the guide's stop.
+/// Operates the plug-in's windows by itself: play, then next in the guide; prompts are acknowledged.
 class AutoOperator final : public IOperator {
  public:
-  AutoOperator(std::shared_ptr<orvik::platform::IApplication> application, StopRequest& stop);
+  /// @param stop must outlive this object
+  /// @param prompted receives the text of each prompt before it is acknowledged
+  AutoOperator(std::shared_ptr<orvik::platform::IApplication> application, const StopRequest& stop,
+               std::function<void(const std::string&)> prompted = {})
+      : application_(std::move(application)), stop_(stop), prompted_(std::move(prompted)) {}
 
-  /// A prompt was shown and is about to be acknowledged: its text.
-  orvik::platform::Event<const std::string&>& Prompted() { return prompted_; }
+  void OnWindowReady(const Form& form) override;
+  void OnStopRequested() override;
 
  private:
-  using Form = std::shared_ptr<orvik::platform::IForm>;
-
-  void Shown(const Form& form);
-  void Operate(const Form& form);
   void OperateGuide(const Form& form);
   void Acknowledge(const Form& form, const char* button);
-  void PressStop();
 
   const std::shared_ptr<orvik::platform::IApplication> application_;
-  StopRequest& stop_;
-  orvik::platform::Event<const std::string&> prompted_;
-  orvik::platform::Subscription shown_;
-  orvik::platform::Subscription stopAsked_;
-  /// Expired once this object is gone: work may still be posted then.
-  std::shared_ptr<int> alive_ = std::make_shared<int>();
+  const StopRequest& stop_;
+  const std::function<void(const std::string&)> prompted_;
+  /// Expires with this object, so that a posted call does nothing afterwards.
+  const std::shared_ptr<int> alive_ = std::make_shared<int>();
 };
 
 }  // namespace bench

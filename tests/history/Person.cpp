@@ -8,21 +8,7 @@ namespace history {
 
 namespace guide = bench::guide;
 
-Person::Person(std::shared_ptr<orvik::platform::IApplication> application, std::vector<Press> presses,
-               Listener listener)
-    : application_(std::move(application)), presses_(std::move(presses)), listener_(std::move(listener)) {
-  shown_ = application_->FormShown().Subscribe(
-      [this](const Form& form) { Later([this, form] { Operate(form); }); });
-}
-
-void Person::Later(std::function<void()> work) {
-  application_->Post([work = std::move(work), alive = std::weak_ptr<int>(alive_)] {
-    if (!alive.expired()) work();
-  });
-}
-
-void Person::Operate(const Form& form) {
-  if (!form->Visible()) return;
+void Person::OnWindowReady(const Form& form) {
   if (form->Name() == guide::kYesNoForm) return bench::ClickButton(*form, guide::kYes);
   if (form->Name() == guide::kPretestForm) return bench::ClickButton(*form, guide::kPretestOk);
   if (form->Name() == guide::kGuideForm) OperateGuide(form);
@@ -64,7 +50,8 @@ void Person::Click(const Form& form, std::int32_t button) const {
 }
 
 void Person::Abort() {
-  Later([this] {
+  application_->Post([this, alive = std::weak_ptr<int>(alive_)] {
+    if (alive.expired()) return;
     for (const auto& form : application_->Forms()) {
       if (form->Name() != guide::kGuideForm || !form->Visible()) continue;
       listener_(Press::kAbort, false);

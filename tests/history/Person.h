@@ -19,25 +19,23 @@ class Person final : public bench::IOperator {
   using Listener = std::function<void(Press press, bool inWaitingGuide)>;
 
   Person(std::shared_ptr<orvik::platform::IApplication> application, std::vector<Press> presses,
-         Listener listener);
+         Listener listener)
+      : application_(std::move(application)), presses_(std::move(presses)), listener_(std::move(listener)) {}
 
   /// Presses abort in the guide that is shown, if there is one.
   void Abort();
 
  private:
-  using Form = std::shared_ptr<orvik::platform::IForm>;
-
-  void Operate(const Form& form);
+  void OnWindowReady(const Form& form) override;
+  void OnStopRequested() override {}
   void OperateGuide(const Form& form);
   void Click(const Form& form, std::int32_t button) const;
-  void Later(std::function<void()> work);
 
   const std::shared_ptr<orvik::platform::IApplication> application_;
   const std::vector<Press> presses_;
   const Listener listener_;
   std::size_t next_ = 0;
   std::shared_ptr<int> alive_ = std::make_shared<int>();
-  orvik::platform::Subscription shown_;
 };
 
 }  // namespace history

@@ -4,6 +4,7 @@
 #include "host/app/run/RunSelection.h"
 #include "host/app/run/RunSession.h"
 #include "host/run/AutoOperator.h"
+#include "host/run/OperatorEvents.h"
 #include "tests/history/Person.h"
 
 namespace history {
@@ -80,24 +81,24 @@ void RunOf::RunElements(const RunSetup& run, const Elements& elements, bench::Do
   };
   const auto told = Tell(parts, watch);
   const auto application = bench_.Only().SharedApplication();
-  std::unique_ptr<bench::IOperator> program;
-  std::unique_ptr<Person> person;
-  if (run.presses.empty() && !run.abortAt)
-    program = std::make_unique<bench::AutoOperator>(application, parts.stop);
-  else
-    person = std::make_unique<Person>(application, run.presses, [&](Press press, bool inWaitingGuide) {
-      if (press == Press::kNotApplicable) watch.SetAside(Record::How::kNotApplicable);
-      if (press == Press::kSkip) watch.SetAside(Record::How::kSkipped);
-      if (press == Press::kAbort) watch.Aborted(inWaitingGuide);
-    });
+  const bool byProgram = run.presses.empty() && !run.abortAt;
+  auto person = std::make_unique<Person>(application, run.presses, [&](Press press, bool inWaitingGuide) {
+    if (press == Press::kNotApplicable) watch.SetAside(Record::How::kNotApplicable);
+    if (press == Press::kSkip) watch.SetAside(Record::How::kSkipped);
+    if (press == Press::kAbort) watch.Aborted(inWaitingGuide);
+  });
+  auto* const aborting = person.get();
+  std::unique_ptr<bench::IOperator> runOperator = std::move(person);
+  if (byProgram) runOperator = std::make_unique<bench::AutoOperator>(application, parts.stop);
+  const bench::OperatorEvents operating(application, parts.stop, std::move(runOperator));
   int calls = 0;
   const auto pumped = bench_.Application().Pumped().Subscribe([&] {
     const int call = calls++;
-    if (program && run.stopAt == call) {
+    if (byProgram && run.stopAt == call) {
       watch.Stopped();
       parts.stop.Ask();
     }
-    if (person && run.abortAt == call) person->Abort();
+    if (!byProgram && run.abortAt == call) aborting->Abort();
   });
   parts.Run(elements);
 }

@@ -13,6 +13,7 @@
 #include "host/app/run/ScreenOperator.h"
 #include "host/elements/ElementFactory.h"
 #include "host/run/GuideToolbar.h"
+#include "host/run/OperatorEvents.h"
 #include "host/run/StopSignals.h"
 #include "tests/model/GuideOperator.h"
 #include "tests/support/RunParts.h"
@@ -106,18 +107,20 @@ class StoppedRun {
     });
     const bench::StopSignals signals(bench_.Application(), [this](int) { parts_.stop.Ask(); });
     std::unique_ptr<GuideOperator> person;
+    const auto application = bench_.Only().SharedApplication();
     std::unique_ptr<bench::IOperator> program;
     if (settings_.ending == Ending::kSignal) {
-      program = std::make_unique<bench::AutoOperator>(bench_.Only().SharedApplication(), parts_.stop);
+      program = std::make_unique<bench::AutoOperator>(application, parts_.stop);
     } else {
       person = std::make_unique<GuideOperator>(bench_.Application());
       person->thinks = settings_.thinks;
       person->onAnswer = [this](const std::string& form) {
         if (form == bench::guide::kYesNoForm) NoteMoment();
       };
-      program = std::make_unique<bench::ScreenOperator>(bench_.Only().SharedApplication(), parts_.stop);
+      program = std::make_unique<bench::ScreenOperator>(application);
     }
     person_ = person.get();
+    const bench::OperatorEvents operating(application, parts_.stop, std::move(program));
     parts_.Run();
     outcome_.ended = bench_.Application().Now();
     outcome_.wire = bench_.Wire().All();

@@ -44,30 +44,19 @@ class ChosenReplies final : public sim::Faults {
 /// Presses one button of each guide, such as "not applicable", and leaves it.
 class ButtonOperator final : public bench::IOperator {
  public:
-  ButtonOperator(std::shared_ptr<orvik::platform::IApplication> application, std::int32_t button)
-      : application_(std::move(application)), button_(button) {
-    shown_ = application_->FormShown().Subscribe([this](const Form& form) {
-      application_->Post([this, form, alive = std::weak_ptr<int>(alive_)] {
-        if (!alive.expired()) Operate(form);
-      });
-    });
-  }
+  explicit ButtonOperator(std::int32_t button) : button_(button) {}
 
  private:
-  using Form = std::shared_ptr<orvik::platform::IForm>;
-
-  void Operate(const Form& form) {
-    if (!form->Visible()) return;
+  void OnWindowReady(const Form& form) override {
     if (form->Name() == bench::guide::kYesNoForm) return bench::ClickButton(*form, bench::guide::kYes);
     if (form->Name() == bench::guide::kPretestForm)
       return bench::ClickButton(*form, bench::guide::kPretestOk);
     if (form->Name() == bench::guide::kGuideForm) bench::GuideToolbar(*form)->Click(button_);
   }
 
-  const std::shared_ptr<orvik::platform::IApplication> application_;
+  void OnStopRequested() override {}
+
   const std::int32_t button_;
-  std::shared_ptr<int> alive_ = std::make_shared<int>();
-  orvik::platform::Subscription shown_;
 };
 
 /// How a document is run.
@@ -164,7 +153,8 @@ class RecordedDocument {
     parts.save = [&] {
       if (run.killedAfterSaves == 0 || saves++ < run.killedAfterSaves) document_->Save();
     };
-    const auto person = OperatorOf(run, parts.stop);
+    const bench::OperatorEvents operating(bench_.Only().SharedApplication(), parts.stop,
+                                          OperatorOf(run, parts.stop));
     const auto end = parts.Run(ElementsOf(run));
     if (run.killedAfterSaves > 0) Reopen();
     return end;
@@ -202,9 +192,8 @@ class RecordedDocument {
   }
 
   std::unique_ptr<bench::IOperator> OperatorOf(const RunOf& run, bench::StopRequest& stop) {
-    const auto application = bench_.Only().SharedApplication();
-    if (run.button == 0) return std::make_unique<bench::AutoOperator>(application, stop);
-    return std::make_unique<ButtonOperator>(application, run.button);
+    if (run.button != 0) return std::make_unique<ButtonOperator>(run.button);
+    return std::make_unique<bench::AutoOperator>(bench_.Only().SharedApplication(), stop);
   }
 
   VirtualBench bench_;

@@ -20,6 +20,7 @@
 #include "host/run/DocumentRunner.h"
 #include "host/run/DoubtTracker.h"
 #include "host/run/LinkWatch.h"
+#include "host/run/OperatorEvents.h"
 #include "host/run/RunController.h"
 #include "host/run/RunRecorder.h"
 
@@ -69,7 +70,8 @@ class RunParts {
   End Run() { return Run(TopOf(document_)); }
   /// The program operates the guide.
   End RunByProgram(const Application& application, const Elements& elements) {
-    bench::AutoOperator person(application, stop);
+    const bench::OperatorEvents program(application, stop,
+                                        std::make_unique<bench::AutoOperator>(application, stop));
     return Run(elements);
   }
   End RunByProgram(const Application& application) { return RunByProgram(application, TopOf(document_)); }

@@ -43,18 +43,13 @@ AskOperator::AskOperator(std::shared_ptr<headless::Application> application, Sto
       stop_(stop),
       reporter_(reporter),
       test_(std::move(test)),
-      watch_(application_->WatchReadable(STDIN_FILENO, [this] { ReadInput(); })),
-      shown_(application_->FormShown().Subscribe([this](const Form& form) {
-        application_->Post([this, form, alive = std::weak_ptr<int>(alive_)] {
-          if (!alive.expired()) Put(form);
-        });
-      })),
-      stopAsked_(stop.Happened().Subscribe([this] { LeaveGuide(*application_); })) {}
+      watch_(application_->WatchReadable(STDIN_FILENO, [this] { ReadInput(); })) {}
 
 AskOperator::~AskOperator() { application_->Forget(watch_); }
 
-void AskOperator::Put(const Form& form) {
-  if (!form->Visible()) return;
+void AskOperator::OnStopRequested() { LeaveGuide(*application_); }
+
+void AskOperator::OnWindowReady(const Form& form) {
   if (stop_.Asked()) return LeaveGuide(*application_);
   if (form->Name() == guide::kGuideForm) PutGuide(form);
   if (form->Name() == guide::kPretestForm)
@@ -99,18 +94,19 @@ void AskOperator::Choose(const std::string& word) {
   if (form->Name() == guide::kPretestForm && word == "ok") return ClickButton(*form, guide::kPretestOk);
   if (form->Name() == guide::kYesNoForm && word == "yes") return ClickButton(*form, guide::kYes);
   if (form->Name() == guide::kYesNoForm && word == "no") return ClickButton(*form, guide::kNo);
-  Put(form);
+  OnWindowReady(form);
 }
 
 void AskOperator::ChooseInGuide(const Form& form, const std::string& word) {
   if (std::exchange(unconfirmed_, {}).lock() == form) {
     if (word == "yes") return Click(form, guide::kNotApplicable);
-    return Put(form);
+    return OnWindowReady(form);
   }
   const auto button =
       std::find_if(kButtons.begin(), kButtons.end(), [&](const Button& known) { return known.word == word; });
   const auto toolbar = GuideToolbar(*form);
-  if (!toolbar || button == kButtons.end() || !toolbar->IsEnabled(button->command)) return Put(form);
+  if (!toolbar || button == kButtons.end() || !toolbar->IsEnabled(button->command))
+    return OnWindowReady(form);
   if (button->command != guide::kNotApplicable) return Click(form, button->command);
   unconfirmed_ = form;
   AskNotApplicable();
@@ -122,7 +118,7 @@ void AskOperator::AskNotApplicable() {
 
 void AskOperator::Click(const Form& form, std::int32_t command) {
   if (const auto toolbar = GuideToolbar(*form)) toolbar->Click(command);  // play returns when the run is over
-  if (form->Visible()) Put(form);
+  if (form->Visible()) OnWindowReady(form);
 }
 
 }  // namespace bench

@@ -24,10 +24,10 @@ class AskOperator final : public IOperator {
               std::function<std::string()> test);
   ~AskOperator() override;
 
- private:
-  using Form = std::shared_ptr<orvik::platform::IForm>;
+  void OnWindowReady(const Form& form) override;
+  void OnStopRequested() override;
 
-  void Put(const Form& form);
+ private:
   void PutGuide(const Form& form);
   void ReadInput();
   void Choose(const std::string& word);
@@ -44,8 +44,6 @@ class AskOperator final : public IOperator {
   std::weak_ptr<orvik::platform::IForm> unconfirmed_;
   bool ended_ = false;
   ILoop::Id watch_ = 0;
-  orvik::platform::Subscription shown_;
-  orvik::platform::Subscription stopAsked_;
   std::shared_ptr<int> alive_ = std::make_shared<int>();
 };
 

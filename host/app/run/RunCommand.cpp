@@ -112,17 +112,15 @@ ExitStatus RunCommand::Perform(Workbench& workbench, Document& document, RunRepo
     const auto& application = workbench.Application();
     RunSession session(workbench, document, log, reporter, tester, OperatorName(options_.by));
     session.JudgeBy(options_.standards);
-    std::optional<AskOperator> person;
-    std::optional<AutoOperator> program;
-    orvik::platform::Subscription prompted;
-    if (options_.operatorKind == "ask") {
-      person.emplace(application, session.Stop(), reporter, [&session] { return session.ReachedTest(); });
-    } else {
-      program.emplace(application, session.Stop());
-      prompted = program->Prompted().Subscribe([&](const std::string& text) { reporter.Prompted(text); });
-    }
+    std::unique_ptr<IOperator> runOperator;
+    if (options_.operatorKind == "ask")
+      runOperator = std::make_unique<AskOperator>(application, session.Stop(), reporter,
+                                                  [&session] { return session.ReachedTest(); });
+    else
+      runOperator = std::make_unique<AutoOperator>(
+          application, session.Stop(), [&reporter](const std::string& text) { reporter.Prompted(text); });
     const StopSignals signals(*application, [&session](int) { session.AskToStop(); });
-    end = session.Run(elements);
+    end = session.Run(elements, std::move(runOperator));
     reporter.Over();
     Tell(end, session.Reason(), reporter);
   }

@@ -11,6 +11,7 @@
 #include "host/report/VisibleText.h"
 #include "host/run/ElementText.h"
 #include "host/run/ElementWalk.h"
+#include "host/run/OperatorEvents.h"
 #include "host/services/LeadCalibrations.h"
 #include "host/services/Tr.h"
 
@@ -110,10 +111,12 @@ judge::JudgedElement RunSession::Judged(const orvik::ITestElement& element) cons
   return found ? *found : judge::JudgedElement{};
 }
 
-DocumentRunner::End RunSession::Run(const std::vector<Element>& elements) {
+DocumentRunner::End RunSession::Run(const std::vector<Element>& elements,
+                                    std::unique_ptr<IOperator> runOperator) {
   reporter_.Planned(TestsOfEach(elements));
   const StoredLeadsNotice leads(*workbench_.Ports().TheWire(), *workbench_.Host()->Registry(), elements,
                                 [this](const std::string& text) { reporter_.Remark(text); });
+  const OperatorEvents operating(workbench_.Application(), stop_, std::move(runOperator));
   return runner_.Run(heading_, elements);
 }
 

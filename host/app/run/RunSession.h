@@ -10,6 +10,7 @@
 #include "host/app/run/StopProgress.h"
 #include "host/run/DocumentRunner.h"
 #include "host/run/DoubtTracker.h"
+#include "host/run/IOperator.h"
 #include "host/run/LinkWatch.h"
 #include "host/run/RunRecorder.h"
 #include "host/run/StopRequest.h"
@@ -36,9 +37,10 @@ class RunSession {
   StopRequest& Stop() { return stop_; }
   /// Number and name of the test that the run has reached, whose guide is shown.
   std::string ReachedTest() const;
-  /// Runs the elements while an operator works the guide; returns when the session with the tester is over
+  /// Runs the elements while `runOperator` works the guide; returns when the session with the tester is over
   /// and the document saved.
-  DocumentRunner::End Run(const std::vector<std::shared_ptr<orvik::ITestElement>>& elements);
+  DocumentRunner::End Run(const std::vector<std::shared_ptr<orvik::ITestElement>>& elements,
+                          std::unique_ptr<IOperator> runOperator);
   /// Why it ended so.
   const std::string& Reason() const { return runner_.Reason(); }
   /// Has the run end in good order: the running test is dropped, the session with the tester closed, the

@@ -1,7 +1,6 @@
 #include "host/app/run/ScreenOperator.h"
 
 #include <chrono>
-#include <utility>
 
 #include "host/run/GuideToolbar.h"
 
@@ -13,15 +12,12 @@ constexpr std::chrono::milliseconds kNextLook{100};
 
 }  // namespace
 
-ScreenOperator::ScreenOperator(std::shared_ptr<headless::Application> application, StopRequest& stop)
-    : application_(std::move(application)), stopAsked_(stop.Happened().Subscribe([this] { Leave(); })) {}
-
 ScreenOperator::~ScreenOperator() { application_->Forget(again_); }
 
-void ScreenOperator::Leave() {
+void ScreenOperator::OnStopRequested() {
   // The guide can be left once its test has ended, and a prompt may come in between. The next look is due
   // whatever happens in this one.
-  again_ = application_->CallAt(application_->Now() + kNextLook, [this] { Leave(); });
+  again_ = application_->CallAt(application_->Now() + kNextLook, [this] { OnStopRequested(); });
   LeaveGuide(*application_);
 }
 

@@ -1,9 +1,9 @@
 #pragma once
 
 #include <memory>
+#include <utility>
 
 #include "host/run/IOperator.h"
-#include "host/run/StopRequest.h"
 #include "host/toolkit/headless/Application.h"
 
 namespace bench {
@@ -12,15 +12,18 @@ namespace bench {
 /// is asked for.
 class ScreenOperator final : public IOperator {
  public:
-  ScreenOperator(std::shared_ptr<headless::Application> application, StopRequest& stop);
+  explicit ScreenOperator(std::shared_ptr<headless::Application> application)
+      : application_(std::move(application)) {}
   ~ScreenOperator() override;
 
- private:
-  void Leave();
+  /// Nothing to do: the person operates the window.
+  void OnWindowReady(const Form&) override {}
+  /// Leaves the guide and its prompts, as often as it takes.
+  void OnStopRequested() override;
 
+ private:
   const std::shared_ptr<headless::Application> application_;
   ILoop::Id again_ = 0;
-  orvik::platform::Subscription stopAsked_;
 };
 
 }  // namespace bench
