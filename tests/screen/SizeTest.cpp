@@ -3,7 +3,7 @@
 #include <QScreen>
 
 #include "host/app/ProgramFiles.h"
-#include "host/desktop/Shown.h"
+#include "host/desktop/Signs.h"
 #include "host/services/Tr.h"
 #include "tests/screen/ScreenTest.h"
 
