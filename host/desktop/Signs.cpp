@@ -4,7 +4,7 @@
 #include <QPixmap>
 
 #include "host/pdf/PdfStyle.h"
-#include "host/pdf/PdfText.h"
+#include "host/pdf/PdfSign.h"
 
 namespace bench::desktop {
 

@@ -6,7 +6,7 @@
 
 namespace bench::pdf {
 
-/// A place in the document that a reader can jump to.
+/// An entry of the outline that readers show beside the pages.
 struct Bookmark {
   std::string title;     ///< UTF-8
   std::size_t page = 0;  ///< from 0
@@ -15,15 +15,14 @@ struct Bookmark {
 };
 
 struct Properties {
-  std::string title;      ///< UTF-8
-  std::string language;   ///< such as "en"; empty when it is not known
+  std::string language;   ///< such as "en"; empty when unknown
   std::string created;    ///< "2026-11-21T14:03:22+01:00", or empty
   double pageHeight = 0;  ///< in points
 };
 
-/// Completes a PDF file as Qt writes it with what Qt cannot: bookmarks, the language, the date that belongs
-/// to the document in the place of the present one, so that the same report gives the same bytes.
-/// @throws std::runtime_error when the file is not made as this expects
+/// Adds what Qt cannot write to its PDF file: the outline, the language, and the document's date instead of
+/// the present one, so that the same report gives the same bytes.
+/// @throws std::exception when the file cannot be read or written
 std::string Completed(const std::string& pdf, const Properties& properties,
                       const std::vector<Bookmark>& bookmarks);
 

@@ -13,8 +13,6 @@ namespace bench::pdf {
 namespace {
 
 constexpr double kSmall = 8;
-/// What a text may be measured too short.
-constexpr double kRounding = 2;
 
 /// One line of text that ends with "..." where it would be wider.
 void DrawLine(QPainter& painter, const std::string& text, const QRectF& place, const QFont& font,
@@ -24,21 +22,6 @@ void DrawLine(QPainter& painter, const std::string& text, const QRectF& place, c
   const auto shown = QFontMetricsF(font).elidedText(Text(text), Qt::ElideRight, place.width());
   painter.drawText(place, static_cast<int>(alignment | Qt::AlignAbsolute | Qt::AlignTop) | Qt::TextSingleLine,
                    shown);
-}
-
-/// Two texts in one line, to its left and to its right. What one leaves the other may take; when both are
-/// long, each has about its half.
-void DrawSharedLine(QPainter& painter, const std::string& left, const std::string& right, const QRectF& place,
-                    const QFont& font, const QColor& colour) {
-  const QFontMetricsF metrics(font);
-  const double between = place.width() / 100, half = (place.width() - between) / 2;
-  const double wanted = metrics.horizontalAdvance(Text(left)) + kRounding,
-               wantedRight = metrics.horizontalAdvance(Text(right)) + kRounding;
-  const double width = std::min(wanted, std::max(half, place.width() - between - wantedRight));
-  const auto from = place.left() + width + between;
-  DrawLine(painter, left, {place.left(), place.top(), width, place.height()}, font, colour, Qt::AlignLeft);
-  DrawLine(painter, right, {from, place.top(), place.right() - from, place.height()}, font, colour,
-           Qt::AlignRight);
 }
 
 /// The lines at the top of a page, from above.
@@ -54,7 +37,10 @@ class Header {
     y_ += kLineHeight;
     DrawLine(painter_, Fact(1), Line(0, kUsable), FontOf(kSmall), kQuiet, Qt::AlignLeft);
     y_ += kLineHeight;
-    DrawSharedLine(painter_, Fact(2), Fact(3), Line(0, kUsable), FontOf(kSmall), kQuiet);
+    const auto date = Line(0, std::min(WidthOf(Fact(2)), kUsable / 2));
+    DrawLine(painter_, Fact(2), date, FontOf(kSmall), kQuiet, Qt::AlignLeft);
+    DrawLine(painter_, Fact(3), Line(date.width() + kBetween, kUsable), FontOf(kSmall), kQuiet,
+             Qt::AlignRight);
     y_ += kLineHeight;
     for (const auto& mark : report_.marks) Mark(mark);
     painter_.setPen(QPen(kAccent, 12));
@@ -62,11 +48,16 @@ class Header {
   }
 
  private:
-  static constexpr double kLineHeight = 220, kStrongHeight = 270, kBelow = 50;
+  static constexpr double kLineHeight = 220, kStrongHeight = 270, kBelow = 50, kBetween = 100;
 
   std::string Fact(std::size_t number) const {
     const auto& fact = report_.pageHeader[number];
     return Labelled(report_.words, fact.label, fact.value);
+  }
+
+  static double WidthOf(const std::string& text) {
+    constexpr double kRounding = 2;
+    return QFontMetricsF(FontOf(kSmall)).horizontalAdvance(Text(text)) + kRounding;
   }
 
   QRectF Line(double from, double to) const { return {kMargin + from, y_, to - from, kLineHeight}; }
@@ -115,6 +106,14 @@ void PdfPages::Gap(double height) {
   if (!AtTop()) y_ += height;
 }
 
+void PdfPages::Line() {
+  if (AtTop()) return;
+  Draw([y = y_ + 200](QPainter& painter) {
+    painter.setPen(QPen(kLine, 14));
+    painter.drawLine(QPointF(kMargin, y), QPointF(kMargin + kUsable, y));
+  });
+}
+
 void PdfPages::Mark(const std::string& title, int level) {
   bookmarks_.push_back({title, pages_.size() - 1, (y_ - 100) / kPoint, level});
 }
@@ -124,6 +123,8 @@ std::string PdfPages::Write(const report::Report& report) const {
   QBuffer buffer(&bytes);
   buffer.open(QIODevice::WriteOnly);
   QPdfWriter writer(&buffer);
+  writer.setTitle(Text(CaptionOf(report)));
+  writer.setCreator("orvik-bench");
   writer.setResolution(kTwipsPerInch);
   writer.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF(0, 0, 0, 0)));
   QPainter painter;

@@ -10,7 +10,8 @@
 
 namespace bench::pdf {
 
-/// Pages that are filled from the top; drawn when all are known, since each says how many there are.
+/// Pages that are filled from the top. They are drawn when all are known, since each shows how many there
+/// are.
 class PdfPages {
  public:
   using Drawing = std::function<void(QPainter&)>;
@@ -18,22 +19,23 @@ class PdfPages {
   PdfPages() { NewPage(); }
 
   void NewPage();
-  /// Where the next thing goes, from the top of the page.
+  /// Where the next part starts, from the top of the page.
   double Y() const { return y_; }
   double Room() const { return kBodyBottom - y_; }
   static constexpr double FullPage() { return kBodyBottom - kBodyTop; }
   bool AtTop() const { return y_ <= kBodyTop; }
-  /// Goes to a new page unless there is that much room, or no page has it.
+  /// Starts a new page if this one lacks that much room, and an empty one has it.
   void Ensure(double height);
   void Advance(double height) { y_ += height; }
-  /// Space between things; none at the top of a page.
+  /// Space between parts; none at the top of a page.
   void Gap(double height);
-  /// Something on the present page, at places of its own.
+  /// A line across the page, in the gap that follows; none at the top of a page.
+  void Line();
+  /// Draws on the current page, at places of the drawing's own.
   void Draw(Drawing drawing) { pages_.back().push_back(std::move(drawing)); }
   /// A bookmark to this place.
   void Mark(const std::string& title, int level);
 
-  std::size_t Count() const { return pages_.size(); }
   const std::vector<Bookmark>& Bookmarks() const { return bookmarks_; }
   /// The file, with the report's header on every page.
   std::string Write(const report::Report& report) const;

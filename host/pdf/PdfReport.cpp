@@ -7,7 +7,6 @@
 #include <optional>
 #include <stdexcept>
 
-#include "host/pdf/PdfBlocks.h"
 #include "host/pdf/PdfFile.h"
 #include "host/pdf/PdfPages.h"
 #include "host/pdf/PdfSections.h"
@@ -18,8 +17,7 @@ namespace {
 
 using namespace pdf;
 
-/// What Qt has to say while it lives: told when something goes wrong, and not on the terminal of somebody
-/// whose report is well.
+/// Keeps what Qt prints off the terminal, and adds it to the reason of a failure.
 class Messages {
  public:
   Messages() : before_(qInstallMessageHandler(&Take)) { Said().clear(); }
@@ -27,7 +25,6 @@ class Messages {
   Messages& operator=(const Messages&) = delete;
   ~Messages() { qInstallMessageHandler(before_); }
 
-  /// The reason with what Qt said before.
   static std::runtime_error Refusal(const std::string& reason) { return std::runtime_error(reason + Said()); }
 
  private:
@@ -42,7 +39,7 @@ class Messages {
   const QtMessageHandler before_;
 };
 
-/// Qt's application object, which fonts want; one that is there already serves as well. It needs no display.
+/// Qt's application object, which fonts need; the window's own when there is one. It needs no display.
 class Session {
  public:
   Session() {
@@ -59,65 +56,35 @@ class Session {
   std::optional<QGuiApplication> application_;
 };
 
-/// Room above a heading, and what must have room below it on its page.
-constexpr double kAboveHeading = 560, kBelowHeading = 1200;
-
-void PlaceHeading(PdfPages& pages, const std::string& text) {
-  pages.Gap(kAboveHeading);
-  const HeadingBlock heading(text);
-  pages.Ensure(heading.Height() + kBelowHeading);
-  heading.Place(pages);
-}
-
-/// The heading stands with the first test; the other tests follow.
-void PlaceDetails(PdfPages& pages, const report::Report& report) {
-  for (const auto& section : report.sections) {
-    const bool first = &section == &report.sections.front();
-    auto blocks = SectionBlocks(section, report.words, first);
-    if (first) {
-      auto heading = std::make_unique<HeadingBlock>(report.words.details);
-      pages.Gap(kAboveHeading);
-      pages.Ensure(heading->Height() + kBelowHeading);
-      blocks.insert(blocks.begin(), std::move(heading));
-    }
-    PlaceTogether(blocks, pages);
-  }
-}
-
-void PlaceSummary(PdfPages& pages, const report::Report& report) {
-  TextBlock(report.title, {13, true, kAccent}).Place(pages);
-  pages.Advance(240);
-  VerdictBlock(report.verdict).Place(pages);
-  for (const auto& mark : report.marks) {
-    pages.Gap(200);
-    TextBlock(mark.text, {11, true, mark.strong ? kInk : ColourOf(report::Standing::kOpen)}).Place(pages);
-  }
-  PlaceHeading(pages, report.words.summary);
-  FactsBlock(report.facts)->Place(pages);
+/// A heading stays on the page of what it heads.
+void Place(PdfPages& pages, const std::string& title, const PdfTable& table) {
+  constexpr double kLeast = 2400;
+  const auto heading = HeadingPart(title);
+  pages.Ensure(kLeast);
+  PlaceTogether({heading, {120, table}}, pages);
 }
 
 }  // namespace
 
 std::string PdfReport(const report::Report& report) {
-  // Fonts are written in the order of a hash table; the same each time gives the same bytes.
+  // Qt writes fonts in the order of a hash table; a fixed seed gives the same bytes each time.
   QHashSeed::setDeterministicGlobalSeed();
   const Messages messages;
   const Session session;
   PdfPages pages;
-  PlaceSummary(pages, report);
-  PlaceHeading(pages, report.words.overview);
-  if (report.overview.empty())
-    TextBlock(report.words.nothing, {}).Place(pages);
-  else
-    OverviewBlock(report)->Place(pages);
-  if (!report.runs.rows.empty()) {
-    PlaceHeading(pages, report.words.runs);
-    PrintedBlock(report.runs)->Place(pages);
+  PlaceTogether(VerdictParts(report), pages);
+  Place(pages, report.words.summary, FactsTable(report.facts));
+  Place(pages, report.words.overview, OverviewTable(report));
+  if (!report.runs.rows.empty()) Place(pages, report.words.runs, PrintedTable(report.runs));
+  for (const auto& section : report.sections) {
+    auto parts = SectionParts(section, report.words);
+    parts.front().gap = 420;
+    parts.front().line = &section != &report.sections.front();
+    if (!parts.front().line) parts.insert(parts.begin(), HeadingPart(report.words.details));
+    PlaceTogether(parts, pages);
   }
-  PlaceDetails(pages, report);
-  const Properties properties{report::CaptionOf(report), report.language, report.created,
-                              kPageHeight / kPoint};
-  return Completed(pages.Write(report), properties, pages.Bookmarks());
+  return Completed(pages.Write(report), {report.language, report.created, kPageHeight / kPoint},
+                   pages.Bookmarks());
 }
 
 }  // namespace bench

@@ -1,90 +1,68 @@
 #include "host/pdf/PdfSections.h"
 
 #include <algorithm>
-#include <numeric>
 
 #include "host/pdf/PdfBar.h"
-#include "host/pdf/PdfTable.h"
+#include "host/pdf/PdfSign.h"
 
 namespace bench::pdf {
 namespace {
 
-using Rules = TableBlock::Rules;
+using Rules = PdfTable::Rules;
 
-TextStyle Quiet() { return {8.5, false, kQuiet}; }
+const TextStyle kQuietText{8.5, false, kQuiet};
+const std::string kDash = "\u2013";
 
-/// Number, name and result of the element; a line divides it from the one before.
-class SectionHead final : public Block {
- public:
-  SectionHead(const report::Section& section, bool first)
-      : title_(std::to_string(section.id) + "  " + section.name),
-        level_(1 + section.depth),
-        first_(first),
-        row_({{kUsable * 0.79}, {kUsable * 0.21}}, Rules::kNone, 100, 0) {
-    auto& row = row_.AddRow();
-    row.Text(title_, {12, true});
-    row.Word(section.standing, section.word);
-  }
-  double Height() const override { return row_.Height() + 200; }
-  void Place(PdfPages& pages) const override {
-    pages.Mark(title_, level_);
-    if (!first_ && !pages.AtTop()) {
-      pages.Draw([y = pages.Y()](QPainter& painter) {
-        painter.setPen(QPen(kLine, 14));
-        painter.drawLine(QPointF(kMargin, y), QPointF(kMargin + kUsable, y));
-      });
-      pages.Advance(200);
-    }
-    row_.Place(pages);
-  }
-
- private:
-  std::string title_;
-  int level_;
-  bool first_;
-  TableBlock row_;
-};
-
-void AddGap(Blocks& blocks, double height) { blocks.push_back(std::make_unique<GapBlock>(height)); }
-
-void AddNotes(Blocks& blocks, const report::Section& section) {
-  if (section.notes.empty()) return;
-  auto table =
-      std::make_unique<TableBlock>(std::vector<TableBlock::Column>{{kUsable}}, Rules::kNone, 100, 30);
-  for (const auto& note : section.notes) table->AddRow().Word(note.standing, note.text);
-  blocks.push_back(std::move(table));
+PdfTable TextTable(const std::string& text, const TextStyle& style) {
+  PdfTable table({{kUsable}}, {});
+  table.AddRow({TextCell(text, style)});
+  return table;
 }
 
-void AddJudgements(Blocks& blocks, const report::Section& section, const report::Words& words) {
-  if (section.judgements.empty()) return;
-  auto table = std::make_unique<TableBlock>(
-      std::vector<TableBlock::Column>{{kUsable * 0.27}, {kUsable * 0.2}, {kUsable * 0.18}, {kUsable * 0.35}},
-      Rules::kRows, 100, 70);
-  auto& head = table->AddHead();
-  for (const auto* word : {&words.standard, &words.bounds, &words.judgement, &words.bar})
-    head.Text(*word, Quiet());
+/// The verdict on its colour, readable from across the room.
+PdfTable VerdictTable(const report::Verdict& verdict) {
+  constexpr double kPadding = 420, kVerdictSign = 1500, kLeft = kPadding + kVerdictSign + 480;
+  const PdfText word({{verdict.word}}, kUsable - kLeft - kPadding, {46, true, Qt::white});
+  const PdfText sentence({{verdict.sentence}}, kUsable - kLeft - kPadding, {14, false, Qt::white});
+  const double text = word.Height() + sentence.Height();
+  PdfTable table({{kUsable}}, {});
+  table.AddRow({{.text = {},
+                 .height = std::max(text, kVerdictSign) + 2 * kPadding,
+                 .draw = [=, standing = verdict.standing](QPainter& painter, const QRectF& place) {
+                   painter.setPen(Qt::NoPen);
+                   painter.setBrush(ColourOf(standing));
+                   painter.drawRoundedRect(place, 160, 160);
+                   const double middle = place.center().y();
+                   DrawSign(painter, standing,
+                            {place.left() + kPadding, middle - kVerdictSign / 2, kVerdictSign, kVerdictSign},
+                            Qt::white);
+                   word.Draw(painter, {place.left() + kLeft, middle - text / 2});
+                   sentence.Draw(painter, {place.left() + kLeft, middle - text / 2 + word.Height()});
+                 }}});
+  return table;
+}
+
+PdfTable NotesTable(const std::vector<report::Note>& notes) {
+  PdfTable table({{kUsable}}, {.above = 30});
+  for (const auto& note : notes) table.AddRow({WordCell(note.standing, note.text)});
+  return table;
+}
+
+PdfTable JudgementsTable(const report::Section& section, const report::Words& words) {
+  PdfTable table({{kUsable * 0.27}, {kUsable * 0.2}, {kUsable * 0.18}, {kUsable * 0.35}},
+                 {.rules = Rules::kRows, .above = 70});
+  table.AddHead({TextCell(words.standard, kQuietText), TextCell(words.bounds, kQuietText),
+                 TextCell(words.judgement, kQuietText), TextCell(words.bar, kQuietText)});
   for (const auto& judgement : section.judgements) {
-    auto& row = table->AddRow();
-    row.Text(judgement.standard);
-    row.Text(judgement.bounds);
-    row.Word(judgement.standing, judgement.word);
-    if (judgement.bar)
-      row.Drawing(kBarHeight, [judgement](QPainter& painter, const QRectF& place) {
-        DrawBar(painter, place, judgement);
-      });
-    else
-      row.Text(std::string("\u2013"));
+    TableCell bar = TextCell(kDash);
+    if (judgement.bar) {
+      bar.height = kBarHeight;
+      bar.draw = [judgement](QPainter& painter, const QRectF& place) { DrawBar(painter, place, judgement); };
+    }
+    table.AddRow({TextCell(judgement.standard), TextCell(judgement.bounds),
+                  WordCell(judgement.standing, judgement.word), bar});
   }
-  AddGap(blocks, 120);
-  blocks.push_back(std::move(table));
-}
-
-/// The name, and below it the reason; deeper elements further in.
-report::Cell NameCell(const report::OverviewRow& line) {
-  const std::string indent(4 * static_cast<std::size_t>(std::min(line.depth, 8)), ' ');
-  report::Cell cell{{indent + line.name}};
-  if (!line.note.empty()) cell.push_back({"\n" + indent + line.note, false, true});
-  return cell;
+  return table;
 }
 
 Qt::AlignmentFlag AlignmentOf(orvik::platform::Alignment alignment) {
@@ -92,12 +70,11 @@ Qt::AlignmentFlag AlignmentOf(orvik::platform::Alignment alignment) {
   return alignment == orvik::platform::Alignment::kCentre ? Qt::AlignHCenter : Qt::AlignLeft;
 }
 
-/// The columns of a printed table, which share the width as its format says.
-std::vector<TableBlock::Column> ColumnsOf(const report::Table& table) {
+std::vector<PdfTable::Column> ColumnsOf(const report::Table& table) {
   constexpr double kLeast = 300;
   double whole = 0;
   for (const auto& column : table.columns) whole += std::max<double>(column.width, kLeast);
-  std::vector<TableBlock::Column> columns;
+  std::vector<PdfTable::Column> columns;
   for (const auto& column : table.columns)
     columns.push_back(
         {std::max<double>(column.width, kLeast) / whole * kUsable, AlignmentOf(column.alignment)});
@@ -106,74 +83,91 @@ std::vector<TableBlock::Column> ColumnsOf(const report::Table& table) {
 
 }  // namespace
 
-std::unique_ptr<Block> PrintedBlock(const report::Table& table) {
+Parts VerdictParts(const report::Report& report) {
+  Parts parts{{0, TextTable(report.title, {13, true, kAccent})}, {240, VerdictTable(report.verdict)}};
+  for (const auto& mark : report.marks) {
+    const auto colour = mark.strong ? kInk : ColourOf(report::Standing::kOpen);
+    parts.push_back({200, TextTable(mark.text, {11, true, colour})});
+  }
+  return parts;
+}
+
+Part HeadingPart(const std::string& text) {
+  PdfTable table({{kUsable}}, {.rules = Rules::kRows, .above = 60, .pen = QPen(kAccent, 24)});
+  table.AddRow({TextCell(text, {15, true, kAccent})});
+  return {500, table, text};
+}
+
+PdfTable PrintedTable(const report::Table& table) {
   const bool boxed = table.border != 0;
-  auto block = std::make_unique<TableBlock>(ColumnsOf(table), boxed ? Rules::kGrid : Rules::kNone, 100,
-                                            boxed ? 60 : 15);
-  const auto add = [](TableBlock::Row& row, const report::Row& cells) {
-    for (const auto& cell : cells) row.Text(cell, {9});
+  PdfTable printed(ColumnsOf(table),
+                   {.rules = boxed ? Rules::kGrid : Rules::kNone, .above = boxed ? 60.0 : 15.0});
+  const auto cellsOf = [](const report::Row& row) {
+    std::vector<TableCell> cells;
+    for (const auto& cell : row) cells.push_back({cell, {9}});
+    return cells;
   };
-  for (const auto& row : table.header) add(block->AddHead(), row);
-  for (const auto& row : table.rows) add(block->AddRow(), row);
-  return block;
+  for (const auto& row : table.header) printed.AddHead(cellsOf(row));
+  for (const auto& row : table.rows) printed.AddRow(cellsOf(row));
+  return printed;
 }
 
-std::unique_ptr<Block> FactsBlock(const std::vector<report::Fact>& facts) {
-  auto table = std::make_unique<TableBlock>(
-      std::vector<TableBlock::Column>{{kUsable * 0.22}, {kUsable * 0.78}}, Rules::kNone, 100, 25);
-  for (const auto& fact : facts) {
-    auto& row = table->AddRow();
-    row.Text(fact.label, {9.5, false, kQuiet});
-    row.Text(fact.value);
-  }
+PdfTable FactsTable(const std::vector<report::Fact>& facts) {
+  PdfTable table({{kUsable * 0.22}, {kUsable * 0.78}}, {.above = 25});
+  for (const auto& fact : facts)
+    table.AddRow({TextCell(fact.label, {9.5, false, kQuiet}), TextCell(fact.value)});
   return table;
 }
 
-std::unique_ptr<Block> OverviewBlock(const report::Report& report) {
+PdfTable OverviewTable(const report::Report& report) {
   const auto& words = report.words;
-  auto table = std::make_unique<TableBlock>(std::vector<TableBlock::Column>{{kUsable * 0.07, Qt::AlignRight},
-                                                                            {kUsable * 0.49},
-                                                                            {kUsable * 0.13, Qt::AlignRight},
-                                                                            {kUsable * 0.1},
-                                                                            {kUsable * 0.21}},
-                                            Rules::kRows);
-  auto& head = table->AddHead();
-  for (const auto* word : {&words.number, &words.test, &words.value, &words.unit, &words.result})
-    head.Text(*word, Quiet());
-  for (const auto& line : report.overview) {
-    auto& row = table->AddRow();
-    row.Text(std::to_string(line.id), {9.5, false, kQuiet});
-    row.Text(NameCell(line), {});
-    row.Text(line.value.empty() ? "\u2013" : line.value);
-    row.Text(line.unit);
-    row.Word(line.standing, line.word);
+  PdfTable table({{kUsable * 0.07, Qt::AlignRight},
+                  {kUsable * 0.49},
+                  {kUsable * 0.13, Qt::AlignRight},
+                  {kUsable * 0.1},
+                  {kUsable * 0.21}},
+                 {.rules = Rules::kRows, .above = 80});
+  table.AddHead({TextCell(words.number, kQuietText), TextCell(words.test, kQuietText),
+                 TextCell(words.value, kQuietText), TextCell(words.unit, kQuietText),
+                 TextCell(words.result, kQuietText)});
+  for (const auto& row : report.overview) {
+    auto name = TextCell(row.name);
+    name.indent = 180.0 * std::min(row.depth, 8);
+    if (!row.note.empty()) name.text.push_back({"\n" + row.note, false, true});
+    table.AddRow({TextCell(std::to_string(row.id), {9.5, false, kQuiet}), name,
+                  TextCell(row.value.empty() ? kDash : row.value), TextCell(row.unit),
+                  WordCell(row.standing, row.word)});
   }
   return table;
 }
 
-Blocks SectionBlocks(const report::Section& section, const report::Words& words, bool first) {
-  Blocks blocks;
-  AddGap(blocks, first ? 160 : 420);
-  blocks.push_back(std::make_unique<SectionHead>(section, first));
-  if (!section.value.empty())
-    blocks.push_back(std::make_unique<TextBlock>(section.value + " " + section.unit, TextStyle{15, false}));
-  AddNotes(blocks, section);
-  if (!section.facts.empty()) {
-    AddGap(blocks, 60);
-    blocks.push_back(FactsBlock(section.facts));
-  }
-  AddJudgements(blocks, section, words);
+Parts SectionParts(const report::Section& section, const report::Words& words) {
+  const auto title = std::to_string(section.id) + "  " + section.name;
+  PdfTable head({{kUsable * 0.79}, {kUsable * 0.21}}, {});
+  head.AddRow({TextCell(title, {12, true}), WordCell(section.standing, section.word)});
+  Parts parts{{0, head, title, 1 + section.depth}};
+  if (!section.value.empty()) parts.push_back({0, TextTable(section.value + " " + section.unit, {15})});
+  parts.push_back({0, NotesTable(section.notes)});
+  parts.push_back({60, FactsTable(section.facts)});
+  if (!section.judgements.empty()) parts.push_back({120, JudgementsTable(section, words)});
   if (!section.readings.rows.empty()) {
-    AddGap(blocks, 160);
-    blocks.push_back(std::make_unique<TextBlock>(words.readings, Quiet()));
-    AddGap(blocks, 40);
-    blocks.push_back(PrintedBlock(section.readings));
+    parts.push_back({160, TextTable(words.readings, kQuietText)});
+    parts.push_back({40, PrintedTable(section.readings)});
   }
-  for (const auto& table : section.tables) {
-    AddGap(blocks, 160);
-    blocks.push_back(PrintedBlock(table));
+  for (const auto& table : section.tables) parts.push_back({160, PrintedTable(table)});
+  return parts;
+}
+
+void PlaceTogether(const Parts& parts, PdfPages& pages) {
+  double height = 0;
+  for (const auto& part : parts) height += part.gap + part.table.Height();
+  pages.Ensure(height);
+  for (const auto& part : parts) {
+    if (part.line) pages.Line();
+    pages.Gap(part.gap);
+    if (!part.title.empty()) pages.Mark(part.title, part.level);
+    part.table.Place(pages);
   }
-  return blocks;
 }
 
 }  // namespace bench::pdf

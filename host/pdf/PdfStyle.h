@@ -5,7 +5,7 @@
 #include "host/report/Report.h"
 
 /// Measures and colours of the pages. Lengths are in twips, 20 of which are a point and 1,440 an inch: the
-/// same as in the tables' markup, and fine enough for letters to stand where they belong.
+/// same as in the tables' markup, and fine enough to place letters exactly.
 namespace bench::pdf {
 
 inline constexpr int kTwipsPerInch = 1440;
@@ -18,17 +18,16 @@ inline constexpr double kHeaderTop = 500;
 inline constexpr double kBodyTop = 1940;
 inline constexpr double kBodyBottom = kPageHeight - 1000;
 
-// All texts have a contrast of at least 4.5 to 1 against what they stand on.
+// All texts have a contrast of at least 4.5 to 1 with their background.
 inline const QColor kInk(0x1c, 0x23, 0x30);
 inline const QColor kQuiet(0x56, 0x60, 0x72);
 inline const QColor kLine(0xd0, 0xd6, 0xdf);
-inline const QColor kSoft(0xf4, 0xf6, 0xf9);
 inline const QColor kAccent(0x1b, 0x4f, 0x8a);
 inline const QColor kAllowed(0x9f, 0xb9, 0xd9);
 inline const QColor kTrack(0xe3, 0xe7, 0xed);
-/// Of the watermark: no text to be read, so faint that what stands on it can be.
+/// The watermark: faint enough to read the text above it.
 inline const QColor kFaint(0xf9, 0xf3, 0xe8);
-/// Of one that nobody may overlook.
+/// A watermark that must not be overlooked.
 inline const QColor kFaintStrong(0xe6, 0xe6, 0xe6);
 
 inline QColor ColourOf(report::Standing standing) {

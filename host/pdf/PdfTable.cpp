@@ -2,159 +2,118 @@
 
 #include <algorithm>
 
+#include "host/pdf/PdfSign.h"
+
 namespace bench::pdf {
 namespace {
 
-constexpr double kWordSign = 170, kSignRoom = 260;
+constexpr double kPadding = 100, kSign = 170, kSignRoom = 260;
 
 }  // namespace
 
-TableBlock::TableBlock(std::vector<Column> columns, Rules rules, double padding, double above)
-    : columns_(std::move(columns)), rules_(rules), padding_(padding), above_(above) {}
+TableCell TextCell(const std::string& text, const TextStyle& style) { return {{{text}}, style}; }
 
-TableBlock::Row& TableBlock::AddHead() { return head_.emplace_back(Row(*this)); }
-TableBlock::Row& TableBlock::AddRow() { return rows_.emplace_back(Row(*this)); }
-
-double TableBlock::Row::NextWidth() const { return table_->InnerWidth(cells_.size()); }
-Qt::AlignmentFlag TableBlock::Row::NextAlignment() const { return table_->columns_[cells_.size()].alignment; }
-
-void TableBlock::Row::Text(const std::string& text, const TextStyle& style) {
-  auto aligned = style;
-  aligned.alignment = NextAlignment();
-  PdfText broken(text, NextWidth(), aligned);
-  cells_.push_back({{broken}, {}, broken.Height(), {}});
+TableCell WordCell(report::Standing standing, const std::string& word) {
+  return {{{word}}, {9.5, true, ColourOf(standing)}, kSignRoom, standing};
 }
 
-void TableBlock::Row::Text(const report::Cell& cell, const TextStyle& style) {
-  auto aligned = style;
-  aligned.alignment = NextAlignment();
-  PdfText broken(cell, NextWidth(), aligned);
-  cells_.push_back({{broken}, {}, broken.Height(), {}});
-}
-
-void TableBlock::Row::Word(report::Standing standing, const std::string& word) {
-  PdfText broken(word, NextWidth() - kSignRoom, {9.5, true, ColourOf(standing)});
-  cells_.push_back({{broken}, standing, broken.Height(), {}});
-}
-
-void TableBlock::Row::Drawing(double height, std::function<void(QPainter&, const QRectF&)> draw) {
-  cells_.push_back({{}, {}, height, std::move(draw)});
-}
-
-double TableBlock::Row::Height() const {
-  double height = 0;
-  for (const auto& cell : cells_) height = std::max(height, cell.height);
-  return height;
-}
-
-double TableBlock::X(std::size_t column) const {
-  double x = kMargin;
-  for (std::size_t i = 0; i < column; ++i) x += columns_[i].width;
-  return x;
-}
-
-double TableBlock::InnerLeft(std::size_t column) const {
-  return X(column) + (column > 0 || rules_ == Rules::kGrid ? padding_ : 0);
-}
-
-double TableBlock::InnerWidth(std::size_t column) const {
-  const bool last = column + 1 == columns_.size() && rules_ != Rules::kGrid;
-  return X(column) + columns_[column].width - (last ? 0 : padding_) - InnerLeft(column);
-}
-
-double TableBlock::Height() const {
-  double height = 0;
-  for (const auto* rows : {&head_, &rows_}) {
-    for (const auto& row : *rows) height += row.Height() + 2 * above_;
+PdfTable::Row PdfTable::Laid(const std::vector<TableCell>& cells) const {
+  Row row;
+  double left = kMargin;
+  for (std::size_t i = 0; i < cells.size(); ++i) {
+    const auto& cell = cells[i];
+    // Without a grid, the outer cells are flush with the text of the page.
+    const bool grid = look_.rules == Rules::kGrid;
+    const double from = left + (i > 0 || grid ? kPadding : 0) + cell.indent;
+    left += columns_[i].width;
+    const double to = left - (i + 1 < columns_.size() || grid ? kPadding : 0);
+    PdfText text(cell.text, to - from, cell.style, columns_[i].alignment);
+    const double height = cell.draw ? cell.height : text.Height();
+    row.cells.push_back({cell, text, {from, look_.above, to - from, height}});
+    row.height = std::max(row.height, height + 2 * look_.above);
   }
+  return row;
+}
+
+double PdfTable::Height() const {
+  double height = 0;
+  for (const auto* rows : {&head_, &rows_})
+    for (const auto& row : *rows) height += row.height;
   return height;
 }
 
-void TableBlock::Place(PdfPages& pages) const {
+void PdfTable::Place(PdfPages& pages) const {
+  // A head needs a row below it on its page.
+  double least = rows_.empty() ? 0 : std::min(rows_.front().height, PdfPages::FullPage() / 4);
+  for (const auto& row : head_) least += row.height;
+  pages.Ensure(least);
   PlaceHead(pages);
   for (const auto& row : rows_) PlaceRow(pages, row);
-  if (rules_ == Rules::kGrid) pages.Advance(20);
 }
 
-void TableBlock::PlaceHead(PdfPages& pages) const {
-  if (head_.empty()) return;
-  double height = 0;
-  for (const auto& row : head_) height += row.Height() + 2 * above_;
-  // A head alone at the bottom of a page would head nothing.
-  const double first =
-      rows_.empty() ? 0 : std::min(rows_.front().Height() + 2 * above_, PdfPages::FullPage() / 4);
-  pages.Ensure(height + first);
+void PdfTable::PlaceHead(PdfPages& pages) const {
   for (const auto& row : head_) {
-    std::vector<std::size_t> next(row.cells_.size(), 0);
+    std::vector<std::size_t> next(row.cells.size(), 0);
     PlaceSlice(pages, row, next);
   }
 }
 
-void TableBlock::PlaceRow(PdfPages& pages, const Row& row) const {
-  const double height = row.Height() + 2 * above_;
-  std::vector<std::size_t> next(row.cells_.size(), 0);
-  const auto more = [&] {
-    for (std::size_t i = 0; i < next.size(); ++i)
-      if (!row.cells_[i].text.empty() && next[i] < row.cells_[i].text.front().Lines()) return true;
-    return false;
-  };
-  const double usual = 12 * kPoint + 2 * above_;
-  if (height > pages.Room() && (height <= PdfPages::FullPage() / 2 || pages.Room() < 3 * usual)) {
+void PdfTable::PlaceRow(PdfPages& pages, const Row& row) const {
+  constexpr double kThreeLines = 3 * 16 * kPoint;
+  std::vector<std::size_t> next(row.cells.size(), 0);
+  if (row.height > pages.Room() && (row.height <= PdfPages::FullPage() / 2 || pages.Room() < kThreeLines)) {
     pages.NewPage();
     PlaceHead(pages);
   }
-  PlaceSlice(pages, row, next);
-  while (more()) {
+  while (PlaceSlice(pages, row, next)) {
     pages.NewPage();
     PlaceHead(pages);
-    PlaceSlice(pages, row, next);
   }
 }
 
-void TableBlock::PlaceSlice(PdfPages& pages, const Row& row, std::vector<std::size_t>& next) const {
-  const double top = pages.Y() + above_;
+/// Places what fits of the row from the lines `next` on; true if there is more.
+bool PdfTable::PlaceSlice(PdfPages& pages, const Row& row, std::vector<std::size_t>& next) const {
+  const double top = pages.Y();
   double height = 0;
-  for (std::size_t i = 0; i < row.cells_.size(); ++i) {
-    const auto& cell = row.cells_[i];
-    const double left = InnerLeft(i), width = InnerWidth(i);
-    if (cell.draw && next[i] == 0) {
-      next[i] = 1;
-      pages.Draw([draw = cell.draw, place = QRectF(left, top, width, cell.height)](QPainter& painter) {
-        draw(painter, place);
-      });
-      height = std::max(height, cell.height);
-    }
-    if (cell.text.empty()) continue;
-    const auto& text = cell.text.front();
+  bool more = false;
+  for (std::size_t i = 0; i < row.cells.size(); ++i) {
+    const auto& [cell, text, place] = row.cells[i];
     const auto first = next[i];
-    // At least one line, so that a row always comes to its end.
-    const auto count =
-        std::max<std::size_t>(text.Fitting(first, pages.Room() - 2 * above_), first < text.Lines() ? 1 : 0);
+    if (cell.draw) {
+      if (first == 0)
+        pages.Draw(
+            [draw = cell.draw, at = place.translated(0, top)](QPainter& painter) { draw(painter, at); });
+      next[i] = 1;
+      height = std::max(height, first == 0 ? place.height() : 0);
+      continue;
+    }
+    const auto count = text.Fitting(first, pages.Room() - 2 * look_.above);
     next[i] += count;
+    more = more || next[i] < text.Lines();
     height = std::max(height, text.HeightOf(first, count));
-    pages.Draw([text, first, count, left, top, sign = cell.sign](QPainter& painter) {
+    pages.Draw([text, first, count, sign = cell.sign,
+                at = QPointF(place.left(), top + look_.above)](QPainter& painter) {
       if (sign && first == 0)
-        DrawSign(painter, *sign, {left, top + 22, kWordSign, kWordSign}, ColourOf(*sign));
-      text.Draw(painter, {left + (sign ? kSignRoom : 0), top}, first, count);
+        DrawSign(painter, *sign, {at.x() - kSignRoom, at.y() + 22, kSign, kSign}, ColourOf(*sign));
+      text.Draw(painter, at, first, count);
     });
   }
-  DrawRules(pages, height + 2 * above_);
-  pages.Advance(height + 2 * above_);
+  DrawRules(pages, height + 2 * look_.above);
+  pages.Advance(height + 2 * look_.above);
+  return more;
 }
 
-void TableBlock::DrawRules(PdfPages& pages, double height) const {
-  if (rules_ == Rules::kNone) return;
-  pages.Draw([y = pages.Y(), height, left = X(0), right = X(columns_.size()), grid = rules_ == Rules::kGrid,
-              columns = columns_](QPainter& painter) {
-    painter.setPen(QPen(kLine, 14));
+void PdfTable::DrawRules(PdfPages& pages, double height) const {
+  if (look_.rules == Rules::kNone) return;
+  pages.Draw([y = pages.Y(), height, look = look_, columns = columns_](QPainter& painter) {
+    painter.setPen(look.pen);
     painter.setBrush(Qt::NoBrush);
-    if (!grid) {
-      painter.drawLine(QPointF(left, y + height), QPointF(right, y + height));
-      return;
-    }
-    double x = left;
+    double x = kMargin;
     for (const auto& column : columns) {
-      painter.drawRect(QRectF(x, y, column.width, height));
+      if (look.rules == Rules::kGrid)
+        painter.drawRect(QRectF(x, y, column.width, height));
+      else
+        painter.drawLine(QPointF(x, y + height), QPointF(x + column.width, y + height));
       x += column.width;
     }
   });

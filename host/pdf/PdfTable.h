@@ -1,15 +1,31 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <vector>
 
-#include "host/pdf/PdfBlocks.h"
+#include "host/pdf/PdfPages.h"
+#include "host/pdf/PdfText.h"
 
 namespace bench::pdf {
 
-/// A table: rows of texts and drawings. Its head is repeated on every page; a row that no page has room for
-/// is cut between its lines.
-class TableBlock final : public Block {
+/// What a cell shows: a text, with the sign of a standing before it, or a drawing.
+struct TableCell {
+  report::Cell text;
+  TextStyle style = {};
+  double indent = 0;
+  std::optional<report::Standing> sign = {};
+  double height = 0;  ///< of the drawing
+  std::function<void(QPainter&, const QRectF&)> draw = {};
+};
+
+TableCell TextCell(const std::string& text, const TextStyle& style = {});
+/// A sign and a word in its colour.
+TableCell WordCell(report::Standing standing, const std::string& word);
+
+/// Rows of cells; everything in the report is one. Its head is repeated on every page, and a row that is
+/// higher than a page is cut between its lines.
+class PdfTable {
  public:
   struct Column {
     double width = 0;
@@ -18,58 +34,44 @@ class TableBlock final : public Block {
 
   enum class Rules {
     kNone,
-    kRows,  ///< a thin line above each row
+    kRows,  ///< a line below each row
     kGrid   ///< boxes
   };
 
-  /// Adds cells to a row, from the left.
-  class Row {
-   public:
-    void Text(const std::string& text, const TextStyle& style = {});
-    void Text(const report::Cell& cell, const TextStyle& style);
-    /// A sign and a word.
-    void Word(report::Standing standing, const std::string& word);
-    void Drawing(double height, std::function<void(QPainter&, const QRectF&)> draw);
-
-   private:
-    friend class TableBlock;
-    struct Cell {
-      std::vector<PdfText> text;  ///< one, or none
-      std::optional<report::Standing> sign;
-      double height = 0;
-      std::function<void(QPainter&, const QRectF&)> draw;
-    };
-    explicit Row(const TableBlock& table) : table_(&table) {}
-    double NextWidth() const;
-    Qt::AlignmentFlag NextAlignment() const;
-    double Height() const;
-
-    const TableBlock* table_;
-    std::vector<Cell> cells_;
+  struct Look {
+    Rules rules = Rules::kNone;
+    double above = 0;  ///< space above and below the text of a cell
+    QPen pen = QPen(kLine, 14);
   };
 
-  /// @param padding of the cells, left and right; the first and the last of a table without grid have none
-  /// outside
-  TableBlock(std::vector<Column> columns, Rules rules, double padding = 100, double above = 80);
+  PdfTable(std::vector<Column> columns, Look look) : columns_(std::move(columns)), look_(std::move(look)) {}
 
-  Row& AddHead();
-  Row& AddRow();
+  void AddHead(const std::vector<TableCell>& cells) { head_.push_back(Laid(cells)); }
+  void AddRow(const std::vector<TableCell>& cells) { rows_.push_back(Laid(cells)); }
 
-  double Height() const override;
-  void Place(PdfPages& pages) const override;
+  /// On a page that has room for all of it.
+  double Height() const;
+  void Place(PdfPages& pages) const;
 
  private:
-  double X(std::size_t column) const;
-  double InnerLeft(std::size_t column) const;
-  double InnerWidth(std::size_t column) const;
+  struct LaidCell {
+    TableCell cell;
+    PdfText text;
+    QRectF place;  ///< of the text or the drawing, from the top of the row
+  };
+  struct Row {
+    std::vector<LaidCell> cells;
+    double height = 0;
+  };
+
+  Row Laid(const std::vector<TableCell>& cells) const;
   void PlaceHead(PdfPages& pages) const;
   void PlaceRow(PdfPages& pages, const Row& row) const;
-  void PlaceSlice(PdfPages& pages, const Row& row, std::vector<std::size_t>& next) const;
+  bool PlaceSlice(PdfPages& pages, const Row& row, std::vector<std::size_t>& next) const;
   void DrawRules(PdfPages& pages, double height) const;
 
   std::vector<Column> columns_;
-  Rules rules_;
-  double padding_, above_;
+  Look look_;
   std::vector<Row> head_, rows_;
 };
 

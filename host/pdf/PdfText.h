@@ -17,7 +17,6 @@ struct TextStyle {
   double points = 9.5;
   bool bold = false;
   QColor colour = kInk;
-  Qt::AlignmentFlag alignment = Qt::AlignLeft;
 };
 
 QFont FontOf(double points, bool bold = false, bool italic = false);
@@ -26,28 +25,22 @@ QString Text(const std::string& utf8);
 /// A text broken into lines of a width, ready to be drawn in parts.
 class PdfText {
  public:
-  PdfText(const std::string& text, double width, const TextStyle& style = {});
-  PdfText(const report::Cell& cell, double width, const TextStyle& style);
+  PdfText(const report::Cell& cell, double width, const TextStyle& style,
+          Qt::AlignmentFlag alignment = Qt::AlignLeft);
 
   std::size_t Lines() const;
   double Height() const { return HeightOf(0, Lines()); }
   /// Of `count` lines from `first` on.
   double HeightOf(std::size_t first, std::size_t count) const;
-  /// How many lines from `first` on fit into the height.
+  /// How many lines from `first` on fit into the height; at least one, as long as there is one.
   std::size_t Fitting(std::size_t first, double height) const;
-  /// Draws them with the upper left corner of the first there.
+  /// Draws these lines with the upper left corner of the first there.
   void Draw(QPainter& painter, QPointF at, std::size_t first, std::size_t count) const;
   void Draw(QPainter& painter, QPointF at) const { Draw(painter, at, 0, Lines()); }
 
  private:
-  void Break(double width, const TextStyle& style);
-
   std::shared_ptr<QTextLayout> layout_;
   QColor colour_;
 };
-
-/// The sign of a standing as a drawing in that square, each its own: a tick, a cross, a question mark and so
-/// on.
-void DrawSign(QPainter& painter, report::Standing standing, const QRectF& square, const QColor& colour);
 
 }  // namespace bench::pdf

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QPainter>
+
+#include "host/report/Report.h"
+
+namespace bench::pdf {
+
+/// Draws the sign of a standing into that square, each its own: a tick, a cross, a question mark and so on.
+void DrawSign(QPainter& painter, report::Standing standing, const QRectF& square, const QColor& colour);
+
+}  // namespace bench::pdf
