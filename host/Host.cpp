@@ -8,6 +8,7 @@
 #include "host/elements/TestContainer.h"
 #include "host/elements/TestElement.h"
 #include "host/instruments/InstrumentRecord.h"
+#include "host/plugins/keld/KeldNames.h"
 #include "host/services/ErrorLog.h"
 #include "host/services/LanguageService.h"
 #include "host/services/Persistence.h"
@@ -28,11 +29,6 @@ using orvik::HostError;
 namespace classes = orvik::HostClasses;
 
 constexpr char kHostSource[] = "orvik-bench";
-
-/// The value that the catalogue of `Settings::catalogue` stands in for.
-constexpr std::int32_t kHive = static_cast<std::int32_t>(0x80000002U);
-constexpr char kSettingsKey[] = "Software\\Telvane\\orvik\\KELD(IN)";
-constexpr char kCatalogueValue[] = "Configuration";
 
 }  // namespace
 
@@ -57,7 +53,9 @@ void Host::RegisterServices(const Settings& settings) {
   language_ = std::make_shared<LanguageService>(settings.language, settings.translationFolders);
   log_ = std::make_shared<ErrorLog>(settings.stateFolder);
   registry_ = std::make_shared<RegistryStore>(settings.stateFolder);
-  if (settings.catalogue) registry_->StandIn(kHive, kSettingsKey, kCatalogueValue, *settings.catalogue);
+  if (settings.catalogue)
+    registry_->StandIn(keld_facts::kRegistryHive, keld_facts::kCatalogueKey, keld_facts::kCatalogueValue,
+                       *settings.catalogue);
 
   Register(classes::kLanguageService, [this] { return language_; });
   Register(classes::kErrorLog, [this] { return log_; });

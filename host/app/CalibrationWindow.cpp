@@ -1,6 +1,7 @@
 #include "host/app/CalibrationWindow.h"
 
 #include "OrvikTypeLib/As.h"
+#include "host/plugins/keld/KeldNames.h"
 #include "host/run/GuideToolbar.h"
 #include "host/services/Tr.h"
 #include "platform/Controls.h"
@@ -9,8 +10,6 @@
 namespace bench {
 
 namespace {
-
-constexpr char kClass[] = "orvikKELD.FCalibrateLeads";
 
 std::shared_ptr<orvik::platform::ITextBox> TextBox(const orvik::platform::IForm& form, const char* name) {
   return std::dynamic_pointer_cast<orvik::platform::ITextBox>(form.Find(name));
@@ -21,7 +20,7 @@ std::shared_ptr<orvik::platform::ITextBox> TextBox(const orvik::platform::IForm&
 CalibrationWindow::CalibrationWindow(Workbench& workbench, std::string serial)
     : workbench_(workbench),
       serial_(std::move(serial)),
-      dialog_(orvik::As<orvik::IDialogForm>(workbench.Host()->CreateObject(kClass))),
+      dialog_(orvik::As<orvik::IDialogForm>(workbench.Host()->CreateObject(keld_facts::kLeadsDialogClass))),
       form_(orvik::Required(dialog_).Form()) {}
 
 void CalibrationWindow::Run() {

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "host/app/InputError.h"
+#include "host/plugins/keld/KeldNames.h"
 #include "host/services/Tr.h"
 
 namespace bench::files {
@@ -21,7 +22,7 @@ std::string Environment(const char* name) {
 
 }  // namespace
 
-std::filesystem::path PlugInLibrary() { return Prefix() / "lib" / "orvik" / "orvikKELD.so"; }
+std::filesystem::path PlugInLibrary() { return Prefix() / "lib" / "orvik" / keld_facts::kLibraryFile; }
 
 std::filesystem::path PdfModule() { return Prefix() / "lib" / "orvik" / "orvikPdf.so"; }
 

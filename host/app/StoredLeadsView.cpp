@@ -1,5 +1,6 @@
 #include "host/app/StoredLeadsView.h"
 
+#include "host/plugins/keld/KeldTests.h"
 #include "host/report/VisibleText.h"
 #include "host/services/Tr.h"
 
@@ -14,7 +15,7 @@ std::string LeadsRemark(const LeadCalibration& leads) {
   return Tr(
       "above %%1 mOhm: more than test leads have, so protective-earth readings become too low; measure the "
       "leads of this tester again",
-      {std::to_string(kMostLeadMilliohms)});
+      {std::to_string(keld_facts::kMostLeadMilliohms)});
 }
 
 std::string TextOf(const LeadCalibration& stored) {

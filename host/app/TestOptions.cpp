@@ -5,26 +5,16 @@
 #include "OrvikTypeLib/Codes.h"
 #include "host/app/InputError.h"
 #include "host/app/TextColumns.h"
+#include "host/plugins/keld/KeldTests.h"
 #include "host/services/Text.h"
 #include "host/services/Tr.h"
 
 namespace bench::options {
 
+using keld_facts::kLeads;
+using keld_facts::MeasuresAllLeads;
+using keld_facts::MeasuresByLead;
 using orvik::OptionBits;
-
-namespace {
-
-constexpr std::int32_t kLeads = 10;
-
-/// Patient leakage currents: by lead, or through all leads at once.
-bool MeasuresAllLeads(std::int32_t testId) { return testId >= 910 && testId < 966; }
-
-/// Patient auxiliary currents too: by lead, against all others.
-bool MeasuresByLead(std::int32_t testId) {
-  return MeasuresAllLeads(testId) || (testId >= 1110 && testId < 1166);
-}
-
-}  // namespace
 
 std::string LeadsInWords(std::int32_t options) {
   std::vector<std::string> set;

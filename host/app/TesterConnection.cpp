@@ -6,6 +6,7 @@
 #include "OrvikTypeLib/HostError.h"
 #include "host/app/InputError.h"
 #include "host/app/TextColumns.h"
+#include "host/plugins/keld/KeldNames.h"
 #include "host/serial/SerialDevice.h"
 #include "host/services/FileErrors.h"
 #include "host/services/Patience.h"
@@ -15,8 +16,6 @@ namespace bench {
 
 namespace {
 
-constexpr char kInstrument[] = "KELD(IN)";
-constexpr char kLineSettings[] = "9600,O,8,1";
 constexpr double kLowestTimeScale = 0.001;
 constexpr double kHighestTimeScale = 1e6;
 
@@ -27,7 +26,7 @@ std::string InField(const std::string& field, const std::exception& error) {
 /// Sees to it that the device can be opened; returns whether it is a pseudo-terminal.
 bool ProbeForTerminal(const TesterChoice& choice) {
   try {
-    const auto settings = ParseLineSettings(kLineSettings);
+    const auto settings = ParseLineSettings(keld_facts::kLineSettings);
     const auto device = WaitUntilFree([&] { return std::make_unique<SerialDevice>(choice.port, settings); });
     if (choice.timeScale != 1.0 && !device->IsPseudoTerminal())
       throw InputError(
@@ -62,7 +61,7 @@ void TesterConnection::Connect(const TesterChoice& choice, PortManager& ports) {
   else
     isSimulated_ = ProbeForTerminal(choice);
   device_ = simulated_ ? simulated_->Device() : choice.port;
-  ports.Assign(kInstrument, device_);
+  ports.Assign(keld_facts::kInstrument, device_);
 }
 
 std::string TimeScaleRemark(double timeScale) {

@@ -8,6 +8,7 @@
 #include "host/app/InputError.h"
 #include "host/app/ProgramFiles.h"
 #include "host/controls/ControlClasses.h"
+#include "host/plugins/keld/KeldNames.h"
 #include "host/serial/CommApplication.h"
 #include "host/services/ErrorLog.h"
 #include "host/services/RegistryStore.h"
@@ -16,10 +17,6 @@
 namespace bench {
 
 namespace {
-
-constexpr std::int32_t kHive = static_cast<std::int32_t>(0x80000002U);
-constexpr char kSettingsKey[] = "Software\\Telvane\\orvik\\KELD(IN)";
-constexpr char kCatalogueValue[] = "Configuration";
 
 Host::Settings SettingsOf(const GlobalOptions& options) {
   Host::Settings settings;
@@ -62,12 +59,14 @@ Workbench::~Workbench() {
 /// Without a catalogue in the settings the shipped one is used.
 void Workbench::ProvideCatalogue(Settings settings) {
   if (!HasOwnCatalogue(settings))
-    host_->Registry()->StandIn(kHive, kSettingsKey, kCatalogueValue, ReadCatalogue(files::Catalogue()));
+    host_->Registry()->StandIn(keld_facts::kRegistryHive, keld_facts::kCatalogueKey,
+                               keld_facts::kCatalogueValue, ReadCatalogue(files::Catalogue()));
 }
 
 bool Workbench::HasOwnCatalogue(Settings settings) const {
   try {
-    return !orvik::IsEmpty(host_->Registry()->Read(kHive, kSettingsKey, kCatalogueValue));
+    return !orvik::IsEmpty(host_->Registry()->Read(keld_facts::kRegistryHive, keld_facts::kCatalogueKey,
+                                                   keld_facts::kCatalogueValue));
   } catch (const orvik::HostError& error) {
     if (settings == Settings::kNeeded) throw;
     std::cerr << "orvik-bench: "

@@ -18,6 +18,7 @@
 #include "host/app/report/ReportFile.h"
 #include "host/app/report/ReportParts.h"
 #include "host/elements/ElementFactory.h"
+#include "host/plugins/keld/KeldTests.h"
 #include "host/report/VisibleText.h"
 #include "host/run/SavedSettings.h"
 #include "host/services/Tr.h"
@@ -40,8 +41,7 @@ std::vector<std::string> OptionsInWords(std::int32_t bits, std::int32_t testId) 
 
 /// How a sequence's value is made up; the settings hold it in English.
 std::string FilterInWords(const std::string& filter) {
-  for (const auto* known :
-       {Marked("No values"), Marked("All values"), Marked("Maximum value"), Marked("Minimum value")})
+  for (const auto* known : keld_facts::kFilters)
     if (filter == known) return Tr(known);
   return filter;
 }

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <memory>
 
+#include "host/plugins/keld/KeldProtocol.h"
 #include "host/plugins/keld/KeldTests.h"
 #include "host/serial/Latin1.h"
 #include "host/serial/Message.h"
@@ -14,7 +15,6 @@
 namespace bench::judge {
 namespace {
 
-constexpr std::size_t kValueField = 2, kUnitField = 4, kFields = 5;
 constexpr char kOhm[] = "Ohm", kMilliohm[] = "mOhm";
 /// Two readings of the same leads, in mOhm, may be so far apart: what clips and sockets do to them
 /// (practice).
@@ -25,7 +25,7 @@ std::shared_ptr<Message> ResultIn(const RecordedTest& test, std::vector<Reason>&
   std::shared_ptr<Message> result;
   for (const auto& line : test.said) {
     auto message = ParseMessage(Latin1FromUtf8(line).value_or(std::string()));
-    if (!message || message->MnemonicText() != "gres") continue;
+    if (!message || message->MnemonicText() != keld_facts::kReading) continue;
     if (result && result->Line() != message->Line()) {
       doubts.push_back({"several-readings", {result->Line(), message->Line()}});
       return nullptr;
@@ -41,7 +41,7 @@ void CorrectByLeads(Reading& reading, const RecordedTester* tester) {
   const auto milliohms = InUnit(*reading.value, reading.unit, kMilliohm);
   if (!tester || !milliohms) return;
   const auto leads = tester->leads;
-  if (leads > keld_facts::kMostLeads || leads < 0)
+  if (leads > keld_facts::kMostLeadMilliohms || leads < 0)
     reading.doubts.push_back({"leads-implausible", {std::to_string(leads)}});
   if (leads - *milliohms > kSpreadOfLeads && *milliohms >= 0)
     reading.doubts.push_back(
@@ -56,13 +56,14 @@ Reading ReadingOf(const CaseElement& element, const RecordedTest& test, const Re
   const auto said = ResultIn(test, reading.doubts);
   if (!said) return reading;
   const auto& fields = said->Parameters();
-  reading.value = fields.size() >= kFields ? FiniteNumber(fields[kValueField]) : std::nullopt;
+  reading.value = fields.size() >= keld_facts::kReadingFields ? FiniteNumber(fields[keld_facts::kValueField])
+                                                              : std::nullopt;
   if (!reading.value) {
     reading.doubts.push_back({"no-reading", {}});
     return reading;
   }
-  if (*reading.value < 0) reading.doubts.push_back({"negative-reading", {fields[kValueField]}});
-  reading.unit = fields[kUnitField];
+  if (*reading.value < 0) reading.doubts.push_back({"negative-reading", {fields[keld_facts::kValueField]}});
+  reading.unit = fields[keld_facts::kUnitField];
   if (!element.expectedUnit.empty() && !SameQuantity(reading.unit, element.expectedUnit)) {
     reading.doubts.push_back({"unit-of-test", {reading.unit, element.expectedUnit}});
     return reading;

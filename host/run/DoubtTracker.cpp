@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "host/plugins/keld/KeldProtocol.h"
 #include "host/run/ReplyDoubts.h"
 #include "host/serial/Latin1.h"
 
@@ -76,13 +77,13 @@ void DoubtTracker::Watch(const WireRecord& record) {
 void DoubtTracker::TakeReply(const Message& reply) {
   if (const auto ohms = OhmsIn(reply)) lastOhms_ = ohms;
   const auto& mnemonic = reply.MnemonicText();
-  if (running_ && (mnemonic == "gres" || mnemonic == "ERRM")) {
+  if (running_ && (mnemonic == keld_facts::kReading || mnemonic == keld_facts::kError)) {
     auto& said = said_[*running_];
     if (said.size() < kMostSaid) said.push_back(Utf8FromLatin1(reply.Line()));
   }
   if (!lastCommand_) return;  // it waits, and is noted when a command goes out
   const auto doubts = ReplyDoubts(*lastCommand_, reply);
-  if (mnemonic == "irem") session_.insert(session_.end(), doubts.begin(), doubts.end());
+  if (mnemonic == keld_facts::kIdentity) session_.insert(session_.end(), doubts.begin(), doubts.end());
   for (const auto& doubt : doubts) Note(doubt);
 }
 

@@ -6,6 +6,8 @@
 #include "OrvikTypeLib/Conversions.h"
 #include "OrvikTypeLib/HostError.h"
 #include "host/judge/ReasonText.h"
+#include "host/plugins/keld/KeldNames.h"
+#include "host/plugins/keld/KeldProtocol.h"
 #include "host/run/DoubtTracker.h"
 #include "host/run/GuideToolbar.h"
 #include "host/run/LeadsReading.h"
@@ -23,7 +25,6 @@ namespace platform = orvik::platform;
 namespace {
 
 constexpr std::int32_t kCalibration = 0;  // in the place of an element's identifier
-constexpr char kLacksTest[] = "6002";
 
 /// "123 mOhm (measured 2026-11-22 14:03)"
 std::string TextOf(const std::optional<LeadCalibration>& leads) {
@@ -54,8 +55,8 @@ struct LeadCalibrationGuard::Dialog {
     doubts.ElementStarts(kCalibration);
   }
   void Hear(const Message& reply) {
-    if (reply.MnemonicText() == "ERRM") refusal = reply.Line();
-    if (reply.MnemonicText() != "gres") return;
+    if (reply.MnemonicText() == keld_facts::kError) refusal = reply.Line();
+    if (reply.MnemonicText() != keld_facts::kReading) return;
     reading = ReadLeads(reply);
     if (!asked)
       reading->fault = Tr("the reading \"%%1\" came without being asked for; measure again",
@@ -83,7 +84,7 @@ LeadCalibrationGuard::LeadCalibrationGuard(Parts parts)
       shown_(parts_.application.FormShown().Subscribe(
           [this](const std::shared_ptr<platform::IForm>& form) { Shown(form); })),
       writing_(parts_.registry.GuardWrites(
-          kLeadsHive, kLeadsKey,
+          keld_facts::kRegistryHive, keld_facts::kLeadsKey,
           [this](const std::string& serial, const orvik::Variant& value) { Write(serial, value); })) {}
 
 LeadCalibrationGuard::~LeadCalibrationGuard() = default;
@@ -108,7 +109,8 @@ void LeadCalibrationGuard::Shown(const std::shared_ptr<platform::IForm>& form) {
 void LeadCalibrationGuard::Watch(const WireRecord& record) {
   if (record.kind == WireRecord::Kind::kOpened) dialog_->Begin();
   if (record.kind == WireRecord::Kind::kClosed) dialog_->sessionOpen = false;
-  if (record.kind == WireRecord::Kind::kSent) dialog_->asked = record.message->MnemonicText() == "GRES";
+  if (record.kind == WireRecord::Kind::kSent)
+    dialog_->asked = record.message->MnemonicText() == keld_facts::kGetReading;
   if (record.kind == WireRecord::Kind::kReceived) dialog_->Hear(*record.message);
   if (Doubt().empty()) return;
   // At once, so that nobody can save it; but not inside the plug-in's own exchange.
@@ -144,7 +146,7 @@ std::string LeadCalibrationGuard::Obstacle() const {
   if (const auto& error = parts_.ports.LastError(); !error.empty()) return error;
   if (auto doubt = Doubt(); !doubt.empty()) return doubt;
   if (dialog_->reading) return {};
-  if (dialog_->refusal.find(kLacksTest) != std::string::npos)
+  if (dialog_->refusal.find(std::to_string(keld_facts::kNoSuchTest)) != std::string::npos)
     return Tr(
         "the tester does not have the test 410, which measures the test leads; nothing was stored. Use a "
         "tester that has it");

@@ -1,5 +1,6 @@
 #include "host/run/LinkWatch.h"
 
+#include "host/plugins/keld/KeldProtocol.h"
 #include "host/serial/Message.h"
 #include "host/services/Tr.h"
 
@@ -23,7 +24,7 @@ void LinkWatch::Watch(const WireRecord& record) {
       sessionAsked_ = false;
       break;
     case WireRecord::Kind::kSent:
-      if (record.message->MnemonicText() == "IREM") sessionAsked_ = true;
+      if (record.message->MnemonicText() == keld_facts::kBeginSession) sessionAsked_ = true;
       break;
     case WireRecord::Kind::kReceived:
     case WireRecord::Kind::kDropped:

@@ -7,7 +7,8 @@
 #include <optional>
 #include <string_view>
 
-#include "host/plugins/keld/KeldTests.h"
+#include "host/plugins/keld/KeldNames.h"
+#include "host/plugins/keld/KeldProtocol.h"
 #include "host/serial/Latin1.h"
 #include "host/serial/Message.h"
 
@@ -15,10 +16,7 @@ namespace bench {
 
 namespace {
 
-constexpr std::size_t kReadingFields = 5;  // test, setting, value, overload, unit
 constexpr std::size_t kIdentityFields = 3;
-constexpr int kNotAllowedNow = 1003;
-constexpr int kNoSuchTest = 6002;
 constexpr double kBeyondErrors = 1e6;
 
 constexpr std::array<std::string_view, 20> kUnits{"V",  "mV",  "kV",   "A",    "mA",   "µA",   "uA",
@@ -51,19 +49,21 @@ std::string Shown(const Message& message) { return VisibleLatin1(message.Line())
 
 void CheckReading(const Message& reply, std::vector<Reason>& doubts) {
   const auto& fields = reply.Parameters();
-  if (fields.size() != kReadingFields) {
+  if (fields.size() != keld_facts::kReadingFields) {
     doubts.push_back(
-        {"reading-fields", {Shown(reply), std::to_string(fields.size()), std::to_string(kReadingFields)}});
+        {"reading-fields",
+         {Shown(reply), std::to_string(fields.size()), std::to_string(keld_facts::kReadingFields)}});
     return;
   }
-  const auto value = NumberOf(fields[2]);
-  if (!value) doubts.push_back({"not-a-number", {fields[2]}});
-  if (value && *value < 0) doubts.push_back({"negative-reading", {fields[2]}});
-  if (Trimmed(fields[3]) != "0" && Trimmed(fields[3]) != "1")
-    doubts.push_back({"overload-mark", {fields[3]}});
-  if (Trimmed(fields[3]) == "1") doubts.push_back({"overload", {}});
-  if (std::find(kUnits.begin(), kUnits.end(), fields[4]) == kUnits.end())
-    doubts.push_back({"unknown-unit", {fields[4]}});
+  const auto value = NumberOf(fields[keld_facts::kValueField]);
+  if (!value) doubts.push_back({"not-a-number", {fields[keld_facts::kValueField]}});
+  if (value && *value < 0) doubts.push_back({"negative-reading", {fields[keld_facts::kValueField]}});
+  if (Trimmed(fields[keld_facts::kOverloadField]) != "0" &&
+      Trimmed(fields[keld_facts::kOverloadField]) != "1")
+    doubts.push_back({"overload-mark", {fields[keld_facts::kOverloadField]}});
+  if (Trimmed(fields[keld_facts::kOverloadField]) == "1") doubts.push_back({"overload", {}});
+  if (std::find(kUnits.begin(), kUnits.end(), fields[keld_facts::kUnitField]) == kUnits.end())
+    doubts.push_back({"unknown-unit", {fields[keld_facts::kUnitField]}});
 }
 
 void CheckIdentity(const Message& reply, std::vector<Reason>& doubts) {
@@ -73,8 +73,8 @@ void CheckIdentity(const Message& reply, std::vector<Reason>& doubts) {
     return;
   }
   if (Trimmed(fields[1]).empty()) doubts.push_back({"no-serial-number", {}});
-  if (Trimmed(fields[0]) != keld_facts::kTesterType)
-    doubts.push_back({"other-tester", {fields[0], std::string(keld_facts::kTesterType)}});
+  if (Trimmed(fields[0]) != keld_facts::kInstrument)
+    doubts.push_back({"other-tester", {fields[0], keld_facts::kInstrument}});
 }
 
 /// The number of an error reply, read as generously as by whoever acts on it; 0 when there is none.
@@ -90,30 +90,31 @@ int ErrorNumber(const Message& reply) {
 
 /// A test is recorded as not applicable on the tester's word. It counts only when the word is the right one.
 void CheckRefusal(const Message& command, int error, std::vector<Reason>& doubts) {
-  const bool startsTest = command.MnemonicText() == "STST";
-  if (error == kNotAllowedNow && startsTest) doubts.push_back({"refused-now", {}});
-  if (error == kNoSuchTest && !startsTest) doubts.push_back({"refused-elsewhere", {Shown(command)}});
+  const bool startsTest = command.MnemonicText() == keld_facts::kStartTest;
+  if (error == keld_facts::kNotAllowedNow && startsTest) doubts.push_back({"refused-now", {}});
+  if (error == keld_facts::kNoSuchTest && !startsTest)
+    doubts.push_back({"refused-elsewhere", {Shown(command)}});
 }
 
 }  // namespace
 
 std::optional<double> OhmsIn(const Message& reply) {
   const auto& fields = reply.Parameters();
-  if (reply.MnemonicText() != "gres" || fields.size() != kReadingFields) return {};
-  if (fields[4] != "Ohm" && fields[4] != "mOhm") return {};
-  const auto value = NumberOf(fields[2]);
-  return value && fields[4] == "mOhm" ? *value / 1000 : value;
+  if (reply.MnemonicText() != keld_facts::kReading || fields.size() != keld_facts::kReadingFields) return {};
+  if (fields[keld_facts::kUnitField] != "Ohm" && fields[keld_facts::kUnitField] != "mOhm") return {};
+  const auto value = NumberOf(fields[keld_facts::kValueField]);
+  return value && fields[keld_facts::kUnitField] == "mOhm" ? *value / 1000 : value;
 }
 
 std::vector<Reason> ReplyDoubts(const Message& command, const Message& reply) {
   std::vector<Reason> doubts;
   const auto& mnemonic = reply.MnemonicText();
-  if ((mnemonic == "stst" || mnemonic == "gres") &&
+  if ((mnemonic == keld_facts::kStarted || mnemonic == keld_facts::kReading) &&
       (NamesAnother(command, reply, 0) || NamesAnother(command, reply, 1)))
     doubts.push_back({"other-test-named", {Shown(reply), Shown(command)}});
-  if (mnemonic == "gres") CheckReading(reply, doubts);
-  if (mnemonic == "irem") CheckIdentity(reply, doubts);
-  if (mnemonic == "ERRM") CheckRefusal(command, ErrorNumber(reply), doubts);
+  if (mnemonic == keld_facts::kReading) CheckReading(reply, doubts);
+  if (mnemonic == keld_facts::kIdentity) CheckIdentity(reply, doubts);
+  if (mnemonic == keld_facts::kError) CheckRefusal(command, ErrorNumber(reply), doubts);
   return doubts;
 }
 

@@ -19,7 +19,7 @@ SavedSettings::SavedSettings(const orvik::IConfigData& configuration) {
   orvik::IXmlDocument& document = *xml_;
   node_ = document.CreateRoot("Configuration");
   configuration.Save(node_);
-  settings_ = document.FindElement("KELDConfig");
+  settings_ = document.FindElement(keld_facts::kSettingsNode);
 }
 
 std::int32_t MeasuringSettings(const orvik::ITestElement& element) {

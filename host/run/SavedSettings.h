@@ -7,6 +7,7 @@
 #include "OrvikTypeLib/IConfigData.h"
 #include "OrvikTypeLib/ITestElement.h"
 #include "OrvikTypeLib/IXmlNode.h"
+#include "host/plugins/keld/KeldNames.h"
 #include "host/services/XmlDocument.h"
 
 namespace bench {
@@ -14,8 +15,8 @@ namespace bench {
 /// The settings of an element as it saves them: the one way in which a host sees what stands in them.
 class SavedSettings {
  public:
-  static constexpr char kOptions[] = "Options";
-  static constexpr char kFilter[] = "ValueFilter";
+  static constexpr const char* kOptions = keld_facts::kOptionsAttribute;
+  static constexpr const char* kFilter = keld_facts::kFilterAttribute;
 
   explicit SavedSettings(const orvik::IConfigData& configuration);
 

@@ -14,13 +14,6 @@
 /// else has written since has no date. Errors of the registry file are `HostError` 75.
 namespace bench {
 
-/// Where the plug-in stores the values, as 32-bit integers in mOhm under the testers' serial numbers.
-inline constexpr std::int32_t kLeadsHive = static_cast<std::int32_t>(0x80000002U);
-inline constexpr char kLeadsKey[] = "Software\\Telvane\\orvik\\KELD(IN)\\MTI";
-
-/// More than this, in mOhm, is a bad contact and not the test leads.
-inline constexpr std::int32_t kMostLeadMilliohms = keld_facts::kMostLeads;
-
 /// One stored value.
 struct LeadCalibration {
   std::string serial;  ///< of the tester
@@ -29,8 +22,10 @@ struct LeadCalibration {
   /// When it was measured, such as "2026-11-21T14:03:22+01:00"; none when that is not known.
   std::optional<std::string> measured;
 
-  /// Whether test leads can have it: a number from 0 to `kMostLeadMilliohms`.
-  bool Plausible() const { return milliohms && *milliohms >= 0 && *milliohms <= kMostLeadMilliohms; }
+  /// Whether test leads can have it: a number from 0 to `keld_facts::kMostLeadMilliohms`.
+  bool Plausible() const {
+    return milliohms && *milliohms >= 0 && *milliohms <= keld_facts::kMostLeadMilliohms;
+  }
 };
 
 /// All stored values, by serial number.

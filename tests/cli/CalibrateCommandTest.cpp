@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 
+#include "host/plugins/keld/KeldNames.h"
 #include "host/services/LeadCalibrations.h"
 #include "tests/cli/CliTest.h"
 
@@ -18,7 +19,7 @@ class CalibrateCommandTest : public CliTest {
   }
   /// As another program does.
   void Store(const std::string& serial, const orvik::Variant& value) const {
-    Registry().Write(bench::kLeadsHive, bench::kLeadsKey, serial, value);
+    Registry().Write(bench::keld_facts::kRegistryHive, bench::keld_facts::kLeadsKey, serial, value);
   }
   /// Calibrates with a tester that reads this as test 410.
   Finished Calibrate(const std::string& reading, const Words& more = {}) const {

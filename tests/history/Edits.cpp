@@ -8,6 +8,7 @@
 #include "host/app/DocumentView.h"
 #include "host/app/limits/RecordOnlyMark.h"
 #include "host/app/limits/SetOfLimits.h"
+#include "host/plugins/keld/KeldNames.h"
 #include "host/run/SavedSettings.h"
 #include "host/services/LeadCalibrations.h"
 #include "host/standards/ElementLimits.h"
@@ -54,10 +55,11 @@ void EditsOf::Perform(const Operation& operation) {
 
 void EditsOf::StoreLeads(const Operation& operation) {
   auto& registry = *bench_.Host().Registry();
-  if (operation.number >= 0 && operation.number <= bench::kMostLeadMilliohms)
+  if (operation.number >= 0 && operation.number <= bench::keld_facts::kMostLeadMilliohms)
     bench::StoreLeads(registry, operation.text, operation.number, "2026-11-22T09:00:00+01:00");
   else  // which no program of this system does
-    registry.Write(bench::kLeadsHive, bench::kLeadsKey, operation.text, operation.number);
+    registry.Write(bench::keld_facts::kRegistryHive, bench::keld_facts::kLeadsKey, operation.text,
+                   operation.number);
 }
 
 void EditsOf::Make(const Operation& operation) {

@@ -2,6 +2,7 @@
 
 #include <fstream>
 
+#include "host/plugins/keld/KeldNames.h"
 #include "host/services/LeadCalibrations.h"
 #include "tests/host/Errors.h"
 #include "tests/host/TestFolder.h"
@@ -17,7 +18,7 @@ constexpr char kLater[] = "2026-11-23T08:00:00+01:00";
 class LeadCalibrationsTest : public testing::Test {
  protected:
   void WriteElsewhere(const std::string& serial, const orvik::Variant& value) {
-    RegistryStore(folder_.Path()).Write(kLeadsHive, kLeadsKey, serial, value);
+    RegistryStore(folder_.Path()).Write(keld_facts::kRegistryHive, keld_facts::kLeadsKey, serial, value);
   }
 
   TestFolder folder_;

@@ -5,6 +5,7 @@
 #include "OrvikTypeLib/IDialogForm.h"
 #include "host/elements/ElementFactory.h"
 #include "host/instruments/InstrumentColl.h"
+#include "host/plugins/keld/KeldNames.h"
 #include "host/run/DocumentRunner.h"
 #include "host/run/GuideToolbar.h"
 #include "host/run/LeadCalibrationGuard.h"
@@ -249,7 +250,7 @@ INSTANTIATE_TEST_SUITE_P(AtEveryCommand, CalibrationFaultTest,
 
 TEST_F(LeadCalibrationGuardTest, RefusesAnyOtherWriteOfAPlugIn) {
   const auto registry = keld::MKELDGlobalVars::RegistryReader();
-  ASSERT_TRUE(registry->CreateKey(bench::kLeadsHive, bench::kLeadsKey));
+  ASSERT_TRUE(registry->CreateKey(bench::keld_facts::kRegistryHive, bench::keld_facts::kLeadsKey));
   EXPECT_THROW(registry->WriteValue(kSerial, std::int32_t{35}), orvik::HostError);
   EXPECT_EQ(Stored(), -1);
 }
@@ -260,7 +261,7 @@ TEST_F(LeadCalibrationGuardTest, RefusesAnotherValueThanTheMeasuredOne) {
   Calibrate([&] {
     bench_.Application().CallAt(bench_.Application().Now() + std::chrono::minutes(1), [&] {
       const auto registry = keld::MKELDGlobalVars::RegistryReader();
-      registry->CreateKey(bench::kLeadsHive, bench::kLeadsKey);
+      registry->CreateKey(bench::keld_facts::kRegistryHive, bench::keld_facts::kLeadsKey);
       try {
         registry->WriteValue(kSerial, std::int32_t{124});
       } catch (const orvik::HostError& error) {
@@ -280,7 +281,7 @@ class UnwritableRegistry : public LeadCalibrationGuardTest, public testing::With
 TEST_P(UnwritableRegistry, IsReportedWithTheValueThatStillCounts) {
   const bool measuredBefore = GetParam();
   if (measuredBefore) Calibrate();
-  Registry().Write(bench::kLeadsHive, "Software\\X", "a", "b");
+  Registry().Write(bench::keld_facts::kRegistryHive, "Software\\X", "a", "b");
   const auto lock = bench_.Only().Folder() / "registry.lock";
   std::filesystem::remove(lock);
   std::filesystem::create_directory(lock);
@@ -298,7 +299,7 @@ TEST_P(UnwritableRegistry, IsReportedWithTheValueThatStillCounts) {
 INSTANTIATE_TEST_SUITE_P(WithAndWithoutAnEarlierValue, UnwritableRegistry, testing::Bool());
 
 TEST_F(LeadCalibrationGuardTest, AValueThatIsNotReadBackIsNotStored) {
-  Registry().StandIn(bench::kLeadsHive, bench::kLeadsKey, kSerial, "90");
+  Registry().StandIn(bench::keld_facts::kRegistryHive, bench::keld_facts::kLeadsKey, kSerial, "90");
   Calibrate();
   EXPECT_FALSE(guard_.Value());
   ASSERT_EQ(reasons_.size(), 1U);

@@ -28,7 +28,7 @@ void ExchangeView::Take(const WireRecord& record) {
     case WireRecord::Kind::kSent: {
       const auto command = VisibleLatin1(record.text);
       // The "STST" that ends test 210 is the one that starts it, and no attempt of that.
-      const bool again = waiting_ && command == command_ && attempt_ < kMaxAttempts;
+      const bool again = waiting_ && command == command_ && attempt_ < keld_facts::kMaxAttempts;
       attempt_ = again ? attempt_ + 1 : 1;
       command_ = command;
       waiting_ = true;
@@ -52,9 +52,10 @@ std::string ExchangeView::Text(orvik::platform::Time now) const {
   if (!open_) return "";
   if (Waiting(now))
     return Tr("%%1, attempt %%2 of %%3: reply within %%4",
-              {command_, std::to_string(attempt_), std::to_string(kMaxAttempts),
-               SecondsText(since_ + kReplyTime - now)});
-  const auto next = since_ + (waiting_ ? kReplyTime : orvik::platform::Time(0)) + kPause;
+              {command_, std::to_string(attempt_), std::to_string(keld_facts::kMaxAttempts),
+               SecondsText(since_ + keld_facts::kReplyTime - now)});
+  const auto next =
+      since_ + (waiting_ ? keld_facts::kReplyTime : orvik::platform::Time(0)) + keld_facts::kPause;
   const auto wait = SecondsText(next - now);
   if (waiting_) return Tr("no reply to %%1: next command in %%2", {command_, wait});
   if (command_.empty()) return Tr("port open: next command in %%1", {wait});

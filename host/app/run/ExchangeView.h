@@ -1,8 +1,8 @@
 #pragma once
 
-#include <chrono>
 #include <string>
 
+#include "host/plugins/keld/KeldProtocol.h"
 #include "host/serial/Wire.h"
 
 namespace bench {
@@ -10,12 +10,6 @@ namespace bench {
 /// How far the exchange with the tester has come, as seen on the wire.
 class ExchangeView {
  public:
-  /// The plug-in's pause before each command, and how long it waits for a reply; it sends a command at most
-  /// three times.
-  static constexpr std::chrono::milliseconds kPause{3500};
-  static constexpr std::chrono::milliseconds kReplyTime{2000};
-  static constexpr int kMaxAttempts = 3;
-
   /// Takes what has happened.
   void Take(const WireRecord& record);
 
@@ -25,11 +19,11 @@ class ExchangeView {
   /// Which attempt it was, from 1.
   int Attempt() const { return attempt_; }
   /// Whether its reply has not come in.
-  bool Waiting(orvik::platform::Time now) const { return waiting_ && now < since_ + kReplyTime; }
+  bool Waiting(orvik::platform::Time now) const { return waiting_ && now < since_ + keld_facts::kReplyTime; }
   /// Whether the command sent last has no reply, in time or not yet.
   bool Unanswered() const { return waiting_; }
   /// When the time for its reply is over.
-  orvik::platform::Time ReplyEnds() const { return since_ + kReplyTime; }
+  orvik::platform::Time ReplyEnds() const { return since_ + keld_facts::kReplyTime; }
   /// What goes on, for people to read: "STST,410,0, attempt 1 of 3: reply within 1.8 s".
   std::string Text(orvik::platform::Time now) const;
 

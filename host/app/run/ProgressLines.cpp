@@ -8,6 +8,7 @@
 #include "host/app/Colour.h"
 #include "host/app/DocumentLines.h"
 #include "host/judge/ReasonText.h"
+#include "host/plugins/keld/KeldProtocol.h"
 #include "host/report/VisibleText.h"
 #include "host/serial/Latin1.h"
 #include "host/services/TextCells.h"
@@ -70,7 +71,7 @@ void ProgressLines::Wire(const WireRecord& record) {
   if (record.kind != WireRecord::Kind::kSent) return;
   if (terminal_) return Redraw();
   Print("      " + Tr("%%1, attempt %%2 of %%3", {exchange_.Command(), std::to_string(exchange_.Attempt()),
-                                                  std::to_string(ExchangeView::kMaxAttempts)}));
+                                                  std::to_string(keld_facts::kMaxAttempts)}));
 }
 
 void ProgressLines::Prompted(const std::string& text) {

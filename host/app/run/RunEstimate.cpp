@@ -4,7 +4,7 @@
 #include <cmath>
 #include <cstdio>
 
-#include "host/app/run/ExchangeView.h"
+#include "host/plugins/keld/KeldProtocol.h"
 #include "host/services/Tr.h"
 
 namespace bench {
@@ -53,7 +53,7 @@ Time RunEstimate::Left(Time now) const {
   for (auto place = place_; place <= tests_.size(); ++place) commands += CommandsOf(tests_[place - 1]);
   commands -= std::min(answered_, CommandsOf(tests_[place_ - 1]));
   const auto reply = replies_ > 0 ? replyTime_ / static_cast<Time::rep>(replies_) : Time(0);
-  const auto whole = static_cast<Time::rep>(commands) * (ExchangeView::kPause + reply);
+  const auto whole = static_cast<Time::rep>(commands) * (keld_facts::kPause + reply);
   return std::max(whole - (now - answeredAt_), Time(0));
 }
 

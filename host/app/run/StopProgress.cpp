@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "host/plugins/keld/KeldProtocol.h"
 #include "host/serial/Message.h"
 #include "host/services/Tr.h"
 
@@ -12,8 +13,8 @@ using orvik::platform::Time;
 
 namespace {
 
-constexpr Time kAttempt = ExchangeView::kPause + ExchangeView::kReplyTime;
-constexpr Time kCommand = ExchangeView::kMaxAttempts * kAttempt;
+constexpr Time kAttempt = keld_facts::kPause + keld_facts::kReplyTime;
+constexpr Time kCommand = keld_facts::kMaxAttempts * kAttempt;
 /// "STST" and "EREM".
 constexpr int kClosingCommands = 2;
 
@@ -33,13 +34,14 @@ void StopProgress::Begin() {
 void StopProgress::Take(const WireRecord& record) {
   exchange_.Take(record);
   if (!begun_ || record.kind != WireRecord::Kind::kSent || exchange_.Attempt() > 1) return;
-  commandsLeft_ = record.message->MnemonicText() == "EREM" ? 0 : std::max(commandsLeft_ - 1, 1);
+  commandsLeft_ =
+      record.message->MnemonicText() == keld_facts::kEndSession ? 0 : std::max(commandsLeft_ - 1, 1);
 }
 
 Time StopProgress::Remaining() const {
   if (!exchange_.Open()) return Time(0);
   // A command that has its reply is over; one without has the rest of this attempt and those that are left.
-  const auto attemptsLeft = ExchangeView::kMaxAttempts - exchange_.Attempt();
+  const auto attemptsLeft = keld_facts::kMaxAttempts - exchange_.Attempt();
   const auto exchange =
       exchange_.Unanswered() ? exchange_.ReplyEnds() - loop_.Now() + attemptsLeft * kAttempt : Time(0);
   return std::max(exchange + commandsLeft_ * kCommand, Time(0));

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "host/app/StoredLeadsView.h"
+#include "host/plugins/keld/KeldProtocol.h"
 #include "host/plugins/keld/KeldTests.h"
 #include "host/run/ElementWalk.h"
 #include "host/serial/Message.h"
@@ -34,7 +35,8 @@ StoredLeadsNotice::StoredLeadsNotice(Wire& wire, const RegistryStore& registry, 
 }
 
 void StoredLeadsNotice::Watch(const WireRecord& record) {
-  if (record.kind != WireRecord::Kind::kReceived || record.message->MnemonicText() != "irem") return;
+  if (record.kind != WireRecord::Kind::kReceived || record.message->MnemonicText() != keld_facts::kIdentity)
+    return;
   const auto& identity = record.message->Parameters();
   if (identity.size() < 2 || identity[1] == known_) return;
   known_ = identity[1];
