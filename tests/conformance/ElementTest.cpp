@@ -185,26 +185,5 @@ TEST_F(KeldPlugInLoaded, ElementsShowTheHostNoError) {
   }
 }
 
-TEST_F(KeldPlugInLoaded, ElementsOwnTheirConfigurationAndLimits) {
-  const auto element = library_.NewTest();
-  const auto copy = element->Clone();
-  ASSERT_TRUE(element->Configuration());
-  ASSERT_TRUE(element->Limits());
-  EXPECT_EQ(element->Limits()->Owner(), element);
-  EXPECT_EQ(copy->Limits()->Owner(), copy);
-}
-
-TEST_F(KeldPlugInLoaded, ResultsOfAnElementAreReplacedByALoadedOne) {
-  const auto element = library_.NewTest();
-  EXPECT_FALSE(element->Result());
-  element->Load(library_.Parsed("<ResultItem MTI='3'><Status>2</Status></ResultItem>"), nullptr);
-  const auto first = element->Result();
-  element->Load(library_.Parsed("<ResultItem/>"), nullptr);
-  ASSERT_TRUE(element->Result());
-  EXPECT_NE(element->Result(), first);
-  EXPECT_EQ(element->Result()->Status(), 0);
-  EXPECT_EQ(element->Result()->MTIID(), 0);
-}
-
 }  // namespace
 }  // namespace conformance

@@ -11,7 +11,6 @@ namespace conformance {
 namespace {
 
 namespace classes = orvik::HostClasses;
-using Subjects = check::IHostChecker::Texts (check::IHostChecker::*)();
 
 class FaultyHost : public testing::Test {
  protected:
@@ -22,7 +21,7 @@ class FaultyHost : public testing::Test {
 
 struct Missing {
   const char* classId;
-  Subjects subject;
+  const char* subject;
 };
 
 void PrintTo(const Missing& missing, std::ostream* stream) { *stream << missing.classId; }
@@ -31,22 +30,19 @@ class HostWithoutClass : public FaultyHost, public testing::WithParamInterface<M
 
 TEST_P(HostWithoutClass, IsFoundOut) {
   library_.Host().Register(GetParam().classId, [] { return nullptr; });
-  EXPECT_FALSE((checker_.get()->*GetParam().subject)().empty());
+  EXPECT_FALSE(checker_->Check(GetParam().subject).empty());
 }
 
-INSTANTIATE_TEST_SUITE_P(Loaded, HostWithoutClass,
-                         testing::Values(Missing{classes::kTestElement, &check::IHostChecker::Elements},
-                                         Missing{classes::kTestContainer, &check::IHostChecker::Container},
-                                         Missing{classes::kLimit, &check::IHostChecker::Standards},
-                                         Missing{classes::kLanguageService, &check::IHostChecker::Language},
-                                         Missing{classes::kErrorLog, &check::IHostChecker::ErrorLog},
-                                         Missing{classes::kXmlDocument, &check::IHostChecker::Xml},
-                                         Missing{classes::kRegistryReader, &check::IHostChecker::Registry},
-                                         Missing{classes::kInstrumentRecord, &check::IHostChecker::Records},
-                                         Missing{classes::kToolbar, &check::IHostChecker::CompositeControls},
-                                         Missing{classes::kLimitView, &check::IHostChecker::LimitView},
-                                         Missing{"orvikCheck.XCheckControl",
-                                                 &check::IHostChecker::UserControls}));
+INSTANTIATE_TEST_SUITE_P(
+    Loaded, HostWithoutClass,
+    testing::Values(Missing{classes::kTestElement, "elements"}, Missing{classes::kTestContainer, "container"},
+                    Missing{classes::kLimit, "standards"}, Missing{classes::kLanguageService, "language"},
+                    Missing{classes::kErrorLog, "error log"}, Missing{classes::kXmlDocument, "XML"},
+                    Missing{classes::kRegistryReader, "registry"},
+                    Missing{classes::kInstrumentRecord, "records"},
+                    Missing{classes::kToolbar, "composite controls"},
+                    Missing{classes::kLimitView, "limit view"},
+                    Missing{"orvikCheck.XCheckControl", "user controls"}));
 
 /// Shows texts as they are written.
 class Untranslated final : public orvik::ILanguageService {
@@ -61,7 +57,7 @@ class Untranslated final : public orvik::ILanguageService {
 
 TEST_F(FaultyHost, ThatDoesNotTranslateIsFoundOut) {
   library_.Host().Register(classes::kLanguageService, [] { return std::make_shared<Untranslated>(); });
-  EXPECT_FALSE(checker_->Language().empty());
+  EXPECT_FALSE(checker_->Check("language").empty());
 }
 
 /// The worst fault of all: every value keeps every limit.
@@ -90,14 +86,14 @@ class Lenient final : public orvik::IStandard {
 
 TEST_F(FaultyHost, ThatPassesEverythingIsFoundOut) {
   library_.Host().Register(classes::kStandard, [] { return std::make_shared<Lenient>(); });
-  EXPECT_FALSE(checker_->Standards().empty());
+  EXPECT_FALSE(checker_->Check("standards").empty());
 }
 
 TEST_F(FaultyHost, WithoutThePortOrTheReportIsFoundOut) {
-  EXPECT_FALSE(checker_->SerialPort("a device that is not there").empty());
-  EXPECT_FALSE(checker_->Report(nullptr).empty());
+  EXPECT_FALSE(checker_->Check("serial port", {"no such device", nullptr, nullptr}).empty());
+  EXPECT_FALSE(checker_->Check("report").empty());
   library_.Line().AnswerBy([](const std::string&) {});
-  EXPECT_FALSE(checker_->SerialPort("CHECK").empty()) << "nobody answers";
+  EXPECT_FALSE(checker_->Check("serial port", {"CHECK", nullptr, nullptr}).empty()) << "nobody answers";
 }
 
 }  // namespace

@@ -31,29 +31,22 @@ void ExpectNone(const check::IHostChecker::Texts& findings) {
   for (const auto& finding : findings) ADD_FAILURE() << finding;
 }
 
-TEST_F(ReferenceHost, CreatesItsClasses) { ExpectNone(checker_->Classes()); }
-TEST_F(ReferenceHost, HasElements) { ExpectNone(checker_->Elements()); }
-TEST_F(ReferenceHost, HasContainers) { ExpectNone(checker_->Container()); }
-TEST_F(ReferenceHost, HasStandards) { ExpectNone(checker_->Standards()); }
-TEST_F(ReferenceHost, TranslatesTexts) { ExpectNone(checker_->Language()); }
-TEST_F(ReferenceHost, ReadsAndWritesXml) { ExpectNone(checker_->Xml()); }
-TEST_F(ReferenceHost, KeepsSettings) { ExpectNone(checker_->Registry()); }
-TEST_F(ReferenceHost, KeepsRecords) { ExpectNone(checker_->Records()); }
-TEST_F(ReferenceHost, HasWindows) { ExpectNone(checker_->Forms()); }
-TEST_F(ReferenceHost, HasControls) { ExpectNone(checker_->Controls()); }
-TEST_F(ReferenceHost, HasTimers) { ExpectNone(checker_->Timers()); }
-TEST_F(ReferenceHost, HoldsTheOperator) { ExpectNone(checker_->Modality()); }
-TEST_F(ReferenceHost, PlacesUserControls) { ExpectNone(checker_->UserControls()); }
-TEST_F(ReferenceHost, HasCompositeControls) { ExpectNone(checker_->CompositeControls()); }
-TEST_F(ReferenceHost, EditsLimits) { ExpectNone(checker_->LimitView()); }
+class ReferenceHostKeeps : public ReferenceHost, public testing::WithParamInterface<const char*> {};
+
+TEST_P(ReferenceHostKeeps, TheContract) { ExpectNone(checker_->Check(GetParam())); }
+
+INSTANTIATE_TEST_SUITE_P(Subjects, ReferenceHostKeeps,
+                         testing::Values("classes", "elements", "container", "standards", "language", "XML",
+                                         "registry", "records", "forms", "controls", "timers", "modality",
+                                         "user controls", "composite controls", "limit view"));
 
 TEST_F(ReferenceHost, HasASerialPort) {
-  ExpectNone(checker_->SerialPort("CHECK"));
+  ExpectNone(checker_->Check("serial port", {"CHECK", nullptr, nullptr}));
   EXPECT_EQ(library_.Wire().Sent(), std::vector<std::string>{"IREM"}) << "what was refused must not be sent";
 }
 
 TEST_F(ReferenceHost, LogsErrors) {
-  ExpectNone(checker_->ErrorLog());
+  ExpectNone(checker_->Check("error log"));
   const auto lines = library_.ErrorLines();
   ASSERT_EQ(lines.size(), 3U);
   EXPECT_NE(lines[0].find("CHECK\t0x8004A22C\t-2147179988\tCheckErrorLog\t3"), std::string::npos) << lines[0];
@@ -62,7 +55,7 @@ TEST_F(ReferenceHost, LogsErrors) {
 
 TEST_F(ReferenceHost, PrintsReports) {
   const auto report = std::make_shared<bench::ReportObject>();
-  ExpectNone(checker_->Report(report));
+  ExpectNone(checker_->Check("report", {"", report, nullptr}));
   EXPECT_EQ(report->Tables().size(), 2U) << "a refused table must not be printed";
   std::string text;
   for (const auto& table : report->Tables()) {
@@ -96,7 +89,7 @@ class ReferenceRun : public ReferenceHost {
 };
 
 TEST_F(ReferenceRun, ControlsRuns) {
-  ExpectNone(checker_->RunController(controller_));
+  ExpectNone(checker_->Check("run controller", {"", nullptr, controller_}));
   EXPECT_EQ(controller_->Asked(), orvik::Navigation::kNotApplicable);
   EXPECT_EQ(saved_, 2) << "each finished element is saved";
   EXPECT_EQ(controller_->orvik::IRunController::Standards(), standards_);

@@ -105,43 +105,5 @@ TEST_P(PlugIn, EndsWithoutTakingItsElementsAlong) {
   EXPECT_EQ(element->TestID(), GetParam().testId);
 }
 
-struct IconCase {
-  int testId;
-  int style;
-  int width;  ///< 0 for none
-};
-
-void PrintTo(const IconCase& icon, std::ostream* stream) {
-  *stream << "test " << icon.testId << " style " << icon.style;
-}
-
-class KeldIcons : public KeldPlugInLoaded, public testing::WithParamInterface<IconCase> {};
-
-TEST_P(KeldIcons, HaveTheSizeOfTheirKind) {
-  const auto picture = library_.PlugIn()->Icon(static_cast<std::int16_t>(GetParam().testId),
-                                               static_cast<std::int16_t>(GetParam().style));
-  ASSERT_EQ(picture != nullptr, GetParam().width > 0);
-  if (!picture) return;
-  EXPECT_EQ(picture->Width(), GetParam().width);
-  EXPECT_EQ(picture->Height(), 16);
-}
-
-// 6150 lies between "610" and "640" as a text, which is intended.
-INSTANTIATE_TEST_SUITE_P(Loaded, KeldIcons,
-                         testing::Values(IconCase{0, 0, 16}, IconCase{0, 1, 16}, IconCase{100, 1, 32},
-                                         IconCase{100, 0, 16}, IconCase{100, 7, 16}, IconCase{410, 1, 32},
-                                         IconCase{410, 0, 16}, IconCase{410, 2, 0}, IconCase{6150, 1, 32},
-                                         IconCase{5, 1, 0}, IconCase{5, 0, 16}));
-
-TEST_F(KeldPlugInLoaded, TellsTheThingsThatHostsKnowItBy) {
-  EXPECT_EQ(library_.PlugIn()->ID(), "KELD(IN)");
-  EXPECT_EQ(library_.PlugIn()->Name(), "KELD Safety Tester");
-  EXPECT_EQ(library_.PlugIn()->Version(), "2.2.2");
-  EXPECT_FALSE(library_.PlugIn()->ControlPanel());
-  EXPECT_FALSE(library_.PlugIn()->CreateDUTData());
-  EXPECT_FALSE(library_.PlugIn()->PlugInMenu());
-  EXPECT_FALSE(library_.PlugIn()->Setup());
-}
-
 }  // namespace
 }  // namespace conformance

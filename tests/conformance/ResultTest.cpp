@@ -70,48 +70,5 @@ TEST_P(Result, PrintsWhatWasTypedAsText) {
   EXPECT_NO_THROW(result->PrintReport(std::make_shared<bench::ReportObject>(), element_));
 }
 
-TEST_F(KeldPlugInLoaded, ResultsHoldOneMeasurementUnderAnyIndex) {
-  const auto result = library_.New<orvik::IResultData>("orvikKELD.CKELDResultData");
-  result->Load(library_.Parsed("<ResultItem MTI='4'><Measurement/></ResultItem>"), nullptr);
-  EXPECT_EQ(result->MeasurementCount(), 1);
-  EXPECT_EQ(result->MTIID(), 4);
-  const auto measurement = result->Measurement(1);
-  ASSERT_TRUE(measurement);
-  EXPECT_EQ(result->Measurement(-1), measurement);
-  EXPECT_EQ(result->Measurement(99), measurement);
-}
-
-TEST_F(KeldPlugInLoaded, ResultsWithACommentHaveADialog) {
-  const auto result = library_.New<orvik::IResultData>("orvikKELD.CKELDResultData");
-  EXPECT_FALSE(result->HasDialog());
-  result->SetComment("cracked");
-  EXPECT_TRUE(result->HasDialog());
-  EXPECT_TRUE(result->CreateDialog());
-  result->SetComment("");
-  EXPECT_FALSE(result->HasDialog());
-}
-
-TEST_F(KeldPlugInLoaded, ResultsKeepTheOrderOfTheirParts) {
-  const auto result = library_.New<orvik::IResultData>("orvikKELD.CKELDResultData");
-  result->Load(library_.Parsed("<ResultItem MTI='0'><Measurement/><Comment>c</Comment>"
-                               "<ServiceRecord Code='P'/><Status>1</Status></ResultItem>"),
-               nullptr);
-  const auto node = result->Save(library_.NewNode());
-  EXPECT_FALSE(node->HasAttribute("MTI"));
-  std::string order;
-  for (auto part = node->FirstChild(); part; part = part->NextSibling()) order += part->Name() + " ";
-  EXPECT_EQ(order, "Status ServiceRecord Comment Measurement ");
-}
-
-TEST_F(KeldPlugInLoaded, ResultsPassTheHostsErrorOn) {
-  const auto result = library_.New<orvik::IResultData>("orvikKELD.CKELDResultData");
-  EXPECT_NE(ErrorNumberOf([&] {
-              result->Load(library_.Parsed("<ResultItem><Status>x</Status></ResultItem>"), nullptr);
-            }),
-            0);
-  EXPECT_NE(ErrorNumberOf([&] { result->Save(nullptr); }), 0);
-  EXPECT_EQ(result->Status(), 0);
-}
-
 }  // namespace
 }  // namespace conformance

@@ -228,7 +228,7 @@ TEST_F(CatalogueBuilder, LogsATextThatIsNoXml) {
     EXPECT_EQ(Faults(), ++logged) << length;
   }
   for (const char* xml :
-       {"no xml", "<TemplateData></Other>", "<TemplateData/><TemplateData/>", "\xff\xfe<"}) {
+       {" ", "no xml", "<TemplateData></Other>", "<TemplateData/><TemplateData/>", "\xff\xfe<"}) {
     EXPECT_EQ(Build(xml)->Count(), 0) << xml;
     EXPECT_EQ(Faults(), ++logged) << xml;
   }

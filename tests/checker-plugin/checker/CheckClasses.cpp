@@ -4,7 +4,7 @@
 
 namespace check {
 
-void CheckClasses(Findings& findings) {
+void CheckClasses(Findings& findings, const HostParts&) {
   namespace classes = orvik::HostClasses;
   for (const auto* id :
        {classes::kTestElement, classes::kTestContainer, classes::kStandardColl, classes::kStandard,

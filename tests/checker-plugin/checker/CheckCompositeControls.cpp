@@ -105,16 +105,9 @@ void ProgressBar(Findings& findings, IForm& form) {
 
 }  // namespace
 
-void CheckCompositeControls(Findings& findings) {
-  const auto onForm = [&](const std::string& what, void (*check)(Findings&, IForm&)) {
-    const auto form = TheHost().Application()->CreateForm("FComposite");
-    form->Show();
-    findings.Try(what, [&] { check(findings, *form); });
-    form->Unload();
-  };
-  onForm("toolbar", Toolbar);
-  onForm("content pane", ContentPane);
-  onForm("progress bar", ProgressBar);
+void CheckCompositeControls(Findings& findings, const HostParts&) {
+  RunStepsOnForms(findings,
+                  {{"toolbar", Toolbar}, {"content pane", ContentPane}, {"progress bar", ProgressBar}});
 }
 
 }  // namespace check

@@ -151,13 +151,13 @@ void TooDeep(Findings& findings) {
 
 }  // namespace
 
-void CheckContainer(Findings& findings) {
-  findings.Try("places", [&] { Places(findings); });
-  findings.Try("finding", [&] { Finding(findings); });
-  findings.Try("removing", [&] { Removing(findings); });
-  findings.Try("circles", [&] { Circles(findings); });
-  findings.Try("copies", [&] { DeepCopies(findings); });
-  findings.Try("deep nesting", [&] { TooDeep(findings); });
+void CheckContainer(Findings& findings, const HostParts&) {
+  RunSteps(findings, {{"places", Places},
+                      {"finding", Finding},
+                      {"removing", Removing},
+                      {"circles", Circles},
+                      {"copies", DeepCopies},
+                      {"deep nesting", TooDeep}});
 }
 
 }  // namespace check

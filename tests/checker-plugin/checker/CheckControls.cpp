@@ -218,20 +218,14 @@ void Others(Findings& findings, IForm& form) {
 
 }  // namespace
 
-void CheckControls(Findings& findings) {
-  const auto onForm = [&](const std::string& what, void (*check)(Findings&, IForm&)) {
-    const auto form = TheHost().Application()->CreateForm("FControls");
-    form->Show();
-    findings.Try(what, [&] { check(findings, *form); });
-    form->Unload();
-  };
-  onForm("what controls have in common", Common);
-  onForm("text boxes", TextBoxes);
-  onForm("combo boxes", ComboBoxes);
-  onForm("lists", Lists);
-  onForm("trees", Trees);
-  onForm("toolbars", Toolbars);
-  onForm("other controls", Others);
+void CheckControls(Findings& findings, const HostParts&) {
+  RunStepsOnForms(findings, {{"what controls have in common", Common},
+                             {"text boxes", TextBoxes},
+                             {"combo boxes", ComboBoxes},
+                             {"lists", Lists},
+                             {"trees", Trees},
+                             {"toolbars", Toolbars},
+                             {"other controls", Others}});
 }
 
 }  // namespace check

@@ -178,13 +178,13 @@ void Storage(Findings& findings) {
 
 }  // namespace
 
-void CheckElements(Findings& findings) {
-  findings.Try("identity", [&] { Identity(findings); });
-  findings.Try("texts", [&] { Texts(findings); });
-  findings.Try("parts", [&] { Parts(findings); });
-  findings.Try("settings", [&] { Settings(findings); });
-  findings.Try("cloning", [&] { Clones(findings); });
-  findings.Try("saving and loading", [&] { Storage(findings); });
+void CheckElements(Findings& findings, const HostParts&) {
+  RunSteps(findings, {{"identity", Identity},
+                      {"texts", Texts},
+                      {"parts", Parts},
+                      {"settings", Settings},
+                      {"cloning", Clones},
+                      {"saving and loading", Storage}});
 }
 
 }  // namespace check

@@ -7,7 +7,7 @@
 namespace check {
 
 // What was written is durable, but no plug-in can read it back: whoever runs the check looks at the log.
-void CheckErrorLog(Findings& findings) {
+void CheckErrorLog(Findings& findings, const HostParts&) {
   const auto log = NewHostObject<orvik::IErrorLog>(orvik::HostClasses::kErrorLog);
   findings.Try("an entry without values", [&] {
     log->LogEntry(names::kPlugInId, static_cast<std::int32_t>(0x8004A22C), "CheckErrorLog", 3, {}, {}, {}, {},

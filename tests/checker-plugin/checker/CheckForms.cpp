@@ -155,14 +155,14 @@ void Lifetime(Findings& findings) {
 
 }  // namespace
 
-void CheckForms(Findings& findings) {
-  findings.Try("loading", [&] { Loading(findings); });
-  findings.Try("showing", [&] { Showing(findings); });
-  findings.Try("keys", [&] { Keys(findings); });
-  findings.Try("focus", [&] { Focus(findings); });
-  findings.Try("closing", [&] { Closing(findings); });
-  findings.Try("resizing", [&] { Resizing(findings); });
-  findings.Try("lifetime", [&] { Lifetime(findings); });
+void CheckForms(Findings& findings, const HostParts&) {
+  RunSteps(findings, {{"loading", Loading},
+                      {"showing", Showing},
+                      {"keys", Keys},
+                      {"focus", Focus},
+                      {"closing", Closing},
+                      {"resizing", Resizing},
+                      {"lifetime", Lifetime}});
 }
 
 }  // namespace check

@@ -45,9 +45,8 @@ void Captions(Findings& findings) {
 
 }  // namespace
 
-void CheckLanguage(Findings& findings) {
-  findings.Try("texts", [&] { NumberedTexts(findings); });
-  findings.Try("captions", [&] { Captions(findings); });
+void CheckLanguage(Findings& findings, const HostParts&) {
+  RunSteps(findings, {{"texts", NumberedTexts}, {"captions", Captions}});
 }
 
 }  // namespace check

@@ -58,7 +58,7 @@ void Operations(Findings& findings, orvik::ILimitView& view, orvik::platform::IC
 
 }  // namespace
 
-void CheckLimitView(Findings& findings) {
+void CheckLimitView(Findings& findings, const HostParts&) {
   const auto form = TheHost().Application()->CreateForm("FLimits");
   form->Show();
   findings.Try("the view", [&] {

@@ -76,10 +76,8 @@ void Nesting(Findings& findings) {
 
 }  // namespace
 
-void CheckModality(Findings& findings) {
-  findings.Try("blocking", [&] { Blocking(findings); });
-  findings.Try("ending", [&] { Ending(findings); });
-  findings.Try("nesting", [&] { Nesting(findings); });
+void CheckModality(Findings& findings, const HostParts&) {
+  RunSteps(findings, {{"blocking", Blocking}, {"ending", Ending}, {"nesting", Nesting}});
 }
 
 }  // namespace check

@@ -79,10 +79,10 @@ void InstrumentRecords(Findings& findings) {
 
 }  // namespace
 
-void CheckRecords(Findings& findings) {
-  findings.Try("values and states", [&] { ValuesAndStates(findings); });
-  findings.Try("service records", [&] { ServiceRecords(findings); });
-  findings.Try("instrument records", [&] { InstrumentRecords(findings); });
+void CheckRecords(Findings& findings, const HostParts&) {
+  RunSteps(findings, {{"values and states", ValuesAndStates},
+                      {"service records", ServiceRecords},
+                      {"instrument records", InstrumentRecords}});
 }
 
 }  // namespace check

@@ -54,9 +54,8 @@ void Values(Findings& findings) {
 
 }  // namespace
 
-void CheckRegistry(Findings& findings) {
-  findings.Try("a reader without key", [&] { Closed(findings); });
-  findings.Try("values", [&] { Values(findings); });
+void CheckRegistry(Findings& findings, const HostParts&) {
+  RunSteps(findings, {{"a reader without key", Closed}, {"values", Values}});
 }
 
 }  // namespace check

@@ -3,7 +3,8 @@
 
 namespace check {
 
-void CheckReport(Findings& findings, const std::shared_ptr<orvik::IReport>& report) {
+void CheckReport(Findings& findings, const HostParts& parts) {
+  const auto& report = parts.report;
   if (!report) return findings.Expect(false, "there is a report");
   const auto width = report->Metric(10);
   findings.Expect(width > 3360, "a page is wide enough for a result table");

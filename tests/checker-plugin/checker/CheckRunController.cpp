@@ -54,10 +54,11 @@ void Notices(Findings& findings, orvik::IRunController& controller) {
 
 }  // namespace
 
-void CheckRunController(Findings& findings, const std::shared_ptr<orvik::IRunController>& controller) {
-  findings.Try("standards of a run", [&] { Standards(findings, *controller); });
-  findings.Try("instruments of a run", [&] { Instruments(findings, *controller); });
-  findings.Try("notices of a run", [&] { Notices(findings, *controller); });
+void CheckRunController(Findings& findings, const HostParts& parts) {
+  if (!parts.controller) return findings.Expect(false, "there is a run controller");
+  findings.Try("standards of a run", [&] { Standards(findings, *parts.controller); });
+  findings.Try("instruments of a run", [&] { Instruments(findings, *parts.controller); });
+  findings.Try("notices of a run", [&] { Notices(findings, *parts.controller); });
 }
 
 }  // namespace check

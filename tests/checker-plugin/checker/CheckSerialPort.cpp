@@ -64,12 +64,12 @@ void Closing(Findings& findings, orvik::IPort& port) {
 
 }  // namespace
 
-void CheckSerialPort(Findings& findings, const std::string& device) {
+void CheckSerialPort(Findings& findings, const HostParts& parts) {
   const auto application = NewHostObject<orvik::ICommApplication>(orvik::HostClasses::kCommApplication);
   const auto manager = application->PortManager();
   findings.Expect(manager->FindPort("a device that nobody has") < 1, "an unknown device has no port");
-  const auto number = manager->FindPort(device);
-  if (number < 1) return findings.Expect(false, "the device " + device + " has a port");
+  const auto number = manager->FindPort(parts.device);
+  if (number < 1) return findings.Expect(false, "the device " + parts.device + " has a port");
   for (const std::int32_t wrong : {0, -1, 4711})
     findings.Refused("port number " + std::to_string(wrong), [&] { manager->OpenPort(wrong, kSettings); });
   for (const auto* settings :

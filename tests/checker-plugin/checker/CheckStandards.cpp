@@ -148,11 +148,11 @@ void Storage(Findings& findings) {
 
 }  // namespace
 
-void CheckStandards(Findings& findings) {
-  findings.Try("bounds", [&] { Bounds(findings); });
-  findings.Try("verdicts", [&] { Verdicts(findings); });
-  findings.Try("collections", [&] { Collections(findings); });
-  findings.Try("saving and loading", [&] { Storage(findings); });
+void CheckStandards(Findings& findings, const HostParts&) {
+  RunSteps(findings, {{"bounds", Bounds},
+                      {"verdicts", Verdicts},
+                      {"collections", Collections},
+                      {"saving and loading", Storage}});
 }
 
 }  // namespace check

@@ -79,10 +79,8 @@ void Clock(Findings& findings) {
 
 }  // namespace
 
-void CheckTimers(Findings& findings) {
-  findings.Try("ticks", [&] { Ticks(findings); });
-  findings.Try("posting", [&] { Posting(findings); });
-  findings.Try("the clock", [&] { Clock(findings); });
+void CheckTimers(Findings& findings, const HostParts&) {
+  RunSteps(findings, {{"ticks", Ticks}, {"posting", Posting}, {"the clock", Clock}});
 }
 
 }  // namespace check

@@ -90,17 +90,11 @@ void Lifetime(Findings& findings, IForm& form) {
 
 }  // namespace
 
-void CheckUserControls(Findings& findings) {
-  const auto onForm = [&](const std::string& what, void (*check)(Findings&, IForm&)) {
-    const auto form = TheHost().Application()->CreateForm("FUserControls");
-    form->Show();
-    findings.Try(what, [&] { check(findings, *form); });
-    form->Unload();
-  };
-  onForm("placing", Placing);
-  onForm("extender properties", ExtenderProperties);
-  onForm("docking", Docking);
-  onForm("lifetime", Lifetime);
+void CheckUserControls(Findings& findings, const HostParts&) {
+  RunStepsOnForms(findings, {{"placing", Placing},
+                             {"extender properties", ExtenderProperties},
+                             {"docking", Docking},
+                             {"lifetime", Lifetime}});
 }
 
 }  // namespace check

@@ -113,12 +113,12 @@ void Depth(Findings& findings) {
 
 }  // namespace
 
-void CheckXml(Findings& findings) {
-  findings.Try("reading", [&] { Reading(findings); });
-  findings.Try("malformed texts", [&] { Malformed(findings); });
-  findings.Try("writing", [&] { Writing(findings); });
-  findings.Try("appending", [&] { Appending(findings); });
-  findings.Try("depth", [&] { Depth(findings); });
+void CheckXml(Findings& findings, const HostParts&) {
+  RunSteps(findings, {{"reading", Reading},
+                      {"malformed texts", Malformed},
+                      {"writing", Writing},
+                      {"appending", Appending},
+                      {"depth", Depth}});
 }
 
 }  // namespace check

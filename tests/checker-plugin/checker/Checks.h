@@ -1,36 +1,41 @@
 #pragma once
 
-#include <memory>
+#include <initializer_list>
 #include <string>
+#include <utility>
 
+#include "platform/IForm.h"
+#include "tests/checker-plugin/IHostChecker.h"
 #include "tests/checker-plugin/checker/Findings.h"
 
-namespace orvik {
-class IReport;
-class IRunController;
-}  // namespace orvik
-
-// One function a subject, each in a file of its name.
+// One function for each subject, in a file of its name.
 namespace check {
 
-void CheckClasses(Findings& findings);
-void CheckElements(Findings& findings);
-void CheckContainer(Findings& findings);
-void CheckStandards(Findings& findings);
-void CheckLanguage(Findings& findings);
-void CheckErrorLog(Findings& findings);
-void CheckXml(Findings& findings);
-void CheckRegistry(Findings& findings);
-void CheckRecords(Findings& findings);
-void CheckSerialPort(Findings& findings, const std::string& device);
-void CheckReport(Findings& findings, const std::shared_ptr<orvik::IReport>& report);
-void CheckRunController(Findings& findings, const std::shared_ptr<orvik::IRunController>& controller);
-void CheckForms(Findings& findings);
-void CheckControls(Findings& findings);
-void CheckTimers(Findings& findings);
-void CheckModality(Findings& findings);
-void CheckUserControls(Findings& findings);
-void CheckCompositeControls(Findings& findings);
-void CheckLimitView(Findings& findings);
+void CheckClasses(Findings& findings, const HostParts&);
+void CheckElements(Findings& findings, const HostParts&);
+void CheckContainer(Findings& findings, const HostParts&);
+void CheckStandards(Findings& findings, const HostParts&);
+void CheckLanguage(Findings& findings, const HostParts&);
+void CheckErrorLog(Findings& findings, const HostParts&);
+void CheckXml(Findings& findings, const HostParts&);
+void CheckRegistry(Findings& findings, const HostParts&);
+void CheckRecords(Findings& findings, const HostParts&);
+void CheckSerialPort(Findings& findings, const HostParts& parts);
+void CheckReport(Findings& findings, const HostParts& parts);
+void CheckRunController(Findings& findings, const HostParts& parts);
+void CheckForms(Findings& findings, const HostParts&);
+void CheckControls(Findings& findings, const HostParts&);
+void CheckTimers(Findings& findings, const HostParts&);
+void CheckModality(Findings& findings, const HostParts&);
+void CheckUserControls(Findings& findings, const HostParts&);
+void CheckCompositeControls(Findings& findings, const HostParts&);
+void CheckLimitView(Findings& findings, const HostParts&);
+
+/// Runs the steps one by one; each error is noted under the step's name and the next one runs.
+using Steps = std::initializer_list<std::pair<const char*, void (*)(Findings&)>>;
+void RunSteps(Findings& findings, Steps steps);
+/// The same with a form of its own, shown, for each step.
+using FormSteps = std::initializer_list<std::pair<const char*, void (*)(Findings&, orvik::platform::IForm&)>>;
+void RunStepsOnForms(Findings& findings, FormSteps steps);
 
 }  // namespace check
