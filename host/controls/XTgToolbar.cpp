@@ -40,7 +40,7 @@ void XTgToolbar::Build(orvik::platform::IPanel& panel) {
   }
   status_ = panel.AddLabel("lblStatus");
   panel.AddLabel("lblJudgement")->SetVisible(false);
-  chosen_ = toolbar_->CommandChosen().Subscribe([this](int command) { Tell(command); });
+  chosen_ = toolbar_->CommandChosen().Subscribe([this](int command) { Notify(command); });
 
   orvik::platform::Grid grid;
   grid.rows = {{}, {}};
@@ -50,7 +50,7 @@ void XTgToolbar::Build(orvik::platform::IPanel& panel) {
   panel.SetGrid(grid);
 }
 
-void XTgToolbar::Tell(int command) {
+void XTgToolbar::Notify(int command) {
   if (const auto listener = listener_.lock()) listener->OnCommand(command);
 }
 

@@ -32,7 +32,7 @@ class XTgToolbar final : public virtual orvik::ITgToolbar, public HostControl {
   void ITgToolbar_Click(std::int32_t lCommand) override;
 
   void Build(orvik::platform::IPanel& panel) override;
-  void Tell(int command);
+  void Notify(int command);
 
   std::shared_ptr<orvik::platform::IToolbar> toolbar_;
   std::shared_ptr<orvik::platform::ILabel> status_;

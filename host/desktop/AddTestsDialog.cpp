@@ -14,8 +14,7 @@
 #include <map>
 
 #include "host/services/Tr.h"
-#include "host/toolkit/qt/Pictures.h"
-#include "host/toolkit/qt/Texts.h"
+#include "host/toolkit/qt/Conversions.h"
 
 namespace bench::desktop {
 

@@ -18,8 +18,8 @@
 #include "host/desktop/MainWindow.h"
 #include "host/run/StopSignals.h"
 #include "host/services/Tr.h"
+#include "host/toolkit/qt/Conversions.h"
 #include "host/toolkit/qt/Screen.h"
-#include "host/toolkit/qt/Texts.h"
 
 namespace bench::desktop {
 

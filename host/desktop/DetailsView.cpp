@@ -10,7 +10,7 @@
 #include "host/pdf/PdfStyle.h"
 #include "host/report/HtmlText.h"
 #include "host/services/Tr.h"
-#include "host/toolkit/qt/Texts.h"
+#include "host/toolkit/qt/Conversions.h"
 
 namespace bench::desktop {
 

@@ -12,7 +12,7 @@
 #include <QWindow>
 
 #include "host/services/Tr.h"
-#include "host/toolkit/qt/Texts.h"
+#include "host/toolkit/qt/Conversions.h"
 
 namespace bench::desktop {
 

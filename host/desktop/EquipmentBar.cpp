@@ -6,7 +6,7 @@
 
 #include "host/desktop/PlainTextValidator.h"
 #include "host/services/Tr.h"
-#include "host/toolkit/qt/Texts.h"
+#include "host/toolkit/qt/Conversions.h"
 
 namespace bench::desktop {
 

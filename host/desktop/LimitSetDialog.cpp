@@ -7,7 +7,7 @@
 #include <QVBoxLayout>
 
 #include "host/services/Tr.h"
-#include "host/toolkit/qt/Texts.h"
+#include "host/toolkit/qt/Conversions.h"
 
 namespace bench::desktop {
 

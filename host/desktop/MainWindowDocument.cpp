@@ -17,7 +17,7 @@
 #include "host/elements/ElementFactory.h"
 #include "host/run/ElementText.h"
 #include "host/services/Tr.h"
-#include "host/toolkit/qt/Texts.h"
+#include "host/toolkit/qt/Conversions.h"
 #include "platform/IForm.h"
 
 namespace bench::desktop {

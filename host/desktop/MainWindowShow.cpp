@@ -17,7 +17,7 @@
 #include "host/desktop/TesterBox.h"
 #include "host/desktop/VerdictBar.h"
 #include "host/services/Tr.h"
-#include "host/toolkit/qt/Texts.h"
+#include "host/toolkit/qt/Conversions.h"
 
 namespace bench::desktop {
 

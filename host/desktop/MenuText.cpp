@@ -2,7 +2,7 @@
 
 #include <QRegularExpression>
 
-#include "host/toolkit/qt/Texts.h"
+#include "host/toolkit/qt/Conversions.h"
 
 namespace bench::desktop {
 

@@ -1,7 +1,7 @@
 #include "host/desktop/PlainTextValidator.h"
 
 #include "host/services/PlainText.h"
-#include "host/toolkit/qt/Texts.h"
+#include "host/toolkit/qt/Conversions.h"
 
 namespace bench::desktop {
 

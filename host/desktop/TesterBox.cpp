@@ -9,7 +9,7 @@
 
 #include "host/app/InputError.h"
 #include "host/services/Tr.h"
-#include "host/toolkit/qt/Texts.h"
+#include "host/toolkit/qt/Conversions.h"
 
 namespace bench::desktop {
 

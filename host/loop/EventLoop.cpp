@@ -35,8 +35,8 @@ void EventLoop::Post(std::function<void()> work) {
   WorkAdded();
 }
 
-void EventLoop::SetSleeper(ISleeper* sleeper) {
-  sleeper_ = sleeper;
+void EventLoop::SetDispatcher(IEventDispatcher* dispatcher) {
+  dispatcher_ = dispatcher;
   WatchesChanged();
   WorkAdded();
 }
@@ -48,11 +48,11 @@ std::chrono::nanoseconds EventLoop::UntilWork() const {
 }
 
 void EventLoop::WorkAdded() {
-  if (sleeper_) sleeper_->WorkAdded();
+  if (dispatcher_) dispatcher_->WorkAdded();
 }
 
 void EventLoop::WatchesChanged() {
-  if (sleeper_) sleeper_->Watch(poller_.Descriptors());
+  if (dispatcher_) dispatcher_->Watch(poller_.Descriptors());
 }
 
 bool EventLoop::Process() { return Round(std::chrono::nanoseconds(0)); }
@@ -80,9 +80,9 @@ bool EventLoop::Pending() const {
 }
 
 bool EventLoop::Round(std::chrono::nanoseconds sleep) {
-  if (sleeper_) {
+  if (dispatcher_) {
     // Before the marks: what the operator does meanwhile belongs to this round.
-    sleeper_->Sleep(sleep);
+    dispatcher_->Sleep(sleep);
     poller_.EmptyWakeDescriptor();
     sleep = std::chrono::nanoseconds::zero();
   }

@@ -6,11 +6,11 @@
 #include <functional>
 #include <utility>
 
-#include "host/loop/CallQueue.h"
 #include "host/loop/Clock.h"
+#include "host/loop/IEventDispatcher.h"
 #include "host/loop/ILoop.h"
-#include "host/loop/ISleeper.h"
 #include "host/loop/Poller.h"
+#include "host/loop/TimerQueue.h"
 #include "platform/Event.h"
 
 namespace bench {
@@ -45,8 +45,8 @@ class EventLoop final : public ILoop {
   void Wake() noexcept { poller_.Wake(); }
   orvik::platform::Event<>& Woken() { return woken_; }
 
-  /// From now on all sleeping is done there; empty: here. The sleeper lives until it is taken away again.
-  void SetSleeper(ISleeper* sleeper);
+  /// From now on all sleeping is done there; empty: here. The dispatcher lives until it is taken away again.
+  void SetDispatcher(IEventDispatcher* dispatcher);
   /// How long the loop may sleep when nothing else happens: 0 when work is pending, the longest time there is
   /// when nothing is due. On a virtual clock nothing falls due by waiting.
   std::chrono::nanoseconds UntilWork() const;
@@ -67,14 +67,14 @@ class EventLoop final : public ILoop {
   bool RunCalls(std::uint64_t mark);
 
   Clock clock_;
-  CallQueue calls_;
+  TimerQueue calls_;
   Poller poller_;
   std::deque<std::pair<std::uint64_t, std::function<void()>>> posted_;
   std::uint64_t nextPosted_ = 0;
   // The time whose calls were run last.
   orvik::platform::Time lastRound_{0};
   orvik::platform::Event<> woken_;
-  ISleeper* sleeper_ = nullptr;
+  IEventDispatcher* dispatcher_ = nullptr;
 };
 
 }  // namespace bench

@@ -5,7 +5,7 @@
 
 #include "OrvikTypeLib/IPicture.h"
 #include "host/desktop/AddTestsDialog.h"
-#include "host/toolkit/qt/Pictures.h"
+#include "host/toolkit/qt/Conversions.h"
 #include "tests/desktop/DesktopTest.h"
 
 namespace desktop_test {

@@ -17,7 +17,7 @@
 #include <QTreeView>
 #include <QTreeWidget>
 
-#include "tests/qt/ScreenDesk.h"
+#include "tests/qt/ScreenTest.h"
 
 namespace bench::headless {
 namespace {
@@ -26,7 +26,7 @@ using support::Inner;
 namespace person = support::person;
 using Texts = std::vector<std::string>;
 
-class ControlsOnScreen : public ScreenDesk {};
+class ControlsOnScreen : public ScreenTest {};
 
 TEST_F(ControlsOnScreen, AButtonIsClickedByMouseAndByKeys) {
   auto button = NewForm("F").AddButton("cmdGo");
@@ -190,7 +190,7 @@ TEST_F(ControlsOnScreen, ACheckMarkThatAHandlerSetsBackIsShownSo) {
   EXPECT_TRUE(tree->Checked("a"));
 }
 
-class ListOnScreen : public ScreenDesk {
+class ListOnScreen : public ScreenTest {
  protected:
   ListOnScreen() {
     list = NewForm("F").AddListView("lvwResults");
@@ -267,7 +267,7 @@ TEST_F(ListOnScreen, AHundredThousandRowsAreNotCopied) {
   EXPECT_EQ(Index(99999, 0).data().toString(), "");
 }
 
-class ToolbarOnScreen : public ScreenDesk {
+class ToolbarOnScreen : public ScreenTest {
  protected:
   ToolbarOnScreen() {
     toolbar = NewForm("F").AddToolbar("tbr");

@@ -7,7 +7,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "tests/qt/ScreenDesk.h"
+#include "tests/qt/ScreenTest.h"
 
 namespace bench::headless {
 namespace {
@@ -15,7 +15,7 @@ namespace {
 namespace person = support::person;
 using Texts = std::vector<std::string>;
 
-class FormsOnScreen : public ScreenDesk {
+class FormsOnScreen : public ScreenTest {
  protected:
   /// A form with a button of its own.
   std::shared_ptr<platform::IForm> Window(const std::string& name) {

@@ -9,8 +9,8 @@
 
 #include "host/toolkit/headless/Form.h"
 #include "host/toolkit/qt/Screen.h"
-#include "tests/qt/Mirror.h"
 #include "tests/qt/Person.h"
+#include "tests/qt/WidgetDifferences.h"
 #include "tests/ui/GuideTest.h"
 
 // Whole tests on the simulated tester, operated by mouse at the real widgets.

@@ -5,7 +5,7 @@
 
 #include "host/toolkit/qt/Contrast.h"
 #include "host/toolkit/qt/ListModel.h"
-#include "tests/qt/ScreenDesk.h"
+#include "tests/qt/ScreenTest.h"
 
 namespace bench::headless {
 namespace {
@@ -22,7 +22,7 @@ QPalette DarkPalette() {
 }
 
 /// A list with a row that failed and one that did not, in a palette.
-class ListDelegateTest : public ScreenDesk, public testing::WithParamInterface<bool> {
+class ListDelegateTest : public ScreenTest, public testing::WithParamInterface<bool> {
  protected:
   ListDelegateTest() : before_(QApplication::palette()) {
     QApplication::setPalette(GetParam() ? DarkPalette() : LightPalette());

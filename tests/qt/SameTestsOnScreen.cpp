@@ -9,8 +9,8 @@
 #include "host/toolkit/headless/Application.h"
 #include "host/toolkit/headless/IScreen.h"
 #include "host/toolkit/qt/Presenter.h"
-#include "host/toolkit/qt/Stage.h"
-#include "tests/qt/Mirror.h"
+#include "host/toolkit/qt/WidgetMirror.h"
+#include "tests/qt/WidgetDifferences.h"
 #include "tests/support/OnScreen.h"
 
 // The main program of tests that also run without a screen: here every application has one. What changes is
@@ -23,7 +23,7 @@ class WatchedScreen final : public bench::headless::IScreen {
  public:
   explicit WatchedScreen(const std::shared_ptr<bench::headless::Application>& application)
       // The tests know the sizes that windows have without a screen.
-      : stage_(application, bench::qt::Measure::kPlain),
+      : mirror_(application, bench::qt::Measure::kPlain),
         application_(application),
         pumped_(application->Pumped().Subscribe([this] { Look(); })) {
     application_->SetScreen(this);
@@ -31,26 +31,26 @@ class WatchedScreen final : public bench::headless::IScreen {
   ~WatchedScreen() override { Look(); }
 
   void Changed(bench::headless::Control& control) override {
-    stage_.Changed(control);
-    stage_.Update();
+    mirror_.Changed(control);
+    mirror_.Update();
   }
-  void Gone(const bench::headless::Control& control) override { stage_.Gone(control); }
-  const bench::headless::IMetrics& Metrics() const override { return stage_.Metrics(); }
-  void Watch(const std::vector<int>& descriptors) override { stage_.Watch(descriptors); }
-  void WorkAdded() override { stage_.WorkAdded(); }
-  void Sleep(std::chrono::nanoseconds longest) override { stage_.Sleep(longest); }
+  void Gone(const bench::headless::Control& control) override { mirror_.Gone(control); }
+  const bench::headless::IMetrics& Metrics() const override { return mirror_.Metrics(); }
+  void Watch(const std::vector<int>& descriptors) override { mirror_.Watch(descriptors); }
+  void WorkAdded() override { mirror_.WorkAdded(); }
+  void Sleep(std::chrono::nanoseconds longest) override { mirror_.Sleep(longest); }
 
  private:
   void Look() {
-    if (!stage_.Update()) return;
+    if (!mirror_.Update()) return;
     const auto finder = [this](const orvik::platform::IControl& control) {
-      const auto* presenter = stage_.Find(control.Handle());
+      const auto* presenter = mirror_.Find(control.Handle());
       return presenter ? presenter->Widget() : nullptr;
     };
     for (const std::string& difference : Differences(finder, *application_)) ADD_FAILURE() << difference;
   }
 
-  bench::qt::Stage stage_;
+  bench::qt::WidgetMirror mirror_;
   std::shared_ptr<bench::headless::Application> application_;
   orvik::platform::Subscription pumped_;
 };

@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
 #include "host/toolkit/headless/IMetrics.h"
+#include "host/toolkit/qt/Conversions.h"
 #include "host/toolkit/qt/FontMetrics.h"
-#include "host/toolkit/qt/Texts.h"
 #include "host/toolkit/qt/Units.h"
 
 namespace bench::qt {
@@ -37,7 +37,7 @@ TEST(FontMetricsOnScreen, LongerTextsAreLarger) {
           .width,
       62 * metrics.Character().width);
   for (const auto part : {headless::Part::kButton, headless::Part::kComboBox, headless::Part::kToolButton})
-    EXPECT_GT(metrics.Around(part).width, 0);
+    EXPECT_GT(metrics.Padding(part).width, 0);
 }
 
 }  // namespace

@@ -1,9 +1,9 @@
-#include "tests/toolkit/Desk.h"
+#include "tests/toolkit/ToolkitTest.h"
 
 namespace bench::headless {
 namespace {
 
-using ApplicationTest = Desk;
+using ApplicationTest = ToolkitTest;
 
 TEST_F(ApplicationTest, ListsLoadedFormsInTheOrderOfTheirLoading) {
   auto a = app->CreateForm("A");

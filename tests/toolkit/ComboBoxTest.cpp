@@ -1,9 +1,9 @@
-#include "tests/toolkit/Desk.h"
+#include "tests/toolkit/ToolkitTest.h"
 
 namespace bench::headless {
 namespace {
 
-class ComboBoxTest : public Desk {
+class ComboBoxTest : public ToolkitTest {
  protected:
   ComboBoxTest() {
     for (const char* item : {"No values", "All values", "Maximum value"}) box->AddItem(item);

@@ -1,9 +1,9 @@
-#include "tests/toolkit/Desk.h"
+#include "tests/toolkit/ToolkitTest.h"
 
 namespace bench::headless {
 namespace {
 
-class ContainerSiteTest : public Desk {
+class ContainerSiteTest : public ToolkitTest {
  protected:
   std::shared_ptr<platform::IForm> form = app->CreateForm("FElementSetup");
   std::shared_ptr<platform::IContainerSite> site = form->AddControl("test.Probe", "isc");

@@ -3,14 +3,14 @@
 #include "OrvikTypeLib/ITgProgressBar.h"
 #include "OrvikTypeLib/ITgToolbar.h"
 #include "host/controls/ControlClasses.h"
-#include "tests/toolkit/HostDesk.h"
+#include "tests/toolkit/ControlTest.h"
 
 namespace bench::headless {
 namespace {
 
 using orvik::As;
 namespace classes = orvik::HostClasses;
-using ControlClassesTest = HostDesk;
+using ControlClassesTest = ControlTest;
 
 TEST_F(ControlClassesTest, TheHostCreatesItsControls) {
   EXPECT_TRUE(As<orvik::ITgToolbar>(host->CreateObject(classes::kToolbar)));

@@ -1,10 +1,10 @@
-#include "tests/toolkit/Desk.h"
+#include "tests/toolkit/ToolkitTest.h"
 
 namespace bench::headless {
 namespace {
 
 /// Where the focus is, and who hears of it.
-class FocusTest : public Desk {
+class FocusTest : public ToolkitTest {
  protected:
   std::shared_ptr<platform::IForm> form = app->CreateForm("FForm");
   std::shared_ptr<platform::ILabel> label = form->AddLabel("lbl");

@@ -1,11 +1,11 @@
-#include "tests/toolkit/Desk.h"
+#include "tests/toolkit/ToolkitTest.h"
 
 namespace bench::headless {
 namespace {
 
 using Log = std::vector<std::string>;
 
-class FormTest : public Desk {
+class FormTest : public ToolkitTest {
  protected:
   std::shared_ptr<platform::IForm> form = app->CreateForm("FForm");
 };

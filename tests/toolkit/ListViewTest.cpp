@@ -1,9 +1,9 @@
-#include "tests/toolkit/Desk.h"
+#include "tests/toolkit/ToolkitTest.h"
 
 namespace bench::headless {
 namespace {
 
-class ListViewTest : public Desk {
+class ListViewTest : public ToolkitTest {
  protected:
   ListViewTest() {
     list->AddColumn({"NAM", "Test", 4500, platform::Alignment::kLeft});

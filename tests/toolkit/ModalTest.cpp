@@ -1,10 +1,10 @@
-#include "tests/toolkit/Desk.h"
+#include "tests/toolkit/ToolkitTest.h"
 
 namespace bench::headless {
 namespace {
 
 /// Forms that are shown modally, and what that does to the others.
-class ModalTest : public Desk {
+class ModalTest : public ToolkitTest {
  protected:
   ModalTest() {
     guide->AddButton("cmd");

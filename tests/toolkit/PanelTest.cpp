@@ -1,9 +1,9 @@
-#include "tests/toolkit/Desk.h"
+#include "tests/toolkit/ToolkitTest.h"
 
 namespace bench::headless {
 namespace {
 
-class PanelTest : public Desk {
+class PanelTest : public ToolkitTest {
  protected:
   /// Controls under each other, each as wide as the panel.
   static platform::Grid Column(const std::vector<std::string>& names) {

@@ -1,4 +1,4 @@
-#include "tests/toolkit/Desk.h"
+#include "tests/toolkit/ToolkitTest.h"
 
 namespace bench::headless {
 namespace {
@@ -15,7 +15,7 @@ std::vector<std::byte> Bitmap(std::uint32_t width, std::uint32_t height) {
   return bytes;
 }
 
-class PictureBoxTest : public Desk {
+class PictureBoxTest : public ToolkitTest {
  protected:
   PictureBoxTest() {
     // The picture is on the form before the grid names it: members are made before this runs.

@@ -1,9 +1,9 @@
-#include "tests/toolkit/Desk.h"
+#include "tests/toolkit/ToolkitTest.h"
 
 namespace bench::headless {
 namespace {
 
-class ProgressBarTest : public Desk {
+class ProgressBarTest : public ToolkitTest {
  protected:
   std::shared_ptr<platform::IForm> form = app->CreateForm("FForm");
   std::shared_ptr<platform::IProgressBar> bar = form->AddProgressBar("prg");

@@ -1,10 +1,10 @@
 #include "host/toolkit/headless/Tabs.h"
-#include "tests/toolkit/Desk.h"
+#include "tests/toolkit/ToolkitTest.h"
 
 namespace bench::headless {
 namespace {
 
-class TabsTest : public Desk {
+class TabsTest : public ToolkitTest {
  protected:
   std::shared_ptr<platform::IForm> form = Shown("FForm");
   std::shared_ptr<platform::ITabs> tabs = form->AddTabs("tab");

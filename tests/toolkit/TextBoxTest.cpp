@@ -1,9 +1,9 @@
-#include "tests/toolkit/Desk.h"
+#include "tests/toolkit/ToolkitTest.h"
 
 namespace bench::headless {
 namespace {
 
-class TextBoxTest : public Desk {
+class TextBoxTest : public ToolkitTest {
  protected:
   std::shared_ptr<platform::IForm> form = Shown("FForm");
   std::shared_ptr<platform::ITextBox> text = form->AddTextBox("txt");

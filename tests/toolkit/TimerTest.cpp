@@ -1,11 +1,11 @@
 #include <algorithm>
 
-#include "tests/toolkit/Desk.h"
+#include "tests/toolkit/ToolkitTest.h"
 
 namespace bench::headless {
 namespace {
 
-class TimerTest : public Desk {
+class TimerTest : public ToolkitTest {
  protected:
   std::shared_ptr<platform::IForm> form = app->CreateForm("FClock");
   std::shared_ptr<platform::ITimer> timer = form->AddTimer("tmrClock");

@@ -1,10 +1,10 @@
 #include "host/toolkit/headless/Toolbar.h"
-#include "tests/toolkit/Desk.h"
+#include "tests/toolkit/ToolkitTest.h"
 
 namespace bench::headless {
 namespace {
 
-class ToolbarTest : public Desk {
+class ToolbarTest : public ToolkitTest {
  protected:
   ToolbarTest() {
     toolbar->AddButton(202, "Play");

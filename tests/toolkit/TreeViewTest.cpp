@@ -1,9 +1,9 @@
-#include "tests/toolkit/Desk.h"
+#include "tests/toolkit/ToolkitTest.h"
 
 namespace bench::headless {
 namespace {
 
-class TreeViewTest : public Desk {
+class TreeViewTest : public ToolkitTest {
  protected:
   TreeViewTest() {
     tree->AddNode("NA key", "Enable NA");

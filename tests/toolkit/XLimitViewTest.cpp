@@ -4,7 +4,7 @@
 #include "OrvikTypeLib/ILimitView.h"
 #include "OrvikTypeLib/IStandard.h"
 #include "OrvikTypeLib/IStandardColl.h"
-#include "tests/toolkit/HostDesk.h"
+#include "tests/toolkit/ControlTest.h"
 
 namespace bench::headless {
 namespace {
@@ -68,7 +68,7 @@ class Notices : public virtual orvik::ICallBack {
   void ICallBack_Notify(const std::string& sText) override { texts.push_back(sText); }
 };
 
-class XLimitViewTest : public HostDesk {
+class XLimitViewTest : public ControlTest {
  protected:
   XLimitViewTest() {
     limits->CreateStandard("IEC 62353", "class I");

@@ -2,14 +2,14 @@
 #include "OrvikTypeLib/ITgContentPane.h"
 #include "OrvikTypeLib/ITgProgressBar.h"
 #include "host/toolkit/headless/Tabs.h"
-#include "tests/toolkit/HostDesk.h"
+#include "tests/toolkit/ControlTest.h"
 
 namespace bench::headless {
 namespace {
 
 namespace classes = orvik::HostClasses;
 
-class XTgContentPaneTest : public HostDesk {
+class XTgContentPaneTest : public ControlTest {
  protected:
   std::shared_ptr<orvik::ITgContentPane> pane = Place<orvik::ITgContentPane>(classes::kContentPane);
 };

@@ -1,10 +1,10 @@
 #include "OrvikTypeLib/ITgProgressBar.h"
-#include "tests/toolkit/HostDesk.h"
+#include "tests/toolkit/ControlTest.h"
 
 namespace bench::headless {
 namespace {
 
-class XTgProgressBarTest : public HostDesk {
+class XTgProgressBarTest : public ControlTest {
  protected:
   std::shared_ptr<orvik::ITgProgressBar> bar = Place<orvik::ITgProgressBar>(orvik::HostClasses::kProgressBar);
 };

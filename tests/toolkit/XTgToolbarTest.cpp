@@ -1,7 +1,7 @@
 #include "OrvikTypeLib/ITgToolbar.h"
 #include "OrvikTypeLib/ITgToolbarEvents.h"
 #include "host/toolkit/headless/Toolbar.h"
-#include "tests/toolkit/HostDesk.h"
+#include "tests/toolkit/ControlTest.h"
 
 namespace bench::headless {
 namespace {
@@ -14,7 +14,7 @@ class Listener : public virtual orvik::ITgToolbarEvents {
   void ITgToolbarEvents_OnCommand(std::int32_t lCommand) override { commands.push_back(lCommand); }
 };
 
-class XTgToolbarTest : public HostDesk {
+class XTgToolbarTest : public ControlTest {
  protected:
   std::shared_ptr<orvik::ITgToolbar> toolbar = Place<orvik::ITgToolbar>(orvik::HostClasses::kToolbar);
   std::shared_ptr<Listener> listener = std::make_shared<Listener>();

@@ -14,8 +14,8 @@ void Button::Click() {
 platform::Size Button::NaturalSize() const {
   constexpr platform::Twips kNarrowest = 1215;
   const platform::Size text = Metrics().Line(Caption());
-  const platform::Size around = Metrics().Around(Part::kButton);
-  return {std::max(text.width + around.width, kNarrowest), text.height + around.height};
+  const platform::Size padding = Metrics().Padding(Part::kButton);
+  return {std::max(text.width + padding.width, kNarrowest), text.height + padding.height};
 }
 
 void Button::KeyPressed(int key, int) {

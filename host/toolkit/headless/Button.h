@@ -13,7 +13,7 @@ class Button final : public Control, public virtual platform::IButton {
   void Click() override;
 
   platform::Size NaturalSize() const override;
-  bool TakesFocus() const override { return true; }
+  bool CanFocus() const override { return true; }
   /// Return and space click the button that has the focus.
   void KeyPressed(int key, int shift) override;
 

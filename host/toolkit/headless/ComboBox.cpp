@@ -38,7 +38,7 @@ void ComboBox::SetText(const std::string& text) {
 
 void ComboBox::SetEditable(bool editable) {
   editable_ = editable;
-  NoteChange();
+  NotifyChanged();
 }
 
 void ComboBox::Choose(int index) {
@@ -53,17 +53,17 @@ void ComboBox::TypeOver(const std::string& text) {
 
 platform::Size ComboBox::NaturalSize() const {
   const platform::Size character = Metrics().Character();
-  const platform::Size around = Metrics().Around(Part::kComboBox);
+  const platform::Size padding = Metrics().Padding(Part::kComboBox);
   platform::Twips widest = 12 * character.width;
   for (const auto& item : items_) widest = std::max(widest, Metrics().Line(item).width);
-  return {widest + around.width, character.height + around.height};
+  return {widest + padding.width, character.height + padding.height};
 }
 
 void ComboBox::Select(int index, const std::string& text) {
   const auto self = shared_from_this();
   text_ = text;
   const bool another = std::exchange(selected_, index) != index;
-  NoteChange();
+  NotifyChanged();
   if (another) selectedEvent_.Raise();
 }
 

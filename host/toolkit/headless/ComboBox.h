@@ -30,7 +30,7 @@ class ComboBox final : public Control, public virtual platform::IComboBox {
   void TypeOver(const std::string& text) override;
 
   platform::Size NaturalSize() const override;
-  bool TakesFocus() const override { return true; }
+  bool CanFocus() const override { return true; }
   void FocusLeft() override { lostFocus_.Raise(); }
 
  private:

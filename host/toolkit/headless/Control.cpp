@@ -22,7 +22,7 @@ Control::~Control() {
   desktop_->Windows().Remove(handle_);
 }
 
-void Control::NoteChange() {
+void Control::NotifyChanged() {
   if (auto* screen = desktop_->Screen()) screen->Changed(*this);
 }
 
@@ -34,14 +34,14 @@ void Control::SetCaption(const std::string& text) {
 
 void Control::SetToolTip(const std::string& text) {
   toolTip_ = text;
-  NoteChange();
+  NotifyChanged();
 }
 
 void Control::SetBounds(const platform::Rect& bounds) {
   const platform::Rect old = bounds_;
   bounds_ = {bounds.left, bounds.top, std::max(bounds.width, 0), std::max(bounds.height, 0)};
   if (bounds_ == old) return;
-  NoteChange();
+  NotifyChanged();
   BoundsChanged(old);
 }
 
@@ -52,18 +52,18 @@ void Control::SetVisible(bool visible) {
 
 void Control::SetEnabled(bool enabled) {
   enabled_ = enabled;
-  NoteChange();
+  NotifyChanged();
   LoseFocusWhenUnusable();
 }
 
 void Control::SetBackColor(platform::Color color) {
   backColor_ = color;
-  NoteChange();
+  NotifyChanged();
 }
 
 void Control::SetFocus() {
   const auto form = TopForm();
-  if (form && TakesFocus() && Usable()) form->FocusOn(shared_from_this());
+  if (form && CanFocus() && Usable()) form->FocusOn(shared_from_this());
 }
 
 bool Control::HasFocus() const { return desktop_->Forms().Focused().get() == this; }
@@ -75,7 +75,7 @@ void Control::PlaceOn(const std::shared_ptr<Panel>& panel) {
 
 void Control::SetParentWindow(const std::shared_ptr<Control>& parent) {
   parent_ = parent;
-  NoteChange();
+  NotifyChanged();
 }
 
 std::shared_ptr<Form> Control::TopForm() {
@@ -89,10 +89,10 @@ bool Control::Usable() const {
   return parent && (std::dynamic_pointer_cast<Form>(parent) || parent->Usable());
 }
 
-bool Control::Answers() {
+bool Control::AcceptsInput() {
   if (!Usable()) return false;
   const auto form = TopForm();
-  return form && form->Answers();
+  return form && form->AcceptsInput();
 }
 
 void Control::KeyPressed(int, int) {}
@@ -102,12 +102,12 @@ void Control::InnerSizeChanged() {
 }
 
 bool Control::BeginAction() {
-  if (!Answers()) return false;
-  desktop_->NoteActivity();
+  if (!AcceptsInput()) return false;
+  desktop_->NotifyActivity();
   desktop_->Forms().Activate(TopForm());
-  if (TakesFocus()) SetFocus();
+  if (CanFocus()) SetFocus();
   // Handlers of activation and focus may have taken the control away.
-  return Answers();
+  return AcceptsInput();
 }
 
 void Control::LoseFocusWhenUnusable() {

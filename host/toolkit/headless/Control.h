@@ -59,9 +59,9 @@ class Control : public virtual platform::IControl, public std::enable_shared_fro
   /// Visible and enabled up to its form, whatever the form's own state.
   bool Usable() const;
   /// The operator can see and use it now.
-  virtual bool Answers();
+  virtual bool AcceptsInput();
   /// Whether the operator's actions and `SetFocus` put the focus on it.
-  virtual bool TakesFocus() const { return false; }
+  virtual bool CanFocus() const { return false; }
   virtual void FocusArrived() {}
   virtual void FocusLeft() {}
   /// A key that reached this control.
@@ -71,7 +71,7 @@ class Control : public virtual platform::IControl, public std::enable_shared_fro
   /// The form is unloaded: timers end, docked windows come home.
   virtual void Stop() {}
   /// The screen, if there is one, shows the control as it is now.
-  void NoteChange();
+  void NotifyChanged();
 
  protected:
   /// Begins an action of the operator; false when it cannot reach the control. The form becomes active and
@@ -82,7 +82,7 @@ class Control : public virtual platform::IControl, public std::enable_shared_fro
   void Apply(Change&& change) {
     const auto before = LayoutSize();
     std::forward<Change>(change)();
-    NoteChange();
+    NotifyChanged();
     if (LayoutSize() != before) InnerSizeChanged();
   }
   virtual void BoundsChanged(const platform::Rect& /*old*/) {}

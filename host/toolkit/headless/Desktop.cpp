@@ -17,13 +17,13 @@ std::shared_ptr<platform::IUserControl> Desktop::CreateUserControl(const std::st
 
 void Desktop::SetScreen(IScreen* screen) {
   screen_ = screen;
-  loop_.SetSleeper(screen);
+  loop_.SetDispatcher(screen);
   if (!screen) return;
   const auto windows = windows_.All();
   // Inner panels first: texts have other sizes now.
   for (auto window = windows.rbegin(); window != windows.rend(); ++window) {
     if (const auto panel = std::dynamic_pointer_cast<Panel>(*window)) panel->Relayout();
-    (*window)->NoteChange();
+    (*window)->NotifyChanged();
   }
 }
 

@@ -44,7 +44,7 @@ class Desktop : public std::enable_shared_from_this<Desktop> {
   void SetControlFactory(ControlFactory factory) { factory_ = std::move(factory); }
 
   /// The operator has done something, or a form has come or gone: waits come back to look.
-  void NoteActivity() { ++activity_; }
+  void NotifyActivity() { ++activity_; }
   platform::Event<>& Pumped() { return pumped_; }
   void SetStallHandler(std::function<void()> handler) { stalled_ = std::move(handler); }
   void ProcessMessages();

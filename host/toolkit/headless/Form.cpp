@@ -39,7 +39,7 @@ void Form::SetFocus() {
 
 void Form::SetTopmost(bool topmost) {
   topmost_ = topmost;
-  NoteChange();
+  NotifyChanged();
 }
 
 void Form::Load() {
@@ -60,8 +60,8 @@ void Form::Show() {
 void Form::BecomeVisible() {
   visible_ = true;
   showOrder_ = GetDesktop().Forms().NextShowOrder();
-  GetDesktop().NoteActivity();
-  NoteChange();
+  GetDesktop().NotifyActivity();
+  NotifyChanged();
 }
 
 void Form::ShowModal(const std::shared_ptr<platform::IForm>& owner) {
@@ -73,7 +73,7 @@ void Form::ShowModal(const std::shared_ptr<platform::IForm>& owner) {
   forms.BeginModal(self);
   // A window that is open already blocks the others from now on.
   showOrder_ = forms.NextShowOrder();
-  NoteChange();
+  NotifyChanged();
   try {
     RunModal();
   } catch (...) {
@@ -95,8 +95,8 @@ void Form::Hide() {
   const auto self = SelfForm();
   visible_ = false;
   ++hidden_;
-  NoteChange();
-  GetDesktop().NoteActivity();
+  NotifyChanged();
+  GetDesktop().NotifyActivity();
   GetDesktop().Forms().Hidden(self, std::exchange(owner_, {}).lock());
 }
 
@@ -109,7 +109,7 @@ void Form::Unload() {
     loaded_ = false;
     GetDesktop().Forms().RemoveLoaded(self);
     Stop();
-    NoteChange();
+    NotifyChanged();
   };
   try {
     Hide();
@@ -125,8 +125,8 @@ void Form::Unload() {
 bool Form::Active() const { return GetDesktop().Forms().Active().get() == this; }
 
 void Form::Activate() {
-  if (!Answers()) return;
-  GetDesktop().NoteActivity();
+  if (!AcceptsInput()) return;
+  GetDesktop().NotifyActivity();
   GetDesktop().Forms().Activate(SelfForm());
 }
 
@@ -139,11 +139,11 @@ void Form::PressKey(int key, int shift) {
 }
 
 bool Form::PreviewKey(int key, int shift) {
-  if (!Answers()) return false;
+  if (!AcceptsInput()) return false;
   const auto self = SelfForm();
   Activate();
-  if (keyPreview_ && Answers()) keyDown_.Raise(key, shift);
-  return Answers();
+  if (keyPreview_ && AcceptsInput()) keyDown_.Raise(key, shift);
+  return AcceptsInput();
 }
 
 void Form::ClickAccessKey(int key) {
@@ -154,23 +154,23 @@ void Form::ClickAccessKey(int key) {
 }
 
 void Form::Close() {
-  if (!Answers()) return;
+  if (!AcceptsInput()) return;
   const auto self = SelfForm();
-  GetDesktop().NoteActivity();
+  GetDesktop().NotifyActivity();
   bool keep = false;
   closeRequested_.Raise(keep);
   if (!keep) Unload();
 }
 
 void Form::Resize(platform::Size inner) {
-  if (!Answers()) return;
-  GetDesktop().NoteActivity();
+  if (!AcceptsInput()) return;
+  GetDesktop().NotifyActivity();
   SetBounds({Bounds().left, Bounds().top, inner.width, inner.height});
 }
 
 std::shared_ptr<Form> Form::TopForm() { return SelfForm(); }
 
-bool Form::Answers() { return visible_ && enabled_ && GetDesktop().Forms().Free(*this); }
+bool Form::AcceptsInput() { return visible_ && enabled_ && GetDesktop().Forms().IsReachable(*this); }
 
 void Form::BecomeActive() {
   const auto self = SelfForm();

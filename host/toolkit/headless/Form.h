@@ -51,7 +51,7 @@ class Form final : public Panel, public virtual platform::IForm {
   void Resize(platform::Size inner) override;
 
   std::shared_ptr<Form> TopForm() override;
-  bool Answers() override;
+  bool AcceptsInput() override;
   void FocusArrived() override { gotFocus_.Raise(); }
   void InnerSizeChanged() override {}
 

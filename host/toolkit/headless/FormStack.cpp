@@ -9,7 +9,7 @@ namespace bench::headless {
 namespace {
 
 /// Removes the form, and whatever is gone.
-void Drop(std::vector<std::weak_ptr<Form>>& forms, const Form* form) {
+void Remove(std::vector<std::weak_ptr<Form>>& forms, const Form* form) {
   std::erase_if(forms, [form](const std::weak_ptr<Form>& entry) {
     const auto held = entry.lock();
     return !held || held.get() == form;
@@ -26,14 +26,14 @@ std::string FormStack::ShownNames() const {
   return names;
 }
 
-void FormStack::EndModal(const Form& form) { Drop(modal_, &form); }
+void FormStack::EndModal(const Form& form) { Remove(modal_, &form); }
 
 bool FormStack::IsModal(const Form& form) const {
   return std::any_of(modal_.begin(), modal_.end(),
                      [&](const auto& entry) { return entry.lock().get() == &form; });
 }
 
-bool FormStack::Free(const Form& form) const {
+bool FormStack::IsReachable(const Form& form) const {
   return std::none_of(modal_.begin(), modal_.end(), [&](const std::weak_ptr<Form>& entry) {
     const auto modal = entry.lock();
     return modal && modal->ShowOrder() > form.ShowOrder();
@@ -41,17 +41,17 @@ bool FormStack::Free(const Form& form) const {
 }
 
 void FormStack::Activate(const std::shared_ptr<Form>& form) {
-  if (!form || !form->Answers() || Active() == form) return;
+  if (!form || !form->AcceptsInput() || Active() == form) return;
   active_ = form;
-  Drop(history_, form.get());
+  Remove(history_, form.get());
   history_.push_back(form);
-  form->NoteChange();
+  form->NotifyChanged();
   form->BecomeActive();
 }
 
 void FormStack::Hidden(const std::shared_ptr<Form>& form, const std::shared_ptr<Form>& owner) {
   EndModal(*form);
-  Drop(history_, form.get());
+  Remove(history_, form.get());
   if (Active() == form) {
     active_.reset();
     Activate(NextActive(owner));
@@ -60,10 +60,10 @@ void FormStack::Hidden(const std::shared_ptr<Form>& form, const std::shared_ptr<
 }
 
 std::shared_ptr<Form> FormStack::NextActive(const std::shared_ptr<Form>& owner) const {
-  if (owner && owner->Answers()) return owner;
+  if (owner && owner->AcceptsInput()) return owner;
   for (auto entry = history_.rbegin(); entry != history_.rend(); ++entry) {
     const auto form = entry->lock();
-    if (form && form->Answers()) return form;
+    if (form && form->AcceptsInput()) return form;
   }
   return nullptr;
 }
@@ -74,7 +74,7 @@ void FormStack::UpdateFocus() {
   const auto old = Focused();
   if (old == next) return;
   focused_ = next;
-  if (next) next->NoteChange();
+  if (next) next->NotifyChanged();
   if (old) old->FocusLeft();
   if (next && Focused() == next) next->FocusArrived();
 }

@@ -30,7 +30,7 @@ class FormStack {
   void EndModal(const Form& form);
   bool IsModal(const Form& form) const;
   /// Whether no modal form keeps this one from the operator.
-  bool Free(const Form& form) const;
+  bool IsReachable(const Form& form) const;
 
   std::shared_ptr<Form> Active() const { return active_.lock(); }
   /// Makes a form that the operator can reach the active one; any other stays where it is.

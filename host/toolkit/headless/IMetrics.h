@@ -8,10 +8,10 @@ namespace bench::headless {
 
 namespace platform = orvik::platform;
 
-/// What stands around texts.
+/// What stands padding texts.
 enum class Part { kButton, kTextBox, kComboBox, kFrame, kTabCaption, kToolButton, kTreeNode, kListRow };
 
-/// How large texts are and what stands around them, in twips. The layout goes by it.
+/// How large texts are and what stands padding them, in twips. The layout goes by it.
 class IMetrics {
  public:
   IMetrics() = default;
@@ -26,7 +26,7 @@ class IMetrics {
   /// A character of middling width, and a line.
   virtual platform::Size Character() const = 0;
   /// What the part needs beyond its text, both sides together.
-  virtual platform::Size Around(Part part) const = 0;
+  virtual platform::Size Padding(Part part) const = 0;
 };
 
 }  // namespace bench::headless

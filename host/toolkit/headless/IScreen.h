@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/loop/ISleeper.h"
+#include "host/loop/IEventDispatcher.h"
 
 namespace bench::headless {
 
@@ -9,7 +9,7 @@ class IMetrics;
 
 /// Shows the windows of an application to a person, and sleeps in the window system when nobody does
 /// anything. The windows know nothing of it but this: they note what has changed and ask how large texts are.
-class IScreen : public ISleeper {
+class IScreen : public IEventDispatcher {
  public:
   /// The window, new or not, has another state, place, parent or focus. It is shown when messages are next
   /// processed, not at once: the change may be half done.

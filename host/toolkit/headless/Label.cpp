@@ -9,8 +9,8 @@ platform::Size Label::NaturalSize() const { return Metrics().Wrapped(Caption());
 platform::Size Frame::NaturalSize() const {
   const platform::Size caption = Metrics().Line(Caption());
   // Room for the border and for one line inside.
-  const platform::Size around = Metrics().Around(Part::kFrame);
-  return {caption.width + around.width, caption.height + around.height};
+  const platform::Size padding = Metrics().Padding(Part::kFrame);
+  return {caption.width + padding.width, caption.height + padding.height};
 }
 
 }  // namespace bench::headless

@@ -37,7 +37,7 @@ void ListView::AddRow(const std::string& rowKey) {
   if (!rowIndex_.emplace(rowKey, rows_.size()).second)
     Fail(HostError::kInvalidArgument, "list \"" + Name() + "\" already has a row \"" + rowKey + "\"");
   rows_.push_back({rowKey, {}, {}});
-  NoteChange();
+  NotifyChanged();
 }
 
 void ListView::ClearRows() {
@@ -47,7 +47,7 @@ void ListView::ClearRows() {
   selectedRow_.clear();
   firstShown_ = 0;
   ensuredPlace_ = -1;
-  NoteChange();
+  NotifyChanged();
 }
 
 void ListView::SetRowTag(const std::string& rowKey, std::any tag) {
@@ -66,7 +66,7 @@ void ListView::SetCell(const std::string& rowKey, const std::string& columnKey,
   const std::size_t column = ColumnIndex(columnKey);
   if (row.cells.size() <= column) row.cells.resize(column + 1);
   const auto old = std::exchange(row.cells[column], cell);
-  NoteChange();
+  NotifyChanged();
 }
 
 void ListView::EnsureVisible(const std::string& rowKey) {
@@ -75,12 +75,12 @@ void ListView::EnsureVisible(const std::string& rowKey) {
   if (row < firstShown_) firstShown_ = row;
   if (row >= firstShown_ + shown) firstShown_ = row - shown + 1;
   ensuredPlace_ = static_cast<int>(row);
-  NoteChange();
+  NotifyChanged();
 }
 
 void ListView::SelectRow(const std::string& rowKey) {
   selectedRow_ = RowAt(rowKey).key;
-  NoteChange();
+  NotifyChanged();
 }
 
 void ListView::ClickAt(const platform::MouseEvent& event) {
@@ -111,7 +111,7 @@ platform::Size ListView::NaturalSize() const {
   for (const auto& column : columns_) width += column.width;
   const platform::Size character = Metrics().Character();
   return {std::max(width, 20 * character.width),
-          8 * (character.height + Metrics().Around(Part::kListRow).height)};
+          8 * (character.height + Metrics().Padding(Part::kListRow).height)};
 }
 
 std::size_t ListView::RowIndex(const std::string& rowKey) const {

@@ -44,7 +44,7 @@ class ListView final : public Control, public virtual platform::IListView {
   int EnsuredPlace() const { return ensuredPlace_; }
 
   platform::Size NaturalSize() const override;
-  bool TakesFocus() const override { return true; }
+  bool CanFocus() const override { return true; }
 
  private:
   struct Row {

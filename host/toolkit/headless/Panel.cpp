@@ -27,7 +27,7 @@ template <class Window>
 std::shared_ptr<Window> Panel::Add(const std::string& name) {
   CheckNewName(name);
   auto control = GetDesktop().Make<Window>(name);
-  Keep(control);
+  Adopt(control);
   return control;
 }
 
@@ -59,11 +59,11 @@ std::shared_ptr<platform::IContainerSite> Panel::AddControl(const std::string& c
   CheckNewName(name);
   auto object = GetDesktop().CreateUserControl(classIdentifier);
   auto site = GetDesktop().Make<ContainerSite>(name);
-  Keep(site);
+  Adopt(site);
   try {
     site->Hold(std::move(object));
   } catch (...) {
-    LetGo(site);
+    RemoveControl(site);
     throw;
   }
   return site;
@@ -108,7 +108,7 @@ void Panel::SetFocus() {
 
 std::shared_ptr<Control> Panel::FirstFocus() const {
   for (const auto& control : controls_) {
-    if (control->TakesFocus() && control->Usable()) return control;
+    if (control->CanFocus() && control->Usable()) return control;
   }
   return nullptr;
 }
@@ -176,13 +176,13 @@ void Panel::CheckNewName(const std::string& name) const {
     Fail(HostError::kInvalidArgument, "\"" + Name() + "\" already has a control named \"" + name + "\"");
 }
 
-void Panel::Keep(const std::shared_ptr<Control>& control) {
+void Panel::Adopt(const std::shared_ptr<Control>& control) {
   controls_.push_back(control);
   byName_.emplace(control->Name(), control);
   control->PlaceOn(Self());
 }
 
-void Panel::LetGo(const std::shared_ptr<Control>& control) {
+void Panel::RemoveControl(const std::shared_ptr<Control>& control) {
   std::erase(controls_, control);
   byName_.erase(control->Name());
 }

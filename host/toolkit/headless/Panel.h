@@ -57,8 +57,8 @@ class Panel : public Control, public virtual platform::IPanel {
   template <class Window>
   std::shared_ptr<Window> Add(const std::string& name);
   void CheckNewName(const std::string& name) const;
-  void Keep(const std::shared_ptr<Control>& control);
-  void LetGo(const std::shared_ptr<Control>& control);
+  void Adopt(const std::shared_ptr<Control>& control);
+  void RemoveControl(const std::shared_ptr<Control>& control);
   std::shared_ptr<Panel> Self() { return std::static_pointer_cast<Panel>(shared_from_this()); }
   std::vector<platform::Size> CellSizes() const;
   void ArrangeOnce();

@@ -10,7 +10,7 @@ platform::Size PlainMetrics::Wrapped(std::string_view text) const { return Wrapp
 
 platform::Size PlainMetrics::Character() const { return {kCharacterWidth, kLineHeight}; }
 
-platform::Size PlainMetrics::Around(Part part) const {
+platform::Size PlainMetrics::Padding(Part part) const {
   switch (part) {
     case Part::kButton:
       return {4 * kCharacterWidth, 120};

@@ -10,7 +10,7 @@ class PlainMetrics final : public IMetrics {
   platform::Size Line(std::string_view caption) const override;
   platform::Size Wrapped(std::string_view text) const override;
   platform::Size Character() const override;
-  platform::Size Around(Part part) const override;
+  platform::Size Padding(Part part) const override;
 };
 
 }  // namespace bench::headless

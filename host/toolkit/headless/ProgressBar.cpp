@@ -17,7 +17,7 @@ void ProgressBar::SetRange(int minimum, int maximum) {
 
 void ProgressBar::SetValue(int value) {
   value_ = std::clamp(value, minimum_, maximum_);
-  NoteChange();
+  NotifyChanged();
 }
 
 }  // namespace bench::headless

@@ -25,7 +25,7 @@ std::shared_ptr<platform::IPanel> Tabs::AddPage(const std::string& key, const st
 
 void Tabs::SetPageBitmap(const std::string& key, std::span<const std::byte> bitmap) {
   const_cast<PageEntry&>(Required(key)).bitmap.assign(bitmap.begin(), bitmap.end());
-  NoteChange();
+  NotifyChanged();
 }
 
 std::vector<std::byte> Tabs::PageBitmap(const std::string& key) const { return Required(key).bitmap; }
@@ -55,13 +55,13 @@ platform::Size Tabs::NaturalSize() const {
   for (const PageEntry& page : pages_) {
     const platform::Size inside = page.panel->NaturalSize();
     size = {std::max(size.width, inside.width), std::max(size.height, inside.height)};
-    captions += Metrics().Line(page.caption).width + Metrics().Around(Part::kTabCaption).width;
+    captions += Metrics().Line(page.caption).width + Metrics().Padding(Part::kTabCaption).width;
   }
   return {std::max(size.width, captions), size.height + CaptionsHeight()};
 }
 
 platform::Twips Tabs::CaptionsHeight() const {
-  return Metrics().Character().height + Metrics().Around(Part::kTabCaption).height;
+  return Metrics().Character().height + Metrics().Padding(Part::kTabCaption).height;
 }
 
 void Tabs::Stop() {
@@ -84,7 +84,7 @@ const Tabs::PageEntry& Tabs::Required(const std::string& key) const {
 
 void Tabs::Select(const std::string& key) {
   selected_ = key;
-  NoteChange();
+  NotifyChanged();
   const auto pages = pages_;
   for (const PageEntry& page : pages) page.panel->Control::SetVisible(page.key == selected_);
 }

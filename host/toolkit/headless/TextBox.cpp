@@ -15,13 +15,13 @@ void TextBox::SetText(const std::string& text) {
   if (text == text_) return;
   const auto self = shared_from_this();
   text_ = text;
-  NoteChange();
+  NotifyChanged();
   changed_.Raise();
 }
 
 void TextBox::SetLocked(bool locked) {
   locked_ = locked;
-  NoteChange();
+  NotifyChanged();
 }
 
 void TextBox::SetMultiLine(bool multiLine) {
@@ -40,9 +40,9 @@ void TextBox::TypeOver(const std::string& text) {
 
 platform::Size TextBox::NaturalSize() const {
   const platform::Size character = Metrics().Character();
-  const platform::Size around = Metrics().Around(Part::kTextBox);
+  const platform::Size padding = Metrics().Padding(Part::kTextBox);
   return multiLine_ ? platform::Size{40 * character.width, 5 * character.height}
-                    : platform::Size{20 * character.width + around.width, character.height + around.height};
+                    : platform::Size{20 * character.width + padding.width, character.height + padding.height};
 }
 
 void TextBox::KeyPressed(int key, int shift) {

@@ -22,7 +22,7 @@ class TextBox final : public Control, public virtual platform::ITextBox {
   void TypeOver(const std::string& text) override;
 
   platform::Size NaturalSize() const override;
-  bool TakesFocus() const override { return true; }
+  bool CanFocus() const override { return true; }
   /// Letters, digits and the space are typed; letters small unless shift is held.
   void KeyPressed(int key, int shift) override;
 

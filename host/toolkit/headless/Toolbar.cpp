@@ -84,12 +84,12 @@ void Toolbar::Click(int command) {
 }
 
 platform::Size Toolbar::NaturalSize() const {
-  const platform::Size around = Metrics().Around(Part::kToolButton);
+  const platform::Size padding = Metrics().Padding(Part::kToolButton);
   platform::Twips width = 0;
   for (const Item& item : items_) {
-    if (item.visible && !item.isEntry) width += Metrics().Line(item.caption).width + around.width;
+    if (item.visible && !item.isEntry) width += Metrics().Line(item.caption).width + padding.width;
   }
-  return {width, Metrics().Character().height + around.height};
+  return {width, Metrics().Character().height + padding.height};
 }
 
 const Toolbar::Item* Toolbar::Find(int command) const {

@@ -40,7 +40,7 @@ void TreeView::SetNodeCaption(const std::string& key, const std::string& caption
 void TreeView::SetChecked(const std::string& key, bool checked) {
   if (!HasNode(key)) return;
   nodes_[Index(key)].checked = checked;
-  NoteChange();
+  NotifyChanged();
 }
 
 void TreeView::ClickNode(const std::string& key) {
@@ -50,17 +50,17 @@ void TreeView::ClickNode(const std::string& key) {
   if (!BeginAction() || !HasNode(clicked)) return;
   Node& node = nodes_[Index(clicked)];
   node.checked = !node.checked;
-  NoteChange();
+  NotifyChanged();
   nodeClicked_.Raise(clicked);
 }
 
 platform::Size TreeView::NaturalSize() const {
   const platform::Size character = Metrics().Character();
-  const platform::Size around = Metrics().Around(Part::kTreeNode);
+  const platform::Size padding = Metrics().Padding(Part::kTreeNode);
   platform::Twips widest = 20 * character.width;
   for (const Node& node : nodes_) widest = std::max(widest, Metrics().Line(node.caption).width);
   const auto lines = std::clamp<std::size_t>(nodes_.size(), 6, 14);
-  return {widest + around.width, static_cast<platform::Twips>(lines) * (character.height + around.height)};
+  return {widest + padding.width, static_cast<platform::Twips>(lines) * (character.height + padding.height)};
 }
 
 std::size_t TreeView::Index(const std::string& key) const {

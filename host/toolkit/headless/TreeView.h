@@ -28,7 +28,7 @@ class TreeView final : public Control, public virtual platform::ITreeView {
   void ClickNode(const std::string& key) override;
 
   platform::Size NaturalSize() const override;
-  bool TakesFocus() const override { return true; }
+  bool CanFocus() const override { return true; }
 
  private:
   struct Node {

@@ -2,12 +2,12 @@
 
 #include <QLineEdit>
 
-#include "host/toolkit/qt/Texts.h"
+#include "host/toolkit/qt/Conversions.h"
 
 namespace bench::qt {
 
-ComboBoxPresenter::ComboBoxPresenter(Stage& stage, headless::Control& control)
-    : PresenterFor(stage, control, new QComboBox) {
+ComboBoxPresenter::ComboBoxPresenter(WidgetMirror& mirror, headless::Control& control)
+    : PresenterFor(mirror, control, new QComboBox) {
   GetShown().setInsertPolicy(QComboBox::NoInsert);
   When(&GetShown(), &QComboBox::activated,
        [this](int index) { Forward([index](headless::ComboBox& box) { box.Choose(index); }); });

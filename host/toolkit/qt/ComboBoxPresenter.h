@@ -9,7 +9,7 @@ namespace bench::qt {
 
 class ComboBoxPresenter final : public PresenterFor<headless::ComboBox, QComboBox> {
  public:
-  ComboBoxPresenter(Stage& stage, headless::Control& control);
+  ComboBoxPresenter(WidgetMirror& mirror, headless::Control& control);
 
  protected:
   void SyncOwn() override;

@@ -12,7 +12,7 @@
 #include <QToolButton>
 #include <algorithm>
 
-#include "host/toolkit/qt/Texts.h"
+#include "host/toolkit/qt/Conversions.h"
 
 namespace bench::qt {
 namespace {
@@ -34,13 +34,13 @@ QSize Beyond(const QSize& whole) {
   return whole - QSize(Metrics().horizontalAdvance(Sample()), Metrics().height());
 }
 
-QSize AroundTextBox() {
+QSize TextBoxPadding() {
   const QSize whole = QLineEdit().sizeHint();
   return {whole.width() - QLineEdit().fontMetrics().horizontalAdvance(QString(17, u'x')),
           whole.height() - Metrics().height()};
 }
 
-QSize AroundComboBox() {
+QSize ComboBoxPadding() {
   QComboBox box;
   box.addItem(Sample());
   const QSize fixed = Beyond(box.sizeHint());
@@ -48,14 +48,14 @@ QSize AroundComboBox() {
   return fixed.expandedTo(Beyond(box.sizeHint()));
 }
 
-QSize AroundTab() {
+QSize TabPadding() {
   QTabBar bar;
   QPixmap picture(16, 16);
   bar.addTab(QIcon(picture), Sample());
   return Beyond(bar.sizeHint());
 }
 
-QSize AroundToolButton() {
+QSize ToolButtonPadding() {
   QMenu menu;
   QToolButton button;
   button.setText(Sample());
@@ -65,7 +65,7 @@ QSize AroundToolButton() {
   return Beyond(button.sizeHint());
 }
 
-QSize AroundTreeNode() {
+QSize TreeNodePadding() {
   const QStyle* style = QApplication::style();
   constexpr int kMargins = 12;
   return {style->pixelMetric(QStyle::PM_IndicatorWidth) + style->pixelMetric(QStyle::PM_ScrollBarExtent) +
@@ -73,23 +73,23 @@ QSize AroundTreeNode() {
           4};
 }
 
-QSize AroundPart(Part part) {
+QSize PaddingOf(Part part) {
   switch (part) {
     case Part::kButton:
       return Beyond(QPushButton(Sample()).sizeHint());
     case Part::kTextBox:
-      return AroundTextBox();
+      return TextBoxPadding();
     case Part::kComboBox:
-      return AroundComboBox();
+      return ComboBoxPadding();
     case Part::kFrame:
       // And a line inside.
       return Beyond(QGroupBox(Sample()).minimumSizeHint()).expandedTo(QSize(24, Metrics().height() + 8));
     case Part::kTabCaption:
-      return AroundTab();
+      return TabPadding();
     case Part::kToolButton:
-      return AroundToolButton();
+      return ToolButtonPadding();
     case Part::kTreeNode:
-      return AroundTreeNode();
+      return TreeNodePadding();
     case Part::kListRow:
       return QSize(8, 6);
   }
@@ -101,7 +101,7 @@ QSize AroundPart(Part part) {
 FontMetrics::FontMetrics() {
   for (const Part part : {Part::kButton, Part::kTextBox, Part::kComboBox, Part::kFrame, Part::kTabCaption,
                           Part::kToolButton, Part::kTreeNode, Part::kListRow})
-    around_[part] = units_.Twips(AroundPart(part).expandedTo(QSize(0, 0)));
+    padding_[part] = units_.Twips(PaddingOf(part).expandedTo(QSize(0, 0)));
 }
 
 platform::Size FontMetrics::Line(std::string_view caption) const {

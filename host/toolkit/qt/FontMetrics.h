@@ -7,7 +7,7 @@
 
 namespace bench::qt {
 
-/// Sizes of the screen's font, and of what its style puts around texts.
+/// Sizes of the screen's font, and of what its style puts padding texts.
 class FontMetrics final : public headless::IMetrics {
  public:
   FontMetrics();
@@ -15,11 +15,11 @@ class FontMetrics final : public headless::IMetrics {
   orvik::platform::Size Line(std::string_view caption) const override;
   orvik::platform::Size Wrapped(std::string_view text) const override;
   orvik::platform::Size Character() const override;
-  orvik::platform::Size Around(headless::Part part) const override { return around_.at(part); }
+  orvik::platform::Size Padding(headless::Part part) const override { return padding_.at(part); }
 
  private:
   Units units_;
-  std::map<headless::Part, orvik::platform::Size> around_;
+  std::map<headless::Part, orvik::platform::Size> padding_;
 };
 
 }  // namespace bench::qt

@@ -8,9 +8,9 @@
 #include <utility>
 
 #include "host/toolkit/headless/Application.h"
-#include "host/toolkit/qt/Stage.h"
-#include "host/toolkit/qt/Texts.h"
+#include "host/toolkit/qt/Conversions.h"
 #include "host/toolkit/qt/Units.h"
+#include "host/toolkit/qt/WidgetMirror.h"
 
 namespace bench::qt {
 namespace {
@@ -30,10 +30,10 @@ class FormWidget final : public QWidget {
   const Units units_;
 };
 
-QWidget* NewFormWidget(Stage& stage, headless::Control& control) {
+QWidget* NewFormWidget(WidgetMirror& mirror, headless::Control& control) {
   const auto& form = dynamic_cast<const headless::Form&>(control);
-  QWidget* outer = stage.EmbeddedIn(form);
-  auto* widget = new FormWidget(outer, control.weak_from_this(), stage.GetUnits());
+  QWidget* outer = mirror.EmbeddedIn(form);
+  auto* widget = new FormWidget(outer, control.weak_from_this(), mirror.GetUnits());
   // Window managers keep dialogs above their owner and minimise them with it; a plain window could be
   // covered.
   if (!outer) widget->setWindowFlags(Qt::Dialog);
@@ -62,12 +62,12 @@ void Centre(QWidget& window, const QWidget* owner) {
 
 }  // namespace
 
-FormPresenter::FormPresenter(Stage& stage, headless::Control& control)
-    : PresenterFor(stage, control, NewFormWidget(stage, control)) {
+FormPresenter::FormPresenter(WidgetMirror& mirror, headless::Control& control)
+    : PresenterFor(mirror, control, NewFormWidget(mirror, control)) {
   GetShown().setFocusPolicy(Qt::ClickFocus);
 }
 
-bool FormPresenter::Embedded() const { return GetStage().EmbeddedIn(GetModel()) != nullptr; }
+bool FormPresenter::Embedded() const { return GetMirror().EmbeddedIn(GetModel()) != nullptr; }
 
 void FormPresenter::SyncOwn() {
   GetShown().setWindowTitle(WithoutAccessKey(GetModel().Caption()));
@@ -77,7 +77,7 @@ void FormPresenter::SyncOwn() {
 void FormPresenter::SyncFlags() {
   QWidget& window = GetShown();
   // Among its own windows the model says which one answers; the host's own window must not be blocked.
-  const bool modal = !GetStage().HostWindow() && GetStage().Application().IsModal(GetModel());
+  const bool modal = !GetMirror().HostWindow() && GetMirror().Application().IsModal(GetModel());
   const auto modality = modal ? Qt::ApplicationModal : Qt::NonModal;
   const bool topmost = GetModel().Topmost();
   const bool sameTop = window.windowFlags().testFlag(Qt::WindowStaysOnTopHint) == topmost;
@@ -99,7 +99,7 @@ void FormPresenter::SyncPlace() {
 
 void FormPresenter::SyncSize() {
   const orvik::platform::Rect place = GetModel().Bounds();
-  const Units& units = GetStage().GetUnits();
+  const Units& units = GetMirror().GetUnits();
   const bool moved = place.left != place_.left || place.top != place_.top;
   place_ = place;
   if (moved) GetShown().move(units.Pixels(place.left), units.Pixels(place.top));
@@ -109,7 +109,7 @@ void FormPresenter::SyncSize() {
 
 void FormPresenter::Appear() {
   if (Embedded()) return GetShown().show();
-  QWidget* owner = GetStage().OwnerOfNext(GetModel());
+  QWidget* owner = GetMirror().OwnerOfNext(GetModel());
   StandAbove(GetShown(), owner);
   if (place_.left == 0 && place_.top == 0) Centre(GetShown(), owner);
   GetShown().show();
@@ -137,10 +137,10 @@ bool FormPresenter::Filter(QObject& watched, QEvent& event) {
 void FormPresenter::Resized() {
   const QSize size = GetShown().size();
   if (std::exchange(given_, size) == size) return;
-  const auto inner = GetStage().GetUnits().Twips(size);
+  const auto inner = GetMirror().GetUnits().Twips(size);
   if (Embedded())
     // By the layout of the host's window, whether or not the form answers a person.
-    GetStage().Tell(Control(), [inner](headless::Control& form) {
+    GetMirror().Enqueue(Control(), [inner](headless::Control& form) {
       form.SetBounds({form.Bounds().left, form.Bounds().top, inner.width, inner.height});
     });
   else
@@ -149,7 +149,7 @@ void FormPresenter::Resized() {
 
 void FormPresenter::Activated() {
   // Qt may have put the focus elsewhere; where it belongs is for the model to say.
-  GetStage().BringFocusAgain();
+  GetMirror().RestoreFocus();
   Forward([](headless::Form& form) { form.Activate(); });
 }
 

@@ -11,7 +11,7 @@ namespace bench::qt {
 /// A window, or the inside of one where the form is embedded.
 class FormPresenter final : public PresenterFor<headless::Form, QWidget> {
  public:
-  FormPresenter(Stage& stage, headless::Control& control);
+  FormPresenter(WidgetMirror& mirror, headless::Control& control);
   bool Filter(QObject& watched, QEvent& event) override;
 
  protected:

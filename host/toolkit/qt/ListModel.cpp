@@ -4,7 +4,7 @@
 #include <QPalette>
 
 #include "host/services/Tr.h"
-#include "host/toolkit/qt/Texts.h"
+#include "host/toolkit/qt/Conversions.h"
 #include "host/toolkit/qt/Units.h"
 
 namespace bench::qt {

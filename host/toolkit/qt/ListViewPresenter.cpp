@@ -3,10 +3,10 @@
 #include <QHeaderView>
 #include <QMouseEvent>
 
-#include "host/toolkit/qt/Keys.h"
+#include "host/toolkit/qt/Conversions.h"
 #include "host/toolkit/qt/ListDelegate.h"
-#include "host/toolkit/qt/Stage.h"
 #include "host/toolkit/qt/Units.h"
+#include "host/toolkit/qt/WidgetMirror.h"
 
 namespace bench::qt {
 namespace {
@@ -26,8 +26,8 @@ int ButtonOf(const QMouseEvent& event) {
 
 }  // namespace
 
-ListViewPresenter::ListViewPresenter(Stage& stage, headless::Control& control)
-    : PresenterFor(stage, control, new QTreeView), list_(GetModel()) {
+ListViewPresenter::ListViewPresenter(WidgetMirror& mirror, headless::Control& control)
+    : PresenterFor(mirror, control, new QTreeView), list_(GetModel()) {
   QTreeView& shown = GetShown();
   shown.setModel(&list_);
   shown.setItemDelegate(new ListDelegate(&shown));
@@ -63,7 +63,7 @@ void ListViewPresenter::SyncColumns() {
     // Values are shown whole; names share what is left.
     const bool name = column.alignment == orvik::platform::Alignment::kLeft;
     header.setSectionResizeMode(place, name ? QHeaderView::Stretch : QHeaderView::ResizeToContents);
-    header.resizeSection(place, GetStage().GetUnits().Pixels(column.width));
+    header.resizeSection(place, GetMirror().GetUnits().Pixels(column.width));
   }
 }
 
@@ -84,7 +84,7 @@ bool ListViewPresenter::Filter(QObject& watched, QEvent& event) {
 }
 
 void ListViewPresenter::Clicked(const QMouseEvent& event) {
-  const Units& units = GetStage().GetUnits();
+  const Units& units = GetMirror().GetUnits();
   const QPoint inViewport = event.position().toPoint();
   const QPoint inList = GetShown().viewport()->mapTo(&GetShown(), inViewport);
   const orvik::platform::MouseEvent mouse{ButtonOf(event), ShiftOf(event), units.Twips(inList.x()),

@@ -12,7 +12,7 @@ namespace bench::qt {
 
 class ListViewPresenter final : public PresenterFor<headless::ListView, QTreeView> {
  public:
-  ListViewPresenter(Stage& stage, headless::Control& control);
+  ListViewPresenter(WidgetMirror& mirror, headless::Control& control);
   ~ListViewPresenter() override;
   bool Filter(QObject& watched, QEvent& event) override;
 

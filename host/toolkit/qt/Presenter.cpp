@@ -4,21 +4,21 @@
 #include <utility>
 
 #include "host/toolkit/headless/Form.h"
-#include "host/toolkit/qt/Stage.h"
-#include "host/toolkit/qt/Texts.h"
+#include "host/toolkit/qt/Conversions.h"
 #include "host/toolkit/qt/Units.h"
+#include "host/toolkit/qt/WidgetMirror.h"
 
 namespace bench::qt {
 
-Presenter::Presenter(Stage& stage, headless::Control& control, QWidget* widget)
-    : stage_(stage), control_(control), widget_(widget) {
+Presenter::Presenter(WidgetMirror& mirror, headless::Control& control, QWidget* widget)
+    : mirror_(mirror), control_(control), widget_(widget) {
   widget->setObjectName(ToQt(control.Name()));
   WatchEvents(*widget);
 }
 
-Presenter::~Presenter() { stage_.Unwatch(*this); }
+Presenter::~Presenter() { mirror_.Unwatch(*this); }
 
-void Presenter::WatchEvents(QObject& object) { stage_.Watch(object, *this); }
+void Presenter::WatchEvents(QObject& object) { mirror_.Watch(object, *this); }
 
 void Presenter::Sync() {
   widget_->setToolTip(PlainToolTip(control_.ToolTip()));
@@ -31,9 +31,9 @@ void Presenter::Sync() {
 
 void Presenter::SyncPlace() {
   const auto parent = control_.ParentWindow();
-  const Presenter* outer = parent ? stage_.Find(parent->Handle()) : nullptr;
+  const Presenter* outer = parent ? mirror_.Find(parent->Handle()) : nullptr;
   if (outer && outer->Widget() != widget_->parentWidget()) widget_->setParent(outer->Widget());
-  widget_->setGeometry(stage_.GetUnits().Pixels(control_.Bounds()));
+  widget_->setGeometry(mirror_.GetUnits().Pixels(control_.Bounds()));
   widget_->setVisible(control_.Visible());
 }
 
@@ -54,21 +54,21 @@ void Presenter::SyncBackground() {
 }
 
 void Presenter::ForwardToControl(std::function<void(headless::Control&)> action) {
-  stage_.Forward(control_, std::move(action));
+  mirror_.Forward(control_, std::move(action));
 }
 
 bool Presenter::Filter(QObject& watched, QEvent& event) {
   if (event.type() == QEvent::FocusIn && &watched == widget_) FocusCame(event);
   if (event.type() == QEvent::KeyPress && &watched == widget_)
-    stage_.PreviewKey(control_, static_cast<QKeyEvent&>(event));
+    mirror_.PreviewKey(control_, static_cast<QKeyEvent&>(event));
   return false;
 }
 
 void Presenter::FocusCame(const QEvent& event) {
   const auto reason = static_cast<const QFocusEvent&>(event).reason();
   // Not a person's choice: a window that becomes active puts its focus somewhere. The model knows where.
-  if (reason == Qt::ActiveWindowFocusReason) return stage_.BringFocusAgain();
-  if (!control_.TakesFocus() || reason == Qt::PopupFocusReason) return;
+  if (reason == Qt::ActiveWindowFocusReason) return mirror_.RestoreFocus();
+  if (!control_.CanFocus() || reason == Qt::PopupFocusReason) return;
   ForwardToControl([](headless::Control& control) {
     if (const auto form = control.TopForm()) form->Activate();
     control.SetFocus();

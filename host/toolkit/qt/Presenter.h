@@ -11,10 +11,10 @@ class QEvent;
 
 namespace bench::qt {
 
-class Stage;
+class WidgetMirror;
 
 /// Shows one window of the model as a widget: brings the model's state to the widget, and what a person does
-/// with the widget to the model. The stage owns it; it ends before its control does.
+/// with the widget to the model. The mirror owns it; it ends before its control does.
 class Presenter {
  public:
   virtual ~Presenter();
@@ -37,7 +37,7 @@ class Presenter {
 
  protected:
   /// Takes the widget over and watches its events.
-  Presenter(Stage& stage, headless::Control& control, QWidget* widget);
+  Presenter(WidgetMirror& mirror, headless::Control& control, QWidget* widget);
 
   /// What is special about this kind of control.
   virtual void SyncOwn() = 0;
@@ -48,8 +48,8 @@ class Presenter {
   /// The colour that leaves the background to the style.
   virtual orvik::platform::Color PlainBackColor() const { return orvik::platform::kButtonFace; }
 
-  Stage& GetStage() const { return stage_; }
-  /// Has the stage send the object's events here.
+  WidgetMirror& GetMirror() const { return mirror_; }
+  /// Has the mirror send the object's events here.
   void WatchEvents(QObject& object);
   /// Has the handler called at the signal, for as long as the presenter lives: the widget may live longer.
   template <class Sender, class Signal, class Handler>
@@ -63,7 +63,7 @@ class Presenter {
   void SyncBackground();
   void FocusCame(const QEvent& event);
 
-  Stage& stage_;
+  WidgetMirror& mirror_;
   headless::Control& control_;
   QPointer<QWidget> widget_;
   QObject listener_;
@@ -73,8 +73,8 @@ class Presenter {
 template <class Model, class Shown>
 class PresenterFor : public Presenter {
  protected:
-  PresenterFor(Stage& stage, headless::Control& control, Shown* widget)
-      : Presenter(stage, control, widget), shown_(widget) {}
+  PresenterFor(WidgetMirror& mirror, headless::Control& control, Shown* widget)
+      : Presenter(mirror, control, widget), shown_(widget) {}
 
   Model& GetModel() const { return static_cast<Model&>(Control()); }
   Shown& GetShown() const { return *shown_; }

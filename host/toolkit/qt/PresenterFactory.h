@@ -9,9 +9,9 @@ class Control;
 namespace bench::qt {
 
 class Presenter;
-class Stage;
+class WidgetMirror;
 
 /// The presenter for the control's class; empty for what shows nothing.
-std::unique_ptr<Presenter> MakePresenter(Stage& stage, headless::Control& control);
+std::unique_ptr<Presenter> MakePresenter(WidgetMirror& mirror, headless::Control& control);
 
 }  // namespace bench::qt

@@ -7,12 +7,12 @@
 #include "host/toolkit/headless/Application.h"
 #include "host/toolkit/headless/Form.h"
 #include "host/toolkit/qt/Presenter.h"
-#include "host/toolkit/qt/Stage.h"
+#include "host/toolkit/qt/WidgetMirror.h"
 
 namespace bench::qt {
 
 Screen::Screen(std::shared_ptr<headless::Application> application, Measure measure)
-    : stage_(std::make_unique<Stage>(std::move(application), measure)) {}
+    : mirror_(std::make_unique<WidgetMirror>(std::move(application), measure)) {}
 
 Screen::~Screen() = default;
 
@@ -20,24 +20,24 @@ QWidget* Screen::Embed(const std::shared_ptr<orvik::platform::IForm>& form, QWid
   const auto embedded = std::dynamic_pointer_cast<headless::Form>(form);
   if (!embedded || !parent)
     headless::Fail(orvik::HostError::kInvalidArgument, "a form of the application is embedded in a window");
-  return stage_->Embed(*embedded, parent);
+  return mirror_->Embed(*embedded, parent);
 }
 
 QWidget* Screen::WidgetOf(const orvik::platform::IControl& control) const {
-  const Presenter* presenter = stage_->Find(control.Handle());
+  const Presenter* presenter = mirror_->Find(control.Handle());
   return presenter ? presenter->Widget() : nullptr;
 }
 
-void Screen::SetHostWindow(QWidget* window) { stage_->SetHostWindow(window); }
+void Screen::SetHostWindow(QWidget* window) { mirror_->SetHostWindow(window); }
 
 void Screen::SetErrorHandler(std::function<void(const std::string&)> handler) {
-  stage_->SetErrorHandler(std::move(handler));
+  mirror_->SetErrorHandler(std::move(handler));
 }
 
-bool Screen::Update() { return stage_->Update(); }
+bool Screen::Update() { return mirror_->Update(); }
 
-void Screen::Exec() { stage_->Exec(); }
+void Screen::Exec() { mirror_->Exec(); }
 
-void Screen::Quit() { stage_->Quit(); }
+void Screen::Quit() { mirror_->Quit(); }
 
 }  // namespace bench::qt

@@ -23,7 +23,7 @@ enum class Measure {
   kPlain,  ///< those that windows have without a screen
 };
 
-class Stage;
+class WidgetMirror;
 
 /// Shows the windows of an application on the real screen, and brings to them what the person does there. The
 /// windows themselves decide everything; this mirrors their state. Needs a QApplication that lives longer.
@@ -60,7 +60,7 @@ class Screen {
   void Quit();
 
  private:
-  std::unique_ptr<Stage> stage_;
+  std::unique_ptr<WidgetMirror> mirror_;
 };
 
 }  // namespace bench::qt

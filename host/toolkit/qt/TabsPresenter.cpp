@@ -3,13 +3,12 @@
 #include <QEvent>
 #include <algorithm>
 
-#include "host/toolkit/qt/Pictures.h"
-#include "host/toolkit/qt/Texts.h"
+#include "host/toolkit/qt/Conversions.h"
 
 namespace bench::qt {
 
-TabsPresenter::TabsPresenter(Stage& stage, headless::Control& control)
-    : PresenterFor(stage, control, new QWidget), bar_(*new QTabBar(&GetShown())) {
+TabsPresenter::TabsPresenter(WidgetMirror& mirror, headless::Control& control)
+    : PresenterFor(mirror, control, new QWidget), bar_(*new QTabBar(&GetShown())) {
   bar_.setExpanding(false);
   When(&bar_, &QTabBar::currentChanged, [this](int place) {
     const auto keys = GetModel().Keys();

@@ -13,7 +13,7 @@ namespace bench::qt {
 /// A bar of captions above the pages, which are panels that the model places below it.
 class TabsPresenter final : public PresenterFor<headless::Tabs, QWidget> {
  public:
-  TabsPresenter(Stage& stage, headless::Control& control);
+  TabsPresenter(WidgetMirror& mirror, headless::Control& control);
   bool Filter(QObject& watched, QEvent& event) override;
 
  protected:

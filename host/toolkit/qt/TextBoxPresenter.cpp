@@ -4,7 +4,7 @@
 #include <QPlainTextEdit>
 #include <algorithm>
 
-#include "host/toolkit/qt/Texts.h"
+#include "host/toolkit/qt/Conversions.h"
 
 namespace bench::qt {
 namespace {
@@ -18,8 +18,8 @@ QWidget* NewTextWidget(const headless::Control& control) {
 
 }  // namespace
 
-TextBoxPresenter::TextBoxPresenter(Stage& stage, headless::Control& control)
-    : PresenterFor(stage, control, NewTextWidget(control)),
+TextBoxPresenter::TextBoxPresenter(WidgetMirror& mirror, headless::Control& control)
+    : PresenterFor(mirror, control, NewTextWidget(control)),
       line_(qobject_cast<QLineEdit*>(Widget())),
       lines_(qobject_cast<QPlainTextEdit*>(Widget())) {
   if (line_)

@@ -13,7 +13,7 @@ namespace bench::qt {
 /// One line or several, in the widget for it.
 class TextBoxPresenter final : public PresenterFor<headless::TextBox, QWidget> {
  public:
-  TextBoxPresenter(Stage& stage, headless::Control& control);
+  TextBoxPresenter(WidgetMirror& mirror, headless::Control& control);
   bool Fits() const override;
 
  protected:

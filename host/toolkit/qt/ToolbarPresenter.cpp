@@ -4,12 +4,12 @@
 #include <QMenu>
 #include <QToolButton>
 
-#include "host/toolkit/qt/Texts.h"
+#include "host/toolkit/qt/Conversions.h"
 
 namespace bench::qt {
 
-ToolbarPresenter::ToolbarPresenter(Stage& stage, headless::Control& control)
-    : PresenterFor(stage, control, new QWidget) {
+ToolbarPresenter::ToolbarPresenter(WidgetMirror& mirror, headless::Control& control)
+    : PresenterFor(mirror, control, new QWidget) {
   auto* row = new QHBoxLayout(&GetShown());
   row->setContentsMargins(0, 0, 0, 0);
   row->setSpacing(0);

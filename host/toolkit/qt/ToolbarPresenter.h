@@ -16,7 +16,7 @@ namespace bench::qt {
 /// A row of buttons, named "TOOLBAR.COMMAND"; those with entries drop down a menu of them.
 class ToolbarPresenter final : public PresenterFor<headless::Toolbar, QWidget> {
  public:
-  ToolbarPresenter(Stage& stage, headless::Control& control);
+  ToolbarPresenter(WidgetMirror& mirror, headless::Control& control);
 
  protected:
   void SyncOwn() override;

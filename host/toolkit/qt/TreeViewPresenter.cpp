@@ -2,7 +2,7 @@
 
 #include <QHeaderView>
 
-#include "host/toolkit/qt/Texts.h"
+#include "host/toolkit/qt/Conversions.h"
 
 namespace bench::qt {
 namespace {
@@ -12,8 +12,8 @@ constexpr int kKeyRole = Qt::UserRole;
 
 }  // namespace
 
-TreeViewPresenter::TreeViewPresenter(Stage& stage, headless::Control& control)
-    : PresenterFor(stage, control, new QTreeWidget) {
+TreeViewPresenter::TreeViewPresenter(WidgetMirror& mirror, headless::Control& control)
+    : PresenterFor(mirror, control, new QTreeWidget) {
   GetShown().setColumnCount(1);
   GetShown().setHeaderHidden(true);
   GetShown().setRootIsDecorated(false);

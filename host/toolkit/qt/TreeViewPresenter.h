@@ -9,7 +9,7 @@ namespace bench::qt {
 
 class TreeViewPresenter final : public PresenterFor<headless::TreeView, QTreeWidget> {
  public:
-  TreeViewPresenter(Stage& stage, headless::Control& control);
+  TreeViewPresenter(WidgetMirror& mirror, headless::Control& control);
 
  protected:
   void SyncOwn() override;

@@ -38,18 +38,4 @@ platform::Twips Units::Twips(int pixels) const {
 
 platform::Size Units::Twips(const QSize& size) const { return {Twips(size.width()), Twips(size.height())}; }
 
-QColor ToQt(platform::Color color, const QPalette& palette) {
-  switch (color) {
-    case platform::kWindowBackground:
-      return palette.color(QPalette::Base);
-    case platform::kWindowText:
-      return palette.color(QPalette::WindowText);
-    case platform::kButtonFace:
-      return palette.color(QPalette::Window);
-    default:
-      return QColor::fromRgb(static_cast<int>(color & 0xFF), static_cast<int>(color >> 8 & 0xFF),
-                             static_cast<int>(color >> 16 & 0xFF));
-  }
-}
-
 }  // namespace bench::qt

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <QColor>
-#include <QPalette>
 #include <QRect>
 #include <QSize>
 
@@ -26,8 +24,5 @@ class Units {
  private:
   double twipsPerPixel_;
 };
-
-/// A colour of the windows; system colours are those of the palette.
-QColor ToQt(orvik::platform::Color color, const QPalette& palette);
 
 }  // namespace bench::qt

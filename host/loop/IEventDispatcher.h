@@ -6,14 +6,14 @@
 namespace bench {
 
 /// Sleeps in the event loop's place, so that the loop of a window system is served by the same thread. Such a
-/// loop may also run without being asked (an open menu, a dialog of the system); then it is the sleeper that
-/// has the event loop processed.
-class ISleeper {
+/// loop may also run without being asked (an open menu, a dialog of the system); then it is the dispatcher
+/// that has the event loop processed.
+class IEventDispatcher {
  public:
-  ISleeper() = default;
-  ISleeper(const ISleeper&) = delete;
-  ISleeper& operator=(const ISleeper&) = delete;
-  virtual ~ISleeper() = default;
+  IEventDispatcher() = default;
+  IEventDispatcher(const IEventDispatcher&) = delete;
+  IEventDispatcher& operator=(const IEventDispatcher&) = delete;
+  virtual ~IEventDispatcher() = default;
 
   /// From now on a sleep ends when one of these descriptors, and none but these, can be read.
   virtual void Watch(const std::vector<int>& descriptors) = 0;

@@ -1,4 +1,4 @@
-#include "tests/qt/Mirror.h"
+#include "tests/qt/WidgetDifferences.h"
 
 #include <QAbstractItemModel>
 #include <QAction>
@@ -27,7 +27,7 @@
 #include "host/toolkit/headless/Timer.h"
 #include "host/toolkit/headless/Toolbar.h"
 #include "host/toolkit/headless/TreeView.h"
-#include "host/toolkit/qt/Texts.h"
+#include "host/toolkit/qt/Conversions.h"
 
 namespace support {
 namespace {

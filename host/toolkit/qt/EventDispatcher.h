@@ -14,14 +14,14 @@ namespace bench::qt {
 
 /// Sleeps in Qt's event dispatcher, with our descriptors and times in it. When Qt's own loop runs (an open
 /// menu, a file dialog), it has the application served from there.
-class Sleeper {
+class EventDispatcher {
  public:
   /// @param untilWork how long until something of ours falls due
   /// @param serve processes what is pending
-  Sleeper(std::function<std::chrono::nanoseconds()> untilWork, std::function<void()> serve);
-  ~Sleeper();
-  Sleeper(const Sleeper&) = delete;
-  Sleeper& operator=(const Sleeper&) = delete;
+  EventDispatcher(std::function<std::chrono::nanoseconds()> untilWork, std::function<void()> serve);
+  ~EventDispatcher();
+  EventDispatcher(const EventDispatcher&) = delete;
+  EventDispatcher& operator=(const EventDispatcher&) = delete;
 
   void Watch(const std::vector<int>& descriptors);
   void WorkAdded();

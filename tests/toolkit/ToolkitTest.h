@@ -63,9 +63,9 @@ class ProbeControl final : public platform::IUserControl {
 };
 
 /// A headless application on the virtual clock, with forms of its own and the control class "test.Probe".
-class Desk : public testing::Test {
+class ToolkitTest : public testing::Test {
  protected:
-  Desk() {
+  ToolkitTest() {
     app->SetControlFactory([](const std::string& id) -> std::shared_ptr<platform::IUserControl> {
       return id == "test.Probe" ? std::make_shared<ProbeControl>() : nullptr;
     });

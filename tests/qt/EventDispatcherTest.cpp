@@ -20,12 +20,12 @@ using headless::ClockKind;
 using orvik::platform::Time;
 using namespace std::chrono_literals;
 
-class SleeperTest : public testing::Test {
+class EventDispatcherTest : public testing::Test {
  protected:
-  SleeperTest() {
+  EventDispatcherTest() {
     if (pipe(pipe_.data()) != 0) throw std::runtime_error("no pipe can be made");
   }
-  ~SleeperTest() override {
+  ~EventDispatcherTest() override {
     for (const int descriptor : pipe_) close(descriptor);
   }
 
@@ -51,14 +51,14 @@ class SleeperTest : public testing::Test {
   std::array<int, 2> pipe_{};
 };
 
-TEST_F(SleeperTest, AByteEndsASleep) {
+TEST_F(EventDispatcherTest, AByteEndsASleep) {
   Watch();
   Send('x');
   WaitUntil([&] { return !received.empty(); });
   EXPECT_EQ(received, "x");
 }
 
-TEST_F(SleeperTest, ATimeThatComesEndsASleep) {
+TEST_F(EventDispatcherTest, ATimeThatComesEndsASleep) {
   std::string order;
   app->CallAt(app->Now() + 2ms, [&] { order += "2"; });
   app->CallAt(app->Now() + 1ms, [&] { order += "1"; });
@@ -66,13 +66,13 @@ TEST_F(SleeperTest, ATimeThatComesEndsASleep) {
   EXPECT_EQ(order, "12");
 }
 
-TEST_F(SleeperTest, ADeadlineEndsASleepWithoutAnythingElse) {
+TEST_F(EventDispatcherTest, ADeadlineEndsASleepWithoutAnythingElse) {
   const Time deadline = app->Now() + 3ms;
   while (app->Now() < deadline) app->WaitMessages(deadline);
   SUCCEED();
 }
 
-TEST_F(SleeperTest, AWakeUpFromAnotherThreadEndsASleep) {
+TEST_F(EventDispatcherTest, AWakeUpFromAnotherThreadEndsASleep) {
   bool woken = false;
   const auto listening = app->Woken().Subscribe([&] { woken = true; });
   std::thread other([&] { app->Wake(); });
@@ -83,7 +83,7 @@ TEST_F(SleeperTest, AWakeUpFromAnotherThreadEndsASleep) {
   EXPECT_FALSE(woken) << "once is once";
 }
 
-TEST_F(SleeperTest, AWaitInsideAWaitIsServed) {
+TEST_F(EventDispatcherTest, AWaitInsideAWaitIsServed) {
   Watch();
   std::string order;
   app->Post([&] {
@@ -95,7 +95,7 @@ TEST_F(SleeperTest, AWaitInsideAWaitIsServed) {
   EXPECT_EQ(received, "y");
 }
 
-TEST_F(SleeperTest, TimersAndPortsGoOnWhileQtsOwnLoopRuns) {
+TEST_F(EventDispatcherTest, TimersAndPortsGoOnWhileQtsOwnLoopRuns) {
   Watch();
   QEventLoop dialog;
   app->Post([&] {
@@ -111,7 +111,7 @@ TEST_F(SleeperTest, TimersAndPortsGoOnWhileQtsOwnLoopRuns) {
   WaitUntil([&] { return received == "ab"; });
 }
 
-TEST_F(SleeperTest, AWatchThatBeginsAndEndsWhileQtsOwnLoopRunsIsServed) {
+TEST_F(EventDispatcherTest, AWatchThatBeginsAndEndsWhileQtsOwnLoopRunsIsServed) {
   QEventLoop dialog;
   app->Post([&] {
     app->Post([&] {
@@ -130,7 +130,7 @@ TEST_F(SleeperTest, AWatchThatBeginsAndEndsWhileQtsOwnLoopRunsIsServed) {
   EXPECT_EQ(received, "z");
 }
 
-TEST_F(SleeperTest, AnErrorWhileQtsOwnLoopRunsReachesWhoeverWaits) {
+TEST_F(EventDispatcherTest, AnErrorWhileQtsOwnLoopRunsReachesWhoeverWaits) {
   QEventLoop dialog;
   bool left = false;
   app->Post([&] {
@@ -145,7 +145,7 @@ TEST_F(SleeperTest, AnErrorWhileQtsOwnLoopRunsReachesWhoeverWaits) {
   EXPECT_TRUE(left) << "the error must not pass through Qt's loop";
 }
 
-TEST_F(SleeperTest, ExecRunsUntilQuit) {
+TEST_F(EventDispatcherTest, ExecRunsUntilQuit) {
   std::string order;
   std::vector<std::string> errors;
   screen->SetErrorHandler([&](const std::string& error) { errors.push_back(error); });
@@ -162,7 +162,7 @@ TEST_F(SleeperTest, ExecRunsUntilQuit) {
   EXPECT_EQ(errors, std::vector<std::string>{"first"});
 }
 
-TEST_F(SleeperTest, TheLoopSleepsByItselfWhenTheScreenIsGone) {
+TEST_F(EventDispatcherTest, TheLoopSleepsByItselfWhenTheScreenIsGone) {
   Watch();
   screen.reset();
   Send('x');

@@ -11,9 +11,9 @@
 #include <vector>
 
 #include "host/toolkit/headless/IScreen.h"
+#include "host/toolkit/qt/EventDispatcher.h"
 #include "host/toolkit/qt/FontMetrics.h"
 #include "host/toolkit/qt/Screen.h"
-#include "host/toolkit/qt/Sleeper.h"
 #include "host/toolkit/qt/Units.h"
 #include "platform/Types.h"
 
@@ -31,16 +31,16 @@ class Presenter;
 
 /// Everything that is on the screen: the presenters of all windows that have been shown, what has changed
 /// since they were last brought up to date, and the way back to the model.
-class Stage final : public headless::IScreen {
+class WidgetMirror final : public headless::IScreen {
  public:
-  Stage(std::shared_ptr<headless::Application> application, Measure measure);
-  ~Stage() override;
+  WidgetMirror(std::shared_ptr<headless::Application> application, Measure measure);
+  ~WidgetMirror() override;
 
   void Changed(headless::Control& control) override;
   void Gone(const headless::Control& control) override;
   const headless::IMetrics& Metrics() const override { return *metrics_; }
-  void Watch(const std::vector<int>& descriptors) override { sleeper_.Watch(descriptors); }
-  void WorkAdded() override { sleeper_.WorkAdded(); }
+  void Watch(const std::vector<int>& descriptors) override { dispatcher_.Watch(descriptors); }
+  void WorkAdded() override { dispatcher_.WorkAdded(); }
   void Sleep(std::chrono::nanoseconds longest) override;
 
   void SetErrorHandler(std::function<void(const std::string&)> handler) {
@@ -71,12 +71,12 @@ class Stage final : public headless::IScreen {
   /// comes from a person, and nothing is put there.
   void Forward(headless::Control& control, std::function<void(headless::Control&)> action);
   /// Puts the action there in any case.
-  void Tell(headless::Control& control, std::function<void(headless::Control&)> action);
+  void Enqueue(headless::Control& control, std::function<void(headless::Control&)> action);
   /// The key comes first to the form, if that wants it.
   void PreviewKey(headless::Control& control, const QKeyEvent& event);
   /// The form's window has become the active one, or should be: the focus is brought to where the model has
   /// it.
-  void BringFocusAgain();
+  void RestoreFocus();
   void Watch(QObject& object, Presenter& presenter);
   void Unwatch(const Presenter& presenter);
 
@@ -86,12 +86,12 @@ class Stage final : public headless::IScreen {
 
   void Show(headless::Control& control);
   void Present(headless::Control& control);
-  void Drop(headless::Control& control);
-  void Bury(orvik::platform::WindowHandle handle);
-  void DropDeleted();
-  void BringFocus();
+  void Remove(headless::Control& control);
+  void Discard(orvik::platform::WindowHandle handle);
+  void RemoveDeleted();
+  void SyncFocus();
   void Run(headless::Control& control, const std::function<void(headless::Control&)>& action);
-  void Report();
+  void ReportError();
 
   std::shared_ptr<headless::Application> application_;
   Units units_;
@@ -106,14 +106,14 @@ class Stage final : public headless::IScreen {
   std::map<orvik::platform::WindowHandle, std::unique_ptr<Presenter>> presenters_;
   std::map<orvik::platform::WindowHandle, QPointer<QWidget>> embedded_;
   // Widgets without a control that Qt may still have on its stack.
-  std::vector<QPointer<QWidget>> buried_;
+  std::vector<QPointer<QWidget>> discarded_;
   orvik::platform::WindowHandle shownActive_ = 0;
   orvik::platform::WindowHandle shownFocus_ = 0;
   bool updating_ = false;
   bool quit_ = false;
-  // What is posted looks whether the stage is still there; the number of what is on its way.
-  std::shared_ptr<int> onItsWay_ = std::make_shared<int>(0);
-  Sleeper sleeper_;
+  // What is posted looks whether the mirror is still there; the number of what is on its way.
+  std::shared_ptr<int> pendingActions_ = std::make_shared<int>(0);
+  EventDispatcher dispatcher_;
 };
 
 }  // namespace bench::qt

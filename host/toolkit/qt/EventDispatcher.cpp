@@ -1,4 +1,4 @@
-#include "host/toolkit/qt/Sleeper.h"
+#include "host/toolkit/qt/EventDispatcher.h"
 
 #include <QCoreApplication>
 #include <QThread>
@@ -19,7 +19,8 @@ void StartOnce(QTimer& timer, std::chrono::nanoseconds after) {
 
 }  // namespace
 
-Sleeper::Sleeper(std::function<std::chrono::nanoseconds()> untilWork, std::function<void()> serve)
+EventDispatcher::EventDispatcher(std::function<std::chrono::nanoseconds()> untilWork,
+                                 std::function<void()> serve)
     : untilWork_(std::move(untilWork)), serve_(std::move(serve)) {
   for (QTimer* timer : {&workTimer_, &deadlineTimer_}) {
     timer->setSingleShot(true);
@@ -28,9 +29,9 @@ Sleeper::Sleeper(std::function<std::chrono::nanoseconds()> untilWork, std::funct
   }
 }
 
-Sleeper::~Sleeper() = default;
+EventDispatcher::~EventDispatcher() = default;
 
-void Sleeper::Watch(const std::vector<int>& descriptors) {
+void EventDispatcher::Watch(const std::vector<int>& descriptors) {
   std::erase_if(notifiers_, [&](const auto& entry) {
     return std::find(descriptors.begin(), descriptors.end(), entry.first) == descriptors.end();
   });
@@ -43,13 +44,13 @@ void Sleeper::Watch(const std::vector<int>& descriptors) {
   }
 }
 
-void Sleeper::WorkAdded() { StartWorkTimer(); }
+void EventDispatcher::WorkAdded() { StartWorkTimer(); }
 
-void Sleeper::LookAgain() { workTimer_.start(0); }
+void EventDispatcher::LookAgain() { workTimer_.start(0); }
 
-void Sleeper::StartWorkTimer() { StartOnce(workTimer_, untilWork_()); }
+void EventDispatcher::StartWorkTimer() { StartOnce(workTimer_, untilWork_()); }
 
-void Sleeper::Sleep(std::chrono::nanoseconds longest) {
+void EventDispatcher::Sleep(std::chrono::nanoseconds longest) {
   const auto outerLevel = std::exchange(level_, LoopLevel());
   ready_ = false;
   StartWorkTimer();
@@ -67,14 +68,14 @@ void Sleeper::Sleep(std::chrono::nanoseconds longest) {
   if (FailedAbove()) std::rethrow_exception(std::exchange(error_, nullptr));
 }
 
-void Sleeper::Ready() {
+void EventDispatcher::Ready() {
   if (level_ && LoopLevel() <= *level_)
     ready_ = true;
   else
     Serve();
 }
 
-void Sleeper::Serve() {
+void EventDispatcher::Serve() {
   ++foreign_;
   try {
     serve_();

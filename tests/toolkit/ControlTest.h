@@ -11,21 +11,21 @@
 #include "OrvikTypeLib/HostClasses.h"
 #include "host/Host.h"
 #include "host/controls/ControlClasses.h"
-#include "tests/toolkit/Desk.h"
+#include "tests/toolkit/ToolkitTest.h"
 
 namespace bench::headless {
 
 /// The real host with its own controls on a headless desk.
-class HostDesk : public Desk {
+class ControlTest : public ToolkitTest {
  protected:
-  HostDesk() {
+  ControlTest() {
     std::string pattern = (std::filesystem::temp_directory_path() / "keld-controls-XXXXXX").string();
     if (!mkdtemp(pattern.data())) throw std::runtime_error("no temporary folder can be made: " + pattern);
     folder = pattern;
     host = Host::Create({folder, {}, {}, {}}, app);
     ConnectControls(*app, *host);
   }
-  ~HostDesk() override {
+  ~ControlTest() override {
     std::error_code ignored;
     std::filesystem::remove_all(folder, ignored);
   }

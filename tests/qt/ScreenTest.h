@@ -6,16 +6,16 @@
 #include <vector>
 
 #include "host/toolkit/qt/Screen.h"
-#include "tests/qt/Mirror.h"
 #include "tests/qt/Person.h"
-#include "tests/toolkit/Desk.h"
+#include "tests/qt/WidgetDifferences.h"
+#include "tests/toolkit/ToolkitTest.h"
 
 namespace bench::headless {
 
 /// A desk whose windows are on the screen.
-class ScreenDesk : public Desk {
+class ScreenTest : public ToolkitTest {
  protected:
-  ScreenDesk() { screen = onScreen; }
+  ScreenTest() { screen = onScreen; }
 
   /// Lets everything that is pending happen and be shown.
   void Pump() const {

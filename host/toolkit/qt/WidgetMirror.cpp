@@ -1,4 +1,4 @@
-#include "host/toolkit/qt/Stage.h"
+#include "host/toolkit/qt/WidgetMirror.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -9,8 +9,8 @@
 #include "host/toolkit/headless/Application.h"
 #include "host/toolkit/headless/Form.h"
 #include "host/toolkit/headless/PlainMetrics.h"
+#include "host/toolkit/qt/Conversions.h"
 #include "host/toolkit/qt/FontMetrics.h"
-#include "host/toolkit/qt/Keys.h"
 #include "host/toolkit/qt/Presenter.h"
 #include "host/toolkit/qt/PresenterFactory.h"
 
@@ -19,34 +19,34 @@ namespace bench::qt {
 using orvik::platform::WindowHandle;
 
 /// Sends the events of widgets to their presenters.
-class Stage::EventFilter final : public QObject {
+class WidgetMirror::EventFilter final : public QObject {
  public:
-  explicit EventFilter(Stage& stage) : stage_(stage) {}
+  explicit EventFilter(WidgetMirror& mirror) : mirror_(mirror) {}
 
   bool eventFilter(QObject* watched, QEvent* event) override {
-    const auto found = stage_.watched_.find(watched);
-    return found != stage_.watched_.end() && found->second->Filter(*watched, *event);
+    const auto found = mirror_.watched_.find(watched);
+    return found != mirror_.watched_.end() && found->second->Filter(*watched, *event);
   }
 
  private:
-  Stage& stage_;
+  WidgetMirror& mirror_;
 };
 
 /// Looks after the host's own window.
-class Stage::HostWatch final : public QObject {
+class WidgetMirror::HostWatch final : public QObject {
  public:
-  explicit HostWatch(Stage& stage) : stage_(stage) {}
+  explicit HostWatch(WidgetMirror& mirror) : mirror_(mirror) {}
 
   bool eventFilter(QObject*, QEvent* event) override {
     switch (event->type()) {
       case QEvent::Show:
         // The native window sees what is done to everything inside.
-        if (auto* window = stage_.hostWindow_->windowHandle()) window->installEventFilter(this);
+        if (auto* window = mirror_.hostWindow_->windowHandle()) window->installEventFilter(this);
         break;
       // Not when it becomes active: window managers do that in passing while they minimise both.
       case QEvent::MouseButtonPress:
       case QEvent::KeyPress:
-        stage_.RestoreMinimised();
+        mirror_.RestoreMinimised();
         break;
       default:
         break;
@@ -55,96 +55,96 @@ class Stage::HostWatch final : public QObject {
   }
 
  private:
-  Stage& stage_;
+  WidgetMirror& mirror_;
 };
 
-Stage::Stage(std::shared_ptr<headless::Application> application, Measure measure)
+WidgetMirror::WidgetMirror(std::shared_ptr<headless::Application> application, Measure measure)
     : application_(std::move(application)),
       metrics_(measure == Measure::kFont ? std::unique_ptr<headless::IMetrics>(new FontMetrics)
                                          : std::make_unique<headless::PlainMetrics>()),
       filter_(std::make_unique<EventFilter>(*this)),
-      sleeper_([this] { return application_->UntilWork(); },
-               [this] {
-                 try {
-                   application_->ProcessMessages();
-                 } catch (...) {
-                   Report();
-                 }
-                 Update();
-               }) {
+      dispatcher_([this] { return application_->UntilWork(); },
+                  [this] {
+                    try {
+                      application_->ProcessMessages();
+                    } catch (...) {
+                      ReportError();
+                    }
+                    Update();
+                  }) {
   application_->SetScreen(this);
 }
 
-Stage::~Stage() {
+WidgetMirror::~WidgetMirror() {
   application_->SetScreen(nullptr);
-  while (!presenters_.empty()) Bury(presenters_.begin()->first);
-  for (const auto& widget : buried_) delete widget;
+  while (!presenters_.empty()) Discard(presenters_.begin()->first);
+  for (const auto& widget : discarded_) delete widget;
 }
 
-void Stage::Changed(headless::Control& control) {
+void WidgetMirror::Changed(headless::Control& control) {
   changed_.insert_or_assign(control.Handle(), control.weak_from_this());
   // It may have been changed by whom Qt has called: the sleep that is on does not know.
-  sleeper_.LookAgain();
+  dispatcher_.LookAgain();
 }
 
-void Stage::Gone(const headless::Control& control) {
+void WidgetMirror::Gone(const headless::Control& control) {
   changed_.erase(control.Handle());
   embedded_.erase(control.Handle());
-  Bury(control.Handle());
+  Discard(control.Handle());
 }
 
-void Stage::Sleep(std::chrono::nanoseconds longest) {
+void WidgetMirror::Sleep(std::chrono::nanoseconds longest) {
   Update();
-  sleeper_.Sleep(longest);
+  dispatcher_.Sleep(longest);
 }
 
-void Stage::Exec() {
+void WidgetMirror::Exec() {
   quit_ = false;
   while (!quit_) {
     try {
       application_->WaitMessages(orvik::platform::Time::max());
     } catch (...) {
-      Report();
+      ReportError();
     }
   }
 }
 
-void Stage::Quit() {
+void WidgetMirror::Quit() {
   quit_ = true;
   application_->Wake();
 }
 
-Presenter* Stage::Find(WindowHandle handle) const {
+Presenter* WidgetMirror::Find(WindowHandle handle) const {
   const auto found = presenters_.find(handle);
   return found == presenters_.end() ? nullptr : found->second.get();
 }
 
-bool Stage::Update() {
-  if (*onItsWay_ > 0 || updating_) return false;
+bool WidgetMirror::Update() {
+  if (*pendingActions_ > 0 || updating_) return false;
   updating_ = true;
-  DropDeleted();
+  RemoveDeleted();
   for (const auto& [handle, changed] : std::exchange(changed_, {})) {
     if (const auto control = changed.lock()) Show(*control);
   }
-  BringFocus();
+  SyncFocus();
   updating_ = false;
-  if (!sleeper_.BelowForeignLoop()) {
-    for (const auto& widget : std::exchange(buried_, {})) delete widget;
+  if (!dispatcher_.BelowForeignLoop()) {
+    for (const auto& widget : std::exchange(discarded_, {})) delete widget;
   }
   return true;
 }
 
-void Stage::Show(headless::Control& control) {
+void WidgetMirror::Show(headless::Control& control) {
   Presenter* presenter = Find(control.Handle());
   if (const auto* form = dynamic_cast<headless::Form*>(&control)) {
     const bool wanted = form->Visible() || (presenter && form->Loaded()) || EmbeddedIn(*form);
-    if (!wanted) return Drop(control);
+    if (!wanted) return Remove(control);
   } else {
     const auto parent = control.ParentWindow();
-    if (!parent || !Find(parent->Handle())) return Drop(control);
+    if (!parent || !Find(parent->Handle())) return Remove(control);
   }
   if (presenter && !presenter->Fits()) {
-    Drop(control);
+    Remove(control);
     presenter = nullptr;
   }
   if (presenter)
@@ -153,7 +153,7 @@ void Stage::Show(headless::Control& control) {
     Present(control);
 }
 
-void Stage::Present(headless::Control& control) {
+void WidgetMirror::Present(headless::Control& control) {
   auto made = MakePresenter(*this, control);
   if (!made) return;
   Presenter& presenter = *made;
@@ -168,13 +168,13 @@ void Stage::Present(headless::Control& control) {
   presenter.Sync();
 }
 
-void Stage::Drop(headless::Control& control) {
+void WidgetMirror::Remove(headless::Control& control) {
   if (!Find(control.Handle())) return;
-  for (const auto& inner : application_->WindowsInside(control)) Drop(*inner);
-  Bury(control.Handle());
+  for (const auto& inner : application_->WindowsInside(control)) Remove(*inner);
+  Discard(control.Handle());
 }
 
-void Stage::Bury(WindowHandle handle) {
+void WidgetMirror::Discard(WindowHandle handle) {
   const auto found = presenters_.find(handle);
   if (found == presenters_.end()) return;
   QWidget* widget = found->second->Widget();
@@ -188,20 +188,20 @@ void Stage::Bury(WindowHandle handle) {
   }
   widget->hide();
   widget->setParent(nullptr);
-  buried_.emplace_back(widget);
+  discarded_.emplace_back(widget);
   updating_ = updating;
   if (shownActive_ == handle) shownActive_ = 0;
   if (shownFocus_ == handle) shownFocus_ = 0;
 }
 
-void Stage::DropDeleted() {
+void WidgetMirror::RemoveDeleted() {
   // A window of the host's own takes what is embedded in it along.
   if (embedded_.empty()) return;
   std::erase_if(embedded_, [](const auto& entry) { return !entry.second; });
   std::erase_if(presenters_, [](const auto& entry) { return !entry.second->Widget(); });
 }
 
-void Stage::BringFocus() {
+void WidgetMirror::SyncFocus() {
   const auto active = std::dynamic_pointer_cast<headless::Form>(application_->ActiveForm());
   const WindowHandle activeHandle = active ? active->Handle() : 0;
   if (std::exchange(shownActive_, activeHandle) != activeHandle && activeHandle != 0) {
@@ -216,40 +216,40 @@ void Stage::BringFocus() {
   if (Presenter* presenter = Find(focus)) presenter->TakeFocus();
 }
 
-void Stage::BringFocusAgain() {
+void WidgetMirror::RestoreFocus() {
   shownActive_ = 0;
   shownFocus_ = 0;
-  sleeper_.LookAgain();
+  dispatcher_.LookAgain();
 }
 
-QWidget* Stage::Embed(headless::Form& form, QWidget* parent) {
+QWidget* WidgetMirror::Embed(headless::Form& form, QWidget* parent) {
   embedded_[form.Handle()] = parent;
-  Drop(form);
+  Remove(form);
   const bool updating = std::exchange(updating_, true);
   Present(form);
   updating_ = updating;
   return Find(form.Handle())->Widget();
 }
 
-QWidget* Stage::EmbeddedIn(const headless::Form& form) const {
+QWidget* WidgetMirror::EmbeddedIn(const headless::Form& form) const {
   const auto found = embedded_.find(form.Handle());
   return found == embedded_.end() ? nullptr : found->second.data();
 }
 
-void Stage::SetHostWindow(QWidget* window) {
+void WidgetMirror::SetHostWindow(QWidget* window) {
   hostWindow_ = window;
   hostWatch_ = std::make_unique<HostWatch>(*this);
   if (window) window->installEventFilter(hostWatch_.get());
 }
 
-void Stage::RestoreMinimised() {
+void WidgetMirror::RestoreMinimised() {
   for (const auto& [handle, presenter] : presenters_) {
     QWidget* window = presenter->Widget();
     if (window && window->isWindow() && window->isVisible() && window->isMinimized()) window->showNormal();
   }
 }
 
-QWidget* Stage::OwnerOfNext(const headless::Form& form) const {
+QWidget* WidgetMirror::OwnerOfNext(const headless::Form& form) const {
   // The windows here are modal among themselves only, so a modal one is the host's.
   if (QWidget* question = hostWindow_ ? QApplication::activeModalWidget() : nullptr) return question;
   const headless::Form* owner = nullptr;
@@ -264,36 +264,36 @@ QWidget* Stage::OwnerOfNext(const headless::Form& form) const {
                        : QApplication::activeWindow();
 }
 
-void Stage::Forward(headless::Control& control, std::function<void(headless::Control&)> action) {
-  if (!updating_) Tell(control, std::move(action));
+void WidgetMirror::Forward(headless::Control& control, std::function<void(headless::Control&)> action) {
+  if (!updating_) Enqueue(control, std::move(action));
 }
 
-void Stage::Tell(headless::Control& control, std::function<void(headless::Control&)> action) {
-  ++*onItsWay_;
-  application_->Post(
-      [this, on = std::weak_ptr<int>(onItsWay_), to = control.weak_from_this(), action = std::move(action)] {
-        // The stage may be gone by now, and the control too.
-        const auto here = on.lock();
-        if (!here) return;
-        --*here;
-        if (const auto target = to.lock()) Run(*target, action);
-      });
+void WidgetMirror::Enqueue(headless::Control& control, std::function<void(headless::Control&)> action) {
+  ++*pendingActions_;
+  application_->Post([this, on = std::weak_ptr<int>(pendingActions_), to = control.weak_from_this(),
+                      action = std::move(action)] {
+    // The mirror may be gone by now, and the control too.
+    const auto here = on.lock();
+    if (!here) return;
+    --*here;
+    if (const auto target = to.lock()) Run(*target, action);
+  });
 }
 
-void Stage::Run(headless::Control& control, const std::function<void(headless::Control&)>& action) {
-  const std::weak_ptr<int> here = onItsWay_;
+void WidgetMirror::Run(headless::Control& control, const std::function<void(headless::Control&)>& action) {
+  const std::weak_ptr<int> here = pendingActions_;
   try {
     action(control);
   } catch (...) {
     if (here.expired()) throw;
     // What the model refused stands in the widget all the same.
     Changed(control);
-    return Report();
+    return ReportError();
   }
   if (!here.expired()) Changed(control);
 }
 
-void Stage::Report() {
+void WidgetMirror::ReportError() {
   if (!errorHandler_) throw;
   try {
     throw;
@@ -304,12 +304,12 @@ void Stage::Report() {
   }
 }
 
-void Stage::PreviewKey(headless::Control& control, const QKeyEvent& event) {
+void WidgetMirror::PreviewKey(headless::Control& control, const QKeyEvent& event) {
   const auto form = control.TopForm();
   const int key = KeyOf(event);
   const QWidget* widget = Find(control.Handle())->Widget();
   const QWidget* focused = widget->window()->focusWidget();
-  // What the focused control leaves to those around it has been seen already.
+  // What the focused control leaves to those padding it has been seen already.
   if (focused && focused != widget) return;
   if (!form || !form->KeyPreview() || key == 0 || event.isAutoRepeat()) return;
   Forward(*form, [key, shift = ShiftOf(event)](headless::Control& target) {
@@ -317,12 +317,12 @@ void Stage::PreviewKey(headless::Control& control, const QKeyEvent& event) {
   });
 }
 
-void Stage::Watch(QObject& object, Presenter& presenter) {
+void WidgetMirror::Watch(QObject& object, Presenter& presenter) {
   watched_[&object] = &presenter;
   object.installEventFilter(filter_.get());
 }
 
-void Stage::Unwatch(const Presenter& presenter) {
+void WidgetMirror::Unwatch(const Presenter& presenter) {
   // Filters of objects that are gone have gone with them; the others are asked no more.
   std::erase_if(watched_, [&](const auto& entry) { return entry.second == &presenter; });
 }

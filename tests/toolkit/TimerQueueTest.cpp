@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "host/loop/CallQueue.h"
+#include "host/loop/TimerQueue.h"
 
 namespace bench {
 namespace {
@@ -14,14 +14,14 @@ using orvik::platform::Time;
 
 class Calls : public testing::Test {
  protected:
-  CallQueue::Id Add(int when, int name) {
+  TimerQueue::Id Add(int when, int name) {
     return queue.Add(Time(when), [this, name] { ran.push_back(name); });
   }
   void RunDue(int now) {
     while (const auto call = queue.TakeDue(Time(now), queue.Mark())) call();
   }
 
-  CallQueue queue;
+  TimerQueue queue;
   std::vector<int> ran;
 };
 
@@ -75,7 +75,7 @@ TEST_F(Calls, AddedAfterTheMarkWait) {
 
 TEST_F(Calls, RemovingACallMayAddAnother) {
   struct Readder {
-    CallQueue* queue;
+    TimerQueue* queue;
     ~Readder() {
       queue->Add(Time(1), [] {});
     }
@@ -91,9 +91,9 @@ TEST_P(RandomCalls, BehaveAsASortedList) {
   SCOPED_TRACE("seed " + std::to_string(GetParam()));
   std::mt19937 random(GetParam());
   const auto pick = [&](int most) { return std::uniform_int_distribution<int>(0, most)(random); };
-  CallQueue queue;
+  TimerQueue queue;
   std::multimap<int, int> expected;
-  std::vector<std::pair<CallQueue::Id, std::multimap<int, int>::iterator>> live;
+  std::vector<std::pair<TimerQueue::Id, std::multimap<int, int>::iterator>> live;
   int last = -1;
   for (int step = 0; step < 2000; ++step) {
     const int choice = pick(9);
