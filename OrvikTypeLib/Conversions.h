@@ -15,7 +15,7 @@
 
 #include "OrvikTypeLib/Variant.h"
 
-/// Conversions between numbers and texts that saved documents rely on. None of them looks at the C locale.
+/// Conversions between numbers and texts that saved documents rely on. None of them depends on the C locale.
 namespace orvik {
 
 /// The text without leading and trailing blanks.
@@ -25,7 +25,7 @@ inline std::string Trim(std::string_view sText) {
   return std::string(sText.substr(first, sText.find_last_not_of(' ') - first + 1));
 }
 
-/// Whether a decimal number that no double can hold is too large for one, and not too small.
+/// Whether a decimal number outside the range of a double is too large, rather than too small.
 /// @param sNumber digits with at most one ".", and an exponent, as `std::from_chars` accepts them; no sign
 inline bool IsTooLarge(std::string_view sNumber) {
   const auto exponentAt = sNumber.find_first_of("eE");
@@ -33,11 +33,11 @@ inline bool IsTooLarge(std::string_view sNumber) {
   const auto first = sMantissa.find_first_of("123456789");
   if (first == std::string_view::npos) return false;
   const auto point = std::min(sMantissa.find('.'), sMantissa.size());
-  // The power of ten of the first digit that counts: "0.05" has -2, "120" has 2.
+  // The power of ten of the first significant digit: "0.05" has -2, "120" has 2.
   double rPower = static_cast<double>(point) - static_cast<double>(first);
   if (first < point) rPower -= 1;
   if (exponentAt == std::string_view::npos) return rPower > 0;
-  // An exponent may itself have any number of digits; as a double it is at worst infinite.
+  // An exponent may have any number of digits; as a double it is at worst infinite.
   std::string_view sExponent = sNumber.substr(exponentAt + 1);
   const bool fNegative = sExponent.starts_with('-');
   if (fNegative || sExponent.starts_with('+')) sExponent.remove_prefix(1);
@@ -54,7 +54,7 @@ inline double LeadingNumber(std::string_view sText) {
   if (first == std::string_view::npos) return 0;
   sText.remove_prefix(first);
   if (sText.front() == '+') sText.remove_prefix(1);
-  // from_chars alone would also read "inf" and "nan", which no instrument means as a number.
+  // from_chars alone would also read "inf" and "nan", which no instrument sends as a number.
   const auto digit = sText.find_first_not_of('-');
   const bool fNumber =
       digit <= 1 && std::string_view("0123456789.").find(sText[digit]) != std::string_view::npos;
@@ -69,7 +69,7 @@ inline double LeadingNumber(std::string_view sText) {
   return fNegative ? std::numeric_limits<double>::lowest() : std::numeric_limits<double>::max();
 }
 
-/// The finite number that the whole text stands for ("." as decimal sign, optional sign and exponent, blanks
+/// The finite number that the whole text represents ("." as decimal sign, optional sign and exponent, blanks
 /// around it); empty for anything else.
 inline std::optional<double> FiniteNumber(std::string_view sText) {
   const auto first = sText.find_first_not_of(' ');
@@ -99,7 +99,7 @@ inline std::int32_t RoundToInteger(double rValue) {
 /// A number as text with at most 15 significant digits, so that 0.1 + 0.2 reads 0.3; no sign blank.
 inline std::string NumberText(double rValue) {
   if (rValue == 0) return "0";
-  // Most readings are whole numbers; as such they come to the same text, and sooner.
+  // Most readings are whole numbers; an integer gives the same text faster.
   if (std::fabs(rValue) < 1e9 && rValue == std::trunc(rValue))
     return std::to_string(static_cast<std::int32_t>(rValue));
   char acBuffer[40];
@@ -140,7 +140,7 @@ inline std::string TextOf(const Variant& vValue) {
   return {};
 }
 
-/// The same of a value that nobody needs any more: a text, which may be a whole catalogue, is not copied.
+/// The same for a value that is no longer needed: its text, possibly a whole catalogue, is not copied.
 inline std::string TextOf(Variant&& vValue) {
   if (auto* psValue = std::get_if<std::string>(&vValue)) return std::move(*psValue);
   return TextOf(std::as_const(vValue));

@@ -20,7 +20,7 @@ class HostError : public std::runtime_error {
   static constexpr std::int32_t kNoSuchProperty = 438;
 
   /// @param lNumber error number, one of the above or the reporting object's own
-  /// @param sSource who reports it, for example "OrvikComm.Port"
+  /// @param sSource the reporting object, for example "OrvikComm.Port"
   /// @param sDescription what is wrong and what to do about it, in English
   HostError(std::int32_t lNumber, std::string sSource, const std::string& sDescription)
       : std::runtime_error(sDescription), lNumber_(lNumber), sSource_(std::move(sSource)) {}

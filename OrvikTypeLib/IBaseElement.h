@@ -14,10 +14,10 @@ class IResultData;
 
 /// The standard element that a plug-in's element wraps (class "OrvikTypeLib.TestElement", and
 /// "OrvikTypeLib.TestContainer" with `ITestContainer` beside it). Keeps identity, parent, information record,
-/// auxiliary state, configuration, limits and result; loads, saves and clones them deeply. A result is cloned
-/// by its class identifier
-/// (`IObject::ClassID`): a new one is created through the class library and loaded from what the old one
-/// saves.
+/// auxiliary state, configuration, limits and result; loads, saves and clones them deeply.
+///
+/// A result is cloned by its class identifier (`IObject::ClassID`): a new one is created through the class
+/// library and loaded from what the old one saves.
 ///
 /// Implemented by: the host. Mandatory. Since contract version 1. User-interface thread only.
 class IBaseElement : public virtual ITestElement {
@@ -32,7 +32,7 @@ class IBaseElement : public virtual ITestElement {
   void SetResult(std::shared_ptr<IResultData> Result) { IBaseElement_SetResult(std::move(Result)); }
   /// The host's own settings of the element.
   std::shared_ptr<IAuxiliaryState> Auxiliary() const { return IBaseElement_Auxiliary(); }
-  /// The plug-in's element that wraps this one: it is shown to reports and to children in this one's place.
+  /// The plug-in's element that wraps this one: reports and children see it instead of this one.
   /// Not kept alive.
   void SetOuter(std::shared_ptr<ITestElement> iteOuter) { IBaseElement_SetOuter(std::move(iteOuter)); }
 

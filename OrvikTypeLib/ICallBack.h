@@ -7,7 +7,7 @@
 
 namespace orvik {
 
-/// What a set-up control tells its host while it is edited.
+/// Notifies the host of edits in a set-up control.
 ///
 /// Implemented by: the host. Optional. Since contract version 1. User-interface thread only.
 class ICallBack : public virtual IObject {

@@ -16,11 +16,11 @@ class IXmlNode;
 /// Implemented by: the host and the plug-in. Mandatory. Since contract version 1. User-interface thread only.
 class IConfigData : public virtual IObject {
  public:
-  /// A copy that knows no owner.
+  /// A copy without an owner.
   std::shared_ptr<IConfigData> Clone() const { return IConfigData_Clone(); }
   /// The dialog that edits the settings, or empty.
   std::shared_ptr<IDialog> CreateDialog() { return IConfigData_CreateDialog(); }
-  /// Whether `CreateDialog` answers a dialog.
+  /// Whether `CreateDialog` returns a dialog.
   bool HasDialog() const { return IConfigData_HasDialog(); }
   /// Reads the settings from the host's configuration record (the node "Configuration").
   void Load(std::shared_ptr<IXmlNode> Node) { IConfigData_Load(std::move(Node)); }

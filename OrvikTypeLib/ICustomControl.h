@@ -17,9 +17,9 @@ class ICallBack;
 /// Implemented by: the host and the plug-in. Mandatory. Since contract version 1. User-interface thread only.
 class ICustomControl : public virtual IObject {
  public:
-  /// The object that is told of changes; empty when none is set.
+  /// The object that is notified of changes; empty if none is set.
   std::shared_ptr<ICallBack> CallBack() const { return ICustomControl_CallBack(); }
-  /// Sets the object that is told of changes; empty ends the notices.
+  /// Sets the object that is notified of changes; empty ends the notices.
   void SetCallBack(std::shared_ptr<ICallBack> CallBack) { ICustomControl_SetCallBack(std::move(CallBack)); }
   /// The control's own window; 0 when it is not placed in a window.
   WindowHandle hWnd() const { return ICustomControl_hWnd(); }
@@ -37,7 +37,7 @@ class ICustomControl : public virtual IObject {
   }
   /// Repaints the control from its data.
   void Refresh() { ICustomControl_Refresh(); }
-  /// Puts the focus where the operator works first.
+  /// Sets the focus to the control that the operator uses first.
   void SetFocus() { ICustomControl_SetFocus(); }
 
  private:

@@ -30,7 +30,7 @@ class IDialog : public virtual IObject {
   void SetLocked(bool fLocked) { IDialog_SetLocked(fLocked); }
   /// Makes the host window `hParent` the parent of the inner control's window; 0 does nothing.
   void Dock(WindowHandle hParent) { IDialog_Dock(hParent); }
-  /// Gives the inner control's window back to the dialog.
+  /// Returns the inner control's window to the dialog.
   void UnDock() { IDialog_UnDock(); }
   /// Hides the control (docked) or the form.
   void Hide() { IDialog_Hide(); }
@@ -42,13 +42,13 @@ class IDialog : public virtual IObject {
   }
   /// Repaints the inner control.
   void Refresh() { IDialog_Refresh(); }
-  /// Puts the focus into the inner control.
+  /// Sets the focus to the inner control.
   void SetFocus() { IDialog_SetFocus(); }
   /// Passes the data object and three values to the inner control.
   void Initialize(std::shared_ptr<IObject> Data, const Variant& v1, const Variant& v2, const Variant& v3) {
     IDialog_Initialize(std::move(Data), v1, v2, v3);
   }
-  /// Ends the dialog; a docked control is given back to the form first.
+  /// Ends the dialog; a docked control is returned to the form first.
   void Unload() { IDialog_Unload(); }
 
  private:

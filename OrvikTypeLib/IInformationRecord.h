@@ -7,16 +7,16 @@
 
 namespace orvik {
 
-/// What the host knows of an element to show it to people.
+/// The texts under which an element is shown to people.
 ///
 /// Implemented by: the host. Mandatory. Since contract version 1. User-interface thread only.
 class IInformationRecord : public virtual IObject {
  public:
-  /// An addition that tells like tests apart; often empty.
+  /// Distinguishes similar tests; often empty.
   std::string FirstText() const { return IInformationRecord_FirstText(); }
   /// Sets the first text.
   void SetFirstText(const std::string& sText) { IInformationRecord_SetFirstText(sText); }
-  /// The name of the test; the display name as long as nothing else was set.
+  /// The name of the test; the display name unless another text was set.
   std::string SecondText() const { return IInformationRecord_SecondText(); }
   /// Sets the second text.
   void SetSecondText(const std::string& sText) { IInformationRecord_SetSecondText(sText); }

@@ -28,8 +28,8 @@ class ILimit : public virtual IObject {
   std::string LowText() const { return ILimit_LowText(); }
   /// The upper bound as entered; empty when there is none.
   std::string HighText() const { return ILimit_HighText(); }
-  /// Replaces both bounds. `HostError` for a text that is no number, a lower bound above the upper one, or a
-  /// percentage without a nominal value; the bounds stay as they were.
+  /// Replaces both bounds. `HostError` for a text that is not a number, a lower bound above the upper one, or
+  /// a percentage without a nominal value; the bounds stay as they were.
   void SetBounds(const std::string& sLow, const std::string& sHigh) { ILimit_SetBounds(sLow, sHigh); }
   /// The value that percentages refer to; empty when there is none.
   Variant Nominal() const { return ILimit_Nominal(); }

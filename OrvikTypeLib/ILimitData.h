@@ -24,13 +24,13 @@ class ILimitData : public virtual IObject {
   std::string Description() const { return ILimitData_Description(); }
   /// Sets the description, where there is one.
   void SetDescription(const std::string& sDescription) { ILimitData_SetDescription(sDescription); }
-  /// Whether `CreateDialog` answers a dialog.
+  /// Whether `CreateDialog` returns a dialog.
   bool HasDialog() const { return ILimitData_HasDialog(); }
   /// The standards with their limits, or empty.
   std::shared_ptr<IStandardColl> Standards() const { return ILimitData_Standards(); }
   /// The element that owns the limits, or empty.
   std::shared_ptr<IObject> Owner() const { return ILimitData_Owner(); }
-  /// A deep copy that knows no owner.
+  /// A deep copy without an owner.
   std::shared_ptr<ILimitData> Clone() const { return ILimitData_Clone(); }
   /// The dialog that edits the limits.
   std::shared_ptr<IDialog> CreateDialog() { return ILimitData_CreateDialog(); }
@@ -50,9 +50,9 @@ class ILimitData : public virtual IObject {
   void PrintReport(std::shared_ptr<IReport> Report, std::shared_ptr<IObject> Context) {
     ILimitData_PrintReport(std::move(Report), std::move(Context));
   }
-  /// Tells that an object which limits may refer to has changed, for example the element itself.
+  /// An object that limits may refer to has changed, for example the element itself.
   void UpdateLimits(std::shared_ptr<IObject> Reference) { ILimitData_UpdateLimits(std::move(Reference)); }
-  /// The own standards, among those given, that the measurement fails; empty when it fails none.
+  /// The limits' own standards, of those given, that the measurement fails; empty if it fails none.
   std::shared_ptr<IStandardColl> FindFailedStandards(std::shared_ptr<IMeasurement> Measurement,
                                                      std::shared_ptr<IStandardColl> Standards) const {
     return ILimitData_FindFailedStandards(std::move(Measurement), std::move(Standards));

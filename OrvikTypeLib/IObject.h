@@ -8,7 +8,7 @@ namespace orvik {
 /// The root of every object that host and plug-in hand to each other.
 ///
 /// Objects live in `std::shared_ptr` and are released with the last reference; a reference back to an owner
-/// is a `std::weak_ptr`. Another view of an object is had with `As<Interface>(object)`.
+/// is a `std::weak_ptr`. `As<Interface>(object)` gives another interface of an object.
 ///
 /// Implemented by: the host and the plug-in. Mandatory. Since contract version 1. User-interface thread only.
 class IObject : public std::enable_shared_from_this<IObject> {
@@ -18,8 +18,8 @@ class IObject : public std::enable_shared_from_this<IObject> {
   IObject& operator=(const IObject&) = delete;
   virtual ~IObject() = default;
 
-  /// The identifier under which the object's class is registered, or empty for classes that nobody creates by
-  /// identifier.
+  /// The identifier under which the object's class is registered, or empty for classes that are never
+  /// created by identifier.
   std::string ClassID() const { return IObject_ClassID(); }
 
  private:

@@ -20,7 +20,7 @@ class IPersistence : public virtual IObject {
   std::shared_ptr<IXmlNode> WriteValue(std::shared_ptr<IXmlNode> Parent, const std::string& sText) {
     return IPersistence_WriteValue(std::move(Parent), sText);
   }
-  /// The text of a "Value" node; `HostError` when it is empty: a value that is not there is not 0.
+  /// The text of a "Value" node; `HostError` when it is empty: a missing value is not 0.
   std::string ReadValue(std::shared_ptr<IXmlNode> Node) const {
     return IPersistence_ReadValue(std::move(Node));
   }
@@ -29,7 +29,7 @@ class IPersistence : public virtual IObject {
                                         std::int32_t lStatus) {
     return IPersistence_WriteStatus(std::move(Parent), sName, lStatus);
   }
-  /// The code in a "Status" node; `HostError` when it holds no number.
+  /// The code in a "Status" node; `HostError` when it does not hold a number.
   std::int32_t ReadStatus(std::shared_ptr<IXmlNode> Node) const {
     return IPersistence_ReadStatus(std::move(Node));
   }

@@ -38,7 +38,7 @@ class IPlugIn : public virtual IObject {
   std::string Version() const { return IPlugIn_Version(); }
   /// A menu, or empty.
   std::shared_ptr<IObject> PlugInMenu() const { return IPlugIn_PlugInMenu(); }
-  /// Builds the plug-in; the first call the host makes. May be called again and builds all anew.
+  /// Builds the plug-in; the first call the host makes. May be called again and rebuilds everything.
   void Initialize(std::shared_ptr<IObject> Context) { IPlugIn_Initialize(std::move(Context)); }
   /// A copy of the catalogue entry with that identifier, or empty. It belongs to the host.
   std::shared_ptr<ITestElement> CreateTest(std::int32_t lTestID) { return IPlugIn_CreateTest(lTestID); }

@@ -12,7 +12,7 @@ namespace orvik {
 
 class IMessage;
 
-/// An open serial port. A port that fails (unplugged, input or output error) reads as closed.
+/// An open serial port. A port that fails (unplugged, input or output error) counts as closed.
 ///
 /// Implemented by: the host. Mandatory. Since contract version 1. User-interface thread only.
 class IPort : public virtual IObject {

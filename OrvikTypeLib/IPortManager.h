@@ -10,7 +10,7 @@ namespace orvik {
 
 class IPort;
 
-/// Knows which port belongs to which device.
+/// Finds and opens the port of a device.
 ///
 /// Implemented by: the host. Mandatory. Since contract version 1. User-interface thread only.
 class IPortManager : public virtual IObject {

@@ -12,7 +12,7 @@ class IInstrumentColl;
 class IStandardColl;
 class ITestElement;
 
-/// What an element asks and tells its host while it runs.
+/// The host's side of a running element.
 ///
 /// Implemented by: the host. Mandatory. Since contract version 1. User-interface thread only.
 class IRunController : public virtual IObject {

@@ -25,7 +25,7 @@ class IStandardColl : public virtual IObject {
   std::shared_ptr<IStandard> item(std::int32_t lIndex) const { return IStandardColl_item(lIndex); }
   /// Adds a standard at the end.
   void Add(std::shared_ptr<IStandard> Standard) { IStandardColl_Add(std::move(Standard)); }
-  /// Removes the standard; one that is not there changes nothing.
+  /// Removes the standard; a standard that is not in it changes nothing.
   void Remove(std::shared_ptr<IStandard> Standard) { IStandardColl_Remove(std::move(Standard)); }
   /// The first standard with both identifying strings, or empty.
   std::shared_ptr<IStandard> Find(const std::string& sName, const std::string& sDescription) const {

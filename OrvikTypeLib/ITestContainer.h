@@ -18,7 +18,7 @@ class ITestEnumerator;
 class ITestContainer : public virtual IObject {
  public:
   /// Adds a child at the end, or before or after the child with the identifier given (32-bit integer; empty
-  /// when missing). `HostError` for an element that stands above the container.
+  /// when missing). `HostError` for an element that contains the container.
   void Add(std::shared_ptr<ITestElement> iteElement, const Variant& vBefore, const Variant& vAfter) {
     ITestContainer_Add(std::move(iteElement), vBefore, vAfter);
   }
@@ -32,7 +32,7 @@ class ITestContainer : public virtual IObject {
   }
   /// Walks the children in order; survives adding and removing meanwhile.
   std::shared_ptr<ITestEnumerator> NewEnum() const { return ITestContainer_NewEnum(); }
-  /// Removes the child; an element that is no child changes nothing.
+  /// Removes the child; an element that is not a child changes nothing.
   void Remove(std::shared_ptr<ITestElement> iteElement) { ITestContainer_Remove(std::move(iteElement)); }
 
  private:

@@ -27,7 +27,7 @@ class ITestElement : public virtual IObject {
   void Initialize(const std::string& sPlugInID, std::int32_t lElementID, std::int32_t lTestID) {
     ITestElement_Initialize(sPlugInID, lElementID, lTestID);
   }
-  /// The element is about to be let go.
+  /// The element is about to be released.
   void Terminate() { ITestElement_Terminate(); }
   /// A deep copy: configuration, limits, result and children included. `HostError` beyond a thousand levels
   /// of nesting.
@@ -66,7 +66,7 @@ class ITestElement : public virtual IObject {
   std::int32_t ID() const { return ITestElement_ID(); }
   /// Sets the identifier.
   void SetID(std::int32_t lID) { ITestElement_SetID(lID); }
-  /// The container it stands in, or empty.
+  /// The container that it is in, or empty.
   std::shared_ptr<ITestElement> Parent() const { return ITestElement_Parent(); }
   /// Sets the parent; the element does not keep it alive.
   void SetParent(std::shared_ptr<ITestElement> iteParent) { ITestElement_SetParent(std::move(iteParent)); }
@@ -74,7 +74,7 @@ class ITestElement : public virtual IObject {
   std::int32_t TestID() const { return ITestElement_TestID(); }
   /// The identifier of the plug-in it belongs to.
   std::string PlugInID() const { return ITestElement_PlugInID(); }
-  /// What people are shown of the element.
+  /// The texts under which the element is shown to people.
   std::shared_ptr<IInformationRecord> Information() const { return ITestElement_Information(); }
   /// What the host filters element lists by: the test identifier.
   Variant Filter() const { return ITestElement_Filter(); }

@@ -18,9 +18,9 @@ class ITgToolbarEvents;
 /// Implemented by: the host. Mandatory. Since contract version 1. User-interface thread only.
 class ITgToolbar : public virtual IObject {
  public:
-  /// Who is told of clicks; one listener, not kept alive.
+  /// Sets the one listener that is notified of clicks; it is not kept alive.
   void Advise(std::weak_ptr<ITgToolbarEvents> Events) { ITgToolbar_Advise(std::move(Events)); }
-  /// Shows a text beside the buttons.
+  /// Shows a text next to the buttons.
   void SetStatusText(const std::string& sText) { ITgToolbar_SetStatusText(sText); }
   /// The text shown.
   std::string StatusText() const { return ITgToolbar_StatusText(); }
@@ -36,7 +36,7 @@ class ITgToolbar : public virtual IObject {
   void AddEntry(std::int32_t lParent, std::int32_t lCommand, const std::string& sCaption) {
     ITgToolbar_AddEntry(lParent, lCommand, sCaption);
   }
-  /// Does what the operator's click does: nothing when the button is disabled or hidden.
+  /// Clicks a button as the operator does; ignored when it is disabled or hidden.
   void Click(std::int32_t lCommand) { ITgToolbar_Click(lCommand); }
 
  private:

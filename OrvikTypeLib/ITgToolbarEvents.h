@@ -7,7 +7,7 @@
 
 namespace orvik {
 
-/// Told of the operator's clicks on a test-guide toolbar.
+/// Notified of the operator's clicks on a test-guide toolbar.
 ///
 /// Implemented by: the host and the plug-in. Optional. Since contract version 1. User-interface thread only.
 class ITgToolbarEvents : public virtual IObject {

@@ -15,7 +15,7 @@ class IXmlNode;
 class IXmlDocument : public virtual IObject {
  public:
   /// Replaces the document by the parsed text; false, and an empty document, when it is malformed.
-  /// `LastError` tells why.
+  /// `LastError` gives the reason.
   bool LoadFromString(const std::string& sXml) { return IXmlDocument_LoadFromString(sXml); }
   /// Why the last load failed, with line and column; empty after a good one.
   std::string LastError() const { return IXmlDocument_LastError(); }

@@ -47,7 +47,7 @@ class IXmlNode : public virtual IObject {
   std::shared_ptr<IXmlNode> FindChild(const std::string& sName) const { return IXmlNode_FindChild(sName); }
   /// Creates an element, adds it as the last child and returns it.
   std::shared_ptr<IXmlNode> AddChild(const std::string& sName) { return IXmlNode_AddChild(sName); }
-  /// Makes `Node` of the same document the last child; one that already stands there stays. Empty is refused
+  /// Makes `Node` of the same document the last child; one that is already last stays. Empty is refused
   /// with `HostError`.
   void Append(std::shared_ptr<IXmlNode> Node) { IXmlNode_Append(std::move(Node)); }
 

@@ -21,7 +21,7 @@ using ContractVersionEntry = std::uint32_t();
 /// `OrvikOpenLibrary`: hands the library its host and sets `Library` to its classes; empty when it cannot
 /// work. Throws nothing.
 using OpenLibraryEntry = void(const std::shared_ptr<IHost>& Host, std::shared_ptr<IClassLibrary>& Library);
-/// `OrvikCloseLibrary`: the library lets go of the host and of its shared objects. No object of it may be
+/// `OrvikCloseLibrary`: the library releases the host and its shared objects. No object of it may be
 /// used afterwards.
 using CloseLibraryEntry = void();
 

@@ -4,7 +4,7 @@
 
 namespace orvik {
 
-/// A window of the platform as a number; 0 is no window.
+/// A window of the platform as a number; 0 means none.
 using WindowHandle = std::uintptr_t;
 
 }  // namespace orvik

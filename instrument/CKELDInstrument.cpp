@@ -87,7 +87,7 @@ void CKELDInstrument::DisconnectMTI() {
   if (!fRemote && fRemoteAsked) AwaitRemote();
 
   if (fRemote) {
-    // Both are sent, whatever becomes of the first.
+    // Both are sent, whatever the result of the first.
     std::int32_t lState = 0;
     SendCommand(Commands::kStartTest, Commands::kStartTestCode, CommsState::kTestStarted,
                 Commands::kTestStarted, Commands::kClosingTest, 0, true, lState);
@@ -108,7 +108,7 @@ void CKELDInstrument::AwaitRemote() {
     WaitForMessage(lWaiting, fOpen);
     if (lWaiting <= 0) break;
     const auto Reply = TakeMessage();
-    // A library that cannot give its messages away would have one waiting for ever.
+    // A library that fails to hand over its messages would report one forever.
     if (!Reply) break;
     Attempt([&] { fRemote = Reply->Mnemonic() == Commands::kRemoteEntered; });
   }

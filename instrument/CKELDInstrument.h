@@ -24,18 +24,16 @@ using MtiDataArray = std::array<orvik::Variant, 5>;
 ///
 /// Every operation returns when its exchanges are over, and lets the host process messages while it waits, so
 /// handlers and the operator may call back into the link meanwhile:
-/// - `RunMtiTest` and `DisconnectMTI` overtake a run that is waiting. Its wait ends at once, its exchange
-/// ends
-///   with `CommsState::kNoAnswer`, and it sends nothing more.
-/// - While `DisconnectMTI` is on the way, a second call is ignored, the first one finishes; a run asked for
-/// is
-///   answered with `CommsState::kNoAnswer` and sends nothing. So the end of a session cannot be skipped.
+/// - `RunMtiTest` and `DisconnectMTI` interrupt a run that is waiting. Its wait ends immediately, its
+///   exchange ends with `CommsState::kNoAnswer`, and it sends nothing more.
+/// - While `DisconnectMTI` is active, a second call is ignored and the first one finishes. A run started
+///   meanwhile ends with `CommsState::kNoAnswer` and sends nothing, so a session is always ended.
 /// - The link may be released; it lives until the operation on the stack has returned.
 /// Errors of the communication library are ignored step by step.
 class CKELDInstrument final : public virtual orvik::IObject {
  public:
   static std::shared_ptr<CKELDInstrument> Create();
-  /// Does not close the port: `DisconnectMTI` comes before the link is let go of.
+  /// Does not close the port: call `DisconnectMTI` before releasing the link.
   ~CKELDInstrument() override;
 
   /// The tester's port number, narrowed to 16 bits; less than 1 when `ConnectMTI` was not called or found
@@ -45,11 +43,11 @@ class CKELDInstrument final : public virtual orvik::IObject {
   void ConnectMTI();
   /// Ends the session, if there is one, and closes the port.
   ///
-  /// Called while "IREM" is out, it first gives the reply the rest of the wait in force: a tester that has
-  /// entered remote mode is not left in it.
+  /// Called while "IREM" is unanswered, it first waits for the reply within the running time-out, so that a
+  /// tester that has entered remote mode is not left in it.
   void DisconnectMTI();
-  /// Enters remote mode if need be, starts the test, fetches its result. The settings 99, 999 and 9999 go out
-  /// as 0.
+  /// Enters remote mode if necessary, starts the test, fetches its result. The settings 99, 999 and 9999 are
+  /// sent as 0.
   void RunMtiTest(std::int16_t iTestNo, std::int16_t iSetting);
 
   /// One element of the MTI data, "NO VALUE" when the reply had none; `HostError` 9 outside 0 to 4.
@@ -57,7 +55,8 @@ class CKELDInstrument final : public virtual orvik::IObject {
   /// Element 3 takes "O" for a value equal to the number 1 (also as the texts "1", "01", "1.0"), else "".
   void SetMtiData(int iIndex, const orvik::Variant& vValue);
 
-  /// The tester has identified itself: the MTI data of its reply, whatever handlers do to the link meanwhile.
+  /// The tester has identified itself: the MTI data of its reply, unaffected by what handlers do with the
+  /// link.
   orvik::platform::Event<const MtiDataArray&>& GotMtiData() { return mGotMtiData; }
   /// An exchange has ended: its `CommsState`, which a handler may change, and the test number (0 for "IREM"
   /// and "EREM").
@@ -96,10 +95,10 @@ class CKELDInstrument final : public virtual orvik::IObject {
   MtiDataArray avData;
 
   const std::shared_ptr<orvik::platform::IApplication> Application;
-  /// Counts runs and disconnections; whoever finds another number than its own has been overtaken.
+  /// Counts runs and disconnections; an operation whose number has changed was interrupted.
   std::uint32_t lTurn = 0;
   bool fDisconnecting = false;
-  /// Errors of the message pump since its last success.
+  /// Consecutive errors of the message pump.
   int iPumpFailures = 0;
   /// "IREM" has been sent and is not answered yet.
   bool fRemoteAsked = false;

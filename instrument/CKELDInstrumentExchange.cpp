@@ -21,15 +21,15 @@ namespace {
 constexpr std::int16_t kPauseMilliseconds = 3500;
 constexpr std::int16_t kReplyMilliseconds = 2000;
 constexpr int kMaxAttempts = 3;
-/// An error in somebody's handler comes out of the pump, and the wait goes on; a pump that only fails does
-/// not wait.
+/// The pump passes on the error of any handler, and the wait continues. A pump that always fails does not
+/// wait, so the wait ends.
 constexpr int kMaxPumpFailures = 100;
-/// The clock ends every wait; the pump is given a deadline that no pulse is beyond.
+/// The clock ends every wait; the pump's deadline is later than any pulse.
 constexpr std::chrono::milliseconds kBeyondPulse{kPauseMilliseconds};
 
 }  // namespace
 
-// The message code goes with every command and is used for nothing.
+// The message code of a command is not used.
 void CKELDInstrument::SendCommand(const std::string& sCommand, std::int16_t /*iMessageCode*/,
                                   std::int32_t lSuccessState, const std::string& sExpectedReply,
                                   std::int16_t iParameter1, std::int16_t iParameter2, bool fWithParameters,
@@ -48,7 +48,7 @@ void CKELDInstrument::SendCommand(const std::string& sCommand, std::int16_t /*iM
       fRemote = false;
       break;
     case Outcome::kOvertaken:
-      // Whoever came in between knows better than this exchange whether a session is open.
+      // The interrupting operation has set whether a session is open.
       lState = CommsState::kNoAnswer;
       break;
   }
@@ -101,7 +101,7 @@ void CKELDInstrument::WaitForMessage(std::int32_t& lWaiting, bool& fOpen) {
 }
 
 bool CKELDInstrument::Pump() {
-  // A clock that has stopped would be waited for in vain: the wait is over then.
+  // A stopped clock never pulses, so the wait ends.
   if (!mfrmClock->Running()) return false;
   const bool fPumped = Attempt([&] { Application->WaitMessages(Application->Now() + kBeyondPulse); });
   iPumpFailures = fPumped ? 0 : iPumpFailures + 1;

@@ -65,7 +65,7 @@ std::string CKELDMeasurement::ReportLine(const std::shared_ptr<orvik::IReport>& 
   Attempt([&] { sShownDescription = MKELDGlobalVars::Translated(sDescription); });
   std::string sShownUnit = sUnit;
   Attempt([&] {
-    // What the tester sent is text, also where it looks like markup.
+    // What the tester sent is text even if it looks like markup.
     sShownDescription = Required(Report).Escape(sShownDescription);
     sShownUnit = Report->Escape(sUnit);
   });
@@ -86,7 +86,7 @@ std::string CKELDMeasurement::IMeasurement_ValueFormat() const { return kFormat;
 
 void CKELDMeasurement::IMeasurement_Load(std::shared_ptr<orvik::IXmlNode> Node) {
   Attempt([&] { sFlags = Required(Node).Attribute(MXmlConstants::kFlags); });
-  // A node that cannot tell its children, or no more of them, ends the list.
+  // A node that fails to return a child ends the list.
   Attempt([&] {
     Required(Node).ForEachChild(
         [&](const std::string& sName, const auto& Child) { LoadChild(sName, Child); });

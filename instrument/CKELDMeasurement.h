@@ -21,24 +21,24 @@ class CKELDMeasurement final : public orvik::IMeasurement {
 
   /// Text, normally a language string.
   void SetDescription(const std::string& sNewDescription);
-  /// 0 not judged, 1 passed, 2 failed.
+  /// A code of `orvik::MeasurementStatus`.
   std::int32_t Status() const { return lStatus; }
   void SetStatus(std::int32_t lNewStatus);
 
   /// Adds to the value, and replaces unit and flags ("O" marks an overload).
   ///
   /// An empty value plus x is x. Numbers add up as integers while both are and the sum fits, else as doubles;
-  /// texts count by the number that they are. A text that is no number cannot be added to a value and leaves
-  /// it as it was.
+  /// texts count by their number. A text that is not a number cannot be added and leaves the value
+  /// unchanged.
   void AddValue(const orvik::Variant& vAdded, const std::string& sNewUnit, const std::string& sNewFlags,
                 const std::string& sIgnored);
 
-  /// The measurement as one row of a report table: empty cell, description, whole-number value, unit. What
-  /// would read as markup is made plain by the report.
+  /// The measurement as one row of a report table: empty cell, description, whole-number value, unit. The
+  /// report escapes what would read as markup.
   std::string ReportLine(const std::shared_ptr<orvik::IReport>& Report) const;
 
-  /// Whether the limits find the measurement failing one of the standards. Nothing to judge by fails nothing;
-  /// a judgement that breaks off with an error counts as failed, so that it never reads as passed.
+  /// Whether the measurement fails one of the standards by these limits. Without limits or standards it does
+  /// not; a judgement that ends with an error counts as failed, so that it never passes.
   bool FailsLimits(const std::shared_ptr<orvik::ILimitData>& Limits,
                    const std::shared_ptr<orvik::IStandardColl>& Standards);
 

@@ -57,7 +57,7 @@ CalibrationControls CalibrationControls::AddTo(const std::shared_ptr<platform::I
   controls.txtMTIType = Form->AddTextBox("txtMTIType");
   controls.txtMTIType->SetLocked(true);
 
-  // The frame comes first, so that it stands behind what it frames.
+  // The frame is added first, so that it is behind its contents.
   Form->AddFrame("pboCalibData");
   controls.lblValue = Form->AddLabel("lblValue");
   Form->AddLabel("lblMilli")->SetCaption("m");

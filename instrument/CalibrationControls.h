@@ -8,13 +8,13 @@
 
 namespace keld {
 
-/// What stands on the lead calibration window.
+/// The controls of the lead calibration window.
 struct CalibrationControls {
   std::shared_ptr<orvik::platform::ILabel> lblHlpTxt;
   std::shared_ptr<orvik::platform::ITextBox> txtSerial;
   std::shared_ptr<orvik::platform::ITextBox> txtMTIType;
   std::shared_ptr<orvik::platform::ILabel> lblValue;
-  /// What is going on; the guidance in `lblHlpTxt` tells what to do.
+  /// The current state; `lblHlpTxt` holds the instructions.
   std::shared_ptr<orvik::platform::ILabel> lblStatus;
   /// Empty when the host has no such control.
   std::shared_ptr<orvik::ITgProgressBar> xpbProgress;
@@ -22,7 +22,7 @@ struct CalibrationControls {
   std::shared_ptr<orvik::platform::IButton> cmdSave;
   std::shared_ptr<orvik::platform::IButton> cmdCancel;
 
-  /// Puts the controls on the form, with translated captions and tool tips, and lays them out.
+  /// Adds the controls to the form, with translated captions and tool tips, and lays them out.
   static CalibrationControls AddTo(const std::shared_ptr<orvik::platform::IForm>& Form);
 };
 

@@ -2,8 +2,8 @@
 
 #include <cstdint>
 
-/// The tester's commands, the replies that mean success, and the message codes. The tester knows an identity
-/// query and power commands too; nothing here sends them.
+/// The tester's commands, the replies that mean success, and the message codes. The tester also has an
+/// identity query and power commands, which are not used.
 namespace keld::Commands {
 
 /// Enter remote mode; the reply identifies the tester.
@@ -29,7 +29,7 @@ inline constexpr std::int16_t kStartTestCode = 5;
 /// The tester's error reply, with the error number among its parameters.
 inline constexpr char kError[] = "ERRM";
 
-/// The test that is started to end a session: it takes the tester out of whatever it was doing.
+/// The test that is started to end a session: it ends any test in progress.
 inline constexpr std::int16_t kClosingTest = 210;
 
 }  // namespace keld::Commands

@@ -7,7 +7,7 @@ namespace keld::CommsState {
 
 /// The tester reported an error other than 1003 and 6002.
 inline constexpr std::int32_t kInstrumentError = 0;
-/// A reply came that belongs to another command.
+/// The reply belongs to another command.
 inline constexpr std::int32_t kUnexpectedReply = 1;
 /// The tester has left remote mode.
 inline constexpr std::int32_t kRemoteEnded = 2;
@@ -17,7 +17,7 @@ inline constexpr std::int32_t kRemoteOpen = 3;
 inline constexpr std::int32_t kTestStarted = 4;
 /// The result is in the MTI data.
 inline constexpr std::int32_t kResultReceived = 5;
-/// There was no session to end; carried by `MessageSent` alone.
+/// There was no session to end; used by `MessageSent` only.
 inline constexpr std::int32_t kNoSession = 6;
 /// No reply after three attempts, or the port is closed.
 inline constexpr std::int32_t kNoAnswer = 7;

@@ -46,7 +46,7 @@ FCalibrateLeads::~FCalibrateLeads() {
 std::string FCalibrateLeads::IObject_ClassID() const { return ClassIdentifiers::kCalibrateLeads; }
 
 void FCalibrateLeads::Subscribe() {
-  // Handlers keep the dialog until they are done: the window may be let go of meanwhile.
+  // Handlers keep the dialog alive, because the window may be released meanwhile.
   const auto Calling = [this](void (FCalibrateLeads::*pHandler)()) {
     return [this, pHandler, Weak = weak_from_this()] {
       if (const auto Self = Weak.lock()) (this->*pHandler)();
@@ -79,7 +79,7 @@ void FCalibrateLeads::Unload() {
 }
 
 void FCalibrateLeads::cmdCalibrate_Click() {
-  // The button is free again while the session is being ended: that click counts when the port is.
+  // The button is enabled while the session ends, so a click may come before the port is closed.
   fCalibrateAgain = true;
   if (fCalibrating) return;
   fCalibrating = true;

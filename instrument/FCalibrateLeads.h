@@ -16,18 +16,18 @@ namespace keld {
 /// The window in which the operator measures the resistance of the test leads and stores it under the
 /// tester's serial number (class "orvikKELD.FCalibrateLeads").
 ///
-/// Cancelling, also by the cross or the escape key, hides the window and ends a session that is open; so a
-/// modal display returns when the tester has been left in peace, within the link's own bounds.
+/// Cancelling, also by the cross or the escape key, hides the window and ends an open session. A modal
+/// display therefore returns once the session has ended, within the link's time-outs.
 class FCalibrateLeads final : public virtual orvik::IDialogForm {
  public:
   static std::shared_ptr<FCalibrateLeads> Create();
   ~FCalibrateLeads() override;
 
-  /// Shows the window and returns when it is closed and no exchange is on the way any more.
+  /// Shows the window and returns when it is closed and no exchange is active.
   void ShowModal(const std::shared_ptr<orvik::platform::IForm>& Owner);
-  /// Whether the window was left without saving.
+  /// Whether the window was closed without saving.
   bool Cancelled() const { return fCancelled; }
-  /// Ends the session and lets go of the window.
+  /// Ends the session and releases the window.
   void Unload();
 
  private:

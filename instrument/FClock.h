@@ -20,11 +20,11 @@ class FClock {
   void Load();
   void Unload();
 
-  /// Has `ClockPulse` raised every so many milliseconds, the first time after a whole interval, until
+  /// Raises `ClockPulse` at this interval, first after one whole interval, until
   /// `StopClock`.
   void StartClock(std::int16_t iMilliseconds);
   void StopClock();
-  /// Whether a pulse is still to come. Those who wait for one ask first: the form may have been taken away.
+  /// Whether a pulse is still to come. Check it before waiting: the form may have been unloaded.
   bool Running() const;
 
   orvik::platform::Event<>& ClockPulse() { return mClockPulse; }

@@ -12,8 +12,8 @@
 #include "OrvikTypeLib/HostError.h"
 #include "OrvikTypeLib/Variant.h"
 
-/// Strict conversions: unlike a leading-number parse they take a text as a number only when the whole of it
-/// is one (blanks around it do not count).
+/// Strict conversions: unlike a leading-number parse they accept a text only if all of it is a
+/// number, apart from blanks around it.
 namespace keld {
 
 /// The number that the value is; none when it is not a number.
@@ -26,7 +26,7 @@ inline std::optional<double> NumberIn(const orvik::Variant& vValue) {
   const std::string sTrimmed = orvik::Trim(*psValue);
   std::string_view sNumber = sTrimmed;
   const bool fSigned = sNumber.starts_with('+') || sNumber.starts_with('-');
-  // from_chars alone would also take "inf" and "nan", which no tester means as a number.
+  // from_chars alone would also accept "inf" and "nan", which no tester sends as a number.
   const std::string_view sDigits = fSigned ? sNumber.substr(1) : sNumber;
   if (sDigits.empty() || sDigits.find_first_of("0123456789.") != 0) return std::nullopt;
   if (sNumber.starts_with('+')) sNumber = sDigits;

@@ -41,11 +41,11 @@ void XKELDData::AttachTo(const std::shared_ptr<platform::IContainerSite>& site) 
   panel->SetGrid(LabelsAndFields());
   MKELDGlobalVars::TranslateCaptions(panel);
 
-  // The control stays until its handler is done, whatever the serial number sets going.
+  // The handler keeps the control alive, because a new serial number may release it.
   const auto Take = [this, Weak = weak_from_this()] {
     if (const auto Self = Weak.lock()) TakeSerialNumber();
   };
-  // Typing takes the selection away; what is typed counts when the box is left.
+  // Typing clears the selection; the typed text is used when the box loses the focus.
   mSelectedSubscription = cboSerial->Selected().Subscribe([this, Take] {
     if (cboSerial->SelectedIndex() >= 0) Take();
   });

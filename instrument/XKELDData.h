@@ -15,9 +15,9 @@ namespace keld {
 
 /// Shows the tester's identity and the calibration value of its leads (class "orvikKELD.XKELDData").
 ///
-/// The operator picks or types another serial number in "cboSerial": the instrument data takes it, with its
-/// stored calibration value, and the control shows both. An emptied box goes back to the serial number in
-/// force. `Initialize` needs no values: there is one instrument data object for the process.
+/// The operator picks or types another serial number in "cboSerial": the instrument data adopts it with its
+/// stored calibration value, and the control shows both. An emptied box reverts to the current serial number.
+/// `Initialize` needs no values: there is one instrument data object for the process.
 class XKELDData final : public virtual orvik::ICustomControl, public orvik::platform::IUserControl {
  public:
   static std::shared_ptr<XKELDData> Create();
@@ -54,7 +54,7 @@ class XKELDData final : public virtual orvik::ICustomControl, public orvik::plat
   std::shared_ptr<orvik::platform::ITextBox> txtCalib;
   std::shared_ptr<orvik::ICallBack> mCallBack;
   bool mfLocked = false;
-  /// The box is being filled: what it reports is not the operator's doing.
+  /// The box is being filled, so its events are not the operator's.
   bool mfFilling = false;
   orvik::platform::Subscription mSelectedSubscription;
   orvik::platform::Subscription mLostFocusSubscription;

@@ -13,7 +13,7 @@ namespace orvik::platform {
 
 class IPanel;
 
-/// A text that people read.
+/// A text to read.
 class ILabel : public virtual IControl {};
 
 /// A frame around other controls, with a caption.
@@ -28,7 +28,7 @@ class IButton : public virtual IControl {
 class ITextBox : public virtual IControl {
  public:
   virtual std::string Text() const = 0;
-  /// Raises `Changed` when the text becomes another.
+  /// Raises `Changed` when the text changes.
   virtual void SetText(const std::string& text) = 0;
   virtual bool Locked() const = 0;
   virtual void SetLocked(bool locked) = 0;

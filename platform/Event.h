@@ -7,7 +7,7 @@
 
 namespace orvik::platform {
 
-/// Holds a handler on an event; letting go of it ends the subscription, also from inside a handler.
+/// Keeps a handler subscribed to an event; releasing it ends the subscription, also inside a handler.
 class [[nodiscard]] Subscription {
  public:
   Subscription() = default;
@@ -20,7 +20,7 @@ class [[nodiscard]] Subscription {
   std::shared_ptr<void> slot_;
 };
 
-/// Something that happens to an object. Handlers run at once, in the order of their subscriptions.
+/// An event of an object. Handlers run immediately, in the order of their subscriptions.
 ///
 /// A handler may subscribe, end subscriptions and release the object that raises the event.
 template <class... Args>
@@ -32,7 +32,7 @@ class Event {
   Event(const Event&) = delete;
   Event& operator=(const Event&) = delete;
 
-  /// The handler runs until the subscription is let go.
+  /// The handler runs until the subscription is released.
   Subscription Subscribe(Handler handler) {
     auto slot = std::make_shared<Slot>(std::make_shared<Handler>(std::move(handler)));
     std::erase_if(slots_, [](const std::weak_ptr<Slot>& ended) { return ended.expired(); });
@@ -40,12 +40,12 @@ class Event {
     return Subscription(std::move(slot));
   }
 
-  /// Runs the handlers that are subscribed now; one whose subscription ends meanwhile is passed over.
+  /// Runs the handlers that are subscribed now; one whose subscription ends meanwhile is skipped.
   void Raise(Args... args) const {
     const auto slots = slots_;
     for (const auto& slot : slots) {
-      // The handler alone is held while it runs: once it ends its subscription, a nested raise passes it
-      // over.
+      // The handler alone is held while it runs: once it ends its subscription, a nested raise skips
+      // it.
       Slot handler;
       if (const auto subscribed = slot.lock()) handler = *subscribed;
       if (handler) (*handler)(args...);
@@ -53,7 +53,7 @@ class Event {
   }
 
  private:
-  /// Owned by the subscription alone.
+  /// Owned by the subscription only.
   using Slot = std::shared_ptr<Handler>;
 
   std::vector<std::weak_ptr<Slot>> slots_;

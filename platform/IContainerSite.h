@@ -10,7 +10,7 @@ namespace orvik::platform {
 
 class IUserControl;
 
-/// The place where a user control stands in a panel: the outside of the control for its container, and the
+/// The site of a user control in a panel: the outside of the control for its container, and the
 /// panel inside it.
 class IContainerSite : public virtual IControl {
  public:

@@ -7,10 +7,10 @@
 
 namespace orvik::platform {
 
-/// What every control, panel and form has. Made by a panel, owned by it, found in it by name.
+/// Common to every control, panel and form. A panel creates it, owns it, and finds it by name.
 ///
-/// Operations named after an action of the operator (`Click`, `Type`, `Choose`, `PressKey`, ...) do what the
-/// operator's action does, and nothing when the control is hidden, disabled or locked against it.
+/// Operations named after an action of the operator (`Click`, `Type`, `Choose`, `PressKey`, ...) have the
+/// effect of that action, and none when the control is hidden, disabled or locked.
 class IControl {
  public:
   IControl() = default;
@@ -28,7 +28,7 @@ class IControl {
   virtual std::string ToolTip() const = 0;
   virtual void SetToolTip(const std::string& text) = 0;
 
-  /// Place inside the parent, in twips. Set by the panel's layout where it names the control.
+  /// Place inside the parent, in twips. Set by the panel's layout if it names the control.
   virtual Rect Bounds() const = 0;
   virtual void SetBounds(const Rect& bounds) = 0;
 

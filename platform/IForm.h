@@ -7,21 +7,21 @@
 
 namespace orvik::platform {
 
-/// A window. Created hidden and not loaded; whoever created it owns it, and while it is loaded the
+/// A window. Created hidden and not loaded; its creator owns it, and while it is loaded the
 /// application holds it too.
 class IForm : public virtual IPanel {
  public:
-  /// Makes the window ready; loading twice changes nothing. `Show` and `ShowModal` load it where that has not
-  /// been done.
+  /// Makes the window ready; loading twice changes nothing. `Show` and `ShowModal` load it if
+  /// necessary.
   virtual void Load() = 0;
   virtual bool Loaded() const = 0;
   /// Shows the window without waiting, and activates it.
   virtual void Show() = 0;
-  /// Shows the window and processes messages until it is hidden or unloaded; other windows do not answer the
+  /// Shows the window and processes messages until it is hidden or unloaded; other windows ignore the
   /// operator meanwhile.
   virtual void ShowModal(const std::shared_ptr<IForm>& owner) = 0;
   virtual void Hide() = 0;
-  /// Hides the window, raises `Unloading` and lets it go. Unloading twice changes nothing.
+  /// Hides the window, raises `Unloading` and releases it. Unloading twice changes nothing.
   virtual void Unload() = 0;
 
   virtual bool Active() const = 0;
@@ -34,7 +34,7 @@ class IForm : public virtual IPanel {
 
   /// The form has become the active window.
   virtual Event<>& Activated() = 0;
-  /// The form itself, and none of its controls, got the focus.
+  /// The form itself, not one of its controls, got the focus.
   virtual Event<>& GotFocus() = 0;
   /// A key was pressed and the form previews keys: key code, shift state.
   virtual Event<int, int>& KeyDown() = 0;

@@ -58,7 +58,7 @@ class IListView : public virtual IControl {
   virtual std::string SelectedRow() const = 0;
 
   virtual Event<const MouseEvent&>& MouseUp() = 0;
-  /// Presses and lets go of a mouse button over the list.
+  /// Presses and releases a mouse button over the list.
   virtual void ClickAt(const MouseEvent& event) = 0;
 };
 

@@ -40,7 +40,7 @@ class IPanel : public virtual IControl {
   virtual std::shared_ptr<IPictureBox> AddPictureBox(const std::string& name) = 0;
   virtual std::shared_ptr<ITabs> AddTabs(const std::string& name) = 0;
   virtual std::shared_ptr<ITimer> AddTimer(const std::string& name) = 0;
-  /// Creates a user control by class identifier and places it; an identifier that nobody knows is an error
+  /// Creates a user control by class identifier and places it; an unknown identifier is an error
   /// and adds nothing.
   virtual std::shared_ptr<IContainerSite> AddControl(const std::string& classIdentifier,
                                                      const std::string& name) = 0;
@@ -51,7 +51,7 @@ class IPanel : public virtual IControl {
   /// their sites.
   virtual std::shared_ptr<IControl> Find(const std::string& name) const = 0;
 
-  /// Places the controls by rows and columns, now and whenever the panel changes its size or a caption its
+  /// Places the controls by rows and columns, now and on every change of the panel's size or of a caption's
   /// length.
   virtual void SetGrid(const Grid& grid) = 0;
   /// Size of the inside, in twips.

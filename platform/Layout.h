@@ -14,7 +14,7 @@ struct Track {
   int weight = 0;
 };
 
-/// Where one control stands in the grid.
+/// The position of one control in the grid.
 struct Cell {
   std::string control;
   int row = 0;

@@ -11,7 +11,7 @@
 namespace orvik::platform {
 namespace {
 
-/// What one control asks of the tracks of one direction.
+/// What one control needs of the tracks of one direction.
 struct Span {
   std::size_t first = 0;
   std::size_t count = 1;
@@ -39,7 +39,7 @@ class Tracks {
  public:
   Tracks(const std::vector<Track>& tracks, Twips gap, std::vector<Span> spans) : tracks_(tracks), gap_(gap) {
     for (const Track& track : tracks) sizes_.push_back(track.minimum);
-    // Short spans first, so that a long one only takes what its tracks do not have already.
+    // Short spans first, so that a long one only adds what its tracks lack.
     std::stable_sort(spans.begin(), spans.end(),
                      [](const Span& a, const Span& b) { return a.count < b.count; });
     for (const Span& span : spans) Fit(span);

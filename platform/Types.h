@@ -5,10 +5,10 @@
 
 namespace orvik::platform {
 
-/// A window as a number; 0 is no window.
+/// A window as a number; 0 means none.
 using WindowHandle = std::uintptr_t;
 
-/// A moment on the platform's clock, which never goes back and stands on no calendar.
+/// A time on the platform's clock: monotonic and unrelated to wall-clock time.
 using Time = std::chrono::microseconds;
 
 /// Lengths on the screen are in twips: 1,440 an inch, 15 a pixel at 96 pixels an inch.
@@ -36,7 +36,7 @@ inline constexpr Color kWindowBackground = 0x80000005;
 inline constexpr Color kWindowText = 0x80000008;
 inline constexpr Color kButtonFace = 0x8000000F;
 
-/// Codes of the keys that forms look at; letters and digits are their upper-case character.
+/// Codes of the keys that forms handle; letters and digits are their upper-case character.
 enum Key : int { kKeyReturn = 13, kKeyEscape = 27, kKeySpace = 32, kKeyN = 78, kKeyY = 89 };
 
 enum class Alignment { kLeft, kRight, kCentre };

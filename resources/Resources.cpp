@@ -7,7 +7,7 @@
 namespace keld {
 namespace {
 
-// Not std::toupper: a key must be found under every locale.
+// Not std::toupper, which depends on the locale.
 char ToUpper(char sLetter) {
   return sLetter >= 'a' && sLetter <= 'z' ? static_cast<char>(sLetter - 'a' + 'A') : sLetter;
 }

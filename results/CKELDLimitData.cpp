@@ -39,8 +39,8 @@ std::vector<std::string> ReportHeader() {
   return {MKELDConstants::kLimitKey, MKELDGlobalVars::Translated(MKELDLanguageConstants::kTestLimits), "0"};
 }
 
-/// Whether a measured value fails a standard. What is no number keeps no limit: it must never come out as
-/// passed.
+/// Whether a measured value fails a standard. A value that is not a number fails, so that it never counts
+/// as passed.
 bool Fails(const orvik::IStandard& Standard, const std::optional<float>& Value,
            const std::string& sLimitKey) {
   return !Value || Standard.Evaluate(*Value, sLimitKey, {}) == orvik::Judgement::kLimitExceeded;
@@ -59,8 +59,8 @@ void CKELDLimitData::AddStandard(std::shared_ptr<orvik::IStandard> Standard) {
 
 void CKELDLimitData::CopyFrom(std::shared_ptr<const orvik::ILimitData> Source) {
   if (!Source) return;
-  // Read before the own collection goes, so that a failing source, or this object as its own source, loses
-  // nothing.
+  // Read before the own collection is replaced, so that nothing is lost if the source fails or is this
+  // object.
   const auto Standards = Source->Standards();
   mStandards = Standards ? Standards->Clone() : nullptr;
 }

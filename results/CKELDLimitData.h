@@ -14,7 +14,7 @@ class ITestElement;
 namespace keld {
 
 /// The limits of one element: it creates, copies, saves, prints and asks the host's collection of standards.
-/// Whether a value keeps a limit is decided by the host's standards.
+/// The host's standards decide whether a value is within a limit.
 ///
 /// Errors of the host pass to the caller unchanged. A missing collection means that there are no limits.
 class CKELDLimitData final : public orvik::ILimitData {
@@ -22,7 +22,7 @@ class CKELDLimitData final : public orvik::ILimitData {
   /// Limits without a collection and without an owner.
   static std::shared_ptr<CKELDLimitData> Create();
 
-  /// Adds a standard to the collection, which is made first when there is none; empty adds nothing.
+  /// Adds a standard to the collection, which is created if there is none; empty adds nothing.
   void AddStandard(std::shared_ptr<orvik::IStandard> Standard);
   /// Replaces the limits by a deep copy of the source's; an empty source changes nothing. The owner is not
   /// copied.

@@ -45,7 +45,7 @@ std::string CKELDResultData::ReportPart(int iIndex) const {
 
 void CKELDResultData::Reset(std::shared_ptr<orvik::ITestElement> iteElement, std::int32_t lNewStatus) {
   ResetThis(iteElement, lNewStatus);
-  // A list of walks instead of recursion: sequences may be nested deeper than the stack is.
+  // A list of walks instead of recursion: deeply nested sequences would overflow the stack.
   std::vector<std::shared_ptr<orvik::ITestEnumerator>> Walks;
   const auto Descend = [&Walks](const std::shared_ptr<orvik::ITestElement>& iteParent) {
     if (const auto Children = As<orvik::ITestContainer>(iteParent)) Walks.push_back(Children->NewEnum());
@@ -71,7 +71,7 @@ void CKELDResultData::ResetThis(const std::shared_ptr<orvik::ITestElement>& iteE
 
 void CKELDResultData::BuildServiceRecord(std::shared_ptr<orvik::ITestElement> iteElement) {
   mOwner = iteElement;
-  // First, so that no summary of an earlier run outlives a failure to make the new one.
+  // First, so that no earlier summary remains if the new one cannot be created.
   mServiceRecord.reset();
   mServiceRecord = MakeServiceRecord(iteElement, lStatus, OwnValue());
 }
@@ -80,7 +80,7 @@ orvik::Variant CKELDResultData::OwnValue() const {
   return mMeasurement ? mMeasurement->value() : orvik::Variant();
 }
 
-// The one measurement, whatever the index.
+// The one measurement, for any index.
 std::shared_ptr<orvik::IMeasurement> CKELDResultData::IResultData_Measurement(std::int32_t) const {
   return mMeasurement;
 }

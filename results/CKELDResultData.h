@@ -24,8 +24,8 @@ class CKELDResultData final : public orvik::IResultData {
   void SetMeasurement(std::shared_ptr<orvik::IMeasurement> Measurement);
   /// Sets the index of the tester's record in the host's instrument collection; 0 none.
   void SetMTIIdentifier(std::int32_t lIdentifier);
-  /// Sets the status: 0 not tested, 1 passed, 2 failed, 3 not applicable, 4 aborted. The service record
-  /// stays.
+  /// Sets the status, a code of `orvik::ResultStatus`. The service record stays
+  /// unchanged.
   void SetStatus(std::int32_t lStatus);
   void SetServiceRecord(std::shared_ptr<orvik::IServiceRecord> ServiceRecord);
 
@@ -33,15 +33,16 @@ class CKELDResultData final : public orvik::IResultData {
   /// empty.
   std::string ReportPart(int iIndex) const;
 
-  /// Back to the start of a run: no measurement, the status given, the service record that goes with it.
-  /// Children of a container are reset alike, at any depth, also below a child that has no result of its own.
+  /// Prepares a run: removes the measurement, sets the status and builds its service record.
+  /// Children of a container are reset in the same way, at any depth, also below a child that has no result
+  /// of its own.
   void Reset(std::shared_ptr<orvik::ITestElement> iteElement, std::int32_t lStatus);
 
-  /// Makes the element the owner of the result: remembers it (weakly) and builds the service record for it.
+  /// Makes the element the owner of the result: keeps a weak reference and builds the service record for it.
   /// Status 1, 2 and 3 have a record, any other drops it.
   void BuildServiceRecord(std::shared_ptr<orvik::ITestElement> iteElement);
-  /// Remembers the element (weakly) as the owner of a result that is complete: the service record stays as it
-  /// is.
+  /// Keeps a weak reference to the owner of a complete result; the service record stays
+  /// unchanged.
   void SetOwner(const std::shared_ptr<orvik::ITestElement>& iteElement) { mOwner = iteElement; }
   /// The element of the last `BuildServiceRecord` or `SetOwner`; empty when it is gone.
   std::shared_ptr<orvik::ITestElement> Owner() const { return mOwner.lock(); }

@@ -8,7 +8,7 @@ class ITestElement;
 
 namespace keld {
 
-/// What the operator reads as the name of an element: the texts of its `Info`, translated where they are
+/// The name of an element as shown to the operator: the texts of its `Info`, translated where they are
 /// language strings, with a blank between them; empty parts ("::") are left out. A host error passes to the
 /// caller.
 std::string ElementName(const orvik::ITestElement& iteElement);

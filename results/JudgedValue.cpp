@@ -9,7 +9,7 @@
 namespace keld {
 
 std::optional<float> JudgedValue(const orvik::Variant& vValue) {
-  // Not the leading number, which is 0 where there is none: a reading of 0 keeps every upper bound.
+  // Not the leading number, which is 0 for other texts: a reading of 0 is within every upper bound.
   const auto rNumber = NumberIn(vValue);
   if (!rNumber || !std::isfinite(*rNumber)) return {};
   constexpr double kLargest = std::numeric_limits<float>::max();

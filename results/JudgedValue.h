@@ -7,7 +7,7 @@
 namespace keld {
 
 /// The single-precision number by which a measured value is judged, held within the range of such numbers;
-/// none for what is no number: an empty value, a text that is not a number as a whole, infinity,
+/// none if the value is not a number: empty, a text that is not entirely a number, infinity,
 /// not-a-number.
 std::optional<float> JudgedValue(const orvik::Variant& vValue);
 

@@ -13,7 +13,7 @@ class ITestElement;
 namespace keld {
 
 /// The host's summary of an element's result: the element's information record, the code and the value text.
-/// @param lStatus result status: 1 gives code "P", 2 "F", 3 "NA"; any other has no record
+/// @param lStatus result status; decides the code by `orvik::ServiceCode::Of`
 /// @param vOwnValue the value of the result's own measurement; empty when there is none
 /// @return the record, or empty when the status has none
 /// @throws orvik::HostError when the host cannot make the record, or the element has no information record

@@ -19,11 +19,11 @@ namespace keld::ResultValueText {
 /// @param vOwnValue the value of the result's own measurement, which a single test lists; empty when there is
 /// none
 /// @throws orvik::HostError for an element without result or without the plug-in's configuration, and
-/// whatever the host reports
+/// for any error of the host
 std::string ValueText(const orvik::ITestElement& iteElement, const orvik::Variant& vOwnValue);
 
 /// The element's values, each after a "/": those of the children's results for a sequence, `vOwnValue` for a
-/// single test. Whatever has no value adds the "/" alone.
+/// single test. An element without a value adds only the "/".
 std::string CollectedList(const orvik::ITestElement& iteElement, const orvik::Variant& vOwnValue);
 
 /// The largest or smallest piece of a collected list, after a "/". Pieces are read by their leading number,

@@ -22,7 +22,7 @@ constexpr char kCommentName[] = "txtComment";
 constexpr Twips kTitleLeft = 120;
 constexpr Twips kTitleHeight = 315;
 
-/// The text box takes what the title leaves; the title is placed by hand, to the twip.
+/// The text box fills the space below the title; the title is placed by hand, exact to the twip.
 orvik::platform::Grid BelowTitle() {
   orvik::platform::Grid grid;
   grid.rows = {{kTitleHeight, 0}, {1500, 1}};
@@ -70,7 +70,7 @@ orvik::WindowHandle XDetailedResult::ICustomControl_hWnd() const {
   return Site ? Site->Handle() : 0;
 }
 
-// The name is misspelt and stays so: a container without such a property reports its own error.
+// Misspelt on purpose: a container without such a property reports its own error.
 bool XDetailedResult::ICustomControl_Visible() const {
   return AsBoolean(Required(mSite)->ExtenderProperty("Visbible"));
 }

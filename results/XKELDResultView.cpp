@@ -28,7 +28,7 @@ constexpr char kValueColumn[] = "VAL";
 constexpr char kHighColumn[] = "HIL";
 constexpr char kLowColumn[] = "LOL";
 
-// Weak: an element holds the guide that this list stands in.
+// Weak: an element holds the guide that contains this list.
 using ElementTag = std::weak_ptr<orvik::ITestElement>;
 using MeasurementTag = std::shared_ptr<orvik::IMeasurement>;
 
@@ -134,7 +134,7 @@ void XKELDResultView::AddRow(const std::string& sRow, const std::shared_ptr<orvi
   FillLimitCells(sRow);
 }
 
-// Only the text: the cell keeps the measurement that its row was made with.
+// Only the text: the cell keeps the measurement that its row was created with.
 void XKELDResultView::ReplaceValue(const std::string& sRow, const std::string& sValue) {
   auto Value = List().Cell(sRow, kValueColumn);
   Value.text = sValue;

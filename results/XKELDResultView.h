@@ -20,7 +20,7 @@ class IPanel;
 namespace keld {
 
 /// The list of the tests run so far: one row for each element, with the measured value and the limits of one
-/// selected standard. Host and list errors pass to the caller; whatever is missing shows a single blank.
+/// selected standard. Host and list errors pass to the caller; missing data are shown as a single blank.
 class XKELDResultView final : public virtual orvik::IObject, public orvik::platform::IUserControl {
  public:
   static std::shared_ptr<XKELDResultView> Create();
@@ -34,10 +34,10 @@ class XKELDResultView final : public virtual orvik::IObject, public orvik::platf
   void SelectStandard(const std::string& sName, const std::string& sText);
   /// Adds or updates the element's row, and selects it. An element without a measurement is not shown.
   void ShowResult(const std::shared_ptr<orvik::ITestElement>& iteElement);
-  /// Makes the columns; done once, when the control is placed.
+  /// Creates the columns, once, when the control is placed.
   void ShowLimitsInRow();
 
-  /// A mouse button was let go over the list: button (1 left, 2 right), shift state, place in twips.
+  /// A mouse button was released over the list: button (1 left, 2 right), shift state, place in twips.
   orvik::platform::Event<int, int, orvik::platform::Twips, orvik::platform::Twips>& MouseUp() {
     return mMouseUp;
   }

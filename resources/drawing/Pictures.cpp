@@ -10,7 +10,7 @@ namespace {
 
 using namespace colours;
 
-// The test pictures read from left to right: where the current comes from, the current, where it goes to;
+// The test pictures read from left to right: the source of the current, the current, its sink;
 // or what is measured and its unit.
 
 Canvas Wide(Colour ground) { return {32, 16, ground}; }

@@ -14,7 +14,7 @@ void Box(Canvas& canvas, int x, int y, int width, int height, Colour colour) {
   canvas.Rectangle({x + 0.0, y + 0.0}, {x + width + 0.0, y + height + 0.0}, colour);
 }
 
-// Moves a shape's points, given from its own corner, to where the shape stands.
+// Moves a shape's points, given from its own corner, to the position of the shape.
 std::vector<Point> Moved(std::vector<Point> points, int x, int y) {
   for (Point& point : points) point = {point.x + x, point.y + y};
   return points;

@@ -14,14 +14,15 @@ inline constexpr Colour kEarth{0, 104, 52};       ///< protective earth, and gro
 inline constexpr Colour kCurrent{206, 18, 30};    ///< the current that a test measures
 inline constexpr Colour kEquipment{28, 78, 152};  ///< the equipment under test, and the tester
 inline constexpr Colour kEquipmentFace{206, 224, 246};
-inline constexpr Colour kPerson{44, 44, 120};   ///< the patient or whoever touches the equipment
+inline constexpr Colour kPerson{44, 44, 120};   ///< the patient or a person touching the equipment
 inline constexpr Colour kMains{196, 84, 0};     ///< mains voltage
 inline constexpr Colour kSheet{255, 252, 236};  ///< paper
 inline constexpr Colour kFolder{244, 196, 84};  ///< a group's folder
 inline constexpr Colour kFolderEdge{132, 88, 8};
 }  // namespace colours
 
-// Each symbol is painted with the upper left corner of its box at (x, y); the size of the box stands with it.
+// Each symbol is painted with the upper left corner of its box at (x, y); each comment gives the size of its
+// box.
 
 /// Earth, after the sign of the field: a stem and three bars that get shorter. 12 by 14.
 void Earth(Canvas& canvas, int x, int y);
