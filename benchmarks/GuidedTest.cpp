@@ -4,7 +4,6 @@
 #include "OrvikTypeLib/IPlugIn.h"
 #include "OrvikTypeLib/IResultData.h"
 #include "OrvikTypeLib/IStandardColl.h"
-#include "benchmarks/ChildProcess.h"
 #include "benchmarks/Measurements.h"
 #include "benchmarks/Repeat.h"
 #include "benchmarks/VirtualRig.h"
@@ -14,6 +13,7 @@
 #include "host/run/OperatorEvents.h"
 #include "host/run/RunController.h"
 #include "plugin/ClassIdentifiers.h"
+#include "tests/support/ReadFile.h"
 
 namespace benchmarks {
 
@@ -27,7 +27,7 @@ constexpr std::int32_t kPassed = 1;
 // The element shows its guide, the operator presses play and next, the result is made and judged. Nothing is
 // saved.
 Figure MeasureGuidedTest(const Context& context) {
-  VirtualRig rig(TextOf(context.Catalogue()));
+  VirtualRig rig(support::ReadFile(context.Catalogue()));
   auto& host = rig.Only().Host();
   const auto plugIn = orvik::As<orvik::IPlugIn>(host.CreateObject(keld::ClassIdentifiers::kPlugin));
   orvik::Required(plugIn).Initialize(nullptr);

@@ -4,7 +4,6 @@
 
 #include "OrvikTypeLib/IResultData.h"
 #include "OrvikTypeLib/ITestContainer.h"
-#include "benchmarks/ChildProcess.h"
 #include "benchmarks/MeasuredDocument.h"
 #include "benchmarks/Measurements.h"
 #include "benchmarks/OwnProcess.h"
@@ -15,6 +14,7 @@
 #include "host/elements/ElementFactory.h"
 #include "host/judge/CaseOf.h"
 #include "plugin/ClassIdentifiers.h"
+#include "tests/support/ReadFile.h"
 
 namespace benchmarks {
 
@@ -28,7 +28,7 @@ constexpr int kLargeResults = 100'000;
 class LargeDocument {
  public:
   explicit LargeDocument(const Context& context, int results = kLargeResults)
-      : rig_(TextOf(context.Catalogue())), measured_(context), file_(measured_.Times(results)) {
+      : rig_(support::ReadFile(context.Catalogue())), measured_(context), file_(measured_.Times(results)) {
     const auto plugIn =
         orvik::As<orvik::IPlugIn>(rig_.Only().Host().CreateObject(keld::ClassIdentifiers::kPlugin));
     orvik::Required(plugIn).Initialize(nullptr);
@@ -39,7 +39,7 @@ class LargeDocument {
   ~LargeDocument() { rig_.Only().Host().Elements()->ReleasePlugIns(); }
 
   const std::filesystem::path& File() const { return file_; }
-  std::string Text() const { return TextOf(file_); }
+  std::string Text() const { return support::ReadFile(file_); }
 
   std::shared_ptr<bench::Document> Open() {
     return bench::Document::Open(rig_.Only().SharedHost(), file_, bench::DocumentFile::Use::kRead);

@@ -1,5 +1,5 @@
-#include "benchmarks/ChildProcess.h"
 #include "benchmarks/Measurements.h"
+#include "tests/support/Process.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace benchmarks {
@@ -8,7 +8,7 @@ Figure MeasureLibrarySize(const Context& context) {
   constexpr double kMegabyte = 1e6;
   const support::TemporaryFolder folder;
   const auto stripped = folder.Path() / "stripped.so";
-  RunProgram({"/usr/bin/strip", "-o", stripped, context.PlugIn()}, folder.Path() / "strip.out");
+  support::RunWell("/usr/bin/strip", {"-o", stripped, context.PlugIn()});
   return {static_cast<double>(std::filesystem::file_size(stripped)) / kMegabyte,
           "MB",
           static_cast<double>(std::filesystem::file_size(context.PlugIn())) / kMegabyte,

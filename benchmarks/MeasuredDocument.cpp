@@ -3,8 +3,8 @@
 #include <pugixml.hpp>
 #include <stdexcept>
 
-#include "benchmarks/ChildProcess.h"
 #include "host/document/RunXml.h"
+#include "tests/support/Process.h"
 
 namespace benchmarks {
 
@@ -32,9 +32,8 @@ MeasuredDocument::MeasuredDocument(const Context& context) : context_(context) {
 }
 
 double MeasuredDocument::Bench(std::vector<std::string> words) const {
-  words.insert(words.begin(), context_.Bench());
   words.insert(words.end(), {"--state", folder_.Path() / "state"});
-  return RunProgram(words, folder_.Path() / "bench.out").wall.count();
+  return support::RunWell(context_.Bench(), std::move(words)).wall.count();
 }
 
 std::filesystem::path MeasuredDocument::Times(int count) const {

@@ -1,11 +1,10 @@
 #include <algorithm>
 #include <chrono>
 #include <stdexcept>
-#include <thread>
 
-#include "benchmarks/ChildProcess.h"
 #include "benchmarks/Measurements.h"
 #include "benchmarks/WireTimes.h"
+#include "tests/support/Process.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace benchmarks {
@@ -18,38 +17,25 @@ using Seconds = std::chrono::duration<double>;
 constexpr Seconds kPause{3.5};
 /// IREM, STST, GRES of the test, STST of test 210 and EREM.
 constexpr std::size_t kCommands = 5;
-constexpr Seconds kPatience{10};
 
 struct RealTimeRun {
-  Cost cost;
+  support::Finished cost;
   Seconds floor{};     ///< the protocol's pauses and the tester's own time
   Seconds shortest{};  ///< between two commands
 };
-
-void AwaitReady(ChildProcess& tester, const std::string& output) {
-  const auto deadline = std::chrono::steady_clock::now() + kPatience;
-  while (TextOf(output).find("keld-sim: ready") == std::string::npos) {
-    if (!tester.Running() || std::chrono::steady_clock::now() > deadline)
-      throw std::runtime_error("keld-sim did not become ready: " + TextOf(output));
-    std::this_thread::sleep_for(std::chrono::milliseconds(5));
-  }
-}
 
 /// One test, on the programs and the library that users have, at the speed of the wall clock.
 RealTimeRun Perform(const Context& context) {
   const support::TemporaryFolder folder;
   const auto path = [&](const char* name) { return (folder.Path() / name).string(); };
-  ChildProcess tester(
-      {context.Simulator(), "--link", path("tester"), "--trace", path("trace"), "--exit-with-parent"},
-      path("tester.out"));
-  AwaitReady(tester, path("tester.out"));
-  RunProgram({context.Bench(), "new", path("test.orvik"), "--add", "410", "--state", path("state")},
-             path("new.out"));
+  support::Process tester(context.Simulator(),
+                          {"--link", path("tester"), "--trace", path("trace"), "--exit-with-parent"});
+  if (!tester.AwaitOutput("keld-sim: ready")) throw std::runtime_error("keld-sim: " + tester.Wait().error);
+  support::RunWell(context.Bench(), {"new", path("test.orvik"), "--add", "410", "--state", path("state")});
 
   RealTimeRun run;
-  run.cost = RunProgram({context.Bench(), "run", path("test.orvik"), "--port", path("tester"), "--state",
-                         path("state"), "--wire-log", path("wire.log")},
-                        path("run.out"));
+  run.cost = support::RunWell(context.Bench(), {"run", path("test.orvik"), "--port", path("tester"),
+                                                "--state", path("state"), "--wire-log", path("wire.log")});
   const auto spacing = CommandSpacing(ReadWire(path("wire.log")));
   if (spacing.size() + 1 != kCommands)
     throw std::runtime_error("the run sent " + std::to_string(spacing.size() + 1) + " commands instead of " +

@@ -3,7 +3,6 @@
 #include "OrvikTypeLib/ILimit.h"
 #include "OrvikTypeLib/ILimitData.h"
 #include "OrvikTypeLib/IStandard.h"
-#include "benchmarks/ChildProcess.h"
 #include "benchmarks/Measurements.h"
 #include "benchmarks/Repeat.h"
 #include "benchmarks/VirtualRig.h"
@@ -14,6 +13,7 @@
 #include "plugin/ClassIdentifiers.h"
 #include "results/CKELDResultData.h"
 #include "results/XKELDResultView.h"
+#include "tests/support/ReadFile.h"
 
 namespace benchmarks {
 
@@ -78,7 +78,7 @@ double RowSeconds(VirtualRig& rig, int place) {
 }  // namespace
 
 Figure MeasureResultView(const Context& context) {
-  VirtualRig rig(TextOf(context.Catalogue()));
+  VirtualRig rig(support::ReadFile(context.Catalogue()));
   const auto [many, few] = LeastOfEach(
       kLists, [&] { return RowSeconds(rig, kManyRows); }, [&] { return RowSeconds(rig, kFewRows); });
   constexpr double kMicroseconds = 1e6;

@@ -11,13 +11,12 @@
 
 #include "OrvikTypeLib/IMessage.h"
 #include "OrvikTypeLib/IPort.h"
-#include "benchmarks/ChildProcess.h"
 #include "benchmarks/Measurements.h"
 #include "benchmarks/Repeat.h"
 #include "host/serial/PortManager.h"
 #include "host/toolkit/headless/Application.h"
+#include "tests/support/Process.h"
 #include "tests/support/PseudoTerminal.h"
-#include "tests/support/TemporaryFolder.h"
 
 namespace benchmarks {
 
@@ -126,16 +125,13 @@ constexpr char kPython[] = "/usr/bin/python3";
 constexpr int kNoPyVisa = 3;
 
 double WithPyVisa(const std::string& device) {
-  const support::TemporaryFolder folder;
-  const auto output = folder.Path() / "pyvisa.out";
-  const auto cost =
-      ChildProcess({kPython, BENCHMARKS_PATH "/pyvisa_query.py", device, std::to_string(kTrips)}, output)
-          .Wait();
-  if (cost.exitStatus == kNoPyVisa)
+  const auto ended =
+      support::Run(kPython, {BENCHMARKS_PATH "/pyvisa_query.py", device, std::to_string(kTrips)});
+  if (ended.status == kNoPyVisa)
     throw std::runtime_error(
         "the yardstick is missing; as root: apt-get install python3-pyvisa python3-pyvisa-py python3-serial");
-  if (cost.exitStatus != 0) throw std::runtime_error("pyvisa_query.py: " + TextOf(output));
-  return std::stod(TextOf(output));
+  if (ended.status != 0) throw std::runtime_error("pyvisa_query.py: " + ended.error);
+  return std::stod(ended.out);
 }
 
 }  // namespace

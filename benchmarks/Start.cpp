@@ -1,9 +1,9 @@
 #include <fcntl.h>
 
-#include "benchmarks/ChildProcess.h"
 #include "benchmarks/Measurements.h"
 #include "benchmarks/Repeat.h"
 #include "host/serial/UniqueFd.h"
+#include "tests/support/Process.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace benchmarks {
@@ -23,9 +23,8 @@ double TakesMilliseconds(const Context& context, bool cold) {
   if (cold) {
     for (const auto& file : {context.Bench(), context.PlugIn(), context.Catalogue()}) ForgetContents(file);
   }
-  const auto cost =
-      RunProgram({context.Bench(), "tests", "--state", folder.Path() / "state"}, folder.Path() / "tests.out");
-  return cost.wall.count() * kMilliseconds;
+  const auto ended = support::RunWell(context.Bench(), {"tests", "--state", folder.Path() / "state"});
+  return ended.wall.count() * kMilliseconds;
 }
 
 double MedianStart(const Context& context, bool cold) {

@@ -6,14 +6,13 @@
 #include <sstream>
 
 #include "tests/archive/ArchiveTest.h"
-#include "tests/cli/BenchProgram.h"
+#include "tests/support/Process.h"
 #include "tests/support/RecordedDocument.h"
 
 namespace archive_tests {
 namespace {
 
-using cli::Finished;
-using cli::RunningProgram;
+using support::Finished;
 using testing::HasSubstr;
 using testing::Not;
 using Words = std::vector<std::string>;
@@ -28,8 +27,8 @@ std::string Contents(const std::string& path) {
 /// The real program, with a state of its own.
 class WithProgram {
  protected:
-  static std::unique_ptr<RunningProgram> Start(Words words) {
-    return std::make_unique<RunningProgram>(ORVIK_BENCH_PATH, std::move(words));
+  static std::unique_ptr<support::Process> Start(Words words) {
+    return std::make_unique<support::Process>(ORVIK_BENCH_PATH, std::move(words));
   }
 
   /// Runs "archive" on an archive.
@@ -298,7 +297,7 @@ TEST_P(ProgramTest, TwoProgramsAddAtOnceAndNothingIsLost) {
     all[i % 2].push_back(Document(name, "P-" + std::to_string(i), "0." + std::to_string(100 + i)));
   }
   const auto shared = Document("both.orvik", "P-7");  // both add this one too
-  std::unique_ptr<RunningProgram> programs[2];
+  std::unique_ptr<support::Process> programs[2];
   for (int i = 0; i < 2; ++i) {
     Words words{"--state", Path("state" + std::to_string(i)), "archive", "--archive", location_, "add"};
     words.insert(words.end(), all[i].begin(), all[i].end());

@@ -107,7 +107,7 @@ class FaultyTester {
   }
 
  private:
-  RunningProgram program_;
+  support::Process program_;
 };
 
 TEST_F(CalibrateCommandTest, ADoubtfulExchangeStoresNothing) {

@@ -7,14 +7,16 @@
 #include <fstream>
 #include <memory>
 #include <nlohmann/json.hpp>
-#include <sstream>
 #include <string>
 #include <vector>
 
-#include "tests/cli/BenchProgram.h"
+#include "tests/support/Process.h"
+#include "tests/support/ReadFile.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace cli {
+
+using support::Finished;
 
 /// The real program, in a folder and with a state of its own.
 class CliTest : public testing::Test {
@@ -33,8 +35,8 @@ class CliTest : public testing::Test {
 
   std::string Path(const std::string& name) const { return (folder_.Path() / name).string(); }
 
-  std::unique_ptr<RunningProgram> Start(Words arguments) const {
-    return std::make_unique<RunningProgram>(ORVIK_BENCH_PATH, std::move(arguments));
+  std::unique_ptr<support::Process> Start(Words arguments) const {
+    return std::make_unique<support::Process>(ORVIK_BENCH_PATH, std::move(arguments));
   }
   Finished Bench(Words arguments) const { return Start(std::move(arguments))->Wait(); }
 
@@ -73,12 +75,7 @@ class CliTest : public testing::Test {
 
   void Write(const std::string& name, const std::string& text) const { std::ofstream(Path(name)) << text; }
 
-  static std::string Contents(const std::string& path) {
-    std::ifstream file(path);
-    std::stringstream text;
-    text << file.rdbuf();
-    return text.str();
-  }
+  static std::string Contents(const std::string& path) { return support::ReadFile(path); }
 
   /// The texts of the commands in a wire log, in order.
   static Words SentIn(const std::string& wireLog) {

@@ -92,7 +92,7 @@ TEST_F(JsonSchemaTest, EventsOfARunWithADoubt) {
 TEST_F(JsonSchemaTest, EventsOfALostTester) {
   const auto file = NewDocument({"410"});
   const auto link = Path("tester");
-  RunningProgram tester(KELD_SIM_PATH, {"--link", link, "--time-scale", kTimeScale});
+  support::Process tester(KELD_SIM_PATH, {"--link", link, "--time-scale", kTimeScale});
   ASSERT_TRUE(tester.AwaitOutput("ready"));
   const auto run = Start({"run", file, "--port", link, "--time-scale", kTimeScale, "--events"});
   ASSERT_TRUE(run->AwaitOutput("STST,410,0"));

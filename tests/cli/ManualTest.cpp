@@ -57,7 +57,7 @@ TEST_F(ManualTest, EveryCommandOfTheArchiveHasAnExampleOfItsOwn) {
 TEST_F(ManualTest, HelpThatCannotBeWrittenIsNotDone) {
   for (const std::string asked : {"--help", "--version", "run --help", "tests"}) {
     const auto line = std::string(ORVIK_BENCH_PATH) + " " + asked + " > /dev/full";
-    const auto told = RunningProgram("/bin/sh", {"-c", line}).Wait();
+    const auto told = support::RunShell(line);
     EXPECT_EQ(told.status, 2) << asked;
     EXPECT_NE(told.error.find("the standard output cannot be written"), std::string::npos) << asked;
   }
@@ -86,7 +86,7 @@ TEST_F(ManualTest, EveryCommandHasAPageThatTheTypesetterTakes) {
   }
   Words lint{"-T", "lint", "-W", "warning"};
   lint.insert(lint.end(), pages.begin(), pages.end());
-  const auto looked = RunningProgram("/usr/bin/mandoc", lint).Wait();
+  const auto looked = support::Run("/usr/bin/mandoc", lint);
   std::istringstream findings(looked.out + looked.error);
   for (std::string finding; std::getline(findings, finding);) {
     // The pages bear no date, so that a build today and one tomorrow are the same.
@@ -96,7 +96,7 @@ TEST_F(ManualTest, EveryCommandHasAPageThatTheTypesetterTakes) {
 
 TEST_F(ManualTest, APageShowsWhatTheHelpShows) {
   ASSERT_EQ(Bench({"manual", Path("man")}).status, 0);
-  const auto shown = RunningProgram("/usr/bin/mandoc", {"-T", "utf8", Path("man/orvik-bench-run.1")}).Wait();
+  const auto shown = support::Run("/usr/bin/mandoc", {"-T", "utf8", Path("man/orvik-bench-run.1")});
   std::string plain;  // bold and underlined letters are overstruck
   for (std::size_t i = 0; i < shown.out.size(); ++i) {
     if (i + 1 < shown.out.size() && shown.out[i + 1] == '\b')
@@ -119,7 +119,7 @@ class CompletionTest : public CliTest {
     for (const auto& word : words) line += " '" + word + "'";
     line += " )\nCOMP_CWORD=" + std::to_string(words.size() - 1) +
             "\n_orvik_bench\nprintf '%s\\n' \"${COMPREPLY[@]}\"\n";
-    const auto completed = RunningProgram("/bin/bash", {"--norc", "-c", line}).Wait();
+    const auto completed = support::Run("/bin/bash", {"--norc", "-c", line});
     EXPECT_EQ(completed.error, "");
     return completed.out;
   }

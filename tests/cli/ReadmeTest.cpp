@@ -32,7 +32,7 @@ class ReadmeTest : public CliTest {
     const auto programs = std::filesystem::path(ORVIK_BENCH_PATH).parent_path().string();
     const auto line =
         "cd '" + folder_.Path().string() + "' && PATH='" + programs + "':$PATH && " + command + " 2>&1";
-    return RunningProgram("/bin/sh", {"-c", line}).Wait().out;
+    return support::RunShell(line).out;
   }
 };
 

@@ -190,7 +190,7 @@ TEST_F(RunCommandTest, AReaderWhoHasGoneLeavesNoSessionOpen) {
   const auto file = NewDocument({"410", "420"});
   std::string line = ORVIK_BENCH_PATH;
   for (const auto& word : Simulated(file, "sound-class-1", {"--events"})) line += " '" + word + "'";
-  RunningProgram("/bin/sh", {"-c", line + " | head -2"}).Wait();
+  support::RunShell(line + " | head -2");
   const auto sent = SentIn(file + ".wire.log");
   ASSERT_FALSE(sent.empty());
   EXPECT_EQ(sent.back(), "EREM");
@@ -210,7 +210,7 @@ TEST_F(RunCommandTest, AWireLogThatCannotBeWrittenIsReported) {
 TEST_F(RunCommandTest, AnUnpluggedTesterEndsTheRunAndKeepsWhatWasDone) {
   const auto file = NewDocument({"410", "420"});
   const auto link = Path("tester");
-  RunningProgram tester(KELD_SIM_PATH, {"--link", link, "--time-scale", kTimeScale});
+  support::Process tester(KELD_SIM_PATH, {"--link", link, "--time-scale", kTimeScale});
   ASSERT_TRUE(tester.AwaitOutput("ready"));
   const auto run = Start({"run", file, "--port", link, "--time-scale", kTimeScale, "--events"});
   ASSERT_TRUE(run->AwaitOutput("STST,420,0"));
@@ -286,7 +286,7 @@ TEST_F(RunCommandTest, ARunThatOutlivesItsTerminalGoesOn) {
   SetWideLimits(file, {"1"});
   std::string line = "trap '' HUP; exec " ORVIK_BENCH_PATH;
   for (const auto& word : Simulated(file, "sound-class-1", {"--events"})) line += " '" + word + "'";
-  RunningProgram run("/bin/sh", {"-c", line});
+  support::Process run("/bin/sh", {"-c", line});
   ASSERT_TRUE(run.AwaitOutput("STST,410,0")) << run.Output();
   run.Signal(SIGHUP);
   EXPECT_EQ(run.Wait().status, 0);

@@ -45,7 +45,7 @@ TEST_F(StateFolderTest, CommandsThatReadWorkWithoutAnyInTheEnvironment) {
   for (const auto& words : ReadingCommands()) {
     auto line = clean;
     for (const auto& word : words) line += " '" + word + "'";
-    const auto ended = RunningProgram("/bin/sh", {"-c", line}).Wait();
+    const auto ended = support::RunShell(line);
     EXPECT_EQ(ended.status, 0) << words[0] << ": " << ended.error;
     EXPECT_EQ(ended.error, "") << words[0];
   }

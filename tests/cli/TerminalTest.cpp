@@ -1,5 +1,5 @@
 #include "tests/cli/CliTest.h"
-#include "tests/cli/TerminalProgram.h"
+#include "tests/support/Process.h"
 
 namespace cli {
 namespace {
@@ -11,8 +11,10 @@ class TerminalTest : public CliTest {
     const auto file = NewDocument({"410", "210"});
     SetLimit(file, "1", "100");
     SetLimit(file, "2", "253");
-    return ShownOnTerminal(ORVIK_BENCH_PATH, Simulated(file, "sound-class-1"),
-                           {{"TERM", term}, {"NO_COLOR", noColour}});
+    return support::Process(ORVIK_BENCH_PATH, Simulated(file, "sound-class-1"),
+                            {.environment = {{"TERM", term}, {"NO_COLOR", noColour}}, .terminal = true})
+        .Wait()
+        .out;
   }
 };
 

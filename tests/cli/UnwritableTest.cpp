@@ -12,7 +12,7 @@ class UnwritableTest : public CliTest {
   static Finished OnAFullDisk(const Words& words) {
     std::string line = "ulimit -f 0; exec " ORVIK_BENCH_PATH;
     for (const auto& word : words) line += " '" + word + "'";
-    return RunningProgram("/bin/sh", {"-c", line}).Wait();
+    return support::RunShell(line);
   }
 
   std::size_t Files() const {
@@ -59,8 +59,7 @@ TEST_F(UnwritableTest, ARunOnAFullDiskEndsWithTwo) {
 
 TEST_F(UnwritableTest, AnOutputThatIsFullEndsWithTwo) {
   const auto file = NewDocument({"410"});
-  const auto ended =
-      RunningProgram("/bin/sh", {"-c", "exec " ORVIK_BENCH_PATH " show '" + file + "' >/dev/full"}).Wait();
+  const auto ended = support::RunShell("exec " ORVIK_BENCH_PATH " show '" + file + "' >/dev/full");
   EXPECT_EQ(ended.status, 2);
   EXPECT_NE(ended.error.find("standard output"), std::string::npos) << ended.error;
 }

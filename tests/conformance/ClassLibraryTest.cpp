@@ -9,6 +9,7 @@
 
 #include "OrvikTypeLib/Library.h"
 #include "tests/conformance/Asked.h"
+#include "tests/support/Process.h"
 
 namespace conformance {
 namespace {
@@ -71,16 +72,10 @@ TEST_P(ClassLibrary, HasOnePlugInObject) {
 
 /// The names that a shared library defines for others.
 std::set<std::string> ExportedNames(const std::string& path) {
-  const auto command = "nm --dynamic --defined-only --format=posix '" + path + "'";
-  const std::unique_ptr<FILE, int (*)(FILE*)> pipe(popen(command.c_str(), "r"), pclose);
-  if (!pipe) return {};
+  std::istringstream lines(
+      support::Run("/usr/bin/nm", {"--dynamic", "--defined-only", "--format=just-symbols", path}).out);
   std::set<std::string> names;
-  std::array<char, 4096> line{};
-  while (fgets(line.data(), line.size(), pipe.get())) {
-    std::string name;
-    std::istringstream(line.data()) >> name;
-    names.insert(name);
-  }
+  for (std::string name; std::getline(lines, name);) names.insert(name);
   return names;
 }
 

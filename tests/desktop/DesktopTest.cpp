@@ -19,9 +19,9 @@
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
-#include <sstream>
 
 #include "host/desktop/Dialogs.h"
+#include "tests/support/ReadFile.h"
 
 namespace desktop_test {
 
@@ -73,15 +73,10 @@ void DesktopTest::Write(const std::string& name, const std::string& text) const 
   std::ofstream(Path(name)) << text;
 }
 
-std::string DesktopTest::Contents(const std::string& path) {
-  std::ifstream file(path);
-  std::stringstream text;
-  text << file.rdbuf();
-  return text.str();
-}
+std::string DesktopTest::Contents(const std::string& path) { return support::ReadFile(path); }
 
-cli::Finished DesktopTest::Bench(std::vector<std::string> words) const {
-  return cli::RunningProgram(ORVIK_BENCH_PATH, std::move(words)).Wait();
+support::Finished DesktopTest::Bench(std::vector<std::string> words) const {
+  return support::Run(ORVIK_BENCH_PATH, std::move(words));
 }
 
 nlohmann::json DesktopTest::Show(const std::string& file) const {

@@ -15,7 +15,7 @@
 #include "host/desktop/MainWindow.h"
 #include "host/run/GuideToolbar.h"
 #include "host/toolkit/qt/Screen.h"
-#include "tests/cli/BenchProgram.h"
+#include "tests/support/Process.h"
 #include "tests/support/TemporaryFolder.h"
 
 class QDialog;
@@ -52,7 +52,7 @@ class DesktopTest : public testing::Test {
   std::string Path(const std::string& name) const { return (folder_.Path() / name).string(); }
   void Write(const std::string& name, const std::string& text) const;
   static std::string Contents(const std::string& path);
-  cli::Finished Bench(std::vector<std::string> words) const;
+  support::Finished Bench(std::vector<std::string> words) const;
   nlohmann::json Show(const std::string& file) const;
   /// A document with these tests on disk, with limits of IEC 60601-1 for class I, type CF.
   std::string NewDocument(std::vector<std::string> tests) const;

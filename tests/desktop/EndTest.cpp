@@ -176,7 +176,7 @@ TEST_F(EndTest, ResultsThatCannotBeSavedEndTheRunAndAreSavedUnderAnotherName) {
 }
 
 TEST_F(EndTest, ATesterThatGoesAwayIsToldAndNothingPasses) {
-  auto tester = std::make_unique<cli::RunningProgram>(
+  auto tester = std::make_unique<support::Process>(
       KELD_SIM_PATH, std::vector<std::string>{"--link", Path("line"), "--time-scale", "10"});
   ASSERT_TRUE(tester->AwaitOutput("ready"));
   file_ = NewDocument({"410", "910"});

@@ -1,13 +1,14 @@
 // The program as it is started.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <poll.h>
 #include <sys/file.h>
 
 #include <csignal>
 #include <cstdlib>
 #include <fstream>
 
-#include "tests/cli/BenchProgram.h"
+#include "tests/support/Process.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace desktop_test {
@@ -21,8 +22,8 @@ class GuiProgramTest : public testing::Test {
   ~GuiProgramTest() override { setenv("QT_QPA_PLATFORM", "offscreen", 1); }
 
   std::string Path(const std::string& name) const { return (folder_.Path() / name).string(); }
-  cli::Finished Bench(std::vector<std::string> words) const {
-    return cli::RunningProgram(ORVIK_BENCH_PATH, std::move(words)).Wait();
+  support::Finished Bench(std::vector<std::string> words) const {
+    return support::Run(ORVIK_BENCH_PATH, std::move(words));
   }
   /// Whether a program has the document open for writing.
   static bool Held(const std::string& file) {
@@ -36,7 +37,7 @@ class GuiProgramTest : public testing::Test {
 TEST_F(GuiProgramTest, OpensADocumentAndEndsWhenItIsTold) {
   const auto file = Path("pump.orvik");
   ASSERT_EQ(Bench({"new", file, "--add", "410"}).status, 0);
-  cli::RunningProgram program(ORVIK_BENCH_PATH, {"gui", file});
+  support::Process program(ORVIK_BENCH_PATH, {"gui", file});
   while (!Held(file)) poll(nullptr, 0, 5);
   program.Signal(SIGTERM);
   const auto ended = program.Wait();

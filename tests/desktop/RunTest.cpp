@@ -197,8 +197,8 @@ TEST_F(RunTest, TheChosenElementAloneIsRunAndResultsAreReplacedOnlyWhenAsked) {
 
 TEST_F(RunTest, ADoubtfulReadingIsNeverShownAsPassed) {
   Write("faults", "at GRES reply gres,610,0,0.001,0,Ohm\n");
-  cli::RunningProgram tester(KELD_SIM_PATH,
-                             {"--link", Path("line"), "--time-scale", "10", "--faults", Path("faults")});
+  support::Process tester(KELD_SIM_PATH,
+                          {"--link", Path("line"), "--time-scale", "10", "--faults", Path("faults")});
   ASSERT_TRUE(tester.AwaitOutput("ready"));
   file_ = NewDocument({"410"});
   window_->Open(file_);

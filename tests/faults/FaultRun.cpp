@@ -9,15 +9,14 @@
 #include <stdexcept>
 #include <thread>
 
-#include "tests/cli/BenchProgram.h"
 #include "tests/faults/RunEvidence.h"
+#include "tests/support/Process.h"
 
 namespace faults {
 
 namespace {
 
 namespace fs = std::filesystem;
-using cli::RunningProgram;
 
 /// Readings come without a measuring time, so that a reply has the whole of its time on a slow machine.
 constexpr char kProfile[] =
@@ -96,7 +95,7 @@ void FaultRig::MakeDocument(Kind kind, const std::string& test, const std::vecto
                             const std::vector<std::string>& limit) const {
   const auto bench = [&](std::vector<std::string> words) {
     words.insert(words.end(), {"--state", (folder_.Path() / "state").string()});
-    const auto done = RunningProgram(ORVIK_BENCH_PATH, words).Wait();
+    const auto done = support::Run(ORVIK_BENCH_PATH, words);
     if (done.status != 0) throw std::runtime_error(words[0] + ": " + done.error);
   };
   bench({"new", Document(kind), "--add", test});
@@ -124,10 +123,10 @@ Observed FaultRig::Run(Kind kind, const std::vector<std::string>& testerWords,
                                  "--trace",  path("trace")};
   words.insert(words.end(), testerWords.begin(), testerWords.end());
   RunEvidence evidence;
-  RunningProgram tester(KELD_SIM_PATH, words);
+  support::Process tester(KELD_SIM_PATH, words);
   if (!tester.AwaitOutput("ready")) throw std::runtime_error("keld-sim: " + tester.Wait().error);
-  RunningProgram bench(ORVIK_BENCH_PATH, {"run", path("d.orvik"), "--port", path("tester"), "--time-scale",
-                                          timeScale_, "--json", "--state", path("state")});
+  support::Process bench(ORVIK_BENCH_PATH, {"run", path("d.orvik"), "--port", path("tester"), "--time-scale",
+                                            timeScale_, "--json", "--state", path("state")});
   const auto ended = bench.Wait();
   evidence.exitStatus = ended.status;
   evidence.json = ended.out;

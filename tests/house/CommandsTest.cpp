@@ -1,15 +1,13 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
-#include <array>
-#include <cstdio>
-#include <memory>
 #include <set>
 #include <string>
 
 #include "tests/house/SourceTree.h"
+#include "tests/support/Process.h"
+#include "tests/support/ReadFile.h"
 
 namespace house {
 namespace {
@@ -18,22 +16,9 @@ using testing::HasSubstr;
 using testing::MatchesRegex;
 using testing::StartsWith;
 
-struct Outcome {
-  int status = -1;
-  std::string output;
-};
-
-/// Runs a command of the repository's root from another folder, errors and output together.
-Outcome RunCommand(const std::string& command) {
-  Outcome outcome;
-  FILE* pipe = popen(("cd / && '" SOURCE_PATH "/'" + command + " 2>&1").c_str(), "r");
-  if (pipe == nullptr) return outcome;
-  std::array<char, 4096> bytes;
-  while (const std::size_t count = std::fread(bytes.data(), 1, bytes.size(), pipe))
-    outcome.output.append(bytes.data(), count);
-  const int ended = pclose(pipe);
-  if (WIFEXITED(ended)) outcome.status = WEXITSTATUS(ended);
-  return outcome;
+/// Runs a command of the repository's root from another folder.
+support::Finished RunCommand(const std::string& command) {
+  return support::RunShell("cd / && '" SOURCE_PATH "/'" + command + " 2>&1");
 }
 
 class CommandTest : public testing::TestWithParam<const char*> {};
@@ -41,19 +26,19 @@ class CommandTest : public testing::TestWithParam<const char*> {};
 TEST_P(CommandTest, SaysWhatItDoesWhenAsked) {
   const auto outcome = RunCommand(std::string(GetParam()) + " --help");
   EXPECT_EQ(outcome.status, 0);
-  EXPECT_THAT(outcome.output, StartsWith(std::string("Usage: ./") + GetParam()));
+  EXPECT_THAT(outcome.out, StartsWith(std::string("Usage: ./") + GetParam()));
 }
 
 TEST_P(CommandTest, AnswersTwoToWrongUse) {
   const auto outcome = RunCommand(std::string(GetParam()) + " --nonsense");
   EXPECT_EQ(outcome.status, 2);
-  EXPECT_THAT(outcome.output, HasSubstr(std::string("Usage: ./") + GetParam()));
+  EXPECT_THAT(outcome.out, HasSubstr(std::string("Usage: ./") + GetParam()));
 }
 
 INSTANTIATE_TEST_SUITE_P(InTheRoot, CommandTest, testing::Values("demo", "check"));
 
 TEST(BuildServer, RunsCheck) {
-  const std::string script = ReadText(SOURCE_PATH "/.ci/run");
+  const std::string script = support::ReadFile(SOURCE_PATH "/.ci/run");
   EXPECT_THAT(script, HasSubstr("exec ./check\n"));
   EXPECT_EQ(access(SOURCE_PATH "/.ci/run", X_OK), 0);
 }
@@ -61,7 +46,7 @@ TEST(BuildServer, RunsCheck) {
 /// The lines of a list of packages, without comments.
 std::vector<std::string> Packages(const std::string& list) {
   std::vector<std::string> packages;
-  for (std::string line : Lines(ReadText(SOURCE_PATH "/packaging/packages/" + list + ".txt"))) {
+  for (std::string line : Lines(support::ReadFile(SOURCE_PATH "/packaging/packages/" + list + ".txt"))) {
     line.resize(std::min(line.size(), line.find('#')));
     while (line.ends_with(' ')) line.pop_back();
     if (!line.empty()) packages.push_back(line);

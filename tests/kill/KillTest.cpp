@@ -12,7 +12,7 @@
 #include <random>
 #include <thread>
 
-#include "tests/kill/Child.h"
+#include "tests/kill/Moment.h"
 #include "tests/kill/Orphans.h"
 #include "tests/kill/Workplace.h"
 #include "tests/support/Seed.h"
@@ -46,7 +46,8 @@ struct Row {
   /// Makes what the command works on.
   void (*prepare)(const Workplace&);
   /// @param old the place before the command, @param changed after a whole one
-  void (*verify)(const Workplace& place, const Ended& ended, const Workplace& old, const Workplace& changed);
+  void (*verify)(const Workplace& place, const Finished& ended, const Workplace& old,
+                 const Workplace& changed);
 };
 
 std::ostream& operator<<(std::ostream& out, const Row& row) { return out << row.name; }
@@ -63,9 +64,9 @@ void PrepareRun(const Workplace& place) {
 }
 
 /// From the first command on the results of the run before count no more, whenever the new one is killed.
-void RequireNothingOfTheRunBefore(const Workplace& place, const Json& shown, const Ended& ended) {
+void RequireNothingOfTheRunBefore(const Workplace& place, const Json& shown, const Finished& ended) {
   const auto runs = Json::parse(place.Bench({"show", "@d.orvik", "--runs", "--json"}))["runs"];
-  const auto lines = ended.Lines();
+  const auto lines = Lines(ended);
   const bool commanded = std::any_of(lines.begin(), lines.end(), [](const std::string& line) {
     return Json::parse(line)["event"] == "command";
   });
@@ -76,16 +77,16 @@ void RequireNothingOfTheRunBefore(const Workplace& place, const Json& shown, con
     const bool counts = element["verdict"] != "not tested";
     Require(!counts || element["run"] == current, "a result of the run before counts: " + element.dump());
   }
-  Require(ended.killed || current == 2, "the run came to its end without a record");
+  Require(WasKilled(ended) || current == 2, "the run came to its end without a record");
 }
 
 /// Every element that was told to be finished is in the document as it was told.
-void VerifyRun(const Workplace& place, const Ended& ended, const Workplace& old, const Workplace&) {
+void VerifyRun(const Workplace& place, const Finished& ended, const Workplace& old, const Workplace&) {
   place.Bench({"check", "@d.orvik"});
   const auto shown = Json::parse(place.Bench({"show", "@d.orvik", "--json"}));
   static const auto elements = Json::parse(old.Bench({"show", "@d.orvik", "--json"}))["elements"].size();
   Require(shown["elements"].size() == elements, "elements are missing");
-  for (const auto& line : ended.Lines()) {
+  for (const auto& line : Lines(ended)) {
     const auto event = Json::parse(line);
     if (event["event"] != "finished") continue;
     const auto& all = shown["elements"];
@@ -116,16 +117,17 @@ void PrepareLimit(const Workplace& place) {
 }
 
 /// The file is the one before or the one after, to the letter; after, once the command has said so.
-void RequireOldOrNew(const Workplace& place, const Ended& ended, const Workplace& old,
+void RequireOldOrNew(const Workplace& place, const Finished& ended, const Workplace& old,
                      const Workplace& changed, const std::string& file) {
   const auto contents = place.Contents(file);
   Require(old.Contents(file) != changed.Contents(file), "the row changes nothing");
-  Require(contents == changed.Contents(file) || (contents == old.Contents(file) && ended.output.empty()),
-          file + " is neither as it was nor as it was told to be now, \"" + ended.output + "\"; it is\n" +
-              contents);
+  Require(
+      contents == changed.Contents(file) || (contents == old.Contents(file) && ended.out.empty()),
+      file + " is neither as it was nor as it was told to be now, \"" + ended.out + "\"; it is\n" + contents);
 }
 
-void VerifyLimit(const Workplace& place, const Ended& ended, const Workplace& old, const Workplace& changed) {
+void VerifyLimit(const Workplace& place, const Finished& ended, const Workplace& old,
+                 const Workplace& changed) {
   RequireOldOrNew(place, ended, old, changed, "d.orvik");
   place.Bench({"check", "@d.orvik"});
 }
@@ -135,7 +137,7 @@ void PrepareCalibrate(const Workplace& place) {
   place.Bench({"calibrate", "--simulate", "sound-class-1", "--time-scale", kTimeScale, "--serial", "OTHER"});
 }
 
-void VerifyCalibrate(const Workplace& place, const Ended& ended, const Workplace& old,
+void VerifyCalibrate(const Workplace& place, const Finished& ended, const Workplace& old,
                      const Workplace& changed) {
   const auto settings = [](const Workplace& from) {
     auto all = Json::parse(from.Contents("state/registry.json")).flatten();
@@ -148,7 +150,7 @@ void VerifyCalibrate(const Workplace& place, const Ended& ended, const Workplace
   // Several settings are written one after the other: each is as it was or as it is to be.
   const auto before = settings(old), after = settings(changed), now = settings(place);
   Require(before != after, "the row changes nothing");
-  if (!ended.output.empty()) Require(now == after, "the value that was told is not stored");
+  if (!ended.out.empty()) Require(now == after, "the value that was told is not stored");
   for (const auto& [name, value] : before.items()) Require(now.contains(name), name + " is lost");
   for (const auto& [name, value] : now.items())
     Require(value == before.value(name, Json()) || value == after.value(name, Json()), name + " is neither");
@@ -162,7 +164,7 @@ void PrepareArchive(const Workplace& place) {
 }
 
 /// The documents that were told to be added are in the archive, from the first on and none half.
-void VerifyArchive(const Workplace& place, const Ended& ended, const Workplace& old,
+void VerifyArchive(const Workplace& place, const Finished& ended, const Workplace& old,
                    const Workplace& changed) {
   const auto read = [](const Workplace& from) {
     std::vector<std::string> kept;
@@ -175,8 +177,7 @@ void VerifyArchive(const Workplace& place, const Ended& ended, const Workplace& 
   static const auto before = read(old), after = read(changed);
   const auto kept = read(place);
   Require(before.size() < after.size(), "the row changes nothing");
-  Require(kept.size() >= before.size() + ended.Lines().size(),
-          "what was added is not there:\n" + ended.output);
+  Require(kept.size() >= before.size() + Lines(ended).size(), "what was added is not there:\n" + ended.out);
   Require(kept.size() <= after.size() && std::equal(kept.begin(), kept.end(), after.begin()),
           "the archive holds something else");
   place.Bench({"archive", "export", std::to_string(kept.size()), "--to", "@last.orvik"});
@@ -217,7 +218,7 @@ class Killings {
     const auto whole = Run(changed_.Words(row_.words));
     duration_ =
         std::chrono::duration_cast<std::chrono::microseconds>(std::chrono::steady_clock::now() - begin);
-    lines_ = static_cast<int>(whole.Lines().size());
+    lines_ = static_cast<int>(Lines(whole).size());
     if (whole.status < 0 || whole.status > 2 || lines_ == 0)
       throw std::runtime_error(std::string(row_.name) + " does not go through: " + whole.error);
   }
@@ -252,15 +253,14 @@ class Killings {
 
   void Kill(const std::filesystem::path& folder, int attempt) {
     const auto place = old_.CopyTo(folder);
-    Child child(place.Words(row_.words));
-    const auto ended = child.KilledAt(MomentOf(attempt, place));
+    const auto ended = RunUntil(MomentOf(attempt, place), place.Words(row_.words));
     row_.verify(place, ended, old_, changed_);
     // What a killed one leaves behind stands in nobody's way.
     if (attempt % 16 == 0) {
       const auto again = Run(place.Words(row_.words));
       Require(again.status >= 0 && again.status <= 2, "it does not run again: " + again.error);
     }
-    if (ended.killed) ++killed_;
+    if (WasKilled(ended)) ++killed_;
   }
 
   /// Many of the moments come soon after a line of output or a change to a file: that is when something can
@@ -325,10 +325,10 @@ TEST(SimulatedTesterTest, EndsWithTheProgramThatStartedIt) {
   const FastFolder folder;
   const Workplace place(folder.Path() / "place");
   place.Bench({"new", "@d.orvik", "--add", "410"});
-  Child child(place.Words({"run", "@d.orvik", "--simulate", "sound-class-1", "--events"}));
   // In the middle of a session: the command that begins it has been sent.
-  const auto ended = child.KilledAt({.lines = 4});
-  EXPECT_TRUE(ended.killed) << ended.output << ended.error;
+  const auto ended =
+      RunUntil({.lines = 4}, place.Words({"run", "@d.orvik", "--simulate", "sound-class-1", "--events"}));
+  EXPECT_TRUE(WasKilled(ended)) << ended.out << ended.error;
   std::vector<std::string> names;
   ASSERT_NO_THROW(names = orphans.AwaitEnd());
   EXPECT_EQ(names, std::vector<std::string>{"keld-sim"});
@@ -374,8 +374,7 @@ TEST(SimulatedTesterTest, LeavesNothingTemporaryHoweverAndWheneverTheProgramIsEn
                                  .delay = std::chrono::milliseconds(3),
                                  .signal = signal},
                                  Moment{.lines = 3, .signal = signal}}) {
-      Child(place.Words({"run", "@d.orvik", "--simulate", "--time-scale", "100", "--events"}))
-          .KilledAt(moment);
+      RunUntil(moment, place.Words({"run", "@d.orvik", "--simulate", "--time-scale", "100", "--events"}));
       ASSERT_NO_THROW(orphans.AwaitEnd());
       EXPECT_EQ(temporary.Left(), std::vector<std::string>{}) << strsignal(signal);
     }

@@ -8,6 +8,8 @@
 #include <stdexcept>
 #include <system_error>
 
+#include "tests/support/ReadFile.h"
+
 namespace kill_test {
 
 Workplace::Workplace(std::filesystem::path folder) : folder_(std::move(folder)) {
@@ -24,15 +26,10 @@ std::string Workplace::Bench(const std::vector<std::string>& words) const {
   auto ended = Run(Words(words));
   if (ended.status != 0)
     throw std::runtime_error(words[0] + " ended with " + std::to_string(ended.status) + ": " + ended.error);
-  return ended.output;
+  return ended.out;
 }
 
-std::string Workplace::Contents(const std::string& name) const {
-  std::ifstream file(Path(name), std::ios::binary);
-  std::ostringstream text;
-  text << file.rdbuf();
-  return text.str();
-}
+std::string Workplace::Contents(const std::string& name) const { return support::ReadFile(Path(name)); }
 
 Workplace Workplace::CopyTo(const std::filesystem::path& folder) const {
   std::filesystem::remove_all(folder);

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "tests/kill/Child.h"
+#include "tests/kill/Moment.h"
 
 namespace kill_test {
 

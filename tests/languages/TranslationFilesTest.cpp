@@ -4,8 +4,8 @@
 #include <map>
 #include <set>
 
-#include "tests/cli/BenchProgram.h"
 #include "tests/languages/Languages.h"
+#include "tests/support/Process.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace {
@@ -24,8 +24,8 @@ std::vector<File> Files() {
   return files;
 }
 
-cli::Finished RunTool(const std::string& program, std::vector<std::string> arguments) {
-  return cli::RunningProgram(program, std::move(arguments)).Wait();
+support::Finished RunTool(const std::string& program, std::vector<std::string> arguments) {
+  return support::Run(program, std::move(arguments));
 }
 
 /// How often each placeholder stands in the text.

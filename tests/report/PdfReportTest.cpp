@@ -7,6 +7,7 @@
 #include "OrvikTypeLib/HostError.h"
 #include "host/pdf/PdfModule.h"
 #include "tests/report/SampleReport.h"
+#include "tests/support/Process.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace bench {
@@ -23,13 +24,9 @@ class PdfReportTest : public testing::Test {
   std::string Told(const report::Report& report, const std::string& before, const std::string& after = "") {
     const auto file = (folder_.Path() / "a.pdf").string();
     std::ofstream(file, std::ios::binary) << Pdf(report);
-    auto* const pipe = popen((before + " " + file + " " + after + " 2>&1").c_str(), "r");
-    if (!pipe) throw std::runtime_error(before + " cannot be run");
-    std::string text;
-    char buffer[4096];
-    while (const auto count = fread(buffer, 1, sizeof buffer, pipe)) text.append(buffer, count);
-    EXPECT_EQ(pclose(pipe), 0) << text;
-    return text;
+    const auto ended = support::RunShell(before + " " + file + " " + after);
+    EXPECT_EQ(ended.status, 0) << ended.error;
+    return ended.out + ended.error;
   }
 
   std::vector<std::string> Pages(const report::Report& report) {

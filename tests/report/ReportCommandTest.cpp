@@ -59,7 +59,7 @@ TEST_F(ReportCommandTest, TheFormatMayBeAnotherThanTheEndings) {
 TEST_F(ReportCommandTest, AReportIsNotDoneWhenTheStandardOutputIsFull) {
   const auto file = NewDocument({"410"});
   const auto line = std::string(ORVIK_BENCH_PATH) + " report '" + file + "' --to - > /dev/full";
-  EXPECT_EQ(RunningProgram("/bin/sh", {"-c", line}).Wait().status, 2);
+  EXPECT_EQ(support::RunShell(line).status, 2);
 }
 
 TEST_F(ReportCommandTest, APlaceThatCannotBeWrittenIsNamed) {

@@ -23,9 +23,9 @@ std::vector<unsigned long> WindowsIn(const std::string& property) {
 }
 
 /// The program ends with the test, even if that crashes.
-std::unique_ptr<cli::RunningProgram> Started(std::vector<std::string> words) {
+std::unique_ptr<support::Process> Started(std::vector<std::string> words) {
   words.insert(words.begin(), {"--pdeathsig", "KILL"});
-  return std::make_unique<cli::RunningProgram>(kSetPrivileges, std::move(words));
+  return std::make_unique<support::Process>(kSetPrivileges, std::move(words));
 }
 
 }  // namespace
@@ -45,12 +45,12 @@ Display::Display(QSize size) {
 }
 
 void Display::Xdotool(std::vector<std::string> words) {
-  const auto ended = cli::RunningProgram(kMouseAndKeys, std::move(words)).Wait();
+  const auto ended = support::Run(kMouseAndKeys, std::move(words));
   if (ended.status != 0) throw std::runtime_error("xdotool: " + ended.error);
 }
 
 std::string Display::Property(std::vector<std::string> words) {
-  return cli::RunningProgram(kProperties, std::move(words)).Wait().out;
+  return support::Run(kProperties, std::move(words)).out;
 }
 
 void Display::Click(const QWidget& widget, QPoint place) {

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "tests/cli/BenchProgram.h"
+#include "tests/support/Process.h"
 #include "tests/support/TemporaryFolder.h"
 
 class QPoint;
@@ -44,8 +44,8 @@ class Display {
   static std::string Property(std::vector<std::string> words);
 
   support::TemporaryFolder home_;
-  std::unique_ptr<cli::RunningProgram> server_;
-  std::unique_ptr<cli::RunningProgram> manager_;
+  std::unique_ptr<support::Process> server_;
+  std::unique_ptr<support::Process> manager_;
 };
 
 }  // namespace screen_test

@@ -7,9 +7,9 @@
 namespace sim {
 namespace {
 
+using support::TemporaryFolder;
 using test::Ask;
 using test::InputErrorOf;
-using test::TempFolder;
 
 constexpr std::string_view kIrem = "irem,KELD(IN),SIM-0001,3.10\r\n";
 
@@ -246,7 +246,7 @@ TEST(FaultScriptFileTest, AReplyMayBeLongerThanALineButNotEndless) {
 }
 
 TEST(FaultScriptFileTest, IsReadFromAFile) {
-  const TempFolder folder;
+  const TemporaryFolder folder;
   const auto script =
       LoadFaultScript(folder.Write("f", "\n# nothing\n  at GRES drop\r\nat ANY 3 hang-up\r\n"));
   EXPECT_EQ(script->Size(), 2u);

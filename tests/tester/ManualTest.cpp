@@ -1,37 +1,18 @@
 #include <gtest/gtest.h>
-#include <sys/wait.h>
 
-#include <array>
-#include <cstdio>
 #include <regex>
 #include <sstream>
 
 #include "tester/BuiltInProfiles.h"
 #include "tester/Fault.h"
 #include "tester/Manual.h"
+#include "tests/support/Process.h"
 #include "tests/tester/TestTools.h"
 
 namespace sim {
 namespace {
 
-using test::TempFolder;
-
-struct Outcome {
-  int status = -1;
-  std::string output;
-};
-
-Outcome RunShell(const std::string& command) {
-  Outcome outcome;
-  FILE* pipe = popen((command + " 2>&1").c_str(), "r");
-  if (pipe == nullptr) return outcome;
-  std::array<char, 4096> bytes;
-  while (const std::size_t count = std::fread(bytes.data(), 1, bytes.size(), pipe))
-    outcome.output.append(bytes.data(), count);
-  const int ended = pclose(pipe);
-  if (WIFEXITED(ended)) outcome.status = WEXITSTATUS(ended);
-  return outcome;
-}
+using support::TemporaryFolder;
 
 TEST(ManualTest, HelpNamesEveryOptionProfileAndFault) {
   const std::string help = HelpText();
@@ -47,7 +28,7 @@ TEST(ManualTest, HelpNamesEveryOptionProfileAndFault) {
 // Divided once more, a reply that came too late would come in time.
 TEST(ManualTest, SaysHowALogOfAFasterRunIsReplayed) {
   EXPECT_TRUE(std::regex_search(HelpText(), std::regex("shortened\\s+times\\s+already")));
-  EXPECT_NE(test::ReadAll(SOURCE_PATH "/tester/README.md").find("shortened times already"),
+  EXPECT_NE(support::ReadFile(SOURCE_PATH "/tester/README.md").find("shortened times already"),
             std::string::npos);
 }
 
@@ -57,7 +38,7 @@ TEST(ManualTest, HelpFitsATerminal) {
 }
 
 TEST(ManualTest, ReadmeTeachesEveryFaultAndOption) {
-  const std::string readme = test::ReadAll(SOURCE_PATH "/tester/README.md");
+  const std::string readme = support::ReadFile(SOURCE_PATH "/tester/README.md");
   for (const auto& form : FaultForms())
     EXPECT_NE(readme.find("| `" + std::string(form.syntax) + "` |"), std::string::npos) << form.syntax;
   for (const auto& section : TheManual().sections) {
@@ -70,28 +51,29 @@ TEST(ManualTest, ReadmeTeachesEveryFaultAndOption) {
 }
 
 TEST(ManualTest, ThePageIsWellFormed) {
-  const TempFolder folder;
+  const TemporaryFolder folder;
   const std::string page = folder.Write("keld-sim.1", ManualPage());
-  const auto looked = RunShell("mandoc -T lint -W warning " + page);
+  const auto looked = support::RunShell("mandoc -T lint -W warning " + page);
   ASSERT_NE(looked.status, 127) << "install the packages that packaging/packages/check.txt names: "
-                                << looked.output;
-  std::istringstream findings(looked.output);
+                                << looked.error;
+  std::istringstream findings(looked.out);
   for (std::string finding; std::getline(findings, finding);)
     EXPECT_NE(finding.find("missing date"), std::string::npos)
         << finding;  // it would differ from build to build
 }
 
 TEST(ManualTest, ThePageSaysWhatTheHelpSays) {
-  const TempFolder folder;
-  const auto shown = RunShell("mandoc -T utf8 -O width=500 " + folder.Write("keld-sim.1", ManualPage()) +
-                              " | sed 's/.\\x08//g'");  // bold letters are struck twice
+  const TemporaryFolder folder;
+  const auto shown =
+      support::RunShell("mandoc -T utf8 -O width=500 " + folder.Write("keld-sim.1", ManualPage()) +
+                        " | sed 's/.\\x08//g'");  // bold letters are struck twice
   for (const auto& section : TheManual().sections) {
     for (const auto& block : section.blocks) {
       for (const auto& line : block.example)
-        EXPECT_NE(shown.output.find(line + "\n"), std::string::npos) << line;
+        EXPECT_NE(shown.out.find(line + "\n"), std::string::npos) << line;
       for (const auto& [term, meaning] : block.list) {
-        EXPECT_NE(shown.output.find(term), std::string::npos) << term;
-        EXPECT_NE(shown.output.find(meaning), std::string::npos) << meaning << shown.output;
+        EXPECT_NE(shown.out.find(term), std::string::npos) << term;
+        EXPECT_NE(shown.out.find(meaning), std::string::npos) << meaning << shown.out;
       }
     }
   }

@@ -6,8 +6,8 @@
 namespace sim {
 namespace {
 
+using support::TemporaryFolder;
 using test::InputErrorOf;
-using test::TempFolder;
 
 std::string ErrorIn(const std::string& content) {
   return InputErrorOf([&] { ParseProfile(content, "bad.profile"); });
@@ -185,7 +185,7 @@ TEST(ProfileFileTest, ABadTimeIsToldEvenWhenNoReadingNeedsIt) {
 }
 
 TEST(ProfileFileTest, ANameLoadsTheBuiltInAndAPathTheFile) {
-  const TempFolder folder;
+  const TemporaryFolder folder;
   EXPECT_EQ(LoadProfile("leaky").Find(1010, 0)->value, "0.4");
   const std::string path = folder.Write("leaky", "410 = 0.5 Ohm\n");
   EXPECT_EQ(LoadProfile(path).Find(410, 0)->value, "0.5");
@@ -193,7 +193,7 @@ TEST(ProfileFileTest, ANameLoadsTheBuiltInAndAPathTheFile) {
 }
 
 TEST(ProfileFileTest, WhatIsNoFileIsRefusedByName) {
-  const TempFolder folder;
+  const TemporaryFolder folder;
   EXPECT_EQ(
       InputErrorOf([] { LoadProfile("no-such"); }),
       "profile 'no-such' is neither a file nor a built-in profile; the built-in ones are sound-class-1, "

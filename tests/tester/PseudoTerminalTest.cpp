@@ -11,9 +11,9 @@
 namespace sim {
 namespace {
 
+using support::TemporaryFolder;
+using test::Exists;
 using test::InputErrorOf;
-using test::Stands;
-using test::TempFolder;
 
 std::string TargetOf(const std::string& path) { return std::filesystem::read_symlink(path).string(); }
 
@@ -40,23 +40,23 @@ TEST(PseudoTerminalTest, OurEndStaysUsableWhenAClientHasGone) {
 }
 
 TEST(DeviceLinkTest, StandsAsLongAsItsObject) {
-  const TempFolder folder;
+  const TemporaryFolder folder;
   {
     const DeviceLink link(folder.Path("port"), "/dev/pts/99999");
     EXPECT_EQ(TargetOf(folder.Path("port")), "/dev/pts/99999");
   }
-  EXPECT_FALSE(Stands(folder.Path("port")));
+  EXPECT_FALSE(Exists(folder.Path("port")));
 }
 
 TEST(DeviceLinkTest, ALinkLeftByAnEarlierTesterIsReplaced) {
-  const TempFolder folder;
+  const TemporaryFolder folder;
   std::filesystem::create_symlink("/dev/pts/88888", folder.Path("port"));
   const DeviceLink link(folder.Path("port"), "/dev/pts/99999");
   EXPECT_EQ(TargetOf(folder.Path("port")), "/dev/pts/99999");
 }
 
 TEST(DeviceLinkTest, NothingElseIsEverReplaced) {
-  const TempFolder folder;
+  const TemporaryFolder folder;
   folder.Write("file", "precious");
   std::filesystem::create_directory(folder.Path("directory"));
   std::filesystem::create_symlink(folder.Path("file"), folder.Path("link"));
@@ -65,13 +65,13 @@ TEST(DeviceLinkTest, NothingElseIsEverReplaced) {
     const std::string path = folder.Path(name);
     EXPECT_EQ(InputErrorOf([&] { DeviceLink(path, "/dev/pts/99999"); }),
               "--link " + path + ": something else stands there; remove it or choose another path");
-    EXPECT_TRUE(Stands(path)) << name;
+    EXPECT_TRUE(Exists(path)) << name;
   }
-  EXPECT_EQ(test::ReadAll(folder.Path("file")), "precious");
+  EXPECT_EQ(support::ReadFile(folder.Path("file")), "precious");
 }
 
 TEST(DeviceLinkTest, AMissingFolderIsTold) {
-  const TempFolder folder;
+  const TemporaryFolder folder;
   EXPECT_EQ(InputErrorOf([&] { DeviceLink(folder.Path("no/port"), "/dev/pts/99999"); }),
             "--link " + folder.Path("no/port") +
                 ": the link cannot be made: No such file or directory; choose a path in a folder that exists "
@@ -80,7 +80,7 @@ TEST(DeviceLinkTest, AMissingFolderIsTold) {
 }
 
 TEST(DeviceLinkTest, WhatSomebodyElsePutThereMeanwhileIsLeft) {
-  const TempFolder folder;
+  const TemporaryFolder folder;
   {
     const DeviceLink link(folder.Path("port"), "/dev/pts/88888");
     const DeviceLink other(folder.Path("other"), "/dev/pts/77777");
@@ -88,7 +88,7 @@ TEST(DeviceLinkTest, WhatSomebodyElsePutThereMeanwhileIsLeft) {
     std::filesystem::create_symlink("/dev/pts/99999", folder.Path("port"));
   }
   EXPECT_EQ(TargetOf(folder.Path("port")), "/dev/pts/99999");
-  EXPECT_FALSE(Stands(folder.Path("other")));
+  EXPECT_FALSE(Exists(folder.Path("other")));
 }
 
 }  // namespace

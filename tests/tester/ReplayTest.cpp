@@ -152,7 +152,7 @@ INSTANTIATE_TEST_SUITE_P(
         BadLog{"2026-03-01T10:00:00.000000Z recv STST,410,0", "keld-sim's own trace"}));
 
 TEST(WireLogTest, OneWithoutACommandIsRefused) {
-  const test::TempFolder folder;
+  const support::TemporaryFolder folder;
   const std::string path = folder.Write("w.log", "2026-03-01T10:00:00.000000Z note closed\n");
   EXPECT_EQ(test::InputErrorOf([&] { LoadWireLog(path); }),
             path + ": no command was sent in it; give the wire log that orvik-bench wrote in a run");

@@ -13,7 +13,7 @@
 namespace sim {
 namespace {
 
-using test::TempFolder;
+using support::TemporaryFolder;
 
 /// A pair of sockets stands in for the line; the loop asks no more of it than that it can be read and
 /// written.
@@ -45,14 +45,14 @@ class SerialLoopTest : public testing::Test {
 };
 
 TEST_F(SerialLoopTest, AnswersUntilAFaultHangsUp) {
-  const TempFolder folder;
+  const TemporaryFolder folder;
   tester_.UseFaults(std::make_shared<FaultScript>("at EREM hang-up", "f"));
   Trace trace(folder.Path("trace"));
   SerialLoop loop(tester_, near_.Get(), stop_.Get(), &trace);
   Say("IREM\r\nSTST,410,0\r\nGRES,410,0\r\nA\x01\r\nEREM\r\n");
   EXPECT_EQ(loop.Run(), SerialLoop::End::HungUp);
   EXPECT_EQ(Heard(), "irem,KELD(IN),SIM-0001,3.10\r\nstst,410,0\r\ngres,410,0,0.123,0,Ohm\r\n");
-  const std::string text = test::ReadAll(folder.Path("trace"));
+  const std::string text = support::ReadFile(folder.Path("trace"));
   for (const char* line :
        {"recv IREM\n", "sent gres,410,0,0.123,0,Ohm\n", "lost A\\x01\n", "note hung up\n"}) {
     EXPECT_NE(text.find(line), std::string::npos) << line;
@@ -72,7 +72,7 @@ TEST_F(SerialLoopTest, ALineThatFailsIsAFailureAndNoLoop) {
 }
 
 TEST_F(SerialLoopTest, WhenNobodyReadsRepliesAreLostAndNotHoarded) {
-  const TempFolder folder;
+  const TemporaryFolder folder;
   // Long replies, and the smallest send buffer that the system gives.
   const int smallest = 1;
   ASSERT_EQ(setsockopt(near_.Get(), SOL_SOCKET, SO_SNDBUF, &smallest, sizeof smallest), 0);
@@ -84,7 +84,7 @@ TEST_F(SerialLoopTest, WhenNobodyReadsRepliesAreLostAndNotHoarded) {
   for (int i = 0; i < 200; ++i) commands += "QMTI\r\n";
   Say(commands + "EREM\r\n");
   EXPECT_EQ(loop.Run(), SerialLoop::End::HungUp);
-  EXPECT_NE(test::ReadAll(folder.Path("trace")).find("note nobody reads; the next reply is lost\n"),
+  EXPECT_NE(support::ReadFile(folder.Path("trace")).find("note nobody reads; the next reply is lost\n"),
             std::string::npos);
   EXPECT_EQ(Heard().substr(0, 1000), std::string(1000, 'r'));
 }

@@ -8,7 +8,7 @@
 namespace sim {
 namespace {
 
-using test::TempFolder;
+using support::TemporaryFolder;
 
 std::string WithDigitsAsZero(std::string text) {
   std::replace_if(
@@ -17,27 +17,27 @@ std::string WithDigitsAsZero(std::string text) {
 }
 
 TEST(TraceTest, EachLineHasTimeDirectionAndReadableText) {
-  const TempFolder folder;
+  const TemporaryFolder folder;
   {
     Trace trace(folder.Path("trace"));
     trace.Write("recv", "IREM");
     trace.Write("sent", "gres,\xB5\x0B");
   }
-  const std::string text = test::ReadAll(folder.Path("trace"));
+  const std::string text = support::ReadFile(folder.Path("trace"));
   const std::string time = "0000-00-00T00:00:00.000000Z ";
   EXPECT_EQ(WithDigitsAsZero(text), time + "recv IREM\n" + time + "sent gres,µ\\x0B\n");
 }
 
 TEST(TraceTest, AnOlderTraceIsKept) {
-  const TempFolder folder;
+  const TemporaryFolder folder;
   const std::string path = folder.Write("trace", "older\n");
   Trace(path).Write("recv", "x");
-  EXPECT_EQ(test::ReadAll(path).substr(0, 6), "older\n");
-  EXPECT_NE(test::ReadAll(path).find("recv x\n"), std::string::npos);
+  EXPECT_EQ(support::ReadFile(path).substr(0, 6), "older\n");
+  EXPECT_NE(support::ReadFile(path).find("recv x\n"), std::string::npos);
 }
 
 TEST(TraceTest, AFileThatCannotBeOpenedIsTold) {
-  const TempFolder folder;
+  const TemporaryFolder folder;
   EXPECT_EQ(test::InputErrorOf([&] { Trace(folder.Path("no/trace")); }),
             "--trace " + folder.Path("no/trace") +
                 ": cannot be opened: No such file or directory; choose a file that you may write to");
