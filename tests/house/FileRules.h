@@ -1,37 +1,39 @@
 #pragma once
 
+#include <string_view>
+
 #include "tests/house/Finding.h"
 #include "tests/house/SourceTree.h"
 
+// Rules that one file keeps or breaks by itself.
 namespace house {
 
-/// Files of more than 500 lines.
-Findings LengthFindings(const std::vector<SourceFile>& files);
+/// At most 500 lines.
+Findings LengthFindings(const SourceFile& file);
 
-/// Headers whose first line is not `#pragma once`.
-Findings HeaderGuardFindings(const std::vector<SourceFile>& files);
+/// A header begins with `#pragma once`.
+Findings HeaderGuardFindings(const SourceFile& file);
 
-/// `catch (...)` inside the library, elsewhere than in plugin/Attempt.h and at the entry points, where
-/// nothing may get out.
-Findings SwallowedErrorFindings(const std::vector<SourceFile>& files);
+/// The library has `catch (...)` in plugin/Attempt.h and at the entry points only, where nothing may get out.
+Findings SwallowedErrorFindings(const SourceFile& file);
 
-/// Casts to another view of an object inside the library, elsewhere than in OrvikTypeLib/As.h.
-Findings RawCastFindings(const std::vector<SourceFile>& files);
+/// The library reaches another view of an object through OrvikTypeLib/As.h only.
+Findings RawCastFindings(const SourceFile& file);
 
-/// Headers inside the library that are no C++ standard headers, or that bring threads, locks or the C clock.
-/// Whatever the library needs of the system it asks of its host or of the platform.
-Findings SystemHeaderFindings(const std::vector<SourceFile>& files);
+/// The library includes C++ standard headers only, and none that brings threads, locks, files or the C clock.
+/// It asks its host or the platform for what it needs of the system.
+Findings SystemHeaderFindings(const SourceFile& file);
 
-/// Clocks and sleeps inside the library, whose only time is the platform's.
-Findings ClockFindings(const std::vector<SourceFile>& files);
+/// The library's only time is the platform's: no clocks, no sleeps.
+Findings ClockFindings(const SourceFile& file);
 
-/// Headers in tester/ that come neither from C++ nor from the system.
-Findings TesterHeaderFindings(const std::vector<SourceFile>& files);
+/// The simulated tester includes no library but C++ and the system's.
+Findings TesterHeaderFindings(const SourceFile& file);
 
-/// Marks of unfinished work in comments.
-Findings UnfinishedWorkFindings(const std::vector<SourceFile>& files);
+/// No marks of unfinished work.
+Findings UnfinishedWorkFindings(const SourceFile& file);
 
-/// Paths that are there on one machine only: a home folder, or this working copy's own place, `root`.
-Findings MachinePathFindings(const std::vector<SourceFile>& files, std::string_view root);
+/// No path that exists on one machine only: a home folder, or this working copy, `root`.
+Findings MachinePathFindings(const SourceFile& file, std::string_view root);
 
 }  // namespace house

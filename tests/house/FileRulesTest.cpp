@@ -6,14 +6,16 @@
 namespace house {
 namespace {
 
-using testing::ElementsAre;
-using testing::Field;
 using testing::IsEmpty;
 
-auto Where(const std::string& place) { return Field(&Finding::where, place); }
+using Rule = Findings (*)(const SourceFile&);
 
-std::vector<SourceFile> One(std::string path, std::string text) {
-  return {MakeSourceFile(std::move(path), std::move(text))};
+Findings PathFindings(const SourceFile& file) { return MachinePathFindings(file, SOURCE_PATH); }
+
+std::vector<std::string> Places(const Findings& findings) {
+  std::vector<std::string> places;
+  for (const auto& finding : findings) places.push_back(finding.where);
+  return places;
 }
 
 std::string Repeated(const std::string& line, int count) {
@@ -22,100 +24,93 @@ std::string Repeated(const std::string& line, int count) {
   return text;
 }
 
-TEST(LengthFindings, BeginAboveFiveHundredLines) {
-  EXPECT_THAT(LengthFindings(One("host/A.cpp", Repeated("int a;\n", 500))), IsEmpty());
-  EXPECT_THAT(LengthFindings(One("host/A.cpp", Repeated("int a;\n", 501))), ElementsAre(Where("host/A.cpp")));
+TEST(FileRules, FindWhatBreaksThem) {
+  const char* caught = "\ntry { A(); } catch ( ... ) {}\n// catch (...)\n";
+  const char* casts = "auto b = dynamic_cast<B*>(a);\nauto d = std::dynamic_pointer_cast<D>(c);\n";
+  const char* system =
+      "#include <unistd.h>\n#include <sys/types.h>\n#include <time.h>\n#include <ctime>\n#include <thread>\n"
+      "#include <mutex>\n#include <fstream>\n#include <windows.h>\n#include <pugixml.hpp>\n"
+      "#include <nlohmann/json.hpp>\n";
+  struct {
+    const char* name;
+    Rule rule;
+    const char* path;
+    std::string text;
+    std::vector<int> lines;  ///< with findings; 0 for the whole file
+  } const cases[] = {
+      {"500 lines", LengthFindings, "host/A.cpp", Repeated("int a;\n", 500), {}},
+      {"501 lines", LengthFindings, "host/A.cpp", Repeated("int a;\n", 501), {0}},
+      {"late guard", HeaderGuardFindings, "host/A.h", "\n#pragma once\n", {0}},
+      {"guard", HeaderGuardFindings, "host/A.h", "#pragma once\n", {}},
+      {"source without guard", HeaderGuardFindings, "host/A.cpp", "int a;\n", {}},
+      {"swallowed error", SwallowedErrorFindings, "results/A.cpp", caught, {2}},
+      {"Attempt", SwallowedErrorFindings, "plugin/Attempt.h", caught, {}},
+      {"entry points", SwallowedErrorFindings, "plugin/EntryPoints.cpp", caught, {}},
+      {"casts", RawCastFindings, "ui/A.cpp", casts, {1, 2}},
+      {"As", RawCastFindings, "OrvikTypeLib/As.h", casts, {}},
+      {"system headers", SystemHeaderFindings, "instrument/A.cpp", system, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10}},
+      {"system headers in the host", SystemHeaderFindings, "host/A.cpp", system, {}},
+      {"C++ headers", SystemHeaderFindings, "ui/A.h", "#include <chrono>\n#include <string_view>\n", {}},
+      {"clocks and sleeps",
+       ClockFindings,
+       "instrument/A.cpp",
+       "auto a = std::chrono::steady_clock::now();\nstd::this_thread::yield();\nusleep(1);\n"
+       "auto b = std::chrono::milliseconds(3500);\n// sleep\nsleepy();\n",
+       {1, 2, 3}},
+      {"tester headers",
+       TesterHeaderFindings,
+       "tester/A.cpp",
+       "#include <CLI/CLI.hpp>\n#include <termios.h>\n#include <sys/file.h>\n#include <thread>\n"
+       "#include <QString>\n#include <gtest/gtest.h>\n",
+       {1, 5, 6}},
+      {"unfinished work",
+       UnfinishedWorkFindings,
+       "host/A.cpp",
+       "// TO"
+       "DO: b\nmkdtemp(\"a-XXXXXX\");\n/* a\nFIX"
+       "ME */\n",
+       {1, 4}},
+      {"paths of one machine",
+       PathFindings,
+       "host/A.cpp",
+       std::string("a(\"") + SOURCE_PATH +
+           "/a\");\nb(\"/ho"
+           "me/me/\");\nc(\"/tmp/\");\n",
+       {1, 2}},
+  };
+  for (const auto& row : cases) {
+    std::vector<std::string> expected;
+    for (const int line : row.lines)
+      expected.push_back(line == 0 ? row.path : row.path + (":" + std::to_string(line)));
+    EXPECT_EQ(Places(row.rule(MakeSourceFile(row.path, row.text))), expected) << row.name;
+  }
 }
 
-TEST(HeaderGuardFindings, NameHeadersThatDoNotBeginWithPragmaOnce) {
-  EXPECT_THAT(HeaderGuardFindings(One("host/A.h", "\n#pragma once\n")), ElementsAre(Where("host/A.h")));
-  EXPECT_THAT(HeaderGuardFindings(One("host/A.h", "#pragma once\n")), IsEmpty());
-  EXPECT_THAT(HeaderGuardFindings(One("host/A.cpp", "int a;\n")), IsEmpty());
+TEST(FileRules, HoldInTheRepository) {
+  for (const auto& file : Tree())
+    for (const Rule rule :
+         {LengthFindings, HeaderGuardFindings, SwallowedErrorFindings, RawCastFindings, SystemHeaderFindings,
+          ClockFindings, TesterHeaderFindings, UnfinishedWorkFindings, PathFindings})
+      EXPECT_THAT(rule(file), IsEmpty());
 }
 
-TEST(SwallowedErrorFindings, AllowOneHelperAndTheEntryPoints) {
-  const char* text = "\ntry { A(); } catch ( ... ) {}\n// catch (...)\n";
-  EXPECT_THAT(SwallowedErrorFindings(One("results/A.cpp", text)), ElementsAre(Where("results/A.cpp:2")));
-  EXPECT_THAT(SwallowedErrorFindings(One("plugin/Attempt.h", text)), IsEmpty());
-  EXPECT_THAT(SwallowedErrorFindings(One("plugin/EntryPoints.cpp", text)), IsEmpty());
+TEST(SourceFile, NamesItsIncludes) {
+  const auto file = MakeSourceFile(
+      "a/A.cpp", "// #include <no>\n#include <string>\n  # include \"a/B.h\"  // why\nint c;\n");
+  ASSERT_EQ(file.includes.size(), 2U);
+  EXPECT_EQ(file.includes[0].name, "string");
+  EXPECT_FALSE(file.includes[0].quoted);
+  EXPECT_EQ(file.includes[0].line, 2);
+  EXPECT_EQ(file.includes[1].name, "a/B.h");
+  EXPECT_TRUE(file.includes[1].quoted);
+  EXPECT_EQ(file.includes[1].line, 3);
 }
 
-TEST(RawCastFindings, AllowOneHelper) {
-  const char* text = "auto b = dynamic_cast<B*>(a);\nauto d = std::dynamic_pointer_cast<D>(c);\n";
-  EXPECT_THAT(RawCastFindings(One("ui/A.cpp", text)), ElementsAre(Where("ui/A.cpp:1"), Where("ui/A.cpp:2")));
-  EXPECT_THAT(RawCastFindings(One("OrvikTypeLib/As.h", text)), IsEmpty());
+TEST(HasWord, FindsWholeWordsOnly) {
+  EXPECT_TRUE(HasWord("std::sleep(1)", "sleep"));
+  EXPECT_TRUE(HasWord("sleepy sleep", "sleep"));
+  EXPECT_FALSE(HasWord("no_sleep sleepy asleep", "sleep"));
 }
-
-class SystemHeaderTest : public testing::TestWithParam<const char*> {};
-
-TEST_P(SystemHeaderTest, IsNotForTheLibrary) {
-  const std::string include = std::string("#include <") + GetParam() + ">\n";
-  EXPECT_THAT(SystemHeaderFindings(One("instrument/A.cpp", include)),
-              ElementsAre(Where("instrument/A.cpp:1")));
-  EXPECT_THAT(SystemHeaderFindings(One("host/A.cpp", include)), IsEmpty());
-}
-
-INSTANTIATE_TEST_SUITE_P(Headers, SystemHeaderTest,
-                         testing::Values("unistd.h", "sys/types.h", "time.h", "ctime", "thread", "mutex",
-                                         "fstream", "windows.h", "pugixml.hpp", "nlohmann/json.hpp"));
-
-TEST(SystemHeaderFindings, AllowPlainStandardHeaders) {
-  EXPECT_THAT(
-      SystemHeaderFindings(One("ui/A.h", "#include <chrono>\n#include <memory>\n#include <string>\n")),
-      IsEmpty());
-}
-
-TEST(ClockFindings, NameClocksAndSleeps) {
-  EXPECT_THAT(
-      ClockFindings(One("instrument/A.cpp",
-                        "auto a = std::chrono::steady_clock::now();\n"
-                        "std::this_thread::yield();\n"
-                        "usleep(1);\n"
-                        "auto b = std::chrono::milliseconds(3500);\n"
-                        "// sleep\n")),
-      ElementsAre(Where("instrument/A.cpp:1"), Where("instrument/A.cpp:2"), Where("instrument/A.cpp:3")));
-}
-
-TEST(TesterHeaderFindings, NameWhatIsNeitherCppNorTheSystems) {
-  EXPECT_THAT(TesterHeaderFindings(
-                  One("tester/A.cpp", "#include <CLI/CLI.hpp>\n#include <termios.h>\n#include <thread>\n")),
-              ElementsAre(Where("tester/A.cpp:1")));
-}
-
-TEST(UnfinishedWorkFindings, NameMarksInCommentsOnly) {
-  EXPECT_THAT(UnfinishedWorkFindings(One("host/A.cpp", "// TODO: b\nSay(\"TODO\");\n/* a\nFIXME */\n")),
-              ElementsAre(Where("host/A.cpp:1"), Where("host/A.cpp:4")));
-}
-
-TEST(MachinePathFindings, NameThisWorkingCopyAndHomeFolders) {
-  EXPECT_THAT(MachinePathFindings(One("host/A.cpp",
-                                      "a(\"/x/copy/a\");\nb(\"/ho"
-                                      "me/me/\");\nc(\"/tmp/\");\n"),
-                                  "/x/copy"),
-              ElementsAre(Where("host/A.cpp:1"), Where("host/A.cpp:2")));
-}
-
-TEST(Repository, HasNoOverlongFile) { EXPECT_THAT(LengthFindings(Tree()), IsEmpty()); }
-
-TEST(Repository, HasGuardedHeaders) { EXPECT_THAT(HeaderGuardFindings(Tree()), IsEmpty()); }
-
-TEST(Repository, SwallowsErrorsInOnePlace) { EXPECT_THAT(SwallowedErrorFindings(Tree()), IsEmpty()); }
-
-TEST(Repository, CastsObjectsInOnePlace) { EXPECT_THAT(RawCastFindings(Tree()), IsEmpty()); }
-
-TEST(Repository, HasALibraryThatStandsOnTheLanguageAlone) {
-  EXPECT_THAT(SystemHeaderFindings(Tree()), IsEmpty());
-}
-
-TEST(Repository, HasALibraryWithoutClock) { EXPECT_THAT(ClockFindings(Tree()), IsEmpty()); }
-
-TEST(Repository, HasATesterThatStandsOnTheSystemAlone) {
-  EXPECT_THAT(TesterHeaderFindings(Tree()), IsEmpty());
-}
-
-TEST(Repository, HasNoMarksOfUnfinishedWork) { EXPECT_THAT(UnfinishedWorkFindings(Tree()), IsEmpty()); }
-
-TEST(Repository, HasNoPathsOfOneMachine) { EXPECT_THAT(MachinePathFindings(Tree(), SOURCE_PATH), IsEmpty()); }
 
 }  // namespace
 }  // namespace house

@@ -1,10 +1,11 @@
 #include "tests/house/SourceTree.h"
 
 #include <algorithm>
-#include <fstream>
+#include <cctype>
 #include <sstream>
-#include <stdexcept>
 #include <utility>
+
+#include "tests/support/ReadFile.h"
 
 namespace house {
 
@@ -19,23 +20,18 @@ bool IsSource(const std::filesystem::path& file) {
   return file.extension() == ".h" || file.extension() == ".cpp";
 }
 
-}  // namespace
-
-std::string ReadText(const std::filesystem::path& file) {
-  std::ifstream stream(file, std::ios::binary);
-  std::ostringstream text;
-  if (!stream || (stream.peek() != EOF && !(text << stream.rdbuf())))
-    throw std::runtime_error("cannot read " + file.string());
-  return std::move(text).str();
+bool IsNameCharacter(char character) {
+  return std::isalnum(static_cast<unsigned char>(character)) != 0 || character == '_';
 }
 
-SourceFile MakeSourceFile(std::string path, std::string text) {
-  SourceFile file;
-  file.path = std::move(path);
-  file.parts = TakeApart(text);
-  file.includes = Includes(text, file.parts);
-  file.text = std::move(text);
-  return file;
+/// The include on a line; its name is empty if there is none.
+Include IncludeOf(const std::string& line) {
+  const auto mark = line.find_first_not_of(" \t");
+  if (mark == std::string::npos || line[mark] != '#' || !HasWord(line, "include")) return {};
+  const auto open = line.find_first_of("<\"");
+  const auto close = line.find_first_of(">\"", open + 1);
+  if (open == std::string::npos || close == std::string::npos) return {};
+  return {line.substr(open + 1, close - open - 1), line[open] == '"'};
 }
 
 std::vector<SourceFile> ReadTree(const std::filesystem::path& root) {
@@ -43,11 +39,26 @@ std::vector<SourceFile> ReadTree(const std::filesystem::path& root) {
   for (auto entry = std::filesystem::recursive_directory_iterator(root); entry != end(entry); ++entry) {
     if (entry->is_directory() && IsSkippedFolder(entry->path())) entry.disable_recursion_pending();
     if (!entry->is_regular_file() || !IsSource(entry->path())) continue;
-    files.push_back(
-        MakeSourceFile(entry->path().lexically_relative(root).generic_string(), ReadText(entry->path())));
+    files.push_back(MakeSourceFile(entry->path().lexically_relative(root).generic_string(),
+                                   support::ReadFile(entry->path())));
   }
   std::sort(files.begin(), files.end(), [](const auto& a, const auto& b) { return a.path < b.path; });
   return files;
+}
+
+}  // namespace
+
+SourceFile MakeSourceFile(std::string path, std::string text) {
+  SourceFile file;
+  file.path = std::move(path);
+  file.text = std::move(text);
+  for (auto& line : Lines(file.text)) {
+    auto include = IncludeOf(line);
+    include.line = static_cast<int>(file.code.size()) + 1;
+    if (!include.name.empty()) file.includes.push_back(std::move(include));
+    file.code.push_back(line.substr(0, line.find("//")));
+  }
+  return file;
 }
 
 const std::vector<SourceFile>& Tree() {
@@ -69,10 +80,27 @@ bool IsPlugIn(std::string_view path) {
 }
 
 bool IsInsideLibrary(std::string_view path) {
-  // What draws the bitmaps runs while building and is no part of the library.
+  // These draw the bitmaps during the build.
   if (path.starts_with("resources/drawing/") || path == "resources/DrawBitmaps.cpp") return false;
   const std::string folder = FolderOf(path);
   return IsPlugIn(path) || folder == "resources" || folder == "OrvikTypeLib" || folder == "platform";
+}
+
+std::vector<std::string> Lines(const std::string& text) {
+  std::vector<std::string> lines;
+  std::istringstream stream(text);
+  for (std::string line; std::getline(stream, line);) lines.push_back(line);
+  return lines;
+}
+
+bool HasWord(std::string_view text, std::string_view word) {
+  for (auto at = text.find(word); at != std::string_view::npos; at = text.find(word, at + 1)) {
+    const auto after = at + word.size();
+    if ((at == 0 || !IsNameCharacter(text[at - 1])) &&
+        (after == text.size() || !IsNameCharacter(text[after])))
+      return true;
+  }
+  return false;
 }
 
 }  // namespace house

@@ -5,26 +5,28 @@
 #include <string_view>
 #include <vector>
 
-#include "tests/house/SourceText.h"
-
 namespace house {
+
+/// One `#include` line.
+struct Include {
+  std::string name;
+  bool quoted = false;  ///< "name", not <name>
+  int line = 0;         ///< from 1
+};
 
 /// One C++ file of the repository.
 struct SourceFile {
   std::string path;  ///< from the repository's root, with '/'
   std::string text;
-  SourceText parts;
+  std::vector<std::string> code;  ///< its lines without line ends and without comments that begin with "//"
   std::vector<Include> includes;
 };
 
-/// A file made from a text, for trying a rule on an example.
+/// A file made from a text, to try a rule on an example.
 SourceFile MakeSourceFile(std::string path, std::string text);
 
-/// All headers and sources below `root`, sorted by path; build folders and hidden folders are left out.
-/// @throws std::runtime_error naming the file that cannot be read
-std::vector<SourceFile> ReadTree(const std::filesystem::path& root);
-
-/// The repository itself, read once.
+/// All headers and sources of the repository, sorted by path, read once. Build folders and hidden folders are
+/// left out.
 const std::vector<SourceFile>& Tree();
 
 /// The first folder of a path; empty for a file in the root.
@@ -39,8 +41,10 @@ bool IsPlugIn(std::string_view path);
 /// platform's part of it.
 bool IsInsideLibrary(std::string_view path);
 
-/// A whole file as text.
-/// @throws std::runtime_error naming the file that cannot be read
-std::string ReadText(const std::filesystem::path& file);
+/// The lines of a text, without their ends.
+std::vector<std::string> Lines(const std::string& text);
+
+/// Whether `word` is in `text` as a whole: no letter, digit or underscore right before or after it.
+bool HasWord(std::string_view text, std::string_view word);
 
 }  // namespace house
