@@ -1,7 +1,7 @@
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <fstream>
-#include <iterator>
 
 #include "OrvikTypeLib/As.h"
 #include "OrvikTypeLib/IBaseElement.h"
@@ -14,6 +14,7 @@
 #include "plugin/CKELDTestConfiguration.h"
 #include "resources/Resources.h"
 #include "tests/support/HostOnly.h"
+#include "tests/support/VirtualBench.h"
 #include "tests/support/WatchedLanguage.h"
 
 namespace {
@@ -22,275 +23,211 @@ using keld::CKELDPlugin;
 using orvik::As;
 using orvik::ITestContainer;
 
-constexpr char kCatalogueFault[] = "\tKELD(IN)\t0x8004A22C\t-2147179988\tCKELDPlugin\t3";
-constexpr char kSettingsFault[] = "\tKELD(IN)\t0x8004A28E\t-2147179890\tCKELDPlugin\t3";
-
 constexpr char kSmallCatalogue[] =
     "<TemplateData><TestElement ID=\"400\"><Name LID=\"1::Group\"/><TestElement ID=\"410\"><Name "
     "LID=\"2::PE\"/>"
     "<Unit LID=\"3::mOhm\"/></TestElement></TestElement><TestElement ID=\"910\"/></TemplateData>";
 
-std::string ShippedCatalogue() {
-  std::ifstream file(CATALOGUE_PATH);
-  return {std::istreambuf_iterator<char>(file), {}};
+class CKELDPluginTest : public testing::Test {
+ protected:
+  /// Starts a host with that catalogue, prepared further, and initialises the plug-in.
+  CKELDPlugin& Start(std::optional<std::string> catalogue = kSmallCatalogue,
+                     const std::function<void(support::HostOnly&)>& prepare = {}) {
+    bench_.reset();
+    bench_ = std::make_unique<support::HostOnly>(std::move(catalogue));
+    if (prepare) prepare(*bench_);
+    plugin_ = CKELDPlugin::Create();
+    plugin_->Initialize(nullptr);
+    return *plugin_;
+  }
+  static orvik::IInformationRecord& Texts(const std::shared_ptr<orvik::ITestElement>& element) {
+    return *As<keld::CKELDElement>(element)->BaseElement()->Information();
+  }
+
+  std::unique_ptr<support::HostOnly> bench_ = std::make_unique<support::HostOnly>(kSmallCatalogue);
+  std::shared_ptr<CKELDPlugin> plugin_ = CKELDPlugin::Create();
+};
+
+TEST_F(CKELDPluginTest, IsEmptyUntilInitialised) {
+  EXPECT_EQ(plugin_->ID(), "KELD(IN)");
+  EXPECT_EQ(plugin_->ClassID(), "orvikKELD.CKELDPlugin");
+  EXPECT_EQ(plugin_->Name(), "");
+  EXPECT_EQ(plugin_->Flags(), 0);
+  EXPECT_EQ(plugin_->Version(), "2.2.2");
+  ASSERT_TRUE(As<keld::CKELDSequence>(plugin_->Tests()));
+  EXPECT_EQ(plugin_->Tests()->Count(), 0);
+  EXPECT_FALSE(plugin_->CreateTest(410));
 }
 
-std::shared_ptr<CKELDPlugin> Initialised() {
-  const auto plugin = CKELDPlugin::Create();
-  plugin->Initialize(nullptr);
-  return plugin;
+TEST_F(CKELDPluginTest, HasNameFlagsAndCatalogueOnceInitialised) {
+  const auto& plugin = Start({}, [](support::HostOnly& bench) { bench.WriteCatalogue(kSmallCatalogue); });
+  EXPECT_EQ(plugin.Name(), "KELD Safety Tester");
+  EXPECT_EQ(plugin.Flags(), 1);
+  EXPECT_EQ(plugin.Tests()->Count(), 2);
+  EXPECT_TRUE(bench_->ErrorLines().empty());
+  EXPECT_FALSE(plugin.ControlPanel());
+  EXPECT_FALSE(plugin_->CreateDUTData());
+  EXPECT_FALSE(plugin_->PlugInMenu());
+  EXPECT_FALSE(plugin_->Setup());
 }
 
-std::string NameOf(const std::shared_ptr<orvik::ITestElement>& element) {
-  return As<keld::CKELDElement>(element)->BaseElement()->Information()->DisplayName();
-}
-
-void Rename(const std::shared_ptr<orvik::ITestElement>& element, const std::string& name) {
-  As<keld::CKELDElement>(element)->BaseElement()->Information()->SetDisplayName(name);
-}
-
-TEST(Plugin, IsEmptyUntilItIsInitialised) {
-  support::HostOnly bench{std::string(kSmallCatalogue)};
-  const auto plugin = CKELDPlugin::Create();
-  EXPECT_EQ(plugin->ID(), "KELD(IN)");
-  EXPECT_EQ(plugin->ClassID(), "orvikKELD.CKELDPlugin");
-  EXPECT_EQ(plugin->Name(), "");
-  EXPECT_EQ(plugin->Flags(), 0);
-  EXPECT_EQ(plugin->Version(), "2.2.2");
-  ASSERT_TRUE(plugin->Tests());
-  EXPECT_EQ(plugin->Tests()->Count(), 0);
-  EXPECT_TRUE(As<keld::CKELDSequence>(plugin->Tests()));
-  EXPECT_FALSE(plugin->CreateTest(410));
-}
-
-TEST(Plugin, HasNameFlagsAndCatalogueOnceItIsInitialised) {
-  support::HostOnly bench{std::string(kSmallCatalogue)};
-  const auto plugin = Initialised();
-  EXPECT_EQ(plugin->Name(), "KELD Safety Tester");
-  EXPECT_EQ(plugin->Flags(), 1);
-  EXPECT_EQ(plugin->Tests()->Count(), 2);
-  EXPECT_TRUE(bench.ErrorLines().empty());
-}
-
-TEST(Plugin, HasNothingElseToOffer) {
-  support::HostOnly bench{std::string(kSmallCatalogue)};
-  const auto plugin = Initialised();
-  EXPECT_FALSE(plugin->ControlPanel());
-  EXPECT_FALSE(plugin->CreateDUTData());
-  EXPECT_FALSE(plugin->PlugInMenu());
-  EXPECT_FALSE(plugin->Setup());
-}
-
-TEST(Plugin, ReadsTheCatalogueFromTheSettingsKey) {
-  support::HostOnly bench;
-  bench.WriteCatalogue(kSmallCatalogue);
-  const auto plugin = Initialised();
-  EXPECT_EQ(plugin->Tests()->Count(), 2);
-  EXPECT_TRUE(bench.ErrorLines().empty());
-}
-
-TEST(Plugin, LogsAMissingSettingsKeyAndThenTheMissingCatalogue) {
-  support::HostOnly bench;
-  const auto plugin = CKELDPlugin::Create();
-  EXPECT_NO_THROW(plugin->Initialize(nullptr));
-  const auto lines = bench.ErrorLines();
-  ASSERT_EQ(lines.size(), 2U);
-  EXPECT_TRUE(lines[0].ends_with(kSettingsFault)) << lines[0];
-  EXPECT_TRUE(lines[1].ends_with(kCatalogueFault)) << lines[1];
-  EXPECT_EQ(plugin->Flags(), 1);
-  EXPECT_EQ(plugin->Name(), "KELD Safety Tester");
-  ASSERT_TRUE(plugin->Tests());
-  EXPECT_EQ(plugin->Tests()->Count(), 0);
-}
-
-TEST(Plugin, LogsAMissingValue) {
-  support::HostOnly bench;
-  ASSERT_TRUE(keld::MKELDGlobalVars::RegistryReader()->CreateKey(keld::MKELDConstants::kHive,
-                                                                 keld::MKELDConstants::kSettingsKey));
-  const auto plugin = Initialised();
-  const auto lines = bench.ErrorLines();
-  ASSERT_EQ(lines.size(), 1U);
-  EXPECT_TRUE(lines[0].ends_with(kCatalogueFault)) << lines[0];
-  EXPECT_EQ(plugin->Tests()->Count(), 0);
-}
-
-TEST(Plugin, LogsASettingsFileThatCannotBeRead) {
-  support::HostOnly bench;
-  bench.WriteCatalogue(kSmallCatalogue);
-  std::ofstream(bench.Folder() / "registry.json") << "{ cut sho";
-  const auto plugin = CKELDPlugin::Create();
-  EXPECT_NO_THROW(plugin->Initialize(nullptr));
-  const auto lines = bench.ErrorLines();
-  ASSERT_EQ(lines.size(), 3U) << "the host's own reason stands before what the plug-in makes of it";
-  EXPECT_NE(lines[0].find("registry.json"), std::string::npos) << lines[0];
-  EXPECT_TRUE(lines[1].ends_with(kSettingsFault)) << lines[1];
-  EXPECT_TRUE(lines[2].ends_with(kCatalogueFault)) << lines[2];
-  EXPECT_EQ(plugin->Tests()->Count(), 0);
-}
-
-TEST(Plugin, LogsAValueWithoutTemplateDataAndRaisesNothing) {
-  for (const char* text : {"<Other/>", "", "<TemplateData>", "no xml"}) {
-    support::HostOnly bench{std::string(text)};
-    const auto plugin = CKELDPlugin::Create();
-    EXPECT_NO_THROW(plugin->Initialize(nullptr));
-    const auto lines = bench.ErrorLines();
-    ASSERT_EQ(lines.size(), 1U) << text;
-    EXPECT_TRUE(lines[0].ends_with(kCatalogueFault)) << lines[0];
-    ASSERT_TRUE(plugin->Tests());
-    EXPECT_EQ(plugin->Tests()->Count(), 0) << text;
+TEST_F(CKELDPluginTest, LogsWhyTheCatalogueIsMissing) {
+  using testing::EndsWith;
+  using testing::HasSubstr;
+  const auto catalogueFault = EndsWith("\tKELD(IN)\t0x8004A22C\t-2147179988\tCKELDPlugin\t3");
+  const auto settingsFault = EndsWith("\tKELD(IN)\t0x8004A28E\t-2147179890\tCKELDPlugin\t3");
+  struct Row {
+    const char* name;
+    std::optional<std::string> catalogue;
+    std::function<void(support::HostOnly&)> prepare;
+    std::vector<testing::Matcher<std::string>> lines;
+  };
+  const std::vector<Row> rows = {{"no settings key", {}, {}, {settingsFault, catalogueFault}},
+                                 {"no value",
+                                  {},
+                                  [](support::HostOnly&) {
+                                    ASSERT_TRUE(keld::MKELDGlobalVars::RegistryReader()->CreateKey(
+                                        keld::MKELDConstants::kHive, keld::MKELDConstants::kSettingsKey));
+                                  },
+                                  {catalogueFault}},
+                                 {"unreadable settings, with the host's own reason",
+                                  {},
+                                  [](support::HostOnly& bench) {
+                                    bench.WriteCatalogue(kSmallCatalogue);
+                                    std::ofstream(bench.Folder() / "registry.json") << "{ cut sho";
+                                  },
+                                  {HasSubstr("registry.json"), settingsFault, catalogueFault}},
+                                 {"another root", "<Other/>", {}, {catalogueFault}},
+                                 {"empty text", "", {}, {catalogueFault}},
+                                 {"truncated", "<TemplateData>", {}, {catalogueFault}},
+                                 {"not XML", "no xml", {}, {catalogueFault}}};
+  for (const Row& row : rows) {
+    const auto& plugin = Start(row.catalogue, row.prepare);
+    EXPECT_THAT(bench_->ErrorLines(), testing::ElementsAreArray(row.lines)) << row.name;
+    EXPECT_EQ(plugin.Flags(), 1) << row.name;
+    EXPECT_EQ(plugin.Name(), "KELD Safety Tester") << row.name;
+    ASSERT_TRUE(plugin.Tests()) << row.name;
+    EXPECT_EQ(plugin.Tests()->Count(), 0) << row.name;
   }
 }
 
-TEST(Plugin, BuildsAllAnewWhenItIsInitialisedAgain) {
-  support::HostOnly bench;
-  bench.WriteCatalogue(kSmallCatalogue);
-  const auto plugin = Initialised();
-  const auto before = plugin->Tests();
-  Rename(before->item(1), "changed");
-  plugin->Initialize(nullptr);
-  EXPECT_NE(plugin->Tests(), before);
-  EXPECT_EQ(plugin->Tests()->Count(), 2);
-  EXPECT_EQ(NameOf(plugin->Tests()->item(1)), "Group");
-  bench.WriteCatalogue("<TemplateData/>");
-  plugin->Initialize(nullptr);
-  EXPECT_EQ(plugin->Tests()->Count(), 0);
-  EXPECT_EQ(plugin->Flags(), 1);
-  EXPECT_EQ(before->Count(), 2) << "whoever holds the old catalogue keeps it whole";
-}
-
-TEST(Plugin, TakesItsNameAnewWhenItIsInitialisedAgain) {
-  support::HostOnly bench{std::string(kSmallCatalogue)};
-  const auto language = support::WatchLanguage(bench.Host());
-  const auto plugin = Initialised();
-  ASSERT_EQ(plugin->Name(), "KELD Safety Tester");
+TEST_F(CKELDPluginTest, IsRebuiltWhenInitialisedAgain) {
+  std::shared_ptr<support::WatchedLanguage> language;
+  auto& plugin = Start({}, [&](support::HostOnly& bench) {
+    language = support::WatchLanguage(bench.Host());
+    bench.WriteCatalogue(kSmallCatalogue);
+  });
+  const auto before = plugin.Tests();
+  Texts(before->item(1)).SetDisplayName("changed");
+  plugin.Initialize(nullptr);
+  EXPECT_NE(plugin.Tests(), before);
+  EXPECT_EQ(plugin.Tests()->Count(), 2);
+  EXPECT_EQ(Texts(plugin.Tests()->item(1)).DisplayName(), "Group");
+  EXPECT_EQ(plugin.Name(), "KELD Safety Tester");
+  bench_->WriteCatalogue("<TemplateData/>");
   language->answer = "Another language";
-  plugin->Initialize(nullptr);
-  EXPECT_EQ(plugin->Name(), "Another language");
+  plugin.Initialize(nullptr);
+  EXPECT_EQ(plugin.Name(), "Another language");
+  EXPECT_EQ(plugin.Tests()->Count(), 0);
+  EXPECT_EQ(plugin.Flags(), 1);
+  EXPECT_EQ(before->Count(), 2) << "the old catalogue stays complete";
 }
 
-TEST(Plugin, CreatesCopiesThatAreIndependent) {
-  support::HostOnly bench{std::string(kSmallCatalogue)};
-  const auto plugin = Initialised();
-  const auto first = plugin->CreateTest(410);
-  const auto second = plugin->CreateTest(410);
+TEST_F(CKELDPluginTest, CreatesIndependentCopies) {
+  auto& plugin = Start();
+  const auto first = plugin.CreateTest(410);
+  const auto second = plugin.CreateTest(410);
   ASSERT_TRUE(first && second);
   EXPECT_NE(first, second);
-  EXPECT_NE(first, plugin->Tests()->FindElement(410));
-  Rename(first, "changed");
+  EXPECT_NE(first, plugin.Tests()->FindElement(410));
+  Texts(first).SetDisplayName("changed");
   As<keld::CKELDTestConfiguration>(first->Configuration())->SetOptions(0);
   As<keld::IKELDTest>(first)->SetExpectedUnits("V");
   first->SetID(99);
-  for (const auto& other : {second, plugin->Tests()->FindElement(410), plugin->CreateTest(410)}) {
+  for (const auto& other : {second, plugin.Tests()->FindElement(410), plugin.CreateTest(410)}) {
     ASSERT_TRUE(other);
-    EXPECT_EQ(NameOf(other), "PE");
+    EXPECT_EQ(Texts(other).DisplayName(), "PE");
     EXPECT_EQ(As<keld::CKELDTestConfiguration>(other->Configuration())->Options(), 3);
     EXPECT_EQ(As<keld::IKELDTest>(other)->ExpectedUnits(), "mOhm");
     EXPECT_EQ(other->ID(), 410);
   }
 }
 
-TEST(Plugin, CreatesAGroupWithItsMembers) {
-  support::HostOnly bench{std::string(kSmallCatalogue)};
-  const auto plugin = Initialised();
-  const auto group = As<ITestContainer>(plugin->CreateTest(400));
+TEST_F(CKELDPluginTest, CreatesAGroupWithItsMembers) {
+  const auto test = Start().CreateTest(400);
+  const auto group = As<ITestContainer>(test);
   ASSERT_TRUE(group);
   ASSERT_EQ(group->Count(), 1);
-  EXPECT_EQ(NameOf(group->item(1)), "PE");
-  EXPECT_NE(group->item(1), plugin->Tests()->FindElement(410));
+  EXPECT_EQ(Texts(group->item(1)).DisplayName(), "PE");
+  EXPECT_NE(group->item(1), plugin_->Tests()->FindElement(410));
   group->Remove(group->item(1));
-  EXPECT_EQ(As<ITestContainer>(plugin->Tests()->FindElement(400))->Count(), 1);
+  EXPECT_EQ(As<ITestContainer>(plugin_->Tests()->FindElement(400))->Count(), 1);
+  plugin_.reset();
+  EXPECT_EQ(Texts(test).DisplayName(), "Group") << "it outlives the plug-in";
 }
 
-TEST(Plugin, CreatesNothingForAnIdentifierThatIsNotInTheCatalogue) {
-  support::HostOnly bench{std::string(kSmallCatalogue)};
-  const auto plugin = Initialised();
-  for (const std::int32_t id : {0, -1, 420, 65536 + 410, 2147483647, -2147483647 - 1}) {
-    EXPECT_FALSE(plugin->CreateTest(id)) << id;
-  }
+TEST_F(CKELDPluginTest, CreatesNothingForAnUnknownIdentifier) {
+  for (const std::int32_t id : {0, -1, 420, 65536 + 410, 2147483647, -2147483647 - 1})
+    EXPECT_FALSE(Start().CreateTest(id)) << id;
 }
 
-TEST(Plugin, CreatesEveryTestOfTheShippedCatalogue) {
-  support::HostOnly bench{ShippedCatalogue()};
-  const auto plugin = Initialised();
-  EXPECT_TRUE(bench.ErrorLines().empty());
-  for (const std::int32_t id : {100, 1700, 210, 400, 410, 420, 1000, 1010, 1020, 610, 640, 710, 760, 910, 965,
-                                1110, 1165, 1210, 1245}) {
-    const auto element = plugin->CreateTest(id);
+TEST_F(CKELDPluginTest, CreatesTheTestsOfTheShippedCatalogue) {
+  auto& plugin = Start(support::ShippedCatalogue());
+  EXPECT_TRUE(bench_->ErrorLines().empty());
+  for (const std::int16_t id : std::vector<std::int16_t>{100, 1700, 210, 400, 410, 420, 1000, 1010, 1020, 610,
+                                                         640, 710, 760, 910, 965, 1110, 1165, 1210, 1245}) {
+    const auto element = plugin.CreateTest(id);
     ASSERT_TRUE(element) << id;
     EXPECT_EQ(element->TestID(), id);
     EXPECT_EQ(element->PlugInID(), "KELD(IN)");
     EXPECT_EQ(As<ITestContainer>(element) != nullptr, id % 100 == 0) << id;
-    EXPECT_TRUE(plugin->Icon(static_cast<std::int16_t>(id), 0)) << id;
-    EXPECT_TRUE(plugin->Icon(static_cast<std::int16_t>(id), 1)) << id;
+    EXPECT_TRUE(plugin.Icon(id, 0)) << id;
+    EXPECT_TRUE(plugin.Icon(id, 1)) << id;
   }
 }
 
-TEST(Plugin, SurvivesACatalogueTooDeepToBeCopied) {
+TEST_F(CKELDPluginTest, SurvivesACatalogueTooDeepToCopy) {
   std::string text = "<TemplateData>";
   for (int level = 0; level < 10000; ++level) text += "<TestElement ID=\"100\">";
   for (int level = 0; level < 10000; ++level) text += "</TestElement>";
-  support::HostOnly bench{text + "</TemplateData>"};
-  const auto plugin = Initialised();
-  EXPECT_EQ(plugin->Tests()->Count(), 1);
-  EXPECT_NO_THROW(plugin->CreateTest(100));
-  EXPECT_FALSE(plugin->CreateTest(101));
+  auto& plugin = Start(text + "</TemplateData>");
+  EXPECT_EQ(plugin.Tests()->Count(), 1);
+  plugin.CreateTest(100);
+  EXPECT_FALSE(plugin.CreateTest(101));
 }
 
-TEST(Plugin, ShowsItselfByItsSmallPictureInBothStyles) {
-  support::HostOnly bench;
-  const auto plugin = CKELDPlugin::Create();
-  const auto resource = keld::FindResource("KELD(16X16)");
-  for (const std::int16_t style : std::vector<std::int16_t>{0, 1}) {
-    const auto icon = plugin->Icon(0, style);
-    ASSERT_TRUE(icon);
-    EXPECT_EQ(icon->Width(), 16);
+TEST_F(CKELDPluginTest, ReturnsTheIconOfATestOrOfItself) {
+  struct Row {
+    std::int16_t id;
+    std::int16_t style;
+    const char* key;  ///< empty: no icon
+    std::int32_t width;
+  };
+  for (const Row& row : {Row{0, 0, "KELD(16X16)", 16}, Row{0, 1, "KELD(16X16)", 16},
+                         Row{6150, 1, "TE:ELC(32X16)", 32}, Row{400, -1, "TE:GROUP(16X16)_WHT", 16},
+                         Row{9145, 1, "", 0}, Row{410, 2, "", 0}, Row{410, -1, "", 0}}) {
+    const auto icon = plugin_->Icon(row.id, row.style);
+    ASSERT_EQ(icon != nullptr, *row.key != 0) << row.id << " " << row.style;
+    if (!icon) continue;
+    EXPECT_EQ(icon->Width(), row.width);
     EXPECT_EQ(icon->Height(), 16);
-    EXPECT_EQ(icon->Bitmap(), (std::vector<std::byte>(resource.begin(), resource.end())));
+    const auto resource = keld::FindResource(row.key);
+    EXPECT_EQ(icon->Bitmap(), (std::vector<std::byte>(resource.begin(), resource.end()))) << row.key;
   }
 }
 
-TEST(Plugin, ShowsTheEarthLeakagePictureFor6150) {
-  support::HostOnly bench;
-  const auto icon = CKELDPlugin::Create()->Icon(6150, 1);
-  ASSERT_TRUE(icon);
-  const auto resource = keld::FindResource("TE:ELC(32X16)");
-  EXPECT_EQ(icon->Bitmap(), (std::vector<std::byte>(resource.begin(), resource.end())));
-  EXPECT_EQ(icon->Width(), 32);
-  EXPECT_EQ(icon->Height(), 16);
-}
-
-TEST(Plugin, HasNoPictureWhereThereIsNoKey) {
-  support::HostOnly bench;
-  const auto plugin = CKELDPlugin::Create();
-  EXPECT_FALSE(plugin->Icon(9145, 1));
-  EXPECT_FALSE(plugin->Icon(410, 2));
-  EXPECT_FALSE(plugin->Icon(410, -1));
-  EXPECT_TRUE(plugin->Icon(400, -1));
-}
-
-TEST(Plugin, SeesASequenceAsAContainer) {
-  support::HostOnly bench;
-  const auto plugin = CKELDPlugin::Create();
+TEST_F(CKELDPluginTest, ViewsASequenceAsAContainer) {
   const auto sequence = keld::CKELDSequence::Create();
-  EXPECT_EQ(plugin->Cast_ITestContainer(sequence), As<ITestContainer>(sequence));
-  EXPECT_TRUE(plugin->Cast_ITestContainer(sequence));
-  EXPECT_FALSE(plugin->Cast_ITestContainer(keld::CKELDTestElement::Create()));
-  EXPECT_FALSE(plugin->Cast_ITestContainer(nullptr));
+  EXPECT_TRUE(plugin_->Cast_ITestContainer(sequence));
+  EXPECT_EQ(plugin_->Cast_ITestContainer(sequence), As<ITestContainer>(sequence));
+  EXPECT_FALSE(plugin_->Cast_ITestContainer(keld::CKELDTestElement::Create()));
+  EXPECT_FALSE(plugin_->Cast_ITestContainer(nullptr));
 }
 
-TEST(Plugin, LeavesCreatedTestsToTheHost) {
-  support::HostOnly bench{std::string(kSmallCatalogue)};
-  auto plugin = Initialised();
-  const auto test = plugin->CreateTest(400);
-  plugin.reset();
-  EXPECT_EQ(NameOf(test), "Group");
-  EXPECT_EQ(As<ITestContainer>(test)->Count(), 1);
-}
-
-TEST(Plugin, WorksWithoutItsHost) {
+TEST_F(CKELDPluginTest, RaisesNothingWithoutItsHost) {
   keld::MKELDGlobalVars::Close();
   const auto plugin = CKELDPlugin::Create();
-  EXPECT_NO_THROW(plugin->Initialize(nullptr));
+  plugin->Initialize(nullptr);
   EXPECT_EQ(plugin->Name(), "");
   EXPECT_EQ(plugin->Flags(), 1);
   ASSERT_TRUE(plugin->Tests());

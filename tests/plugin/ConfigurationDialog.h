@@ -17,7 +17,7 @@
 
 namespace support {
 
-/// The open dialog of an element's configuration, as an operator has it before him.
+/// The open configuration dialog of an element.
 template <class Element>
 struct ConfigurationDialog {
   explicit ConfigurationDialog(std::int32_t testId, std::int32_t options = 3, std::int32_t filter = 1)
@@ -29,7 +29,7 @@ struct ConfigurationDialog {
     Open();
   }
 
-  /// Opens the dialog anew.
+  /// Opens a new dialog.
   void Open() {
     dialog = configuration->CreateDialog();
     form = orvik::As<orvik::IDialogForm>(dialog)->Form();

@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include "OrvikTypeLib/HostError.h"
 #include "OrvikTypeLib/IClassLibrary.h"
 #include "OrvikTypeLib/Library.h"
 #include "tests/support/HostOnly.h"
@@ -13,37 +12,29 @@ orvik::CloseLibraryEntry OrvikCloseLibrary;
 
 namespace {
 
-TEST(EntryPoints, TellTheContractVersion) { EXPECT_EQ(OrvikContractVersion(), orvik::kContractVersion); }
+TEST(EntryPoints, ReportTheContractVersion) { EXPECT_EQ(OrvikContractVersion(), orvik::kContractVersion); }
 
-TEST(EntryPoints, OpenTheLibraryForAHost) {
-  support::HostOnly bench;
-  keld::MKELDGlobalVars::Close();
-  std::shared_ptr<orvik::IClassLibrary> library;
-  OrvikOpenLibrary(bench.SharedHost(), library);
-  ASSERT_TRUE(library);
-  EXPECT_EQ(&keld::MKELDGlobalVars::Host(), bench.SharedHost().get());
-  EXPECT_TRUE(library->CreateObject("orvikKELD.CKELDPlugin"));
-  OrvikCloseLibrary();
-}
-
-TEST(EntryPoints, CannotWorkWithoutAHost) {
-  std::shared_ptr<orvik::IClassLibrary> library = std::make_shared<keld::ClassLibrary>();
-  OrvikOpenLibrary(nullptr, library);
-  EXPECT_FALSE(library);
-}
-
-TEST(EntryPoints, LetGoOfTheHostWhenTheLibraryIsClosed) {
+TEST(EntryPoints, OpenTheLibraryAndReleaseTheHostOnClose) {
   support::HostOnly bench;
   keld::MKELDGlobalVars::Close();
   const auto holders = bench.SharedHost().use_count();
   std::shared_ptr<orvik::IClassLibrary> library;
   OrvikOpenLibrary(bench.SharedHost(), library);
+  ASSERT_TRUE(library);
+  EXPECT_EQ(&keld::MKELDGlobalVars::Host(), bench.SharedHost().get());
   EXPECT_GT(bench.SharedHost().use_count(), holders);
+  EXPECT_TRUE(library->CreateObject("orvikKELD.CKELDPlugin"));
   library.reset();
   OrvikCloseLibrary();
   EXPECT_EQ(bench.SharedHost().use_count(), holders);
   EXPECT_THROW(keld::MKELDGlobalVars::Host(), orvik::HostError);
   OrvikCloseLibrary();
+}
+
+TEST(EntryPoints, ReturnNoLibraryWithoutAHost) {
+  std::shared_ptr<orvik::IClassLibrary> library = std::make_shared<keld::ClassLibrary>();
+  OrvikOpenLibrary(nullptr, library);
+  EXPECT_FALSE(library);
 }
 
 }  // namespace

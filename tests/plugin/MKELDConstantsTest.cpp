@@ -19,8 +19,7 @@
 #include "tests/support/HostOnly.h"
 #include "tests/support/WatchedLanguage.h"
 
-// The constants by what they are for: what is in a saved document, in the registry, and asked of the language
-// service.
+// The constants where they take effect: in saved documents, in the registry, in texts to translate.
 namespace {
 
 using orvik::As;
@@ -32,7 +31,7 @@ constexpr char kTesters[] = R"(Software\Telvane\orvik\KELD(IN)\MTI)";
 
 class Constants : public testing::Test {
  protected:
-  /// What `save` writes below the root of a document, without the blanks between the tags.
+  /// What `save` writes below the root of a document, without white space between tags.
   template <class Save>
   static std::string Saved(Save save) {
     const auto document =
@@ -47,7 +46,7 @@ class Constants : public testing::Test {
   support::HostOnly bench_;
 };
 
-TEST_F(Constants, AResultIsSavedToTheLetter) {
+TEST_F(Constants, SaveAResult) {
   const auto measurement = keld::CKELDMeasurement::Create();
   measurement->SetDescription("20702::No values");
   measurement->AddValue(5.3, "mA", "O", "");
@@ -63,7 +62,7 @@ TEST_F(Constants, AResultIsSavedToTheLetter) {
             "<Unit>mA</Unit><Status>2</Status></Measurement></ResultItem></R>");
 }
 
-TEST_F(Constants, AServiceRecordIsSavedBelowTheResult) {
+TEST_F(Constants, SaveAServiceRecordBelowItsResult) {
   const auto element = keld::CKELDTestElement::Create();
   const auto result = keld::CKELDResultData::Create();
   result->SetStatus(3);
@@ -74,7 +73,7 @@ TEST_F(Constants, AServiceRecordIsSavedBelowTheResult) {
       "<R><ResultItem><Status>3</Status><ServiceRecord Name=\"\" Code=\"NA\" Value=\"\" /></ResultItem></R>");
 }
 
-TEST_F(Constants, AConfigurationIsSavedToTheLetter) {
+TEST_F(Constants, SaveAConfiguration) {
   const auto configuration = keld::CKELDTestConfiguration::Create();
   configuration->SetOptions(7);
   configuration->SetValueFilter(3);
@@ -82,7 +81,7 @@ TEST_F(Constants, AConfigurationIsSavedToTheLetter) {
             "<R><PlugInData><KELDConfig Options=\"7\" ValueFilter=\"Maximum value\" /></PlugInData></R>");
 }
 
-TEST_F(Constants, LimitsAreSavedUnderTheirName) {
+TEST_F(Constants, SaveLimitsUnderTheirName) {
   const auto element = keld::CKELDTestElement::Create();
   As<keld::CKELDLimitData>(element->Limits())->CreateStandard("IEC 62353", "class I");
   const auto saved = Saved([&](const auto& root) { element->Limits()->Save(root); });
@@ -90,7 +89,7 @@ TEST_F(Constants, LimitsAreSavedUnderTheirName) {
   EXPECT_NE(saved.find("\"NO LIMIT KEY\""), std::string::npos) << saved;
 }
 
-TEST_F(Constants, TheCatalogueIsReadFromItsPlaceInTheRegistry) {
+TEST_F(Constants, LocateTheCatalogueInTheRegistry) {
   const auto registry = keld::MKELDGlobalVars::RegistryReader();
   ASSERT_TRUE(registry->CreateKey(kLocalMachine, kSettings));
   registry->WriteValue("Configuration",
@@ -100,7 +99,7 @@ TEST_F(Constants, TheCatalogueIsReadFromItsPlaceInTheRegistry) {
   EXPECT_TRUE(plugin->CreateTest(410));
 }
 
-TEST_F(Constants, TheTestersAreKeptInTheirPlaceInTheRegistry) {
+TEST_F(Constants, LocateTheTestersInTheRegistry) {
   keld::CKELDData::Shared()->SetSerialNumber("4711");
   keld::CKELDData::Shared()->SetCalibValue(35);
   const auto registry = keld::MKELDGlobalVars::RegistryReader();
@@ -110,7 +109,7 @@ TEST_F(Constants, TheTestersAreKeptInTheirPlaceInTheRegistry) {
   EXPECT_EQ(orvik::TextOf(registry->ReadValue("LastMTI")), "4711");
 }
 
-TEST_F(Constants, TextsSharedWithTheHostHaveItsNumbers) {
+TEST_F(Constants, ShareTextNumbersWithTheHost) {
   const auto language = support::WatchLanguage(bench_.Host());
   Texts asked;
   language->onText = [&](const std::string& text) { asked.push_back(text); };

@@ -1,21 +1,23 @@
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <map>
 
 #include "OrvikTypeLib/HostClasses.h"
-#include "OrvikTypeLib/HostError.h"
 #include "OrvikTypeLib/ITestElement.h"
 #include "plugin/CKELDPlugin.h"
 #include "plugin/MKELDGlobalVars.h"
 #include "plugin/MKELDLanguageConstants.h"
+#include "tests/plugin/Recorders.h"
 #include "tests/support/HostOnly.h"
 
 namespace {
 
 namespace Globals = keld::MKELDGlobalVars;
+namespace Classes = orvik::HostClasses;
+using orvik::HostError;
+using recorders::ErrorOf;
 
-/// Passes everything on to the real host and counts what is created.
+/// Forwards to the real host and counts the objects created.
 class CountingHost final : public orvik::IHost {
  public:
   explicit CountingHost(std::shared_ptr<orvik::IHost> host) : host_(std::move(host)) {}
@@ -33,21 +35,12 @@ class CountingHost final : public orvik::IHost {
   std::shared_ptr<orvik::IHost> host_;
 };
 
-std::int32_t ErrorOf(const std::function<void()>& step) {
-  try {
-    step();
-  } catch (const orvik::HostError& error) {
-    return error.Number();
-  }
-  return 0;
-}
-
-TEST(MKELDGlobalVars, RefuseToWorkBeforeTheLibraryIsOpened) {
+TEST(MKELDGlobalVars, RaiseAnErrorBeforeTheLibraryIsOpened) {
   Globals::Close();
-  EXPECT_EQ(ErrorOf([] { Globals::Host(); }), orvik::HostError::kEmptyReference);
-  EXPECT_EQ(ErrorOf([] { Globals::Application(); }), orvik::HostError::kEmptyReference);
-  EXPECT_EQ(ErrorOf([] { Globals::LanguageService(); }), orvik::HostError::kEmptyReference);
-  EXPECT_EQ(ErrorOf([] { Globals::Translated("1::&OK"); }), orvik::HostError::kEmptyReference);
+  EXPECT_EQ(ErrorOf([] { Globals::Host(); }), HostError::kEmptyReference);
+  EXPECT_EQ(ErrorOf([] { Globals::Application(); }), HostError::kEmptyReference);
+  EXPECT_EQ(ErrorOf([] { Globals::LanguageService(); }), HostError::kEmptyReference);
+  EXPECT_EQ(ErrorOf([] { Globals::Translated("1::&OK"); }), HostError::kEmptyReference);
 }
 
 TEST(MKELDGlobalVars, CreateEachServiceOnFirstUseAndOnce) {
@@ -60,26 +53,18 @@ TEST(MKELDGlobalVars, CreateEachServiceOnFirstUseAndOnce) {
   EXPECT_EQ(Globals::XmlDocument(), Globals::XmlDocument());
   EXPECT_EQ(Globals::RegistryReader(), Globals::RegistryReader());
   EXPECT_EQ(Globals::Persistence(), Globals::Persistence());
-  const std::map<std::string, int> once = {{orvik::HostClasses::kLanguageService, 1},
-                                           {orvik::HostClasses::kErrorLog, 1},
-                                           {orvik::HostClasses::kXmlDocument, 1},
-                                           {orvik::HostClasses::kRegistryReader, 1},
-                                           {orvik::HostClasses::kPersistence, 1}};
-  EXPECT_EQ(host->created, once);
-}
-
-TEST(MKELDGlobalVars, ShareOneLanguageServiceAmongClasses) {
-  support::HostOnly bench;
-  const auto host = std::make_shared<CountingHost>(bench.SharedHost());
-  Globals::Open(host);
-  const auto plugin = keld::CKELDPlugin::Create();
-  plugin->Initialize(nullptr);
+  EXPECT_EQ(host->created, (std::map<std::string, int>{{Classes::kLanguageService, 1},
+                                                       {Classes::kErrorLog, 1},
+                                                       {Classes::kXmlDocument, 1},
+                                                       {Classes::kRegistryReader, 1},
+                                                       {Classes::kPersistence, 1}}));
+  // The plug-in's classes share them.
+  keld::CKELDPlugin::Create()->Initialize(nullptr);
   Globals::Translated("20702::No values");
-  plugin->Initialize(nullptr);
-  EXPECT_EQ(host->created[orvik::HostClasses::kLanguageService], 1);
+  EXPECT_EQ(host->created[Classes::kLanguageService], 1);
 }
 
-TEST(MKELDGlobalVars, LetGoOfEverythingWhenClosed) {
+TEST(MKELDGlobalVars, ReleaseEverythingWhenClosed) {
   support::HostOnly bench;
   const std::weak_ptr<orvik::IXmlDocument> document = Globals::XmlDocument();
   const std::weak_ptr<orvik::IRegistryReader> registry = Globals::RegistryReader();
@@ -92,27 +77,19 @@ TEST(MKELDGlobalVars, LetGoOfEverythingWhenClosed) {
   EXPECT_EQ(Globals::InstrumentDataSlot(), nullptr);
 }
 
-/// An object that asks for a service on its way out.
-class LateCaller final : public virtual orvik::IObject {
- public:
-  explicit LateCaller(std::int32_t& error) : error_(error) {}
-  ~LateCaller() override {
-    error_ = ErrorOf([] { Globals::LanguageService(); });
-  }
-
- private:
-  std::int32_t& error_;
-};
-
-TEST(MKELDGlobalVars, AreEmptyForWhoeverAsksWhileTheyAreClosed) {
+TEST(MKELDGlobalVars, AreEmptyBeforeTheirObjectsAreDestroyed) {
   support::HostOnly bench;
   std::int32_t error = 0;
-  Globals::InstrumentDataSlot() = std::make_shared<LateCaller>(error);
+  Globals::InstrumentDataSlot() =
+      std::shared_ptr<orvik::IObject>(new orvik::IObject, [&](const orvik::IObject* object) {
+        error = ErrorOf([] { Globals::LanguageService(); });
+        delete object;
+      });
   Globals::Close();
-  EXPECT_EQ(error, orvik::HostError::kEmptyReference);
+  EXPECT_EQ(error, HostError::kEmptyReference);
 }
 
-TEST(MKELDGlobalVars, StartAfreshWhenOpenedByAnotherHost) {
+TEST(MKELDGlobalVars, AreRenewedWhenAnotherHostOpensThem) {
   support::HostOnly first;
   const auto language = Globals::LanguageService();
   support::HostOnly second;
@@ -120,23 +97,17 @@ TEST(MKELDGlobalVars, StartAfreshWhenOpenedByAnotherHost) {
   EXPECT_EQ(&Globals::Host(), second.SharedHost().get());
 }
 
-TEST(MKELDGlobalVars, RefuseAHostObjectOfAnotherKindOrAnUnknownClass) {
+TEST(MKELDGlobalVars, RejectAHostObjectOfTheWrongClass) {
   support::HostOnly bench;
-  EXPECT_EQ(
-      ErrorOf([] { Globals::CreateHostObject<orvik::ITestElement>(orvik::HostClasses::kLanguageService); }),
-      orvik::HostError::kClassNotRegistered);
-  EXPECT_EQ(ErrorOf([] { Globals::CreateHostObject<orvik::ITestElement>("OrvikTypeLib.Unknown"); }),
-            orvik::HostError::kClassNotRegistered);
+  for (const char* sClassID : {Classes::kLanguageService, "OrvikTypeLib.Unknown"})
+    EXPECT_EQ(ErrorOf([&] { Globals::CreateHostObject<orvik::ITestElement>(sClassID); }),
+              HostError::kClassNotRegistered);
 }
 
-TEST(MKELDGlobalVars, ShowTheEnglishTextOfANumberThatTheServiceDoesNotKnow) {
+TEST(MKELDGlobalVars, TranslateATextAndInsertItsValues) {
   support::HostOnly bench;
-  EXPECT_EQ(Globals::Translated("29999::Some new text"), "Some new text");
+  EXPECT_EQ(Globals::Translated("29999::Some new text"), "Some new text") << "unknown to the service";
   EXPECT_EQ(Globals::Translated(keld::MKELDLanguageConstants::kPlugInName), "KELD Safety Tester");
-}
-
-TEST(MKELDGlobalVars, PutBothValuesInTheirPlacesAndKeepTheDoubleBlank) {
-  support::HostOnly bench;
   EXPECT_EQ(
       Globals::Translated(keld::MKELDLanguageConstants::kTestNotSupported, {"Earth leakage", "NC"}),
       "The connected KELD does not support the test  Earth leakage NC. The test will be recorded as Not "

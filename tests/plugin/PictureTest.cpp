@@ -5,28 +5,25 @@
 
 namespace {
 
-TEST(Picture, HoldsTheWholeBitmapAndItsSize) {
-  const auto picture = keld::Picture::FromResource("TE:MV(32X16)");
-  ASSERT_TRUE(picture);
-  EXPECT_EQ(picture->Width(), 32);
-  EXPECT_EQ(picture->Height(), 16);
-  const auto resource = keld::FindResource("TE:MV(32X16)");
-  EXPECT_EQ(picture->Bitmap(), (std::vector<std::byte>(resource.begin(), resource.end())));
+TEST(Picture, HasTheWholeBitmapAndItsSize) {
+  struct Row {
+    const char* key;
+    std::int32_t width;
+    std::int32_t height;
+  };
+  // Keys are case-insensitive.
+  for (const Row& row : {Row{"TE:MV(32X16)", 32, 16}, Row{"tab:MtiData", 32, 34}, Row{"KELD(16x16)", 16, 16},
+                         Row{"te:group(16x16)_wht", 16, 16}}) {
+    const auto picture = keld::Picture::FromResource(row.key);
+    ASSERT_TRUE(picture) << row.key;
+    EXPECT_EQ(picture->Width(), row.width) << row.key;
+    EXPECT_EQ(picture->Height(), row.height) << row.key;
+    const auto resource = keld::FindResource(row.key);
+    EXPECT_EQ(picture->Bitmap(), (std::vector<std::byte>(resource.begin(), resource.end()))) << row.key;
+  }
 }
 
-TEST(Picture, KnowsSizesThatAreNotSquares) {
-  const auto picture = keld::Picture::FromResource("tab:MtiData");
-  ASSERT_TRUE(picture);
-  EXPECT_EQ(picture->Width(), 32);
-  EXPECT_EQ(picture->Height(), 34);
-}
-
-TEST(Picture, FindsKeysInUpperAndLowerCase) {
-  EXPECT_TRUE(keld::Picture::FromResource("KELD(16x16)"));
-  EXPECT_TRUE(keld::Picture::FromResource("te:group(16x16)_wht"));
-}
-
-TEST(Picture, IsNothingForAnUnknownKey) {
+TEST(Picture, IsEmptyForAnUnknownKey) {
   EXPECT_FALSE(keld::Picture::FromResource(""));
   EXPECT_FALSE(keld::Picture::FromResource("TE:NONE(16X16)"));
 }

@@ -11,8 +11,18 @@
 #include "OrvikTypeLib/IReport.h"
 #include "platform/IPanel.h"
 
-/// The host's side of some interfaces, which notes down what it is told.
+/// Host interfaces that record their calls.
 namespace recorders {
+
+/// The number of the error that the step raises; 0 if none.
+inline std::int32_t ErrorOf(const std::function<void()>& step) {
+  try {
+    step();
+  } catch (const orvik::HostError& error) {
+    return error.Number();
+  }
+  return 0;
+}
 
 class CallBack final : public virtual orvik::ICallBack {
  public:
@@ -31,7 +41,7 @@ class Report final : public virtual orvik::IReport {
   std::vector<std::string> calls;
   std::int32_t width = 9638;
   bool knowsMetrics = true;
-  bool fails = false;  ///< nothing but the metric is answered
+  bool fails = false;  ///< all settings fail
 
  private:
   std::int32_t IReport_Metric(std::int32_t lNumber) const override {
@@ -52,10 +62,10 @@ class Report final : public virtual orvik::IReport {
   std::string IReport_Escape(const std::string& sText) const override { return "[" + sText + "]"; }
 };
 
-/// Answers every text with its module and number, so that a text which was never asked for shows.
+/// Translates every text to its module and number, so that an untranslated text is visible.
 class LanguageService final : public virtual orvik::ILanguageService {
  public:
-  /// Modules and first controls of what was handed over whole.
+  /// Module and first control of each panel translated.
   mutable std::vector<std::string> translated;
 
  private:

@@ -6,7 +6,7 @@ namespace {
 
 namespace Markup = keld::ReportMarkup;
 
-TEST(ReportMarkup, WritesColumnsWithMarkRulingExtraAndWidth) {
+TEST(ReportMarkup, WritesTheFormatOfEachColumn) {
   EXPECT_EQ(Markup::Format({{Markup::kLeft, true, false, 560},
                             {Markup::kLeft, false, false, 2240},
                             {Markup::kRight, true, false, 1500},
@@ -21,7 +21,7 @@ TEST(ReportMarkup, SeparatesCellsAndEndsTheRow) {
   EXPECT_EQ(Markup::Row({}), ";");
 }
 
-TEST(ReportMarkup, WritesHeadingsAsBoldItalicGroups) {
+TEST(ReportMarkup, WritesHeadingsInBoldItalics) {
   EXPECT_EQ(Markup::Row({"", Markup::BoldItalic("Result:"), Markup::BoldItalic("Value")}),
             "|{\\i\\b Result:}|{\\i\\b Value};");
 }
