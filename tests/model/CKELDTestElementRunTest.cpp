@@ -1,387 +1,386 @@
-#include "platform/IForm.h"
+#include "model/CKELDTestElement.h"
+#include "platform/Controls.h"
 #include "tests/model/HostElements.h"
 #include "tests/model/ModelTest.h"
+#include "ui/FPretestPrompt.h"
 
-// A single test is performed: what goes over the wire, what is recorded, what the run controller is told.
+// What a single test measures, judges and records, and how it handles each event of its link.
 namespace keld {
 
-class CKELDTestElementRunTest : public support::ModelTest {
+class CKELDTestElementRunTest : public support::DrivenTest {
  protected:
   static constexpr char kNoInstrument[] =
       "Can not find a KELD attached to this system. Make sure that the cable is properly connected, and that "
-      "the unit is "
-      "powered on.";
+      "the unit is powered on.";
 
-  Texts SentFor(std::int32_t testId, std::int32_t options) {
-    const auto element = MakeTest(testId);
-    Configuration(element).SetOptions(options);
-    bench.Wire().Clear();
-    Perform(element);
-    return bench.Wire().Sent();
+  void UseLeads(double milliohms) {
+    CKELDData::Shared()->SetSerialNumber("0815");
+    CKELDData::Shared()->SetCalibValue(milliohms);
   }
+  /// A field of the guide's instrument data.
+  std::string Shown(const char* field) {
+    const auto pane = orvik::As<orvik::platform::IContainerSite>(guide->Form()->Find("xstShowMTI"));
+    for (const auto& control : pane->Panel()->Controls()) {
+      const auto tabs = orvik::As<orvik::platform::ITabs>(control);
+      const auto page = tabs ? tabs->Page("tab:MtiData") : nullptr;
+      const auto site =
+          page ? orvik::As<orvik::platform::IContainerSite>(page->Find("tab:MtiData")) : nullptr;
+      if (site) return orvik::As<orvik::platform::ITextBox>(site->Panel()->Find(field))->Text();
+    }
+    return "not found";
+  }
+
+  Element element = MakeTest(415);
 };
 
-TEST_F(CKELDTestElementRunTest, AWholeTestGoesOverTheWireInOrder) {
-  const auto element = bench.CreateTest(410);
-  Perform(element);
-  EXPECT_EQ(bench.Wire().Sent(), (Texts{"IREM", "STST,410,0", "GRES,410,0", "STST,210,0", "EREM"}));
-  EXPECT_EQ(Status(element), 1);
-  EXPECT_TRUE(Test(element)->Stopped());
-  EXPECT_EQ(controller->told, (Texts{"start 410", "navigate 0", "start 410", "finished 410", "navigate 0"}));
-}
+// --- over the wire ---
 
-TEST_F(CKELDTestElementRunTest, AResultIsMadeBeforeTheHostIsAsked) {
-  const auto element = MakeTest(210);
-  Element owner;
-  controller->mayStart = [&](const auto& asked) {
-    const auto made = orvik::As<CKELDResultData>(asked->Result());
-    if (made) owner = made->Owner();
-    return false;
+TEST_F(CKELDTestElementRunTest, SendsItsTestModeAsTheSetting) {
+  struct Row {
+    std::int32_t testId, options;
+    const char* command;
   };
-  Perform(element);
-  EXPECT_EQ(owner, element);
-  EXPECT_EQ(person.guidesShown, 0);
-  EXPECT_EQ(controller->told, (Texts{"start 210"}));
-}
-
-TEST_F(CKELDTestElementRunTest, ARefusedRunRemovesTheResult) {
-  const auto element = MakeTest(210);
-  int asked = 0;
-  controller->mayStart = [&](const auto&) { return ++asked == 1; };
-  Perform(element);
-  EXPECT_FALSE(element->Result());
-  EXPECT_TRUE(bench.Wire().All().empty());
-  EXPECT_EQ(controller->Count("finished 210"), 0u);
-}
-
-TEST_F(CKELDTestElementRunTest, TheTestModeGoesOutAsTheSetting) {
-  EXPECT_EQ(SentFor(410, 3 | 4)[1], "STST,410,1");
-  EXPECT_EQ(SentFor(410, 3 | 2048)[1], "STST,410,10");
-  EXPECT_EQ(SentFor(410, 4 | 4096)[1], "STST,410,1");
-  // 99, 999 and 9999 go out as 0.
-  EXPECT_EQ(SentFor(410, 4096)[1], "STST,410,0");
-  EXPECT_EQ(SentFor(1220, 0)[1], "STST,1220,0");
-  EXPECT_EQ(SentFor(1210, 0)[1], "STST,1210,0");
-}
-
-TEST_F(CKELDTestElementRunTest, OhmIsRecordedAThousandfoldInTheExpectedUnitWhateverThatIs) {
-  for (const std::string unit : {"mOhm", "furlongs", ""}) {
-    const auto element = MakeTest(400 + 15);
-    Test(element)->SetExpectedUnits(unit);
-    AnswerResult("0.123,0,Ohm");
-    Perform(element);
-    EXPECT_EQ(Value(element), "123");
-    EXPECT_EQ(element->Result()->Measurement(1)->Unit(), unit);
+  for (const Row& row :
+       {Row{410, 3 | 4, "STST,410,1"}, Row{410, 3 | 2048, "STST,410,10"}, Row{410, 4 | 4096, "STST,410,1"},
+        // 99, 999 and 9999 are sent as 0.
+        Row{410, 4096, "STST,410,0"}, Row{1220, 0, "STST,1220,0"}, Row{1210, 0, "STST,1210,0"}}) {
+    const auto test = MakeTest(row.testId);
+    Configuration(test).SetOptions(row.options);
+    bench.Wire().Clear();
+    Perform(test);
+    EXPECT_EQ(bench.Wire().Sent()[1], row.command);
   }
 }
 
-TEST_F(CKELDTestElementRunTest, AnyOtherUnitIsRecordedUnchanged) {
-  for (const std::string unit : {"ohm", "OHM", "mOhm", "V"}) {
-    const auto element = MakeTest(415);
-    Test(element)->SetExpectedUnits("x");
-    AnswerResult("0.123,0," + unit);
-    Perform(element);
-    EXPECT_EQ(Value(element), "0.123");
-    EXPECT_EQ(element->Result()->Measurement(1)->Unit(), unit);
+TEST_F(CKELDTestElementRunTest, RecordsTheReading) {
+  struct Row {
+    std::int32_t testId;
+    double leads;
+    const char* expectedUnit;
+    const char* reply;
+    const char* value;
+    const char* unit;
+  };
+  const std::vector<Row> rows = {
+      // Ohm is recorded times 1000 in the expected unit, which is not checked; other units are unchanged.
+      {415, 0, "mOhm", "0.123,0,Ohm", "123", "mOhm"},
+      {415, 0, "furlongs", "0.123,0,Ohm", "123", "furlongs"},
+      {415, 0, "", "0.123,0,Ohm", "123", ""},
+      {415, 0, "x", "0.123,0,ohm", "0.123", "ohm"},
+      {415, 0, "x", "0.123,0,OHM", "0.123", "OHM"},
+      {415, 0, "x", "0.123,0,mOhm", "0.123", "mOhm"},
+      {415, 0, "x", "0.123,0,V", "0.123", "V"},
+      // Protective earth is corrected by the leads, not below zero.
+      {410, 100, "mOhm", "0.15,0,Ohm", "50", "mOhm"},
+      {420, 100, "mOhm", "0.15,0,Ohm", "50", "mOhm"},
+      {415, 100, "mOhm", "0.15,0,Ohm", "150", "mOhm"},
+      {410, 200, "mOhm", "0.15,0,Ohm", "0", "mOhm"},
+      {415, 0, "", "abc,0,V", "0", "V"}};
+  for (const Row& row : rows) {
+    UseLeads(row.leads);
+    const auto test = MakeTest(row.testId);
+    Test(test)->SetExpectedUnits(row.expectedUnit);
+    AnswerResult(row.reply);
+    Perform(test);
+    EXPECT_EQ(Value(test), row.value) << row.reply;
+    EXPECT_EQ(test->Result()->Measurement(1)->Unit(), row.unit) << row.reply;
   }
 }
 
-TEST_F(CKELDTestElementRunTest, ProtectiveEarthIsFreedOfTheLeads) {
-  CKELDData::Shared()->SetSerialNumber("0815");
-  CKELDData::Shared()->SetCalibValue(100);
-  AnswerResult("0.15,0,Ohm");
-  for (const std::int32_t id : {410, 420}) {
-    const auto element = MakeTest(id);
-    Perform(element);
-    EXPECT_EQ(Value(element), "50") << id;
+TEST_F(CKELDTestElementRunTest, CorrectsByTheTestNumberOfTheEvent) {
+  UseLeads(100);
+  Drive(element);
+  for (const auto& [testNo, value] : {std::pair{400, "150"},
+                                      {409, "150"},
+                                      {410, "50"},
+                                      {411, "150"},
+                                      {420, "50"},
+                                      {421, "150"},
+                                      {430, "150"}}) {
+    Measure("150", "mOhm", static_cast<std::int16_t>(testNo));
+    EXPECT_EQ(Value(element), value) << testNo;
   }
-  const auto other = MakeTest(415);
-  Perform(other);
-  EXPECT_EQ(Value(other), "150");
 }
 
-TEST_F(CKELDTestElementRunTest, ProtectiveEarthIsNeverBelowZero) {
-  CKELDData::Shared()->SetSerialNumber("0815");
-  CKELDData::Shared()->SetCalibValue(200);
-  AnswerResult("0.15,0,Ohm");
-  const auto element = MakeTest(410);
-  Perform(element);
-  EXPECT_EQ(Value(element), "0");
-}
-
-TEST_F(CKELDTestElementRunTest, TextThatIsNoNumberIsZero) {
-  AnswerResult("abc,0,V");
-  const auto element = MakeTest(415);
-  Perform(element);
-  EXPECT_EQ(Value(element), "0");
-}
-
-TEST_F(CKELDTestElementRunTest, AnOverloadReachesFlagsAndDescription) {
+TEST_F(CKELDTestElementRunTest, RecordsAnOverloadAsFlagAndDescription) {
   AnswerResult("9.99,1,V");
-  const auto element = MakeTest(415);
   Perform(element);
-  EXPECT_EQ(element->Result()->Measurement(1)->Flags(), "O");
-  EXPECT_EQ(element->Result()->Measurement(1)->Description(), "O");
-  EXPECT_EQ(element->Result()->Measurement(1)->LimitKey(), "NO LIMIT KEY");
+  const auto measurement = element->Result()->Measurement(1);
+  EXPECT_EQ(measurement->Flags(), "O");
+  EXPECT_EQ(measurement->Description(), "O");
+  EXPECT_EQ(measurement->LimitKey(), "NO LIMIT KEY");
 }
 
-TEST_F(CKELDTestElementRunTest, AFailedStandardFailsTheTest) {
-  const auto element = MakeTest(415);
+TEST_F(CKELDTestElementRunTest, JudgesByItsLimits) {
   Limit(element, "", "100");
+  for (const auto& [reply, state] : {std::pair{"100.5,0,V", "2 100.5 F"}, {"100,0,V", "1 100 P"}}) {
+    AnswerResult(reply);
+    Perform(element);
+    EXPECT_EQ(State(element), state);
+    EXPECT_EQ(element->Result()->Measurement(1)->Status(), Status(element));
+  }
+  Base(element).SetLimits(nullptr);
   AnswerResult("100.5,0,V");
   Perform(element);
-  EXPECT_EQ(Status(element), 2);
-  EXPECT_EQ(element->Result()->Measurement(1)->Status(), 2);
-  EXPECT_EQ(element->Result()->ServiceRecord()->Code(), "F");
+  EXPECT_EQ(State(element), "1 100.5 P") << "without limits";
 }
 
-TEST_F(CKELDTestElementRunTest, AValueOnTheBoundPasses) {
-  const auto element = MakeTest(415);
+TEST_F(CKELDTestElementRunTest, NeverPassesWithoutAJudgement) {
+  const auto watch = support::RegisterWatchedElements(bench.Host());
+  element = MakeTest(415);
   Limit(element, "", "100");
-  AnswerResult("100,0,V");
-  Perform(element);
-  EXPECT_EQ(Status(element), 1);
-  EXPECT_EQ(element->Result()->ServiceRecord()->Code(), "P");
-}
-
-TEST_F(CKELDTestElementRunTest, AReadingThatCannotBeJudgedIsNotPassed) {
-  const auto element = MakeTest(415);
-  Limit(element, "", "100");
-  controller->standards = nullptr;
-  AnswerResult("1,0,V");
-  Perform(element);
-  EXPECT_EQ(Status(element), 0);
-}
-
-TEST_F(CKELDTestElementRunTest, AReadingWhoseLimitsCannotBeReadIsNotPassed) {
-  const auto onLimits = support::RegisterLimitsWatchedElements(bench.Host());
-  const auto element = MakeTest(415);
-  Limit(element, "", "100");
-  for (const auto& [reading, sound] : {std::pair{"1,0,V", 1}, {"101,0,V", 2}}) {
-    AnswerResult(reading);
-    *onLimits = nullptr;
+  const auto standards = controller->standards;
+  for (const auto& [reply, sound, unjudged] :
+       {std::tuple{"1,0,V", "1 1 P", "0 1"}, {"101,0,V", "2 101 F", "0 101"}}) {
+    AnswerResult(reply);
     Perform(element);
-    EXPECT_EQ(Status(element), sound);
-    *onLimits = [] { throw orvik::HostError(5, "host", "no"); };
+    EXPECT_EQ(State(element), sound);
+    controller->standards = nullptr;
     Perform(element);
-    EXPECT_EQ(Status(element), 0);
+    EXPECT_EQ(State(element), unjudged) << "standards that cannot be read";
+    controller->standards = standards;
+    watch->onLimits = support::RaiseHostError;
+    Perform(element);
+    EXPECT_EQ(State(element), unjudged) << "limits that cannot be read";
     EXPECT_EQ(element->Result()->Measurement(1)->Status(), 0);
-    EXPECT_FALSE(element->Result()->ServiceRecord());
+    watch->onLimits = nullptr;
   }
-  EXPECT_EQ(Value(element), "101") << "the reading is recorded all the same";
 }
 
-TEST_F(CKELDTestElementRunTest, WithoutLimitsThereIsNothingToFail) {
-  const auto element = MakeTest(415);
-  Base(element).SetLimits(nullptr);
+TEST_F(CKELDTestElementRunTest, StoresTheTesterInTheDocument) {
   AnswerResult("1,0,V");
-  Perform(element);
-  EXPECT_EQ(Status(element), 1);
-}
-
-TEST_F(CKELDTestElementRunTest, TheInstrumentRecordIsFilledAndItsNumberKept) {
-  AnswerResult("1,0,V");
-  const auto element = MakeTest(415);
   Perform(element);
   ASSERT_EQ(controller->instruments->Count(), 1);
-  const auto record = controller->instruments->item(1);
-  EXPECT_EQ(record->SerialNumber(), "0815");
-  EXPECT_EQ(record->FirmwareVersion(), "2.1");
+  EXPECT_EQ(controller->instruments->item(1)->SerialNumber(), "0815");
+  EXPECT_EQ(controller->instruments->item(1)->FirmwareVersion(), "2.1");
   EXPECT_EQ(element->Result()->MTIID(), 1);
 }
 
-TEST_F(CKELDTestElementRunTest, AMuteTesterIsReportedAndNothingIsRecorded) {
-  bench.Line().AnswerBy([](const std::string&) {});
-  const auto element = MakeTest(210);
+TEST_F(CKELDTestElementRunTest, ReportsAMuteTesterAndRecordsNothing) {
+  AnswerResult("1,0,V");
   Perform(element);
-  EXPECT_EQ(person.prompts, (Texts{kNoInstrument}));
-  EXPECT_EQ(Status(element), 0);
-  EXPECT_EQ(Value(element), "none");
+  ASSERT_EQ(State(element), "1 1 P");
+  bench.Wire().Clear();
+  AnswerNothing();
+  Perform(element);
+  EXPECT_EQ(person.prompts, Texts{kNoInstrument});
+  EXPECT_EQ(State(element), "0 none");
   EXPECT_EQ(bench.Wire().Sent(), (Texts{"IREM", "IREM", "IREM"}));
-  EXPECT_EQ(controller->Count("finished 210"), 1u);
+  EXPECT_EQ(controller->Count("finished 415"), 2u);
 }
 
-TEST_F(CKELDTestElementRunTest, WithoutAPortTheLinkIsLetGoWithoutAMessage) {
-  bench.Unassign();
-  const auto element = MakeTest(210);
-  Perform(element);
-  EXPECT_TRUE(person.prompts.empty());
-  EXPECT_TRUE(Test(element)->Stopped());
-  EXPECT_EQ(Status(element), 0);
-  EXPECT_EQ(controller->Count("finished 210"), 1u);
-}
-
-TEST_F(CKELDTestElementRunTest, ATestThatTheTesterLacksIsNotApplicable) {
-  bench.Line().AnswerBy([this](const std::string& command) {
-    bench.Line().Reply(command == "IREM"   ? "irem,KELD(IN),0815,2.1"
-                       : command == "EREM" ? "erem"
-                                           : "ERRM,6002");
-  });
-  const auto element = MakeTest(610);
+TEST_F(CKELDTestElementRunTest, RecordsAnUnsupportedTestAsNotApplicable) {
+  AnswerTests({{0, "ERRM,6002"}}, "ERRM,6002");
   element->Information()->SetSecondText("Earth leakage");
   element->Information()->SetFirstText("NC");
   Perform(element);
-  EXPECT_EQ(
-      person.prompts,
-      (Texts{
-          "The connected KELD does not support the test  Earth leakage NC. The test will be recorded as Not "
-          "Applicable.",
-          // The end of the session begins with a test as well, which this tester lacks too.
-          "The connected KELD does not support the test  Earth leakage NC. The test will be recorded as Not "
-          "Applicable."}));
-  EXPECT_EQ(Status(element), 3);
-  EXPECT_EQ(Value(element), "none");
-  EXPECT_EQ(element->Result()->ServiceRecord()->Code(), "NA");
+  // Ending the session starts a test as well, which this tester does not support either.
+  EXPECT_EQ(person.prompts,
+            Texts(2,
+                  "The connected KELD does not support the test  Earth leakage NC. The test will be "
+                  "recorded as Not Applicable."));
+  EXPECT_EQ(State(element), "3 none NA");
 }
 
-TEST_F(CKELDTestElementRunTest, ErrorsOfTheTesterRecordNothing) {
+TEST_F(CKELDTestElementRunTest, RecordsNothingAfterAnErrorReply) {
   for (const std::string reply : {"ERRM,1001", "ERRM", "what,1", "ERRM,5,1002"}) {
     bench.Line().AnswerBy([&](const std::string& command) {
       bench.Line().Reply(command == "IREM" ? "irem,KELD(IN),0815,2.1" : command == "EREM" ? "erem" : reply);
     });
-    const auto element = MakeTest(610);
+    element = MakeTest(610);
     Perform(element);
-    EXPECT_EQ(Status(element), 0) << reply;
-    EXPECT_EQ(Value(element), "none") << reply;
+    EXPECT_EQ(State(element), "0 none") << reply;
   }
   EXPECT_TRUE(person.prompts.empty());
 }
 
-TEST_F(CKELDTestElementRunTest, ARunWipesTheResultBefore) {
-  const auto element = MakeTest(415);
-  AnswerResult("1,0,V");
-  Perform(element);
-  ASSERT_EQ(Status(element), 1);
-  bench.Line().AnswerBy([](const std::string&) {});
-  Perform(element);
-  EXPECT_EQ(Status(element), 0);
-  EXPECT_EQ(Value(element), "none");
-  EXPECT_FALSE(element->Result()->ServiceRecord());
+TEST_F(CKELDTestElementRunTest, RecordsAbortedAfterAnUnsupportedEnd) {
+  // The test that ends the session is not supported: not applicable, until the abort is recorded.
+  AnswerTests({{0, "ERRM,6002"}}, "5,0,V");
+  Perform(element, support::GuideOperator::kAbort, std::chrono::seconds(5));
+  EXPECT_EQ(bench.Wire().Sent().back(), "EREM");
+  EXPECT_EQ(person.prompts.size(), 2u);
+  EXPECT_EQ(State(element), "4 none");
 }
 
-TEST_F(CKELDTestElementRunTest, AStopBeforeTheResultRecordsNothingAndClosesTheSession) {
-  const auto element = bench.CreateTest(210);
-  const auto stop = bench.Application().CallAt(bench.Application().Now() + std::chrono::seconds(5),
-                                               [&] { person.Press(support::GuideOperator::kStop); });
-  Perform(element);
-  bench.Application().Forget(stop);
-  EXPECT_EQ(Status(element), 0);
-  EXPECT_EQ(Value(element), "none");
-  EXPECT_TRUE(Test(element)->Stopped());
-  EXPECT_EQ(bench.Wire().Sent(), (Texts{"IREM", "STST,210,0", "STST,210,0", "EREM"}));
-}
+// --- events ---
 
-TEST_F(CKELDTestElementRunTest, StopOnlySetsAFlagThatTheNextEventReads) {
-  const auto element = MakeTest(415);
-  const auto link = CKELDInstrument::Create();
-  element->Result();
-  Test(element)->InitAutoRun(link, nullptr, nullptr);
-  Test(element)->StopTest();
-  EXPECT_FALSE(Test(element)->Stopped());
+TEST_F(CKELDTestElementRunTest, IgnoresOtherEvents) {
+  Drive(element);
   link->SetMtiData(2, std::string("5"));
-  std::int32_t status = 5;
-  link->ResultReceived().Raise(status, 415);
-  EXPECT_TRUE(Test(element)->Stopped());
-  EXPECT_EQ(Value(element), "none");
+  for (const std::int32_t status : {0, 1, 2, 4, 6, 8, 9, -1, 1003, 6001}) {
+    Raise(status);
+    EXPECT_FALSE(element->Result()) << status;
+    EXPECT_FALSE(Test(element)->Stopped()) << status;
+  }
+  EXPECT_TRUE(person.prompts.empty());
+  EXPECT_TRUE(controller->told.empty());
 }
 
-TEST_F(CKELDTestElementRunTest, AnIdentityUpdateStoresTheFirmwareVersion) {
-  const auto element = MakeTest(415);
-  const auto link = CKELDInstrument::Create();
-  Test(element)->InitAutoRun(link, nullptr, nullptr);
-  link->SetMtiData(2, std::string("3.4"));
-  std::int32_t status = 3;
-  link->ResultReceived().Raise(status, 0);
-  EXPECT_EQ(CKELDData::Shared()->FirmwareVersion(), "3.4");
+TEST_F(CKELDTestElementRunTest, CreatesAndShowsItsResultOnAMeasurement) {
+  Drive(element);
+  ASSERT_EQ(Rows(*guide->Form()), 0);
+  Measure();
+  EXPECT_EQ(State(element), "1 5 P");
+  EXPECT_EQ(orvik::As<CKELDResultData>(element->Result())->Owner(), element);
+  EXPECT_EQ(Rows(*guide->Form()), 1);
 }
 
-TEST_F(CKELDTestElementRunTest, ADrivenElementLeavesTheLinkOpen) {
-  AnswerResult("1,0,V");
-  const auto element = MakeTest(415);
-  const auto link = CKELDInstrument::Create();
-  Test(element)->InitAutoRun(link, nullptr, controller);
-  Test(element)->RunTest();
+TEST_F(CKELDTestElementRunTest, RecordsNotApplicableAfterTheMessage) {
+  Drive(element);
+  Raise(6002);
+  EXPECT_EQ(State(element), "3 none NA") << "without an earlier result";
+  Measure();
+  std::string before;
+  person.onAnswer = [&](const std::string&) { before = State(element); };
+  Raise(6002);
+  EXPECT_EQ(before, "1 5 P");
+  EXPECT_EQ(State(element), "3 none NA");
+  EXPECT_EQ(person.prompts.size(), 2u);
+}
+
+TEST_F(CKELDTestElementRunTest, DoesNotChangeItsResultWithoutAnAnswer) {
+  Drive(element);
+  Raise(7);
+  EXPECT_FALSE(element->Result());
+  Measure();
+  Raise(7);
+  EXPECT_EQ(State(element), "1 5 P");
+  EXPECT_EQ(person.prompts, Texts(2, kNoInstrument));
   EXPECT_FALSE(Test(element)->Stopped());
-  EXPECT_EQ(bench.Wire().Sent(), (Texts{"IREM", "STST,415,0", "GRES,415,0"}));
+}
+
+TEST_F(CKELDTestElementRunTest, TagsItsMessagesWithTheirPicture) {
+  const auto test = orvik::As<CKELDTestElement>(Drive(element));
+  Texts keys;
+  person.onAnswer = [&](const std::string&) { keys.push_back(test->FailureMessage()->Tag()); };
+  Raise(7);
+  Raise(6002);
+  EXPECT_EQ(keys, (Texts{"CommsError", "CommsError"}));
+  EXPECT_FALSE(test->FailureMessage());
+}
+
+TEST_F(CKELDTestElementRunTest, DiscardsOneEventAfterAStop) {
+  for (const std::int32_t status : {3, 4, 5, 7, 6002}) {
+    Drive(element);
+    Test(element)->StopTest();
+    EXPECT_FALSE(Test(element)->Stopped()) << "only the next event stops";
+    Raise(status);
+    EXPECT_TRUE(Test(element)->Stopped()) << status;
+    EXPECT_FALSE(element->Result()) << status;
+    EXPECT_TRUE(person.prompts.empty()) << status;
+  }
+  Drive(element);
+  Measure();
+  EXPECT_EQ(State(element), "1 5 P");
+}
+
+TEST_F(CKELDTestElementRunTest, StoresAndShowsTheTestersIdentity) {
+  Drive(element);
+  link->SetMtiData(2, std::string("3.4"));
+  Raise(3);
+  EXPECT_EQ(CKELDData::Shared()->FirmwareVersion(), "3.4");
+  EXPECT_EQ(Shown("txtFwVer"), "3.4");
+  EXPECT_FALSE(element->Result());
+  link->GotMtiData().Raise(MtiDataArray{std::string("KELD(IN)-2"), std::string("0815"), std::string("2.1"),
+                                        std::string(), std::string()});
+  EXPECT_EQ(CKELDData::Shared()->SerialNumber(), "0815");
+  EXPECT_EQ(Shown("txtMTIType"), "KELD(IN)-2");
+  EXPECT_EQ(Shown("txtFwVer"), "2.1");
+}
+
+TEST_F(CKELDTestElementRunTest, HandlesEventsWithoutAGuide) {
+  Test(element)->InitAutoRun(link, nullptr, controller);
+  link->SetMtiData(2, std::string("3.4"));
+  Raise(3);
+  EXPECT_EQ(CKELDData::Shared()->FirmwareVersion(), "3.4");
+  Raise(5);
+  EXPECT_EQ(element->Result()->MTIID(), 1);
+}
+
+TEST_F(CKELDTestElementRunTest, IgnoresAReleasedLink) {
+  Drive(element);
   Test(element)->ResetAutoRun();
-  EXPECT_TRUE(Test(element)->Stopped());
+  Raise(5);
+  EXPECT_FALSE(element->Result());
+}
+
+TEST_F(CKELDTestElementRunTest, JudgesThenRecordsThenShowsThenNamesTheTester) {
+  const auto watch = support::RegisterWatchedElements(bench.Host());
+  element = MakeTest(415);
+  Limit(element, "", "100");
+  Drive(element);
+  Texts states;
+  // The judgement reads the limits, then the guide does.
+  watch->onLimits = [&] {
+    states.push_back(State(element) + ", " + std::to_string(controller->instruments->Count()) + " testers");
+  };
+  controller->onInstruments = [&] {
+    states.push_back(State(element) + ", record " + std::to_string(element->Result()->MTIID()) + ", " +
+                     std::to_string(Rows(*guide->Form())) + " rows");
+  };
+  Measure();
+  EXPECT_EQ(states, (Texts{"0 5, 0 testers", "1 5 P, 0 testers", "1 5 P, record 0, 1 rows"}));
+  EXPECT_EQ(element->Result()->MTIID(), 1);
+}
+
+// --- driven from outside ---
+
+TEST_F(CKELDTestElementRunTest, KeepsLinkAndGuideWhenAbortIsAnsweredNo) {
+  Drive(element);
+  Measure();
+  person.abort = false;
+  Test(element)->AbortTest();
+  EXPECT_EQ(person.prompts.size(), 1u);
+  EXPECT_FALSE(Test(element)->Stopped());
+  EXPECT_TRUE(guide->Form()->Visible());
+  EXPECT_EQ(State(element), "1 5 P");
+  EXPECT_TRUE(controller->told.empty());
+}
+
+TEST_F(CKELDTestElementRunTest, UsesAnOpenLink) {
+  AnswerResult("1,0,V");
+  link->ConnectMTI();
+  ASSERT_GE(link->PortNumber(), 1);
+  bench.Unassign();  // the port could not be opened again
+  Test(Drive(element))->RunTest();
+  EXPECT_EQ(Status(element), 1);
   link->DisconnectMTI();
 }
 
-TEST_F(CKELDTestElementRunTest, SkipTakesTheResultAway) {
-  const auto element = MakeTest(415);
-  person.guide = {support::GuideOperator::kSkip};
-  Perform(element);
-  EXPECT_FALSE(element->Result());
-  EXPECT_EQ(controller->told, (Texts{"start 415", "navigate 0", "finished 415", "navigate 3"}));
-}
-
-TEST_F(CKELDTestElementRunTest, NotApplicableIsRecorded) {
-  const auto element = MakeTest(415);
+TEST_F(CKELDTestElementRunTest, PrefersAGivenLinkWhilePerformed) {
   AnswerResult("1,0,V");
-  person.guide = {support::GuideOperator::kPlay, support::GuideOperator::kNotApplicable};
-  Perform(element);
-  EXPECT_EQ(Status(element), 3);
-  EXPECT_EQ(Value(element), "none");
-  EXPECT_EQ(element->Result()->ServiceRecord()->Code(), "NA");
-  EXPECT_EQ(controller->told.back(), "navigate 4");
-  EXPECT_EQ(controller->Count("finished 415"), 2u);
-}
-
-TEST_F(CKELDTestElementRunTest, NextAndPreviousLeaveTheResultAsItIs) {
-  const auto element = MakeTest(415);
-  AnswerResult("1,0,V");
-  person.guide = {support::GuideOperator::kPlay, support::GuideOperator::kPrevious};
-  Perform(element);
-  EXPECT_EQ(Status(element), 1);
-  EXPECT_EQ(controller->told.back(), "navigate 1");
-}
-
-TEST_F(CKELDTestElementRunTest, AbortAsksAndRecordsAborted) {
-  const auto element = MakeTest(415);
-  person.guide = {support::GuideOperator::kAbort};
-  Perform(element);
-  EXPECT_EQ(person.prompts, (Texts{"Do you want to end this test and discard all previous test results?"}));
-  EXPECT_EQ(Status(element), 4);
-  EXPECT_FALSE(element->Result()->ServiceRecord());
-  EXPECT_EQ(controller->told, (Texts{"start 415", "navigate 0", "navigate 2"}));
-}
-
-TEST_F(CKELDTestElementRunTest, AbortAnsweredNoChangesNothing) {
-  const auto element = MakeTest(415);
-  AnswerResult("1,0,V");
-  person.abort = false;
-  person.guide = {support::GuideOperator::kPlay, support::GuideOperator::kAbort};
-  Perform(element);
-  EXPECT_EQ(Status(element), 1);
-  EXPECT_EQ(controller->Count("navigate 2"), 0u);
-  EXPECT_EQ(controller->told.back(), "navigate 0");
-}
-
-TEST_F(CKELDTestElementRunTest, AnEarlierYesIsNotTakenForAnAnswer) {
-  const auto element = MakeTest(415);
-  person.guide = {support::GuideOperator::kAbort};
-  Perform(element);
-  ASSERT_EQ(Status(element), 4);
-  // This time the prompt goes away without an answer: closing it would be one.
-  const auto unloadPrompt = bench.Application().FormShown().Subscribe([](const auto& form) {
-    if (form->Name() == "FYesNoPrompt") form->Unload();
+  person.guide = {};
+  const auto shown = bench.Application().FormShown().Subscribe([&](const auto& form) {
+    if (form->Name() != "FTestGuide") return;
+    Test(element)->InitAutoRun(link, nullptr, controller);
+    Test(element)->RunTest();
+    EXPECT_FALSE(Test(element)->Stopped());
+    form->Hide();
   });
-  controller->told.clear();
   Perform(element);
-  EXPECT_EQ(person.prompts.size(), 2u);
-  EXPECT_EQ(controller->Count("navigate 2"), 0u);
+  EXPECT_EQ(bench.Wire().Sent(), (Texts{"IREM", "STST,415,0", "GRES,415,0"}));
+  link->DisconnectMTI();
 }
 
-TEST_F(CKELDTestElementRunTest, ARunLeavesNothingBehind) {
-  std::weak_ptr<orvik::ITestElement> gone;
-  {
-    const auto element = bench.CreateTest(410);
-    gone = element;
-    Perform(element);
-  }
-  EXPECT_TRUE(gone.expired());
-  EXPECT_TRUE(bench.Application().Forms().empty());
+TEST_F(CKELDTestElementRunTest, OpensNoLinkOfItsOwnOnceDriven) {
+  person.guide = {};
+  Perform(element);
+  controller->told.clear();
+  Test(element)->RunTest();
+  EXPECT_TRUE(bench.Wire().All().empty());
+  EXPECT_TRUE(Test(element)->Stopped());
+  EXPECT_EQ(controller->told, (Texts{"start 415", "finished 415"}));
+}
+
+TEST_F(CKELDTestElementRunTest, LosesOnlyTheStepsAFailingHostBreaks) {
+  controller->broken = true;
+  AnswerResult("1,0,V");
+  Perform(element);
+  EXPECT_EQ(State(element), "1 1 P");
+  EXPECT_EQ(element->Result()->MTIID(), 0);
+  EXPECT_EQ(bench.Wire().Sent().back(), "EREM");
+  EXPECT_EQ(controller->told, (Texts{"start 415", "navigate 0", "start 415", "finished 415", "navigate 0"}));
 }
 
 }  // namespace keld

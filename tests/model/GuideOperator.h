@@ -17,11 +17,10 @@
 
 namespace support {
 
-/// Operates the windows of a run the way a person does: by their names and buttons.
+/// Operates the windows of a run as a person does, by their names and buttons.
 ///
-/// Guides get the commands of `guide`, one after the other, each as soon as the one before has done its work;
-/// then, if the guide is still there, "next". A prompt that stands before the guide is answered first.
-/// Prompts are answered by `abort` and written down.
+/// Presses the commands of `guide` in each guide, each after the one before has finished; then, if the guide
+/// is still open, "next". A prompt in front of the guide is answered first, by `abort`, and recorded.
 class GuideOperator {
  public:
   static constexpr int kAbort = 101;
@@ -39,28 +38,28 @@ class GuideOperator {
   std::vector<int> guide{kPlay};
   /// The answer to the question whether to end the test.
   bool abort = true;
-  /// How long the person looks at a question or a message before answering it.
+  /// How long a person looks at a question or message before answering it.
   std::chrono::milliseconds thinks{0};
   /// Called right before a prompt is answered, with the name of its form.
   std::function<void(const std::string& form)> onAnswer = [](const std::string&) {};
-  /// The questions and messages that came up.
+  /// The questions and messages shown.
   std::vector<std::string> prompts;
   int guidesShown = 0;
 
   /// The guide that is open, or empty.
   std::shared_ptr<orvik::platform::IForm> Guide() const { return guideForm_.lock(); }
 
-  /// Whether the guide is on the screen, and no prompt before it.
+  /// Whether the guide is on the screen without a prompt in front of it.
   bool AtGuide() const {
     const auto form = Guide();
     return form && form->Visible() && application_.ActiveForm() == form;
   }
-  /// Whether the guide says that a test is running.
+  /// Whether the guide shows that a test is running.
   bool Running() const {
     const auto toolbar = Toolbar();
     return toolbar && toolbar->IsEnabled(kStop);
   }
-  /// Presses a button of the open guide; nothing without one.
+  /// Presses a button of the open guide, if there is one.
   void Press(int command) const {
     if (const auto toolbar = Toolbar()) toolbar->Click(command);
   }
@@ -88,7 +87,7 @@ class GuideOperator {
     waiting_ = form && form->Visible() && !AtGuide();
     if (waiting_) return;
     for (const int command : guide) Press(command);
-    // Whatever came of it, a person leaves the guide in the end.
+    // Finally leave the guide.
     if (form && form->Visible()) Press(kNext);
   }
 
@@ -102,7 +101,7 @@ class GuideOperator {
         onAnswer(shown->Name());
         std::dynamic_pointer_cast<orvik::platform::IButton>(shown->Find(button))->Click();
       }
-      // A person needs a moment to get back to the guide.
+      // A person needs a moment to return to the guide.
       if (std::exchange(waiting_, false))
         application_.CallAt(application_.Now() + std::chrono::milliseconds(1), [this] { OperateGuide(); });
     };
@@ -119,7 +118,7 @@ class GuideOperator {
 
   bench::headless::Application& application_;
   std::weak_ptr<orvik::platform::IForm> guideForm_;
-  /// The buttons of the guide are still to be pressed, once the prompt is answered.
+  /// The guide's buttons are to be pressed once the prompt is answered.
   bool waiting_ = false;
   orvik::platform::Subscription shown_;
 };

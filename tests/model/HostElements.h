@@ -20,95 +20,19 @@
 #include "host/elements/TestContainer.h"
 #include "host/elements/TestElement.h"
 
-/// Host elements that are watched or that fail, and limits that write down what they are told.
+/// Host elements that are watched or that fail, and limits that record their calls.
 namespace support {
 
-/// The host's base element, which counts how often it is told to terminate.
-class Watched : public bench::TestElement {
+[[noreturn]] inline void RaiseHostError() { throw orvik::HostError(5, "host", "no"); }
+
+/// A container's operations, forwarded to a real one.
+class ForwardingContainer : public orvik::ITestContainer {
  public:
-  Watched(std::weak_ptr<bench::ElementFactory> factory, std::shared_ptr<int> told)
-      : TestElement(std::move(factory)), told_(std::move(told)) {}
+  explicit ForwardingContainer(const std::weak_ptr<bench::ElementFactory>& factory)
+      : children_(std::make_shared<bench::TestContainer>(factory)) {}
 
- private:
-  void ITestElement_Terminate() override { ++*told_; }
-
-  std::shared_ptr<int> told_;
-};
-
-/// The same as a container that never has a child.
-class WatchedContainer final : public Watched, public orvik::ITestContainer {
- public:
-  using Watched::Watched;
-
- private:
-  void ITestContainer_Add(std::shared_ptr<orvik::ITestElement>, const orvik::Variant&,
-                          const orvik::Variant&) override {}
-  std::int32_t ITestContainer_Count() const override { return 0; }
-  std::shared_ptr<orvik::ITestElement> ITestContainer_item(std::int32_t) const override { return {}; }
-  std::shared_ptr<orvik::ITestElement> ITestContainer_FindElement(std::int32_t) const override { return {}; }
-  std::shared_ptr<orvik::ITestEnumerator> ITestContainer_NewEnum() const override { return {}; }
-  void ITestContainer_Remove(std::shared_ptr<orvik::ITestElement>) override {}
-};
-
-/// From now on the host makes base elements that are watched.
-inline void RegisterWatchedElements(bench::Host& host, const std::shared_ptr<int>& told) {
-  const std::weak_ptr<bench::ElementFactory> factory = host.Elements();
-  host.Register(orvik::HostClasses::kTestElement,
-                [factory, told] { return std::make_shared<Watched>(factory, told); });
-  host.Register(orvik::HostClasses::kTestContainer,
-                [factory, told] { return std::make_shared<WatchedContainer>(factory, told); });
-}
-
-/// A base element that takes limits and nothing else.
-class Failing final : public bench::TestElement {
- public:
-  using TestElement::TestElement;
-
- private:
-  [[noreturn]] static void Fail() { throw orvik::HostError(5, "host", "no"); }
-
-  void IBaseElement_SetConfiguration(std::shared_ptr<orvik::IConfigData>) override { Fail(); }
-  std::shared_ptr<ITestElement> ITestElement_Clone() const override { Fail(); }
-  std::shared_ptr<orvik::IInformationRecord> ITestElement_Information() const override { Fail(); }
-  std::int32_t ITestElement_ID() const override { Fail(); }
-  void ITestElement_SetID(std::int32_t) override { Fail(); }
-  orvik::Variant ITestElement_Filter() const override { Fail(); }
-};
-
-/// From now on the host makes base elements that fail.
-inline void RegisterFailingElements(bench::Host& host) {
-  host.Register(orvik::HostClasses::kTestElement,
-                [factory = std::weak_ptr(host.Elements())] { return std::make_shared<Failing>(factory); });
-}
-
-/// Called whenever somebody reads the limits of an element; what it throws the reader gets.
-using OnLimitsRead = std::shared_ptr<std::function<void()>>;
-
-/// A base element whose limits are watched.
-class LimitsWatched : public bench::TestElement {
- public:
-  LimitsWatched(std::weak_ptr<bench::ElementFactory> factory, OnLimitsRead onRead)
-      : TestElement(std::move(factory)), onRead_(std::move(onRead)) {}
-
- private:
-  void IBaseElement_SetLimits(std::shared_ptr<orvik::ILimitData> Limits) override {
-    limits_ = std::move(Limits);
-  }
-  std::shared_ptr<orvik::ILimitData> ITestElement_Limits() const override {
-    if (*onRead_) (*onRead_)();
-    return limits_;
-  }
-
-  OnLimitsRead onRead_;
-  std::shared_ptr<orvik::ILimitData> limits_;
-};
-
-/// The same with the children of a real container.
-class LimitsWatchedContainer final : public LimitsWatched, public orvik::ITestContainer {
- public:
-  LimitsWatchedContainer(const std::weak_ptr<bench::ElementFactory>& factory, OnLimitsRead onRead)
-      : LimitsWatched(factory, std::move(onRead)),
-        children_(std::make_shared<bench::TestContainer>(factory)) {}
+ protected:
+  const orvik::ITestContainer& Children() const { return *children_; }
 
  private:
   void ITestContainer_Add(std::shared_ptr<orvik::ITestElement> iteElement, const orvik::Variant& vBefore,
@@ -132,18 +56,66 @@ class LimitsWatchedContainer final : public LimitsWatched, public orvik::ITestCo
   std::shared_ptr<orvik::ITestContainer> children_;
 };
 
-/// From now on the host makes base elements whose limits are watched.
-inline OnLimitsRead RegisterLimitsWatchedElements(bench::Host& host) {
-  const auto onRead = std::make_shared<std::function<void()>>();
+/// The events of watched base elements.
+struct ElementWatch {
+  int terminated = 0;
+  /// Called whenever limits are read; its errors reach the reader.
+  std::function<void()> onLimits;
+};
+
+/// The host's base element, watched.
+class WatchedElement : public bench::TestElement {
+ public:
+  WatchedElement(const std::weak_ptr<bench::ElementFactory>& factory, std::shared_ptr<ElementWatch> watch)
+      : TestElement(factory), watch_(std::move(watch)) {}
+
+ private:
+  void ITestElement_Terminate() override { ++watch_->terminated; }
+  void IBaseElement_SetLimits(std::shared_ptr<orvik::ILimitData> Limits) override {
+    limits_ = std::move(Limits);
+  }
+  std::shared_ptr<orvik::ILimitData> ITestElement_Limits() const override {
+    if (watch_->onLimits) watch_->onLimits();
+    return limits_;
+  }
+
+  std::shared_ptr<ElementWatch> watch_;
+  std::shared_ptr<orvik::ILimitData> limits_;
+};
+
+class WatchedContainer final : public WatchedElement, public ForwardingContainer {
+ public:
+  WatchedContainer(const std::weak_ptr<bench::ElementFactory>& factory, std::shared_ptr<ElementWatch> watch)
+      : WatchedElement(factory, std::move(watch)), ForwardingContainer(factory) {}
+};
+
+/// From now on the host creates watched base elements.
+inline std::shared_ptr<ElementWatch> RegisterWatchedElements(bench::Host& host) {
+  const auto watch = std::make_shared<ElementWatch>();
   const std::weak_ptr<bench::ElementFactory> factory = host.Elements();
   host.Register(orvik::HostClasses::kTestElement,
-                [factory, onRead] { return std::make_shared<LimitsWatched>(factory, onRead); });
+                [factory, watch] { return std::make_shared<WatchedElement>(factory, watch); });
   host.Register(orvik::HostClasses::kTestContainer,
-                [factory, onRead] { return std::make_shared<LimitsWatchedContainer>(factory, onRead); });
-  return onRead;
+                [factory, watch] { return std::make_shared<WatchedContainer>(factory, watch); });
+  return watch;
 }
 
-/// Limits that write down who has their references updated.
+/// A base element that accepts limits and fails otherwise.
+class FailingElement final : public bench::TestElement {
+ public:
+  using TestElement::TestElement;
+
+ private:
+  void IBaseElement_SetConfiguration(std::shared_ptr<orvik::IConfigData>) override { RaiseHostError(); }
+  std::shared_ptr<ITestElement> ITestElement_Clone() const override { RaiseHostError(); }
+  std::shared_ptr<orvik::IInformationRecord> ITestElement_Information() const override { RaiseHostError(); }
+  std::int32_t ITestElement_ID() const override { RaiseHostError(); }
+  void ITestElement_SetID(std::int32_t) override { RaiseHostError(); }
+  orvik::Variant ITestElement_Filter() const override { RaiseHostError(); }
+  std::shared_ptr<orvik::IResultData> ITestElement_Result() const override { RaiseHostError(); }
+};
+
+/// Limits that record the references they are updated with.
 class RecordingLimits final : public virtual orvik::ILimitData {
  public:
   std::vector<std::shared_ptr<orvik::IObject>> updatedBy;

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
@@ -24,14 +26,20 @@
 #include "instrument/CKELDInstrument.h"
 #include "model/CKELDSequence.h"
 #include "model/CKELDTestElement.h"
+#include "platform/IContainerSite.h"
+#include "platform/IForm.h"
+#include "platform/IListView.h"
 #include "plugin/CKELDTestConfiguration.h"
 #include "results/CKELDLimitData.h"
 #include "results/CKELDResultData.h"
 #include "tests/model/GuideOperator.h"
 #include "tests/model/RecordingController.h"
 #include "tests/support/VirtualBench.h"
+#include "ui/FTestGuide.h"
 
 namespace support {
+
+inline constexpr char kEndQuestion[] = "Do you want to end this test and discard all previous test results?";
 
 /// Elements of the plug-in on a whole bench: real host, headless windows, virtual clock, simulated tester.
 class ModelTest : public testing::Test {
@@ -44,13 +52,12 @@ class ModelTest : public testing::Test {
         orvik::As<orvik::IStandardColl>(bench.Host().CreateObject(orvik::HostClasses::kStandardColl));
   }
 
-  /// A single test that is not from the catalogue.
+  /// A single test, not from the catalogue.
   static Element MakeTest(std::int32_t testId, std::int32_t id = 1) {
     auto made = keld::CKELDTestElement::Create();
     made->Initialize("KELD(IN)", id, testId);
     return made;
   }
-  /// A sequence with these children.
   static Element MakeSequence(const std::vector<Element>& children, std::int32_t id = 100) {
     auto made = keld::CKELDSequence::Create();
     made->Initialize("KELD(IN)", id, 100);
@@ -77,6 +84,24 @@ class ModelTest : public testing::Test {
     const auto measurement = element->Result() ? element->Result()->Measurement(1) : nullptr;
     return measurement ? orvik::TextOf(measurement->value()) : "none";
   }
+  /// Status (-1 without a result), value, and the service record's code if there is one: "1 5 P".
+  static std::string State(const Element& element) {
+    const auto record = element->Result() ? element->Result()->ServiceRecord() : nullptr;
+    return std::to_string(Status(element)) + " " + Value(element) + (record ? " " + record->Code() : "");
+  }
+  /// The states of the element and of all below it.
+  static Texts States(const Element& element) {
+    Texts states{State(element)};
+    const auto children = Container(element);
+    for (std::int32_t i = 1; children && i <= children->Count(); ++i)
+      for (const auto& state : States(children->item(i))) states.push_back(state);
+    return states;
+  }
+  /// The number of rows in the result view of a guide.
+  static int Rows(const orvik::platform::IForm& guide) {
+    const auto view = orvik::As<orvik::platform::IContainerSite>(guide.Find("xrvResultView"));
+    return orvik::As<orvik::platform::IListView>(view->Panel()->Find("lvwResults"))->RowCount();
+  }
 
   /// Gives the element a limit of a standard by which the run judges.
   void Limit(const Element& element, const std::string& low, const std::string& high,
@@ -90,23 +115,58 @@ class ModelTest : public testing::Test {
     }
   }
 
-  /// Answers "GRES" with these fields after the setting (value, overload, unit), and all other commands as
-  /// the tester does.
-  void AnswerResult(const std::string& fields) {
-    bench.Line().AnswerBy([this, fields](const std::string& command) {
+  /// Answers each test by its number with its own fields (value, overload, unit), other tests with
+  /// `otherTests`: fields, or an error reply.
+  void AnswerTests(const std::map<std::int32_t, std::string>& results, const std::string& otherTests) {
+    bench.Line().AnswerBy([this, results, otherTests](const std::string& command) {
       if (command == "IREM") return bench.Line().Reply("irem,KELD(IN),0815,2.1");
       if (command == "EREM") return bench.Line().Reply("erem");
-      const std::string rest = command.substr(4);
-      if (command.starts_with("STST")) return bench.Line().Reply("stst" + rest);
-      if (command.starts_with("GRES")) return bench.Line().Reply("gres" + rest + "," + fields);
+      const auto found = results.find(command == "STST,210,0" ? 0 : std::stoi(command.substr(5)));
+      const std::string& fields = found == results.end() ? otherTests : found->second;
+      if (fields.starts_with("ERRM")) return bench.Line().Reply(fields);
+      const bool start = command.starts_with("STST");
+      bench.Line().Reply((start ? "stst" : "gres") + command.substr(4) + (start ? "" : "," + fields));
     });
+  }
+  /// Answers every test with these fields.
+  void AnswerResult(const std::string& fields) { AnswerTests({}, fields); }
+  void AnswerNothing() {
+    bench.Line().AnswerBy([](const std::string&) {});
   }
 
   void Perform(const Element& element) { element->Perform(controller); }
+  /// Performs the element; the operator presses a button after so many seconds.
+  void Perform(const Element& element, int command, std::chrono::seconds after) {
+    const auto call =
+        bench.Application().CallAt(bench.Application().Now() + after, [&] { person.Press(command); });
+    Perform(element);
+    bench.Application().Forget(call);
+  }
 
   VirtualBench bench;
   std::shared_ptr<RecordingController> controller = std::make_shared<RecordingController>();
   GuideOperator person{bench.Application()};
+};
+
+/// An element that the test drives, with its own link and guide.
+class DrivenTest : public ModelTest {
+ protected:
+  const Element& Drive(const Element& element) {
+    guide->Initialize(element, controller);
+    guide->Form()->Show();
+    Test(element)->InitAutoRun(link, guide, controller);
+    return element;
+  }
+  void Raise(std::int32_t status, std::int16_t testNo = 415) { link->ResultReceived().Raise(status, testNo); }
+  /// The link reports a measurement.
+  void Measure(const std::string& value = "5", const std::string& unit = "V", std::int16_t testNo = 415) {
+    link->SetMtiData(2, value);
+    link->SetMtiData(4, unit);
+    Raise(5, testNo);
+  }
+
+  std::shared_ptr<keld::CKELDInstrument> link = keld::CKELDInstrument::Create();
+  std::shared_ptr<keld::FTestGuide> guide = keld::FTestGuide::Create();
 };
 
 }  // namespace support

@@ -14,8 +14,8 @@
 
 namespace support {
 
-/// The host's end of a run: says yes to every start unless told otherwise, and writes down what it is told,
-/// in order.
+/// The host's side of a run: lets every element start unless told otherwise, and records the notices in
+/// order.
 class RecordingController final : public virtual orvik::IRunController {
  public:
   std::function<bool(const std::shared_ptr<orvik::ITestElement>&)> mayStart = [](const auto&) {
@@ -23,13 +23,16 @@ class RecordingController final : public virtual orvik::IRunController {
   };
   std::shared_ptr<orvik::IStandardColl> standards;
   std::shared_ptr<orvik::IInstrumentColl> instruments = std::make_shared<bench::InstrumentColl>();
-  /// "start 410", "finished 410", "navigate 0".
+  /// By test identifier: "start 410", "finished 410", "navigate 0".
   std::vector<std::string> told;
-  /// Looks around at the moment in which something is told.
+  /// The navigation requests, and the identifiers of the finished elements.
+  std::vector<std::int32_t> navigation;
+  std::vector<std::int32_t> finished;
+  /// Called inside each notice and request.
   std::function<void(const std::string& what)> onTold;
-  /// Looks around at the moment in which the testers are asked for.
+  /// Called when the testers are requested.
   std::function<void()> onInstruments;
-  /// Every notice and request breaks off with an error, after it was written down.
+  /// Every notice and request raises an error, after it was recorded.
   bool broken = false;
 
   std::size_t Count(const std::string& what) const {
@@ -37,7 +40,7 @@ class RecordingController final : public virtual orvik::IRunController {
   }
 
  private:
-  void Tell(const std::string& what) {
+  void Record(const std::string& what) {
     told.push_back(what);
     if (onTold) onTold(what);
     if (broken) throw orvik::HostError(orvik::HostError::kInvalidArgument, "test", "broken");
@@ -47,10 +50,12 @@ class RecordingController final : public virtual orvik::IRunController {
     return mayStart(iteElement);
   }
   void IRunController_NavigationRequest(std::int32_t lCode) override {
-    Tell("navigate " + std::to_string(lCode));
+    navigation.push_back(lCode);
+    Record("navigate " + std::to_string(lCode));
   }
   void IRunController_FinishedNotice(std::shared_ptr<orvik::ITestElement> iteElement) override {
-    Tell("finished " + std::to_string(iteElement->TestID()));
+    finished.push_back(iteElement->ID());
+    Record("finished " + std::to_string(iteElement->TestID()));
   }
   std::shared_ptr<orvik::IStandardColl> IRunController_Standards() const override { return standards; }
   std::shared_ptr<orvik::IInstrumentColl> IRunController_Instruments() const override {

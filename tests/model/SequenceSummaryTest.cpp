@@ -1,170 +1,116 @@
-#include "OrvikTypeLib/IDialog.h"
-#include "OrvikTypeLib/ITestEnumerator.h"
-#include "OrvikTypeLib/IXmlNode.h"
 #include "instrument/CKELDMeasurement.h"
 #include "model/SequenceSummary.h"
+#include "tests/model/HostElements.h"
 #include "tests/model/ModelTest.h"
 
 namespace keld {
 
 namespace {
 
-/// A result whose status cannot be read.
-class BrokenResult final : public orvik::IResultData {
-  [[noreturn]] static void Fail() { throw orvik::HostError(5, "test", "broken"); }
-  std::string IResultData_Comment() const override { return {}; }
-  void IResultData_SetComment(const std::string&) override {}
-  bool IResultData_HasDialog() const override { return false; }
-  std::int32_t IResultData_Status() const override { Fail(); }
-  std::shared_ptr<orvik::IMeasurement> IResultData_Measurement(std::int32_t) const override { Fail(); }
-  std::int32_t IResultData_MeasurementCount() const override { return 1; }
-  std::shared_ptr<orvik::IServiceRecord> IResultData_ServiceRecord() const override { return {}; }
-  std::int32_t IResultData_MTIID() const override { return 0; }
-  std::shared_ptr<orvik::IDialog> IResultData_CreateDialog() override { return {}; }
-  void IResultData_Load(std::shared_ptr<orvik::IXmlNode>, std::shared_ptr<orvik::IObject>) override {}
-  std::shared_ptr<orvik::IXmlNode> IResultData_Save(std::shared_ptr<orvik::IXmlNode>) const override {
-    return {};
-  }
-  void IResultData_PrintReport(std::shared_ptr<orvik::IReport>,
-                               std::shared_ptr<orvik::ITestElement>) override {}
-};
-
-/// Some children, then an error.
-class BreaksOff final : public orvik::ITestContainer {
+/// A container whose enumeration fails after the last child.
+class BreakingContainer final : public support::ForwardingContainer {
  public:
-  explicit BreaksOff(std::vector<std::shared_ptr<orvik::ITestElement>> children)
-      : children_(std::move(children)) {}
+  using ForwardingContainer::ForwardingContainer;
 
  private:
   class Walk final : public orvik::ITestEnumerator {
    public:
-    explicit Walk(std::vector<std::shared_ptr<orvik::ITestElement>> children)
-        : children_(std::move(children)) {}
+    explicit Walk(std::shared_ptr<orvik::ITestEnumerator> walk) : walk_(std::move(walk)) {}
 
    private:
     std::shared_ptr<orvik::ITestElement> ITestEnumerator_Next() override {
-      if (next_ == children_.size()) throw orvik::HostError(5, "test", "broken");
-      return children_[next_++];
+      auto next = walk_->Next();
+      return next ? next : (support::RaiseHostError(), nullptr);
     }
-    std::vector<std::shared_ptr<orvik::ITestElement>> children_;
-    std::size_t next_ = 0;
+    std::shared_ptr<orvik::ITestEnumerator> walk_;
   };
 
-  void ITestContainer_Add(std::shared_ptr<orvik::ITestElement>, const orvik::Variant&,
-                          const orvik::Variant&) override {}
-  std::int32_t ITestContainer_Count() const override { return 9; }
-  std::shared_ptr<orvik::ITestElement> ITestContainer_item(std::int32_t) const override { return {}; }
-  std::shared_ptr<orvik::ITestElement> ITestContainer_FindElement(std::int32_t) const override { return {}; }
   std::shared_ptr<orvik::ITestEnumerator> ITestContainer_NewEnum() const override {
-    return std::make_shared<Walk>(children_);
+    return std::make_shared<Walk>(Children().NewEnum());
   }
-  void ITestContainer_Remove(std::shared_ptr<orvik::ITestElement>) override {}
-
-  std::vector<std::shared_ptr<orvik::ITestElement>> children_;
 };
 
 }  // namespace
 
 class SequenceSummaryTest : public support::ModelTest {
  protected:
-  static Element WithValue(const orvik::Variant& value, std::int32_t status = 1) {
-    static std::int32_t id = 1;
-    const auto element = MakeTest(210, id++);
+  static Element WithStatus(std::int32_t status) {
+    const auto element = MakeTest(210);
+    const auto result = CKELDResultData::Create();
+    result->SetStatus(status);
+    Base(element).SetResult(result);
+    return element;
+  }
+  static Element WithValue(const orvik::Variant& value) {
+    const auto element = WithStatus(1);
     const auto measurement = CKELDMeasurement::Create();
     measurement->AddValue(value, "", "", "");
-    const auto result = CKELDResultData::Create();
-    result->SetMeasurement(measurement);
-    result->SetStatus(status);
-    Base(element).SetResult(result);
+    orvik::As<CKELDResultData>(element->Result())->SetMeasurement(measurement);
     return element;
   }
-  static Element WithStatus(std::int32_t status) {
-    static std::int32_t id = 1000;
-    const auto element = MakeTest(210, id++);
-    const auto result = CKELDResultData::Create();
-    result->SetStatus(status);
-    Base(element).SetResult(result);
-    return element;
+  /// A child whose result cannot be read.
+  Element Broken() { return std::make_shared<support::FailingElement>(bench.Host().Elements()); }
+  /// The children in a container, with an enumeration that fails at its end if `breaks`.
+  std::shared_ptr<orvik::ITestContainer> Of(const std::vector<Element>& children, bool breaks = false) {
+    if (!breaks) return Container(MakeSequence(children));
+    const std::shared_ptr<orvik::ITestContainer> container =
+        std::make_shared<BreakingContainer>(bench.Host().Elements());
+    for (const auto& child : children) container->Add(child, {}, {});
+    return container;
   }
-  static orvik::Variant Summary(const std::vector<Element>& children, std::int32_t mode) {
-    return SummaryValue(*Container(MakeSequence(children)), mode);
-  }
-  static std::int32_t StatusOf(const std::vector<Element>& children) {
-    return ChildrenStatus(*Container(MakeSequence(children)));
-  }
-  static Element Broken() {
-    const auto element = MakeTest(210, 2000);
-    Base(element).SetResult(std::make_shared<BrokenResult>());
-    return element;
-  }
-  const orvik::Variant none = std::string();
 };
 
-TEST_F(SequenceSummaryTest, FindsTheHighestAndTheLowestValue) {
-  const std::vector<Element> children{WithValue(5.0), WithValue(12.0), WithValue(7.0)};
-  EXPECT_EQ(Summary(children, 3), orvik::Variant(12.0));
-  EXPECT_EQ(Summary(children, 4), orvik::Variant(5.0));
+TEST_F(SequenceSummaryTest, ValueIsTheHighestOrLowestOfTheChildren) {
+  struct Row {
+    const char* name;
+    std::vector<Element> children;
+    orvik::Variant highest = std::string();
+    orvik::Variant lowest = std::string();
+  };
+  const auto text = [](const char* value) { return orvik::Variant(std::string(value)); };
+  const std::vector<Row> rows = {
+      {"several values", {WithValue(5.0), WithValue(12.0), WithValue(7.0)}, 12.0, 5.0},
+      {"children without a value",
+       {MakeTest(210), WithStatus(3), WithValue(text("")), WithValue(-7.0)},
+       -7.0,
+       -7.0},
+      {"no value", {MakeTest(210), WithStatus(1)}},
+      {"no children", {}},
+      {"the start of the search for the highest", {WithValue(-1073741824.0)}, text(""), -1073741824.0},
+      {"the start of the search for the lowest", {WithValue(1073741824.0)}, 1073741824.0, text("")},
+      {"beyond the start of the search", {WithValue(2e9)}, 2e9, text("")},
+      {"just inside the start of the search", {WithValue(-1073741823.0)}, -1073741823.0, -1073741823.0},
+      {"a result that cannot be read", {Broken(), WithValue(5.0)}, 5.0, 5.0},
+      {"a text, by its number", {WithValue(text("12.5")), WithValue(7.0)}, 12.5, 7.0}};
+  for (const Row& row : rows) {
+    const auto container = Of(row.children);
+    EXPECT_EQ(SummaryValue(*container, 3), row.highest) << row.name;
+    EXPECT_EQ(SummaryValue(*container, 4), row.lowest) << row.name;
+    for (const std::int32_t mode : {0, 1, 2, 5, -1})
+      EXPECT_EQ(SummaryValue(*container, mode), text("")) << row.name << ", mode " << mode;
+  }
 }
 
-TEST_F(SequenceSummaryTest, OtherModesHaveNoValue) {
-  for (const std::int32_t mode : {0, 1, 2, 5, -1}) EXPECT_EQ(Summary({WithValue(5.0)}, mode), none) << mode;
-}
-
-TEST_F(SequenceSummaryTest, ChildrenWithoutAValueAreLeftOut) {
-  const std::vector<Element> children{MakeTest(210, 1), WithStatus(3), WithValue(std::string()),
-                                      WithValue(-7.0)};
-  EXPECT_EQ(Summary(children, 3), orvik::Variant(-7.0));
-  EXPECT_EQ(Summary(children, 4), orvik::Variant(-7.0));
-}
-
-TEST_F(SequenceSummaryTest, WithoutAnyValueTheSummaryIsTheEmptyText) {
-  EXPECT_EQ(Summary({MakeTest(210, 1), WithStatus(1)}, 3), none);
-  EXPECT_EQ(Summary({MakeTest(210, 1), WithStatus(1)}, 4), none);
-  EXPECT_EQ(Summary({}, 3), none);
-}
-
-TEST_F(SequenceSummaryTest, AValueAtTheStartingPointIsNeverTaken) {
-  EXPECT_EQ(Summary({WithValue(-1073741824.0)}, 3), none);
-  EXPECT_EQ(Summary({WithValue(1073741824.0)}, 4), none);
-  EXPECT_EQ(Summary({WithValue(2e9)}, 4), none);
-  EXPECT_EQ(Summary({WithValue(-1073741823.0)}, 3), orvik::Variant(-1073741823.0));
-}
-
-TEST_F(SequenceSummaryTest, OneFailedChildFailsTheSequence) {
-  EXPECT_EQ(StatusOf({WithStatus(1), WithStatus(2), WithStatus(1)}), 2);
-}
-
-TEST_F(SequenceSummaryTest, OnePassedChildPassesIt) {
-  EXPECT_EQ(StatusOf({WithStatus(3), WithStatus(1), WithStatus(0)}), 1);
-}
-
-TEST_F(SequenceSummaryTest, OnlyNotApplicableChildrenMakeItNotApplicable) {
-  EXPECT_EQ(StatusOf({WithStatus(3), WithStatus(3)}), 3);
-  EXPECT_EQ(StatusOf({WithStatus(3), MakeTest(210, 5)}), 3);
-}
-
-TEST_F(SequenceSummaryTest, WithoutAnyOutcomeItIsNotTested) {
-  EXPECT_EQ(StatusOf({}), 0);
-  EXPECT_EQ(StatusOf({MakeTest(210, 1), WithStatus(0), WithStatus(4)}), 0);
-}
-
-TEST_F(SequenceSummaryTest, AnOutcomeThatCannotBeReadIsNeverAPass) {
-  EXPECT_EQ(StatusOf({WithStatus(1), Broken()}), 0);
-  EXPECT_EQ(StatusOf({Broken(), WithStatus(3)}), 0);
-  EXPECT_EQ(ChildrenStatus(BreaksOff({WithStatus(1)})), 0);
-}
-
-TEST_F(SequenceSummaryTest, AFailedChildCountsBesideOneThatCannotBeRead) {
-  EXPECT_EQ(StatusOf({Broken(), WithStatus(2)}), 2);
-  EXPECT_EQ(ChildrenStatus(BreaksOff({WithStatus(2)})), 2);
-}
-
-TEST_F(SequenceSummaryTest, AValueThatCannotBeReadIsLeftOut) {
-  EXPECT_EQ(Summary({Broken(), WithValue(5.0)}, 3), orvik::Variant(5.0));
-}
-
-TEST_F(SequenceSummaryTest, ValuesThatAreTextsCountByTheirNumber) {
-  EXPECT_EQ(Summary({WithValue(std::string("12.5")), WithValue(7.0)}, 3), orvik::Variant(12.5));
+TEST_F(SequenceSummaryTest, StatusFollowsFromTheChildren) {
+  struct Row {
+    const char* name;
+    std::vector<Element> children;
+    std::int32_t status;
+    bool breaks = false;
+  };
+  const std::vector<Row> rows = {{"one failed", {WithStatus(1), WithStatus(2), WithStatus(1)}, 2},
+                                 {"one passed", {WithStatus(3), WithStatus(1), WithStatus(0)}, 1},
+                                 {"all not applicable", {WithStatus(3), WithStatus(3)}, 3},
+                                 {"not applicable or without a result", {WithStatus(3), MakeTest(210)}, 3},
+                                 {"no children", {}, 0},
+                                 {"no outcome", {MakeTest(210), WithStatus(0), WithStatus(4)}, 0},
+                                 {"passed beside an unreadable result", {WithStatus(1), Broken()}, 0},
+                                 {"not applicable beside an unreadable result", {Broken(), WithStatus(3)}, 0},
+                                 {"passed, then the enumeration fails", {WithStatus(1)}, 0, true},
+                                 {"failed beside an unreadable result", {Broken(), WithStatus(2)}, 2},
+                                 {"failed, then the enumeration fails", {WithStatus(2)}, 2, true}};
+  for (const Row& row : rows)
+    EXPECT_EQ(ChildrenStatus(*Of(row.children, row.breaks)), row.status) << row.name;
 }
 
 }  // namespace keld
