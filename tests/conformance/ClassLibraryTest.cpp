@@ -38,7 +38,7 @@ TEST_P(ClassLibrary, RefusesIndexesOutside) {
   }
 }
 
-TEST_P(ClassLibrary, CreatesEveryClassUnderItsOwnIdentifierAndInAnyCase) {
+TEST_P(ClassLibrary, CreatesEveryClassInAnyCase) {
   auto& classes = library_.Classes();
   for (std::int32_t index = 1; index <= classes.Count(); ++index) {
     auto id = classes.ClassIdentifier(index);
@@ -51,7 +51,7 @@ TEST_P(ClassLibrary, CreatesEveryClassUnderItsOwnIdentifierAndInAnyCase) {
   }
 }
 
-TEST_P(ClassLibrary, AnswersEmptyForUnknownIdentifiers) {
+TEST_P(ClassLibrary, CreatesNothingForUnknownIdentifiers) {
   for (const std::string id : {"", ".", "orvikKELD", "orvikKELD.", "orvikKELD.CKELDPlugi",
                                "OrvikTypeLib.TestElement", "\xFF\xFE", "a\nb"}) {
     EXPECT_FALSE(library_.Classes().CreateObject(id)) << id;
@@ -92,13 +92,13 @@ class EntryPoints : public testing::TestWithParam<Subject> {
 };
 FOR_EVERY_PLUG_IN(EntryPoints);
 
-TEST_P(EntryPoints, AreAllThatTheLibraryExports) {
+TEST_P(EntryPoints, AreTheOnlyExports) {
   EXPECT_EQ(ExportedNames(GetParam().path),
             (std::set<std::string>{orvik::kContractVersionEntry, orvik::kOpenLibraryEntry,
                                    orvik::kCloseLibraryEntry}));
 }
 
-TEST_P(EntryPoints, TellTheContractVersion) {
+TEST_P(EntryPoints, ReturnTheContractVersion) {
   const auto version = Find<orvik::ContractVersionEntry>(orvik::kContractVersionEntry);
   ASSERT_TRUE(version);
   EXPECT_EQ(version(), orvik::kContractVersion);
@@ -119,7 +119,7 @@ TEST_P(EntryPoints, CloseMoreThanOnce) {
   EXPECT_NO_THROW(close());
 }
 
-TEST_P(EntryPoints, LetGoOfTheHostWhenTheyClose) {
+TEST_P(EntryPoints, ReleaseTheHostOnClose) {
   std::weak_ptr<bench::headless::Application> watched;
   {
     const support::TemporaryFolder folder;

@@ -34,7 +34,7 @@ TEST_P(Container, GivesNothingOutsideItsBounds) {
   }
 }
 
-TEST_P(Container, LetsNothingButHostErrorsCrossForWrongArguments) {
+TEST_P(Container, RaisesOnlyHostErrorsForWrongArguments) {
   const auto tests = library_.PlugIn()->Tests();
   const auto before = Identifiers(*tests);
   EXPECT_TRUE(OnlyHostErrorCrosses([&] { tests->Add(nullptr, {}, {}); }));

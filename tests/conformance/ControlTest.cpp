@@ -42,7 +42,7 @@ class Controls : public EveryPlugIn {
 };
 FOR_EVERY_PLUG_IN(Controls);
 
-TEST_P(Controls, CanBePlacedShownResizedAndLetGo) {
+TEST_P(Controls, ArePlacedShownResizedAndReleased) {
   const auto identifiers = Identifiers();
   ASSERT_FALSE(identifiers.empty());
   for (const auto& id : identifiers) {
@@ -66,7 +66,7 @@ TEST_P(Controls, CanBePlacedShownResizedAndLetGo) {
   }
 }
 
-TEST_P(Controls, AnswerBeforeDuringAndAfterTheyArePlaced) {
+TEST_P(Controls, WorkBeforeDuringAndAfterPlacement) {
   const auto stranger = library_.NewTest();
   for (const auto& id : Identifiers()) {
     SCOPED_TRACE(id);
@@ -86,7 +86,7 @@ TEST_P(Controls, AnswerBeforeDuringAndAfterTheyArePlaced) {
   }
 }
 
-TEST_P(Controls, GoWithTheirForm) {
+TEST_P(Controls, AreReleasedWithTheirForm) {
   for (const auto& id : Identifiers()) {
     auto form = library_.Application().CreateForm("FControls");
     form->Show();

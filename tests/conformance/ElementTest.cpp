@@ -69,7 +69,7 @@ TEST_P(Element, DoesNotKeepItsParentAlive) {
   EXPECT_FALSE(element->Parent());
 }
 
-TEST_P(Element, GoesWithItsLastReference) {
+TEST_P(Element, IsReleasedWithItsLastReference) {
   auto element = Decided();
   const std::weak_ptr<orvik::ITestElement> watched = element;
   const auto copy = element->Clone();
@@ -92,7 +92,7 @@ TEST_P(Element, ClonesDeeplyAndIndependently) {
   ExpectDecided(*element);
 }
 
-TEST_P(Element, ComesBackFromWhatItSaves) {
+TEST_P(Element, LoadsWhatItSaved) {
   const auto element = Decided();
   const auto root = library_.NewNode();
   const auto node = element->Save(root);
@@ -105,7 +105,7 @@ TEST_P(Element, ComesBackFromWhatItSaves) {
   ExpectDecided(*loaded);
 }
 
-TEST_P(Element, AnswersInEveryStateOfItsLife) {
+TEST_P(Element, WorksInEveryStateOfItsLife) {
   const auto fresh = library_.New<orvik::ITestElement>(library_.NewTest()->ClassID());
   for (const auto& element : {fresh, library_.NewTest(), Decided()}) {
     EXPECT_TRUE(OnlyHostErrorCrosses([&] { element->UpdateReferences(); }));
@@ -119,7 +119,7 @@ TEST_P(Element, AnswersInEveryStateOfItsLife) {
   }
 }
 
-TEST_P(Element, LetsNothingButHostErrorsCrossForWrongArguments) {
+TEST_P(Element, RaisesOnlyHostErrorsForWrongArguments) {
   const auto element = Decided();
   EXPECT_TRUE(OnlyHostErrorCrosses([&] { element->Load(nullptr, nullptr); }));
   EXPECT_TRUE(OnlyHostErrorCrosses([&] { element->Save(nullptr); }));
@@ -131,7 +131,7 @@ TEST_P(Element, LetsNothingButHostErrorsCrossForWrongArguments) {
 
 class MalformedNode : public testing::TestWithParam<std::tuple<Subject, NamedText>> {};
 
-TEST_P(MalformedNode, LetsNothingButHostErrorsCross) {
+TEST_P(MalformedNode, RaisesOnlyHostErrors) {
   LoadedLibrary library(std::get<0>(GetParam()));
   const auto node = library.Parsed(std::get<1>(GetParam()).text);
   const auto element = library.NewTest();
@@ -172,7 +172,7 @@ TEST_P(Element, PrintsIntoAReport) {
   EXPECT_FALSE(report->Tables().empty());
 }
 
-TEST_F(KeldPlugInLoaded, ElementsShowTheHostNoError) {
+TEST_F(KeldPlugInLoaded, ElementsRaiseNoErrors) {
   for (const std::int32_t testId : {410, 400}) {
     const auto element = library_.NewTest(testId);
     EXPECT_NO_THROW(element->Load(nullptr, nullptr));

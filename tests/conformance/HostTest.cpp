@@ -96,7 +96,7 @@ TEST_F(ReferenceRun, ControlsRuns) {
   EXPECT_EQ(instruments_->Count(), 1);
 }
 
-TEST_F(ReferenceRun, RefusesNavigationThatThereIsNot) {
+TEST_F(ReferenceRun, RejectsUnknownNavigationRequests) {
   orvik::IRunController& controller = *controller_;
   controller.NavigationRequest(3);
   for (const std::int32_t code : {-1, 5, std::numeric_limits<std::int32_t>::max()}) {
@@ -131,7 +131,7 @@ TEST_F(ReferenceRun, RunsAPlugInsElement) {
 }
 
 /// The host's limit view on limits of the plug-in's own, edited by hand.
-TEST(ReferenceLimitView, TellsItsCallBackOfAnEdit) {
+TEST(ReferenceLimitView, NotifiesItsCallBackOfAnEdit) {
   class Ear final : public orvik::ICallBack {
    public:
     std::vector<std::string> heard;
@@ -160,7 +160,7 @@ TEST(ReferenceLimitView, TellsItsCallBackOfAnEdit) {
   form->Unload();
 }
 
-TEST_F(ReferenceHost, RefusesFilesThatAreNoPlugIns) {
+TEST_F(ReferenceHost, RejectsFilesThatAreNotPlugIns) {
   auto& host = library_.Host();
   for (const std::string path : {"/", "no such file", "/dev/null", CATALOGUE_PATH}) {
     EXPECT_EQ(ErrorNumberOf([&] { host.OpenPlugIn(path); }), orvik::HostError::kClassNotRegistered) << path;

@@ -14,7 +14,7 @@ constexpr std::int32_t kNoTests[] = {
 class PlugIn : public EveryPlugIn {};
 FOR_EVERY_PLUG_IN(PlugIn);
 
-TEST_P(PlugIn, TellsWhoItIs) {
+TEST_P(PlugIn, HasIdentityAndVersion) {
   const auto& plugIn = library_.PlugIn();
   EXPECT_EQ(plugIn->ID(), GetParam().plugInId);
   EXPECT_FALSE(plugIn->Name().empty());
@@ -24,7 +24,7 @@ TEST_P(PlugIn, TellsWhoItIs) {
   EXPECT_EQ(plugIn->ClassID(), library_.PlugInClass());
 }
 
-TEST_P(PlugIn, AnswersBeforeItIsInitialised) {
+TEST_P(PlugIn, WorksBeforeInitialize) {
   const auto fresh = library_.New<orvik::IPlugIn>(library_.PlugInClass());
   EXPECT_EQ(fresh->Flags(), 0);
   EXPECT_EQ(fresh->ID(), GetParam().plugInId);
@@ -34,7 +34,7 @@ TEST_P(PlugIn, AnswersBeforeItIsInitialised) {
   EXPECT_FALSE(fresh->CreateTest(GetParam().testId));
 }
 
-TEST_P(PlugIn, TakesAnyContextAndBuildsAllAnew) {
+TEST_P(PlugIn, InitializeRebuildsEverything) {
   const auto& plugIn = library_.PlugIn();
   const auto before = plugIn->Tests();
   const auto count = before->Count();
@@ -87,7 +87,7 @@ TEST_P(PlugIn, HasPicturesOrNoneForAnyTestAndStyle) {
   }
 }
 
-TEST_P(PlugIn, AnswersForWhatItDoesNotHave) {
+TEST_P(PlugIn, ReturnsNothingForMissingParts) {
   const auto& plugIn = library_.PlugIn();
   EXPECT_NO_THROW(plugIn->ControlPanel());
   EXPECT_NO_THROW(plugIn->CreateDUTData());
@@ -95,7 +95,7 @@ TEST_P(PlugIn, AnswersForWhatItDoesNotHave) {
   EXPECT_NO_THROW(plugIn->Setup());
 }
 
-TEST_P(PlugIn, EndsWithoutTakingItsElementsAlong) {
+TEST_P(PlugIn, IsReleasedIndependentlyOfItsElements) {
   auto fresh = library_.New<orvik::IPlugIn>(library_.PlugInClass());
   fresh->Initialize(nullptr);
   const auto element = fresh->CreateTest(GetParam().testId);

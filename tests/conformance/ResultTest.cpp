@@ -33,7 +33,7 @@ TEST_P(Result, StartsAsNotTested) {
   EXPECT_EQ(result->Comment(), "");
 }
 
-TEST_P(Result, ComesBackFromWhatItSaves) {
+TEST_P(Result, LoadsWhatItSaved) {
   const auto result = Loaded(
       "<ResultItem><Status>2</Status><ServiceRecord Name='n' Code='F' "
       "Value='/1'/><Comment>c</Comment></ResultItem>");
@@ -51,7 +51,7 @@ TEST_P(Result, ComesBackFromWhatItSaves) {
   EXPECT_EQ(again->ServiceRecord()->Code(), "F");
 }
 
-TEST_P(Result, LetsNothingButHostErrorsCrossForWrongArguments) {
+TEST_P(Result, RaisesOnlyHostErrorsForWrongArguments) {
   const auto result = Loaded("<ResultItem/>");
   EXPECT_TRUE(OnlyHostErrorCrosses([&] { result->Load(nullptr, nullptr); }));
   EXPECT_TRUE(OnlyHostErrorCrosses([&] { result->Save(nullptr); }));
@@ -65,7 +65,7 @@ TEST_P(Result, LetsNothingButHostErrorsCrossForWrongArguments) {
     EXPECT_TRUE(OnlyHostErrorCrosses([&] { result->Measurement(index); })) << index;
 }
 
-TEST_P(Result, PrintsWhatWasTypedAsText) {
+TEST_P(Result, PrintsTheCommentAsText) {
   const auto result = Loaded("<ResultItem><Status>2</Status><Comment>|;{}</Comment></ResultItem>");
   EXPECT_NO_THROW(result->PrintReport(std::make_shared<bench::ReportObject>(), element_));
 }

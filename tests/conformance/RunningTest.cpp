@@ -52,7 +52,7 @@ class Running : public KeldPlugInLoaded {
   platform::Subscription shown_;
 };
 
-TEST_F(Running, MeasuresJudgesAndTells) {
+TEST_F(Running, MeasuresJudgesAndNotifies) {
   const auto element = library_.NewTest(410);
   Perform(element);
   const auto result = element->Result();

@@ -16,14 +16,14 @@ class CallBackOnly : public virtual ICallBack {
   void ICallBack_Notify(const std::string&) override {}
 };
 
-TEST(As, GivesAnotherViewOfTheSameObject) {
+TEST(As, GivesAnotherInterfaceOfTheObject) {
   const std::shared_ptr<ICallBack> object = std::make_shared<Listener>();
   const auto view = As<ITgToolbarEvents>(object);
   ASSERT_TRUE(view);
   EXPECT_EQ(As<ICallBack>(view), object);
 }
 
-TEST(As, IsEmptyWithoutThatView) {
+TEST(As, IsEmptyWithoutThatInterface) {
   const std::shared_ptr<ICallBack> object = std::make_shared<CallBackOnly>();
   EXPECT_FALSE(As<ITgToolbarEvents>(object));
 }
@@ -46,9 +46,9 @@ void ExpectError91(const Reference& reference) {
   }
 }
 
-TEST(Required, RefusesAnEmptyReference) { ExpectError91(std::shared_ptr<ICallBack>()); }
+TEST(Required, RejectsAnEmptyReference) { ExpectError91(std::shared_ptr<ICallBack>()); }
 
-TEST(Required, RefusesAnOwnerThatIsGone) {
+TEST(Required, RejectsAReleasedOwner) {
   std::weak_ptr<ICallBack> gone;
   {
     const std::shared_ptr<ICallBack> object = std::make_shared<CallBackOnly>();

@@ -16,7 +16,7 @@ namespace {
 constexpr std::int32_t kLowest = std::numeric_limits<std::int32_t>::min();
 constexpr std::int32_t kHighest = std::numeric_limits<std::int32_t>::max();
 
-TEST(Trim, TakesBlanksAtBothEndsOnly) {
+TEST(Trim, RemovesBlanksAtBothEndsOnly) {
   EXPECT_EQ(Trim(""), "");
   EXPECT_EQ(Trim("   "), "");
   EXPECT_EQ(Trim("a"), "a");
@@ -44,7 +44,7 @@ TEST(LeadingNumber, TooLargeIsTheLargestAndTooSmallIsZero) {
   EXPECT_EQ(LeadingNumber("-1E-999"), 0);
 }
 
-TEST(LeadingNumber, TellsTooLargeFromTooSmallByItsMagnitude) {
+TEST(LeadingNumber, DistinguishesTooLargeFromTooSmall) {
   constexpr double kLargest = std::numeric_limits<double>::max();
   const std::string zeros(400, '0');
   const std::vector<std::pair<std::string, double>> table = {
@@ -122,7 +122,7 @@ TEST(WholeNumberText, RoundsHalvesAwayFromZero) {
   EXPECT_EQ(WholeNumberText(std::numeric_limits<double>::max()).size(), 309U);
 }
 
-TEST(NumericValue, TakesNumbersAndLeadingNumbers) {
+TEST(NumericValue, ReadsNumbersAndLeadingNumbers) {
   EXPECT_EQ(NumericValue(Variant{}), 0);
   EXPECT_EQ(NumericValue(std::int32_t{7}), 7);
   EXPECT_EQ(NumericValue(0.25), 0.25);
@@ -138,7 +138,7 @@ TEST(TextOf, ShowsEveryKindOfValue) {
   EXPECT_EQ(TextOf(std::vector<std::string>{"a"}), "");
 }
 
-TEST(FormatValue, KnowsTheWholeNumberFormatOnly) {
+TEST(FormatValue, SupportsTheWholeNumberFormatOnly) {
   EXPECT_EQ(FormatValue(0.5, "0"), "1");
   EXPECT_EQ(FormatValue(std::string("12.7 mA"), "0"), "13");
   EXPECT_EQ(FormatValue(0.5, ""), "0.5");
@@ -180,7 +180,7 @@ class CommaLocale {
   std::locale before_;
 };
 
-TEST(Conversions, DoNotLookAtTheLocale) {
+TEST(Conversions, DoNotDependOnTheLocale) {
   const CommaLocale comma;
   EXPECT_EQ(LeadingNumber("1234.5"), 1234.5);
   EXPECT_EQ(LeadingNumber("1,5"), 1);

@@ -35,11 +35,11 @@ class CKELDDataTest : public testing::Test {
   support::HostOnly host_;
 };
 
-TEST_F(CKELDDataTest, IsTheSameForEverybody) {
+TEST_F(CKELDDataTest, IsOneObjectForTheProcess) {
   EXPECT_EQ(keld::CKELDData::Shared(), keld::CKELDData::Shared());
 }
 
-TEST_F(CKELDDataTest, KnowsNoTesterAtFirst) {
+TEST_F(CKELDDataTest, HasNoTesterAtFirst) {
   const auto data = keld::CKELDData::Shared();
   EXPECT_EQ(data->SerialNumber(), "");
   EXPECT_EQ(data->MTIType(), "KELD(IN)");
@@ -56,7 +56,7 @@ TEST_F(CKELDDataTest, StartsWithTheTesterSeenLast) {
   EXPECT_EQ(data->CalibValue(), 35);
 }
 
-TEST_F(CKELDDataTest, ASerialNumberBringsItsCalibrationAndIsRemembered) {
+TEST_F(CKELDDataTest, SerialNumberLoadsItsCalibrationAndIsStored) {
   Write(kInstruments, "4711", 35);
   const auto data = keld::CKELDData::Shared();
   data->SetSerialNumber("4711");
@@ -67,7 +67,7 @@ TEST_F(CKELDDataTest, ASerialNumberBringsItsCalibrationAndIsRemembered) {
   EXPECT_EQ(Read(kSettings, "LastMTI"), Variant(std::string("never calibrated")));
 }
 
-TEST_F(CKELDDataTest, AnEmptySerialNumberIsNotRemembered) {
+TEST_F(CKELDDataTest, EmptySerialNumberIsNotStored) {
   Write(kInstruments, "4711", 35);
   const auto data = keld::CKELDData::Shared();
   data->SetSerialNumber("4711");
@@ -92,7 +92,7 @@ TEST_F(CKELDDataTest, ACalibrationValueIsStoredUnderTheSerialNumber) {
   EXPECT_EQ(data->CalibValue(), 42);
 }
 
-TEST_F(CKELDDataTest, AStoredValueThatIsNoNumberReadsAsZero) {
+TEST_F(CKELDDataTest, StoredValueThatIsNotANumberIsZero) {
   Write(kInstruments, "1", std::string("abc"));
   Write(kInstruments, "2", std::string("99999999999"));
   Write(kInstruments, "3", std::string("35"));
@@ -104,7 +104,7 @@ TEST_F(CKELDDataTest, AStoredValueThatIsNoNumberReadsAsZero) {
   }
 }
 
-TEST_F(CKELDDataTest, TheIdentityIsTakenFromTheReply) {
+TEST_F(CKELDDataTest, IdentityComesFromTheReply) {
   Write(kInstruments, "4711", 35);
   const auto data = keld::CKELDData::Shared();
   data->TakeIdentity(Identity("KELD(IN)-2", "4711", "1.05"));
@@ -114,7 +114,7 @@ TEST_F(CKELDDataTest, TheIdentityIsTakenFromTheReply) {
   EXPECT_EQ(data->CalibValue(), 35);
 }
 
-TEST_F(CKELDDataTest, AnEmptySerialNumberInTheReplyKeepsTheOldOne) {
+TEST_F(CKELDDataTest, EmptySerialNumberInTheReplyKeepsTheOldOne) {
   const auto data = keld::CKELDData::Shared();
   data->SetSerialNumber("4711");
   data->SetCalibValue(35);
@@ -125,7 +125,7 @@ TEST_F(CKELDDataTest, AnEmptySerialNumberInTheReplyKeepsTheOldOne) {
   EXPECT_EQ(data->FirmwareVersion(), "2.0");
 }
 
-TEST_F(CKELDDataTest, AMissingSerialNumberReadsNoValueAndIsTaken) {
+TEST_F(CKELDDataTest, MissingSerialNumberIsNoValue) {
   const auto data = keld::CKELDData::Shared();
   data->TakeIdentity(Identity("KELD(IN)", "NO VALUE", "NO VALUE"));
   EXPECT_EQ(data->SerialNumber(), "NO VALUE");
@@ -163,7 +163,7 @@ TEST_F(CKELDDataTest, TheTesterGetsARecordAndKeepsIt) {
   EXPECT_EQ(record->Property("calib"), "-7");
 }
 
-TEST_F(CKELDDataTest, OnlyTypeAndSerialNumberTogetherMakeARecordItsOwn) {
+TEST_F(CKELDDataTest, RecordIsFoundByTypeAndSerialNumber) {
   const auto instruments = std::make_shared<bench::InstrumentColl>();
   const auto data = keld::CKELDData::Shared();
   data->SetSerialNumber("1");
@@ -176,11 +176,11 @@ TEST_F(CKELDDataTest, OnlyTypeAndSerialNumberTogetherMakeARecordItsOwn) {
   EXPECT_EQ(data->UpdateInstrumentRecord(instruments), 2);
 }
 
-TEST_F(CKELDDataTest, WithoutACollectionThereIsNoRecord) {
+TEST_F(CKELDDataTest, NoCollectionGivesNoRecord) {
   EXPECT_EQ(keld::CKELDData::Shared()->UpdateInstrumentRecord(nullptr), 0);
 }
 
-TEST_F(CKELDDataTest, ARegistryThatFailsLeavesTheFields) {
+TEST_F(CKELDDataTest, FailingRegistryKeepsTheFields) {
   const auto data = keld::CKELDData::Shared();
   std::filesystem::create_directories(host_.Folder());
   std::ofstream(host_.Folder() / "registry.json") << "garbled";

@@ -61,7 +61,7 @@ void AtEveryPump(Kind kind, const std::function<void(LinkBench&)>& action,
 
 class ReentryTest : public testing::TestWithParam<Kind> {};
 
-TEST_P(ReentryTest, DisconnectAtEveryPumpEndsTheSessionAndStopsTheRun) {
+TEST_P(ReentryTest, DisconnectEndsSessionAndRun) {
   std::size_t sent = 0;
   milliseconds stopped{};
   AtEveryPump(
@@ -81,7 +81,7 @@ TEST_P(ReentryTest, DisconnectAtEveryPumpEndsTheSessionAndStopsTheRun) {
       });
 }
 
-TEST_P(ReentryTest, DisconnectTwiceAtEveryPumpSendsEverythingOnce) {
+TEST_P(ReentryTest, DisconnectTwiceSendsEverythingOnce) {
   AtEveryPump(
       GetParam(),
       [](LinkBench& link) {
@@ -106,7 +106,7 @@ TEST_P(ReentryTest, DisconnectTwiceAtEveryPumpSendsEverythingOnce) {
       });
 }
 
-TEST_P(ReentryTest, AnotherRunAtEveryPumpStopsTheFirst) {
+TEST_P(ReentryTest, AnotherRunStopsTheFirst) {
   Texts sent;
   AtEveryPump(
       GetParam(),
@@ -123,7 +123,7 @@ TEST_P(ReentryTest, AnotherRunAtEveryPumpStopsTheFirst) {
       });
 }
 
-TEST_P(ReentryTest, ARunAskedForWhileTheSessionEndsIsRefused) {
+TEST_P(ReentryTest, RunDuringDisconnectIsRefused) {
   AtEveryPump(
       GetParam(),
       [&](LinkBench& link) {
@@ -136,7 +136,7 @@ TEST_P(ReentryTest, ARunAskedForWhileTheSessionEndsIsRefused) {
       });
 }
 
-TEST_P(ReentryTest, ReleaseAtEveryPumpTouchesNothingAndTellsNobody) {
+TEST_P(ReentryTest, ReleaseRaisesNoEvents) {
   std::size_t told = 0;
   AtEveryPump(
       GetParam(),
@@ -147,7 +147,7 @@ TEST_P(ReentryTest, ReleaseAtEveryPumpTouchesNothingAndTellsNobody) {
       [&](LinkBench& link) { EXPECT_EQ(link.Raised().size(), told); });
 }
 
-TEST_P(ReentryTest, DisconnectAndReleaseAtEveryPump) {
+TEST_P(ReentryTest, DisconnectAndReleaseEndTheSession) {
   AtEveryPump(
       GetParam(),
       [](LinkBench& link) {
@@ -161,7 +161,7 @@ TEST_P(ReentryTest, DisconnectAndReleaseAtEveryPump) {
       });
 }
 
-TEST_P(ReentryTest, AReconnectedPortHearsNothingOfTheFirstRun) {
+TEST_P(ReentryTest, ReconnectedPortGetsNothingOfTheFirstRun) {
   std::size_t sent = 0;
   AtEveryPump(
       GetParam(),
@@ -173,7 +173,7 @@ TEST_P(ReentryTest, AReconnectedPortHearsNothingOfTheFirstRun) {
       [&](LinkBench& link) { EXPECT_EQ(link.Sent().size(), sent); });
 }
 
-TEST(ReentryOrderTest, ARunAfterDisconnectAndConnectInsideAWaitIsWhole) {
+TEST(ReentryOrderTest, RunAfterReconnectInsideAWaitIsComplete) {
   AtEveryPump(
       Kind::kGood,
       [](LinkBench& link) {
@@ -190,7 +190,7 @@ TEST(ReentryOrderTest, ARunAfterDisconnectAndConnectInsideAWaitIsWhole) {
       });
 }
 
-TEST_P(ReentryTest, UnpluggedAtEveryPumpEndsWithoutAnAnswer) {
+TEST_P(ReentryTest, UnplugEndsTheRunWithoutAnAnswer) {
   AtEveryPump(
       GetParam(), [](LinkBench& link) { link.Bench().Line().Unplug(); },
       [](LinkBench& link) {
@@ -271,7 +271,7 @@ TEST_P(EventReentryTest, AnotherRunFromAHandler) {
 
 INSTANTIATE_TEST_SUITE_P(Events, EventReentryTest, testing::Range(0, 4));
 
-TEST(ReentryOrderTest, AnotherRunKeepsTheSessionThatItLeavesOpen) {
+TEST(ReentryOrderTest, InterruptedRunLeavesTheSessionOpen) {
   LinkBench link;
   link.Link()->ConnectMTI();
   link.At(milliseconds(4000), [&] { link.Link()->RunMtiTest(420, 0); });
@@ -283,7 +283,7 @@ TEST(ReentryOrderTest, AnotherRunKeepsTheSessionThatItLeavesOpen) {
   EXPECT_EQ(link.Sent(), (Texts{"STST,210,0", "EREM"}));
 }
 
-TEST(ReentryOrderTest, EveryHandlerHearsTheIdentityThatTheTesterSent) {
+TEST(ReentryOrderTest, EveryHandlerGetsTheIdentity) {
   LinkBench link;
   link.Link()->ConnectMTI();
   link.Script(GoodAnswers());
@@ -296,7 +296,7 @@ TEST(ReentryOrderTest, EveryHandlerHearsTheIdentityThatTheTesterSent) {
   EXPECT_EQ(heard[1], orvik::Variant(std::string("4711")));
 }
 
-TEST(ReentryOrderTest, ASessionThatIsBeingEnteredIsWaitedForAndEnded) {
+TEST(ReentryOrderTest, DisconnectDuringIremWaitsAndEndsTheSession) {
   LinkBench link;
   link.Link()->ConnectMTI();
   link.Bench().Line().AnswerBy([&](const std::string& command) {
@@ -311,7 +311,7 @@ TEST(ReentryOrderTest, ASessionThatIsBeingEnteredIsWaitedForAndEnded) {
   EXPECT_EQ(link.Raised(), (Texts{"4 210", "2 0", "7 0"}));
 }
 
-TEST(ReentryOrderTest, StrayMessagesDoNotEndTheWaitForASessionThatIsBeingEntered) {
+TEST(ReentryOrderTest, StrayMessagesDoNotEndTheWaitForIrem) {
   for (const Texts& stray : {Texts{"gres,410,0,1,0,Ohm"}, Texts{"stst", "erem", "ERRM,1003"}}) {
     LinkBench link;
     link.Link()->ConnectMTI();
@@ -331,7 +331,7 @@ TEST(ReentryOrderTest, StrayMessagesDoNotEndTheWaitForASessionThatIsBeingEntered
   }
 }
 
-TEST(ReentryOrderTest, AStreamOfStrayMessagesIsWaitedOutNoLongerThanTheTimeOut) {
+TEST(ReentryOrderTest, ManyStrayMessagesDoNotExtendTheTimeOut) {
   LinkBench link;
   link.Link()->ConnectMTI();
   link.Script({});
@@ -344,7 +344,7 @@ TEST(ReentryOrderTest, AStreamOfStrayMessagesIsWaitedOutNoLongerThanTheTimeOut) 
   EXPECT_EQ(link.Raised(), (Texts{"MessageSent 6 0 0", "7 0"}));
 }
 
-TEST(ReentryOrderTest, ACableUnpluggedEndsTheWaitForASessionThatIsBeingEntered) {
+TEST(ReentryOrderTest, UnplugEndsTheWaitForIrem) {
   LinkBench link;
   link.Link()->ConnectMTI();
   link.Script({});
@@ -357,7 +357,7 @@ TEST(ReentryOrderTest, ACableUnpluggedEndsTheWaitForASessionThatIsBeingEntered) 
   EXPECT_EQ(link.Elapsed(), milliseconds(4500));
 }
 
-TEST(ReentryOrderTest, ATesterThatNeverEnteredRemoteModeIsWaitedForNoLongerThanItsTimeOut) {
+TEST(ReentryOrderTest, WaitForIremEndsAtTheTimeOut) {
   LinkBench link;
   link.Link()->ConnectMTI();
   link.Script({});
@@ -367,7 +367,7 @@ TEST(ReentryOrderTest, ATesterThatNeverEnteredRemoteModeIsWaitedForNoLongerThanI
   EXPECT_EQ(link.Raised(), (Texts{"MessageSent 6 0 0", "7 0"}));
 }
 
-TEST(ReentryOrderTest, DisconnectBeforeAnythingWasSentEndsThePauseAtOnce) {
+TEST(ReentryOrderTest, DisconnectInTheFirstPauseEndsIt) {
   LinkBench link;
   link.Link()->ConnectMTI();
   link.At(milliseconds(1000), [&] { link.Link()->DisconnectMTI(); });

@@ -32,7 +32,7 @@ TEST_F(CKELDInstrumentTest, HasNoPortAndNoDataAtFirst) {
   for (int i = 0; i < 5; ++i) EXPECT_EQ(Link().MtiData(i), Text("NO VALUE")) << i;
 }
 
-TEST_F(CKELDInstrumentTest, ItsClockIsAFormThatIsNeverShownAndGoesWithIt) {
+TEST_F(CKELDInstrumentTest, ClockFormIsHiddenAndReleasedWithTheLink) {
   ASSERT_EQ(link_.Application().Forms().size(), 1U);
   EXPECT_EQ(link_.Application().Forms().front()->Name(), "FClock");
   EXPECT_FALSE(link_.Application().Forms().front()->Visible());
@@ -55,7 +55,7 @@ TEST_F(CKELDInstrumentTest, ConnectWithoutAnAssignedPortChangesNothing) {
   EXPECT_TRUE(link_.Bench().Wire().All().empty());
 }
 
-TEST_F(CKELDInstrumentTest, ACompleteRunReportsThreeStates) {
+TEST_F(CKELDInstrumentTest, CompleteRunReportsThreeStates) {
   Link().ConnectMTI();
   Link().RunMtiTest(410, 0);
   EXPECT_EQ(link_.Sent(), (Texts{"IREM", "STST,410,0", "GRES,410,0"}));
@@ -81,7 +81,7 @@ TEST_F(CKELDInstrumentTest, ASecondRunDoesNotEnterRemoteModeAgain) {
   EXPECT_EQ(link_.Raised(), (Texts{"4 610", "5 610"}));
 }
 
-TEST_F(CKELDInstrumentTest, SettingsThatMeanNoLeadGoOutAsZero) {
+TEST_F(CKELDInstrumentTest, SettingsWithoutALeadAreSentAsZero) {
   const std::pair<std::int16_t, const char*> settings[] = {{99, "0"},  {999, "0"},     {9999, "0"},
                                                            {0, "0"},   {1, "1"},       {10, "10"},
                                                            {98, "98"}, {1000, "1000"}, {-5, "-5"}};
@@ -94,7 +94,7 @@ TEST_F(CKELDInstrumentTest, SettingsThatMeanNoLeadGoOutAsZero) {
   }
 }
 
-TEST_F(CKELDInstrumentTest, TheIdentityIsHandedOutBeforeTheState) {
+TEST_F(CKELDInstrumentTest, IdentityIsRaisedBeforeTheState) {
   keld::MtiDataArray data;
   link_.onData = [&](const keld::MtiDataArray& received) { data = received; };
   Link().ConnectMTI();
@@ -141,7 +141,7 @@ TEST_F(CKELDInstrumentTest, TheThirdAttemptMayStillSucceed) {
   EXPECT_EQ(link_.Raised(), (Texts{"GotMtiData", "3 0", "4 410", "5 410"}));
 }
 
-TEST_F(CKELDInstrumentTest, AReplyJustBeforeTheTimeOutCountsAndOneAfterItDoesNot) {
+TEST_F(CKELDInstrumentTest, ReplyCountsUntilTheTimeOut) {
   for (const auto& [delay, sent] : {std::pair{1999, 1U}, std::pair{2001, 2U}}) {
     LinkBench link;
     link.Link()->ConnectMTI();
@@ -156,7 +156,7 @@ TEST_F(CKELDInstrumentTest, AReplyJustBeforeTheTimeOutCountsAndOneAfterItDoesNot
   }
 }
 
-TEST_F(CKELDInstrumentTest, AReplyToAnotherCommandEndsTheExchangeAtOnce) {
+TEST_F(CKELDInstrumentTest, ReplyToAnotherCommandEndsTheExchange) {
   Link().ConnectMTI();
   for (const std::string reply : {"stst", "IREM", "Irem", "errm,1003", "iremx", "hello,1,2"}) {
     link_.Restart();
@@ -179,7 +179,7 @@ TEST_F(CKELDInstrumentTest, AnUnexpectedReplyKeepsRemoteModeAndTheData) {
   EXPECT_EQ(link_.Sent().front(), "STST,410,0");
 }
 
-TEST_F(CKELDInstrumentTest, AReplyThatCameDuringThePauseIsLookedAtAfterTheCommand) {
+TEST_F(CKELDInstrumentTest, ReplyDuringThePauseCountsAfterTheCommand) {
   Link().ConnectMTI();
   link_.Script({});
   link_.At(milliseconds(1000), [&] { link_.Bench().Line().Reply("irem,A,B,C"); });
@@ -196,7 +196,7 @@ TEST_F(CKELDInstrumentTest, AReplyThatCameDuringThePauseIsLookedAtAfterTheComman
   EXPECT_EQ(link_.Raised(), (Texts{"GotMtiData", "3 0"}));
 }
 
-TEST_F(CKELDInstrumentTest, AnExchangeConsumesOneMessageAndLeavesTheOthers) {
+TEST_F(CKELDInstrumentTest, ExchangeConsumesOneMessage) {
   Link().ConnectMTI();
   auto answers = GoodAnswers();
   answers["IREM"] = {"irem,A,B,C\r\nirem,D,E,F"};
@@ -228,7 +228,7 @@ TEST_F(CKELDInstrumentTest, DisconnectEndsTheSessionAndClosesThePort) {
   EXPECT_EQ(link_.Raised(), (Texts{"MessageSent 6 0 0"}));
 }
 
-TEST_F(CKELDInstrumentTest, DisconnectWithoutASessionClosesThePortAllTheSame) {
+TEST_F(CKELDInstrumentTest, DisconnectWithoutASessionClosesThePort) {
   Link().ConnectMTI();
   Link().DisconnectMTI();
   EXPECT_EQ(link_.Raised(), (Texts{"MessageSent 6 0 0"}));
@@ -237,12 +237,12 @@ TEST_F(CKELDInstrumentTest, DisconnectWithoutASessionClosesThePortAllTheSame) {
   EXPECT_EQ(link_.Elapsed(), milliseconds(0));
 }
 
-TEST_F(CKELDInstrumentTest, DisconnectBeforeConnectDoesNoHarm) {
+TEST_F(CKELDInstrumentTest, DisconnectBeforeConnectIsAllowed) {
   Link().DisconnectMTI();
   EXPECT_EQ(link_.Raised(), (Texts{"MessageSent 6 0 0"}));
 }
 
-TEST_F(CKELDInstrumentTest, DisconnectGivesAMuteTesterBothCommands) {
+TEST_F(CKELDInstrumentTest, DisconnectSendsBothCommandsToAMuteTester) {
   EnterRemote();
   link_.Script({});
   Link().DisconnectMTI();
@@ -262,7 +262,7 @@ TEST_F(CKELDInstrumentTest, ALinkCanBeConnectedAgain) {
   EXPECT_EQ(link_.Raised(), (Texts{"GotMtiData", "3 0", "4 410", "5 410"}));
 }
 
-TEST_F(CKELDInstrumentTest, AnUnpluggedCableEndsTheWaitAtOnce) {
+TEST_F(CKELDInstrumentTest, UnplugEndsTheWaitImmediately) {
   Link().ConnectMTI();
   link_.Script({});
   link_.At(milliseconds(4000), [&] { link_.Bench().Line().Unplug(); });
@@ -272,7 +272,7 @@ TEST_F(CKELDInstrumentTest, AnUnpluggedCableEndsTheWaitAtOnce) {
   EXPECT_EQ(link_.Elapsed(), milliseconds(4000));
 }
 
-TEST_F(CKELDInstrumentTest, ACableUnpluggedDuringThePauseIsNoticedAfterIt) {
+TEST_F(CKELDInstrumentTest, UnplugDuringThePauseEndsTheRunAfterIt) {
   EnterRemote();
   link_.At(milliseconds(1000), [&] { link_.Bench().Line().Unplug(); });
   Link().RunMtiTest(410, 0);
@@ -281,7 +281,7 @@ TEST_F(CKELDInstrumentTest, ACableUnpluggedDuringThePauseIsNoticedAfterIt) {
   EXPECT_EQ(link_.Elapsed(), milliseconds(3500));
 }
 
-TEST_F(CKELDInstrumentTest, APortThatCannotBeOpenedAnswersLikeAClosedOne) {
+TEST_F(CKELDInstrumentTest, PortThatCannotBeOpenedCountsAsClosed) {
   const auto other = keld::CKELDInstrument::Create();
   other->ConnectMTI();  // holds the line
   Link().ConnectMTI();
@@ -292,7 +292,7 @@ TEST_F(CKELDInstrumentTest, APortThatCannotBeOpenedAnswersLikeAClosedOne) {
   EXPECT_EQ(link_.Elapsed(), milliseconds(3500));
 }
 
-TEST_F(CKELDInstrumentTest, TheTestNumberGoesWithEveryStateOfATest) {
+TEST_F(CKELDInstrumentTest, EveryStateOfATestHasItsNumber) {
   Link().ConnectMTI();
   link_.Script({{"IREM", {"irem"}}, {"STST", {"ERRM,6002"}}});
   Link().RunMtiTest(-1, 0);

@@ -59,7 +59,7 @@ TEST_F(CKELDMeasurementTest, IsEmptyAtFirst) {
   EXPECT_EQ(measurement_->ClassID(), "orvikKELD.CKELDMeasurement");
 }
 
-TEST_F(CKELDMeasurementTest, AnswersItsConstants) {
+TEST_F(CKELDMeasurementTest, HasConstantProperties) {
   measurement_->AddValue(5.0, "V", "O", "");
   const std::shared_ptr<orvik::IMeasurement> measurement = measurement_;
   EXPECT_EQ(measurement->Key(), "::");
@@ -77,7 +77,7 @@ TEST_F(CKELDMeasurementTest, KeepsDescriptionAndStatus) {
   EXPECT_EQ(measurement_->Status(), 2);
 }
 
-TEST_F(CKELDMeasurementTest, AddValueReplacesUnitAndFlagsAndIgnoresTheRest) {
+TEST_F(CKELDMeasurementTest, AddValueReplacesUnitAndFlags) {
   measurement_->AddValue(1, "V", "O", "ignored");
   measurement_->AddValue(2, "mA", "", "ignored");
   EXPECT_EQ(measurement_->value(), Variant(3));
@@ -117,7 +117,7 @@ TEST_F(CKELDMeasurementTest, ValuesAddUp) {
   }
 }
 
-TEST_F(CKELDMeasurementTest, TheReportLineShowsDescriptionWholeNumberAndUnit) {
+TEST_F(CKELDMeasurementTest, ReportLineShowsDescriptionNumberAndUnit) {
   measurement_->SetDescription("20702::No values");
   measurement_->AddValue(12.6, "mOhm", "", "");
   EXPECT_EQ(measurement_->ReportLine(std::make_shared<bench::ReportObject>()), "|      No values|13|mOhm;");
@@ -127,7 +127,7 @@ TEST_F(CKELDMeasurementTest, AnEmptyReportLineKeepsItsCells) {
   EXPECT_EQ(measurement_->ReportLine(std::make_shared<bench::ReportObject>()), "|      ||;");
 }
 
-TEST_F(CKELDMeasurementTest, WhatTheTesterSentIsNeverMarkup) {
+TEST_F(CKELDMeasurementTest, ReportLineEscapesTextsOfTheTester) {
   measurement_->SetDescription("a|b;c");
   measurement_->AddValue(1, "{\\b V}|;", "", "");
   const auto report = std::make_shared<bench::ReportObject>();
@@ -160,7 +160,7 @@ TEST_F(CKELDMeasurementTest, AFreshOneSavesWithoutFlagsAndUnit) {
   EXPECT_NE(saved.find("<Status>0</Status>"), std::string::npos) << saved;
 }
 
-TEST_F(CKELDMeasurementTest, WhatIsSavedIsLoaded) {
+TEST_F(CKELDMeasurementTest, LoadsWhatWasSaved) {
   measurement_->SetDescription("20702::No values");
   measurement_->AddValue(12.5, "mOhm", "O", "");
   measurement_->SetStatus(2);
@@ -190,7 +190,7 @@ TEST_F(CKELDMeasurementTest, ChildrenAreSavedInOrderWithTheirTexts) {
   EXPECT_EQ(children, "Description=20702::No values;Value=12.5;Unit=mOhm;Status=2;");
 }
 
-TEST_F(CKELDMeasurementTest, WithoutThePersistenceServiceTheRestIsSavedAndLoaded) {
+TEST_F(CKELDMeasurementTest, MissingPersistenceServiceKeepsTheRest) {
   host_.SharedHost()->Register(orvik::HostClasses::kPersistence, [] { return nullptr; });
   measurement_->SetDescription("d");
   measurement_->AddValue(12.5, "mOhm", "O", "");
@@ -206,7 +206,7 @@ TEST_F(CKELDMeasurementTest, WithoutThePersistenceServiceTheRestIsSavedAndLoaded
   EXPECT_EQ(measurement_->Flags(), "x");
 }
 
-TEST_F(CKELDMeasurementTest, TheSavedValueHasNoBlanksAround) {
+TEST_F(CKELDMeasurementTest, SavedValueIsTrimmed) {
   measurement_->AddValue(std::string("  1/2 "), "", "", "");
   EXPECT_NE(Saved().find("<Value>1/2</Value>"), std::string::npos);
 }
@@ -231,7 +231,7 @@ TEST_F(CKELDMeasurementTest, AnEmptySavedValueIsNoValue) {
   }
 }
 
-TEST_F(CKELDMeasurementTest, LoadTakesTheLaterOfTwoAndIgnoresOthers) {
+TEST_F(CKELDMeasurementTest, LoadUsesTheLaterOfTwoAndIgnoresOthers) {
   Load(
       "<Measurement><Unit>V</Unit><unit>x</unit><Other>y</Other><Unit>A</Unit><Status>1</Status>"
       "<Status>2</Status></Measurement>");
@@ -240,7 +240,7 @@ TEST_F(CKELDMeasurementTest, LoadTakesTheLaterOfTwoAndIgnoresOthers) {
   EXPECT_EQ(measurement_->value(), Variant{});
 }
 
-TEST_F(CKELDMeasurementTest, LoadWithoutChildrenChangesTheFlagsAlone) {
+TEST_F(CKELDMeasurementTest, LoadWithoutChildrenChangesOnlyTheFlags) {
   measurement_->SetDescription("d");
   measurement_->AddValue(1, "V", "O", "");
   measurement_->SetStatus(1);
@@ -252,21 +252,21 @@ TEST_F(CKELDMeasurementTest, LoadWithoutChildrenChangesTheFlagsAlone) {
   EXPECT_EQ(measurement_->Status(), 1);
 }
 
-TEST_F(CKELDMeasurementTest, AStatusThatIsNoNumberKeepsTheStatus) {
+TEST_F(CKELDMeasurementTest, MalformedStatusKeepsTheStatus) {
   measurement_->SetStatus(2);
   Load("<Measurement><Status>passed</Status><Unit>V</Unit></Measurement>");
   EXPECT_EQ(measurement_->Status(), 2);
   EXPECT_EQ(measurement_->Unit(), "V");
 }
 
-TEST_F(CKELDMeasurementTest, NoNodeChangesNothing) {
+TEST_F(CKELDMeasurementTest, EmptyNodeChangesNothing) {
   measurement_->AddValue(1, "V", "O", "");
   measurement_->Load(nullptr);
   EXPECT_EQ(measurement_->Flags(), "O");
   EXPECT_EQ(measurement_->Save(nullptr), nullptr);
 }
 
-TEST_F(CKELDMeasurementTest, FailsTheLimitsThatItBreaks) {
+TEST_F(CKELDMeasurementTest, FailsExceededLimits) {
   const auto limits = keld::CKELDLimitData::Create();
   limits->AddStandard(Standard("", "200"));
   const auto standards = New<orvik::IStandardColl>(orvik::HostClasses::kStandardColl);
@@ -277,7 +277,7 @@ TEST_F(CKELDMeasurementTest, FailsTheLimitsThatItBreaks) {
   EXPECT_TRUE(measurement_->FailsLimits(limits, standards));
 }
 
-TEST_F(CKELDMeasurementTest, NothingToJudgeByFailsNothing) {
+TEST_F(CKELDMeasurementTest, WithoutLimitsOrStandardsNothingFails) {
   const auto limits = keld::CKELDLimitData::Create();
   const auto standards = New<orvik::IStandardColl>(orvik::HostClasses::kStandardColl);
   measurement_->AddValue(1e9, "mOhm", "", "");
@@ -311,7 +311,7 @@ class BrokenStandards final : public orvik::IStandardColl {
   }
 };
 
-TEST_F(CKELDMeasurementTest, AJudgementThatBreaksOffNeverReadsAsPassed) {
+TEST_F(CKELDMeasurementTest, JudgementWithAnErrorCountsAsFailed) {
   const auto limits = keld::CKELDLimitData::Create();
   limits->AddStandard(Standard("", "200"));
   measurement_->AddValue(1.0, "mOhm", "", "");

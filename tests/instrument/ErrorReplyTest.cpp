@@ -41,7 +41,7 @@ const Case kCases[] = {
     {"ERRM,E1003", "0", "0"},
 };
 
-TEST(ErrorReplyTest, EveryErrorReplyToEveryCommand) {
+TEST(ErrorReplyTest, GivesTheStateForEachReplyAndCommand) {
   for (const auto& [reply, toStart, toOthers] : kCases) {
     LinkBench link;
     link.Link()->ConnectMTI();

@@ -71,7 +71,7 @@ TEST_F(FCalibrateLeadsTest, ShowsItsTexts) {
   EXPECT_EQ(dialog_->ClassID(), "orvikKELD.FCalibrateLeads");
 }
 
-TEST_F(FCalibrateLeadsTest, TheValueStandsInItsFrameAndEveryControlHasItsPlace) {
+TEST_F(FCalibrateLeadsTest, LaysOutTheValueInItsFrameAndAllControls) {
   Find<platform::ILabel>("lblValue")->SetCaption("125");
   form_->Show();
   const auto frame = form_->Find("pboCalibData")->Bounds();
@@ -129,7 +129,7 @@ TEST_F(FCalibrateLeadsTest, WorksWithTheSimulatedTester) {
   EXPECT_FALSE(bench_.Tester().InRemoteMode());
 }
 
-TEST_F(FCalibrateLeadsTest, WhileItMeasuresItsButtonsRest) {
+TEST_F(FCalibrateLeadsTest, ButtonsAreDisabledWhileMeasuring) {
   form_->Show();
   Answer(",410,0,0.125,0,Ohm");
   int looked = 0;
@@ -182,7 +182,7 @@ TEST_F(FCalibrateLeadsTest, AnOverloadCannotBeSaved) {
             "Connect enclosure clip to ground on KELD's power socket and click Calibrate.");
 }
 
-TEST_F(FCalibrateLeadsTest, WithoutAnAnswerTheValueStaysAndCannotBeSaved) {
+TEST_F(FCalibrateLeadsTest, NoAnswerKeepsTheValueButForbidsSaving) {
   form_->Show();
   Answer(",410,0,0.125,0,Ohm");
   Click("cmdCalibrate");
@@ -208,7 +208,7 @@ TEST_F(FCalibrateLeadsTest, OtherOutcomesAreIgnored) {
   }
 }
 
-TEST_F(FCalibrateLeadsTest, WithoutAPortNothingIsSent) {
+TEST_F(FCalibrateLeadsTest, SendsNothingWithoutAPort) {
   bench_.Unassign();
   form_->Show();
   Click("cmdCalibrate");
@@ -218,7 +218,7 @@ TEST_F(FCalibrateLeadsTest, WithoutAPortNothingIsSent) {
   EXPECT_TRUE(Button("cmdCalibrate").Enabled());
 }
 
-TEST_F(FCalibrateLeadsTest, WithoutAPortAnEarlierValueStaysAndCannotBeSaved) {
+TEST_F(FCalibrateLeadsTest, NoPortKeepsTheValueButForbidsSaving) {
   form_->Show();
   Answer(",410,0,0.125,0,Ohm");
   Click("cmdCalibrate");
@@ -242,7 +242,7 @@ TEST_F(FCalibrateLeadsTest, SaveNeedsASerialNumber) {
   EXPECT_FALSE(Button("cmdSave").Enabled());
 }
 
-TEST_F(FCalibrateLeadsTest, AnIdentityWithoutASerialNumberIsSavedButNotShown) {
+TEST_F(FCalibrateLeadsTest, IdentityWithoutSerialNumberIsSavedNotShown) {
   keld::CKELDData::Shared()->SetSerialNumber("0815");
   form_->Show();
   Answer(",410,0,0.125,0,Ohm", ",KELD(IN)-2,,1.07");
@@ -258,7 +258,7 @@ TEST_F(FCalibrateLeadsTest, AnIdentityWithoutASerialNumberIsSavedButNotShown) {
   EXPECT_EQ(data->CalibratedSerialNumbers(), (Texts{"4711"}));
 }
 
-TEST_F(FCalibrateLeadsTest, SaveStoresTheValueUnderTheTestersSerialNumber) {
+TEST_F(FCalibrateLeadsTest, SaveUsesTheTestersSerialNumber) {
   form_->Show();
   Answer(",410,0,0.1256,0,Ohm");
   Click("cmdCalibrate");
@@ -272,7 +272,7 @@ TEST_F(FCalibrateLeadsTest, SaveStoresTheValueUnderTheTestersSerialNumber) {
   EXPECT_FALSE(dialog_->Cancelled());
 }
 
-TEST_F(FCalibrateLeadsTest, SaveStoresTheValueUnderTheSerialNumberThatWasTyped) {
+TEST_F(FCalibrateLeadsTest, SaveUsesATypedSerialNumber) {
   form_->Show();
   Answer(",410,0,0.125,0,Ohm");
   Click("cmdCalibrate");
@@ -283,7 +283,7 @@ TEST_F(FCalibrateLeadsTest, SaveStoresTheValueUnderTheSerialNumberThatWasTyped) 
   EXPECT_EQ(data->CalibratedSerialNumbers(), (Texts{"0815"}));
 }
 
-TEST_F(FCalibrateLeadsTest, AValueBeyondAllBoundsIsNotStored) {
+TEST_F(FCalibrateLeadsTest, ValueOutOfRangeIsNotStored) {
   form_->Show();
   Answer(",410,0,1e20,0,Ohm");
   Click("cmdCalibrate");
@@ -336,7 +336,7 @@ TEST_F(FCalibrateLeadsTest, AModalDisplayEndsWithTheWindow) {
   EXPECT_FALSE(form_->Loaded());
 }
 
-TEST_F(FCalibrateLeadsTest, AClickWhileTheSessionEndsCalibratesAgain) {
+TEST_F(FCalibrateLeadsTest, ClickWhileTheSessionEndsMeasuresAgain) {
   form_->Show();
   Answer(",410,0,0.125,0,Ohm");
   At(milliseconds(12000), [&] { Click("cmdCalibrate"); });
@@ -364,7 +364,7 @@ enum class Way { kCancel, kUnload, kRelease };
 
 class CalibrationLeftTest : public testing::TestWithParam<std::tuple<Way, bool>> {};
 
-TEST_P(CalibrationLeftTest, AtEveryPumpEndsTheSessionWithinBounds) {
+TEST_P(CalibrationLeftTest, EndsTheSessionWithinBounds) {
   const auto [way, mute] = GetParam();
   bool reached = true;
   int pump = 0;

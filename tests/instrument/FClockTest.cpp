@@ -23,7 +23,7 @@ class FClockTest : public testing::Test {
   orvik::platform::Subscription heard_ = clock_->ClockPulse().Subscribe([this] { ++pulses_; });
 };
 
-TEST_F(FClockTest, StandsStillAtFirst) {
+TEST_F(FClockTest, IsStoppedAtFirst) {
   EXPECT_FALSE(clock_->Running());
   Pass(milliseconds(10000));
   EXPECT_EQ(pulses_, 0);
@@ -44,7 +44,7 @@ TEST_F(FClockTest, PulsesAfterEveryIntervalUntilStopped) {
   EXPECT_EQ(pulses_, 3);
 }
 
-TEST_F(FClockTest, StartingAgainCountsTheWholeIntervalAnew) {
+TEST_F(FClockTest, StartingAgainRestartsTheInterval) {
   clock_->StartClock(3500);
   Pass(milliseconds(3000));
   clock_->StartClock(2000);

@@ -122,13 +122,13 @@ class FaultyLibraryTest : public testing::Test {
   LinkBench link_;
 };
 
-TEST_F(FaultyLibraryTest, WithoutFaultsARunIsWhole) {
+TEST_F(FaultyLibraryTest, CompletesARunWithoutFaults) {
   Link().ConnectMTI();
   Link().RunMtiTest(410, 0);
   EXPECT_EQ(link_.Raised(), (Texts{"GotMtiData", "3 0", "4 410", "5 410"}));
 }
 
-TEST_F(FaultyLibraryTest, AFailingLookUpLeavesTheLinkWithoutAPort) {
+TEST_F(FaultyLibraryTest, FailingLookUpLeavesNoPort) {
   for (const std::string call : {"PortManager", "FindPort"}) {
     faults_->failing = {call};
     Link().ConnectMTI();
@@ -136,7 +136,7 @@ TEST_F(FaultyLibraryTest, AFailingLookUpLeavesTheLinkWithoutAPort) {
   }
 }
 
-TEST_F(FaultyLibraryTest, AFailingOpenKeepsTheNumberAndAnswersLikeAClosedPort) {
+TEST_F(FaultyLibraryTest, FailingOpenCountsAsAClosedPort) {
   faults_->failing = {"OpenPort"};
   Link().ConnectMTI();
   EXPECT_EQ(Link().PortNumber(), 1);
@@ -176,7 +176,7 @@ TEST_F(FaultyLibraryTest, AnyFailingCallEndsTheRunWithoutAResult) {
   }
 }
 
-TEST_F(FaultyLibraryTest, APortThatStopsTellingWhetherItIsOpenIsTakenForWhatItWas) {
+TEST_F(FaultyLibraryTest, FailingIsOpenKeepsTheLastState) {
   Link().ConnectMTI();
   link_.Script({});
   link_.At(milliseconds(4000), [&] { faults_->failing = {"IsOpen"}; });
@@ -185,7 +185,7 @@ TEST_F(FaultyLibraryTest, APortThatStopsTellingWhetherItIsOpenIsTakenForWhatItWa
   EXPECT_EQ(link_.Elapsed(), milliseconds(16500));
 }
 
-TEST_F(FaultyLibraryTest, UnreadableParametersNeverBecomeAnErrorNumber) {
+TEST_F(FaultyLibraryTest, UnreadableParametersGiveNoErrorNumber) {
   for (const std::string call : {"ParameterCount", "Parameter"}) {
     faults_->failing = {call};
     Link().ConnectMTI();
@@ -208,7 +208,7 @@ TEST_F(FaultyLibraryTest, AnUnreadableCountReadsAsNoParameters) {
   EXPECT_EQ(Link().MtiData(2), orvik::Variant(std::string("NO VALUE")));
 }
 
-TEST_F(FaultyLibraryTest, DisconnectEndsWhateverFails) {
+TEST_F(FaultyLibraryTest, DisconnectEndsForAnyFailingCall) {
   for (const std::string call : {"CreateMessage", "Send", "ReceivedCount", "IsOpen", "TakeMessage",
                                  "Mnemonic", "Parameter", "Close"}) {
     SCOPED_TRACE(call);
@@ -228,7 +228,7 @@ TEST_F(FaultyLibraryTest, DisconnectEndsWhateverFails) {
   }
 }
 
-TEST_F(FaultyLibraryTest, AHandlerThatThrowsDoesNotBreakTheLink) {
+TEST_F(FaultyLibraryTest, HandlerThatThrowsDoesNotBreakTheLink) {
   Link().ConnectMTI();
   link_.onData = [](const keld::MtiDataArray&) { throw 42; };
   link_.onResult = [](std::int32_t&, std::int16_t) { throw 42; };
@@ -238,7 +238,7 @@ TEST_F(FaultyLibraryTest, AHandlerThatThrowsDoesNotBreakTheLink) {
   EXPECT_FALSE(link_.Bench().Tester().InRemoteMode());
 }
 
-TEST_F(FaultyLibraryTest, AMessageThatCannotBeTakenEndsTheWaitForASession) {
+TEST_F(FaultyLibraryTest, FailingTakeMessageEndsTheWaitForIrem) {
   Link().ConnectMTI();
   link_.Script({});
   link_.At(milliseconds(4000), [&] {
@@ -251,7 +251,7 @@ TEST_F(FaultyLibraryTest, AMessageThatCannotBeTakenEndsTheWaitForASession) {
   EXPECT_FALSE(link_.Bench().Line().Line()->Connected());
 }
 
-TEST_F(FaultyLibraryTest, AnErrorInTheMessagePumpEndsNoPauseAndNoWait) {
+TEST_F(FaultyLibraryTest, PumpErrorEndsNoPauseAndNoWait) {
   // In the pause, while the reply is waited for, and several in a row.
   for (const int errors : {1, 20}) {
     LinkBench link;
@@ -272,7 +272,7 @@ TEST_F(FaultyLibraryTest, AnErrorInTheMessagePumpEndsNoPauseAndNoWait) {
   }
 }
 
-TEST_F(FaultyLibraryTest, AMessagePumpThatOnlyFailsEndsTheWaits) {
+TEST_F(FaultyLibraryTest, PumpThatAlwaysFailsEndsTheWaits) {
   Link().ConnectMTI();
   link_.Script({});
   std::function<void()> fail = [&] {
@@ -285,7 +285,7 @@ TEST_F(FaultyLibraryTest, AMessagePumpThatOnlyFailsEndsTheWaits) {
   EXPECT_EQ(link_.Elapsed(), milliseconds(1000));
 }
 
-TEST_F(FaultyLibraryTest, AClockThatIsTakenAwayEndsTheWaits) {
+TEST_F(FaultyLibraryTest, UnloadedClockEndsTheWaits) {
   Link().ConnectMTI();
   link_.Script({});
   link_.At(milliseconds(1000), [&] {

@@ -26,7 +26,7 @@ class MtiDataTest : public testing::Test {
   LinkBench link_;
 };
 
-TEST_F(MtiDataTest, TakesTheFiveParametersOfAReply) {
+TEST_F(MtiDataTest, StoresTheFiveParametersOfAReply) {
   EXPECT_EQ(After(",410,0,0.123,0,Ohm"), (Texts{"410", "0", "0.123", "", "Ohm"}));
 }
 
@@ -75,14 +75,14 @@ TEST_F(MtiDataTest, OnlyAValueEqualToOneIsAnOverload) {
   }
 }
 
-TEST_F(MtiDataTest, OtherElementsKeepWhatIsWritten) {
+TEST_F(MtiDataTest, OtherElementsAreStoredUnchanged) {
   for (const int index : {0, 1, 2, 4}) {
     link_.Link()->SetMtiData(index, 1);
     EXPECT_EQ(link_.Link()->MtiData(index), Variant(1)) << index;
   }
 }
 
-TEST_F(MtiDataTest, AnIndexOutsideIsRefused) {
+TEST_F(MtiDataTest, RejectsAnIndexOutsideTheRange) {
   for (const int index : {-1, 5, 1000000}) {
     for (const bool write : {false, true}) {
       try {

@@ -7,7 +7,7 @@ namespace {
 
 using orvik::Variant;
 
-TEST(NumberTest, ATextIsANumberOnlyAsAWhole) {
+TEST(NumberTest, TextMustBeEntirelyANumber) {
   const std::pair<std::string, std::optional<double>> cases[] = {
       {"0", 0.0},
       {"12.5", 12.5},
@@ -39,7 +39,7 @@ TEST(NumberTest, ATextIsANumberOnlyAsAWhole) {
   EXPECT_EQ(keld::NumberIn(std::vector<std::string>{"1"}), std::nullopt);
 }
 
-TEST(NumberTest, IntegersAreRoundedAndHeldToTheirBounds) {
+TEST(NumberTest, IntegersAreRoundedAndRangeChecked) {
   EXPECT_EQ(keld::IntegerIn(std::string("125.5"), INT32_MIN, INT32_MAX), 126);
   EXPECT_EQ(keld::IntegerIn(std::string("124.5"), INT32_MIN, INT32_MAX), 124);
   EXPECT_EQ(keld::IntegerIn(std::string("2147483647"), INT32_MIN, INT32_MAX), INT32_MAX);

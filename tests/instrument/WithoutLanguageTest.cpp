@@ -37,7 +37,7 @@ class WithoutLanguageTest : public testing::TestWithParam<LanguageFault> {
   std::shared_ptr<platform::IForm> form_;
 };
 
-TEST_P(WithoutLanguageTest, SaveStoresWhatWasMeasured) {
+TEST_P(WithoutLanguageTest, SaveStoresTheMeasuredValue) {
   ShowModal([&] {
     Click("cmdCalibrate");
     EXPECT_EQ(Caption("lblStatus"), "20559::Calibration complete.");
@@ -48,14 +48,14 @@ TEST_P(WithoutLanguageTest, SaveStoresWhatWasMeasured) {
   EXPECT_EQ(keld::CKELDData::Shared()->CalibValue(), 123);
 }
 
-TEST_P(WithoutLanguageTest, CancelTheCrossAndTheEscapeKeyLeave) {
+TEST_P(WithoutLanguageTest, CancelCrossAndEscapeClose) {
   ShowModal([&] { Click("cmdCancel"); });
   ShowModal([&] { form_->Close(); });
   ShowModal([&] { form_->PressKey(platform::kKeyEscape, 0); });
   EXPECT_TRUE(dialog_->Cancelled());
 }
 
-TEST_P(WithoutLanguageTest, CancelDuringAMeasurementEndsTheSession) {
+TEST_P(WithoutLanguageTest, CancelDuringMeasurementEndsTheSession) {
   ShowModal([&] {
     bench_.Application().CallAt(bench_.Application().Now() + std::chrono::seconds(5),
                                 [&] { Click("cmdCancel"); });
@@ -66,7 +66,7 @@ TEST_P(WithoutLanguageTest, CancelDuringAMeasurementEndsTheSession) {
   EXPECT_FALSE(bench_.Line().Line()->Connected());
 }
 
-TEST_P(WithoutLanguageTest, AnOverloadIsShownAndCannotBeSaved) {
+TEST_P(WithoutLanguageTest, OverloadIsShownAndCannotBeSaved) {
   bench_.Line().AnswerBy([this](const std::string& command) {
     bench_.Line().Reply(command.starts_with("GRES")   ? "gres,410,0,9.99,1,Ohm"
                         : command.starts_with("IREM") ? "irem,KELD(IN),4711,1.05"

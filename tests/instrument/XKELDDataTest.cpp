@@ -56,14 +56,14 @@ TEST_F(XKELDDataTest, OnlyTheSerialNumberCanBeEdited) {
   }
 }
 
-TEST_F(XKELDDataTest, PickingASerialNumberTakesIt) {
+TEST_F(XKELDDataTest, ChoosingASerialNumberSelectsIt) {
   Serial().Choose(0);
   EXPECT_EQ(keld::CKELDData::Shared()->SerialNumber(), "0815");
   EXPECT_EQ(Serial().Text(), "0815");
   EXPECT_EQ(Field("txtCalib"), "12");
 }
 
-TEST_F(XKELDDataTest, TypingASerialNumberTakesItWhenTheBoxIsLeft) {
+TEST_F(XKELDDataTest, TypedSerialNumberIsUsedWhenFocusIsLost) {
   Serial().SetFocus();
   Serial().TypeOver("new");
   EXPECT_EQ(keld::CKELDData::Shared()->SerialNumber(), "4711");
@@ -72,7 +72,7 @@ TEST_F(XKELDDataTest, TypingASerialNumberTakesItWhenTheBoxIsLeft) {
   EXPECT_EQ(Field("txtCalib"), "0");
 }
 
-TEST_F(XKELDDataTest, AnEmptiedBoxGoesBack) {
+TEST_F(XKELDDataTest, EmptiedBoxReverts) {
   for (const char* text : {"", "  "}) {
     Serial().SetFocus();
     Serial().TypeOver(text);
@@ -106,7 +106,7 @@ TEST_F(XKELDDataTest, RefreshSetsNoSerialNumber) {
   EXPECT_EQ(Serial().Text(), "");
 }
 
-TEST_F(XKELDDataTest, ALockedControlTakesNoSerialNumber) {
+TEST_F(XKELDDataTest, LockedControlIgnoresTheChoice) {
   Control()->SetLocked(true);
   EXPECT_TRUE(Control()->Locked());
   Serial().Choose(0);
@@ -126,7 +126,7 @@ TEST_F(XKELDDataTest, BackColorHandleAndVisibility) {
   EXPECT_FALSE(Control()->Visible());
 }
 
-TEST_F(XKELDDataTest, AControlWithoutAPlaceDoesNothing) {
+TEST_F(XKELDDataTest, UnplacedControlDoesNothing) {
   const auto control = keld::XKELDData::Create();
   control->Refresh();
   control->SetFocus();

@@ -20,7 +20,7 @@ TEST(Event, RunsHandlersInTheOrderOfTheirSubscriptions) {
   EXPECT_EQ(calls, (std::vector<int>{1, 10, 2, 20}));
 }
 
-TEST(Event, LettingGoEndsTheSubscription) {
+TEST(Event, ReleaseEndsTheSubscription) {
   Event<> event;
   int calls = 0;
   {
@@ -44,7 +44,7 @@ TEST(Event, AHandlerMayEndItsOwnSubscription) {
   EXPECT_EQ(calls, 1);
 }
 
-TEST(Event, AHandlerThatEndedMeanwhileIsPassedOver) {
+TEST(Event, SkipsAHandlerThatEndsMeanwhile) {
   Event<> event;
   int calls = 0;
   Subscription second;
@@ -54,7 +54,7 @@ TEST(Event, AHandlerThatEndedMeanwhileIsPassedOver) {
   EXPECT_EQ(calls, 0);
 }
 
-TEST(Event, AHandlerThatSubscribedMeanwhileWaitsForTheNextTime) {
+TEST(Event, NewHandlerRunsAtTheNextRaise) {
   Event<> event;
   int calls = 0;
   std::vector<Subscription> added;
@@ -77,7 +77,7 @@ TEST(Event, AHandlerMayReleaseTheObjectThatRaises) {
   EXPECT_EQ(calls, 1);
 }
 
-TEST(Event, WhatAHandlerHoldsLivesWhileItRuns) {
+TEST(Event, HandlerKeepsItsCapturesWhileItRuns) {
   Event<> event;
   std::string seen;
   std::optional<Subscription> subscription;
@@ -102,7 +102,7 @@ TEST(Event, MayBeRaisedFromInsideAHandler) {
   EXPECT_EQ(calls, (std::vector<int>{1, 2, 3}));
 }
 
-TEST(Event, AHandlerThatHasEndedIsPassedOverWhileItStillRuns) {
+TEST(Event, SkipsAnEndedHandlerThatStillRuns) {
   Event<> event;
   int calls = 0;
   Subscription subscription;
@@ -115,7 +115,7 @@ TEST(Event, AHandlerThatHasEndedIsPassedOverWhileItStillRuns) {
   EXPECT_EQ(calls, 1);
 }
 
-TEST(Event, AHandlerThatANestedRaiseEndedIsPassedOverByTheOuterOne) {
+TEST(Event, OuterRaiseSkipsAHandlerEndedInANestedOne) {
   Event<int> event;
   std::vector<int> calls;
   Subscription second;
@@ -128,7 +128,7 @@ TEST(Event, AHandlerThatANestedRaiseEndedIsPassedOverByTheOuterOne) {
   EXPECT_TRUE(calls.empty());
 }
 
-TEST(Event, AHandlerThatSubscribesInANestedRaiseIsNoneOfTheOuterOnes) {
+TEST(Event, OuterRaiseSkipsAHandlerAddedInANestedOne) {
   Event<int> event;
   std::vector<int> calls;
   std::vector<Subscription> added;
@@ -146,7 +146,7 @@ TEST(Event, AHandlerThatSubscribesInANestedRaiseIsNoneOfTheOuterOnes) {
   EXPECT_EQ(calls.size(), 101U);
 }
 
-TEST(Event, AHandlerThatEndsAndSubscribesInANestedRaiseLeavesTheOthersTheirTurn) {
+TEST(Event, NestedChangesKeepTheOtherHandlers) {
   Event<int> event;
   std::vector<int> calls;
   Subscription ended;
@@ -204,7 +204,7 @@ TEST(Event, ASubscriptionMayOutliveTheEvent) {
   EXPECT_TRUE(held.expired());
 }
 
-TEST(Event, WhatEndedIsSweptOut) {
+TEST(Event, RemovesEndedSubscriptions) {
   Event<> event;
   std::vector<std::weak_ptr<int>> watched;
   int calls = 0;
@@ -230,7 +230,7 @@ TEST(Event, HandlersSeeEachOthersChangesOfAReference) {
   EXPECT_TRUE(seen);
 }
 
-TEST(Event, AnErrorOfAHandlerGoesToWhoRaised) {
+TEST(Event, HandlerErrorReachesTheCallerOfRaise) {
   Event<> event;
   const auto handler = event.Subscribe([] { throw std::string("broken"); });
   EXPECT_THROW(event.Raise(), std::string);

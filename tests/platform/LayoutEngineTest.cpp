@@ -34,12 +34,12 @@ TEST(Layout, NaturalSizeIsContentGapsAndMargins) {
   EXPECT_EQ(NaturalSize(LabelAndField(), {{300, 200}, {400, 250}}), (Size{300 + 50 + 400 + 200, 250 + 200}));
 }
 
-TEST(Layout, WeightTakesWhatIsLeftOver) {
+TEST(Layout, WeightedTrackGetsTheRemainingSpace) {
   EXPECT_EQ(Arrange(LabelAndField(), {{300, 200}, {400, 250}}, {2000, 450}),
             (Rects{{100, 100, 300, 250}, {450, 100, 1450, 250}}));
 }
 
-TEST(Layout, WithoutWeightWhatIsLeftOverStaysEmpty) {
+TEST(Layout, WithoutWeightSpaceStaysEmpty) {
   Grid grid = LabelAndField();
   grid.columns[1].weight = 0;
   EXPECT_EQ(Arrange(grid, {{300, 200}, {400, 250}}, {2000, 2000}),
@@ -92,7 +92,7 @@ TEST(Layout, ASpanningControlFillsItsTracksAndTheirGaps) {
   EXPECT_EQ(rects[2], (Rect{100, 350, 750, 200}));
 }
 
-TEST(Layout, ALongSpanningControlWidensTheWeightedTracks) {
+TEST(Layout, LongSpanWidensTheWeightedTracks) {
   Grid grid = LabelAndField();
   grid.rows = {{}, {}};
   grid.cells.push_back({"title", 1, 0, 1, 2});
@@ -102,7 +102,7 @@ TEST(Layout, ALongSpanningControlWidensTheWeightedTracks) {
   EXPECT_EQ(rects[1].width, 1400);
 }
 
-TEST(Layout, ALongSpanningControlWithoutWeightsWidensTheLastTrackInUse) {
+TEST(Layout, LongSpanWithoutWeightsWidensTheLastTrack) {
   Grid grid = LabelAndField();
   grid.rows = {{}, {}};
   grid.columns = {{}, {}, {}};

@@ -87,7 +87,7 @@ TEST_F(CatalogueTest, RootIsTheTemplateDataInUtf8) {
   EXPECT_STREQ(declaration.attribute("encoding").value(), "UTF-8");
 }
 
-TEST_F(CatalogueTest, EveryIdentifierStandsOnceAndNoneIsMissing) {
+TEST_F(CatalogueTest, HasEachIdentifierOnce) {
   std::set<int> seen;
   ForEachEntry([&](pugi::xml_node entry, int id) {
     EXPECT_EQ(entry.attribute("ID").value(), std::to_string(id)) << "not a plain decimal number";
@@ -103,7 +103,7 @@ TEST_F(CatalogueTest, GroupsHaveMembersAndSingleTestsHaveNone) {
   });
 }
 
-TEST_F(CatalogueTest, TestsStandInTheGroupOfTheirHundred) {
+TEST_F(CatalogueTest, TestsAreInTheGroupOfTheirHundred) {
   ForEachEntry([](pugi::xml_node entry, int id) {
     const int group = id / 100 * 100;
     if (id % 100 == 0 || group == 200) return;  // 210 is alone in its hundred
@@ -111,7 +111,7 @@ TEST_F(CatalogueTest, TestsStandInTheGroupOfTheirHundred) {
   });
 }
 
-TEST_F(CatalogueTest, AnEntryHasTheFourFieldsOnceInOrderAndNothingElse) {
+TEST_F(CatalogueTest, EntriesHaveFourFieldsInOrder) {
   ForEachEntry([](pugi::xml_node entry, int id) {
     std::vector<std::string> names;
     for (const pugi::xml_node child : entry.children()) {
@@ -136,7 +136,7 @@ TEST_F(CatalogueTest, LanguageTextsHaveNumberAndText) {
   });
 }
 
-TEST_F(CatalogueTest, NumbersRunFrom21000WithoutGapsOneForEachText) {
+TEST_F(CatalogueTest, TextNumbersRunFrom21000WithoutGaps) {
   std::map<int, std::string> texts;
   std::map<std::string, int> numbers;
   ForEachEntry([&](pugi::xml_node entry, int id) {
@@ -177,7 +177,7 @@ TEST_F(CatalogueTest, UnitsAreThoseOfTheRecordedReadings) {
   });
 }
 
-TEST_F(CatalogueTest, AGroupHasTheUnitOfItsMembersOrNoneWhenTheyDiffer) {
+TEST_F(CatalogueTest, GroupHasTheCommonUnitOfItsMembers) {
   ForEachEntry([](pugi::xml_node entry, int id) {
     if (id % 100 != 0) return;
     std::set<std::string> units;
@@ -200,7 +200,7 @@ TEST_F(CatalogueTest, TestsComeInTheOrderOfTesting) {
   }
 }
 
-TEST_F(CatalogueTest, ConditionsAreNamedTheSameWayInNameAndParameter) {
+TEST_F(CatalogueTest, NameAndParameterNameTheSameCondition) {
   // A wrong label would have the technician judge by a limit of another condition.
   ForEachEntry([](pugi::xml_node entry, int id) {
     const int family = Family(id);

@@ -116,7 +116,7 @@ TEST(ResourcesTest, SizesAndDepthsAreAsTheKeysSay) {
   }
 }
 
-TEST(ResourcesTest, UpperAndLowerCaseLettersOfAKeyAreTheSame) {
+TEST(ResourcesTest, KeysAreNotCaseSensitive) {
   for (const Expected& expected : kExpected) {
     SCOPED_TRACE(expected.key);
     std::string lower = expected.key;
@@ -130,7 +130,7 @@ TEST(ResourcesTest, UpperAndLowerCaseLettersOfAKeyAreTheSame) {
   EXPECT_EQ(Text("KELD(16x16)"), Text("KELD(16X16)"));
 }
 
-TEST(ResourcesTest, AnUnknownKeyGivesNothing) {
+TEST(ResourcesTest, UnknownKeyGivesNothing) {
   for (const char* key : {"", " ", "TE:", "TE:MV", "TE:MV(32X16", "TE:MV(32X16) ", "TE:MV(32X16)_WHT",
                           "TE:XYZ(32X16)", "TE_MV_32X16.bmp"}) {
     EXPECT_TRUE(keld::FindResource(key).empty()) << '"' << key << '"';
@@ -162,7 +162,7 @@ TEST(ResourcesTest, TestPicturesDifferInAQuarterOfTheirPixels) {
   }
 }
 
-TEST(ResourcesTest, SecondFormsStandOnWhiteAndPlainOnesOnButtonGrey) {
+TEST(ResourcesTest, SecondFormsAreWhiteAndOthersGrey) {
   constexpr std::uint32_t kButtonGrey = 0xC0C0C0;
   constexpr std::uint32_t kWhite = 0xFFFFFF;
   for (const Expected& expected : kExpected) {
@@ -195,7 +195,7 @@ class ScratchFolder {
 
 std::string Quoted(const std::filesystem::path& path) { return "\"" + path.string() + "\""; }
 
-TEST(ResourcesTest, KeptFilesAreWhatTheDrawingProgramDrawsNow) {
+TEST(ResourcesTest, BitmapFilesAreUpToDate) {
   const ScratchFolder scratch;
   const std::filesystem::path folder = scratch.Path() / "made by the program";
   const std::string command = Quoted(DRAW_BITMAPS_PATH) + " " + Quoted(folder);
@@ -214,7 +214,7 @@ TEST(ResourcesTest, KeptFilesAreWhatTheDrawingProgramDrawsNow) {
   EXPECT_EQ(drawn, kept);
 }
 
-TEST(ResourcesTest, TheDrawingProgramRefusesBadUseWithAMessage) {
+TEST(ResourcesTest, DrawingProgramReportsBadArguments) {
   const ScratchFolder scratch;
   const std::filesystem::path message = scratch.Path() / "message.txt";
   const std::string program = Quoted(DRAW_BITMAPS_PATH);

@@ -144,7 +144,7 @@ class CKELDLimitDataHostTest : public results::ResultsTest {
   }
 };
 
-TEST_F(CKELDLimitDataHostTest, ValueIsJudgedUnderTheMeasurementsKeyWithoutANominalValue) {
+TEST_F(CKELDLimitDataHostTest, JudgesByLimitKeyWithoutANominalValue) {
   const auto standard = std::make_shared<AskedStandard>("A");
   const auto limits = Judging({standard});
   EXPECT_EQ(Failed(*limits, 0.1), Names{"A"});
@@ -153,7 +153,7 @@ TEST_F(CKELDLimitDataHostTest, ValueIsJudgedUnderTheMeasurementsKeyWithoutANomin
   EXPECT_EQ(standard->nominals, std::vector<bool>{false});
 }
 
-TEST_F(CKELDLimitDataHostTest, StatusTwoAloneMeansFailed) {
+TEST_F(CKELDLimitDataHostTest, OnlyLimitExceededMeansFailed) {
   std::vector<std::shared_ptr<AskedStandard>> standards;
   for (const std::int32_t verdict : {-1, 0, 1, 2, 3})
     standards.push_back(std::make_shared<AskedStandard>("Verdict " + std::to_string(verdict), verdict));
@@ -161,7 +161,7 @@ TEST_F(CKELDLimitDataHostTest, StatusTwoAloneMeansFailed) {
   EXPECT_EQ(Failed(*limits, 1.0), Names{"Verdict 2"});
 }
 
-TEST_F(CKELDLimitDataHostTest, LoadHandsNodeAndContextOn) {
+TEST_F(CKELDLimitDataHostTest, LoadPassesNodeAndContext) {
   const auto collection = std::make_shared<AskedCollection>();
   const auto limits = Asking(collection);
   const auto node = Node();
@@ -172,7 +172,7 @@ TEST_F(CKELDLimitDataHostTest, LoadHandsNodeAndContextOn) {
   EXPECT_EQ(limits->Standards(), collection);
 }
 
-TEST_F(CKELDLimitDataHostTest, SaveAnswersWhatTheCollectionAnswers) {
+TEST_F(CKELDLimitDataHostTest, SaveReturnsTheCollectionsNode) {
   const auto collection = std::make_shared<AskedCollection>();
   const auto limits = Asking(collection);
   const auto parent = Node();
@@ -180,7 +180,7 @@ TEST_F(CKELDLimitDataHostTest, SaveAnswersWhatTheCollectionAnswers) {
   EXPECT_EQ(collection->savedBelow, parent);
 }
 
-TEST_F(CKELDLimitDataHostTest, PrintHandsReportElementAndHeaderOnAndTellsAfterwards) {
+TEST_F(CKELDLimitDataHostTest, PrintPassesReportElementAndHeader) {
   const auto collection = std::make_shared<AskedCollection>();
   const auto limits = Asking(collection);
   const auto report = std::make_shared<results::Report>();
@@ -195,7 +195,7 @@ TEST_F(CKELDLimitDataHostTest, PrintHandsReportElementAndHeaderOnAndTellsAfterwa
   EXPECT_EQ(printedBefore, true);
 }
 
-TEST_F(CKELDLimitDataHostTest, DialogTellsTheControlKeyCaptionAndUnits) {
+TEST_F(CKELDLimitDataHostTest, DialogInitialisesKeyCaptionAndUnits) {
   const auto view = std::make_shared<LimitView>();
   host_.Application().SetControlFactory(
       [&](const std::string& id) -> std::shared_ptr<orvik::platform::IUserControl> {
@@ -209,7 +209,7 @@ TEST_F(CKELDLimitDataHostTest, DialogTellsTheControlKeyCaptionAndUnits) {
   EXPECT_TRUE(view->toldBeforeData);
 }
 
-TEST_F(CKELDLimitDataHostTest, DialogPassesErrorsOn) {
+TEST_F(CKELDLimitDataHostTest, DialogPropagatesErrors) {
   EXPECT_THROW(CKELDLimitData::Create()->CreateDialog(), orvik::HostError);
   const auto element = Test(1);
   host_.Application().SetControlFactory([](const std::string&) { return nullptr; });

@@ -50,7 +50,7 @@ TEST_F(CKELDLimitDataTest, UpdateLimitsIsIgnored) {
   EXPECT_EQ(limits->Standards()->item(1)->Limit(1)->HighText(), "2");
 }
 
-TEST_F(CKELDLimitDataTest, AddingMakesTheCollection) {
+TEST_F(CKELDLimitDataTest, AddingCreatesTheCollection) {
   const auto limits = CKELDLimitData::Create();
   limits->AddStandard(nullptr);
   ASSERT_TRUE(limits->Standards());
@@ -61,7 +61,7 @@ TEST_F(CKELDLimitDataTest, AddingMakesTheCollection) {
   EXPECT_EQ(limits->Standards()->item(2)->Name(), "B");
 }
 
-TEST_F(CKELDLimitDataTest, OwnerIsNotKeptAlive) {
+TEST_F(CKELDLimitDataTest, DoesNotKeepItsOwnerAlive) {
   auto element = Test(1);
   const auto limits = CKELDLimitData::Create();
   limits->SetOwner(element);
@@ -70,7 +70,7 @@ TEST_F(CKELDLimitDataTest, OwnerIsNotKeptAlive) {
   EXPECT_FALSE(limits->Owner());
 }
 
-TEST_F(CKELDLimitDataTest, NewStandardHasOneOpenLimitInTheOwnersUnit) {
+TEST_F(CKELDLimitDataTest, NewStandardHasOneLimitInTheOwnersUnit) {
   const auto element = Test(1);
   element->SetExpectedUnits("mOhm");
   const auto limits = orvik::As<CKELDLimitData>(element->Limits());
@@ -105,7 +105,7 @@ TEST_F(CKELDLimitDataTest, CopyIsDeepAndReplaces) {
   EXPECT_EQ(source->Standards()->item(1)->Limit(1)->HighText(), "2");
 }
 
-TEST_F(CKELDLimitDataTest, CopyOfNothingEmptiesAndOfNoSourceChangesNothing) {
+TEST_F(CKELDLimitDataTest, CopyFromEmptyLimitsAndFromNothing) {
   const auto limits = CKELDLimitData::Create();
   limits->AddStandard(Standard("A", "", ""));
   limits->CopyFrom(nullptr);
@@ -116,7 +116,7 @@ TEST_F(CKELDLimitDataTest, CopyOfNothingEmptiesAndOfNoSourceChangesNothing) {
   EXPECT_FALSE(limits->Standards());
 }
 
-TEST_F(CKELDLimitDataTest, CloneIsIndependentAndKnowsNoOwner) {
+TEST_F(CKELDLimitDataTest, CloneIsIndependentAndHasNoOwner) {
   const auto element = Test(1);
   const auto limits = orvik::As<CKELDLimitData>(element->Limits());
   limits->AddStandard(Standard("A", "1", "2"));
@@ -170,7 +170,7 @@ TEST_F(CKELDLimitDataTest, FindsTheSelectedStandardsThatFail) {
   EXPECT_EQ(Failed(*limits, 20.0, all), Names{"Low"});
 }
 
-TEST_F(CKELDLimitDataTest, AnswersWithItsOwnStandards) {
+TEST_F(CKELDLimitDataTest, ReturnsItsOwnStandards) {
   const auto limits = CKELDLimitData::Create();
   const auto own = Standard("A", "", "1");
   limits->AddStandard(own);
@@ -179,7 +179,7 @@ TEST_F(CKELDLimitDataTest, AnswersWithItsOwnStandards) {
   EXPECT_EQ(failed->item(1), own);
 }
 
-TEST_F(CKELDLimitDataTest, StandardThatWasNotSelectedDoesNotCount) {
+TEST_F(CKELDLimitDataTest, UnselectedStandardDoesNotCount) {
   const auto limits = CKELDLimitData::Create();
   limits->AddStandard(Standard("A", "", "1"));
   limits->AddStandard(Standard("B", "", "1"));
@@ -212,7 +212,7 @@ TEST_F(CKELDLimitDataTest, NothingToCheckDoesNotFail) {
   EXPECT_EQ(Failed(*limits, 2.0, limits->Standards()), Names{});
 }
 
-TEST_F(CKELDLimitDataTest, WhatIsNoNumberFailsEverySelectedStandard) {
+TEST_F(CKELDLimitDataTest, ValueThatIsNotANumberFails) {
   const auto limits = CKELDLimitData::Create();
   limits->AddStandard(Standard("A", "", "1"));
   limits->AddStandard(Standard("B", "", "1"));
@@ -223,7 +223,7 @@ TEST_F(CKELDLimitDataTest, WhatIsNoNumberFailsEverySelectedStandard) {
   EXPECT_EQ(Failed(*limits, std::string("0.5"), selected), Names{});
 }
 
-TEST_F(CKELDLimitDataTest, NothingIsJudgedWithoutMeasurementOrStandards) {
+TEST_F(CKELDLimitDataTest, NeedsMeasurementAndStandards) {
   const auto limits = CKELDLimitData::Create();
   limits->AddStandard(nullptr);
   EXPECT_FALSE(limits->FindFailedStandards(Measurement(2.0), Collection({Standard("A", "", "1")})));
@@ -234,7 +234,7 @@ TEST_F(CKELDLimitDataTest, NothingIsJudgedWithoutMeasurementOrStandards) {
 
 // --- report and dialog ---
 
-TEST_F(CKELDLimitDataTest, PrintsThroughTheCollectionAndTellsSo) {
+TEST_F(CKELDLimitDataTest, PrintsTheCollectionAndRaisesTheEvent) {
   const auto element = Test(1);
   const auto limits = orvik::As<CKELDLimitData>(element->Limits());
   std::vector<Names> told;

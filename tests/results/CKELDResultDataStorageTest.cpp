@@ -29,13 +29,13 @@ TEST_F(CKELDResultDataStorageTest, SavesTheChildrenInTheirOrder) {
   EXPECT_EQ(saved->FindChild("Comment")->Text(), "worn lead");
 }
 
-TEST_F(CKELDResultDataStorageTest, SavesNothingThatIsNotThere) {
+TEST_F(CKELDResultDataStorageTest, OmitsMissingParts) {
   const auto saved = CKELDResultData::Create()->Save(Node());
   EXPECT_FALSE(saved->HasAttribute("MTI"));
   EXPECT_EQ(ChildNames(*saved), (std::vector<std::string>{"Status"}));
 }
 
-TEST_F(CKELDResultDataStorageTest, ServiceRecordIsAppendedWhereverItSavedItself) {
+TEST_F(CKELDResultDataStorageTest, ServiceRecordIsMovedBelowTheResult) {
   const auto record = std::make_shared<results::ServiceRecordProbe>();
   const auto root = Node();
   record->saveBelow = root->AddChild("Elsewhere");
@@ -46,7 +46,7 @@ TEST_F(CKELDResultDataStorageTest, ServiceRecordIsAppendedWhereverItSavedItself)
   EXPECT_EQ(record->saveBelow->ChildCount(), 0);
 }
 
-TEST_F(CKELDResultDataStorageTest, ServiceRecordLoadsItselfFromItsNodeInTheContext) {
+TEST_F(CKELDResultDataStorageTest, ServiceRecordLoadsFromItsNodeAndContext) {
   const auto record = std::make_shared<results::ServiceRecordProbe>();
   host_.Host().Register(orvik::HostClasses::kServiceRecord, [&] { return record; });
   const auto node = Parsed("<ResultItem><ServiceRecord/></ResultItem>");
@@ -130,14 +130,14 @@ TEST_F(CKELDResultDataStorageTest, LoadRoundsTheIdentifier) {
   EXPECT_EQ(loaded(""), 9);
 }
 
-TEST_F(CKELDResultDataStorageTest, LoadTagsAreMatchedToTheLetter) {
+TEST_F(CKELDResultDataStorageTest, LoadMatchesTagsExactly) {
   const auto result = CKELDResultData::Create();
   result->Load(Parsed("<ResultItem><status>1</status><comment>x</comment></ResultItem>"), nullptr);
   EXPECT_EQ(result->Status(), 0);
   EXPECT_EQ(result->Comment(), "");
 }
 
-TEST_F(CKELDResultDataStorageTest, LoadPassesTheHostsErrorOn) {
+TEST_F(CKELDResultDataStorageTest, LoadPropagatesTheHostsError) {
   const auto result = CKELDResultData::Create();
   EXPECT_THROW(result->Load(Parsed("<ResultItem><Status>passed</Status></ResultItem>"), nullptr),
                orvik::HostError);

@@ -28,7 +28,7 @@ TEST_F(CKELDResultDataTest, NamesItsRegisteredClass) {
   EXPECT_TRUE(orvik::As<CKELDResultData>(host_.Host().CreateObject("orvikKELD.CKELDResultData")));
 }
 
-TEST_F(CKELDResultDataTest, CommentDecidesWhetherThereIsADialog) {
+TEST_F(CKELDResultDataTest, HasADialogOnlyWithAComment) {
   const auto result = CKELDResultData::Create();
   result->SetComment("lead worn");
   EXPECT_EQ(result->Comment(), "lead worn");
@@ -37,7 +37,7 @@ TEST_F(CKELDResultDataTest, CommentDecidesWhetherThereIsADialog) {
   EXPECT_FALSE(result->HasDialog());
 }
 
-TEST_F(CKELDResultDataTest, FriendOperationsStoreWhatTheyAreGiven) {
+TEST_F(CKELDResultDataTest, StoresStatusIdentifierAndRecord) {
   const auto result = CKELDResultData::Create();
   const auto record = Make<orvik::IServiceRecord>(orvik::HostClasses::kServiceRecord);
   result->SetStatus(2);
@@ -48,7 +48,7 @@ TEST_F(CKELDResultDataTest, FriendOperationsStoreWhatTheyAreGiven) {
   EXPECT_EQ(result->ServiceRecord(), record);
 }
 
-TEST_F(CKELDResultDataTest, TheOneMeasurementAnswersToAnyIndex) {
+TEST_F(CKELDResultDataTest, AnyIndexGivesTheOneMeasurement) {
   const auto result = CKELDResultData::Create();
   const auto measurement = Measurement(1.0);
   result->SetMeasurement(measurement);
@@ -60,7 +60,7 @@ TEST_F(CKELDResultDataTest, TheOneMeasurementAnswersToAnyIndex) {
 
 // --- service record ---
 
-TEST_F(CKELDResultDataTest, StatusGivesTheServiceRecordCode) {
+TEST_F(CKELDResultDataTest, StatusDecidesTheServiceRecordCode) {
   const auto element = Test(1);
   const auto result = GiveResult(*element, 0);
   const auto code = [&](std::int32_t status) {
@@ -76,7 +76,7 @@ TEST_F(CKELDResultDataTest, StatusGivesTheServiceRecordCode) {
   EXPECT_EQ(code(5), "none");
 }
 
-TEST_F(CKELDResultDataTest, ServiceRecordCarriesNameAndValueText) {
+TEST_F(CKELDResultDataTest, ServiceRecordHasNameAndValueText) {
   const auto element = Test(1);
   SetFilter(*element, 2);
   const auto result = GiveResult(*element, 1);
@@ -87,7 +87,7 @@ TEST_F(CKELDResultDataTest, ServiceRecordCarriesNameAndValueText) {
   EXPECT_EQ(result->ServiceRecord()->Value(), "/ 5.3");
 }
 
-TEST_F(CKELDResultDataTest, NotApplicableHasNoValueWhateverTheMode) {
+TEST_F(CKELDResultDataTest, NotApplicableHasNoValueInAnyMode) {
   const auto element = Test(1);
   const auto result = GiveResult(*element, 3);
   result->SetMeasurement(Measurement(5.3));
@@ -99,7 +99,7 @@ TEST_F(CKELDResultDataTest, NotApplicableHasNoValueWhateverTheMode) {
   }
 }
 
-TEST_F(CKELDResultDataTest, OwnerIsRememberedButNotKeptAlive) {
+TEST_F(CKELDResultDataTest, DoesNotKeepItsOwnerAlive) {
   auto element = Test(1);
   const auto result = GiveResult(*element, 1);
   result->BuildServiceRecord(element);
@@ -108,7 +108,7 @@ TEST_F(CKELDResultDataTest, OwnerIsRememberedButNotKeptAlive) {
   EXPECT_FALSE(result->Owner());
 }
 
-TEST_F(CKELDResultDataTest, FailureToBuildLeavesNoEarlierSummary) {
+TEST_F(CKELDResultDataTest, FailureToBuildRemovesTheEarlierRecord) {
   const auto element = Test(1);
   const auto result = GiveResult(*element, 1);
   result->BuildServiceRecord(element);
@@ -132,7 +132,7 @@ TEST_F(CKELDResultDataTest, ServiceRecordIsMadeFromInformationCodeAndValue) {
 
 // --- reset ---
 
-TEST_F(CKELDResultDataTest, ResetForgetsMeasurementAndSummary) {
+TEST_F(CKELDResultDataTest, ResetRemovesMeasurementAndRecord) {
   const auto element = Measured(1, 5.3);
   const auto result = orvik::As<CKELDResultData>(element->Result());
   result->BuildServiceRecord(element);
@@ -180,7 +180,7 @@ TEST_F(CKELDResultDataTest, ResetReachesEveryDescendant) {
   EXPECT_FALSE(outer->item(4)->Result());
 }
 
-TEST_F(CKELDResultDataTest, ResetGivesEveryDescendantTheSameStatusAndItsOwnSummary) {
+TEST_F(CKELDResultDataTest, ResetSetsStatusAndRecordOfEveryDescendant) {
   const auto leaf = Measured(4, 5.3);
   const auto inner = Sequence(3, {leaf});
   GiveResult(*inner, 1);
@@ -198,7 +198,7 @@ TEST_F(CKELDResultDataTest, ResetGivesEveryDescendantTheSameStatusAndItsOwnSumma
   }
 }
 
-TEST_F(CKELDResultDataTest, ResetSurvivesTenThousandLevels) {
+TEST_F(CKELDResultDataTest, ResetHandlesTenThousandLevels) {
   std::vector<std::shared_ptr<keld::CKELDSequence>> chain{Sequence(1, {})};
   for (std::int32_t level = 2; level <= 10'000; ++level) {
     auto next = Sequence(level, {});

@@ -10,18 +10,18 @@ namespace {
 using keld::JudgedValue;
 using orvik::Variant;
 
-TEST(JudgedValueTest, NumbersAreTakenInSinglePrecision) {
+TEST(JudgedValueTest, NumbersAreInSinglePrecision) {
   EXPECT_EQ(JudgedValue(Variant(0.1)), 0.1F);
   EXPECT_EQ(JudgedValue(Variant(std::int32_t{16777217})), 16777216.0F);
   EXPECT_EQ(JudgedValue(Variant(std::string(" -12.5 "))), -12.5F);
 }
 
-TEST(JudgedValueTest, NumbersBeyondSinglePrecisionAreHeld) {
+TEST(JudgedValueTest, NumbersOutOfRangeAreClamped) {
   EXPECT_EQ(JudgedValue(Variant(1e300)), std::numeric_limits<float>::max());
   EXPECT_EQ(JudgedValue(Variant(-1e300)), -std::numeric_limits<float>::max());
 }
 
-TEST(JudgedValueTest, WhatIsNoNumberIsNotJudged) {
+TEST(JudgedValueTest, OtherValuesAreNotJudged) {
   EXPECT_FALSE(JudgedValue(Variant()));
   EXPECT_FALSE(JudgedValue(Variant(std::string())));
   EXPECT_FALSE(JudgedValue(Variant(std::string("OL"))));

@@ -55,7 +55,7 @@ TEST_F(XDetailedResultTest, TypingHasNoEffect) {
   EXPECT_EQ(comment_->Text(), "worn lead");
 }
 
-TEST_F(XDetailedResultTest, DataThatIsNoResultIsAnError) {
+TEST_F(XDetailedResultTest, RejectsDataThatIsNotAResult) {
   EXPECT_THROW(control_->Initialize(nullptr, {}, {}, {}), orvik::HostError);
   EXPECT_THROW(control_->Initialize(keld::CKELDLimitData::Create(), {}, {}, {}), orvik::HostError);
 }
@@ -83,7 +83,7 @@ TEST_F(XDetailedResultTest, ReadingVisibleFailsWithTheContainersError) {
   }
 }
 
-TEST_F(XDetailedResultTest, VisibleIsWhatTheContainerSaysUnderTheMisspeltName) {
+TEST_F(XDetailedResultTest, VisibleReadsTheMisspeltProperty) {
   const auto form = host_.Application().CreateForm("Other");
   const auto container = std::make_shared<results::ContainerProbe>(form);
   const auto control = keld::XDetailedResult::Create();
@@ -111,7 +111,7 @@ TEST_F(XDetailedResultTest, SettingVisibleWritesVisible) {
   EXPECT_TRUE(site_->Visible());
 }
 
-TEST_F(XDetailedResultTest, TitleSpansTheWidthButForItsIndent) {
+TEST_F(XDetailedResultTest, TitleSpansTheWidthAfterItsIndent) {
   for (const orvik::platform::Twips width : {6000, 3000, 500, 120}) {
     form_->Resize({width, 4000});
     EXPECT_EQ(title_->Bounds().left, 120);
@@ -120,7 +120,7 @@ TEST_F(XDetailedResultTest, TitleSpansTheWidthButForItsIndent) {
   }
 }
 
-TEST_F(XDetailedResultTest, TitleIsNotPlacedWhereItHasNoRoom) {
+TEST_F(XDetailedResultTest, TitleStaysIfThePanelIsTooNarrow) {
   form_->SetGrid({});
   site_->SetBounds({0, 0, 3000, 2000});
   const auto before = title_->Bounds();
@@ -155,7 +155,7 @@ class ResultsWithoutLanguageTest : public results::ResultsTest,
   ResultsWithoutLanguageTest() { support::FailLanguage(host_.Host(), GetParam()); }
 };
 
-TEST_P(ResultsWithoutLanguageTest, TheDetailedResultIsShownAndClosed) {
+TEST_P(ResultsWithoutLanguageTest, DetailedResultIsShownAndClosed) {
   const auto result = keld::CKELDResultData::Create();
   result->SetComment("worn lead");
   const auto dialog = result->CreateDialog();
@@ -174,7 +174,7 @@ TEST_P(ResultsWithoutLanguageTest, TheDetailedResultIsShownAndClosed) {
 }
 
 // Limits pass the host's errors on, to the letter; nothing must stay behind.
-TEST_P(ResultsWithoutLanguageTest, TheLimitDialogFailsWithoutLeavingAWindow) {
+TEST_P(ResultsWithoutLanguageTest, LimitDialogFailsWithoutLeavingAWindow) {
   const auto element = Test(12);
   EXPECT_ANY_THROW(element->Limits()->CreateDialog());
   EXPECT_TRUE(host_.Application().Forms().empty());

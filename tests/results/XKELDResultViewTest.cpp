@@ -91,7 +91,7 @@ TEST_F(XKELDResultViewTest, ListIsHiddenWhileItsColumnsAreAdded) {
   EXPECT_TRUE(site_->Panel()->Find("lvwResults")->Visible());
 }
 
-TEST_F(XKELDResultViewTest, ColumnsAreMadeOnce) {
+TEST_F(XKELDResultViewTest, CreatesItsColumnsOnce) {
   view_->ShowLimitsInRow();
   EXPECT_EQ(list_->Columns().size(), 4U);
 }
@@ -150,7 +150,7 @@ TEST_F(XKELDResultViewTest, SecondResultReplacesTheValueInTheSameRow) {
   EXPECT_EQ(std::any_cast<std::shared_ptr<orvik::IMeasurement>>(list_->Cell("12::", "VAL").tag), first);
 }
 
-TEST_F(XKELDResultViewTest, SecondResultLeavesNameAndLimitsAsTheyStand) {
+TEST_F(XKELDResultViewTest, SecondResultKeepsNameAndLimits) {
   view_->SelectStandard("A", "A text");
   const auto element = WithLimits(12, "2", "10");
   view_->ShowResult(element);
@@ -191,7 +191,7 @@ TEST_F(XKELDResultViewTest, OverloadIsShownInsteadOfTheValue) {
   EXPECT_EQ(Text("12::", "VAL"), "5  mA");
 }
 
-TEST_F(XKELDResultViewTest, MeasurementWithoutValueShowsItsUnitAlone) {
+TEST_F(XKELDResultViewTest, MeasurementWithoutValueShowsOnlyItsUnit) {
   view_->ShowResult(Measured(12, {}));
   EXPECT_EQ(Text("12::", "VAL"), "  mA");
 }
@@ -235,7 +235,7 @@ TEST_F(XKELDResultViewTest, SelectingAStandardRefreshesEveryRow) {
   EXPECT_EQ(Text("13::", "HIL"), "7 mA");
 }
 
-TEST_F(XKELDResultViewTest, UnknownStandardBlanksTheLimitCells) {
+TEST_F(XKELDResultViewTest, UnknownStandardClearsTheLimitCells) {
   view_->SelectStandard("A", "A text");
   const auto element = WithLimits(12, "2", "10");
   view_->ShowResult(element);
@@ -326,7 +326,7 @@ TEST_F(XKELDResultViewTest, ClearDisplayRemovesAllRows) {
   EXPECT_EQ(list_->RowCount(), 1);
 }
 
-TEST_F(XKELDResultViewTest, MouseEventOfTheListIsPassedOn) {
+TEST_F(XKELDResultViewTest, ForwardsTheMouseEventOfTheList) {
   std::vector<std::array<int, 4>> heard;
   const auto listening = view_->MouseUp().Subscribe([&](int button, int shift, int x, int y) {
     heard.push_back({button, shift, x, y});
@@ -335,7 +335,7 @@ TEST_F(XKELDResultViewTest, MouseEventOfTheListIsPassedOn) {
   EXPECT_EQ(heard, (std::vector<std::array<int, 4>>{{2, 1, 300, 450}}));
 }
 
-TEST_F(XKELDResultViewTest, ErrorsPassToTheCaller) {
+TEST_F(XKELDResultViewTest, PropagatesErrors) {
   EXPECT_THROW(view_->ShowResult(nullptr), orvik::HostError);
   EXPECT_THROW(keld::XKELDResultView::Create()->ClearDisplay(), orvik::HostError);
 }
