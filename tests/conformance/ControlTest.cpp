@@ -98,25 +98,5 @@ TEST_P(Controls, AreReleasedWithTheirForm) {
   }
 }
 
-class DetailedResult : public KeldPlugInLoaded {
- protected:
-  std::shared_ptr<platform::IForm> form_ = library_.Application().CreateForm("FControls");
-  std::shared_ptr<platform::IContainerSite> site_ = form_->AddControl("orvikKELD.XDetailedResult", "isc");
-  std::shared_ptr<orvik::ICustomControl> control_ = orvik::As<orvik::ICustomControl>(site_->Object());
-};
-
-// The container is asked for "Visbible", on purpose, and says that it has no such property.
-TEST_F(DetailedResult, PassesTheContainersErrorOnWhenItsVisibilityIsRead) {
-  EXPECT_EQ(ErrorNumberOf([&] { control_->Visible(); }), orvik::HostError::kNoSuchProperty);
-  control_->SetVisible(false);
-  EXPECT_FALSE(site_->Visible());
-}
-
-TEST_F(DetailedResult, CannotBeLockedAndTellsNobody) {
-  control_->SetLocked(true);
-  EXPECT_FALSE(control_->Locked());
-  EXPECT_FALSE(control_->CallBack());
-}
-
 }  // namespace
 }  // namespace conformance

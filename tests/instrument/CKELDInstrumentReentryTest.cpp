@@ -296,14 +296,19 @@ TEST(ReentryOrderTest, EveryHandlerGetsTheIdentity) {
   EXPECT_EQ(heard[1], orvik::Variant(std::string("4711")));
 }
 
-TEST(ReentryOrderTest, DisconnectDuringIremWaitsAndEndsTheSession) {
-  LinkBench link;
-  link.Link()->ConnectMTI();
+/// "IREM" is answered after 1.5 seconds, the end of the session immediately.
+void AnswerSlowly(LinkBench& link) {
   link.Bench().Line().AnswerBy([&](const std::string& command) {
     if (command == "IREM") link.Bench().Line().Reply("irem,KELD(IN),4711,1.05", milliseconds(1500));
     if (command == "STST,210,0") link.Bench().Line().Reply("stst,210,0");
     if (command == "EREM") link.Bench().Line().Reply("erem");
   });
+}
+
+TEST(ReentryOrderTest, DisconnectDuringIremWaitsAndEndsTheSession) {
+  LinkBench link;
+  link.Link()->ConnectMTI();
+  AnswerSlowly(link);
   link.At(milliseconds(4000), [&] { link.Link()->DisconnectMTI(); });
   link.Link()->RunMtiTest(410, 0);
   EXPECT_EQ(link.SentAt(),
@@ -315,11 +320,7 @@ TEST(ReentryOrderTest, StrayMessagesDoNotEndTheWaitForIrem) {
   for (const Texts& stray : {Texts{"gres,410,0,1,0,Ohm"}, Texts{"stst", "erem", "ERRM,1003"}}) {
     LinkBench link;
     link.Link()->ConnectMTI();
-    link.Bench().Line().AnswerBy([&](const std::string& command) {
-      if (command == "IREM") link.Bench().Line().Reply("irem,KELD(IN),4711,1.05", milliseconds(1500));
-      if (command == "STST,210,0") link.Bench().Line().Reply("stst,210,0");
-      if (command == "EREM") link.Bench().Line().Reply("erem");
-    });
+    AnswerSlowly(link);
     link.At(milliseconds(4000), [&] {
       for (const auto& message : stray) link.Bench().Line().Reply(message);
       link.Link()->DisconnectMTI();

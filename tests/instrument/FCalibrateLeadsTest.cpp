@@ -48,6 +48,14 @@ class FCalibrateLeadsTest : public testing::Test {
     });
   }
 
+  /// Shows the window and measures once with these parameters of the tester's replies.
+  void Measure(const std::string& result = ",410,0,0.125,0,Ohm",
+               const std::string& identity = ",KELD(IN),4711,1.05") {
+    form_->Show();
+    Answer(result, identity);
+    Click("cmdCalibrate");
+  }
+
   support::VirtualBench bench_;
   std::shared_ptr<keld::FCalibrateLeads> dialog_;
   std::shared_ptr<platform::IForm> form_;
@@ -102,9 +110,7 @@ TEST_F(FCalibrateLeadsTest, NothingCanBeSavedAtFirst) {
 }
 
 TEST_F(FCalibrateLeadsTest, MeasuresTheLeadsAndEndsTheSession) {
-  form_->Show();
-  Answer(",410,0,0.125,0,Ohm");
-  Click("cmdCalibrate");
+  Measure();
   EXPECT_EQ(bench_.Wire().Sent(), (Texts{"IREM", "STST,410,0", "GRES,410,0", "STST,210,0", "EREM"}));
   EXPECT_EQ(Label("lblValue"), "125");
   EXPECT_EQ(Label("lblStatus"), "Calibration complete.");
@@ -159,21 +165,16 @@ TEST_F(FCalibrateLeadsTest, ReadingsAreShownInMilliohm) {
       {",410,0,0.1254,0,Ohm", "125.4"}, {",410,0,abc,0,Ohm", "0"},       {",410,0,-0.01,0,Ohm", "-10"},
       {",410,0,0.125", "0.125"},
   };
-  form_->Show();
   for (const auto& [reply, shown] : cases) {
-    Answer(reply);
-    Click("cmdCalibrate");
+    Measure(reply);
     EXPECT_EQ(Label("lblValue"), shown) << reply;
     EXPECT_TRUE(Button("cmdSave").Enabled()) << reply;
   }
 }
 
 TEST_F(FCalibrateLeadsTest, AnOverloadCannotBeSaved) {
-  form_->Show();
-  Answer(",410,0,0.125,0,Ohm");
-  Click("cmdCalibrate");
-  Answer(",410,0,0.125,1,Ohm");
-  Click("cmdCalibrate");
+  Measure();
+  Measure(",410,0,0.125,1,Ohm");
   EXPECT_EQ(Label("lblValue"), "OL");
   EXPECT_FALSE(Button("cmdSave").Enabled());
   Serial().TypeOver("another");
@@ -183,9 +184,7 @@ TEST_F(FCalibrateLeadsTest, AnOverloadCannotBeSaved) {
 }
 
 TEST_F(FCalibrateLeadsTest, NoAnswerKeepsTheValueButForbidsSaving) {
-  form_->Show();
-  Answer(",410,0,0.125,0,Ohm");
-  Click("cmdCalibrate");
+  Measure();
   bench_.Line().AnswerBy([](const std::string&) {});
   Click("cmdCalibrate");
   EXPECT_EQ(Label("lblValue"), "125");
@@ -219,9 +218,7 @@ TEST_F(FCalibrateLeadsTest, SendsNothingWithoutAPort) {
 }
 
 TEST_F(FCalibrateLeadsTest, NoPortKeepsTheValueButForbidsSaving) {
-  form_->Show();
-  Answer(",410,0,0.125,0,Ohm");
-  Click("cmdCalibrate");
+  Measure();
   bench_.Unassign();
   Click("cmdCalibrate");
   EXPECT_EQ(Label("lblValue"), "125");
@@ -231,9 +228,7 @@ TEST_F(FCalibrateLeadsTest, NoPortKeepsTheValueButForbidsSaving) {
 }
 
 TEST_F(FCalibrateLeadsTest, SaveNeedsASerialNumber) {
-  form_->Show();
-  Answer(",410,0,0.125,0,Ohm", ",KELD(IN),,1.05");
-  Click("cmdCalibrate");
+  Measure(",410,0,0.125,0,Ohm", ",KELD(IN),,1.05");
   EXPECT_EQ(Serial().Text(), "");
   EXPECT_FALSE(Button("cmdSave").Enabled());
   Serial().Type("4");
@@ -244,9 +239,7 @@ TEST_F(FCalibrateLeadsTest, SaveNeedsASerialNumber) {
 
 TEST_F(FCalibrateLeadsTest, IdentityWithoutSerialNumberIsSavedNotShown) {
   keld::CKELDData::Shared()->SetSerialNumber("0815");
-  form_->Show();
-  Answer(",410,0,0.125,0,Ohm", ",KELD(IN)-2,,1.07");
-  Click("cmdCalibrate");
+  Measure(",410,0,0.125,0,Ohm", ",KELD(IN)-2,,1.07");
   EXPECT_EQ(Serial().Text(), "");
   EXPECT_EQ(Find<platform::ITextBox>("txtMTIType")->Text(), "");
   Serial().TypeOver("4711");
@@ -259,9 +252,7 @@ TEST_F(FCalibrateLeadsTest, IdentityWithoutSerialNumberIsSavedNotShown) {
 }
 
 TEST_F(FCalibrateLeadsTest, SaveUsesTheTestersSerialNumber) {
-  form_->Show();
-  Answer(",410,0,0.1256,0,Ohm");
-  Click("cmdCalibrate");
+  Measure(",410,0,0.1256,0,Ohm");
   Click("cmdSave");
   const auto data = keld::CKELDData::Shared();
   EXPECT_EQ(data->SerialNumber(), "4711");
@@ -273,9 +264,7 @@ TEST_F(FCalibrateLeadsTest, SaveUsesTheTestersSerialNumber) {
 }
 
 TEST_F(FCalibrateLeadsTest, SaveUsesATypedSerialNumber) {
-  form_->Show();
-  Answer(",410,0,0.125,0,Ohm");
-  Click("cmdCalibrate");
+  Measure();
   Serial().TypeOver("0815");
   Click("cmdSave");
   const auto data = keld::CKELDData::Shared();
@@ -284,18 +273,14 @@ TEST_F(FCalibrateLeadsTest, SaveUsesATypedSerialNumber) {
 }
 
 TEST_F(FCalibrateLeadsTest, ValueOutOfRangeIsNotStored) {
-  form_->Show();
-  Answer(",410,0,1e20,0,Ohm");
-  Click("cmdCalibrate");
+  Measure(",410,0,1e20,0,Ohm");
   Click("cmdSave");
   EXPECT_EQ(keld::CKELDData::Shared()->CalibValue(), 0);
   EXPECT_TRUE(keld::CKELDData::Shared()->CalibratedSerialNumbers().empty());
 }
 
 TEST_F(FCalibrateLeadsTest, CancelStoresNothing) {
-  form_->Show();
-  Answer(",410,0,0.125,0,Ohm");
-  Click("cmdCalibrate");
+  Measure();
   Click("cmdCancel");
   EXPECT_TRUE(dialog_->Cancelled());
   EXPECT_FALSE(form_->Visible());

@@ -183,7 +183,7 @@ TEST_F(CKELDLimitDataHostTest, SaveReturnsTheCollectionsNode) {
 TEST_F(CKELDLimitDataHostTest, PrintPassesReportElementAndHeader) {
   const auto collection = std::make_shared<AskedCollection>();
   const auto limits = Asking(collection);
-  const auto report = std::make_shared<results::Report>();
+  const auto report = std::make_shared<recorders::Report>();
   const auto element = Test(1);
   std::optional<bool> printedBefore;
   const auto listening = limits->PrintAccessed().Subscribe(

@@ -240,7 +240,7 @@ TEST_F(CKELDLimitDataTest, PrintsTheCollectionAndRaisesTheEvent) {
   std::vector<Names> told;
   const auto listening =
       limits->PrintAccessed().Subscribe([&](const Names& header) { told.push_back(header); });
-  const auto report = std::make_shared<results::Report>();
+  const auto report = std::make_shared<recorders::Report>();
   limits->PrintReport(report, element);
   limits->AddStandard(nullptr);
   limits->PrintReport(report, element);

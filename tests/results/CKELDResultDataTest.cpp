@@ -213,7 +213,7 @@ TEST_F(CKELDResultDataTest, ResetHandlesTenThousandLevels) {
 // --- report ---
 
 TEST_F(CKELDResultDataTest, PrintsOneTable) {
-  const auto report = std::make_shared<results::Report>();
+  const auto report = std::make_shared<recorders::Report>();
   const auto result = CKELDResultData::Create();
   const auto measurement = Measurement(12.6, "mA");
   measurement->SetDescription("20340::KELD test");
@@ -221,8 +221,8 @@ TEST_F(CKELDResultDataTest, PrintsOneTable) {
   result->PrintReport(report, Test(1));
   EXPECT_EQ(report->calls,
             (std::vector<std::string>{
-                "border 7", "indent 0", "header rows 1", "<+560|<2240|>+1569|>+1569|^+1569|<+!1569|<+560;",
-                "|{\\i\\b Result:}|{\\i\\b Value}|{\\i\\b Unit};", "|      KELD test|13|mA;"}));
+                "border 7", "indent 0", "rows 1", "<+560|<2240|>+1569|>+1569|^+1569|<+!1569|<+560;",
+                "|{\\i\\b [Result:]}|{\\i\\b [Value]}|{\\i\\b [Unit]};", "|      [KELD test]|13|[mA];"}));
   EXPECT_EQ(result->ReportPart(1), report->calls[3]);
   EXPECT_EQ(result->ReportPart(2), report->calls[4]);
   EXPECT_EQ(result->ReportPart(3), report->calls[5]);
@@ -232,7 +232,7 @@ TEST_F(CKELDResultDataTest, PrintsOneTable) {
 
 TEST_F(CKELDResultDataTest, ColumnWidthIsTruncatedTowardZero) {
   const auto format = [&](std::int32_t width) {
-    const auto report = std::make_shared<results::Report>();
+    const auto report = std::make_shared<recorders::Report>();
     report->width = width;
     const auto result = CKELDResultData::Create();
     result->PrintReport(report, nullptr);
@@ -245,7 +245,7 @@ TEST_F(CKELDResultDataTest, ColumnWidthIsTruncatedTowardZero) {
 }
 
 TEST_F(CKELDResultDataTest, WithoutAMeasurementNothingIsPrinted) {
-  const auto report = std::make_shared<results::Report>();
+  const auto report = std::make_shared<recorders::Report>();
   const auto result = CKELDResultData::Create();
   result->SetMeasurement(Measurement(1.0));
   result->PrintReport(report, nullptr);

@@ -30,24 +30,17 @@ class ResultValueTextTest : public results::ResultsTest {
   }
 };
 
-TEST_F(ResultValueTextTest, ModeDecidesWhatASequenceTells) {
-  const std::vector<Variant> values{5.3, 4.1, 5.0};
-  EXPECT_EQ(ValueText(*Values(values, 0), {}), "/5.3");
-  EXPECT_EQ(ValueText(*Values(values, 1), {}), "");
-  EXPECT_EQ(ValueText(*Values(values, 2), {}), "/5.3/4.1/5");
-  EXPECT_EQ(ValueText(*Values(values, 3), {}), "/5.3");
-  EXPECT_EQ(ValueText(*Values(values, 4), {}), "/4.1");
-  EXPECT_EQ(ValueText(*Values(values, 5), {}), "");
-  EXPECT_EQ(ValueText(*Values(values, -1), {}), "");
-}
-
-TEST_F(ResultValueTextTest, ModeDecidesWhatASingleTestTells) {
-  EXPECT_EQ(TextOfTest(5.3, 0), "/5.3");
-  EXPECT_EQ(TextOfTest(5.3, 1), "");
-  EXPECT_EQ(TextOfTest(5.3, 2), "/ 5.3");
-  EXPECT_EQ(TextOfTest(5.3, 3), "/5.3");
-  EXPECT_EQ(TextOfTest(5.3, 4), "/5.3");
-  EXPECT_EQ(TextOfTest(5.3, 5), "");
+TEST_F(ResultValueTextTest, FilterDecidesTheText) {
+  struct Case {
+    std::int32_t filter;
+    std::string ofSequence, ofTest;
+  };
+  const Case cases[] = {{-1, "", ""},        {0, "/5.3", "/5.3"}, {1, "", ""}, {2, "/5.3/4.1/5", "/ 5.3"},
+                        {3, "/5.3", "/5.3"}, {4, "/4.1", "/5.3"}, {5, "", ""}};
+  for (const auto& [filter, ofSequence, ofTest] : cases) {
+    EXPECT_EQ(ValueText(*Values({5.3, 4.1, 5.0}, filter), {}), ofSequence) << filter;
+    EXPECT_EQ(TextOfTest(5.3, filter), ofTest) << filter;
+  }
 }
 
 TEST_F(ResultValueTextTest, NotApplicableHasNoTextInAnyMode) {
@@ -87,44 +80,36 @@ TEST_F(ResultValueTextTest, SequenceIgnoresItsOwnMeasurement) {
   EXPECT_EQ(CollectedList(*Sequence(1, {Measured(2, 4.1)}), 99.0), "/4.1");
 }
 
-TEST_F(ResultValueTextTest, ExtremeOfALoneSlashIsEmpty) {
-  EXPECT_EQ(Largest("/"), "");
-  EXPECT_EQ(Smallest("/"), "");
-}
-
-TEST_F(ResultValueTextTest, ExtremeOfNoChildrenIsEmpty) {
-  EXPECT_EQ(Largest(""), "");
-  EXPECT_EQ(Smallest(""), "");
-}
-
-TEST_F(ResultValueTextTest, PieceWithoutANumberCountsAsZero) {
-  EXPECT_EQ(Largest("//"), "/0");
-  EXPECT_EQ(Smallest("//"), "/0");
-  EXPECT_EQ(Largest("/-3/OL"), "/0");
-  EXPECT_EQ(Smallest("/3/OL"), "/0");
-  EXPECT_EQ(Largest("/7 mA/3"), "/7");
-}
-
-TEST_F(ResultValueTextTest, NegativeNumbersAreCompared) {
-  EXPECT_EQ(Largest("/-5/-4.1"), "/-4.1");
-  EXPECT_EQ(Smallest("/-5/-4.1"), "/-5");
-  EXPECT_EQ(Smallest("/ 5/-0.5"), "/-0.5");
-}
-
-TEST_F(ResultValueTextTest, ExtremeIsFoundWhereverItStands) {
-  EXPECT_EQ(Largest("/9/2/3"), "/9");
-  EXPECT_EQ(Largest("/2/9/3"), "/9");
-  EXPECT_EQ(Largest("/2/3/9"), "/9");
-  EXPECT_EQ(Smallest("/1/2/3"), "/1");
-  EXPECT_EQ(Smallest("/3/2/1"), "/1");
-  EXPECT_EQ(Largest("/3/9/9"), "/9");
-}
-
-TEST_F(ResultValueTextTest, SearchStartsAtTwoToTheThirtieth) {
-  EXPECT_EQ(Largest("/-1073741823"), "/-1073741823");
-  EXPECT_EQ(Largest("/-1073741825"), "/-1073741824");
-  EXPECT_EQ(Smallest("/1073741823"), "/1073741823");
-  EXPECT_EQ(Smallest("/1073741825"), "/1073741824");
+TEST_F(ResultValueTextTest, FindsTheExtremesOfAList) {
+  struct Case {
+    std::string list, largest, smallest;
+  };
+  const Case cases[] = {
+      {"", "", ""},
+      {"/", "", ""},
+      // A piece without a number counts as 0.
+      {"//", "/0", "/0"},
+      {"/-3/OL", "/0", "/-3"},
+      {"/3/OL", "/3", "/0"},
+      {"/7 mA/3", "/7", "/3"},
+      {"/-5/-4.1", "/-4.1", "/-5"},
+      {"/ 5/-0.5", "/5", "/-0.5"},
+      {"/9/2/3", "/9", "/2"},
+      {"/2/9/3", "/9", "/2"},
+      {"/2/3/9", "/9", "/2"},
+      {"/1/2/3", "/3", "/1"},
+      {"/3/2/1", "/3", "/1"},
+      {"/3/9/9", "/9", "/3"},
+      // The search starts at two to the thirtieth.
+      {"/-1073741823", "/-1073741823", "/-1073741823"},
+      {"/-1073741825", "/-1073741824", "/-1073741825"},
+      {"/1073741823", "/1073741823", "/1073741823"},
+      {"/1073741825", "/1073741825", "/1073741824"},
+  };
+  for (const auto& [list, largest, smallest] : cases) {
+    EXPECT_EQ(Largest(list), largest) << list;
+    EXPECT_EQ(Smallest(list), smallest) << list;
+  }
 }
 
 TEST_F(ResultValueTextTest, NestedSequenceCountsByItsSummary) {

@@ -10,7 +10,6 @@
 #include "OrvikTypeLib/HostClasses.h"
 #include "OrvikTypeLib/IInformationRecord.h"
 #include "OrvikTypeLib/ILimit.h"
-#include "OrvikTypeLib/IReport.h"
 #include "OrvikTypeLib/IStandard.h"
 #include "OrvikTypeLib/IStandardColl.h"
 #include "OrvikTypeLib/IXmlDocument.h"
@@ -24,36 +23,10 @@
 #include "plugin/CKELDTestConfiguration.h"
 #include "results/CKELDLimitData.h"
 #include "results/CKELDResultData.h"
+#include "tests/plugin/Recorders.h"
 #include "tests/support/HostOnly.h"
 
 namespace results {
-
-/// Notes down what a result or a limit prints, to the letter.
-class Report final : public virtual orvik::IReport {
- public:
-  std::int32_t width = 9638;
-  std::vector<std::string> calls;
-
- private:
-  std::int32_t IReport_Metric(std::int32_t number) const override {
-    if (number != 10) throw orvik::HostError(5, "report", "unknown metric");
-    return width;
-  }
-  void IReport_SetTableBorder(std::int32_t style) override {
-    calls.push_back("border " + std::to_string(style));
-  }
-  void IReport_SetTableIndent(std::int32_t twips) override {
-    calls.push_back("indent " + std::to_string(twips));
-  }
-  void IReport_SetHeaderRows(std::int32_t rows) override {
-    calls.push_back("header rows " + std::to_string(rows));
-  }
-  void IReport_AddTable(const std::string& format, const std::string& header,
-                        const std::string& rows) override {
-    calls.insert(calls.end(), {format, header, rows});
-  }
-  std::string IReport_Escape(const std::string& text) const override { return text; }
-};
 
 /// The plug-in's elements, results and limits on the real host.
 class ResultsTest : public testing::Test {
