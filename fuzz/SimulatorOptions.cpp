@@ -18,6 +18,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   fuzz::Require(options.timeScale >= sim::Tester::kLowestTimeScale &&
                     options.timeScale <= sim::Tester::kHighestTimeScale,
                 "the time-scale is within its bounds");
-  fuzz::Require(options.faultRate > 0 && options.faultRate <= 1, "the share of faults is within its bounds");
+  fuzz::Require(options.FaultRate() > 0 && options.FaultRate() <= 1,
+                "the share of faults is within its bounds");
   return 0;
 }

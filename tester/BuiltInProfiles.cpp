@@ -94,7 +94,7 @@ void Put(Profile& profile, const Row& row, bool overload) {
   profile.Set(row.test, 0, reading);
   if (!HasLeads(row.test)) return;
   for (int lead = 1; lead <= Profile::kHighestSetting; ++lead) {
-    // An overloaded reading has no share that could be told: each lead shows the range's end as well.
+    // An overloaded reading cannot be divided: each lead shows the end of the range too.
     if (!overload) reading.value = Share(row.value, kLeadShares[lead - 1]);
     profile.Set(row.test, lead, reading);
   }

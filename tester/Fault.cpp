@@ -58,7 +58,7 @@ const std::vector<FaultForm>& FaultForms() {
       {"shorten", FaultKind::Shorten, Argument::Bytes, Time::None, "shorten N",
        "ends after N bytes, with its line end"},
       {"stall", FaultKind::Stall, Argument::Bytes, Time::Optional, "stall N [MS]",
-       "stops after N bytes and goes on MS later; without MS never"},
+       "stops after N bytes and continues MS later; without MS never"},
       {"garble", FaultKind::Garble, Argument::None, Time::None, "garble",
        "has a control byte in its middle, so that the receiver drops it"},
       {"noise", FaultKind::Noise, Argument::None, Time::Optional, "noise [MS]",
@@ -72,7 +72,7 @@ const std::vector<FaultForm>& FaultForms() {
       {"hang-up", FaultKind::HangUp, Argument::None, Time::None, "hang-up",
        "does not come, and the cable is pulled for good: the link is removed and keld-sim ends"},
       {"unplug", FaultKind::Unplug, Argument::None, Time::Required, "unplug MS",
-       "does not come, and the cable is pulled; MS later a new pseudo-terminal stands at the link, and the "
+       "does not come, and the cable is pulled; MS later a new pseudo-terminal is at the link, and the "
        "tester is as it was"},
   };
   return forms;
@@ -83,7 +83,7 @@ Fault ParseFault(std::string_view text, const std::string& name, int line) {
   const auto& forms = FaultForms();
   const auto form =
       std::find_if(forms.begin(), forms.end(), [&](const FaultForm& known) { return known.word == word; });
-  if (form == forms.end()) FailAt(name, line, Quoted(word) + " is no fault; use " + KnownFaults());
+  if (form == forms.end()) FailAt(name, line, Quoted(word) + " is not a fault; use " + KnownFaults());
 
   Fault fault{form->kind, 0, {}, {}};
   if (form->argument == Argument::Text) {

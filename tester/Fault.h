@@ -11,7 +11,7 @@
 
 namespace sim {
 
-/// The ways in which a reply can go wrong; `FaultForms` tells what each one does.
+/// How a reply can go wrong; `FaultForms` describes each.
 enum class FaultKind : std::uint8_t {
   Delay,
   Drop,
@@ -29,7 +29,7 @@ enum class FaultKind : std::uint8_t {
   Unplug
 };
 
-/// One thing that goes wrong with one reply.
+/// What goes wrong with a reply.
 struct Fault {
   FaultKind kind = FaultKind::Drop;
   int number = 0;         ///< a count of bytes or an error number, where the kind has one
@@ -60,10 +60,10 @@ struct FaultForm {
 /// All of them, in the order in which they are taught.
 const std::vector<FaultForm>& FaultForms();
 
-/// Reads a fault as it stands in a script. Throws InputError naming `name` and `line` when it is none.
+/// Parses a fault of a script. Throws InputError with `name` and `line` if it is invalid.
 Fault ParseFault(std::string_view text, const std::string& name, int line);
 
-/// The fault as it stands in a script.
+/// The fault in the syntax of a script.
 std::string FaultText(const Fault& fault);
 
 /// Spoils a reply. It has at most `kMostReplyLines` lines then: what is beyond does not come.

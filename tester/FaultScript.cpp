@@ -30,13 +30,14 @@ FaultScript::Rule FaultScript::ParseRule(const std::string& line, const std::str
   Rule rule;
   const std::string_view command = TakeWord(rest);
   if (!IsCommand(command))
-    FailAt(name, number, "there is no command after 'at'; name one such as GRES, or ANY");
+    FailAt(name, number, "a command is missing after 'at'; name one such as GRES, or ANY");
   rule.command = Latin1ToUtf8(Utf8ToLatin1(command).value());
   if (!rest.empty() && rest.front() >= '0' && rest.front() <= '9') {
     const std::string_view nth = TakeWord(rest);
     const auto count = ParseNumber(nth, std::numeric_limits<int>::max());
     if (!count || *count == 0) {
-      FailAt(name, number, Quoted(nth) + " is no count; 1 is the first " + rule.command + " of the session");
+      FailAt(name, number,
+             Quoted(nth) + " is not a count; 1 is the first " + rule.command + " of the session");
     }
     rule.nth = static_cast<std::uint64_t>(*count);
   }

@@ -21,7 +21,7 @@ struct Outgoing {
 
 /// What a command is answered with.
 struct Reply {
-  std::vector<Outgoing> lines;        ///< none: there is no answer
+  std::vector<Outgoing> lines;        ///< empty if the command is not answered
   std::chrono::microseconds takes{};  ///< the tester is at it so long, in its own time; the lines come then
   bool forget = false;                ///< the tester has left remote mode afterwards
   std::vector<std::string> notes;     ///< remarks for the trace
@@ -40,7 +40,7 @@ class Faults {
   virtual ~Faults() = default;
 
   /// `reply` is the good one to `exchange`, of one line. The hook may change everything in it. The tester
-  /// itself has obeyed the command by then, whatever becomes of the reply.
+  /// itself has obeyed the command by then.
   virtual void OnReply(const Exchange& exchange, Reply& reply) = 0;
 };
 

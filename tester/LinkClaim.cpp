@@ -29,7 +29,7 @@ std::string NameOfClaim(const std::filesystem::path& path) {
 
 LinkClaim::LinkClaim(const std::string& path) {
   const std::string name = NameOfClaim(path);
-  if (name.empty()) return;  // no link can be made there, and whoever tries says so
+  if (name.empty()) return;  // `DeviceLink` reports that no link can be made there
 
   // A socket of the abstract kind: two processes never have one of the same name, and it needs no file.
   holder_ = UniqueFd(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0));

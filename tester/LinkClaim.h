@@ -7,11 +7,11 @@
 namespace sim {
 
 /// The right of one running tester to the link at a path, held as long as this object lives and given back by
-/// the system however the process ends: a link that nobody holds was left by a dead one. No file stands for
-/// it, and it is kept while the cable is unplugged and the link is not there.
+/// the system however the process ends: a link without a holder was left by a dead one. It needs no
+/// file, and it is kept while the cable is unplugged and the link is not there.
 class LinkClaim {
  public:
-  /// Throws InputError when another tester holds the path, by whatever name of its folder; SystemFailure.
+  /// Throws InputError when another tester holds the path, under any name of its folder; SystemFailure.
   explicit LinkClaim(const std::string& path);
 
  private:

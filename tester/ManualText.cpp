@@ -19,8 +19,8 @@ Section Description() {
       {Paragraph("A program that drives a tester opens PATH as its serial port. keld-sim answers there as "
                  "a tester does that measures the equipment of a profile, until it is ended with Ctrl-C, "
                  "SIGTERM or SIGHUP. It prints one line when a client may open the port. Clients may "
-                 "come and go. On demand it goes wrong as a script says, at random, or as a tester did "
-                 "in a wire log.")}};
+                 "come and go. On request it makes the faults of a script, random ones, or those "
+                 "of a tester in a wire log.")}};
 }
 
 Section OptionsSection() {
@@ -28,15 +28,15 @@ Section OptionsSection() {
       "Options",
       {List({
           {"--link PATH",
-           "where the symbolic link to the pseudo-terminal is to stand; only a link that an earlier tester "
+           "path of the symbolic link to the pseudo-terminal; only a link that an earlier tester "
            "left there is replaced, and not while that one runs (exit status 3); removed at the end"},
           {"--profile FILE|NAME",
            "the equipment under test: a built-in profile or a profile file (write ./NAME for a file that is "
            "called like a built-in one); default " +
                std::string(kDefaultProfile)},
-          {"--faults FILE", "go wrong as the fault script says"},
+          {"--faults FILE", "make the faults of the script"},
           {"--fault-seed N",
-           "go wrong at random; the same N goes wrong in the same way again (0 to 18446744073709551615)"},
+           "make random faults; the same N makes the same faults (0 to 18446744073709551615)"},
           {"--fault-rate R",
            "with --fault-seed: the share of the replies that is spoiled, above 0 and up to 1; "
            "default 0.1"},
@@ -78,7 +78,7 @@ Section FaultScripts() {
       {Paragraph("Each line, at COMMAND [NTH] FAULT, spoils the reply to a command. COMMAND is one as sent, "
                  "or ANY; NTH counts its occurrences since the start, from 1; without it every one is hit. "
                  "Faults at the same reply work in their order. The tester itself obeys the command "
-                 "whatever becomes of the reply."),
+                 "even if its reply is spoiled."),
        Example({"at GRES 1 delay 2500", "at STST 2 drop", "at ANY 7 hang-up"}),
        Paragraph("What the reply does:"), List(std::move(forms))}};
 }

@@ -17,7 +17,7 @@ struct Message {
 };
 
 /// Takes a line apart. Empty when its quotation marks do not match: a parameter in quotation marks must end
-/// at a comma or at the line's end, and a mark elsewhere must stand inside such a parameter, doubled.
+/// at a comma or at the line's end, and a mark elsewhere must be inside such a parameter, doubled.
 std::optional<Message> ParseMessage(std::string_view line);
 
 /// The mnemonic of a line, also of one whose parameters are malformed.

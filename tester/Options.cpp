@@ -17,39 +17,6 @@ namespace {
 
 constexpr std::size_t kLongestSerial = 64;
 
-enum Code {
-  kLink = 'l',
-  kProfile = 'p',
-  kFaults = 'f',
-  kFaultSeed = 'F',
-  kFaultRate = 'R',
-  kReplay = 'r',
-  kSerial = 's',
-  kTimeScale = 'x',
-  kTrace = 't',
-  kParent = 'e',
-  kHelp = 'h',
-  kManual = 'm',
-  kVersion = 'V'
-};
-
-constexpr option kLongOptions[] = {
-    {"link", required_argument, nullptr, kLink},
-    {"profile", required_argument, nullptr, kProfile},
-    {"faults", required_argument, nullptr, kFaults},
-    {"fault-seed", required_argument, nullptr, kFaultSeed},
-    {"fault-rate", required_argument, nullptr, kFaultRate},
-    {"replay", required_argument, nullptr, kReplay},
-    {"serial", required_argument, nullptr, kSerial},
-    {"time-scale", required_argument, nullptr, kTimeScale},
-    {"trace", required_argument, nullptr, kTrace},
-    {"exit-with-parent", no_argument, nullptr, kParent},
-    {"help", no_argument, nullptr, kHelp},
-    {"help-man", no_argument, nullptr, kManual},
-    {"version", no_argument, nullptr, kVersion},
-    {nullptr, 0, nullptr, 0},
-};
-
 [[noreturn]] void Fail(const std::string& message) { throw InputError(message + "\nTry 'keld-sim --help'."); }
 
 /// The whole of `text` as a number of its type; empty when it is none.
@@ -84,12 +51,12 @@ double ParseRate(std::string_view text) {
   return *rate;
 }
 
-/// A tester can go wrong in one way alone.
-void CheckFaults(const Options& options, bool rateGiven) {
+/// Faults come from one source only.
+void CheckFaults(const Options& options) {
   const int ways =
       int{options.faults.has_value()} + int{options.faultSeed.has_value()} + int{options.replay.has_value()};
   if (ways > 1) Fail("--faults, --fault-seed and --replay exclude each other: give one of them");
-  if (rateGiven && !options.faultSeed) Fail("--fault-rate goes with --fault-seed: give a seed as well");
+  if (options.faultRate && !options.faultSeed) Fail("--fault-rate needs --fault-seed: give a seed as well");
 }
 
 std::string ParseSerial(const std::string& text) {
@@ -104,51 +71,27 @@ std::string NotEmpty(const char* name, const char* text) {
   return text;
 }
 
-void Take(int code, Options& options) {
-  switch (code) {
-    case kLink:
-      options.link = NotEmpty("--link", optarg);
-      break;
-    case kProfile:
-      options.profile = NotEmpty("--profile", optarg);
-      break;
-    case kFaults:
-      options.faults = NotEmpty("--faults", optarg);
-      break;
-    case kFaultSeed:
-      options.faultSeed = ParseSeed(optarg);
-      break;
-    case kFaultRate:
-      options.faultRate = ParseRate(optarg);
-      break;
-    case kReplay:
-      options.replay = NotEmpty("--replay", optarg);
-      break;
-    case kSerial:
-      options.serial = ParseSerial(optarg);
-      break;
-    case kTimeScale:
-      options.timeScale = ParseTimeScale(optarg);
-      break;
-    case kTrace:
-      options.trace = NotEmpty("--trace", optarg);
-      break;
-    case kParent:
-      options.exitWithParent = true;
-      break;
-    case kHelp:
-      options.action = Options::Action::ShowHelp;
-      break;
-    case kManual:
-      options.action = Options::Action::ShowManual;
-      break;
-    case kVersion:
-      options.action = Options::Action::ShowVersion;
-      break;
-    default:
-      break;
-  }
-}
+struct Known {
+  const char* name;
+  bool needsValue;
+  void (*take)(Options& options, const char* value);
+};
+
+constexpr Known kKnown[] = {
+    {"link", true, [](Options& to, const char* value) { to.link = NotEmpty("--link", value); }},
+    {"profile", true, [](Options& to, const char* value) { to.profile = NotEmpty("--profile", value); }},
+    {"faults", true, [](Options& to, const char* value) { to.faults = NotEmpty("--faults", value); }},
+    {"fault-seed", true, [](Options& to, const char* value) { to.faultSeed = ParseSeed(value); }},
+    {"fault-rate", true, [](Options& to, const char* value) { to.faultRate = ParseRate(value); }},
+    {"replay", true, [](Options& to, const char* value) { to.replay = NotEmpty("--replay", value); }},
+    {"serial", true, [](Options& to, const char* value) { to.serial = ParseSerial(value); }},
+    {"time-scale", true, [](Options& to, const char* value) { to.timeScale = ParseTimeScale(value); }},
+    {"trace", true, [](Options& to, const char* value) { to.trace = NotEmpty("--trace", value); }},
+    {"exit-with-parent", false, [](Options& to, const char*) { to.exitWithParent = true; }},
+    {"help", false, [](Options& to, const char*) { to.action = Options::Action::ShowHelp; }},
+    {"help-man", false, [](Options& to, const char*) { to.action = Options::Action::ShowManual; }},
+    {"version", false, [](Options& to, const char*) { to.action = Options::Action::ShowVersion; }},
+};
 
 }  // namespace
 
@@ -161,27 +104,33 @@ Options ParseOptions(const std::vector<std::string>& arguments) {
   argv.push_back(nullptr);
   const int argc = static_cast<int>(words.size());
 
+  std::vector<option> known;
+  for (const auto& one : kKnown)
+    known.push_back({one.name, one.needsValue ? required_argument : no_argument, nullptr, 0});
+  known.push_back({});
+
   Options options;
-  bool rateGiven = false;
   optind = 0;  // begin afresh, also after an earlier call
   opterr = 0;  // the messages are ours
   for (;;) {
-    // '+': getopt must not reorder the words; ':': it tells a missing value from an unknown option.
-    const int code = getopt_long(argc, argv.data(), "+:h", kLongOptions, nullptr);
+    // '+': getopt must not reorder the words; ':': distinguishes a missing value from an unknown option.
+    int which = 0;
+    const int code = getopt_long(argc, argv.data(), "+:h", known.data(), &which);
     if (code == -1) break;
     const std::string word = words[static_cast<std::size_t>(optind > 0 ? optind - 1 : 0)];
     if (code == ':') Fail("option " + word + " needs a value");
     if (code == '?') Fail("option " + word + " is unknown, ambiguous, or takes no value");
-    Take(code, options);
-    rateGiven |= code == kFaultRate;
+    if (code == 'h')
+      options.action = Options::Action::ShowHelp;
+    else
+      kKnown[which].take(options, optarg);
     if (options.action != Options::Action::Run) return options;
   }
   if (optind < argc)
     Fail(Quoted(words[static_cast<std::size_t>(optind)]) +
          " is not understood; every setting is an option that begins with --");
-  CheckFaults(options, rateGiven);
-  if (options.link.empty())
-    Fail("--link PATH is missing: say where the link to the pseudo-terminal is to stand");
+  CheckFaults(options);
+  if (options.link.empty()) Fail("--link PATH is missing: give the path for the link to the pseudo-terminal");
   return options;
 }
 

@@ -20,12 +20,14 @@ struct Options {
   std::string profile{kDefaultProfile};    ///< a built-in profile's name or a profile file
   std::optional<std::string> faults;       ///< a fault script
   std::optional<std::uint64_t> faultSeed;  ///< faults drawn by this seed
-  double faultRate = kDefaultFaultRate;    ///< the share of the replies that they spoil, above 0 to 1
+  std::optional<double> faultRate;         ///< the share of the replies that they spoil, above 0 to 1
   std::optional<std::string> replay;       ///< a wire log to answer by
   std::optional<std::string> serial;       ///< instead of the profile's serial number; may be empty
   std::optional<std::string> trace;        ///< a file to add the trace to
   double timeScale = 1.0;
   bool exitWithParent = false;
+
+  double FaultRate() const { return faultRate.value_or(kDefaultFaultRate); }
 };
 
 /// Reads the arguments, the program's name not among them. Throws InputError naming the option and what to

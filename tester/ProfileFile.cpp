@@ -82,11 +82,11 @@ class Parser {
       throw InputError(
           name_ + ": gives no reading; add a line such as '410 = 0.123 Ohm' or 'based-on = sound-class-1'");
     }
-    if (Setting("time")) MeasuringTime(0);  // a bad time is told even when no reading needs it
+    if (Setting("time")) MeasuringTime(0);  // reports a bad time even if no reading uses it
     Profile profile = Base();
     SetIdentity(profile);
     Lack(profile);
-    // A test's own reading takes the place of all its leads; then the leads that are given stand on it.
+    // A test's own reading replaces those of its leads, so the given leads come second.
     for (const bool leads : {false, true}) {
       for (const auto& [key, entry] : readings_) {
         if ((key.second != 0) == leads) SetReading(profile, key.first, key.second, entry);
@@ -104,7 +104,7 @@ class Parser {
       Fail(line.number, Quoted(line.text) + " has no '='; write it as: key = value");
     const std::string key(Trim(std::string_view(line.text).substr(0, equals)));
     const Entry entry{line.number, std::string(Trim(std::string_view(line.text).substr(equals + 1)))};
-    if (key.empty()) Fail(line.number, "there is no key before the '='; write it as: key = value");
+    if (key.empty()) Fail(line.number, "a key is missing before the '='; write it as: key = value");
 
     if (key.front() >= '0' && key.front() <= '9') {
       Remember(readings_, TestAndSetting(line.number, key), key, entry);
@@ -114,7 +114,7 @@ class Parser {
     } else {
       Fail(line.number,
            Quoted(key) +
-               " is no key; use name, based-on, type, serial, firmware, time, lacks, a test number such "
+               " is not a key; use name, based-on, type, serial, firmware, time, lacks, a test number such "
                "as 410, or a test number and a lead such as 910/3");
     }
   }
@@ -133,7 +133,7 @@ class Parser {
     if (!test || *test % 100 == 0) {
       Fail(line,
            Quoted(text) +
-               " is no test number; use one from 1 to 32767 that is not a multiple of 100, such as 410");
+               " is not a test number; use one from 1 to 32767 that is not a multiple of 100, such as 410");
     }
     return *test;
   }
@@ -144,7 +144,7 @@ class Parser {
     if (slash == std::string::npos) return {test, 0};
     const auto setting = ParseNumber(Trim(std::string_view(key).substr(slash + 1)), Profile::kHighestSetting);
     if (!setting)
-      Fail(line, Quoted(key.substr(slash + 1)) + " is no lead; use 0 (the test itself) or 1 to 10");
+      Fail(line, Quoted(key.substr(slash + 1)) + " is not a lead; use 0 (the test itself) or 1 to 10");
     return {test, *setting};
   }
 
@@ -158,7 +158,8 @@ class Parser {
     if (const Entry* base = Setting("based-on")) {
       auto builtIn = MakeBuiltInProfile(base->value);
       if (!builtIn) {
-        Fail(base->line, Quoted(base->value) + " is no built-in profile; use one of " + Join(BuiltInNames()));
+        Fail(base->line,
+             Quoted(base->value) + " is not a built-in profile; use one of " + Join(BuiltInNames()));
       }
       profile = *std::move(builtIn);
       profile.SetName(name_);
@@ -263,7 +264,7 @@ class Parser {
       const bool isUnit = word != "overload" && !(next + 2 == words.size() && words[next + 1] == "ms");
       if (isUnit) {
         Fail(line,
-             Quoted(word) + " is no unit of test " + std::to_string(test) + "; use one of " + Join(units));
+             Quoted(word) + " is not a unit of test " + std::to_string(test) + "; use one of " + Join(units));
       }
     }
     if (!usual) {
@@ -278,13 +279,13 @@ class Parser {
     if (!time) return MeasuringTimeOf(test);
     const auto words = Words(time->value);
     if (words.size() != 2 || words[1] != "ms")
-      Fail(time->line, Quoted(time->value) + " is no time; write it as: time = 700 ms");
+      Fail(time->line, Quoted(time->value) + " is not a time; write it as: time = 700 ms");
     return Milliseconds(time->line, words[0]);
   }
 
   std::chrono::milliseconds Milliseconds(int line, const std::string& text) const {
     const auto time = ParseNumber(text, kLongestMeasuringTime);
-    if (!time) Fail(line, Quoted(text) + " is no measuring time; use whole milliseconds from 0 to 60000");
+    if (!time) Fail(line, Quoted(text) + " is not a measuring time; use whole milliseconds from 0 to 60000");
     return std::chrono::milliseconds(*time);
   }
 

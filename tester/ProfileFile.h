@@ -12,7 +12,7 @@ namespace sim {
 /// line.
 Profile ParseProfile(std::string_view content, const std::string& name);
 
-/// The profile that `nameOrPath` stands for: a built-in one by its name, otherwise a profile file.
+/// The built-in profile of that name, otherwise the profile in that file.
 /// Throws InputError when it is neither or the file is bad.
 Profile LoadProfile(const std::string& nameOrPath);
 

@@ -27,7 +27,7 @@ namespace sim {
 
 namespace {
 
-/// Says a line to whoever reads; nobody who does not may hold the tester up.
+/// Prints a line; a reader that does not read must not block the tester.
 void Say(std::FILE* stream, const std::string& text) {
   std::fflush(stream);
   pollfd room{fileno(stream), POLLOUT, 0};
@@ -43,7 +43,7 @@ std::shared_ptr<Faults> MakeFaults(const Options& options) {
     return std::make_shared<Replay>(LoadWireLog(*options.replay),
                                     [](const std::string& remark) { Say(stderr, remark); });
   if (options.faultSeed)
-    return std::make_shared<SeededFaults>(*options.faultSeed, options.faultRate,
+    return std::make_shared<SeededFaults>(*options.faultSeed, options.FaultRate(),
                                           [](const std::string& line) { Say(stdout, "fault: " + line); });
   return nullptr;
 }
@@ -65,7 +65,7 @@ std::string Setting(const Options& options, const Tester& tester) {
   std::string text = "profile " + tester.Model().Name() + ", serial " + tester.Model().Who().serial;
   if (options.faultSeed) {
     char rate[32];
-    std::snprintf(rate, sizeof rate, "%g", options.faultRate);
+    std::snprintf(rate, sizeof rate, "%g", options.FaultRate());
     text += ", --fault-seed " + std::to_string(*options.faultSeed) + " --fault-rate " + rate;
   }
   if (options.replay) text += ", replay of " + *options.replay;
@@ -99,7 +99,7 @@ std::optional<std::chrono::microseconds> Serve(const Options& options, Tester& t
     if (loop.Run() == SerialLoop::End::Stopped) return std::nullopt;
     backAfter = loop.BackAfter();
   }
-  // Said once the link is gone, so that whoever reads it can rely on that.
+  // Printed after the link is removed, so that readers can rely on that.
   Say(stdout, backAfter ? "unplugged" : "hung up");
   return backAfter;
 }
@@ -107,7 +107,7 @@ std::optional<std::chrono::microseconds> Serve(const Options& options, Tester& t
 }  // namespace
 
 void RunTester(const Options& options, int parent) {
-  // Signals first: whatever comes from here on, the link is removed.
+  // Signals first, so that the link is removed in every case.
   const StopSignal stop;
   if (options.exitWithParent) ExitWithParent(parent);
   const LinkClaim claim(options.link);

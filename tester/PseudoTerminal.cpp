@@ -57,7 +57,7 @@ DeviceLink::DeviceLink(std::string path, std::string target)
   if (lstat(path_.c_str(), &status) == 0) {
     const auto old = ReadLink(path_);
     if (!old || !IsPseudoTerminal(*old)) {
-      throw InputError("--link " + path_ + ": something else stands there; remove it or choose another path");
+      throw InputError("--link " + path_ + ": something else is there; remove it or choose another path");
     }
     if (unlink(path_.c_str()) != 0) {
       throw InputError("--link " + path_ + ": the old link cannot be removed: " +

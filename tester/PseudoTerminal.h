@@ -29,12 +29,12 @@ class PseudoTerminal {
 class DeviceLink {
  public:
   /// Makes `path` a link to `target`. A link that leads to a pseudo-terminal, left by an earlier tester, is
-  /// replaced; anything else that stands there is left alone and InputError thrown. Whether that tester has
+  /// replaced; anything else is kept, and InputError thrown. Whether that tester has
   /// ended is for the caller to know: `LinkClaim`.
   DeviceLink(std::string path, std::string target);
   DeviceLink(const DeviceLink&) = delete;
   DeviceLink& operator=(const DeviceLink&) = delete;
-  /// Removes the link, unless somebody has put something else in its place.
+  /// Removes the link unless it has been replaced.
   ~DeviceLink();
 
  private:

@@ -113,7 +113,7 @@ class Reader {
   RecordedWire End() {
     if (wire_.commands.empty())
       throw InputError(wire_.name +
-                       ": no command was sent in it; give the wire log that orvik-bench wrote in a run");
+                       ": it has no sent command; give the wire log that orvik-bench wrote in a run");
     return std::move(wire_);
   }
 
@@ -131,7 +131,8 @@ class Reader {
            "orvik-bench wrote, as it is");
     const std::string_view direction = CutWord(rest);
     if (direction != "sent" && direction != "recv" && direction != "lost" && direction != "note")
-      Fail(line, Quoted(direction) + " is no direction of a wire log; there are sent, recv, lost and note");
+      Fail(line,
+           Quoted(direction) + " is not a direction of a wire log; there are sent, recv, lost and note");
     if (direction == "note") return {*time, direction, std::string(rest)};
     auto bytes = HiddenBytes(rest);
     if (!bytes)
@@ -150,7 +151,7 @@ class Reader {
     // Of an overlong line the log keeps what fits into one; it is to be too long again.
     if (entry.direction == "lost" && reply.bytes.size() == LineReader::kMaxLine) reply.bytes.push_back('?');
     if (wire_.commands.empty()) {
-      reply.after = microseconds::zero();  // before the first command; nobody knows when the port is opened
+      reply.after = microseconds::zero();  // before the first command the time is unknown
       early_.push_back(reply);
       return;
     }

@@ -8,7 +8,7 @@
 
 namespace sim {
 
-/// What a wire log tells of a tester: the commands that it was given, and what came from it after each.
+/// The content of a wire log: the commands that the tester received, and its replies to each.
 struct RecordedWire {
   /// One line of the tester.
   struct Line {

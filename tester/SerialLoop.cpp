@@ -66,7 +66,7 @@ void SerialLoop::Send(const std::string& bytes) {
     shown.remove_suffix(kLineEnd.size());
   }
   if (unsent_.size() + bytes.size() > kMaxUnsent) {
-    Note("note", "nobody reads; the next reply is lost");
+    Note("note", "no client reads; the next reply is lost");
     Note("lost", shown);
     return;
   }
@@ -78,7 +78,7 @@ void SerialLoop::WriteUnsent() {
   while (!unsent_.empty()) {
     const ssize_t count = write(terminal_, unsent_.data(), unsent_.size());
     if (count < 0 && errno == EINTR) continue;
-    if (count < 0 && errno == EAGAIN) return;  // no room; the wait tells when there is some
+    if (count < 0 && errno == EAGAIN) return;  // full; poll reports when there is space
     if (count < 0) throw SystemFailure("the pseudo-terminal could not be written", errno);
     unsent_.erase(0, static_cast<std::size_t>(count));
   }

@@ -17,8 +17,7 @@
 
 namespace sim {
 
-/// A moment on whatever clock the caller uses, counted from any epoch of its choice. It must not run
-/// backwards.
+/// A time on the caller's clock, from any epoch. It must not decrease.
 using Instant = std::chrono::microseconds;
 
 /// The numbers of an "ERRM" reply.

@@ -55,7 +55,7 @@ std::vector<TextLine> SplitTextLines(std::string_view content, const std::string
 }
 
 std::string ReadTextFile(const std::string& path, std::size_t largest) {
-  // Non-blocking: opening a pipe that nobody writes must not hang.
+  // Non-blocking, so that opening a pipe without a writer does not hang.
   const UniqueFd file(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
   if (!file) throw InputError(path + ": cannot be opened: " + ErrorText(errno));
   struct stat status {};
@@ -72,7 +72,7 @@ std::string ReadTextFile(const std::string& path, std::size_t largest) {
     content.append(buffer.data(), static_cast<std::size_t>(count));
     if (content.size() > largest)
       throw InputError(path + ": is larger than " + std::to_string(largest / (1024 * 1024)) +
-                       " MiB; this is no profile, fault script or wire log");
+                       " MiB; a profile, fault script or wire log is smaller");
   }
 }
 

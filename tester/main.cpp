@@ -13,7 +13,7 @@
 
 int main(int argc, char** argv) {
   const int parent = getppid();
-  signal(SIGPIPE, SIG_IGN);  // whoever reads our ready line may leave
+  signal(SIGPIPE, SIG_IGN);  // the reader of the ready line may end first
   try {
     const sim::Options options = sim::ParseOptions(std::vector<std::string>(argv + 1, argv + argc));
     if (options.action == sim::Options::Action::ShowHelp) {

@@ -46,7 +46,7 @@ double ValueOf(const Profile& profile, int test, int setting = 0) {
 
 class EveryProfileTest : public testing::TestWithParam<std::string> {};
 
-TEST_P(EveryProfileTest, ReportsEveryTestItHasInItsUnitWithinTheReplyTime) {
+TEST_P(EveryProfileTest, HasUnitsAndTimesWithinBounds) {
   const auto profile = MakeBuiltInProfile(GetParam());
   ASSERT_TRUE(profile);
   EXPECT_EQ(profile->Name(), GetParam());
@@ -64,7 +64,7 @@ TEST_P(EveryProfileTest, ReportsEveryTestItHasInItsUnitWithinTheReplyTime) {
   }
 }
 
-TEST_P(EveryProfileTest, NoLeadReadsMoreThanAllLeadsTogether) {
+TEST_P(EveryProfileTest, ReadsNoMoreOnOneLeadThanOnAll) {
   const auto profile = MakeBuiltInProfile(GetParam());
   for (const int test : AllTests()) {
     if (!profile->Find(test, 0)) continue;
@@ -83,7 +83,7 @@ INSTANTIATE_TEST_SUITE_P(BuiltIn, EveryProfileTest,
                            return name;
                          });
 
-TEST(BuiltInProfilesTest, TheListNamesExactlyTheFive) {
+TEST(BuiltInProfilesTest, ListsFiveProfiles) {
   std::set<std::string_view> names;
   for (const auto& profile : BuiltInProfiles()) names.insert(profile.name);
   EXPECT_EQ(names, (std::set<std::string_view>{"sound-class-1", "sound-class-2", "broken-earth", "leaky",
@@ -92,7 +92,7 @@ TEST(BuiltInProfilesTest, TheListNamesExactlyTheFive) {
   EXPECT_FALSE(MakeBuiltInProfile(""));
 }
 
-TEST(BuiltInProfilesTest, ACompleteTesterKnowsEveryTest) {
+TEST(BuiltInProfilesTest, HaveEveryTest_IfComplete) {
   std::vector<int> expected = {210, 410, 420, 610, 620, 630, 640, 710, 720, 730, 740, 750, 760};
   for (int test = 910; test <= 965; test += 5) expected.push_back(test);
   expected.insert(expected.end(), {1010, 1020});
@@ -105,7 +105,7 @@ TEST(BuiltInProfilesTest, ACompleteTesterKnowsEveryTest) {
   }
 }
 
-TEST(BuiltInProfilesTest, SoundEquipmentPassesEveryTestOnEveryLead) {
+TEST(BuiltInProfilesTest, SoundEquipment_PassesOnEveryLead) {
   for (const char* name : {"sound-class-1", "sound-class-2"}) {
     const auto profile = MakeBuiltInProfile(name);
     for (const int test : AllTests()) {
@@ -119,7 +119,7 @@ TEST(BuiltInProfilesTest, SoundEquipmentPassesEveryTestOnEveryLead) {
   }
 }
 
-TEST(BuiltInProfilesTest, OnlyTheClass2TesterLacksTestsAndTheyAreTheOnesOfTheEarth) {
+TEST(BuiltInProfilesTest, Class2_LacksTheEarthTests) {
   const auto profile = MakeBuiltInProfile("sound-class-2");
   std::vector<int> lacked;
   for (const int test : AllTests()) {
@@ -128,7 +128,7 @@ TEST(BuiltInProfilesTest, OnlyTheClass2TesterLacksTestsAndTheyAreTheOnesOfTheEar
   EXPECT_EQ(lacked, (std::vector<int>{410, 420, 610, 620, 630, 640}));
 }
 
-TEST(BuiltInProfilesTest, ABrokenEarthFailsEarthAndLeakageAndNothingElse) {
+TEST(BuiltInProfilesTest, BrokenEarth_FailsEarthAndLeakageOnly) {
   const auto profile = MakeBuiltInProfile("broken-earth");
   EXPECT_EQ(profile->Find(410, 0)->value, "1.85");
   for (const int test : AllTests()) {
@@ -138,7 +138,7 @@ TEST(BuiltInProfilesTest, ABrokenEarthFailsEarthAndLeakageAndNothingElse) {
   }
 }
 
-TEST(BuiltInProfilesTest, LeakyEquipmentFailsInsulationAndEveryCurrentButNotTheEarth) {
+TEST(BuiltInProfilesTest, Leaky_FailsInsulationAndCurrents) {
   const auto profile = MakeBuiltInProfile("leaky");
   for (const int test : {210, 410, 420}) EXPECT_TRUE(IsSound(test, ValueOf(*profile, test))) << test;
   for (const int test : AllTests()) {
@@ -146,7 +146,7 @@ TEST(BuiltInProfilesTest, LeakyEquipmentFailsInsulationAndEveryCurrentButNotTheE
   }
 }
 
-TEST(BuiltInProfilesTest, OverloadedCurrentsAndEarthAreBeyondEveryBoundAndTheRestIsSound) {
+TEST(BuiltInProfilesTest, Overloaded_ExceedsEveryBound) {
   const auto profile = MakeBuiltInProfile("overloaded");
   std::vector<int> overloaded;
   for (const int test : AllTests()) {

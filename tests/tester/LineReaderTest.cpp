@@ -22,18 +22,18 @@ class LineReaderTest : public testing::Test {
 
 using Lines = std::vector<std::string>;
 
-TEST_F(LineReaderTest, CrLfAndCrLfTogetherEndALine) {
+TEST_F(LineReaderTest, EndsALineAtCrLfOrBoth) {
   Feed("one\rtwo\nthree\r\nfour\n\r");
   EXPECT_EQ(lines_, (Lines{"one", "two", "three", "four"}));
 }
 
-TEST_F(LineReaderTest, EmptyLinesAreIgnoredAndNotCounted) {
+TEST_F(LineReaderTest, IgnoresEmptyLines) {
   Feed("\r\n\r\n\n\rIREM\r\n\r\n");
   EXPECT_EQ(lines_, (Lines{"IREM"}));
   EXPECT_EQ(reader_.Dropped(), 0u);
 }
 
-TEST_F(LineReaderTest, ALineIsDeliveredOnlyWhenItsEndHasArrived) {
+TEST_F(LineReaderTest, DeliversALine_WhenItsEndArrived) {
   Feed("STST,41");
   EXPECT_TRUE(lines_.empty());
   Feed("0,0");
@@ -42,13 +42,13 @@ TEST_F(LineReaderTest, ALineIsDeliveredOnlyWhenItsEndHasArrived) {
   EXPECT_EQ(lines_, (Lines{"STST,410,0"}));
 }
 
-TEST_F(LineReaderTest, ALineEndCutInTwoIsOneLineEnd) {
+TEST_F(LineReaderTest, TreatsASplitCrLfAsOneEnd) {
   Feed("a\r");
   Feed("\nb\r\n");
   EXPECT_EQ(lines_, (Lines{"a", "b"}));
 }
 
-TEST_F(LineReaderTest, ALineOf1024BytesPassesAndOneOf1025IsDroppedWhole) {
+TEST_F(LineReaderTest, DropsLinesAbove1024Bytes) {
   Feed(std::string(1024, 'a') + "\r\n");
   ASSERT_EQ(lines_.size(), 1u);
   EXPECT_EQ(lines_[0].size(), 1024u);
@@ -58,7 +58,7 @@ TEST_F(LineReaderTest, ALineOf1024BytesPassesAndOneOf1025IsDroppedWhole) {
   EXPECT_EQ(reader_.Dropped(), 1u);
 }
 
-TEST_F(LineReaderTest, AnEndlessLineIsOneDroppedLineAndKeepsNoMoreThanTheLimit) {
+TEST_F(LineReaderTest, BoundsAnEndlessLine) {
   for (int i = 0; i < 1000; ++i) Feed(std::string(1000, 'x'));
   Feed("\nQMTI\n");
   EXPECT_EQ(lines_, (Lines{"QMTI"}));
@@ -66,7 +66,7 @@ TEST_F(LineReaderTest, AnEndlessLineIsOneDroppedLineAndKeepsNoMoreThanTheLimit) 
   EXPECT_EQ(droppedLines_[0].size(), LineReader::kMaxLine);
 }
 
-TEST_F(LineReaderTest, EachControlByteDropsItsLineAloneUpToItsEnd) {
+TEST_F(LineReaderTest, DropsALineWithAControlByte) {
   for (int byte = 0; byte < 256; ++byte) {
     if (byte == '\r' || byte == '\n') continue;
     lines_.clear();

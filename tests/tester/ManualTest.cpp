@@ -14,7 +14,7 @@ namespace {
 
 using support::TemporaryFolder;
 
-TEST(ManualTest, HelpNamesEveryOptionProfileAndFault) {
+TEST(ManualTest, HelpNamesOptionsProfilesAndFaults) {
   const std::string help = HelpText();
   for (const char* word :
        {"--link", "--profile", "--faults", "--fault-seed", "--fault-rate", "--replay", "--serial",
@@ -26,7 +26,7 @@ TEST(ManualTest, HelpNamesEveryOptionProfileAndFault) {
 }
 
 // Divided once more, a reply that came too late would come in time.
-TEST(ManualTest, SaysHowALogOfAFasterRunIsReplayed) {
+TEST(ManualTest, ExplainsReplayOfAFasterRun) {
   EXPECT_TRUE(std::regex_search(HelpText(), std::regex("shortened\\s+times\\s+already")));
   EXPECT_NE(support::ReadFile(SOURCE_PATH "/tester/README.md").find("shortened times already"),
             std::string::npos);
@@ -37,7 +37,7 @@ TEST(ManualTest, HelpFitsATerminal) {
   for (std::string line; std::getline(lines, line);) EXPECT_LE(line.size(), 100u) << line;
 }
 
-TEST(ManualTest, ReadmeTeachesEveryFaultAndOption) {
+TEST(ManualTest, ReadmeDescribesEveryFaultAndOption) {
   const std::string readme = support::ReadFile(SOURCE_PATH "/tester/README.md");
   for (const auto& form : FaultForms())
     EXPECT_NE(readme.find("| `" + std::string(form.syntax) + "` |"), std::string::npos) << form.syntax;
@@ -50,7 +50,7 @@ TEST(ManualTest, ReadmeTeachesEveryFaultAndOption) {
   }
 }
 
-TEST(ManualTest, ThePageIsWellFormed) {
+TEST(ManualTest, PageIsWellFormed) {
   const TemporaryFolder folder;
   const std::string page = folder.Write("keld-sim.1", ManualPage());
   const auto looked = support::RunShell("mandoc -T lint -W warning " + page);
@@ -62,7 +62,7 @@ TEST(ManualTest, ThePageIsWellFormed) {
         << finding;  // it would differ from build to build
 }
 
-TEST(ManualTest, ThePageSaysWhatTheHelpSays) {
+TEST(ManualTest, PageHasTheTextOfTheHelp) {
   const TemporaryFolder folder;
   const auto shown =
       support::RunShell("mandoc -T utf8 -O width=500 " + folder.Write("keld-sim.1", ManualPage()) +

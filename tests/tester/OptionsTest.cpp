@@ -17,7 +17,7 @@ std::string ErrorOf(const Arguments& arguments) {
   return "no hint: " + text;
 }
 
-TEST(OptionsTest, OnlyTheLinkIsNeeded) {
+TEST(OptionsTest, RequiresTheLinkOnly) {
   const Options options = ParseOptions({"--link", "/tmp/t"});
   EXPECT_EQ(options.action, Options::Action::Run);
   EXPECT_EQ(options.link, "/tmp/t");
@@ -26,7 +26,7 @@ TEST(OptionsTest, OnlyTheLinkIsNeeded) {
   EXPECT_FALSE(options.faults || options.serial || options.trace || options.exitWithParent);
 }
 
-TEST(OptionsTest, EveryOptionIsTakenInBothForms) {
+TEST(OptionsTest, AcceptsBothForms) {
   const Options options = ParseOptions({"--link=l", "--profile", "leaky", "--faults=f", "--serial", "",
                                         "--time-scale=2.5", "--trace", "t", "--exit-with-parent"});
   EXPECT_EQ(options.link, "l");
@@ -38,15 +38,15 @@ TEST(OptionsTest, EveryOptionIsTakenInBothForms) {
   EXPECT_TRUE(options.exitWithParent);
 }
 
-TEST(OptionsTest, HelpAndVersionNeedNoLink) {
+TEST(OptionsTest, HelpAndVersion_NeedNoLink) {
   EXPECT_EQ(ParseOptions({"--help"}).action, Options::Action::ShowHelp);
   EXPECT_EQ(ParseOptions({"--help-man"}).action, Options::Action::ShowManual);
   EXPECT_EQ(ParseOptions({"-h"}).action, Options::Action::ShowHelp);
   EXPECT_EQ(ParseOptions({"--version"}).action, Options::Action::ShowVersion);
 }
 
-TEST(OptionsTest, BadUseNamesTheOption) {
-  EXPECT_EQ(ErrorOf({}), "--link PATH is missing: say where the link to the pseudo-terminal is to stand");
+TEST(OptionsTest, BadUse_NamesTheOption) {
+  EXPECT_EQ(ErrorOf({}), "--link PATH is missing: give the path for the link to the pseudo-terminal");
   EXPECT_EQ(ErrorOf({"--link"}), "option --link needs a value");
   EXPECT_EQ(ErrorOf({"--link", ""}), "--link needs a value that is not empty");
   EXPECT_EQ(ErrorOf({"--link", "l", "--colour", "red"}),
@@ -58,7 +58,7 @@ TEST(OptionsTest, BadUseNamesTheOption) {
             "'extra' is not understood; every setting is an option that begins with --");
 }
 
-TEST(OptionsTest, ATimeScaleMustBeANumberInItsRange) {
+TEST(OptionsTest, RefusesATimeScaleOutOfRange) {
   for (const char* text : {"", "0", "-1", "x", "1x", "nan", "inf", "1e10", "0.0001"}) {
     EXPECT_EQ(ErrorOf({"--link", "l", "--time-scale", text}),
               "--time-scale '" + std::string(text) +
@@ -67,7 +67,7 @@ TEST(OptionsTest, ATimeScaleMustBeANumberInItsRange) {
   EXPECT_EQ(ParseOptions({"--link", "l", "--time-scale", "1e9"}).timeScale, 1e9);
 }
 
-TEST(OptionsTest, ASerialNumberMustFitTheWire) {
+TEST(OptionsTest, RefusesAnUnsendableSerialNumber) {
   for (const std::string& text : {std::string("a\nb"), std::string("Ω"), std::string(65, '1')}) {
     EXPECT_EQ(
         ErrorOf({"--link", "l", "--serial", text}),
@@ -75,10 +75,10 @@ TEST(OptionsTest, ASerialNumberMustFitTheWire) {
   }
 }
 
-TEST(OptionsTest, FaultsAreDrawnByASeed) {
+TEST(OptionsTest, ReadsSeedAndRate) {
   const Options options = ParseOptions({"--link", "l", "--fault-seed", "18446744073709551615"});
   EXPECT_EQ(options.faultSeed, 18446744073709551615u);
-  EXPECT_EQ(options.faultRate, 0.1);
+  EXPECT_EQ(options.FaultRate(), 0.1);
   EXPECT_EQ(ParseOptions({"--link", "l", "--fault-rate=1", "--fault-seed=0"}).faultRate, 1.0);
   for (const char* text : {"", "-1", "x", "1.5", "18446744073709551616"}) {
     EXPECT_EQ(ErrorOf({"--link", "l", "--fault-seed", text}),
@@ -90,7 +90,7 @@ TEST(OptionsTest, FaultsAreDrawnByASeed) {
                   "': give a share above 0 and up to 1, such as 0.1 for every tenth reply");
   }
   EXPECT_EQ(ErrorOf({"--link", "l", "--fault-rate", "0.5"}),
-            "--fault-rate goes with --fault-seed: give a seed as well");
+            "--fault-rate needs --fault-seed: give a seed as well");
 }
 
 TEST(OptionsTest, ATesterGoesWrongInOneWayAlone) {

@@ -9,7 +9,7 @@ namespace {
 
 Reading Of(const char* value) { return {value, "µA", false, std::chrono::milliseconds(1)}; }
 
-TEST(ProfileTest, ALeadWithoutReadingOfItsOwnReadsAsTheTestDoes) {
+TEST(ProfileTest, LeadWithoutReading_ReadsAsTheTest) {
   Profile profile("p");
   profile.Set(910, 0, Of("9"));
   profile.Set(910, 3, Of("3"));
@@ -18,14 +18,14 @@ TEST(ProfileTest, ALeadWithoutReadingOfItsOwnReadsAsTheTestDoes) {
   EXPECT_EQ(profile.Find(911, 0), nullptr);
 }
 
-TEST(ProfileTest, NeighbouringTestsDoNotShareSettings) {
+TEST(ProfileTest, KeepsNeighbouringTestsApart) {
   Profile profile("p");
   profile.Set(910, 10, Of("ten"));
   EXPECT_EQ(profile.Find(911, 0), nullptr);
   EXPECT_EQ(profile.Find(910, 0), nullptr);
 }
 
-TEST(ProfileTest, RemovingATestRemovesItsLeads) {
+TEST(ProfileTest, RemovesLeadsWithTheTest) {
   Profile profile("p");
   for (int setting = 0; setting <= 10; ++setting) profile.Set(910, setting, Of("1"));
   profile.Set(915, 0, Of("2"));
@@ -34,7 +34,7 @@ TEST(ProfileTest, RemovingATestRemovesItsLeads) {
   EXPECT_NE(profile.Find(915, 0), nullptr);
 }
 
-TEST(ProfileTest, WhatCannotGoOverTheWireIsRefused) {
+TEST(ProfileTest, RefusesUnsendableText) {
   Profile profile("p");
   EXPECT_THROW(profile.Set(410, 0, Of("1\r\n2")), std::invalid_argument);
   EXPECT_THROW(profile.Set(410, 0, Reading{"1", "Ω", false, {}}), std::invalid_argument);
@@ -45,7 +45,7 @@ TEST(ProfileTest, WhatCannotGoOverTheWireIsRefused) {
   EXPECT_THROW(profile.SetIdentity({"KELD(IN)", "a\nb", "1"}), std::invalid_argument);
 }
 
-TEST(ProfileTest, EachTestReportsInItsOwnUnit) {
+TEST(ProfileTest, GivesEachTestItsUnit) {
   EXPECT_EQ(UnitOf(210), "V");
   for (const int test : {410, 420}) EXPECT_EQ(UnitOf(test), "Ohm");
   for (const int test : {1010, 1020}) EXPECT_EQ(UnitOf(test), "MOhm");

@@ -70,7 +70,7 @@ class ProgramTest : public testing::Test {
   const std::string link_ = folder_.Path("port");
 };
 
-TEST_F(ProgramTest, AnswersOnItsPortAndEndsCleanlyOnEachStopSignal) {
+TEST_F(ProgramTest, EndsCleanlyOnEachStopSignal) {
   for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
     Program program({"--link", link_, "--time-scale", "1000"});
     const std::string ready = program.Line();
@@ -95,7 +95,7 @@ TEST_F(ProgramTest, AnswersOnItsPortAndEndsCleanlyOnEachStopSignal) {
   }
 }
 
-TEST_F(ProgramTest, ClientsComeAndGoAndTheSessionStays) {
+TEST_F(ProgramTest, KeepsTheSession_WhenClientsChange) {
   Program program({"--link", link_});
   program.Line();
   {
@@ -106,7 +106,7 @@ TEST_F(ProgramTest, ClientsComeAndGoAndTheSessionStays) {
   EXPECT_EQ(second.Ask("STST,410,0\n"), "stst,410,0\r\n");
 }
 
-TEST_F(ProgramTest, ProfileSerialFaultsAndTraceAreObeyed) {
+TEST_F(ProgramTest, UsesProfileSerialFaultsAndTrace) {
   const std::string profile = folder_.Write("mine.profile", "name = mine\n410 = 1.5 Ohm overload 0 ms\n");
   const std::string faults = folder_.Write("mine.faults", "at EREM error 77\n");
   const std::string trace = folder_.Path("trace");
@@ -124,7 +124,7 @@ TEST_F(ProgramTest, ProfileSerialFaultsAndTraceAreObeyed) {
   EXPECT_NE(text.find(" sent ERRM,77\n"), std::string::npos) << text;
 }
 
-TEST_F(ProgramTest, AHangUpIsAPulledCable) {
+TEST_F(ProgramTest, HangUp_EndsTheProgram) {
   Program program({"--link", link_, "--faults", folder_.Write("f", "at STST 2 hang-up\n")});
   program.Line();
   Client client(link_);
@@ -136,7 +136,7 @@ TEST_F(ProgramTest, AHangUpIsAPulledCable) {
   EXPECT_FALSE(Exists(link_));
 }
 
-TEST_F(ProgramTest, AnUnpluggedCableComesBackAtTheSameLink) {
+TEST_F(ProgramTest, Unplug_ReturnsAtTheSameLink) {
   const std::string trace = folder_.Path("trace");
   Program program({"--link", link_, "--time-scale", "100", "--trace", trace, "--faults",
                    folder_.Write("f", "at STST 1 unplug 1000\n")});
@@ -159,7 +159,7 @@ TEST_F(ProgramTest, AnUnpluggedCableComesBackAtTheSameLink) {
   EXPECT_NE(text.find(" note plugged in again\n"), std::string::npos) << text;
 }
 
-TEST_F(ProgramTest, CanBeStoppedWhileUnplugged) {
+TEST_F(ProgramTest, StopsWhileUnplugged) {
   Program program({"--link", link_, "--faults", folder_.Write("f", "at IREM 1 unplug 600000\n")});
   program.Line();
   Client client(link_);
@@ -170,7 +170,7 @@ TEST_F(ProgramTest, CanBeStoppedWhileUnplugged) {
   EXPECT_FALSE(Exists(link_));
 }
 
-TEST_F(ProgramTest, TheLinkOfATesterThatRunsIsNotTakenOver) {
+TEST_F(ProgramTest, RefusesTheLinkOfARunningTester) {
   Program first({"--link", link_});
   first.Line();
   const auto device = std::filesystem::read_symlink(link_);
@@ -189,19 +189,19 @@ TEST_F(ProgramTest, TheLinkOfATesterThatRunsIsNotTakenOver) {
   EXPECT_EQ(beside.Line().substr(0, 15), "keld-sim: ready") << "another path is free";
 }
 
-TEST_F(ProgramTest, TheLinkOfATesterThatWasKilledIsReplaced) {
+TEST_F(ProgramTest, ReplacesTheLinkOfAKilledTester) {
   Program first({"--link", link_});
   first.Line();
   first.Signal(SIGKILL);
   first.Wait();
-  ASSERT_TRUE(Exists(link_)) << "nobody took it away";
+  ASSERT_TRUE(Exists(link_));
   Program second({"--link", link_});
   EXPECT_EQ(second.Line().substr(0, 15), "keld-sim: ready");
   Client client(link_);
   EXPECT_EQ(client.Ask("IREM\r\n").substr(0, 5), "irem,");
 }
 
-TEST_F(ProgramTest, WhoIsUnpluggedKeepsTheRightToItsLink) {
+TEST_F(ProgramTest, Unplugged_KeepsItsLinkReserved) {
   Program first({"--link", link_, "--faults", folder_.Write("f", "at IREM 1 unplug 600000\n")});
   first.Line();
   Client client(link_);
@@ -212,7 +212,7 @@ TEST_F(ProgramTest, WhoIsUnpluggedKeepsTheRightToItsLink) {
   EXPECT_EQ(second.Wait().status, 3);
 }
 
-TEST_F(ProgramTest, RandomFaultsArePrintedSoThatTheyCanBeHadAgain) {
+TEST_F(ProgramTest, PrintsRandomFaultsAsAScript) {
   Program program({"--link", link_, "--fault-seed", "3", "--fault-rate", "1"});
   EXPECT_NE(program.Line().find(", --fault-seed 3 --fault-rate 1\n"), std::string::npos);
   Client client(link_);
@@ -220,7 +220,7 @@ TEST_F(ProgramTest, RandomFaultsArePrintedSoThatTheyCanBeHadAgain) {
   EXPECT_EQ(program.Line().substr(0, 25), "keld-sim: fault: at ANY 1");
 }
 
-TEST_F(ProgramTest, AWireLogIsReplayed) {
+TEST_F(ProgramTest, ReplaysAWireLog) {
   const std::string log = folder_.Write("w.log",
                                         "2026-03-01T10:00:00.000000Z sent IREM\n"
                                         "2026-03-01T10:00:00.010000Z recv irem,KELD(IN),0417,2.71\n");
@@ -236,7 +236,7 @@ TEST_F(ProgramTest, AWireLogIsReplayed) {
                              " at this point (the log has ended); answered as the simulated tester does\n");
 }
 
-TEST_F(ProgramTest, EndsWithItsParentWhenAsked) {
+TEST_F(ProgramTest, EndsWithItsParent) {
   // The shell ends as soon as the program is ready. The program keeps the standard error, so its end is
   // awaited.
   const auto ready = folder_.Path("ready");
@@ -245,7 +245,7 @@ TEST_F(ProgramTest, EndsWithItsParentWhenAsked) {
   EXPECT_FALSE(Exists(link_));
 }
 
-TEST_F(ProgramTest, BadUseEndsWith3AndLeavesNoLink) {
+TEST_F(ProgramTest, BadUse_EndsWith3WithoutALink) {
   folder_.Write("file", "precious");
   const std::vector<std::pair<std::vector<std::string>, std::string>> cases = {
       {{}, "--link PATH is missing"},
@@ -254,10 +254,10 @@ TEST_F(ProgramTest, BadUseEndsWith3AndLeavesNoLink) {
       {{"--link", link_, "--profile", folder_.Write("p", "410 = x\n")},
        folder_.Path("p") + ":1: 'x' is not a number"},
       {{"--link", link_, "--faults", folder_.Write("f", "at GRES vanish\n")},
-       folder_.Path("f") + ":1: 'vanish' is no fault"},
+       folder_.Path("f") + ":1: 'vanish' is not a fault"},
       {{"--link", link_, "--replay", folder_.Write("w", "no log\n")}, folder_.Path("w") + ":1: no time"},
       {{"--link", link_, "--trace", folder_.Path("no/trace")}, "--trace " + folder_.Path("no/trace")},
-      {{"--link", folder_.Path("file")}, "something else stands there"},
+      {{"--link", folder_.Path("file")}, "something else is there"},
   };
   for (const auto& [arguments, message] : cases) {
     const auto ended = Program(arguments).Wait();
@@ -270,7 +270,7 @@ TEST_F(ProgramTest, BadUseEndsWith3AndLeavesNoLink) {
   EXPECT_EQ(support::ReadFile(folder_.Path("file")), "precious");
 }
 
-TEST_F(ProgramTest, HelpAndVersionEndWith0) {
+TEST_F(ProgramTest, HelpAndVersion_EndWith0) {
   const auto help = Program({"--help"}).Wait();
   EXPECT_EQ(help.status, 0);
   EXPECT_NE(help.out.find("Usage: keld-sim --link PATH"), std::string::npos);
@@ -279,7 +279,7 @@ TEST_F(ProgramTest, HelpAndVersionEndWith0) {
   EXPECT_EQ(version.out.substr(0, 9), "keld-sim ");
 }
 
-TEST_F(ProgramTest, ATraceThatCannotBeWrittenEndsWith4AndTakesTheLinkAway) {
+TEST_F(ProgramTest, UnwritableTrace_EndsWith4WithoutALink) {
   Program program({"--link", link_, "--trace", "/dev/full"});
   program.Line();
   Client client(link_);

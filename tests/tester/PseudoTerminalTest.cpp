@@ -17,7 +17,7 @@ using test::InputErrorOf;
 
 std::string TargetOf(const std::string& path) { return std::filesystem::read_symlink(path).string(); }
 
-TEST(PseudoTerminalTest, TheDeviceIsRawAndNeitherEchoesNorTranslates) {
+TEST(PseudoTerminalTest, PassesBytesUnchanged) {
   const PseudoTerminal terminal;
   const UniqueFd client(open(terminal.DevicePath().c_str(), O_RDWR | O_NOCTTY | O_CLOEXEC));
   ASSERT_TRUE(client);
@@ -28,7 +28,7 @@ TEST(PseudoTerminalTest, TheDeviceIsRawAndNeitherEchoesNorTranslates) {
   EXPECT_EQ(mode.c_oflag & static_cast<tcflag_t>(OPOST), 0u);
 }
 
-TEST(PseudoTerminalTest, OurEndStaysUsableWhenAClientHasGone) {
+TEST(PseudoTerminalTest, StaysUsable_AfterAClientLeft) {
   const PseudoTerminal terminal;
   for (int round = 0; round < 2; ++round) {
     const UniqueFd client(open(terminal.DevicePath().c_str(), O_RDWR | O_NOCTTY | O_CLOEXEC));
@@ -39,7 +39,7 @@ TEST(PseudoTerminalTest, OurEndStaysUsableWhenAClientHasGone) {
   EXPECT_EQ(errno, EAGAIN) << "no hang-up";
 }
 
-TEST(DeviceLinkTest, StandsAsLongAsItsObject) {
+TEST(DeviceLinkTest, ExistsAsLongAsItsObject) {
   const TemporaryFolder folder;
   {
     const DeviceLink link(folder.Path("port"), "/dev/pts/99999");
@@ -48,14 +48,14 @@ TEST(DeviceLinkTest, StandsAsLongAsItsObject) {
   EXPECT_FALSE(Exists(folder.Path("port")));
 }
 
-TEST(DeviceLinkTest, ALinkLeftByAnEarlierTesterIsReplaced) {
+TEST(DeviceLinkTest, ReplacesAnEarlierTestersLink) {
   const TemporaryFolder folder;
   std::filesystem::create_symlink("/dev/pts/88888", folder.Path("port"));
   const DeviceLink link(folder.Path("port"), "/dev/pts/99999");
   EXPECT_EQ(TargetOf(folder.Path("port")), "/dev/pts/99999");
 }
 
-TEST(DeviceLinkTest, NothingElseIsEverReplaced) {
+TEST(DeviceLinkTest, ReplacesNothingElse) {
   const TemporaryFolder folder;
   folder.Write("file", "precious");
   std::filesystem::create_directory(folder.Path("directory"));
@@ -64,13 +64,13 @@ TEST(DeviceLinkTest, NothingElseIsEverReplaced) {
   for (const char* name : {"file", "directory", "link", "dangling"}) {
     const std::string path = folder.Path(name);
     EXPECT_EQ(InputErrorOf([&] { DeviceLink(path, "/dev/pts/99999"); }),
-              "--link " + path + ": something else stands there; remove it or choose another path");
+              "--link " + path + ": something else is there; remove it or choose another path");
     EXPECT_TRUE(Exists(path)) << name;
   }
   EXPECT_EQ(support::ReadFile(folder.Path("file")), "precious");
 }
 
-TEST(DeviceLinkTest, AMissingFolderIsTold) {
+TEST(DeviceLinkTest, ReportsAMissingFolder) {
   const TemporaryFolder folder;
   EXPECT_EQ(InputErrorOf([&] { DeviceLink(folder.Path("no/port"), "/dev/pts/99999"); }),
             "--link " + folder.Path("no/port") +
@@ -79,7 +79,7 @@ TEST(DeviceLinkTest, AMissingFolderIsTold) {
                 "you may write to");
 }
 
-TEST(DeviceLinkTest, WhatSomebodyElsePutThereMeanwhileIsLeft) {
+TEST(DeviceLinkTest, KeepsALinkThatWasReplaced) {
   const TemporaryFolder folder;
   {
     const DeviceLink link(folder.Path("port"), "/dev/pts/88888");

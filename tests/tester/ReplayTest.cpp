@@ -52,7 +52,7 @@ TEST_F(ReplayTest, AnswersAsTheTesterDid) {
   EXPECT_TRUE(remarks_.empty());
 }
 
-TEST_F(ReplayTest, TheTimesAreThoseOfTheLog) {
+TEST_F(ReplayTest, UsesTheTimesOfTheLog) {
   Use(kLog);
   tester_.Receive("IREM\r\nIREM\r\n", Instant(0));
   EXPECT_EQ(tester_.NextDue(), milliseconds(250));
@@ -67,7 +67,7 @@ TEST_F(ReplayTest, TheTimesAreThoseOfTheLog) {
   EXPECT_EQ(pulled->backAfter, milliseconds(1000)) << "the log goes on";
 }
 
-TEST_F(ReplayTest, TheEndOfALogThatFailedIsForGood) {
+TEST_F(ReplayTest, HangsUp_AtTheEndOfAFailedLog) {
   Use("2026-03-01T10:00:00.000000Z sent IREM\n2026-03-01T10:00:01.000000Z note the line has failed\n");
   tester_.Receive("IREM\r\n", Instant(0));
   const auto pulled = tester_.TakeDue(milliseconds(1000));
@@ -75,7 +75,7 @@ TEST_F(ReplayTest, TheEndOfALogThatFailedIsForGood) {
   EXPECT_FALSE(pulled->backAfter);
 }
 
-TEST_F(ReplayTest, ACommandThatTheLogDoesNotHoldIsAnsweredSensiblyAndSaid) {
+TEST_F(ReplayTest, ReportsACommandMissingInTheLog) {
   Use(kLog);
   EXPECT_EQ(Ask(tester_, "IREM\r\nIREM\r\n"), "irem,KELD(IN),0417,2.71\r\n");
   EXPECT_EQ(Ask(tester_, "STST,420,0\r\n"), "stst,420,0\r\n");
@@ -87,7 +87,7 @@ TEST_F(ReplayTest, ACommandThatTheLogDoesNotHoldIsAnsweredSensiblyAndSaid) {
   EXPECT_EQ(Ask(tester_, "STST,410,0\r\n"), "s\x1Bst\\,410,0\r\n") << "the log has not been left";
 }
 
-TEST_F(ReplayTest, ANewSessionGoesOnAtTheNextOne) {
+TEST_F(ReplayTest, NewSession_ContinuesAtTheNextOne) {
   Use(kLog);
   Ask(tester_, "IREM\r\nIREM\r\nSTST,410,0\r\n");
   EXPECT_EQ(Ask(tester_, "IREM\r\n"), "irem,KELD(IN),0417,2.71\r\n");
@@ -99,7 +99,7 @@ TEST_F(ReplayTest, ANewSessionGoesOnAtTheNextOne) {
             "does");
 }
 
-TEST_F(ReplayTest, WhatCameBeforeTheFirstCommandComesWithIt) {
+TEST_F(ReplayTest, SendsEarlyLinesWithTheFirstReply) {
   Use("2026-03-01T10:00:00.000000Z recv gres,410,0,1,0,Ohm\n2026-03-01T10:00:01.000000Z sent IREM\n");
   EXPECT_EQ(Ask(tester_, "IREM\r\n"), "gres,410,0,1,0,Ohm\r\n");
 }
@@ -132,7 +132,7 @@ struct BadLog {
 
 class WireLogErrorTest : public testing::TestWithParam<BadLog> {};
 
-TEST_P(WireLogErrorTest, NamesFileAndLineAndSaysWhatToDo) {
+TEST_P(WireLogErrorTest, NamesFileLineAndRemedy) {
   const std::string log = std::string("2026-03-01T10:00:00.000000Z sent IREM\n") + GetParam().line + "\n";
   const std::string error = test::InputErrorOf([&] { ParseWireLog(log, "w.log"); });
   EXPECT_EQ(error.substr(0, 9), "w.log:2: ");
@@ -144,18 +144,18 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(
         BadLog{"hello", "no time such as"}, BadLog{"2026-13-01T10:00:00.000000Z sent IREM", "no time"},
         BadLog{"2026-03-01T10:00:00Z sent IREM", "no time"},
-        BadLog{"2026-03-01T10:00:00.000000Z told IREM", "'told' is no direction"},
-        BadLog{"2026-03-01T10:00:00.000000Z", "'' is no direction"},
+        BadLog{"2026-03-01T10:00:00.000000Z told IREM", "'told' is not a direction"},
+        BadLog{"2026-03-01T10:00:00.000000Z", "'' is not a direction"},
         BadLog{"2026-03-01T10:00:00.000000Z sent", "'sent' has no command"},
         BadLog{"2026-03-01T10:00:00.000000Z recv a\\q", "is not written as orvik-bench writes it"},
         BadLog{"2026-03-01T10:00:00.000000Z recv \xCE\xA9", "is not written as orvik-bench writes it"},
         BadLog{"2026-03-01T10:00:00.000000Z recv STST,410,0", "keld-sim's own trace"}));
 
-TEST(WireLogTest, OneWithoutACommandIsRefused) {
+TEST(WireLogTest, RefusesALogWithoutCommands) {
   const support::TemporaryFolder folder;
   const std::string path = folder.Write("w.log", "2026-03-01T10:00:00.000000Z note closed\n");
   EXPECT_EQ(test::InputErrorOf([&] { LoadWireLog(path); }),
-            path + ": no command was sent in it; give the wire log that orvik-bench wrote in a run");
+            path + ": it has no sent command; give the wire log that orvik-bench wrote in a run");
 }
 
 }  // namespace

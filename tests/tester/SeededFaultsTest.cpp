@@ -42,7 +42,7 @@ Heard ListenToSeed(std::uint64_t seed, double rate, int sessions = 60) {
       sessions);
 }
 
-TEST(SeededFaultsTest, TheSameSeedGoesWrongInTheSameWay) {
+TEST(SeededFaultsTest, SameSeed_MakesTheSameFaults) {
   const auto first = ListenToSeed(42, 0.5);
   const auto second = ListenToSeed(42, 0.5);
   EXPECT_EQ(first.said, second.said);
@@ -50,21 +50,20 @@ TEST(SeededFaultsTest, TheSameSeedGoesWrongInTheSameWay) {
   EXPECT_NE(ListenToSeed(43, 0.5).script, first.script);
 }
 
-TEST(SeededFaultsTest, ASeedMeansTheSameOnEveryMachine) {
-  // Written down once: a run from another machine, or from last year, is had again by its seed.
+TEST(SeededFaultsTest, SeedMeansTheSameOnEveryMachine) {
   EXPECT_EQ(ListenToSeed(1, 0.5, 2).script,
             "at ANY 2 error 18382\nat ANY 5 shorten 24\nat ANY 6 stall 7 383\n"
             "at ANY 7 error 1002\nat ANY 9 error 1003\n");
 }
 
-TEST(SeededFaultsTest, WhatIsPrintedIsAScriptThatDoesTheSame) {
+TEST(SeededFaultsTest, PrintsAScriptThatDoesTheSame) {
   const auto drawn = ListenToSeed(7, 0.4);
   const auto scripted =
       Listen([&](Heard&) { return std::make_shared<FaultScript>(drawn.script, "printed"); }, 60);
   EXPECT_EQ(scripted.said, drawn.said);
 }
 
-TEST(SeededFaultsTest, TheRateIsTheShareOfSpoiledReplies) {
+TEST(SeededFaultsTest, SpoilsTheGivenShareOfReplies) {
   const auto count = [](const Heard& heard) {
     return std::count(heard.script.begin(), heard.script.end(), '\n');
   };
@@ -74,7 +73,7 @@ TEST(SeededFaultsTest, TheRateIsTheShareOfSpoiledReplies) {
   EXPECT_GT(count(ListenToSeed(3, 1.0, 200)), 600) << "a pulled cable ends a session early";
 }
 
-TEST(SeededFaultsTest, EveryKindButReplyAndHangUpIsDrawn) {
+TEST(SeededFaultsTest, DrawsEveryKindButReplyAndHangUp) {
   std::istringstream lines(ListenToSeed(5, 1.0, 300).script);
   std::set<std::string> words;
   for (std::string at, any, nth, word; lines >> at >> any >> nth >> word;) {

@@ -44,7 +44,7 @@ class SerialLoopTest : public testing::Test {
   UniqueFd stop_{eventfd(0, EFD_CLOEXEC)};
 };
 
-TEST_F(SerialLoopTest, AnswersUntilAFaultHangsUp) {
+TEST_F(SerialLoopTest, AnswersUntilHungUp) {
   const TemporaryFolder folder;
   tester_.UseFaults(std::make_shared<FaultScript>("at EREM hang-up", "f"));
   Trace trace(folder.Path("trace"));
@@ -59,19 +59,19 @@ TEST_F(SerialLoopTest, AnswersUntilAFaultHangsUp) {
   }
 }
 
-TEST_F(SerialLoopTest, EndsWhenAskedTo) {
+TEST_F(SerialLoopTest, EndsWhenStopped) {
   SerialLoop loop(tester_, near_.Get(), stop_.Get(), nullptr);
   ASSERT_EQ(eventfd_write(stop_.Get(), 1), 0);
   EXPECT_EQ(loop.Run(), SerialLoop::End::Stopped);
 }
 
-TEST_F(SerialLoopTest, ALineThatFailsIsAFailureAndNoLoop) {
+TEST_F(SerialLoopTest, FailedLine_Throws) {
   SerialLoop loop(tester_, near_.Get(), stop_.Get(), nullptr);
   far_.Close();
   EXPECT_THROW(loop.Run(), SystemFailure);
 }
 
-TEST_F(SerialLoopTest, WhenNobodyReadsRepliesAreLostAndNotHoarded) {
+TEST_F(SerialLoopTest, DropsReplies_WhenNoClientReads) {
   const TemporaryFolder folder;
   // Long replies, and the smallest send buffer that the system gives.
   const int smallest = 1;
@@ -84,7 +84,7 @@ TEST_F(SerialLoopTest, WhenNobodyReadsRepliesAreLostAndNotHoarded) {
   for (int i = 0; i < 200; ++i) commands += "QMTI\r\n";
   Say(commands + "EREM\r\n");
   EXPECT_EQ(loop.Run(), SerialLoop::End::HungUp);
-  EXPECT_NE(support::ReadFile(folder.Path("trace")).find("note nobody reads; the next reply is lost\n"),
+  EXPECT_NE(support::ReadFile(folder.Path("trace")).find("note no client reads; the next reply is lost\n"),
             std::string::npos);
   EXPECT_EQ(Heard().substr(0, 1000), std::string(1000, 'r'));
 }

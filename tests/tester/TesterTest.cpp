@@ -24,7 +24,7 @@ class TesterTest : public testing::Test {
   Tester tester_{MakeBuiltInProfile("sound-class-1").value()};
 };
 
-TEST_F(TesterTest, AWholeSessionGoesAsTheDocumentedOne) {
+TEST_F(TesterTest, AnswersACompleteSession) {
   EXPECT_EQ(Ask(tester_, "IREM\r\n"), kIdentity);
   EXPECT_EQ(Ask(tester_, "STST,410,0\r\n"), "stst,410,0\r\n");
   EXPECT_EQ(Ask(tester_, "GRES,410,0\r\n"), "gres,410,0,0.123,0,Ohm\r\n");
@@ -33,7 +33,7 @@ TEST_F(TesterTest, AWholeSessionGoesAsTheDocumentedOne) {
   EXPECT_FALSE(tester_.InRemoteMode());
 }
 
-TEST_F(TesterTest, IdentityHoldsTypeSerialAndFirmware) {
+TEST_F(TesterTest, IdentifiesTypeSerialAndFirmware) {
   Profile profile = MakeBuiltInProfile("leaky").value();
   profile.SetIdentity({"KELD(IN)", "A,\"7\" µ", "9"});
   Tester tester(profile);
@@ -41,7 +41,7 @@ TEST_F(TesterTest, IdentityHoldsTypeSerialAndFirmware) {
   EXPECT_EQ(Ask(tester, "QMTI\n"), "qmti,KELD(IN),\"A,\"\"7\"\" \xB5\",9\r\n");
 }
 
-TEST_F(TesterTest, OutsideRemoteModeOnlyIdentityIsAnswered) {
+TEST_F(TesterTest, RefusesAllButIdentity_OutsideRemoteMode) {
   EXPECT_EQ(Ask(tester_, "QMTI\r\n"), "qmti,KELD(IN),SIM-0001,3.10\r\n");
   EXPECT_FALSE(tester_.InRemoteMode());
   for (const char* command : {"STST,410,0\r\n", "GRES,410,0\r\n", "EREM\r\n", "#PON\r\n", "#POF\r\n"}) {
@@ -49,7 +49,7 @@ TEST_F(TesterTest, OutsideRemoteModeOnlyIdentityIsAnswered) {
   }
 }
 
-TEST_F(TesterTest, LeavingRemoteModeTakesTheSessionWithIt) {
+TEST_F(TesterTest, ForgetsTheSession_OnLeavingRemoteMode) {
   EnterRemote();
   Ask(tester_, "#PON\r\nSTST,410,0\r\nEREM\r\n");
   EXPECT_FALSE(tester_.PowerOn());
@@ -58,7 +58,7 @@ TEST_F(TesterTest, LeavingRemoteModeTakesTheSessionWithIt) {
   EXPECT_EQ(Ask(tester_, "GRES,410,0\r\n"), "ERRM,1003\r\n") << "the test was started in another session";
 }
 
-TEST_F(TesterTest, ARepeatedCommandIsAnsweredAgain) {
+TEST_F(TesterTest, AnswersARepeatedCommand) {
   EnterRemote();
   EnterRemote();
   EXPECT_EQ(Ask(tester_, "STST,630,0\r\nSTST,630,0\r\n"), "stst,630,0\r\nstst,630,0\r\n");
@@ -68,7 +68,7 @@ TEST_F(TesterTest, ARepeatedCommandIsAnsweredAgain) {
             "A\r\n");
 }
 
-TEST_F(TesterTest, OnlyTheResultOfTheStartedTestCanBeHad) {
+TEST_F(TesterTest, ReturnsTheStartedTestsResultOnly) {
   EnterRemote();
   EXPECT_EQ(Ask(tester_, "GRES,410,0\r\n"), "ERRM,1003\r\n");
   Ask(tester_, "STST,910,3\r\n");
@@ -81,7 +81,7 @@ TEST_F(TesterTest, OnlyTheResultOfTheStartedTestCanBeHad) {
   EXPECT_EQ(Ask(tester_, "GRES,910,3\r\n"), "ERRM,1003\r\n");
 }
 
-TEST_F(TesterTest, ATestThatTheTesterLacksIsRefusedAndTheStartedOneStays) {
+TEST_F(TesterTest, RefusesATestItLacks_KeepsTheStartedOne) {
   EnterRemote();
   Ask(tester_, "STST,410,0\r\n");
   EXPECT_EQ(Ask(tester_, "STST,430,0\r\n"), "ERRM,6002\r\n");
@@ -90,13 +90,13 @@ TEST_F(TesterTest, ATestThatTheTesterLacksIsRefusedAndTheStartedOneStays) {
   EXPECT_EQ(Ask(tester_, "GRES,410,0\r\n"), "gres,410,0,0.123,0,Ohm\r\n");
 }
 
-TEST_F(TesterTest, OverloadIsReportedAs1) {
+TEST_F(TesterTest, ReportsOverloadAs1) {
   Tester tester(MakeBuiltInProfile("overloaded").value());
   EXPECT_EQ(Ask(tester, "IREM\r\nSTST,410,0\r\nGRES,410,0\r\n"),
             std::string(kIdentity) + "stst,410,0\r\ngres,410,0,19.99,1,Ohm\r\n");
 }
 
-TEST_F(TesterTest, PowerIsSwitchedInRemoteMode) {
+TEST_F(TesterTest, SwitchesPowerInRemoteMode) {
   EnterRemote();
   EXPECT_EQ(Ask(tester_, "#PON\r\n"), "#pon\r\n");
   EXPECT_TRUE(tester_.PowerOn());
@@ -104,7 +104,7 @@ TEST_F(TesterTest, PowerIsSwitchedInRemoteMode) {
   EXPECT_FALSE(tester_.PowerOn());
 }
 
-TEST_F(TesterTest, AnUnknownCommandIsRefusedWith1001InAnyMode) {
+TEST_F(TesterTest, RefusesUnknownCommands) {
   for (const char* command : {"HELP\r\n", "irem\r\n", " IREM\r\n", "IREM \r\n", ",\r\n", "STST410,0\r\n"}) {
     EXPECT_EQ(Ask(tester_, command), "ERRM,1001\r\n") << command;
   }
@@ -112,7 +112,7 @@ TEST_F(TesterTest, AnUnknownCommandIsRefusedWith1001InAnyMode) {
   EXPECT_EQ(Ask(tester_, "HELP\r\n"), "ERRM,1001\r\n");
 }
 
-TEST_F(TesterTest, BadParametersAreRefusedWith1002) {
+TEST_F(TesterTest, RefusesBadParameters) {
   EnterRemote();
   for (const char* command : {"STST", "STST,410", "STST,410,0,0", "STST,x,0", "STST,410,", "STST,410,11",
                               "STST,410,999", "STST,-1,0", "STST,40000,0", "STST, 410,0", "STST,410,\"0",
@@ -139,7 +139,7 @@ TEST_F(TesterTest, DroppedLinesAreCountedAndNotAnswered) {
   EnterRemote();
 }
 
-TEST_F(TesterTest, ResultsTakeTheMeasuringTimeAndOtherRepliesNone) {
+TEST_F(TesterTest, DelaysResultsByTheMeasuringTime) {
   const Instant start = std::chrono::hours(1000);
   tester_.Receive("IREM\r\nSTST,410,0\r\n", start);
   EXPECT_EQ(tester_.NextDue(), start);
@@ -159,7 +159,7 @@ TEST_F(TesterTest, ResultsTakeTheMeasuringTimeAndOtherRepliesNone) {
   EXPECT_FALSE(output->hangUp);
 }
 
-TEST_F(TesterTest, ACommandDuringAMeasurementIsAnsweredAfterIt) {
+TEST_F(TesterTest, AnswersCommandsAfterTheMeasurement) {
   tester_.Receive("IREM\r\nSTST,410,0\r\nGRES,410,0\r\n", Instant(0));
   tester_.Receive("EREM\r\n", milliseconds(100));
   EXPECT_EQ(tester_.TakeDue(milliseconds(100))->bytes, kIdentity);
@@ -169,7 +169,7 @@ TEST_F(TesterTest, ACommandDuringAMeasurementIsAnsweredAfterIt) {
   EXPECT_EQ(tester_.TakeDue(milliseconds(900))->bytes, "erem\r\n");
 }
 
-TEST_F(TesterTest, TheTimeScaleDividesMeasuringTimes) {
+TEST_F(TesterTest, DividesMeasuringTimesByTheTimeScale) {
   Tester fast(MakeBuiltInProfile("sound-class-1").value(), 1000);
   fast.Receive("IREM\r\nSTST,410,0\r\nGRES,410,0\r\n", Instant(5));
   fast.TakeDue(Instant(5));
@@ -182,13 +182,13 @@ TEST_F(TesterTest, TheTimeScaleDividesMeasuringTimes) {
   EXPECT_EQ(slow.NextDue(), milliseconds(1800));
 }
 
-TEST_F(TesterTest, ATimeScaleOutOfBoundsIsRefused) {
+TEST_F(TesterTest, RefusesATimeScaleOutOfRange) {
   for (const double scale : {0.0, -1.0, 1e-9, 1e12, std::numeric_limits<double>::quiet_NaN()}) {
     EXPECT_THROW(Tester(Profile("p"), scale), std::invalid_argument) << scale;
   }
 }
 
-TEST_F(TesterTest, ABusyTesterLosesCommandsInsteadOfGrowing) {
+TEST_F(TesterTest, DropsCommands_WhenTooManyRepliesWait) {
   for (std::size_t i = 0; i < Tester::kMaxWaiting + 5; ++i) tester_.Receive("QMTI\r\n", Instant(0));
   EXPECT_EQ(tester_.LinesDropped(), 5u);
   std::size_t replies = 0;
@@ -197,7 +197,7 @@ TEST_F(TesterTest, ABusyTesterLosesCommandsInsteadOfGrowing) {
   EnterRemote();
 }
 
-TEST_F(TesterTest, TheListenerHearsGoodAndDroppedLines) {
+TEST_F(TesterTest, ReportsGoodAndDroppedLines) {
   std::string heard;
   tester_.OnLine([&](std::string_view bytes, bool dropped) {
     heard += (dropped ? "-" : "+") + std::string(bytes) + ";";
@@ -206,7 +206,7 @@ TEST_F(TesterTest, TheListenerHearsGoodAndDroppedLines) {
   EXPECT_EQ(heard, "+IREM;-A\x01;+QMTI;");
 }
 
-TEST_F(TesterTest, FaultsSeeEveryReplyWithTheCommandAndItsIndex) {
+TEST_F(TesterTest, PassesEveryReplyToTheFaults) {
   struct Watch : Faults {
     void OnReply(const Exchange& exchange, Reply& reply) override {
       ASSERT_EQ(reply.lines.size(), 1u);
@@ -221,7 +221,7 @@ TEST_F(TesterTest, FaultsSeeEveryReplyWithTheCommandAndItsIndex) {
   EXPECT_EQ(watch->seen, "1IREM>" + std::string(kIdentity) + "3STST>stst,410,0\r\n4NO>ERRM,1001\r\n");
 }
 
-TEST_F(TesterTest, EveryTestOfEveryProfileIsStartedAndReadOrRefused) {
+TEST_F(TesterTest, AnswersEveryTestOfEveryProfile) {
   for (const auto& builtIn : BuiltInProfiles()) {
     const Profile profile = MakeBuiltInProfile(builtIn.name).value();
     Tester tester(profile);
@@ -246,7 +246,7 @@ TEST_F(TesterTest, EveryTestOfEveryProfileIsStartedAndReadOrRefused) {
   }
 }
 
-TEST_F(TesterTest, WhateverArrivesItAnswersInWholeLinesAndStillWorks) {
+TEST_F(TesterTest, AnswersRandomInputInCompleteLines) {
   std::mt19937 random(support::Seed());
   const std::vector<std::string> pieces = {"IREM", "STST", "GRES", "EREM",       ",410", ",0",
                                            ",",    "\"",   "\r",   "\n",         "\r\n", "#PON",

@@ -5,7 +5,7 @@
 namespace sim {
 namespace {
 
-TEST(TextTest, MicroSignIsOneByteOnTheWire) {
+TEST(TextTest, SendsTheMicroSignAsOneByte) {
   EXPECT_EQ(Utf8ToLatin1("µA"),
             "\xB5"
             "A");
@@ -14,14 +14,14 @@ TEST(TextTest, MicroSignIsOneByteOnTheWire) {
             "µA");
 }
 
-TEST(TextTest, EveryByteSurvivesTheWayThroughUtf8AndBack) {
+TEST(TextTest, ConvertsEveryByteBackAndForth) {
   for (int byte = 0; byte < 256; ++byte) {
     const std::string bytes(1, static_cast<char>(byte));
     EXPECT_EQ(Utf8ToLatin1(Latin1ToUtf8(bytes)), bytes) << byte;
   }
 }
 
-TEST(TextTest, CharactersBeyondLatin1AndBrokenUtf8AreRefused) {
+TEST(TextTest, RefusesOtherCharactersAndBrokenUtf8) {
   EXPECT_EQ(Utf8ToLatin1("Ω"), std::nullopt);
   EXPECT_EQ(Utf8ToLatin1("\xC2"), std::nullopt);
   EXPECT_EQ(Utf8ToLatin1("\xC2z"), std::nullopt);
@@ -29,11 +29,9 @@ TEST(TextTest, CharactersBeyondLatin1AndBrokenUtf8AreRefused) {
   EXPECT_EQ(Utf8ToLatin1("\xC0\xAF"), std::nullopt) << "overlong";
 }
 
-TEST(TextTest, ControlBytesAreShownAsHexAndBackslashesDoubled) {
-  EXPECT_EQ(ShowBytes("a\x1B\\\xB5\x7F"), "a\\x1B\\\\µ\\x7F");
-}
+TEST(TextTest, ShowsControlBytesAsHex) { EXPECT_EQ(ShowBytes("a\x1B\\\xB5\x7F"), "a\\x1B\\\\µ\\x7F"); }
 
-TEST(TextTest, OnlyLatin1WithoutControlCharactersIsSendable) {
+TEST(TextTest, SendsPrintableLatin1Only) {
   EXPECT_TRUE(IsSendable(""));
   EXPECT_TRUE(IsSendable("a,\"b\" µ"));
   EXPECT_FALSE(IsSendable("a\tb"));
@@ -41,7 +39,7 @@ TEST(TextTest, OnlyLatin1WithoutControlCharactersIsSendable) {
   EXPECT_FALSE(IsSendable("Ω"));
 }
 
-TEST(TextTest, ParseNumberTakesPlainDecimalNumbersUpToTheHighest) {
+TEST(TextTest, ParseNumberAcceptsDecimalNumbersInRange) {
   EXPECT_EQ(ParseNumber("0", 10), 0);
   EXPECT_EQ(ParseNumber("10", 10), 10);
   EXPECT_EQ(ParseNumber("32767", 32767), 32767);

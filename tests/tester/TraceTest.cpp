@@ -16,7 +16,7 @@ std::string WithDigitsAsZero(std::string text) {
   return text;
 }
 
-TEST(TraceTest, EachLineHasTimeDirectionAndReadableText) {
+TEST(TraceTest, WritesTimeDirectionAndText) {
   const TemporaryFolder folder;
   {
     Trace trace(folder.Path("trace"));
@@ -28,7 +28,7 @@ TEST(TraceTest, EachLineHasTimeDirectionAndReadableText) {
   EXPECT_EQ(WithDigitsAsZero(text), time + "recv IREM\n" + time + "sent gres,µ\\x0B\n");
 }
 
-TEST(TraceTest, AnOlderTraceIsKept) {
+TEST(TraceTest, KeepsAnOlderTrace) {
   const TemporaryFolder folder;
   const std::string path = folder.Write("trace", "older\n");
   Trace(path).Write("recv", "x");
@@ -36,14 +36,14 @@ TEST(TraceTest, AnOlderTraceIsKept) {
   EXPECT_NE(support::ReadFile(path).find("recv x\n"), std::string::npos);
 }
 
-TEST(TraceTest, AFileThatCannotBeOpenedIsTold) {
+TEST(TraceTest, ReportsAFileThatCannotBeOpened) {
   const TemporaryFolder folder;
   EXPECT_EQ(test::InputErrorOf([&] { Trace(folder.Path("no/trace")); }),
             "--trace " + folder.Path("no/trace") +
                 ": cannot be opened: No such file or directory; choose a file that you may write to");
 }
 
-TEST(TraceTest, AFullDiskIsAFailure) {
+TEST(TraceTest, FullDisk_Throws) {
   Trace trace("/dev/full");
   EXPECT_THROW(trace.Write("recv", "x"), SystemFailure);
 }
