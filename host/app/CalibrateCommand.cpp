@@ -2,7 +2,9 @@
 
 #include <unistd.h>
 
+#include <CLI/CLI.hpp>
 #include <iostream>
+#include <nlohmann/json.hpp>
 
 #include "host/app/CalibrationWindow.h"
 #include "host/app/DocumentJson.h"
@@ -32,13 +34,6 @@ Json ProblemOf(const LeadCalibration& leads) {
   return *leads.milliohms < 0 ? "negative" : "too-high";
 }
 
-/// The value and its date, as fields of a tester.
-void AddTo(Json& tester, const LeadCalibration& leads) {
-  tester["serial"] = leads.serial;
-  tester["calibration"] = leads.milliohms ? Json(*leads.milliohms) : Json(nullptr);
-  tester["measured"] = leads.measured ? Json(*leads.measured) : Json(nullptr);
-}
-
 std::string TextOf(const std::vector<LeadCalibration>& stored) {
   if (stored.empty())
     return Tr("No test leads have been measured yet; \"orvik-bench calibrate --port DEVICE\" measures those "
@@ -52,22 +47,28 @@ std::string TextOf(const std::vector<LeadCalibration>& stored) {
   return Columned(lines, {kNumbers});
 }
 
+Json MilliohmsOf(const LeadCalibration& leads) {
+  return leads.milliohms ? Json(*leads.milliohms) : Json(nullptr);
+}
+
+Json DateOf(const LeadCalibration& leads) { return leads.measured ? Json(*leads.measured) : Json(nullptr); }
+
 Json JsonOf(const std::vector<LeadCalibration>& stored) {
   auto testers = Json::array();
-  for (const auto& leads : stored) {
-    Json tester;
-    AddTo(tester, leads);
-    tester["problem"] = ProblemOf(leads);
-    testers.push_back(std::move(tester));
-  }
-  return Json{{"instruments", std::move(testers)}};
+  for (const auto& leads : stored)
+    testers.push_back({{"serial", leads.serial},
+                       {"calibration", MilliohmsOf(leads)},
+                       {"measured", DateOf(leads)},
+                       {"problem", ProblemOf(leads)}});
+  return {{"instruments", std::move(testers)}};
 }
 
 Json JsonOf(const LeadCalibration& stored, const std::string& type) {
-  Json tester;
-  tester["type"] = type;
-  AddTo(tester, stored);
-  return Json{{"instrument", std::move(tester)}};
+  return {{"instrument",
+           {{"type", type},
+            {"serial", stored.serial},
+            {"calibration", MilliohmsOf(stored)},
+            {"measured", DateOf(stored)}}}};
 }
 
 }  // namespace

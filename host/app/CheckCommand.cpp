@@ -1,7 +1,9 @@
 #include "host/app/CheckCommand.h"
 
+#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <iostream>
+#include <nlohmann/json.hpp>
 
 #include "OrvikTypeLib/HostError.h"
 #include "host/app/DocumentJson.h"
@@ -24,19 +26,13 @@ std::size_t WrongOnes(const std::vector<Finding>& findings) {
 }
 
 nlohmann::ordered_json JsonOf(const std::string& file, const std::vector<Finding>& findings) {
-  nlohmann::ordered_json json;
-  json["document"] = file;
-  json["wrong"] = WrongOnes(findings);
-  json["findings"] = nlohmann::ordered_json::array();
-  for (const auto& found : findings) {
-    nlohmann::ordered_json told;
-    told["kind"] = found.wrong ? "wrong" : "note";
-    told["line"] = found.line;
-    told["column"] = found.column;
-    told["text"] = found.text;
-    json["findings"].push_back(std::move(told));
-  }
-  return json;
+  auto all = nlohmann::ordered_json::array();
+  for (const auto& found : findings)
+    all.push_back({{"kind", found.wrong ? "wrong" : "note"},
+                   {"line", found.line},
+                   {"column", found.column},
+                   {"text", found.text}});
+  return {{"document", file}, {"wrong", WrongOnes(findings)}, {"findings", std::move(all)}};
 }
 
 }  // namespace

@@ -1,9 +1,11 @@
 #pragma once
 
-#include <CLI/CLI.hpp>
-
 #include "host/app/ExitStatus.h"
 #include "host/app/Workbench.h"
+
+namespace CLI {
+class App;
+}  // namespace CLI
 
 namespace bench {
 

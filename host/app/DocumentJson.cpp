@@ -1,5 +1,7 @@
 #include "host/app/DocumentJson.h"
 
+#include <nlohmann/json.hpp>
+
 #include "host/judge/ReasonText.h"
 
 namespace bench {
@@ -8,28 +10,22 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-Json NumberOrNull(const std::optional<double>& number) { return number ? Json(*number) : Json(nullptr); }
-
 Json JsonOf(const judge::Measurement& measurement) {
-  Json json;
-  json["value"] = NumberOrNull(measurement.value);
-  json["unit"] = measurement.unit;
-  json["flags"] = measurement.flags;
-  json["status"] = measurement.status;
-  return json;
+  return {{"value", NumberOrNull(measurement.value)},
+          {"unit", measurement.unit},
+          {"flags", measurement.flags},
+          {"status", measurement.status}};
 }
 
 Json JsonOf(const judge::JudgedLimit& limit) {
-  Json json;
-  json["standard"] = limit.standard;
-  json["description"] = limit.description;
-  json["unit"] = limit.unit;
-  json["low"] = NumberOrNull(limit.low);
-  json["high"] = NumberOrNull(limit.high);
-  json["selected"] = limit.selected;
-  json["value"] = NumberOrNull(limit.value);
-  json["verdict"] = judge::LimitVerdictText(limit.verdict);
-  return json;
+  return {{"standard", limit.standard},
+          {"description", limit.description},
+          {"unit", limit.unit},
+          {"low", NumberOrNull(limit.low)},
+          {"high", NumberOrNull(limit.high)},
+          {"selected", limit.selected},
+          {"value", NumberOrNull(limit.value)},
+          {"verdict", judge::LimitVerdictText(limit.verdict)}};
 }
 
 /// Those that make the element doubtful, as sentences.
@@ -42,17 +38,17 @@ std::vector<std::string> Doubts(const judge::JudgedElement& element) {
 
 }  // namespace
 
+Json NumberOrNull(const std::optional<double>& number) { return number ? Json(*number) : Json(nullptr); }
+
 Json JsonOf(const Equipment& equipment) {
-  Json json;
-  json["asset"] = equipment.asset;
-  json["serial"] = equipment.serial;
-  json["maker"] = equipment.maker;
-  json["model"] = equipment.model;
-  return json;
+  return {{"asset", equipment.asset},
+          {"serial", equipment.serial},
+          {"maker", equipment.maker},
+          {"model", equipment.model}};
 }
 
 Json JsonOf(const std::vector<Reason>& reasons) {
-  Json json = Json::array();
+  auto json = Json::array();
   for (const auto& reason : reasons)
     json.push_back(
         {{"code", reason.code}, {"arguments", reason.arguments}, {"text", judge::ReasonText(reason)}});
@@ -60,56 +56,52 @@ Json JsonOf(const std::vector<Reason>& reasons) {
 }
 
 Json JsonOf(const RecordedTester& tester) {
-  Json json;
-  json["type"] = tester.type;
-  json["serial"] = tester.serial;
-  json["firmware"] = tester.firmware;
-  json["calibration"] = tester.leads;
-  json["calibrated"] = tester.leadsMeasured;
-  return json;
+  return {{"type", tester.type},
+          {"serial", tester.serial},
+          {"firmware", tester.firmware},
+          {"calibration", tester.leads},
+          {"calibrated", tester.leadsMeasured}};
 }
 
 Json JsonOf(const judge::JudgedElement& element) {
-  Json json;
-  json["id"] = element.id;
-  json["parent"] = element.parent;
-  json["testId"] = element.testId;
-  json["kind"] = element.group ? "sequence" : "test";
-  json["name"] = element.name;
-  json["status"] = element.status;
-  json["statusText"] = judge::StatusText(element.status);
-  json["verdict"] = judge::VerdictText(element.verdict);
-  json["judged"] = element.judged;
-  json["recordOnly"] = element.recordOnly;
-  json["reasons"] = JsonOf(element.reasons);
-  json["mtiId"] = element.instrument;
-  json["serviceCode"] = element.serviceCode;
-  json["serviceValue"] = element.serviceValue;
-  json["measurement"] = element.measurement ? JsonOf(*element.measurement) : Json(nullptr);
-  json["limits"] = Json::array();
-  for (const auto& limit : element.limits) json["limits"].push_back(JsonOf(limit));
-  json["run"] = element.run;
-  json["at"] = element.at;
-  json["operator"] = element.by;
-  json["failedStandards"] = element.FailedStandards();
-  json["doubts"] = Doubts(element);
-  return json;
+  auto limits = Json::array();
+  for (const auto& limit : element.limits) limits.push_back(JsonOf(limit));
+  return {{"id", element.id},
+          {"parent", element.parent},
+          {"testId", element.testId},
+          {"kind", element.group ? "sequence" : "test"},
+          {"name", element.name},
+          {"status", element.status},
+          {"statusText", judge::StatusText(element.status)},
+          {"verdict", judge::VerdictText(element.verdict)},
+          {"judged", element.judged},
+          {"recordOnly", element.recordOnly},
+          {"reasons", JsonOf(element.reasons)},
+          {"mtiId", element.instrument},
+          {"serviceCode", element.serviceCode},
+          {"serviceValue", element.serviceValue},
+          {"measurement", element.measurement ? JsonOf(*element.measurement) : Json(nullptr)},
+          {"limits", std::move(limits)},
+          {"run", element.run},
+          {"at", element.at},
+          {"operator", element.by},
+          {"failedStandards", element.FailedStandards()},
+          {"doubts", Doubts(element)}};
 }
 
 Json JsonOf(const DocumentView& document) {
-  Json json;
-  json["document"] = document.path;
-  json["outcome"] = judge::OutcomeText(document.judged.outcome);
-  json["simulated"] = document.judged.simulated;
-  json["run"] = document.judged.run;
-  json["equipment"] = JsonOf(document.equipment);
-  json["comment"] = document.comment;
-  json["instrument"] = document.instrument ? JsonOf(*document.instrument) : Json(nullptr);
-  json["standards"] = document.judged.standards;
-  json["leftOut"] = document.judged.leftOut;
-  json["elements"] = Json::array();
-  for (const auto& element : document.judged.elements) json["elements"].push_back(JsonOf(element));
-  return json;
+  auto elements = Json::array();
+  for (const auto& element : document.judged.elements) elements.push_back(JsonOf(element));
+  return {{"document", document.path},
+          {"outcome", judge::OutcomeText(document.judged.outcome)},
+          {"simulated", document.judged.simulated},
+          {"run", document.judged.run},
+          {"equipment", JsonOf(document.equipment)},
+          {"comment", document.comment},
+          {"instrument", document.instrument ? JsonOf(*document.instrument) : Json(nullptr)},
+          {"standards", document.judged.standards},
+          {"leftOut", document.judged.leftOut},
+          {"elements", std::move(elements)}};
 }
 
 std::string OneLine(const Json& json) { return json.dump(-1, ' ', false, Json::error_handler_t::replace); }

@@ -1,6 +1,9 @@
 #pragma once
 
-#include <nlohmann/json.hpp>
+#include <nlohmann/json_fwd.hpp>
+#include <optional>
+#include <string>
+#include <vector>
 
 #include "host/app/DocumentView.h"
 
@@ -14,6 +17,9 @@ nlohmann::ordered_json JsonOf(const judge::JudgedElement& element);
 
 /// The equipment under test.
 nlohmann::ordered_json JsonOf(const Equipment& equipment);
+
+/// The number, or null.
+nlohmann::ordered_json NumberOrNull(const std::optional<double>& number);
 
 /// The reasons with their codes, arguments and sentences.
 nlohmann::ordered_json JsonOf(const std::vector<Reason>& reasons);

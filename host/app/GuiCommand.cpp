@@ -1,5 +1,7 @@
 #include "host/app/GuiCommand.h"
 
+#include <CLI/CLI.hpp>
+
 #include "host/app/ProgramFiles.h"
 #include "host/app/TesterOptions.h"
 #include "host/services/Tr.h"

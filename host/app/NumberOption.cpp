@@ -1,5 +1,6 @@
 #include "host/app/NumberOption.h"
 
+#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <charconv>
 #include <sstream>

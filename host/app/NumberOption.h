@@ -1,8 +1,11 @@
 #pragma once
 
-#include <CLI/CLI.hpp>
 #include <cstdint>
 #include <limits>
+
+namespace CLI {
+class Option;
+}  // namespace CLI
 
 namespace bench {
 

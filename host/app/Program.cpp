@@ -1,5 +1,6 @@
 #include "host/app/Program.h"
 
+#include <CLI/CLI.hpp>
 #include <chrono>
 #include <csignal>
 #include <iostream>
@@ -30,7 +31,6 @@
 #include "host/app/help/HelpCommand.h"
 #include "host/app/help/HelpFormat.h"
 #include "host/app/help/ManualCommand.h"
-#include "host/app/help/ParseErrorText.h"
 #include "host/app/help/PlainWords.h"
 #include "host/app/help/ProgramLanguage.h"
 #include "host/app/help/UnknownWords.h"
@@ -147,7 +147,7 @@ std::string Refusal(const CLI::App& program, const CLI::ParseError& error) {
   const bool unknown = code == static_cast<int>(CLI::ExitCodes::ExtrasError) ||
                        code == static_cast<int>(CLI::ExitCodes::RequiredError);
   auto reason = unknown ? UnknownWords(program) : std::string();
-  if (reason.empty()) reason = ParseErrorText(error);
+  if (reason.empty()) reason = error.what();  // the library's own English sentence
   const auto help = Tr("\"%%1 --help\" shows what can be given", {CommandTyped(program)});
   return reason.back() == '?' ? reason + " " + help : Tr("%%1; %%2", {reason, help});
 }
@@ -157,7 +157,7 @@ ExitStatus ParseAndRun(int argumentCount, const char* const* arguments) {
   const auto language = ChooseProgramLanguage(argumentCount, arguments);
   CLI::App program{Tr("Plans, runs and records electrical-safety tests with a KELD tester."), "orvik-bench"};
   program.set_help_flag("-h,--help", Tr("Print this help message and exit"));
-  program.formatter(std::make_shared<HelpFormat>());
+  program.formatter(MakeHelpFormat());
   GlobalOptions options;
   DeclareGlobal(program, options);
   const auto entries = Declare<TestsCommand, NewCommand, AddCommand, RemoveCommand, MoveCommand, EditCommand,

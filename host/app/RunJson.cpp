@@ -1,5 +1,7 @@
 #include "host/app/RunJson.h"
 
+#include <nlohmann/json.hpp>
+
 #include "host/app/DocumentJson.h"
 #include "host/app/RunOutcome.h"
 #include "host/services/Text.h"
@@ -12,58 +14,48 @@ using Json = nlohmann::ordered_json;
 
 Json HeadOf(const RunRecord& run) {
   const auto count = CountOf(run);
-  Json json;
-  json["run"] = run.number;
-  json["begun"] = run.begun;
-  json["ended"] = run.ended;
-  json["end"] = EndText(run.end);
-  json["operator"] = run.by;
-  json["simulated"] = run.simulated;
-  json["timeScale"] = run.timeScale;
-  json["port"] = run.port;
-  json["program"] = run.program;
-  json["intact"] = run.intact;
-  json["gapAfter"] = run.gapAfter;
-  json["equipment"] = JsonOf(run.equipment);
-  json["testers"] = Json::array();
-  for (const auto& tester : run.testers) json["testers"].push_back(JsonOf(tester));
-  json["elements"] = run.Elements();
-  json["finished"] = count.finished;
-  return json;
+  auto testers = Json::array();
+  for (const auto& tester : run.testers) testers.push_back(JsonOf(tester));
+  return {{"run", run.number},
+          {"begun", run.begun},
+          {"ended", run.ended},
+          {"end", EndText(run.end)},
+          {"operator", run.by},
+          {"simulated", run.simulated},
+          {"timeScale", run.timeScale},
+          {"port", run.port},
+          {"program", run.program},
+          {"intact", run.intact},
+          {"gapAfter", run.gapAfter},
+          {"equipment", JsonOf(run.equipment)},
+          {"testers", std::move(testers)},
+          {"elements", run.Elements()},
+          {"finished", count.finished}};
 }
 
 Json JsonOf(const RecordedLimit& limit) {
-  Json json;
-  json["standard"] = limit.standard;
-  json["description"] = limit.description;
-  json["unit"] = limit.unit;
-  json["low"] = limit.low;
-  json["high"] = limit.high;
-  json["status"] = limit.status;
-  return json;
+  return {{"standard", limit.standard}, {"description", limit.description},
+          {"unit", limit.unit},         {"low", limit.low},
+          {"high", limit.high},         {"status", limit.status}};
+}
+
+Json RecordedOf(const RecordedTest& test) {
+  if (!test.recorded) return nullptr;
+  return {{"value", NumberOrNull(FiniteNumber(test.recorded->value))},
+          {"unit", test.recorded->unit},
+          {"flags", test.recorded->flags}};
 }
 
 Json JsonOf(const RecordedTest& test) {
-  Json json;
-  json["element"] = test.element;
-  json["testId"] = test.testId;
-  json["settings"] = test.settings;
-  json["at"] = test.at;
-  json["status"] = test.status;
-  json["by"] = test.by == RecordedTest::By::kTester ? "tester" : "operator";
-  json["tester"] = test.tester;
-  json["said"] = test.said;
-  json["recorded"] = nullptr;
-  if (test.recorded) {
-    const auto value = FiniteNumber(test.recorded->value);
-    json["recorded"] = Json{{"value", value ? Json(*value) : Json(nullptr)},
-                            {"unit", test.recorded->unit},
-                            {"flags", test.recorded->flags}};
-  }
-  json["judged"] = Json::array();
-  for (const auto& limit : test.judged) json["judged"].push_back(JsonOf(limit));
-  json["doubts"] = JsonOf(test.doubts);
-  return json;
+  auto judged = Json::array();
+  for (const auto& limit : test.judged) judged.push_back(JsonOf(limit));
+  return {
+      {"element", test.element},      {"testId", test.testId},
+      {"settings", test.settings},    {"at", test.at},
+      {"status", test.status},        {"by", test.by == RecordedTest::By::kTester ? "tester" : "operator"},
+      {"tester", test.tester},        {"said", test.said},
+      {"recorded", RecordedOf(test)}, {"judged", std::move(judged)},
+      {"doubts", JsonOf(test.doubts)}};
 }
 
 }  // namespace
@@ -77,11 +69,9 @@ Json JsonOf(const RunRecord& run) {
 }
 
 Json JsonOf(const std::vector<RunRecord>& runs, const std::string& path) {
-  Json json;
-  json["document"] = path;
-  json["runs"] = Json::array();
-  for (const auto& run : runs) json["runs"].push_back(HeadOf(run));
-  return json;
+  auto heads = Json::array();
+  for (const auto& run : runs) heads.push_back(HeadOf(run));
+  return {{"document", path}, {"runs", std::move(heads)}};
 }
 
 }  // namespace bench

@@ -2,7 +2,9 @@
 
 #include <unistd.h>
 
+#include <CLI/CLI.hpp>
 #include <iostream>
+#include <nlohmann/json.hpp>
 
 #include "host/app/Colour.h"
 #include "host/app/DocumentJson.h"

@@ -1,6 +1,8 @@
 #include "host/app/StandardsCommand.h"
 
+#include <CLI/CLI.hpp>
 #include <iostream>
+#include <nlohmann/json.hpp>
 
 #include "host/app/DocumentJson.h"
 #include "host/app/ProgramFiles.h"
@@ -16,50 +18,37 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-Json Head(const std::string& name, const std::filesystem::path& file) {
-  Json json;
-  json["set"] = name;
-  json["file"] = file.string();
-  return json;
+Json Head(const LimitSet& set) {
+  return {{"set", set.Name()},      {"file", set.file.string()},   {"standard", set.standard},
+          {"edition", set.edition}, {"class", set.equipmentClass}, {"type", set.type}};
 }
 
-Json Head(const LimitSet& set) {
-  auto json = Head(set.Name(), set.file);
-  json["standard"] = set.standard;
-  json["edition"] = set.edition;
-  json["class"] = set.equipmentClass;
-  json["type"] = set.type;
+Json JsonOf(const LimitSets::Entry& entry) {
+  if (!entry.set)
+    return {{"set", entry.file.stem().string()}, {"file", entry.file.string()}, {"fault", entry.fault}};
+  auto json = Head(*entry.set);
+  json["figures"] = entry.set->figures.size();
   return json;
 }
 
 Json JsonOf(const std::vector<LimitSets::Entry>& entries) {
   auto sets = Json::array();
-  for (const auto& entry : entries) {
-    auto json = entry.set ? Head(*entry.set) : Head(entry.file.stem().string(), entry.file);
-    if (entry.set)
-      json["figures"] = entry.set->figures.size();
-    else
-      json["fault"] = entry.fault;
-    sets.push_back(std::move(json));
-  }
-  return Json{{"standards", std::move(sets)}};
+  for (const auto& entry : entries) sets.push_back(JsonOf(entry));
+  return {{"standards", std::move(sets)}};
 }
 
 Json JsonOf(const LimitSet& set) {
   auto json = Head(set);
   json["figures"] = Json::array();
-  for (const auto& figure : set.figures) {
-    Json told;
-    told["tests"] = figure.tests;
-    told["low"] = figure.low.empty() ? Json(nullptr) : Json(*FiniteNumber(figure.low));
-    told["high"] = figure.high.empty() ? Json(nullptr) : Json(*FiniteNumber(figure.high));
-    told["unit"] = figure.unit;
-    told["condition"] = figure.condition;
-    told["source"] = figure.source;
-    json["figures"].push_back(std::move(told));
-  }
+  for (const auto& figure : set.figures)
+    json["figures"].push_back({{"tests", figure.tests},
+                               {"low", NumberOrNull(FiniteNumber(figure.low))},
+                               {"high", NumberOrNull(FiniteNumber(figure.high))},
+                               {"unit", figure.unit},
+                               {"condition", figure.condition},
+                               {"source", figure.source}});
   json["leftOut"] = Json::array();
-  for (const auto& out : set.leftOut) json["leftOut"].push_back(Json{{"what", out.what}, {"why", out.why}});
+  for (const auto& out : set.leftOut) json["leftOut"].push_back({{"what", out.what}, {"why", out.why}});
   return json;
 }
 

@@ -1,5 +1,7 @@
 #include "host/app/TesterOptions.h"
 
+#include <CLI/CLI.hpp>
+
 #include "host/app/InputError.h"
 #include "host/services/Tr.h"
 

@@ -1,10 +1,14 @@
 #pragma once
 
-#include <CLI/CLI.hpp>
 #include <memory>
 #include <string>
 
 #include "host/app/TesterConnection.h"
+
+namespace CLI {
+class App;
+class Option;
+}  // namespace CLI
 
 namespace bench {
 

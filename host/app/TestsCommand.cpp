@@ -1,7 +1,9 @@
 #include "host/app/TestsCommand.h"
 
+#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <iostream>
+#include <nlohmann/json.hpp>
 
 #include "host/app/CatalogueEntries.h"
 #include "host/app/DocumentJson.h"
@@ -18,16 +20,13 @@ constexpr std::size_t kDeepestIndent = 20;
 
 nlohmann::ordered_json JsonOf(const std::vector<CatalogueEntry>& entries) {
   auto tests = nlohmann::ordered_json::array();
-  for (const auto& entry : entries) {
-    nlohmann::ordered_json json;
-    json["testId"] = entry.testId;
-    json["parent"] = entry.parent;
-    json["kind"] = entry.sequence ? "sequence" : "test";
-    json["name"] = entry.name;
-    json["unit"] = entry.unit;
-    tests.push_back(std::move(json));
-  }
-  return nlohmann::ordered_json{{"tests", std::move(tests)}};
+  for (const auto& entry : entries)
+    tests.push_back({{"testId", entry.testId},
+                     {"parent", entry.parent},
+                     {"kind", entry.sequence ? "sequence" : "test"},
+                     {"name", entry.name},
+                     {"unit", entry.unit}});
+  return {{"tests", std::move(tests)}};
 }
 
 }  // namespace

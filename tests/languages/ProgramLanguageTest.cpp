@@ -83,7 +83,8 @@ TEST_F(ProgramLanguage, TheRefusalIsToldInTheLanguageOfTheEnvironment) {
   EXPECT_NE(Bench({"--lang", "xx", "tests"}).error.find("keine Übersetzungen"), std::string::npos);
 }
 
-/// What is wrong with the command line, and how it is told in German.
+/// A wrong command line, and a part of the message in English and in German. The sentences of the parser
+/// itself stay English.
 struct Mistake {
   std::string name;
   std::vector<std::string> words;
@@ -109,8 +110,8 @@ INSTANTIATE_TEST_SUITE_P(
         Mistake{"NoCommand", {}, "a command is needed", "ein Befehl ist nötig"},
         Mistake{"UnknownOption", {"--nosuch"}, "unknown option --nosuch", "unbekannte Option --nosuch"},
         Mistake{"UnknownCommand", {"frob", "x"}, "unknown command \"frob\"", "unbekannter Befehl"},
-        Mistake{"RequiredOption", {"report", "x.orvik"}, "--to is required", "--to ist erforderlich"},
-        Mistake{"RequiredWord", {"run"}, "FILE is required", "FILE ist erforderlich"},
+        Mistake{"RequiredOption", {"report", "x.orvik"}, "--to is required", "--to is required"},
+        Mistake{"RequiredWord", {"run"}, "FILE is required", "FILE is required"},
         Mistake{"NoNumber",
                 {"new", "x", "--add", "y"},
                 "--add y: give a whole number",
@@ -119,8 +120,8 @@ INSTANTIATE_TEST_SUITE_P(
                 {"new", "x", "--add", "410,910"},
                 "--add 410,910: give the numbers one by one: --add 410 910",
                 "--add 410,910: geben Sie die Zahlen einzeln an: --add 410 910"},
-        Mistake{"NoValue", {"run", "x", "--element"}, "--element: 1 required", "--element: es fehlen"},
-        Mistake{"Excluded", {"run", "x", "--json", "--events"}, " excludes ", " schließt "},
+        Mistake{"NoValue", {"run", "x", "--element"}, "--element: 1 required", "--element: 1 required"},
+        Mistake{"Excluded", {"run", "x", "--json", "--events"}, " excludes ", " excludes "},
         Mistake{
             "NoFile", {"show", "nosuch.orvik"}, "cannot be opened: No such file", "nicht geöffnet werden"}),
     [](const auto& given) { return given.param.name; });

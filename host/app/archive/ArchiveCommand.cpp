@@ -1,5 +1,7 @@
 #include "host/app/archive/ArchiveCommand.h"
 
+#include <CLI/CLI.hpp>
+
 #include "host/app/InputError.h"
 #include "host/app/archive/ArchiveCommandAdd.h"
 #include "host/app/archive/ArchiveCommandExport.h"

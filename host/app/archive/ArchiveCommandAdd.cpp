@@ -1,5 +1,6 @@
 #include "host/app/archive/ArchiveCommandAdd.h"
 
+#include <CLI/CLI.hpp>
 #include <iostream>
 
 #include "OrvikTypeLib/HostError.h"

@@ -1,5 +1,6 @@
 #include "host/app/archive/ArchiveCommandExport.h"
 
+#include <CLI/CLI.hpp>
 #include <iostream>
 #include <limits>
 

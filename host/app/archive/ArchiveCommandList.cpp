@@ -1,5 +1,6 @@
 #include "host/app/archive/ArchiveCommandList.h"
 
+#include <CLI/CLI.hpp>
 #include <iostream>
 
 #include "host/app/DocumentJson.h"

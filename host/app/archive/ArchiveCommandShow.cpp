@@ -1,5 +1,6 @@
 #include "host/app/archive/ArchiveCommandShow.h"
 
+#include <CLI/CLI.hpp>
 #include <iostream>
 #include <limits>
 

@@ -1,5 +1,6 @@
 #include "host/app/archive/ArchiveCommandTrend.h"
 
+#include <CLI/CLI.hpp>
 #include <filesystem>
 #include <iostream>
 

@@ -1,5 +1,6 @@
 #include "host/app/edit/AddCommand.h"
 
+#include <CLI/CLI.hpp>
 #include <iostream>
 
 #include "OrvikTypeLib/As.h"

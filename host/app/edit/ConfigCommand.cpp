@@ -1,5 +1,6 @@
 #include "host/app/edit/ConfigCommand.h"
 
+#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <array>
 #include <iostream>

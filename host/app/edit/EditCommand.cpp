@@ -1,5 +1,6 @@
 #include "host/app/edit/EditCommand.h"
 
+#include <CLI/CLI.hpp>
 #include <iostream>
 
 #include "host/app/TextColumns.h"

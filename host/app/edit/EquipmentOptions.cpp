@@ -1,5 +1,7 @@
 #include "host/app/edit/EquipmentOptions.h"
 
+#include <CLI/CLI.hpp>
+
 #include "host/services/Tr.h"
 
 namespace bench {

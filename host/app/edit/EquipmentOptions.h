@@ -1,8 +1,10 @@
 #pragma once
 
-#include <CLI/CLI.hpp>
-
 #include "host/document/Document.h"
+
+namespace CLI {
+class App;
+}  // namespace CLI
 
 namespace bench {
 

@@ -1,5 +1,6 @@
 #include "host/app/edit/RemoveCommand.h"
 
+#include <CLI/CLI.hpp>
 #include <iostream>
 
 #include "host/app/DocumentElements.h"

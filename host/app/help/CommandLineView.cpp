@@ -1,5 +1,6 @@
 #include "host/app/help/CommandLineView.h"
 
+#include <CLI/CLI.hpp>
 #include <algorithm>
 
 #include "host/services/Tr.h"

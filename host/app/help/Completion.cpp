@@ -1,5 +1,6 @@
 #include "host/app/help/Completion.h"
 
+#include <CLI/CLI.hpp>
 #include <functional>
 
 #include "host/app/TextColumns.h"

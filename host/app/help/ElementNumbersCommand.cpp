@@ -1,5 +1,6 @@
 #include "host/app/help/ElementNumbersCommand.h"
 
+#include <CLI/CLI.hpp>
 #include <iostream>
 
 #include "host/app/DocumentView.h"

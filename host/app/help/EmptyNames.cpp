@@ -1,5 +1,6 @@
 #include "host/app/help/EmptyNames.h"
 
+#include <CLI/CLI.hpp>
 #include <algorithm>
 
 #include "host/app/InputError.h"

@@ -1,5 +1,6 @@
 #include "host/app/help/HelpCommand.h"
 
+#include <CLI/CLI.hpp>
 #include <iostream>
 
 #include "host/app/InputError.h"

@@ -1,5 +1,6 @@
 #include "host/app/help/HelpFormat.h"
 
+#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <utility>
 #include <vector>
@@ -23,6 +24,22 @@ std::string Wrapped(const std::string& text, std::size_t margin) {
     wrapped += (wrapped.empty() ? "" : "\n" + std::string(margin, ' ')) + line;
   return wrapped;
 }
+
+class HelpFormat final : public CLI::Formatter {
+ public:
+  HelpFormat();
+
+  std::string make_group(std::string group, bool is_positional,
+                         std::vector<const CLI::Option*> opts) const override;
+  std::string make_option(const CLI::Option* opt, bool is_positional) const override;
+  std::string make_option_opts(const CLI::Option* opt) const override;
+  std::string make_subcommands(const CLI::App* app, CLI::AppFormatMode mode) const override;
+  std::string make_subcommand(const CLI::App* sub) const override;
+  std::string make_footer(const CLI::App* app) const override;
+
+ private:
+  std::string Line(const std::string& name, const std::string& description) const;
+};
 
 }  // namespace
 
@@ -89,5 +106,7 @@ std::string HelpFormat::Line(const std::string& name, const std::string& descrip
   const auto used = CellsOf(std::string_view(line).substr(begins));
   return line + std::string(used < width ? width - used : 0, ' ') + Wrapped(description, width) + "\n";
 }
+
+std::shared_ptr<CLI::FormatterBase> MakeHelpFormat() { return std::make_shared<HelpFormat>(); }
 
 }  // namespace bench

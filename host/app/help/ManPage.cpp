@@ -1,5 +1,6 @@
 #include "host/app/help/ManPage.h"
 
+#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <cctype>
 #include <sstream>

@@ -1,5 +1,6 @@
 #include "host/app/help/ManualCommand.h"
 
+#include <CLI/CLI.hpp>
 #include <filesystem>
 
 #include "host/app/help/Examples.h"

@@ -1,5 +1,6 @@
 #include "host/app/help/OptionValues.h"
 
+#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <array>
 #include <sstream>

@@ -1,5 +1,7 @@
 #include "host/app/help/PlainWords.h"
 
+#include <CLI/CLI.hpp>
+
 #include "host/app/InputError.h"
 #include "host/app/help/OptionValues.h"
 #include "host/services/PlainText.h"

@@ -1,5 +1,6 @@
 #include "host/app/help/UnknownWords.h"
 
+#include <CLI/CLI.hpp>
 #include <algorithm>
 
 #include "host/app/TextColumns.h"

@@ -1,5 +1,6 @@
 #include "host/app/limits/LimitCommand.h"
 
+#include <CLI/CLI.hpp>
 #include <iostream>
 
 #include "OrvikTypeLib/As.h"

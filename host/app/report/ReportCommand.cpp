@@ -1,5 +1,6 @@
 #include "host/app/report/ReportCommand.h"
 
+#include <CLI/CLI.hpp>
 #include <filesystem>
 #include <iostream>
 

@@ -1,5 +1,6 @@
 #include "host/app/run/EventLines.h"
 
+#include <nlohmann/json.hpp>
 #include <ostream>
 
 #include "host/app/DocumentJson.h"
@@ -10,101 +11,67 @@ namespace bench {
 
 using Json = nlohmann::ordered_json;
 
-void EventLines::Planned(const std::vector<std::size_t>& tests) {
-  auto line = Line("planned");
-  line["tests"] = tests;
-  Print(line);
-}
+void EventLines::Planned(const std::vector<std::size_t>& tests) { Print("planned", {{"tests", tests}}); }
 
 void EventLines::Reached(std::size_t place, std::size_t count) {
-  auto line = Line("reached");
-  line["place"] = place;
-  line["count"] = count;
-  Print(line);
+  Print("reached", {{"place", place}, {"count", count}});
 }
 
 void EventLines::Started(const judge::JudgedElement& element) {
-  auto line = Line("started");
-  line["element"] = element.id;
-  line["testId"] = element.testId;
-  line["name"] = element.name;
-  Print(line);
+  Print("started", {{"element", element.id}, {"testId", element.testId}, {"name", element.name}});
 }
 
 void EventLines::Finished(const judge::JudgedElement& element) {
-  auto line = Line("finished");
-  line["element"] = element.id;
-  line["testId"] = element.testId;
-  line["name"] = element.name;
-  line["status"] = element.status;
-  line["statusText"] = judge::StatusText(element.status);
-  line["verdict"] = judge::VerdictText(element.verdict);
-  line["value"] =
-      element.measurement && element.measurement->value ? Json(*element.measurement->value) : Json(nullptr);
-  line["unit"] = element.measurement ? element.measurement->unit : std::string();
-  line["reasons"] = JsonOf(element.reasons);
-  Print(line);
+  const auto& measurement = element.measurement;
+  Print("finished", {{"element", element.id},
+                     {"testId", element.testId},
+                     {"name", element.name},
+                     {"status", element.status},
+                     {"statusText", judge::StatusText(element.status)},
+                     {"verdict", judge::VerdictText(element.verdict)},
+                     {"value", measurement ? NumberOrNull(measurement->value) : Json(nullptr)},
+                     {"unit", measurement ? measurement->unit : std::string()},
+                     {"reasons", JsonOf(element.reasons)}});
 }
 
 void EventLines::Wire(const WireRecord& record) {
   exchange_.Take(record);
+  const auto text = VisibleLatin1(record.text);
   switch (record.kind) {
-    case WireRecord::Kind::kSent: {
-      auto line = Line("command");
-      line["text"] = VisibleLatin1(record.text);
-      line["attempt"] = exchange_.Attempt();
-      return Print(line);
-    }
+    case WireRecord::Kind::kSent:
+      return Print("command", {{"text", text}, {"attempt", exchange_.Attempt()}});
     case WireRecord::Kind::kReceived:
-    case WireRecord::Kind::kDropped: {
-      auto line = Line(record.kind == WireRecord::Kind::kReceived ? "reply" : "dropped");
-      line["text"] = VisibleLatin1(record.text);
-      return Print(line);
-    }
+      return Print("reply", {{"text", text}});
+    case WireRecord::Kind::kDropped:
+      return Print("dropped", {{"text", text}});
     case WireRecord::Kind::kOpened:
-      return Print(Line("port-opened"));
+      return Print("port-opened", Json::object());
     case WireRecord::Kind::kFailed:
-      return Print(Line("port-failed"));
+      return Print("port-failed", Json::object());
     case WireRecord::Kind::kClosed:
-      return Print(Line("port-closed"));
+      return Print("port-closed", Json::object());
   }
 }
 
-void EventLines::Prompted(const std::string& text) {
-  auto line = Line("prompt");
-  line["text"] = text;
-  Print(line);
-}
+void EventLines::Prompted(const std::string& text) { Print("prompt", {{"text", text}}); }
 
 void EventLines::Doubted(std::int32_t element, const Reason& doubt) {
-  auto line = Line("doubt");
-  line["element"] = element;
-  line["code"] = doubt.code;
-  line["arguments"] = doubt.arguments;
-  line["text"] = judge::ReasonText(doubt);
-  Print(line);
+  Print("doubt", {{"element", element},
+                  {"code", doubt.code},
+                  {"arguments", doubt.arguments},
+                  {"text", judge::ReasonText(doubt)}});
 }
 
-void EventLines::Remark(const std::string& text) {
-  auto line = Line("remark");
-  line["text"] = text;
-  Print(line);
+void EventLines::Remark(const std::string& text) { Print("remark", {{"text", text}}); }
+
+void EventLines::Ended(judge::Outcome outcome, int exitStatus) {
+  Print("ended", {{"outcome", judge::OutcomeText(outcome)}, {"exitStatus", exitStatus}});
 }
 
-void EventLines::Ended(const std::string& outcome, int exitStatus) {
-  auto line = Line("ended");
-  line["outcome"] = outcome;
-  line["exitStatus"] = exitStatus;
-  Print(line);
+void EventLines::Print(const char* event, const Json& fields) {
+  Json line{{"event", event}, {"time", static_cast<double>(loop_.Now().count()) / 1e6}};
+  line.update(fields);
+  out_ << OneLine(line) << std::endl;
 }
-
-Json EventLines::Line(const char* event) const {
-  Json line;
-  line["event"] = event;
-  line["time"] = static_cast<double>(loop_.Now().count()) / 1e6;
-  return line;
-}
-
-void EventLines::Print(const Json& line) { out_ << OneLine(line) << std::endl; }
 
 }  // namespace bench

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <iosfwd>
-#include <nlohmann/json.hpp>
+#include <nlohmann/json_fwd.hpp>
 
 #include "host/app/run/ExchangeView.h"
 #include "host/app/run/RunReporter.h"
@@ -23,13 +23,12 @@ class EventLines final : public RunReporter {
   void Prompted(const std::string& text) override;
   void Doubted(std::int32_t element, const Reason& doubt) override;
   void Remark(const std::string& text) override;
-  void Over() override {}  // "ended" tells it, with the outcome
-  /// The last line: the outcome of the run and the exit status.
-  void Ended(const std::string& outcome, int exitStatus);
+  void Over() override {}  // "ended" follows, with the outcome
+  void Ended(judge::Outcome outcome, int exitStatus) override;
 
  private:
-  nlohmann::ordered_json Line(const char* event) const;
-  void Print(const nlohmann::ordered_json& line);
+  /// @param fields what the line says beside event and time
+  void Print(const char* event, const nlohmann::ordered_json& fields);
 
   std::ostream& out_;
   const ILoop& loop_;

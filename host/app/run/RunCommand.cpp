@@ -2,7 +2,9 @@
 
 #include <unistd.h>
 
+#include <CLI/CLI.hpp>
 #include <iostream>
+#include <nlohmann/json.hpp>
 #include <optional>
 
 #include "OrvikTypeLib/HostError.h"
@@ -130,9 +132,8 @@ ExitStatus RunCommand::Perform(Workbench& workbench, Document& document, RunRepo
 
   const auto view = ViewOf(document, *workbench.Host(), options_.standards);
   const auto status = StatusOf(end, JudgedPart(view.judged, selected).outcome);
-  if (auto* events = dynamic_cast<EventLines*>(&reporter))
-    events->Ended(judge::OutcomeText(view.judged.outcome), static_cast<int>(status));
-  else
+  reporter.Ended(view.judged.outcome, static_cast<int>(status));
+  if (!options_.events)
     std::cout << (options_.json ? Indented(JsonOf(view)) + "\n" : TextOf(view, ColoursWanted(STDOUT_FILENO)))
               << std::flush;
   return status;

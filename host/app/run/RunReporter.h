@@ -31,6 +31,8 @@ class RunReporter {
   virtual void Remark(const std::string& text) = 0;
   /// The run is over, nothing is waited for any more.
   virtual void Over() = 0;
+  /// The document is judged: its outcome, and the program's exit status.
+  virtual void Ended(judge::Outcome, int) {}
 };
 
 }  // namespace bench
