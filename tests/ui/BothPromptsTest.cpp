@@ -5,7 +5,7 @@
 
 #include "tests/ui/PromptTest.h"
 
-// What the two prompts have in common.
+// The common behaviour of the two prompts.
 namespace {
 
 using support::ClickOn;
@@ -31,7 +31,7 @@ struct PromptNames {
 
 TYPED_TEST_SUITE(BothPromptsTest, Prompts, PromptNames);
 
-TYPED_TEST(BothPromptsTest, LoadingIsToldOnceAndShowsNothing) {
+TYPED_TEST(BothPromptsTest, NotifiesLoadingOnceAndStaysHidden) {
   EXPECT_EQ(this->statuses_, Numbers{1});
   this->prompt_->Load();
   SetText(*this->prompt_);
@@ -41,7 +41,7 @@ TYPED_TEST(BothPromptsTest, LoadingIsToldOnceAndShowsNothing) {
   EXPECT_FALSE(this->prompt_->Activated());
 }
 
-TYPED_TEST(BothPromptsTest, ActivationIsToldEachTimeAndPutsTheWindowOnTop) {
+TYPED_TEST(BothPromptsTest, NotifiesEachActivationAndStaysOnTop) {
   EXPECT_FALSE(this->Form()->Topmost());
   this->prompt_->Show();
   EXPECT_EQ(this->statuses_, (Numbers{1, 2}));
@@ -59,14 +59,14 @@ TYPED_TEST(BothPromptsTest, ActivationIsToldEachTimeAndPutsTheWindowOnTop) {
   other->Unload();
 }
 
-TYPED_TEST(BothPromptsTest, WindowKeepsPlaceAndSizeWhenItComesToTheTop) {
+TYPED_TEST(BothPromptsTest, KeepsPlaceAndSizeWhenShown) {
   const orvik::platform::Rect place{700, 800, 5000, 2500};
   this->Form()->SetBounds(place);
   this->prompt_->Show();
   EXPECT_EQ(this->Form()->Bounds(), place);
 }
 
-TYPED_TEST(BothPromptsTest, WindowIsModeless) {
+TYPED_TEST(BothPromptsTest, DoesNotBlockOtherWindows) {
   const auto other = this->host_.Application().CreateForm("Other");
   const auto button = other->AddButton("cmd");
   int clicks = 0;
@@ -78,14 +78,14 @@ TYPED_TEST(BothPromptsTest, WindowIsModeless) {
   other->Unload();
 }
 
-TYPED_TEST(BothPromptsTest, ModalDisplayEndsWithTheButton) {
+TYPED_TEST(BothPromptsTest, EndsItsModalDisplayOnTheButton) {
   this->host_.Application().Post([this] { this->Click(FirstButton(*this->prompt_)); });
   this->prompt_->ShowModal();
   EXPECT_FALSE(this->Form()->Visible());
   EXPECT_EQ(this->statuses_.at(1), 2);
 }
 
-TYPED_TEST(BothPromptsTest, UnloadingIsToldOnce) {
+TYPED_TEST(BothPromptsTest, NotifiesUnloadingOnce) {
   this->prompt_->Show();
   this->prompt_->Unload();
   this->prompt_->Unload();
@@ -93,7 +93,7 @@ TYPED_TEST(BothPromptsTest, UnloadingIsToldOnce) {
   EXPECT_FALSE(this->Form()->Loaded());
 }
 
-TYPED_TEST(BothPromptsTest, UnloadingIsNotToldOfAWindowThatWasNeverLoaded) {
+TYPED_TEST(BothPromptsTest, DoesNotNotifyUnloadingIfNeverLoaded) {
   const auto fresh = TypeParam::Create();
   Numbers told;
   const auto listening = OnStatus(*fresh, [&](std::int32_t status) { told.push_back(status); });
@@ -101,7 +101,7 @@ TYPED_TEST(BothPromptsTest, UnloadingIsNotToldOfAWindowThatWasNeverLoaded) {
   EXPECT_TRUE(told.empty());
 }
 
-TYPED_TEST(BothPromptsTest, LoadingAgainClearsTheActivatedFlag) {
+TYPED_TEST(BothPromptsTest, ClearsTheActivatedFlagOnLoad) {
   this->prompt_->Show();
   ASSERT_TRUE(this->prompt_->Activated());
   this->prompt_->Unload();
@@ -114,8 +114,7 @@ TYPED_TEST(BothPromptsTest, LoadingAgainClearsTheActivatedFlag) {
   EXPECT_EQ(this->statuses_, (Numbers{1, 2, 3, 1}));
 }
 
-// Nobody but the prompt and the application holds the window here.
-TYPED_TEST(BothPromptsTest, OwnerMayUnloadAndReleaseItFromInsideItsNotices) {
+TYPED_TEST(BothPromptsTest, MayBeReleasedInsideItsNotices) {
   for (const int when : {1, 2, 3}) {
     auto prompt = TypeParam::Create();
     const std::weak_ptr<TypeParam> watched = prompt;
@@ -137,7 +136,7 @@ TYPED_TEST(BothPromptsTest, OwnerMayUnloadAndReleaseItFromInsideItsNotices) {
   }
 }
 
-TYPED_TEST(BothPromptsTest, OwnerMayReleaseItWhileItsWindowGoes) {
+TYPED_TEST(BothPromptsTest, MayBeReleasedWhileItsWindowUnloads) {
   auto prompt = TypeParam::Create();
   const std::weak_ptr<TypeParam> watched = prompt;
   SetText(*prompt);
@@ -150,7 +149,7 @@ TYPED_TEST(BothPromptsTest, OwnerMayReleaseItWhileItsWindowGoes) {
   EXPECT_FALSE(form->Loaded());
 }
 
-TYPED_TEST(BothPromptsTest, LettingGoUnloadsTheWindowWithoutANotice) {
+TYPED_TEST(BothPromptsTest, UnloadsWithoutANoticeWhenDestroyed) {
   this->prompt_->Show();
   const auto form = this->Form();
   this->prompt_.reset();

@@ -9,7 +9,7 @@ using support::Numbers;
 
 using FPretestPromptTest = support::PromptTest<keld::FPretestPrompt>;
 
-TEST_F(FPretestPromptTest, TitleAndButtonAreThePlugInsInEveryLanguage) {
+TEST_F(FPretestPromptTest, TranslatesTitleAndButtonForItsModule) {
   const support::TemporaryFolder folder;
   support::SpeakByModule(host_.Host(), folder.Path());
   prompt_->SetPrompt("20999::Go on?", "");
@@ -18,7 +18,7 @@ TEST_F(FPretestPromptTest, TitleAndButtonAreThePlugInsInEveryLanguage) {
   EXPECT_EQ(Caption("lblPrompt"), "20999::Go on?");
 }
 
-TEST_F(FPretestPromptTest, ShowsTheTextAsItStands) {
+TEST_F(FPretestPromptTest, ShowsItsTextUntranslated) {
   for (const char* text : {"Connect the lead.", "20803::not translated", "::", "a %%1 b", ""}) {
     prompt_->SetPrompt(text, "");
     EXPECT_EQ(Caption("lblPrompt"), text);
@@ -27,7 +27,7 @@ TEST_F(FPretestPromptTest, ShowsTheTextAsItStands) {
   }
 }
 
-TEST_F(FPretestPromptTest, SettingAPromptKeepsTheTagSetsCaptionsAndLoads) {
+TEST_F(FPretestPromptTest, SetsTagAndCaptionsAndLoads) {
   prompt_->SetPrompt("Connect the lead.", "CommsError");
   EXPECT_EQ(prompt_->Tag(), "CommsError");
   EXPECT_EQ(Form()->Caption(), "orvik KELD(IN) plug-in");
@@ -40,7 +40,7 @@ TEST_F(FPretestPromptTest, SettingAPromptKeepsTheTagSetsCaptionsAndLoads) {
   EXPECT_EQ(statuses_, Numbers{1});
 }
 
-TEST_F(FPretestPromptTest, FlagIsSetAfterTheNotice) {
+TEST_F(FPretestPromptTest, SetsTheActivatedFlagAfterTheNotice) {
   std::optional<bool> topmost;
   std::optional<bool> activated;
   const auto listening = prompt_->PromptStatus().Subscribe([&](std::int32_t status) {

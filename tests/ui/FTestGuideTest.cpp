@@ -3,26 +3,16 @@
 #include "instrument/XKELDData.h"
 #include "resources/Resources.h"
 #include "tests/ui/GuideTest.h"
-#include "ui/FTestGuide.h"
 
-// The guide as its element opens and closes it.
+// The operations that the element calls.
 namespace {
 
-using Commands = std::vector<int>;
 using Texts = std::vector<std::string>;
 using ui::GuideScreen;
 
-class FTestGuideTest : public ui::GuideTest {
- protected:
-  std::shared_ptr<keld::FTestGuide> Opened(const std::shared_ptr<orvik::ITestElement>& element) {
-    auto guide = keld::FTestGuide::Create();
-    guide->Load();
-    guide->Initialize(element, controller_);
-    return guide;
-  }
-};
+using FTestGuideTest = ui::GuideTest;
 
-TEST_F(FTestGuideTest, CaptionIsSetWhereThereIsNone) {
+TEST_F(FTestGuideTest, SetsACaptionIfThereIsNone) {
   EXPECT_EQ(Opened(Element())->Form()->Caption(), "TEST GUIDE");
   const auto named = keld::FTestGuide::Create();
   named->Form()->SetCaption("Mine");
@@ -30,11 +20,13 @@ TEST_F(FTestGuideTest, CaptionIsSetWhereThereIsNone) {
   EXPECT_EQ(named->Form()->Caption(), "Mine");
 }
 
-TEST_F(FTestGuideTest, InstrumentPaneGetsTheElementAndTheDataTab) {
+TEST_F(FTestGuideTest, ShowsTheTestAndTheInstrumentData) {
   const auto element = Element();
   const auto guide = Opened(element);
   const auto pane = GuideScreen(guide->Form()).Pane("xstShowMTI");
   EXPECT_EQ(pane->TestElement(), element);
+  EXPECT_NE(GuideScreen(guide->Form()).Pane("xtwWizard")->Guidance().find("Mains voltage"),
+            std::string::npos);
   EXPECT_TRUE(orvik::As<keld::XKELDData>(pane->Tab("tab:MtiData")));
   std::shared_ptr<orvik::platform::ITabs> tabs;
   for (const auto& control : GuideScreen(guide->Form()).Site("xstShowMTI")->Panel()->Controls()) {
@@ -49,7 +41,7 @@ TEST_F(FTestGuideTest, InstrumentPaneGetsTheElementAndTheDataTab) {
             (std::vector<std::byte>(picture.begin(), picture.end())));
 }
 
-TEST_F(FTestGuideTest, OpeningShowsTheInstrumentDataAsTheyAreThen) {
+TEST_F(FTestGuideTest, RefreshesTheInstrumentDataWhenOpened) {
   const auto guide = keld::FTestGuide::Create();
   guide->Load();
   keld::CKELDData::Shared()->SetFirmwareVersion("9.9");
@@ -57,13 +49,7 @@ TEST_F(FTestGuideTest, OpeningShowsTheInstrumentDataAsTheyAreThen) {
   EXPECT_EQ(GuideScreen(guide->Form()).InstrumentField<orvik::platform::ITextBox>("txtFwVer")->Text(), "9.9");
 }
 
-TEST_F(FTestGuideTest, WizardGuidesToTheElement) {
-  const auto guide = Opened(Element());
-  EXPECT_NE(GuideScreen(guide->Form()).Pane("xtwWizard")->Guidance().find("Mains voltage"),
-            std::string::npos);
-}
-
-TEST_F(FTestGuideTest, CalibrateEntryIsAddedOnce) {
+TEST_F(FTestGuideTest, AddsTheCalibrateEntryOnce) {
   const auto guide = Opened(Element());
   guide->Load();
   guide->Initialize(Element(), controller_);
@@ -73,13 +59,7 @@ TEST_F(FTestGuideTest, CalibrateEntryIsAddedOnce) {
   EXPECT_EQ(buttons->CommandCaption(900), "Calibrate...");
 }
 
-TEST_F(FTestGuideTest, EverythingButStopIsEnabledBeforeARun) {
-  const auto guide = Opened(Element());
-  EXPECT_EQ(GuideScreen(guide->Form()).Enabled(), (Commands{101, 102, 103, 202, 301, 302, 501, 900}));
-  EXPECT_FALSE(guide->Running());
-}
-
-TEST_F(FTestGuideTest, ConfigurationDecidesWhichButtonsAreOffered) {
+TEST_F(FTestGuideTest, OffersTheButtonsOfTheConfiguration) {
   const auto element = Element();
   for (const std::int32_t options : {0, 1, 2, 3, 4, 4097}) {
     SetOptions(*element, options);
@@ -91,7 +71,7 @@ TEST_F(FTestGuideTest, ConfigurationDecidesWhichButtonsAreOffered) {
   }
 }
 
-TEST_F(FTestGuideTest, FirstStandardIsShownAndARightClickGoesOn) {
+TEST_F(FTestGuideTest, ShowsTheNextStandardOnARightClick) {
   controller_->standards = Standards({"A", "B"});
   const auto element = Element();
   const auto result = keld::CKELDResultData::Create();
@@ -117,13 +97,13 @@ TEST_F(FTestGuideTest, FirstStandardIsShownAndARightClickGoesOn) {
   EXPECT_EQ(high(), "240 V");
 }
 
-TEST_F(FTestGuideTest, WorksWithoutRunControllerAndStandards) {
-  const auto guide = keld::FTestGuide::Create();
-  EXPECT_NO_THROW(guide->Initialize(Element(), nullptr));
-  EXPECT_NO_THROW(Opened(Element()));
+TEST_F(FTestGuideTest, OpensWithoutAControllerOrStandards) {
+  keld::FTestGuide::Create()->Initialize(Element(), nullptr);
+  controller_->standards = nullptr;
+  Opened(Element());
 }
 
-TEST_F(FTestGuideTest, RefreshReachesTheInstrumentDataAndTheWindow) {
+TEST_F(FTestGuideTest, RefreshesItsDataAndItsWindow) {
   const auto guide = Opened(Element());
   const auto panel = GuideScreen(guide->Form()).Site("xstShowMTI")->Panel();
   const int before = panel->RefreshCount();
@@ -135,21 +115,20 @@ TEST_F(FTestGuideTest, RefreshReachesTheInstrumentDataAndTheWindow) {
 
 TEST_F(FTestGuideTest, KeepsNeitherElementNorControllerAlive) {
   auto element = Element();
-  auto controller = std::make_shared<ui::RunController>();
+  auto controller = std::make_shared<support::RecordingController>();
   const auto guide = keld::FTestGuide::Create();
   guide->Initialize(element, controller);
   const std::weak_ptr<orvik::ITestElement> weakElement = element;
-  const std::weak_ptr<ui::RunController> weakController = controller;
+  const std::weak_ptr<support::RecordingController> weakController = controller;
   element.reset();
   controller.reset();
   EXPECT_TRUE(weakElement.expired());
   EXPECT_TRUE(weakController.expired());
-  // Nobody is left to call.
-  orvik::As<orvik::ITgToolbarEvents>(guide)->OnCommand(202);
+  Command(guide, 202);  // without an element
   EXPECT_FALSE(guide->Running());
 }
 
-TEST_F(FTestGuideTest, LettingGoUnloadsTheWindow) {
+TEST_F(FTestGuideTest, UnloadsItsWindowWhenDestroyed) {
   auto guide = Opened(Element());
   const auto form = guide->Form();
   form->Show();
@@ -159,7 +138,7 @@ TEST_F(FTestGuideTest, LettingGoUnloadsTheWindow) {
   EXPECT_TRUE(App().Forms().empty());
 }
 
-TEST_F(FTestGuideTest, HidingEndsTheModalDisplayAndUnloadingToo) {
+TEST_F(FTestGuideTest, EndsItsModalDisplayWhenHiddenOrUnloaded) {
   for (const bool unload : {false, true}) {
     const auto guide = Opened(Element());
     App().Post([&] { unload ? guide->Unload() : guide->Hide(); });
@@ -168,7 +147,7 @@ TEST_F(FTestGuideTest, HidingEndsTheModalDisplayAndUnloadingToo) {
   }
 }
 
-TEST_F(FTestGuideTest, WindowWithoutATestCanBeClosed) {
+TEST_F(FTestGuideTest, CanBeClosedWithoutATest) {
   const auto guide = keld::FTestGuide::Create();
   guide->Load();
   guide->Form()->Show();
@@ -177,7 +156,7 @@ TEST_F(FTestGuideTest, WindowWithoutATestCanBeClosed) {
   EXPECT_TRUE(windows_.empty());
 }
 
-TEST_F(FTestGuideTest, WindowThatLacksAControlOtherThanItsButtonsCanStillBeOperated) {
+TEST_F(FTestGuideTest, CanBeOperatedWithoutAPane) {
   for (const std::string missing : {orvik::HostClasses::kContentPane, "orvikKELD.XKELDResultView"}) {
     controller_->navigation.clear();
     App().SetControlFactory([&](const std::string& classId) {
@@ -196,7 +175,7 @@ TEST_F(FTestGuideTest, WindowThatLacksAControlOtherThanItsButtonsCanStillBeOpera
   }
 }
 
-TEST_F(FTestGuideTest, WindowThatLacksItsControlsCanStillBeLeft) {
+TEST_F(FTestGuideTest, CanBeLeftWithoutAnyControl) {
   App().SetControlFactory([](const std::string&) { return nullptr; });
   const auto element = Element();
   AnswerQuestions(true);

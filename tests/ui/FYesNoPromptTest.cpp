@@ -21,7 +21,7 @@ class FYesNoPromptTest : public support::PromptTest<FYesNoPrompt> {
   orvik::platform::Subscription answered_;
 };
 
-TEST_F(FYesNoPromptTest, LoadingSetsTheCaptions) {
+TEST_F(FYesNoPromptTest, SetsItsCaptionsOnLoad) {
   prompt_->Load();
   EXPECT_EQ(Form()->Caption(), "orvik KELD plug-in");
   EXPECT_EQ(Caption("lblPrompt"), "Do you want to end this test and discard all previous test results?");
@@ -29,7 +29,7 @@ TEST_F(FYesNoPromptTest, LoadingSetsTheCaptions) {
   EXPECT_EQ(Caption("cmdDecline"), "&No");
 }
 
-TEST_F(FYesNoPromptTest, TextsAreThePlugInsInEveryLanguage) {
+TEST_F(FYesNoPromptTest, TranslatesItsTextsForItsModule) {
   const support::TemporaryFolder folder;
   support::SpeakByModule(host_.Host(), folder.Path());
   prompt_->Load();
@@ -41,7 +41,7 @@ TEST_F(FYesNoPromptTest, TextsAreThePlugInsInEveryLanguage) {
   EXPECT_EQ(Caption("lblPrompt"), "KELD 20999");
 }
 
-TEST_F(FYesNoPromptTest, NoticesBringTheFormItself) {
+TEST_F(FYesNoPromptTest, PassesItselfToItsNotices) {
   std::vector<FYesNoPrompt*> tellers;
   const auto listening = prompt_->YesNoStatusChanged().Subscribe(
       [&](std::int32_t, const std::shared_ptr<FYesNoPrompt>& form) { tellers.push_back(form.get()); });
@@ -50,7 +50,7 @@ TEST_F(FYesNoPromptTest, NoticesBringTheFormItself) {
   EXPECT_EQ(tellers, (std::vector<FYesNoPrompt*>(3, prompt_.get())));
 }
 
-TEST_F(FYesNoPromptTest, CaptionsAreSetWhenTheLoadingIsTold) {
+TEST_F(FYesNoPromptTest, SetsItsCaptionsBeforeItNotifiesLoading) {
   std::string question;
   const auto listening = prompt_->YesNoStatusChanged().Subscribe([&](std::int32_t status, const auto&) {
     if (status == 1) question = Caption("lblPrompt");
@@ -60,14 +60,14 @@ TEST_F(FYesNoPromptTest, CaptionsAreSetWhenTheLoadingIsTold) {
   EXPECT_EQ(Caption("lblPrompt"), "Go on?");
 }
 
-TEST_F(FYesNoPromptTest, LoadingAgainAsksTheDefaultQuestionAgain) {
+TEST_F(FYesNoPromptTest, RestoresTheDefaultQuestionOnLoad) {
   prompt_->SetPrompt("20999::Go on?");
   prompt_->Unload();
   prompt_->Load();
   EXPECT_EQ(Caption("lblPrompt"), "Do you want to end this test and discard all previous test results?");
 }
 
-TEST_F(FYesNoPromptTest, SettingAPromptLoadsAndTranslatesButDoesNotShow) {
+TEST_F(FYesNoPromptTest, LoadsAndTranslatesButDoesNotShow) {
   prompt_->SetPrompt("20999::Go on?");
   EXPECT_EQ(statuses_, Numbers{1});
   EXPECT_EQ(Caption("lblPrompt"), "Go on?");
@@ -78,7 +78,7 @@ TEST_F(FYesNoPromptTest, SettingAPromptLoadsAndTranslatesButDoesNotShow) {
   EXPECT_EQ(Caption("lblPrompt"), "Really?");
 }
 
-TEST_F(FYesNoPromptTest, WindowIsOnTopWhenItsActivationIsTold) {
+TEST_F(FYesNoPromptTest, IsTopmostBeforeItNotifiesActivation) {
   std::optional<bool> topmost;
   std::optional<bool> activated;
   const auto listening = prompt_->YesNoStatusChanged().Subscribe([&](std::int32_t status, const auto& form) {
@@ -91,18 +91,18 @@ TEST_F(FYesNoPromptTest, WindowIsOnTopWhenItsActivationIsTold) {
   EXPECT_EQ(activated, true);
 }
 
-TEST_F(FYesNoPromptTest, ButtonsAnswerAndHide) {
+TEST_F(FYesNoPromptTest, AnswersAndHidesOnAButton) {
   for (const auto& [button, option] : {std::pair<const char*, int>{"cmdAccept", 1}, {"cmdDecline", 2}}) {
     options_.clear();
     prompt_->Show();
     Click(button);
     EXPECT_EQ(options_, Numbers{option});
     EXPECT_FALSE(Form()->Visible());
-    EXPECT_TRUE(Form()->Loaded()) << "its owner unloads it";
+    EXPECT_TRUE(Form()->Loaded()) << "the caller unloads it";
   }
 }
 
-TEST_F(FYesNoPromptTest, AnswerIsToldBeforeTheWindowHides) {
+TEST_F(FYesNoPromptTest, NotifiesTheAnswerBeforeItHides) {
   std::optional<bool> visible;
   const auto listening = prompt_->YesNoOption().Subscribe([&](std::int32_t) { visible = Form()->Visible(); });
   prompt_->Show();
@@ -110,7 +110,7 @@ TEST_F(FYesNoPromptTest, AnswerIsToldBeforeTheWindowHides) {
   EXPECT_EQ(visible, true);
 }
 
-TEST_F(FYesNoPromptTest, KeysAnswerWhateverTheShiftState) {
+TEST_F(FYesNoPromptTest, AnswersOnYAndNWithAnyShiftState) {
   for (int shift = 0; shift < 8; ++shift) {
     for (const auto& [key, option] : {std::pair<int, int>{89, 1}, {78, 2}}) {
       options_.clear();
@@ -122,20 +122,20 @@ TEST_F(FYesNoPromptTest, KeysAnswerWhateverTheShiftState) {
   }
 }
 
-TEST_F(FYesNoPromptTest, OtherKeysAreIgnored) {
+TEST_F(FYesNoPromptTest, IgnoresOtherKeys) {
   prompt_->Show();
   for (const int key : {27, 65, 77, 79, 88, 90, 121, 110}) Form()->PressKey(key, 0);
   EXPECT_TRUE(options_.empty());
   EXPECT_TRUE(Form()->Visible());
 }
 
-TEST_F(FYesNoPromptTest, ReturnAloneIsNoConsent) {
+TEST_F(FYesNoPromptTest, AnswersNoOnReturn) {
   prompt_->Show();
   Form()->PressKey(orvik::platform::kKeyReturn, 0);
-  EXPECT_EQ(options_, Numbers{2}) << "the focus is on no";
+  EXPECT_EQ(options_, Numbers{2}) << "no has the focus";
 }
 
-TEST_F(FYesNoPromptTest, TheCrossIsNo) {
+TEST_F(FYesNoPromptTest, AnswersNoWhenClosed) {
   prompt_->Show();
   Form()->Close();
   EXPECT_EQ(options_, Numbers{2});
@@ -143,7 +143,7 @@ TEST_F(FYesNoPromptTest, TheCrossIsNo) {
   EXPECT_TRUE(Form()->Loaded());
 }
 
-TEST_F(FYesNoPromptTest, OwnerMayUnloadAndReleaseItFromInsideTheAnswer) {
+TEST_F(FYesNoPromptTest, MayBeReleasedInsideItsAnswer) {
   auto prompt = FYesNoPrompt::Create();
   const auto form = prompt->Form();
   const auto listening = prompt->YesNoOption().Subscribe([&](std::int32_t) {

@@ -25,12 +25,13 @@
 #include "plugin/CKELDTestConfiguration.h"
 #include "results/CKELDLimitData.h"
 #include "results/CKELDResultData.h"
+#include "tests/model/RecordingController.h"
 #include "tests/support/VirtualBench.h"
-#include "tests/ui/RunController.h"
+#include "ui/FTestGuide.h"
 
 namespace ui {
 
-/// The guide on its screen, as an operator has it.
+/// The guide as the operator sees it.
 class GuideScreen {
  public:
   explicit GuideScreen(std::shared_ptr<orvik::platform::IForm> form) : form_(std::move(form)) {}
@@ -57,7 +58,7 @@ class GuideScreen {
   std::shared_ptr<orvik::platform::IListView> Results() const {
     return orvik::As<orvik::platform::IListView>(Site("xrvResultView")->Panel()->Find("lvwResults"));
   }
-  /// The control with the tester's data, and a field on it.
+  /// The control with the tester's data, and one of its fields.
   std::shared_ptr<orvik::ICustomControl> InstrumentData() const {
     return orvik::As<orvik::ICustomControl>(Pane("xstShowMTI")->Tab("tab:MtiData"));
   }
@@ -73,7 +74,7 @@ class GuideScreen {
     throw std::runtime_error("the guide shows no data of the tester");
   }
   void Click(int command) const { Toolbar()->Click(command); }
-  /// Commands that act now.
+  /// The enabled commands.
   std::vector<int> Enabled() const {
     std::vector<int> enabled;
     for (const int command : {101, 102, 103, 201, 202, 301, 302, 501, 900}) {
@@ -106,19 +107,43 @@ class GuideTest : public testing::Test {
     return element;
   }
 
+  /// A guide opened for the element, not shown.
+  std::shared_ptr<keld::FTestGuide> Opened(const std::shared_ptr<orvik::ITestElement>& element) {
+    auto guide = keld::FTestGuide::Create();
+    guide->Initialize(element, controller_);
+    return guide;
+  }
+  /// A guide opened for an element that the test drives.
+  std::shared_ptr<keld::FTestGuide> Driving(const std::shared_ptr<keld::CKELDTestElement>& element,
+                                            const std::shared_ptr<keld::CKELDInstrument>& link) {
+    auto guide = Opened(element);
+    element->InitAutoRun(link, guide, controller_);
+    return guide;
+  }
+  static void Command(const std::shared_ptr<keld::FTestGuide>& guide, int command) {
+    orvik::As<orvik::ITgToolbarEvents>(guide)->OnCommand(command);
+  }
+  static void Press(const std::shared_ptr<orvik::platform::IForm>& form, const std::string& button) {
+    orvik::Required(orvik::As<orvik::platform::IButton>(form->Find(button))).Click();
+  }
+  /// Gives the element and the run a standard whose limit the simulated reading exceeds.
+  void GiveFailingLimit(const std::shared_ptr<keld::CKELDTestElement>& element) {
+    orvik::As<keld::CKELDLimitData>(element->Limits())->AddStandard(Standard("A", "1"));
+    controller_->standards = Standards({"A"});
+  }
+
   static void SetOptions(const orvik::ITestElement& element, std::int32_t options) {
     orvik::As<keld::CKELDTestConfiguration>(element.Configuration())->SetOptions(options);
   }
 
-  /// Performs the element; the operator acts once the guide is on the screen, and leaves it at the latest
-  /// then.
+  /// Performs the element; the operator acts once the guide is on the screen, then leaves it.
   void Perform(const std::shared_ptr<orvik::ITestElement>& element, Operator act) {
     bool acted = false;
     const auto opened = App().FormShown().Subscribe([&](const std::shared_ptr<orvik::platform::IForm>& form) {
       if (form->Name() != "FTestGuide") return;
       App().Post([&, form] {
         acted = true;
-        act(GuideScreen(form));
+        Operate([&] { act(GuideScreen(form)); });
         left_ = !form->Visible();
         if (!left_) form->Hide();
       });
@@ -127,14 +152,14 @@ class GuideTest : public testing::Test {
     EXPECT_TRUE(acted) << "the guide was never shown";
   }
 
-  /// Does something once, as soon as the command has been sent.
+  /// Calls `act` once, after the command was sent.
   void When(const std::string& command, std::function<void()> act) {
     whens_.push_back(bench_.Ports().TheWire()->Subscribe(
         [this, command, act, done = false](const bench::WireRecord& record) mutable {
           if (done || record.kind != bench::WireRecord::Kind::kSent || !record.text.starts_with(command))
             return;
           done = true;
-          App().Post(act);
+          App().Post([act] { Operate(act); });
         }));
   }
 
@@ -163,15 +188,24 @@ class GuideTest : public testing::Test {
   }
 
   support::VirtualBench bench_;
-  std::shared_ptr<RunController> controller_ = std::make_shared<RunController>();
-  /// Names of the other windows that came up.
+  std::shared_ptr<support::RecordingController> controller_ =
+      std::make_shared<support::RecordingController>();
+  /// Names of the other windows shown.
   std::vector<std::string> windows_;
-  /// What an operator does in another window; by default prompts are answered.
+  /// Operates another window; by default prompts are answered.
   std::function<void(const std::shared_ptr<orvik::platform::IForm>&)> onWindow_;
-  /// Whether the last guide was gone when the operator had acted.
+  /// Whether the last guide was closed after the operator had acted.
   bool left_ = false;
 
  private:
+  /// The element ignores errors of its guide, so an operator's error must be reported here.
+  static void Operate(const std::function<void()>& act) {
+    try {
+      act();
+    } catch (const std::exception& error) {
+      ADD_FAILURE() << error.what();
+    }
+  }
   void OnOtherForm(const std::shared_ptr<orvik::platform::IForm>& form) {
     windows_.push_back(form->Name());
     App().Post([this, form] {

@@ -22,7 +22,7 @@ namespace support {
 
 using Numbers = std::vector<std::int32_t>;
 
-/// The status notices of a prompt, whichever it is.
+/// Subscribes to the status notices of either prompt.
 template <class Told>
 orvik::platform::Subscription OnStatus(keld::FYesNoPrompt& prompt, Told told) {
   return prompt.YesNoStatusChanged().Subscribe([told](std::int32_t status, const auto&) { told(status); });
@@ -32,11 +32,11 @@ orvik::platform::Subscription OnStatus(keld::FPretestPrompt& prompt, Told told) 
   return prompt.PromptStatus().Subscribe([told](std::int32_t status) { told(status); });
 }
 
-/// What whoever uses a prompt calls to put its text.
+/// Sets the text as a caller does.
 inline void SetText(keld::FYesNoPrompt& prompt) { prompt.SetPrompt("20999::Go on?"); }
 inline void SetText(keld::FPretestPrompt& prompt) { prompt.SetPrompt("Connect the lead.", ""); }
 
-/// The button of consent.
+/// The affirmative button.
 inline const char* FirstButton(const keld::FYesNoPrompt&) { return "cmdAccept"; }
 inline const char* FirstButton(const keld::FPretestPrompt&) { return "cmdOK"; }
 
@@ -44,8 +44,8 @@ inline void ClickOn(const orvik::platform::IForm& form, const std::string& butto
   orvik::Required(orvik::As<orvik::platform::IButton>(form.Find(button))).Click();
 }
 
-/// From now on the host speaks a language in which the plug-in's texts and the host's differ: "KELD 3" and
-/// "orvik 3" for the text of number 3. To be called before the plug-in first asks for a text.
+/// From now on the host translates text 3 to "KELD 3" for the plug-in and to "orvik 3" for itself. Call it
+/// before the plug-in translates a text.
 inline void SpeakByModule(bench::Host& host, const std::filesystem::path& folder) {
   for (const std::string module : {"KELD", "orvik"}) {
     std::ofstream file(folder / (module + ".xx.po"));
@@ -58,7 +58,7 @@ inline void SpeakByModule(bench::Host& host, const std::filesystem::path& folder
   });
 }
 
-/// A prompt on the real host, with its status notices written down.
+/// A prompt on the real host; records its status notices.
 template <class Prompt>
 class PromptTest : public testing::Test {
  protected:
