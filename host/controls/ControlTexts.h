@@ -1,6 +1,6 @@
 #pragma once
 
-/// Texts of the host's own controls, in the form number, "::", English text; module "orvik".
+/// Texts of the composite controls: number, "::", English text; module "orvik".
 namespace bench::ControlTexts {
 
 inline constexpr char kAbort[] = "1101::Abort";

@@ -9,21 +9,21 @@
 
 namespace bench {
 
-/// What the host's own controls share: their place, and the language of their texts.
+/// The base of the composite controls: their site, and the language of their texts.
 class HostControl : public orvik::platform::IUserControl {
  public:
-  /// @param language who translates the texts; without it they stay English
+  /// @param language translates the texts; without it they stay English
   explicit HostControl(std::shared_ptr<orvik::ILanguageService> language) : language_(std::move(language)) {}
 
-  /// Builds the control once; `HostError` 5 when it has been placed already.
+  /// Builds the control once; `HostError` 5 if it is already placed.
   void AttachTo(const std::shared_ptr<orvik::platform::IContainerSite>& site) final;
 
  protected:
   /// Adds the inner controls.
   virtual void Build(orvik::platform::IPanel& panel) = 0;
-  /// The text to show for a language string of the host.
+  /// The translation of one of the `ControlTexts`.
   std::string Text(const std::string& text) const;
-  /// The place of the control; `HostError` 91 before it has one and after it is gone.
+  /// The control's site; `HostError` 91 before it is placed and after the site is destroyed.
   std::shared_ptr<orvik::platform::IContainerSite> Site() const;
 
  private:

@@ -54,7 +54,7 @@ void Arrange(platform::IPanel& panel) {
 
 LimitViewControls LimitViewControls::Build(platform::IPanel& panel, const Translate& text) {
   LimitViewControls controls;
-  // In the order in which the operator walks through them.
+  // In tab order.
   controls.lblCaption = panel.AddLabel("lblCaption");
   controls.lvwLimits = AddList(panel, text);
   AddCaption(panel, "lblLow", text(ControlTexts::kLowLimit));

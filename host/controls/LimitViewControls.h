@@ -18,7 +18,7 @@ inline constexpr char kLow[] = "LOL";
 inline constexpr char kHigh[] = "HIL";
 }  // namespace LimitColumns
 
-/// The controls of the limit view, named as their members.
+/// The controls of the limit view; each member has the control's name.
 struct LimitViewControls {
   std::shared_ptr<orvik::platform::ILabel> lblCaption;
   std::shared_ptr<orvik::platform::IListView> lvwLimits;
@@ -35,9 +35,9 @@ struct LimitViewControls {
   std::shared_ptr<orvik::platform::ILabel> lblMessage;
 
   using Translate = std::function<std::string(const std::string&)>;
-  /// Adds the controls to the panel and arranges them.
+  /// Adds the controls to the panel and lays them out.
   static LimitViewControls Build(orvik::platform::IPanel& panel, const Translate& text);
-  /// Locks or frees everything that edits.
+  /// Locks or unlocks all inputs.
   void SetLocked(bool locked) const;
 };
 

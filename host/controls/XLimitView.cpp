@@ -21,7 +21,7 @@ void ShowBound(const LimitBound& bound, const std::vector<std::string>& units,
   unit.SetText(bound.unit);
 }
 
-/// Stores all or nothing. The old bounds go first: they need not fit the new nominal value.
+/// Stores all or nothing. The old bounds are removed first: they may not fit the new nominal value.
 void StoreBounds(orvik::ILimit& limit, const orvik::Variant& nominal, const std::string& low,
                  const std::string& high) {
   const orvik::Variant nominalBefore = limit.Nominal();
@@ -50,13 +50,13 @@ void XLimitView::Build(orvik::platform::IPanel& panel) {
 }
 
 void XLimitView::ListenToControls() {
-  const auto edited = [this] { Edited(); };
+  const auto edited = [this] { OnEdited(); };
   for (const auto& box : {controls_.txtLow, controls_.txtHigh, controls_.txtNominal})
     subscriptions_.push_back(box->Changed().Subscribe(edited));
   for (const auto& box : {controls_.cboLowUnit, controls_.cboHighUnit})
     subscriptions_.push_back(box->Selected().Subscribe(edited));
-  subscriptions_.push_back(
-      controls_.lvwLimits->MouseUp().Subscribe([this](const orvik::platform::MouseEvent&) { RowPicked(); }));
+  subscriptions_.push_back(controls_.lvwLimits->MouseUp().Subscribe(
+      [this](const orvik::platform::MouseEvent&) { OnRowSelected(); }));
   subscriptions_.push_back(controls_.cmdApply->Clicked().Subscribe([this] { Store(); }));
   subscriptions_.push_back(controls_.cmdAdd->Clicked().Subscribe([this] { AddStandard(); }));
   subscriptions_.push_back(controls_.cmdRemove->Clicked().Subscribe([this] { RemoveStandard(); }));
@@ -120,7 +120,7 @@ void XLimitView::FillList() {
   }
   shownRow_ = list.HasRow(shown) ? shown : count > 0 ? "1" : "";
   if (!shownRow_.empty()) list.SelectRow(shownRow_);
-  // An entry that belongs to a standard that is gone has no place to be stored in.
+  // Input for a removed standard cannot be stored.
   if (shownRow_ != shown) pending_ = false;
 }
 
@@ -140,7 +140,7 @@ void XLimitView::FillRow(const std::string& row) {
 
 void XLimitView::ShowBounds() {
   const auto limit = LimitOf(shownRow_);
-  // The limit's own unit counts: what the view was told may have changed since the bounds were entered.
+  // The limit's own unit, since the view's unit may have changed after the bounds were entered.
   const std::string unit = limit ? limit->Unit() : unit_;
   const auto units = UsableUnits(allowedUnits_, unit);
   showing_ = true;
@@ -155,19 +155,19 @@ void XLimitView::ShowBounds() {
 
 void XLimitView::ShowMessage(const std::string& text) { controls_.lblMessage->SetCaption(text); }
 
-void XLimitView::RowPicked() {
-  const std::string picked = controls_.lvwLimits->SelectedRow();
-  if (picked == shownRow_) return;
+void XLimitView::OnRowSelected() {
+  const std::string selected = controls_.lvwLimits->SelectedRow();
+  if (selected == shownRow_) return;
   if (!StorePending()) {
     controls_.lvwLimits->SelectRow(shownRow_);
     return;
   }
-  controls_.lvwLimits->SelectRow(picked);
-  shownRow_ = picked;
+  controls_.lvwLimits->SelectRow(selected);
+  shownRow_ = selected;
   ShowBounds();
 }
 
-void XLimitView::Edited() {
+void XLimitView::OnEdited() {
   if (showing_) return;
   pending_ = true;
   ShowMessage(Text(ControlTexts::kNotStored));
@@ -175,27 +175,27 @@ void XLimitView::Edited() {
 
 bool XLimitView::Store() {
   const auto self = shared_from_this();
-  const auto refuse = [this](const std::string& reason) {
+  const auto reject = [this](const std::string& reason) {
     ShowMessage(reason);
     return false;
   };
-  if (shownRow_.empty()) return refuse(Text(ControlTexts::kNothingSelected));
+  if (shownRow_.empty()) return reject(Text(ControlTexts::kNothingSelected));
   const auto limit = LimitOf(shownRow_);
-  if (!limit) return refuse(Text(ControlTexts::kNoLimit));
+  if (!limit) return reject(Text(ControlTexts::kNoLimit));
 
-  // A number that was only shown keeps the digits that are not on the screen.
+  // An unchanged number keeps the digits that are not shown.
   orvik::Variant nominal = limit->Nominal();
   const std::string nominalText = orvik::Trim(controls_.txtNominal->Text());
   if (nominalText != orvik::TextOf(nominal)) {
     const auto number = orvik::FiniteNumber(nominalText);
-    if (!number && !nominalText.empty()) return refuse(Text(ControlTexts::kNominalWrong));
+    if (!number && !nominalText.empty()) return reject(Text(ControlTexts::kNominalWrong));
     nominal = number ? orvik::Variant(*number) : orvik::Variant();
   }
   try {
     StoreBounds(*limit, nominal, JoinBound({controls_.txtLow->Text(), controls_.cboLowUnit->Text()}),
                 JoinBound({controls_.txtHigh->Text(), controls_.cboHighUnit->Text()}));
   } catch (const orvik::HostError& error) {
-    return refuse(error.Description());
+    return reject(error.Description());
   }
   FillRow(shownRow_);
   ShowBounds();
@@ -218,8 +218,8 @@ void XLimitView::AddStandard() {
   }
   controls_.txtName->SetText("");
   controls_.txtDescription->SetText("");
-  const auto grown = data_->Standards();
-  shownRow_ = std::to_string(grown ? grown->Count() : 0);
+  const auto extended = data_->Standards();
+  shownRow_ = std::to_string(extended ? extended->Count() : 0);
   FillList();
   ShowBounds();
   NotifyChange();
@@ -241,7 +241,7 @@ void XLimitView::NotifyChange() {
 
 std::shared_ptr<orvik::IStandard> XLimitView::StandardOf(const std::string& row) const {
   const auto standards = data_ ? data_->Standards() : nullptr;
-  // Rows are numbered as the standards are.
+  // The row key is the index of the standard.
   const auto index = static_cast<std::int32_t>(orvik::LeadingNumber(row));
   return standards && index >= 1 && index <= standards->Count() ? standards->item(index) : nullptr;
 }

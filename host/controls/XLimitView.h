@@ -14,12 +14,12 @@
 
 namespace bench {
 
-/// Edits the limits of one element: a list of its standards, the bounds of the selected one (the first limit
-/// with the view's key), and standards to add and remove.
+/// Edits the limits of one element: lists its standards, edits the bounds of the selected one (the first
+/// limit with the view's key), and adds and removes standards.
 ///
-/// What is typed is stored by Apply, or when another standard is selected or added. What the limit refuses is
-/// not stored: the reason is shown, and the entry stays on the screen. The call-back is told "Change"
-/// whenever something was stored. Operations fail with `HostError` 91 until the control has been placed.
+/// Input is stored by Apply, or when another standard is selected or added. Input that the limit rejects
+/// stays visible with the reason. The call-back is notified with "Change" after each change. Operations fail
+/// with `HostError` 91 until the control is placed.
 class XLimitView final : public virtual orvik::ILimitView, public HostControl {
  public:
   using HostControl::HostControl;
@@ -33,7 +33,7 @@ class XLimitView final : public virtual orvik::ILimitView, public HostControl {
   void ICustomControl_SetLocked(bool fLocked) override;
   bool ICustomControl_Visible() const override;
   void ICustomControl_SetVisible(bool fVisible) override;
-  /// `Data` is the element's `ILimitData`; anything else shows an empty list. The values are not used.
+  /// `Data` is the element's `ILimitData`, otherwise the list is empty. The values are not used.
   void ICustomControl_Initialize(std::shared_ptr<orvik::IObject> Data, const orvik::Variant& v1,
                                  const orvik::Variant& v2, const orvik::Variant& v3) override;
   void ICustomControl_Refresh() override;
@@ -48,8 +48,8 @@ class XLimitView final : public virtual orvik::ILimitView, public HostControl {
   void ShowBounds();
   void ShowMessage(const std::string& text);
 
-  void RowPicked();
-  void Edited();
+  void OnRowSelected();
+  void OnEdited();
   bool StorePending() { return !pending_ || Store(); }
   bool Store();
   void AddStandard();
@@ -67,7 +67,7 @@ class XLimitView final : public virtual orvik::ILimitView, public HostControl {
   std::string unit_;
   std::string allowedUnits_;
   bool locked_ = false;
-  // The row whose bounds are on the screen, empty for none.
+  // The row whose bounds are shown, empty for none.
   std::string shownRow_;
   bool showing_ = false;
   bool pending_ = false;

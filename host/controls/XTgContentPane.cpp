@@ -12,7 +12,7 @@ using orvik::Required;
 
 namespace {
 
-/// The one control of the page fills it.
+/// Makes the control fill the page.
 void FillPage(orvik::platform::IPanel& page, const std::string& control) {
   orvik::platform::Grid grid;
   grid.rows = {{0, 1}};

@@ -11,9 +11,8 @@
 
 namespace bench {
 
-/// A pane with the guidance text "lblGuidance" above the pages "tabPages", each page with one control, which
-/// is named after the page's key. What has no content is hidden. Operations fail with `HostError` 91 until
-/// the control has been placed.
+/// The guidance text "lblGuidance" above the pages "tabPages"; each page has one control, named as the page's
+/// key. Empty parts are hidden. Operations fail with `HostError` 91 until the control is placed.
 class XTgContentPane final : public virtual orvik::ITgContentPane, public HostControl {
  public:
   using HostControl::HostControl;
@@ -22,8 +21,8 @@ class XTgContentPane final : public virtual orvik::ITgContentPane, public HostCo
   std::string IObject_ClassID() const override;
   void ITgContentPane_SetGuidance(const std::string& sText) override;
   std::string ITgContentPane_Guidance() const override;
-  /// `HostError` 5 for a key that is taken. A page whose control could not be made stays empty, and can be
-  /// filled by another call.
+  /// `HostError` 5 for an existing key. A page whose control could not be created stays empty; another call
+  /// can fill it.
   std::shared_ptr<orvik::IObject> ITgContentPane_AddTab(const std::string& sKey, const std::string& sCaption,
                                                         const std::vector<std::byte>& Picture,
                                                         const std::string& sClassID) override;
@@ -37,7 +36,7 @@ class XTgContentPane final : public virtual orvik::ITgContentPane, public HostCo
   std::shared_ptr<orvik::platform::ILabel> guidance_;
   std::shared_ptr<orvik::platform::ITabs> tabs_;
   std::map<std::string, std::shared_ptr<orvik::platform::IContainerSite>> sites_;
-  // The element keeps the window that keeps this pane.
+  // Weak: the element owns the window that owns this pane.
   std::weak_ptr<orvik::ITestElement> element_;
 };
 

@@ -8,7 +8,7 @@
 
 namespace bench {
 
-/// The progress bar "prgBar". Operations fail with `HostError` 91 until the control has been placed.
+/// The progress bar "prgBar". Operations fail with `HostError` 91 until the control is placed.
 class XTgProgressBar final : public virtual orvik::ITgProgressBar, public HostControl {
  public:
   using HostControl::HostControl;

@@ -10,9 +10,9 @@
 
 namespace bench {
 
-/// The test-guide toolbar: the buttons "tbrCommands" and the status text "lblStatus" beside them, and
-/// below both "lblJudgement", in which the host says how the readings were judged; hidden while it is empty.
-/// Operations fail with `HostError` 91 until the control has been placed.
+/// The test-guide toolbar: the buttons "tbrCommands", the status text "lblStatus" beside them, and below both
+/// "lblJudgement", where the host shows the judgement of the readings; hidden while empty. Operations fail
+/// with `HostError` 91 until the control is placed.
 class XTgToolbar final : public virtual orvik::ITgToolbar, public HostControl {
  public:
   using HostControl::HostControl;

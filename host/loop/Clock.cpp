@@ -27,7 +27,7 @@ std::chrono::nanoseconds Clock::SleepUntil(Time moment) const {
   constexpr std::chrono::nanoseconds longest = std::chrono::hours(1);
   const Time now = Now();
   if (moment <= now) return std::chrono::nanoseconds(0);
-  // Rounded up: waking a hair too early would cost a second sleep.
+  // Rounded up: waking too early would cost a second sleep.
   const double sleep = std::ceil(static_cast<double>((moment - now).count()) * 1000 / timeScale_) + 1;
   return sleep < static_cast<double>(longest.count())
              ? std::chrono::nanoseconds(static_cast<std::int64_t>(sleep))

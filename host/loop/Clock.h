@@ -6,21 +6,21 @@
 
 namespace bench {
 
-/// Virtual time stands still until somebody waits, and then jumps to what comes next; real time passes.
+/// Virtual time only changes during a wait: it jumps to the next event.
 enum class ClockKind { kVirtual, kReal };
 
-/// The one clock of the program. It starts at 0 and never goes back.
+/// The clock of the program. It starts at 0 and is monotonic.
 class Clock {
  public:
-  /// @param timeScale how many times faster than the wall the real clock runs; `HostError` 5 unless it is
-  /// above 0 and finite. A virtual clock has no use for it.
+  /// @param timeScale speed of the real clock relative to real time; `HostError` 5 unless it is above 0 and
+  /// finite. A virtual clock ignores it.
   Clock(ClockKind kind, double timeScale);
 
   ClockKind Kind() const { return kind_; }
   orvik::platform::Time Now() const;
-  /// Moves a virtual clock ahead; a moment that has passed changes nothing.
+  /// Moves a virtual clock forward; ignores a moment in the past.
   void JumpTo(orvik::platform::Time moment);
-  /// How long the real clock's owner must sleep for that moment to have come; at most an hour.
+  /// How long to sleep until that moment of the real clock; at most an hour.
   std::chrono::nanoseconds SleepUntil(orvik::platform::Time moment) const;
 
  private:

@@ -18,7 +18,7 @@ ILoop::Id EventLoop::WatchReadable(int descriptor, std::function<void()> callbac
 }
 
 ILoop::Id EventLoop::CallAt(Time when, std::function<void()> callback) {
-  // Behind the calls of the round that is on, or one that renews itself in the past would keep them waiting.
+  // Not before the current round, or a call that renews itself in the past would starve the others.
   const Id id = calls_.Add(std::max(when, lastRound_), std::move(callback));
   WorkAdded();
   return id;
@@ -81,7 +81,7 @@ bool EventLoop::Pending() const {
 
 bool EventLoop::Round(std::chrono::nanoseconds sleep) {
   if (dispatcher_) {
-    // Before the marks: what the operator does meanwhile belongs to this round.
+    // Before the marks: work that is added meanwhile belongs to this round.
     dispatcher_->Sleep(sleep);
     poller_.EmptyWakeDescriptor();
     sleep = std::chrono::nanoseconds::zero();

@@ -15,46 +15,46 @@
 
 namespace bench {
 
-/// What a wait came back with.
+/// The outcome of a wait.
 enum class WaitOutcome {
   kProcessed,    ///< something happened and was processed
-  kNothing,      ///< the deadline has come, or the sleep ended early
-  kNothingLeft,  ///< virtual clock, no deadline, and nothing that could ever happen
+  kNothing,      ///< the deadline was reached, or the sleep ended early
+  kNothingLeft,  ///< virtual clock, no deadline, and nothing pending
 };
 
 /// The event loop: one clock, timed calls, posted work, watched descriptors. Reentrant: a callback may wait.
 ///
-/// One round processes what was pending when it began, descriptors first (a reply that has come in counts
-/// before the time-out that fell due with it), then posted work, then timed calls. What comes in meanwhile
-/// waits for the next round, so that no source starves another. An error that a callback throws goes to
-/// whoever waits, and loses nothing but that callback.
+/// One round processes what was pending at its start: descriptors first, so that a reply comes before a
+/// time-out that is due at the same time, then posted work, then timed calls. Later work is left for the next
+/// round, so that no source starves another. An error of a callback is thrown to the waiting caller; other
+/// work is kept.
 class EventLoop final : public ILoop {
  public:
   EventLoop(ClockKind kind, double timeScale) : clock_(kind, timeScale) {}
 
   ClockKind Kind() const { return clock_.Kind(); }
   orvik::platform::Time Now() const override { return clock_.Now(); }
-  /// `HostError` 5 on a virtual clock: nothing outside keeps its time.
+  /// `HostError` 5 on a virtual clock, which does not apply to devices.
   Id WatchReadable(int descriptor, std::function<void()> callback) override;
-  /// A time that has passed is due now.
+  /// A time in the past is due now.
   Id CallAt(orvik::platform::Time when, std::function<void()> callback) override;
   void Forget(Id id) override;
   void Post(std::function<void()> work);
 
-  /// Ends the present or the next wait at once, and has `Woken` raised. May be called from a signal handler.
+  /// Ends the current or the next wait at once and raises `Woken`. May be called from a signal handler.
   void Wake() noexcept { poller_.Wake(); }
   orvik::platform::Event<>& Woken() { return woken_; }
 
-  /// From now on all sleeping is done there; empty: here. The dispatcher lives until it is taken away again.
+  /// Makes the dispatcher sleep instead of this loop; null removes it. It must outlive its use here.
   void SetDispatcher(IEventDispatcher* dispatcher);
-  /// How long the loop may sleep when nothing else happens: 0 when work is pending, the longest time there is
-  /// when nothing is due. On a virtual clock nothing falls due by waiting.
+  /// How long the loop may sleep: 0 if work is pending, the maximum if nothing is due or the clock is
+  /// virtual.
   std::chrono::nanoseconds UntilWork() const;
 
-  /// Processes what is pending; returns whether anything was.
+  /// Processes pending work; returns whether there was any.
   bool Process();
   WaitOutcome Wait(orvik::platform::Time deadline);
-  /// Lets go of all work, calls and watches.
+  /// Removes all work, calls and watches.
   void Clear();
 
  private:
@@ -71,7 +71,7 @@ class EventLoop final : public ILoop {
   Poller poller_;
   std::deque<std::pair<std::uint64_t, std::function<void()>>> posted_;
   std::uint64_t nextPosted_ = 0;
-  // The time whose calls were run last.
+  // The time of the last round.
   orvik::platform::Time lastRound_{0};
   orvik::platform::Event<> woken_;
   IEventDispatcher* dispatcher_ = nullptr;

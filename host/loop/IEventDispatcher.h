@@ -5,9 +5,8 @@
 
 namespace bench {
 
-/// Sleeps in the event loop's place, so that the loop of a window system is served by the same thread. Such a
-/// loop may also run without being asked (an open menu, a dialog of the system); then it is the dispatcher
-/// that has the event loop processed.
+/// Sleeps instead of the event loop, so that one thread serves the window system too. The window system may
+/// also run a loop of its own (an open menu, a file dialog); the dispatcher then processes the event loop.
 class IEventDispatcher {
  public:
   IEventDispatcher() = default;
@@ -15,12 +14,12 @@ class IEventDispatcher {
   IEventDispatcher& operator=(const IEventDispatcher&) = delete;
   virtual ~IEventDispatcher() = default;
 
-  /// From now on a sleep ends when one of these descriptors, and none but these, can be read.
+  /// A sleep ends when one of these descriptors becomes readable. Replaces the earlier list.
   virtual void Watch(const std::vector<int>& descriptors) = 0;
-  /// Something was posted, or has a time at which it is due: a sleep that is on looks again.
+  /// Work was posted or scheduled: a sleep in progress checks again.
   virtual void WorkAdded() = 0;
-  /// Serves the window system and sleeps at most that long; 0 does not sleep. What it throws goes to whoever
-  /// waits.
+  /// Serves the window system and sleeps at most that long; 0 does not sleep. Errors go to the waiting
+  /// caller.
   virtual void Sleep(std::chrono::nanoseconds longest) = 0;
 };
 

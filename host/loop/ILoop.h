@@ -7,7 +7,7 @@
 
 namespace bench {
 
-/// What the host's devices need of the event loop behind the windows. User-interface thread only.
+/// The event loop as devices see it. User-interface thread only.
 class ILoop {
  public:
   using Id = std::uint64_t;
@@ -18,12 +18,11 @@ class ILoop {
   virtual ~ILoop() = default;
 
   virtual orvik::platform::Time Now() const = 0;
-  /// Calls back while messages are processed whenever the descriptor can be read or has hung up, until
-  /// `Forget`.
+  /// Calls back during message processing while the descriptor is readable or has hung up, until `Forget`.
   virtual Id WatchReadable(int descriptor, std::function<void()> callback) = 0;
-  /// Calls back once at that time.
+  /// Calls back once, at that time.
   virtual Id CallAt(orvik::platform::Time when, std::function<void()> callback) = 0;
-  /// Ends a watch or a call; an identifier that has ended changes nothing.
+  /// Ends a watch or a call; ignores one that has ended.
   virtual void Forget(Id id) = 0;
 };
 

@@ -22,7 +22,7 @@ namespace {
 }  // namespace
 
 Poller::Poller() : wakeDescriptor_(eventfd(0, EFD_NONBLOCK | EFD_CLOEXEC)) {
-  if (wakeDescriptor_ < 0) Fail("cannot make the event loop's wake-up descriptor");
+  if (wakeDescriptor_ < 0) Fail("cannot create the event loop's wake-up descriptor");
 }
 
 Poller::~Poller() { close(wakeDescriptor_); }
@@ -37,7 +37,7 @@ void Poller::Forget(Id id) {
   const auto found =
       std::find_if(watches_.begin(), watches_.end(), [id](const Watched& w) { return w.id == id; });
   if (found == watches_.end()) return;
-  // What the callback holds may come back here when it is destroyed, so it goes last.
+  // Destroyed last: the destructor of what the callback holds may use this object.
   const auto callback = std::move(found->callback);
   watches_.erase(found);
 }
@@ -52,7 +52,7 @@ void Poller::Wake() noexcept {
   const int error = errno;
   woken_.store(true);
   const std::uint64_t one = 1;
-  // A full counter refuses the write, and is awake already.
+  // If the counter is full, the descriptor is already readable.
   [[maybe_unused]] const auto written = write(wakeDescriptor_, &one, sizeof one);
   errno = error;
 }
@@ -77,7 +77,7 @@ bool Poller::Sleep(std::chrono::nanoseconds longest) {
     polled_.push_back({watched.descriptor, POLLIN, 0});
     polledIds_.push_back(watched.id);
   }
-  // The descriptor may have been emptied by a poll whose wake-up nobody has taken yet.
+  // An earlier poll may have read the descriptor before `TakeWake` was called.
   if (woken_.load()) longest = std::chrono::nanoseconds::zero();
   const auto seconds = std::chrono::floor<std::chrono::seconds>(longest);
   const timespec limit{static_cast<time_t>(seconds.count()), static_cast<long>((longest - seconds).count())};
@@ -90,7 +90,7 @@ bool Poller::Sleep(std::chrono::nanoseconds longest) {
 bool Poller::CallBack() {
   const auto poll = polls_;
   bool called = false;
-  // After a nested poll the readings are old: a descriptor may have been read dry meanwhile.
+  // Results are outdated after a nested poll, which may have read a descriptor empty.
   for (std::size_t index = 1; poll == polls_ && index < polled_.size(); ++index) {
     if (polled_[index].revents == 0) continue;
     const Id id = polledIds_[index];

@@ -11,11 +11,11 @@
 
 namespace bench {
 
-/// Sleeps until a watched descriptor can be read or has hung up, or until it is woken.
+/// Sleeps until a watched descriptor is readable or has hung up, or until woken.
 class Poller {
  public:
   using Id = std::uint64_t;
-  /// Set in every identifier that is given here, so that they differ from those of calls.
+  /// Set in each identifier, to distinguish watches from timed calls.
   static constexpr Id kWatchBit = Id{1} << 63;
 
   Poller();
@@ -24,21 +24,21 @@ class Poller {
   Poller& operator=(const Poller&) = delete;
 
   Id Watch(int descriptor, std::function<void()> callback);
-  /// An identifier that has ended changes nothing.
+  /// Ignores a watch that has ended.
   void Forget(Id id);
   void Clear() { watches_.clear(); }
-  /// What a sleep looks at: the descriptor that `Wake` makes readable, then the watched ones.
+  /// The descriptor that `Wake` makes readable, then the watched ones.
   std::vector<int> Descriptors() const;
 
-  /// Ends a sleep, the present or the next one. May be called from a signal handler or another thread.
+  /// Ends the current or the next sleep. May be called from a signal handler or another thread.
   void Wake() noexcept;
-  /// Whether `Wake` has been called since the last time this was asked.
+  /// Whether `Wake` was called since the last call of this function.
   bool TakeWake();
-  /// After a sleep elsewhere: the wake-up has done its work and must not end the next sleep too.
+  /// After a sleep in a dispatcher: the wake-up must not end the next sleep too.
   void EmptyWakeDescriptor() noexcept;
 
-  /// Sleeps at most that long and calls back for what can be read. Returns whether it called anybody; a
-  /// signal ends the sleep early. `HostError` 57 when the system refuses to wait.
+  /// Sleeps at most that long and calls back for readable descriptors. Returns whether there were any; a
+  /// signal ends the sleep early. `HostError` 57 if the system call fails.
   bool Poll(std::chrono::nanoseconds longest);
 
  private:
@@ -55,7 +55,7 @@ class Poller {
   std::atomic<bool> woken_{false};
   Id nextId_ = 1;
   std::vector<Watched> watches_;
-  // Filled by the latest poll; a poll nested in a callback makes it worthless for the outer one.
+  // The results of the latest poll; invalid for the outer poll after a nested one.
   std::vector<pollfd> polled_;
   std::vector<Id> polledIds_;
   std::uint64_t polls_ = 0;

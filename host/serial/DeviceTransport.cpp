@@ -26,7 +26,7 @@ void DeviceTransport::Write(std::string_view bytes) {
   const std::string path = device_.Path();
   Fail();
   throw orvik::HostError(orvik::HostError::kDeviceError, "OrvikComm.Port",
-                         Tr("serial device %%1 is closed or was unplugged; check the cable", {path}));
+                         Tr("serial device %%1 is closed or unplugged; check the cable", {path}));
 }
 
 void DeviceTransport::Close() {
@@ -38,7 +38,7 @@ void DeviceTransport::Close() {
 void DeviceTransport::ReadArrived() {
   const std::weak_ptr<int> alive = alive_;
   std::array<char, 4096> buffer{};
-  // As often as the device had bytes at once; the rest is read when messages are processed next.
+  // Bounded, so that a device that never stops sending cannot block the event loop.
   for (int turn = 0; turn < 16; ++turn) {
     std::size_t count = 0;
     const auto outcome = device_.Read(buffer.data(), buffer.size(), count);

@@ -9,7 +9,7 @@
 
 namespace bench {
 
-/// A serial device, read while messages are processed. A device that hangs up or fails reads as closed.
+/// A serial device, read while messages are processed. After a hang-up or a failure it is closed.
 class DeviceTransport final : public ITransport {
  public:
   /// Opens the device; `HostError` as `SerialDevice`.
@@ -31,7 +31,7 @@ class DeviceTransport final : public ITransport {
   ILoop::Id watch_ = 0;
   Receiver receiver_;
   std::function<void()> failureListener_;
-  /// Expired once this object is gone: a receiver may release it.
+  /// Expires with this object: a receiver may release it.
   std::shared_ptr<int> alive_ = std::make_shared<int>();
 };
 

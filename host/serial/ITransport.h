@@ -5,7 +5,7 @@
 
 namespace bench {
 
-/// A way for bytes to the instrument and back. User-interface thread only.
+/// Carries bytes to the instrument and back. User-interface thread only.
 class ITransport {
  public:
   using Receiver = std::function<void(std::string_view bytes)>;
@@ -15,13 +15,13 @@ class ITransport {
   ITransport& operator=(const ITransport&) = delete;
   virtual ~ITransport() = default;
 
-  /// Who is given the bytes that come in, while messages are processed.
+  /// Sets the function that is called with received bytes, while messages are processed.
   virtual void SetReceiver(Receiver receiver) = 0;
-  /// Who is told, once, that the line has failed or has been hung up (not of `Close`).
+  /// Sets the function that is called once when the line fails or hangs up (not for `Close`).
   virtual void SetFailureListener(std::function<void()> listener) = 0;
-  /// Sends all the bytes. `HostError` 57 when the line is closed or fails; it reads as closed then.
+  /// Sends all the bytes. `HostError` 57 if the line is closed or fails; a failure closes it.
   virtual void Write(std::string_view bytes) = 0;
-  /// False after `Close`, and once the line has failed.
+  /// False after `Close` or a failure.
   virtual bool IsOpen() const = 0;
   /// Closing twice is allowed.
   virtual void Close() = 0;

@@ -24,7 +24,7 @@ std::optional<std::string> Latin1FromUtf8(std::string_view text) {
       bytes.push_back(text[i]);
       continue;
     }
-    // U+0080 to U+00FF alone fit: two bytes, the first of them 0xC2 or 0xC3.
+    // Only U+0080 to U+00FF fit: two bytes, the first of them 0xC2 or 0xC3.
     if ((lead != 0xC2 && lead != 0xC3) || i + 1 == text.size()) return std::nullopt;
     const auto trail = static_cast<unsigned char>(text[++i]);
     if ((trail & 0xC0) != 0x80) return std::nullopt;

@@ -25,35 +25,11 @@ constexpr std::array<Rate, 24> kRates{
      {57600, B57600},     {115200, B115200},   {230400, B230400},   {460800, B460800},  {921600, B921600},
      {1000000, B1000000}, {2000000, B2000000}, {3000000, B3000000}, {4000000, B4000000}}};
 
-tcflag_t DataBitsFlag(int dataBits) {
-  switch (dataBits) {
-    case 5:
-      return CS5;
-    case 6:
-      return CS6;
-    case 7:
-      return CS7;
-    default:
-      return CS8;
-  }
-}
+constexpr tcflag_t kDataBits[] = {CS5, CS6, CS7, CS8};
+constexpr std::size_t kFewestDataBits = 5;
 
-tcflag_t ParityFlags(Parity parity) {
-  switch (parity) {
-    case Parity::kEven:
-      return PARENB;
-    case Parity::kOdd:
-      return PARENB | PARODD;
-    case Parity::kMark:
-      return PARENB | PARODD | CMSPAR;
-    case Parity::kSpace:
-      return PARENB | CMSPAR;
-    case Parity::kNone:
-      break;
-  }
-  return 0;
-}
-
+// In the order of `Parity`.
+constexpr tcflag_t kParities[] = {0, PARENB, PARENB | PARODD, PARENB | PARODD | CMSPAR, PARENB | CMSPAR};
 constexpr tcflag_t kParityFlags = PARENB | PARODD | CMSPAR;
 
 }  // namespace
@@ -61,33 +37,35 @@ constexpr tcflag_t kParityFlags = PARENB | PARODD | CMSPAR;
 std::string SetLineMode(int descriptor, const LineSettings& settings, bool pseudo) {
   const auto rate = std::find_if(kRates.begin(), kRates.end(),
                                  [&](const Rate& known) { return known.bitsPerSecond == settings.rate; });
-  if (rate == kRates.end()) return Tr("does not know the rate %%1", {std::to_string(settings.rate)});
-  // The hardware gives five data bits one and a half stop bits, and the others two.
+  if (rate == kRates.end()) return Tr("the rate %%1 is not supported", {std::to_string(settings.rate)});
+  // The hardware sends 1.5 stop bits after five data bits, and 2 after more.
   if ((settings.stopBits == StopBits::kOneAndAHalf) != (settings.dataBits == 5) &&
       settings.stopBits != StopBits::kOne)
-    return Tr("1.5 stop bits go with 5 data bits, and 2 stop bits with more");
+    return Tr("1.5 stop bits need 5 data bits, and 2 stop bits need more");
 
   termios mode{};
-  if (tcgetattr(descriptor, &mode) != 0) return Tr("does not tell its settings: %%1", {SystemError(errno)});
+  if (tcgetattr(descriptor, &mode) != 0) return Tr("line settings cannot be read: %%1", {SystemError(errno)});
   cfmakeraw(&mode);
   mode.c_iflag &= ~static_cast<tcflag_t>(IXON | IXOFF | IXANY | IGNPAR | PARMRK | IGNBRK | BRKINT);
   if (settings.parity != Parity::kNone) mode.c_iflag |= INPCK;
   mode.c_cflag &= ~(kParityFlags | CSIZE | CSTOPB | CRTSCTS);
-  mode.c_cflag |= CLOCAL | CREAD | DataBitsFlag(settings.dataBits) | ParityFlags(settings.parity);
+  mode.c_cflag |= CLOCAL | CREAD | kDataBits[static_cast<std::size_t>(settings.dataBits) - kFewestDataBits] |
+                  kParities[static_cast<std::size_t>(settings.parity)];
   if (settings.stopBits != StopBits::kOne) mode.c_cflag |= CSTOPB;
   mode.c_cc[VMIN] = 1;
   mode.c_cc[VTIME] = 0;
   cfsetispeed(&mode, rate->code);
   cfsetospeed(&mode, rate->code);
 
-  // A pseudo-terminal answers EINVAL when the parity bit, which it drops, was the only thing to change.
+  // A pseudo-terminal drops the parity bit and fails with EINVAL if that was the only change.
   if (tcsetattr(descriptor, TCSANOW, &mode) != 0 && !(pseudo && errno == EINVAL))
-    return Tr("does not take the settings: %%1", {SystemError(errno)});
+    return Tr("line settings cannot be set: %%1", {SystemError(errno)});
   termios taken{};
-  if (tcgetattr(descriptor, &taken) != 0) return Tr("does not tell its settings: %%1", {SystemError(errno)});
+  if (tcgetattr(descriptor, &taken) != 0)
+    return Tr("line settings cannot be read: %%1", {SystemError(errno)});
   const tcflag_t counted = CSIZE | CSTOPB | (pseudo ? 0 : kParityFlags);
   if ((taken.c_cflag & counted) != (mode.c_cflag & counted) || cfgetospeed(&taken) != rate->code)
-    return Tr("does not take the rate, parity, data bits and stop bits asked for");
+    return Tr("the device does not support this rate, parity, data bits and stop bits");
   return {};
 }
 

@@ -6,11 +6,11 @@
 
 namespace bench {
 
-/// Puts a terminal into raw mode with these settings, without flow control. A byte with a wrong parity bit
-/// comes in as 0x00, so that its line is recognised as bad.
+/// Puts a terminal into raw mode with these settings, without flow control. A byte with a parity error is
+/// received as 0x00, which makes its line invalid.
 ///
-/// @param pseudo a pseudo-terminal: it drops the parity bit and may report that as an error
-/// @return empty, or why the terminal does not take the settings
+/// @param pseudo `descriptor` is a pseudo-terminal, which drops the parity bit and may report an error
+/// @return empty, or why the settings cannot be used
 std::string SetLineMode(int descriptor, const LineSettings& settings, bool pseudo);
 
 }  // namespace bench

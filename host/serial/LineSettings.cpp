@@ -37,26 +37,28 @@ int ReadRate(const std::string& field, const std::string& settings) {
   return rate;
 }
 
-Parity ReadParity(const std::string& field, const std::string& settings) {
-  if (field == "N" || field == "n") return Parity::kNone;
-  if (field == "E" || field == "e") return Parity::kEven;
-  if (field == "O" || field == "o") return Parity::kOdd;
-  if (field == "M" || field == "m") return Parity::kMark;
-  if (field == "S" || field == "s") return Parity::kSpace;
-  Refuse(settings, Tr("the parity \"%%1\" is not one of N, E, O, M and S", {field}));
-}
+template <class Value>
+struct Choice {
+  const char* text;
+  Value value;
+};
 
-int ReadDataBits(const std::string& field, const std::string& settings) {
-  if (field.size() != 1 || field[0] < '5' || field[0] > '8')
-    Refuse(settings, Tr("the data bits \"%%1\" are not one of 5, 6, 7 and 8", {field}));
-  return field[0] - '0';
-}
+constexpr Choice<Parity> kParityChoices[] = {
+    {"N", Parity::kNone},  {"n", Parity::kNone}, {"E", Parity::kEven}, {"e", Parity::kEven},
+    {"O", Parity::kOdd},   {"o", Parity::kOdd},  {"M", Parity::kMark}, {"m", Parity::kMark},
+    {"S", Parity::kSpace}, {"s", Parity::kSpace}};
+constexpr Choice<int> kDataBitsChoices[] = {{"5", 5}, {"6", 6}, {"7", 7}, {"8", 8}};
+constexpr Choice<StopBits> kStopBitsChoices[] = {
+    {"1", StopBits::kOne}, {"1.5", StopBits::kOneAndAHalf}, {"2", StopBits::kTwo}};
 
-StopBits ReadStopBits(const std::string& field, const std::string& settings) {
-  if (field == "1") return StopBits::kOne;
-  if (field == "1.5") return StopBits::kOneAndAHalf;
-  if (field == "2") return StopBits::kTwo;
-  Refuse(settings, Tr("the stop bits \"%%1\" are not one of 1, 1.5 and 2", {field}));
+/// The value chosen by `field`; `HostError` with the settings and the reason if there is no such choice.
+template <class Value, std::size_t kCount>
+Value ReadChoice(const Choice<Value> (&choices)[kCount], const std::string& field,
+                 const std::string& settings, std::string_view reason) {
+  for (const auto& choice : choices) {
+    if (field == choice.text) return choice.value;
+  }
+  Refuse(settings, Tr(reason, {field}));
 }
 
 }  // namespace
@@ -65,8 +67,13 @@ LineSettings ParseLineSettings(const std::string& text) {
   const auto fields = SplitAtCommas(text);
   if (fields.size() != 4)
     Refuse(text, Tr("four fields are needed, such as \"9600,O,8,1\" (rate, parity, data bits, stop bits)"));
-  return {ReadRate(fields[0], text), ReadParity(fields[1], text), ReadDataBits(fields[2], text),
-          ReadStopBits(fields[3], text)};
+  return {ReadRate(fields[0], text),
+          ReadChoice(kParityChoices, fields[1], text,
+                     Marked("the parity \"%%1\" is not one of N, E, O, M and S")),
+          ReadChoice(kDataBitsChoices, fields[2], text,
+                     Marked("the data bits \"%%1\" are not one of 5, 6, 7 and 8")),
+          ReadChoice(kStopBitsChoices, fields[3], text,
+                     Marked("the stop bits \"%%1\" are not one of 1, 1.5 and 2"))};
 }
 
 }  // namespace bench

@@ -7,7 +7,7 @@ namespace bench {
 enum class Parity { kNone, kEven, kOdd, kMark, kSpace };
 enum class StopBits { kOne, kOneAndAHalf, kTwo };
 
-/// How a serial line carries its bits.
+/// The format of a serial line.
 struct LineSettings {
   int rate = 9600;  ///< bits a second
   Parity parity = Parity::kNone;
@@ -17,7 +17,7 @@ struct LineSettings {
 };
 
 /// Reads settings such as "9600,O,8,1": rate, parity (N none, E even, O odd, M mark, S space; either case),
-/// data bits (5 to 8), stop bits (1, 1.5 or 2). `HostError` 5 naming the field that is wrong.
+/// data bits (5 to 8), stop bits (1, 1.5 or 2). `HostError` 5 names the invalid field.
 LineSettings ParseLineSettings(const std::string& text);
 
 }  // namespace bench

@@ -51,7 +51,7 @@ bool MemoryTransport::IsOpen() const { return line_ && line_->near_ == this; }
 
 void MemoryTransport::Close() {
   const auto line = std::exchange(line_, nullptr);
-  if (!line || line->near_ != this) return;  // after a failure the line may have another near end
+  if (!line || line->near_ != this) return;  // after a failure another near end may be open
   line->near_ = nullptr;
   line->receiver_ = nullptr;
   line->failureListener_ = nullptr;

@@ -10,16 +10,16 @@ namespace bench {
 
 class MemoryTransport;
 
-/// The far end of a line inside the process: hears what the near end sends, and answers.
+/// The far end of a line inside the process: receives what the near end sends, and replies.
 class MemoryLine {
  public:
   /// Bytes that the near end has sent.
   orvik::platform::Event<std::string_view>& Sent() { return sent_; }
   /// Whether a near end is open.
   bool Connected() const { return near_ != nullptr; }
-  /// Gives bytes to the near end; they are lost when none is open.
+  /// Sends bytes to the near end; they are lost if none is open.
   void Deliver(std::string_view bytes);
-  /// Pulls the cable: the near end fails. A later one can be opened again.
+  /// Unplugs the cable: the near end fails. Another one can be opened later.
   void Unplug();
 
  private:
@@ -34,7 +34,7 @@ class MemoryLine {
 /// The near end of such a line.
 class MemoryTransport final : public ITransport {
  public:
-  /// `HostError` 57 when the line has a near end already.
+  /// `HostError` 57 if the line already has a near end.
   explicit MemoryTransport(std::shared_ptr<MemoryLine> line);
   ~MemoryTransport() override;
 

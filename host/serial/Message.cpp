@@ -24,7 +24,7 @@ std::string Bytes(const std::string& mnemonic, const std::string& text) {
   for (const char c : *bytes) {
     const auto byte = static_cast<unsigned char>(c);
     if (byte < 0x20 || byte == 0x7F)
-      RefuseText(mnemonic, Tr("\"%%1\" holds a control character", {VisibleLatin1(*bytes)}));
+      RefuseText(mnemonic, Tr("\"%%1\" has a control character", {VisibleLatin1(*bytes)}));
   }
   return *std::move(bytes);
 }
@@ -43,8 +43,8 @@ void AppendField(std::string& line, const std::string& field) {
   line.push_back('"');
 }
 
-/// Reads the field that starts at `at` and moves `at` to the comma after it or to the end; none when its
-/// quotation marks do not match.
+/// Reads the field at `at` and moves `at` to the comma after it or to the end; empty if its quotation marks
+/// do not match.
 std::optional<std::string> ReadField(std::string_view line, std::size_t& at) {
   std::string field;
   if (at == line.size() || line[at] != '"') {
@@ -80,12 +80,12 @@ orvik::Variant Message::IMessage_Parameter(std::int32_t lIndex) const {
 
 std::shared_ptr<Message> ComposeMessage(const std::string& mnemonic, std::vector<std::string> parameters) {
   if (mnemonic.empty() || mnemonic.find_first_of(",\"") != std::string::npos)
-    RefuseText(mnemonic, Tr("a mnemonic has at least one letter, no comma and no quotation mark"));
+    RefuseText(mnemonic, Tr("a mnemonic needs at least one letter, no comma and no quotation mark"));
   std::string line = Bytes(mnemonic, mnemonic);
   for (const auto& parameter : parameters) AppendField(line, Bytes(mnemonic, parameter));
   if (line.size() > LineReader::kMaxLine)
     RefuseText(mnemonic,
-               Tr("with its parameters it has more than %%1 bytes", {std::to_string(LineReader::kMaxLine)}));
+               Tr("it is longer than %%1 bytes with its parameters", {std::to_string(LineReader::kMaxLine)}));
   return std::make_shared<Message>(mnemonic, std::move(parameters), std::move(line));
 }
 

@@ -10,10 +10,10 @@
 
 namespace bench {
 
-/// One message of the wire: a mnemonic and its parameters, as UTF-8 text.
+/// One message on the wire: a mnemonic and its parameters, as UTF-8 text.
 class Message final : public orvik::IMessage {
  public:
-  /// @param line the message as bytes of the wire, without its end
+  /// @param line the message as bytes on the wire, without its end
   Message(std::string mnemonic, std::vector<std::string> parameters, std::string line)
       : mnemonic_(std::move(mnemonic)), parameters_(std::move(parameters)), line_(std::move(line)) {}
 
@@ -33,12 +33,12 @@ class Message final : public orvik::IMessage {
   const std::string line_;
 };
 
-/// A message that can be sent. A parameter that holds a comma or a quotation mark goes out in quotation marks
-/// with inner ones doubled. `HostError` 5 for a control character, a letter outside ISO 8859-1, a mnemonic
-/// that is empty or holds a comma or a quotation mark, and a line that gets too long.
+/// A message to send. A parameter with a comma or a quotation mark is sent in quotation marks, with inner
+/// ones doubled. `HostError` 5 for a control character, a letter outside ISO 8859-1, a mnemonic that is empty
+/// or has a comma or a quotation mark, and a line that is too long.
 std::shared_ptr<Message> ComposeMessage(const std::string& mnemonic, std::vector<std::string> parameters);
 
-/// Takes a line apart; empty when its quotation marks do not match.
+/// Parses a line; empty if its quotation marks do not match.
 std::shared_ptr<Message> ParseMessage(std::string_view line);
 
 }  // namespace bench

@@ -2,18 +2,17 @@
 
 namespace bench {
 
-/// How often a queue that does not empty is looked at; with a millisecond between looks that is a tenth of a
-/// second, in which a line of 9,600 baud sends a hundred bytes.
-inline constexpr int kLooksAtQueue = 100;
+/// How many pauses of a millisecond to wait. At 9,600 baud that is enough for about a hundred bytes.
+inline constexpr int kMaxPauses = 100;
 
 /// Waits until an output queue is empty.
-/// @param unsent gives the bytes that are still in it
+/// @param unsent returns the number of bytes in the queue
 /// @param pause waits for a millisecond
-/// @return false when it still is not after `kLooksAtQueue` pauses
+/// @return false if bytes are left after `kMaxPauses` pauses
 template <class Unsent, class Pause>
 bool AwaitEmptyQueue(Unsent unsent, Pause pause) {
-  for (int looks = 0; unsent() > 0; ++looks) {
-    if (looks == kLooksAtQueue) return false;
+  for (int pauses = 0; unsent() > 0; ++pauses) {
+    if (pauses == kMaxPauses) return false;
     pause();
   }
   return true;

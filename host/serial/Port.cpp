@@ -19,7 +19,7 @@ std::shared_ptr<Port> Port::Create(std::unique_ptr<ITransport> transport, std::s
   const std::weak_ptr<Port> weak = port;
   port->transport_->SetReceiver([weak](std::string_view bytes) {
     if (const auto self = weak.lock())
-      self->reader_.Feed(bytes, [&](std::string_view line, bool good) { self->TakeLine(line, good); });
+      self->reader_.Feed(bytes, [&](std::string_view line, bool valid) { self->OnLine(line, valid); });
   });
   port->transport_->SetFailureListener([weak] {
     if (const auto self = weak.lock()) self->Record(WireRecord::Kind::kFailed, "the line has failed");
@@ -39,7 +39,7 @@ std::shared_ptr<orvik::IMessage> Port::IPort_CreateMessage(const std::string& sM
   const auto* parameters = std::get_if<std::vector<std::string>>(&vParameters);
   if (!parameters)
     throw HostError(HostError::kTypeMismatch, "OrvikComm.Port",
-                    Tr("the parameters of command \"%%1\" are no list of strings", {sMnemonic}));
+                    Tr("the parameters of command \"%%1\" are not a list of strings", {sMnemonic}));
   return ComposeMessage(sMnemonic, *parameters);
 }
 
@@ -48,7 +48,7 @@ void Port::IPort_Send(std::shared_ptr<orvik::IMessage> Message) {
   const auto message = orvik::As<bench::Message>(Message);
   if (!message)
     throw HostError(HostError::kInvalidArgument, "OrvikComm.Port",
-                    Tr("the message was not made by this port"));
+                    Tr("the message was not created by this port"));
   if (!transport_->IsOpen())
     throw HostError(HostError::kDeviceError, "OrvikComm.Port",
                     Tr("command \"%%1\" cannot be sent: the port is closed", {message->MnemonicText()}));
@@ -75,11 +75,11 @@ void Port::IPort_Close() {
   Record(WireRecord::Kind::kClosed, "closed");
 }
 
-void Port::TakeLine(std::string_view line, bool good) {
+void Port::OnLine(std::string_view line, bool valid) {
   if (closed_) return;
-  auto message = good && received_.size() < kMaxWaiting ? ParseMessage(line) : nullptr;
+  auto message = valid && received_.size() < kMaxWaiting ? ParseMessage(line) : nullptr;
   if (!message) {
-    ++dropped_;
+    ++discarded_;
     Record(WireRecord::Kind::kDropped, line);
     return;
   }

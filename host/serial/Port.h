@@ -18,16 +18,16 @@ class Message;
 /// An open serial port: messages out, messages in, in order.
 class Port final : public orvik::IPort {
  public:
-  /// Received messages wait up to this number; later ones are dropped like bad lines.
+  /// At most this many received messages wait; later ones are discarded like invalid lines.
   static constexpr std::size_t kMaxWaiting = 1000;
 
-  /// @param name device and settings, for the record of the wire
+  /// @param name device and settings, for the wire log
   static std::shared_ptr<Port> Create(std::unique_ptr<ITransport> transport, std::shared_ptr<ILoop> loop,
                                       std::shared_ptr<Wire> wire, const std::string& name);
   ~Port() override;
 
-  /// Lines dropped so far, since they were too long, held a control byte or were no message.
-  std::uint64_t LinesDropped() const { return dropped_; }
+  /// Lines discarded so far: too long, with a control byte, or not a message.
+  std::uint64_t LinesDropped() const { return discarded_; }
 
  private:
   Port(std::unique_ptr<ITransport> transport, std::shared_ptr<ILoop> loop, std::shared_ptr<Wire> wire);
@@ -40,7 +40,7 @@ class Port final : public orvik::IPort {
   std::shared_ptr<orvik::IMessage> IPort_TakeMessage() override;
   void IPort_Close() override;
 
-  void TakeLine(std::string_view line, bool good);
+  void OnLine(std::string_view line, bool valid);
   void Record(WireRecord::Kind kind, std::string_view text, const Message* message = nullptr,
               bool replyWaiting = false) const;
 
@@ -49,7 +49,7 @@ class Port final : public orvik::IPort {
   const std::shared_ptr<Wire> wire_;
   LineReader reader_;
   std::deque<std::shared_ptr<Message>> received_;
-  std::uint64_t dropped_ = 0;
+  std::uint64_t discarded_ = 0;
   bool closed_ = false;
 };
 

@@ -13,29 +13,29 @@
 
 namespace bench {
 
-/// Knows which port, and behind it which serial device, belongs to which instrument.
+/// Assigns ports, each with a serial device, to instruments.
 class PortManager final : public orvik::IPortManager {
  public:
-  /// Opens a way to the device; `HostError` with the reason when that fails.
+  /// Opens the device; `HostError` with the reason if that fails.
   using Opener =
       std::function<std::unique_ptr<ITransport>(const std::string& device, const LineSettings& settings)>;
 
   PortManager(std::shared_ptr<ILoop> loop, Opener opener);
 
-  /// Gives an instrument the device; ports are numbered from 1 in the order of their first assignment.
+  /// Assigns the device to an instrument; ports are numbered from 1 in the order of their first assignment.
   void Assign(const std::string& instrument, const std::string& device);
-  /// Takes the instrument's device away.
+  /// Removes the instrument's device.
   void Unassign(const std::string& instrument);
 
-  /// What happens on the wire of all ports.
+  /// Reports what happens on the wire of all ports.
   const std::shared_ptr<Wire>& TheWire() const { return wire_; }
-  /// Why the last opening failed; empty after a good one. Callers of the interface may ignore the error.
+  /// Why the last opening failed; empty after a success. Callers of the interface may ignore the error.
   const std::string& LastError() const { return lastError_; }
 
  private:
   struct Assignment {
     std::string instrument;
-    std::string device;  ///< empty when it was taken away
+    std::string device;  ///< empty after `Unassign`
   };
 
   std::int32_t IPortManager_FindPort(const std::string& sDevice) const override;
@@ -46,7 +46,7 @@ class PortManager final : public orvik::IPortManager {
   const std::shared_ptr<ILoop> loop_;
   const Opener opener_;
   const std::shared_ptr<Wire> wire_ = std::make_shared<Wire>();
-  std::vector<Assignment> ports_;  ///< the port's number is its place, from 1
+  std::vector<Assignment> ports_;  ///< by port number, from 1
   std::string lastError_;
 };
 

@@ -24,7 +24,7 @@ namespace {
 constexpr char kSerialSource[] = "OrvikComm.PortManager";
 constexpr int kWriteTimeoutMs = 500;
 
-/// `number` 75: this is no serial device; 57: it is one, and cannot be had now.
+/// `number` 75: not a serial device; 57: a serial device that cannot be used now.
 [[noreturn]] void Fail(std::int32_t number, const std::string& path, const std::string& reason) {
   throw orvik::HostError(number, kSerialSource, Tr("serial device %%1: %%2", {path, reason}));
 }
@@ -36,15 +36,14 @@ constexpr int kWriteTimeoutMs = 500;
     case ENXIO:
     case ENODEV:
       Fail(orvik::HostError::kPathError, path,
-           Tr("does not exist; connect the tester's cable and give the name of its device, such as "
-              "/dev/ttyUSB0"));
+           Tr("does not exist; connect the tester and name its device, such as /dev/ttyUSB0"));
     case EISDIR:
       Fail(orvik::HostError::kPathError, path, Tr("is a folder, not a serial device"));
     case EACCES:
     case EPERM:
       Fail(orvik::HostError::kDeviceError, path,
-           Tr("no permission to use it; add your account to the device's group (often \"dialout\") and log "
-              "in anew"));
+           Tr("permission denied; add your account to the device's group (often \"dialout\") and log in "
+              "again"));
     case EBUSY:
       throw BusyError(orvik::HostError::kDeviceError, kSerialSource,
                       Tr("serial device %%1: %%2",
@@ -54,8 +53,7 @@ constexpr int kWriteTimeoutMs = 500;
   }
 }
 
-/// Whether the descriptor is the far end of a pair of pseudo-terminals.
-bool IsFarEndOfPair(int descriptor) {
+bool IsPseudoTerminalAt(int descriptor) {
   constexpr unsigned kFirstMajor = 136;
   constexpr unsigned kLastMajor = 143;
   struct stat status {};
@@ -69,16 +67,15 @@ SerialDevice::SerialDevice(std::string path, const LineSettings& settings) : pat
   UniqueFd opened(open(path_.c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC));
   if (!opened) FailToOpen(path_, errno);
   if (!isatty(opened.Get()))
-    Fail(orvik::HostError::kPathError, path_,
-         Tr("is no serial device; give the name of one, such as /dev/ttyUSB0"));
+    Fail(orvik::HostError::kPathError, path_, Tr("is not a serial device; name one, such as /dev/ttyUSB0"));
   if (flock(opened.Get(), LOCK_EX | LOCK_NB) != 0) {
     if (errno == EWOULDBLOCK) FailToOpen(path_, EBUSY);
     Fail(orvik::HostError::kDeviceError, path_, Tr("cannot be locked: %%1", {SystemError(errno)}));
   }
-  pseudo_ = IsFarEndOfPair(opened.Get());
+  pseudo_ = IsPseudoTerminalAt(opened.Get());
   const auto reason = SetLineMode(opened.Get(), settings, pseudo_);
   if (!reason.empty()) Fail(orvik::HostError::kDeviceError, path_, reason);
-  // A pseudo-terminal would stay exclusive after a killed program, since its other holder keeps it open.
+  // Not for a pseudo-terminal: its other holder keeps it open and exclusive after this program was killed.
   exclusive_ = !pseudo_ && ioctl(opened.Get(), TIOCEXCL) == 0;
   tcflush(opened.Get(), TCIOFLUSH);
   descriptor_ = std::move(opened);
@@ -93,15 +90,15 @@ bool SerialDevice::Write(std::string_view bytes) {
     }
     if (count < 0 && errno == EINTR) continue;
     if (count < 0 && errno != EAGAIN) return false;
-    pollfd room{descriptor_.Get(), POLLOUT, 0};
-    if (poll(&room, 1, kWriteTimeoutMs) <= 0 || (room.revents & POLLOUT) == 0) return false;
+    pollfd writable{descriptor_.Get(), POLLOUT, 0};
+    if (poll(&writable, 1, kWriteTimeoutMs) <= 0 || (writable.revents & POLLOUT) == 0) return false;
   }
   return true;
 }
 
-SerialDevice::ReadOutcome SerialDevice::Read(char* buffer, std::size_t room, std::size_t& count) {
+SerialDevice::ReadOutcome SerialDevice::Read(char* buffer, std::size_t capacity, std::size_t& count) {
   while (true) {
-    const ssize_t got = read(descriptor_.Get(), buffer, room);
+    const ssize_t got = read(descriptor_.Get(), buffer, capacity);
     count = got > 0 ? static_cast<std::size_t>(got) : 0;
     if (got > 0) return ReadOutcome::kBytes;
     if (got < 0 && errno == EINTR) continue;
@@ -117,7 +114,7 @@ void SerialDevice::Close() {
     int bytes = 0;
     return ioctl(descriptor, TIOCOUTQ, &bytes) == 0 ? bytes : 0;
   };
-  // Closing would wait without end for bytes that a stuck line does not take.
+  // Closing would wait forever for bytes that a blocked line does not send.
   if (!AwaitEmptyQueue(unsent, [] { poll(nullptr, 0, 1); })) tcflush(descriptor, TCOFLUSH);
   if (exclusive_) ioctl(descriptor_.Get(), TIOCNXCL);
   descriptor_.Reset();

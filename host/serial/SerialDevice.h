@@ -11,11 +11,11 @@ namespace bench {
 /// A serial device that is open for this program alone, in raw mode. Its descriptor does not block.
 class SerialDevice {
  public:
-  /// Opens the device and throws away what had come in before. `HostError` naming the device and what to do:
-  /// 75 when it does not exist or is no serial device, 57 when it may not be used, does not take the
+  /// Opens the device and discards what it has received before. `HostError` names the device and what to do:
+  /// 75 if it does not exist or is not a serial device, 57 if it may not be used, does not support the
   /// settings, or, as `BusyError`, is held by another program.
   ///
-  /// A pseudo-terminal has no parity: that it drops the parity bit is no failure.
+  /// A pseudo-terminal may drop the parity bit.
   SerialDevice(std::string path, const LineSettings& settings);
   SerialDevice(const SerialDevice&) = delete;
   SerialDevice& operator=(const SerialDevice&) = delete;
@@ -24,17 +24,17 @@ class SerialDevice {
   int Descriptor() const { return descriptor_.Get(); }
   bool IsOpen() const { return static_cast<bool>(descriptor_); }
   const std::string& Path() const { return path_; }
-  /// Whether there is a program at the other end instead of a cable.
+  /// Whether a program is at the other end instead of a cable.
   bool IsPseudoTerminal() const { return pseudo_; }
 
-  /// Sends all the bytes; false when the device has failed or takes nothing for half a second.
+  /// Sends all the bytes; false if the device fails or accepts nothing for half a second.
   bool Write(std::string_view bytes);
 
   enum class ReadOutcome { kBytes, kNothing, kFailed };
-  /// Reads what has come in, at most `room` bytes of it; `count` tells how many. A hang-up is a failure.
-  ReadOutcome Read(char* buffer, std::size_t room, std::size_t& count);
+  /// Reads at most `capacity` received bytes; `count` returns how many. A hang-up is a failure.
+  ReadOutcome Read(char* buffer, std::size_t capacity, std::size_t& count);
 
-  /// Gives what was written a tenth of a second to go out, and discards the rest.
+  /// Waits up to 100 ms until all written bytes are sent, and discards the rest.
   void Close();
 
  private:

@@ -24,7 +24,7 @@ class UniqueFd {
   int Get() const { return descriptor_; }
   explicit operator bool() const { return descriptor_ >= 0; }
 
-  /// Closes it now.
+  /// Closes the descriptor now.
   void Reset() {
     if (descriptor_ >= 0) ::close(std::exchange(descriptor_, -1));
   }

@@ -12,10 +12,10 @@ class Message;
 /// Something that happened on the wire.
 struct WireRecord {
   enum class Kind {
-    kOpened,    ///< a port was opened; `text` tells the device and settings
-    kSent,      ///< a command went out
-    kReceived,  ///< a whole message came in
-    kDropped,   ///< a line came in that is no message, and was dropped whole
+    kOpened,    ///< a port was opened; `text` has the device and settings
+    kSent,      ///< a command was sent
+    kReceived,  ///< a message was received
+    kDropped,   ///< an invalid line was received and discarded
     kFailed,    ///< the line was unplugged or failed
     kClosed     ///< the port was closed
   };
@@ -26,11 +26,11 @@ struct WireRecord {
   std::string_view text;
   /// The command or reply; null for the other kinds.
   const Message* message = nullptr;
-  /// `kSent`: a reply, or the beginning of one, was already there when the command went out.
+  /// `kSent`: a reply, or the beginning of one, had been received before the command was sent.
   bool replyWaiting = false;
 };
 
-/// Where ports tell what happens on the wire. Views in a record are valid while the handler runs.
+/// Raised by ports for what happens on the wire. The views in a record are valid during the call only.
 using Wire = orvik::platform::Event<const WireRecord&>;
 
 }  // namespace bench

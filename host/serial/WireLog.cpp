@@ -21,12 +21,12 @@ namespace {
 
 constexpr char kWireLogSource[] = "orvik";
 
-/// How a line begins: a digit for each 9.
-constexpr std::string_view kBeginOfLine = "9999-99-99T99:99:99.999999Z ";
+/// The start of each line; 9 is any digit.
+constexpr std::string_view kLineStart = "9999-99-99T99:99:99.999999Z ";
 
-bool BeginsLine(std::string_view text) {
+bool HasLineStart(std::string_view text) {
   return std::equal(
-      text.begin(), text.end(), kBeginOfLine.begin(), kBeginOfLine.end(),
+      text.begin(), text.end(), kLineStart.begin(), kLineStart.end(),
       [](char c, char expected) { return expected == '9' ? c >= '0' && c <= '9' : c == expected; });
 }
 
@@ -38,23 +38,20 @@ std::string_view DirectionOf(WireRecord::Kind kind) {
       return "recv";
     case WireRecord::Kind::kDropped:
       return "lost";
-    case WireRecord::Kind::kOpened:
-    case WireRecord::Kind::kFailed:
-    case WireRecord::Kind::kClosed:
-      break;
+    default:
+      return "note";
   }
-  return "note";
 }
 
-/// Whether the file has contents that do not begin as a wire log does. Pipes and devices have none.
-bool HoldsAnythingElse(const std::string& path) {
+/// Whether the file has content that is not a wire log. Pipes and devices have none.
+bool HasForeignContent(const std::string& path) {
   const UniqueFd file(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
   struct stat status {};
   if (!file || fstat(file.Get(), &status) != 0 || !S_ISREG(status.st_mode) || status.st_size == 0)
     return false;
-  char begin[kBeginOfLine.size() + 1]{};
-  const ssize_t count = read(file.Get(), begin, kBeginOfLine.size());
-  return !BeginsLine({begin, count > 0 ? static_cast<std::size_t>(count) : 0});
+  char begin[kLineStart.size() + 1]{};
+  const ssize_t count = read(file.Get(), begin, kLineStart.size());
+  return !HasLineStart({begin, count > 0 ? static_cast<std::size_t>(count) : 0});
 }
 
 std::string UtcNow() {
@@ -72,17 +69,16 @@ std::string UtcNow() {
 }  // namespace
 
 WireLog::WireLog(std::string path, std::uint64_t maxBytes) : path_(std::move(path)), maxBytes_(maxBytes) {
-  if (HoldsAnythingElse(path_))
-    throw orvik::HostError(orvik::HostError::kPathError, kWireLogSource,
-                           Tr("wire log %%1: holds something else and was left as it is; name a new file, or "
-                              "an earlier wire log, "
-                              "with --wire-log",
-                              {path_}));
+  if (HasForeignContent(path_))
+    throw orvik::HostError(
+        orvik::HostError::kPathError, kWireLogSource,
+        Tr("wire log %%1: the file has other content and was not changed; name a new file or "
+           "an earlier wire log with --wire-log",
+           {path_}));
   const int error = Open();
   if (error == 0) return;
   const auto text =
-      Tr("wire log %%1: cannot be written: %%2; name a file that you may write to with --wire-log",
-         {path_, failure_});
+      Tr("wire log %%1: cannot be written: %%2; name a writable file with --wire-log", {path_, failure_});
   if (IsErrorOfMachine(error)) throw StorageError(orvik::HostError::kPathError, kWireLogSource, text);
   throw orvik::HostError(orvik::HostError::kPathError, kWireLogSource, text);
 }
@@ -106,7 +102,7 @@ void WireLog::WriteLine(std::string_view direction, std::string_view bytes) {
     if (count < 0 && errno == EINTR) continue;
     if (count < 0) {
       failure_ = SystemError(errno);
-      // A part of a line would be taken for another file's content by the next run.
+      // The next run would take a partial line for other content.
       [[maybe_unused]] const int cut = ftruncate(file_.Get(), static_cast<off_t>(size_));
       file_.Reset();
       return;
@@ -116,9 +112,8 @@ void WireLog::WriteLine(std::string_view direction, std::string_view bytes) {
   size_ += line.size();
 }
 
-/// Opens the file; the system's error, or 0.
 int WireLog::Open() {
-  // Not blocking: the name may be that of a pipe that nobody reads.
+  // Not blocking: the name may be that of a pipe without a reader.
   file_ =
       UniqueFd(open(path_.c_str(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC | O_NONBLOCK | O_NOCTTY, 0644));
   if (!file_) {
@@ -134,8 +129,8 @@ int WireLog::Open() {
 void WireLog::Rotate() {
   file_.Reset();
   const auto older = path_ + ".1";
-  if (HoldsAnythingElse(older)) {
-    failure_ = Tr("%%1 is in its way and is not a wire log", {older});
+  if (HasForeignContent(older)) {
+    failure_ = Tr("%%1 exists and is not a wire log", {older});
     return;
   }
   if (std::rename(path_.c_str(), older.c_str()) != 0) {

@@ -9,30 +9,30 @@
 
 namespace bench {
 
-/// The log of the wire: a file with one line for each thing that happened, "TIME DIRECTION TEXT".
+/// A file with one line for each event on the wire, "TIME DIRECTION TEXT".
 ///
-/// TIME is UTC to the microsecond; DIRECTION is "sent", "recv", "lost" (a dropped line) or "note". Later runs
-/// add to the file. Once it is larger than `maxBytes` it becomes FILE.1, in the place of an older one, and a
-/// new one is begun; a FILE.1 that is not a wire log stays, and the log ends there.
+/// TIME is UTC to the microsecond; DIRECTION is "sent", "recv", "lost" (a discarded line) or "note". Later
+/// runs append. A file that would exceed `maxBytes` replaces FILE.1, and a new one starts; if FILE.1 is not a
+/// wire log, it stays and the log ends.
 class WireLog {
  public:
   static constexpr std::uint64_t kMaxBytes = 4 * 1024 * 1024;
 
-  /// `HostError` 75 naming the file when it cannot be opened for writing, or holds anything else than a wire
-  /// log; it is left as it is then.
+  /// `HostError` 75 names the file if it cannot be opened for writing or has content that is not a wire log.
   explicit WireLog(std::string path, std::uint64_t maxBytes = kMaxBytes);
 
-  /// Writes one record. A log that cannot be written does not disturb the run: `Failure` tells.
+  /// Writes one record. An error does not stop the run; see `Failure`.
   void Write(const WireRecord& record);
-  /// Writes a remark.
+  /// Writes a note.
   void Note(std::string_view text);
 
-  /// Why the log could not be written; empty as long as it could.
+  /// Why the log cannot be written; empty while it can.
   const std::string& Failure() const { return failure_; }
   const std::string& Path() const { return path_; }
 
  private:
   void WriteLine(std::string_view direction, std::string_view bytes);
+  /// Opens the file. Returns 0 or the system's error number.
   int Open();
   void Rotate();
 

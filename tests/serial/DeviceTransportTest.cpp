@@ -150,14 +150,14 @@ TEST_F(DeviceTransportTest, RefusesWhatIsNoSerialDevice) {
   std::filesystem::create_directories(folder);
   const auto file = folder / "file";
   std::ofstream(file) << "text";
-  EXPECT_NE(RefusalOf(file).find("is no serial device"), std::string::npos);
+  EXPECT_NE(RefusalOf(file).find("is not a serial device"), std::string::npos);
   EXPECT_NE(RefusalOf(folder).find("is a folder"), std::string::npos);
   EXPECT_NE(RefusalOf(folder / "absent").find("does not exist"), std::string::npos);
   EXPECT_NE(RefusalOf(file / "below").find("does not exist"), std::string::npos);
-  EXPECT_NE(RefusalOf("/dev/null").find("is no serial device"), std::string::npos);
+  EXPECT_NE(RefusalOf("/dev/null").find("is not a serial device"), std::string::npos);
   const auto pipe = folder / "pipe";
   ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
-  EXPECT_NE(RefusalOf(pipe).find("is no serial device"), std::string::npos);  // and does not hang
+  EXPECT_NE(RefusalOf(pipe).find("is not a serial device"), std::string::npos);  // and does not hang
   std::filesystem::remove_all(folder);
 }
 

@@ -34,7 +34,7 @@ TEST(OutputQueue, IsWaitedForUntilItIsEmpty) {
 TEST(OutputQueue, IsGivenUpWhenTheLineTakesNothing) {
   Queue queue{1};
   EXPECT_FALSE(queue.Await(0));
-  EXPECT_EQ(queue.pauses, kLooksAtQueue);
+  EXPECT_EQ(queue.pauses, kMaxPauses);
 }
 
 }  // namespace

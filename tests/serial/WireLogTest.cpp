@@ -90,7 +90,7 @@ TEST_F(WireLogTest, NeverAddsToAFileThatHoldsAnythingElse) {
       WireLog log(Path());
       ADD_FAILURE() << contents;
     } catch (const orvik::HostError& error) {
-      EXPECT_NE(error.Description().find(Path() + ": holds something else"), std::string::npos);
+      EXPECT_NE(error.Description().find(Path() + ": the file has other content"), std::string::npos);
       EXPECT_NE(error.Description().find("--wire-log"), std::string::npos);
     }
     EXPECT_EQ(Contents(Path()), contents);
@@ -108,7 +108,7 @@ TEST_F(WireLogTest, NeverReplacesAnOlderFileThatIsNotAWireLog) {
   WireLog log(Path(), 100);
   for (int i = 0; i < 10; ++i) log.Note("line");
   EXPECT_EQ(Contents(Path() + ".1"), "mine");
-  EXPECT_NE(log.Failure().find(".1 is in its way"), std::string::npos) << log.Failure();
+  EXPECT_NE(log.Failure().find(".1 exists and is not a wire log"), std::string::npos) << log.Failure();
 }
 
 TEST_F(WireLogTest, AFullDiskDoesNotDisturbTheRun) {

@@ -22,12 +22,10 @@ class Desktop;
 class Form;
 class IScreen;
 
-/// The platform without a screen: windows are state only, and whoever operates them does it through their
-/// operations. On the virtual clock a wait takes no time: the clock jumps to the next timer, call or
-/// deadline.
+/// The platform without a screen: windows are state only and are operated by calls. On the virtual clock a
+/// wait takes no time: the clock jumps to the next timer, call or deadline.
 ///
-/// Errors of the toolkit are `orvik::HostError`. When the application is destroyed its loaded forms are let
-/// go of without being unloaded.
+/// Errors of the toolkit are `orvik::HostError`. The destructor releases loaded forms without unloading them.
 class Application final : public orvik::platform::IApplication, public ILoop {
  public:
   /// @param timeScale the real clock runs that many times faster, which divides all timer intervals and
@@ -35,31 +33,31 @@ class Application final : public orvik::platform::IApplication, public ILoop {
   explicit Application(ClockKind kind, double timeScale = 1.0);
   ~Application() override;
 
-  /// Who creates user controls by class identifier; answers empty for one that is not known.
+  /// Sets the function that creates user controls by class identifier; it returns empty for unknown ones.
   void SetControlFactory(
       std::function<std::shared_ptr<orvik::platform::IUserControl>(const std::string& classIdentifier)>
           factory);
-  /// Raised at every `ProcessMessages` and `WaitMessages`, before it does anything. A wait during which a
-  /// handler operated a window comes back at once.
+  /// Raised at the start of every `ProcessMessages` and `WaitMessages`. If a handler operates a window, the
+  /// wait returns at once.
   orvik::platform::Event<>& Pumped();
-  /// Called when somebody waits on the virtual clock, twice in a row, without deadline and with nothing left
-  /// that could ever happen. Without a handler `std::logic_error` names the open forms.
+  /// Called at the second wait in a row on the virtual clock that could never end: no deadline and nothing
+  /// pending. Without a handler `std::logic_error` names the open forms.
   void SetStallHandler(std::function<void()> handler);
-  /// Ends the present or the next wait at once, then raises `Woken`. The one operation that a signal handler
+  /// Ends the current or the next wait at once, then raises `Woken`. The only operation that a signal handler
   /// or another thread may call.
   void Wake() noexcept;
   orvik::platform::Event<>& Woken();
 
-  /// Shows the windows on a screen from now on; empty: they are state only again. The screen lives until it
-  /// is taken away. How long it may sleep before something falls due: `EventLoop::UntilWork`.
+  /// Shows the windows on a screen; null removes it. The screen must outlive its use here. `UntilWork`
+  /// returns how long it may sleep, as `EventLoop::UntilWork` does.
   void SetScreen(IScreen* screen);
   std::chrono::nanoseconds UntilWork() const;
-  /// The window of that handle, or empty; and those that stand in one, in the order in which they were made.
+  /// The window of that handle, or empty; and the windows inside one, in the order of their creation.
   std::shared_ptr<Control> Window(orvik::platform::WindowHandle handle) const;
   std::vector<std::shared_ptr<Control>> WindowsInside(const Control& parent) const;
   /// The control or form that has the focus, or empty.
   std::shared_ptr<Control> Focused() const;
-  /// Whether the form keeps those that were shown before it from the operator.
+  /// Whether the form blocks those that were shown before it.
   bool IsModal(const Form& form) const;
 
   std::shared_ptr<orvik::platform::IForm> CreateForm(const std::string& name) override;

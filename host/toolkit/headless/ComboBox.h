@@ -8,14 +8,14 @@
 
 namespace bench::headless {
 
-/// A box that is not editable shows entries only: a text that is none of them is not taken.
+/// A box that is not editable ignores a text that is not one of its entries.
 class ComboBox final : public Control, public virtual platform::IComboBox {
  public:
   ComboBox(std::shared_ptr<Desktop> desktop, std::string name);
 
   std::vector<std::string> Items() const override { return items_; }
   void AddItem(const std::string& text) override;
-  /// The selection ends with the entries; a typed text stays.
+  /// Ends the selection; a typed text stays.
   void ClearItems() override;
   int SelectedIndex() const override { return selected_; }
   void SetSelectedIndex(int index) override;

@@ -20,10 +20,10 @@ platform::Twips* Side(platform::Rect& bounds, const std::string& name) {
   return nullptr;
 }
 
-template <class Kind>
-const Kind& Expect(const std::string& name, const Value& value) {
-  const auto* held = std::get_if<Kind>(&value);
-  if (!held) Fail(HostError::kTypeMismatch, "property " + name + " takes a value of another kind");
+template <class Type>
+const Type& Expect(const std::string& name, const Value& value) {
+  const auto* held = std::get_if<Type>(&value);
+  if (!held) Fail(HostError::kTypeMismatch, "property " + name + " needs a value of another type");
   return *held;
 }
 

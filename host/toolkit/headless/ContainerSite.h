@@ -8,7 +8,7 @@
 
 namespace bench::headless {
 
-/// The place of a user control. The site owns it and the panel inside.
+/// Contains a user control. The site owns the control and the panel inside.
 class ContainerSite final : public Control, public virtual platform::IContainerSite {
  public:
   using Control::Control;
@@ -16,15 +16,15 @@ class ContainerSite final : public Control, public virtual platform::IContainerS
   std::shared_ptr<platform::IUserControl> Object() const override { return object_; }
   std::shared_ptr<platform::IPanel> Panel() const override;
   Value ExtenderProperty(const std::string& name) const override;
-  /// `HostError` 438 for an unknown name, 13 for a value of another kind, 5 for "Name", which stays.
+  /// `HostError` 438 for an unknown name, 13 for a value of another type, 5 for "Name", which cannot change.
   void SetExtenderProperty(const std::string& name, const Value& value) override;
-  /// Gives the focus to the first control inside that takes it.
+  /// Moves the focus to the first control inside that can have it.
   void SetFocus() override;
 
-  /// Takes the user control in and has it build itself.
+  /// Owns the user control from now on and lets it build itself.
   void Hold(std::shared_ptr<platform::IUserControl> object);
   platform::Size NaturalSize() const override;
-  /// Timers inside end, and a docked control comes back to its container.
+  /// Stops the timers inside and moves a docked control back to its container.
   void Stop() override;
 
  protected:

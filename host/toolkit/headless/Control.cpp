@@ -18,7 +18,7 @@ Control::Control(std::shared_ptr<Desktop> desktop, std::string name)
     : desktop_(std::move(desktop)), name_(std::move(name)), handle_(desktop_->Windows().NextHandle()) {}
 
 Control::~Control() {
-  if (auto* screen = desktop_->Screen()) screen->Gone(*this);
+  if (auto* screen = desktop_->Screen()) screen->Destroyed(*this);
   desktop_->Windows().Remove(handle_);
 }
 
@@ -106,7 +106,7 @@ bool Control::BeginAction() {
   desktop_->NotifyActivity();
   desktop_->Forms().Activate(TopForm());
   if (CanFocus()) SetFocus();
-  // Handlers of activation and focus may have taken the control away.
+  // Handlers of activation and focus may have hidden or disabled the control.
   return AcceptsInput();
 }
 

@@ -15,8 +15,8 @@ class Form;
 class IMetrics;
 class Panel;
 
-/// What all windows of the headless toolkit have: state, a place, and the question whether the operator can
-/// reach them.
+/// The base of all windows of the headless toolkit: state, bounds, focus, and whether the operator can use
+/// them.
 class Control : public virtual platform::IControl, public std::enable_shared_from_this<Control> {
  public:
   Control(std::shared_ptr<Desktop> desktop, std::string name);
@@ -36,48 +36,48 @@ class Control : public virtual platform::IControl, public std::enable_shared_fro
   void SetEnabled(bool enabled) override;
   platform::Color BackColor() const override { return backColor_; }
   void SetBackColor(platform::Color color) override;
-  /// Where the control takes no focus, is hidden or disabled, nothing happens.
+  /// Does nothing if the control cannot have the focus, is hidden or disabled.
   void SetFocus() override;
   bool HasFocus() const override;
   void Refresh() override { ++refreshCount_; }
   int RefreshCount() const override { return refreshCount_; }
 
-  /// The size that shows everything, as the layout asks for it.
+  /// The size that shows everything, for the layout.
   virtual platform::Size NaturalSize() const = 0;
-  /// The natural size, or nothing while the control is hidden.
+  /// The natural size, or 0 by 0 while the control is hidden.
   platform::Size LayoutSize() const { return visible_ ? NaturalSize() : platform::Size{}; }
-  /// The control stands on that panel from now on.
+  /// Puts the control on the panel.
   void PlaceOn(const std::shared_ptr<Panel>& panel);
   /// The panel that owns the control and lays it out.
   std::shared_ptr<Panel> Container() const { return container_.lock(); }
-  /// The window that it is shown in; empty when it is in none.
+  /// The window that it is shown in, or empty.
   std::shared_ptr<Control> ParentWindow() const { return parent_.lock(); }
   void SetParentWindow(const std::shared_ptr<Control>& parent);
   /// The form in which the control is shown, or empty.
   virtual std::shared_ptr<Form> TopForm();
 
-  /// Visible and enabled up to its form, whatever the form's own state.
+  /// Visible and enabled up to its form; the form's own state does not matter.
   bool Usable() const;
-  /// The operator can see and use it now.
+  /// Whether the operator can see and use it now.
   virtual bool AcceptsInput();
-  /// Whether the operator's actions and `SetFocus` put the focus on it.
+  /// Whether the operator's actions and `SetFocus` move the focus to it.
   virtual bool CanFocus() const { return false; }
   virtual void FocusArrived() {}
   virtual void FocusLeft() {}
-  /// A key that reached this control.
+  /// Handles a key that was pressed while the control has the focus.
   virtual void KeyPressed(int key, int shift);
-  /// Something inside has another natural size.
+  /// The natural size of something inside has changed.
   virtual void InnerSizeChanged();
-  /// The form is unloaded: timers end, docked windows come home.
+  /// The form is unloaded: stops timers and undocks windows.
   virtual void Stop() {}
-  /// The screen, if there is one, shows the control as it is now.
+  /// Notifies the screen, if there is one, that the control has changed.
   void NotifyChanged();
 
  protected:
-  /// Begins an action of the operator; false when it cannot reach the control. The form becomes active and
-  /// the focus comes here first, as with a click.
+  /// Starts an action of the operator; false if the control cannot be used. Activates the form and moves the
+  /// focus here first, as a click does.
   bool BeginAction();
-  /// Runs a change and notes it, then has the container lay itself out again if the natural size is another.
+  /// Makes a change, notifies the screen, and updates the layout if the natural size has changed.
   template <class Change>
   void Apply(Change&& change) {
     const auto before = LayoutSize();
@@ -108,7 +108,7 @@ class Control : public virtual platform::IControl, public std::enable_shared_fro
   int refreshCount_ = 0;
 };
 
-/// A failing operation of the toolkit.
+/// Throws a `HostError` of the toolkit.
 [[noreturn]] void Fail(std::int32_t number, const std::string& description);
 
 }  // namespace bench::headless

@@ -20,7 +20,7 @@ void Desktop::SetScreen(IScreen* screen) {
   loop_.SetDispatcher(screen);
   if (!screen) return;
   const auto windows = windows_.All();
-  // Inner panels first: texts have other sizes now.
+  // Inner panels first: texts have other sizes on this screen.
   for (auto window = windows.rbegin(); window != windows.rend(); ++window) {
     if (const auto panel = std::dynamic_pointer_cast<Panel>(*window)) panel->Relayout();
     (*window)->NotifyChanged();
@@ -34,7 +34,7 @@ void Desktop::ProcessMessages() {
 
 void Desktop::WaitMessages(platform::Time deadline) {
   if (PumpedActed()) {
-    // What the caller waits for may have come true, so no time passes before it has looked.
+    // The caller may no longer need to wait, so no time passes before it checks.
     loop_.Process();
     cameBackEmpty_ = false;
     return;
@@ -43,11 +43,11 @@ void Desktop::WaitMessages(platform::Time deadline) {
     cameBackEmpty_ = false;
     return;
   }
-  // Those who act while messages are pumped may have done it without a window: the caller looks once more.
+  // A handler of `Pumped` may have acted without a window: the caller checks once more.
   if (!std::exchange(cameBackEmpty_, true)) return;
   cameBackEmpty_ = false;
   if (stalled_) return stalled_();
-  throw std::logic_error("waiting for something that can never happen; open forms: " + forms_.ShownNames());
+  throw std::logic_error("this wait can never end; open forms: " + forms_.ShownNames());
 }
 
 void Desktop::Close() {

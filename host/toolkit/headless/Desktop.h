@@ -14,7 +14,7 @@
 
 namespace bench::headless {
 
-/// What the windows of one application share. Every window keeps it alive.
+/// What the windows of one application share. Each window keeps it alive.
 class Desktop : public std::enable_shared_from_this<Desktop> {
  public:
   using ControlFactory = std::function<std::shared_ptr<platform::IUserControl>(const std::string&)>;
@@ -25,13 +25,12 @@ class Desktop : public std::enable_shared_from_this<Desktop> {
   FormStack& Forms() { return forms_; }
   WindowTable& Windows() { return windows_; }
 
-  /// Shows the windows from now on, those that are there too; empty: they are state only. The screen lives
-  /// until it is taken away again.
+  /// Shows all windows on the screen; null removes it. The screen must outlive its use here.
   void SetScreen(IScreen* screen);
   IScreen* Screen() const { return screen_; }
   const IMetrics& Metrics() const { return screen_ ? screen_->Metrics() : plain_; }
 
-  /// A new window of the class, known by its handle.
+  /// Creates a window of the class and registers its handle.
   template <class Window, class... Args>
   std::shared_ptr<Window> Make(Args&&... args) {
     auto window = std::make_shared<Window>(shared_from_this(), std::forward<Args>(args)...);
@@ -39,18 +38,18 @@ class Desktop : public std::enable_shared_from_this<Desktop> {
     return window;
   }
 
-  /// A new user control; `HostError` 429 for an identifier that nobody knows.
+  /// Creates a user control; `HostError` 429 for an unknown identifier.
   std::shared_ptr<platform::IUserControl> CreateUserControl(const std::string& classIdentifier) const;
   void SetControlFactory(ControlFactory factory) { factory_ = std::move(factory); }
 
-  /// The operator has done something, or a form has come or gone: waits come back to look.
+  /// The operator has acted, or a form was shown or hidden: waits return.
   void NotifyActivity() { ++activity_; }
   platform::Event<>& Pumped() { return pumped_; }
   void SetStallHandler(std::function<void()> handler) { stalled_ = std::move(handler); }
   void ProcessMessages();
   void WaitMessages(platform::Time deadline);
 
-  /// The application ends: forms, factory and pending work are let go of.
+  /// Releases forms, factory and pending work when the application ends.
   void Close();
 
  private:

@@ -68,10 +68,10 @@ void Form::ShowModal(const std::shared_ptr<platform::IForm>& owner) {
   const auto self = SelfForm();
   auto& forms = GetDesktop().Forms();
   if (forms.IsModal(*this))
-    Fail(orvik::HostError::kInvalidArgument, "form \"" + Name() + "\" is shown modally already");
+    Fail(orvik::HostError::kInvalidArgument, "form \"" + Name() + "\" is already shown modally");
   owner_ = std::dynamic_pointer_cast<Form>(owner);
   forms.BeginModal(self);
-  // A window that is open already blocks the others from now on.
+  // A window that is already open blocks the others from now on.
   showOrder_ = forms.NextShowOrder();
   NotifyChanged();
   try {
@@ -86,7 +86,7 @@ void Form::ShowModal(const std::shared_ptr<platform::IForm>& owner) {
 void Form::RunModal() {
   const int hiddenBefore = hidden_;
   Show();
-  // Whoever hides the form and shows it again has ended this wait too.
+  // Hiding the form ends the wait, even if it is shown again.
   while (visible_ && hidden_ == hiddenBefore) GetDesktop().WaitMessages(platform::Time::max());
 }
 
@@ -195,7 +195,7 @@ void Form::MoveFocusOn() { GetDesktop().Forms().UpdateFocus(); }
 
 void Form::NaturalSizeChanged() {
   if (sizedByHand_) return;
-  // Under the operator's eyes a window grows with its texts and does not shrink: what he aims at stays.
+  // A visible window grows with its texts but does not shrink, so that nothing moves under the pointer.
   const platform::Size least = visible_ ? InnerSize() : platform::Size{};
   Panel::SetBounds({Bounds().left, Bounds().top, std::max(least.width, NaturalSize().width),
                     std::max(least.height, NaturalSize().height)});

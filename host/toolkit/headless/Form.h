@@ -8,7 +8,7 @@
 
 namespace bench::headless {
 
-/// A window. One that nobody has given a size is as large as its grid needs.
+/// A window. Until it is given a size, it is as large as its grid needs.
 class Form final : public Panel, public virtual platform::IForm {
  public:
   Form(std::shared_ptr<Desktop> desktop, std::string name);
@@ -16,14 +16,14 @@ class Form final : public Panel, public virtual platform::IForm {
   void SetBounds(const platform::Rect& bounds) override;
   /// Shows or hides the form.
   void SetVisible(bool visible) override;
-  /// Activates the form if it can be reached; the form itself gets the focus.
+  /// Activates the form if possible; the form itself gets the focus.
   void SetFocus() override;
 
   void Load() override;
   bool Loaded() const override { return loaded_; }
   void Show() override;
-  /// `HostError` 5 when the form is modal already. An error that a handler throws while messages are
-  /// processed ends the wait, hides the form and goes to the caller.
+  /// `HostError` 5 if the form is already modal. An error of a handler during the wait ends it, hides the
+  /// form and is thrown to the caller.
   void ShowModal(const std::shared_ptr<platform::IForm>& owner) override;
   void Hide() override;
   void Unload() override;
@@ -41,11 +41,10 @@ class Form final : public Panel, public virtual platform::IForm {
   platform::Event<>& Unloading() override { return unloading_; }
 
   void Activate() override;
-  /// After the preview the key goes to the control that has the focus. With Alt (shift bit 4) it clicks the
-  /// button whose caption marks it.
+  /// After the preview the control with the focus gets the key. With Alt (shift bit 4) it clicks the button
+  /// with that access key.
   void PressKey(int key, int shift) override;
-  /// The key as the form sees it, for whoever brings it to the control by other means; returns whether the
-  /// form still answers the operator.
+  /// Previews a key that reaches the control by other means; returns whether the form still accepts input.
   bool PreviewKey(int key, int shift);
   void Close() override;
   void Resize(platform::Size inner) override;
@@ -56,12 +55,12 @@ class Form final : public Panel, public virtual platform::IForm {
   void InnerSizeChanged() override {}
 
   std::uint64_t ShowOrder() const { return showOrder_; }
-  /// The form has just become the active one.
+  /// Called after the form has become the active one.
   void BecomeActive();
-  /// Where the focus stands or will stand when the form is active.
+  /// The control that has the focus while the form is active.
   std::shared_ptr<Control> FocusTarget();
   void FocusOn(const std::shared_ptr<Control>& control);
-  /// The focus goes on where its control can no longer have it.
+  /// Moves the focus away from a control that can no longer have it.
   void MoveFocusOn();
 
  protected:

@@ -8,7 +8,7 @@
 namespace bench::headless {
 namespace {
 
-/// Removes the form, and whatever is gone.
+/// Removes the form and all expired references.
 void Remove(std::vector<std::weak_ptr<Form>>& forms, const Form* form) {
   std::erase_if(forms, [form](const std::weak_ptr<Form>& entry) {
     const auto held = entry.lock();

@@ -21,30 +21,30 @@ class FormStack {
   void AddLoaded(const std::shared_ptr<Form>& form) { loaded_.push_back(form); }
   void RemoveLoaded(const std::shared_ptr<Form>& form) { std::erase(loaded_, form); }
   const std::vector<std::shared_ptr<Form>>& Loaded() const { return loaded_; }
-  /// The names of the forms that are shown, for messages.
+  /// The names of the visible forms, for messages.
   std::string ShownNames() const;
 
-  /// Counts the moments in which forms are shown: a modal form blocks those that were shown before it.
+  /// The next number in the order in which forms are shown: a modal form blocks those shown before it.
   std::uint64_t NextShowOrder() { return ++lastShow_; }
   void BeginModal(const std::shared_ptr<Form>& form) { modal_.push_back(form); }
   void EndModal(const Form& form);
   bool IsModal(const Form& form) const;
-  /// Whether no modal form keeps this one from the operator.
+  /// Whether no modal form blocks this one.
   bool IsReachable(const Form& form) const;
 
   std::shared_ptr<Form> Active() const { return active_.lock(); }
-  /// Makes a form that the operator can reach the active one; any other stays where it is.
+  /// Makes the form the active one if it accepts input.
   void Activate(const std::shared_ptr<Form>& form);
-  /// The form has been hidden: another becomes active, its owner first, else the one used last.
+  /// After the form was hidden: activates its owner, or else the form used last.
   void Hidden(const std::shared_ptr<Form>& form, const std::shared_ptr<Form>& owner);
 
   /// The control or form that has the focus, or empty.
   std::shared_ptr<Control> Focused() const { return focused_.lock(); }
-  /// Brings the focus to where the active form wants it, and tells who loses and who gets it.
+  /// Moves the focus to the target of the active form and notifies both controls.
   void UpdateFocus();
 
   platform::Event<const std::shared_ptr<platform::IForm>&>& FormShown() { return formShown_; }
-  /// Lets go of all forms.
+  /// Releases all forms.
   void Clear();
 
  private:
@@ -52,7 +52,7 @@ class FormStack {
 
   std::vector<std::shared_ptr<Form>> loaded_;
   std::vector<std::weak_ptr<Form>> modal_;
-  // Those that have been active, latest last.
+  // Forms that have been active, latest last.
   std::vector<std::weak_ptr<Form>> history_;
   std::weak_ptr<Form> active_;
   std::weak_ptr<Control> focused_;

@@ -8,10 +8,10 @@ namespace bench::headless {
 
 namespace platform = orvik::platform;
 
-/// What stands padding texts.
+/// What has padding around its text.
 enum class Part { kButton, kTextBox, kComboBox, kFrame, kTabCaption, kToolButton, kTreeNode, kListRow };
 
-/// How large texts are and what stands padding them, in twips. The layout goes by it.
+/// Sizes of texts and of the padding around them, in twips, for the layout.
 class IMetrics {
  public:
   IMetrics() = default;
@@ -23,9 +23,9 @@ class IMetrics {
   virtual platform::Size Line(std::string_view caption) const = 0;
   /// A text that is broken into lines of at most 60 characters.
   virtual platform::Size Wrapped(std::string_view text) const = 0;
-  /// A character of middling width, and a line.
+  /// The average width of a character and the height of a line.
   virtual platform::Size Character() const = 0;
-  /// What the part needs beyond its text, both sides together.
+  /// What the part needs in addition to its text, both sides together.
   virtual platform::Size Padding(Part part) const = 0;
 };
 

@@ -7,16 +7,16 @@ namespace bench::headless {
 class Control;
 class IMetrics;
 
-/// Shows the windows of an application to a person, and sleeps in the window system when nobody does
-/// anything. The windows know nothing of it but this: they note what has changed and ask how large texts are.
+/// Shows the windows of an application on a real screen. The windows report what has changed and ask for text
+/// sizes; they know nothing else of it.
 class IScreen : public IEventDispatcher {
  public:
-  /// The window, new or not, has another state, place, parent or focus. It is shown when messages are next
-  /// processed, not at once: the change may be half done.
+  /// The window is new or its state, bounds, parent or focus has changed. It is updated when messages are
+  /// next processed, since the change may be incomplete.
   virtual void Changed(Control& control) = 0;
-  /// The window is being destroyed: nothing may be asked of it any more.
-  virtual void Gone(const Control& control) = 0;
-  /// What the layout goes by.
+  /// The window is being destroyed: it must not be called any more.
+  virtual void Destroyed(const Control& control) = 0;
+  /// The sizes for the layout.
   virtual const IMetrics& Metrics() const = 0;
 };
 

@@ -8,7 +8,7 @@ platform::Size Label::NaturalSize() const { return Metrics().Wrapped(Caption());
 
 platform::Size Frame::NaturalSize() const {
   const platform::Size caption = Metrics().Line(Caption());
-  // Room for the border and for one line inside.
+  // Space for the border and one line inside.
   const platform::Size padding = Metrics().Padding(Part::kFrame);
   return {caption.width + padding.width, caption.height + padding.height};
 }

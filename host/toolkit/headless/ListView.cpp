@@ -41,7 +41,7 @@ void ListView::AddRow(const std::string& rowKey) {
 }
 
 void ListView::ClearRows() {
-  // Tags may hold what comes back here when it is destroyed, so they go last.
+  // Destroyed last: destructors of tags may use this list.
   const auto rows = std::exchange(rows_, {});
   rowIndex_.clear();
   selectedRow_.clear();

@@ -33,13 +33,13 @@ class ListView final : public Control, public virtual platform::IListView {
   std::string SelectedRow() const override { return selectedRow_; }
   platform::Event<const platform::MouseEvent&>& MouseUp() override { return mouseUp_; }
   void ClickAt(const platform::MouseEvent& event) override;
-  /// The same for whoever knows which row is under the pointer; -1 where there is none.
+  /// The same if the row under the pointer is known; -1 for none.
   void ClickRow(int row, const platform::MouseEvent& event);
 
-  /// Rows and cells by their place, for those who show them; the cell is null when it was never set.
+  /// Rows and cells by position, for display; the cell is null if it was never set.
   const std::string& RowKeyAt(int row) const { return rows_[static_cast<std::size_t>(row)].key; }
   const platform::ListCell* CellAt(int row, int column) const;
-  /// The place of the selected row, and of the one that was last asked to be visible; -1 when there is none.
+  /// The position of the selected row, and of the last row made visible; -1 for none.
   int SelectedPlace() const;
   int EnsuredPlace() const { return ensuredPlace_; }
 
@@ -50,7 +50,7 @@ class ListView final : public Control, public virtual platform::IListView {
   struct Row {
     std::string key;
     std::any tag;
-    // By the column's place; as long as the last cell that was set asks for.
+    // By the position of the column; cells after the last one set are missing.
     std::vector<platform::ListCell> cells;
   };
 

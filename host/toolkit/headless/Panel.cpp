@@ -98,8 +98,8 @@ void Panel::SetGrid(const platform::Grid& grid) {
 }
 
 platform::Size Panel::NaturalSize() const {
-  constexpr platform::Size middling{3600, 2400};
-  return grid_ ? natural_ : middling;
+  constexpr platform::Size medium{3600, 2400};
+  return grid_ ? natural_ : medium;
 }
 
 void Panel::SetFocus() {
@@ -118,7 +118,7 @@ void Panel::Relayout() {
   arrangeAgain_ = true;
   if (arranging_) return;
   const auto self = shared_from_this();
-  // Placing a control may change what another needs; a layout that never comes to rest is left as it is.
+  // Placing a control may change the size of another; stop if the layout does not converge.
   constexpr int kMostRounds = 8;
   arranging_ = true;
   try {
@@ -140,7 +140,7 @@ void Panel::ArrangeOnce() {
   const auto rects = platform::Arrange(*grid_, sizes, InnerSize());
   const auto inCells = inCells_;
   for (std::size_t index = 0; index < inCells.size() && index < rects.size(); ++index) {
-    // A docked control is placed by the window that it is docked into.
+    // The window that a control is docked into places it.
     if (inCells[index]->ParentWindow().get() == this) inCells[index]->SetBounds(rects[index]);
   }
 }

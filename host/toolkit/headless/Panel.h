@@ -38,11 +38,11 @@ class Panel : public Control, public virtual platform::IPanel {
   platform::Size InnerSize() const override { return {Bounds().width, Bounds().height}; }
   platform::Event<>& Resized() override { return resized_; }
 
-  /// What the grid needs; a middling size without a grid.
+  /// What the grid needs; a medium size without a grid.
   platform::Size NaturalSize() const override;
-  /// Gives the focus to the first control that takes it.
+  /// Moves the focus to the first control that can have it.
   void SetFocus() override;
-  /// The first control on the panel that takes the focus now, or empty.
+  /// The first control on the panel that can have the focus now, or empty.
   std::shared_ptr<Control> FirstFocus() const;
   /// Places the controls by the grid, if there is one.
   void Relayout();
@@ -50,7 +50,7 @@ class Panel : public Control, public virtual platform::IPanel {
 
  protected:
   void BoundsChanged(const platform::Rect& old) override;
-  /// The grid needs another size than before.
+  /// The size that the grid needs has changed.
   virtual void NaturalSizeChanged();
 
  private:

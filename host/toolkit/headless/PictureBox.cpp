@@ -6,18 +6,18 @@
 namespace bench::headless {
 namespace {
 
-// Where a bitmap file's header keeps width and height, least byte first.
+// Offsets of width and height in a bitmap file, little-endian.
 constexpr std::size_t kWidthAt = 18;
 constexpr std::size_t kHeightAt = 22;
 constexpr std::size_t kShortestHeader = 26;
-// No screen is larger; it also keeps the product with the twips of a pixel in range.
+// Keeps the size in twips in range.
 constexpr std::int64_t kMostPixels = 32767;
 
 platform::Twips Length(const std::vector<std::byte>& bitmap, std::size_t at) {
   std::uint32_t value = 0;
   for (std::size_t byte = 0; byte < 4; ++byte)
     value |= std::to_integer<std::uint32_t>(bitmap[at + byte]) << (8 * byte);
-  // A negative height means that the lines stand top down.
+  // A negative height means that the lines are stored top down.
   const std::int64_t pixels = std::abs(std::int64_t{static_cast<std::int32_t>(value)});
   return static_cast<platform::Twips>(std::min(pixels, kMostPixels)) * platform::kTwipsPerPixel;
 }

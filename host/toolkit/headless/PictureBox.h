@@ -16,7 +16,7 @@ class PictureBox final : public Control, public virtual platform::IPictureBox {
   void SetBitmap(std::span<const std::byte> bitmap) override;
   std::vector<std::byte> Bitmap() const override { return bitmap_; }
 
-  /// The bitmap's pixels as its header counts them; nothing for bytes that are no bitmap.
+  /// The size in the bitmap's header; 0 by 0 for bytes that are not a bitmap.
   platform::Size NaturalSize() const override;
 
  private:

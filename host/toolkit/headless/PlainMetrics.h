@@ -4,7 +4,7 @@
 
 namespace bench::headless {
 
-/// The sizes without a screen: every character is as wide as the next (`TextSize.h`).
+/// The sizes without a screen: all characters have the same width (`TextSize.h`).
 class PlainMetrics final : public IMetrics {
  public:
   platform::Size Line(std::string_view caption) const override;

@@ -5,14 +5,14 @@
 
 namespace bench::headless {
 
-/// Runs from 0 to 100 unless told otherwise.
+/// The default range is 0 to 100.
 class ProgressBar final : public Control, public virtual platform::IProgressBar {
  public:
   using Control::Control;
 
   int Minimum() const override { return minimum_; }
   int Maximum() const override { return maximum_; }
-  /// `HostError` 5 when the maximum is below the minimum.
+  /// `HostError` 5 if the maximum is below the minimum.
   void SetRange(int minimum, int maximum) override;
   int Value() const override { return value_; }
   void SetValue(int value) override;

@@ -11,13 +11,13 @@
 
 namespace bench::headless {
 
-/// Pages under a line of captions. The first page is shown until another is chosen. Operations other than
-/// `Page` and `Choose` answer an unknown key with `HostError` 9.
+/// Pages under a line of captions. The first page is shown until another is chosen. `Page` returns empty for
+/// an unknown key and `Choose` ignores it; other operations fail with `HostError` 9.
 class Tabs final : public Control, public virtual platform::ITabs {
  public:
   using Control::Control;
 
-  /// `HostError` 5 for a key that is there already.
+  /// `HostError` 5 for a key that already exists.
   std::shared_ptr<platform::IPanel> AddPage(const std::string& key, const std::string& caption) override;
   void SetPageBitmap(const std::string& key, std::span<const std::byte> bitmap) override;
   std::vector<std::string> Keys() const override;

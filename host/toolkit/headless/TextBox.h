@@ -23,7 +23,7 @@ class TextBox final : public Control, public virtual platform::ITextBox {
 
   platform::Size NaturalSize() const override;
   bool CanFocus() const override { return true; }
-  /// Letters, digits and the space are typed; letters small unless shift is held.
+  /// Types letters, digits and spaces; letters are lower case without shift.
   void KeyPressed(int key, int shift) override;
 
  private:

@@ -6,8 +6,8 @@
 
 namespace bench::headless {
 
-/// A timer starts disabled, and is disabled when its form is unloaded. One that is behind its time ticks
-/// once, not once for each interval that has passed.
+/// A timer starts disabled, and is disabled when its form is unloaded. A late timer ticks once, not once for
+/// each missed interval.
 class Timer final : public Control, public virtual platform::ITimer {
  public:
   Timer(std::shared_ptr<Desktop> desktop, std::string name);
@@ -15,11 +15,11 @@ class Timer final : public Control, public virtual platform::ITimer {
 
   void SetEnabled(bool enabled) override;
   int Interval() const override { return interval_; }
-  /// Starts a whole interval from now when the timer is enabled; `HostError` 5 below 0.
+  /// Restarts an enabled timer with a whole interval; `HostError` 5 below 0.
   void SetInterval(int milliseconds) override;
   platform::Event<>& Tick() override { return tick_; }
 
-  /// A timer takes no place.
+  /// A timer takes no space.
   platform::Size NaturalSize() const override { return {}; }
   void Stop() override { SetEnabled(false); }
 

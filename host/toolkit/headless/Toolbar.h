@@ -8,12 +8,12 @@
 
 namespace bench::headless {
 
-/// Buttons and entries under them. An unknown command changes nothing, and is neither enabled nor visible.
+/// Buttons and menu entries under them. Unknown commands are ignored, and are neither enabled nor visible.
 class Toolbar final : public Control, public virtual platform::IToolbar {
  public:
   using Control::Control;
 
-  /// `HostError` 5 for a command that is there already, as for `AddEntry`.
+  /// `HostError` 5 for a command that already exists, as for `AddEntry`.
   void AddButton(int command, const std::string& caption) override;
   void AddEntry(int parent, int command, const std::string& caption) override;
   std::vector<int> Commands() const override;
@@ -24,13 +24,12 @@ class Toolbar final : public Control, public virtual platform::IToolbar {
   bool CommandVisible(int command) const override;
   void ShowCommand(int command, bool visible) override;
   platform::Event<int>& CommandChosen() override { return commandChosen_; }
-  /// An entry needs its button enabled and visible too. A button with entries drops them down and chooses
-  /// nothing.
+  /// For an entry, its button must be enabled and visible too. A button with entries only opens its menu.
   void Click(int command) override;
 
   /// The button above an entry, 0 for a button.
   int CommandParent(int command) const;
-  /// The tool tip of a button, empty when it has none.
+  /// The tool tip of a button, or empty.
   std::string CommandToolTip(int command) const;
   platform::Size NaturalSize() const override;
 

@@ -45,7 +45,7 @@ void TreeView::SetChecked(const std::string& key, bool checked) {
 
 void TreeView::ClickNode(const std::string& key) {
   const auto self = shared_from_this();
-  // The caller's key may be a node's own, and a handler may clear the nodes.
+  // The key may belong to a node, and a handler may clear the nodes.
   const std::string clicked = key;
   if (!BeginAction() || !HasNode(clicked)) return;
   Node& node = nodes_[Index(clicked)];

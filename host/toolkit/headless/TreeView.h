@@ -13,7 +13,7 @@ class TreeView final : public Control, public virtual platform::ITreeView {
  public:
   TreeView(std::shared_ptr<Desktop> desktop, std::string name);
 
-  /// `HostError` 5 for a key that is there already.
+  /// `HostError` 5 for a key that already exists.
   void AddNode(const std::string& key, const std::string& caption) override;
   void ClearNodes() override;
   std::vector<std::string> NodeKeys() const override;
@@ -24,7 +24,7 @@ class TreeView final : public Control, public virtual platform::ITreeView {
   bool Checked(const std::string& key) const override { return nodes_[Index(key)].checked; }
   void SetChecked(const std::string& key, bool checked) override;
   platform::Event<const std::string&>& NodeClicked() override { return nodeClicked_; }
-  /// Turns the node's check mark over; an unknown key does nothing.
+  /// Toggles the node's check mark; ignores an unknown key.
   void ClickNode(const std::string& key) override;
 
   platform::Size NaturalSize() const override;

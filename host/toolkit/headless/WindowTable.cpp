@@ -38,7 +38,8 @@ std::vector<std::shared_ptr<Control>> WindowTable::Inside(const Control& parent)
 void WindowTable::SetParent(platform::WindowHandle child, platform::WindowHandle parent) {
   const auto moved = Movable(child);
   if (!moved || std::dynamic_pointer_cast<Form>(moved))
-    Fail(HostError::kInvalidArgument, "window " + std::to_string(child) + " is no panel that can be docked");
+    Fail(HostError::kInvalidArgument,
+         "window " + std::to_string(child) + " is not a panel that can be docked");
   const auto into = Find(parent);
   if (parent != 0 && !into)
     Fail(HostError::kInvalidArgument, "there is no window " + std::to_string(parent) + " to dock into");

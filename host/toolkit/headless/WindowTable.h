@@ -12,22 +12,22 @@ namespace platform = orvik::platform;
 
 class Control;
 
-/// All windows by handle, and which stands in which. Holds none of them.
+/// All windows by handle, and their nesting. Does not own them.
 class WindowTable {
  public:
-  /// A handle that no window had before; never 0.
+  /// A new handle; never 0.
   platform::WindowHandle NextHandle() { return ++lastHandle_; }
   void Add(const std::shared_ptr<Control>& window);
   void Remove(platform::WindowHandle handle) { windows_.erase(handle); }
-  /// The window, or empty when it is gone.
+  /// The window, or empty if it was destroyed.
   std::shared_ptr<Control> Find(platform::WindowHandle handle) const;
-  /// All windows in the order in which they were made, and those that stand in one.
+  /// All windows, and those inside one, in the order of their creation.
   std::vector<std::shared_ptr<Control>> All() const;
   std::vector<std::shared_ptr<Control>> Inside(const Control& parent) const;
 
-  /// Makes one window the child of another; 0 leaves it in none. A site and the panel inside it are one
-  /// window: either handle moves both. `HostError` 5 for a handle that is gone, a child that is neither panel
-  /// nor site, or a parent that stands in the child.
+  /// Makes one window the child of another; parent 0 removes it from its parent. A site and the panel inside
+  /// it are one window: either handle moves both. `HostError` 5 for an invalid handle, a child that is
+  /// neither panel nor site, or a parent inside the child.
   void SetParent(platform::WindowHandle child, platform::WindowHandle parent);
   platform::WindowHandle Parent(platform::WindowHandle child) const;
 

@@ -27,7 +27,7 @@ void ComboBoxPresenter::SyncEditable() {
   if (shown.isEditable() == GetModel().Editable()) return;
   shown.setEditable(GetModel().Editable());
   if (!shown.lineEdit()) return;
-  // What is typed is taken as it is.
+  // Typed text is not completed.
   shown.setCompleter(nullptr);
   When(shown.lineEdit(), &QLineEdit::textEdited, [this](const QString& text) {
     Forward([typed = FromQt(text)](headless::ComboBox& box) { box.TypeOver(typed); });

@@ -15,7 +15,7 @@ double Luminance(const QColor& color) {
   return 0.2126 * Linear(color.redF()) + 0.7152 * Linear(color.greenF()) + 0.0722 * Linear(color.blueF());
 }
 
-/// The part of the way from one to the other, 0 to 1.
+/// Mixes the colours; `part` from 0 (all `from`) to 1 (all `to`).
 QColor Between(const QColor& from, const QColor& to, double part) {
   const auto mixed = [part](double start, double end) { return start + (end - start) * part; };
   return QColor::fromRgbF(static_cast<float>(mixed(from.redF(), to.redF())),

@@ -10,7 +10,7 @@ namespace {
 
 int LoopLevel() { return QThread::currentThread()->loopLevel(); }
 
-/// Starts a timer that rings once. Rounded up: ringing too early would cost a second sleep.
+/// Starts a single-shot timer. Rounded up: an early timeout would cost a second sleep.
 void StartOnce(QTimer& timer, std::chrono::nanoseconds after) {
   if (after == std::chrono::nanoseconds::max()) return timer.stop();
   const std::chrono::nanoseconds longest = std::chrono::hours(1);
@@ -39,7 +39,7 @@ void EventDispatcher::Watch(const std::vector<int>& descriptors) {
     auto& notifier = notifiers_[descriptor];
     if (notifier) continue;
     notifier = std::make_unique<QSocketNotifier>(descriptor, QSocketNotifier::Read);
-    // By way of the timer: the descriptor's owner may end the watch, and with it this very notifier.
+    // Deferred to the timer, since the handler may delete this notifier.
     QObject::connect(notifier.get(), &QSocketNotifier::activated, notifier.get(), [this] { LookAgain(); });
   }
 }
@@ -62,7 +62,7 @@ void EventDispatcher::Sleep(std::chrono::nanoseconds longest) {
     QCoreApplication::processEvents();
   }
   level_ = outerLevel;
-  // An outer sleep looks again too: what it waited for may have been done here.
+  // An outer sleep checks again too: its work may have been done here.
   ready_ = true;
   StartWorkTimer();
   if (FailedAbove()) std::rethrow_exception(std::exchange(error_, nullptr));
@@ -80,7 +80,7 @@ void EventDispatcher::Serve() {
   try {
     serve_();
   } catch (...) {
-    // It must not pass through Qt's loop.
+    // Exceptions must not pass through Qt's loop.
     if (!error_) {
       error_ = std::current_exception();
       errorDepth_ = foreign_;

@@ -12,12 +12,12 @@
 
 namespace bench::qt {
 
-/// Sleeps in Qt's event dispatcher, with our descriptors and times in it. When Qt's own loop runs (an open
-/// menu, a file dialog), it has the application served from there.
+/// Sleeps in Qt's event dispatcher, which also watches our descriptors and timers. While Qt runs a loop of
+/// its own (an open menu, a file dialog), it calls `serve` from there.
 class EventDispatcher {
  public:
-  /// @param untilWork how long until something of ours falls due
-  /// @param serve processes what is pending
+  /// @param untilWork returns the time until our next work is due
+  /// @param serve processes pending work
   EventDispatcher(std::function<std::chrono::nanoseconds()> untilWork, std::function<void()> serve);
   ~EventDispatcher();
   EventDispatcher(const EventDispatcher&) = delete;
@@ -25,11 +25,11 @@ class EventDispatcher {
 
   void Watch(const std::vector<int>& descriptors);
   void WorkAdded();
-  /// A sleep that is on ends at once.
+  /// Ends a sleep in progress.
   void LookAgain();
-  /// Throws what was thrown while Qt's own loop ran inside the sleep.
+  /// Throws an error of `serve` in a Qt loop inside the sleep.
   void Sleep(std::chrono::nanoseconds longest);
-  /// Whether Qt's own loop runs below us, so that widgets may be in use on the stack.
+  /// Whether Qt's own loop is on the stack, so that widgets may be in use.
   bool BelowForeignLoop() const { return foreign_ > 0; }
 
  private:
@@ -43,12 +43,12 @@ class EventDispatcher {
   std::map<int, std::unique_ptr<QSocketNotifier>> notifiers_;
   QTimer workTimer_;
   QTimer deadlineTimer_;
-  // Ends the sleep that is on.
+  // Ends the sleep in progress.
   bool ready_ = false;
-  // How deep Qt's loops were when the sleep began that is on.
+  // Qt's loop level at the start of the sleep in progress.
   std::optional<int> level_;
   int foreign_ = 0;
-  // What was thrown below that many of Qt's own loops; it goes to whoever waits above them.
+  // An error thrown inside `errorDepth_` loops of Qt; it is thrown to the caller that waits outside them.
   std::exception_ptr error_;
   int errorDepth_ = 0;
 };

@@ -24,8 +24,7 @@ constexpr int kLongestLine = 60;
 
 QFontMetrics Metrics() { return QFontMetrics(QApplication::font()); }
 
-/// A text that is long enough for the smallest sizes of controls not to count, and what a control that shows
-/// it needs beyond it.
+/// A text longer than the minimum size of any control, and the size that a control needs in addition to it.
 const QString& Sample() {
   static const QString sample(40, u'n');
   return sample;
@@ -59,7 +58,7 @@ QSize ToolButtonPadding() {
   QMenu menu;
   QToolButton button;
   button.setText(Sample());
-  // Any button may have the arrow of a list.
+  // Any button may have the arrow of a menu.
   button.setMenu(&menu);
   button.setPopupMode(QToolButton::InstantPopup);
   return Beyond(button.sizeHint());
@@ -82,7 +81,7 @@ QSize PaddingOf(Part part) {
     case Part::kComboBox:
       return ComboBoxPadding();
     case Part::kFrame:
-      // And a line inside.
+      // With a line inside.
       return Beyond(QGroupBox(Sample()).minimumSizeHint()).expandedTo(QSize(24, Metrics().height() + 8));
     case Part::kTabCaption:
       return TabPadding();
@@ -109,9 +108,9 @@ platform::Size FontMetrics::Line(std::string_view caption) const {
 }
 
 platform::Size FontMetrics::Wrapped(std::string_view text) const {
-  const QRect room(0, 0, kLongestLine * Metrics().averageCharWidth(), QWIDGETSIZE_MAX);
-  const QRect needed = Metrics().boundingRect(room, Qt::TextWordWrap, WithoutAccessKey(text));
-  // A label breaks lines a hair earlier than the text is wide.
+  const QRect available(0, 0, kLongestLine * Metrics().averageCharWidth(), QWIDGETSIZE_MAX);
+  const QRect needed = Metrics().boundingRect(available, Qt::TextWordWrap, WithoutAccessKey(text));
+  // A label wraps slightly earlier than the width of the text.
   return units_.Twips(QSize(needed.width() + 2, std::max(needed.height(), Metrics().height())));
 }
 

@@ -7,7 +7,7 @@
 
 namespace bench::qt {
 
-/// Sizes of the screen's font, and of what its style puts padding texts.
+/// Sizes of the screen's font, and of the padding of its style.
 class FontMetrics final : public headless::IMetrics {
  public:
   FontMetrics();

@@ -15,7 +15,7 @@
 namespace bench::qt {
 namespace {
 
-/// The inside of a window that has the size its layout asks for, for whoever embeds it.
+/// The content of a window; its size hint is the size that the form's layout needs.
 class FormWidget final : public QWidget {
  public:
   FormWidget(QWidget* parent, std::weak_ptr<headless::Control> form, const Units& units)
@@ -34,14 +34,13 @@ QWidget* NewFormWidget(WidgetMirror& mirror, headless::Control& control) {
   const auto& form = dynamic_cast<const headless::Form&>(control);
   QWidget* outer = mirror.EmbeddedIn(form);
   auto* widget = new FormWidget(outer, control.weak_from_this(), mirror.GetUnits());
-  // Window managers keep dialogs above their owner and minimise them with it; a plain window could be
-  // covered.
+  // Window managers keep dialogs above their owner and minimise them with it.
   if (!outer) widget->setWindowFlags(Qt::Dialog);
   return widget;
 }
 
-/// Above its owner, and not blocked by it.
-void StandAbove(QWidget& window, QWidget* owner) {
+/// Puts the window above its owner.
+void SetOwner(QWidget& window, QWidget* owner) {
   window.winId();
   QWindow* handle = window.windowHandle();
   QWindow* above = owner ? owner->windowHandle() : nullptr;
@@ -50,13 +49,13 @@ void StandAbove(QWidget& window, QWidget* owner) {
   handle->setTransientParent(above);
 }
 
-/// In the middle of its owner, or of the screen.
+/// Centres the window on its owner, or else on the screen.
 void Centre(QWidget& window, const QWidget* owner) {
-  const QRect room = window.screen()->availableGeometry();
+  const QRect area = window.screen()->availableGeometry();
   QRect place(QPoint(), window.size());
-  place.moveCenter(owner ? owner->frameGeometry().center() : room.center());
-  place.moveLeft(std::max(room.left(), std::min(place.left(), room.right() - place.width())));
-  place.moveTop(std::max(room.top(), std::min(place.top(), room.bottom() - place.height())));
+  place.moveCenter(owner ? owner->frameGeometry().center() : area.center());
+  place.moveLeft(std::max(area.left(), std::min(place.left(), area.right() - place.width())));
+  place.moveTop(std::max(area.top(), std::min(place.top(), area.bottom() - place.height())));
   window.move(place.topLeft());
 }
 
@@ -76,13 +75,13 @@ void FormPresenter::SyncOwn() {
 
 void FormPresenter::SyncFlags() {
   QWidget& window = GetShown();
-  // Among its own windows the model says which one answers; the host's own window must not be blocked.
+  // The model blocks its own windows; the host's window must never be blocked.
   const bool modal = !GetMirror().HostWindow() && GetMirror().Application().IsModal(GetModel());
   const auto modality = modal ? Qt::ApplicationModal : Qt::NonModal;
   const bool topmost = GetModel().Topmost();
   const bool sameTop = window.windowFlags().testFlag(Qt::WindowStaysOnTopHint) == topmost;
   if (sameTop && window.windowModality() == modality) return;
-  // Both take effect when the window is next shown.
+  // Both take effect the next time the window is shown.
   window.hide();
   window.setWindowFlag(Qt::WindowStaysOnTopHint, topmost);
   window.setWindowModality(modality);
@@ -110,7 +109,7 @@ void FormPresenter::SyncSize() {
 void FormPresenter::Appear() {
   if (Embedded()) return GetShown().show();
   QWidget* owner = GetMirror().OwnerOfNext(GetModel());
-  StandAbove(GetShown(), owner);
+  SetOwner(GetShown(), owner);
   if (place_.left == 0 && place_.top == 0) Centre(GetShown(), owner);
   GetShown().show();
 }
@@ -139,7 +138,7 @@ void FormPresenter::Resized() {
   if (std::exchange(given_, size) == size) return;
   const auto inner = GetMirror().GetUnits().Twips(size);
   if (Embedded())
-    // By the layout of the host's window, whether or not the form answers a person.
+    // Resized by the host's layout, so not an action of the user: it applies even if the form is blocked.
     GetMirror().Enqueue(Control(), [inner](headless::Control& form) {
       form.SetBounds({form.Bounds().left, form.Bounds().top, inner.width, inner.height});
     });
@@ -148,7 +147,7 @@ void FormPresenter::Resized() {
 }
 
 void FormPresenter::Activated() {
-  // Qt may have put the focus elsewhere; where it belongs is for the model to say.
+  // Qt may have moved the focus; the model decides where it is.
   GetMirror().RestoreFocus();
   Forward([](headless::Form& form) { form.Activate(); });
 }

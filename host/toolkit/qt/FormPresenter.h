@@ -8,7 +8,7 @@
 
 namespace bench::qt {
 
-/// A window, or the inside of one where the form is embedded.
+/// A window, or the content of one if the form is embedded.
 class FormPresenter final : public PresenterFor<headless::Form, QWidget> {
  public:
   FormPresenter(WidgetMirror& mirror, headless::Control& control);
@@ -26,7 +26,7 @@ class FormPresenter final : public PresenterFor<headless::Form, QWidget> {
   void Resized();
   void Activated();
 
-  // The size that the window was given; another one comes from a person.
+  // The size set by the model; any other size is set by the user.
   QSize given_;
   orvik::platform::Rect place_;
 };

@@ -9,7 +9,7 @@
 namespace bench::qt {
 namespace {
 
-constexpr int kSignSize = 64;  // Qt makes it smaller where it is shown
+constexpr int kSignSize = 64;  // Qt scales it down
 
 /// A white cross on a disc of the colour.
 QIcon Cross(const QColor& color) {
@@ -18,14 +18,14 @@ QIcon Cross(const QColor& color) {
   QPainter painter(&picture);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setBrush(color);
-  // Its edge is seen on a background of its own colour too.
+  // A white edge is visible on a background of the same colour.
   painter.setPen(QPen(Qt::white, 5));
   painter.drawEllipse(QRectF(3, 3, 58, 58));
   painter.setPen(QPen(Qt::white, 8, Qt::SolidLine, Qt::RoundCap));
   painter.drawLine(QPointF(21, 21), QPointF(43, 43));
   painter.drawLine(QPointF(43, 21), QPointF(21, 43));
   QIcon icon(picture);
-  // The style would tint it in a selected row.
+  // Otherwise the style tints it in a selected row.
   icon.addPixmap(picture, QIcon::Selected);
   return icon;
 }
@@ -39,7 +39,7 @@ void ListDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelInd
   const auto color = own.value<QColor>();
   QPalette& palette = option->palette;
   palette.setColor(QPalette::Text, Legible(color, palette.color(QPalette::Base)));
-  // A selected row keeps its colour, as background: the style would paint white on blue over it.
+  // A selected row has its colour as background, instead of the style's blue.
   const QColor background = Legible(color, Qt::white);
   palette.setColor(QPalette::Highlight, background);
   palette.setColor(QPalette::HighlightedText, Qt::white);

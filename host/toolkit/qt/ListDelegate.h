@@ -4,8 +4,8 @@
 
 namespace bench::qt {
 
-/// Draws the cells of a list: their own colours stay legible in light and dark palettes and in a selected
-/// row, and a row that failed has a sign and a word before its text.
+/// Draws the cells of a list: their colours are legible in light and dark palettes and in selected rows, and
+/// the text of a failed row starts with a sign and a word.
 class ListDelegate final : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;

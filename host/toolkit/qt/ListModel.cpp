@@ -33,12 +33,12 @@ QVariant FontOf(const platform::ListCell& cell) {
 }
 
 QVariant ColorOf(const platform::ListCell& cell) {
-  // The style knows better what a text looks like in a selected row.
+  // The style chooses the colour of plain text in a selected row.
   if (cell.color == platform::kWindowText) return {};
   return ToQt(cell.color, QPalette());
 }
 
-/// Bold and red is how a plug-in marks a reading that failed; nothing else is shown so.
+/// A plug-in marks a failed reading, and nothing else, with bold and red.
 bool IsFailed(const platform::ListCell& cell) { return cell.bold && cell.color == platform::kRed; }
 
 }  // namespace
@@ -71,7 +71,7 @@ int ListModel::columnCount(const QModelIndex& parent) const {
 }
 
 QVariant ListModel::data(const QModelIndex& index, int role) const {
-  // The list may be shorter by now than what the views were told.
+  // The list may be shorter than the views know.
   if (!index.isValid() || index.row() >= list_.RowCount()) return {};
   if (role == Qt::TextAlignmentRole) return AlignmentIn(columns_[static_cast<std::size_t>(index.column())]);
   const platform::ListCell* cell = list_.CellAt(index.row(), index.column());
@@ -80,7 +80,7 @@ QVariant ListModel::data(const QModelIndex& index, int role) const {
     case Qt::DisplayRole:
       return ToQt(cell->text);
     case Qt::ToolTipRole:
-      // A text that does not fit can be read here.
+      // Shows text that does not fit.
       return PlainToolTip(cell->toolTip.empty() ? cell->text : cell->toolTip);
     case Qt::FontRole:
       return FontOf(*cell);

@@ -10,16 +10,16 @@ namespace bench::qt {
 /// Whether the cell belongs to a reading that failed.
 inline constexpr int kFailedRole = Qt::UserRole;
 
-/// The text of a failed row's first cell, with the word that says so.
+/// The text of a failed row's first cell, with the word "failed".
 QString FailedText(const QString& text);
 
-/// The rows of a list as Qt's views ask for them, one cell at a time: nothing is copied, and a long list
-/// costs what is seen of it.
+/// The rows of a list for Qt's views. Cells are read on demand, so that a long list costs only its visible
+/// rows.
 class ListModel final : public QAbstractTableModel {
  public:
   explicit ListModel(const headless::ListView& list) : list_(list) {}
 
-  /// Tells the views what the list holds now.
+  /// Notifies the views of changes in the list.
   void Update();
 
   int rowCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : rows_; }
@@ -29,7 +29,7 @@ class ListModel final : public QAbstractTableModel {
 
  private:
   const headless::ListView& list_;
-  // What the views know of.
+  // What the views were notified of.
   int rows_ = 0;
   std::vector<orvik::platform::ListColumn> columns_;
 };

@@ -43,7 +43,7 @@ ListViewPresenter::ListViewPresenter(WidgetMirror& mirror, headless::Control& co
 }
 
 ListViewPresenter::~ListViewPresenter() {
-  // The widget may outlive the rows.
+  // The widget may outlive the model.
   if (Widget()) GetShown().setModel(nullptr);
 }
 
@@ -60,7 +60,7 @@ void ListViewPresenter::SyncColumns() {
   const auto columns = GetModel().Columns();
   for (int place = 0; place < list_.columnCount(); ++place) {
     const auto& column = columns[static_cast<std::size_t>(place)];
-    // Values are shown whole; names share what is left.
+    // Values are never cut; names share the remaining width.
     const bool name = column.alignment == orvik::platform::Alignment::kLeft;
     header.setSectionResizeMode(place, name ? QHeaderView::Stretch : QHeaderView::ResizeToContents);
     header.resizeSection(place, GetMirror().GetUnits().Pixels(column.width));

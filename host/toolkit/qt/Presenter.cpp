@@ -66,7 +66,7 @@ bool Presenter::Filter(QObject& watched, QEvent& event) {
 
 void Presenter::FocusCame(const QEvent& event) {
   const auto reason = static_cast<const QFocusEvent&>(event).reason();
-  // Not a person's choice: a window that becomes active puts its focus somewhere. The model knows where.
+  // Set by Qt for a window that became active; the model decides where the focus is.
   if (reason == Qt::ActiveWindowFocusReason) return mirror_.RestoreFocus();
   if (!control_.CanFocus() || reason == Qt::PopupFocusReason) return;
   ForwardToControl([](headless::Control& control) {

@@ -13,8 +13,8 @@ namespace bench::qt {
 
 class WidgetMirror;
 
-/// Shows one window of the model as a widget: brings the model's state to the widget, and what a person does
-/// with the widget to the model. The mirror owns it; it ends before its control does.
+/// Shows one window of the model as a widget: copies the model's state to the widget, and forwards user
+/// actions to the model. Owned by the mirror; does not outlive its control.
 class Presenter {
  public:
   virtual ~Presenter();
@@ -22,41 +22,41 @@ class Presenter {
   Presenter& operator=(const Presenter&) = delete;
 
   headless::Control& Control() const { return control_; }
-  /// The widget; null when whoever embedded it has deleted it.
+  /// The widget; null after the window that it is embedded in was deleted.
   QWidget* Widget() const { return widget_; }
-  /// The widget now has the state of the control.
+  /// Copies the state of the control to the widget.
   void Sync();
-  /// The keyboard goes to the control.
+  /// Moves the keyboard focus to the widget.
   virtual void TakeFocus() { widget_->setFocus(Qt::OtherFocusReason); }
-  /// Whether the widget can show the control as it is now; if not, another presenter is made for it.
+  /// Whether the widget can show the control; if not, the presenter is replaced.
   virtual bool Fits() const { return true; }
-  /// The next control of the panel, which a label names.
+  /// Called with the next control of the panel, which a label names.
   virtual void Precedes(const Presenter& /*next*/) {}
-  /// Looks at an event of the widget before the widget does; true keeps it from there.
+  /// Filters an event of the widget; true stops it.
   virtual bool Filter(QObject& watched, QEvent& event);
 
  protected:
-  /// Takes the widget over and watches its events.
+  /// Watches the widget's events.
   Presenter(WidgetMirror& mirror, headless::Control& control, QWidget* widget);
 
-  /// What is special about this kind of control.
+  /// Copies the state of this class of control.
   virtual void SyncOwn() = 0;
-  /// Place, parent and visibility; windows have rules of their own.
+  /// Copies bounds, parent and visibility.
   virtual void SyncPlace();
-  /// The control's text where it has one, for those who cannot see it.
+  /// The text for screen readers.
   virtual QString AccessibleName() const;
   /// The colour that leaves the background to the style.
   virtual orvik::platform::Color PlainBackColor() const { return orvik::platform::kButtonFace; }
 
   WidgetMirror& GetMirror() const { return mirror_; }
-  /// Has the mirror send the object's events here.
+  /// Makes the mirror pass the object's events to `Filter`.
   void WatchEvents(QObject& object);
-  /// Has the handler called at the signal, for as long as the presenter lives: the widget may live longer.
+  /// Connects the signal until the presenter is destroyed; the widget may live longer.
   template <class Sender, class Signal, class Handler>
   void When(Sender* sender, Signal signal, Handler handler) {
     QObject::connect(sender, signal, &listener_, std::move(handler));
   }
-  /// Puts the action into the message queue, unless it is the screen itself that changes the widget.
+  /// Posts the user's action, unless the mirror itself is changing the widget.
   void ForwardToControl(std::function<void(headless::Control&)> action);
 
  private:
@@ -69,7 +69,7 @@ class Presenter {
   QObject listener_;
 };
 
-/// A presenter that knows the class of its control and of its widget.
+/// A presenter with typed access to its control and widget.
 template <class Model, class Shown>
 class PresenterFor : public Presenter {
  protected:
@@ -78,7 +78,7 @@ class PresenterFor : public Presenter {
 
   Model& GetModel() const { return static_cast<Model&>(Control()); }
   Shown& GetShown() const { return *shown_; }
-  /// The person has done something; `action` brings it to the model.
+  /// Posts the user's `action` on the model.
   template <class Action>
   void Forward(Action action) {
     ForwardToControl(

@@ -11,7 +11,7 @@ namespace bench::qt {
 class Presenter;
 class WidgetMirror;
 
-/// The presenter for the control's class; empty for what shows nothing.
+/// Creates the presenter for the control's class; empty for invisible controls.
 std::unique_ptr<Presenter> MakePresenter(WidgetMirror& mirror, headless::Control& control);
 
 }  // namespace bench::qt

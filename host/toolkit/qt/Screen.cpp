@@ -19,7 +19,8 @@ Screen::~Screen() = default;
 QWidget* Screen::Embed(const std::shared_ptr<orvik::platform::IForm>& form, QWidget* parent) {
   const auto embedded = std::dynamic_pointer_cast<headless::Form>(form);
   if (!embedded || !parent)
-    headless::Fail(orvik::HostError::kInvalidArgument, "a form of the application is embedded in a window");
+    headless::Fail(orvik::HostError::kInvalidArgument,
+                   "only a form of the application can be embedded, and only in a window");
   return mirror_->Embed(*embedded, parent);
 }
 

@@ -17,17 +17,17 @@ class Application;
 
 namespace bench::qt {
 
-/// What sizes the layout goes by.
+/// The sizes that the layout uses.
 enum class Measure {
-  kFont,   ///< those of the screen's font and style
-  kPlain,  ///< those that windows have without a screen
+  kFont,   ///< of the screen's font and style
+  kPlain,  ///< the same as without a screen
 };
 
 class WidgetMirror;
 
-/// Shows the windows of an application on the real screen, and brings to them what the person does there. The
-/// windows themselves decide everything; this mirrors their state. Needs a QApplication that lives longer.
-/// When the screen goes, windows that are open vanish, and the application is without a screen again.
+/// Shows the windows of an application on the real screen and forwards user actions to them. The windows
+/// decide everything; this only mirrors their state. Needs a QApplication that lives longer. The destructor
+/// removes open windows from the screen; the application continues without one.
 class Screen {
  public:
   explicit Screen(std::shared_ptr<headless::Application> application, Measure measure = Measure::kFont);
@@ -35,27 +35,26 @@ class Screen {
   Screen& operator=(const Screen&) = delete;
   ~Screen();
 
-  /// The widget of a form, to be shown inside a window of the host's own; the form is then no window of its
-  /// own. It becomes visible with the form, and the form takes the size that the host's layout gives it. The
-  /// screen keeps owning it: it vanishes when the form is unloaded.
+  /// Embeds a form as a widget in a window of the host. The widget is visible while the form is, and the form
+  /// has the size that the host's layout sets. The screen owns the widget and deletes it when the form is
+  /// unloaded.
   QWidget* Embed(const std::shared_ptr<orvik::platform::IForm>& form, QWidget* parent);
-  /// The widget of a control that stands in a window which has been shown, or null.
+  /// The widget of a control in a window that has been shown, or null.
   QWidget* WidgetOf(const orvik::platform::IControl& control) const;
 
-  /// Names the host's own window. The application's windows stand above it, and never block it, not even
-  /// modal ones: what it offers meanwhile, such as to stop what goes on, is for the host to say.
+  /// Sets the host's own window. The application's windows are above it but never block it, not even modal
+  /// ones, so that it can offer to stop a run.
   void SetHostWindow(QWidget* window);
 
-  /// Errors that handlers of windows, timers and ports throw end here. Without a handler they go to whoever
+  /// Sets the handler for errors of windows, timers and ports. Without one they are thrown to the caller that
   /// processes messages.
   void SetErrorHandler(std::function<void(const std::string&)> handler);
 
-  /// Shows now what has changed; otherwise that is done whenever messages are processed. False when it has to
-  /// wait until what a person did has reached the windows.
+  /// Shows changes now instead of at the next message processing. False if user actions are still pending,
+  /// which come first.
   bool Update();
 
-  /// Runs until `Quit`, sleeping in Qt; what waits inside (a modal form, a measurement) comes to its end
-  /// first.
+  /// Runs until `Quit`, sleeping in Qt; nested waits (a modal form, a measurement) end first.
   void Exec();
   void Quit();
 

@@ -46,7 +46,7 @@ bool ButtonPresenter::Filter(QObject& watched, QEvent& event) {
 
 PictureBoxPresenter::PictureBoxPresenter(WidgetMirror& mirror, headless::Control& control)
     : PresenterFor(mirror, control, new QLabel) {
-  // A bitmap's pixel has a fixed length, whatever the screen's resolution.
+  // A bitmap's pixel has a fixed length, independent of the screen's resolution.
   GetShown().setScaledContents(true);
 }
 

@@ -20,7 +20,7 @@ TabsPresenter::TabsPresenter(WidgetMirror& mirror, headless::Control& control)
 void TabsPresenter::SyncOwn() {
   const headless::Tabs& model = GetModel();
   const auto keys = model.Keys();
-  // Pages are added and never taken away.
+  // Pages are never removed.
   while (bar_.count() < static_cast<int>(keys.size())) bar_.addTab(QString());
   for (int place = 0; place < bar_.count(); ++place) {
     const auto& key = keys[static_cast<std::size_t>(place)];

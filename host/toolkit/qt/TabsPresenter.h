@@ -10,7 +10,7 @@
 
 namespace bench::qt {
 
-/// A bar of captions above the pages, which are panels that the model places below it.
+/// A tab bar; the model places the pages below it.
 class TabsPresenter final : public PresenterFor<headless::Tabs, QWidget> {
  public:
   TabsPresenter(WidgetMirror& mirror, headless::Control& control);

@@ -44,7 +44,7 @@ void TextBoxPresenter::SyncOwn() {
   }
   line_->setReadOnly(locked);
   if (line_->text() == text) return;
-  // Whoever types on goes on typing where he was.
+  // Keeps the cursor in place for further typing.
   const int cursor = line_->cursorPosition();
   line_->setText(text);
   line_->setCursorPosition(std::min(cursor, static_cast<int>(text.size())));

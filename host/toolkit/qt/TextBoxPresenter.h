@@ -10,7 +10,7 @@ class QPlainTextEdit;
 
 namespace bench::qt {
 
-/// One line or several, in the widget for it.
+/// A line edit or a multi-line edit.
 class TextBoxPresenter final : public PresenterFor<headless::TextBox, QWidget> {
  public:
   TextBoxPresenter(WidgetMirror& mirror, headless::Control& control);
@@ -23,7 +23,7 @@ class TextBoxPresenter final : public PresenterFor<headless::TextBox, QWidget> {
  private:
   void Typed(const QString& text);
 
-  // One of the two.
+  // One of them is null.
   QLineEdit* line_ = nullptr;
   QPlainTextEdit* lines_ = nullptr;
 };

@@ -17,7 +17,7 @@ ToolbarPresenter::ToolbarPresenter(WidgetMirror& mirror, headless::Control& cont
 }
 
 void ToolbarPresenter::SyncOwn() {
-  // Commands are added and never taken away.
+  // Commands are never removed.
   const std::size_t known = commands_.size();
   commands_ = GetModel().Commands();
   AddFrom(known);

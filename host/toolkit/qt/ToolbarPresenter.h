@@ -13,7 +13,7 @@ class QToolButton;
 
 namespace bench::qt {
 
-/// A row of buttons, named "TOOLBAR.COMMAND"; those with entries drop down a menu of them.
+/// A row of buttons named "TOOLBAR.COMMAND"; buttons with entries open a menu.
 class ToolbarPresenter final : public PresenterFor<headless::Toolbar, QWidget> {
  public:
   ToolbarPresenter(WidgetMirror& mirror, headless::Control& control);

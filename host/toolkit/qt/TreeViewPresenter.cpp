@@ -7,7 +7,7 @@
 namespace bench::qt {
 namespace {
 
-// Where an item keeps its node's key.
+// The role of the node's key.
 constexpr int kKeyRole = Qt::UserRole;
 
 }  // namespace
@@ -18,7 +18,7 @@ TreeViewPresenter::TreeViewPresenter(WidgetMirror& mirror, headless::Control& co
   GetShown().setHeaderHidden(true);
   GetShown().setRootIsDecorated(false);
   GetShown().setUniformRowHeights(true);
-  // A person changes nothing but check marks.
+  // Users can only change check marks.
   When(&GetShown(), &QTreeWidget::itemChanged, [this](QTreeWidgetItem* item) {
     Forward([key = FromQt(item->data(0, kKeyRole).toString())](headless::TreeView& tree) {
       tree.ClickNode(key);

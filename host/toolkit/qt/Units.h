@@ -7,17 +7,17 @@
 
 namespace bench::qt {
 
-/// Lengths of the windows in twips, 1,440 an inch, against pixels of the screen by its logical resolution.
+/// Converts between twips (1,440 an inch) and pixels of the screen's logical resolution.
 class Units {
  public:
-  /// Of the first screen as it is now.
+  /// Uses the current resolution of the primary screen.
   Units();
 
   int Pixels(orvik::platform::Twips length) const;
   /// Edges are rounded, not lengths, so that neighbours stay neighbours.
   QRect Pixels(const orvik::platform::Rect& rect) const;
   QSize Pixels(const orvik::platform::Size& size) const;
-  /// Rounded up: what is measured in pixels fits when it comes back.
+  /// Rounded up, so that a size measured in pixels fits.
   orvik::platform::Twips Twips(int pixels) const;
   orvik::platform::Size Twips(const QSize& size) const;
 

@@ -18,7 +18,7 @@ namespace bench::qt {
 
 using orvik::platform::WindowHandle;
 
-/// Sends the events of widgets to their presenters.
+/// Passes the events of widgets to their presenters.
 class WidgetMirror::EventFilter final : public QObject {
  public:
   explicit EventFilter(WidgetMirror& mirror) : mirror_(mirror) {}
@@ -32,7 +32,7 @@ class WidgetMirror::EventFilter final : public QObject {
   WidgetMirror& mirror_;
 };
 
-/// Looks after the host's own window.
+/// Watches the host's own window.
 class WidgetMirror::HostWatch final : public QObject {
  public:
   explicit HostWatch(WidgetMirror& mirror) : mirror_(mirror) {}
@@ -40,10 +40,10 @@ class WidgetMirror::HostWatch final : public QObject {
   bool eventFilter(QObject*, QEvent* event) override {
     switch (event->type()) {
       case QEvent::Show:
-        // The native window sees what is done to everything inside.
+        // The native window gets the input events of everything inside.
         if (auto* window = mirror_.hostWindow_->windowHandle()) window->installEventFilter(this);
         break;
-      // Not when it becomes active: window managers do that in passing while they minimise both.
+      // Not on activation: window managers activate it briefly while they minimise both.
       case QEvent::MouseButtonPress:
       case QEvent::KeyPress:
         mirror_.RestoreMinimised();
@@ -83,11 +83,11 @@ WidgetMirror::~WidgetMirror() {
 
 void WidgetMirror::Changed(headless::Control& control) {
   changed_.insert_or_assign(control.Handle(), control.weak_from_this());
-  // It may have been changed by whom Qt has called: the sleep that is on does not know.
+  // The change may come from a handler of Qt during a sleep, which must end then.
   dispatcher_.LookAgain();
 }
 
-void WidgetMirror::Gone(const headless::Control& control) {
+void WidgetMirror::Destroyed(const headless::Control& control) {
   changed_.erase(control.Handle());
   embedded_.erase(control.Handle());
   Discard(control.Handle());
@@ -178,11 +178,11 @@ void WidgetMirror::Discard(WindowHandle handle) {
   const auto found = presenters_.find(handle);
   if (found == presenters_.end()) return;
   QWidget* widget = found->second->Widget();
-  // The control may be half gone: nobody may ask it anything while its widget goes.
+  // The control may be partly destroyed: it must not be called while its widget is removed.
   presenters_.erase(found);
   if (!widget) return;
   const bool updating = std::exchange(updating_, true);
-  // Menus and lists that are open go too.
+  // Closes open menus and lists too.
   for (QWidget* inner : widget->findChildren<QWidget*>()) {
     if (inner->isWindow()) inner->close();
   }
@@ -195,7 +195,7 @@ void WidgetMirror::Discard(WindowHandle handle) {
 }
 
 void WidgetMirror::RemoveDeleted() {
-  // A window of the host's own takes what is embedded in it along.
+  // A deleted window of the host has deleted the widgets embedded in it.
   if (embedded_.empty()) return;
   std::erase_if(embedded_, [](const auto& entry) { return !entry.second; });
   std::erase_if(presenters_, [](const auto& entry) { return !entry.second->Widget(); });
@@ -250,7 +250,7 @@ void WidgetMirror::RestoreMinimised() {
 }
 
 QWidget* WidgetMirror::OwnerOfNext(const headless::Form& form) const {
-  // The windows here are modal among themselves only, so a modal one is the host's.
+  // With a host window, only dialogs of the host are modal for Qt.
   if (QWidget* question = hostWindow_ ? QApplication::activeModalWidget() : nullptr) return question;
   const headless::Form* owner = nullptr;
   for (const auto& [handle, presenter] : presenters_) {
@@ -272,7 +272,7 @@ void WidgetMirror::Enqueue(headless::Control& control, std::function<void(headle
   ++*pendingActions_;
   application_->Post([this, on = std::weak_ptr<int>(pendingActions_), to = control.weak_from_this(),
                       action = std::move(action)] {
-    // The mirror may be gone by now, and the control too.
+    // Mirror and control may have been destroyed.
     const auto here = on.lock();
     if (!here) return;
     --*here;
@@ -286,7 +286,7 @@ void WidgetMirror::Run(headless::Control& control, const std::function<void(head
     action(control);
   } catch (...) {
     if (here.expired()) throw;
-    // What the model refused stands in the widget all the same.
+    // The widget still shows the rejected value; schedule an update.
     Changed(control);
     return ReportError();
   }
@@ -309,7 +309,7 @@ void WidgetMirror::PreviewKey(headless::Control& control, const QKeyEvent& event
   const int key = KeyOf(event);
   const QWidget* widget = Find(control.Handle())->Widget();
   const QWidget* focused = widget->window()->focusWidget();
-  // What the focused control leaves to those padding it has been seen already.
+  // A key that the focused control did not handle was previewed already.
   if (focused && focused != widget) return;
   if (!form || !form->KeyPreview() || key == 0 || event.isAutoRepeat()) return;
   Forward(*form, [key, shift = ShiftOf(event)](headless::Control& target) {
@@ -323,7 +323,7 @@ void WidgetMirror::Watch(QObject& object, Presenter& presenter) {
 }
 
 void WidgetMirror::Unwatch(const Presenter& presenter) {
-  // Filters of objects that are gone have gone with them; the others are asked no more.
+  // Objects that are gone have removed their filters; the others no longer find a presenter.
   std::erase_if(watched_, [&](const auto& entry) { return entry.second == &presenter; });
 }
 

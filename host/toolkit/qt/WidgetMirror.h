@@ -29,15 +29,15 @@ namespace bench::qt {
 
 class Presenter;
 
-/// Everything that is on the screen: the presenters of all windows that have been shown, what has changed
-/// since they were last brought up to date, and the way back to the model.
+/// Mirrors the windows as widgets: owns the presenters of all windows that have been shown, records changes
+/// until the next update, and forwards user actions to the model.
 class WidgetMirror final : public headless::IScreen {
  public:
   WidgetMirror(std::shared_ptr<headless::Application> application, Measure measure);
   ~WidgetMirror() override;
 
   void Changed(headless::Control& control) override;
-  void Gone(const headless::Control& control) override;
+  void Destroyed(const headless::Control& control) override;
   const headless::IMetrics& Metrics() const override { return *metrics_; }
   void Watch(const std::vector<int>& descriptors) override { dispatcher_.Watch(descriptors); }
   void WorkAdded() override { dispatcher_.WorkAdded(); }
@@ -48,34 +48,32 @@ class WidgetMirror final : public headless::IScreen {
   }
   void SetHostWindow(QWidget* window);
   QWidget* HostWindow() const { return hostWindow_; }
-  /// Brings all widgets up to date. While something that the person did is still on its way to the model,
-  /// that waits, and the answer is false: the model is behind the widgets.
+  /// Updates all widgets. Returns false while user actions are pending: the widgets are then ahead of the
+  /// model.
   bool Update();
   void Exec();
   void Quit();
   QWidget* Embed(headless::Form& form, QWidget* parent);
 
-  /// The presenter of a window, or null while it is not shown.
+  /// The presenter of a window, or null if it is not shown.
   Presenter* Find(orvik::platform::WindowHandle handle) const;
   const Units& GetUnits() const { return units_; }
   headless::Application& Application() const { return *application_; }
-  /// Where the form is embedded, or null.
+  /// The widget that the form is embedded in, or null.
   QWidget* EmbeddedIn(const headless::Form& form) const;
-  /// The widget above which a window that appears now belongs, or null: the window shown last, or else the
-  /// host's own. A question of the host that is open comes first, or it would be covered.
+  /// The owner for a window that appears now, or null: an open dialog of the host, which would be covered
+  /// otherwise, else the window shown last, else the host's own.
   QWidget* OwnerOfNext(const headless::Form& form) const;
-  /// Brings back windows that were minimised without the host's own: what waits for the person must be seen.
+  /// Restores windows that were minimised without the host's own, since they may wait for the user.
   void RestoreMinimised();
 
-  /// Puts the action of a person into the message queue. While widgets are being brought up to date nothing
-  /// comes from a person, and nothing is put there.
+  /// Posts an action of the user. Does nothing during an update, when the mirror itself changes the widgets.
   void Forward(headless::Control& control, std::function<void(headless::Control&)> action);
-  /// Puts the action there in any case.
+  /// Posts an action in any case.
   void Enqueue(headless::Control& control, std::function<void(headless::Control&)> action);
-  /// The key comes first to the form, if that wants it.
+  /// Lets the form preview the key.
   void PreviewKey(headless::Control& control, const QKeyEvent& event);
-  /// The form's window has become the active one, or should be: the focus is brought to where the model has
-  /// it.
+  /// Sets active window and focus as in the model again, after Qt has changed them.
   void RestoreFocus();
   void Watch(QObject& object, Presenter& presenter);
   void Unwatch(const Presenter& presenter);
@@ -101,17 +99,17 @@ class WidgetMirror final : public headless::IScreen {
   std::function<void(const std::string&)> errorHandler_;
   std::unique_ptr<EventFilter> filter_;
   std::unordered_map<QObject*, Presenter*> watched_;
-  // Outer windows were made before inner ones, so they come first.
+  // By handle: outer windows are created before inner ones.
   std::map<orvik::platform::WindowHandle, std::weak_ptr<headless::Control>> changed_;
   std::map<orvik::platform::WindowHandle, std::unique_ptr<Presenter>> presenters_;
   std::map<orvik::platform::WindowHandle, QPointer<QWidget>> embedded_;
-  // Widgets without a control that Qt may still have on its stack.
+  // Widgets of destroyed controls that Qt may still use on the stack.
   std::vector<QPointer<QWidget>> discarded_;
   orvik::platform::WindowHandle shownActive_ = 0;
   orvik::platform::WindowHandle shownFocus_ = 0;
   bool updating_ = false;
   bool quit_ = false;
-  // What is posted looks whether the mirror is still there; the number of what is on its way.
+  // The number of posted actions; they hold it weakly to detect that the mirror is gone.
   std::shared_ptr<int> pendingActions_ = std::make_shared<int>(0);
   EventDispatcher dispatcher_;
 };
