@@ -18,13 +18,13 @@ bool Contains(const Texts& texts, const std::string& text) {
   return std::find(texts.begin(), texts.end(), text) != texts.end();
 }
 
-/// Whether no tester that has entered remote mode was left in it.
+/// Whether the tester is out of remote mode, and any session was ended by "EREM".
 bool SessionIsOver(LinkBench& link) {
   const bool entered = Contains(link.Bench().Wire().Received(), "irem,0.1,0,Ohm");
   return !link.Bench().Tester().InRemoteMode() && (!entered || link.Sent().back() == "EREM");
 }
 
-/// How the tester behaves whose run is disturbed.
+/// The behaviour of the tester.
 enum class Kind { kGood, kSlow, kMute };
 
 void Set(LinkBench& link, Kind kind) {
@@ -49,7 +49,7 @@ void AtEveryPump(Kind kind, const std::function<void(LinkBench&)>& action,
     Set(link, kind);
     link.Link()->ConnectMTI();
     const auto done = link.AtPump(pumps, [&] { action(link); });
-    // Not held here: the action may let go of the last reference.
+    // Not held here: the action may release the last reference.
     link.Link()->RunMtiTest(410, 0);
     reached = *done;
     if (reached) check(link);
@@ -58,6 +58,13 @@ void AtEveryPump(Kind kind, const std::function<void(LinkBench&)>& action,
   EXPECT_GT(pumps, 6);
   EXPECT_LT(pumps, kMostPumps);
 }
+
+/// A connected link.
+class ReentryOrderTest : public testing::Test {
+ protected:
+  ReentryOrderTest() { link_.Link()->ConnectMTI(); }
+  LinkBench link_;
+};
 
 class ReentryTest : public testing::TestWithParam<Kind> {};
 
@@ -173,7 +180,7 @@ TEST_P(ReentryTest, ReconnectedPortGetsNothingOfTheFirstRun) {
       [&](LinkBench& link) { EXPECT_EQ(link.Sent().size(), sent); });
 }
 
-TEST(ReentryOrderTest, RunAfterReconnectInsideAWaitIsComplete) {
+TEST(ReentryRunTest, RunAfterReconnectInsideAWaitIsComplete) {
   AtEveryPump(
       Kind::kGood,
       [](LinkBench& link) {
@@ -217,7 +224,7 @@ class EventReentryTest : public testing::TestWithParam<int> {
     };
     link_.onData = [act](const keld::MtiDataArray&) { act(); };
     link_.onResult = [act](std::int32_t&, std::int16_t) { act(); };
-    // Not held here: the action may let go of the last reference.
+    // Not held here: the action may release the last reference.
     link_.Link()->RunMtiTest(410, 0);
   }
 
@@ -271,28 +278,24 @@ TEST_P(EventReentryTest, AnotherRunFromAHandler) {
 
 INSTANTIATE_TEST_SUITE_P(Events, EventReentryTest, testing::Range(0, 4));
 
-TEST(ReentryOrderTest, InterruptedRunLeavesTheSessionOpen) {
-  LinkBench link;
-  link.Link()->ConnectMTI();
-  link.At(milliseconds(4000), [&] { link.Link()->RunMtiTest(420, 0); });
-  Set(link, Kind::kSlow);
-  link.Link()->RunMtiTest(410, 0);
-  EXPECT_EQ(link.Raised().back(), "7 0");
-  link.Restart();
-  link.Link()->DisconnectMTI();
-  EXPECT_EQ(link.Sent(), (Texts{"STST,210,0", "EREM"}));
+TEST_F(ReentryOrderTest, InterruptedRunLeavesTheSessionOpen) {
+  link_.At(milliseconds(4000), [&] { link_.Link()->RunMtiTest(420, 0); });
+  Set(link_, Kind::kSlow);
+  link_.Link()->RunMtiTest(410, 0);
+  EXPECT_EQ(link_.Raised().back(), "7 0");
+  link_.Restart();
+  link_.Link()->DisconnectMTI();
+  EXPECT_EQ(link_.Sent(), (Texts{"STST,210,0", "EREM"}));
 }
 
-TEST(ReentryOrderTest, EveryHandlerGetsTheIdentity) {
-  LinkBench link;
-  link.Link()->ConnectMTI();
-  link.Script(GoodAnswers());
-  link.onData = [&](const keld::MtiDataArray&) { link.Link()->DisconnectMTI(); };
+TEST_F(ReentryOrderTest, EveryHandlerGetsTheIdentity) {
+  link_.Script(GoodAnswers());
+  link_.onData = [&](const keld::MtiDataArray&) { link_.Link()->DisconnectMTI(); };
   keld::MtiDataArray heard;
   const auto second =
-      link.Link()->GotMtiData().Subscribe([&](const keld::MtiDataArray& data) { heard = data; });
-  link.Link()->RunMtiTest(410, 0);
-  EXPECT_EQ(link.Sent().back(), "EREM");
+      link_.Link()->GotMtiData().Subscribe([&](const keld::MtiDataArray& data) { heard = data; });
+  link_.Link()->RunMtiTest(410, 0);
+  EXPECT_EQ(link_.Sent().back(), "EREM");
   EXPECT_EQ(heard[1], orvik::Variant(std::string("4711")));
 }
 
@@ -305,18 +308,16 @@ void AnswerSlowly(LinkBench& link) {
   });
 }
 
-TEST(ReentryOrderTest, DisconnectDuringIremWaitsAndEndsTheSession) {
-  LinkBench link;
-  link.Link()->ConnectMTI();
-  AnswerSlowly(link);
-  link.At(milliseconds(4000), [&] { link.Link()->DisconnectMTI(); });
-  link.Link()->RunMtiTest(410, 0);
-  EXPECT_EQ(link.SentAt(),
+TEST_F(ReentryOrderTest, DisconnectDuringIremWaitsAndEndsTheSession) {
+  AnswerSlowly(link_);
+  link_.At(milliseconds(4000), [&] { link_.Link()->DisconnectMTI(); });
+  link_.Link()->RunMtiTest(410, 0);
+  EXPECT_EQ(link_.SentAt(),
             (std::vector{milliseconds(3500), milliseconds(5000 + 3500), milliseconds(5000 + 7000)}));
-  EXPECT_EQ(link.Raised(), (Texts{"4 210", "2 0", "7 0"}));
+  EXPECT_EQ(link_.Raised(), (Texts{"4 210", "2 0", "7 0"}));
 }
 
-TEST(ReentryOrderTest, StrayMessagesDoNotEndTheWaitForIrem) {
+TEST(ReentryRunTest, StrayMessagesDoNotEndTheWaitForIrem) {
   for (const Texts& stray : {Texts{"gres,410,0,1,0,Ohm"}, Texts{"stst", "erem", "ERRM,1003"}}) {
     LinkBench link;
     link.Link()->ConnectMTI();
@@ -332,50 +333,42 @@ TEST(ReentryOrderTest, StrayMessagesDoNotEndTheWaitForIrem) {
   }
 }
 
-TEST(ReentryOrderTest, ManyStrayMessagesDoNotExtendTheTimeOut) {
-  LinkBench link;
-  link.Link()->ConnectMTI();
-  link.Script({});
-  link.At(milliseconds(4000), [&] {
-    for (int i = 0; i < 100; ++i) link.Bench().Line().Reply("stst", milliseconds(50 * i));
-    link.Link()->DisconnectMTI();
+TEST_F(ReentryOrderTest, ManyStrayMessagesDoNotExtendTheTimeOut) {
+  link_.Script({});
+  link_.At(milliseconds(4000), [&] {
+    for (int i = 0; i < 100; ++i) link_.Bench().Line().Reply("stst", milliseconds(50 * i));
+    link_.Link()->DisconnectMTI();
   });
-  link.Link()->RunMtiTest(410, 0);
-  EXPECT_EQ(link.Elapsed(), milliseconds(5500));
-  EXPECT_EQ(link.Raised(), (Texts{"MessageSent 6 0 0", "7 0"}));
+  link_.Link()->RunMtiTest(410, 0);
+  EXPECT_EQ(link_.Elapsed(), milliseconds(5500));
+  EXPECT_EQ(link_.Raised(), (Texts{"MessageSent 6 0 0", "7 0"}));
 }
 
-TEST(ReentryOrderTest, UnplugEndsTheWaitForIrem) {
-  LinkBench link;
-  link.Link()->ConnectMTI();
-  link.Script({});
-  link.At(milliseconds(4000), [&] {
-    link.Bench().Line().Reply("stst");
-    link.At(milliseconds(500), [&] { link.Bench().Line().Unplug(); });
-    link.Link()->DisconnectMTI();
+TEST_F(ReentryOrderTest, UnplugEndsTheWaitForIrem) {
+  link_.Script({});
+  link_.At(milliseconds(4000), [&] {
+    link_.Bench().Line().Reply("stst");
+    link_.At(milliseconds(500), [&] { link_.Bench().Line().Unplug(); });
+    link_.Link()->DisconnectMTI();
   });
-  link.Link()->RunMtiTest(410, 0);
-  EXPECT_EQ(link.Elapsed(), milliseconds(4500));
+  link_.Link()->RunMtiTest(410, 0);
+  EXPECT_EQ(link_.Elapsed(), milliseconds(4500));
 }
 
-TEST(ReentryOrderTest, WaitForIremEndsAtTheTimeOut) {
-  LinkBench link;
-  link.Link()->ConnectMTI();
-  link.Script({});
-  link.At(milliseconds(4000), [&] { link.Link()->DisconnectMTI(); });
-  link.Link()->RunMtiTest(410, 0);
-  EXPECT_EQ(link.Elapsed(), milliseconds(5500));
-  EXPECT_EQ(link.Raised(), (Texts{"MessageSent 6 0 0", "7 0"}));
+TEST_F(ReentryOrderTest, WaitForIremEndsAtTheTimeOut) {
+  link_.Script({});
+  link_.At(milliseconds(4000), [&] { link_.Link()->DisconnectMTI(); });
+  link_.Link()->RunMtiTest(410, 0);
+  EXPECT_EQ(link_.Elapsed(), milliseconds(5500));
+  EXPECT_EQ(link_.Raised(), (Texts{"MessageSent 6 0 0", "7 0"}));
 }
 
-TEST(ReentryOrderTest, DisconnectInTheFirstPauseEndsIt) {
-  LinkBench link;
-  link.Link()->ConnectMTI();
-  link.At(milliseconds(1000), [&] { link.Link()->DisconnectMTI(); });
-  link.Link()->RunMtiTest(410, 0);
-  EXPECT_TRUE(link.Sent().empty());
-  EXPECT_EQ(link.Elapsed(), milliseconds(1000));
-  EXPECT_EQ(link.Raised(), (Texts{"MessageSent 6 0 0", "7 0"}));
+TEST_F(ReentryOrderTest, DisconnectInTheFirstPauseEndsIt) {
+  link_.At(milliseconds(1000), [&] { link_.Link()->DisconnectMTI(); });
+  link_.Link()->RunMtiTest(410, 0);
+  EXPECT_TRUE(link_.Sent().empty());
+  EXPECT_EQ(link_.Elapsed(), milliseconds(1000));
+  EXPECT_EQ(link_.Raised(), (Texts{"MessageSent 6 0 0", "7 0"}));
 }
 
 }  // namespace

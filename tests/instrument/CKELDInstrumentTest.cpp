@@ -17,9 +17,7 @@ class CKELDInstrumentTest : public testing::Test {
   keld::CKELDInstrument& Link() { return *link_.Link(); }
   /// Brings the link into remote mode and forgets how.
   void EnterRemote() {
-    Link().ConnectMTI();
-    link_.Script(GoodAnswers());
-    Link().RunMtiTest(410, 0);
+    link_.Run(GoodAnswers());
     ASSERT_EQ(link_.Raised().back(), "5 410");
     link_.Restart();
   }
@@ -65,9 +63,7 @@ TEST_F(CKELDInstrumentTest, CompleteRunReportsThreeStates) {
 }
 
 TEST_F(CKELDInstrumentTest, EveryCommandIsPrecededByItsPause) {
-  Link().ConnectMTI();
-  link_.Script(GoodAnswers());
-  Link().RunMtiTest(410, 0);
+  link_.Run(GoodAnswers());
   EXPECT_EQ(link_.SentAt(), (std::vector{milliseconds(3500), milliseconds(7000), milliseconds(10500)}));
   EXPECT_EQ(link_.Elapsed(), milliseconds(10500));
 }
@@ -97,18 +93,14 @@ TEST_F(CKELDInstrumentTest, SettingsWithoutALeadAreSentAsZero) {
 TEST_F(CKELDInstrumentTest, IdentityIsRaisedBeforeTheState) {
   keld::MtiDataArray data;
   link_.onData = [&](const keld::MtiDataArray& received) { data = received; };
-  Link().ConnectMTI();
-  link_.Script({{"IREM", {"irem,KELD(IN),4711,1.05"}}, {"STST", {"ERRM,1"}}});
-  Link().RunMtiTest(410, 0);
+  link_.Run({{"IREM", {"irem,KELD(IN),4711,1.05"}}, {"STST", {"ERRM,1"}}});
   EXPECT_EQ(data,
             (keld::MtiDataArray{Text("KELD(IN)"), Text("4711"), Text("1.05"), Text(""), Text("NO VALUE")}));
   EXPECT_EQ(link_.Raised(), (Texts{"GotMtiData", "3 0", "0 410"}));
 }
 
 TEST_F(CKELDInstrumentTest, AnUnansweredCommandIsSentThreeTimes) {
-  Link().ConnectMTI();
-  link_.Script({});
-  Link().RunMtiTest(410, 0);
+  link_.Run({});
   EXPECT_EQ(link_.Sent(), (Texts{"IREM", "IREM", "IREM"}));
   EXPECT_EQ(link_.SentAt(), (std::vector{milliseconds(3500), milliseconds(9000), milliseconds(14500)}));
   EXPECT_EQ(link_.Elapsed(), milliseconds(16500));
@@ -131,12 +123,10 @@ TEST_F(CKELDInstrumentTest, NoAnswerEndsRemoteMode) {
 }
 
 TEST_F(CKELDInstrumentTest, TheThirdAttemptMayStillSucceed) {
-  Link().ConnectMTI();
   auto answers = GoodAnswers();
   answers["IREM"] = {"", "", "irem,KELD(IN),4711,1.05"};
   answers["GRES"] = {"", "gres,410,0,0.123,0,Ohm"};
-  link_.Script(answers);
-  Link().RunMtiTest(410, 0);
+  link_.Run(answers);
   EXPECT_EQ(link_.Sent(), (Texts{"IREM", "IREM", "IREM", "STST,410,0", "GRES,410,0", "GRES,410,0"}));
   EXPECT_EQ(link_.Raised(), (Texts{"GotMtiData", "3 0", "4 410", "5 410"}));
 }
@@ -180,8 +170,7 @@ TEST_F(CKELDInstrumentTest, AnUnexpectedReplyKeepsRemoteModeAndTheData) {
 }
 
 TEST_F(CKELDInstrumentTest, ReplyDuringThePauseCountsAfterTheCommand) {
-  Link().ConnectMTI();
-  link_.Script({});
+  link_.Connect({});
   link_.At(milliseconds(1000), [&] { link_.Bench().Line().Reply("irem,A,B,C"); });
   link_.At(milliseconds(3499), [&] { EXPECT_TRUE(link_.Raised().empty()); });
   Texts sent;
@@ -197,18 +186,15 @@ TEST_F(CKELDInstrumentTest, ReplyDuringThePauseCountsAfterTheCommand) {
 }
 
 TEST_F(CKELDInstrumentTest, ExchangeConsumesOneMessage) {
-  Link().ConnectMTI();
   auto answers = GoodAnswers();
   answers["IREM"] = {"irem,A,B,C\r\nirem,D,E,F"};
-  link_.Script(answers);
-  Link().RunMtiTest(410, 0);
+  link_.Run(answers);
   EXPECT_EQ(link_.Raised(), (Texts{"GotMtiData", "3 0", "1 410"}));
   EXPECT_EQ(Link().MtiData(0), Text("A"));
 }
 
 TEST_F(CKELDInstrumentTest, AHandlerThatChangesTheStateChangesTheRun) {
-  Link().ConnectMTI();
-  link_.Script(GoodAnswers());
+  link_.Connect(GoodAnswers());
   link_.onResult = [](std::int32_t& state, std::int16_t) {
     if (state == CommsState::kTestStarted) state = CommsState::kInstrumentError;
   };
@@ -256,15 +242,12 @@ TEST_F(CKELDInstrumentTest, ALinkCanBeConnectedAgain) {
   EnterRemote();
   Link().DisconnectMTI();
   link_.Restart();
-  Link().ConnectMTI();
-  link_.Script(GoodAnswers());
-  Link().RunMtiTest(410, 0);
+  link_.Run(GoodAnswers());
   EXPECT_EQ(link_.Raised(), (Texts{"GotMtiData", "3 0", "4 410", "5 410"}));
 }
 
 TEST_F(CKELDInstrumentTest, UnplugEndsTheWaitImmediately) {
-  Link().ConnectMTI();
-  link_.Script({});
+  link_.Connect({});
   link_.At(milliseconds(4000), [&] { link_.Bench().Line().Unplug(); });
   Link().RunMtiTest(410, 0);
   EXPECT_EQ(link_.Sent(), (Texts{"IREM"}));
@@ -293,8 +276,7 @@ TEST_F(CKELDInstrumentTest, PortThatCannotBeOpenedCountsAsClosed) {
 }
 
 TEST_F(CKELDInstrumentTest, EveryStateOfATestHasItsNumber) {
-  Link().ConnectMTI();
-  link_.Script({{"IREM", {"irem"}}, {"STST", {"ERRM,6002"}}});
+  link_.Connect({{"IREM", {"irem"}}, {"STST", {"ERRM,6002"}}});
   Link().RunMtiTest(-1, 0);
   EXPECT_EQ(link_.Raised(), (Texts{"GotMtiData", "3 0", "6002 -1"}));
 }

@@ -177,8 +177,7 @@ TEST_F(FaultyLibraryTest, AnyFailingCallEndsTheRunWithoutAResult) {
 }
 
 TEST_F(FaultyLibraryTest, FailingIsOpenKeepsTheLastState) {
-  Link().ConnectMTI();
-  link_.Script({});
+  link_.Connect({});
   link_.At(milliseconds(4000), [&] { faults_->failing = {"IsOpen"}; });
   Link().RunMtiTest(410, 0);
   EXPECT_EQ(link_.Raised(), (Texts{"7 0"}));
@@ -199,8 +198,7 @@ TEST_F(FaultyLibraryTest, UnreadableParametersGiveNoErrorNumber) {
 }
 
 TEST_F(FaultyLibraryTest, AnUnreadableCountReadsAsNoParameters) {
-  Link().ConnectMTI();
-  link_.Script(GoodAnswers());
+  link_.Connect(GoodAnswers());
   link_.onResult = [&](std::int32_t& state, std::int16_t) {
     if (state == CommsState::kTestStarted) faults_->failing = {"ParameterCount"};
   };
@@ -214,9 +212,7 @@ TEST_F(FaultyLibraryTest, DisconnectEndsForAnyFailingCall) {
     SCOPED_TRACE(call);
     faults_->failing.clear();
     Link().DisconnectMTI();
-    Link().ConnectMTI();
-    link_.Script(GoodAnswers());
-    Link().RunMtiTest(410, 0);
+    link_.Run(GoodAnswers());
     link_.Restart();
     faults_->failing = {call};
     Link().DisconnectMTI();
@@ -239,8 +235,7 @@ TEST_F(FaultyLibraryTest, HandlerThatThrowsDoesNotBreakTheLink) {
 }
 
 TEST_F(FaultyLibraryTest, FailingTakeMessageEndsTheWaitForIrem) {
-  Link().ConnectMTI();
-  link_.Script({});
+  link_.Connect({});
   link_.At(milliseconds(4000), [&] {
     faults_->failing = {"TakeMessage"};
     link_.Bench().Line().Reply("stst");
@@ -273,8 +268,7 @@ TEST_F(FaultyLibraryTest, PumpErrorEndsNoPauseAndNoWait) {
 }
 
 TEST_F(FaultyLibraryTest, PumpThatAlwaysFailsEndsTheWaits) {
-  Link().ConnectMTI();
-  link_.Script({});
+  link_.Connect({});
   std::function<void()> fail = [&] {
     link_.Application().Post(fail);
     throw 42;
@@ -286,8 +280,7 @@ TEST_F(FaultyLibraryTest, PumpThatAlwaysFailsEndsTheWaits) {
 }
 
 TEST_F(FaultyLibraryTest, UnloadedClockEndsTheWaits) {
-  Link().ConnectMTI();
-  link_.Script({});
+  link_.Connect({});
   link_.At(milliseconds(1000), [&] {
     for (const auto& form : link_.Application().Forms()) form->Unload();
   });

@@ -20,7 +20,7 @@ using std::chrono::milliseconds;
 namespace CommsState = keld::CommsState;
 using Texts = std::vector<std::string>;
 
-/// A link to the tester at the far end of a line in memory, and everything that it reports.
+/// A link to the tester at the other end of a line in memory, and all events that it raises.
 class LinkBench {
  public:
   explicit LinkBench(support::VirtualBench::Settings settings = {})
@@ -53,7 +53,7 @@ class LinkBench {
   }
 
   /// Puts a script in the tester's place: the lines with which it answers, one after the other, by command
-  /// mnemonic; it stays mute to other commands, and when a list is at its end. An empty line is no answer.
+  /// mnemonic; it does not answer other commands, nor after the end of a list. An empty line means no answer.
   void Script(std::map<std::string, Texts> answers) {
     const auto script = std::make_shared<std::map<std::string, Texts>>(std::move(answers));
     bench_.Line().AnswerBy([this, script](const std::string& command) {
@@ -65,7 +65,18 @@ class LinkBench {
     });
   }
 
-  /// Lets go of the link, as an owner does who has had enough.
+  /// Opens the port, with this script in the tester's place.
+  void Connect(std::map<std::string, Texts> answers) {
+    link_->ConnectMTI();
+    Script(std::move(answers));
+  }
+  /// The same, and one run of test 410.
+  void Run(std::map<std::string, Texts> answers) {
+    Connect(std::move(answers));
+    link_->RunMtiTest(410, 0);
+  }
+
+  /// Releases the link, as its owner does.
   void Release() {
     subscriptions_.clear();
     link_.reset();
@@ -120,7 +131,7 @@ class LinkBench {
   orvik::platform::Subscription pump_;
 };
 
-/// What a tester answers that has nothing to complain of.
+/// The answers of a tester without errors.
 inline std::map<std::string, Texts> GoodAnswers() {
   return {{"IREM", {"irem,KELD(IN),4711,1.05"}},
           {"STST", {"stst,410,0", "stst,210,0"}},
