@@ -14,12 +14,15 @@ namespace {
 
 constexpr double kSmall = 8;
 
+/// The start of a text that is longer than any line: measuring all of it on each page takes too long.
+QString StartOf(const std::string& text) { return Text(text).left(400); }
+
 /// One line of text that ends with "..." where it would be wider.
 void DrawLine(QPainter& painter, const std::string& text, const QRectF& place, const QFont& font,
               const QColor& colour, Qt::AlignmentFlag alignment) {
   painter.setFont(font);
   painter.setPen(colour);
-  const auto shown = QFontMetricsF(font).elidedText(Text(text), Qt::ElideRight, place.width());
+  const auto shown = QFontMetricsF(font).elidedText(StartOf(text), Qt::ElideRight, place.width());
   painter.drawText(place, static_cast<int>(alignment | Qt::AlignAbsolute | Qt::AlignTop) | Qt::TextSingleLine,
                    shown);
 }
@@ -57,7 +60,7 @@ class Header {
 
   static double WidthOf(const std::string& text) {
     constexpr double kRounding = 2;
-    return QFontMetricsF(FontOf(kSmall)).horizontalAdvance(Text(text)) + kRounding;
+    return QFontMetricsF(FontOf(kSmall)).horizontalAdvance(StartOf(text)) + kRounding;
   }
 
   QRectF Line(double from, double to) const { return {kMargin + from, y_, to - from, kLineHeight}; }
