@@ -34,12 +34,12 @@ class Archive {
     std::optional<std::int64_t> limit = {};
   };
 
-  /// Lays the archive out when there is none, and brings an older one up.
+  /// Creates the tables of a new archive, and upgrades an older one.
   explicit Archive(std::unique_ptr<Database> database);
 
   /// Adds a document, in one transaction. It is the same document as one added before when bench, path, asset
   /// and serial number are the same; then it counts as a further revision, unless nothing changed. A copy of
-  /// contents that are there already, under whatever name, is not added.
+  /// contents that are there already, under any name, is not added.
   Receipt Add(const ArchivedDocument& document);
 
   /// The newest by date first.

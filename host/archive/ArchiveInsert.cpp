@@ -9,7 +9,7 @@ namespace {
 
 Value Whole(std::int64_t number) { return number; }
 
-/// What is no finite number is none: the databases differ in what they make of it.
+/// Empty for numbers that are not finite: the databases store them differently.
 Value Real(const std::optional<double>& number) {
   return number && std::isfinite(*number) ? Value(*number) : Value();
 }

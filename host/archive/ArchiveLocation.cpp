@@ -9,10 +9,10 @@ namespace bench {
 
 std::unique_ptr<Database> OpenDatabase(const std::string& location, SqliteDatabase::Missing missing) {
   if (IsPostgreSqlUrl(location)) return std::make_unique<PostgreSqlDatabase>(location);
-  // Not told: there may be a password in it.
+  // The message omits the URL: it may contain a password.
   if (location.find("://") != std::string::npos)
     throw ArchiveError(ArchiveError::Kind::kBadInput,
-                       Tr("there are no archives of this kind of URL; name a file, or "
+                       Tr("archives at this kind of URL are not supported; name a file, or "
                           "postgresql://USER@HOST/DATABASE"));
   return std::make_unique<SqliteDatabase>(location, missing);
 }

@@ -20,7 +20,7 @@ constexpr char kElementDate[] = "CASE WHEN e.run_date = '' THEN d.added ELSE e.r
 /// Results that counted when the document was added: the judge leaves an element without one not tested.
 constexpr char kCounted[] = "e.verdict <> 'not tested'";
 
-/// The results of test $2 of asset $1, each as in the last revision that holds it.
+/// The results of test $2 of asset $1, each from the last revision that has it.
 constexpr char kFromResults[] =
     " FROM orvik_documents d JOIN orvik_elements e ON e.document_id = d.id"
     " LEFT JOIN orvik_measurements m ON m.document_id = e.document_id AND m.position = e.position"
@@ -97,8 +97,8 @@ std::optional<ArchivedDocument> Archive::Find(std::int64_t id) {
   if (Sha256(document.contents) != document.entry.hash)
     throw ArchiveError(
         ArchiveError::Kind::kBadInput,
-        Tr("document %%1 of the archive %%2 is not as it was added: the archive is damaged, or "
-           "was changed by other means (bring back a copy)",
+        Tr("document %%1 of the archive %%2 has changed since it was added: the archive is damaged, or "
+           "another program changed it (restore a copy)",
            {std::to_string(id), Name()}));
   document.elements = ElementsOf(*database_, id);
   transaction.Commit();

@@ -47,8 +47,8 @@ Meaning MeaningOf(const Word<Meaning> (&known)[kCount], const std::string& word)
   for (const auto& [meaning, each] : known)
     if (each == word) return meaning;
   throw ArchiveError(ArchiveError::Kind::kBadInput,
-                     Tr("the archive holds the unknown verdict \"%%1\": it is damaged, or was changed by "
-                        "other means (bring back a copy)",
+                     Tr("the archive has the unknown verdict \"%%1\": it is damaged, or another program "
+                        "changed it (restore a copy)",
                         {word}));
 }
 

@@ -6,7 +6,7 @@
 
 namespace bench::words {
 
-/// What the archive calls verdicts in its tables. The words never change, whatever the programs print.
+/// The names of verdicts in the tables. They never change, unlike the texts that programs print.
 
 std::string Of(judge::Verdict verdict);
 std::string Of(judge::Outcome outcome);

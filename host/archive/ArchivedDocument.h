@@ -17,7 +17,7 @@ struct ArchivedElement {
   std::string runDate;  ///< when the result was made; UTC, ISO; empty without a current one
 };
 
-/// What the archive holds of a document for a list. Texts are valid UTF-8.
+/// What a list shows of a document. Texts are valid UTF-8.
 struct ArchiveEntry {
   std::int64_t id = 0;         ///< given by the archive, from 1
   std::int64_t revision = 0;   ///< given by the archive, from 1

@@ -14,7 +14,7 @@ struct Bytes {
   bool operator==(const Bytes&) const = default;
 };
 
-/// A value that goes into a statement or comes out of it; texts are valid UTF-8 without NUL.
+/// A parameter or a result of a statement; texts are valid UTF-8 without NUL.
 using Value = std::variant<std::monostate, std::int64_t, double, std::string, Bytes>;
 using Row = std::vector<Value>;
 
@@ -31,23 +31,23 @@ class Database {
   Database& operator=(const Database&) = delete;
   virtual ~Database() = default;
 
-  /// Runs one statement with "$1", "$2", ... standing for the values; returns the rows that it answers.
+  /// Runs one statement with the parameters "$1", "$2", ...; returns the resulting rows.
   virtual std::vector<Row> Run(const std::string& statement, const std::vector<Value>& values = {}) = 0;
 
   virtual void Begin(Use use) = 0;
   virtual void Commit() = 0;
-  /// Undoes what was begun. When that cannot be told the database any more, it does so by itself.
+  /// Rolls the transaction back; a database that cannot be reached any more does so by itself.
   virtual void Rollback() noexcept = 0;
 
   virtual bool HasTable(const std::string& name) = 0;
-  /// Whether there is nothing in it that is not ours to mix with, so that an archive may be laid out here.
+  /// Whether an archive may be created here: the database has no tables of other programs.
   virtual bool TakesNewArchive() = 0;
 
   /// The file, or the URL without its password: for messages.
   virtual const std::string& Name() const = 0;
 };
 
-/// A transaction that is undone unless it is committed.
+/// A transaction that is rolled back unless it is committed.
 class Transaction {
  public:
   Transaction(Database& database, Database::Use use) : database_(database) { database_.Begin(use); }
@@ -67,7 +67,7 @@ class Transaction {
   bool open_ = true;
 };
 
-/// Reads the columns of a row one after the other, in the order of the statement.
+/// Reads the columns of a row in the order of the statement.
 class RowReader {
  public:
   explicit RowReader(const Row& row) : row_(row) {}

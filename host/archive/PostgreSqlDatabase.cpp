@@ -20,7 +20,7 @@ namespace {
 
 using Kind = ArchiveError::Kind;
 
-/// Any fixed number does: it names the lock that writers of an archive take in turn.
+/// Any fixed number does: it is the lock that writers of an archive take in turn.
 constexpr char kTakeTurn[] = "SELECT pg_advisory_xact_lock(7164837165)";
 
 /// A server's message in one line of valid text.
@@ -39,12 +39,12 @@ std::string OneLineOf(const char* message) {
 
 }  // namespace
 
-/// The connection to the server. Answers are waited for with an end, so that a server which hangs does not
-/// hang the program.
+/// The connection to the server. Every wait is bounded, so that a server that hangs does not hang the
+/// program.
 class PostgreSqlDatabase::Connection {
  public:
   Connection(const std::string& url, const std::string& name) : pq_(PqLibrary::Get()), name_(name) {
-    // What stands before "dbname" are defaults, which the URL overrides; what stands behind holds.
+    // The URL overrides the parameters before "dbname", and not those after it.
     const char* const keywords[] = {
         "connect_timeout",           "keepalives_idle", "keepalives_interval", "keepalives_count",
         "fallback_application_name", "dbname",          "client_encoding",     nullptr};
@@ -74,7 +74,7 @@ class PostgreSqlDatabase::Connection {
     AwaitAnswer();
     std::vector<Row> rows;
     Result failure{nullptr, pq_.clear};
-    // All that is answered is taken, or the next statement could not be sent.
+    // Reads every answer, or the next statement could not be sent.
     while (Result result{pq_.getResult(connection_), pq_.clear}) {
       const auto status = pq_.resultStatus(result.get());
       if (status == PGRES_TUPLES_OK)
@@ -165,8 +165,8 @@ class PostgreSqlDatabase::Connection {
           Tr("the archive %%1 is in use by another program (try again when that has ended)", {name_}));
     if (code == "42501")
       throw ArchiveError(Kind::kUnreachable,
-                         Tr("the archive %%1 refuses: %%2 (ask whoever runs the server to "
-                            "let this user do that)",
+                         Tr("the archive %%1 refuses: %%2 (ask the server's administrator "
+                            "to permit it)",
                             {name_, reason}));
     if (code == "22P05")
       throw ArchiveError(Kind::kUnreachable,
@@ -174,12 +174,12 @@ class PostgreSqlDatabase::Connection {
                             "ENCODING 'UTF8')",
                             {name_, reason}));
     if (code.starts_with("42") || code.starts_with("23"))
-      throw ArchiveError(Kind::kBadInput, Tr("the archive %%1 is not laid out as an archive is: %%2 (name "
-                                             "another database, or bring back a copy)",
+      throw ArchiveError(Kind::kBadInput, Tr("the archive %%1 lacks tables or columns: %%2 (name another "
+                                             "database, or restore a copy)",
                                              {name_, reason}));
     throw ArchiveError(Kind::kUnreachable,
-                       Tr("the archive %%1 cannot be used: %%2 (what was there before is kept; ask whoever "
-                          "runs the server)",
+                       Tr("the archive %%1 cannot be used: %%2 (earlier documents are kept; ask the "
+                          "server's administrator)",
                           {name_, reason}));
   }
 
@@ -208,7 +208,7 @@ void PostgreSqlDatabase::Begin(Use use) {
   while (!TakeTurn()) continue;
 }
 
-/// False when another program writes, and it is worth trying again.
+/// False if another program writes and `Patience` allows to try again.
 bool PostgreSqlDatabase::TakeTurn() {
   // Each statement sees what was committed before it, so what follows the lock sees all earlier writers.
   Run("BEGIN ISOLATION LEVEL READ COMMITTED", {});
@@ -228,7 +228,7 @@ void PostgreSqlDatabase::Rollback() noexcept {
   try {
     Run("ROLLBACK", {});
   } catch (const ArchiveError&) {
-    // The connection is gone, and with it what was begun.
+    // The connection is lost, which ends the transaction too.
     return;
   }
 }

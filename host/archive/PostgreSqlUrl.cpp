@@ -15,22 +15,21 @@ namespace {
 
 constexpr std::string_view kSchemes[] = {"postgresql://", "postgres://"};
 
-/// The client library's own words are not passed on: they quote the part that they stumbled over, which may
-/// be the password.
+/// Omits the client library's message: it quotes the invalid part, which may be the password.
 [[noreturn]] void Refuse() {
   throw ArchiveError(
       ArchiveError::Kind::kBadInput,
-      Tr("the URL of the archive is not understood; write postgresql://USER@HOST:PORT/DATABASE, "
+      Tr("the URL of the archive is invalid; write postgresql://USER@HOST:PORT/DATABASE, "
          "with %40 for \"@\", %3A for \":\", %2F for \"/\" and %25 for \"%\" inside its parts"));
 }
 
-/// A second "@" is a password with one in it: what stands behind would be taken for the host, and shown.
+/// A second "@" belongs to a password: the rest of it would be taken for the host, and shown.
 bool HasStrayAt(const std::string& url) {
   const auto begin = url.find("://") + 3;
   const auto authority = std::string_view(url).substr(begin, url.find_first_of("/?", begin) - begin);
   const auto rest = std::string_view(url).substr(begin);
   const bool early = std::count(authority.begin(), authority.end(), '@') > 1;
-  // A "/" in a password ends the authority too early; an "@" then stands in what looks like the name.
+  // A "/" in a password ends the authority too early; the "@" is then in what looks like the name.
   const auto path = rest.substr(std::min(rest.size(), authority.size()));
   return early || path.substr(0, path.find('?')).find('@') != std::string_view::npos;
 }
@@ -45,7 +44,7 @@ std::map<std::string, std::string> PartsOf(const std::string& url) {
   std::map<std::string, std::string> parts;
   for (const auto* option = options.get(); option->keyword; ++option)
     if (option->val) parts[option->keyword] = option->val;
-  // "postgresql://USER:PASSWORD" with no host behind it reads as a host and its port.
+  // "postgresql://USER:PASSWORD" without a host parses as a host and its port.
   if (parts["port"].find_first_not_of("0123456789,") != std::string::npos) Refuse();
   return parts;
 }

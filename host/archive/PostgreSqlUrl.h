@@ -4,12 +4,11 @@
 
 namespace bench {
 
-/// Whether the archive named is on a server: "postgresql://..." or "postgres://...".
+/// Whether the location is a server: "postgresql://..." or "postgres://...".
 bool IsPostgreSqlUrl(const std::string& location);
 
-/// The URL of a database for people to read, put together from its user, host, port and name; passwords do
-/// not come into it, wherever they stand. `ArchiveError` for a URL that is not understood, which is not told
-/// either.
+/// The URL of a database for messages: user, host, port and name, never a password. `ArchiveError`, without
+/// the URL, for one that cannot be parsed.
 std::string ShownUrl(const std::string& url);
 
 }  // namespace bench

@@ -65,8 +65,8 @@ constexpr const char* kSecond[] = {
     "CREATE INDEX orvik_elements_by_test ON orvik_elements (test_id, document_id)",
 };
 
-// Results are kept as the judge had them when the document was added. Those of before were not recorded by a
-// run: they are kept, but do not count, and neither does what was noted against them.
+// Results are kept as they were judged when the document was added. Those of earlier versions were not
+// recorded by a run: they are kept, but do not count, and neither do their notes.
 constexpr const char* kThird[] = {
     "ALTER TABLE orvik_documents ADD COLUMN comment TEXT NOT NULL DEFAULT ''",
     "ALTER TABLE orvik_documents ADD COLUMN simulated BIGINT NOT NULL DEFAULT 0",
@@ -97,28 +97,25 @@ constexpr const char* kThird[] = {
     "DROP TABLE orvik_notes",
 };
 
-/// The statements that bring an archive from the version before to the next.
+/// The statements that upgrade an archive by one version each.
 constexpr std::array<std::span<const char* const>, kVersion> kSteps = {kFirst, kSecond, kThird};
 
-/// 0 where there is no archive yet.
+/// 0 without an archive.
 std::int64_t VersionOf(Database& database) {
   if (!database.HasTable("orvik_archive_version")) {
     if (database.TakesNewArchive()) return 0;
-    throw ArchiveError(Kind::kBadInput,
-                       Tr("%%1 holds something else than an archive (name another file)", {database.Name()}));
+    throw ArchiveError(Kind::kBadInput, Tr("%%1 is not an archive (name another file)", {database.Name()}));
   }
   const auto rows = database.Run("SELECT version FROM orvik_archive_version", {});
   const auto* version = rows.size() == 1 ? std::get_if<std::int64_t>(&rows[0].at(0)) : nullptr;
   if (!version || *version < 1)
-    throw ArchiveError(Kind::kBadInput,
-                       Tr("the archive %%1 does not tell its version and is damaged (bring back a copy)",
-                          {database.Name()}));
+    throw ArchiveError(Kind::kBadInput, Tr("the archive %%1 has no version and is damaged (restore a copy)",
+                                           {database.Name()}));
   if (*version > kVersion)
-    throw ArchiveError(
-        Kind::kBadInput,
-        Tr("the archive %%1 was brought up by a newer version of this program (archive version "
-           "%%2, this program reads %%3); use that version",
-           {database.Name(), std::to_string(*version), std::to_string(kVersion)}));
+    throw ArchiveError(Kind::kBadInput,
+                       Tr("the archive %%1 was upgraded by a newer version of this program (archive version "
+                          "%%2, this program reads %%3); use that version",
+                          {database.Name(), std::to_string(*version), std::to_string(kVersion)}));
   return *version;
 }
 

@@ -12,7 +12,7 @@ namespace schema {
 /// The version that this program reads and writes.
 inline constexpr std::int64_t kVersion = 3;
 
-/// Lays out an archive where there is none, and brings an older one up, both in one transaction: other
+/// Creates the tables of a new archive, or upgrades an older one, in one transaction: other
 /// programs see it as it was until then. `ArchiveError` for one that is newer, and for a database that holds
 /// something else; both are left as they are.
 void BringUp(Database& database);

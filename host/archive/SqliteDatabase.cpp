@@ -92,8 +92,8 @@ SqliteDatabase::SqliteDatabase(const std::filesystem::path& file, Missing missin
   database_.reset(opened);
   if (code != SQLITE_OK) Fail(code);
   sqlite3_busy_handler(opened, &SqliteDatabase::OnBusy, this);
-  // The rollback journal, not the write-ahead log: the archive is one file, which can be copied while nobody
-  // writes, and may lie on a network drive. With "extra" the journal's removal is on disk too.
+  // The rollback journal, not the write-ahead log: the archive is one file, which can be copied while no
+  // program writes, and may be on a network drive. "extra" flushes the journal's removal to disk too.
   Run("PRAGMA synchronous = EXTRA", {});
   Run("PRAGMA foreign_keys = ON", {});
 }
@@ -153,8 +153,8 @@ void SqliteDatabase::Fail(int code) const {
     case SQLITE_NOTADB:
     case SQLITE_CORRUPT:
       throw ArchiveError(Kind::kBadInput,
-                         Tr("%%1 is no archive, or is damaged: %%2 (it is left as it is; put a copy in its "
-                            "place, or move it away and add the documents again)",
+                         Tr("%%1 is not an archive, or is damaged: %%2 (it was not changed; restore a copy, "
+                            " or move it away and add the documents again)",
                             {name_, reason}));
     case SQLITE_BUSY:
     case SQLITE_LOCKED:
@@ -174,8 +174,8 @@ void SqliteDatabase::Fail(int code) const {
     case SQLITE_ERROR:
     case SQLITE_CONSTRAINT:
     case SQLITE_MISMATCH:
-      throw ArchiveError(Kind::kBadInput, Tr("the archive %%1 is not laid out as an archive is: %%2 (put a "
-                                             "copy in its place, or name another file)",
+      throw ArchiveError(Kind::kBadInput, Tr("the archive %%1 lacks tables or columns: %%2 (restore a copy, "
+                                             "or name another file)",
                                              {name_, reason}));
     default:
       throw ArchiveError(Kind::kUnreachable, Tr("the archive %%1 cannot be used: %%2", {name_, reason}));

@@ -18,7 +18,7 @@ class Svg {
   void Add(std::string_view name, Attributes attributes);
   /// An element with a text.
   void AddText(std::string_view name, Attributes attributes, std::string_view text);
-  /// An element that goes on until the `Close` of its name.
+  /// Opens an element; `Close` with its name ends it.
   void Open(std::string_view name, Attributes attributes = {});
   void Close(std::string_view name);
 
@@ -30,7 +30,7 @@ class Svg {
   std::string text_ = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n";
 };
 
-/// The text as it stands in XML; control characters, which XML has no room for, are shown by their pictures.
+/// The text escaped for XML; control characters, which XML cannot contain, become their pictures.
 std::string XmlEscaped(std::string_view text);
 
 /// The text, shortened to that many letters.

@@ -23,7 +23,7 @@ std::vector<Tick<double>> NumberTicks(double low, double high);
 /// At most seven.
 std::vector<Tick<Seconds>> DateTicks(Seconds from, Seconds to);
 
-/// A number as short as it can be told, without the rounding in its last digits; no locale has a say.
+/// The number with at most ten digits, in every locale the same.
 std::string NumberText(double number);
 
 }  // namespace bench

@@ -32,7 +32,7 @@ struct Drawn {
   std::optional<double> value;  ///< in the unit of the drawing; none for an overload
 };
 
-/// "A", "B", ... "Z", "AA": short enough to stand beside a line.
+/// "A", "B", ... "Z", "AA": short enough for the label of a line.
 std::string LetterOf(std::size_t index) {
   std::string letters;
   for (++index; index > 0; index = (index - 1) / 26)
@@ -81,7 +81,7 @@ class Chart {
   }
 
  private:
-  /// That of the last reading with a value, or else of the last overload; the others are told in it.
+  /// The unit of the last reading with a value, or else of the last overload; others are converted to it.
   void ChooseUnit() {
     for (const auto& point : trend_.points)
       if (point.Overloaded()) unit_ = point.Unit();
@@ -110,7 +110,7 @@ class Chart {
     *to_ += margin;
     dateTicks_ = DateTicks(*from_, *to_);
 
-    std::vector<double> values{0};  // how far a reading is from 0 is part of what it tells
+    std::vector<double> values{0};  // the distance of a reading from 0 matters
     for (const auto& drawn : drawn_)
       if (drawn.value) values.push_back(*drawn.value);
     for (const auto& stretch : limits_.stretches)
@@ -118,7 +118,7 @@ class Chart {
         if (bound) values.push_back(*bound);
     const auto [low, high] = std::minmax_element(values.begin(), values.end());
     ticks_ = NumberTicks(*low, *high);
-    // Nothing stands on the upper edge, where overloads are.
+    // Keeps the upper edge free for overloads.
     if (*high >= ticks_.back().at) ticks_ = NumberTicks(*low, *high + (*high - *low) * 0.05);
   }
 
@@ -232,7 +232,7 @@ class Chart {
                       {"stroke-dasharray", kDashes[standard % kDashes.size()]}});
   }
 
-  /// Beside the lines, from the top down; those too near to each other are moved apart.
+  /// Beside the lines, from the top down; labels that would overlap are moved apart.
   void DrawLimitLabels(const std::set<std::pair<double, std::string>>& labels) {
     double free = kTop - 20;
     for (const auto& [y, label] : labels) {

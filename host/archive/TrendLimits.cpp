@@ -79,7 +79,7 @@ TrendLimits LimitsOf(const std::vector<TrendPoint>& points, const std::string& u
   std::map<std::int32_t, Series> series;
   for (const auto& point : points)
     series[point.element.result.id].Take(point, StretchesAt(point, unit, limits.standards));
-  // Elements that are judged alike share their lines.
+  // Elements with the same limits share their lines.
   for (const auto& [id, one] : series)
     for (const auto& stretch : one.All())
       if (std::find(limits.stretches.begin(), limits.stretches.end(), stretch) == limits.stretches.end())

@@ -8,10 +8,10 @@
 
 namespace bench {
 
-/// A limit of a standard, as long as it held with the same bounds.
+/// A limit of a standard for the time in which its bounds were the same.
 struct LimitStretch {
   std::size_t standard = 0;  ///< index into `TrendLimits::standards`
-  /// From the date of the one reading to that of the other; none at the first and behind the last.
+  /// Dates of the first reading and of the one after the last; empty at the ends of the trend.
   std::optional<std::string> from, to;
   std::optional<double> low, high;
   bool operator==(const LimitStretch&) const = default;
@@ -23,7 +23,7 @@ struct TrendLimits {
   std::vector<LimitStretch> stretches;
 };
 
-/// @param unit that of the drawing; limits that cannot be told in it are left out
+/// @param unit that of the drawing; limits that cannot be converted to it are left out
 TrendLimits LimitsOf(const std::vector<TrendPoint>& points, const std::string& unit);
 
 /// "IEC 62353, class I"

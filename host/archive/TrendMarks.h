@@ -7,7 +7,7 @@
 
 namespace bench {
 
-/// How a reading is marked; each kind has a shape of its own, so that print shows it too.
+/// The mark of a reading. Each kind has its own shape, so that print without colours shows it too.
 enum class Mark {
   kPassed,
   kFailed,
@@ -24,7 +24,7 @@ inline constexpr Mark kMarks[] = {Mark::kPassed,   Mark::kFailed,     Mark::kDou
 
 Mark MarkOf(const TrendPoint& point);
 
-/// What a legend says of it.
+/// For the legend.
 std::string MarkText(Mark mark);
 
 void DrawMark(Svg& svg, Mark mark, double x, double y);

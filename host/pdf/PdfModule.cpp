@@ -11,8 +11,8 @@ namespace {
 [[noreturn]] void Refuse(const std::string& reason) {
   throw orvik::HostError(
       orvik::HostError::kDeviceError, "orvik-bench",
-      Tr("The report cannot be written as PDF: %%1. HTML and plain text need nothing more: give a name "
-         "that ends with .html or .txt",
+      Tr("The report cannot be written as PDF: %%1. HTML and plain text work without it: give a "
+         "name that ends with .html or .txt",
          {reason}));
 }
 
@@ -26,7 +26,7 @@ Entry* Find(void* module, const char* name, const std::filesystem::path& file) {
 }  // namespace
 
 std::string WritePdf(const report::Report& report, const std::filesystem::path& module) {
-  // Never closed: Qt does not come back once it has been unloaded.
+  // Never closed: Qt cannot be loaded again once it has been unloaded.
   auto* const opened = dlopen(module.c_str(), RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE);
   if (!opened) Refuse(dlerror());
   if (Find<pdf::VersionEntry>(opened, pdf::kVersionEntry, module)() != std::string(ORVIK_VERSION))

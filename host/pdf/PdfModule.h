@@ -7,8 +7,8 @@
 
 namespace bench {
 
-/// The report as a PDF file of A4 pages, made by the module at that place (lib/orvik/orvikPdf.so), which is
-/// opened when it is first wanted and stays open.
+/// Makes a PDF file of A4 pages with the given module (lib/orvik/orvikPdf.so), which is loaded on first use
+/// and stays loaded.
 /// @throws HostError 57 when the module cannot be used or the PDF cannot be made
 std::string WritePdf(const report::Report& report, const std::filesystem::path& module);
 

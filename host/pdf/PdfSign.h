@@ -6,7 +6,7 @@
 
 namespace bench::pdf {
 
-/// Draws the sign of a standing into that square, each its own: a tick, a cross, a question mark and so on.
+/// Draws the sign of a standing into a square: a tick, a cross, a question mark and so on.
 void DrawSign(QPainter& painter, report::Standing standing, const QRectF& square, const QColor& colour);
 
 }  // namespace bench::pdf

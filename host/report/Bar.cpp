@@ -6,13 +6,12 @@
 namespace bench::report {
 namespace {
 
-/// Room beside a bound, and how far the line may be stretched to reach the value, in lengths of what is
-/// allowed.
-constexpr double kRoom = 0.35;
+/// Space beside a bound, and how far the line may stretch to reach the value, as shares of the allowed range.
+constexpr double kSpace = 0.35;
 constexpr double kStretch = 3;
-/// Beside the largest of the numbers anything smaller is nothing.
-constexpr double kNothing = 1e-9;
-/// What breaks a bound stands visibly beside it, by however little it breaks it.
+/// Numbers smaller than this share of the largest one count as 0.
+constexpr double kNegligible = 1e-9;
+/// A value that exceeds a bound is drawn at least this far beside it.
 constexpr double kApart = 0.025;
 
 struct Line {
@@ -21,7 +20,7 @@ struct Line {
   double At(double number) const { return (number - from) / (to - from); }
 };
 
-/// The length that one bound alone makes the natural measure; 0 as a bound has none.
+/// The length of the allowed range when there is one bound only.
 double Natural(double bound) { return bound == 0 ? 1 : std::abs(bound); }
 
 Line LineFor(std::optional<double> low, std::optional<double> high, double value) {
@@ -29,12 +28,11 @@ Line LineFor(std::optional<double> low, std::optional<double> high, double value
   const double length = span > 0 ? span : Natural(*low);
   const double first = low ? *low : *high - length;
   const double last = high ? *high : *low + length;
-  Line line{low ? first - kRoom * length : first, last + kRoom * length};
-  // Nearly everything that is measured is positive: a line that begins at 0 says how much of the bound is
-  // used.
+  Line line{low ? first - kSpace * length : first, last + kSpace * length};
+  // Most readings are positive: a line from 0 shows how much of the bound is used.
   if (first >= 0 && value >= 0) line.from = std::max(line.from, 0.0);
-  if (value > line.to) line.to = std::min(value + kRoom * length, last + kStretch * length);
-  if (value < line.from) line.from = std::max(value - kRoom * length, first - kStretch * length);
+  if (value > line.to) line.to = std::min(value + kSpace * length, last + kStretch * length);
+  if (value < line.from) line.from = std::max(value - kSpace * length, first - kStretch * length);
   return line;
 }
 
@@ -61,14 +59,14 @@ std::optional<Bar> MakeBar(std::optional<double> low, std::optional<double> high
 
   Bar bar;
   bar.place = PlaceOf(low, high, value);
-  // Brought near 1, no number is too large or too small to be reckoned with.
+  // Scaled to about 1, so that no number overflows or underflows.
   const auto scaled = [scale](const std::optional<double>& bound) {
     if (!bound) return std::optional<double>();
-    return std::optional<double>(std::abs(*bound / scale) < kNothing ? 0 : *bound / scale);
+    return std::optional<double>(std::abs(*bound / scale) < kNegligible ? 0 : *bound / scale);
   };
-  const double measured = std::clamp(value / scale, -1 / kNothing, 1 / kNothing);
+  const double measured = std::clamp(value / scale, -1 / kNegligible, 1 / kNegligible);
   const auto line = LineFor(scaled(low), scaled(high), measured);
-  // A bound leaves room beside it for what breaks it.
+  // Leaves space beside a bound for a value that exceeds it.
   const auto place = [&line](double bound) { return std::clamp(line.At(bound), kApart, 1 - kApart); };
   if (low) bar.low = place(*scaled(low));
   if (high) bar.high = place(*scaled(high));

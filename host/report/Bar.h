@@ -4,19 +4,20 @@
 
 namespace bench::report {
 
-/// A value between its bounds on a line from 0 to 1, ready to be drawn.
+/// A value and its bounds as places on a line from 0 to 1.
 struct Bar {
   enum class Place { kBelow, kAtLow, kWithin, kAtHigh, kAbove };
 
-  std::optional<double> low;   ///< where the lower bound stands; none when there is none
-  std::optional<double> high;  ///< where the upper bound stands
-  double value = 0;            ///< where the value stands; never on the wrong side of a bound
+  std::optional<double> low;   ///< empty without a lower bound
+  std::optional<double> high;  ///< empty without an upper bound
+  double value = 0;            ///< never on the wrong side of a bound
   bool beyond = false;         ///< the value lies beyond the end of the line, at 0 or at 1
   Place place = Place::kWithin;
 };
 
-/// Places the value on a line that shows the bounds well. None without bounds, and for what is no finite
-/// number. Values and bounds are compared as limits compare them: inclusive, in single precision.
+/// Chooses a line that shows the bounds well, and places the value on it. Empty without bounds, and for
+/// numbers that are not finite. Values and bounds are compared as limits compare them: inclusive, in single
+/// precision.
 std::optional<Bar> MakeBar(std::optional<double> low, std::optional<double> high, double value);
 
 }  // namespace bench::report

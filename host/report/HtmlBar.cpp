@@ -8,7 +8,7 @@ namespace {
 
 using report::Bar;
 
-/// The picture in its own units; the line stands in the middle of it.
+/// The picture in its own units, with the line in its middle.
 constexpr double kBarWidth = 280, kHeight = 46, kLeft = 12, kLine = kBarWidth - 2 * kLeft, kTop = 19,
                  kThick = 8;
 /// About the width of a letter.

@@ -13,7 +13,7 @@ using html::Isolated;
 using html::SignOf;
 using report::Standing;
 
-/// Deeper elements of the overview stand no further in.
+/// Deeper elements of the overview are not indented further.
 constexpr int kDeepest = 10;
 
 /// Writes the page from its top to its end.
@@ -51,7 +51,7 @@ class Page {
             "</style>\n</head>\n";
   }
 
-  /// What is never scrolled away on a screen, and across every page on paper.
+  /// Stays visible when a screen scrolls, and is across every printed page.
   void StrongMarks() {
     for (const auto& mark : report_.marks) {
       if (!mark.strong) continue;
@@ -60,7 +60,7 @@ class Page {
     }
   }
 
-  /// On paper alone, at the top of every page; the page itself has all of it, so screen readers skip it.
+  /// Printed only, at the top of every page. Screen readers skip it, since the page repeats it.
   void RunningHeader() {
     out_ += "<div class=\"running\" aria-hidden=\"true\"><div><p>";
     bool first = true;
@@ -105,13 +105,13 @@ class Page {
            "</span>";
   }
 
-  /// What is wider than the screen scrolls in here, also by the keys.
+  /// A region that scrolls, by the keyboard too, when its content is wider than the screen.
   static std::string Scroll(const std::string& name) {
     return "<div class=\"scroll\" role=\"region\" tabindex=\"0\" aria-label=\"" + Escaped(name) + "\">";
   }
 
-  /// A table whose rows are laid out anew where there is no room for columns. The roles keep it a table for
-  /// listeners even then.
+  /// A table whose rows are laid out as lines on a narrow screen. The roles keep it a table for screen
+  /// readers.
   void StackedTable(const char* style, const std::string& caption) {
     out_ += std::string("<table role=\"table\" class=\"stacked ") + style + "\">\n" + caption +
             "\n<thead role=\"rowgroup\"><tr role=\"row\">";
@@ -203,7 +203,7 @@ class Page {
     return alignment == orvik::platform::Alignment::kCentre ? " class=\"centre\"" : "";
   }
 
-  /// @param caption shown above the table; without one its name is for screen readers alone
+  /// @param caption shown above the table; without one only screen readers get the name
   void Printed(const std::string& name, const report::Table& table, const std::string& caption = {}) {
     out_ +=
         Scroll(name) + "<table class=\"printed " + (table.border ? "ruled" : "plain") + "\">\n" +

@@ -2,8 +2,8 @@
 
 namespace bench::html {
 
-// Every text has a contrast of at least 4.5 to 1 against what it stands on. One accent, and the three colours
-// of the verdicts, which never speak alone: a sign and a word stand beside them.
+// Every text has a contrast of at least 4.5 to 1 with its background. A verdict's colour always comes with a
+// sign and a word.
 const char* const kStyle = R"css(
 :root { --ink: #1c2330; --quiet: #566072; --line: #d9dee6; --soft: #f4f6f9; --accent: #1b4f8a;
   --passed: #14692f; --failed: #b3201a; --open: #855000; --na: #566072; }

@@ -11,15 +11,15 @@ namespace bench::html {
 /// The text as the content of an element or of an attribute in double quotes.
 std::string Escaped(std::string_view text);
 
-/// The same, apart from what stands around it whatever its direction of writing, with its line ends.
+/// The same with its line ends, in an element that isolates its direction of writing from the text around it.
 std::string Isolated(std::string_view text);
 
-/// The CSS class of a standing, which is its colour: "passed", "failed", "open", "na".
+/// The CSS class for the colour of a standing: "passed", "failed", "open", "na".
 const char* ClassOf(report::Standing standing);
 
 /// The sign of a standing, one character.
 const char* PlainSignOf(report::Standing standing);
-/// The sign before a word, each standing its own; hidden from screen readers.
+/// The sign as an element that screen readers skip.
 std::string SignOf(report::Standing standing);
 
 /// A picture of the value between its bounds.

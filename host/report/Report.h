@@ -8,13 +8,13 @@
 #include "host/report/Bar.h"
 #include "host/report/Table.h"
 
-/// What a report consists of, free of any output. Every text is UTF-8, in the language of the report, and
-/// ready to be shown: no control characters, nothing that turns the direction of writing. Outputs add their
-/// own escaping and no words.
+/// The content of a report, independent of its output format. Every text is UTF-8, in the language of the
+/// report, and safe to show: no control characters, nothing that changes the direction of writing. Outputs
+/// add their own escaping and no words.
 namespace bench::report {
 
-/// What something counts for. Outputs give each a sign of its own, and a colour by its tone; the word is
-/// always there too.
+/// The status of a report or an element. Outputs give each its own sign, a colour by its tone, and always the
+/// word too.
 enum class Standing {
   kPassed,
   kFailed,
@@ -30,7 +30,7 @@ enum class Standing {
 enum class Tone {
   kGood,  ///< passed, and nothing else
   kBad,
-  kOpen,  ///< cannot be relied on
+  kOpen,  ///< unreliable
   kQuiet  ///< recorded, not applicable: neither good nor bad
 };
 
@@ -60,27 +60,27 @@ struct Verdict {
   std::string sentence;  ///< why, such as "2 of 6 tests failed, 1 not tested."
 };
 
-/// What every page says.
+/// A notice on every page.
 struct PageMark {
-  std::string word;     ///< one or two words, for across the page, such as "SIMULATED"
+  std::string word;     ///< one or two words for the watermark, such as "SIMULATED"
   std::string text;     ///< a sentence
-  bool strong = false;  ///< white on black: nothing here is about the equipment
+  bool strong = false;  ///< white on black: the report says nothing about the equipment
 };
 
 /// A line of the overview.
 struct OverviewRow {
   std::int32_t id = 0;
-  int depth = 0;  ///< 0 at the top; children of a sequence stand deeper
+  int depth = 0;  ///< 0 at the top, one more for the children of a sequence
   std::string name;
   std::string value;
   std::string unit;
   Standing standing = Standing::kOpen;
   std::string word;
-  std::string note;    ///< the weightiest reason; empty for one that passed
+  std::string note;    ///< the most important reason; empty for one that passed
   std::string anchor;  ///< of its section, unique in the report; empty when there is none
 };
 
-/// An element's reading put to one limit of a standard.
+/// An element's reading compared with one limit of a standard.
 struct Judgement {
   std::string standard;
   std::string bounds;  ///< such as "at most 300 mOhm"
@@ -88,10 +88,10 @@ struct Judgement {
   std::string word;  ///< such as "within limit"
   std::optional<Bar> bar;
   std::string lowLabel, highLabel, valueLabel;  ///< of the bar
-  std::string inWords;                          ///< the bar for whoever does not see it
+  std::string inWords;                          ///< the bar for screen readers and plain text
 };
 
-/// Something to be noticed about an element.
+/// A remark on an element.
 struct Note {
   Standing standing = Standing::kOpen;
   std::string text;
@@ -110,11 +110,11 @@ struct Section {
   std::vector<Note> notes;
   std::vector<Fact> facts;
   std::vector<Judgement> judgements;
-  Table readings;             ///< by run; without rows where there was one only
+  Table readings;             ///< by run; without rows if there was only one
   std::vector<Table> tables;  ///< as the plug-in printed them
 };
 
-/// Headings, labels, and how texts are put together: languages have colons and blanks of their own.
+/// Headings, labels and patterns in the report's language; languages differ in colons and blanks too.
 struct Words {
   std::string summary, overview, details;
   std::string number, test, value, unit, result;         ///< columns of the overview
@@ -130,20 +130,20 @@ struct Report {
   std::string language;  ///< such as "en"
   std::string title;
   Verdict verdict;
-  std::vector<PageMark> marks;   ///< for every page, the weightiest first
+  std::vector<PageMark> marks;   ///< for every page, the most important first
   std::vector<Fact> facts;       ///< equipment, tester, dates, operators, standards
   std::vector<Fact> pageHeader;  ///< equipment, tester, date, operator: short, for every page
   Words words;
   std::vector<OverviewRow> overview;
-  Table runs;  ///< what was done, a row for each run; without rows before the first one
+  Table runs;  ///< a row for each run; without rows before the first one
   std::vector<Section> sections;
-  std::string created;  ///< the moment of the last result, such as "2026-11-21T14:03:22+01:00"; may be empty
+  std::string created;  ///< time of the last result, such as "2026-11-21T14:03:22+01:00"; may be empty
 };
 
-/// A label and what it is for, in one line.
+/// A label and its value in one line.
 std::string Labelled(const Words& words, const std::string& label, const std::string& value);
 
-/// Title, equipment and verdict in one line, as the title of a window.
+/// Title, equipment and verdict in one line, for the title of a window.
 std::string CaptionOf(const Report& report);
 
 }  // namespace bench::report

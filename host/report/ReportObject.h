@@ -8,7 +8,7 @@
 
 namespace bench {
 
-/// The report that is being printed: collects tables, which the outputs turn into text or pages.
+/// Collects the tables that the plug-in prints; outputs turn them into text or pages.
 class ReportObject final : public orvik::IReport {
  public:
   /// Usable width of an A4 page with margins of 2 cm, in twips: 170 mm at 1,440 twips an inch.

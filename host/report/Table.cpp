@@ -49,7 +49,7 @@ class RowReader {
           i = ReadControl(markup, i);
           break;
         case '{':
-          if (inGroup_) RefuseMarkup(Tr("a group stands inside another"));
+          if (inGroup_) RefuseMarkup(Tr("a group is inside another one"));
           inGroup_ = true;
           break;
         case '}':
@@ -84,14 +84,13 @@ class RowReader {
     std::size_t end = at + 1;
     while (end < markup.size() && IsLetter(markup[end])) ++end;
     const auto control = markup.substr(at + 1, end - at - 1);
-    if (!inGroup_)
-      RefuseMarkup(Tr("the control \"%%1\" stands outside a group", {"\\" + std::string(control)}));
+    if (!inGroup_) RefuseMarkup(Tr("the control \"%%1\" is outside a group", {"\\" + std::string(control)}));
     if (control == "b") {
       bold_ = true;
     } else if (control == "i") {
       italic_ = true;
     } else {
-      RefuseMarkup(Tr("the control \"%%1\" is not known", {"\\" + std::string(control)}));
+      RefuseMarkup(Tr("the control \"%%1\" is unknown", {"\\" + std::string(control)}));
     }
     // One blank after a control belongs to it.
     return end < markup.size() && markup[end] == ' ' ? end : end - 1;

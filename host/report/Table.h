@@ -6,7 +6,7 @@
 
 #include "platform/Types.h"
 
-/// A report's tables as parsed from their markup. Outputs work on this, never on markup.
+/// Tables parsed from the plug-in's markup. Outputs use these, never the markup.
 namespace bench::report {
 
 /// A piece of text in one style.
@@ -42,8 +42,8 @@ struct Table {
 /// The cell's text without its styles.
 std::string PlainText(const Cell& cell);
 
-/// The table as people see it: texts made visible (see `VisibleText`), columns that are empty in every row
-/// left out, since they are margins of the page.
+/// The table as it is shown: texts made visible (see `VisibleText`), without columns that are empty in every
+/// row, which are page margins.
 Table Shown(const Table& table);
 
 /// "Columns separated by |, ended by ;": see `IReport`. `HostError` 5 when it is malformed.
@@ -52,7 +52,7 @@ std::vector<Column> ParseFormat(std::string_view markup);
 /// Rows of cells. `HostError` 5 when the markup is malformed or a row has more cells than `columns`.
 std::vector<Row> ParseRows(std::string_view markup, std::size_t columns);
 
-/// The text with a "\" before everything that would read as markup.
+/// The text with a "\" before every character of the markup.
 std::string Escape(std::string_view text);
 
 }  // namespace bench::report

@@ -23,7 +23,7 @@ class Breaker {
       const auto columns = CellsOf(letter);
       if (columns_ + columns > width_) {
         Overflow(letter);
-        if (letter == ' ') continue;  // the line's end stands for it
+        if (letter == ' ') continue;  // replaced by the end of the line
       }
       if (letter == ' ') blank_ = line_.size() + 1;
       report::AppendUtf8(line_, letter);
@@ -34,7 +34,7 @@ class Breaker {
   }
 
  private:
-  /// What follows the last blank goes to the next line, and the blank nowhere; a word without one is cut.
+  /// Breaks at the last blank, which is dropped; a line without one is cut.
   void Overflow(char32_t next) {
     std::string rest;
     if (blank_ > 0 && next != ' ') {

@@ -10,7 +10,7 @@ namespace bench {
 std::string TextReport(const report::Report& report);
 
 /// The value between its bounds in letters: "=" is allowed, "." is not, "|" is a bound, "*" the value; "<" or
-/// ">" stands for a value beyond the end of the line.
+/// ">" is a value beyond the end of the line.
 std::string TextBar(const report::Bar& bar);
 
 }  // namespace bench

@@ -14,7 +14,7 @@ using bench::judge::Verdict;
 
 class AddTest : public ArchiveTest {};
 
-TEST_P(AddTest, GivesBackTheDocumentAsAdded) {
+TEST_P(AddTest, ReturnsTheDocumentAsAdded) {
   auto document = Measured("/d/a.orvik", "P-7", 412.125);
   document.contents = std::string("\x00\xFF<\r\n'\x80", 7);
   document.entry.comment = "back from repair";
@@ -35,7 +35,7 @@ TEST_P(AddTest, GivesBackTheDocumentAsAdded) {
   EXPECT_FALSE(found->entry.simulated);
 }
 
-TEST_P(AddTest, GivesBackEachElementAsJudged) {
+TEST_P(AddTest, ReturnsEachElementAsJudged) {
   auto document = Measured("/d/a.orvik", "P-7", 412.125);
   auto first = document.elements[0].result;
   first.measurement->flags = "O";
@@ -94,7 +94,7 @@ TEST_P(AddTest, GivesBackEachElementAsJudged) {
   EXPECT_EQ(found->elements[1].runDate, "");
 }
 
-TEST_P(AddTest, GivesBackEveryVerdict) {
+TEST_P(AddTest, ReturnsEveryVerdict) {
   const Verdict verdicts[] = {Verdict::kFailed,    Verdict::kDoubtful,     Verdict::kAborted,
                               Verdict::kNotTested, Verdict::kNotJudged,    Verdict::kRecorded,
                               Verdict::kPassed,    Verdict::kNotApplicable};
@@ -121,7 +121,7 @@ TEST_P(AddTest, GivesBackEveryVerdict) {
   }
 }
 
-TEST_P(AddTest, RefusesAVerdictThatItDoesNotKnow) {
+TEST_P(AddTest, RefusesAnUnknownVerdict) {
   auto archive = Open();
   archive.Add(Measured("/d/a.orvik", "P-7", 100));
   Database()->Run("UPDATE orvik_elements SET verdict = 'good'", {});
@@ -157,7 +157,7 @@ TEST_P(AddTest, TheSameDocumentAgainChangesNothing) {
   EXPECT_EQ(archive.List({}).size(), 1U);
 }
 
-TEST_P(AddTest, AChangedDocumentIsAFurtherRevisionAndSoIsTheOldStateAgain) {
+TEST_P(AddTest, AddsAChangeAsARevision_AndTheOldStateToo) {
   auto archive = Open();
   const auto before = Measured("/d/a.orvik", "P-7", 120), after = Measured("/d/a.orvik", "P-7", 121);
   archive.Add(before);
@@ -170,7 +170,7 @@ TEST_P(AddTest, AChangedDocumentIsAFurtherRevisionAndSoIsTheOldStateAgain) {
   EXPECT_EQ(archive.Find(2)->contents, after.contents);
 }
 
-TEST_P(AddTest, ACopyUnderAnotherNameIsNotAdded) {
+TEST_P(AddTest, DoesNotAddACopyUnderAnotherName) {
   auto archive = Open();
   auto document = Measured("/d/a.orvik", "P-7", 120);
   archive.Add(document);
@@ -179,7 +179,7 @@ TEST_P(AddTest, ACopyUnderAnotherNameIsNotAdded) {
   EXPECT_EQ(archive.List({}).size(), 1U);
 }
 
-TEST_P(AddTest, AnotherAssetInTheSameFileIsAnotherDocument) {
+TEST_P(AddTest, SeparatesAssetsOfOneFile) {
   auto archive = Open();
   archive.Add(Measured("/d/a.orvik", "P-7", 120));
   const auto other = archive.Add(Measured("/d/a.orvik", "P-8", 120));
@@ -187,7 +187,7 @@ TEST_P(AddTest, AnotherAssetInTheSameFileIsAnotherDocument) {
   EXPECT_EQ(other.revision, 1);
 }
 
-TEST_P(AddTest, AnotherSerialNumberInTheSameFileIsAnotherDocument) {
+TEST_P(AddTest, SeparatesSerialNumbersOfOneFile) {
   auto archive = Open();
   archive.Add(Measured("/d/a.orvik", "P-7", 120));
   auto other = Measured("/d/a.orvik", "P-7", 121);
@@ -198,7 +198,7 @@ TEST_P(AddTest, AnotherSerialNumberInTheSameFileIsAnotherDocument) {
   EXPECT_EQ(archive.Find(1)->entry.revisions, 1);
 }
 
-TEST_P(AddTest, TextsAreDataWhateverTheyHold) {
+TEST_P(AddTest, StoresHostileTextsUnchanged) {
   const std::string nasty[] = {"'; DROP TABLE orvik_documents; --",
                                "100 %s %n \\",
                                "<script>alert(1)</script>",
@@ -220,7 +220,7 @@ TEST_P(AddTest, TextsAreDataWhateverTheyHold) {
   }
 }
 
-TEST_P(AddTest, WhatWasNotCommittedIsNotThere) {
+TEST_P(AddTest, RollsBackWithoutCommit) {
   auto archive = Open();
   archive.Add(Measured("/d/a.orvik", "P-7", 120));
   const auto database = Database();
@@ -231,14 +231,14 @@ TEST_P(AddTest, WhatWasNotCommittedIsNotThere) {
   EXPECT_EQ(archive.List({}).at(0).asset, "P-7");
 }
 
-TEST_P(AddTest, AChangedContentIsNoticed) {
+TEST_P(AddTest, DetectsChangedContents) {
   auto archive = Open();
   archive.Add(Measured("/d/a.orvik", "P-7", 120));
   Database()->Run("UPDATE orvik_contents SET contents = $1", {bench::Bytes{"other"}});
   EXPECT_THROW(archive.Find(1), std::runtime_error);
 }
 
-TEST_P(AddTest, FindTellsWhatIsNotThere) { EXPECT_FALSE(Open().Find(1)); }
+TEST_P(AddTest, FindsNothing_UnknownDocument) { EXPECT_FALSE(Open().Find(1)); }
 
 ON_BOTH_DATABASES(AddTest);
 

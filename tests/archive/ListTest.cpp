@@ -32,7 +32,7 @@ class ListTest : public ArchiveTest {
 
 TEST_P(ListTest, ListsTheNewestFirst) { EXPECT_THAT(Listed({}), ElementsAre(3, 1, 2)); }
 
-TEST_P(ListTest, ListsByWhatIsAskedFor) {
+TEST_P(ListTest, ListsByFilter) {
   EXPECT_THAT(Listed({.asset = "P-7"}), ElementsAre(3, 1));
   EXPECT_THAT(Listed({.serial = "S-2"}), ElementsAre(3));
   EXPECT_THAT(Listed({.since = "2026-03-01T09:30:00Z"}), ElementsAre(3, 1));
@@ -43,7 +43,7 @@ TEST_P(ListTest, ListsByWhatIsAskedFor) {
   EXPECT_THAT(Listed({.asset = "P-%"}), IsEmpty());
 }
 
-TEST_P(ListTest, TellsWhatIsNotFinished) {
+TEST_P(ListTest, MarksUnfinishedDocuments) {
   EXPECT_FALSE(archive_.List({}).at(0).finished);
   EXPECT_TRUE(archive_.List({}).at(1).finished);
 }

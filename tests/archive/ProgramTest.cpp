@@ -65,7 +65,7 @@ class ProgramTest : public ArchiveTest, protected WithProgram {
     return Kept(document);
   }
 
-  /// Takes the document's file into the test's folder; returns its path.
+  /// Copies the document's file into the test's folder; returns its path.
   std::string Kept(support::RecordedDocument& recorded) const {
     const auto file = Path(recorded.Document().Path().filename().string());
     std::filesystem::copy_file(recorded.Document().Path(), file,
@@ -81,7 +81,7 @@ class ProgramTest : public ArchiveTest, protected WithProgram {
   }
 };
 
-TEST_P(ProgramTest, AddsListsShowsAndGivesBackTheVeryBytes) {
+TEST_P(ProgramTest, AddsListsShowsAndExports) {
   const auto file = Document("a.orvik", "P-7");
   const auto added = Run({"add", file});
   EXPECT_EQ(added.status, 0) << added.error;
@@ -102,7 +102,7 @@ TEST_P(ProgramTest, AddsListsShowsAndGivesBackTheVeryBytes) {
   EXPECT_THAT(again.error, HasSubstr("b.orvik"));
 }
 
-TEST_P(ProgramTest, ShowsADocumentAsShowDidWhenItWasAdded) {
+TEST_P(ProgramTest, ShowsADocumentAsWhenAdded) {
   support::RecordedDocument recorded;
   recorded.Document().comment = "after repair";
   recorded.Leads("S-9", 21, "2026-05-04T10:00:00+02:00");
@@ -134,7 +134,7 @@ TEST_P(ProgramTest, ShowsADocumentAsShowDidWhenItWasAdded) {
   }
 }
 
-TEST_P(ProgramTest, TellsWhatIsUnchangedAndWhatIsARevision) {
+TEST_P(ProgramTest, ReportsUnchangedAndRevision) {
   EXPECT_EQ(Json({"add", Document("a.orvik", "P-7")})["documents"][0]["result"], "added");
   EXPECT_EQ(Json({"add", Path("a.orvik")})["documents"][0]["result"], "unchanged");
   const auto changed = Json({"add", Document("a.orvik", "P-7", "0.124")});
@@ -142,7 +142,7 @@ TEST_P(ProgramTest, TellsWhatIsUnchangedAndWhatIsARevision) {
   EXPECT_EQ(changed["documents"][0]["revision"], 2);
 }
 
-TEST_P(ProgramTest, RefusesAnUnfinishedDocumentButTakesTheOthers) {
+TEST_P(ProgramTest, RefusesUnfinishedDocumentsOnly) {
   const auto open = Path("open.orvik");
   Done({"new", open, "--add", "410"});
   const auto refused = Run({"add", open, Document("a.orvik", "P-7"), Path("none.orvik")});
@@ -164,7 +164,7 @@ TEST_P(ProgramTest, RefusesAnAbortedTest) {
   EXPECT_THAT(refused.error, HasSubstr("is not finished"));
 }
 
-TEST_P(ProgramTest, TakesDoubtfulAndNotJudgedResultsButNeverAsPassed) {
+TEST_P(ProgramTest, AddsDoubtfulResults_NeverAsPassed) {
   EXPECT_EQ(Run({"add", Document("a.orvik", "P-7", "-0.1")}).status, 0);
   Document("b.orvik", "P-8");
   Done({"limit", Path("b.orvik"), "--element", "1", "--remove"});
@@ -182,7 +182,7 @@ TEST_P(ProgramTest, TakesDoubtfulAndNotJudgedResultsButNeverAsPassed) {
   EXPECT_THAT(trend.out, HasSubstr("not judged"));
 }
 
-TEST_P(ProgramTest, ALimitSetLaterFailsTheNextRevisionAndLeavesTheFirst) {
+TEST_P(ProgramTest, LaterLimitFailsTheNextRevisionOnly) {
   const auto file = Document("a.orvik", "P-7");
   Run({"add", file});
   Done({"limit", file, "--element", "1", "--standard", "AAMI", "--high", "100"});
@@ -199,7 +199,7 @@ TEST_P(ProgramTest, ALimitSetLaterFailsTheNextRevisionAndLeavesTheFirst) {
   EXPECT_EQ(points[0]["document"], 2);
 }
 
-TEST_P(ProgramTest, SimulatedDocumentsAreTakenOnlyWhenAskedAndMarked) {
+TEST_P(ProgramTest, AddsAndMarksSimulatedOnRequest) {
   const auto file = Document("a.orvik", "P-7", "0.123", {.simulated = true});
   const auto refused = Run({"add", file, "--incomplete"});
   EXPECT_EQ(refused.status, 3);
@@ -217,7 +217,7 @@ TEST_P(ProgramTest, SimulatedDocumentsAreTakenOnlyWhenAskedAndMarked) {
   EXPECT_EQ(Json({"add", file, "--simulated"})["documents"][0]["simulated"], true);
 }
 
-TEST_P(ProgramTest, ATrendIsOfSimulatedReadingsOnlyWhenAsked) {
+TEST_P(ProgramTest, TrendShowsSimulatedOnRequest) {
   Run({"add", Document("a.orvik", "P-7", "0.099", {.simulated = true}), "--simulated"});
   const Words asked{"trend", "--asset", "P-7", "--test", "410"};
   auto simulated = asked;
@@ -247,7 +247,7 @@ TEST_P(ProgramTest, ATrendIsOfSimulatedReadingsOnlyWhenAsked) {
   EXPECT_EQ(Json(simulated)["points"].size(), 1U);
 }
 
-TEST_P(ProgramTest, ResultsOfOtherEquipmentDoNotCount) {
+TEST_P(ProgramTest, IgnoresResultsOfOtherEquipment) {
   const auto file = Document("a.orvik", "P-7");
   Done({"edit", file, "--asset", "P-9"});
   const auto refused = Run({"add", file});
@@ -267,7 +267,7 @@ TEST_P(ProgramTest, ResultsOfOtherEquipmentDoNotCount) {
       HasSubstr("Results left out that did not count when they were added (\"archive show\" says why): 1"));
 }
 
-TEST_P(ProgramTest, AResultThatNoRunRecordedDoesNotCount) {
+TEST_P(ProgramTest, IgnoresUnrecordedResults) {
   const auto file = Document("a.orvik", "P-7");
   auto text = Contents(file);
   const auto begin = text.find("<Runs"), end = text.find("</Runs>");
@@ -290,7 +290,7 @@ TEST_P(ProgramTest, DrawsATrend) {
   EXPECT_EQ(Run({"trend", "--asset", "other", "--test", "410"}).status, 3);
 }
 
-TEST_P(ProgramTest, TwoProgramsAddAtOnceAndNothingIsLost) {
+TEST_P(ProgramTest, TwoProgramsAddAtOnce) {
   Words all[2];
   for (int i = 0; i < 20; ++i) {
     const auto name = "d" + std::to_string(i) + ".orvik";
@@ -304,21 +304,21 @@ TEST_P(ProgramTest, TwoProgramsAddAtOnceAndNothingIsLost) {
     words.push_back(shared);
     programs[i] = Start(words);
   }
-  std::string told;
+  std::string output;
   for (auto& program : programs) {
     const auto ended = program->Wait();
     EXPECT_EQ(ended.status, 0) << ended.error;
-    told += ended.out;
+    output += ended.out;
   }
   const auto listed = Json({"list"})["documents"];
   EXPECT_EQ(listed.size(), 21U);
-  EXPECT_THAT(told, HasSubstr("in the archive already"));
+  EXPECT_THAT(output, HasSubstr("in the archive already"));
   std::set<std::string> assets;
   for (const auto& entry : listed) assets.insert(entry["asset"]);
   EXPECT_EQ(assets.size(), 20U);
 }
 
-TEST_P(ProgramTest, AnArchiveThatAnotherProgramWritesEndsWithFiveOrIsWaitedFor) {
+TEST_P(ProgramTest, BusyArchive_EndsWithFiveOrWaits) {
   const auto file = Document("a.orvik", "P-7");
   ASSERT_EQ(Run({"add", file}).status, 0);
   const auto database = Database();
@@ -337,15 +337,15 @@ TEST_P(ProgramTest, AnArchiveThatAnotherProgramWritesEndsWithFiveOrIsWaitedFor) 
 
 ON_BOTH_DATABASES(ProgramTest);
 
-/// What goes wrong, in the words of the real program.
+/// What goes wrong, as the real program reports it.
 class ErrorTest : public testing::Test, protected WithProgram {
  protected:
   std::string Path(const std::string& name) const { return (state_.Path() / name).string(); }
 };
 
-TEST_F(ErrorTest, WrongWordsAreTold) {
+TEST_F(ErrorTest, RefusesWrongArguments) {
   const auto file = Path("a.sqlite");
-  for (const auto& [words, told] : std::vector<std::pair<Words, std::string>>{
+  for (const auto& [words, named] : std::vector<std::pair<Words, std::string>>{
            {{"list", "--since", "soon"}, "--since soon"},
            {{"list", "--outcome", "good"}, "--outcome good"},
            {{"list", "--limit", "0"}, "--limit 0"},
@@ -353,42 +353,42 @@ TEST_F(ErrorTest, WrongWordsAreTold) {
            {{}, "add, list, show"}}) {
     const auto ended = On(file, words);
     EXPECT_EQ(ended.status, 3);
-    EXPECT_THAT(ended.error, HasSubstr(told));
+    EXPECT_THAT(ended.error, HasSubstr(named));
   }
 }
 
-TEST_F(ErrorTest, AFileThatIsNotThereIsNotMadeByAsking) {
+TEST_F(ErrorTest, ListDoesNotCreateAFile) {
   const auto ended = On(Path("none.sqlite"), {"list"});
   EXPECT_EQ(ended.status, 3);
   EXPECT_THAT(ended.error, HasSubstr("none.sqlite"));
   EXPECT_FALSE(std::filesystem::exists(Path("none.sqlite")));
 }
 
-TEST_F(ErrorTest, TheOwnArchiveIsEmptyAtFirst) {
+TEST_F(ErrorTest, OwnArchiveStartsEmpty) {
   const auto ended = Start({"--state", Path("s"), "archive", "list"})->Wait();
   EXPECT_EQ(ended.status, 0) << ended.error;
   EXPECT_THAT(ended.out, HasSubstr("archive.sqlite"));
 }
 
-TEST_F(ErrorTest, ADamagedFileIsRefusedAndLeftAsItIs) {
+TEST_F(ErrorTest, RefusesADamagedFileUnchanged) {
   const std::string noise =
       "This is no database, but a text that is long enough to be taken for one at first.";
   std::ofstream(Path("a.sqlite")) << noise;
   const auto ended = On(Path("a.sqlite"), {"list"});
   EXPECT_EQ(ended.status, 3);
-  EXPECT_THAT(ended.error, HasSubstr("a.sqlite is no archive, or is damaged"));
+  EXPECT_THAT(ended.error, HasSubstr("a.sqlite is not an archive, or is damaged"));
   EXPECT_EQ(Contents(Path("a.sqlite")), noise);
 }
 
-TEST_F(ErrorTest, ADatabaseOfSomethingElseIsRefused) {
+TEST_F(ErrorTest, RefusesADatabaseOfAnotherProgram) {
   bench::SqliteDatabase(Path("b.sqlite"), bench::SqliteDatabase::Missing::kCreate)
       .Run("CREATE TABLE mine (x)", {});
   const auto ended = On(Path("b.sqlite"), {"list"});
   EXPECT_EQ(ended.status, 3);
-  EXPECT_THAT(ended.error, HasSubstr("something else"));
+  EXPECT_THAT(ended.error, HasSubstr("b.sqlite is not an archive"));
 }
 
-TEST_F(ErrorTest, AFolderThatTakesNoFilesIsTold) {
+TEST_F(ErrorTest, NamesAFolderThatCannotBeWritten) {
   // Not even root makes files there.
   ASSERT_EQ(Start({"--state", Path("s"), "new", Path("a.orvik"), "--add", "410"})->Wait().status, 0);
   const auto ended = On("/proc/self/archive.sqlite", {"add", "--incomplete", Path("a.orvik")});
@@ -396,13 +396,13 @@ TEST_F(ErrorTest, AFolderThatTakesNoFilesIsTold) {
   EXPECT_THAT(ended.error, HasSubstr("/proc/self/archive.sqlite"));
 }
 
-TEST_F(ErrorTest, OtherUrlsAreRefusedWithoutBeingTold) {
+TEST_F(ErrorTest, RefusesOtherUrlsWithoutQuotingThem) {
   const auto ended = On("mysql://u:geheim@h/db", {"list"});
   EXPECT_EQ(ended.status, 3);
   EXPECT_THAT(ended.error, Not(HasSubstr("geheim")));
 }
 
-TEST_F(ErrorTest, AServerThatIsNotThereIsTold) {
+TEST_F(ErrorTest, NamesAnUnreachableServer) {
   const auto ended = On("postgresql://u:geheim@/db?host=" + state_.Path().string(), {"list"});
   EXPECT_EQ(ended.status, 2);
   EXPECT_THAT(ended.error, HasSubstr("postgresql://u@/db?host="));
@@ -410,7 +410,7 @@ TEST_F(ErrorTest, AServerThatIsNotThereIsTold) {
   EXPECT_THAT(ended.error, Not(HasSubstr("geheim")));
 }
 
-TEST_F(ErrorTest, WhatPostgreSqlRefusesIsTold) {
+TEST_F(ErrorTest, ReportsWhatPostgreSqlRefuses) {
   auto& server = PostgreSqlServer::Get();
   const auto database = server.NewDatabase();
   const auto missing = On(server.UrlFor("bench", "nowhere"), {"list"});

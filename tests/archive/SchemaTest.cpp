@@ -52,7 +52,7 @@ class SchemaTest : public ArchiveTest {
       "</OrvikDocument>";
 };
 
-TEST_P(SchemaTest, AnArchiveOfVersionOneIsBroughtUp) {
+TEST_P(SchemaTest, UpgradesVersionOne) {
   MakeVersionOne();
   EXPECT_EQ(Version(), 1);
   auto archive = Open();
@@ -70,7 +70,7 @@ TEST_P(SchemaTest, AnArchiveOfVersionOneIsBroughtUp) {
   EXPECT_EQ(archive.Add(Measured("/d/2", "P-7", 1)).id, 2);
 }
 
-TEST_P(SchemaTest, ResultsOfVersionTwoWereNotRecordedByARun) {
+TEST_P(SchemaTest, UpgradesVersionTwo_ResultsDoNotCount) {
   MakeVersionOne();
   const auto database = Database();
   bench::schema::BringUpTo(*database, 2);
@@ -115,7 +115,7 @@ TEST_P(SchemaTest, ResultsOfVersionTwoWereNotRecordedByARun) {
   EXPECT_EQ(archive.TrendOf("P-7", 410).notCurrent, 1U);
 }
 
-TEST_P(SchemaTest, BringingUpIsDoneAsAWholeOrNotAtAll) {
+TEST_P(SchemaTest, RollsBackAFailedUpgrade) {
   MakeVersionOne();
   // Keeps the second version's statements from ending well.
   Database()->Run("CREATE TABLE orvik_elements_by_test (x BIGINT)", {});
@@ -125,7 +125,7 @@ TEST_P(SchemaTest, BringingUpIsDoneAsAWholeOrNotAtAll) {
   EXPECT_EQ(Open().List({}).size(), 1U);
 }
 
-TEST_P(SchemaTest, ANewerArchiveIsRefusedAndLeftAsItIs) {
+TEST_P(SchemaTest, RefusesANewerArchive) {
   Open();
   Database()->Run("UPDATE orvik_archive_version SET version = 4", {});
   const auto text = Refusal(ArchiveError::Kind::kBadInput);
@@ -134,10 +134,10 @@ TEST_P(SchemaTest, ANewerArchiveIsRefusedAndLeftAsItIs) {
   EXPECT_EQ(Version(), 4);
 }
 
-TEST_P(SchemaTest, AnArchiveWithoutItsVersionIsRefused) {
+TEST_P(SchemaTest, RefusesAnArchiveWithoutVersion) {
   Open();
   Database()->Run("DELETE FROM orvik_archive_version", {});
-  EXPECT_THAT(Refusal(ArchiveError::Kind::kBadInput), HasSubstr("does not tell its version"));
+  EXPECT_THAT(Refusal(ArchiveError::Kind::kBadInput), HasSubstr("has no version"));
 }
 
 TEST_P(SchemaTest, OpeningAgainChangesNothing) {
@@ -146,7 +146,7 @@ TEST_P(SchemaTest, OpeningAgainChangesNothing) {
   EXPECT_EQ(Version(), bench::schema::kVersion);
 }
 
-TEST_P(SchemaTest, MissingTablesAreTold) {
+TEST_P(SchemaTest, ReportsMissingTables) {
   Open();
   Database()->Run("DROP TABLE orvik_reasons", {});
   auto archive = Open();

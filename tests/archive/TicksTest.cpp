@@ -23,14 +23,14 @@ std::vector<std::string> DateLabels(const char* from, const char* to) {
   return Labels(bench::DateTicks(*bench::IsoMoment(from), *bench::IsoMoment(to)));
 }
 
-TEST(NumberTicks, AreRoundAndHoldWhatIsBetween) {
+TEST(NumberTicks, AreRoundAndEncloseTheRange) {
   EXPECT_THAT(Labels(bench::NumberTicks(0, 300)), ElementsAre("0", "100", "200", "300"));
   EXPECT_THAT(Labels(bench::NumberTicks(0, 0.25)), ElementsAre("0", "0.05", "0.1", "0.15", "0.2", "0.25"));
   EXPECT_THAT(Labels(bench::NumberTicks(-3, 4)), ElementsAre("-4", "-2", "0", "2", "4"));
   EXPECT_THAT(Labels(bench::NumberTicks(0, 0)), ElementsAre("0", "0.2", "0.4", "0.6", "0.8", "1"));
 }
 
-TEST(NumberTicks, AreFewAndInOrderWhateverTheNumbers) {
+TEST(NumberTicks, AreFewAndInOrder_RandomRanges) {
   std::mt19937 random(support::Seed());
   std::uniform_real_distribution<double> exponent(-12, 15), sign(-1, 1);
   for (int i = 0; i < 2000; ++i) {
@@ -47,7 +47,7 @@ TEST(NumberTicks, AreFewAndInOrderWhateverTheNumbers) {
   }
 }
 
-TEST(DateTicks, AreRoundInWhateverSpan) {
+TEST(DateTicks, AreRoundInEverySpan) {
   EXPECT_THAT(DateLabels("2026-03-01T10:00:10Z", "2026-03-01T10:00:50Z"),
               ElementsAre("10:00:15", "10:00:30", "10:00:45"));
   EXPECT_THAT(DateLabels("2026-03-01T10:20Z", "2026-03-01T12:10Z"),

@@ -85,7 +85,7 @@ TEST(TrendPoint, AGroupHasTheUnitOfItsTests) {
   EXPECT_EQ(group.Unit(), "mOhm");
 }
 
-TEST(TrendMarks, HaveAShapeEach) {
+TEST(TrendMarks, HaveDistinctShapes) {
   std::set<std::string> shapes;
   for (const auto mark : bench::kMarks) {
     bench::Svg svg;
@@ -95,7 +95,7 @@ TEST(TrendMarks, HaveAShapeEach) {
   EXPECT_EQ(shapes.size(), std::size(bench::kMarks));
 }
 
-TEST(TrendChart, TellsReadingsAndLimitsInWordsToo) {
+TEST(TrendChart, DescribesReadingsAndLimits) {
   const auto svg = Drawn({Point("2024-01-01T00:00:00Z", 100), Point("2025-01-01T00:00:00Z", 412.5)});
   EXPECT_THAT(svg, HasSubstr("<title>2024-01-01T00:00:00Z: 100 mOhm, passed</title>"));
   EXPECT_THAT(svg, HasSubstr("<title>2025-01-01T00:00:00Z: 412.5 mOhm, failed</title>"));
@@ -105,7 +105,7 @@ TEST(TrendChart, TellsReadingsAndLimitsInWordsToo) {
   EXPECT_THAT(svg, HasSubstr(">mOhm<"));
 }
 
-TEST(TrendChart, TextsAreNoMarkup) {
+TEST(TrendChart, EscapesTexts) {
   auto point = Point("2024-01-01T00:00:00Z", 100);
   point.element.result.name = "</title><script>alert(1)</script>";
   point.element.result.limits[0].standard = "\"><script/>";
@@ -116,20 +116,20 @@ TEST(TrendChart, TextsAreNoMarkup) {
   EXPECT_THAT(svg, HasSubstr("%%1"));
 }
 
-TEST(TrendChart, AnOverloadIsMarkedAboveTheScaleAndDoesNotStretchIt) {
+TEST(TrendChart, DrawsAnOverloadAboveTheScale) {
   const auto svg =
       Drawn({Point("2024-01-01T00:00:00Z", 100), Doubtful(Overloaded(Point("2025-01-01T00:00:00Z", 9e9)))});
   EXPECT_THAT(svg, HasSubstr(">OL<"));
   EXPECT_THAT(svg, Not(HasSubstr("e+09")));
 }
 
-TEST(TrendChart, OverloadsAloneHaveTheirUnitAndLimitsToo) {
+TEST(TrendChart, ShowsUnitAndLimits_OverloadsOnly) {
   const auto svg = Drawn({Doubtful(Overloaded(Point("2025-01-01T00:00:00Z", 9e9)))});
   EXPECT_THAT(svg, HasSubstr(">mOhm<"));
   EXPECT_THAT(svg, HasSubstr(">A \xE2\x89\xA4 300<"));
 }
 
-TEST(TrendChart, OtherUnitsOfTheSameQuantityAreToldInTheLastOne) {
+TEST(TrendChart, ConvertsToTheLastUnit) {
   auto ohms = Point("2024-01-01T00:00:00Z", 0.2);
   ohms.element.result.measurement->unit = "Ohm";
   ohms.element.result.limits.clear();
@@ -143,7 +143,7 @@ TEST(TrendChart, OtherUnitsOfTheSameQuantityAreToldInTheLastOne) {
   EXPECT_EQ(polyline(Drawn({ohms, last})), polyline(Drawn({same, last})));
 }
 
-TEST(TrendChart, SaysWhatItDidNotDraw) {
+TEST(TrendChart, CountsWhatItDidNotDraw) {
   auto volts = Point("2024-01-01T00:00:00Z", 230), none = Point("2024-01-01T00:00:00Z", 1);
   volts.element.result.measurement->unit = "V";
   none.element.result.measurement.reset();
@@ -152,18 +152,18 @@ TEST(TrendChart, SaysWhatItDidNotDraw) {
   EXPECT_EQ(CountOf(svg, "<circle"), 2U);                   // the reading and its legend
 }
 
-TEST(TrendChart, SaysSimulatedInItsDescriptionAndOnThePicture) {
+TEST(TrendChart, MarksSimulatedReadings) {
   const std::vector<bench::TrendPoint> points = {Point("2024-01-01T00:00:00Z", 100)};
   EXPECT_EQ(CountOf(Drawn(points, "P-7", true), "SIMULATED"), 2U);
   EXPECT_EQ(CountOf(Drawn(points), "SIMULATED"), 0U);
 }
 
-TEST(TrendChart, SaysTheVerdictOfAnOverload) {
+TEST(TrendChart, ShowsTheVerdictOfAnOverload) {
   auto failed = Overloaded(Point("2025-01-01T00:00:00Z", 400));
   EXPECT_THAT(Drawn({failed}), HasSubstr("<title>2025-01-01T00:00:00Z: OL, failed</title>"));
 }
 
-TEST(TrendChart, HoldsWhateverTheValues) {
+TEST(TrendChart, DrawsExtremeValues) {
   for (const double value : {0.0, -5.0, 1e-12, 1e14, 1e300, -1e300})
     Drawn({Point("2024-01-01T00:00:00Z", value), Point("2024-01-01T00:00:00Z", value)});
   Drawn({});

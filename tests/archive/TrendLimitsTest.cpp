@@ -29,14 +29,14 @@ bench::judge::JudgedLimit Limit(const std::string& standard, const std::string& 
 const auto kIec = Limit("IEC 62353", "", "mOhm", {}, 300.0);
 const auto kAami = Limit("AAMI", "class I", "Ohm", 0.1, 0.5);
 
-TEST(TrendLimits, GoOnAsLongAsTheyAreTheSame) {
+TEST(TrendLimits, ContinueWhileTheyAreTheSame) {
   const auto limits =
       LimitsOf({At("2024-01-01T00:00:00Z", {kIec}), At("2025-01-01T00:00:00Z", {kIec})}, "mOhm");
   EXPECT_THAT(limits.standards, ElementsAre("IEC 62353"));
   EXPECT_THAT(limits.stretches, ElementsAre(LimitStretch{0, {}, {}, {}, 300.0}));
 }
 
-TEST(TrendLimits, ChangeWhereAReadingWasJudgedByOthers) {
+TEST(TrendLimits, ChangeWithTheReadingsLimits) {
   auto tighter = kIec;
   tighter.high = 200;
   const auto limits = LimitsOf({At("2024-01-01T00:00:00Z", {kIec}), At("2025-01-01T00:00:00Z", {tighter}),
@@ -56,27 +56,27 @@ TEST(TrendLimits, ChangeWithTheLowerBoundAlone) {
                                             LimitStretch{0, "2025-01-01T00:00:00Z", {}, 50.0, 500.0}));
 }
 
-TEST(TrendLimits, OfStandardsThatWereNotSelectedAreLeftOut) {
+TEST(TrendLimits, OmitUnselectedStandards) {
   auto other = kAami;
   other.selected = false;
   EXPECT_THAT(LimitsOf({At("2024-01-01T00:00:00Z", {kIec, other})}, "mOhm").standards,
               ElementsAre("IEC 62353"));
 }
 
-TEST(TrendLimits, OfSeveralStandardsStandSideBySideInTheUnitOfTheDrawing) {
+TEST(TrendLimits, ConvertSeveralStandardsToOneUnit) {
   const auto limits = LimitsOf({At("2024-01-01T00:00:00Z", {kIec, kAami})}, "mOhm");
   EXPECT_THAT(limits.standards, ElementsAre("IEC 62353", "AAMI, class I"));
   EXPECT_THAT(limits.stretches,
               ElementsAre(LimitStretch{0, {}, {}, {}, 300.0}, LimitStretch{1, {}, {}, 100.0, 500.0}));
 }
 
-TEST(TrendLimits, InAnUnitOfAnotherQuantityAreLeftOut) {
+TEST(TrendLimits, OmitUnitsOfAnotherQuantity) {
   auto volts = kIec;
   volts.unit = "V";
   EXPECT_THAT(LimitsOf({At("2024-01-01T00:00:00Z", {volts})}, "mOhm").stretches, IsEmpty());
 }
 
-TEST(LimitText, ReadsAsPeopleSayIt) {
+TEST(LimitText, NamesTheBounds) {
   EXPECT_EQ(LimitText(kIec), "IEC 62353: at most 300 mOhm");
   EXPECT_EQ(LimitText(kAami), "AAMI, class I: 0.1 to 0.5 Ohm");
   EXPECT_EQ(LimitText(Limit("S", "", "V", 207.0, {})), "S: at least 207 V");

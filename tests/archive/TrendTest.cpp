@@ -19,7 +19,7 @@ class TrendTest : public ArchiveTest {
   bench::Archive archive_ = Open();
 };
 
-TEST_P(TrendTest, TellsTheReadingsInTheOrderOfTheirDates) {
+TEST_P(TrendTest, OrdersReadingsByDate) {
   archive_.Add(Measured("/d/1", "P-7", 130, "2026-03-01T09:30:00Z"));
   archive_.Add(Measured("/d/2", "P-7", 120, "2025-03-01T09:30:00Z"));
   archive_.Add(Measured("/d/3", "P-8", 999, "2025-03-01T09:30:00Z"));
@@ -31,7 +31,7 @@ TEST_P(TrendTest, TellsTheReadingsInTheOrderOfTheirDates) {
   EXPECT_TRUE(archive_.TrendOf("P-7", 420).points.empty());
 }
 
-TEST_P(TrendTest, ShowsARunOnceAsInTheLastRevisionAndALaterRunToo) {
+TEST_P(TrendTest, ShowsEachRunOnce_LastRevision) {
   archive_.Add(Measured("/d/1", "P-7", 120, "2025-03-01T09:30:00Z"));
   archive_.Add(Measured("/d/1", "P-7", 125, "2025-03-01T09:30:00Z"));
   auto again = Measured("/d/1", "P-7", 140, "2025-03-01T09:30:00Z");  // within the same second
@@ -40,7 +40,7 @@ TEST_P(TrendTest, ShowsARunOnceAsInTheLastRevisionAndALaterRunToo) {
   EXPECT_THAT(ValuesOf(archive_.TrendOf("P-7", 410)), ElementsAre(125, 140));
 }
 
-TEST_P(TrendTest, TakesTheDateOfAddingWithoutOneInTheRecord) {
+TEST_P(TrendTest, UsesTheDateOfAdding_UndatedRecord) {
   archive_.Add(Measured("/d/1", "P-7", 120, ""));
   archive_.Add(Measured("/d/1", "P-7", 125, ""));
   const auto trend = archive_.TrendOf("P-7", 410);
@@ -50,7 +50,7 @@ TEST_P(TrendTest, TakesTheDateOfAddingWithoutOneInTheRecord) {
   EXPECT_EQ(trend.points[0].added, "2026-11-21T12:00:00Z");
 }
 
-TEST_P(TrendTest, LeavesOutWhatWasNotTested) {
+TEST_P(TrendTest, OmitsUntestedElements) {
   auto document = Measured("/d/1", "P-7", 120);
   document.elements[0].result = {};
   document.elements[0].result.id = 1;
@@ -61,7 +61,7 @@ TEST_P(TrendTest, LeavesOutWhatWasNotTested) {
   EXPECT_EQ(trend.notCurrent, 0U);
 }
 
-TEST_P(TrendTest, LeavesOutAndCountsResultsThatDidNotCount) {
+TEST_P(TrendTest, OmitsAndCountsResultsNotCurrent) {
   for (const double value : {120.0, 121.0}) {  // of the same document: it counts once
     auto document = Measured("/d/1", "P-7", value);
     document.elements[0].result.run = 0;

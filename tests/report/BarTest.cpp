@@ -12,14 +12,14 @@ namespace {
 
 using Place = Bar::Place;
 
-TEST(Bar, ThereIsNoneWithoutBounds) { EXPECT_FALSE(MakeBar({}, {}, 5)); }
+TEST(Bar, IsEmptyWithoutBounds) { EXPECT_FALSE(MakeBar({}, {}, 5)); }
 
-TEST(Bar, ThereIsNoneForWhatIsNoNumber) {
+TEST(Bar, IsEmptyForNonFiniteNumbers) {
   EXPECT_FALSE(MakeBar(1, 2, std::nan("")));
   EXPECT_FALSE(MakeBar({}, 2, std::numeric_limits<double>::infinity()));
 }
 
-TEST(Bar, AValueOnABoundIsAllowedAndStandsOnIt) {
+TEST(Bar, PlacesAnAllowedValueOnItsBound) {
   const auto high = MakeBar({}, 300, 300);
   ASSERT_TRUE(high);
   EXPECT_EQ(high->place, Place::kAtHigh);
@@ -31,11 +31,11 @@ TEST(Bar, AValueOnABoundIsAllowedAndStandsOnIt) {
   EXPECT_DOUBLE_EQ(low->value, *low->low);
 }
 
-TEST(Bar, ABoundIsComparedInSinglePrecisionAsLimitsDo) {
+TEST(Bar, ComparesInSinglePrecisionAsLimitsDo) {
   EXPECT_EQ(MakeBar({}, 0.3, static_cast<double>(0.3F))->place, Place::kAtHigh);
 }
 
-TEST(Bar, AValueBesideABoundStandsVisiblyBesideIt) {
+TEST(Bar, ShowsASmallExcessVisibly) {
   const auto above = MakeBar({}, 300, 300.001);
   EXPECT_EQ(above->place, Place::kAbove);
   EXPECT_GT(above->value, *above->high + 0.02);
@@ -44,19 +44,19 @@ TEST(Bar, AValueBesideABoundStandsVisiblyBesideIt) {
   EXPECT_LT(below->value, *below->low - 0.02);
 }
 
-TEST(Bar, AValueBetweenItsBoundsStandsInProportion) {
+TEST(Bar, PlacesAValueInProportion) {
   const auto bar = MakeBar(207, 253, 230);
   EXPECT_EQ(bar->place, Place::kWithin);
   EXPECT_NEAR(bar->value, (*bar->low + *bar->high) / 2, 1e-9);
   EXPECT_FALSE(bar->beyond);
 }
 
-TEST(Bar, WithAnUpperBoundAloneTheLineBeginsAtZero) {
+TEST(Bar, StartsAtZeroWithAnUpperBoundOnly) {
   const auto bar = MakeBar({}, 300, 150);
   EXPECT_NEAR(bar->value, *bar->high / 2, 1e-9);
 }
 
-TEST(Bar, AValueFarAwayLeavesTheBoundsToBeSeen) {
+TEST(Bar, KeepsTheBoundsVisible_FarValue) {
   const auto bar = MakeBar({}, 300, 1e9);
   EXPECT_TRUE(bar->beyond);
   EXPECT_EQ(bar->value, 1);
@@ -65,7 +65,7 @@ TEST(Bar, AValueFarAwayLeavesTheBoundsToBeSeen) {
   EXPECT_EQ(MakeBar(-1, 1, -1e300)->value, 0);
 }
 
-TEST(Bar, WhateverTheNumbersEverythingStandsOnTheLineAndOnItsSide) {
+TEST(Bar, PlacesRandomValuesOnTheirSide) {
   std::mt19937 random(support::Seed());
   const auto number = [&random] {
     const double digits = static_cast<double>(random() % 2000) - 1000;

@@ -41,7 +41,7 @@ TEST_F(DocumentReport, NamesEquipmentTesterOperatorAndStandards) {
   EXPECT_THAT(MarksOf(report), IsEmpty());
 }
 
-TEST_F(DocumentReport, EveryTesterIsNamedAtTheTopOfEachPageAndAtItsTests) {
+TEST_F(DocumentReport, NamesEveryTesterInThePageHeader) {
   file_.Add(410);
   file_.Add(420);
   file_.Answers("IREM", "irem,KELD(IN),A-1,3.10");
@@ -57,7 +57,7 @@ TEST_F(DocumentReport, EveryTesterIsNamedAtTheTopOfEachPageAndAtItsTests) {
   EXPECT_EQ(FactOf(report.sections.at(1).facts, "Tester"), FactOf(report.facts, "Tester 2"));
 }
 
-TEST_F(DocumentReport, WhatIsNotRecordedIsSaidToBe) {
+TEST_F(DocumentReport, SaysNotRecorded_BeforeTheFirstRun) {
   file_.Add(410);
   const auto report = Report();
   for (const char* label : {"Tested", "Operator", "Tester"})
@@ -65,7 +65,7 @@ TEST_F(DocumentReport, WhatIsNotRecordedIsSaidToBe) {
   EXPECT_THAT(report.runs.rows, IsEmpty());
 }
 
-TEST_F(DocumentReport, ReasonsAreInTheOverviewAndInTheSection) {
+TEST_F(DocumentReport, ShowsReasonsInOverviewAndSection) {
   file_.Add(410);
   file_.Add(420);
   file_.Limit(1, "", "300");
@@ -80,7 +80,7 @@ TEST_F(DocumentReport, ReasonsAreInTheOverviewAndInTheSection) {
   EXPECT_THAT(report.sections.at(1).notes, IsEmpty());
 }
 
-TEST_F(DocumentReport, TestLeadsThatCannotBeRightAreAReason) {
+TEST_F(DocumentReport, DoubtsTestLeadsAbove500mOhm) {
   file_.Add(410);
   file_.Limit(1, "", "300");
   file_.Leads("SIM-0001", 600, "2026-11-01T08:15:00+01:00");
@@ -90,7 +90,7 @@ TEST_F(DocumentReport, TestLeadsThatCannotBeRightAreAReason) {
   EXPECT_THAT(report.overview[0].note, HasSubstr("600 mOhm"));
 }
 
-TEST_F(DocumentReport, ASimulatedOneSaysSoInItsTitleAndOnEveryPage) {
+TEST_F(DocumentReport, MarksASimulatedReport) {
   file_.Add(410);
   file_.Add(420);
   file_.Limit(1, "", "300");
@@ -103,7 +103,7 @@ TEST_F(DocumentReport, ASimulatedOneSaysSoInItsTitleAndOnEveryPage) {
   EXPECT_EQ(report.marks[1].text, "Partial report: 1 of 2 not tested");
 }
 
-TEST_F(DocumentReport, StandardsThatAreLeftOutAreNamedOnEveryPage) {
+TEST_F(DocumentReport, NamesLeftOutStandardsOnEveryPage) {
   file_.Add(410);
   file_.Limit(1, "", "300");
   Run("0.123,0,Ohm");
@@ -117,7 +117,7 @@ TEST_F(DocumentReport, StandardsThatAreLeftOutAreNamedOnEveryPage) {
   EXPECT_EQ(report.sections.at(0).judgements.size(), 1U);
 }
 
-TEST_F(DocumentReport, ARunInPiecesHasItsFirstAndLastTimeAndEveryOperator) {
+TEST_F(DocumentReport, SpansTimesAndOperatorsOfAllRuns) {
   file_.Add(410);
   file_.Add(420);
   Run("0.1,0,Ohm", {.elements = {1}, .at = "2026-11-20T23:50:00+01:00", .by = "A"});
@@ -130,7 +130,7 @@ TEST_F(DocumentReport, ARunInPiecesHasItsFirstAndLastTimeAndEveryOperator) {
   EXPECT_EQ(report.created, "2026-11-20T23:50:00+01:00");
 }
 
-TEST_F(DocumentReport, OtherEquipmentHasNoResult) {
+TEST_F(DocumentReport, HasNoResultForOtherEquipment) {
   file_.Add(410);
   file_.Limit(1, "", "300");
   Run("0.1,0,Ohm");
@@ -145,7 +145,7 @@ TEST_F(DocumentReport, OtherEquipmentHasNoResult) {
   EXPECT_THAT(RowsOf(report.runs).at(0), HasSubstr("on other equipment: VENT-1, Maker, Model, S-2"));
 }
 
-TEST_F(DocumentReport, ASequenceHasItsOwnTablesAndNotThoseOfItsChildren) {
+TEST_F(DocumentReport, SequencesPrintTheirOwnTablesOnly) {
   file_.Add(400);
   Run("0.1,0,Ohm");
   const auto report = Report();
@@ -158,7 +158,7 @@ TEST_F(DocumentReport, ASequenceHasItsOwnTablesAndNotThoseOfItsChildren) {
   EXPECT_LE(results, 1) << "a sequence prints one result: its own";
 }
 
-TEST_F(DocumentReport, TheTitleThatAnElementPrintsIsNotRepeated) {
+TEST_F(DocumentReport, DropsTheTitleThatAnElementPrints) {
   file_.Add(410);
   Run("0.123,0,Ohm");
   const auto section = Report().sections.at(0);
@@ -169,7 +169,7 @@ TEST_F(DocumentReport, TheTitleThatAnElementPrintsIsNotRepeated) {
   }
 }
 
-TEST_F(DocumentReport, AnElementThatIsNotToBePrintedIsInTheOverviewAlone) {
+TEST_F(DocumentReport, UnprintedElementsAreInTheOverviewOnly) {
   const auto hidden = file_.Add(410);
   file_.Add(420);
   file_.Host().Elements()->BaseOf(hidden)->Auxiliary()->SetPrintElement(false);
@@ -181,7 +181,7 @@ TEST_F(DocumentReport, AnElementThatIsNotToBePrintedIsInTheOverviewAlone) {
   EXPECT_EQ(report.overview[1].anchor, report.sections[0].anchor);
 }
 
-TEST_F(DocumentReport, WhatWasTypedIsMadeVisibleBeforeAnyOutputSeesIt) {
+TEST_F(DocumentReport, MakesEnteredTextsVisible) {
   file_.Document().equipment.serial = "<b>1\u202E23\x07";
   file_.Document().comment = "x\ny\x1B[2J";
   file_.Add(410);
@@ -201,7 +201,7 @@ TEST_F(DocumentReport, WhatWasTypedIsMadeVisibleBeforeAnyOutputSeesIt) {
   EXPECT_THAT(HtmlReport(report), HasSubstr("KELD(IN) &lt;s&gt;"));
 }
 
-TEST_F(DocumentReport, IsTheSameWhenTheDocumentIsOpenedAgain) {
+TEST_F(DocumentReport, IsTheSameAfterReopening) {
   file_.Add(410);
   file_.Add(400);
   file_.Limit(1, "", "300");

@@ -61,7 +61,7 @@ std::string TextOf(const ReadPage& page, const char* path) {
   return ReadPage::Below(page.xml.select_node(path).node());
 }
 
-TEST(HtmlReport, IsOneWellFormedPageWithoutScriptsAndWithoutAnythingFetched) {
+TEST(HtmlReport, IsOneWellFormedSelfContainedPage) {
   const ReadPage page(sample::Report());
   EXPECT_TRUE(page.text.starts_with("<!DOCTYPE html>\n<html lang=\"en\">"));
   EXPECT_EQ(page.Count("//script | //link | //img | //iframe | //object | //@src | //@onclick | //@onload"),
@@ -73,7 +73,7 @@ TEST(HtmlReport, IsOneWellFormedPageWithoutScriptsAndWithoutAnythingFetched) {
     EXPECT_EQ(link.attribute().value()[0], '#') << link.attribute().value();
 }
 
-TEST(HtmlReport, TellsOneVerdictAndWhy) {
+TEST(HtmlReport, ShowsOneVerdictAndItsReason) {
   const ReadPage page(sample::Report());
   ASSERT_EQ(page.Count("//*[contains(@class, 'verdict')]"), 1);
   EXPECT_EQ(TextOf(page, "//*[contains(@class, 'verdict')]//strong"), "Failed");
@@ -81,7 +81,7 @@ TEST(HtmlReport, TellsOneVerdictAndWhy) {
   EXPECT_THAT(TextOf(page, "//title"), HasSubstr("VENT-0042 - Failed"));
 }
 
-TEST(HtmlReport, EveryTableHasACaptionAndItsHeadsHaveScopes) {
+TEST(HtmlReport, TablesHaveCaptionsAndScopes) {
   const ReadPage page(sample::Report());
   EXPECT_GT(page.Count("//table"), 6);
   EXPECT_EQ(page.Count("//table[not(caption)]"), 0);
@@ -89,14 +89,14 @@ TEST(HtmlReport, EveryTableHasACaptionAndItsHeadsHaveScopes) {
   EXPECT_EQ(page.Count("//table[not(.//th)]"), 0);
 }
 
-TEST(HtmlReport, EveryBarSaysInWordsWhatItShows) {
+TEST(HtmlReport, BarsHaveATextAlternative) {
   const ReadPage page(sample::Report());
   ASSERT_EQ(page.Count("//svg"), 3);
   EXPECT_EQ(page.Count("//svg[@role='img'][@aria-label='1850 mOhm is somewhere']"), 1);
   EXPECT_EQ(page.Count("//svg/title"), 3);
 }
 
-TEST(HtmlReport, WithoutRoomForColumnsResultAndBarStandBelowAndTablesStayTables) {
+TEST(HtmlReport, TablesStackOnNarrowScreens) {
   const ReadPage page(sample::Report());
   EXPECT_EQ(page.Count("//table[contains(@class, 'stacked overview')]"), 1);
   EXPECT_EQ(page.Count("//table[contains(@class, 'stacked limits')]"), 3);
@@ -113,13 +113,13 @@ TEST(HtmlReport, WithoutRoomForColumnsResultAndBarStandBelowAndTablesStayTables)
     EXPECT_EQ(page.Count((stacked + without).c_str()), 0) << without;
 }
 
-TEST(HtmlReport, ALongWordWidensNoColumnAndNoPrintedPage) {
+TEST(HtmlReport, LongWordsWrap) {
   EXPECT_THAT(RuleOf("body"), HasSubstr("overflow-wrap:anywhere;"));
   EXPECT_THAT(html::kStyle, Not(HasSubstr("break-word"))) << "such a word would still widen its column";
   EXPECT_THAT(RuleOf(".page", "@mediaprint"), HasSubstr("table-layout:fixed;"));
 }
 
-TEST(HtmlReport, StandingsAreToldByWordAndSignNotByColourAlone) {
+TEST(HtmlReport, StandingsHaveWordAndSignBesideColour) {
   const ReadPage page(sample::Report());
   EXPECT_GT(page.Count("//*[contains(@class, 'word')]"), 0);
   EXPECT_EQ(page.Count("//*[starts-with(@class, 'word ')][not(*[@class='sign'])]"), 0);
@@ -133,7 +133,7 @@ TEST(HtmlReport, OnlyPassedIsGreen) {
     EXPECT_EQ(std::string(html::ClassOf(standing)) == "passed", standing == Standing::kPassed);
 }
 
-TEST(HtmlReport, LinksOfTheOverviewLeadToTheirElements) {
+TEST(HtmlReport, OverviewLinksToItsElements) {
   const ReadPage page(sample::Report());
   int links = 0;
   for (const auto& link : page.xml.select_nodes("//a/@href")) {
@@ -144,7 +144,7 @@ TEST(HtmlReport, LinksOfTheOverviewLeadToTheirElements) {
   EXPECT_EQ(links, 3);
 }
 
-TEST(HtmlReport, APartialReportSaysSoOnThePageAndOnEveryPrintedPage) {
+TEST(HtmlReport, MarksAPartialReportOnEveryPage) {
   auto report = sample::Report();
   EXPECT_EQ(ReadPage(report).Count("//*[@class='partial'] | //*[@class='mark']"), 0);
   sample::MakePartial(report);
@@ -154,7 +154,7 @@ TEST(HtmlReport, APartialReportSaysSoOnThePageAndOnEveryPrintedPage) {
   EXPECT_THAT(RuleOf(".running", "@mediaprint"), HasSubstr("display:table-header-group;"));
 }
 
-TEST(HtmlReport, ASimulatedReportSaysSoOnTheScreenAndOnEveryPrintedPage) {
+TEST(HtmlReport, MarksASimulatedReportOnEveryPage) {
   auto report = sample::Report();
   EXPECT_EQ(ReadPage(report).Count("//*[@class='band'] | //*[@class='across']"), 0);
   sample::MakePartial(report);
@@ -181,7 +181,7 @@ TEST(HtmlReport, ShowsRunsReadingsByRunAndReasons) {
   EXPECT_EQ(TextOf(page, "//table[contains(@class, 'overview')]//*[@class='note']"), "Fails IEC 62353");
 }
 
-TEST(HtmlReport, NoFactTakesMoreThanALineOfThePrintedPagesHeader) {
+TEST(HtmlReport, PageHeaderFactsTakeOneLineEach) {
   auto report = sample::Report();
   report.pageHeader[0].value = std::string(10000, 'W');
   const ReadPage page(report);
@@ -191,7 +191,7 @@ TEST(HtmlReport, NoFactTakesMoreThanALineOfThePrintedPagesHeader) {
     EXPECT_THAT(RuleOf(".runningspan", "@mediaprint"), HasSubstr(rule));
 }
 
-TEST(HtmlReport, WhatCameFromOutsideIsTextInEveryPlace) {
+TEST(HtmlReport, EscapesTextsFromOutsideEverywhere) {
   const auto ordinary = ReadPage(sample::Everywhere("plain"));
   for (const std::string text :
        {sample::Hostile::kScript, sample::Hostile::kMarkup, sample::Hostile::kQuotes}) {
@@ -205,28 +205,26 @@ TEST(HtmlReport, WhatCameFromOutsideIsTextInEveryPlace) {
   }
 }
 
-TEST(HtmlReport, ATextOfTenThousandLettersIsThereInFull) {
+TEST(HtmlReport, KeepsATextOfTenThousandLetters) {
   const std::string text(10000, 'W');
   const ReadPage page(sample::Everywhere(text));
   EXPECT_EQ(TextOf(page, "//h3/bdi"), text);
 }
 
-TEST(HtmlReport, LineEndsOfACommentStay) {
+TEST(HtmlReport, KeepsTheLineEndsOfAComment) {
   auto report = sample::Report();
   report.sections[0].facts = {{"Comment", "one\ntwo"}};
   EXPECT_THAT(HtmlReport(report), HasSubstr("<bdi>one<br/>two</bdi>"));
 }
 
-TEST(HtmlReport, ADocumentWithoutTestsSaysSo) {
+TEST(HtmlReport, ReportsADocumentWithoutTests) {
   auto report = sample::Report(0);
   const ReadPage page(report);
   EXPECT_THAT(page.text, HasSubstr("The document has no tests."));
   EXPECT_EQ(page.Count("//section"), 0);
 }
 
-TEST(HtmlReport, TheSameReportGivesTheSameBytes) {
-  EXPECT_EQ(HtmlReport(sample::Report()), HtmlReport(sample::Report()));
-}
+TEST(HtmlReport, IsReproducible) { EXPECT_EQ(HtmlReport(sample::Report()), HtmlReport(sample::Report())); }
 
 /// Relative luminance of "#rrggbb" as the accessibility guidelines reckon it.
 double Luminance(const std::string& colour) {
@@ -240,14 +238,14 @@ double Luminance(const std::string& colour) {
 }
 
 // Its letters are white.
-TEST(HtmlReport, EveryVerdictHasABackground) {
+TEST(HtmlReport, VerdictsHaveABackground) {
   for (const auto standing : kEveryStanding) {
     const std::string name = html::ClassOf(standing);
     EXPECT_EQ(RuleOf(".verdict." + name), "background:var(--" + name + ");;") << name;
   }
 }
 
-TEST(HtmlReport, TextStandsOutFromItsBackground) {
+TEST(HtmlReport, TextContrastsWithItsBackground) {
   const std::string style = html::kStyle;
   const auto colour = [&style](const std::string& name) {
     const auto at = style.find("--" + name + ": ");

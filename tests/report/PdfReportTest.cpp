@@ -20,8 +20,8 @@ class PdfReportTest : public testing::Test {
  protected:
   static std::string Pdf(const report::Report& report) { return WritePdf(report, PDF_MODULE_PATH); }
 
-  /// What a program of the PDF tools says of the file.
-  std::string Told(const report::Report& report, const std::string& before, const std::string& after = "") {
+  /// The output of a PDF tool about the file.
+  std::string Output(const report::Report& report, const std::string& before, const std::string& after = "") {
     const auto file = (folder_.Path() / "a.pdf").string();
     std::ofstream(file, std::ios::binary) << Pdf(report);
     const auto ended = support::RunShell(before + " " + file + " " + after);
@@ -30,7 +30,7 @@ class PdfReportTest : public testing::Test {
   }
 
   std::vector<std::string> Pages(const report::Report& report) {
-    const auto text = Told(report, "pdftotext -layout", "-");
+    const auto text = Output(report, "pdftotext -layout", "-");
     std::vector<std::string> pages;
     for (std::size_t at = 0, end; (end = text.find('\f', at)) != std::string::npos; at = end + 1)
       pages.push_back(text.substr(at, end - at));
@@ -45,19 +45,19 @@ class PdfReportTest : public testing::Test {
   support::TemporaryFolder folder_;
 };
 
-TEST_F(PdfReportTest, EveryPageTellsEquipmentTesterDateOperatorAndItsNumber) {
+TEST_F(PdfReportTest, EveryPageHasHeaderAndNumber) {
   const auto pages = Pages(sample::Report(30));
   ASSERT_GT(pages.size(), 3U);
   for (std::size_t i = 0; i < pages.size(); ++i) {
-    for (const std::string& told :
+    for (const std::string& shown :
          {std::string("Equipment: VENT-0042"), std::string("Tester: KELD(IN), SIM-0001"),
           std::string("Tested: 2026-11-21"), std::string("Operator: M. Holm"),
           std::to_string(i + 1) + " / " + std::to_string(pages.size())})
-      EXPECT_THAT(pages[i], HasSubstr(told)) << "page " << i + 1;
+      EXPECT_THAT(pages[i], HasSubstr(shown)) << "page " << i + 1;
   }
 }
 
-TEST_F(PdfReportTest, SeveralTestersHaveALineOfThePagesHeader) {
+TEST_F(PdfReportTest, PageHeaderHasALineForTesters) {
   auto report = sample::Report();
   report.pageHeader[1] = {"Tester", "KELD(IN) A-1001; KELD(IN) A-1002; KELD(IN) A-1003; KELD(IN) A-1004"};
   EXPECT_THAT(Pages(report).at(0), HasSubstr(report.pageHeader[1].value));
@@ -68,7 +68,7 @@ TEST_F(PdfReportTest, SeveralTestersHaveALineOfThePagesHeader) {
   EXPECT_THAT(Pages(report).at(0), HasSubstr("Tested: 2026-11-21"));
 }
 
-TEST_F(PdfReportTest, TheHeadingOfTheDetailsStandsOnThePageOfItsFirstTest) {
+TEST_F(PdfReportTest, DetailsHeadingIsOnThePageOfItsFirstTest) {
   auto report = sample::Report(1);
   std::size_t onAnother = 0;
   for (int facts = 0; facts < 30; ++facts) {
@@ -84,14 +84,14 @@ TEST_F(PdfReportTest, TheHeadingOfTheDetailsStandsOnThePageOfItsFirstTest) {
   EXPECT_GT(onAnother, 0U) << "the details never came to another page";
 }
 
-TEST_F(PdfReportTest, TellsTheVerdictAndEveryElement) {
-  const auto text = Told(sample::Report(), "pdftotext -layout", "-");
-  for (const char* told : {"Failed", "1 of 3 failed, 2 passed", "Asset number", "1850", "Fails IEC 62353",
-                           "at most 300 mOhm", "exceeded", "Result:"})
-    EXPECT_THAT(text, HasSubstr(told));
+TEST_F(PdfReportTest, ShowsTheVerdictAndEveryElement) {
+  const auto text = Output(sample::Report(), "pdftotext -layout", "-");
+  for (const char* shown : {"Failed", "1 of 3 failed, 2 passed", "Asset number", "1850", "Fails IEC 62353",
+                            "at most 300 mOhm", "exceeded", "Result:"})
+    EXPECT_THAT(text, HasSubstr(shown));
 }
 
-TEST_F(PdfReportTest, APartialReportSaysSoOnEveryPage) {
+TEST_F(PdfReportTest, MarksAPartialReportOnEveryPage) {
   auto report = sample::Report(30);
   for (const auto& page : Pages(report)) EXPECT_THAT(page, Not(HasSubstr("Partial report")));
   sample::MakePartial(report);
@@ -100,7 +100,7 @@ TEST_F(PdfReportTest, APartialReportSaysSoOnEveryPage) {
   for (const auto& page : pages) EXPECT_THAT(page, HasSubstr("Partial report: 1 of 3 not tested"));
 }
 
-TEST_F(PdfReportTest, ASimulatedReportSaysSoOnEveryPage) {
+TEST_F(PdfReportTest, MarksASimulatedReportOnEveryPage) {
   auto report = sample::Report(30);
   sample::MakePartial(report);
   sample::MakeSimulated(report);
@@ -117,14 +117,14 @@ TEST_F(PdfReportTest, ASimulatedReportSaysSoOnEveryPage) {
 TEST_F(PdfReportTest, ShowsRunsReadingsByRunAndReasons) {
   auto report = sample::Report();
   sample::AddRuns(report);
-  const auto text = Told(report, "pdftotext -layout", "-");
-  for (const char* told : {"Runs", "How it ended", "interrupted", "Readings by run", "failed in run 1"})
-    EXPECT_THAT(text, HasSubstr(told));
+  const auto text = Output(report, "pdftotext -layout", "-");
+  for (const char* shown : {"Runs", "How it ended", "interrupted", "Readings by run", "failed in run 1"})
+    EXPECT_THAT(text, HasSubstr(shown));
   EXPECT_LT(text.find("Fails IEC 62353"), text.find("Tests in detail")) << "the overview has the reason";
 }
 
 TEST_F(PdfReportTest, HasTitleLanguageDateAndBookmarks) {
-  const auto info = Told(sample::Report(), "pdfinfo -isodates");
+  const auto info = Output(sample::Report(), "pdfinfo -isodates");
   EXPECT_THAT(info, HasSubstr("Electrical safety test: VENT-0042 - Failed"));
   EXPECT_THAT(info, HasSubstr("2026-11-21T14:03:22+01"));
   EXPECT_THAT(info, HasSubstr("A4"));
@@ -133,14 +133,14 @@ TEST_F(PdfReportTest, HasTitleLanguageDateAndBookmarks) {
   EXPECT_THAT(pdf, HasSubstr("/Count 3 ")) << "summary, overview, details";
   EXPECT_THAT(pdf, HasSubstr("/Count -3 ")) << "the three tests, folded";
   EXPECT_THAT(pdf, HasSubstr("/DisplayDocTitle true"));
-  const auto outline = Told(sample::Report(30), "pdftohtml -xml -stdout");
+  const auto outline = Output(sample::Report(30), "pdftohtml -xml -stdout");
   EXPECT_THAT(outline, HasSubstr("<item page=\"1\">Overview</item>"));
   EXPECT_THAT(outline, HasSubstr("<item page=\"" + std::to_string(Pages(sample::Report(30)).size()) +
                                  "\">30  Protective earth 30</item>"));
 }
 
 TEST_F(PdfReportTest, FontsAreEmbedded) {
-  const auto fonts = Told(sample::Report(), "pdffonts");
+  const auto fonts = Output(sample::Report(), "pdffonts");
   std::istringstream lines(fonts);
   std::string line;
   std::getline(lines, line);
@@ -150,38 +150,36 @@ TEST_F(PdfReportTest, FontsAreEmbedded) {
   EXPECT_GT(count, 0);
 }
 
-TEST_F(PdfReportTest, SignsOfTheTradeAndEastAsianTextsComeOut) {
+TEST_F(PdfReportTest, ShowsUnitSignsAndEastAsianTexts) {
   auto report = sample::Report();
   report.facts = {{"Limits", "5 m\u03A9 \u2264 12 \u00B5A"}, {"Model", "\u4EBA\u5DE5\u547C\u5438\u5668"}};
-  const auto text = Told(report, "pdftotext", "-");
+  const auto text = Output(report, "pdftotext", "-");
   EXPECT_THAT(text, HasSubstr("m\u03A9 \u2264 12 \u00B5A"));
   EXPECT_THAT(text, HasSubstr("\u4EBA\u5DE5\u547C\u5438\u5668"));
 }
 
-TEST_F(PdfReportTest, HostileTextsAreTextInEveryPlace) {
+TEST_F(PdfReportTest, ShowsHostileTextsUnchanged) {
   for (const std::string text :
        {sample::Hostile::kScript, sample::Hostile::kMarkup, sample::Hostile::kQuotes})
-    EXPECT_THAT(WithoutSpaces(Told(sample::Everywhere(text), "pdftotext", "-")), HasSubstr(text));
+    EXPECT_THAT(WithoutSpaces(Output(sample::Everywhere(text), "pdftotext", "-")), HasSubstr(text));
 }
 
-TEST_F(PdfReportTest, ATextOfTenThousandLettersIsThereInFull) {
+TEST_F(PdfReportTest, KeepsATextOfTenThousandLetters) {
   auto report = sample::Report();
   report.sections[0].facts = {{"Comment", std::string(10000, 'W')}};
   report.overview[0].name = std::string(10000, 'Q');
-  const auto text = Told(report, "pdftotext", "-");
+  const auto text = Output(report, "pdftotext", "-");
   EXPECT_EQ(std::count(text.begin(), text.end(), 'W'), 10000);
   EXPECT_EQ(std::count(text.begin(), text.end(), 'Q'), 10000);
 }
 
-TEST_F(PdfReportTest, TenThousandLettersEverywhereAreWritten) {
+TEST_F(PdfReportTest, WritesTenThousandLettersEverywhere) {
   EXPECT_GT(Pages(sample::Everywhere(std::string(10000, 'x'))).size(), 20U);
 }
 
-TEST_F(PdfReportTest, TheSameReportGivesTheSameBytes) {
-  EXPECT_EQ(Pdf(sample::Report(12)), Pdf(sample::Report(12)));
-}
+TEST_F(PdfReportTest, IsReproducible) { EXPECT_EQ(Pdf(sample::Report(12)), Pdf(sample::Report(12))); }
 
-TEST_F(PdfReportTest, AMissingModuleIsToldWithWhatToDo) {
+TEST_F(PdfReportTest, NamesAMissingModuleAndAnAlternative) {
   try {
     WritePdf(sample::Report(), folder_.Path() / "none.so");
     FAIL() << "there is no such module";

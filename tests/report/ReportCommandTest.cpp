@@ -9,7 +9,7 @@ using testing::HasSubstr;
 
 class ReportCommandTest : public CliTest {};
 
-TEST_F(ReportCommandTest, EachEndingGivesItsKind) {
+TEST_F(ReportCommandTest, WritesTheFormatOfTheEnding) {
   const auto file = NewDocument({"410"});
   const auto begins = [this](const std::string& name) { return Contents(Path(name)).substr(0, 9); };
   for (const char* name : {"a.html", "a.pdf", "a.txt", "B.PDF"}) {
@@ -23,7 +23,7 @@ TEST_F(ReportCommandTest, EachEndingGivesItsKind) {
   EXPECT_EQ(begins("a.txt"), "Electrica");
 }
 
-TEST_F(ReportCommandTest, AnotherEndingIsRefusedNamingTheThree) {
+TEST_F(ReportCommandTest, RefusesAnotherEnding) {
   const auto file = NewDocument({"410"});
   for (const char* name : {"a.doc", "a", "pdf", "a.html.gz"}) {
     const auto refused = Bench({"report", file, "--to", Path(name)});
@@ -33,7 +33,7 @@ TEST_F(ReportCommandTest, AnotherEndingIsRefusedNamingTheThree) {
   }
 }
 
-TEST_F(ReportCommandTest, GoesToTheStandardOutputInEachFormat) {
+TEST_F(ReportCommandTest, WritesEachFormatToStandardOutput) {
   const auto file = NewDocument({"410"});
   for (const char* format : {"html", "pdf", "txt"}) {
     const auto name = Path(std::string("a.") + format);
@@ -46,7 +46,7 @@ TEST_F(ReportCommandTest, GoesToTheStandardOutputInEachFormat) {
   EXPECT_EQ(Bench({"report", file, "--to", "-"}).out, Contents(Path("a.txt")));
 }
 
-TEST_F(ReportCommandTest, TheFormatMayBeAnotherThanTheEndings) {
+TEST_F(ReportCommandTest, FormatOptionOverridesTheEnding) {
   const auto file = NewDocument({"410"});
   ASSERT_EQ(Bench({"report", file, "--to", Path("a"), "--format", "HTML"}).status, 0);
   EXPECT_EQ(Contents(Path("a")).substr(0, 9), "<!DOCTYPE");
@@ -56,27 +56,27 @@ TEST_F(ReportCommandTest, TheFormatMayBeAnotherThanTheEndings) {
   EXPECT_THAT(refused.error, HasSubstr("--format doc: unknown format (html, pdf, txt)"));
 }
 
-TEST_F(ReportCommandTest, AReportIsNotDoneWhenTheStandardOutputIsFull) {
+TEST_F(ReportCommandTest, FailsWhenStandardOutputIsFull) {
   const auto file = NewDocument({"410"});
   const auto line = std::string(ORVIK_BENCH_PATH) + " report '" + file + "' --to - > /dev/full";
   EXPECT_EQ(support::RunShell(line).status, 2);
 }
 
-TEST_F(ReportCommandTest, APlaceThatCannotBeWrittenIsNamed) {
+TEST_F(ReportCommandTest, NamesAPathThatCannotBeWritten) {
   const auto file = NewDocument({"410"});
   const auto refused = Bench({"report", file, "--to", Path("none/a.html")});
   EXPECT_EQ(refused.status, 3);
   EXPECT_THAT(refused.error, HasSubstr("none/a.html"));
 }
 
-TEST_F(ReportCommandTest, TheDocumentItselfIsNotOverwritten) {
+TEST_F(ReportCommandTest, RefusesToOverwriteTheDocument) {
   std::filesystem::rename(NewDocument({"410"}), Path("d.html"));
   const auto before = Contents(Path("d.html"));
   EXPECT_EQ(Bench({"report", Path("d.html"), "--to", Path("./d.html")}).status, 3);
   EXPECT_EQ(Contents(Path("d.html")), before);
 }
 
-TEST_F(ReportCommandTest, AnExistingReportIsReplacedAndTheSameDocumentGivesTheSameBytes) {
+TEST_F(ReportCommandTest, ReplacesAReportWithTheSameBytes) {
   const auto file = NewDocument({"410"});
   SetLimit(file, "1", "300");
   EXPECT_EQ(Bench(Simulated(file, "sound-class-1", {"--by", "M. Holm"})).status, 0);
@@ -91,7 +91,7 @@ TEST_F(ReportCommandTest, AnExistingReportIsReplacedAndTheSameDocumentGivesTheSa
   EXPECT_THAT(Contents(Path("a.txt")), HasSubstr("M. Holm"));
 }
 
-TEST_F(ReportCommandTest, ReportsOneRunAndRefusesOneThatIsNotThere) {
+TEST_F(ReportCommandTest, ReportsOneRun_RefusesUnknownOnes) {
   const auto file = NewDocument({"410"});
   SetLimit(file, "1", "300");
   const auto none = Bench({"report", file, "--to", Path("a.txt"), "--run", "1"});
@@ -113,7 +113,7 @@ TEST_F(ReportCommandTest, ReportsOneRunAndRefusesOneThatIsNotThere) {
   EXPECT_FALSE(std::filesystem::exists(Path("b.txt")));
 }
 
-TEST_F(ReportCommandTest, JudgesByTheStandardsThatAreNamed) {
+TEST_F(ReportCommandTest, JudgesByTheNamedStandards) {
   const auto file = NewDocument({"410"});
   SetLimit(file, "1", "300");
   const auto narrowed = Bench({"report", file, "--to", "-", "--standard", "IEC 62353"});

@@ -15,7 +15,7 @@ class ReportJudgements : public ReportTest {
   }
 };
 
-TEST_F(ReportJudgements, SayOnWhichSideOfEachLimitTheReadingIs) {
+TEST_F(ReportJudgements, ShowTheSideOfEachLimit) {
   file_.Add(410);
   file_.Limit(1, "", "123");
   file_.Limit(1, "", "100", "Stricter");
@@ -33,7 +33,7 @@ TEST_F(ReportJudgements, SayOnWhichSideOfEachLimitTheReadingIs) {
   EXPECT_EQ(judgements[2].standing, Standing::kPassed);
 }
 
-TEST_F(ReportJudgements, InsulationBelowItsLowerBoundIsBelowLimit) {
+TEST_F(ReportJudgements, ShowBelowLimit_Insulation) {
   file_.Add(1010);
   file_.Limit(1, "2", "");
   Run("0.4,0,MOhm");
@@ -44,7 +44,7 @@ TEST_F(ReportJudgements, InsulationBelowItsLowerBoundIsBelowLimit) {
   EXPECT_EQ(judgements[0].inWords, "0.4 MOhm is below the lower bound: at least 2 MOhm");
 }
 
-TEST_F(ReportJudgements, AReadingInAnotherUnitIsNotJudged) {
+TEST_F(ReportJudgements, DoNotJudgeAReadingInAnotherUnit) {
   file_.Add(610);
   file_.Limit(1, "", "500");
   Run("0.9,0,V");
@@ -55,7 +55,7 @@ TEST_F(ReportJudgements, AReadingInAnotherUnitIsNotJudged) {
   EXPECT_FALSE(judgements[0].bar);
 }
 
-TEST_F(ReportJudgements, AThousandthOfTheUnitIsConverted) {
+TEST_F(ReportJudgements, ConvertAThousandthOfTheUnit) {
   file_.Add(610);
   file_.Limit(1, "", "500");
   Run("0.9,0,mA");
@@ -64,7 +64,7 @@ TEST_F(ReportJudgements, AThousandthOfTheUnitIsConverted) {
   EXPECT_EQ(judgements[0].word, "exceeded");
 }
 
-TEST_F(ReportJudgements, AnOverloadIsOLAndNeverPutBetweenBounds) {
+TEST_F(ReportJudgements, ShowAnOverloadWithoutABar) {
   file_.Add(410);
   file_.Limit(1, "", "300");
   Run("0.1,1,Ohm");
@@ -77,7 +77,7 @@ TEST_F(ReportJudgements, AnOverloadIsOLAndNeverPutBetweenBounds) {
   EXPECT_EQ(report.verdict.standing, Standing::kOpen);
 }
 
-TEST_F(ReportJudgements, ALimitThatADoubtfulReadingKeepsIsNotGreen) {
+TEST_F(ReportJudgements, AreDoubtfulForADoubtfulReading) {
   file_.Add(410);
   file_.Limit(1, "", "300");
   file_.Answers("STST,410,0", "stst,420,0");
@@ -88,7 +88,7 @@ TEST_F(ReportJudgements, ALimitThatADoubtfulReadingKeepsIsNotGreen) {
   EXPECT_EQ(judgements[0].standing, Standing::kDoubtful);
 }
 
-TEST_F(ReportJudgements, LimitsThatWereSetAfterTheTestCountToo) {
+TEST_F(ReportJudgements, IncludeLimitsSetAfterTheTest) {
   file_.Add(410);
   Run("0.123,0,Ohm");
   file_.Limit(1, "", "100");
@@ -97,7 +97,7 @@ TEST_F(ReportJudgements, LimitsThatWereSetAfterTheTestCountToo) {
   EXPECT_EQ(report.sections.at(0).judgements.at(0).word, "exceeded");
 }
 
-TEST_F(ReportJudgements, APercentageIsShownWithItsNumber) {
+TEST_F(ReportJudgements, ShowAPercentageWithItsNumber) {
   file_.Add(210);
   file_.Limit(1, "", "300");
   const auto limit = file_.Find(1)->Limits()->Standards()->item(1)->Limit(1);
@@ -107,7 +107,7 @@ TEST_F(ReportJudgements, APercentageIsShownWithItsNumber) {
   EXPECT_EQ(Judgements().at(0).bounds, "207 (90%) to 253 (110%) V");
 }
 
-TEST_F(ReportJudgements, ASequencesOwnLimitJudgesItsValue) {
+TEST_F(ReportJudgements, JudgeASequenceByItsOwnLimit) {
   file_.Add(400);
   file_.Set(1, SavedSettings::kFilter, "Maximum value");
   file_.Limit(1, "", "100");
@@ -120,7 +120,7 @@ TEST_F(ReportJudgements, ASequencesOwnLimitJudgesItsValue) {
   EXPECT_THAT(judgements[0].inWords, HasSubstr("above the upper bound"));
 }
 
-TEST_F(ReportJudgements, WithoutAReadingNothingIsJudged) {
+TEST_F(ReportJudgements, AreNotJudgedWithoutAReading) {
   file_.Add(410);
   file_.Limit(1, "", "300");
   EXPECT_EQ(Judgements().at(0).word, "not judged");

@@ -26,7 +26,7 @@ TEST_F(ReportVerdict, IsPassedWhenAllPassed) {
   EXPECT_EQ(verdict.sentence, "1 of 1 passed");
 }
 
-TEST_F(ReportVerdict, RecordedReadingsAreNotGreen) {
+TEST_F(ReportVerdict, IsQuietForRecordedReadings) {
   file_.Add(410);
   file_.Add(420);
   file_.Limit(1, "", "300");
@@ -102,7 +102,7 @@ TEST_F(EveryVerdict, IsCounted) {
               ElementsAre("Partial report: 1 of 9 not tested, 1 aborted, 2 doubtful, 1 not judged"));
 }
 
-TEST_F(EveryVerdict, HasItsWordAndItsStanding) {
+TEST_F(EveryVerdict, HasItsWordAndStanding) {
   const std::pair<const char*, Standing> expected[] = {{"failed", Standing::kFailed},
                                                        {"passed", Standing::kPassed},
                                                        {"recorded", Standing::kRecorded},

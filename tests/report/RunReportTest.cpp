@@ -44,7 +44,7 @@ TEST_F(RepairedDevice, ReportShowsEveryRun) {
                           "2|2026-11-21 10:00|2026-11-21 10:00|finished|M. Holm|KELD(IN) B-2|passed: 1"));
 }
 
-TEST_F(RepairedDevice, ReportShowsTheReadingsOfWhatWasMeasuredAgain) {
+TEST_F(RepairedDevice, ReportShowsRepeatedReadings) {
   const auto report = Report();
   EXPECT_EQ(report.verdict.standing, Standing::kPassed);
   EXPECT_THAT(RowsOf(report.sections.at(0).readings),
@@ -53,7 +53,7 @@ TEST_F(RepairedDevice, ReportShowsTheReadingsOfWhatWasMeasuredAgain) {
   EXPECT_THAT(report.sections.at(1).readings.rows, IsEmpty()) << "it was measured once";
 }
 
-TEST_F(RepairedDevice, ReportOfARunShowsWhatWasDoneThen) {
+TEST_F(RepairedDevice, ReportOfARunShowsThatRunOnly) {
   // Changed since; none of it is about the first run.
   file_.Document().equipment.asset = "VENT-9";
   file_.Limit(1, "", "5000");
@@ -94,14 +94,14 @@ TEST_F(RepairedDevice, ReportOfTheLastRunHasItsOwnTester) {
   EXPECT_EQ(report.sections[0].value, "103");
 }
 
-TEST_F(RepairedDevice, ReportOfARunKnowsTestsThatWereRemoved) {
+TEST_F(RepairedDevice, ReportOfARunShowsRemovedTests) {
   file_.Document().Remove(file_.Find(1));
   const auto report = OfRun(1);
   EXPECT_EQ(report.overview.at(0).name, "Test 410 (not in the document any more)");
   EXPECT_EQ(report.overview.at(1).name, "Protective earth, without mains cord");
 }
 
-TEST_F(RepairedDevice, ARecordThatWasChangedIsSaidToBe) {
+TEST_F(RepairedDevice, ReportMarksAChangedRecord) {
   file_.Document().Save();
   const auto path = file_.Document().Path();
   pugi::xml_document xml;
@@ -115,7 +115,7 @@ TEST_F(RepairedDevice, ARecordThatWasChangedIsSaidToBe) {
 
 using RunReport = RepairedDevice;
 
-TEST_F(RunReport, SaysWhatAnInterruptedRunDidNotFinish) {
+TEST_F(RunReport, ShowsWhatAnInterruptedRunDidNotFinish) {
   file_.Run({.at = "2026-11-22T10:00:00+01:00", .killedAfterSaves = 2});
   EXPECT_EQ(RowsOf(Report().runs).at(2),
             "3|2026-11-22 10:00|-|interrupted|M. Holm|KELD(IN) B-2|passed: 1; not finished: 2");
@@ -127,7 +127,7 @@ TEST_F(RunReport, SaysWhatAnInterruptedRunDidNotFinish) {
   EXPECT_EQ(report.overview[1].note, "taken up and not finished in this run");
 }
 
-TEST_F(RunReport, ShowsDoubtsOverloadsAndWhatTheOperatorSetAside) {
+TEST_F(RunReport, ShowsDoubtsOverloadsAndNotApplicable) {
   file_.Reads(410, "19.99,1,Ohm");
   file_.Limit(1, "", "30000");
   file_.Run({.elements = {1}});
@@ -143,7 +143,7 @@ TEST_F(RunReport, ShowsDoubtsOverloadsAndWhatTheOperatorSetAside) {
   EXPECT_EQ(FactOf(aside.sections[0].facts, "Recorded as"), "not applicable, by the operator");
 }
 
-TEST_F(RunReport, OfASimulatedRunSaysSo) {
+TEST_F(RunReport, MarksASimulatedRun) {
   support::RecordedDocument simulated;
   simulated.Add(410);
   simulated.Run({.simulated = true});
@@ -153,7 +153,7 @@ TEST_F(RunReport, OfASimulatedRunSaysSo) {
   EXPECT_THAT(TextReport(report), HasSubstr("*** SIMULATED"));
 }
 
-TEST_F(RunReport, WhatTheTesterSaidIsText) {
+TEST_F(RunReport, EscapesTheTestersReply) {
   file_.Reads(410, "0.1,0,<b>Ohm\xAD");
   file_.Run({.elements = {1}});
   const auto report = OfRun(3);
@@ -161,7 +161,7 @@ TEST_F(RunReport, WhatTheTesterSaidIsText) {
   EXPECT_THAT(HtmlReport(report), Not(HasSubstr("<b>Ohm")));
 }
 
-TEST_F(RunReport, ABelowLimitIsSaidAsSuch) {
+TEST_F(RunReport, ShowsBelowLimit) {
   file_.Add(1010);
   file_.Limit(3, "2", "");
   file_.Reads(1010, "0.4,0,MOhm");
@@ -169,7 +169,7 @@ TEST_F(RunReport, ABelowLimitIsSaidAsSuch) {
   EXPECT_EQ(OfRun(3).sections.at(0).judgements.at(0).word, "below limit");
 }
 
-TEST_F(RunReport, ASequenceIsWhatItsTestsAreUnlessItHasALimit) {
+TEST_F(RunReport, JudgesASequenceByItsTests) {
   file_.Add(400);  // 3, with 4 and 5
   file_.Limit(4, "", "300");
   file_.Limit(5, "", "10");

@@ -12,16 +12,16 @@ namespace {
 using testing::HasSubstr;
 using testing::Not;
 
-TEST(TextReport, TellsTheVerdictTheFactsAndEachElement) {
+TEST(TextReport, ShowsVerdictFactsAndEachElement) {
   const auto text = TextReport(sample::Report());
-  for (const char* told :
+  for (const char* shown :
        {"[X]  FAILED", "1 of 3 failed, 2 passed", "Asset number   VENT-0042", "Operator       M. Holm",
         "|   2 | Protective earth 2 |  1850 | mOhm | [X] failed |", "|     |   Fails IEC 62353  |",
         "[X] Fails IEC 62353", "IEC 62353: at most 300 mOhm: exceeded", "1850 mOhm is somewhere"})
-    EXPECT_THAT(text, HasSubstr(told));
+    EXPECT_THAT(text, HasSubstr(shown));
 }
 
-TEST(TextReport, TheVerdictIsInCapitalsInEveryLanguageThatHasThem) {
+TEST(TextReport, WritesTheVerdictInCapitals) {
   auto report = sample::Report();
   const std::pair<const char*, const char*> words[] = {{"Unvollst\u00E4ndig", "UNVOLLST\u00C4NDIG"},
                                                        {"\u00FFng\u00F7", "\u00FFNG\u00F7"},
@@ -32,7 +32,7 @@ TEST(TextReport, TheVerdictIsInCapitalsInEveryLanguageThatHasThem) {
   }
 }
 
-TEST(TextReport, APartialReportSaysSoAtBothEnds) {
+TEST(TextReport, MarksAPartialReportAtBothEnds) {
   auto report = sample::Report();
   EXPECT_THAT(TextReport(report), Not(HasSubstr("***")));
   sample::MakePartial(report);
@@ -42,7 +42,7 @@ TEST(TextReport, APartialReportSaysSoAtBothEnds) {
   EXPECT_TRUE(text.ends_with(mark + "\n"));
 }
 
-TEST(TextReport, ASimulatedReportSaysSoInEachPart) {
+TEST(TextReport, MarksASimulatedReportInEachPart) {
   auto report = sample::Report();
   sample::AddRuns(report);
   sample::MakeSimulated(report);
@@ -78,28 +78,26 @@ TEST(TextReport, EveryStandingHasItsOwnSign) {
   EXPECT_EQ(signs.size(), 9U);
 }
 
-TEST(TextReport, LongTextsAreBrokenAndLoseNothing) {
+TEST(TextReport, BreaksLongTextsWithoutLoss) {
   const auto text = TextReport(sample::Everywhere(std::string(10000, 'W')));
   const auto short_ = TextReport(sample::Everywhere("W"));
   const auto times = std::count(short_.begin(), short_.end(), 'W');
   EXPECT_EQ(std::count(text.begin(), text.end(), 'W'), times * 10000);
 }
 
-TEST(TextReport, HostileTextsAreTextInEveryPlace) {
+TEST(TextReport, ShowsHostileTextsUnchanged) {
   for (const std::string text :
        {sample::Hostile::kScript, sample::Hostile::kMarkup, sample::Hostile::kQuotes})
     EXPECT_THAT(TextReport(sample::Everywhere(text)), HasSubstr("1  " + text));
 }
 
-TEST(TextReport, TheSameReportGivesTheSameBytes) {
-  EXPECT_EQ(TextReport(sample::Report()), TextReport(sample::Report()));
-}
+TEST(TextReport, IsReproducible) { EXPECT_EQ(TextReport(sample::Report()), TextReport(sample::Report())); }
 
 std::string BarFor(std::optional<double> low, std::optional<double> high, double value) {
   return TextBar(*report::MakeBar(low, high, value));
 }
 
-TEST(TextBar, ShowsOnWhichSideOfABoundTheValueStands) {
+TEST(TextBar, ShowsTheSideOfABound) {
   const auto within = BarFor({}, 300, 100), at = BarFor({}, 300, 300), above = BarFor({}, 300, 301);
   EXPECT_LT(within.find('*'), within.find('|'));
   EXPECT_EQ(at.find('|'), std::string::npos) << "the value stands on the bound: " << at;
@@ -108,13 +106,13 @@ TEST(TextBar, ShowsOnWhichSideOfABoundTheValueStands) {
   EXPECT_LT(below.find('*'), below.find('|'));
 }
 
-TEST(TextBar, WithoutAnUpperBoundEverythingAboveIsAllowed) {
+TEST(TextBar, AllowsAllAboveWithoutAnUpperBound) {
   const auto bar = BarFor(2, {}, 3);
   EXPECT_GT(bar.find('*'), bar.find('|'));
   EXPECT_TRUE(bar.ends_with("=]"));
 }
 
-TEST(TextBar, AValueBeyondTheLineIsAnArrow) {
+TEST(TextBar, ShowsAnArrowBeyondTheLine) {
   EXPECT_THAT(BarFor({}, 300, 1e6), testing::EndsWith(">]"));
   EXPECT_THAT(BarFor(-1, 1, -1e6), testing::StartsWith("[<"));
 }

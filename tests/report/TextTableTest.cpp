@@ -11,7 +11,7 @@ std::string Printed(const ReportObject& report, std::size_t width = 100) {
   return TextTable(report::Shown(report.Tables().at(0)), width);
 }
 
-TEST(TextTable, AlignsColumnsAndLeavesEmptyMarginsOut) {
+TEST(TextTable, AlignsColumns_DropsEmptyMargins) {
   ReportObject report;
   report.SetTableBorder(7);
   report.AddTable("<+560|<2240|>+100|^+100|<+560;", "|{\\b Name}|{\\b Value}|{\\b Unit};",
@@ -25,13 +25,13 @@ TEST(TextTable, AlignsColumnsAndLeavesEmptyMarginsOut) {
             "+-----------+-------+------+\n");
 }
 
-TEST(TextTable, TablesWithoutBorderHaveNoLines) {
+TEST(TextTable, HasNoLinesWithoutBorder) {
   ReportObject report;
   report.AddTable("<1|>1;", "", "a|1;bb|22;");
   EXPECT_EQ(Printed(report), "a    1\nbb  22\n");
 }
 
-TEST(TextTable, LineEndsStayInTheirCellAndControlCharactersAreShown) {
+TEST(TextTable, KeepsLineEnds_ShowsControlCharacters) {
   ReportObject report;
   report.AddTable("<1|<1;", "", "one\ntwo|\x1B[31m\x7F;");
   EXPECT_EQ(Printed(report), "one  [U+001B][31m[U+007F]\ntwo\n");
@@ -43,7 +43,7 @@ TEST(TextTable, WideLettersTakeTwoColumns) {
   EXPECT_EQ(Printed(report), "\u4EBA\u5DE5  x\nabc   y\n");
 }
 
-TEST(TextTable, AWideColumnGivesWayAndLosesNothing) {
+TEST(TextTable, NarrowsAWideColumnWithoutLoss) {
   ReportObject report;
   report.SetTableBorder(7);
   report.AddTable("<1|<1;", "", std::string(1000, 'x') + "|end;");

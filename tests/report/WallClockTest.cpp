@@ -5,7 +5,7 @@
 namespace bench {
 namespace {
 
-TEST(WallClock, AMomentIsTakenApart) {
+TEST(WallClock, ParsesAMoment) {
   const auto moment = MomentOf("2026-11-21T14:03:22+01:00");
   ASSERT_TRUE(moment);
   EXPECT_EQ(moment->utc, 1795266202);
@@ -14,11 +14,11 @@ TEST(WallClock, AMomentIsTakenApart) {
   EXPECT_EQ(moment->zone, "+01:00");
 }
 
-TEST(WallClock, TheSameMomentInAnotherZoneIsTheSame) {
+TEST(WallClock, ComparesMomentsAcrossZones) {
   EXPECT_EQ(MomentOf("2026-11-21T14:03:22+01:00")->utc, MomentOf("2026-11-21T08:33:22-04:30")->utc);
 }
 
-TEST(WallClock, OtherTextsAreNoMoments) {
+TEST(WallClock, RejectsOtherTexts) {
   for (const char* text :
        {"", "yesterday", "2026-11-21", "2026-11-21T14:03:22Z", "2026-13-21T14:03:22+01:00",
         "2026-11-31T14:03:22+01:00", "2026-11-21T24:03:22+01:00", "2026-11-21T14:60:22+01:00",
@@ -26,7 +26,7 @@ TEST(WallClock, OtherTextsAreNoMoments) {
     EXPECT_FALSE(MomentOf(text)) << text;
 }
 
-TEST(WallClock, TheLocalTimeReadsAsAMoment) { EXPECT_TRUE(MomentOf(LocalTimeText())); }
+TEST(WallClock, LocalTimeIsAMoment) { EXPECT_TRUE(MomentOf(LocalTimeText())); }
 
 }  // namespace
 }  // namespace bench

@@ -67,8 +67,8 @@ ExitStatus ArchiveCommand::Run(const GlobalOptions& options) {
     }
   }
   throw InputError(
-      Tr("archive: say what is to be done: add, list, show, trend or export; \"orvik-bench archive --help\" "
-         "tells more"));
+      Tr("archive: give a command: add, list, show, trend or export; \"orvik-bench archive --help\" "
+         "explains them"));
 }
 
 }  // namespace bench

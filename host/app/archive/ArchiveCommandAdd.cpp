@@ -45,7 +45,7 @@ ExitStatus ArchiveCommandAdd::Run(const GlobalOptions& options) {
     if (!documents.empty()) {
       auto archive = OpenArchiveToAdd(location_, options);
       for (std::size_t i = 0; i < documents.size(); ++i)
-        Tell(documents[i], taken_[i], archive.Add(documents[i]));
+        Report(documents[i], taken_[i], archive.Add(documents[i]));
     }
   } catch (const ArchiveError&) {
     PrintJson();  // what was added before is in the archive
@@ -91,22 +91,22 @@ std::vector<ArchivedDocument> ArchiveCommandAdd::Read(const GlobalOptions& optio
 
 void ArchiveCommandAdd::Refuse(const std::string& file, const std::string& reason) {
   refusals_.push_back(reason);
-  told_.push_back({{"file", file}, {"result", "refused"}, {"reason", reason}});
+  results_.push_back({{"file", file}, {"result", "refused"}, {"reason", reason}});
 }
 
-void ArchiveCommandAdd::Tell(const ArchivedDocument& document, const std::string& file,
-                             const Archive::Receipt& receipt) {
-  told_.push_back({{"file", file},
-                   {"result", KeyOf(receipt.added)},
-                   {"id", receipt.id},
-                   {"revision", receipt.revision},
-                   {"outcome", judge::OutcomeText(document.entry.outcome)},
-                   {"simulated", document.entry.simulated}});
+void ArchiveCommandAdd::Report(const ArchivedDocument& document, const std::string& file,
+                               const Archive::Receipt& receipt) {
+  results_.push_back({{"file", file},
+                      {"result", KeyOf(receipt.added)},
+                      {"id", receipt.id},
+                      {"revision", receipt.revision},
+                      {"outcome", judge::OutcomeText(document.entry.outcome)},
+                      {"simulated", document.entry.simulated}});
   if (!json_) std::cout << ReceiptText(document, file, receipt) << std::endl;  // each as soon as it is kept
 }
 
 void ArchiveCommandAdd::PrintJson() const {
-  if (json_) std::cout << Indented({{"documents", told_}}) << "\n";
+  if (json_) std::cout << Indented({{"documents", results_}}) << "\n";
 }
 
 }  // namespace bench

@@ -9,8 +9,7 @@
 
 namespace bench {
 
-/// `archive add`: takes documents into the archive, each by itself; those that are refused do not keep the
-/// others out.
+/// `archive add`: adds documents to the archive. Refused ones do not keep the others out.
 class ArchiveCommandAdd final : public Command {
  public:
   /// @param location --archive, as it will be
@@ -22,7 +21,7 @@ class ArchiveCommandAdd final : public Command {
  private:
   std::vector<ArchivedDocument> Read(const GlobalOptions& options);
   void Refuse(const std::string& file, const std::string& reason);
-  void Tell(const ArchivedDocument& document, const std::string& file, const Archive::Receipt& receipt);
+  void Report(const ArchivedDocument& document, const std::string& file, const Archive::Receipt& receipt);
   void PrintJson() const;
 
   const std::string& location_;
@@ -33,7 +32,7 @@ class ArchiveCommandAdd final : public Command {
 
   std::vector<std::string> taken_;  ///< the files of the documents that were read
   std::vector<std::string> refusals_;
-  nlohmann::ordered_json told_ = nlohmann::ordered_json::array();
+  nlohmann::ordered_json results_ = nlohmann::ordered_json::array();
 };
 
 }  // namespace bench

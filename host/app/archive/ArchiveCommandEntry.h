@@ -13,14 +13,14 @@ class Workbench;
 /// hash. `HostError` when it cannot be read.
 ArchivedDocument EntryOf(const std::string& file, Workbench& workbench);
 
-/// Why the document is not finished, and what to do; empty when every element has a result, whatever the
-/// verdict: doubtful and not judged ones are results too, though they never count as passed.
+/// Why the document is not finished; empty when every element has a result of any verdict. Doubtful and not
+/// judged ones are results too, though they never count as passed.
 std::string UnfinishedReason(const ArchivedDocument& document);
 
 /// "(simulated: nothing was measured)" for a document of simulated runs; else empty.
 std::string SimulatedMark(const ArchiveEntry& entry);
 
-/// What became of a document that was added, for people to read.
+/// One line on a document that was added.
 std::string ReceiptText(const ArchivedDocument& document, const std::string& file,
                         const Archive::Receipt& receipt);
 

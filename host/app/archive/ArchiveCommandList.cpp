@@ -65,7 +65,7 @@ Archive::Filter ArchiveCommandList::Checked() const {
     const auto since = UtcText(since_);
     if (!since)
       throw InputError(
-          Tr("--since %%1: this is no date; write it as 2026-01-31 or 2026-01-31T08:00Z", {since_}));
+          Tr("--since %%1: invalid date; write it as 2026-01-31 or 2026-01-31T08:00Z", {since_}));
     filter.since = *since;
   }
   if (!outcome_.empty() && outcome_ != "passed" && outcome_ != "failed" && outcome_ != "incomplete")

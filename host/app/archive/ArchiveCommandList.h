@@ -8,7 +8,7 @@
 
 namespace bench {
 
-/// `archive list`: tells which documents the archive has.
+/// `archive list`: prints the documents of the archive.
 class ArchiveCommandList final : public Command {
  public:
   /// @param location --archive, as it will be

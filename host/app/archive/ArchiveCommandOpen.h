@@ -9,8 +9,8 @@
 namespace bench {
 
 /// Opens the archive that is asked for: `location` (--archive) when it is not empty, else ORVIK_ARCHIVE, else
-/// archive.sqlite in the state folder. Only `add` makes a named file that is not there; the one in the state
-/// folder is ours, and empty at first.
+/// archive.sqlite in the state folder. Only `add` creates a named file; the one in the state folder is
+/// always created.
 Archive OpenArchiveToAsk(const std::string& location, const GlobalOptions& options);
 Archive OpenArchiveToAdd(const std::string& location, const GlobalOptions& options);
 

@@ -12,15 +12,15 @@ class Document;
 class Host;
 struct DocumentView;
 
-/// What a report of the document consists of: what counts of it now. The same document gives the same report.
+/// The report of what counts in the document now. The same document gives the same report.
 /// @param language of the report, such as "da"; empty for English
 /// @param standards to judge by; empty for all. What they leave out is named on every page.
 /// @throws HostError when an element cannot be printed
 report::Report ReportOf(const Document& document, Host& host, const std::string& language = {},
                         std::vector<std::string> standards = {});
 
-/// What a report says of these elements in full, in this order, by what has been judged already; also of
-/// those that reports leave out. Without any that the document does not have.
+/// The sections of these elements, in this order, by what has been judged already; also of elements that
+/// reports leave out. Identifiers that the document does not have are skipped.
 /// @throws HostError when an element cannot be printed
 std::vector<report::Section> SectionsOf(const Document& document, Host& host, DocumentView view,
                                         const std::vector<std::int32_t>& ids);

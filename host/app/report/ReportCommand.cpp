@@ -37,11 +37,12 @@ CLI::App* ReportCommand::Declare(CLI::App& program) {
   command
       ->add_option(
           "--format", format_,
-          Tr("Format of the report, whatever its name ends with; otherwise plain text on the standard "
+          Tr("Format of the report, with any ending of its name; otherwise plain text on the standard "
              "output"))
       ->type_name("html|pdf|txt");
   auto* run = WholeNumbers(command->add_option(
-      "--run", run_, Tr("Report this run as it was done, whatever counts now; \"show --runs\" lists them")));
+      "--run", run_,
+      Tr("Report this run as it was done, regardless of what counts now; \"show --runs\" lists them")));
   run->type_name("N");
   command
       ->add_option("--standard", standards_,

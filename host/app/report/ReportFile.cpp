@@ -50,7 +50,7 @@ std::string ReportText(const report::Report& report, ReportFormat format) {
 }
 
 void RefuseDocumentAsReport(const std::filesystem::path& document, const std::filesystem::path& out) {
-  std::error_code absent;  // what is not there is no other file either
+  std::error_code absent;  // a missing file is a different one
   if (std::filesystem::equivalent(document, out, absent))
     throw InputError(
         Tr("--to %%1: this is the document itself; give the report another name", {out.string()}));

@@ -7,12 +7,12 @@
 
 namespace bench {
 
-/// What a report is written as.
+/// The format of a report's file.
 enum class ReportFormat { kHtml, kPdf, kText };
 
 /// The format of that name, "html", "pdf" or "txt"; `InputError` naming --format for another one.
 ReportFormat ReportFormatNamed(const std::string& name);
-/// The format that the file's ending stands for; `InputError` for another ending than .html, .pdf and .txt.
+/// The format of the file's ending; `InputError` for another ending than .html, .pdf and .txt.
 ReportFormat ReportFormatOf(const std::filesystem::path& file);
 
 /// The report, as it is to be written.

@@ -49,7 +49,7 @@ std::string PlaceText(Bar::Place place) {
 }
 
 /// Why the reading was not judged by the limit; empty when it was.
-std::string Hindrance(const judge::JudgedLimit& limit, const judge::JudgedElement& element) {
+std::string ReasonNotJudged(const judge::JudgedLimit& limit, const judge::JudgedElement& element) {
   switch (limit.verdict) {
     case judge::LimitVerdict::kNotApplied:
       return Tr("not judged");
@@ -77,7 +77,7 @@ void AddBar(Judgement& judgement, std::optional<double> low, std::optional<doubl
                                              PlaceText(judgement.bar->place), judgement.bounds});
 }
 
-/// A limit that holds is a good sign only where the reading can be relied on.
+/// A limit that holds is shown as passed only if the reading is reliable.
 Standing Judged(bool broken, const judge::Verdict verdict) {
   if (broken) return Standing::kFailed;
   const bool relied = verdict == judge::Verdict::kPassed || verdict == judge::Verdict::kFailed;
@@ -89,7 +89,7 @@ Judgement JudgementOf(const judge::JudgedLimit& limit, const judge::JudgedElemen
   Judgement judgement;
   judgement.standard = StandardText(limit.standard, limit.description);
   judgement.bounds = BoundsText(limit, unit);
-  judgement.word = Hindrance(limit, element);
+  judgement.word = ReasonNotJudged(limit, element);
   if (!judgement.word.empty()) {
     judgement.standing =
         StandingOf(element) == Standing::kNotApplicable ? Standing::kNotApplicable : Standing::kOpen;
@@ -115,9 +115,9 @@ Judgement JudgementOf(const RecordedLimit& limit, const RecordedTest& test) {
   // A percentage was of a nominal value that is not recorded.
   const auto low = FiniteNumber(limit.low), high = FiniteNumber(limit.high);
   const auto value = test.recorded ? FiniteNumber(test.recorded->value) : std::nullopt;
-  const bool told = (low || limit.low.empty()) && (high || limit.high.empty());
+  const bool numbers = (low || limit.low.empty()) && (high || limit.high.empty());
   const bool overload = test.recorded && test.recorded->flags.find('O') != std::string::npos;
-  if (value && told && !overload && test.recorded->unit == limit.unit)
+  if (value && numbers && !overload && test.recorded->unit == limit.unit)
     AddBar(judgement, low, high, *value, unit);
   return judgement;
 }

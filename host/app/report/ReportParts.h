@@ -27,8 +27,7 @@ report::Standing StandingOf(judge::Outcome outcome);
 
 /// The verdict of the whole. `elements` are all of the document's.
 report::Verdict VerdictOf(const std::vector<judge::JudgedElement>& elements, judge::Outcome outcome);
-/// What is open: not tested, aborted, doubtful or not judged, such as "1 of 3 not tested"; empty when nothing
-/// is.
+/// Counts of what is not tested, aborted, doubtful or not judged, such as "1 of 3 not tested"; may be empty.
 std::string OpenParts(const std::vector<judge::JudgedElement>& elements);
 
 /// "2026-11-21 14:03"; a text that is not a date and time stays as it is.
@@ -41,16 +40,16 @@ std::string OperatorsText(const RunTimes& times);
 std::string TesterText(const RecordedTester& tester);
 /// All testers in one line, for the top of a page: one in full, of several type and serial number.
 std::string TestersText(const std::vector<RecordedTester>& testers);
-/// Adds the fact unless it says nothing.
+/// Adds the fact unless its value is empty.
 void AddFact(std::vector<report::Fact>& facts, const std::string& label, const std::string& value);
 void AddEquipment(std::vector<report::Fact>& facts, const Equipment& equipment);
 /// Each tester with its test leads and their date.
 void AddTesters(std::vector<report::Fact>& facts, const std::vector<RecordedTester>& testers);
 /// The four facts for the top of every page.
-/// @param otherwise in place of equipment that has no name
+/// @param otherwise for equipment without a name
 std::vector<report::Fact> PageHeader(const Equipment& equipment, const std::string& otherwise,
                                      const std::vector<RecordedTester>& testers, const RunTimes& times);
-/// For every page of what a simulated tester made.
+/// For every page of a simulated run.
 report::PageMark SimulatedMark();
 /// "SIMULATED electrical safety test" or "Electrical safety test".
 std::string TitleOf(bool simulated);
@@ -67,7 +66,7 @@ std::vector<report::Judgement> JudgementsOf(const judge::JudgedElement& element)
 /// What limits said of the reading when it was measured.
 std::vector<report::Judgement> JudgementsOf(const RecordedTest& test);
 
-/// A row for each run: when, how it ended, who, on which tester, and what came of its elements.
+/// A row for each run: times, end, operator, testers, and the outcome of its elements.
 /// @param now the equipment as the document has it
 report::Table RunsTable(const std::vector<RunRecord>& runs, const RunOutcomes& outcomes,
                         const Equipment& now);

@@ -32,7 +32,7 @@ std::string TestersOf(const RunRecord& run) {
   return names.empty() ? "-" : Joined(names, "; ");
 }
 
-/// How it ended, and below it whatever sets the run apart.
+/// How the run ended, and what is unusual about it.
 report::Cell EndCell(const RunRecord& run, const Equipment& now) {
   auto cell = CellOf(EndWord(run), run.end != RunRecord::End::kFinished);
   const auto add = [&cell](const std::string& text) { cell.push_back({"\n" + text, true}); };
