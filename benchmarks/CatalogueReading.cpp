@@ -15,7 +15,7 @@
 #include "benchmarks/Repeat.h"
 #include "benchmarks/VirtualRig.h"
 #include "benchmarks/YardstickXml.h"
-#include "plugin/ClassIdentifiers.h"
+#include "plugin/base/ClassIdentifiers.h"
 
 namespace benchmarks {
 

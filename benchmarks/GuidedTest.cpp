@@ -12,7 +12,7 @@
 #include "host/run/DoubtTracker.h"
 #include "host/run/OperatorEvents.h"
 #include "host/run/RunController.h"
-#include "plugin/ClassIdentifiers.h"
+#include "plugin/base/ClassIdentifiers.h"
 #include "tests/support/ReadFile.h"
 
 namespace benchmarks {

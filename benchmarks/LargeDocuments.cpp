@@ -13,7 +13,7 @@
 #include "host/document/Document.h"
 #include "host/elements/ElementFactory.h"
 #include "host/judge/CaseOf.h"
-#include "plugin/ClassIdentifiers.h"
+#include "plugin/base/ClassIdentifiers.h"
 #include "tests/support/ReadFile.h"
 
 namespace benchmarks {

@@ -10,7 +10,7 @@
 #include "model/CKELDTestElement.h"
 #include "platform/IContainerSite.h"
 #include "platform/IForm.h"
-#include "plugin/ClassIdentifiers.h"
+#include "plugin/base/ClassIdentifiers.h"
 #include "results/CKELDResultData.h"
 #include "results/XKELDResultView.h"
 #include "tests/support/ReadFile.h"

@@ -14,9 +14,9 @@
 #include "benchmarks/Measurements.h"
 #include "benchmarks/Repeat.h"
 #include "host/serial/PortManager.h"
-#include "host/toolkit/headless/Application.h"
 #include "tests/support/Process.h"
 #include "tests/support/PseudoTerminal.h"
+#include "toolkit/headless/Application.h"
 
 namespace benchmarks {
 

@@ -8,19 +8,19 @@ endif()
 file(GLOB_RECURSE headers CONFIGURE_DEPENDS RELATIVE ${CMAKE_SOURCE_DIR}
      ${CMAKE_SOURCE_DIR}/OrvikTypeLib/*.h ${CMAKE_SOURCE_DIR}/platform/*.h ${CMAKE_SOURCE_DIR}/plugin/*.h
      ${CMAKE_SOURCE_DIR}/model/*.h ${CMAKE_SOURCE_DIR}/instrument/*.h ${CMAKE_SOURCE_DIR}/results/*.h
-     ${CMAKE_SOURCE_DIR}/ui/*.h ${CMAKE_SOURCE_DIR}/resources/*.h ${CMAKE_SOURCE_DIR}/host/*.h
+     ${CMAKE_SOURCE_DIR}/ui/*.h ${CMAKE_SOURCE_DIR}/toolkit/*.h ${CMAKE_SOURCE_DIR}/resources/*.h ${CMAKE_SOURCE_DIR}/host/*.h
      ${CMAKE_SOURCE_DIR}/tester/*.h ${CMAKE_SOURCE_DIR}/tests/*.h ${CMAKE_SOURCE_DIR}/benchmarks/*.h ${CMAKE_SOURCE_DIR}/fuzz/*.h)
 
 # Sets `result` to whether the header's own source begins by including it. Sources of tests do not count: they have the
 # precompiled header before everything else. Where several sources are compiled at once, it is the static analysis that
-# reads each by itself; it passes over host/app, whose headers are therefore compiled where every test is wanted.
+# reads each by itself; it passes over host/cli, whose headers are therefore compiled where every test is wanted.
 function(is_shown_by_its_source header result)
   set(${result} FALSE PARENT_SCOPE)
   string(REGEX REPLACE "\\.h$" ".cpp" source ${header})
   if(header MATCHES "^(tests|benchmarks|fuzz)/" OR NOT EXISTS ${CMAKE_SOURCE_DIR}/${source})
     return()
   endif()
-  if("$CACHE{CMAKE_UNITY_BUILD}" AND header MATCHES "^host/app/" AND ORVIK_TEST_SET STREQUAL all)
+  if("$CACHE{CMAKE_UNITY_BUILD}" AND header MATCHES "^host/cli/" AND ORVIK_TEST_SET STREQUAL all)
     return()
   endif()
   file(STRINGS ${CMAKE_SOURCE_DIR}/${source} first_include REGEX "^#include" LIMIT_COUNT 1)
@@ -48,7 +48,7 @@ endforeach()
 add_library(headers-compile-alone OBJECT ${sources})
 set_target_properties(headers-compile-alone PROPERTIES UNITY_BUILD OFF)
 find_package(Qt6 REQUIRED COMPONENTS Widgets Test)
-target_link_libraries(headers-compile-alone PRIVATE orvik-app keld-sim-core Qt6::Test Qt6::Widgets GTest::gtest)
+target_link_libraries(headers-compile-alone PRIVATE host-cli keld-sim-core Qt6::Test Qt6::Widgets GTest::gtest)
 target_compile_options(headers-compile-alone PRIVATE -O0)
 # What the headers of the tests take from the build; the values do not matter here.
 target_compile_definitions(headers-compile-alone PRIVATE QT_NO_KEYWORDS

@@ -8,11 +8,11 @@
 #include "fuzz/Bench.h"
 #include "fuzz/Promise.h"
 #include "fuzz/Scratch.h"
-#include "host/app/CatalogueFile.h"
-#include "host/app/InputError.h"
+#include "host/base/RegistryStore.h"
+#include "host/bench/CatalogueFile.h"
+#include "host/bench/InputError.h"
 #include "host/elements/Nesting.h"
-#include "host/services/RegistryStore.h"
-#include "host/services/XmlDocument.h"
+#include "host/xml/XmlDocument.h"
 
 namespace {
 

@@ -7,7 +7,7 @@
 
 #include "fuzz/Promise.h"
 #include "fuzz/Scratch.h"
-#include "host/app/Program.h"
+#include "host/cli/Program.h"
 
 namespace {
 

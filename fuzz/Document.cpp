@@ -7,15 +7,15 @@
 #include "fuzz/Bench.h"
 #include "fuzz/HostErrors.h"
 #include "fuzz/Scratch.h"
-#include "host/app/DocumentJson.h"
-#include "host/app/DocumentLines.h"
-#include "host/app/DocumentView.h"
-#include "host/app/report/DocumentReport.h"
+#include "host/base/Text.h"
+#include "host/cli/output/DocumentJson.h"
+#include "host/cli/output/DocumentLines.h"
 #include "host/document/DocumentCheck.h"
+#include "host/report/DocumentReport.h"
+#include "host/report/DocumentView.h"
 #include "host/report/HtmlReport.h"
 #include "host/report/TextReport.h"
-#include "host/services/Text.h"
-#include "host/services/XmlDocument.h"
+#include "host/xml/XmlDocument.h"
 
 namespace {
 

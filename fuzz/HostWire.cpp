@@ -10,7 +10,7 @@
 #include "host/serial/MemoryTransport.h"
 #include "host/serial/Message.h"
 #include "host/serial/Port.h"
-#include "host/toolkit/headless/Application.h"
+#include "toolkit/headless/Application.h"
 
 namespace {
 

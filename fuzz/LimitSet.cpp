@@ -4,7 +4,7 @@
 #include "OrvikTypeLib/HostError.h"
 #include "fuzz/HostErrors.h"
 #include "fuzz/Scratch.h"
-#include "host/services/Text.h"
+#include "host/base/Text.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 #include "OrvikTypeLib/HostError.h"
 #include "fuzz/HostErrors.h"
 #include "fuzz/Scratch.h"
-#include "host/services/RegistryStore.h"
+#include "host/base/RegistryStore.h"
 
 namespace {
 

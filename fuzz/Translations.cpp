@@ -4,7 +4,7 @@
 #include "OrvikTypeLib/HostError.h"
 #include "fuzz/HostErrors.h"
 #include "fuzz/Promise.h"
-#include "host/services/TranslationFile.h"
+#include "host/base/TranslationFile.h"
 
 namespace {
 

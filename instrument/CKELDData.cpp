@@ -6,8 +6,8 @@
 #include "OrvikTypeLib/IInstrumentRecord.h"
 #include "OrvikTypeLib/IRegistryReader.h"
 #include "instrument/Number.h"
-#include "plugin/Attempt.h"
-#include "plugin/MKELDGlobalVars.h"
+#include "plugin/base/Attempt.h"
+#include "plugin/base/MKELDGlobalVars.h"
 
 namespace keld {
 

@@ -8,7 +8,7 @@
 #include "OrvikTypeLib/IInstrumentColl.h"
 #include "OrvikTypeLib/IObject.h"
 #include "instrument/CKELDInstrument.h"
-#include "plugin/MKELDConstants.h"
+#include "plugin/base/MKELDConstants.h"
 
 namespace keld {
 

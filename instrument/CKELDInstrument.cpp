@@ -6,9 +6,9 @@
 #include "instrument/Commands.h"
 #include "instrument/CommsState.h"
 #include "instrument/Number.h"
-#include "plugin/Attempt.h"
-#include "plugin/MKELDConstants.h"
-#include "plugin/MKELDGlobalVars.h"
+#include "plugin/base/Attempt.h"
+#include "plugin/base/MKELDConstants.h"
+#include "plugin/base/MKELDGlobalVars.h"
 
 namespace keld {
 

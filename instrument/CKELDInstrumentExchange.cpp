@@ -8,8 +8,8 @@
 #include "instrument/Commands.h"
 #include "instrument/CommsState.h"
 #include "instrument/ErrorReply.h"
-#include "plugin/Attempt.h"
-#include "plugin/MKELDConstants.h"
+#include "plugin/base/Attempt.h"
+#include "plugin/base/MKELDConstants.h"
 
 namespace keld {
 

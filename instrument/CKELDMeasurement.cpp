@@ -7,11 +7,11 @@
 #include "OrvikTypeLib/HostError.h"
 #include "OrvikTypeLib/IXmlNode.h"
 #include "instrument/Number.h"
-#include "plugin/Attempt.h"
-#include "plugin/ClassIdentifiers.h"
-#include "plugin/MKELDGlobalVars.h"
-#include "plugin/MXmlConstants.h"
-#include "plugin/ReportMarkup.h"
+#include "plugin/base/Attempt.h"
+#include "plugin/base/ClassIdentifiers.h"
+#include "plugin/base/MKELDGlobalVars.h"
+#include "plugin/base/MXmlConstants.h"
+#include "plugin/base/ReportMarkup.h"
 
 namespace keld {
 

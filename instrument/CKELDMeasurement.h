@@ -9,7 +9,7 @@
 #include "OrvikTypeLib/IReport.h"
 #include "OrvikTypeLib/IStandardColl.h"
 #include "OrvikTypeLib/Variant.h"
-#include "plugin/MKELDConstants.h"
+#include "plugin/base/MKELDConstants.h"
 
 namespace keld {
 

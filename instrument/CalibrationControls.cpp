@@ -6,9 +6,9 @@
 #include "OrvikTypeLib/HostClasses.h"
 #include "platform/IContainerSite.h"
 #include "platform/IUserControl.h"
-#include "plugin/Attempt.h"
-#include "plugin/MKELDGlobalVars.h"
-#include "plugin/MKELDLanguageConstants.h"
+#include "plugin/base/Attempt.h"
+#include "plugin/base/MKELDGlobalVars.h"
+#include "plugin/base/MKELDLanguageConstants.h"
 
 namespace keld {
 

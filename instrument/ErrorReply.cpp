@@ -4,7 +4,7 @@
 #include "instrument/Commands.h"
 #include "instrument/CommsState.h"
 #include "instrument/Number.h"
-#include "plugin/Attempt.h"
+#include "plugin/base/Attempt.h"
 
 namespace keld {
 

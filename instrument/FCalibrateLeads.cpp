@@ -5,10 +5,10 @@
 #include "instrument/CKELDData.h"
 #include "instrument/CommsState.h"
 #include "instrument/Number.h"
-#include "plugin/Attempt.h"
-#include "plugin/ClassIdentifiers.h"
-#include "plugin/MKELDGlobalVars.h"
-#include "plugin/MKELDLanguageConstants.h"
+#include "plugin/base/Attempt.h"
+#include "plugin/base/ClassIdentifiers.h"
+#include "plugin/base/MKELDGlobalVars.h"
+#include "plugin/base/MKELDLanguageConstants.h"
 
 namespace keld {
 

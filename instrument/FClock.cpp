@@ -1,7 +1,7 @@
 #include "instrument/FClock.h"
 
-#include "plugin/Attempt.h"
-#include "plugin/MKELDGlobalVars.h"
+#include "plugin/base/Attempt.h"
+#include "plugin/base/MKELDGlobalVars.h"
 
 namespace keld {
 

@@ -6,10 +6,10 @@
 #include "OrvikTypeLib/Conversions.h"
 #include "instrument/CKELDData.h"
 #include "platform/IPanel.h"
-#include "plugin/Attempt.h"
-#include "plugin/ClassIdentifiers.h"
-#include "plugin/MKELDGlobalVars.h"
-#include "plugin/MKELDLanguageConstants.h"
+#include "plugin/base/Attempt.h"
+#include "plugin/base/ClassIdentifiers.h"
+#include "plugin/base/MKELDGlobalVars.h"
+#include "plugin/base/MKELDLanguageConstants.h"
 
 namespace keld {
 

@@ -7,7 +7,7 @@
 #include "instrument/CKELDInstrument.h"
 #include "instrument/CKELDMeasurement.h"
 #include "model/CKELDElement.h"
-#include "plugin/Attempt.h"
+#include "plugin/base/Attempt.h"
 #include "results/CKELDResultData.h"
 #include "ui/FTestGuide.h"
 #include "ui/FYesNoPrompt.h"

@@ -7,10 +7,10 @@
 #include "OrvikTypeLib/HostClasses.h"
 #include "OrvikTypeLib/ITestEnumerator.h"
 #include "model/Children.h"
-#include "plugin/Attempt.h"
-#include "plugin/ClassIdentifiers.h"
-#include "plugin/MKELDConstants.h"
-#include "plugin/MKELDGlobalVars.h"
+#include "plugin/base/Attempt.h"
+#include "plugin/base/ClassIdentifiers.h"
+#include "plugin/base/MKELDConstants.h"
+#include "plugin/base/MKELDGlobalVars.h"
 
 namespace keld {
 

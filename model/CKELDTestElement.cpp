@@ -10,10 +10,10 @@
 #include "OrvikTypeLib/HostClasses.h"
 #include "OrvikTypeLib/IInformationRecord.h"
 #include "model/TestMode.h"
-#include "plugin/Attempt.h"
-#include "plugin/CKELDTestConfiguration.h"
-#include "plugin/ClassIdentifiers.h"
-#include "plugin/MKELDLanguageConstants.h"
+#include "plugin/base/Attempt.h"
+#include "plugin/base/ClassIdentifiers.h"
+#include "plugin/base/MKELDLanguageConstants.h"
+#include "plugin/configuration/CKELDTestConfiguration.h"
 #include "results/CKELDResultData.h"
 
 namespace keld {

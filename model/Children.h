@@ -6,7 +6,7 @@
 #include "OrvikTypeLib/ITestContainer.h"
 #include "OrvikTypeLib/ITestElement.h"
 #include "OrvikTypeLib/ITestEnumerator.h"
-#include "plugin/Attempt.h"
+#include "plugin/base/Attempt.h"
 
 namespace keld {
 

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Looks for faults in the sources with clang-tidy, as .clang-tidy says; tests and benchmarks are left out. A source that
 # was in order, and whose text and headers are still the same, is not looked at again. With --all, the command line
-# (host/app) is looked at too, whose option parser alone takes ten seconds a file. With --deep, the static analyzer follows
+# (host/cli) is looked at too, whose option parser alone takes ten seconds a file. With --deep, the static analyzer follows
 # the paths through every function as well; that takes a while.
 set -euo pipefail
 
@@ -42,7 +42,7 @@ if [ "${1-}" = --one ]; then
 fi
 
 checks=
-left_out=host/app
+left_out=host/cli
 for option in "$@"; do
   case $option in
   --deep) checks=clang-analyzer-* ;;

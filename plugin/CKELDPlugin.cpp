@@ -5,15 +5,15 @@
 #include "OrvikTypeLib/ITestContainer.h"
 #include "OrvikTypeLib/ITestElement.h"
 #include "model/CKELDSequence.h"
-#include "plugin/Attempt.h"
 #include "plugin/CatalogueBuilder.h"
-#include "plugin/ClassIdentifiers.h"
 #include "plugin/IdentifierTable.h"
-#include "plugin/MKELDConstants.h"
-#include "plugin/MKELDGlobalVars.h"
-#include "plugin/MKELDLanguageConstants.h"
 #include "plugin/Picture.h"
-#include "plugin/Version.h"
+#include "plugin/base/Attempt.h"
+#include "plugin/base/ClassIdentifiers.h"
+#include "plugin/base/MKELDConstants.h"
+#include "plugin/base/MKELDGlobalVars.h"
+#include "plugin/base/MKELDLanguageConstants.h"
+#include "plugin/base/Version.h"
 
 namespace keld {
 

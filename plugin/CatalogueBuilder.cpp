@@ -14,10 +14,10 @@
 #include "OrvikTypeLib/IXmlNode.h"
 #include "model/CKELDSequence.h"
 #include "model/CKELDTestElement.h"
-#include "plugin/Attempt.h"
-#include "plugin/MKELDConstants.h"
-#include "plugin/MKELDGlobalVars.h"
-#include "plugin/MXmlConstants.h"
+#include "plugin/base/Attempt.h"
+#include "plugin/base/MKELDConstants.h"
+#include "plugin/base/MKELDGlobalVars.h"
+#include "plugin/base/MXmlConstants.h"
 
 namespace keld {
 

@@ -1,7 +1,7 @@
 #include "OrvikTypeLib/Library.h"
-#include "plugin/Attempt.h"
 #include "plugin/ClassLibrary.h"
-#include "plugin/MKELDGlobalVars.h"
+#include "plugin/base/Attempt.h"
+#include "plugin/base/MKELDGlobalVars.h"
 
 // The functions that the library exports.
 

@@ -16,12 +16,12 @@
 #include "model/IKELDTest.h"
 #include "platform/IContainerSite.h"
 #include "platform/IUserControl.h"
-#include "plugin/ClassIdentifiers.h"
-#include "plugin/FElementSetup.h"
-#include "plugin/MKELDConstants.h"
-#include "plugin/MKELDGlobalVars.h"
-#include "plugin/MKELDLanguageConstants.h"
-#include "plugin/MXmlConstants.h"
+#include "plugin/base/ClassIdentifiers.h"
+#include "plugin/base/MKELDConstants.h"
+#include "plugin/base/MKELDGlobalVars.h"
+#include "plugin/base/MKELDLanguageConstants.h"
+#include "plugin/base/MXmlConstants.h"
+#include "plugin/configuration/FElementSetup.h"
 #include "results/JudgedValue.h"
 
 namespace keld {

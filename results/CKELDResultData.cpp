@@ -11,9 +11,9 @@
 #include "OrvikTypeLib/ITestElement.h"
 #include "OrvikTypeLib/ITestEnumerator.h"
 #include "instrument/CKELDMeasurement.h"
-#include "plugin/Attempt.h"
-#include "plugin/ClassIdentifiers.h"
-#include "plugin/FElementSetup.h"
+#include "plugin/base/Attempt.h"
+#include "plugin/base/ClassIdentifiers.h"
+#include "plugin/configuration/FElementSetup.h"
 #include "results/ResultReport.h"
 #include "results/ResultServiceRecord.h"
 

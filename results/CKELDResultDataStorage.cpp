@@ -8,8 +8,8 @@
 #include "OrvikTypeLib/IServiceRecord.h"
 #include "OrvikTypeLib/IXmlNode.h"
 #include "instrument/CKELDMeasurement.h"
-#include "plugin/MKELDGlobalVars.h"
-#include "plugin/MXmlConstants.h"
+#include "plugin/base/MKELDGlobalVars.h"
+#include "plugin/base/MXmlConstants.h"
 #include "results/CKELDResultData.h"
 
 // How a result is written to and read from the host's documents.

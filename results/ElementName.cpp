@@ -3,7 +3,7 @@
 #include <vector>
 
 #include "OrvikTypeLib/ITestElement.h"
-#include "plugin/MKELDGlobalVars.h"
+#include "plugin/base/MKELDGlobalVars.h"
 
 namespace keld {
 

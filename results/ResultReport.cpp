@@ -3,9 +3,9 @@
 #include <cstdint>
 
 #include "OrvikTypeLib/IReport.h"
-#include "plugin/MKELDGlobalVars.h"
-#include "plugin/MKELDLanguageConstants.h"
-#include "plugin/ReportMarkup.h"
+#include "plugin/base/MKELDGlobalVars.h"
+#include "plugin/base/MKELDLanguageConstants.h"
+#include "plugin/base/ReportMarkup.h"
 
 namespace keld::ResultReport {
 namespace {

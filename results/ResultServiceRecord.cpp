@@ -6,7 +6,7 @@
 #include "OrvikTypeLib/IInformationRecord.h"
 #include "OrvikTypeLib/IServiceRecord.h"
 #include "OrvikTypeLib/ITestElement.h"
-#include "plugin/MKELDGlobalVars.h"
+#include "plugin/base/MKELDGlobalVars.h"
 #include "results/ResultValueText.h"
 
 namespace keld {

@@ -11,7 +11,7 @@
 #include "OrvikTypeLib/ITestContainer.h"
 #include "OrvikTypeLib/ITestElement.h"
 #include "OrvikTypeLib/ITestEnumerator.h"
-#include "plugin/CKELDTestConfiguration.h"
+#include "plugin/configuration/CKELDTestConfiguration.h"
 
 namespace keld::ResultValueText {
 namespace {

@@ -4,10 +4,10 @@
 #include "OrvikTypeLib/IResultData.h"
 #include "platform/Controls.h"
 #include "platform/IContainerSite.h"
-#include "plugin/ClassIdentifiers.h"
-#include "plugin/MKELDConstants.h"
-#include "plugin/MKELDGlobalVars.h"
-#include "plugin/MKELDLanguageConstants.h"
+#include "plugin/base/ClassIdentifiers.h"
+#include "plugin/base/MKELDConstants.h"
+#include "plugin/base/MKELDGlobalVars.h"
+#include "plugin/base/MKELDLanguageConstants.h"
 
 namespace keld {
 

@@ -9,9 +9,9 @@
 #include "OrvikTypeLib/IResultData.h"
 #include "OrvikTypeLib/ITestElement.h"
 #include "platform/IContainerSite.h"
-#include "plugin/ClassIdentifiers.h"
-#include "plugin/MKELDGlobalVars.h"
-#include "plugin/MKELDLanguageConstants.h"
+#include "plugin/base/ClassIdentifiers.h"
+#include "plugin/base/MKELDGlobalVars.h"
+#include "plugin/base/MKELDLanguageConstants.h"
 #include "results/ElementName.h"
 #include "results/ShownLimits.h"
 

@@ -3,9 +3,9 @@
 #include "platform/Controls.h"
 #include "platform/IApplication.h"
 #include "platform/IForm.h"
-#include "plugin/Attempt.h"
-#include "plugin/MKELDGlobalVars.h"
-#include "plugin/MKELDLanguageConstants.h"
+#include "plugin/base/Attempt.h"
+#include "plugin/base/MKELDGlobalVars.h"
+#include "plugin/base/MKELDLanguageConstants.h"
 #include "ui/PromptLayout.h"
 #include "ui/WhileAlive.h"
 

@@ -5,7 +5,7 @@
 
 #include "host/archive/ArchiveRows.h"
 #include "host/archive/Schema.h"
-#include "host/services/Sha256.h"
+#include "host/base/Sha256.h"
 
 namespace bench {
 

@@ -3,7 +3,7 @@
 #include "host/archive/ArchiveError.h"
 #include "host/archive/PostgreSqlDatabase.h"
 #include "host/archive/PostgreSqlUrl.h"
-#include "host/services/Tr.h"
+#include "host/base/Tr.h"
 
 namespace bench {
 

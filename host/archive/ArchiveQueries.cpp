@@ -4,8 +4,8 @@
 #include "host/archive/Archive.h"
 #include "host/archive/ArchiveError.h"
 #include "host/archive/ArchiveRows.h"
-#include "host/services/Sha256.h"
-#include "host/services/Tr.h"
+#include "host/base/Sha256.h"
+#include "host/base/Tr.h"
 
 namespace bench {
 

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "host/archive/ArchiveError.h"
-#include "host/services/Tr.h"
+#include "host/base/Tr.h"
 
 namespace bench::words {
 

@@ -3,7 +3,7 @@
 #include <cstdio>
 #include <regex>
 
-#include "host/services/WallClock.h"
+#include "host/base/WallClock.h"
 
 namespace bench {
 

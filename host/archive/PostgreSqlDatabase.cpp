@@ -10,9 +10,9 @@
 #include "host/archive/PostgreSqlUrl.h"
 #include "host/archive/PostgreSqlValues.h"
 #include "host/archive/PqLibrary.h"
-#include "host/services/Patience.h"
-#include "host/services/Text.h"
-#include "host/services/Tr.h"
+#include "host/base/Patience.h"
+#include "host/base/Text.h"
+#include "host/base/Tr.h"
 
 namespace bench {
 

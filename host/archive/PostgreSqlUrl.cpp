@@ -7,7 +7,7 @@
 
 #include "host/archive/ArchiveError.h"
 #include "host/archive/PqLibrary.h"
-#include "host/services/Tr.h"
+#include "host/base/Tr.h"
 
 namespace bench {
 

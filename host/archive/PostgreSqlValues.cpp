@@ -2,7 +2,7 @@
 
 #include <charconv>
 
-#include "host/services/Text.h"
+#include "host/base/Text.h"
 
 namespace bench {
 

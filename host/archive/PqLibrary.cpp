@@ -3,7 +3,7 @@
 #include <dlfcn.h>
 
 #include "host/archive/ArchiveError.h"
-#include "host/services/Tr.h"
+#include "host/base/Tr.h"
 
 namespace bench {
 

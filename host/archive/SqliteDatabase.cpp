@@ -4,9 +4,9 @@
 
 #include "OrvikTypeLib/HostError.h"
 #include "host/archive/ArchiveError.h"
-#include "host/services/Files.h"
-#include "host/services/Patience.h"
-#include "host/services/Tr.h"
+#include "host/base/Files.h"
+#include "host/base/Patience.h"
+#include "host/base/Tr.h"
 
 namespace bench {
 

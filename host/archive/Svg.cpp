@@ -3,8 +3,8 @@
 #include <cmath>
 
 #include "host/archive/Ticks.h"
+#include "host/base/VisibleText.h"
 #include "host/report/HtmlText.h"
-#include "host/report/VisibleText.h"
 
 namespace bench {
 

@@ -12,7 +12,7 @@
 #include "host/archive/TrendLimits.h"
 #include "host/archive/TrendMarks.h"
 #include "host/archive/TrendUnit.h"
-#include "host/services/Tr.h"
+#include "host/base/Tr.h"
 
 namespace bench {
 

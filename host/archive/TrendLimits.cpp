@@ -5,7 +5,7 @@
 
 #include "host/archive/Ticks.h"
 #include "host/archive/TrendUnit.h"
-#include "host/services/Tr.h"
+#include "host/base/Tr.h"
 
 namespace bench {
 

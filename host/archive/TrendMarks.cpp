@@ -1,6 +1,6 @@
 #include "host/archive/TrendMarks.h"
 
-#include "host/services/Tr.h"
+#include "host/base/Tr.h"
 
 namespace bench {
 

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "host/services/Text.h"
+#include "host/base/Text.h"
 #include "host/standards/Units.h"
 
 namespace bench {

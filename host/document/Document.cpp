@@ -6,20 +6,20 @@
 
 #include "OrvikTypeLib/As.h"
 #include "OrvikTypeLib/HostClasses.h"
-#include "host/Host.h"
+#include "host/base/HeapRoom.h"
+#include "host/base/LargeText.h"
+#include "host/base/Tr.h"
 #include "host/document/CutDocument.h"
+#include "host/document/Host.h"
 #include "host/document/SavedElements.h"
 #include "host/elements/ElementFactory.h"
 #include "host/elements/ElementTags.h"
 #include "host/elements/Nesting.h"
 #include "host/elements/TestContainer.h"
 #include "host/instruments/InstrumentColl.h"
-#include "host/services/HeapRoom.h"
-#include "host/services/LargeText.h"
-#include "host/services/Tr.h"
-#include "host/services/XmlDocument.h"
-#include "host/services/XmlEncoding.h"
-#include "host/services/XmlNode.h"
+#include "host/xml/XmlDocument.h"
+#include "host/xml/XmlEncoding.h"
+#include "host/xml/XmlNode.h"
 
 namespace bench {
 namespace {

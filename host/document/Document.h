@@ -17,8 +17,8 @@
 #include "host/document/ElementPlace.h"
 #include "host/document/Equipment.h"
 #include "host/document/Runs.h"
-#include "host/services/Leftovers.h"
-#include "host/services/XmlDocument.h"
+#include "host/xml/Leftovers.h"
+#include "host/xml/XmlDocument.h"
 
 namespace bench {
 

@@ -3,16 +3,16 @@
 #include <algorithm>
 #include <string_view>
 
+#include "host/base/Text.h"
+#include "host/base/Tr.h"
 #include "host/document/Document.h"
 #include "host/document/ElementsCheck.h"
 #include "host/document/KnownParts.h"
 #include "host/document/RunsCheck.h"
 #include "host/document/StandardsCheck.h"
-#include "host/services/Text.h"
-#include "host/services/Tr.h"
-#include "host/services/XmlDocument.h"
-#include "host/services/XmlEncoding.h"
-#include "host/services/XmlNode.h"
+#include "host/xml/XmlDocument.h"
+#include "host/xml/XmlEncoding.h"
+#include "host/xml/XmlNode.h"
 
 namespace bench {
 namespace {

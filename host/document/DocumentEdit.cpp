@@ -7,15 +7,15 @@
 #include "OrvikTypeLib/IPlugIn.h"
 #include "OrvikTypeLib/ITestEnumerator.h"
 #include "OrvikTypeLib/Variant.h"
-#include "host/Host.h"
+#include "host/base/Tr.h"
 #include "host/document/Document.h"
+#include "host/document/Host.h"
 #include "host/document/SavedPlan.h"
 #include "host/elements/ElementFactory.h"
 #include "host/elements/ElementTags.h"
 #include "host/elements/Nesting.h"
 #include "host/elements/TestContainer.h"
-#include "host/services/Tr.h"
-#include "host/services/XmlNode.h"
+#include "host/xml/XmlNode.h"
 
 namespace bench {
 namespace {

@@ -8,10 +8,10 @@
 #include <system_error>
 #include <utility>
 
-#include "host/services/FileErrors.h"
-#include "host/services/FreshFile.h"
-#include "host/services/Patience.h"
-#include "host/services/Tr.h"
+#include "host/base/FileErrors.h"
+#include "host/base/FreshFile.h"
+#include "host/base/Patience.h"
+#include "host/base/Tr.h"
 
 namespace bench {
 namespace {

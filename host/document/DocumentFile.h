@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "host/services/Files.h"
+#include "host/base/Files.h"
 
 namespace bench {
 

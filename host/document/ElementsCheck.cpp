@@ -1,14 +1,14 @@
 #include "host/document/ElementsCheck.h"
 
 #include "OrvikTypeLib/Codes.h"
+#include "host/base/Text.h"
+#include "host/base/Tr.h"
 #include "host/document/Findings.h"
 #include "host/document/KnownParts.h"
 #include "host/document/StandardsCheck.h"
 #include "host/elements/ElementTags.h"
 #include "host/elements/Nesting.h"
-#include "host/services/Text.h"
-#include "host/services/Tr.h"
-#include "host/services/XmlNode.h"
+#include "host/xml/XmlNode.h"
 
 namespace bench {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "host/services/XmlDocument.h"
+#include "host/xml/XmlDocument.h"
 
 namespace bench {
 

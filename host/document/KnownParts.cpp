@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <set>
 
+#include "host/base/Tr.h"
 #include "host/document/Findings.h"
-#include "host/services/Tr.h"
-#include "host/services/XmlNode.h"
+#include "host/xml/XmlNode.h"
 
 namespace bench {
 

@@ -3,15 +3,14 @@
 #include <sstream>
 #include <string_view>
 
-#include "host/services/Sha256.h"
-#include "host/services/Text.h"
-#include "host/services/Tr.h"
-#include "host/services/XmlNode.h"
+#include "host/base/Sha256.h"
+#include "host/base/Text.h"
+#include "host/base/Tr.h"
+#include "host/xml/XmlNode.h"
 
 namespace bench {
 namespace {
 
-constexpr char kDigest[] = "Digest", kBefore[] = "Before";
 constexpr char kByTester[] = "tester", kByOperator[] = "operator";
 
 // --- reading

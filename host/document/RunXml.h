@@ -24,6 +24,9 @@
 /// "Takes" and "Test" are in the order in which they happened. "Tester" counts the testers of the run from 1.
 namespace bench {
 
+/// Attributes of a run: the digest of its content, and that of the run before it.
+inline constexpr char kDigest[] = "Digest", kBefore[] = "Before";
+
 /// Reads a run. `XmlError` for what is missing or malformed. Unknown parts are passed over.
 RunRecord ReadRun(pugi::xml_node node);
 

@@ -6,12 +6,12 @@
 #include <utility>
 
 #include "host/document/RunXml.h"
-#include "host/services/XmlNode.h"
+#include "host/xml/XmlNode.h"
 
 namespace bench {
 namespace {
 
-constexpr char kRuns[] = "Runs", kRun[] = "Run", kDigest[] = "Digest", kBefore[] = "Before", kLast[] = "Last";
+constexpr char kRuns[] = "Runs", kRun[] = "Run", kLast[] = "Last";
 
 }  // namespace
 

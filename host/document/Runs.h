@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "host/document/RunRecord.h"
-#include "host/services/Leftovers.h"
+#include "host/xml/Leftovers.h"
 
 namespace bench {
 

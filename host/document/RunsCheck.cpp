@@ -2,11 +2,11 @@
 
 #include <string>
 
+#include "host/base/Tr.h"
 #include "host/document/Findings.h"
 #include "host/document/KnownParts.h"
 #include "host/document/RunXml.h"
-#include "host/services/Tr.h"
-#include "host/services/XmlNode.h"
+#include "host/xml/XmlNode.h"
 
 namespace bench {
 namespace {

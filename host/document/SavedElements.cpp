@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <string>
 
+#include "host/base/Tr.h"
 #include "host/elements/ElementTags.h"
 #include "host/elements/Nesting.h"
-#include "host/services/Tr.h"
-#include "host/services/XmlNode.h"
+#include "host/xml/XmlNode.h"
 
 namespace bench {
 namespace {

@@ -3,14 +3,14 @@
 #include <map>
 #include <utility>
 
+#include "host/base/Text.h"
+#include "host/base/Tr.h"
 #include "host/document/Findings.h"
 #include "host/document/KnownParts.h"
 #include "host/plugins/keld/KeldTests.h"
-#include "host/services/Text.h"
-#include "host/services/Tr.h"
-#include "host/services/XmlNode.h"
 #include "host/standards/Limit.h"
 #include "host/standards/Units.h"
+#include "host/xml/XmlNode.h"
 
 namespace bench {
 namespace {

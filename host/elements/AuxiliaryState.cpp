@@ -1,7 +1,7 @@
 #include "host/elements/AuxiliaryState.h"
 
 #include "host/elements/ElementTags.h"
-#include "host/services/XmlNode.h"
+#include "host/xml/XmlNode.h"
 
 namespace bench {
 

@@ -3,7 +3,7 @@
 #include <pugixml.hpp>
 
 #include "OrvikTypeLib/IAuxiliaryState.h"
-#include "host/services/Leftovers.h"
+#include "host/xml/Leftovers.h"
 
 namespace bench {
 

@@ -4,9 +4,9 @@
 
 #include "OrvikTypeLib/As.h"
 #include "OrvikTypeLib/ITestContainer.h"
+#include "host/base/Text.h"
 #include "host/elements/InformationRecord.h"
 #include "host/elements/TestElement.h"
-#include "host/services/Text.h"
 
 namespace bench {
 namespace {

@@ -1,7 +1,7 @@
 #include "host/elements/InformationRecord.h"
 
 #include "host/elements/ElementTags.h"
-#include "host/services/XmlNode.h"
+#include "host/xml/XmlNode.h"
 
 namespace bench {
 

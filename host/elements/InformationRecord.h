@@ -5,7 +5,7 @@
 #include <string>
 
 #include "OrvikTypeLib/IInformationRecord.h"
-#include "host/services/Leftovers.h"
+#include "host/xml/Leftovers.h"
 
 namespace bench {
 

@@ -2,12 +2,12 @@
 
 #include "OrvikTypeLib/As.h"
 #include "OrvikTypeLib/HostClasses.h"
+#include "host/base/Tr.h"
 #include "host/elements/ChildList.h"
 #include "host/elements/ElementTags.h"
 #include "host/elements/PrintAlone.h"
 #include "host/elements/UnknownElement.h"
-#include "host/services/Tr.h"
-#include "host/services/XmlNode.h"
+#include "host/xml/XmlNode.h"
 
 namespace bench {
 namespace {

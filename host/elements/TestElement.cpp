@@ -10,11 +10,11 @@
 #include "OrvikTypeLib/IReport.h"
 #include "OrvikTypeLib/IResultData.h"
 #include "OrvikTypeLib/IStandardColl.h"
+#include "host/base/Text.h"
+#include "host/base/Tr.h"
 #include "host/elements/ElementTags.h"
 #include "host/elements/Nesting.h"
-#include "host/services/Text.h"
-#include "host/services/Tr.h"
-#include "host/services/XmlNode.h"
+#include "host/xml/XmlNode.h"
 
 namespace bench {
 namespace {

@@ -8,7 +8,7 @@
 #include "host/elements/AuxiliaryState.h"
 #include "host/elements/ElementFactory.h"
 #include "host/elements/InformationRecord.h"
-#include "host/services/Leftovers.h"
+#include "host/xml/Leftovers.h"
 
 namespace bench {
 

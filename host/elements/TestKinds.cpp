@@ -3,8 +3,8 @@
 #include "OrvikTypeLib/As.h"
 #include "OrvikTypeLib/ILimitData.h"
 #include "OrvikTypeLib/ITestContainer.h"
-#include "host/services/Text.h"
-#include "host/services/Tr.h"
+#include "host/base/Text.h"
+#include "host/base/Tr.h"
 #include "host/standards/ElementLimits.h"
 
 namespace bench {

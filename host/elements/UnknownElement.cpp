@@ -1,9 +1,9 @@
 #include "host/elements/UnknownElement.h"
 
 #include "OrvikTypeLib/As.h"
+#include "host/base/Tr.h"
 #include "host/elements/ElementTags.h"
-#include "host/services/Tr.h"
-#include "host/services/XmlNode.h"
+#include "host/xml/XmlNode.h"
 
 namespace bench {
 

@@ -1,8 +1,8 @@
 #include "host/instruments/InstrumentColl.h"
 
 #include "OrvikTypeLib/As.h"
+#include "host/base/Tr.h"
 #include "host/instruments/InstrumentRecord.h"
-#include "host/services/Tr.h"
 
 namespace bench {
 namespace {

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "OrvikTypeLib/IInstrumentColl.h"
-#include "host/services/Leftovers.h"
+#include "host/xml/Leftovers.h"
 
 namespace bench {
 

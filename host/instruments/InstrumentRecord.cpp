@@ -1,6 +1,6 @@
 #include "host/instruments/InstrumentRecord.h"
 
-#include "host/services/XmlNode.h"
+#include "host/xml/XmlNode.h"
 
 namespace bench {
 namespace {

@@ -7,7 +7,7 @@
 #include <string>
 
 #include "OrvikTypeLib/IInstrumentRecord.h"
-#include "host/services/Leftovers.h"
+#include "host/xml/Leftovers.h"
 
 namespace bench {
 

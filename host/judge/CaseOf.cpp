@@ -14,14 +14,14 @@
 #include "OrvikTypeLib/ITestContainer.h"
 #include "OrvikTypeLib/ITestEnumerator.h"
 #include "host/document/Document.h"
+#include "host/document/ElementState.h"
+#include "host/document/ElementText.h"
+#include "host/document/ElementWalk.h"
+#include "host/document/SavedSettings.h"
 #include "host/elements/ElementFactory.h"
 #include "host/elements/TestKinds.h"
 #include "host/judge/Judge.h"
 #include "host/plugins/keld/KeldTests.h"
-#include "host/run/ElementState.h"
-#include "host/run/ElementText.h"
-#include "host/run/ElementWalk.h"
-#include "host/run/SavedSettings.h"
 
 namespace bench::judge {
 namespace {

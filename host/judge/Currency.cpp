@@ -4,9 +4,9 @@
 #include <utility>
 
 #include "OrvikTypeLib/Codes.h"
+#include "host/base/Text.h"
 #include "host/judge/Reading.h"
 #include "host/judge/Verdict.h"
-#include "host/services/Text.h"
 
 namespace bench::judge {
 namespace {

@@ -6,10 +6,10 @@
 #include <string>
 
 #include "OrvikTypeLib/Codes.h"
+#include "host/base/Text.h"
 #include "host/judge/JudgeTest.h"
 #include "host/judge/Limits.h"
 #include "host/judge/Reading.h"
-#include "host/services/Text.h"
 #include "host/standards/Units.h"
 
 namespace bench::judge {

@@ -5,11 +5,11 @@
 #include <cmath>
 #include <memory>
 
+#include "host/base/Text.h"
 #include "host/plugins/keld/KeldProtocol.h"
 #include "host/plugins/keld/KeldTests.h"
 #include "host/serial/Latin1.h"
 #include "host/serial/Message.h"
-#include "host/services/Text.h"
 #include "host/standards/Units.h"
 
 namespace bench::judge {

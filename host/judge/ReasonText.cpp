@@ -6,9 +6,9 @@
 #include <utility>
 #include <vector>
 
+#include "host/base/Text.h"
+#include "host/base/Tr.h"
 #include "host/judge/Verdict.h"
-#include "host/services/Text.h"
-#include "host/services/Tr.h"
 
 namespace bench::judge {
 namespace {

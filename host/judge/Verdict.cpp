@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "OrvikTypeLib/Codes.h"
-#include "host/services/Tr.h"
+#include "host/base/Tr.h"
 
 namespace bench::judge {
 

@@ -1,6 +1,6 @@
 #include "host/report/Report.h"
 
-#include "host/services/LanguageService.h"
+#include "host/base/LanguageService.h"
 
 namespace bench::report {
 

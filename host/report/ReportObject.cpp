@@ -1,7 +1,7 @@
 #include "host/report/ReportObject.h"
 
 #include "OrvikTypeLib/HostError.h"
-#include "host/services/Tr.h"
+#include "host/base/Tr.h"
 
 namespace bench {
 

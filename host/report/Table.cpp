@@ -1,9 +1,9 @@
 #include "host/report/Table.h"
 
 #include "OrvikTypeLib/HostError.h"
-#include "host/report/VisibleText.h"
-#include "host/services/Text.h"
-#include "host/services/Tr.h"
+#include "host/base/Text.h"
+#include "host/base/Tr.h"
+#include "host/base/VisibleText.h"
 
 namespace bench::report {
 namespace {

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <utility>
 
-#include "host/report/VisibleText.h"
-#include "host/services/TextCells.h"
+#include "host/base/TextCells.h"
+#include "host/base/VisibleText.h"
 
 namespace bench::text {
 namespace {

@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <cmath>
 
+#include "host/base/TextCells.h"
+#include "host/base/VisibleText.h"
 #include "host/report/TextLines.h"
 #include "host/report/TextTable.h"
-#include "host/report/VisibleText.h"
-#include "host/services/TextCells.h"
 
 namespace bench {
 namespace {

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <numeric>
 
+#include "host/base/TextCells.h"
 #include "host/report/TextLines.h"
-#include "host/services/TextCells.h"
 
 namespace bench {
 namespace {

@@ -5,6 +5,8 @@
 
 #include "OrvikTypeLib/Conversions.h"
 #include "OrvikTypeLib/HostError.h"
+#include "host/base/FileErrors.h"
+#include "host/base/Tr.h"
 #include "host/judge/ReasonText.h"
 #include "host/plugins/keld/KeldNames.h"
 #include "host/plugins/keld/KeldProtocol.h"
@@ -13,8 +15,6 @@
 #include "host/run/LeadsReading.h"
 #include "host/serial/Latin1.h"
 #include "host/serial/Message.h"
-#include "host/services/FileErrors.h"
-#include "host/services/Tr.h"
 #include "platform/Controls.h"
 #include "platform/IForm.h"
 

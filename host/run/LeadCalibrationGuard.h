@@ -6,9 +6,9 @@
 #include <string>
 
 #include "OrvikTypeLib/Variant.h"
+#include "host/base/WallClock.h"
+#include "host/run/LeadCalibrations.h"
 #include "host/serial/PortManager.h"
-#include "host/services/LeadCalibrations.h"
-#include "host/services/WallClock.h"
 #include "platform/IApplication.h"
 
 namespace bench {

@@ -1,13 +1,13 @@
 #include "host/run/LeadsReading.h"
 
 #include "OrvikTypeLib/Conversions.h"
+#include "host/base/Text.h"
+#include "host/base/Tr.h"
 #include "host/plugins/keld/KeldProtocol.h"
 #include "host/plugins/keld/KeldTests.h"
+#include "host/run/LeadCalibrations.h"
 #include "host/serial/Latin1.h"
 #include "host/serial/Message.h"
-#include "host/services/LeadCalibrations.h"
-#include "host/services/Text.h"
-#include "host/services/Tr.h"
 
 namespace bench {
 

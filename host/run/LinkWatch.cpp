@@ -1,8 +1,8 @@
 #include "host/run/LinkWatch.h"
 
+#include "host/base/Tr.h"
 #include "host/plugins/keld/KeldProtocol.h"
 #include "host/serial/Message.h"
-#include "host/services/Tr.h"
 
 namespace bench {
 

@@ -4,8 +4,8 @@
 
 #include "OrvikTypeLib/As.h"
 #include "OrvikTypeLib/HostError.h"
-#include "host/run/ElementWalk.h"
-#include "host/services/Tr.h"
+#include "host/base/Tr.h"
+#include "host/document/ElementWalk.h"
 
 namespace bench {
 

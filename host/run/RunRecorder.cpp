@@ -9,9 +9,9 @@
 #include "OrvikTypeLib/ILimitData.h"
 #include "OrvikTypeLib/IResultData.h"
 #include "OrvikTypeLib/IStandard.h"
-#include "host/run/ElementWalk.h"
-#include "host/run/SavedSettings.h"
-#include "host/services/Text.h"
+#include "host/base/Text.h"
+#include "host/document/ElementWalk.h"
+#include "host/document/SavedSettings.h"
 
 namespace bench {
 

@@ -10,9 +10,9 @@
 #include "OrvikTypeLib/IMeasurement.h"
 #include "OrvikTypeLib/IStandardColl.h"
 #include "OrvikTypeLib/ITestElement.h"
+#include "host/base/WallClock.h"
 #include "host/document/Runs.h"
 #include "host/run/DoubtTracker.h"
-#include "host/services/WallClock.h"
 
 namespace bench {
 

@@ -3,7 +3,7 @@
 #include <atomic>
 #include <utility>
 
-#include "host/toolkit/headless/Application.h"
+#include "toolkit/headless/Application.h"
 
 namespace bench {
 

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "OrvikTypeLib/HostError.h"
-#include "host/services/Tr.h"
+#include "host/base/Tr.h"
 
 namespace bench {
 

@@ -3,9 +3,9 @@
 #include <memory>
 #include <string>
 
-#include "host/loop/ILoop.h"
 #include "host/serial/ITransport.h"
 #include "host/serial/SerialDevice.h"
+#include "toolkit/loop/ILoop.h"
 
 namespace bench {
 

@@ -6,8 +6,8 @@
 #include <array>
 #include <cerrno>
 
-#include "host/services/SystemError.h"
-#include "host/services/Tr.h"
+#include "host/base/SystemError.h"
+#include "host/base/Tr.h"
 
 namespace bench {
 

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "OrvikTypeLib/HostError.h"
-#include "host/services/Tr.h"
+#include "host/base/Tr.h"
 
 namespace bench {
 

@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "OrvikTypeLib/HostError.h"
-#include "host/services/Tr.h"
+#include "host/base/Tr.h"
 
 namespace bench {
 

@@ -3,9 +3,9 @@
 #include <algorithm>
 
 #include "OrvikTypeLib/HostError.h"
+#include "host/base/Tr.h"
 #include "host/serial/Latin1.h"
 #include "host/serial/LineReader.h"
-#include "host/services/Tr.h"
 
 namespace bench {
 

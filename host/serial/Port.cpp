@@ -6,8 +6,8 @@
 
 #include "OrvikTypeLib/As.h"
 #include "OrvikTypeLib/HostError.h"
+#include "host/base/Tr.h"
 #include "host/serial/Message.h"
-#include "host/services/Tr.h"
 
 namespace bench {
 

@@ -6,10 +6,10 @@
 #include <string>
 
 #include "OrvikTypeLib/IPort.h"
-#include "host/loop/ILoop.h"
 #include "host/serial/ITransport.h"
 #include "host/serial/LineReader.h"
 #include "host/serial/Wire.h"
+#include "toolkit/loop/ILoop.h"
 
 namespace bench {
 

@@ -4,9 +4,9 @@
 #include <utility>
 
 #include "OrvikTypeLib/HostError.h"
+#include "host/base/Tr.h"
 #include "host/serial/DeviceTransport.h"
 #include "host/serial/Port.h"
-#include "host/services/Tr.h"
 
 namespace bench {
 

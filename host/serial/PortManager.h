@@ -6,10 +6,10 @@
 #include <vector>
 
 #include "OrvikTypeLib/IPortManager.h"
-#include "host/loop/ILoop.h"
 #include "host/serial/ITransport.h"
 #include "host/serial/LineSettings.h"
 #include "host/serial/Wire.h"
+#include "toolkit/loop/ILoop.h"
 
 namespace bench {
 

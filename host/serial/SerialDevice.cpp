@@ -11,11 +11,11 @@
 #include <cerrno>
 
 #include "OrvikTypeLib/HostError.h"
+#include "host/base/FileErrors.h"
+#include "host/base/SystemError.h"
+#include "host/base/Tr.h"
 #include "host/serial/LineMode.h"
 #include "host/serial/OutputQueue.h"
-#include "host/services/FileErrors.h"
-#include "host/services/SystemError.h"
-#include "host/services/Tr.h"
 
 namespace bench {
 

@@ -10,10 +10,10 @@
 #include <utility>
 
 #include "OrvikTypeLib/HostError.h"
+#include "host/base/FileErrors.h"
+#include "host/base/SystemError.h"
+#include "host/base/Tr.h"
 #include "host/serial/Latin1.h"
-#include "host/services/FileErrors.h"
-#include "host/services/SystemError.h"
-#include "host/services/Tr.h"
 
 namespace bench {
 

@@ -5,8 +5,8 @@
 #include "OrvikTypeLib/HostError.h"
 #include "OrvikTypeLib/IStandard.h"
 #include "OrvikTypeLib/IStandardColl.h"
-#include "host/services/Text.h"
-#include "host/services/Tr.h"
+#include "host/base/Text.h"
+#include "host/base/Tr.h"
 #include "host/standards/Units.h"
 
 namespace bench {

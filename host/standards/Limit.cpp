@@ -5,9 +5,9 @@
 #include "OrvikTypeLib/Codes.h"
 #include "OrvikTypeLib/Conversions.h"
 #include "OrvikTypeLib/HostError.h"
-#include "host/services/Text.h"
-#include "host/services/Tr.h"
-#include "host/services/XmlNode.h"
+#include "host/base/Text.h"
+#include "host/base/Tr.h"
+#include "host/xml/XmlNode.h"
 
 namespace bench {
 namespace {

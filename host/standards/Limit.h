@@ -6,7 +6,7 @@
 #include <string>
 
 #include "OrvikTypeLib/ILimit.h"
-#include "host/services/Leftovers.h"
+#include "host/xml/Leftovers.h"
 
 namespace bench {
 

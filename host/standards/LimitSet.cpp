@@ -5,11 +5,11 @@
 #include <string_view>
 #include <unordered_set>
 
-#include "host/services/Files.h"
-#include "host/services/Text.h"
-#include "host/services/Tr.h"
-#include "host/services/XmlDocument.h"
-#include "host/services/XmlNode.h"
+#include "host/base/Files.h"
+#include "host/base/Text.h"
+#include "host/base/Tr.h"
+#include "host/xml/XmlDocument.h"
+#include "host/xml/XmlNode.h"
 
 namespace bench {
 namespace {

@@ -4,9 +4,9 @@
 #include <system_error>
 
 #include "OrvikTypeLib/HostError.h"
-#include "host/services/FileErrors.h"
-#include "host/services/Files.h"
-#include "host/services/Tr.h"
+#include "host/base/FileErrors.h"
+#include "host/base/Files.h"
+#include "host/base/Tr.h"
 
 namespace bench {
 namespace {

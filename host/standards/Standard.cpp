@@ -5,9 +5,9 @@
 #include "OrvikTypeLib/As.h"
 #include "OrvikTypeLib/Codes.h"
 #include "OrvikTypeLib/Conversions.h"
-#include "host/services/Tr.h"
-#include "host/services/XmlNode.h"
+#include "host/base/Tr.h"
 #include "host/standards/Limit.h"
+#include "host/xml/XmlNode.h"
 
 namespace bench {
 namespace {

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "OrvikTypeLib/IStandard.h"
-#include "host/services/Leftovers.h"
+#include "host/xml/Leftovers.h"
 
 namespace bench {
 

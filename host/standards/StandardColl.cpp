@@ -3,9 +3,9 @@
 #include "OrvikTypeLib/As.h"
 #include "OrvikTypeLib/ILimit.h"
 #include "OrvikTypeLib/IReport.h"
-#include "host/services/Tr.h"
-#include "host/services/XmlNode.h"
+#include "host/base/Tr.h"
 #include "host/standards/Standard.h"
+#include "host/xml/XmlNode.h"
 
 namespace bench {
 namespace {

@@ -5,7 +5,7 @@
 
 #include "OrvikTypeLib/ILanguageService.h"
 #include "OrvikTypeLib/IStandardColl.h"
-#include "host/services/Leftovers.h"
+#include "host/xml/Leftovers.h"
 
 namespace bench {
 

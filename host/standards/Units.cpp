@@ -7,7 +7,7 @@
 #include <utility>
 
 #include "OrvikTypeLib/Conversions.h"
-#include "host/services/Text.h"
+#include "host/base/Text.h"
 
 namespace bench {
 namespace {

@@ -10,7 +10,7 @@
 #include "OrvikTypeLib/HostClasses.h"
 #include "OrvikTypeLib/HostError.h"
 #include "OrvikTypeLib/ILanguageService.h"
-#include "host/Host.h"
+#include "host/document/Host.h"
 
 namespace support {
 

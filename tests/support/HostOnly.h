@@ -10,14 +10,14 @@
 #include <vector>
 
 #include "OrvikTypeLib/IRegistryReader.h"
-#include "host/Host.h"
-#include "host/controls/ControlClasses.h"
-#include "host/toolkit/headless/Application.h"
+#include "host/document/Host.h"
 #include "plugin/ClassLibrary.h"
-#include "plugin/MKELDConstants.h"
-#include "plugin/MKELDGlobalVars.h"
+#include "plugin/base/MKELDConstants.h"
+#include "plugin/base/MKELDGlobalVars.h"
 #include "tests/support/OnScreen.h"
 #include "tests/support/TemporaryFolder.h"
+#include "toolkit/controls/ControlClasses.h"
+#include "toolkit/headless/Application.h"
 
 namespace support {
 

@@ -8,13 +8,13 @@
 #include <vector>
 
 #include "host/document/Document.h"
+#include "host/document/ElementState.h"
+#include "host/document/SavedSettings.h"
 #include "host/elements/ElementFactory.h"
 #include "host/judge/CaseOf.h"
 #include "host/run/AutoOperator.h"
-#include "host/run/ElementState.h"
 #include "host/run/GuideToolbar.h"
-#include "host/run/SavedSettings.h"
-#include "host/services/LeadCalibrations.h"
+#include "host/run/LeadCalibrations.h"
 #include "tests/support/RunParts.h"
 #include "tests/support/VirtualBench.h"
 

@@ -6,10 +6,10 @@
 #include <string_view>
 #include <utility>
 
-#include "host/loop/ILoop.h"
 #include "host/serial/LineReader.h"
 #include "host/serial/MemoryTransport.h"
 #include "tester/Tester.h"
+#include "toolkit/loop/ILoop.h"
 
 namespace support {
 

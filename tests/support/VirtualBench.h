@@ -12,7 +12,7 @@
 #include "OrvikTypeLib/IPlugIn.h"
 #include "OrvikTypeLib/ITestElement.h"
 #include "host/serial/CommApplication.h"
-#include "plugin/ClassIdentifiers.h"
+#include "plugin/base/ClassIdentifiers.h"
 #include "tester/BuiltInProfiles.h"
 #include "tests/support/HostOnly.h"
 #include "tests/support/SimulatedLine.h"

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "host/services/Tr.h"
+#include "host/base/Tr.h"
 
 /// What the host knows of the tests of this one plug-in, to check its results by rules of its own.
 namespace bench::keld_facts {

@@ -1,5 +1,0 @@
-#include "host/app/Program.h"
-
-int main(int argumentCount, char** arguments) {
-  return static_cast<int>(bench::RunProgram(argumentCount, arguments));
-}

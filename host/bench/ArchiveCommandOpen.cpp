@@ -1,0 +1,41 @@
+#include "host/bench/ArchiveCommandOpen.h"
+
+#include <cstdlib>
+#include <utility>
+
+#include "host/archive/ArchiveLocation.h"
+#include "host/base/Tr.h"
+#include "host/bench/InputError.h"
+#include "host/bench/ProgramFiles.h"
+
+namespace bench {
+
+namespace {
+
+using Missing = SqliteDatabase::Missing;
+
+Archive Opened(const std::string& location, const GlobalOptions& options, Missing named) {
+  if (!location.empty()) return Archive(OpenDatabase(location, named));
+  const char* environment = std::getenv("ORVIK_ARCHIVE");
+  if (environment && *environment) return Archive(OpenDatabase(environment, named));
+  const auto file = files::StateFolder(options.state) / "archive.sqlite";
+  return Archive(std::make_unique<SqliteDatabase>(file, Missing::kCreate));
+}
+
+}  // namespace
+
+Archive OpenArchiveToAsk(const std::string& location, const GlobalOptions& options) {
+  return Opened(location, options, Missing::kRefuse);
+}
+
+Archive OpenArchiveToAdd(const std::string& location, const GlobalOptions& options) {
+  return Opened(location, options, Missing::kCreate);
+}
+
+ArchivedDocument Fetched(Archive& archive, std::int64_t id) {
+  if (auto found = archive.Find(id)) return *std::move(found);
+  throw InputError(Tr("the archive %%1 has no document %%2; \"orvik-bench archive list\" shows those it has",
+                      {archive.Name(), std::to_string(id)}));
+}
+
+}  // namespace bench

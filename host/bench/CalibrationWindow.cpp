@@ -1,0 +1,60 @@
+#include "host/bench/CalibrationWindow.h"
+
+#include "OrvikTypeLib/As.h"
+#include "host/base/Tr.h"
+#include "host/plugins/keld/KeldNames.h"
+#include "host/run/GuideToolbar.h"
+#include "platform/Controls.h"
+#include "platform/IForm.h"
+
+namespace bench {
+
+namespace {
+
+std::shared_ptr<orvik::platform::ITextBox> TextBox(const orvik::platform::IForm& form, const char* name) {
+  return std::dynamic_pointer_cast<orvik::platform::ITextBox>(form.Find(name));
+}
+
+}  // namespace
+
+CalibrationWindow::CalibrationWindow(Workbench& workbench, std::string serial)
+    : workbench_(workbench),
+      serial_(std::move(serial)),
+      dialog_(orvik::As<orvik::IDialogForm>(workbench.Host()->CreateObject(keld_facts::kLeadsDialogClass))),
+      form_(orvik::Required(dialog_).Form()) {}
+
+void CalibrationWindow::Run() {
+  workbench_.Application()->Post([this] { Operate(); });
+  Show();
+}
+
+void CalibrationWindow::Show() {
+  form_->ShowModal(nullptr);
+  form_->Unload();
+}
+
+void CalibrationWindow::Operate() {
+  ClickButton(*form_, guide::kLeadsMeasure);  // returns when the session with the tester is over
+  if (!form_->Visible()) return;
+  const auto serial = TextBox(*form_, guide::kLeadsSerial);
+  if (serial && !serial_.empty()) serial->TypeOver(serial_);
+  if (serial && serial->Text().empty()) {
+    obstacle_ = Tr("the tester reported no serial number to store the value under; give one with --serial");
+    return ClickButton(*form_, guide::kLeadsCancel);
+  }
+  ClickButton(*form_, guide::kLeadsSave);
+  if (!form_->Visible()) return;
+  obstacle_ = Tr("the value could not be saved; measure again");
+  ClickButton(*form_, guide::kLeadsCancel);
+}
+
+std::string CalibrationWindow::TesterType() const {
+  const auto type = TextBox(*form_, guide::kLeadsType);
+  return type ? type->Text() : std::string();
+}
+
+std::string CalibrationWindow::Reason() const {
+  return obstacle_.empty() ? workbench_.Leads().Reason() : obstacle_;
+}
+
+}  // namespace bench

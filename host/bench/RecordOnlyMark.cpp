@@ -1,0 +1,39 @@
+#include "host/bench/RecordOnlyMark.h"
+
+#include <string>
+
+#include "OrvikTypeLib/As.h"
+#include "OrvikTypeLib/ILimitData.h"
+#include "host/base/Tr.h"
+#include "host/bench/DocumentElements.h"
+#include "host/bench/InputError.h"
+#include "host/document/ElementState.h"
+#include "host/elements/ElementFactory.h"
+#include "host/elements/UnknownElement.h"
+#include "host/standards/ElementLimits.h"
+
+namespace bench {
+
+bool IsRecordOnly(const std::shared_ptr<orvik::ITestElement>& element, const ElementFactory& factory) {
+  const auto state = StateOf(element, factory);
+  return state && state->RecordOnly();
+}
+
+void MarkRecordOnly(const std::shared_ptr<orvik::ITestElement>& element, const ElementFactory& factory,
+                    bool recordOnly) {
+  const auto state = StateOf(element, factory);
+  // What is unknown is saved as it was read, without a mark that was set meanwhile.
+  if (!state || orvik::As<UnknownElement>(element))
+    throw InputError(
+        Tr("%%1: it cannot be marked; its plug-in is not there", {NameWithNumber(*element, factory)}));
+  const auto limits = element->Limits();
+  if (recordOnly && limits) {
+    if (const auto present = LimitsOf(*limits); !present.empty())
+      throw InputError(Tr(
+          "--record-only: %%1 has a limit of %%2; remove its limits first: limit FILE --element %%3 --remove",
+          {NameWithNumber(*element, factory), present.front().standard, std::to_string(element->ID())}));
+  }
+  state->SetRecordOnly(recordOnly);
+}
+
+}  // namespace bench

@@ -1,0 +1,71 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "OrvikTypeLib/ITestElement.h"
+#include "host/bench/RunReporter.h"
+#include "host/bench/StopProgress.h"
+#include "host/bench/TesterConnection.h"
+#include "host/bench/Workbench.h"
+#include "host/run/DocumentRunner.h"
+#include "host/run/DoubtTracker.h"
+#include "host/run/IOperator.h"
+#include "host/run/LinkWatch.h"
+#include "host/run/RunRecorder.h"
+#include "host/run/StopRequest.h"
+#include "host/serial/WireLog.h"
+
+namespace bench {
+
+class Document;
+
+/// `InputError` when the document has runs of the other kind: simulated and real ones never meet.
+void RequireOneKindOfRuns(const Document& document, bool simulated);
+
+/// One run of a document: everything that takes part in it, joined.
+class RunSession {
+ public:
+  /// @param by the name of the operator, for the record
+  /// `InputError` when the document has runs on a tester of the other kind, real or simulated.
+  RunSession(Workbench& workbench, Document& document, WireLog& log, RunReporter& reporter,
+             const TesterConnection& tester, const std::string& by);
+
+  /// What `reporter` hears is judged by these standards; without any by every one that an element names.
+  void JudgeBy(std::vector<std::string> standards) { standards_ = std::move(standards); }
+  /// The run's stop request, for the operator of the guide.
+  StopRequest& Stop() { return stop_; }
+  /// Number and name of the test that the run has reached, whose guide is shown.
+  std::string ReachedTest() const;
+  /// Runs the elements while `runOperator` works the guide; returns when the session with the tester is over
+  /// and the document saved.
+  DocumentRunner::End Run(const std::vector<std::shared_ptr<orvik::ITestElement>>& elements,
+                          std::unique_ptr<IOperator> runOperator);
+  /// Why it ended so.
+  const std::string& Reason() const { return runner_.Reason(); }
+  /// Has the run end in good order: the running test is dropped, the session with the tester closed, the
+  /// document saved. Asked again it tells how far that has come.
+  void AskToStop();
+
+ private:
+  void Listen();
+  judge::JudgedElement Judged(const orvik::ITestElement& element) const;
+
+  Workbench& workbench_;
+  Document& document_;
+  WireLog& log_;
+  RunReporter& reporter_;
+  std::vector<std::string> standards_;
+  StopRequest stop_;
+  const RunRecorder::Heading heading_;
+  DoubtTracker doubts_;
+  LinkWatch link_;
+  StopProgress stopProgress_;
+  RunRecorder recorder_;
+  const std::shared_ptr<RunController> controller_;
+  DocumentRunner runner_;
+  std::shared_ptr<orvik::ITestElement> reached_;
+  std::vector<orvik::platform::Subscription> heard_;
+};
+
+}  // namespace bench

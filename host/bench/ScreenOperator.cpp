@@ -1,0 +1,24 @@
+#include "host/bench/ScreenOperator.h"
+
+#include <chrono>
+
+#include "host/run/GuideToolbar.h"
+
+namespace bench {
+
+namespace {
+
+constexpr std::chrono::milliseconds kNextLook{100};
+
+}  // namespace
+
+ScreenOperator::~ScreenOperator() { application_->Forget(again_); }
+
+void ScreenOperator::OnStopRequested() {
+  // The guide can be left once its test has ended, and a prompt may come in between. The next look is due
+  // whatever happens in this one.
+  again_ = application_->CallAt(application_->Now() + kNextLook, [this] { OnStopRequested(); });
+  LeaveGuide(*application_);
+}
+
+}  // namespace bench

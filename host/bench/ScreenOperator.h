@@ -1,0 +1,29 @@
+#pragma once
+
+#include <memory>
+#include <utility>
+
+#include "host/run/IOperator.h"
+#include "toolkit/headless/Application.h"
+
+namespace bench {
+
+/// Leaves the guide and the prompts to the person before the screen, and brings them to their end when a stop
+/// is asked for.
+class ScreenOperator final : public IOperator {
+ public:
+  explicit ScreenOperator(std::shared_ptr<headless::Application> application)
+      : application_(std::move(application)) {}
+  ~ScreenOperator() override;
+
+  /// Nothing to do: the person operates the window.
+  void OnWindowReady(const Form&) override {}
+  /// Leaves the guide and its prompts, as often as it takes.
+  void OnStopRequested() override;
+
+ private:
+  const std::shared_ptr<headless::Application> application_;
+  ILoop::Id again_ = 0;
+};
+
+}  // namespace bench

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "OrvikTypeLib/ITestElement.h"
+#include "host/bench/LimitText.h"
+#include "host/standards/LimitSet.h"
+
+namespace bench {
+
+class ElementFactory;
+
+/// What came of applying a set, a line for each element.
+struct AppliedLimits {
+  std::vector<std::string> applied;
+  std::vector<std::string> uncovered;  ///< tests that the set has no figure for
+};
+
+/// What becomes of limits that an earlier set of the same standard gave.
+enum class EarlierSets { kReplaced, kKept };
+
+/// Gives each of the elements, and all below them, its limit of the set. Limits of the same set are replaced;
+/// so are those of an earlier set of the same standard, such as for class I instead of class II, also where
+/// this set has no figure, unless they are kept. A limit without a description was set by hand and stays. An
+/// element that gets a limit is no longer record-only. When the set covers none of the elements, nothing is
+/// changed and `applied` is empty.
+/// `InputError` naming the element when its unit does not fit; elements may then have changed already.
+AppliedLimits ApplyLimitSet(const LimitSet& set,
+                            const std::vector<std::shared_ptr<orvik::ITestElement>>& elements,
+                            const ElementFactory& factory, EarlierSets earlier = EarlierSets::kReplaced);
+
+}  // namespace bench

@@ -1,0 +1,27 @@
+#include "host/bench/StoredLeadsView.h"
+
+#include "host/base/Tr.h"
+#include "host/base/VisibleText.h"
+#include "host/plugins/keld/KeldTests.h"
+
+namespace bench {
+
+std::string LeadsRemark(const LeadCalibration& leads) {
+  if (leads.Plausible()) return {};
+  if (!leads.milliohms)
+    return Tr("the stored value is not a number and counts as 0; measure the leads of this tester again");
+  if (*leads.milliohms < 0)
+    return Tr("below 0: protective-earth readings become too high; measure the leads of this tester again");
+  return Tr(
+      "above %%1 mOhm: more than test leads have, so protective-earth readings become too low; measure the "
+      "leads of this tester again",
+      {std::to_string(keld_facts::kMostLeadMilliohms)});
+}
+
+std::string TextOf(const LeadCalibration& stored) {
+  return Tr("The test leads of tester %%1 have %%2 mOhm, %%3.",
+            {report::VisibleText(stored.serial), std::to_string(stored.milliohms.value_or(0)),
+             MeasuredText(stored.measured)});
+}
+
+}  // namespace bench

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <string>
+
+#include "host/run/LeadCalibrations.h"
+
+namespace bench {
+
+/// What is wrong with a stored value and what to do, for people; empty for one that test leads can have.
+std::string LeadsRemark(const LeadCalibration& leads);
+
+/// "The test leads of tester KS-42 have 123 mOhm, measured 2026-11-21 14:03."
+std::string TextOf(const LeadCalibration& stored);
+
+}  // namespace bench

@@ -1,0 +1,29 @@
+#include "host/bench/UnsavedChanges.h"
+
+#include <string>
+#include <system_error>
+
+#include "host/base/Files.h"
+#include "host/document/Document.h"
+
+namespace bench {
+
+std::filesystem::path UnsavedFile(const Document& document) {
+  auto file = document.Path();
+  file += ".unsaved";
+  return file;
+}
+
+std::filesystem::path KeepUnsaved(const Document& document) {
+  auto file = UnsavedFile(document);
+  // What an earlier session kept stays until a person has looked at it.
+  std::error_code none;
+  for (int number = 2; std::filesystem::exists(file, none); ++number) {
+    file = UnsavedFile(document);
+    file += "." + std::to_string(number);
+  }
+  ReplaceFile(file, document.Text());
+  return file;
+}
+
+}  // namespace bench

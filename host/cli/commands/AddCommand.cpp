@@ -1,0 +1,67 @@
+#include "host/cli/commands/AddCommand.h"
+
+#include <CLI/CLI.hpp>
+#include <iostream>
+
+#include "OrvikTypeLib/As.h"
+#include "OrvikTypeLib/ITestContainer.h"
+#include "host/base/Tr.h"
+#include "host/bench/Consequences.h"
+#include "host/bench/DocumentElements.h"
+#include "host/bench/InputError.h"
+#include "host/cli/help/Examples.h"
+#include "host/cli/options/NumberOption.h"
+#include "host/document/Document.h"
+
+namespace bench {
+
+CLI::App* AddCommand::Declare(CLI::App& program) {
+  auto* command = program.add_subcommand("add", Tr("Add tests to a document and print their identifiers"));
+  command->add_option("FILE", file_, Tr("The document"))->required();
+  WholeNumbers(command->add_option("TESTID", tests_, Tr("Tests of the catalogue, in the order of testing")))
+      ->required();
+  auto* to = command->add_option("--to", to_, Tr("Add them at the end of this sequence"));
+  auto* before = command->add_option("--before", before_, Tr("Add them before this element"));
+  auto* after = command->add_option("--after", after_, Tr("Add them after this element"));
+  for (auto* option : {to, before, after}) WholeNumbers(option)->type_name("ID");
+  to->excludes(before)->excludes(after);
+  before->excludes(after);
+  command->footer(
+      Examples({"orvik-bench add pump-7.orvik 610 910", "orvik-bench add pump-7.orvik 420 --after 2",
+                "orvik-bench add ward.orvik 410 --to 1"},
+               Tr("Without --to, --before and --after they are added at the end of the document.")));
+  return command;
+}
+
+ElementPlace AddCommand::PlaceIn(const Document& document) const {
+  if (before_) return ElementPlace::Before(*ElementFor(document, "--before", *before_));
+  if (after_) return ElementPlace::After(*ElementFor(document, "--after", *after_));
+  if (!to_) return ElementPlace::AtEndOf(nullptr);
+  const auto sequence = ElementFor(document, "--to", *to_);
+  if (!orvik::As<orvik::ITestContainer>(sequence))
+    throw InputError(Tr("--to %%1: the element is not a sequence; give one, or --after %%1 to add behind it",
+                        {std::to_string(*to_)}));
+  return ElementPlace::AtEndOf(sequence);
+}
+
+ExitStatus AddCommand::Run(const GlobalOptions& options) {
+  Workbench workbench(options);
+  const auto document = Document::Open(workbench.Host(), file_);
+  const Consequences consequences(*document, *workbench.Host());
+  auto place = PlaceIn(*document);
+  std::string list;
+  for (const auto testId : tests_) {
+    if (!workbench.PlugIn().CreateTest(testId))
+      throw InputError(
+          Tr("TESTID %%1: the catalogue has no such test; \"orvik-bench tests\" prints those it has",
+             {std::to_string(testId)}));
+    const auto added = document->AddTest(testId, place);
+    if (place.after != 0) place = ElementPlace::After(*added);
+    list += ListOf(added, *workbench.Host()->Elements());
+  }
+  document->Save();
+  std::cout << list << consequences.Text();
+  return ExitStatus::kPassed;
+}
+
+}  // namespace bench

@@ -1,0 +1,36 @@
+#include "host/cli/commands/ArchiveCommandExport.h"
+
+#include <CLI/CLI.hpp>
+#include <iostream>
+#include <limits>
+
+#include "host/base/Tr.h"
+#include "host/bench/ArchiveCommandEntry.h"
+#include "host/bench/ArchiveCommandOpen.h"
+#include "host/cli/options/NumberOption.h"
+#include "host/document/DocumentFile.h"
+
+namespace bench {
+
+CLI::App* ArchiveCommandExport::Declare(CLI::App& archive) {
+  auto* command = archive.add_subcommand("export", Tr("Write a document of the archive as the file it was"));
+  WholeNumbers(command->add_option("ID", id_, Tr("Its number, as \"archive list\" shows it")),
+               std::numeric_limits<std::int64_t>::max())
+      ->required();
+  command->add_option("--to", to_, Tr("The file to write, which must not exist yet"))
+      ->required()
+      ->type_name("FILE");
+  return command;
+}
+
+ExitStatus ArchiveCommandExport::Run(const GlobalOptions& options) {
+  auto file = DocumentFile::New(to_);
+  auto archive = OpenArchiveToAsk(location_, options);
+  const auto document = Fetched(archive, id_);
+  file.Write(document.contents);
+  const auto mark = SimulatedMark(document.entry);
+  std::cout << to_ << (mark.empty() ? "" : " ") << mark << "\n";
+  return ExitStatus::kPassed;
+}
+
+}  // namespace bench

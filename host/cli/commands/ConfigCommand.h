@@ -1,0 +1,28 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "host/cli/commands/Command.h"
+
+namespace bench {
+
+/// `config`: shows and changes the settings of an element.
+class ConfigCommand final : public Command {
+ public:
+  CLI::App* Declare(CLI::App& program) override;
+  ExitStatus Run(const GlobalOptions& options) override;
+
+ private:
+  bool Given(const char* option) const { return command_->count(option) > 0; }
+  bool ChangesOptions() const;
+  std::int32_t Changed(std::int32_t settings, std::int32_t testId) const;
+
+  std::string file_;
+  std::int32_t element_ = 0;
+  std::int32_t settings_ = 0;
+  std::string leads_, filter_;
+  CLI::App* command_ = nullptr;
+};
+
+}  // namespace bench

@@ -1,0 +1,75 @@
+#include "host/cli/commands/EditCommand.h"
+
+#include <CLI/CLI.hpp>
+#include <iostream>
+
+#include "host/base/TextColumns.h"
+#include "host/base/Tr.h"
+#include "host/base/VisibleText.h"
+#include "host/bench/Consequences.h"
+#include "host/cli/help/Examples.h"
+#include "host/cli/options/EquipmentOptions.h"
+
+namespace bench {
+
+namespace {
+
+std::string FieldsOf(const Document& document) {
+  const auto& equipment = document.equipment;
+  const auto shown = [](const std::string& value) {
+    return value.empty() ? std::string("-") : report::VisibleText(value);
+  };
+  return Columned({{Tr("Asset number"), shown(equipment.asset)},
+                   {Tr("Serial number"), shown(equipment.serial)},
+                   {Tr("Maker"), shown(equipment.maker)},
+                   {Tr("Model"), shown(equipment.model)},
+                   {Tr("Comment"), shown(document.comment)}});
+}
+
+}  // namespace
+
+CLI::App* EditCommand::Declare(CLI::App& program) {
+  auto* command =
+      program.add_subcommand("edit", Tr("Show or change what a document says of the equipment under test"));
+  command->add_option("FILE", file_, Tr("The document"))->required();
+  AddEquipmentOptions(*command, equipment_);
+  command->add_option("--comment", comment_, Tr("A remark about the document; it changes no result"))
+      ->type_name("TEXT");
+  command->footer(Examples(
+      {"orvik-bench edit pump-7.orvik", "orvik-bench edit pump-7.orvik --asset PUMP-7 --serial 2209-117",
+       "orvik-bench edit pump-7.orvik --comment \"after repair of the mains inlet\"",
+       "orvik-bench edit pump-7.orvik --comment \"\""},
+      Tr("A result counts for the equipment that it was measured on: with another asset number, "
+         "serial number, maker or model it no longer does. To test the next device, use \"new "
+         "--from\".")));
+  command_ = command;
+  return command;
+}
+
+void EditCommand::Change(Document& document) const {
+  if (Given("--asset")) document.equipment.asset = equipment_.asset;
+  if (Given("--serial")) document.equipment.serial = equipment_.serial;
+  if (Given("--maker")) document.equipment.maker = equipment_.maker;
+  if (Given("--model")) document.equipment.model = equipment_.model;
+  if (Given("--comment")) document.comment = comment_;
+}
+
+ExitStatus EditCommand::Run(const GlobalOptions& options) {
+  Workbench workbench(options);
+  bool changes = false;
+  for (const auto* option : {"--asset", "--serial", "--maker", "--model", "--comment"})
+    changes = changes || Given(option);
+  const auto document =
+      Document::Open(workbench.Host(), file_, changes ? DocumentFile::Use::kWrite : DocumentFile::Use::kRead);
+  if (!changes) {
+    std::cout << FieldsOf(*document);
+    return ExitStatus::kPassed;
+  }
+  const Consequences consequences(*document, *workbench.Host());
+  Change(*document);
+  document->Save();
+  std::cout << FieldsOf(*document) << consequences.Text();
+  return ExitStatus::kPassed;
+}
+
+}  // namespace bench

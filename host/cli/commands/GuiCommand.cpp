@@ -1,0 +1,39 @@
+#include "host/cli/commands/GuiCommand.h"
+
+#include <CLI/CLI.hpp>
+
+#include "host/base/Tr.h"
+#include "host/bench/ProgramFiles.h"
+#include "host/cli/options/TesterOptions.h"
+
+namespace bench {
+
+CLI::App* GuiCommand::Declare(CLI::App& program) {
+  auto* command =
+      program.add_subcommand("gui", Tr("Open the window: plan, run and report tests on the screen"));
+  command->add_option("FILE", options_.file, Tr("The document to open"));
+  DeclareTimeScale(*command, options_.timeScale);
+  command->footer(
+      Tr("Examples:\n"
+         "  orvik-bench gui\n"
+         "  orvik-bench gui pump-7.orvik\n"
+         "  orvik-bench gui pump-7.orvik --time-scale 20\n"
+         "\n"
+         "The person before the screen operates the guide. Closing the window during a run stops it first: "
+         "the session\n"
+         "with the tester is closed and the document saved. Ctrl-C in the terminal does so without a "
+         "question. Exit\n"
+         "status 0: the window was closed, 2: a run was stopped or changes were left unsaved by a signal, or "
+         "there is no\n"
+         "screen, 3: the document cannot be read."));
+  return command;
+}
+
+ExitStatus GuiCommand::Run(const GlobalOptions& options) {
+  options_.state = options.state;
+  options_.catalogue = options.catalogue;
+  options_.language = options.language;
+  return RunDesktopModule(options_, files::DesktopModule()) ? ExitStatus::kPassed : ExitStatus::kIncomplete;
+}
+
+}  // namespace bench

@@ -1,0 +1,197 @@
+#include "host/cli/commands/LimitCommand.h"
+
+#include <CLI/CLI.hpp>
+#include <iostream>
+
+#include "OrvikTypeLib/As.h"
+#include "OrvikTypeLib/HostError.h"
+#include "OrvikTypeLib/ILimit.h"
+#include "OrvikTypeLib/ILimitData.h"
+#include "OrvikTypeLib/ITestContainer.h"
+#include "host/base/Tr.h"
+#include "host/bench/Consequences.h"
+#include "host/bench/DocumentElements.h"
+#include "host/bench/InputError.h"
+#include "host/bench/LimitText.h"
+#include "host/bench/ProgramFiles.h"
+#include "host/bench/RecordOnlyMark.h"
+#include "host/bench/SetOfLimits.h"
+#include "host/cli/help/Examples.h"
+#include "host/cli/options/NumberOption.h"
+#include "host/document/Document.h"
+#include "host/elements/ElementFactory.h"
+#include "host/report/DocumentView.h"
+#include "host/standards/LimitSets.h"
+
+namespace bench {
+
+namespace {
+
+constexpr char kElement[] = "--element";
+constexpr char kFrom[] = "--from";
+constexpr char kAlso[] = "--also";
+constexpr char kStandard[] = "--standard";
+constexpr char kDescription[] = "--description";
+constexpr char kLow[] = "--low";
+constexpr char kHigh[] = "--high";
+constexpr char kUnit[] = "--unit";
+constexpr char kRecordOnly[] = "--record-only";
+constexpr char kRemove[] = "--remove";
+
+std::shared_ptr<orvik::ILimitData> LimitsFor(orvik::ITestElement& element) {
+  auto limits = element.Limits();
+  if (!limits) throw InputError(Tr("--element %%1: it takes no limits", {std::to_string(element.ID())}));
+  return limits;
+}
+
+}  // namespace
+
+CLI::App* LimitCommand::Declare(CLI::App& program) {
+  auto* command = program.add_subcommand(
+      "limit", Tr("Give elements of a document limits of a standard, or mark them as not judged"));
+  command->add_option("FILE", file_, Tr("The document"))->required();
+  WholeNumbers(command->add_option(kElement, elements_, Tr("Identifiers of the elements")))->type_name("ID");
+  command
+      ->add_option(kFrom, set_,
+                   Tr("Take the limits of all elements from this set; \"standards\" lists "
+                      "the sets. With --element, of those elements and all below them. Limits of an earlier "
+                      "set of the same standard are replaced"))
+      ->type_name("SET");
+  command->add_flag(kAlso, also_, Tr("Keep the limits of earlier sets: a reading must hold them all"));
+  command->add_option(kStandard, entered_.standard, Tr("Name of the standard, such as \"IEC 62353\""))
+      ->type_name("NAME");
+  command->add_option(kDescription, entered_.description,
+                      Tr("Which of the standards of that name, such as \"class I, BF\""));
+  command->add_option(kLow, entered_.low, Tr("Lower bound, inclusive; a number"))->type_name("LOW");
+  command->add_option(kHigh, entered_.high, Tr("Upper bound, inclusive; a number"))->type_name("HIGH");
+  command->add_option(kUnit, entered_.unit,
+                      Tr("Unit of the bounds; otherwise the unit that the element is recorded in"));
+  command->add_flag(kRecordOnly, recordOnly_,
+                    Tr("Mark the elements: their readings are recorded and not judged. A limit that is set "
+                       "later takes the mark away"));
+  command->add_flag(kRemove, remove_,
+                    Tr("Remove the elements' limits of --standard; without it all limits, and the mark"));
+  command->footer(Examples(
+      {"orvik-bench limit pump-7.orvik --from iec-62353-class-1-bf",
+       "orvik-bench limit pump-7.orvik --element 2 --standard \"IEC 62353\" --high 300 --unit mOhm",
+       "orvik-bench limit pump-7.orvik --element 3 4 --standard \"House rule\" --low 50 --unit MOhm",
+       "orvik-bench limit pump-7.orvik --element 1 --record-only",
+       "orvik-bench limit pump-7.orvik --element 2 --remove --standard \"IEC 62353\""},
+      Tr("A reading that no limit judged does not count as passed. Where a reading is only to be recorded, "
+         "such as that of the mains voltage, say so with --record-only.")));
+  command_ = command;
+  return command;
+}
+
+ExitStatus LimitCommand::Run(const GlobalOptions& options) {
+  Check();
+  Workbench workbench(options);
+  const auto document = Document::Open(workbench.Host(), file_);
+  const Consequences consequences(*document, *workbench.Host());
+  const auto told = Change(workbench, *document, options);
+  document->Save();
+  std::cout << told << consequences.Text();
+  return ExitStatus::kPassed;
+}
+
+void LimitCommand::RefuseTogether(const std::string& option, const std::vector<std::string>& others) const {
+  for (const auto& other : others) {
+    if (Given(option) && Given(other)) throw InputError(Tr("%%1 excludes %%2", {option, other}));
+  }
+}
+
+void LimitCommand::Check() const {
+  RefuseTogether(kFrom, {kStandard, kDescription, kLow, kHigh, kUnit, kRecordOnly, kRemove});
+  RefuseTogether(kRecordOnly, {kStandard, kDescription, kLow, kHigh, kUnit, kRemove});
+  RefuseTogether(kRemove, {kLow, kHigh, kUnit});
+  if (Given(kAlso) && !Given(kFrom)) throw InputError(Tr("--also: give the set with --from"));
+  if (Given(kFrom)) return;
+  if (!Given(kElement))
+    throw InputError(Tr("name the element with --element, or a set of limits for all with --from"));
+  if (recordOnly_ || (remove_ && !Given(kStandard) && !Given(kDescription))) return;
+  if (entered_.standard.empty()) throw InputError(Tr("--standard: give the name of the standard"));
+  if (!remove_ && entered_.low.empty() && entered_.high.empty())
+    throw InputError(Tr("neither --low nor --high was given; give at least one bound"));
+}
+
+std::string LimitCommand::Change(Workbench& workbench, Document& document,
+                                 const GlobalOptions& options) const {
+  const auto& factory = *workbench.Host()->Elements();
+  if (Given(kFrom)) return ApplySet(document, factory, options);
+  const auto elements = ElementsFor(document, kElement, elements_);
+  if (remove_) return RemoveLimits(elements, factory);
+  if (!recordOnly_) return SetLimits(elements, factory);
+  std::string told;
+  for (const auto& element : elements) {
+    MarkRecordOnly(element, factory, true);
+    told += Tr("%%1: %%2", {NameWithNumber(*element, factory), Tr("recorded, not judged")}) + "\n";
+  }
+  return told;
+}
+
+std::string LimitCommand::SetLimits(const Elements& elements, const ElementFactory& factory) const {
+  std::string told;
+  for (const auto& element : elements) {
+    const auto limits = LimitsFor(*element);
+    try {
+      const auto limit = SetLimit(*limits, entered_);
+      told += Tr("%%1: %%2", {NameWithNumber(*element, factory),
+                              TextOf({entered_.standard, entered_.description, limit->LowText(),
+                                      limit->HighText(), limit->Unit()})});
+    } catch (const orvik::HostError& error) {
+      throw InputError(Tr("--element %%1, --low, --high, --unit: %%2",
+                          {std::to_string(element->ID()), error.Description()}));
+    }
+    if (IsRecordOnly(element, factory)) {
+      MarkRecordOnly(element, factory, false);
+      told += Tr("; no longer record-only");
+    }
+    told += "\n";
+  }
+  return told;
+}
+
+std::string LimitCommand::RemoveLimits(const Elements& elements, const ElementFactory& factory) const {
+  const bool all = !Given(kStandard);
+  const auto fits = [&](const orvik::IStandard& standard) {
+    return all || (standard.Name() == entered_.standard &&
+                   (!Given(kDescription) || standard.Description() == entered_.description));
+  };
+  std::string told;
+  for (const auto& element : elements) {
+    const auto name = NameWithNumber(*element, factory);
+    const auto limits = element->Limits();
+    const auto removed = limits ? RemoveStandards(*limits, fits) : std::vector<LimitOfElement>();
+    const bool marked = IsRecordOnly(element, factory);
+    if (removed.empty() && !all)
+      throw InputError(Tr("--standard \"%%1\": %%2 has no such limit",
+                          {StandardText(entered_.standard, entered_.description), name}));
+    if (removed.empty() && !marked)
+      throw InputError(Tr("--remove: %%1 has no limits and is not record-only", {name}));
+    if (all && marked) MarkRecordOnly(element, factory, false);
+    for (const auto& limit : removed) told += Tr("%%1: removed: %%2", {name, TextOf(limit)}) + "\n";
+    if (all && marked) told += Tr("%%1: no longer record-only", {name}) + "\n";
+    const bool sequence = orvik::As<orvik::ITestContainer>(element) != nullptr;
+    if (!sequence && limits && LimitsOf(*limits).empty())
+      told += Tr("%%1: %%2", {name, NeedsALimit()}) + "\n";
+  }
+  return told;
+}
+
+std::string LimitCommand::ApplySet(const Document& document, const ElementFactory& factory,
+                                   const GlobalOptions& options) const {
+  const auto set = LimitSets(files::StandardsFolders(options.state)).Find(set_);
+  const auto elements = Given(kElement) ? ElementsFor(document, kElement, elements_) : TopElements(document);
+  const auto applied =
+      ApplyLimitSet(set, elements, factory, also_ ? EarlierSets::kKept : EarlierSets::kReplaced);
+  if (applied.applied.empty())
+    throw InputError(Tr("--from %%1: the set covers none of these elements of %%2", {set_, file_}));
+  std::string told = StandardText(set.standard, set.Description()) + ":\n";
+  for (const auto& line : applied.applied) told += "  " + line + "\n";
+  if (applied.uncovered.empty()) return told;
+  told += Tr("Not covered by this set:") + "\n";
+  for (const auto& line : applied.uncovered) told += "  " + line + "\n";
+  return told;
+}
+
+}  // namespace bench

@@ -1,0 +1,63 @@
+#include "host/cli/commands/MoveCommand.h"
+
+#include <CLI/CLI.hpp>
+#include <iostream>
+
+#include "host/base/Tr.h"
+#include "host/bench/Consequences.h"
+#include "host/bench/DocumentElements.h"
+#include "host/bench/InputError.h"
+#include "host/cli/help/Examples.h"
+#include "host/cli/options/NumberOption.h"
+#include "host/document/Document.h"
+#include "host/report/DocumentView.h"
+
+namespace bench {
+
+CLI::App* MoveCommand::Declare(CLI::App& program) {
+  auto* command = program.add_subcommand("move", Tr("Change the order in which a document is tested"));
+  command->add_option("FILE", file_, Tr("The document"))->required();
+  WholeNumbers(command->add_option("--element", element_,
+                                   Tr("Identifier of the element to move; a sequence takes its tests along")))
+      ->required()
+      ->type_name("ID");
+  auto* before = command->add_option("--before", before_, Tr("Test it before this element"));
+  auto* after = command->add_option("--after", after_, Tr("Test it after this element"));
+  for (auto* option : {before, after}) WholeNumbers(option)->type_name("ID");
+  auto* end = command->add_flag("--to-end", toEnd_, Tr("Test it last of the document"));
+  before->excludes(after)->excludes(end);
+  after->excludes(end);
+  command->footer(Examples(
+      {"orvik-bench move pump-7.orvik --element 3 --before 1",
+       "orvik-bench move pump-7.orvik --element 2 --to-end"},
+      Tr("Beside an element that is in a sequence, the moved one becomes part of the sequence. Identifiers "
+         "stay.")));
+  return command;
+}
+
+ElementPlace MoveCommand::PlaceIn(const Document& document) const {
+  const auto besideItself = [&](const std::string& option, std::int32_t id) {
+    if (id == element_)
+      throw InputError(
+          Tr("%%1 %%2: give another element than the one to move", {option, std::to_string(id)}));
+    return ElementFor(document, option, id);
+  };
+  if (before_) return ElementPlace::Before(*besideItself("--before", *before_));
+  if (after_) return ElementPlace::After(*besideItself("--after", *after_));
+  if (!toEnd_) throw InputError(Tr("give the place with --before, --after or --to-end"));
+  return ElementPlace::AtEndOf(nullptr);
+}
+
+ExitStatus MoveCommand::Run(const GlobalOptions& options) {
+  Workbench workbench(options);
+  const auto document = Document::Open(workbench.Host(), file_);
+  const auto element = ElementFor(*document, "--element", element_);
+  const Consequences consequences(*document, *workbench.Host());
+  document->Move(element, PlaceIn(*document));
+  document->Save();
+  for (const auto& top : TopElements(*document)) std::cout << ListOf(top, *workbench.Host()->Elements());
+  std::cout << consequences.Text();
+  return ExitStatus::kPassed;
+}
+
+}  // namespace bench

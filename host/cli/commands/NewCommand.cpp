@@ -1,0 +1,62 @@
+#include "host/cli/commands/NewCommand.h"
+
+#include <CLI/CLI.hpp>
+#include <iostream>
+
+#include "host/base/Tr.h"
+#include "host/bench/DocumentElements.h"
+#include "host/bench/InputError.h"
+#include "host/cli/help/Examples.h"
+#include "host/cli/options/EquipmentOptions.h"
+#include "host/cli/options/NumberOption.h"
+#include "host/report/DocumentView.h"
+
+namespace bench {
+
+CLI::App* NewCommand::Declare(CLI::App& program) {
+  auto* command =
+      program.add_subcommand("new", Tr("Make a test document and print the identifiers of its elements"));
+  command->add_option("FILE", file_, Tr("The document to make, such as pump-7.orvik"))->required();
+  WholeNumbers(command->add_option("--add", tests_, Tr("Tests of the catalogue, in the order of testing")))
+      ->type_name("TESTID");
+  command
+      ->add_option("--from", from_,
+                   Tr("Take tests, settings, limits and marks of this document, without its results"))
+      ->type_name("DOCUMENT");
+  AddEquipmentOptions(*command, equipment_);
+  command->footer(Examples(
+      {"orvik-bench new pump-7.orvik --add 210 410 1010 --asset PUMP-7 --serial 2209-117",
+       "orvik-bench new pump-8.orvik --from pump-7.orvik --asset PUMP-8 --serial 2209-118",
+       "orvik-bench new ward.orvik --add 400"},
+      Tr("A sequence, such as 400, is added with its tests. \"orvik-bench tests\" prints what can be added. "
+         "With --from, the equipment's fields are not taken over: give those of the new device.")));
+  return command;
+}
+
+void NewCommand::AddTests(Workbench& workbench, Document& document) const {
+  for (const auto testId : tests_) {
+    if (!workbench.PlugIn().CreateTest(testId))
+      throw InputError(
+          Tr("--add %%1: the catalogue has no such test; \"orvik-bench tests\" prints those it has",
+             {std::to_string(testId)}));
+    document.AddTest(testId);
+  }
+}
+
+ExitStatus NewCommand::Run(const GlobalOptions& options) {
+  if (tests_.empty() && from_.empty())
+    throw InputError(Tr("give the tests with --add, or a document to take them from with --from"));
+  Workbench workbench(options);
+  const auto document = Document::Create(workbench.Host(), file_);
+  document->equipment = equipment_;
+  if (!from_.empty()) {
+    const auto other = Document::Open(workbench.Host(), from_, DocumentFile::Use::kRead);
+    document->AddPlanOf(*other);
+  }
+  AddTests(workbench, *document);
+  document->Save();
+  for (const auto& top : TopElements(*document)) std::cout << ListOf(top, *workbench.Host()->Elements());
+  return ExitStatus::kPassed;
+}
+
+}  // namespace bench

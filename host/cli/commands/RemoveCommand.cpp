@@ -1,0 +1,42 @@
+#include "host/cli/commands/RemoveCommand.h"
+
+#include <CLI/CLI.hpp>
+#include <iostream>
+
+#include "host/base/Tr.h"
+#include "host/bench/Consequences.h"
+#include "host/bench/DocumentElements.h"
+#include "host/cli/help/Examples.h"
+#include "host/cli/options/NumberOption.h"
+#include "host/document/Document.h"
+
+namespace bench {
+
+CLI::App* RemoveCommand::Declare(CLI::App& program) {
+  auto* command = program.add_subcommand("remove", Tr("Remove elements from a document"));
+  command->add_option("FILE", file_, Tr("The document"))->required();
+  WholeNumbers(command->add_option("--element", elements_,
+                                   Tr("Identifiers of the elements; a sequence is removed with its tests")))
+      ->required()
+      ->type_name("ID");
+  command->footer(Examples(
+      {"orvik-bench remove pump-7.orvik --element 3", "orvik-bench remove pump-7.orvik --element 3 5"}));
+  return command;
+}
+
+ExitStatus RemoveCommand::Run(const GlobalOptions& options) {
+  Workbench workbench(options);
+  const auto document = Document::Open(workbench.Host(), file_);
+  const Consequences consequences(*document, *workbench.Host());
+  std::string list;
+  for (const auto& element : ElementsFor(*document, "--element", elements_)) {
+    if (document->Find(element->ID()) != element) continue;  // it went with a sequence that was removed
+    document->Remove(element);
+    list += Tr("removed: %%1", {NameWithNumber(*element, *workbench.Host()->Elements())}) + "\n";
+  }
+  document->Save();
+  std::cout << list << consequences.Text();
+  return ExitStatus::kPassed;
+}
+
+}  // namespace bench

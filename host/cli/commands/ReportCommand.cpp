@@ -1,0 +1,90 @@
+#include "host/cli/commands/ReportCommand.h"
+
+#include <CLI/CLI.hpp>
+#include <filesystem>
+#include <iostream>
+
+#include "host/base/Files.h"
+#include "host/base/Tr.h"
+#include "host/bench/RunSelection.h"
+#include "host/cli/help/Examples.h"
+#include "host/cli/options/NumberOption.h"
+#include "host/cli/output/RunText.h"
+#include "host/document/Document.h"
+#include "host/report/DocumentReport.h"
+#include "host/report/DocumentView.h"
+#include "host/report/RunReport.h"
+
+namespace bench {
+
+namespace {
+
+constexpr char kStandardOutput[] = "-";
+
+}  // namespace
+
+CLI::App* ReportCommand::Declare(CLI::App& program) {
+  auto* command =
+      program.add_subcommand("report", Tr("Write a document as a report: HTML, PDF or plain text"));
+  command->add_option("FILE", file_, Tr("The document"))->required();
+  command
+      ->add_option(
+          "--to", to_,
+          Tr("The report to write; its ending, .html, .pdf or .txt, sets the format. - is the standard "
+             "output"))
+      ->required()
+      ->type_name("OUT");
+  command
+      ->add_option(
+          "--format", format_,
+          Tr("Format of the report, with any ending of its name; otherwise plain text on the standard "
+             "output"))
+      ->type_name("html|pdf|txt");
+  auto* run = WholeNumbers(command->add_option(
+      "--run", run_,
+      Tr("Report this run as it was done, regardless of what counts now; \"show --runs\" lists them")));
+  run->type_name("N");
+  command
+      ->add_option("--standard", standards_,
+                   Tr("Judge by this standard alone; may be given again. What is left out is named"))
+      ->allow_extra_args(false)
+      ->type_name("NAME")
+      ->excludes(run);
+  command->footer(Examples({"orvik-bench report pump-7.orvik --to pump-7.html",
+                            "orvik-bench report pump-7.orvik --to pump-7.pdf",
+                            "orvik-bench report pump-7.orvik --to first-run.pdf --run 1",
+                            "orvik-bench report pump-7.orvik --to - --format html > pump-7.html"}));
+  command_ = command;
+  return command;
+}
+
+ReportFormat ReportCommand::Format() const {
+  if (command_->count("--format") > 0) return ReportFormatNamed(format_);
+  return to_ == kStandardOutput ? ReportFormat::kText : ReportFormatOf(to_);
+}
+
+report::Report ReportCommand::Report(const Document& document, Host& host,
+                                     const std::string& language) const {
+  if (run_) return RunReportOf(document, host, FoundRun(document.Runs().All(), *run_), language);
+  if (!standards_.empty()) RequireStandards(ViewOf(document, host, standards_).judged, standards_, file_);
+  return ReportOf(document, host, language, standards_);
+}
+
+ExitStatus ReportCommand::Run(const GlobalOptions& options) {
+  const std::filesystem::path out(to_);
+  const bool toOutput = to_ == kStandardOutput;
+  const auto format = Format();
+  if (!toOutput) RefuseDocumentAsReport(file_, out);
+  Workbench workbench(options, Workbench::Settings::kIfReadable);
+  const auto document = Document::Open(workbench.Host(), file_, DocumentFile::Use::kRead);
+  const auto report = ReportText(Report(*document, *workbench.Host(), options.language), format);
+  if (toOutput) {
+    std::cout << report;
+    return ExitStatus::kPassed;
+  }
+  ReplaceFile(out, report);
+  std::cout << out.string() << "\n";
+  return ExitStatus::kPassed;
+}
+
+}  // namespace bench

@@ -1,0 +1,168 @@
+#include "host/cli/commands/RunCommand.h"
+
+#include <unistd.h>
+
+#include <CLI/CLI.hpp>
+#include <iostream>
+#include <nlohmann/json.hpp>
+#include <optional>
+
+#include "OrvikTypeLib/HostError.h"
+#include "host/base/Tr.h"
+#include "host/bench/InputError.h"
+#include "host/bench/RunSelection.h"
+#include "host/bench/RunSession.h"
+#include "host/bench/UnsavedChanges.h"
+#include "host/cli/options/NumberOption.h"
+#include "host/cli/output/AskOperator.h"
+#include "host/cli/output/Colour.h"
+#include "host/cli/output/DocumentJson.h"
+#include "host/cli/output/DocumentLines.h"
+#include "host/cli/output/EventLines.h"
+#include "host/cli/output/ProgressLines.h"
+#include "host/document/Document.h"
+#include "host/report/DocumentView.h"
+#include "host/run/AutoOperator.h"
+#include "host/run/StopSignals.h"
+
+namespace bench {
+
+namespace {
+
+ExitStatus StatusOf(DocumentRunner::End end, judge::Outcome outcome) {
+  if (outcome == judge::Outcome::kFailed) return ExitStatus::kFailed;
+  if (end != DocumentRunner::End::kFinished || outcome == judge::Outcome::kIncomplete)
+    return ExitStatus::kIncomplete;
+  return ExitStatus::kPassed;
+}
+
+}  // namespace
+
+CLI::App* RunCommand::Declare(CLI::App& program) {
+  auto* command = program.add_subcommand("run", Tr("Run the tests of a document on the tester"));
+  command->add_option("FILE", options_.file, Tr("The document"))->required();
+  options_.tester.Declare(*command);
+  WholeNumbers(
+      command->add_option("--element", options_.elements, Tr("Run this element; may be given again")))
+      ->allow_extra_args(false)
+      ->type_name("ID");
+  command->add_option("--standard", options_.standards, Tr("Judge by this standard; may be given again"))
+      ->allow_extra_args(false)
+      ->type_name("NAME");
+  command->add_flag("--resume", options_.resume, Tr("Go on with what has no result yet"));
+  command->add_option("--operator", options_.operatorKind, Tr("Who presses the guide's buttons: auto or ask"))
+      ->type_name("auto|ask");
+  command
+      ->add_option("--by", options_.by,
+                   Tr("Name of the operator, for the report; otherwise that of the account"))
+      ->type_name("NAME");
+  const auto* json = command->add_flag("--json", options_.json, Tr("Print one JSON object at the end"));
+  command->add_flag("--events", options_.events, Tr("Print one JSON object a line as things happen"))
+      ->excludes(const_cast<CLI::Option*>(json));
+  command->add_option("--wire-log", options_.wireLog, Tr("Log of the wire; otherwise FILE.wire.log"))
+      ->type_name("LOG");
+  command->footer(
+      Tr("Examples:\n"
+         "  orvik-bench run pump-7.orvik --port /dev/ttyUSB0\n"
+         "  orvik-bench run pump-7.orvik --port /dev/ttyUSB0 --operator ask\n"
+         "  orvik-bench run pump-7.orvik --simulate broken-earth --time-scale 20\n"
+         "  orvik-bench run pump-7.orvik --port /dev/ttyUSB0 --resume\n"
+         "\n"
+         "The document is saved after each element. Ctrl-C stops: the session with the tester is closed, the "
+         "document\n"
+         "saved, and --resume goes on later. Exit status 0: all passed, recorded or not applicable, 1: "
+         "something failed its\n"
+         "limits, 2: something was not completed, is doubtful or not judged."));
+  return command;
+}
+
+void RunCommand::Check() const {
+  options_.tester.Check();
+  if (options_.operatorKind != "auto" && options_.operatorKind != "ask")
+    throw InputError(Tr("--operator %%1: give \"auto\" or \"ask\"", {options_.operatorKind}));
+}
+
+ExitStatus RunCommand::Run(const GlobalOptions& options) {
+  Check();
+  Workbench workbench(options, options_.tester.TimeScale());
+  const auto document = Document::Open(workbench.Host(), options_.file);
+  const auto reporter = Reporter(workbench);
+  return Perform(workbench, *document, *reporter);
+}
+
+std::unique_ptr<RunReporter> RunCommand::Reporter(Workbench& workbench) const {
+  if (options_.events) return std::make_unique<EventLines>(std::cout, *workbench.Application());
+  // With --json the standard output belongs to the object alone.
+  const bool onError = options_.json;
+  return std::make_unique<ProgressLines>(onError ? std::cerr : std::cout,
+                                         onError ? STDERR_FILENO : STDOUT_FILENO, workbench.Application(),
+                                         options_.tester.TimeScale());
+}
+
+ExitStatus RunCommand::Perform(Workbench& workbench, Document& document, RunReporter& reporter) {
+  const auto selected = SelectedElements(document, options_);
+  SelectStandards(document, *workbench.Host(), options_);
+  const auto elements =
+      options_.resume ? Unfinished(selected, document, ViewOf(document, *workbench.Host()).judged) : selected;
+  WireLog log(options_.wireLog.empty() ? options_.file + ".wire.log" : options_.wireLog);
+  const auto& tester = options_.tester.Connect(workbench.Ports());
+  if (const auto remark = options_.tester.TimeRemark(); !remark.empty()) reporter.Remark(remark);
+  if (elements.empty()) reporter.Remark(Tr("Every element has a result; there is nothing to go on with."));
+
+  auto end = DocumentRunner::End::kFinished;
+  {
+    const auto& application = workbench.Application();
+    RunSession session(workbench, document, log, reporter, tester, OperatorName(options_.by));
+    session.JudgeBy(options_.standards);
+    std::unique_ptr<IOperator> runOperator;
+    if (options_.operatorKind == "ask")
+      runOperator = std::make_unique<AskOperator>(application, session.Stop(), reporter,
+                                                  [&session] { return session.ReachedTest(); });
+    else
+      runOperator = std::make_unique<AutoOperator>(
+          application, session.Stop(), [&reporter](const std::string& text) { reporter.Prompted(text); });
+    const StopSignals signals(*application, [&session](int) { session.AskToStop(); });
+    end = session.Run(elements, std::move(runOperator));
+    reporter.Over();
+    Tell(end, session.Reason(), reporter);
+  }
+  if (end == DocumentRunner::End::kNotSaved) KeepResults(document, reporter);
+  if (!log.Failure().empty())
+    reporter.Remark(Tr("The wire log %%1 could not be written: %%2", {log.Path(), log.Failure()}));
+
+  const auto view = ViewOf(document, *workbench.Host(), options_.standards);
+  const auto status = StatusOf(end, JudgedPart(view.judged, selected).outcome);
+  reporter.Ended(view.judged.outcome, static_cast<int>(status));
+  if (!options_.events)
+    std::cout << (options_.json ? Indented(JsonOf(view)) + "\n" : TextOf(view, ColoursWanted(STDOUT_FILENO)))
+              << std::flush;
+  return status;
+}
+
+void RunCommand::Tell(DocumentRunner::End end, const std::string& reason, RunReporter& reporter) const {
+  switch (end) {
+    case DocumentRunner::End::kFinished:
+      return;
+    case DocumentRunner::End::kStopped:
+      return reporter.Remark(
+          Tr("Stopped. The document is saved; \"run --resume\" goes on with what has no result yet."));
+    case DocumentRunner::End::kAborted:
+      return reporter.Remark(Tr("Ended by the operator. The document is saved."));
+    case DocumentRunner::End::kTesterLost:
+      return reporter.Remark(Tr("The run has ended: %%1.", {reason}));
+    case DocumentRunner::End::kNotSaved:
+      return reporter.Remark(Tr("The run has ended, since the document cannot be saved: %%1", {reason}));
+  }
+}
+
+void RunCommand::KeepResults(const Document& document, RunReporter& reporter) {
+  try {
+    reporter.Remark(Tr("The results are kept in %%1: it is the document as it would have been saved.",
+                       {KeepUnsaved(document).string()}));
+  } catch (const orvik::HostError& error) {
+    reporter.Remark(Tr("The results cannot be kept in another file either, and are shown here alone: %%1",
+                       {error.Description()}));
+  }
+}
+
+}  // namespace bench

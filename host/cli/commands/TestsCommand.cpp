@@ -1,0 +1,62 @@
+#include "host/cli/commands/TestsCommand.h"
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <iostream>
+#include <nlohmann/json.hpp>
+
+#include "host/base/TextColumns.h"
+#include "host/base/Tr.h"
+#include "host/bench/CatalogueEntries.h"
+#include "host/bench/InputError.h"
+#include "host/cli/output/DocumentJson.h"
+
+namespace bench {
+
+namespace {
+
+/// Levels beyond this one stand below each other: a catalogue may be nested to any depth.
+constexpr std::size_t kDeepestIndent = 20;
+
+nlohmann::ordered_json JsonOf(const std::vector<CatalogueEntry>& entries) {
+  auto tests = nlohmann::ordered_json::array();
+  for (const auto& entry : entries)
+    tests.push_back({{"testId", entry.testId},
+                     {"parent", entry.parent},
+                     {"kind", entry.sequence ? "sequence" : "test"},
+                     {"name", entry.name},
+                     {"unit", entry.unit}});
+  return {{"tests", std::move(tests)}};
+}
+
+}  // namespace
+
+CLI::App* TestsCommand::Declare(CLI::App& program) {
+  auto* command = program.add_subcommand("tests", Tr("Print the catalogue of tests"));
+  command->add_flag("--json", json_, Tr("Print one JSON object"));
+  command->footer(
+      Tr("Examples:\n"
+         "  orvik-bench tests\n"
+         "  orvik-bench tests --json"));
+  return command;
+}
+
+ExitStatus TestsCommand::Run(const GlobalOptions& options) {
+  Workbench workbench(options, Workbench::Settings::kIfReadable);
+  const auto entries = CatalogueEntries(workbench);
+  if (entries.empty())
+    throw InputError(Tr(
+        "the catalogue has no tests; see error.log in the state folder, or name another with --catalogue"));
+  if (json_) {
+    std::cout << Indented(JsonOf(entries)) << "\n";
+    return ExitStatus::kPassed;
+  }
+  for (const auto& entry : entries) {
+    const auto name = std::string(2 * std::min(entry.depth, kDeepestIndent), ' ') + entry.name;
+    std::cout << LeftPadded(std::to_string(entry.testId), 5) << "  "
+              << (entry.unit.empty() ? name : Padded(name, 60) + entry.unit) << "\n";
+  }
+  return ExitStatus::kPassed;
+}
+
+}  // namespace bench

@@ -1,0 +1,35 @@
+#include "host/cli/help/CompletionCommand.h"
+
+#include <CLI/CLI.hpp>
+#include <iostream>
+
+#include "host/base/Tr.h"
+#include "host/bench/InputError.h"
+#include "host/cli/help/Completion.h"
+
+namespace bench {
+
+CLI::App* CompletionCommand::Declare(CLI::App& program) {
+  program_ = &program;
+  auto* command =
+      program.add_subcommand("completion", Tr("Print a script that completes commands and options"));
+  command->add_option("SHELL", shell_, Tr("bash, zsh or fish"))->required()->type_name("bash|zsh|fish");
+  command->footer(
+      Tr("Example:\n"
+         "  orvik-bench completion bash > ~/.local/share/bash-completion/completions/orvik-bench"));
+  return command;
+}
+
+ExitStatus CompletionCommand::Run(const GlobalOptions&) {
+  if (shell_ == "bash")
+    std::cout << BashCompletion(*program_);
+  else if (shell_ == "zsh")
+    std::cout << ZshCompletion(*program_);
+  else if (shell_ == "fish")
+    std::cout << FishCompletion(*program_);
+  else
+    throw InputError(Tr("%%1 is no shell that is known here; give bash, zsh or fish", {shell_}));
+  return ExitStatus::kPassed;
+}
+
+}  // namespace bench

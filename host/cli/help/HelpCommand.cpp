@@ -1,0 +1,39 @@
+#include "host/cli/help/HelpCommand.h"
+
+#include <CLI/CLI.hpp>
+#include <iostream>
+
+#include "host/base/Tr.h"
+#include "host/bench/InputError.h"
+#include "host/cli/help/CommandLineView.h"
+#include "host/cli/help/Examples.h"
+#include "host/cli/help/Suggestions.h"
+
+namespace bench {
+
+CLI::App* HelpCommand::Declare(CLI::App& program) {
+  program_ = &program;
+  auto* command = program.add_subcommand("help", Tr("Explain a command, as COMMAND --help does"));
+  command->add_option("COMMAND", words_, Tr("The command; without one the program is explained"));
+  command->footer(Examples({"orvik-bench help run", "orvik-bench help archive add"}));
+  return command;
+}
+
+ExitStatus HelpCommand::Run(const GlobalOptions&) {
+  const auto* command = program_;
+  std::string above;
+  for (const auto& word : words_) {
+    const auto* below = CommandNamed(*command, word);
+    if (!below) throw InputError(UnknownCommand(word, CommandNamesOf(*command)));
+    above += (above.empty() ? "" : " ") + command->get_name();
+    command = below;
+  }
+  if (command == program_)  // its own help would show that of this command, which was parsed
+    std::cout << program_->get_formatter()->make_help(program_, program_->get_name(),
+                                                      CLI::AppFormatMode::Normal);
+  else
+    std::cout << command->help(above);
+  return ExitStatus::kPassed;
+}
+
+}  // namespace bench

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string>
+
+#include "host/bench/RunSelection.h"
+#include "host/cli/options/TesterOptions.h"
+
+namespace bench {
+
+/// What `run` was asked for.
+struct RunOptions : RunSelection {
+  TesterOptions tester;
+  std::string operatorKind = "auto";
+  std::string by;  ///< the operator's name; empty: that of the account
+  bool json = false;
+  bool events = false;
+  std::string wireLog;  ///< empty: FILE.wire.log
+};
+
+}  // namespace bench

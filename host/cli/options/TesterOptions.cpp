@@ -1,0 +1,48 @@
+#include "host/cli/options/TesterOptions.h"
+
+#include <CLI/CLI.hpp>
+
+#include "host/base/Tr.h"
+#include "host/bench/InputError.h"
+
+namespace bench {
+
+void DeclareTimeScale(CLI::App& command, double& timeScale) {
+  command
+      .add_option("--time-scale", timeScale,
+                  Tr("Divide every pause and time-out; for simulated testers only"))
+      ->type_name("X")
+      ->check([](const std::string& typed) {
+        RequireTimeScale(typed);
+        return std::string();
+      });
+}
+
+void TesterOptions::Declare(CLI::App& command) {
+  command.add_option("--port", choice_.port, Tr("Serial device of the tester, such as /dev/ttyUSB0"))
+      ->type_name("DEVICE");
+  simulate_ = command
+                  .add_option("--simulate", choice_.profile,
+                              Tr("Start a simulated tester, with a profile of the equipment under test (a "
+                                 "built-in one or a file)"))
+                  ->expected(0, 1)
+                  ->type_name("[PROFILE]");
+  DeclareTimeScale(command, choice_.timeScale);
+}
+
+void TesterOptions::Check() const {
+  const bool simulated = simulate_->count() > 0;
+  if (simulated == !choice_.port.empty())
+    throw InputError(
+        Tr("name the tester's serial device with --port, or have one simulated with --simulate; one of the "
+           "two"));
+}
+
+const TesterConnection& TesterOptions::Connect(PortManager& ports) {
+  choice_.simulated = simulate_->count() > 0;
+  choice_.field = choice_.simulated ? "--simulate" : "--port";
+  connection_ = std::make_unique<TesterConnection>(choice_, ports);
+  return *connection_;
+}
+
+}  // namespace bench

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "host/bench/TesterConnection.h"
+
+namespace CLI {
+class App;
+class Option;
+}  // namespace CLI
+
+namespace bench {
+
+/// Declares --time-scale. What it is given is checked as by `RequireTimeScale`.
+void DeclareTimeScale(CLI::App& command, double& timeScale);
+
+/// The options that say which tester to use: --port, --simulate, --time-scale.
+class TesterOptions {
+ public:
+  void Declare(CLI::App& command);
+
+  /// Checks that they fit together. `InputError` otherwise.
+  void Check() const;
+  double TimeScale() const { return choice_.timeScale; }
+
+  /// Makes the tester ready, as `TesterConnection` does.
+  const TesterConnection& Connect(PortManager& ports);
+  /// What to tell the person about the tester's time; empty when it is the wall's.
+  std::string TimeRemark() const { return TimeScaleRemark(choice_.timeScale); }
+
+ private:
+  TesterChoice choice_;
+  CLI::Option* simulate_ = nullptr;
+  std::unique_ptr<TesterConnection> connection_;
+};
+
+}  // namespace bench

@@ -1,0 +1,84 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "host/bench/Consequences.h"
+#include "host/bench/SetOfLimits.h"
+#include "host/bench/Workbench.h"
+#include "host/document/Document.h"
+#include "host/report/DocumentView.h"
+#include "host/report/Report.h"
+
+namespace bench::desktop {
+
+/// The document that is open and the operations on it: the procedures of the command line, with the same
+/// errors. Everything but `Create`, `Open` and `HasDocument` needs an open document.
+class DocumentSession {
+ public:
+  DocumentSession(Workbench& workbench, GlobalOptions options)
+      : workbench_(workbench), options_(std::move(options)) {}
+
+  Workbench& Bench() { return workbench_; }
+  const GlobalOptions& Options() const { return options_; }
+
+  bool HasDocument() const { return document_ != nullptr; }
+  Document& TheDocument() const { return *document_; }
+  /// A new document in the place of the present one; its file comes into being when it is saved.
+  void Create(const std::filesystem::path& file);
+  /// A new document for the next device: tests, settings, limits and marks of the present one, no results.
+  void CreateFromThis(const std::filesystem::path& file);
+  void Open(const std::filesystem::path& file);
+  void Save() { document_->Save(); }
+  /// Saves under another name, which must not exist yet, and goes on under that; the file so far stays.
+  void SaveAs(const std::filesystem::path& file);
+  /// Whether saving would write anything else than what was saved last.
+  bool Changed() const;
+  /// The file beside the document in which an earlier session may have left unsaved changes.
+  std::filesystem::path UnsavedFile() const;
+  /// Keeps unsaved changes in that file, or, while that holds those of an earlier session, in FILE.unsaved.2
+  /// and so on; the document is left as it is. Returns the path.
+  std::filesystem::path KeepUnsaved() const;
+
+  /// The equipment as questions name it: "PUMP-7 (Acme X2)", else its serial number, maker and model, else
+  /// the document's file.
+  std::string Device() const;
+
+  DocumentView View() const;
+  /// What there is to say of these elements: as in a report, but with all that made their results.
+  std::vector<report::Section> Sections(const DocumentView& view, const std::vector<std::int32_t>& ids) const;
+  report::Table Runs(const DocumentView& view) const;
+  /// The element's settings in words.
+  std::vector<std::string> Settings(std::int32_t id) const;
+
+  /// Adds the catalogue's tests at the end of the document; returns the identifier of the last one.
+  std::int32_t AddTests(const std::vector<std::int32_t>& testIds);
+  /// Removes the element with everything below it.
+  void Remove(std::int32_t id);
+  /// Judges the document as it is before a change.
+  Consequences BeforeChange() const { return Consequences(*document_, *workbench_.Host()); }
+  bool IsRecordOnly(std::int32_t id) const;
+  /// `InputError` for a mark that the element's limits contradict.
+  void SetRecordOnly(std::int32_t id, bool recordOnly);
+  bool HasLimits(std::int32_t id) const;
+  /// Takes all limits from the element; those below it keep theirs.
+  void RemoveLimits(std::int32_t id);
+  /// Gives the element, or all where there is none, and what stands below the limits of the set. `InputError`
+  /// when the set covers none of them.
+  AppliedLimits ApplySet(const LimitSet& set, std::optional<std::int32_t> id);
+  void WriteReport(const std::filesystem::path& out) const;
+
+ private:
+  std::shared_ptr<orvik::ITestElement> Found(std::int32_t id) const;
+
+  Workbench& workbench_;
+  const GlobalOptions options_;
+  std::shared_ptr<Document> document_;
+  std::optional<std::size_t> openedMark_;  ///< of the text that saving would have written when it was opened
+};
+
+}  // namespace bench::desktop

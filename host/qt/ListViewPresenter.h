@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QTreeView>
+
+#include "host/qt/ListModel.h"
+#include "host/qt/Presenter.h"
+#include "toolkit/headless/ListView.h"
+
+class QMouseEvent;
+
+namespace bench::qt {
+
+class ListViewPresenter final : public PresenterFor<headless::ListView, QTreeView> {
+ public:
+  ListViewPresenter(WidgetMirror& mirror, headless::Control& control);
+  ~ListViewPresenter() override;
+  bool Filter(QObject& watched, QEvent& event) override;
+
+ protected:
+  void SyncOwn() override;
+  orvik::platform::Color PlainBackColor() const override { return orvik::platform::kWindowBackground; }
+
+ private:
+  void SyncColumns();
+  void SyncSelection();
+  void Clicked(const QMouseEvent& event);
+  void Selected(int row);
+
+  ListModel list_;
+  int ensured_ = -1;
+};
+
+}  // namespace bench::qt

@@ -1,0 +1,32 @@
+#include "host/report/DocumentText.h"
+
+#include "host/base/TextColumns.h"
+#include "host/base/Tr.h"
+#include "host/base/VisibleText.h"
+#include "host/judge/ReasonText.h"
+
+namespace bench {
+
+using judge::JudgedElement;
+using judge::Verdict;
+using report::VisibleText;
+
+std::string ReadingText(const JudgedElement& element) {
+  // A result that does not count is no reading of the equipment.
+  if (!element.Current() || !element.measurement || !element.measurement->value) return "-";
+  if (element.measurement->Overloaded()) return "OL";
+  const auto number = ShortNumber(*element.measurement->value);
+  return element.measurement->unit.empty() ? number : number + " " + VisibleText(element.measurement->unit);
+}
+
+std::vector<std::string> ReasonTexts(const JudgedElement& element) {
+  std::vector<std::string> texts;
+  for (const auto& reason : element.reasons) {
+    const auto text = judge::ReasonText(reason);
+    texts.push_back(element.verdict == Verdict::kDoubtful ? Tr("doubt: %%1", {text}) : text);
+  }
+  if (element.verdict == Verdict::kRecorded) texts.push_back(Tr("record only: not judged by any limit"));
+  return texts;
+}
+
+}  // namespace bench

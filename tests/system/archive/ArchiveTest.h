@@ -1,0 +1,45 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <memory>
+#include <string>
+
+#include "host/archive/Archive.h"
+#include "host/archive/ArchiveLocation.h"
+#include "tests/support/TemporaryFolder.h"
+#include "tests/system/archive/PostgreSqlServer.h"
+
+namespace archive_tests {
+
+enum class Kind { kSqlite, kPostgreSql };
+
+/// A test that holds on both databases; each test has one of its own, empty at first.
+class ArchiveTest : public testing::TestWithParam<Kind> {
+ protected:
+  ArchiveTest()
+      : location_(GetParam() == Kind::kSqlite
+                      ? Path("archive.sqlite")
+                      : PostgreSqlServer::Get().UrlFor("bench", PostgreSqlServer::Get().NewDatabase())) {}
+
+  std::string Path(const std::string& name) const { return (folder_.Path() / name).string(); }
+
+  std::unique_ptr<bench::Database> Database() const {
+    return bench::OpenDatabase(location_, bench::SqliteDatabase::Missing::kCreate);
+  }
+  bench::Archive Open() const { return bench::Archive(Database()); }
+
+  support::TemporaryFolder folder_;
+  const std::string location_;
+};
+
+inline std::string NameOf(const testing::TestParamInfo<Kind>& kind) {
+  return kind.param == Kind::kSqlite ? "Sqlite" : "PostgreSql";
+}
+
+/// Runs a fixture's tests on both databases.
+#define ON_BOTH_DATABASES(Fixture) \
+  INSTANTIATE_TEST_SUITE_P(On, Fixture, testing::Values(Kind::kSqlite, Kind::kPostgreSql), NameOf)
+
+}  // namespace archive_tests

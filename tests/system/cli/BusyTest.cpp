@@ -1,0 +1,93 @@
+#include <fcntl.h>
+#include <sys/file.h>
+
+#include "tests/support/PseudoTerminal.h"
+#include "tests/system/cli/CliTest.h"
+
+namespace cli {
+namespace {
+
+/// What another program holds.
+class BusyTest : public CliTest {
+ protected:
+  BusyTest() : file_(NewDocument({"410"})) {}
+
+  /// Holds the file as another program does that has it open for writing.
+  static bench::UniqueFd Hold(const std::string& file) {
+    bench::UniqueFd held(open(file.c_str(), O_RDWR | O_NOCTTY | O_CLOEXEC));
+    EXPECT_EQ(flock(held.Get(), LOCK_EX | LOCK_NB), 0) << file;
+    return held;
+  }
+
+  Words Limit(const Words& more = {}) const {
+    Words words{"limit", file_, "--element", "1", "--standard", "S", "--high", "9"};
+    words.insert(words.end(), more.begin(), more.end());
+    return words;
+  }
+
+  const std::string file_;
+};
+
+TEST_F(BusyTest, ADocumentThatIsHeldEndsWithFive) {
+  const auto holder = Hold(file_);
+  for (const auto& words : {Limit(), Words{"config", file_, "--element", "1", "--options", "3"},
+                            Simulated(file_, "sound-class-1")}) {
+    const auto refused = Bench(words);
+    EXPECT_EQ(refused.status, 5) << words[0];
+    EXPECT_NE(refused.error.find(file_ + " is open in another program"), std::string::npos) << refused.error;
+  }
+  EXPECT_EQ(Bench({"show", file_}).status, 0) << "reading needs no lock";
+}
+
+TEST_F(BusyTest, WaitGoesOnWhenTheDocumentIsFree) {
+  auto holder = Hold(file_);
+  const auto waiting = Start(Limit({"--wait", "600"}));
+  ASSERT_TRUE(waiting->AwaitError(file_ + " is open in another program"));
+  ASSERT_TRUE(waiting->AwaitError("waiting, at most 600 s (Ctrl-C gives up)"));
+  holder.Reset();
+  EXPECT_EQ(waiting->Wait().status, 0);
+  EXPECT_NE(Contents(file_).find("High=\"9\""), std::string::npos);
+}
+
+TEST_F(BusyTest, WaitGoesOnWhenThePortIsFree) {
+  const support::PseudoTerminal terminal;
+  auto holder = Hold(terminal.Path());
+  const auto waiting = Start({"run", file_, "--port", terminal.Path(), "--wait", "600", "--events"});
+  ASSERT_TRUE(waiting->AwaitError(terminal.Path() + ": is held by another program"));
+  holder.Reset();
+  EXPECT_TRUE(waiting->AwaitOutput("port-opened"));
+}
+
+TEST_F(BusyTest, SettingsThatAreHeldEndWithFiveOrAreWaitedFor) {
+  std::filesystem::create_directory(Path("state"));
+  Write("state/registry.lock", "");
+  auto holder = Hold(Path("state/registry.lock"));
+  const Words calibrate{"calibrate", "--simulate", "--time-scale", kTimeScale};
+  auto patient = calibrate;
+  patient.insert(patient.end(), {"--wait", "600"});
+  const auto waiting = Start(patient);
+  const auto refused = Bench(calibrate);
+  EXPECT_EQ(refused.status, 5) << refused.error;
+  EXPECT_NE(refused.error.find("registry.lock is held by another program"), std::string::npos)
+      << refused.error;
+  ASSERT_TRUE(waiting->AwaitError("waiting, at most 600 s"));
+  holder.Reset();
+  const auto ended = waiting->Wait();
+  EXPECT_EQ(ended.status, 0) << ended.error;
+}
+
+TEST_F(BusyTest, WaitEndsWithFiveWhenTheTimeIsOver) {
+  const auto holder = Hold(file_);
+  EXPECT_EQ(Bench(Limit({"--wait", "1"})).status, 5);
+}
+
+TEST_F(BusyTest, WaitEndsWithCtrlC) {
+  const auto holder = Hold(file_);
+  const auto waiting = Start(Limit({"--wait", "600"}));
+  ASSERT_TRUE(waiting->AwaitError("waiting"));
+  waiting->Signal(SIGINT);
+  EXPECT_EQ(waiting->Wait().status, -1) << "the signal itself ends it";
+}
+
+}  // namespace
+}  // namespace cli

@@ -1,0 +1,85 @@
+#include "tests/system/cli/CliTest.h"
+
+namespace cli {
+namespace {
+
+class CheckCommandTest : public CliTest {
+ protected:
+  /// The document with a part of its text replaced.
+  void Change(const std::string& file, const std::string& from, const std::string& to) const {
+    auto text = Contents(file);
+    const auto at = text.find(from);
+    ASSERT_NE(at, std::string::npos) << from;
+    text.replace(at, from.size(), to);
+    std::ofstream(file) << text;
+  }
+};
+
+TEST_F(CheckCommandTest, NothingIsWrongWithADocumentThatWasRun) {
+  const auto file = NewDocument({"400", "1220"});
+  EXPECT_EQ(Bench({"limit", file, "--from", "iec-62353-class-1-bf"}).status, 0);
+  EXPECT_EQ(Bench({"run", file, "--simulate", "sound-class-1", "--time-scale", kTimeScale}).status, 0);
+  const auto checked = Bench({"check", file});
+  EXPECT_EQ(checked.status, 0);
+  EXPECT_EQ(checked.out, file + ": nothing wrong\n");
+  const auto json = nlohmann::json::parse(Bench({"check", file, "--json"}).out);
+  EXPECT_EQ(json["wrong"], 0);
+  EXPECT_TRUE(json["findings"].empty());
+}
+
+TEST_F(CheckCommandTest, NotesAloneAreNothingWrong) {
+  const auto file = NewDocument({"410"});
+  Change(file, "<Instruments", "<Signature>x</Signature>\n  <Instruments");
+  const auto checked = Bench({"check", file});
+  EXPECT_EQ(checked.status, 0);
+  EXPECT_NE(checked.out.find("column 3: note: the element \"Signature\" is not known; it is kept"),
+            std::string::npos)
+      << checked.out;
+  EXPECT_NE(checked.out.find("nothing wrong"), std::string::npos);
+}
+
+TEST_F(CheckCommandTest, EverythingThatIsWrongIsToldWithItsPlace) {
+  const auto file = NewDocument({"410", "420"});
+  SetLimit(file, "1", "300");
+  Change(file, "ID=\"2\" TestID=\"420\"", "ID=\"1\" TestID=\"421\"");
+  Change(file, "Unit=\"mOhm\" High=\"300\"", "Unit=\"Ohm\" High=\"30O\"");
+  const auto before = Contents(file);
+  const auto checked = Bench({"check", file});
+  EXPECT_EQ(checked.status, 3);
+  for (const char* told : {"is used twice", "the catalogue has no test 421", "\"30O\" is not a number",
+                           "the bounds are in Ohm", "4 things are wrong"})
+    EXPECT_NE(checked.out.find(told), std::string::npos) << told << " is not in\n" << checked.out;
+  const auto json = nlohmann::json::parse(Bench({"check", file, "--json"}).out);
+  EXPECT_EQ(json["wrong"], 4);
+  for (const auto& found : json["findings"]) {
+    EXPECT_EQ(found["kind"], "wrong");
+    EXPECT_GT(found["line"], 5);
+    EXPECT_GT(found["column"], 4);
+  }
+  EXPECT_EQ(Contents(file), before);
+}
+
+TEST_F(CheckCommandTest, ANewerDocumentIsRefusedByEveryCommandAndKept) {
+  const auto file = NewDocument({"410"});
+  Change(file, "OrvikDocument Version=\"1\"", "OrvikDocument Version=\"2\"");
+  const auto before = Contents(file);
+  for (const Words& words : {Words{"check", file}, Words{"show", file}, Words{"run", file, "--simulate"},
+                             Words{"limit", file, "--element", "1", "--standard", "S", "--high", "1"},
+                             Words{"config", file, "--element", "1", "--options", "1"}}) {
+    const auto refused = Bench(words);
+    EXPECT_EQ(refused.status, 3) << words[0];
+    EXPECT_NE((refused.out + refused.error).find("newer version of this program (format 2"),
+              std::string::npos)
+        << words[0] << ": " << refused.out << refused.error;
+  }
+  EXPECT_EQ(Contents(file), before);
+}
+
+TEST_F(CheckCommandTest, AFileThatIsNotThereIsNamed) {
+  const auto refused = Bench({"check", Path("none.orvik")});
+  EXPECT_EQ(refused.status, 3);
+  EXPECT_NE(refused.error.find("none.orvik"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace cli

@@ -1,0 +1,84 @@
+#include <sys/stat.h>
+
+#include "tests/system/cli/CliTest.h"
+
+namespace cli {
+namespace {
+
+/// Commands that only read need no folder for settings.
+class StateFolderTest : public CliTest {
+ protected:
+  StateFolderTest() : file_(NewDocument({"410", "910"})) {}
+
+  std::vector<Words> ReadingCommands() const {
+    return {{"show", file_},
+            {"show", file_, "--json"},
+            {"check", file_},
+            {"report", file_, "--to", Path("a.txt")},
+            {"tests"},
+            {"standards"},
+            {"standards", "iec-62353-class-1-bf"},
+            {"config", file_, "--element", "1"},
+            {"new", Path("n" + std::to_string(NextName()) + ".orvik"), "--add", "410"}};
+  }
+
+  const std::string file_;
+
+ private:
+  static int NextName() {
+    static int number = 0;
+    return ++number;
+  }
+};
+
+TEST_F(StateFolderTest, CommandsThatReadMakeNone) {
+  for (const auto& words : ReadingCommands()) {
+    const auto ended = Bench(words);
+    EXPECT_EQ(ended.status, 0) << words[0] << ": " << ended.error;
+    EXPECT_EQ(ended.error, "") << words[0];
+  }
+  EXPECT_FALSE(std::filesystem::exists(Path("state")));
+}
+
+TEST_F(StateFolderTest, CommandsThatReadWorkWithoutAnyInTheEnvironment) {
+  std::string clean = "unset ORVIK_STATE XDG_STATE_HOME HOME; exec " ORVIK_BENCH_PATH;
+  for (const auto& words : ReadingCommands()) {
+    auto line = clean;
+    for (const auto& word : words) line += " '" + word + "'";
+    const auto ended = support::RunShell(line);
+    EXPECT_EQ(ended.status, 0) << words[0] << ": " << ended.error;
+    EXPECT_EQ(ended.error, "") << words[0];
+  }
+}
+
+// Not even the superuser finds a folder there.
+TEST_F(StateFolderTest, CommandsThatReadWorkBelowAFile) {
+  Write("text", "text");
+  setenv("ORVIK_STATE", Path("text/state").c_str(), 1);
+  for (const auto& words :
+       {Words{"show", file_}, Words{"check", file_}, Words{"report", file_, "--to", Path("a.txt")},
+        Words{"tests"}, Words{"standards"}}) {
+    const auto ended = Bench(words);
+    EXPECT_EQ(ended.status, 0) << words[0] << ": " << ended.error;
+  }
+  EXPECT_NE(Bench({"tests"}).error.find("the shipped catalogue is used"), std::string::npos);
+}
+
+TEST_F(StateFolderTest, CommandsThatReadWorkWithAReadOnlyFolder) {
+  ASSERT_EQ(mkdir(Path("state").c_str(), 0555), 0);
+  for (const auto& words : ReadingCommands()) EXPECT_EQ(Bench(words).status, 0) << words[0];
+  EXPECT_TRUE(std::filesystem::is_empty(Path("state")));
+}
+
+// The resistance of the test leads is among the settings.
+TEST_F(StateFolderTest, ARunRefusesDamagedSettings) {
+  std::filesystem::create_directory(Path("state"));
+  Write("state/registry.json", "{ cut");
+  const auto refused = Bench(Simulated(file_, "sound-class-1"));
+  EXPECT_EQ(refused.status, 3);
+  EXPECT_NE(refused.error.find("registry.json cannot be used"), std::string::npos) << refused.error;
+  EXPECT_EQ(Bench({"show", file_}).status, 0);
+}
+
+}  // namespace
+}  // namespace cli

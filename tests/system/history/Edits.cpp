@@ -1,0 +1,153 @@
+#include "tests/system/history/Edits.h"
+
+#include <filesystem>
+
+#include "OrvikTypeLib/IConfigData.h"
+#include "OrvikTypeLib/ILimitData.h"
+#include "host/bench/DocumentElements.h"
+#include "host/bench/RecordOnlyMark.h"
+#include "host/bench/SetOfLimits.h"
+#include "host/document/SavedSettings.h"
+#include "host/plugins/keld/KeldNames.h"
+#include "host/report/DocumentView.h"
+#include "host/run/LeadCalibrations.h"
+#include "host/standards/ElementLimits.h"
+#include "host/standards/LimitSets.h"
+
+namespace history {
+namespace {
+
+void SetFields(const Operation& operation, bench::Equipment& equipment) {
+  for (const auto& [field, value] : operation.fields) {
+    std::string* const fields[] = {&equipment.asset, &equipment.serial, &equipment.maker, &equipment.model};
+    *fields[field] = value;
+  }
+}
+
+bench::ElementPlace PlaceIn(const bench::Document& document, const Operation& operation) {
+  const auto neighbour = document.Find(operation.placeOf);
+  if (operation.place == "--before") return bench::ElementPlace::Before(*neighbour);
+  if (operation.place == "--after") return bench::ElementPlace::After(*neighbour);
+  return bench::ElementPlace::AtEndOf(operation.place == "--to" ? neighbour : nullptr);
+}
+
+}  // namespace
+
+void EditsOf::Perform(const Operation& operation) {
+  switch (operation.kind) {
+    case Operation::Kind::kNew:
+    case Operation::Kind::kNewFrom:
+      return Make(operation);
+    case Operation::Kind::kCopy:
+      std::filesystem::copy_file(folder_ + operation.other, folder_ + operation.file);
+      return;
+    case Operation::Kind::kLeads:
+      return StoreLeads(operation);
+    case Operation::Kind::kEquipmentIs:
+      return;
+    default:
+      break;
+  }
+  const auto document = bench::Document::Open(bench_.Only().SharedHost(), folder_ + operation.file);
+  Change(operation, *document);
+  document->Save();
+}
+
+void EditsOf::StoreLeads(const Operation& operation) {
+  auto& registry = *bench_.Host().Registry();
+  if (operation.number >= 0 && operation.number <= bench::keld_facts::kMostLeadMilliohms)
+    bench::StoreLeads(registry, operation.text, operation.number, "2026-11-22T09:00:00+01:00");
+  else  // which no program of this system does
+    registry.Write(bench::keld_facts::kRegistryHive, bench::keld_facts::kLeadsKey, operation.text,
+                   operation.number);
+}
+
+void EditsOf::Make(const Operation& operation) {
+  const auto host = bench_.Only().SharedHost();
+  const auto document = bench::Document::Create(host, folder_ + operation.file);
+  SetFields(operation, document->equipment);
+  if (operation.kind == Operation::Kind::kNewFrom)
+    document->AddPlanOf(
+        *bench::Document::Open(host, folder_ + operation.other, bench::DocumentFile::Use::kRead));
+  for (const int testId : operation.tests) document->AddTest(testId);
+  document->Save();
+}
+
+void EditsOf::Change(const Operation& operation, bench::Document& document) {
+  const auto elements = bench::ElementsFor(document, "--element", operation.elements);
+  switch (operation.kind) {
+    case Operation::Kind::kAdd:
+      return Add(operation, document);
+    case Operation::Kind::kRemove:
+      for (const auto& element : elements)
+        if (document.Find(element->ID()) == element) document.Remove(element);
+      return;
+    case Operation::Kind::kMove:
+      return document.Move(elements.front(), PlaceIn(document, operation));
+    case Operation::Kind::kEdit:
+      return SetFields(operation, document.equipment);
+    case Operation::Kind::kLimit:
+      return SetLimits(operation, elements);
+    case Operation::Kind::kLimitSet:
+      return ApplySet(operation, document);
+    case Operation::Kind::kLimitRemove:
+      return RemoveLimits(operation, elements);
+    case Operation::Kind::kRecordOnly:
+      for (const auto& element : elements) bench::MarkRecordOnly(element, *bench_.Host().Elements(), true);
+      return;
+    case Operation::Kind::kOptions:
+    case Operation::Kind::kFilter:
+      return Configure(operation, *elements.front());
+    default:
+      throw std::logic_error("no such edit");
+  }
+}
+
+void EditsOf::Add(const Operation& operation, bench::Document& document) {
+  auto place = PlaceIn(document, operation);
+  for (const int testId : operation.tests) {
+    const auto added = document.AddTest(testId, place);
+    if (place.after != 0) place = bench::ElementPlace::After(*added);
+  }
+}
+
+void EditsOf::SetLimits(const Operation& operation, const Elements& elements) {
+  const auto& limit = operation.limit;
+  for (const auto& element : elements) {
+    bench::SetLimit(*element->Limits(),
+                    {limit.standard, limit.description, operation.lowText, operation.highText, limit.unit});
+    if (bench::IsRecordOnly(element, *bench_.Host().Elements()))
+      bench::MarkRecordOnly(element, *bench_.Host().Elements(), false);
+  }
+}
+
+void EditsOf::ApplySet(const Operation& operation, const bench::Document& document) {
+  const auto set = bench::LimitSets({}).Find(folder_ + operation.set + ".xml");
+  bench::ApplyLimitSet(
+      set,
+      operation.elements.empty() ? bench::TopElements(document)
+                                 : bench::ElementsFor(document, "--element", operation.elements),
+      *bench_.Host().Elements(), operation.also ? bench::EarlierSets::kKept : bench::EarlierSets::kReplaced);
+}
+
+void EditsOf::RemoveLimits(const Operation& operation, const Elements& elements) {
+  const auto& name = operation.limit.standard;
+  for (const auto& element : elements) {
+    bench::RemoveStandards(*element->Limits(), [&](const orvik::IStandard& standard) {
+      return name.empty() || standard.Name() == name;
+    });
+    if (name.empty()) bench::MarkRecordOnly(element, *bench_.Host().Elements(), false);
+  }
+}
+
+void EditsOf::Configure(const Operation& operation, orvik::ITestElement& element) {
+  const auto configuration = element.Configuration();
+  const bench::SavedSettings wanted(*configuration);
+  if (operation.kind == Operation::Kind::kOptions)
+    wanted.Settings()->SetAttribute(bench::SavedSettings::kOptions, std::to_string(operation.number));
+  else
+    wanted.Settings()->SetAttribute(bench::SavedSettings::kFilter, operation.text);
+  configuration->Load(wanted.Node());
+}
+
+}  // namespace history

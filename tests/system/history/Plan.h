@@ -1,0 +1,63 @@
+#pragma once
+
+#include <array>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "tests/system/history/Decimal.h"
+
+/// What a document plans, as the history has it from its own commands; never read from a file.
+namespace history {
+
+/// Asset, serial, maker, model.
+using Equipment = std::array<std::string, 4>;
+
+struct Limit {
+  std::string standard, description;
+  std::optional<Decimal> low, high;  ///< inclusive
+  std::string unit;
+  bool foreign = false;  ///< another program has put in its unit or key: the plug-in compares otherwise
+
+  /// Whether the amount breaks it; none when the two cannot be compared.
+  std::optional<bool> BrokenBy(const Amount& amount) const;
+};
+
+struct Element {
+  int id = 0;
+  int testId = 0;
+  bool group = false;
+  int options = 0;
+  std::string filter = "No values";
+  bool recordOnly = false;
+  std::vector<Limit> limits;  ///< at most one of a standard and description
+  std::vector<Element> children;
+
+  /// Gives it the limit in place of the one of the same standard and description.
+  void SetLimit(const Limit& limit);
+};
+
+struct Plan {
+  Equipment equipment;
+  std::vector<Element> elements;
+
+  Element* Find(int id);
+  const Element* Find(int id) const { return const_cast<Plan*>(this)->Find(id); }
+  /// What holds the element; null at the top.
+  const Element* ParentOf(int id) const;
+  /// All elements in document order, parents before children.
+  std::vector<const Element*> All() const;
+  std::vector<Element*> All();
+  int HighestId() const;
+
+  /// A new element of the catalogue with all below it; identifiers from `next` on in document order.
+  static Element Made(int testId, int& next);
+  /// The list in which the element is, and its place there.
+  std::pair<std::vector<Element>*, std::size_t> PlaceOf(int id);
+};
+
+/// The element and all below it, parents before children.
+std::vector<const Element*> Below(const Element& top);
+
+}  // namespace history

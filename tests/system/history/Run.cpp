@@ -1,0 +1,126 @@
+#include "tests/system/history/Run.h"
+
+#include "host/bench/RunSelection.h"
+#include "host/bench/RunSession.h"
+#include "host/report/DocumentView.h"
+#include "host/run/AutoOperator.h"
+#include "host/run/OperatorEvents.h"
+#include "tests/system/history/Person.h"
+
+namespace history {
+namespace {
+
+std::vector<int> IdentifiersOf(const std::vector<std::shared_ptr<orvik::ITestElement>>& elements) {
+  std::vector<int> identifiers;
+  for (const auto& element : elements) identifiers.push_back(element->ID());
+  return identifiers;
+}
+
+void TellOfWire(const bench::WireRecord& record, RunWatch& watch) {
+  using What = bench::WireRecord::Kind;
+  const auto at = std::chrono::duration_cast<RunWatch::Time>(record.time);
+  switch (record.kind) {
+    case What::kOpened:
+      return watch.PortOpened();
+    case What::kSent:
+      return watch.Sent(std::string(record.text), record.replyWaiting, at);
+    case What::kReceived:
+      return watch.Received(std::string(record.text), at);
+    case What::kDropped:
+      return watch.Dropped();
+    case What::kFailed:
+    case What::kClosed:
+      return watch.PortClosed();
+  }
+}
+
+}  // namespace
+
+std::optional<std::string> RunOf::Perform(const Operation& operation, World& world) {
+  const auto& run = operation.run;
+  if (run.newProgram) {
+    keld::MKELDGlobalVars::InstrumentDataSlot().reset();
+    world.leadsInUse = world.LeadsOf(world.lastSerial);
+  }
+  const auto document = bench::Document::Open(bench_.Only().SharedHost(), folder_ + operation.file);
+  bench::RequireOneKindOfRuns(*document, run.simulated);
+  const auto elements = Selected(operation, *document);
+  const auto tester =
+      std::make_shared<TrueTester>(world, world.documents.at(operation.file).plan.equipment, run.tester);
+  bench_.Tester().PlugIn();
+  bench_.Tester().UseFaults(tester);
+  RunWatch watch(world, operation.file, run, IdentifiersOf(elements), *tester);
+  RunElements(run, elements, *document, watch);
+  LetTimePass();
+  bench_.Tester().UseFaults(nullptr);
+  bench_.Wire().Clear();
+  return watch.Offence();
+}
+
+RunOf::Elements RunOf::Selected(const Operation& operation, bench::Document& document) {
+  bench::RunSelection selection;
+  selection.file = operation.file;
+  selection.elements.assign(operation.run.elements.begin(), operation.run.elements.end());
+  selection.standards = operation.run.standards;
+  selection.resume = operation.run.resume;
+  const auto selected = bench::SelectedElements(document, selection);
+  bench::SelectStandards(document, bench_.Host(), selection);
+  if (!selection.resume) return selected;
+  return bench::Unfinished(selected, document, bench::ViewOf(document, bench_.Host()).judged);
+}
+
+void RunOf::RunElements(const RunSetup& run, const Elements& elements, bench::Document& document,
+                        RunWatch& watch) {
+  support::RunParts parts(bench_.Ports(), document);
+  parts.heading.simulated = run.simulated;
+  int saves = 0;
+  parts.save = [&] {
+    const bool killed = run.killedAfterSaves && saves >= *run.killedAfterSaves;
+    if (!killed) document.Save();
+    watch.Saved(run.killedAfterSaves && ++saves >= *run.killedAfterSaves);
+  };
+  const auto told = Tell(parts, watch);
+  const auto application = bench_.Only().SharedApplication();
+  const bool byProgram = run.presses.empty() && !run.abortAt;
+  auto person = std::make_unique<Person>(application, run.presses, [&](Press press, bool inWaitingGuide) {
+    if (press == Press::kNotApplicable) watch.SetAside(Record::How::kNotApplicable);
+    if (press == Press::kSkip) watch.SetAside(Record::How::kSkipped);
+    if (press == Press::kAbort) watch.Aborted(inWaitingGuide);
+  });
+  auto* const aborting = person.get();
+  std::unique_ptr<bench::IOperator> runOperator = std::move(person);
+  if (byProgram) runOperator = std::make_unique<bench::AutoOperator>(application, parts.stop);
+  const bench::OperatorEvents operating(application, parts.stop, std::move(runOperator));
+  int calls = 0;
+  const auto pumped = bench_.Application().Pumped().Subscribe([&] {
+    const int call = calls++;
+    if (byProgram && run.stopAt == call) {
+      watch.Stopped();
+      parts.stop.Ask();
+    }
+    if (!byProgram && run.abortAt == call) aborting->Abort();
+  });
+  parts.Run(elements);
+}
+
+std::vector<orvik::platform::Subscription> RunOf::Tell(support::RunParts& parts, RunWatch& watch) {
+  using Told = std::shared_ptr<orvik::ITestElement>;
+  std::vector<orvik::platform::Subscription> told;
+  told.push_back(bench_.Ports().TheWire()->Subscribe(
+      [&watch](const bench::WireRecord& record) { TellOfWire(record, watch); }));
+  told.push_back(
+      parts.controller->Started().Subscribe([&watch](const Told& element) { watch.Started(element->ID()); }));
+  told.push_back(parts.controller->Finished().Subscribe(
+      [&watch](const Told& element) { watch.Finished(element->ID()); }));
+  told.push_back(parts.runner.Reached().Subscribe(
+      [&watch](std::size_t, std::size_t, const Told& element) { watch.Reached(element->ID()); }));
+  return told;
+}
+
+/// Whatever comes late is waited for, so that it does not come into the next run.
+void RunOf::LetTimePass() {
+  const auto end = bench_.Application().Now() + std::chrono::minutes(1);
+  while (bench_.Application().Now() < end) bench_.Application().WaitMessages(end);
+}
+
+}  // namespace history

@@ -1,0 +1,210 @@
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <charconv>
+#include <cstdlib>
+#include <filesystem>
+#include <iterator>
+#include <map>
+#include <optional>
+
+#include "tests/support/Seed.h"
+#include "tests/system/leaks/Allocations.h"
+#include "tests/system/soak/SoakBench.h"
+
+namespace soak {
+namespace {
+
+using bench::judge::Verdict;
+
+#ifdef __SANITIZE_ADDRESS__
+constexpr int kRunsOfThisBuild = 5000;
+#else
+constexpr int kRunsOfThisBuild = 10000;
+#endif
+
+/// Every so many runs are looked at, and as many go before the first look.
+constexpr int kBetweenLooks = kRunsOfThisBuild / 10;
+/// Saving, and opening again what was saved, is not the whole of it.
+constexpr int kSavedEvery = 4;
+
+/// Tables and lists keep the room that the greediest run so far has needed. A byte forgotten in each run is
+/// more.
+constexpr std::size_t kRoom = 1024;
+
+int RunsWanted() {
+  const char* given = std::getenv("ORVIK_SOAK_RUNS");
+  if (!given) return kRunsOfThisBuild;
+  const std::string text = given;
+  int runs = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), runs);
+  if (error != std::errc{} || end != text.data() + text.size() || runs < 2 * kBetweenLooks)
+    throw std::runtime_error("ORVIK_SOAK_RUNS is \"" + text + "\"; give it a whole number from " +
+                             std::to_string(2 * kBetweenLooks) + ", or leave it out");
+  return runs;
+}
+
+/// Has temporary folders be made in memory, where flushing takes no time: the process is worn, not the disk.
+void UseFilesInMemory() {
+  constexpr char kFolder[] = "/dev/shm";
+  if (access(kFolder, W_OK) == 0) setenv("TMPDIR", kFolder, 1);
+}
+
+std::size_t OpenHandles() {
+  const std::filesystem::directory_iterator handles("/proc/self/fd");
+  return static_cast<std::size_t>(std::distance(begin(handles), end(handles)));
+}
+
+/// What the process holds after one and the same run.
+struct Look {
+  leaks::Held held;
+  std::size_t handles = 0;
+};
+
+Look LookAt(SoakBench& bench) {
+  Plan plan;
+  plan.kind = Kind::kSequence;
+  plan.truth = {{410, 123}, {420, 131}};
+  bench.Run(plan, true);
+  return {leaks::HeldNow(), OpenHandles()};
+}
+
+void ExpectFlat(const Look& now, const Look& first, int runs) {
+  EXPECT_EQ(now.held.blocks, first.held.blocks) << "objects are left over after " << runs << " runs";
+  EXPECT_LE(now.held.bytes, first.held.bytes + kRoom) << "memory is left over after " << runs << " runs";
+  EXPECT_EQ(now.handles, first.handles) << "handles are left over after " << runs << " runs";
+}
+
+/// One run by its plan; how it ended.
+bench::judge::Outcome RunAndCheck(SoakBench& bench, unsigned seed, int run) {
+  const auto plan = DrawPlan(seed, run);
+  const auto evidence = bench.Run(plan, run % kSavedEvery == 0);
+  for (const auto& offence : Offences(plan, evidence))
+    ADD_FAILURE() << "run " << run << " (" << TextOf(plan) << ") ended " << VerdictsOf(evidence.elements)
+                  << ": " << offence;
+  return evidence.outcome;
+}
+
+TEST(SoakTest, ManyRunsWithFaultsLeaveNothingAndEndRight) {
+  const int runs = RunsWanted();
+  const auto seed = support::Seed();
+  UseFilesInMemory();
+  SoakBench bench;
+  std::optional<Look> first;
+  std::map<bench::judge::Outcome, int> outcomes;
+  for (int run = 1; run <= runs && !HasFailure(); ++run) {
+    ++outcomes[RunAndCheck(bench, seed, run)];
+    if (run % kBetweenLooks != 0) continue;
+    const auto look = LookAt(bench);
+    if (!first) first = look;
+    ExpectFlat(look, *first, run);
+  }
+  std::cout << runs << " runs: " << outcomes[bench::judge::Outcome::kPassed] << " passed, "
+            << outcomes[bench::judge::Outcome::kFailed] << " failed, "
+            << outcomes[bench::judge::Outcome::kIncomplete] << " incomplete" << std::endl;
+  for (const auto outcome :
+       {bench::judge::Outcome::kPassed, bench::judge::Outcome::kFailed, bench::judge::Outcome::kIncomplete})
+    EXPECT_GT(outcomes[outcome], runs / 20) << "hardly any run is " << bench::judge::OutcomeText(outcome);
+}
+
+class OffencesTest : public testing::Test {
+ protected:
+  /// A run of one test that reads 123 mOhm and is disturbed in some way.
+  OffencesTest() {
+    plan_.truth = {{410, 123}, {420, 131}};
+    plan_.faultRate = 0.2;
+    bench::judge::JudgedElement element;
+    element.id = 1;
+    element.testId = 410;
+    element.status = 1;
+    element.verdict = Verdict::kPassed;
+    element.measurement = bench::judge::Measurement{123.0, "mOhm", "", 1};
+    evidence_.elements = {element};
+    evidence_.outcome = bench::judge::Outcome::kPassed;
+    evidence_.sent = {"IREM", "STST,410,0", "GRES,410,0", "STST,210,0", "EREM"};
+    evidence_.received = {ReplyTo(410, 123)};
+  }
+
+  bench::judge::JudgedElement& Element() { return evidence_.elements.front(); }
+  std::size_t Found() const { return Offences(plan_, evidence_).size(); }
+
+  Plan plan_;
+  Evidence evidence_;
+};
+
+TEST_F(OffencesTest, AGoodRunHasNone) { EXPECT_EQ(Found(), 0u); }
+
+TEST_F(OffencesTest, APassWithoutAReadingIsFound) {
+  evidence_.received.clear();
+  EXPECT_EQ(Found(), 1u);
+}
+
+TEST_F(OffencesTest, APassWithTheReadingOfAnotherRunIsFound) {
+  Element().measurement->value = 122.0;
+  EXPECT_EQ(Found(), 1u);
+}
+
+TEST_F(OffencesTest, APassBeyondTheLimitIsFound) {
+  plan_.truth[410] = 301;
+  evidence_.received = {ReplyTo(410, 301)};
+  Element().measurement->value = 301.0;
+  EXPECT_EQ(Found(), 1u);
+}
+
+TEST_F(OffencesTest, AFailureWithinTheLimitIsFound) {
+  Element().verdict = Verdict::kFailed;
+  Element().reasons = {{"failed-by-plug-in", {}}};
+  evidence_.outcome = bench::judge::Outcome::kFailed;
+  EXPECT_EQ(Found(), 1u);
+}
+
+TEST_F(OffencesTest, NotApplicableInSpiteOfALimitIsFound) {
+  Element().verdict = Verdict::kNotApplicable;
+  Element().reasons = {{"refused-by-tester", {}}};
+  EXPECT_EQ(Found(), 1u);
+}
+
+TEST_F(OffencesTest, AReadingThatNoLimitJudgedIsFound) {
+  Element().verdict = Verdict::kRecorded;
+  Element().reasons = {{"no-limit", {}}};
+  EXPECT_EQ(Found(), 1u);
+}
+
+TEST_F(OffencesTest, ADoubtfulElementInAPassedRunIsFound) {
+  Element().verdict = Verdict::kDoubtful;
+  Element().reasons = {{"late-reply", {"STST,410,0"}}};
+  EXPECT_EQ(Found(), 1u);
+}
+
+TEST_F(OffencesTest, WhatHasNotPassedWithoutAReasonIsFound) {
+  Element().verdict = Verdict::kNotTested;
+  evidence_.outcome = bench::judge::Outcome::kIncomplete;
+  EXPECT_EQ(Found(), 1u);
+}
+
+TEST_F(OffencesTest, WhatIsLeftOpenIsFound) {
+  evidence_.portOpen = true;
+  evidence_.windows = 1;
+  EXPECT_EQ(Found(), 2u);
+  plan_.faultRate = 0;
+  evidence_.inRemoteMode = true;
+  EXPECT_EQ(Found(), 3u);
+}
+
+TEST_F(OffencesTest, AnUndisturbedRunHasToBeExact) {
+  plan_.faultRate = 0;
+  EXPECT_EQ(Found(), 0u);
+  evidence_.sent.pop_back();
+  EXPECT_EQ(Found(), 1u);
+  evidence_.end = bench::DocumentRunner::End::kTesterLost;
+  EXPECT_EQ(Found(), 2u);
+}
+
+TEST_F(OffencesTest, ASavedDocumentThatReadsOtherwiseIsFound) {
+  evidence_.reopened = evidence_.elements;
+  evidence_.reopened.front().verdict = Verdict::kNotTested;
+  EXPECT_EQ(Found(), 1u);
+}
+
+}  // namespace
+}  // namespace soak

@@ -1,0 +1,237 @@
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <random>
+
+#include "host/base/FileErrors.h"
+#include "host/base/FreshFile.h"
+#include "host/document/DocumentFile.h"
+#include "tests/support/Seed.h"
+#include "tests/unit/host/DiskCalls.h"
+#include "tests/unit/host/Errors.h"
+#include "tests/unit/host/InChild.h"
+#include "tests/unit/host/TestFolder.h"
+
+namespace bench {
+namespace {
+
+using test::ErrorText;
+using test::Holds;
+using test::TestFolder;
+using Use = DocumentFile::Use;
+
+TEST(DocumentFile, NewFileComesIntoBeingWithTheFirstWrite) {
+  TestFolder folder;
+  auto file = DocumentFile::New(folder.Path() / "a.orvik");
+  EXPECT_EQ(folder.Count(), 0U);
+  file.Write("one");
+  EXPECT_EQ(folder.Read("a.orvik"), "one");
+  file.Write("two");
+  EXPECT_EQ(folder.Read("a.orvik"), "two");
+  EXPECT_EQ(file.Read(), "two");
+  EXPECT_EQ(folder.Count(), 1U);
+}
+
+TEST(DocumentFile, NewFileNeverReplacesOneThatIsThere) {
+  TestFolder folder;
+  folder.Write("a.orvik", "there");
+  EXPECT_TRUE(Holds(ErrorText([&] { DocumentFile::New(folder.Path() / "a.orvik"); }), "is there already"));
+  auto late = DocumentFile::New(folder.Path() / "b.orvik");
+  folder.Write("b.orvik", "somebody was faster");
+  EXPECT_TRUE(Holds(ErrorText([&] { late.Write("mine"); }), "is there already"));
+  EXPECT_EQ(folder.Read("b.orvik"), "somebody was faster");
+  EXPECT_EQ(folder.Count(), 2U);
+}
+
+TEST(DocumentFile, OnlyOneMayWrite) {
+  TestFolder folder;
+  const auto path = folder.Write("a.orvik", "old");
+  {
+    auto first = DocumentFile::Existing(path, Use::kWrite);
+    EXPECT_TRUE(
+        Holds(ErrorText([&] { DocumentFile::Existing(path, Use::kWrite); }), "open in another program"));
+    first.Write("new");
+    EXPECT_TRUE(
+        Holds(ErrorText([&] { DocumentFile::Existing(path, Use::kWrite); }), "open in another program"))
+        << "the new file is locked like the old one";
+    EXPECT_EQ(DocumentFile::Existing(path, Use::kRead).Read(), "new");
+  }
+  EXPECT_EQ(ErrorText([&] { DocumentFile::Existing(path, Use::kWrite); }), "");
+}
+
+TEST(DocumentFile, NewFileIsLockedFromItsFirstWrite) {
+  TestFolder folder;
+  const auto path = folder.Path() / "a.orvik";
+  auto file = DocumentFile::New(path);
+  file.Write("x");
+  EXPECT_TRUE(
+      Holds(ErrorText([&] { DocumentFile::Existing(path, Use::kWrite); }), "open in another program"));
+}
+
+TEST(DocumentFile, FileForReadingCannotBeWritten) {
+  TestFolder folder;
+  auto file = DocumentFile::Existing(folder.Write("a.orvik", "old"), Use::kRead);
+  EXPECT_TRUE(Holds(ErrorText([&] { file.Write("new"); }), "reading only"));
+  EXPECT_EQ(folder.Read("a.orvik"), "old");
+}
+
+TEST(DocumentFile, ChangeByAProgramThatDoesNotLockIsNoticed) {
+  TestFolder folder;
+  const auto path = folder.Write("a.orvik", "old");
+  auto file = DocumentFile::Existing(path, Use::kWrite);
+  folder.Write("edited", "by hand");
+  std::filesystem::rename(folder.Path() / "edited", path);
+  EXPECT_TRUE(Holds(ErrorText([&] { file.Write("new"); }), "changed by another program"));
+  EXPECT_EQ(folder.Read("a.orvik"), "by hand");
+  std::filesystem::remove(path);
+  EXPECT_TRUE(Holds(ErrorText([&] { file.Write("new"); }), "changed by another program"));
+}
+
+TEST(DocumentFile, LinkIsFollowed) {
+  TestFolder folder;
+  const auto path = folder.Write("real.orvik", "old");
+  std::filesystem::create_symlink(path, folder.Path() / "link.orvik");
+  DocumentFile::Existing(folder.Path() / "link.orvik", Use::kWrite).Write("new");
+  EXPECT_EQ(folder.Read("real.orvik"), "new");
+  EXPECT_TRUE(std::filesystem::is_symlink(folder.Path() / "link.orvik"));
+}
+
+TEST(DocumentFile, MissingFileIsNamed) {
+  EXPECT_TRUE(
+      Holds(ErrorText([] { DocumentFile::Existing("/nowhere/a.orvik", Use::kRead); }), "/nowhere/a.orvik"));
+}
+
+TEST(DocumentFile, KeepsThePermissions) {
+  TestFolder folder;
+  const auto path = folder.Write("a.orvik", "old");
+  ASSERT_EQ(chmod(path.c_str(), 0600), 0);
+  DocumentFile::Existing(path, Use::kWrite).Write("new");
+  EXPECT_EQ(FileMode(path), mode_t{0600});
+}
+
+TEST(DocumentFile, RefusesAWriteProtectedFile) {
+  TestFolder folder;
+  const auto path = folder.Write("a.orvik", "old");
+  auto open = DocumentFile::Existing(path, Use::kWrite);
+  ASSERT_EQ(chmod(path.c_str(), 0444), 0);
+  EXPECT_TRUE(Holds(ErrorText([&] { open.Write("new"); }), path.string() + " is write-protected"));
+  open = DocumentFile();
+  EXPECT_TRUE(Holds(ErrorText([&] { DocumentFile::Existing(path, Use::kWrite); }), "is write-protected"));
+  EXPECT_EQ(DocumentFile::Existing(path, Use::kRead).Read(), "old");
+  EXPECT_EQ(folder.Read("a.orvik"), "old");
+  EXPECT_EQ(folder.Count(), 1U);
+}
+
+TEST(DocumentFile, SecondProgramIsToldToTryAgain) {
+  TestFolder folder;
+  const auto path = folder.Write("a.orvik", "old");
+  const auto first = DocumentFile::Existing(path, Use::kWrite);
+  EXPECT_THROW(DocumentFile::Existing(path, Use::kWrite), BusyError);
+}
+
+TEST(DocumentFile, OfProgramsThatCreateOneNameOneSucceeds) {
+  constexpr int kPrograms = 8;
+  TestFolder folder;
+  std::vector<pid_t> programs;
+  for (int number = 0; number < kPrograms; ++number)
+    programs.push_back(test::StartChild([&] {
+      auto file = DocumentFile::New(folder.Path() / "a.orvik");
+      file.Write(std::string(300'000, static_cast<char>('a' + number)));
+    }));
+  int succeeded = 0;
+  char winner = 0;
+  for (int number = 0; number < kPrograms; ++number) {
+    if (!test::ChildSucceeded(programs[static_cast<std::size_t>(number)])) continue;
+    ++succeeded;
+    winner = static_cast<char>('a' + number);
+  }
+  EXPECT_EQ(succeeded, 1);
+  EXPECT_EQ(folder.Read("a.orvik"), std::string(300'000, winner));
+  EXPECT_EQ(folder.Count(), 1U);
+}
+
+TEST(DocumentFile, NewFileHasNoNameUntilItIsComplete) {
+  TestFolder folder;
+  const auto fresh = FreshFile::ForNewName(folder.Path() / "a.orvik", "contents");
+  EXPECT_EQ(folder.Count(), 0U) << "a program that is killed now leaves nothing";
+}
+
+TEST(DocumentFile, NewFileWithAnEarlyNameIsGoneUnlessItGetsItsOwn) {
+  TestFolder folder;
+  const auto path = folder.Path() / "a.orvik";
+  const auto create = [&] { return FreshFile::ForNewName(path, "contents", FreshFile::Names::kEarly); };
+  {
+    const auto fresh = create();
+    EXPECT_EQ(folder.Count(), 1U);
+  }
+  EXPECT_EQ(folder.Count(), 0U);
+  create().TakeNewName(path);
+  EXPECT_EQ(folder.Read("a.orvik"), "contents");
+  EXPECT_TRUE(Holds(ErrorText([&] { create().TakeNewName(path); }), "is there already"));
+  EXPECT_EQ(folder.Count(), 1U);
+}
+
+// As on a full disk.
+TEST(DocumentFile, FailedWriteOfANewFileLeavesNothing) {
+  TestFolder folder;
+  EXPECT_TRUE(test::ChildSucceeded(test::StartChild([&] {
+    std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit limit{100, 100};
+    setrlimit(RLIMIT_FSIZE, &limit);
+    auto file = DocumentFile::New(folder.Path() / "a.orvik");
+    EXPECT_THROW(file.Write(std::string(100'000, 'x')), StorageError);
+  })));
+  EXPECT_EQ(folder.Count(), 0U);
+}
+
+TEST(DocumentFile, GoesOnAfterAFailedFlushOfTheFolder) {
+  TestFolder folder;
+  const auto path = folder.Write("a.orvik", "old");
+  auto file = DocumentFile::Existing(path, Use::kWrite);
+  {
+    const test::FoldersCannotBeFlushed broken;
+    EXPECT_THROW(file.Write("new"), StorageError);
+  }
+  EXPECT_EQ(folder.Read("a.orvik"), "new");
+  EXPECT_EQ(file.Read(), "new");
+  EXPECT_THROW(DocumentFile::Existing(path, Use::kWrite), BusyError) << "the lock has moved along";
+  EXPECT_EQ(ErrorText([&] { file.Write("newer"); }), "");
+  EXPECT_EQ(folder.Read("a.orvik"), "newer");
+}
+
+TEST(DocumentFile, ProgramKilledWhileItWritesLeavesTheOldOrTheNewFile) {
+  std::mt19937 random(support::Seed());
+  TestFolder folder;
+  const auto path = folder.Write("a.orvik", std::string(50000, 'a'));
+  for (int round = 0; round < 10; ++round) {
+    int progress[2];
+    ASSERT_EQ(pipe(progress), 0);
+    const pid_t child = fork();
+    ASSERT_GE(child, 0);
+    if (child == 0) {
+      auto file = DocumentFile::Existing(path, Use::kWrite);
+      for (int i = 0;; ++i) {
+        file.Write(std::string(50000, static_cast<char>('a' + i % 26)));
+        [[maybe_unused]] const auto told = write(progress[1], "x", 1);
+      }
+    }
+    for (auto left = 1 + random() % 5; left > 0; --left) {
+      char byte = 0;
+      ASSERT_EQ(read(progress[0], &byte, 1), 1);
+    }
+    kill(child, SIGKILL);
+    waitpid(child, nullptr, 0);
+    close(progress[0]);
+    close(progress[1]);
+    const auto contents = folder.Read("a.orvik");
+    ASSERT_FALSE(contents.empty());
+    EXPECT_EQ(contents, std::string(50000, contents.front()));
+  }
+}
+
+}  // namespace
+}  // namespace bench

@@ -1,0 +1,87 @@
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+#include "host/xml/Leftovers.h"
+#include "host/xml/XmlNode.h"
+
+namespace bench {
+namespace {
+
+std::string Restored(const Leftovers& leftovers, const char* into = "<a/>") {
+  pugi::xml_document document;
+  document.load_string(into);
+  leftovers.Restore(document.document_element());
+  std::ostringstream text;
+  document.document_element().print(text, "", pugi::format_raw);
+  return text.str();
+}
+
+pugi::xml_document ParsedWithComments(const char* text) {
+  pugi::xml_document document;
+  document.load_string(text, pugi::parse_default | pugi::parse_comments);
+  return document;
+}
+
+TEST(Leftovers, KeepWhatIsNotNamed) {
+  const auto document = ParsedWithComments("<a k='1' x='2'><known/><new><deep/></new><!--note-->text</a>");
+  Leftovers leftovers;
+  leftovers.Take(document.document_element(), {"k"}, {"known"});
+  EXPECT_EQ(Restored(leftovers), "<a x=\"2\"><new><deep/></new><!--note-->text</a>");
+}
+
+// Which of the two is meant cannot be known.
+TEST(Leftovers, KnownAttributeThatStandsTwiceIsRefused) {
+  const auto document = ParsedWithComments("<a k='1' x='2' k='3'/>");
+  Leftovers leftovers;
+  EXPECT_THROW(leftovers.Take(document.document_element(), {"k"}, {}), XmlError);
+  EXPECT_NO_THROW(leftovers.Take(document.document_element(), {"x"}, {}));
+}
+
+TEST(Leftovers, ValuesGoWhereTheReaderWantsThem) {
+  const auto document = ParsedWithComments("<a b='2' x='3' a='1'/>");
+  const char *first = "none", *second = "none", *third = "none";
+  Leftovers leftovers;
+  leftovers.TakeAttributes(document.document_element(), {{"a", first}, {"b", second}, {"c", third}});
+  EXPECT_STREQ(first, "1");
+  EXPECT_STREQ(second, "2");
+  EXPECT_STREQ(third, "none");
+  EXPECT_EQ(Restored(leftovers), "<a x=\"3\"/>");
+}
+
+TEST(Leftovers, NothingIsKeptOfAKnownNode) {
+  const auto document = ParsedWithComments("<a k='1'><known/></a>");
+  Leftovers leftovers;
+  leftovers.Take(document.document_element(), {"k"}, {"known"});
+  EXPECT_TRUE(leftovers.Empty());
+  EXPECT_EQ(Restored(leftovers), "<a/>");
+}
+
+TEST(Leftovers, TakingAgainReplacesWhatWasKept) {
+  Leftovers leftovers;
+  leftovers.Take(ParsedWithComments("<a x='1'/>").document_element(), {}, {});
+  leftovers.Take(ParsedWithComments("<a y='1'/>").document_element(), {}, {});
+  EXPECT_EQ(Restored(leftovers), "<a y=\"1\"/>");
+  leftovers.Take({}, {}, {});
+  EXPECT_TRUE(leftovers.Empty());
+}
+
+TEST(Leftovers, AttributeThatIsThereByNowStays) {
+  Leftovers leftovers;
+  leftovers.Take(ParsedWithComments("<a x='old'/>").document_element(), {}, {});
+  EXPECT_EQ(Restored(leftovers, "<a x='new'/>"), "<a x=\"new\"/>");
+}
+
+TEST(Leftovers, CopiesAreIndependent) {
+  Leftovers first;
+  first.Take(ParsedWithComments("<a x='1'/>").document_element(), {}, {});
+  Leftovers second = first;
+  first = {};
+  EXPECT_TRUE(first.Empty());
+  EXPECT_EQ(Restored(second), "<a x=\"1\"/>");
+  second.Add(ParsedWithComments("<more/>").document_element());
+  EXPECT_EQ(Restored(second), "<a x=\"1\"><more/></a>");
+}
+
+}  // namespace
+}  // namespace bench

@@ -1,0 +1,72 @@
+#pragma once
+
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "host/qt/Screen.h"
+#include "tests/unit/qt/Person.h"
+#include "tests/unit/qt/WidgetDifferences.h"
+#include "tests/unit/toolkit/ToolkitTest.h"
+
+namespace bench::headless {
+
+/// A desk whose windows are on the screen.
+class ScreenTest : public ToolkitTest {
+ protected:
+  ScreenTest() { screen = onScreen; }
+
+  /// Lets everything that is pending happen and be shown.
+  void Pump() const {
+    for (int turn = 0; turn < 3; ++turn) app->ProcessMessages();
+    onScreen->Update();
+  }
+  /// The widget of a control that is on the screen.
+  template <class Widget = QWidget>
+  Widget& WidgetOf(const platform::IControl& control) const {
+    auto* widget = dynamic_cast<Widget*>(onScreen->WidgetOf(control));
+    if (!widget) throw std::runtime_error(control.Name() + " is not on the screen");
+    return *widget;
+  }
+  bool IsOnScreen(const platform::IControl& control) const {
+    const QWidget* widget = onScreen->WidgetOf(control);
+    return widget && widget->isVisible();
+  }
+  void ExpectMirrored() const {
+    const auto finder = [this](const auto& control) { return onScreen->WidgetOf(control); };
+    EXPECT_EQ(support::Differences(finder, *app), std::vector<std::string>{});
+  }
+
+  /// A form on which controls stand below each other.
+  std::shared_ptr<platform::IForm> Column(const std::string& name, const std::vector<std::string>& controls) {
+    auto form = forms_.back();
+    platform::Grid grid;
+    grid.columns = {{4500, 1}};
+    for (const auto& control : controls) {
+      grid.cells.push_back({control, static_cast<int>(grid.rows.size()), 0});
+      grid.rows.push_back({});
+    }
+    form->SetGrid(grid);
+    form->SetCaption(name);
+    form->Show();
+    Pump();
+    return form;
+  }
+  /// A form that is not shown yet.
+  platform::IForm& NewForm(const std::string& name) {
+    forms_.push_back(app->CreateForm(name));
+    return *forms_.back();
+  }
+
+  /// The form that was made last.
+  std::shared_ptr<platform::IForm> Newest() const { return forms_.back(); }
+  void ReleaseForms() { forms_.clear(); }
+
+  std::shared_ptr<qt::Screen> onScreen = std::make_shared<qt::Screen>(app);
+
+ private:
+  std::vector<std::shared_ptr<platform::IForm>> forms_;
+};
+
+}  // namespace bench::headless

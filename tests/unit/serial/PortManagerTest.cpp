@@ -1,0 +1,67 @@
+#include <gtest/gtest.h>
+
+#include "OrvikTypeLib/HostError.h"
+#include "OrvikTypeLib/IPort.h"
+#include "host/serial/MemoryTransport.h"
+#include "host/serial/PortManager.h"
+#include "toolkit/loop/EventLoop.h"
+
+namespace bench {
+namespace {
+
+class PortManagerTest : public testing::Test {
+ protected:
+  std::shared_ptr<EventLoop> loop_ = std::make_shared<EventLoop>(ClockKind::kVirtual, 1.0);
+  std::shared_ptr<MemoryLine> line_ = std::make_shared<MemoryLine>();
+  std::string device_;
+  LineSettings settings_;
+  std::shared_ptr<PortManager> manager_ =
+      std::make_shared<PortManager>(loop_, [this](const std::string& device, const LineSettings& settings) {
+        device_ = device;
+        settings_ = settings;
+        return std::make_unique<MemoryTransport>(line_);
+      });
+};
+
+TEST_F(PortManagerTest, KnowsNoPortOfAnUnknownInstrument) { EXPECT_LT(manager_->FindPort("KELD(IN)"), 1); }
+
+TEST_F(PortManagerTest, FindsAndOpensTheAssignedDevice) {
+  manager_->Assign("OTHER", "/dev/other");
+  manager_->Assign("KELD(IN)", "/dev/tester");
+  const auto number = manager_->FindPort("KELD(IN)");
+  EXPECT_EQ(number, 2);
+  const auto port = manager_->OpenPort(number, "9600,O,8,1");
+  EXPECT_TRUE(port->IsOpen());
+  EXPECT_EQ(device_, "/dev/tester");
+  EXPECT_EQ(settings_, (LineSettings{9600, Parity::kOdd, 8, StopBits::kOne}));
+}
+
+TEST_F(PortManagerTest, ANewAssignmentKeepsTheNumber) {
+  manager_->Assign("KELD(IN)", "/dev/first");
+  manager_->Assign("KELD(IN)", "/dev/second");
+  EXPECT_EQ(manager_->FindPort("KELD(IN)"), 1);
+  manager_->OpenPort(1, "9600,O,8,1");
+  EXPECT_EQ(device_, "/dev/second");
+}
+
+TEST_F(PortManagerTest, AnInstrumentCanLoseItsDevice) {
+  manager_->Assign("KELD(IN)", "/dev/tester");
+  manager_->Unassign("KELD(IN)");
+  EXPECT_LT(manager_->FindPort("KELD(IN)"), 1);
+  EXPECT_THROW(manager_->OpenPort(1, "9600,O,8,1"), orvik::HostError);
+}
+
+TEST_F(PortManagerTest, KeepsTheReasonOfAFailedOpening) {
+  manager_->Assign("KELD(IN)", "/dev/tester");
+  EXPECT_THROW(manager_->OpenPort(0, "9600,O,8,1"), orvik::HostError);
+  EXPECT_NE(manager_->LastError().find("port 0"), std::string::npos);
+  EXPECT_THROW(manager_->OpenPort(1, "9600,Q,8,1"), orvik::HostError);
+  EXPECT_NE(manager_->LastError().find("parity \"Q\""), std::string::npos);
+  const auto held = manager_->OpenPort(1, "9600,O,8,1");
+  EXPECT_EQ(manager_->LastError(), "");
+  EXPECT_THROW(manager_->OpenPort(1, "9600,O,8,1"), orvik::HostError);
+  EXPECT_NE(manager_->LastError().find("held by another"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace bench

@@ -1,0 +1,65 @@
+#include "tests/unit/toolkit/ToolkitTest.h"
+
+namespace bench::headless {
+namespace {
+
+class ButtonTest : public ToolkitTest {
+ protected:
+  std::shared_ptr<platform::IForm> form = Shown("FForm");
+  std::shared_ptr<platform::IButton> button = form->AddButton("cmd");
+  std::shared_ptr<int> clicks = Count(button->Clicked());
+};
+
+TEST_F(ButtonTest, IsClicked) {
+  button->Click();
+  EXPECT_EQ(*clicks, 1);
+}
+
+TEST_F(ButtonTest, HiddenOrDisabledDoesNothing) {
+  button->SetVisible(false);
+  button->Click();
+  button->SetVisible(true);
+  button->SetEnabled(false);
+  button->Click();
+  EXPECT_EQ(*clicks, 0);
+}
+
+TEST_F(ButtonTest, OnAHiddenOrDisabledFormDoesNothing) {
+  form->Hide();
+  button->Click();
+  form->Show();
+  form->SetEnabled(false);
+  button->Click();
+  EXPECT_EQ(*clicks, 0);
+}
+
+TEST_F(ButtonTest, WithoutItsFormDoesNothing) {
+  form->Unload();
+  form.reset();
+  button->Click();
+  EXPECT_EQ(*clicks, 0);
+}
+
+TEST_F(ButtonTest, MayDisableItselfAndBeClickedFromInsideItsHandler) {
+  On(button->Clicked(), [&] {
+    button->SetEnabled(false);
+    button->Click();
+  });
+  button->Click();
+  EXPECT_EQ(*clicks, 1);
+}
+
+TEST_F(ButtonTest, GrowsWithItsCaption) {
+  platform::Grid grid;
+  grid.rows = {{}};
+  grid.columns = {{}};
+  grid.cells = {{"cmd", 0, 0}};
+  form->SetGrid(grid);
+  button->SetCaption("&OK");
+  const auto narrow = button->Bounds().width;
+  button->SetCaption("Guardar y cerrar la ventana");
+  EXPECT_GT(button->Bounds().width, narrow);
+}
+
+}  // namespace
+}  // namespace bench::headless

@@ -1,0 +1,47 @@
+#include <gtest/gtest.h>
+
+#include "toolkit/controls/LimitBound.h"
+
+namespace bench {
+namespace {
+
+TEST(LimitBound, IsSplitIntoNumberAndUnit) {
+  const auto expect = [](const char* text, const char* number, const char* unit) {
+    const auto bound = SplitBound(text, "mA");
+    EXPECT_EQ(bound.number, number) << text;
+    EXPECT_EQ(bound.unit, unit) << text;
+  };
+  expect("", "", "mA");
+  expect("0.5", "0.5", "mA");
+  expect(" 0.5 ", "0.5", "mA");
+  expect("110%", "110", "%");
+  expect("110 %", "110", "%");
+}
+
+TEST(LimitBound, IsJoinedAgain) {
+  EXPECT_EQ(JoinBound({"", "%"}), "");
+  EXPECT_EQ(JoinBound({"  ", "%"}), "");
+  EXPECT_EQ(JoinBound({" 0.5 ", "mA"}), "0.5");
+  EXPECT_EQ(JoinBound({"110", "%"}), "110%");
+  EXPECT_EQ(JoinBound({"110%", "%"}), "110%");
+  EXPECT_EQ(JoinBound({"110%", "mA"}), "110%");
+}
+
+TEST(LimitBound, IsReadWithItsUnit) {
+  EXPECT_EQ(BoundWithUnit("", "mA"), "");
+  EXPECT_EQ(BoundWithUnit("0.5", "mA"), "0.5 mA");
+  EXPECT_EQ(BoundWithUnit("110%", "mA"), "110 %");
+  EXPECT_EQ(BoundWithUnit("0.5", ""), "0.5");
+}
+
+TEST(LimitBound, KeepsTheUnitsThatABoundCanBeIn) {
+  using Units = std::vector<std::string>;
+  EXPECT_EQ(UsableUnits("V;%", "V"), (Units{"V", "%"}));
+  EXPECT_EQ(UsableUnits(";%", ""), (Units{"", "%"}));
+  EXPECT_EQ(UsableUnits("V", "V"), (Units{"V"}));
+  EXPECT_EQ(UsableUnits("", "V"), (Units{"V"}));
+  EXPECT_EQ(UsableUnits("V;mV;%;%", "V"), (Units{"V", "%"})) << "nobody converts millivolts";
+}
+
+}  // namespace
+}  // namespace bench

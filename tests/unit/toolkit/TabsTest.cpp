@@ -1,0 +1,95 @@
+#include "tests/unit/toolkit/ToolkitTest.h"
+#include "toolkit/headless/Tabs.h"
+
+namespace bench::headless {
+namespace {
+
+class TabsTest : public ToolkitTest {
+ protected:
+  std::shared_ptr<platform::IForm> form = Shown("FForm");
+  std::shared_ptr<platform::ITabs> tabs = form->AddTabs("tab");
+};
+
+TEST_F(TabsTest, ShowsTheFirstPageUntilAnotherIsChosen) {
+  EXPECT_EQ(tabs->SelectedKey(), "");
+  auto first = tabs->AddPage("tab:MtiData", "MTI Data");
+  auto second = tabs->AddPage("tab:Other", "Other");
+  EXPECT_EQ(tabs->Keys(), (std::vector<std::string>{"tab:MtiData", "tab:Other"}));
+  EXPECT_EQ(tabs->PageCaption("tab:Other"), "Other");
+  EXPECT_EQ(tabs->SelectedKey(), "tab:MtiData");
+  EXPECT_TRUE(first->Visible());
+  EXPECT_FALSE(second->Visible());
+  tabs->Choose("tab:Other");
+  EXPECT_EQ(tabs->SelectedKey(), "tab:Other");
+  EXPECT_FALSE(first->Visible());
+  EXPECT_TRUE(second->Visible());
+}
+
+TEST_F(TabsTest, OnlyTheChosenPageAnswers) {
+  tabs->AddPage("a", "A");
+  auto button = tabs->AddPage("b", "B")->AddButton("cmd");
+  auto clicks = Count(button->Clicked());
+  button->Click();
+  EXPECT_EQ(*clicks, 0);
+  tabs->Choose("b");
+  button->Click();
+  EXPECT_EQ(*clicks, 1);
+}
+
+TEST_F(TabsTest, ChoosingAnUnknownPageOrOnDisabledTabsDoesNothing) {
+  tabs->AddPage("a", "A");
+  tabs->AddPage("b", "B");
+  tabs->Choose("c");
+  tabs->SetEnabled(false);
+  tabs->Choose("b");
+  EXPECT_EQ(tabs->SelectedKey(), "a");
+}
+
+TEST_F(TabsTest, RefusesDoubledAndUnknownKeys) {
+  tabs->AddPage("a", "A");
+  ExpectHostError(5, "\"a\"", [&] { tabs->AddPage("a", "again"); });
+  ExpectHostError(9, "\"b\"", [&] { static_cast<void>(tabs->PageCaption("b")); });
+  ExpectHostError(9, "\"b\"", [&] { tabs->SetPageBitmap("b", {}); });
+  EXPECT_FALSE(tabs->Page("b"));
+}
+
+TEST_F(TabsTest, KeepsThePagesBitmap) {
+  tabs->AddPage("a", "A");
+  const std::vector<std::byte> bytes(3, std::byte{7});
+  tabs->SetPageBitmap("a", bytes);
+  EXPECT_EQ(std::dynamic_pointer_cast<Tabs>(tabs)->PageBitmap("a"), bytes);
+}
+
+TEST_F(TabsTest, PagesFillTheRoomBelowTheCaptions) {
+  auto first = tabs->AddPage("a", "A");
+  tabs->SetBounds({0, 0, 3000, 2000});
+  auto second = tabs->AddPage("b", "B");
+  EXPECT_EQ(first->InnerSize(), (platform::Size{3000, 1625}));
+  EXPECT_EQ(second->InnerSize(), (platform::Size{3000, 1625}));
+}
+
+TEST_F(TabsTest, TakesRoomForItsLargestPage) {
+  auto page = tabs->AddPage("a", "A");
+  auto label = page->AddLabel("lbl");
+  platform::Grid grid;
+  grid.rows = {{}};
+  grid.columns = {{}};
+  grid.cells = {{"lbl", 0, 0}};
+  page->SetGrid(grid);
+  grid.cells[0].control = "tab";
+  form->SetGrid(grid);
+  const auto before = tabs->Bounds();
+  label->SetCaption("a caption that is much longer than before");
+  EXPECT_GT(tabs->Bounds().width, before.width);
+}
+
+TEST_F(TabsTest, TimersOnPagesEndWithTheForm) {
+  auto timer = tabs->AddPage("a", "A")->AddTimer("tmr");
+  timer->SetInterval(10);
+  timer->SetEnabled(true);
+  form->Unload();
+  EXPECT_FALSE(timer->Enabled());
+}
+
+}  // namespace
+}  // namespace bench::headless

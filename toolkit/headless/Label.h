@@ -1,0 +1,20 @@
+#pragma once
+
+#include "platform/Controls.h"
+#include "toolkit/headless/Control.h"
+
+namespace bench::headless {
+
+class Label final : public Control, public virtual platform::ILabel {
+ public:
+  using Control::Control;
+  platform::Size NaturalSize() const override;
+};
+
+class Frame final : public Control, public virtual platform::IFrame {
+ public:
+  using Control::Control;
+  platform::Size NaturalSize() const override;
+};
+
+}  // namespace bench::headless
