@@ -28,7 +28,7 @@ using Texts = std::vector<std::string>;
 
 class ControlsOnScreen : public ScreenTest {};
 
-TEST_F(ControlsOnScreen, AButtonIsClickedByMouseAndByKeys) {
+TEST_F(ControlsOnScreen, ClickButtonsByMouseAndKeys) {
   auto button = NewForm("F").AddButton("cmdGo");
   button->SetCaption("&Go");
   const auto clicks = Count(button->Clicked());
@@ -45,7 +45,7 @@ TEST_F(ControlsOnScreen, AButtonIsClickedByMouseAndByKeys) {
   EXPECT_EQ(*clicks, 3);
 }
 
-TEST_F(ControlsOnScreen, ADisabledButtonIsNotClicked) {
+TEST_F(ControlsOnScreen, IgnoreClicksOnDisabledButtons) {
   auto button = NewForm("F").AddButton("cmdGo");
   const auto clicks = Count(button->Clicked());
   Column("F", {"cmdGo"});
@@ -57,7 +57,7 @@ TEST_F(ControlsOnScreen, ADisabledButtonIsNotClicked) {
   EXPECT_EQ(*clicks, 0);
 }
 
-TEST_F(ControlsOnScreen, TypedTextReachesTheWindowAndWhatAHandlerMakesOfItIsShown) {
+TEST_F(ControlsOnScreen, ShowWhatAHandlerMakesOfTypedText) {
   auto box = NewForm("F").AddTextBox("txtName");
   On(box->Changed(), [&] {
     if (box->Text() == "ab") box->SetText("AB");
@@ -73,7 +73,7 @@ TEST_F(ControlsOnScreen, TypedTextReachesTheWindowAndWhatAHandlerMakesOfItIsShow
   EXPECT_EQ(box->Text(), "ABc");
 }
 
-TEST_F(ControlsOnScreen, WhatIsOnItsWayIsNotTakenBack) {
+TEST_F(ControlsOnScreen, KeepTypedTextUntilTheModelHasIt) {
   auto box = NewForm("F").AddTextBox("txtName");
   Column("F", {"txtName"});
   auto& line = WidgetOf<QLineEdit>(*box);
@@ -87,7 +87,7 @@ TEST_F(ControlsOnScreen, WhatIsOnItsWayIsNotTakenBack) {
   EXPECT_EQ(line.text(), "a");
 }
 
-TEST_F(ControlsOnScreen, WhatTheWindowDidNotTakeIsTakenBack) {
+TEST_F(ControlsOnScreen, ResetInputThatTheModelRejects) {
   auto tree = NewForm("F").AddTreeView("tvw");
   tree->AddNode("a", "First");
   auto form = Column("F", {"tvw"});
@@ -102,7 +102,7 @@ TEST_F(ControlsOnScreen, WhatTheWindowDidNotTakeIsTakenBack) {
   EXPECT_EQ(widget.topLevelItem(0)->checkState(0), Qt::Unchecked);
 }
 
-TEST_F(ControlsOnScreen, ALockedTextTakesNoTyping) {
+TEST_F(ControlsOnScreen, RejectTypingInLockedText) {
   auto box = NewForm("F").AddTextBox("txtName");
   box->SetText("kept");
   box->SetLocked(true);
@@ -113,7 +113,7 @@ TEST_F(ControlsOnScreen, ALockedTextTakesNoTyping) {
   ExpectMirrored();
 }
 
-TEST_F(ControlsOnScreen, ATextBecomesOneOfSeveralLines) {
+TEST_F(ControlsOnScreen, ReplaceTheWidgetForMultiLineText) {
   auto box = NewForm("F").AddTextBox("txtComment");
   Column("F", {"txtComment"});
   EXPECT_NE(dynamic_cast<QLineEdit*>(&WidgetOf(*box)), nullptr);
@@ -128,7 +128,7 @@ TEST_F(ControlsOnScreen, ATextBecomesOneOfSeveralLines) {
   EXPECT_EQ(box->Text(), "one\ntwo!");
 }
 
-TEST_F(ControlsOnScreen, AnEntryIsChosenWithTheKeyboard) {
+TEST_F(ControlsOnScreen, ChooseEntriesWithTheKeyboard) {
   auto box = NewForm("F").AddComboBox("cboUnit");
   box->SetEditable(false);
   for (const char* unit : {"V", "mA", "Ohm"}) box->AddItem(unit);
@@ -147,7 +147,7 @@ TEST_F(ControlsOnScreen, AnEntryIsChosenWithTheKeyboard) {
   EXPECT_EQ(widget.currentText(), "Ohm");
 }
 
-TEST_F(ControlsOnScreen, AnEditableBoxTakesTypedTextAsItIs) {
+TEST_F(ControlsOnScreen, DoNotCompleteTypedText) {
   auto box = NewForm("F").AddComboBox("cboSerial");
   box->AddItem("4711");
   Column("F", {"cboSerial"});
@@ -159,7 +159,7 @@ TEST_F(ControlsOnScreen, AnEditableBoxTakesTypedTextAsItIs) {
   ExpectMirrored();
 }
 
-TEST_F(ControlsOnScreen, ACheckMarkIsTurnedOverByMouse) {
+TEST_F(ControlsOnScreen, ToggleCheckMarksByMouse) {
   auto tree = NewForm("F").AddTreeView("tvwSettings");
   tree->AddNode("a", "First");
   tree->AddNode("b", "Second");
@@ -175,7 +175,7 @@ TEST_F(ControlsOnScreen, ACheckMarkIsTurnedOverByMouse) {
   ExpectMirrored();
 }
 
-TEST_F(ControlsOnScreen, ACheckMarkThatAHandlerSetsBackIsShownSo) {
+TEST_F(ControlsOnScreen, ShowACheckMarkThatAHandlerResets) {
   auto tree = NewForm("F").AddTreeView("tvwSettings");
   tree->AddNode("a", "First");
   tree->SetChecked("a", true);
@@ -212,7 +212,7 @@ class ListOnScreen : public ScreenTest {
   std::shared_ptr<platform::IListView> list;
 };
 
-TEST_F(ListOnScreen, RowsHaveTheirWeightAndColour) {
+TEST_F(ListOnScreen, ShowsWeightAndColourOfRows) {
   AddRow("1", "12 mOhm");
   AddRow("2", "1850 mOhm", true);
   Pump();
@@ -225,7 +225,7 @@ TEST_F(ListOnScreen, RowsHaveTheirWeightAndColour) {
   ExpectMirrored();
 }
 
-TEST_F(ListOnScreen, RowsComeGoAndComeAgain) {
+TEST_F(ListOnScreen, ShowsRowsAfterClearing) {
   for (const char* key : {"1", "2", "3"}) AddRow(key, key);
   Pump();
   list->ClearRows();
@@ -237,7 +237,7 @@ TEST_F(ListOnScreen, RowsComeGoAndComeAgain) {
   EXPECT_EQ(Index(0, 1).data().toString(), "nine");
 }
 
-TEST_F(ListOnScreen, AClickSelectsTheRowUnderThePointer) {
+TEST_F(ListOnScreen, SelectsTheClickedRow) {
   for (const char* key : {"1", "2", "3"}) AddRow(key, key);
   std::vector<int> buttons;
   On(list->MouseUp(), [&](const platform::MouseEvent& mouse) { buttons.push_back(mouse.button); });
@@ -251,7 +251,7 @@ TEST_F(ListOnScreen, AClickSelectsTheRowUnderThePointer) {
   EXPECT_EQ(buttons, (std::vector<int>{1, 2}));
 }
 
-TEST_F(ListOnScreen, TheSelectionOfTheWindowIsSeen) {
+TEST_F(ListOnScreen, ScrollsToTheSelectedRow) {
   for (int row = 0; row < 200; ++row) AddRow(std::to_string(row), "x");
   list->SelectRow("150");
   list->EnsureVisible("150");
@@ -260,7 +260,7 @@ TEST_F(ListOnScreen, TheSelectionOfTheWindowIsSeen) {
   EXPECT_TRUE(View().viewport()->rect().intersects(View().visualRect(Index(150, 0))));
 }
 
-TEST_F(ListOnScreen, AHundredThousandRowsAreNotCopied) {
+TEST_F(ListOnScreen, ShowsAHundredThousandRows) {
   for (int row = 0; row < 100000; ++row) list->AddRow(std::to_string(row));
   Pump();
   EXPECT_EQ(View().model()->rowCount(), 100000);
@@ -285,7 +285,7 @@ class ToolbarOnScreen : public ScreenTest {
   std::vector<int> chosen;
 };
 
-TEST_F(ToolbarOnScreen, ButtonsAreClicked) {
+TEST_F(ToolbarOnScreen, ChoosesEnabledCommandsOnly) {
   person::Click(Button(202));
   Pump();
   EXPECT_EQ(chosen, std::vector<int>{202});
@@ -296,14 +296,14 @@ TEST_F(ToolbarOnScreen, ButtonsAreClicked) {
   EXPECT_EQ(chosen, std::vector<int>{202});
 }
 
-TEST_F(ToolbarOnScreen, ButtonsCanBeReachedWithTheKeyboard) {
+TEST_F(ToolbarOnScreen, CanBeUsedWithTheKeyboard) {
   Button(202).setFocus(Qt::TabFocusReason);
   QTest::keyClick(&Button(202), Qt::Key_Space);
   Pump();
   EXPECT_EQ(chosen, std::vector<int>{202});
 }
 
-TEST_F(ToolbarOnScreen, AnEntryIsChosenFromTheOpenMenuWhileTimersGoOn) {
+TEST_F(ToolbarOnScreen, ServesTheLoopWhileAMenuIsOpen) {
   bool served = false;
   bool inMenu = false;
   app->Post([&] { served = Button(501).menu()->isVisible(); });
@@ -324,7 +324,7 @@ TEST_F(ToolbarOnScreen, AnEntryIsChosenFromTheOpenMenuWhileTimersGoOn) {
   EXPECT_EQ(chosen, std::vector<int>{900});
 }
 
-TEST_F(ToolbarOnScreen, AnEntryThatIsChosenWhenItsFormIsGoneDoesNothing) {
+TEST_F(ToolbarOnScreen, IgnoresEntriesOfAReleasedForm) {
   QPointer<QMenu> menu = Button(501).menu();
   QTimer::singleShot(0, menu, [&] {
     app->Post([&] {
@@ -341,7 +341,7 @@ TEST_F(ToolbarOnScreen, AnEntryThatIsChosenWhenItsFormIsGoneDoesNothing) {
   EXPECT_TRUE(menu.isNull());
 }
 
-TEST_F(ToolbarOnScreen, CaptionsFitTheirButtons) {
+TEST_F(ToolbarOnScreen, FitsButtonsToTheirCaptions) {
   for (const char* caption : {"Play", "Nicht anwendbar und noch viel länger"}) {
     toolbar->AddButton(static_cast<int>(std::string(caption).size()), caption);
     Pump();
@@ -352,7 +352,7 @@ TEST_F(ToolbarOnScreen, CaptionsFitTheirButtons) {
   }
 }
 
-TEST_F(ControlsOnScreen, APageIsChosenByItsTab) {
+TEST_F(ControlsOnScreen, ChoosePagesByTab) {
   auto tabs = NewForm("F").AddTabs("tab");
   tabs->AddPage("one", "One")->AddLabel("lblOne")->SetCaption("1");
   auto second = tabs->AddPage("two", "Two");
@@ -366,7 +366,7 @@ TEST_F(ControlsOnScreen, APageIsChosenByItsTab) {
   EXPECT_LE(bar.geometry().bottom(), WidgetOf(*second).geometry().top() + 1) << "the page covers its tab";
 }
 
-TEST_F(ControlsOnScreen, TextIsNeverMarkup) {
+TEST_F(ControlsOnScreen, NeverInterpretTextAsMarkup) {
   auto label = NewForm("F").AddLabel("lbl");
   label->SetCaption("<b>R&D</b> & more");
   label->SetToolTip("<b>x</b>");
@@ -376,7 +376,7 @@ TEST_F(ControlsOnScreen, TextIsNeverMarkup) {
   EXPECT_EQ(widget.toolTip(), "<qt>&lt;b&gt;x&lt;/b&gt;</qt>");
 }
 
-TEST_F(ControlsOnScreen, ALabelNamesTheControlAfterIt) {
+TEST_F(ControlsOnScreen, UseALabelAsNameOfTheNextControl) {
   auto& form = NewForm("F");
   form.AddLabel("lblSerial")->SetCaption("&Serial number:");
   auto box = form.AddTextBox("txtSerial");
@@ -387,7 +387,7 @@ TEST_F(ControlsOnScreen, ALabelNamesTheControlAfterIt) {
   EXPECT_EQ(WidgetOf(*button).accessibleName(), "Save & close");
 }
 
-TEST_F(ControlsOnScreen, ProgressIsShown) {
+TEST_F(ControlsOnScreen, ShowProgress) {
   auto bar = NewForm("F").AddProgressBar("prg");
   bar->SetRange(0, 8);
   bar->SetValue(3);
@@ -403,7 +403,7 @@ TEST_F(ControlsOnScreen, ProgressIsShown) {
   EXPECT_GT(widget.maximum(), widget.minimum()) << "a range without length would move for ever";
 }
 
-TEST_F(ControlsOnScreen, ColoursAreShown) {
+TEST_F(ControlsOnScreen, ShowColours) {
   auto label = NewForm("F").AddLabel("lbl");
   label->SetBackColor(platform::kRed);
   Column("F", {"lbl"});
@@ -415,7 +415,7 @@ TEST_F(ControlsOnScreen, ColoursAreShown) {
   EXPECT_NE(widget.palette().color(QPalette::Window), QColor(Qt::red));
 }
 
-TEST_F(ControlsOnScreen, NothingIsClipped) {
+TEST_F(ControlsOnScreen, AreNotClipped) {
   auto& form = NewForm("F");
   const std::string longest = "Messleitungskalibrierung durchführen und übernehmen";
   form.AddLabel("lbl")->SetCaption(longest);

@@ -51,14 +51,14 @@ class EventDispatcherTest : public testing::Test {
   std::array<int, 2> pipe_{};
 };
 
-TEST_F(EventDispatcherTest, AByteEndsASleep) {
+TEST_F(EventDispatcherTest, EndsASleepForAByte) {
   Watch();
   Send('x');
   WaitUntil([&] { return !received.empty(); });
   EXPECT_EQ(received, "x");
 }
 
-TEST_F(EventDispatcherTest, ATimeThatComesEndsASleep) {
+TEST_F(EventDispatcherTest, EndsASleepForATimer) {
   std::string order;
   app->CallAt(app->Now() + 2ms, [&] { order += "2"; });
   app->CallAt(app->Now() + 1ms, [&] { order += "1"; });
@@ -66,13 +66,13 @@ TEST_F(EventDispatcherTest, ATimeThatComesEndsASleep) {
   EXPECT_EQ(order, "12");
 }
 
-TEST_F(EventDispatcherTest, ADeadlineEndsASleepWithoutAnythingElse) {
+TEST_F(EventDispatcherTest, EndsASleepAtItsDeadline) {
   const Time deadline = app->Now() + 3ms;
   while (app->Now() < deadline) app->WaitMessages(deadline);
   SUCCEED();
 }
 
-TEST_F(EventDispatcherTest, AWakeUpFromAnotherThreadEndsASleep) {
+TEST_F(EventDispatcherTest, EndsASleepForAnotherThread) {
   bool woken = false;
   const auto listening = app->Woken().Subscribe([&] { woken = true; });
   std::thread other([&] { app->Wake(); });
@@ -83,7 +83,7 @@ TEST_F(EventDispatcherTest, AWakeUpFromAnotherThreadEndsASleep) {
   EXPECT_FALSE(woken) << "once is once";
 }
 
-TEST_F(EventDispatcherTest, AWaitInsideAWaitIsServed) {
+TEST_F(EventDispatcherTest, ServesNestedWaits) {
   Watch();
   std::string order;
   app->Post([&] {
@@ -95,7 +95,7 @@ TEST_F(EventDispatcherTest, AWaitInsideAWaitIsServed) {
   EXPECT_EQ(received, "y");
 }
 
-TEST_F(EventDispatcherTest, TimersAndPortsGoOnWhileQtsOwnLoopRuns) {
+TEST_F(EventDispatcherTest, ServesTimersAndPortsInALoopOfQt) {
   Watch();
   QEventLoop dialog;
   app->Post([&] {
@@ -111,7 +111,7 @@ TEST_F(EventDispatcherTest, TimersAndPortsGoOnWhileQtsOwnLoopRuns) {
   WaitUntil([&] { return received == "ab"; });
 }
 
-TEST_F(EventDispatcherTest, AWatchThatBeginsAndEndsWhileQtsOwnLoopRunsIsServed) {
+TEST_F(EventDispatcherTest, ServesWatchesStartedInALoopOfQt) {
   QEventLoop dialog;
   app->Post([&] {
     app->Post([&] {
@@ -130,7 +130,7 @@ TEST_F(EventDispatcherTest, AWatchThatBeginsAndEndsWhileQtsOwnLoopRunsIsServed) 
   EXPECT_EQ(received, "z");
 }
 
-TEST_F(EventDispatcherTest, AnErrorWhileQtsOwnLoopRunsReachesWhoeverWaits) {
+TEST_F(EventDispatcherTest, ThrowsErrorsInALoopOfQtToTheWaiter) {
   QEventLoop dialog;
   bool left = false;
   app->Post([&] {
@@ -162,7 +162,7 @@ TEST_F(EventDispatcherTest, ExecRunsUntilQuit) {
   EXPECT_EQ(errors, std::vector<std::string>{"first"});
 }
 
-TEST_F(EventDispatcherTest, TheLoopSleepsByItselfWhenTheScreenIsGone) {
+TEST_F(EventDispatcherTest, LeavesSleepingToTheLoopWhenRemoved) {
   Watch();
   screen.reset();
   Send('x');

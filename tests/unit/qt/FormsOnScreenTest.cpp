@@ -30,7 +30,7 @@ class FormsOnScreen : public ScreenTest {
   std::shared_ptr<platform::IButton> button_;
 };
 
-TEST_F(FormsOnScreen, AWindowComesAndGoesWithItsForm) {
+TEST_F(FormsOnScreen, AreVisibleWhileShown) {
   auto form = Window("First");
   EXPECT_TRUE(IsOnScreen(*form));
   EXPECT_EQ(WidgetOf(*form).windowTitle(), "First");
@@ -44,13 +44,13 @@ TEST_F(FormsOnScreen, AWindowComesAndGoesWithItsForm) {
   ExpectMirrored();
 }
 
-TEST_F(FormsOnScreen, AFormThatIsNotShownHasNoWindow) {
+TEST_F(FormsOnScreen, HaveNoWindowBeforeTheyAreShown) {
   NewForm("Later").AddButton("cmd");
   Pump();
   EXPECT_EQ(QApplication::topLevelWidgets().size(), 0);
 }
 
-TEST_F(FormsOnScreen, UnloadingDeletesTheWidgets) {
+TEST_F(FormsOnScreen, DeleteTheirWidgetsWhenUnloaded) {
   auto form = Window("First");
   QPointer<QWidget> window = &WidgetOf(*form);
   QPointer<QWidget> button = &WidgetOf(*form->Find("cmd"));
@@ -63,7 +63,7 @@ TEST_F(FormsOnScreen, UnloadingDeletesTheWidgets) {
   EXPECT_TRUE(IsOnScreen(*form->Find("cmd")));
 }
 
-TEST_F(FormsOnScreen, TheCrossAsksTheForm) {
+TEST_F(FormsOnScreen, DecideWhetherTheirWindowCloses) {
   auto form = Window("First");
   bool stays = true;
   On(form->CloseRequested(), [&](bool& keep) { keep = stays; });
@@ -77,7 +77,7 @@ TEST_F(FormsOnScreen, TheCrossAsksTheForm) {
   EXPECT_FALSE(form->Loaded());
 }
 
-TEST_F(FormsOnScreen, ControlsAddedLaterAppear) {
+TEST_F(FormsOnScreen, ShowControlsAddedLater) {
   auto form = Window("First");
   auto label = form->AddLabel("lblLate");
   label->SetBounds({0, 0, 1500, 300});
@@ -87,7 +87,7 @@ TEST_F(FormsOnScreen, ControlsAddedLaterAppear) {
   ExpectMirrored();
 }
 
-TEST_F(FormsOnScreen, AModalWindowKeepsTheOthersFromThePerson) {
+TEST_F(FormsOnScreen, AreBlockedByAModalWindow) {
   auto first = Window("First");
   const auto clicks = Count(ButtonOf(*first)->Clicked());
   auto second = Window("Second");
@@ -117,7 +117,7 @@ TEST_F(FormsOnScreen, AModalWindowKeepsTheOthersFromThePerson) {
   EXPECT_EQ(*clicks, 1);
 }
 
-TEST_F(FormsOnScreen, AWindowShownOverAModalOneCanBeUsed) {
+TEST_F(FormsOnScreen, CanBeUsedAboveAModalWindow) {
   auto modal = Window("Modal");
   modal->Hide();
   bool clicked = false;
@@ -137,7 +137,7 @@ TEST_F(FormsOnScreen, AWindowShownOverAModalOneCanBeUsed) {
   EXPECT_TRUE(clicked);
 }
 
-TEST_F(FormsOnScreen, AFormThatBecomesModalWhileItIsOpenBlocks) {
+TEST_F(FormsOnScreen, BlockOthersWhenTheyBecomeModal) {
   auto first = Window("First");
   auto second = Window("Second");
   app->Post([&] {
@@ -153,7 +153,7 @@ TEST_F(FormsOnScreen, AFormThatBecomesModalWhileItIsOpenBlocks) {
   EXPECT_EQ(WidgetOf(*second).windowModality(), Qt::NonModal);
 }
 
-TEST_F(FormsOnScreen, WindowsAreDialogsOfTheHostsWindow) {
+TEST_F(FormsOnScreen, AreDialogsOfTheHostWindow) {
   QWidget host;
   onScreen->SetHostWindow(&host);
   host.show();
@@ -165,7 +165,7 @@ TEST_F(FormsOnScreen, WindowsAreDialogsOfTheHostsWindow) {
   EXPECT_EQ(WidgetOf(*second).windowHandle()->transientParent(), WidgetOf(*first).windowHandle());
 }
 
-TEST_F(FormsOnScreen, WindowBelongsToQuestionOfTheHost) {
+TEST_F(FormsOnScreen, AreOwnedByAnOpenHostDialog) {
   QWidget host;
   onScreen->SetHostWindow(&host);
   host.show();
@@ -176,7 +176,7 @@ TEST_F(FormsOnScreen, WindowBelongsToQuestionOfTheHost) {
   EXPECT_EQ(WidgetOf(*form).windowHandle()->transientParent(), question.windowHandle());
 }
 
-TEST_F(FormsOnScreen, MinimisedWindowReturnsWithAClickIntoTheHosts) {
+TEST_F(FormsOnScreen, AreRestoredByAClickInTheHostWindow) {
   QWidget host;
   onScreen->SetHostWindow(&host);
   host.show();
@@ -187,7 +187,7 @@ TEST_F(FormsOnScreen, MinimisedWindowReturnsWithAClickIntoTheHosts) {
   EXPECT_FALSE(WidgetOf(*form).isMinimized());
 }
 
-TEST_F(FormsOnScreen, KeysComeToTheFormFirst) {
+TEST_F(FormsOnScreen, PreviewKeys) {
   auto form = Window("First");
   form->SetKeyPreview(true);
   std::vector<std::pair<int, int>> keys;
@@ -201,7 +201,7 @@ TEST_F(FormsOnScreen, KeysComeToTheFormFirst) {
   EXPECT_EQ(*clicks, 1) << "Return clicks the button that has the focus";
 }
 
-TEST_F(FormsOnScreen, AKeyThatEndsTheFormClicksNothing) {
+TEST_F(FormsOnScreen, ClickNothingWhenAKeyHidesThem) {
   auto form = Window("First");
   form->SetKeyPreview(true);
   On(form->KeyDown(), [&](int, int) { form->Hide(); });
@@ -211,7 +211,7 @@ TEST_F(FormsOnScreen, AKeyThatEndsTheFormClicksNothing) {
   EXPECT_EQ(*clicks, 0);
 }
 
-TEST_F(FormsOnScreen, TypingInAFormThatPreviewsKeysTypesOnce) {
+TEST_F(FormsOnScreen, TypeEachPreviewedKeyOnce) {
   auto box = NewForm("First").AddTextBox("txt");
   auto form = Column("First", {"txt"});
   form->SetKeyPreview(true);
@@ -222,7 +222,7 @@ TEST_F(FormsOnScreen, TypingInAFormThatPreviewsKeysTypesOnce) {
   EXPECT_EQ(*keys, 1);
 }
 
-TEST_F(FormsOnScreen, TheFocusIsWhereTheWindowsHaveIt) {
+TEST_F(FormsOnScreen, FollowTheFocusOfTheModel) {
   auto& form = NewForm("First");
   auto accept = form.AddButton("cmdAccept");
   auto decline = form.AddButton("cmdDecline");
@@ -241,7 +241,7 @@ TEST_F(FormsOnScreen, TheFocusIsWhereTheWindowsHaveIt) {
   EXPECT_EQ(QApplication::focusWidget(), &WidgetOf(*accept));
 }
 
-TEST_F(FormsOnScreen, AFocusThatTheWindowSystemChoosesMovesNothing) {
+TEST_F(FormsOnScreen, IgnoreFocusSetByTheWindowSystem) {
   auto& form = NewForm("First");
   auto accept = form.AddButton("cmdAccept");
   auto decline = form.AddButton("cmdDecline");
@@ -257,7 +257,7 @@ TEST_F(FormsOnScreen, AFocusThatTheWindowSystemChoosesMovesNothing) {
   EXPECT_TRUE(accept->HasFocus());
 }
 
-TEST_F(FormsOnScreen, TabGoesThroughTheControlsInTheirOrder) {
+TEST_F(FormsOnScreen, HaveTheModelsTabOrder) {
   auto& form = NewForm("First");
   auto serial = form.AddTextBox("txtSerial");
   auto unit = form.AddComboBox("cboUnit");
@@ -277,7 +277,7 @@ TEST_F(FormsOnScreen, TabGoesThroughTheControlsInTheirOrder) {
   EXPECT_TRUE(unit->HasFocus());
 }
 
-TEST_F(FormsOnScreen, AnotherWindowBecomesTheActiveOne) {
+TEST_F(FormsOnScreen, AreActivatedByAClick) {
   auto first = Window("First");
   auto second = Window("Second");
   EXPECT_EQ(QApplication::activeWindow(), &WidgetOf(*second));
@@ -291,7 +291,7 @@ TEST_F(FormsOnScreen, AnotherWindowBecomesTheActiveOne) {
   EXPECT_FALSE(IsOnScreen(*first));
 }
 
-TEST_F(FormsOnScreen, WhoeverDragsTheBorderGivesTheFormItsSize) {
+TEST_F(FormsOnScreen, CanBeResizedByTheUser) {
   auto form = Window("First");
   const auto resized = Count(form->Resized());
   WidgetOf(*form).windowHandle()->resize(400, 300);
@@ -302,7 +302,7 @@ TEST_F(FormsOnScreen, WhoeverDragsTheBorderGivesTheFormItsSize) {
   ExpectMirrored();
 }
 
-TEST_F(FormsOnScreen, AFormKeepsItsOwnSizeUntilSomebodyDragsIt) {
+TEST_F(FormsOnScreen, GrowWithTheirContentUntilResized) {
   auto form = Window("First");
   form->Find("cmd")->SetCaption("A caption that needs much more room than the column has to give");
   Pump();
@@ -310,7 +310,7 @@ TEST_F(FormsOnScreen, AFormKeepsItsOwnSizeUntilSomebodyDragsIt) {
   ExpectMirrored();
 }
 
-TEST_F(FormsOnScreen, ADockedControlIsShownInItsNewWindowAndComesHome) {
+TEST_F(FormsOnScreen, ShowDockedControlsInTheirNewWindow) {
   auto home = Window("Home");
   auto site = home->AddControl("test.Probe", "ctl");
   site->SetBounds({0, 600, 3000, 900});
@@ -333,7 +333,7 @@ TEST_F(FormsOnScreen, ADockedControlIsShownInItsNewWindowAndComesHome) {
   ExpectMirrored();
 }
 
-TEST_F(FormsOnScreen, AControlDockedFromAFormThatIsNotShownIsShown) {
+TEST_F(FormsOnScreen, ShowControlsDockedFromHiddenForms) {
   auto& hidden = NewForm("Hidden");
   auto site = hidden.AddControl("test.Probe", "ctl");
   auto other = Window("Other");
@@ -347,7 +347,7 @@ TEST_F(FormsOnScreen, AControlDockedFromAFormThatIsNotShownIsShown) {
   EXPECT_FALSE(IsOnScreen(*site));
 }
 
-TEST_F(FormsOnScreen, AFormIsEmbeddedInAWindowOfTheHost) {
+TEST_F(FormsOnScreen, CanBeEmbeddedInTheHostWindow) {
   QWidget host;
   QVBoxLayout layout(&host);
   auto& form = NewForm("Inside");
@@ -375,7 +375,7 @@ TEST_F(FormsOnScreen, AFormIsEmbeddedInAWindowOfTheHost) {
   EXPECT_FALSE(inside->isVisible());
 }
 
-TEST_F(FormsOnScreen, TheHostsWindowMayTakeAnEmbeddedFormAlong) {
+TEST_F(FormsOnScreen, SurviveDeletionOfTheirHostWindow) {
   auto host = std::make_unique<QWidget>();
   auto& form = NewForm("Inside");
   form.AddButton("cmd");
@@ -390,7 +390,7 @@ TEST_F(FormsOnScreen, TheHostsWindowMayTakeAnEmbeddedFormAlong) {
   EXPECT_TRUE(form.Visible());
 }
 
-TEST_F(FormsOnScreen, AnErrorOfAHandlerGoesToWhoeverProcessesMessages) {
+TEST_F(FormsOnScreen, ThrowHandlerErrorsToTheCaller) {
   auto form = Window("First");
   On(ButtonOf(*form)->Clicked(), [] { throw orvik::HostError(5, "test", "refused"); });
   ExpectHostError(5, "refused", [&] {
@@ -400,7 +400,7 @@ TEST_F(FormsOnScreen, AnErrorOfAHandlerGoesToWhoeverProcessesMessages) {
   Pump();
 }
 
-TEST_F(FormsOnScreen, AnErrorOfAHandlerGoesToItsPlaceIfThereIsOne) {
+TEST_F(FormsOnScreen, PassHandlerErrorsToTheErrorHandler) {
   auto form = Window("First");
   On(ButtonOf(*form)->Clicked(), [] { throw orvik::HostError(5, "test", "refused"); });
   Texts errors;
@@ -410,10 +410,10 @@ TEST_F(FormsOnScreen, AnErrorOfAHandlerGoesToItsPlaceIfThereIsOne) {
   EXPECT_EQ(errors, Texts{"refused"});
 }
 
-TEST_F(FormsOnScreen, OpenWindowsVanishWithTheScreenAndTheFormsStay) {
+TEST_F(FormsOnScreen, OutliveTheScreen) {
   auto form = Window("First");
   QPointer<QWidget> window = &WidgetOf(*form);
-  // Still on its way when the screen goes.
+  // Still pending when the screen is destroyed.
   window->windowHandle()->close();
   screen.reset();
   onScreen.reset();
@@ -423,16 +423,12 @@ TEST_F(FormsOnScreen, OpenWindowsVanishWithTheScreenAndTheFormsStay) {
   EXPECT_TRUE(form->Visible());
 }
 
-TEST_F(FormsOnScreen, AScreenThatComesLaterShowsWhatIsThere) {
+TEST_F(FormsOnScreen, AreShownOnAScreenCreatedLater) {
   screen.reset();
   onScreen.reset();
   auto form = app->CreateForm("First");
   auto button = form->AddButton("cmd");
-  platform::Grid grid;
-  grid.rows = {{}};
-  grid.columns = {{}};
-  grid.cells = {{"cmd", 0, 0}};
-  form->SetGrid(grid);
+  form->SetGrid(OneColumn({"cmd"}));
   button->SetCaption("A long caption in real letters");
   form->Show();
   onScreen = std::make_shared<qt::Screen>(app);

@@ -70,7 +70,7 @@ class GuideOnScreen : public GuideTest {
   std::string answer_ = "cmdDecline";
 };
 
-TEST_F(GuideOnScreen, PlayMeasuresAndShowsTheValue) {
+TEST_F(GuideOnScreen, MeasuresAndShowsTheValue) {
   const auto element = Element(410);
   Perform(element, [&](GuideScreen) {
     screen_.Update();
@@ -87,7 +87,7 @@ TEST_F(GuideOnScreen, PlayMeasuresAndShowsTheValue) {
   EXPECT_TRUE(left_);
 }
 
-TEST_F(GuideOnScreen, WhileItMeasuresOnlyStopAndAbortCanBePressed) {
+TEST_F(GuideOnScreen, OffersOnlyStopAndAbortDuringATest) {
   bool looked = false;
   Perform(Element(410), [&](GuideScreen) {
     When("GRES", [&] {
@@ -104,7 +104,7 @@ TEST_F(GuideOnScreen, WhileItMeasuresOnlyStopAndAbortCanBePressed) {
   EXPECT_TRUE(looked);
 }
 
-TEST_F(GuideOnScreen, StopEndsTheSessionAndNothingIsMeasured) {
+TEST_F(GuideOnScreen, EndsTheSessionOnStop) {
   const auto element = Element(410);
   Perform(element, [&](GuideScreen) {
     When("STST", [&] { Press(kStop); });
@@ -117,7 +117,7 @@ TEST_F(GuideOnScreen, StopEndsTheSessionAndNothingIsMeasured) {
   EXPECT_EQ(element->Result()->Status(), 0);
 }
 
-TEST_F(GuideOnScreen, AbortAsksAndNoGoesOn) {
+TEST_F(GuideOnScreen, ContinuesAfterNoToAbort) {
   Perform(Element(410), [&](GuideScreen) {
     When("STST", [&] { Press(kAbort); });
     Press(kPlay);
@@ -127,7 +127,7 @@ TEST_F(GuideOnScreen, AbortAsksAndNoGoesOn) {
   EXPECT_EQ(windows_, std::vector<std::string>{"FYesNoPrompt"});
 }
 
-TEST_F(GuideOnScreen, AbortAsksAndYesEndsTheTest) {
+TEST_F(GuideOnScreen, EndsTheTestAfterYesToAbort) {
   answer_ = "cmdAccept";
   Perform(Element(410), [&](GuideScreen) {
     When("STST", [&] { Press(kAbort); });
@@ -138,7 +138,7 @@ TEST_F(GuideOnScreen, AbortAsksAndYesEndsTheTest) {
   EXPECT_TRUE(left_);
 }
 
-TEST_F(GuideOnScreen, TheQuestionIsAnsweredWithAKey) {
+TEST_F(GuideOnScreen, AnswersTheQuestionWithAKey) {
   onWindow_ = [&](const std::shared_ptr<orvik::platform::IForm>& form) {
     screen_.Update();
     person::Press(*screen_.WidgetOf(*form), Qt::Key_Y);
@@ -148,7 +148,7 @@ TEST_F(GuideOnScreen, TheQuestionIsAnsweredWithAKey) {
   EXPECT_TRUE(left_);
 }
 
-TEST_F(GuideOnScreen, ReturnAloneIsNoConsent) {
+TEST_F(GuideOnScreen, DoesNotTakeReturnForYes) {
   onWindow_ = [&](const std::shared_ptr<orvik::platform::IForm>& form) {
     screen_.Update();
     person::Press(*screen_.WidgetOf(*form), Qt::Key_Return);
@@ -160,7 +160,7 @@ TEST_F(GuideOnScreen, ReturnAloneIsNoConsent) {
   EXPECT_FALSE(left_);
 }
 
-TEST_F(GuideOnScreen, TheCrossOfTheGuideIsAbort) {
+TEST_F(GuideOnScreen, AbortsWhenItsWindowIsClosed) {
   answer_ = "cmdAccept";
   Perform(Element(410), [&](GuideScreen) {
     screen_.Update();
@@ -171,7 +171,7 @@ TEST_F(GuideOnScreen, TheCrossOfTheGuideIsAbort) {
   EXPECT_TRUE(left_);
 }
 
-TEST_F(GuideOnScreen, AFailedValueIsBoldAndRed) {
+TEST_F(GuideOnScreen, ShowsAFailedValueInBoldRed) {
   auto standards = Make<orvik::IStandardColl>(orvik::HostClasses::kStandardColl);
   standards->Add(Standard("IEC 60601-1", "100"));
   controller_->standards = standards;

@@ -96,7 +96,7 @@ TEST_P(ListDelegateTest, FailedRowIsRedSelectedOrNot) {
   EXPECT_GE(BestContrast(cell), kLegible);
 }
 
-TEST_P(ListDelegateTest, OtherSelectedRowIsShownAsTheStyleDoes) {
+TEST_P(ListDelegateTest, LeavesOtherSelectedRowsToTheStyle) {
   list_->SelectRow("1");
   Pump();
   EXPECT_FALSE(HasReddish(Painted(0, 0)));
@@ -129,13 +129,13 @@ INSTANTIATE_TEST_SUITE_P(Palettes, ListDelegateTest, testing::Bool(),
                            return palette.param ? "Dark" : "Light";
                          });
 
-TEST(Contrast, IsThatOfTheGuidelines) {
+TEST(Contrast, FollowsTheAccessibilityGuidelines) {
   EXPECT_NEAR(qt::Contrast(Qt::black, Qt::white), 21, 0.01);
   EXPECT_NEAR(qt::Contrast(Qt::white, Qt::red), 4.0, 0.01);
   EXPECT_NEAR(qt::Contrast(Qt::blue, Qt::blue), 1, 0.01);
 }
 
-TEST(Contrast, LegibleKeepsWhatCanBeReadAndChangesTheRest) {
+TEST(Contrast, ChangesOnlyIllegibleColours) {
   EXPECT_EQ(qt::Legible(Qt::black, Qt::white), QColor(Qt::black));
   for (const QColor background : {Qt::white, Qt::black, Qt::gray, Qt::blue, Qt::yellow})
     EXPECT_GE(qt::Contrast(qt::Legible(Qt::red, background), background), kLegible);

@@ -8,7 +8,7 @@
 
 namespace support {
 
-/// What a person does at the screen. The events go to the window, as those of a real mouse do: what is under
+/// What a user does at the screen. The events are sent to the window, as those of a real mouse: what is under
 /// the pointer gets them, and what is blocked gets none.
 namespace person {
 

@@ -13,9 +13,9 @@
 #include "toolkit/headless/Application.h"
 #include "toolkit/headless/IScreen.h"
 
-// The main program of tests that also run without a screen: here every application has one. What changes is
-// shown at once, so that a change which nobody notes is seen; at every turn of the message pump, and at the
-// end of each test, the widgets must show what the windows hold.
+// The main program of tests that also run without a screen: here every application has one. Changes are shown at
+// once, to find a change without notification. Whenever messages are processed, and at the end of each test, the
+// widgets must show the state of the windows.
 namespace support {
 namespace {
 

@@ -12,12 +12,12 @@
 
 namespace bench::headless {
 
-/// A desk whose windows are on the screen.
+/// Windows on the screen.
 class ScreenTest : public ToolkitTest {
  protected:
   ScreenTest() { screen = onScreen; }
 
-  /// Lets everything that is pending happen and be shown.
+  /// Processes and shows everything that is pending.
   void Pump() const {
     for (int turn = 0; turn < 3; ++turn) app->ProcessMessages();
     onScreen->Update();
@@ -38,28 +38,22 @@ class ScreenTest : public ToolkitTest {
     EXPECT_EQ(support::Differences(finder, *app), std::vector<std::string>{});
   }
 
-  /// A form on which controls stand below each other.
+  /// Shows the newest form with the controls below each other.
   std::shared_ptr<platform::IForm> Column(const std::string& name, const std::vector<std::string>& controls) {
     auto form = forms_.back();
-    platform::Grid grid;
-    grid.columns = {{4500, 1}};
-    for (const auto& control : controls) {
-      grid.cells.push_back({control, static_cast<int>(grid.rows.size()), 0});
-      grid.rows.push_back({});
-    }
-    form->SetGrid(grid);
+    form->SetGrid(OneColumn(controls, {4500, 1}));
     form->SetCaption(name);
     form->Show();
     Pump();
     return form;
   }
-  /// A form that is not shown yet.
+  /// Creates a form without showing it.
   platform::IForm& NewForm(const std::string& name) {
     forms_.push_back(app->CreateForm(name));
     return *forms_.back();
   }
 
-  /// The form that was made last.
+  /// The form that was created last.
   std::shared_ptr<platform::IForm> Newest() const { return forms_.back(); }
   void ReleaseForms() { forms_.clear(); }
 

@@ -8,7 +8,7 @@
 namespace bench::qt {
 namespace {
 
-TEST(TextsOnScreen, OnlyAMarkBeforeALetterOrDigitIsAnAccessKey) {
+TEST(TextsOnScreen, HaveAccessKeysBeforeLettersAndDigits) {
   EXPECT_EQ(WithAccessKey("&Save && close"), "&Save && close");
   EXPECT_EQ(WithoutAccessKey("&Save && close"), "Save & close");
   EXPECT_EQ(WithoutAccessKey("lead & clamp"), "lead & clamp");
@@ -17,7 +17,7 @@ TEST(TextsOnScreen, OnlyAMarkBeforeALetterOrDigitIsAnAccessKey) {
   EXPECT_EQ(WithAccessKey("Prüfung &ändern"), "Prüfung &ändern");
 }
 
-TEST(UnitsOnScreen, AnInchIsAnInch) {
+TEST(UnitsOnScreen, HaveAnInchOf1440Twips) {
   const Units units;
   EXPECT_EQ(units.Pixels(1440), 96);
   EXPECT_EQ(units.Twips(96), 1440);

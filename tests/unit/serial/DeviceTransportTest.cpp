@@ -53,7 +53,7 @@ class DeviceTransportTest : public testing::Test {
   int failures_ = 0;
 };
 
-TEST_F(DeviceTransportTest, CarriesBytesBothWaysUnchanged) {
+TEST_F(DeviceTransportTest, TransfersAllBytesUnchanged) {
   const auto transport = Open(terminal_.Path());
   std::string all;
   for (int byte = 0; byte < 256; ++byte) all.push_back(static_cast<char>(byte));
@@ -65,7 +65,7 @@ TEST_F(DeviceTransportTest, CarriesBytesBothWaysUnchanged) {
 }
 
 // A pseudo-terminal drops the parity bit, and says so from the second time on.
-TEST_F(DeviceTransportTest, APseudoTerminalOpensAgainAndAgain) {
+TEST_F(DeviceTransportTest, OpensAPseudoTerminalRepeatedly) {
   for (int turn = 0; turn < 3; ++turn) {
     const auto transport = Open(terminal_.Path());
     EXPECT_TRUE(transport->IsOpen()) << turn;
@@ -74,7 +74,7 @@ TEST_F(DeviceTransportTest, APseudoTerminalOpensAgainAndAgain) {
   }
 }
 
-TEST_F(DeviceTransportTest, ThrowsAwayWhatCameInBeforeItWasOpened) {
+TEST_F(DeviceTransportTest, DiscardsBytesReceivedBeforeOpening) {
   terminal_.Send("old\r\n");
   const auto transport = Open(terminal_.Path());
   terminal_.Send("new\r\n");
@@ -82,7 +82,7 @@ TEST_F(DeviceTransportTest, ThrowsAwayWhatCameInBeforeItWasOpened) {
   EXPECT_EQ(received_, "new\r\n");
 }
 
-TEST_F(DeviceTransportTest, UnpluggingReadsAsClosed) {
+TEST_F(DeviceTransportTest, ClosesWhenUnplugged) {
   const auto transport = Open(terminal_.Path());
   terminal_.Send("last");
   EXPECT_TRUE(WaitUntil([&] { return received_ == "last"; }));
@@ -93,7 +93,7 @@ TEST_F(DeviceTransportTest, UnpluggingReadsAsClosed) {
   EXPECT_EQ(failures_, 1);
 }
 
-TEST_F(DeviceTransportTest, WritingToAnUnpluggedDeviceFailsAndCloses) {
+TEST_F(DeviceTransportTest, ClosesWhenWritingToAnUnpluggedDevice) {
   const auto transport = Open(terminal_.Path());
   terminal_.HangUp();
   EXPECT_THROW(transport->Write("x"), HostError);
@@ -101,13 +101,13 @@ TEST_F(DeviceTransportTest, WritingToAnUnpluggedDeviceFailsAndCloses) {
   EXPECT_EQ(failures_, 1);
 }
 
-TEST_F(DeviceTransportTest, ADeviceThatTakesNothingFailsInsteadOfHanging) {
+TEST_F(DeviceTransportTest, FailsWhenTheDeviceAcceptsNothing) {
   const auto transport = Open(terminal_.Path());
   EXPECT_THROW(transport->Write(std::string(1'000'000, 'x')), HostError);
   EXPECT_FALSE(transport->IsOpen());
 }
 
-TEST_F(DeviceTransportTest, MayBeLetGoOfFromItsReceiver) {
+TEST_F(DeviceTransportTest, MayBeReleasedByItsReceiver) {
   auto transport = Open(terminal_.Path());
   bool heard = false;
   transport->SetReceiver([&](std::string_view) {
@@ -119,7 +119,7 @@ TEST_F(DeviceTransportTest, MayBeLetGoOfFromItsReceiver) {
   EXPECT_FALSE(transport);
 }
 
-TEST_F(DeviceTransportTest, ASecondHolderIsKeptOut) {
+TEST_F(DeviceTransportTest, RejectsASecondHolder) {
   auto first = Open(terminal_.Path());
   EXPECT_NE(RefusalOf(terminal_.Path()).find("held by another program"), std::string::npos);
   EXPECT_THROW(Open(terminal_.Path()), BusyError);
@@ -127,7 +127,7 @@ TEST_F(DeviceTransportTest, ASecondHolderIsKeptOut) {
   EXPECT_TRUE(Open(terminal_.Path())->IsOpen());
 }
 
-TEST_F(DeviceTransportTest, ASecondProgramIsKeptOut) {
+TEST_F(DeviceTransportTest, RejectsASecondProgram) {
   const auto first = Open(terminal_.Path());
   const pid_t child = fork();
   if (child == 0) {
@@ -145,7 +145,7 @@ TEST_F(DeviceTransportTest, ASecondProgramIsKeptOut) {
   EXPECT_EQ(WEXITSTATUS(status), 0);
 }
 
-TEST_F(DeviceTransportTest, RefusesWhatIsNoSerialDevice) {
+TEST_F(DeviceTransportTest, RejectsOtherFiles) {
   const auto folder = std::filesystem::path(testing::TempDir()) / ("serial-" + std::to_string(getpid()));
   std::filesystem::create_directories(folder);
   const auto file = folder / "file";
@@ -161,11 +161,11 @@ TEST_F(DeviceTransportTest, RefusesWhatIsNoSerialDevice) {
   std::filesystem::remove_all(folder);
 }
 
-TEST_F(DeviceTransportTest, RefusesARateThatIsNotThere) {
+TEST_F(DeviceTransportTest, RejectsAnUnknownRate) {
   EXPECT_THROW(DeviceTransport(terminal_.Path(), ParseLineSettings("9601,N,8,1"), loop_), HostError);
 }
 
-TEST_F(DeviceTransportTest, RefusesStopBitsThatTheHardwareLacks) {
+TEST_F(DeviceTransportTest, RejectsUnsupportedStopBits) {
   EXPECT_THROW(DeviceTransport(terminal_.Path(), ParseLineSettings("9600,N,8,1.5"), loop_), HostError);
   EXPECT_THROW(DeviceTransport(terminal_.Path(), ParseLineSettings("9600,N,5,2"), loop_), HostError);
 }

@@ -60,7 +60,7 @@ class DoubtTrackerTest : public testing::Test {
       Port::Create(std::make_unique<MemoryTransport>(line_), loop_, wire_, "memory");
 };
 
-TEST_F(DoubtTrackerTest, NotesNothingOfASoundRun) {
+TEST_F(DoubtTrackerTest, AcceptsAValidRun) {
   tracker_.ElementStarts(1);
   Exchange("IREM", {}, "irem,KELD(IN),SIM-0001,3.10");
   Exchange("STST", {"410", "0"}, "stst,410,0");
@@ -70,7 +70,7 @@ TEST_F(DoubtTrackerTest, NotesNothingOfASoundRun) {
   EXPECT_EQ(Codes(), Texts());
 }
 
-TEST_F(DoubtTrackerTest, DoubtsAReplyThatWasWaiting) {
+TEST_F(DoubtTrackerTest, DoubtsAReplyReceivedBeforeItsCommand) {
   tracker_.ElementStarts(1);
   Exchange("GRES", {"410", "0"}, "gres,410,0,0.123,0,Ohm");
   line_->Deliver("gres,410,0,0.123,0,Ohm\r\n");
@@ -79,7 +79,7 @@ TEST_F(DoubtTrackerTest, DoubtsAReplyThatWasWaiting) {
   EXPECT_EQ(tracker_.Of(1), (std::vector<Reason>{{"late-reply", {"STST,210,0"}}}));
 }
 
-TEST_F(DoubtTrackerTest, DoubtsAReplyThatNamesAnotherTestOrSetting) {
+TEST_F(DoubtTrackerTest, DoubtsAReplyForAnotherTestOrSetting) {
   EXPECT_EQ(CodesOfReading("gres,420,0,0.123,0,Ohm"), Texts{"other-test-named"});
   EXPECT_EQ(CodesOfReading("gres,410,1,0.123,0,Ohm"), Texts{"other-test-named"});
   EXPECT_EQ(CodesOf("STST", {"410", "0"}, "stst,420,0"), Texts{"other-test-named"});
@@ -87,13 +87,13 @@ TEST_F(DoubtTrackerTest, DoubtsAReplyThatNamesAnotherTestOrSetting) {
 }
 
 // The protocol lets a tester confirm a command by its name alone.
-TEST_F(DoubtTrackerTest, NotesNothingOfAReplyThatNamesNoTest) {
+TEST_F(DoubtTrackerTest, AcceptsAReplyWithoutTestAndSetting) {
   EXPECT_EQ(CodesOf("STST", {"410", "0"}, "stst"), Texts());
   EXPECT_EQ(CodesOf("STST", {"410", "0"}, "stst,410"), Texts());
   EXPECT_EQ(CodesOf("STST", {"410", "0"}, "stst, 410 ,0"), Texts());
 }
 
-TEST_F(DoubtTrackerTest, DoubtsADroppedLine) {
+TEST_F(DoubtTrackerTest, DoubtsAnInvalidLine) {
   tracker_.ElementStarts(1);
   Send("GRES", {"410", "0"});
   line_->Deliver("gres,4\x01\r\n");
@@ -104,7 +104,7 @@ TEST_F(DoubtTrackerTest, DoubtsAnOverload) {
   EXPECT_EQ(CodesOfReading("gres,410,0,20,1,Ohm"), Texts{"overload"});
 }
 
-TEST_F(DoubtTrackerTest, DoubtsAReadingThatIsNotWhole) {
+TEST_F(DoubtTrackerTest, DoubtsAnInvalidReading) {
   const std::pair<const char*, Texts> rows[] = {
       {"gres", {"reading-fields"}},
       {"gres,410", {"reading-fields"}},
@@ -124,7 +124,7 @@ TEST_F(DoubtTrackerTest, DoubtsAReadingThatIsNotWhole) {
   for (const auto& [reply, codes] : rows) EXPECT_EQ(CodesOfReading(reply), codes) << reply;
 }
 
-TEST_F(DoubtTrackerTest, TakesNumbersAsTestersWriteThem) {
+TEST_F(DoubtTrackerTest, AcceptsEveryNumberFormatOfTesters) {
   for (const char* value : {"0", "-0", "0.123", "+2", " 12", "1e-3", ".5"})
     EXPECT_EQ(CodesOfReading(std::string("gres,410,0,") + value + ",0,Ohm"), Texts()) << value;
   EXPECT_EQ(CodesOfReading("gres,410,0,12,0,\xB5"
@@ -139,7 +139,7 @@ TEST_F(DoubtTrackerTest, DoubtsANegativeReading) {
         << value;
 }
 
-TEST_F(DoubtTrackerTest, DoubtsARefusalUnlessTheTesterLacksTheTest) {
+TEST_F(DoubtTrackerTest, DoubtsErrorsOtherThanNotSupported) {
   EXPECT_EQ(CodesOf("STST", {"410", "0"}, "ERRM,6002"), Texts());
   EXPECT_EQ(CodesOf("STST", {"410", "0"}, "ERRM,1003"), Texts{"refused-now"});
   EXPECT_EQ(CodesOf("GRES", {"410", "0"}, "ERRM,1003"), Texts());
@@ -147,14 +147,14 @@ TEST_F(DoubtTrackerTest, DoubtsARefusalUnlessTheTesterLacksTheTest) {
 }
 
 // The number is the second field, as the plug-in reads it; of a single field, that one.
-TEST_F(DoubtTrackerTest, ReadsTheErrorNumberWhereThePlugInDoes) {
+TEST_F(DoubtTrackerTest, ReadsTheErrorNumberAsThePlugInDoes) {
   EXPECT_EQ(CodesOf("STST", {"410", "0"}, "ERRM,text,1003"), Texts{"refused-now"});
   EXPECT_EQ(CodesOf("STST", {"410", "0"}, "ERRM,1003,text"), Texts());
   EXPECT_EQ(CodesOf("GRES", {"410", "0"}, "ERRM,text,6002,1003"), Texts{"refused-elsewhere"});
   EXPECT_EQ(CodesOf("GRES", {"410", "0"}, "ERRM,+6002.0"), Texts{"refused-elsewhere"});
 }
 
-TEST_F(DoubtTrackerTest, DoubtsAnIdentityThatDoesNotNameTheTester) {
+TEST_F(DoubtTrackerTest, DoubtsAnIncompleteIdentity) {
   EXPECT_EQ(CodesOfIdentity("irem,KELD(IN)"), Texts{"identity-incomplete"});
   EXPECT_EQ(CodesOfIdentity("irem,KELD(IN),,3.10"), Texts{"no-serial-number"});
   EXPECT_EQ(CodesOfIdentity("irem,KELD(IN), ,3.10"), Texts{"no-serial-number"});
@@ -162,7 +162,7 @@ TEST_F(DoubtTrackerTest, DoubtsAnIdentityThatDoesNotNameTheTester) {
 }
 
 // The session's tester answers for each test of a sequence, though it names itself once.
-TEST_F(DoubtTrackerTest, DoubtsTheTesterForEachElementOfItsSession) {
+TEST_F(DoubtTrackerTest, DoubtsTheTesterForEachElementOfASession) {
   Raise(WireRecord::Kind::kOpened);
   EXPECT_EQ(CodesOf("IREM", {}, "irem,KELD(IN),,3.10"), Texts{"no-serial-number"});
   tracker_.ElementStarts(2);
@@ -170,7 +170,7 @@ TEST_F(DoubtTrackerTest, DoubtsTheTesterForEachElementOfItsSession) {
 }
 
 // An element starts before its port is opened: what the tester before it lacked is none of its business.
-TEST_F(DoubtTrackerTest, EndsADoubtOfTheTesterWithItsSession) {
+TEST_F(DoubtTrackerTest, EndsDoubtsOfTheTesterWithTheSession) {
   for (const auto end : {WireRecord::Kind::kClosed, WireRecord::Kind::kFailed}) {
     Raise(WireRecord::Kind::kOpened);
     EXPECT_EQ(CodesOf("IREM", {}, "irem,KELD(IN),,3.10"), Texts{"no-serial-number"});
@@ -180,7 +180,7 @@ TEST_F(DoubtTrackerTest, EndsADoubtOfTheTesterWithItsSession) {
   }
 }
 
-TEST_F(DoubtTrackerTest, NotesForTheElementThatRuns) {
+TEST_F(DoubtTrackerTest, RecordsDoubtsForTheRunningElement) {
   tracker_.ElementStarts(1);
   Exchange("GRES", {"410", "0"}, "gres,410,0,1,1,Ohm");
   tracker_.ElementStarts(2);
@@ -191,7 +191,7 @@ TEST_F(DoubtTrackerTest, NotesForTheElementThatRuns) {
   EXPECT_EQ(Codes(1), Texts());
 }
 
-TEST_F(DoubtTrackerTest, NotesEachDoubtOnceAndReportsIt) {
+TEST_F(DoubtTrackerTest, RecordsAndReportsEachDoubtOnce) {
   std::vector<std::pair<std::int32_t, std::string>> reported;
   const auto watch = tracker_.Noted().Subscribe(
       [&](std::int32_t id, const Reason& doubt) { reported.emplace_back(id, doubt.code); });
@@ -201,7 +201,7 @@ TEST_F(DoubtTrackerTest, NotesEachDoubtOnceAndReportsIt) {
   EXPECT_EQ(reported, (std::vector<std::pair<std::int32_t, std::string>>{{1, "overload"}}));
 }
 
-TEST_F(DoubtTrackerTest, KeepsResultsAndRefusalsOfTheRunningElementAsSaid) {
+TEST_F(DoubtTrackerTest, RecordsRepliesOfTheRunningElement) {
   Exchange("GRES", {"410", "0"}, "gres,410,0,9,0,Ohm");  // no element runs
   tracker_.ElementStarts(1);
   Exchange("IREM", {}, "irem,KELD(IN),SIM-0001,3.10");
@@ -220,14 +220,14 @@ TEST_F(DoubtTrackerTest, KeepsResultsAndRefusalsOfTheRunningElementAsSaid) {
   EXPECT_EQ(tracker_.Said(1), Texts());
 }
 
-TEST_F(DoubtTrackerTest, BoundsWhatATesterThatKeepsSendingMaySay) {
+TEST_F(DoubtTrackerTest, RecordsAtMostEightReplies) {
   tracker_.ElementStarts(1);
   for (int i = 0; i < 100; ++i) Exchange("GRES", {"410", "0"}, "gres,410,0," + std::to_string(i) + ",0,Ohm");
   ASSERT_EQ(tracker_.Said(1).size(), 8u);
   EXPECT_EQ(tracker_.Said(1).front(), "gres,410,0,0,0,Ohm");
 }
 
-TEST_F(DoubtTrackerTest, RemembersOhmsOfTheRunningElementOnly) {
+TEST_F(DoubtTrackerTest, ReturnsOhmsOfTheRunningElementOnly) {
   tracker_.ElementStarts(1);
   Exchange("GRES", {"410", "0"}, "gres,410,0,0.123,0,Ohm");
   EXPECT_EQ(tracker_.LastOhms(), 0.123);

@@ -5,14 +5,14 @@
 namespace bench {
 namespace {
 
-TEST(Latin1, EveryByteGoesToUtf8AndBack) {
+TEST(Latin1, ConvertsEachByteToUtf8AndBack) {
   for (int byte = 0; byte < 256; ++byte) {
     const std::string bytes(1, static_cast<char>(byte));
     EXPECT_EQ(Latin1FromUtf8(Utf8FromLatin1(bytes)), bytes) << byte;
   }
 }
 
-TEST(Latin1, TheMicroSignIsOneByte) {
+TEST(Latin1, ConvertsTheMicroSignToOneByte) {
   EXPECT_EQ(Latin1FromUtf8("\u00B5A"),
             "\xB5"
             "A");
@@ -21,14 +21,14 @@ TEST(Latin1, TheMicroSignIsOneByte) {
             "\u00B5A");
 }
 
-TEST(Latin1, RefusesLettersOutsideTheSet) {
+TEST(Latin1, RejectsLettersOutsideTheSet) {
   EXPECT_EQ(Latin1FromUtf8("\u03A9"), std::nullopt);  // capital omega
   EXPECT_EQ(Latin1FromUtf8("\u03BC"), std::nullopt);  // Greek mu, which looks like the micro sign
   EXPECT_EQ(Latin1FromUtf8("\u20AC"), std::nullopt);  // euro sign
   EXPECT_EQ(Latin1FromUtf8("\U0001F600"), std::nullopt);
 }
 
-TEST(Latin1, RefusesWhatIsNoUtf8) {
+TEST(Latin1, RejectsInvalidUtf8) {
   EXPECT_EQ(Latin1FromUtf8("\xC2"), std::nullopt);
   EXPECT_EQ(Latin1FromUtf8("\xC2"
                            "A"),
@@ -37,7 +37,7 @@ TEST(Latin1, RefusesWhatIsNoUtf8) {
   EXPECT_EQ(Latin1FromUtf8("\xC0\x80"), std::nullopt);  // an overlong form
 }
 
-TEST(Latin1, VisibleTextHidesNoByte) {
+TEST(Latin1, ShowsControlBytesAsEscapes) {
   EXPECT_EQ(VisibleLatin1("a\r\n\x7F\\b\xB5"), "a\\x0D\\x0A\\x7F\\\\b\u00B5");
   EXPECT_EQ(VisibleLatin1(std::string_view("\0x", 2)), "\\x00x");
 }

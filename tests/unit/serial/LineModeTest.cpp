@@ -13,16 +13,16 @@ class LineModeTest : public testing::Test {
   support::PseudoTerminal terminal_;
 };
 
-// A pseudo-terminal treated as a real line stands for a device whose driver drops the parity bit: a line
+// A pseudo-terminal treated as a real line simulates a device whose driver drops the parity bit: a line
 // without the parity asked for must never pass for one with it.
-TEST_F(LineModeTest, ARealLineThatDropsTheParityBitIsRefused) {
+TEST_F(LineModeTest, RejectsARealLineThatDropsTheParityBit) {
   const auto device = Open();
   const auto odd = ParseLineSettings("9600,O,8,1");
   EXPECT_NE(SetLineMode(device.Get(), odd, false), "");
   EXPECT_NE(SetLineMode(device.Get(), odd, false), "");
 }
 
-TEST_F(LineModeTest, APseudoTerminalMayDropIt) {
+TEST_F(LineModeTest, AcceptsAPseudoTerminalThatDropsIt) {
   const auto device = Open();
   const auto odd = ParseLineSettings("9600,O,8,1");
   EXPECT_EQ(SetLineMode(device.Get(), odd, true), "");
@@ -41,7 +41,7 @@ TEST_F(LineModeTest, SetsRateAndRawMode) {
   EXPECT_EQ(mode.c_cflag & CRTSCTS, 0u);
 }
 
-TEST_F(LineModeTest, ChecksTheParityOfWhatComesIn) {
+TEST_F(LineModeTest, ChecksTheParityOfInput) {
   const auto device = Open();
   EXPECT_EQ(SetLineMode(device.Get(), ParseLineSettings("9600,O,8,1"), true), "");
   termios mode{};
@@ -50,7 +50,7 @@ TEST_F(LineModeTest, ChecksTheParityOfWhatComesIn) {
   EXPECT_EQ(mode.c_iflag & (IGNPAR | PARMRK), 0u);
 }
 
-TEST_F(LineModeTest, WhatIsNoTerminalIsToldAsSuch) {
+TEST_F(LineModeTest, RejectsOtherDevices) {
   UniqueFd nothing(open("/dev/null", O_RDWR));
   EXPECT_NE(SetLineMode(nothing.Get(), ParseLineSettings("9600,O,8,1"), false), "");
 }

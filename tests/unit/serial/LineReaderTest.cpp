@@ -30,7 +30,7 @@ std::vector<Line> Read(std::string_view bytes) {
   return Feed(reader, bytes);
 }
 
-TEST(LineReader, TakesEveryKindOfEnd) {
+TEST(LineReader, AcceptsEveryLineEnding) {
   const std::vector<Line> expected{{"a", true}, {"b", true}, {"c", true}};
   EXPECT_EQ(Read("a\r\nb\r\nc\r\n"), expected);
   EXPECT_EQ(Read("a\rb\rc\r"), expected);
@@ -38,7 +38,7 @@ TEST(LineReader, TakesEveryKindOfEnd) {
   EXPECT_EQ(Read("\n\r\r\na\n\rb\r\r\nc\r"), expected);
 }
 
-TEST(LineReader, DeliversOnlyWhenTheEndHasCome) {
+TEST(LineReader, ReturnsALineOnlyAtItsEnd) {
   LineReader reader;
   EXPECT_FALSE(reader.InLine());
   EXPECT_TRUE(Feed(reader, "gres,410").empty());
@@ -49,13 +49,13 @@ TEST(LineReader, DeliversOnlyWhenTheEndHasCome) {
   EXPECT_TRUE(Feed(reader, "\n").empty());
 }
 
-TEST(LineReader, ALineOfFullLengthIsGoodAndOneMoreByteIsBad) {
+TEST(LineReader, AcceptsLinesUpToTheMaximumLength) {
   const std::string full(LineReader::kMaxLine, 'x');
   EXPECT_EQ(Read(full + "\r\n"), (std::vector<Line>{{full, true}}));
   EXPECT_EQ(Read(full + "y\r\nok\n"), (std::vector<Line>{{full, false}, {"ok", true}}));
 }
 
-TEST(LineReader, KeepsNoMoreThanALineOfAnEndlessOne) {
+TEST(LineReader, LimitsTheMemoryOfAnEndlessLine) {
   LineReader reader;
   for (int i = 0; i < 1000; ++i) EXPECT_TRUE(Feed(reader, std::string(1000, 'x')).empty());
   const auto lines = Feed(reader, "\n");
@@ -64,7 +64,7 @@ TEST(LineReader, KeepsNoMoreThanALineOfAnEndlessOne) {
   EXPECT_EQ(lines[0].text.size(), LineReader::kMaxLine);
 }
 
-TEST(LineReader, EveryControlByteMakesItsLineBadAndNoOther) {
+TEST(LineReader, RejectsLinesWithAControlByte) {
   for (int byte = 0; byte < 256; ++byte) {
     if (byte == '\r' || byte == '\n') continue;
     const std::string text = std::string("a") + static_cast<char>(byte) + "b";
@@ -73,12 +73,12 @@ TEST(LineReader, EveryControlByteMakesItsLineBadAndNoOther) {
   }
 }
 
-TEST(LineReader, AByteZeroAloneIsABadLine) {
+TEST(LineReader, RejectsALineOfOneZeroByte) {
   EXPECT_EQ(Read(std::string_view("\0\n", 2)), (std::vector<Line>{{std::string(1, '\0'), false}}));
 }
 
 // However the bytes are cut into pieces, the lines are those of the whole.
-TEST(LineReader, PiecesMakeNoDifference) {
+TEST(LineReader, ReadsTheSameLinesFromPieces) {
   std::mt19937 random(support::Seed());
   const std::string alphabet("ab,\"\r\n\r\n\x01\x7F\xB5", 11);
   for (int round = 0; round < 300; ++round) {

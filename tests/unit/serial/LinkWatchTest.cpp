@@ -52,7 +52,7 @@ TEST_F(LinkWatchTest, ReportsAnUnpluggedTesterUntilThePortIsOpenAgain) {
   EXPECT_EQ(watch_.Loss(), "");
 }
 
-TEST_F(LinkWatchTest, ReportsASessionThatIsNotAnswered) {
+TEST_F(LinkWatchTest, ReportsATesterThatDoesNotReply) {
   Open();
   Ask("IREM");
   EXPECT_NE(watch_.Loss().find("no tester answers"), std::string::npos) << watch_.Loss();
@@ -60,7 +60,7 @@ TEST_F(LinkWatchTest, ReportsASessionThatIsNotAnswered) {
   EXPECT_EQ(watch_.Loss(), "") << "something is there";
   Open();
   Ask("STST");
-  EXPECT_EQ(watch_.Loss(), "") << "only the beginning of a session tells";
+  EXPECT_EQ(watch_.Loss(), "") << "only a session that starts is checked";
 }
 
 TEST_F(LinkWatchTest, ReportsAPortThatCannotBeOpened) {

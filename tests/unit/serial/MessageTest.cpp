@@ -27,7 +27,7 @@ void ExpectRefused(const std::string& mnemonic, const Texts& parameters, const s
   }
 }
 
-TEST(Message, ACommandIsMnemonicAndParameters) {
+TEST(Message, ComposesMnemonicAndParameters) {
   EXPECT_EQ(LineOf("IREM", {}), "IREM");
   EXPECT_EQ(LineOf("STST", {"410", "0"}), "STST,410,0");
   EXPECT_EQ(LineOf("X", {""}), "X,");
@@ -37,20 +37,20 @@ TEST(Message, QuotesCommasAndQuotationMarksOnly) {
   EXPECT_EQ(LineOf("X", {"a,b", "say \"hi\"", " c "}), "X,\"a,b\",\"say \"\"hi\"\"\", c ");
 }
 
-TEST(Message, GoesOutInTheWiresLetters) {
+TEST(Message, IsSentAsLatin1) {
   EXPECT_EQ(LineOf("X", {"\u00B5A"}),
             "X,\xB5"
             "A");
 }
 
-TEST(Message, RefusesEveryControlCharacter) {
+TEST(Message, RejectsControlCharacters) {
   for (int byte = 0; byte < 0x20; ++byte)
     ExpectRefused("X", {std::string("a") + static_cast<char>(byte)}, "control character");
   ExpectRefused("X", {"\x7F"}, "control character");
   ExpectRefused("A\r\nB", {}, "control character");
 }
 
-TEST(Message, RefusesWhatTheWireCannotCarry) {
+TEST(Message, RejectsTextThatCannotBeSent) {
   ExpectRefused("X", {"10 k\u03A9"}, "not in ISO 8859-1");
   ExpectRefused("X", {"\xFF"}, "not in ISO 8859-1");
   ExpectRefused("", {}, "mnemonic");
@@ -58,7 +58,7 @@ TEST(Message, RefusesWhatTheWireCannotCarry) {
   ExpectRefused("\"A\"", {}, "mnemonic");
 }
 
-TEST(Message, RefusesALineThatGetsTooLong) {
+TEST(Message, RejectsALineThatIsTooLong) {
   EXPECT_EQ(LineOf("X", {std::string(1022, 'a')}).size(), 1024u);
   ExpectRefused("X", {std::string(1023, 'a')}, "1024");
 }
@@ -73,7 +73,7 @@ TEST(Message, ReadsAReply) {
   EXPECT_EQ(message->Line(), "gres,410,0,0.123,0,Ohm");
 }
 
-TEST(Message, AnIndexOutsideIsAnError) {
+TEST(Message, RejectsAnInvalidIndex) {
   const auto message = ParseMessage("irem,a");
   for (const std::int32_t index : {-1, 1, 1000}) {
     try {
@@ -93,14 +93,14 @@ TEST(Message, ReadsEmptyAndQuotedParameters) {
   EXPECT_EQ(ParseMessage("x,\xB5")->Parameters(), Texts{"\u00B5"});
 }
 
-TEST(Message, QuotationMarksThatDoNotMatchMakeNoMessage) {
+TEST(Message, RejectsUnbalancedQuotationMarks) {
   for (const char* line :
        {"x,\"", "x,\"a", "x,a\"b", "x,\"a\"b", "x,\"a\"\"", "\"x\",1", "x\",1", "x,\"a\" ,b"})
     EXPECT_FALSE(ParseMessage(line)) << line;
 }
 
 // Whatever can be sent arrives as it was.
-TEST(Message, AnythingComposedIsParsedBack) {
+TEST(Message, ParsesEverythingItComposes) {
   std::mt19937 random(support::Seed());
   for (int round = 0; round < 2000; ++round) {
     Texts parameters(random() % 6);

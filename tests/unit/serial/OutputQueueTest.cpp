@@ -19,19 +19,19 @@ struct Queue {
   }
 };
 
-TEST(OutputQueue, NothingIsWaitedForWhenItIsEmpty) {
+TEST(OutputQueue, DoesNotWaitWhenEmpty) {
   Queue queue;
   EXPECT_TRUE(queue.Await());
   EXPECT_EQ(queue.pauses, 0);
 }
 
-TEST(OutputQueue, IsWaitedForUntilItIsEmpty) {
+TEST(OutputQueue, WaitsUntilEmpty) {
   Queue queue{7};
   EXPECT_TRUE(queue.Await());
   EXPECT_EQ(queue.pauses, 7);
 }
 
-TEST(OutputQueue, IsGivenUpWhenTheLineTakesNothing) {
+TEST(OutputQueue, StopsWaitingForABlockedLine) {
   Queue queue{1};
   EXPECT_FALSE(queue.Await(0));
   EXPECT_EQ(queue.pauses, kMaxPauses);

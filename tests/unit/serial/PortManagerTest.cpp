@@ -23,7 +23,7 @@ class PortManagerTest : public testing::Test {
       });
 };
 
-TEST_F(PortManagerTest, KnowsNoPortOfAnUnknownInstrument) { EXPECT_LT(manager_->FindPort("KELD(IN)"), 1); }
+TEST_F(PortManagerTest, FindsNoPortForAnUnknownInstrument) { EXPECT_LT(manager_->FindPort("KELD(IN)"), 1); }
 
 TEST_F(PortManagerTest, FindsAndOpensTheAssignedDevice) {
   manager_->Assign("OTHER", "/dev/other");
@@ -36,7 +36,7 @@ TEST_F(PortManagerTest, FindsAndOpensTheAssignedDevice) {
   EXPECT_EQ(settings_, (LineSettings{9600, Parity::kOdd, 8, StopBits::kOne}));
 }
 
-TEST_F(PortManagerTest, ANewAssignmentKeepsTheNumber) {
+TEST_F(PortManagerTest, KeepsThePortNumberOnReassignment) {
   manager_->Assign("KELD(IN)", "/dev/first");
   manager_->Assign("KELD(IN)", "/dev/second");
   EXPECT_EQ(manager_->FindPort("KELD(IN)"), 1);
@@ -44,14 +44,14 @@ TEST_F(PortManagerTest, ANewAssignmentKeepsTheNumber) {
   EXPECT_EQ(device_, "/dev/second");
 }
 
-TEST_F(PortManagerTest, AnInstrumentCanLoseItsDevice) {
+TEST_F(PortManagerTest, UnassignsTheDevice) {
   manager_->Assign("KELD(IN)", "/dev/tester");
   manager_->Unassign("KELD(IN)");
   EXPECT_LT(manager_->FindPort("KELD(IN)"), 1);
   EXPECT_THROW(manager_->OpenPort(1, "9600,O,8,1"), orvik::HostError);
 }
 
-TEST_F(PortManagerTest, KeepsTheReasonOfAFailedOpening) {
+TEST_F(PortManagerTest, ReturnsTheReasonOfTheLastFailure) {
   manager_->Assign("KELD(IN)", "/dev/tester");
   EXPECT_THROW(manager_->OpenPort(0, "9600,O,8,1"), orvik::HostError);
   EXPECT_NE(manager_->LastError().find("port 0"), std::string::npos);

@@ -49,12 +49,12 @@ TEST_F(PortTest, SendsWholeLines) {
   EXPECT_EQ(record_.Sent(), (Texts{"IREM", "STST,410,0"}));
 }
 
-TEST_F(PortTest, RefusesParametersThatAreNoListOfStrings) {
+TEST_F(PortTest, RejectsParametersOfAnotherType) {
   EXPECT_EQ(ErrorOf([&] { port_->CreateMessage("X", std::int32_t{1}); }), HostError::kTypeMismatch);
   EXPECT_EQ(ErrorOf([&] { port_->CreateMessage("X", std::string("1")); }), HostError::kTypeMismatch);
 }
 
-TEST_F(PortTest, ReceivedMessagesQueueInOrder) {
+TEST_F(PortTest, QueuesReceivedMessages) {
   line_->Deliver("one\r\ntwo\r\nthr");
   EXPECT_EQ(port_->ReceivedCount(), 2);
   line_->Deliver("ee\r");
@@ -66,7 +66,7 @@ TEST_F(PortTest, ReceivedMessagesQueueInOrder) {
   EXPECT_EQ(ErrorOf([&] { port_->TakeMessage(); }), HostError::kSubscriptOutOfRange);
 }
 
-TEST_F(PortTest, BadLinesAreDroppedWholeAndCounted) {
+TEST_F(PortTest, DiscardsAndCountsInvalidLines) {
   line_->Deliver("a\x01z\r\n" + std::string(1025, 'x') + "\r\nx,\"a\r\nok\r\n");
   EXPECT_EQ(port_->ReceivedCount(), 1);
   EXPECT_EQ(Take(), "ok");
@@ -74,13 +74,13 @@ TEST_F(PortTest, BadLinesAreDroppedWholeAndCounted) {
   EXPECT_EQ(record_.Count(WireRecord::Kind::kDropped), 3u);
 }
 
-TEST_F(PortTest, AFloodOfMessagesIsBounded) {
+TEST_F(PortTest, LimitsTheQueue) {
   for (std::size_t i = 0; i < Port::kMaxWaiting + 5; ++i) line_->Deliver("m\r\n");
   EXPECT_EQ(port_->ReceivedCount(), static_cast<std::int32_t>(Port::kMaxWaiting));
   EXPECT_EQ(std::dynamic_pointer_cast<Port>(port_)->LinesDropped(), 5u);
 }
 
-TEST_F(PortTest, TellsThatAReplyWasWaitingWhenACommandWentOut) {
+TEST_F(PortTest, RecordsRepliesReceivedBeforeACommand) {
   port_->Send(port_->CreateMessage("A", {}));
   line_->Deliver("late\r\n");
   port_->Send(port_->CreateMessage("B", {}));
@@ -97,7 +97,7 @@ TEST_F(PortTest, TellsThatAReplyWasWaitingWhenACommandWentOut) {
   EXPECT_EQ(waiting, (std::vector<bool>{false, true, true, false}));
 }
 
-TEST_F(PortTest, AnUnpluggedPortReadsAsClosedAndKeepsWhatCameIn) {
+TEST_F(PortTest, KeepsReceivedMessagesWhenUnplugged) {
   line_->Deliver("last\r\nhalf");
   line_->Unplug();
   EXPECT_FALSE(port_->IsOpen());
@@ -108,7 +108,7 @@ TEST_F(PortTest, AnUnpluggedPortReadsAsClosedAndKeepsWhatCameIn) {
   EXPECT_TRUE(record_.Sent().empty());
 }
 
-TEST_F(PortTest, ClosesOnceAndForGood) {
+TEST_F(PortTest, ClosesOnce) {
   line_->Deliver("waiting\r\n");
   port_->Close();
   port_->Close();
@@ -118,12 +118,12 @@ TEST_F(PortTest, ClosesOnceAndForGood) {
   EXPECT_EQ(record_.Count(WireRecord::Kind::kClosed), 1u);
 }
 
-TEST_F(PortTest, APortLetGoOfClosesItsLine) {
+TEST_F(PortTest, ClosesItsLineWhenReleased) {
   port_.reset();
   EXPECT_FALSE(line_->Connected());
 }
 
-TEST_F(PortTest, MayBeLetGoOfWhileAMessageComesIn) {
+TEST_F(PortTest, MayBeReleasedByAReceivedMessage) {
   const auto watch = wire_->Subscribe([this](const WireRecord& record) {
     if (record.kind == WireRecord::Kind::kReceived) port_.reset();
   });
@@ -132,7 +132,7 @@ TEST_F(PortTest, MayBeLetGoOfWhileAMessageComesIn) {
   EXPECT_FALSE(line_->Connected());
 }
 
-TEST_F(PortTest, ALineHasOneNearEnd) {
+TEST_F(PortTest, AllowsOneNearEndOfALine) {
   EXPECT_EQ(ErrorOf([&] { MemoryTransport second(line_); }), HostError::kDeviceError);
   line_->Unplug();
   MemoryTransport second(line_);

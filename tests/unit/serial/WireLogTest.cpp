@@ -52,7 +52,7 @@ TEST_F(WireLogTest, WritesTimeDirectionAndText) {
   EXPECT_TRUE(std::regex_match(Contents(Path()), expected)) << Contents(Path());
 }
 
-TEST_F(WireLogTest, ALaterRunAddsToTheFile) {
+TEST_F(WireLogTest, AppendsToAnEarlierLog) {
   WireLog(Path()).Note("first");
   WireLog(Path()).Note("second");
   const auto text = Contents(Path());
@@ -60,7 +60,7 @@ TEST_F(WireLogTest, ALaterRunAddsToTheFile) {
   EXPECT_LT(text.find("first"), text.find("second"));
 }
 
-TEST_F(WireLogTest, StaysBoundedAndKeepsTheNewest) {
+TEST_F(WireLogTest, RotatesAndKeepsTheNewestLines) {
   WireLog log(Path(), 2000);
   for (int i = 0; i < 1000; ++i) log.Note("line " + std::to_string(i));
   EXPECT_LE(std::filesystem::file_size(Path()), 2000u);
@@ -72,7 +72,7 @@ TEST_F(WireLogTest, StaysBoundedAndKeepsTheNewest) {
   EXPECT_EQ(log.Failure(), "");
 }
 
-TEST_F(WireLogTest, AFileThatCannotBeWrittenIsNamed) {
+TEST_F(WireLogTest, NamesAFileThatCannotBeWritten) {
   try {
     WireLog log(folder_ / "absent" / "x.log");
     FAIL();
@@ -82,7 +82,7 @@ TEST_F(WireLogTest, AFileThatCannotBeWrittenIsNamed) {
   }
 }
 
-TEST_F(WireLogTest, NeverAddsToAFileThatHoldsAnythingElse) {
+TEST_F(WireLogTest, NeverChangesAFileWithOtherContent) {
   for (const auto* contents : {"<?xml version=\"1.0\"?>\n<OrvikDocument/>\n", "short", "\n",
                                "2026-11-22 my own notes", "2026-11-22T10:00:00.12345"}) {
     std::ofstream(Path()) << contents;
@@ -97,13 +97,13 @@ TEST_F(WireLogTest, NeverAddsToAFileThatHoldsAnythingElse) {
   }
 }
 
-TEST_F(WireLogTest, AddsToAnEmptyFile) {
+TEST_F(WireLogTest, AppendsToAnEmptyFile) {
   std::ofstream(Path()).flush();
   WireLog(Path()).Note("first");
   EXPECT_NE(Contents(Path()).find("note first"), std::string::npos);
 }
 
-TEST_F(WireLogTest, NeverReplacesAnOlderFileThatIsNotAWireLog) {
+TEST_F(WireLogTest, NeverReplacesAnOlderFileWithOtherContent) {
   std::ofstream(Path() + ".1") << "mine";
   WireLog log(Path(), 100);
   for (int i = 0; i < 10; ++i) log.Note("line");
@@ -111,7 +111,7 @@ TEST_F(WireLogTest, NeverReplacesAnOlderFileThatIsNotAWireLog) {
   EXPECT_NE(log.Failure().find(".1 exists and is not a wire log"), std::string::npos) << log.Failure();
 }
 
-TEST_F(WireLogTest, AFullDiskDoesNotDisturbTheRun) {
+TEST_F(WireLogTest, DoesNotThrowOnAFullDisk) {
   WireLog log("/dev/full");
   log.Note("x");
   EXPECT_NE(log.Failure(), "");

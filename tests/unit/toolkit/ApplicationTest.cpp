@@ -5,7 +5,7 @@ namespace {
 
 using ApplicationTest = ToolkitTest;
 
-TEST_F(ApplicationTest, ListsLoadedFormsInTheOrderOfTheirLoading) {
+TEST_F(ApplicationTest, ListsFormsInLoadingOrder) {
   auto a = app->CreateForm("A");
   auto b = app->CreateForm("B");
   EXPECT_TRUE(app->Forms().empty());
@@ -30,7 +30,7 @@ TEST_F(ApplicationTest, PostedWorkRunsWhenMessagesAreProcessed) {
   EXPECT_EQ(ran, 1);
 }
 
-TEST_F(ApplicationTest, TellsOfEveryPumpCallBeforeItActs) {
+TEST_F(ApplicationTest, RaisesPumpedBeforeProcessing) {
   int ran = 0;
   std::vector<int> seen;
   On(app->Pumped(), [&] { seen.push_back(ran); });
@@ -40,18 +40,17 @@ TEST_F(ApplicationTest, TellsOfEveryPumpCallBeforeItActs) {
   EXPECT_EQ(seen, (std::vector<int>{0, 1}));
 }
 
-TEST_F(ApplicationTest, AnActionOfThePumpHandlerTakesNoTime) {
+TEST_F(ApplicationTest, ReturnsAtOnceAfterAnActionInPumped) {
   auto form = Shown("A");
   auto button = form->AddButton("cmd");
   auto timer = form->AddTimer("tmr");
-  timer->SetInterval(1000);
-  timer->SetEnabled(true);
+  Start(*timer, 1000);
   On(app->Pumped(), [&] { button->Click(); });
   app->WaitMessages(platform::Time::max());
   EXPECT_EQ(app->Now(), 0s);
 }
 
-TEST_F(ApplicationTest, AWaitForNothingFailsAndNamesTheOpenForms) {
+TEST_F(ApplicationTest, ReportsAnEndlessWaitWithTheOpenForms) {
   Shown("FTestGuide");
   Shown("FYesNoPrompt");
   app->CreateForm("FHidden")->Load();
@@ -67,14 +66,14 @@ TEST_F(ApplicationTest, AWaitForNothingFailsAndNamesTheOpenForms) {
   }
 }
 
-TEST_F(ApplicationTest, AStallHandlerMayBringThingsOnAgain) {
+TEST_F(ApplicationTest, LetsAStallHandlerEndTheWait) {
   auto form = app->CreateForm("F");
   app->SetStallHandler([&] { form->Hide(); });
   form->ShowModal(nullptr);
   EXPECT_FALSE(form->Visible());
 }
 
-TEST_F(ApplicationTest, ADeadlineIsNoStall) {
+TEST_F(ApplicationTest, DoesNotStallWithADeadline) {
   for (int round = 1; round <= 5; ++round) app->WaitMessages(round * 1s);
   EXPECT_EQ(app->Now(), 5s);
 }
@@ -86,7 +85,7 @@ TEST_F(ApplicationTest, WakeRaisesWoken) {
   EXPECT_EQ(*woken, 1);
 }
 
-TEST_F(ApplicationTest, IsTheDevicesLoopToo) {
+TEST_F(ApplicationTest, IsAnEventLoopForDevices) {
   ILoop& loop = *app;
   int calls = 0;
   loop.CallAt(1s, [&] { ++calls; });
@@ -97,7 +96,7 @@ TEST_F(ApplicationTest, IsTheDevicesLoopToo) {
   EXPECT_EQ(calls, 1);
 }
 
-TEST_F(ApplicationTest, ItsEndLetsGoOfLoadedForms) {
+TEST_F(ApplicationTest, ReleasesLoadedFormsAtItsEnd) {
   std::weak_ptr<platform::IForm> form = Shown("A");
   EXPECT_FALSE(form.expired());
   // A screen shares the application.
@@ -106,7 +105,7 @@ TEST_F(ApplicationTest, ItsEndLetsGoOfLoadedForms) {
   EXPECT_TRUE(form.expired());
 }
 
-TEST_F(ApplicationTest, AFormMayOutliveIt) {
+TEST_F(ApplicationTest, MayBeOutlivedByAForm) {
   auto form = Shown("A");
   auto button = form->AddButton("cmd");
   auto clicks = Count(button->Clicked());

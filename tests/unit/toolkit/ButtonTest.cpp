@@ -15,7 +15,7 @@ TEST_F(ButtonTest, IsClicked) {
   EXPECT_EQ(*clicks, 1);
 }
 
-TEST_F(ButtonTest, HiddenOrDisabledDoesNothing) {
+TEST_F(ButtonTest, IgnoresClicksWhenHiddenOrDisabled) {
   button->SetVisible(false);
   button->Click();
   button->SetVisible(true);
@@ -24,7 +24,7 @@ TEST_F(ButtonTest, HiddenOrDisabledDoesNothing) {
   EXPECT_EQ(*clicks, 0);
 }
 
-TEST_F(ButtonTest, OnAHiddenOrDisabledFormDoesNothing) {
+TEST_F(ButtonTest, IgnoresClicksOnAHiddenOrDisabledForm) {
   form->Hide();
   button->Click();
   form->Show();
@@ -33,14 +33,14 @@ TEST_F(ButtonTest, OnAHiddenOrDisabledFormDoesNothing) {
   EXPECT_EQ(*clicks, 0);
 }
 
-TEST_F(ButtonTest, WithoutItsFormDoesNothing) {
+TEST_F(ButtonTest, IgnoresClicksWithoutItsForm) {
   form->Unload();
   form.reset();
   button->Click();
   EXPECT_EQ(*clicks, 0);
 }
 
-TEST_F(ButtonTest, MayDisableItselfAndBeClickedFromInsideItsHandler) {
+TEST_F(ButtonTest, MayBeDisabledByItsHandler) {
   On(button->Clicked(), [&] {
     button->SetEnabled(false);
     button->Click();
@@ -50,11 +50,7 @@ TEST_F(ButtonTest, MayDisableItselfAndBeClickedFromInsideItsHandler) {
 }
 
 TEST_F(ButtonTest, GrowsWithItsCaption) {
-  platform::Grid grid;
-  grid.rows = {{}};
-  grid.columns = {{}};
-  grid.cells = {{"cmd", 0, 0}};
-  form->SetGrid(grid);
+  form->SetGrid(OneColumn({"cmd"}));
   button->SetCaption("&OK");
   const auto narrow = button->Bounds().width;
   button->SetCaption("Guardar y cerrar la ventana");

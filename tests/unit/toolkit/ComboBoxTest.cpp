@@ -20,7 +20,7 @@ TEST_F(ComboBoxTest, StartsWithoutSelection) {
   EXPECT_EQ(box->Items().size(), 3U);
 }
 
-TEST_F(ComboBoxTest, SelectingShowsTheTextAndTells) {
+TEST_F(ComboBoxTest, ShowsTheSelectedTextAndNotifies) {
   box->SetSelectedIndex(1);
   EXPECT_EQ(box->Text(), "All values");
   box->SetSelectedIndex(1);
@@ -39,7 +39,7 @@ TEST_F(ComboBoxTest, IgnoresAnIndexOutside) {
   EXPECT_EQ(box->SelectedIndex(), 1);
 }
 
-TEST_F(ComboBoxTest, TheOperatorChooses) {
+TEST_F(ComboBoxTest, LetsTheOperatorChoose) {
   box->Choose(2);
   EXPECT_EQ(box->SelectedIndex(), 2);
   EXPECT_EQ(*selections, 1);
@@ -48,7 +48,7 @@ TEST_F(ComboBoxTest, TheOperatorChooses) {
   EXPECT_EQ(box->SelectedIndex(), 2);
 }
 
-TEST_F(ComboBoxTest, ATypedTextEndsTheSelection) {
+TEST_F(ComboBoxTest, EndsTheSelectionForTypedText) {
   box->Choose(2);
   box->TypeOver("something else");
   EXPECT_EQ(box->SelectedIndex(), -1);
@@ -57,7 +57,7 @@ TEST_F(ComboBoxTest, ATypedTextEndsTheSelection) {
   EXPECT_EQ(box->SelectedIndex(), 1);
 }
 
-TEST_F(ComboBoxTest, NotEditableItTakesEntriesOnly) {
+TEST_F(ComboBoxTest, AcceptsOnlyEntriesUnlessEditable) {
   box->SetEditable(false);
   box->Choose(0);
   box->TypeOver("All values");
@@ -68,7 +68,7 @@ TEST_F(ComboBoxTest, NotEditableItTakesEntriesOnly) {
   EXPECT_EQ(box->SelectedIndex(), 1);
 }
 
-TEST_F(ComboBoxTest, ClearingEndsTheSelection) {
+TEST_F(ComboBoxTest, EndsTheSelectionWhenCleared) {
   box->Choose(0);
   box->ClearItems();
   EXPECT_EQ(box->SelectedIndex(), -1);
@@ -77,7 +77,7 @@ TEST_F(ComboBoxTest, ClearingEndsTheSelection) {
   EXPECT_EQ(*selections, 2);
 }
 
-TEST_F(ComboBoxTest, ClearingKeepsATypedText) {
+TEST_F(ComboBoxTest, KeepsTypedTextWhenCleared) {
   box->TypeOver("typed");
   box->ClearItems();
   EXPECT_EQ(box->Text(), "typed");

@@ -9,7 +9,7 @@ class ContainerSiteTest : public ToolkitTest {
   std::shared_ptr<platform::IContainerSite> site = form->AddControl("test.Probe", "isc");
 };
 
-TEST_F(ContainerSiteTest, HasTheControlBuildItselfOnce) {
+TEST_F(ContainerSiteTest, LetsTheControlBuildItselfOnce) {
   const auto probe = std::dynamic_pointer_cast<ProbeControl>(site->Object());
   ASSERT_TRUE(probe);
   EXPECT_EQ(probe->attached, 1);
@@ -27,7 +27,7 @@ TEST_F(ContainerSiteTest, OwnsTheControl) {
   EXPECT_TRUE(panel.expired());
 }
 
-TEST_F(ContainerSiteTest, AnswersTheExtenderProperties) {
+TEST_F(ContainerSiteTest, ReturnsTheExtenderProperties) {
   site->SetBounds({1, 2, 3, 4});
   site->SetToolTip("tip");
   using Value = platform::IContainerSite::Value;
@@ -56,20 +56,20 @@ TEST_F(ContainerSiteTest, SetsTheExtenderProperties) {
   EXPECT_EQ(site->ToolTip(), "tip");
 }
 
-TEST_F(ContainerSiteTest, RefusesUnknownPropertiesWithError438) {
+TEST_F(ContainerSiteTest, RejectsUnknownProperties) {
   ExpectHostError(438, "Object does not support this property: Visbible",
                   [&] { static_cast<void>(site->ExtenderProperty("Visbible")); });
   ExpectHostError(438, "Visbible", [&] { site->SetExtenderProperty("Visbible", true); });
   ExpectHostError(438, "visible", [&] { static_cast<void>(site->ExtenderProperty("visible")); });
 }
 
-TEST_F(ContainerSiteTest, RefusesAValueOfAnotherKind) {
+TEST_F(ContainerSiteTest, RejectsAValueOfAnotherType) {
   ExpectHostError(13, "Visible", [&] { site->SetExtenderProperty("Visible", "yes"); });
   ExpectHostError(13, "Left", [&] { site->SetExtenderProperty("Left", true); });
   ExpectHostError(5, "name", [&] { site->SetExtenderProperty("Name", "other"); });
 }
 
-TEST_F(ContainerSiteTest, ItsInsideCannotBeReachedWhileItIsHiddenOrDisabled) {
+TEST_F(ContainerSiteTest, BlocksItsContentWhenHiddenOrDisabled) {
   form->Show();
   auto text = std::dynamic_pointer_cast<platform::ITextBox>(site->Panel()->Find("txtInner"));
   site->SetVisible(false);
@@ -82,16 +82,15 @@ TEST_F(ContainerSiteTest, ItsInsideCannotBeReachedWhileItIsHiddenOrDisabled) {
   EXPECT_EQ(text->Text(), "c");
 }
 
-TEST_F(ContainerSiteTest, TimersInsideEndWithTheForm) {
+TEST_F(ContainerSiteTest, StopsItsTimersWithTheForm) {
   auto timer = std::dynamic_pointer_cast<platform::ITimer>(site->Panel()->Find("tmrInner"));
   form->Load();
-  timer->SetInterval(10);
-  timer->SetEnabled(true);
+  Start(*timer, 10);
   form->Unload();
   EXPECT_FALSE(timer->Enabled());
 }
 
-/// Docking: windows that stand in another window than the one that owns them.
+/// Docking: windows inside another window than their owner.
 class DockingTest : public ContainerSiteTest {
  protected:
   std::shared_ptr<platform::ITextBox> Inner() {
@@ -101,7 +100,7 @@ class DockingTest : public ContainerSiteTest {
   std::shared_ptr<platform::IForm> host = Shown("FHost");
 };
 
-TEST_F(DockingTest, AWindowKnowsItsParent) {
+TEST_F(DockingTest, ReturnsTheParentOfAWindow) {
   EXPECT_EQ(app->Parent(site->Handle()), form->Handle());
   EXPECT_EQ(app->Parent(site->Panel()->Handle()), form->Handle());
   EXPECT_EQ(app->Parent(form->Handle()), 0U);
@@ -116,7 +115,7 @@ TEST_F(DockingTest, EitherHandleMovesSiteAndPanel) {
   EXPECT_EQ(app->Parent(site->Panel()->Handle()), form->Handle());
 }
 
-TEST_F(DockingTest, ADockedControlAnswersWithTheWindowItStandsIn) {
+TEST_F(DockingTest, EnablesInputInTheNewWindow) {
   Inner()->Type("a");
   EXPECT_EQ(Inner()->Text(), "") << "its own form is hidden";
   app->SetParent(site->Panel()->Handle(), host->Handle());
@@ -128,7 +127,7 @@ TEST_F(DockingTest, ADockedControlAnswersWithTheWindowItStandsIn) {
   EXPECT_EQ(Inner()->Text(), "b");
 }
 
-TEST_F(DockingTest, TheGridOfItsFormLeavesADockedControlAlone) {
+TEST_F(DockingTest, RemovesTheControlFromTheGrid) {
   platform::Grid grid;
   grid.rows = {{0, 1}};
   grid.columns = {{0, 1}};
@@ -142,14 +141,14 @@ TEST_F(DockingTest, TheGridOfItsFormLeavesADockedControlAlone) {
   EXPECT_EQ(site->Bounds(), (platform::Rect{120, 120, 3760, 3760}));
 }
 
-TEST_F(DockingTest, UnloadingItsFormBringsItHome) {
+TEST_F(DockingTest, EndsWhenTheFormIsUnloaded) {
   form->Load();
   app->SetParent(site->Panel()->Handle(), host->Handle());
   form->Unload();
   EXPECT_EQ(app->Parent(site->Handle()), form->Handle());
 }
 
-TEST_F(DockingTest, AHostThatIsGoneIsNoParent) {
+TEST_F(DockingTest, EndsWhenTheHostIsReleased) {
   app->SetParent(site->Panel()->Handle(), host->Handle());
   host->Unload();
   host.reset();
@@ -158,7 +157,7 @@ TEST_F(DockingTest, AHostThatIsGoneIsNoParent) {
   EXPECT_EQ(Inner()->Text(), "");
 }
 
-TEST_F(DockingTest, WithoutParentItIsNowhere) {
+TEST_F(DockingTest, HidesAControlWithoutParent) {
   app->SetParent(site->Panel()->Handle(), 0);
   EXPECT_EQ(app->Parent(site->Handle()), 0U);
   form->Show();
@@ -166,7 +165,7 @@ TEST_F(DockingTest, WithoutParentItIsNowhere) {
   EXPECT_EQ(Inner()->Text(), "");
 }
 
-TEST_F(DockingTest, RefusesWhatCannotBeDocked) {
+TEST_F(DockingTest, RejectsOtherWindows) {
   const auto label = form->AddLabel("lbl");
   ExpectHostError(5, "docked", [&] { app->SetParent(label->Handle(), host->Handle()); });
   ExpectHostError(5, "docked", [&] { app->SetParent(form->Handle(), host->Handle()); });

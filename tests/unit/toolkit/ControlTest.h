@@ -15,7 +15,7 @@
 
 namespace bench::headless {
 
-/// The real host with its own controls on a headless desk.
+/// The real host with its controls on the headless toolkit.
 class ControlTest : public ToolkitTest {
  protected:
   ControlTest() {

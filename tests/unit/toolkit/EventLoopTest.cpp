@@ -23,13 +23,13 @@ class VirtualLoop : public testing::Test {
   std::vector<std::string> log;
 };
 
-TEST_F(VirtualLoop, StartsAtZeroAndStandsStill) {
+TEST_F(VirtualLoop, StartsAtZeroAndDoesNotAdvance) {
   EXPECT_EQ(loop.Now(), Time(0));
   loop.Process();
   EXPECT_EQ(loop.Now(), Time(0));
 }
 
-TEST_F(VirtualLoop, AWaitJumpsToTheNextCall) {
+TEST_F(VirtualLoop, WaitsUntilTheNextCall) {
   loop.CallAt(5s, [&] { log.push_back("five"); });
   loop.CallAt(3s, [&] { log.push_back("three"); });
   EXPECT_EQ(loop.Wait(1h), WaitOutcome::kProcessed);
@@ -39,14 +39,14 @@ TEST_F(VirtualLoop, AWaitJumpsToTheNextCall) {
   EXPECT_EQ(loop.Now(), 5s);
 }
 
-TEST_F(VirtualLoop, AWaitJumpsToTheDeadlineWhenThatIsEarlier) {
+TEST_F(VirtualLoop, WaitsUntilAnEarlierDeadline) {
   loop.CallAt(5s, [&] { log.push_back("five"); });
   EXPECT_EQ(loop.Wait(2s), WaitOutcome::kNothing);
   EXPECT_EQ(loop.Now(), 2s);
   EXPECT_TRUE(log.empty());
 }
 
-TEST_F(VirtualLoop, TimeNeverGoesBack) {
+TEST_F(VirtualLoop, IsMonotonic) {
   loop.Wait(2s);
   loop.Wait(1s);
   EXPECT_EQ(loop.Now(), 2s);
@@ -55,7 +55,7 @@ TEST_F(VirtualLoop, TimeNeverGoesBack) {
   EXPECT_EQ(loop.Now(), 2s);
 }
 
-TEST_F(VirtualLoop, PendingWorkTakesNoTime) {
+TEST_F(VirtualLoop, DoesNotAdvanceForPendingWork) {
   loop.CallAt(1s, [&] { log.push_back("call"); });
   loop.Post([&] { log.push_back("posted"); });
   EXPECT_EQ(loop.Wait(1h), WaitOutcome::kProcessed);
@@ -63,14 +63,14 @@ TEST_F(VirtualLoop, PendingWorkTakesNoTime) {
   EXPECT_EQ(log, (std::vector<std::string>{"posted"}));
 }
 
-TEST_F(VirtualLoop, SaysWhenNothingIsLeft) {
+TEST_F(VirtualLoop, ReportsWhenNothingIsLeft) {
   EXPECT_EQ(loop.Wait(Time::max()), WaitOutcome::kNothingLeft);
   EXPECT_EQ(loop.Now(), Time(0));
   loop.CallAt(1s, [] {});
   EXPECT_EQ(loop.Wait(Time::max()), WaitOutcome::kProcessed);
 }
 
-TEST_F(VirtualLoop, BothPostedWorkAndDueCallsGetTheirTurn) {
+TEST_F(VirtualLoop, RunsPostedWorkThenDueCalls) {
   for (int round = 0; round < 3; ++round) loop.CallAt(0s, [&] { log.push_back("call"); });
   for (int round = 0; round < 3; ++round) loop.Post([&] { log.push_back("posted"); });
   EXPECT_TRUE(loop.Process());
@@ -78,7 +78,7 @@ TEST_F(VirtualLoop, BothPostedWorkAndDueCallsGetTheirTurn) {
   EXPECT_FALSE(loop.Process());
 }
 
-TEST_F(VirtualLoop, WorkThatRenewsItselfStarvesNobody) {
+TEST_F(VirtualLoop, IsFairToWorkThatRenewsItself) {
   int posts = 0;
   int calls = 0;
   std::function<void()> post = [&] { loop.Post(post), ++posts; };
@@ -90,7 +90,7 @@ TEST_F(VirtualLoop, WorkThatRenewsItselfStarvesNobody) {
   EXPECT_EQ(calls, 11);
 }
 
-TEST_F(VirtualLoop, ACallThatRenewsItselfInThePastStarvesNobody) {
+TEST_F(VirtualLoop, IsFairToCallsRenewedInThePast) {
   loop.Wait(10s);
   loop.Process();
   std::function<void()> renew = [&] { loop.CallAt(1s, renew); };
@@ -100,7 +100,7 @@ TEST_F(VirtualLoop, ACallThatRenewsItselfInThePastStarvesNobody) {
   EXPECT_EQ(log, (std::vector<std::string>{"other"}));
 }
 
-TEST_F(VirtualLoop, ACallThatWasForgottenMeanwhileDoesNotCome) {
+TEST_F(VirtualLoop, DoesNotRunAForgottenCall) {
   ILoop::Id second = 0;
   loop.CallAt(1s, [&] { loop.Forget(second); });
   second = loop.CallAt(1s, [&] { log.push_back("second"); });
@@ -121,7 +121,7 @@ TEST_F(VirtualLoop, IsReentrant) {
   EXPECT_EQ(loop.Now(), 3s);
 }
 
-TEST_F(VirtualLoop, PostedWorkRunsInsideANestedWaitToo) {
+TEST_F(VirtualLoop, RunsPostedWorkInANestedWait) {
   loop.Post([&] {
     loop.Process();
     log.push_back("first ends");
@@ -131,7 +131,7 @@ TEST_F(VirtualLoop, PostedWorkRunsInsideANestedWaitToo) {
   EXPECT_EQ(log, (std::vector<std::string>{"second", "first ends"}));
 }
 
-TEST_F(VirtualLoop, AnErrorGoesToTheWaiterAndLosesNothingElse) {
+TEST_F(VirtualLoop, ThrowsErrorsAndKeepsOtherWork) {
   loop.Post([] { throw std::runtime_error("broken"); });
   loop.Post([&] { log.push_back("second"); });
   loop.CallAt(0s, [&] { log.push_back("call"); });
@@ -140,7 +140,7 @@ TEST_F(VirtualLoop, AnErrorGoesToTheWaiterAndLosesNothingElse) {
   EXPECT_EQ(log, (std::vector<std::string>{"second", "call"}));
 }
 
-TEST_F(VirtualLoop, RefusesDescriptors) {
+TEST_F(VirtualLoop, RejectsDescriptors) {
   try {
     loop.WatchReadable(0, [] {});
     FAIL() << "a device was accepted";
@@ -150,7 +150,7 @@ TEST_F(VirtualLoop, RefusesDescriptors) {
   }
 }
 
-TEST_F(VirtualLoop, AWakeUpIsHandedOn) {
+TEST_F(VirtualLoop, RaisesWokenOnce) {
   const auto woken = loop.Woken().Subscribe([&] { log.push_back("woken"); });
   loop.Wake();
   loop.Wake();
@@ -159,7 +159,7 @@ TEST_F(VirtualLoop, AWakeUpIsHandedOn) {
   EXPECT_EQ(loop.Now(), Time(0));
 }
 
-TEST(Clock, RefusesAScaleThatIsNone) {
+TEST(Clock, RejectsAnInvalidScale) {
   for (const double scale : {0.0, -1.0, 1.0 / 0.0, 0.0 / 0.0})
     EXPECT_THROW(EventLoop(ClockKind::kReal, scale), orvik::HostError);
 }
@@ -200,13 +200,13 @@ class RealLoop : public testing::Test {
   std::vector<std::string> log;
 };
 
-TEST_F(RealLoop, AWaitLastsUntilItsDeadline) {
+TEST_F(RealLoop, WaitsUntilTheDeadline) {
   const Time deadline = loop.Now() + 20ms;
   while (loop.Now() < deadline) loop.Wait(deadline);
   EXPECT_GE(loop.Now(), deadline);
 }
 
-TEST_F(RealLoop, ACallComesNotBeforeItsTime) {
+TEST_F(RealLoop, RunsNoCallBeforeItsTime) {
   const Time due = loop.Now() + 10ms;
   Time came{};
   loop.CallAt(due, [&] { came = loop.Now(); });
@@ -214,7 +214,7 @@ TEST_F(RealLoop, ACallComesNotBeforeItsTime) {
   EXPECT_GE(came, due);
 }
 
-TEST_F(RealLoop, CallsComeInOrder) {
+TEST_F(RealLoop, RunsCallsInOrder) {
   const Time now = loop.Now();
   loop.CallAt(now + 4ms, [&] { log.push_back("second"); });
   loop.CallAt(now + 2ms, [&] { log.push_back("first"); });
@@ -222,14 +222,14 @@ TEST_F(RealLoop, CallsComeInOrder) {
   EXPECT_EQ(log, (std::vector<std::string>{"first", "second"}));
 }
 
-TEST_F(RealLoop, AWaitSleepsInsteadOfSpinning) {
+TEST_F(RealLoop, SleepsInsteadOfSpinning) {
   const Time deadline = loop.Now() + 30ms;
   int rounds = 0;
   while (loop.Now() < deadline) loop.Wait(deadline), ++rounds;
   EXPECT_LE(rounds, 3);
 }
 
-TEST_F(RealLoop, AByteEndsTheWait) {
+TEST_F(RealLoop, EndsTheWaitForAByte) {
   Pipe pipe;
   loop.WatchReadable(pipe.ends[0], [&] {
     pipe.Read();
@@ -240,7 +240,7 @@ TEST_F(RealLoop, AByteEndsTheWait) {
   EXPECT_EQ(log, (std::vector<std::string>{"byte"}));
 }
 
-TEST_F(RealLoop, AHangUpIsTold) {
+TEST_F(RealLoop, ReportsAHangUp) {
   Pipe pipe;
   ILoop::Id id = 0;
   id = loop.WatchReadable(pipe.ends[0], [&] {
@@ -253,7 +253,7 @@ TEST_F(RealLoop, AHangUpIsTold) {
   EXPECT_EQ(log, (std::vector<std::string>{"hung up"}));
 }
 
-TEST_F(RealLoop, AForgottenDescriptorIsNotWatched) {
+TEST_F(RealLoop, DoesNotWatchAForgottenDescriptor) {
   Pipe pipe;
   const auto id = loop.WatchReadable(pipe.ends[0], [&] { log.push_back("byte"); });
   loop.Forget(id);
@@ -263,7 +263,7 @@ TEST_F(RealLoop, AForgottenDescriptorIsNotWatched) {
   EXPECT_TRUE(log.empty());
 }
 
-TEST_F(RealLoop, ADescriptorForgottenByAnothersCallbackIsPassedOver) {
+TEST_F(RealLoop, SkipsADescriptorForgottenInACallback) {
   Pipe first;
   Pipe second;
   ILoop::Id other = 0;
@@ -278,7 +278,7 @@ TEST_F(RealLoop, ADescriptorForgottenByAnothersCallbackIsPassedOver) {
   EXPECT_TRUE(log.empty());
 }
 
-TEST_F(RealLoop, WhatANestedWaitHasReadIsNotCalledAgain) {
+TEST_F(RealLoop, SkipsADescriptorReadByANestedWait) {
   Pipe first;
   Pipe second;
   loop.WatchReadable(first.ends[0], [&] {
@@ -295,7 +295,7 @@ TEST_F(RealLoop, WhatANestedWaitHasReadIsNotCalledAgain) {
   EXPECT_EQ(log, (std::vector<std::string>{"second"}));
 }
 
-TEST_F(RealLoop, AReplyComesBeforeTheTimeOutThatFellDueWithIt) {
+TEST_F(RealLoop, RunsAReplyBeforeATimeOutDueWithIt) {
   Pipe pipe;
   loop.CallAt(loop.Now(), [&] { log.push_back("time-out"); });
   loop.WatchReadable(pipe.ends[0], [&] {
@@ -307,7 +307,7 @@ TEST_F(RealLoop, AReplyComesBeforeTheTimeOutThatFellDueWithIt) {
   EXPECT_EQ(log, (std::vector<std::string>{"reply", "time-out"}));
 }
 
-TEST_F(RealLoop, AnotherThreadWakesIt) {
+TEST_F(RealLoop, IsWokenByAnotherThread) {
   const auto woken = loop.Woken().Subscribe([&] { log.push_back("woken"); });
   std::jthread other([this] { loop.Wake(); });
   while (log.empty()) loop.Wait(Time::max());
@@ -316,7 +316,7 @@ TEST_F(RealLoop, AnotherThreadWakesIt) {
 
 EventLoop* signalled = nullptr;
 
-TEST_F(RealLoop, ASignalHandlerWakesIt) {
+TEST_F(RealLoop, IsWokenByASignalHandler) {
   const auto woken = loop.Woken().Subscribe([&] { log.push_back("woken"); });
   signalled = &loop;
   struct sigaction action {};
@@ -332,7 +332,7 @@ TEST_F(RealLoop, ASignalHandlerWakesIt) {
   EXPECT_EQ(log.size(), 1U);
 }
 
-TEST_F(RealLoop, AWakeUpDuringWorkIsNotLost) {
+TEST_F(RealLoop, KeepsAWakeUpDuringWork) {
   const auto woken = loop.Woken().Subscribe([&] { log.push_back("woken"); });
   loop.Post([&] {
     loop.Wake();
@@ -344,7 +344,7 @@ TEST_F(RealLoop, AWakeUpDuringWorkIsNotLost) {
   EXPECT_FALSE(loop.Process());
 }
 
-TEST(ScaledLoop, RunsThatManyTimesFaster) {
+TEST(ScaledLoop, RunsFasterByTheScale) {
   EventLoop loop(ClockKind::kReal, 100000);
   const auto begin = std::chrono::steady_clock::now();
   const Time deadline = loop.Now() + 1000s;

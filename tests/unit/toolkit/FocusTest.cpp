@@ -13,7 +13,7 @@ class FocusTest : public ToolkitTest {
   std::shared_ptr<platform::IButton> button = form->AddButton("cmd");
 };
 
-TEST_F(FocusTest, GoesToTheFirstControlThatTakesIt) {
+TEST_F(FocusTest, StartsOnTheFirstFocusableControl) {
   EXPECT_FALSE(text->HasFocus());
   form->Show();
   EXPECT_TRUE(text->HasFocus());
@@ -27,13 +27,13 @@ TEST_F(FocusTest, IsRememberedUntilTheFormIsShown) {
   EXPECT_TRUE(button->HasFocus());
 }
 
-TEST_F(FocusTest, ALabelTakesNone) {
+TEST_F(FocusTest, IsRejectedByALabel) {
   form->Show();
   label->SetFocus();
   EXPECT_TRUE(text->HasFocus());
 }
 
-TEST_F(FocusTest, AHiddenOrDisabledControlTakesNone) {
+TEST_F(FocusTest, IsRejectedByHiddenOrDisabledControls) {
   form->Show();
   button->SetVisible(false);
   button->SetFocus();
@@ -42,7 +42,7 @@ TEST_F(FocusTest, AHiddenOrDisabledControlTakesNone) {
   EXPECT_TRUE(text->HasFocus());
 }
 
-TEST_F(FocusTest, MovesOnFromAControlThatIsDisabledOrHidden) {
+TEST_F(FocusTest, LeavesAControlThatIsDisabledOrHidden) {
   form->Show();
   text->SetEnabled(false);
   EXPECT_TRUE(combo->HasFocus());
@@ -50,7 +50,7 @@ TEST_F(FocusTest, MovesOnFromAControlThatIsDisabledOrHidden) {
   EXPECT_TRUE(button->HasFocus());
 }
 
-TEST_F(FocusTest, TheOperatorsActionBringsItAlong) {
+TEST_F(FocusTest, FollowsTheOperatorsActions) {
   form->Show();
   button->Click();
   EXPECT_TRUE(button->HasFocus());
@@ -58,7 +58,7 @@ TEST_F(FocusTest, TheOperatorsActionBringsItAlong) {
   EXPECT_TRUE(combo->HasFocus());
 }
 
-TEST_F(FocusTest, TheBoxHearsThatItLosesIt) {
+TEST_F(FocusTest, NotifiesTheBoxThatLosesIt) {
   form->Show();
   auto lost = Count(combo->LostFocus());
   combo->SetFocus();
@@ -67,7 +67,7 @@ TEST_F(FocusTest, TheBoxHearsThatItLosesIt) {
   EXPECT_EQ(*lost, 1);
 }
 
-TEST_F(FocusTest, TheBoxHearsOfItBeforeTheButtonIsClicked) {
+TEST_F(FocusTest, LeavesTheBoxBeforeTheButtonIsClicked) {
   form->Show();
   std::vector<std::string> log;
   combo->SetFocus();
@@ -77,7 +77,7 @@ TEST_F(FocusTest, TheBoxHearsOfItBeforeTheButtonIsClicked) {
   EXPECT_EQ(log, (std::vector<std::string>{"lost", "clicked"}));
 }
 
-TEST_F(FocusTest, AButtonDisabledByTheLossIsNotClicked) {
+TEST_F(FocusTest, DoesNotClickAButtonDisabledByItsLoss) {
   form->Show();
   combo->SetFocus();
   auto clicks = Count(button->Clicked());
@@ -99,7 +99,7 @@ TEST_F(FocusTest, LeavesTheBoxWithTheForm) {
   EXPECT_EQ(*lost, 2);
 }
 
-TEST_F(FocusTest, AnActionActivatesTheForm) {
+TEST_F(FocusTest, ActivatesTheForm) {
   form->Show();
   auto other = Shown("Other");
   auto activated = Count(form->Activated());
@@ -108,7 +108,7 @@ TEST_F(FocusTest, AnActionActivatesTheForm) {
   EXPECT_EQ(*activated, 1);
 }
 
-TEST_F(FocusTest, TheFormItselfGetsItWithoutControls) {
+TEST_F(FocusTest, IsOnAFormWithoutControls) {
   auto empty = app->CreateForm("FEmpty");
   auto got = Count(empty->GotFocus());
   empty->Show();
@@ -116,7 +116,7 @@ TEST_F(FocusTest, TheFormItselfGetsItWithoutControls) {
   EXPECT_EQ(*got, 1);
 }
 
-TEST_F(FocusTest, TheFormItselfGetsItWhenAsked) {
+TEST_F(FocusTest, CanBeSetToTheForm) {
   form->Show();
   auto got = Count(form->GotFocus());
   form->SetFocus();
@@ -125,7 +125,7 @@ TEST_F(FocusTest, TheFormItselfGetsItWhenAsked) {
   EXPECT_EQ(*got, 1);
 }
 
-TEST_F(FocusTest, AFormWithAUserControlMayPassItOn) {
+TEST_F(FocusTest, CanBePassedToAUserControl) {
   auto outer = app->CreateForm("FElementSetup");
   auto site = outer->AddControl("test.Probe", "isc");
   On(outer->GotFocus(), [&] { site->SetFocus(); });

@@ -20,7 +20,7 @@ TEST_F(FormTest, StartsHiddenAndNotLoaded) {
   EXPECT_NE(form->Handle(), 0U);
 }
 
-TEST_F(FormTest, ShowLoadsAndActivatesThenTellsTheApplication) {
+TEST_F(FormTest, LoadsActivatesAndNotifiesWhenShown) {
   Log log;
   On(form->Activated(), [&] { log.push_back("activated"); });
   On(app->FormShown(), [&](const std::shared_ptr<platform::IForm>& shown) {
@@ -37,7 +37,7 @@ TEST_F(FormTest, ShowLoadsAndActivatesThenTellsTheApplication) {
   EXPECT_EQ(log.size(), 2U);
 }
 
-TEST_F(FormTest, SetVisibleShowsAndHides) {
+TEST_F(FormTest, ShowsAndHidesBySetVisible) {
   form->SetVisible(true);
   EXPECT_TRUE(form->Active());
   form->SetVisible(false);
@@ -45,7 +45,7 @@ TEST_F(FormTest, SetVisibleShowsAndHides) {
   EXPECT_TRUE(form->Loaded());
 }
 
-TEST_F(FormTest, TheApplicationHoldsItWhileItIsLoaded) {
+TEST_F(FormTest, IsOwnedByTheApplicationWhileLoaded) {
   std::weak_ptr<platform::IForm> weak = form;
   form->Load();
   form.reset();
@@ -54,7 +54,7 @@ TEST_F(FormTest, TheApplicationHoldsItWhileItIsLoaded) {
   EXPECT_TRUE(weak.expired());
 }
 
-TEST_F(FormTest, UnloadHidesThenTells) {
+TEST_F(FormTest, HidesBeforeUnloadingIsRaised) {
   form->Show();
   Log log;
   On(form->Unloading(), [&] { log.push_back(form->Visible() ? "visible" : "hidden"); });
@@ -64,7 +64,7 @@ TEST_F(FormTest, UnloadHidesThenTells) {
   EXPECT_FALSE(form->Loaded());
 }
 
-TEST_F(FormTest, CannotBeShownAgainWhileItIsUnloaded) {
+TEST_F(FormTest, CannotBeShownWhileUnloading) {
   form->Show();
   On(form->Unloading(), [&] { form->Show(); });
   form->Unload();
@@ -73,7 +73,7 @@ TEST_F(FormTest, CannotBeShownAgainWhileItIsUnloaded) {
   EXPECT_EQ(app->ActiveForm(), nullptr);
 }
 
-TEST_F(FormTest, UnloadingMayAskForUnloadingAgain) {
+TEST_F(FormTest, MayBeUnloadedByUnloading) {
   form->Show();
   auto count = Count(form->Unloading());
   On(form->Unloading(), [&] { form->Unload(); });
@@ -81,7 +81,7 @@ TEST_F(FormTest, UnloadingMayAskForUnloadingAgain) {
   EXPECT_EQ(*count, 1);
 }
 
-TEST_F(FormTest, IsGoneEvenWhenAHandlerOfUnloadingFails) {
+TEST_F(FormTest, UnloadsEvenIfAHandlerFails) {
   form->Show();
   On(form->Unloading(), [] { throw orvik::HostError(5, "test", "broken"); });
   EXPECT_THROW(form->Unload(), orvik::HostError);
@@ -96,7 +96,7 @@ TEST_F(FormTest, MayBeLoadedAgain) {
   EXPECT_TRUE(form->Active());
 }
 
-TEST_F(FormTest, MayBeUnloadedAndReleasedInItsOwnButton) {
+TEST_F(FormTest, MayBeReleasedByItsButton) {
   form->Show();
   std::weak_ptr<platform::IForm> weak = form;
   auto button = form->AddButton("cmdOK");
@@ -111,7 +111,7 @@ TEST_F(FormTest, MayBeUnloadedAndReleasedInItsOwnButton) {
   EXPECT_TRUE(weak.expired());
 }
 
-TEST_F(FormTest, MayBeUnloadedAndReleasedWhenItBecomesActive) {
+TEST_F(FormTest, MayBeReleasedWhenActivated) {
   std::weak_ptr<platform::IForm> weak = form;
   On(form->Activated(), [&] {
     form->Unload();
@@ -123,7 +123,7 @@ TEST_F(FormTest, MayBeUnloadedAndReleasedWhenItBecomesActive) {
   EXPECT_EQ(*shown, 0);
 }
 
-TEST_F(FormTest, ActivationReturnsWhenAnotherCloses) {
+TEST_F(FormTest, IsActivatedWhenAnotherCloses) {
   form->Show();
   auto count = Count(form->Activated());
   auto other = Shown("Other");
@@ -133,7 +133,7 @@ TEST_F(FormTest, ActivationReturnsWhenAnotherCloses) {
   EXPECT_EQ(*count, 1);
 }
 
-TEST_F(FormTest, TheOneUsedLastBecomesActive) {
+TEST_F(FormTest, IsActivatedIfUsedLast) {
   auto a = Shown("A");
   auto b = Shown("B");
   auto c = Shown("C");
@@ -145,7 +145,7 @@ TEST_F(FormTest, TheOneUsedLastBecomesActive) {
   EXPECT_EQ(app->ActiveForm(), b);
 }
 
-TEST_F(FormTest, ActivateOfAHiddenFormDoesNothing) {
+TEST_F(FormTest, IgnoresActivateWhenHidden) {
   auto count = Count(form->Activated());
   form->Activate();
   form->Load();
@@ -153,7 +153,7 @@ TEST_F(FormTest, ActivateOfAHiddenFormDoesNothing) {
   EXPECT_EQ(*count, 0);
 }
 
-TEST_F(FormTest, KeysAreSeenWithPreviewOnly) {
+TEST_F(FormTest, SeesKeysWithPreviewOnly) {
   form->Show();
   std::vector<std::pair<int, int>> keys;
   On(form->KeyDown(), [&](int key, int shift) { keys.emplace_back(key, shift); });
@@ -163,7 +163,7 @@ TEST_F(FormTest, KeysAreSeenWithPreviewOnly) {
   EXPECT_EQ(keys, (std::vector<std::pair<int, int>>{{platform::kKeyY, 1}}));
 }
 
-TEST_F(FormTest, AHiddenOrDisabledFormSeesNoKeys) {
+TEST_F(FormTest, SeesNoKeysWhenHiddenOrDisabled) {
   form->SetKeyPreview(true);
   auto keys = Count(form->KeyDown());
   form->PressKey(platform::kKeyY, 0);
@@ -173,7 +173,7 @@ TEST_F(FormTest, AHiddenOrDisabledFormSeesNoKeys) {
   EXPECT_EQ(*keys, 0);
 }
 
-TEST_F(FormTest, AKeyAfterThePreviewReachesTheFocusUnlessTheFormIsGone) {
+TEST_F(FormTest, PassesKeysToTheFocusUnlessHidden) {
   auto button = form->AddButton("cmdOK");
   auto clicks = Count(button->Clicked());
   form->SetKeyPreview(true);
@@ -187,7 +187,7 @@ TEST_F(FormTest, AKeyAfterThePreviewReachesTheFocusUnlessTheFormIsGone) {
   EXPECT_EQ(*clicks, 2);
 }
 
-TEST_F(FormTest, AltAndAnAccessKeyClickTheButton) {
+TEST_F(FormTest, ClicksTheButtonOfAnAccessKey) {
   auto button = form->AddButton("cmdDecline");
   button->SetCaption("&No");
   auto clicks = Count(button->Clicked());
@@ -198,20 +198,20 @@ TEST_F(FormTest, AltAndAnAccessKeyClickTheButton) {
   EXPECT_EQ(*clicks, 1);
 }
 
-TEST_F(FormTest, TheCrossUnloads) {
+TEST_F(FormTest, UnloadsWhenClosed) {
   form->Show();
   form->Close();
   EXPECT_FALSE(form->Loaded());
 }
 
-TEST_F(FormTest, AHandlerKeepsItOpen) {
+TEST_F(FormTest, StaysOpenIfAHandlerAsks) {
   form->Show();
   On(form->CloseRequested(), [](bool& keep) { keep = true; });
   form->Close();
   EXPECT_TRUE(form->Visible());
 }
 
-TEST_F(FormTest, TheCrossOfAHiddenFormDoesNothing) {
+TEST_F(FormTest, IgnoresCloseWhenHidden) {
   form->Load();
   auto asked = Count(form->CloseRequested());
   form->Close();
@@ -219,7 +219,7 @@ TEST_F(FormTest, TheCrossOfAHiddenFormDoesNothing) {
   EXPECT_TRUE(form->Loaded());
 }
 
-TEST_F(FormTest, DraggingItsBorderChangesItsInside) {
+TEST_F(FormTest, IsResizedByTheOperatorWhenShown) {
   auto resized = Count(form->Resized());
   form->Resize({3000, 2000});
   EXPECT_EQ(*resized, 0) << "it was not shown";
@@ -230,14 +230,10 @@ TEST_F(FormTest, DraggingItsBorderChangesItsInside) {
   EXPECT_EQ(*resized, 1);
 }
 
-TEST_F(FormTest, TakesTheSizeOfItsGridUntilItIsGivenOne) {
+TEST_F(FormTest, HasTheSizeOfItsGridUntilSet) {
   auto label = form->AddLabel("lbl");
   label->SetCaption("1234567890");
-  platform::Grid grid;
-  grid.rows = {{}};
-  grid.columns = {{}};
-  grid.cells = {{"lbl", 0, 0}};
-  form->SetGrid(grid);
+  form->SetGrid(OneColumn({"lbl"}));
   const auto natural = form->InnerSize();
   EXPECT_GT(natural.width, 240);
   label->SetCaption("12345678901234567890");
@@ -247,21 +243,17 @@ TEST_F(FormTest, TakesTheSizeOfItsGridUntilItIsGivenOne) {
   EXPECT_EQ(form->InnerSize(), (platform::Size{9000, 9000}));
 }
 
-TEST_F(FormTest, TopmostChangesNeitherPlaceNorSize) {
+TEST_F(FormTest, KeepsItsBoundsWhenTopmost) {
   form->SetBounds({10, 20, 30, 40});
   form->SetTopmost(true);
   EXPECT_TRUE(form->Topmost());
   EXPECT_EQ(form->Bounds(), (platform::Rect{10, 20, 30, 40}));
 }
 
-TEST_F(FormTest, AShownWindowGrowsWithItsTextsAndDoesNotShrink) {
+TEST_F(FormTest, GrowsButDoesNotShrinkWhenShown) {
   form = app->CreateForm("Other");
   auto label = form->AddLabel("lbl");
-  platform::Grid grid;
-  grid.rows = {{}};
-  grid.columns = {{}};
-  grid.cells = {{"lbl", 0, 0}};
-  form->SetGrid(grid);
+  form->SetGrid(OneColumn({"lbl"}));
   label->SetCaption("a text");
   form->Show();
   const auto small = form->InnerSize();

@@ -27,20 +27,20 @@ TEST(LimitBound, IsJoinedAgain) {
   EXPECT_EQ(JoinBound({"110%", "mA"}), "110%");
 }
 
-TEST(LimitBound, IsReadWithItsUnit) {
+TEST(LimitBound, IsShownWithItsUnit) {
   EXPECT_EQ(BoundWithUnit("", "mA"), "");
   EXPECT_EQ(BoundWithUnit("0.5", "mA"), "0.5 mA");
   EXPECT_EQ(BoundWithUnit("110%", "mA"), "110 %");
   EXPECT_EQ(BoundWithUnit("0.5", ""), "0.5");
 }
 
-TEST(LimitBound, KeepsTheUnitsThatABoundCanBeIn) {
+TEST(LimitBound, CanHaveTheLimitsUnitOrPercent) {
   using Units = std::vector<std::string>;
   EXPECT_EQ(UsableUnits("V;%", "V"), (Units{"V", "%"}));
   EXPECT_EQ(UsableUnits(";%", ""), (Units{"", "%"}));
   EXPECT_EQ(UsableUnits("V", "V"), (Units{"V"}));
   EXPECT_EQ(UsableUnits("", "V"), (Units{"V"}));
-  EXPECT_EQ(UsableUnits("V;mV;%;%", "V"), (Units{"V", "%"})) << "nobody converts millivolts";
+  EXPECT_EQ(UsableUnits("V;mV;%;%", "V"), (Units{"V", "%"})) << "millivolts are not converted";
 }
 
 }  // namespace

@@ -59,7 +59,7 @@ TEST_F(ListViewTest, KeepsCells) {
   EXPECT_EQ(list->Cell("1::", "NAM").text, "");
 }
 
-TEST_F(ListViewTest, RefusesUnknownRowsAndColumns) {
+TEST_F(ListViewTest, RejectsUnknownRowsAndColumns) {
   list->AddRow("1::");
   ExpectHostError(9, "2::", [&] { list->SetCell("2::", "VAL", Cell("")); });
   ExpectHostError(9, "XYZ", [&] { list->SetCell("1::", "XYZ", Cell("")); });
@@ -78,7 +78,7 @@ TEST_F(ListViewTest, KeepsRowTags) {
   EXPECT_EQ(std::any_cast<std::string>(list->RowTag("1::")), "element");
 }
 
-TEST_F(ListViewTest, ClearingTakesRowsTagsAndSelection) {
+TEST_F(ListViewTest, ClearsRowsTagsAndSelection) {
   auto held = std::make_shared<int>(1);
   list->AddRow("1::");
   list->SetRowTag("1::", held);
@@ -92,7 +92,7 @@ TEST_F(ListViewTest, ClearingTakesRowsTagsAndSelection) {
   EXPECT_FALSE(list->RowTag("1::").has_value());
 }
 
-TEST_F(ListViewTest, AClickTellsWhereItWas) {
+TEST_F(ListViewTest, ReportsThePositionOfAClick) {
   platform::MouseEvent seen;
   On(list->MouseUp(), [&](const platform::MouseEvent& event) { seen = event; });
   list->ClickAt({2, 1, 30, 40});
@@ -105,7 +105,7 @@ TEST_F(ListViewTest, AClickTellsWhereItWas) {
   EXPECT_EQ(seen.button, 2);
 }
 
-TEST_F(ListViewTest, AClickSelectsTheRowUnderIt) {
+TEST_F(ListViewTest, SelectsTheClickedRow) {
   for (const char* key : {"a", "b", "c", "d", "e"}) list->AddRow(key);
   std::string seen;
   On(list->MouseUp(), [&](const platform::MouseEvent&) { seen = list->SelectedRow(); });

@@ -33,13 +33,13 @@ TEST_F(ModalTest, WaitsUntilTheFormIsUnloaded) {
   EXPECT_FALSE(guide->Loaded());
 }
 
-TEST_F(ModalTest, ReturnsAtOnceWhenTheFormIsGoneBeforeTheWait) {
+TEST_F(ModalTest, ReturnsAtOnceIfUnloadedWhenShown) {
   On(app->FormShown(), [](const std::shared_ptr<platform::IForm>& form) { form->Unload(); });
   guide->ShowModal(nullptr);
   EXPECT_EQ(app->Now(), 0s);
 }
 
-TEST_F(ModalTest, AFormThatIsHiddenAndShownAgainEndsTheWait) {
+TEST_F(ModalTest, EndsTheWaitIfHiddenAndShownAgain) {
   app->CallAt(1s, [&] {
     guide->Hide();
     guide->Show();
@@ -48,7 +48,7 @@ TEST_F(ModalTest, AFormThatIsHiddenAndShownAgainEndsTheWait) {
   EXPECT_TRUE(guide->Visible());
 }
 
-TEST_F(ModalTest, TheOthersDoNotAnswerMeanwhile) {
+TEST_F(ModalTest, BlocksTheOthers) {
   guide->Show();
   auto behind = Count(ButtonOf(guide)->Clicked());
   auto closing = Count(guide->CloseRequested());
@@ -71,7 +71,7 @@ TEST_F(ModalTest, TheOthersDoNotAnswerMeanwhile) {
   EXPECT_EQ(*behind, 1);
 }
 
-TEST_F(ModalTest, AFormShownLaterAnswers) {
+TEST_F(ModalTest, DoesNotBlockAFormShownLater) {
   auto clicks = Count(ButtonOf(prompt)->Clicked());
   app->CallAt(1s, [&] {
     prompt->Show();
@@ -83,7 +83,7 @@ TEST_F(ModalTest, AFormShownLaterAnswers) {
   EXPECT_EQ(*clicks, 1);
 }
 
-TEST_F(ModalTest, ShowingABlockedFormAgainDoesNotFreeIt) {
+TEST_F(ModalTest, BlocksAFormThatIsShownAgain) {
   guide->Show();
   auto clicks = Count(ButtonOf(guide)->Clicked());
   app->CallAt(1s, [&] {
@@ -114,7 +114,7 @@ TEST_F(ModalTest, Nests) {
   EXPECT_EQ(app->ActiveForm(), nullptr);
 }
 
-TEST_F(ModalTest, TheOuterFormMayGoWhileTheInnerOneIsOpen) {
+TEST_F(ModalTest, AllowsTheOuterFormToEndFirst) {
   app->CallAt(1s, [&] { prompt->ShowModal(guide); });
   app->CallAt(2s, [&] {
     guide->Unload();
@@ -125,7 +125,7 @@ TEST_F(ModalTest, TheOuterFormMayGoWhileTheInnerOneIsOpen) {
   EXPECT_EQ(app->Now(), 3s);
 }
 
-TEST_F(ModalTest, TheOwnerBecomesActiveAgain) {
+TEST_F(ModalTest, ReactivatesTheOwner) {
   guide->Show();
   auto other = Shown("Other");
   auto count = Count(guide->Activated());
@@ -135,7 +135,7 @@ TEST_F(ModalTest, TheOwnerBecomesActiveAgain) {
   EXPECT_EQ(*count, 1);
 }
 
-TEST_F(ModalTest, AnOpenFormMayBecomeModal) {
+TEST_F(ModalTest, BlocksWhenAnOpenFormBecomesModal) {
   prompt->Show();
   guide->Show();
   auto clicks = Count(ButtonOf(guide)->Clicked());
@@ -147,7 +147,7 @@ TEST_F(ModalTest, AnOpenFormMayBecomeModal) {
   EXPECT_EQ(*clicks, 0);
 }
 
-TEST_F(ModalTest, ASecondTimeIsRefused) {
+TEST_F(ModalTest, RejectsASecondTime) {
   app->CallAt(1s, [&] {
     ExpectHostError(5, "FTestGuide", [&] { guide->ShowModal(nullptr); });
     guide->Hide();
@@ -156,7 +156,7 @@ TEST_F(ModalTest, ASecondTimeIsRefused) {
   EXPECT_EQ(app->Now(), 1s);
 }
 
-TEST_F(ModalTest, AnErrorEndsItAndFreesTheOthers) {
+TEST_F(ModalTest, EndsAndUnblocksTheOthersOnAnError) {
   guide->Show();
   auto clicks = Count(ButtonOf(guide)->Clicked());
   app->CallAt(1s, [] { throw orvik::HostError(57, "test", "line is gone"); });
@@ -166,7 +166,7 @@ TEST_F(ModalTest, AnErrorEndsItAndFreesTheOthers) {
   EXPECT_EQ(*clicks, 1);
 }
 
-TEST_F(ModalTest, TheFormMayBeReleasedMeanwhile) {
+TEST_F(ModalTest, AllowsTheFormToBeReleased) {
   std::weak_ptr<platform::IForm> weak = guide;
   app->CallAt(1s, [&] {
     guide->Unload();
@@ -176,10 +176,9 @@ TEST_F(ModalTest, TheFormMayBeReleasedMeanwhile) {
   EXPECT_TRUE(weak.expired());
 }
 
-TEST_F(ModalTest, AReleasedWindowInAPumpHandlerEndsTheWaitAtOnce) {
+TEST_F(ModalTest, EndsAtOnceIfHiddenInPumped) {
   auto timer = guide->AddTimer("tmr");
-  timer->SetInterval(1000);
-  timer->SetEnabled(true);
+  Start(*timer, 1000);
   On(app->Pumped(), [&] { guide->Hide(); });
   guide->ShowModal(nullptr);
   EXPECT_EQ(app->Now(), 0s);

@@ -5,23 +5,18 @@ namespace {
 
 class PanelTest : public ToolkitTest {
  protected:
-  /// Controls under each other, each as wide as the panel.
+  /// Controls below each other, each as wide as the panel.
   static platform::Grid Column(const std::vector<std::string>& names) {
-    platform::Grid grid;
-    grid.columns = {{0, 1}};
+    auto grid = OneColumn(names, {0, 1});
     grid.margin = 0;
     grid.gap = 0;
-    for (const auto& name : names) {
-      grid.cells.push_back({name, static_cast<int>(grid.rows.size()), 0});
-      grid.rows.push_back({});
-    }
     return grid;
   }
 
   std::shared_ptr<platform::IForm> form = app->CreateForm("FForm");
 };
 
-TEST_F(PanelTest, KeepsControlsInTheOrderInWhichTheyWereAdded) {
+TEST_F(PanelTest, KeepsControlsInOrder) {
   std::vector<std::shared_ptr<platform::IControl>> added = {
       form->AddLabel("a"),    form->AddFrame("b"),       form->AddButton("c"),     form->AddTextBox("d"),
       form->AddComboBox("e"), form->AddListView("f"),    form->AddTreeView("g"),   form->AddToolbar("h"),
@@ -38,14 +33,14 @@ TEST_F(PanelTest, MatchesNamesToTheLetter) {
   EXPECT_FALSE(form->Find(""));
 }
 
-TEST_F(PanelTest, RefusesASecondControlOfAName) {
+TEST_F(PanelTest, RejectsADuplicateName) {
   form->AddLabel("x");
   ExpectHostError(5, "\"x\"", [&] { form->AddButton("x"); });
   ExpectHostError(5, "\"x\"", [&] { form->AddControl("test.Probe", "x"); });
   EXPECT_EQ(form->Controls().size(), 1U);
 }
 
-TEST_F(PanelTest, GivesEveryWindowAHandleOfItsOwn) {
+TEST_F(PanelTest, GivesEachWindowAHandle) {
   auto site = form->AddControl("test.Probe", "isc");
   auto page = form->AddTabs("tab")->AddPage("p", "Page");
   std::vector<platform::WindowHandle> handles = {form->Handle(), site->Handle(), site->Panel()->Handle(),
@@ -55,20 +50,20 @@ TEST_F(PanelTest, GivesEveryWindowAHandleOfItsOwn) {
   EXPECT_NE(handles.front(), 0U);
 }
 
-TEST_F(PanelTest, RefusesAControlClassThatNobodyKnows) {
+TEST_F(PanelTest, RejectsAnUnknownControlClass) {
   ExpectHostError(429, "test.Unknown", [&] { form->AddControl("test.Unknown", "isc"); });
   EXPECT_FALSE(form->Find("isc"));
   app->SetControlFactory(nullptr);
   ExpectHostError(429, "test.Probe", [&] { form->AddControl("test.Probe", "isc"); });
 }
 
-TEST_F(PanelTest, AControlThatCannotBuildItselfAddsNothing) {
+TEST_F(PanelTest, RemovesAControlThatFailsToBuild) {
   app->SetControlFactory([](const std::string&) {
     auto probe = std::make_shared<ProbeControl>();
     probe->fails = true;
     return probe;
   });
-  ExpectHostError(5, "does not want", [&] { form->AddControl("test.Probe", "isc"); });
+  ExpectHostError(5, "cannot be placed", [&] { form->AddControl("test.Probe", "isc"); });
   EXPECT_FALSE(form->Find("isc"));
   EXPECT_TRUE(form->Controls().empty());
 }
@@ -84,14 +79,14 @@ TEST_F(PanelTest, PlacesControlsByTheGrid) {
   EXPECT_EQ(b, (platform::Rect{0, a.height, 4000, a.height}));
 }
 
-TEST_F(PanelTest, PlacesThemAgainWhenItsSizeChanges) {
+TEST_F(PanelTest, UpdatesTheLayoutWhenResized) {
   form->AddButton("a");
   form->SetGrid(Column({"a"}));
   form->SetBounds({0, 0, 5000, 1000});
   EXPECT_EQ(form->Find("a")->Bounds().width, 5000);
 }
 
-TEST_F(PanelTest, PlacesThemAgainWhenACaptionChangesItsLength) {
+TEST_F(PanelTest, UpdatesTheLayoutWhenACaptionChanges) {
   auto label = form->AddLabel("lbl");
   form->AddTextBox("txt");
   platform::Grid grid;
@@ -108,7 +103,7 @@ TEST_F(PanelTest, PlacesThemAgainWhenACaptionChangesItsLength) {
   EXPECT_EQ(after.left + after.width, before.left + before.width);
 }
 
-TEST_F(PanelTest, AHiddenControlLeavesItsRoomToTheOthers) {
+TEST_F(PanelTest, GivesNoSpaceToHiddenControls) {
   auto a = form->AddButton("a");
   auto b = form->AddButton("b");
   form->SetGrid(Column({"a", "b"}));
@@ -118,7 +113,7 @@ TEST_F(PanelTest, AHiddenControlLeavesItsRoomToTheOthers) {
   EXPECT_EQ(b->Bounds().top, a->Bounds().height);
 }
 
-TEST_F(PanelTest, RefusesAGridThatNamesAnUnknownControl) {
+TEST_F(PanelTest, RejectsAGridWithAnUnknownControl) {
   form->AddButton("a");
   form->SetGrid(Column({"a"}));
   ExpectHostError(5, "\"typo\"", [&] { form->SetGrid(Column({"typo"})); });
@@ -126,14 +121,14 @@ TEST_F(PanelTest, RefusesAGridThatNamesAnUnknownControl) {
   EXPECT_EQ(form->Find("a")->Bounds().width, 1215) << "the old grid stays in force";
 }
 
-TEST_F(PanelTest, RefusesACellOutsideTheGrid) {
+TEST_F(PanelTest, RejectsACellOutsideTheGrid) {
   form->AddButton("a");
   auto grid = Column({"a"});
   grid.cells[0].column = 1;
   ExpectHostError(5, "\"a\"", [&] { form->SetGrid(grid); });
 }
 
-TEST_F(PanelTest, TellsOfAnotherSizeAfterTheControlsWerePlaced) {
+TEST_F(PanelTest, RaisesResizedAfterTheLayout) {
   form->AddButton("a");
   form->SetGrid(Column({"a"}));
   int seen = 0;
@@ -145,7 +140,7 @@ TEST_F(PanelTest, TellsOfAnotherSizeAfterTheControlsWerePlaced) {
   EXPECT_EQ(seen, 0);
 }
 
-TEST_F(PanelTest, AControlInsideAUserControlMovesTheOnesAroundIt) {
+TEST_F(PanelTest, UpdatesTheLayoutForNestedControls) {
   auto site = form->AddControl("test.Probe", "isc");
   auto below = form->AddButton("below");
   auto label = site->Panel()->AddLabel("lbl");
@@ -158,7 +153,7 @@ TEST_F(PanelTest, AControlInsideAUserControlMovesTheOnesAroundIt) {
   EXPECT_EQ(label->Bounds().width, form->InnerSize().width);
 }
 
-TEST_F(PanelTest, AHandlerThatChangesCaptionsForEverDoesNotHang) {
+TEST_F(PanelTest, StopsALayoutThatDoesNotConverge) {
   auto label = form->AddLabel("lbl");
   auto site = form->AddControl("test.Probe", "isc");
   form->SetGrid(Column({"lbl", "isc"}));

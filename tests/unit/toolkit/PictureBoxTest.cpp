@@ -19,30 +19,26 @@ class PictureBoxTest : public ToolkitTest {
  protected:
   PictureBoxTest() {
     // The picture is on the form before the grid names it: members are made before this runs.
-    platform::Grid grid;
-    grid.rows = {{}};
-    grid.columns = {{}};
-    grid.cells = {{"pic", 0, 0}};
-    form->SetGrid(grid);
+    form->SetGrid(OneColumn({"pic"}));
   }
 
   std::shared_ptr<platform::IForm> form = app->CreateForm("FForm");
   std::shared_ptr<platform::IPictureBox> picture = form->AddPictureBox("pic");
 };
 
-TEST_F(PictureBoxTest, IsAsLargeAsItsBitmap) {
+TEST_F(PictureBoxTest, HasTheSizeOfItsBitmap) {
   picture->SetBitmap(Bitmap(32, 16));
   EXPECT_EQ(picture->Bitmap(), Bitmap(32, 16));
   EXPECT_EQ(picture->Bounds().width, 480);
   EXPECT_EQ(picture->Bounds().height, 240);
 }
 
-TEST_F(PictureBoxTest, ABitmapMayStandTopDown) {
+TEST_F(PictureBoxTest, AcceptsATopDownBitmap) {
   picture->SetBitmap(Bitmap(32, static_cast<std::uint32_t>(-16)));
   EXPECT_EQ(picture->Bounds().height, 240);
 }
 
-TEST_F(PictureBoxTest, WhatIsNoBitmapTakesNoPlace) {
+TEST_F(PictureBoxTest, TakesNoSpaceForOtherBytes) {
   picture->SetBitmap(Bitmap(32, 16));
   picture->SetBitmap({});
   EXPECT_TRUE(picture->Bitmap().empty());
@@ -52,7 +48,7 @@ TEST_F(PictureBoxTest, WhatIsNoBitmapTakesNoPlace) {
   EXPECT_EQ(picture->Bounds().width, 0);
 }
 
-TEST_F(PictureBoxTest, AnAbsurdHeaderDoesNoHarm) {
+TEST_F(PictureBoxTest, LimitsTheSizeInTheHeader) {
   picture->SetBitmap(Bitmap(0x7FFFFFFF, 0x80000000));
   EXPECT_EQ(picture->Bounds().width, 32767 * 15);
   EXPECT_EQ(picture->Bounds().height, 32767 * 15);

@@ -9,13 +9,13 @@ class ProgressBarTest : public ToolkitTest {
   std::shared_ptr<platform::IProgressBar> bar = form->AddProgressBar("prg");
 };
 
-TEST_F(ProgressBarTest, RunsFromNoneToHundred) {
+TEST_F(ProgressBarTest, RangesFrom0To100ByDefault) {
   EXPECT_EQ(bar->Minimum(), 0);
   EXPECT_EQ(bar->Maximum(), 100);
   EXPECT_EQ(bar->Value(), 0);
 }
 
-TEST_F(ProgressBarTest, HoldsItsValueWithinItsRange) {
+TEST_F(ProgressBarTest, LimitsItsValueToItsRange) {
   bar->SetRange(10, 20);
   EXPECT_EQ(bar->Value(), 10);
   bar->SetValue(25);
@@ -24,7 +24,7 @@ TEST_F(ProgressBarTest, HoldsItsValueWithinItsRange) {
   EXPECT_EQ(bar->Value(), 10);
 }
 
-TEST_F(ProgressBarTest, RefusesARangeThatIsNone) {
+TEST_F(ProgressBarTest, RejectsAnInvalidRange) {
   ExpectHostError(5, "from 5 to 4", [&] { bar->SetRange(5, 4); });
   EXPECT_EQ(bar->Maximum(), 100);
 }

@@ -25,7 +25,7 @@ TEST_F(TabsTest, ShowsTheFirstPageUntilAnotherIsChosen) {
   EXPECT_TRUE(second->Visible());
 }
 
-TEST_F(TabsTest, OnlyTheChosenPageAnswers) {
+TEST_F(TabsTest, AcceptsInputOnTheChosenPageOnly) {
   tabs->AddPage("a", "A");
   auto button = tabs->AddPage("b", "B")->AddButton("cmd");
   auto clicks = Count(button->Clicked());
@@ -36,7 +36,7 @@ TEST_F(TabsTest, OnlyTheChosenPageAnswers) {
   EXPECT_EQ(*clicks, 1);
 }
 
-TEST_F(TabsTest, ChoosingAnUnknownPageOrOnDisabledTabsDoesNothing) {
+TEST_F(TabsTest, IgnoresUnknownPagesAndDisabledTabs) {
   tabs->AddPage("a", "A");
   tabs->AddPage("b", "B");
   tabs->Choose("c");
@@ -45,7 +45,7 @@ TEST_F(TabsTest, ChoosingAnUnknownPageOrOnDisabledTabsDoesNothing) {
   EXPECT_EQ(tabs->SelectedKey(), "a");
 }
 
-TEST_F(TabsTest, RefusesDoubledAndUnknownKeys) {
+TEST_F(TabsTest, RejectsDuplicateAndUnknownKeys) {
   tabs->AddPage("a", "A");
   ExpectHostError(5, "\"a\"", [&] { tabs->AddPage("a", "again"); });
   ExpectHostError(9, "\"b\"", [&] { static_cast<void>(tabs->PageCaption("b")); });
@@ -60,7 +60,7 @@ TEST_F(TabsTest, KeepsThePagesBitmap) {
   EXPECT_EQ(std::dynamic_pointer_cast<Tabs>(tabs)->PageBitmap("a"), bytes);
 }
 
-TEST_F(TabsTest, PagesFillTheRoomBelowTheCaptions) {
+TEST_F(TabsTest, PlacesPagesBelowTheCaptions) {
   auto first = tabs->AddPage("a", "A");
   tabs->SetBounds({0, 0, 3000, 2000});
   auto second = tabs->AddPage("b", "B");
@@ -68,25 +68,19 @@ TEST_F(TabsTest, PagesFillTheRoomBelowTheCaptions) {
   EXPECT_EQ(second->InnerSize(), (platform::Size{3000, 1625}));
 }
 
-TEST_F(TabsTest, TakesRoomForItsLargestPage) {
+TEST_F(TabsTest, HasTheSizeOfItsLargestPage) {
   auto page = tabs->AddPage("a", "A");
   auto label = page->AddLabel("lbl");
-  platform::Grid grid;
-  grid.rows = {{}};
-  grid.columns = {{}};
-  grid.cells = {{"lbl", 0, 0}};
-  page->SetGrid(grid);
-  grid.cells[0].control = "tab";
-  form->SetGrid(grid);
+  page->SetGrid(OneColumn({"lbl"}));
+  form->SetGrid(OneColumn({"tab"}));
   const auto before = tabs->Bounds();
   label->SetCaption("a caption that is much longer than before");
   EXPECT_GT(tabs->Bounds().width, before.width);
 }
 
-TEST_F(TabsTest, TimersOnPagesEndWithTheForm) {
+TEST_F(TabsTest, StopsTimersOnPagesWithTheForm) {
   auto timer = tabs->AddPage("a", "A")->AddTimer("tmr");
-  timer->SetInterval(10);
-  timer->SetEnabled(true);
+  Start(*timer, 10);
   form->Unload();
   EXPECT_FALSE(timer->Enabled());
 }

@@ -10,7 +10,7 @@ class TextBoxTest : public ToolkitTest {
   std::shared_ptr<int> changes = Count(text->Changed());
 };
 
-TEST_F(TextBoxTest, TellsWhenTheTextBecomesAnother) {
+TEST_F(TextBoxTest, NotifiesWhenTheTextChanges) {
   text->SetText("a");
   text->SetText("a");
   EXPECT_EQ(*changes, 1);
@@ -21,7 +21,7 @@ TEST_F(TextBoxTest, TellsWhenTheTextBecomesAnother) {
   EXPECT_EQ(*changes, 3);
 }
 
-TEST_F(TextBoxTest, LockedTakesTextsOfTheProgramOnly) {
+TEST_F(TextBoxTest, RejectsTypingWhenLocked) {
   text->SetLocked(true);
   text->Type("a");
   text->TypeOver("b");
@@ -30,7 +30,7 @@ TEST_F(TextBoxTest, LockedTakesTextsOfTheProgramOnly) {
   EXPECT_EQ(text->Text(), "c");
 }
 
-TEST_F(TextBoxTest, HiddenOrDisabledTakesNoTyping) {
+TEST_F(TextBoxTest, RejectsTypingWhenHiddenOrDisabled) {
   text->SetVisible(false);
   text->Type("a");
   text->SetVisible(true);
@@ -39,7 +39,7 @@ TEST_F(TextBoxTest, HiddenOrDisabledTakesNoTyping) {
   EXPECT_EQ(*changes, 0);
 }
 
-TEST_F(TextBoxTest, KeysAreTyped) {
+TEST_F(TextBoxTest, TypesKeys) {
   text->SetFocus();
   form->PressKey('K', 1);
   form->PressKey('E', 0);
@@ -49,7 +49,7 @@ TEST_F(TextBoxTest, KeysAreTyped) {
   EXPECT_EQ(text->Text(), "Ke1 ");
 }
 
-TEST_F(TextBoxTest, RemembersThatItHasLines) {
+TEST_F(TextBoxTest, CanHaveSeveralLines) {
   EXPECT_FALSE(text->MultiLine());
   text->SetMultiLine(true);
   EXPECT_TRUE(text->MultiLine());

@@ -25,7 +25,7 @@ class Calls : public testing::Test {
   std::vector<int> ran;
 };
 
-TEST_F(Calls, ComeInTheOrderOfTheirTimes) {
+TEST_F(Calls, RunInOrderOfTime) {
   Add(30, 3);
   Add(10, 1);
   Add(20, 2);
@@ -37,13 +37,13 @@ TEST_F(Calls, ComeInTheOrderOfTheirTimes) {
   EXPECT_TRUE(queue.Empty());
 }
 
-TEST_F(Calls, OfTheSameTimeComeInTheOrderOfTheirArrival) {
+TEST_F(Calls, RunInOrderOfAdditionAtEqualTimes) {
   for (int name = 0; name < 20; ++name) Add(5, name);
   RunDue(5);
   for (int name = 0; name < 20; ++name) EXPECT_EQ(ran[static_cast<std::size_t>(name)], name);
 }
 
-TEST_F(Calls, ThatWereRemovedDoNotCome) {
+TEST_F(Calls, DoNotRunWhenRemoved) {
   const auto first = Add(1, 1);
   const auto second = Add(2, 2);
   Add(3, 3);
@@ -56,7 +56,7 @@ TEST_F(Calls, ThatWereRemovedDoNotCome) {
   queue.Remove(first);
 }
 
-TEST_F(Calls, AnEndedIdentifierDoesNotRemoveTheCallThatTookItsPlace) {
+TEST_F(Calls, AreNotRemovedByAnOldIdentifier) {
   const auto first = Add(1, 1);
   queue.Remove(first);
   Add(1, 2);
@@ -65,7 +65,7 @@ TEST_F(Calls, AnEndedIdentifierDoesNotRemoveTheCallThatTookItsPlace) {
   EXPECT_EQ(ran, (std::vector<int>{2}));
 }
 
-TEST_F(Calls, AddedAfterTheMarkWait) {
+TEST_F(Calls, DoNotRunWhenAddedAfterTheMark) {
   Add(1, 1);
   const auto mark = queue.Mark();
   Add(1, 2);
@@ -73,7 +73,7 @@ TEST_F(Calls, AddedAfterTheMarkWait) {
   EXPECT_EQ(ran, (std::vector<int>{1}));
 }
 
-TEST_F(Calls, RemovingACallMayAddAnother) {
+TEST_F(Calls, MayBeAddedDuringARemoval) {
   struct Readder {
     TimerQueue* queue;
     ~Readder() {

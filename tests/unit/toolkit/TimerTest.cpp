@@ -17,9 +17,8 @@ TEST_F(TimerTest, StartsDisabledWithoutInterval) {
   EXPECT_EQ(timer->Interval(), 0);
 }
 
-TEST_F(TimerTest, TicksAgainAndAgain) {
-  timer->SetInterval(2000);
-  timer->SetEnabled(true);
+TEST_F(TimerTest, TicksRepeatedly) {
+  Start(*timer, 2000);
   app->WaitMessages(1h);
   EXPECT_EQ(app->Now(), 2s);
   app->WaitMessages(1h);
@@ -27,54 +26,48 @@ TEST_F(TimerTest, TicksAgainAndAgain) {
   EXPECT_EQ(*ticks, 2);
 }
 
-TEST_F(TimerTest, OfAFormThatWasNeverLoadedTicksToo) {
+TEST_F(TimerTest, TicksOnAFormThatWasNeverLoaded) {
   EXPECT_FALSE(form->Loaded());
-  timer->SetInterval(10);
-  timer->SetEnabled(true);
+  Start(*timer, 10);
   app->WaitMessages(1h);
   EXPECT_EQ(*ticks, 1);
 }
 
-TEST_F(TimerTest, AnIntervalOfZeroNeverTicks) {
+TEST_F(TimerTest, NeverTicksWithIntervalZero) {
   timer->SetEnabled(true);
   app->WaitMessages(1h);
   EXPECT_EQ(app->Now(), 1h);
   EXPECT_EQ(*ticks, 0);
 }
 
-TEST_F(TimerTest, ATickThatWasDisabledMeanwhileDoesNotArrive) {
+TEST_F(TimerTest, DoesNotTickAfterBeingDisabled) {
   auto other = form->AddTimer("tmrOther");
-  other->SetInterval(100);
-  other->SetEnabled(true);
-  timer->SetInterval(100);
-  timer->SetEnabled(true);
+  Start(*other, 100);
+  Start(*timer, 100);
   On(other->Tick(), [&] { timer->SetEnabled(false); });
   app->WaitMessages(1h);
   EXPECT_EQ(app->Now(), 100ms);
   EXPECT_EQ(*ticks, 0);
 }
 
-TEST_F(TimerTest, EnablingStartsAWholeInterval) {
-  timer->SetInterval(1000);
-  timer->SetEnabled(true);
+TEST_F(TimerTest, StartsAWholeIntervalWhenEnabled) {
+  Start(*timer, 1000);
   app->WaitMessages(600ms);
   timer->SetEnabled(true);
   app->WaitMessages(1h);
   EXPECT_EQ(app->Now(), 1600ms);
 }
 
-TEST_F(TimerTest, AnotherIntervalStartsFromNow) {
-  timer->SetInterval(1000);
-  timer->SetEnabled(true);
+TEST_F(TimerTest, RestartsWhenTheIntervalChanges) {
+  Start(*timer, 1000);
   app->WaitMessages(600ms);
   timer->SetInterval(200);
   app->WaitMessages(1h);
   EXPECT_EQ(app->Now(), 800ms);
 }
 
-TEST_F(TimerTest, MayBeDisabledInItsOwnTick) {
-  timer->SetInterval(10);
-  timer->SetEnabled(true);
+TEST_F(TimerTest, MayBeDisabledByItsTick) {
+  Start(*timer, 10);
   On(timer->Tick(), [&] { timer->SetEnabled(false); });
   app->WaitMessages(1h);
   app->WaitMessages(2h);
@@ -82,8 +75,7 @@ TEST_F(TimerTest, MayBeDisabledInItsOwnTick) {
 }
 
 TEST_F(TimerTest, TicksInsideANestedWait) {
-  timer->SetInterval(10);
-  timer->SetEnabled(true);
+  Start(*timer, 10);
   bool nested = false;
   On(timer->Tick(), [&] {
     if (!std::exchange(nested, true)) app->WaitMessages(1h);
@@ -92,13 +84,12 @@ TEST_F(TimerTest, TicksInsideANestedWait) {
   EXPECT_EQ(*ticks, 2);
 }
 
-TEST_F(TimerTest, RefusesANegativeInterval) {
+TEST_F(TimerTest, RejectsANegativeInterval) {
   ExpectHostError(5, "tmrClock", [&] { timer->SetInterval(-1); });
 }
 
-TEST_F(TimerTest, MayBeReleasedInItsOwnTick) {
-  timer->SetInterval(10);
-  timer->SetEnabled(true);
+TEST_F(TimerTest, MayBeReleasedByItsTick) {
+  Start(*timer, 10);
   On(timer->Tick(), [&] {
     timer.reset();
     form.reset();
@@ -109,24 +100,22 @@ TEST_F(TimerTest, MayBeReleasedInItsOwnTick) {
   EXPECT_EQ(app->Now(), 1h);
 }
 
-TEST_F(TimerTest, UnloadingTheFormDisablesIt) {
+TEST_F(TimerTest, IsDisabledWhenTheFormIsUnloaded) {
   form->Load();
-  timer->SetInterval(10);
-  timer->SetEnabled(true);
+  Start(*timer, 10);
   form->Unload();
   EXPECT_FALSE(timer->Enabled());
   app->WaitMessages(1h);
   EXPECT_EQ(*ticks, 0);
 }
 
-TEST(RealTimer, BehindItsTimeTicksOnce) {
+TEST(RealTimer, TicksOnceWhenLate) {
   Application app(ClockKind::kReal);
   auto form = app.CreateForm("FClock");
   auto timer = form->AddTimer("tmr");
   int ticks = 0;
   const auto ticking = timer->Tick().Subscribe([&] { ++ticks; });
-  timer->SetInterval(1);
-  timer->SetEnabled(true);
+  Start(*timer, 1);
   const auto busyUntil = app.Now() + 8ms;
   while (app.Now() < busyUntil) {
   }

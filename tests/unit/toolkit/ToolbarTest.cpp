@@ -25,7 +25,7 @@ TEST_F(ToolbarTest, ListsButtonsAndEntries) {
   EXPECT_TRUE(toolbar->CommandVisible(900));
 }
 
-TEST_F(ToolbarTest, AnUnknownParentAddsNothing) {
+TEST_F(ToolbarTest, IgnoresAnEntryWithUnknownParent) {
   toolbar->AddEntry(777, 900, "Calibrate...");
   EXPECT_EQ(toolbar->Commands(), (std::vector<int>{202, 501}));
   toolbar->AddEntry(501, 900, "Calibrate...");
@@ -33,12 +33,12 @@ TEST_F(ToolbarTest, AnUnknownParentAddsNothing) {
   EXPECT_EQ(toolbar->Commands(), (std::vector<int>{202, 501, 900}));
 }
 
-TEST_F(ToolbarTest, RefusesADoubledCommand) {
+TEST_F(ToolbarTest, RejectsADuplicateCommand) {
   ExpectHostError(5, "202", [&] { toolbar->AddButton(202, "again"); });
   ExpectHostError(5, "202", [&] { toolbar->AddEntry(501, 202, "again"); });
 }
 
-TEST_F(ToolbarTest, AnUnknownCommandChangesNothing) {
+TEST_F(ToolbarTest, IgnoresUnknownCommands) {
   toolbar->EnableCommand(1, true);
   toolbar->ShowCommand(1, true);
   toolbar->SetCommandToolTip(1, "tip");
@@ -49,12 +49,12 @@ TEST_F(ToolbarTest, AnUnknownCommandChangesNothing) {
   EXPECT_TRUE(chosen.empty());
 }
 
-TEST_F(ToolbarTest, AClickChoosesTheCommand) {
+TEST_F(ToolbarTest, ChoosesAClickedCommand) {
   toolbar->Click(202);
   EXPECT_EQ(chosen, (std::vector<int>{202}));
 }
 
-TEST_F(ToolbarTest, DisabledOrHiddenCommandsDoNothing) {
+TEST_F(ToolbarTest, IgnoresDisabledOrHiddenCommands) {
   toolbar->EnableCommand(202, false);
   toolbar->Click(202);
   toolbar->EnableCommand(202, true);
@@ -63,13 +63,13 @@ TEST_F(ToolbarTest, DisabledOrHiddenCommandsDoNothing) {
   EXPECT_TRUE(chosen.empty());
 }
 
-TEST_F(ToolbarTest, ADisabledToolbarDoesNothing) {
+TEST_F(ToolbarTest, IgnoresClicksWhenDisabled) {
   toolbar->SetEnabled(false);
   toolbar->Click(202);
   EXPECT_TRUE(chosen.empty());
 }
 
-TEST_F(ToolbarTest, AnEntryNeedsItsButton) {
+TEST_F(ToolbarTest, RequiresTheButtonOfAnEntry) {
   toolbar->AddEntry(501, 900, "Calibrate...");
   toolbar->Click(900);
   toolbar->EnableCommand(501, false);
@@ -80,7 +80,7 @@ TEST_F(ToolbarTest, AnEntryNeedsItsButton) {
   EXPECT_EQ(chosen, (std::vector<int>{900}));
 }
 
-TEST_F(ToolbarTest, AButtonWithEntriesDropsThemDown) {
+TEST_F(ToolbarTest, ChoosesNothingForAButtonWithEntries) {
   toolbar->Click(501);
   toolbar->AddEntry(501, 900, "Calibrate...");
   toolbar->Click(501);

@@ -34,7 +34,7 @@ namespace bench::headless {
 namespace platform = orvik::platform;
 using namespace std::chrono_literals;
 
-/// Expects a `HostError` of that number whose description holds the text.
+/// Expects a `HostError` of that number with the text in its description.
 inline void ExpectHostError(std::int32_t number, const std::string& text,
                             const std::function<void()>& action) {
   try {
@@ -46,13 +46,29 @@ inline void ExpectHostError(std::int32_t number, const std::string& text,
   }
 }
 
+/// A grid with one column and a row for each control.
+inline platform::Grid OneColumn(const std::vector<std::string>& names, platform::Track column = {}) {
+  platform::Grid grid;
+  grid.columns = {column};
+  for (const auto& name : names) {
+    grid.cells.push_back({name, static_cast<int>(grid.rows.size()), 0});
+    grid.rows.push_back({});
+  }
+  return grid;
+}
+
+inline void Start(platform::ITimer& timer, int milliseconds) {
+  timer.SetInterval(milliseconds);
+  timer.SetEnabled(true);
+}
+
 /// A user control with a text box "txtInner" that it is asked to focus, and a timer "tmrInner".
 class ProbeControl final : public platform::IUserControl {
  public:
   void AttachTo(const std::shared_ptr<platform::IContainerSite>& site) override {
     ++attached;
     where = site;
-    if (fails) throw orvik::HostError(5, "probe", "does not want to be placed");
+    if (fails) throw orvik::HostError(5, "probe", "cannot be placed");
     site->Panel()->AddTextBox("txtInner");
     site->Panel()->AddTimer("tmrInner");
   }

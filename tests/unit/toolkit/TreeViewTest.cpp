@@ -15,7 +15,7 @@ class TreeViewTest : public ToolkitTest {
   std::shared_ptr<int> clicks = Count(tree->NodeClicked());
 };
 
-TEST_F(TreeViewTest, KeepsNodesInTheirOrder) {
+TEST_F(TreeViewTest, KeepsNodesInOrder) {
   EXPECT_EQ(tree->NodeKeys(), (std::vector<std::string>{"NA key", "Skip key"}));
   EXPECT_TRUE(tree->HasNode("NA key"));
   EXPECT_FALSE(tree->HasNode("na key"));
@@ -24,21 +24,21 @@ TEST_F(TreeViewTest, KeepsNodesInTheirOrder) {
   EXPECT_EQ(tree->NodeCaption("Skip key"), "Other");
 }
 
-TEST_F(TreeViewTest, RefusesDoubledAndUnknownKeys) {
+TEST_F(TreeViewTest, RejectsDuplicateAndUnknownKeys) {
   ExpectHostError(5, "NA key", [&] { tree->AddNode("NA key", "again"); });
   ExpectHostError(9, "Lead", [&] { static_cast<void>(tree->NodeCaption("Lead")); });
   ExpectHostError(9, "Lead", [&] { static_cast<void>(tree->Checked("Lead")); });
   ExpectHostError(9, "Lead", [&] { tree->SetNodeCaption("Lead", "x"); });
 }
 
-TEST_F(TreeViewTest, TheProgramChecksWithoutAClick) {
+TEST_F(TreeViewTest, RaisesNoClickForSetChecked) {
   tree->SetChecked("NA key", true);
   EXPECT_TRUE(tree->Checked("NA key"));
   tree->SetChecked("unknown", true);
   EXPECT_EQ(*clicks, 0);
 }
 
-TEST_F(TreeViewTest, AClickTurnsTheMarkOverBeforeItTells) {
+TEST_F(TreeViewTest, TogglesTheMarkBeforeNotifying) {
   std::vector<std::pair<std::string, bool>> seen;
   On(tree->NodeClicked(), [&](const std::string& key) { seen.emplace_back(key, tree->Checked(key)); });
   tree->ClickNode("Skip key");
@@ -46,7 +46,7 @@ TEST_F(TreeViewTest, AClickTurnsTheMarkOverBeforeItTells) {
   EXPECT_EQ(seen, (std::vector<std::pair<std::string, bool>>{{"Skip key", true}, {"Skip key", false}}));
 }
 
-TEST_F(TreeViewTest, UnknownNodesAndDisabledTreesAreNotClicked) {
+TEST_F(TreeViewTest, IgnoresUnknownNodesAndDisabledTrees) {
   tree->ClickNode("Lead");
   tree->SetEnabled(false);
   tree->ClickNode("NA key");
@@ -54,7 +54,7 @@ TEST_F(TreeViewTest, UnknownNodesAndDisabledTreesAreNotClicked) {
   EXPECT_FALSE(tree->Checked("NA key"));
 }
 
-TEST_F(TreeViewTest, AHandlerMayClearTheNodes) {
+TEST_F(TreeViewTest, MayBeClearedByAHandler) {
   On(tree->NodeClicked(), [&](const std::string& key) {
     tree->ClearNodes();
     EXPECT_EQ(key, "NA key");

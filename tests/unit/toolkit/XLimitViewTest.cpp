@@ -133,13 +133,13 @@ TEST_F(XLimitViewTest, StoresWithApply) {
   EXPECT_EQ(notices->texts, (std::vector<std::string>{"Change"}));
 }
 
-TEST_F(XLimitViewTest, AnEmptyEntryTakesTheBoundAway) {
+TEST_F(XLimitViewTest, RemovesTheBoundForEmptyInput) {
   Text("txtHigh")->TypeOver("");
   Click("cmdApply");
   EXPECT_FALSE(limits->LimitAt(1)->HighBound());
 }
 
-TEST_F(XLimitViewTest, RefusesWhatIsNoNumberAndKeepsTheEntry) {
+TEST_F(XLimitViewTest, RejectsInvalidNumbersAndKeepsTheInput) {
   for (const char* text : {"0,5", "abc", "1 2", "inf", "5 Ohm"}) {
     Text("txtHigh")->TypeOver(text);
     Click("cmdApply");
@@ -151,7 +151,7 @@ TEST_F(XLimitViewTest, RefusesWhatIsNoNumberAndKeepsTheEntry) {
   EXPECT_TRUE(notices->texts.empty());
 }
 
-TEST_F(XLimitViewTest, RefusesALowerBoundAboveTheUpperOne) {
+TEST_F(XLimitViewTest, RejectsALowerBoundAboveTheUpperOne) {
   Text("txtLow")->TypeOver("0.5");
   Click("cmdApply");
   EXPECT_EQ(limits->LimitAt(1)->LowText(), "");
@@ -159,7 +159,7 @@ TEST_F(XLimitViewTest, RefusesALowerBoundAboveTheUpperOne) {
   EXPECT_NE(Message(), "");
 }
 
-TEST_F(XLimitViewTest, RefusesAPercentageWithoutNominalValue) {
+TEST_F(XLimitViewTest, RejectsAPercentageWithoutNominalValue) {
   Text("txtHigh")->TypeOver("110");
   Unit("cboHighUnit")->Choose(1);
   Click("cmdApply");
@@ -167,7 +167,7 @@ TEST_F(XLimitViewTest, RefusesAPercentageWithoutNominalValue) {
   EXPECT_NE(Message().find("nominal"), std::string::npos) << Message();
 }
 
-TEST_F(XLimitViewTest, TakesAPercentageOfTheNominalValue) {
+TEST_F(XLimitViewTest, AcceptsAPercentageOfTheNominalValue) {
   Text("txtNominal")->TypeOver("2");
   Text("txtHigh")->TypeOver("110");
   Unit("cboHighUnit")->Choose(1);
@@ -180,7 +180,7 @@ TEST_F(XLimitViewTest, TakesAPercentageOfTheNominalValue) {
   EXPECT_EQ(Unit("cboHighUnit")->Text(), "%");
 }
 
-TEST_F(XLimitViewTest, ARefusedBoundLeavesTheNominalValueToo) {
+TEST_F(XLimitViewTest, KeepsTheNominalValueOfARejectedBound) {
   Text("txtNominal")->TypeOver("2");
   Text("txtHigh")->TypeOver("abc");
   Click("cmdApply");
@@ -188,14 +188,14 @@ TEST_F(XLimitViewTest, ARefusedBoundLeavesTheNominalValueToo) {
   EXPECT_EQ(limits->LimitAt(1)->HighText(), "0.3");
 }
 
-TEST_F(XLimitViewTest, RefusesANominalValueThatIsNoNumber) {
+TEST_F(XLimitViewTest, RejectsAnInvalidNominalValue) {
   Text("txtNominal")->TypeOver("2,5");
   Click("cmdApply");
   EXPECT_NE(Message().find("nominal"), std::string::npos);
   EXPECT_TRUE(orvik::IsEmpty(limits->LimitAt(1)->Nominal()));
 }
 
-TEST_F(XLimitViewTest, NominalValueAndBoundsMayChangeTogether) {
+TEST_F(XLimitViewTest, ChangesNominalValueAndBoundsTogether) {
   limits->LimitAt(1)->SetBounds("", "");
   limits->LimitAt(1)->SetNominal(5.0);
   limits->LimitAt(1)->SetBounds("90%", "10");
@@ -208,7 +208,7 @@ TEST_F(XLimitViewTest, NominalValueAndBoundsMayChangeTogether) {
   EXPECT_DOUBLE_EQ(limits->LimitAt(1)->HighBound().value(), 30);
 }
 
-TEST_F(XLimitViewTest, TheNominalValueKeepsDigitsThatAreNotShown) {
+TEST_F(XLimitViewTest, KeepsDigitsThatAreNotShown) {
   const double exact = 0.1 + 0.2;
   limits->LimitAt(1)->SetNominal(exact);
   view->Refresh();
@@ -218,7 +218,7 @@ TEST_F(XLimitViewTest, TheNominalValueKeepsDigitsThatAreNotShown) {
   EXPECT_EQ(std::get<double>(limits->LimitAt(1)->Nominal()), exact);
 }
 
-TEST_F(XLimitViewTest, PickingAnotherStandardStoresWhatWasTyped) {
+TEST_F(XLimitViewTest, StoresInputWhenAnotherStandardIsSelected) {
   Text("txtHigh")->TypeOver("0.2");
   PickRow(2);
   EXPECT_EQ(limits->LimitAt(1)->HighText(), "0.2");
@@ -227,7 +227,7 @@ TEST_F(XLimitViewTest, PickingAnotherStandardStoresWhatWasTyped) {
   EXPECT_EQ(notices->texts.size(), 1U);
 }
 
-TEST_F(XLimitViewTest, AnEntryThatIsRefusedKeepsItsStandardSelected) {
+TEST_F(XLimitViewTest, KeepsTheStandardOfRejectedInputSelected) {
   Text("txtHigh")->TypeOver("abc");
   PickRow(2);
   EXPECT_EQ(List()->SelectedRow(), "1");
@@ -250,7 +250,7 @@ TEST_F(XLimitViewTest, AddsAStandardAndSelectsIt) {
   EXPECT_EQ(limits->LimitAt(3)->HighText(), "7");
 }
 
-TEST_F(XLimitViewTest, RefusesAStandardWithoutNameOrWithATakenOne) {
+TEST_F(XLimitViewTest, RejectsAStandardWithEmptyOrExistingName) {
   Text("txtName")->TypeOver("  ");
   Click("cmdAdd");
   EXPECT_NE(Message().find("name"), std::string::npos);
@@ -262,7 +262,7 @@ TEST_F(XLimitViewTest, RefusesAStandardWithoutNameOrWithATakenOne) {
   EXPECT_TRUE(notices->texts.empty());
 }
 
-TEST_F(XLimitViewTest, AnEntryThatIsRefusedKeepsAStandardFromBeingAdded) {
+TEST_F(XLimitViewTest, AddsNoStandardWhileInputIsRejected) {
   Text("txtHigh")->TypeOver("abc");
   Text("txtName")->TypeOver("Own rules");
   Click("cmdAdd");
@@ -285,7 +285,7 @@ TEST_F(XLimitViewTest, RemovesTheSelectedStandard) {
   EXPECT_EQ(notices->texts.size(), 2U);
 }
 
-TEST_F(XLimitViewTest, WithoutStandardNothingIsStored) {
+TEST_F(XLimitViewTest, StoresNothingWithoutStandard) {
   Click("cmdRemove");
   Click("cmdRemove");
   Text("txtHigh")->TypeOver("1");
@@ -293,7 +293,7 @@ TEST_F(XLimitViewTest, WithoutStandardNothingIsStored) {
   EXPECT_NE(Message().find("Select"), std::string::npos);
 }
 
-TEST_F(XLimitViewTest, AStandardWithoutLimitOfTheKeyIsNotEdited) {
+TEST_F(XLimitViewTest, DoesNotEditAStandardWithoutTheKey) {
   view->InitializeView("ANOTHER KEY", "KELD test", "Ohm", "Ohm;%");
   EXPECT_EQ(Cell("1", "HIL"), "");
   Text("txtHigh")->TypeOver("1");
@@ -302,7 +302,7 @@ TEST_F(XLimitViewTest, AStandardWithoutLimitOfTheKeyIsNotEdited) {
   EXPECT_EQ(limits->LimitAt(1)->HighText(), "0.3");
 }
 
-TEST_F(XLimitViewTest, LockedEditsNothing) {
+TEST_F(XLimitViewTest, EditsNothingWhenLocked) {
   view->SetLocked(true);
   EXPECT_TRUE(view->Locked());
   Text("txtHigh")->TypeOver("9");
@@ -320,7 +320,7 @@ TEST_F(XLimitViewTest, LockedEditsNothing) {
   EXPECT_EQ(limits->LimitAt(1)->HighText(), "9");
 }
 
-TEST_F(XLimitViewTest, WithoutCallBackItWorksToo) {
+TEST_F(XLimitViewTest, WorksWithoutCallBack) {
   view->SetCallBack(nullptr);
   EXPECT_FALSE(view->CallBack());
   Text("txtHigh")->TypeOver("0.2");
@@ -328,7 +328,7 @@ TEST_F(XLimitViewTest, WithoutCallBackItWorksToo) {
   EXPECT_EQ(limits->LimitAt(1)->HighText(), "0.2");
 }
 
-TEST_F(XLimitViewTest, RefreshShowsWhatOthersChangedAndKeepsWhatIsTyped) {
+TEST_F(XLimitViewTest, ShowsChangesAndKeepsInputOnRefresh) {
   limits->LimitAt(1)->SetBounds("", "0.4");
   view->Refresh();
   EXPECT_EQ(Text("txtHigh")->Text(), "0.4");
@@ -350,7 +350,7 @@ TEST_F(XLimitViewTest, IsShownAndHiddenByItsContainer) {
   EXPECT_EQ(app->Parent(view->hWnd()), form->Handle());
 }
 
-TEST_F(XLimitViewTest, WithoutLimitDataItIsEmpty) {
+TEST_F(XLimitViewTest, IsEmptyWithoutLimitData) {
   view->Initialize(nullptr, {}, {}, {});
   EXPECT_EQ(List()->RowCount(), 0);
   Text("txtName")->TypeOver("Own rules");
@@ -359,7 +359,7 @@ TEST_F(XLimitViewTest, WithoutLimitDataItIsEmpty) {
   EXPECT_TRUE(notices->texts.empty());
 }
 
-TEST_F(XLimitViewTest, EveryTextIsTranslated) {
+TEST_F(XLimitViewTest, TranslatesEveryText) {
   for (const auto& control : site->Panel()->Controls()) {
     EXPECT_EQ(control->Caption().find("::"), std::string::npos) << control->Name();
     EXPECT_EQ(control->ToolTip().find("::"), std::string::npos) << control->Name();

@@ -23,7 +23,7 @@ TEST_F(XTgContentPaneTest, ShowsGuidance) {
   EXPECT_TRUE(label->Visible());
 }
 
-TEST_F(XTgContentPaneTest, ATabHoldsAControlOfTheClass) {
+TEST_F(XTgContentPaneTest, CreatesTheControlOfATab) {
   const std::vector<std::byte> picture(4, std::byte{9});
   const auto object = pane->AddTab("tab:MtiData", "MTI Data", picture, classes::kProgressBar);
   EXPECT_TRUE(orvik::As<orvik::ITgProgressBar>(object));
@@ -36,20 +36,20 @@ TEST_F(XTgContentPaneTest, ATabHoldsAControlOfTheClass) {
   EXPECT_TRUE(tabs->Page("tab:MtiData")->Find("tab:MtiData"));
 }
 
-TEST_F(XTgContentPaneTest, AnUnknownTabIsEmpty) { EXPECT_FALSE(pane->Tab("tab:None")); }
+TEST_F(XTgContentPaneTest, ReturnsEmptyForAnUnknownTab) { EXPECT_FALSE(pane->Tab("tab:None")); }
 
-TEST_F(XTgContentPaneTest, RefusesASecondTabOfAKey) {
+TEST_F(XTgContentPaneTest, RejectsADuplicateKey) {
   pane->AddTab("a", "A", {}, classes::kProgressBar);
   ExpectHostError(5, "\"a\"", [&] { pane->AddTab("a", "A", {}, classes::kProgressBar); });
 }
 
-TEST_F(XTgContentPaneTest, ATabWhoseControlFailedCanBeFilledLater) {
+TEST_F(XTgContentPaneTest, FillsATabWhoseControlFailedLater) {
   ExpectHostError(429, "orvikKELD.Unknown", [&] { pane->AddTab("a", "A", {}, "orvikKELD.Unknown"); });
   EXPECT_FALSE(pane->Tab("a"));
   EXPECT_TRUE(pane->AddTab("a", "A", {}, classes::kProgressBar));
 }
 
-TEST_F(XTgContentPaneTest, RemembersTheElementWithoutKeepingIt) {
+TEST_F(XTgContentPaneTest, DoesNotOwnTheElement) {
   auto element = orvik::As<orvik::ITestElement>(host->CreateObject(classes::kTestElement));
   ASSERT_TRUE(element);
   pane->SetTestElement(element);
@@ -58,7 +58,7 @@ TEST_F(XTgContentPaneTest, RemembersTheElementWithoutKeepingIt) {
   EXPECT_FALSE(pane->TestElement());
 }
 
-TEST_F(XTgContentPaneTest, RefreshRepaintsTheControlsOnItsTabs) {
+TEST_F(XTgContentPaneTest, RepaintsTheControlsOnItsTabs) {
   pane->AddTab("a", "A", {}, classes::kProgressBar);
   const auto onTab = Inner<platform::ITabs>("tabPages")->Page("a")->Find("a");
   pane->Refresh();

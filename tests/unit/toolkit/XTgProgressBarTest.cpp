@@ -20,7 +20,7 @@ TEST_F(XTgProgressBarTest, ShowsAValueWithinItsBounds) {
   EXPECT_EQ(bar->Value(), 0);
 }
 
-TEST_F(XTgProgressBarTest, RefusesAMaximumNotAboveTheMinimum) {
+TEST_F(XTgProgressBarTest, RejectsAMaximumNotAboveTheMinimum) {
   ExpectHostError(5, "5", [&] { bar->SetRange(5, 5); });
   ExpectHostError(5, "4", [&] { bar->SetRange(5, 4); });
   EXPECT_EQ(Inner<platform::IProgressBar>("prgBar")->Maximum(), 100);

@@ -33,14 +33,14 @@ TEST_F(XTgToolbarTest, HasTheButtonsOfTheGuideWithTexts) {
   }
 }
 
-TEST_F(XTgToolbarTest, TellsItsListenerOfClicks) {
+TEST_F(XTgToolbarTest, NotifiesItsListenerOfClicks) {
   toolbar->Advise(listener);
   toolbar->Click(202);
   Inner<platform::IToolbar>("tbrCommands")->Click(101);
   EXPECT_EQ(listener->commands, (std::vector<int>{202, 101}));
 }
 
-TEST_F(XTgToolbarTest, ClicksNothingThatIsDisabledOrHidden) {
+TEST_F(XTgToolbarTest, IgnoresDisabledAndHiddenButtons) {
   toolbar->Advise(listener);
   toolbar->EnableCommand(202, false);
   EXPECT_FALSE(toolbar->IsEnabled(202));
@@ -53,7 +53,7 @@ TEST_F(XTgToolbarTest, ClicksNothingThatIsDisabledOrHidden) {
   EXPECT_TRUE(listener->commands.empty());
 }
 
-TEST_F(XTgToolbarTest, DoesNotKeepItsListener) {
+TEST_F(XTgToolbarTest, DoesNotOwnItsListener) {
   toolbar->Advise(listener);
   std::weak_ptr<Listener> weak = listener;
   listener.reset();
@@ -70,7 +70,7 @@ TEST_F(XTgToolbarTest, HasOneListener) {
   EXPECT_EQ(other->commands.size(), 1U);
 }
 
-TEST_F(XTgToolbarTest, EntriesStandUnderTheirButton) {
+TEST_F(XTgToolbarTest, ChoosesEntriesUnderTheirButton) {
   toolbar->Advise(listener);
   toolbar->AddEntry(501, 900, "Calibrate...");
   EXPECT_TRUE(toolbar->IsEnabled(900));
