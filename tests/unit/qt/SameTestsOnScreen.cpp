@@ -13,9 +13,9 @@
 #include "toolkit/headless/Application.h"
 #include "toolkit/headless/IScreen.h"
 
-// The main program of tests that also run without a screen: here every application has one. Changes are shown at
-// once, to find a change without notification. Whenever messages are processed, and at the end of each test, the
-// widgets must show the state of the windows.
+// The main program of tests that also run without a screen: here every application has one. Changes are shown
+// at once, to find a change without notification. Whenever messages are processed, and at the end of each
+// test, the widgets must show the state of the windows.
 namespace support {
 namespace {
 
@@ -34,7 +34,7 @@ class WatchedScreen final : public bench::headless::IScreen {
     mirror_.Changed(control);
     mirror_.Update();
   }
-  void Gone(const bench::headless::Control& control) override { mirror_.Gone(control); }
+  void Destroyed(const bench::headless::Control& control) override { mirror_.Destroyed(control); }
   const bench::headless::IMetrics& Metrics() const override { return mirror_.Metrics(); }
   void Watch(const std::vector<int>& descriptors) override { mirror_.Watch(descriptors); }
   void WorkAdded() override { mirror_.WorkAdded(); }
