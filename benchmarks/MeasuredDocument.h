@@ -9,8 +9,7 @@
 
 namespace benchmarks {
 
-/// Documents with one element that has been measured and judged, as often as somebody wants. They go with the
-/// object.
+/// Documents that hold one measured and judged element many times. The destructor removes them.
 class MeasuredDocument {
  public:
   /// Has `orvik-bench` make the document and run it. Throws std::runtime_error when it cannot.

@@ -5,8 +5,8 @@
 
 namespace benchmarks {
 
-/// What `act` returns, from a process of its own: it finds memory as a program finds it that has just
-/// started, and not what others have left there. Throws std::runtime_error when it came to no end.
+/// What `act` returns, from a process of its own, so that earlier measurements cannot influence the heap.
+/// Throws std::runtime_error if it fails.
 std::string InOwnProcess(const std::function<std::string()>& act);
 
 /// The same for seconds.

@@ -19,7 +19,7 @@ inline std::chrono::duration<double> ThreadTime() {
 }
 
 /// How often `step`, which only computes, can be done in a second of processor time: the best of several
-/// stretches, since whatever else the machine does can only slow one down. One stretch before them warms up.
+/// stretches, since other load only slows one down. One stretch before them warms up.
 inline double BestRate(const std::function<void()>& step) {
   constexpr int kStretches = 6;
   constexpr std::chrono::duration<double> kStretch{0.2};
@@ -37,8 +37,8 @@ inline double BestRate(const std::function<void()>& step) {
   return best;
 }
 
-/// Processor time of one go, in seconds, that finds the heap as a program finds it that has just started.
-/// What `act` returns is let go of after the clock has stopped.
+/// Processor time of one go, in seconds, with a trimmed heap.
+/// What `act` returns is released after the measurement.
 template <class Act>
 double SecondsOf(const Act& act) {
   malloc_trim(0);
@@ -48,7 +48,7 @@ double SecondsOf(const Act& act) {
 }
 
 /// Measures each of the ways so often, by turns, so that all of them meet the same machine; the least of
-/// each, since whatever else the machine does can only slow one down.
+/// each, since other load only slows them down.
 template <class... Ways>
 std::array<double, sizeof...(Ways)> LeastOfEach(int rounds, const Ways&... ways) {
   std::array<double, sizeof...(Ways)> least{ways()...};

@@ -23,8 +23,7 @@ namespace benchmarks {
 namespace {
 
 constexpr int kTrips = 2000;
-/// Each way is measured so often by turns, and the best median counts: whatever else the machine does can
-/// only slow one down.
+/// Each way is measured so often by turns, and the best median counts: other load only slows one down.
 constexpr int kRounds = 5;
 constexpr double kMicroseconds = 1e6;
 constexpr std::chrono::seconds kPatience{10};
@@ -120,7 +119,7 @@ double OnOurPort(const std::string& device) {
   return median;
 }
 
-/// The Python of the system, where its packages are, whatever else is called so.
+/// The system's Python, which has the packages.
 constexpr char kPython[] = "/usr/bin/python3";
 constexpr int kNoPyVisa = 3;
 
@@ -144,7 +143,7 @@ Figure MeasureRoundTrip(const Context&) {
   return {ours - bare, "us", bare, "bare write, poll and read on the same pair, in us", 60, Bound::kAtMost};
 }
 
-// What both take beyond the bare trip is compared, so that the echo flatters nobody.
+// Both are compared beyond the bare trip, so that the echo does not blur the share.
 Figure MeasureRoundTripShare(const Context&) {
   support::PseudoTerminal pair;
   const EchoResponder echo(pair.Near());

@@ -15,8 +15,7 @@
 
 namespace benchmarks {
 
-/// The headless host on the virtual clock with the simulated tester at the end of a line in memory, and
-/// nobody who listens to the wire beside them.
+/// The headless host on the virtual clock, with the simulated tester on a line in memory and no listener.
 class VirtualRig {
  public:
   explicit VirtualRig(std::optional<std::string> catalogue = {})

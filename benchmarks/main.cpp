@@ -95,7 +95,7 @@ int main(int argc, char** argv) {
       ->allow_extra_args(false);
   program
       .add_option("--build", options.build,
-                  "Measure the programs of this build folder; otherwise of the one this program stands in")
+                  "Measure the programs of this build folder; otherwise of the one with this program")
       ->check(CLI::ExistingDirectory);
   program.footer(Footer());
   try {

@@ -29,7 +29,7 @@ function(is_shown_by_its_source header result)
   endif()
 endfunction()
 
-# Those of tests and benchmarks, which nobody includes from outside, only where every test is wanted.
+# Those of tests and benchmarks only where every test is wanted.
 if(NOT ORVIK_TEST_SET STREQUAL all)
   list(FILTER headers EXCLUDE REGEX "^(tests|benchmarks|fuzz)/")
 endif()

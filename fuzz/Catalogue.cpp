@@ -24,7 +24,7 @@ bool IsTaken(const std::string& text) {
   static const fuzz::Scratch scratch;
   const auto file = scratch.Write("catalogue.xml", text);
   try {
-    Require(bench::ReadCatalogue(file) == text, "a catalogue is read as it stands in the file");
+    Require(bench::ReadCatalogue(file) == text, "a catalogue is read as it is in the file");
     return true;
   } catch (const bench::InputError& error) {
     Require(std::string(error.what()).find(file.string()) != std::string::npos, "a refusal names the file");

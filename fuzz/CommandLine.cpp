@@ -1,5 +1,4 @@
-// The command line of orvik-bench: a word in each line. What is asked for is carried out, in a folder of its
-// own.
+// The command line of orvik-bench, a word in each line, carried out in a folder of its own.
 #include <cstdlib>
 #include <iostream>
 #include <sstream>
@@ -32,8 +31,8 @@ class Printed {
   std::streambuf* const error_;
 };
 
-/// The folder in which a command is carried out, with a document in it; left again when the object goes: the
-/// fuzzer finds its own files by relative names.
+/// The folder in which a command runs, with a document in it. The destructor leaves it, since the fuzzer
+/// finds its own files by relative names.
 class Workplace {
  public:
   explicit Workplace(const std::filesystem::path& outer)
@@ -56,7 +55,7 @@ class Workplace {
   const std::filesystem::path before_;
 };
 
-/// The folder of all inputs, and the environment that goes with it.
+/// The folder of all inputs; sets the environment for it.
 const std::filesystem::path& ScratchFolder() {
   static const fuzz::Scratch scratch;
   static const bool set = [] {
@@ -79,7 +78,7 @@ std::vector<std::string> WordsOf(const std::string& text) {
   return words;
 }
 
-/// What starts other programs, or Qt, is not for here: other tests look at that.
+/// Whether the word starts other programs or Qt; other tests cover those.
 bool IsElsewhere(const std::string& word) {
   return word == "gui" || word.starts_with("--simulate") || word.ends_with("pdf") || word.ends_with("PDF");
 }

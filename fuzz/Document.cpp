@@ -28,12 +28,12 @@ std::shared_ptr<Document> Opened(const std::filesystem::path& file) {
   return Document::Open(fuzz::TheBench().Only().SharedHost(), file, bench::DocumentFile::Use::kRead);
 }
 
-/// Every finding stands in a line that there is, and says something.
+/// Every finding has a message and names an existing line.
 void CheckFindings(const std::string& text) {
   const auto lines = 1 + static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n'));
   for (const auto& found : bench::CheckDocument(text, *fuzz::TheBench().Host().Elements()))
     Require(!found.text.empty() && found.line >= 1 && found.line <= lines && found.column >= 1,
-            "a finding says something and stands in the text");
+            "a finding has a message and a line of the text");
 }
 
 bench::DocumentView View(const Document& document) {

@@ -69,7 +69,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const PortInMemory piecewise;
   for (const char byte : bytes) piecewise.line->Deliver(std::string_view(&byte, 1));
   const auto lines = TakenFrom(*whole.port);
-  Require(TakenFrom(*piecewise.port) == lines, "in whatever pieces bytes come, the messages are the same");
+  Require(TakenFrom(*piecewise.port) == lines, "messages do not depend on how their bytes are split");
   Require(piecewise.port->LinesDropped() == whole.port->LinesDropped(), "and so are the dropped lines");
   for (const auto& line : lines) CheckMessage(line);
   return 0;

@@ -19,7 +19,7 @@ void CheckFigure(const bench::LimitSet& set, const bench::LimitFigure& figure) {
   Require(!figure.unit.empty() && !figure.source.empty(), "a figure has a unit and a source");
   Require(!figure.tests.empty(), "a figure is for a test");
   for (const auto test : figure.tests)
-    Require(set.FigureFor(test) == &figure, "a test stands in one figure at most");
+    Require(set.FigureFor(test) == &figure, "a test is in one figure at most");
 }
 
 }  // namespace

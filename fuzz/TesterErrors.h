@@ -7,7 +7,7 @@
 
 namespace fuzz {
 
-/// Whether the simulated tester goes through the step; what it refuses it has to say, naming `place`.
+/// Runs `step`; true if accepted. A rejection must name `place` in its message.
 template <class Step>
 bool IsTaken(Step step, const std::string& place) {
   try {

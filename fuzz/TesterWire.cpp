@@ -36,7 +36,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   sim::Tester piecewise(*profile);
   for (const char byte : bytes) piecewise.Receive(std::string_view(&byte, 1), start);
   const auto sent = SentBy(whole);
-  Require(SentBy(piecewise) == sent, "in whatever pieces bytes come, the answers are the same");
+  Require(SentBy(piecewise) == sent, "answers do not depend on how the bytes are split");
   Require(whole.LinesDropped() == piecewise.LinesDropped(), "and so are the dropped lines");
 
   std::size_t answers = 0;

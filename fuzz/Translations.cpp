@@ -13,7 +13,7 @@ using fuzz::Require;
 constexpr char kFile[] = "given.po";
 constexpr char kPlace[] = "given.po, line ";
 
-/// The text as it stands in a file of translations.
+/// The text in the syntax of a file of translations.
 std::string Quoted(const std::string& text) {
   std::string quoted = "\"";
   for (const char c : text) {

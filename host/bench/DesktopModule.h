@@ -5,7 +5,7 @@
 
 namespace bench {
 
-/// What the desktop program was asked for.
+/// The options of the desktop program.
 struct DesktopOptions {
   std::string state;      ///< folder of settings; empty for the usual one
   std::string catalogue;  ///< file with the catalogue; empty for the usual one
@@ -16,8 +16,7 @@ struct DesktopOptions {
 
 /// Runs the desktop program until its window is closed, by the module at that place
 /// (lib/orvik/orvikDesktop.so), which is opened for it.
-/// @return whether everything was left in order; false when a run was stopped or changes were not saved
-/// because the program was told to end
+/// @return false if a request to end stopped a run or left changes unsaved
 /// @throws InputError for a document that cannot be read, IncompleteError without a display or without the
 /// module
 bool RunDesktopModule(const DesktopOptions& options, const std::filesystem::path& module);

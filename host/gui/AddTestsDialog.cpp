@@ -47,7 +47,7 @@ AddTestsDialog::AddTestsDialog(const std::vector<CatalogueEntry>& entries, QWidg
   tests_->setSelectionMode(QAbstractItemView::ExtendedSelection);
   tests_->setTreePosition(kTestName);
   tests_->setUniformRowHeights(true);
-  // What tells one test from another often stands at the end, such as "mains reversed".
+  // Names often differ at their end, as in "mains reversed".
   tests_->setTextElideMode(Qt::ElideMiddle);
   std::map<std::int32_t, QTreeWidgetItem*> groups;
   for (const auto& entry : entries) {

@@ -15,7 +15,7 @@ class QPushButton;
 
 namespace bench::desktop {
 
-/// The catalogue with its groups, a search, and the choice of what is to be added.
+/// Selects tests of the catalogue, with its groups and a search.
 class AddTestsDialog : public QDialog {
  public:
   AddTestsDialog(const std::vector<CatalogueEntry>& entries, QWidget* parent);
@@ -24,7 +24,7 @@ class AddTestsDialog : public QDialog {
   /// @param pictureOf the bitmap file of a test's picture; empty when it has none
   void ShowPictures(const std::function<std::vector<std::byte>(std::int32_t testId)>& pictureOf);
 
-  /// What was chosen, in the catalogue's order. A group stands for all its tests.
+  /// The selected tests, in the catalogue's order. A group means all its tests.
   std::vector<std::int32_t> Chosen() const;
 
  private:

@@ -39,9 +39,8 @@ void RequireDisplay() {
   throw IncompleteError(NoDisplayText());
 }
 
-/// Qt ends the program by itself when the screen that is named does not answer; it is to say why, and not to
-/// crash.
-void TellFatal(QtMsgType type, const QMessageLogContext&, const QString& message) {
+/// Qt aborts the program when the named screen does not answer. Prints the reason instead.
+void ExitOnFatal(QtMsgType type, const QMessageLogContext&, const QString& message) {
   static std::string before;
   if (type != QtFatalMsg) {
     before = message.toStdString() + "\n";
@@ -51,11 +50,11 @@ void TellFatal(QtMsgType type, const QMessageLogContext&, const QString& message
   _exit(static_cast<int>(ExitStatus::kIncomplete));
 }
 
-/// What is Qt's for as long as the program runs.
+/// Qt's objects while the program runs.
 class QtProgram {
  public:
   explicit QtProgram(const std::string& language)
-      : before_(qInstallMessageHandler(TellFatal)), qt_(count_, words_) {
+      : before_(qInstallMessageHandler(ExitOnFatal)), qt_(count_, words_) {
     qInstallMessageHandler(before_);
     // Numbers in documents and on the wire are the same everywhere.
     std::setlocale(LC_NUMERIC, "C");

@@ -66,7 +66,7 @@ std::string TableText(const report::Table& table) {
   return text + "</table><p></p>";
 }
 
-/// Row by row, each as lines of its own: the page is too narrow for many columns.
+/// Each row as a list of its cells, since the page is too narrow for many columns.
 std::string RowsText(const report::Table& table) {
   std::string text;
   for (const auto& row : table.rows) {
@@ -107,7 +107,7 @@ DetailsView::DetailsView(QWidget* parent) : QTextBrowser(parent) {
   setObjectName("details");
   setAccessibleName(qt::ToQt(Tr("Details of the chosen element")));
   setOpenLinks(false);
-  // A page of paper, whatever the colours of the desktop: the signs are made to be read on white.
+  // White in every colour scheme: the signs are readable on white only.
   setStyleSheet("QTextBrowser { background: white; color: #1c2330; }");
 }
 

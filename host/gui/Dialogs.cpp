@@ -29,8 +29,8 @@ QWindow* TopAbove(QWindow* window) {
   return window;
 }
 
-/// Shows the dialog until it is closed, above whatever is open: a click into another window must not cover
-/// what everything waits for.
+/// Shows the dialog until it is closed, above all other windows: a click into one must not cover the dialog
+/// that the program waits for.
 int ExecOnTop(QDialog& dialog) {
   dialog.winId();
   auto* const owner = dialog.parentWidget() ? dialog.parentWidget()->window()->windowHandle() : nullptr;
@@ -104,19 +104,20 @@ std::size_t Ask(QWidget* parent, const std::string& question, const std::vector<
   return answers.size() - 1;
 }
 
-std::optional<std::filesystem::path> AskForFile(QWidget* parent, const FileWish& wish) {
-  QFileDialog dialog(parent, qt::ToQt(wish.title));
+std::optional<std::filesystem::path> AskForFile(QWidget* parent, const FileDialogOptions& options) {
+  QFileDialog dialog(parent, qt::ToQt(options.title));
   dialog.setObjectName("fileDialog");
-  dialog.setNameFilters(qt::ToQt(wish.kinds).split(";;"));
-  dialog.setDefaultSuffix(qt::ToQt(wish.ending));
-  dialog.setAcceptMode(wish.toWrite ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
-  dialog.setFileMode(wish.toWrite ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
-  dialog.setOption(QFileDialog::DontConfirmOverwrite, !wish.mayReplace);
+  dialog.setNameFilters(qt::ToQt(options.kinds).split(";;"));
+  dialog.setDefaultSuffix(qt::ToQt(options.ending));
+  dialog.setAcceptMode(options.toWrite ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+  dialog.setFileMode(options.toWrite ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+  dialog.setOption(QFileDialog::DontConfirmOverwrite, !options.mayReplace);
   std::error_code none;
-  const bool folder = std::filesystem::is_directory(wish.at, none);
-  const auto start = folder ? wish.at : wish.at.parent_path();
+  const bool folder = std::filesystem::is_directory(options.at, none);
+  const auto start = folder ? options.at : options.at.parent_path();
   if (!start.empty()) dialog.setDirectory(QFile::decodeName(start.c_str()));
-  if (!folder && wish.at.has_filename()) dialog.selectFile(QFile::decodeName(wish.at.filename().c_str()));
+  if (!folder && options.at.has_filename())
+    dialog.selectFile(QFile::decodeName(options.at.filename().c_str()));
   // The ending follows the kind that is chosen: "Report as PDF (*.pdf)".
   QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, [&dialog](const QString& kind) {
     const auto from = kind.lastIndexOf("*.") + 2;

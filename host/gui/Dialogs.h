@@ -8,21 +8,19 @@
 
 class QWidget;
 
-/// The questions and messages of the window. Each returns when the person has answered.
+/// The questions and messages of the window. Each returns when the user has answered.
 namespace bench::desktop {
 
-/// What went wrong, in the words of the command line.
 void ShowError(QWidget* parent, const std::string& text);
-/// What was done.
 /// @param details further lines; empty for none
 void ShowMessage(QWidget* parent, const std::string& text, const std::string& details = {});
-/// Puts a question; the answers are buttons. The last is the safe one, which changes nothing: Return and
-/// Escape give it, and so does closing the question.
-/// @return the place of the answer, from 0
+/// Asks a question with a button for each answer. The last answer must change nothing: Return, Escape and
+/// closing the question give it.
+/// @return index of the answer
 std::size_t Ask(QWidget* parent, const std::string& question, const std::vector<std::string>& answers);
 
-/// What a file dialog is for.
-struct FileWish {
+/// The settings of a file dialog.
+struct FileDialogOptions {
   std::string title;
   std::string kinds;         ///< such as "Test documents (*.orvik)", separated by ";;"
   std::string ending;        ///< appended to a name without one
@@ -30,9 +28,9 @@ struct FileWish {
   bool toWrite = false;
   bool mayReplace = false;  ///< asks before a file that is there is taken
 };
-std::optional<std::filesystem::path> AskForFile(QWidget* parent, const FileWish& wish);
+std::optional<std::filesystem::path> AskForFile(QWidget* parent, const FileDialogOptions& options);
 
-/// Closes whatever question or message is open, as escape does.
+/// Closes all open questions and messages, as Escape does.
 void CloseQuestions();
 
 }  // namespace bench::desktop

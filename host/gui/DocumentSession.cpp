@@ -93,7 +93,7 @@ bool DocumentSession::Changed() const {
   try {
     return Document::MarkOf(document_->Text()) != (saved ? saved : openedMark_);
   } catch (const orvik::HostError&) {
-    return true;  // what cannot be saved is not what was; saving tells why
+    return true;  // saving reports the reason
   }
 }
 
@@ -167,9 +167,10 @@ void DocumentSession::RemoveLimits(std::int32_t id) {
 
 AppliedLimits DocumentSession::ApplySet(const LimitSet& set, std::optional<std::int32_t> id) {
   const auto elements = id ? std::vector<Element>{Found(*id)} : TopElements(*document_);
-  auto told = ApplyLimitSet(set, elements, *workbench_.Host()->Elements());
-  if (told.applied.empty()) throw InputError(Tr("%%1: the set covers none of these elements", {set.Name()}));
-  return told;
+  auto result = ApplyLimitSet(set, elements, *workbench_.Host()->Elements());
+  if (result.applied.empty())
+    throw InputError(Tr("%%1: the set covers none of these elements", {set.Name()}));
+  return result;
 }
 
 void DocumentSession::WriteReport(const std::filesystem::path& out) const {

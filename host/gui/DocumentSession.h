@@ -28,15 +28,16 @@ class DocumentSession {
 
   bool HasDocument() const { return document_ != nullptr; }
   Document& TheDocument() const { return *document_; }
-  /// A new document in the place of the present one; its file comes into being when it is saved.
+  /// Starts a new document in place of the open one; saving it creates the file.
   void Create(const std::filesystem::path& file);
-  /// A new document for the next device: tests, settings, limits and marks of the present one, no results.
+  /// Starts a document for the next device, with tests, settings, limits and marks of the open one, without
+  /// results.
   void CreateFromThis(const std::filesystem::path& file);
   void Open(const std::filesystem::path& file);
   void Save() { document_->Save(); }
-  /// Saves under another name, which must not exist yet, and goes on under that; the file so far stays.
+  /// Saves under another name, which must not exist yet, and uses that from then on; keeps the earlier file.
   void SaveAs(const std::filesystem::path& file);
-  /// Whether saving would write anything else than what was saved last.
+  /// Whether the document differs from what was saved last.
   bool Changed() const;
   /// The file beside the document in which an earlier session may have left unsaved changes.
   std::filesystem::path UnsavedFile() const;
@@ -44,12 +45,12 @@ class DocumentSession {
   /// and so on; the document is left as it is. Returns the path.
   std::filesystem::path KeepUnsaved() const;
 
-  /// The equipment as questions name it: "PUMP-7 (Acme X2)", else its serial number, maker and model, else
-  /// the document's file.
+  /// The name of the equipment in questions: "PUMP-7 (Acme X2)", else its serial number, maker and model,
+  /// else the document's file.
   std::string Device() const;
 
   DocumentView View() const;
-  /// What there is to say of these elements: as in a report, but with all that made their results.
+  /// The elements' sections of a report, with the run that made each result.
   std::vector<report::Section> Sections(const DocumentView& view, const std::vector<std::int32_t>& ids) const;
   report::Table Runs(const DocumentView& view) const;
   /// The element's settings in words.
@@ -67,8 +68,8 @@ class DocumentSession {
   bool HasLimits(std::int32_t id) const;
   /// Takes all limits from the element; those below it keep theirs.
   void RemoveLimits(std::int32_t id);
-  /// Gives the element, or all where there is none, and what stands below the limits of the set. `InputError`
-  /// when the set covers none of them.
+  /// Gives an element, or all without one, and those below it the limits of the set. `InputError` if the set
+  /// covers none of them.
   AppliedLimits ApplySet(const LimitSet& set, std::optional<std::int32_t> id);
   void WriteReport(const std::filesystem::path& out) const;
 
@@ -78,7 +79,7 @@ class DocumentSession {
   Workbench& workbench_;
   const GlobalOptions options_;
   std::shared_ptr<Document> document_;
-  std::optional<std::size_t> openedMark_;  ///< of the text that saving would have written when it was opened
+  std::optional<std::size_t> openedMark_;  ///< of the document as it was opened
 };
 
 }  // namespace bench::desktop

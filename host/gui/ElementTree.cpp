@@ -30,7 +30,7 @@ QString TipOf(const std::string& text) { return qt::PlainToolTip(report::Visible
 
 std::string RemarkOf(const judge::JudgedElement& element) { return Joined(ReasonTexts(element), "; "); }
 
-/// The colours of results are made to be read on white; elsewhere the sign alone has them.
+/// The colours of results are readable on white only; on a dark background only the sign has them.
 QBrush ColourIn(const QTreeWidget& tree, report::Standing standing) {
   const bool dark = tree.palette().color(QPalette::Base).lightness() < kHalfLight;
   return dark ? QBrush() : QBrush(QColor(ColourName(standing)));
@@ -74,11 +74,11 @@ ElementTree::ElementTree(QWidget* parent) : QTreeWidget(parent) {
   setHeaderLabels({qt::ToQt(Tr("No.")), qt::ToQt(Tr("Test")), qt::ToQt(Tr("Result")), qt::ToQt(Tr("Value")),
                    qt::ToQt(Tr("Remark"))});
   setUniformRowHeights(true);
-  // What tells one test from another often stands at the end, such as "mains reversed".
+  // Names often differ at their end, as in "mains reversed".
   setTextElideMode(Qt::ElideMiddle);
   setAllColumnsShowFocus(true);
   setAlternatingRowColors(true);
-  // The names begin under one another whatever number stands before them.
+  // Names are aligned, however long the number before them is.
   setTreePosition(kName);
   header()->setStretchLastSection(true);
   header()->setSectionsMovable(false);
@@ -94,7 +94,7 @@ void ElementTree::Show(const judge::JudgedDocument& document, std::int32_t runni
   if (!same) Build(document);
   for (std::size_t i = 0; i < rows_.size(); ++i) {
     auto text = RowTextOf(document.elements[i], document.elements[i].id == running);
-    // To fill a row costs far more than to judge its element.
+    // Filling a row takes far longer than judging its element.
     if (same && text == texts_[i]) continue;
     Fill(*rows_[i], text);
     texts_[i] = std::move(text);

@@ -12,8 +12,8 @@
 
 namespace bench::desktop {
 
-/// The elements of a document in its order, sequences with what stands in them: number, name, result as sign,
-/// colour and word, value, and what is to be noticed.
+/// The elements of a document in its order, sequences with their elements: number, name, result as sign,
+/// colour and word, value, and remark.
 class ElementTree : public QTreeWidget {
  public:
   /// What a row shows.
@@ -28,7 +28,7 @@ class ElementTree : public QTreeWidget {
 
   explicit ElementTree(QWidget* parent = nullptr);
 
-  /// Shows the document; what was chosen and folded stays so.
+  /// Shows the document; keeps selection and folding.
   /// @param running identifier of the element that runs; 0 for none
   void Show(const judge::JudgedDocument& document, std::int32_t running);
   /// The identifier of the element that is chosen.

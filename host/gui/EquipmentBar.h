@@ -9,15 +9,15 @@ class QLineEdit;
 
 namespace bench::desktop {
 
-/// The equipment under test, to be read and changed.
+/// Fields for the equipment under test.
 class EquipmentBar : public QWidget {
  public:
-  /// @param edited called when the person has changed something
+  /// @param edited called when the user changes a field
   EquipmentBar(std::function<void()> edited, QWidget* parent);
 
   void Show(const Document::Equipment& equipment);
   Document::Equipment Entered() const;
-  /// Moves the keyboard to the asset number, which is then replaced by what is typed or scanned.
+  /// Moves the focus to the asset number and selects it, so that a scan replaces it.
   void FocusOnAsset();
 
  private:

@@ -12,7 +12,7 @@ using report::Section;
 using report::Standing;
 using TextLines = std::vector<std::string>;
 
-constexpr std::size_t kMostLines = 6;  ///< the guide must still fit on a small screen
+constexpr std::size_t kMostLines = 6;  ///< the guide must fit on a small screen
 
 std::string Signed(Standing standing, const std::string& text) {
   return std::string(html::PlainSignOf(standing)) + " " + text;

@@ -7,9 +7,8 @@
 
 namespace bench::desktop {
 
-/// What the guide shows of how its tests were judged, a few lines at most: sign and word for its own test and
-/// for each test in a group that has not passed; of a failed one every standard that judged it with its
-/// bounds, of one that is open the reasons.
+/// A few lines for the guide on how its tests were judged: sign and word of its own test and of each test in
+/// a group that has not passed; for a failed one every standard with its bounds, for an open one the reasons.
 /// @param sections of the tests that have finished in the guide
 std::string GuideJudgement(const std::vector<report::Section>& sections);
 

@@ -12,7 +12,7 @@ class QRadioButton;
 
 namespace bench::desktop {
 
-/// The sets of limits, and whether all elements or the chosen one are to get theirs.
+/// Selects a set of limits, and whether all elements or the selected one get its limits.
 class LimitSetDialog : public QDialog {
  public:
   /// @param chosen the name of the element that is chosen; empty for none

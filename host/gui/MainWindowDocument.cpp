@@ -27,11 +27,11 @@ namespace {
 std::string DocumentKinds() { return Tr("Test documents (*.orvik)") + ";;" + Tr("All files (*)"); }
 
 /// "IEC 62353, 2014, class I:" and a line for each limit.
-std::string LinesOf(const LimitSet& set, const AppliedLimits& told) {
+std::string LinesOf(const LimitSet& set, const AppliedLimits& limits) {
   std::string lines = set.standard + ", " + set.Description() + ":\n";
-  for (const auto& line : told.applied) lines += "  " + line + "\n";
-  if (!told.uncovered.empty()) lines += "\n" + Tr("Not covered by this set:") + "\n";
-  for (const auto& line : told.uncovered) lines += "  " + line + "\n";
+  for (const auto& line : limits.applied) lines += "  " + line + "\n";
+  if (!limits.uncovered.empty()) lines += "\n" + Tr("Not covered by this set:") + "\n";
+  for (const auto& line : limits.uncovered) lines += "  " + line + "\n";
   return lines;
 }
 
@@ -117,12 +117,12 @@ void MainWindow::SetLimits() {
   if (dialog.exec() != QDialog::Accepted) return;
   const auto& set = *dialog.Set();
   const auto before = session_.BeforeChange();
-  const auto told = session_.ApplySet(set, dialog.ForAll() ? std::nullopt : id);
+  const auto limits = session_.ApplySet(set, dialog.ForAll() ? std::nullopt : id);
   beforeEdit_.reset();
   Refresh();
   const auto consequences = before.Text();
   ShowMessage(this, Tr("These limits were set. They also judge readings that were measured before."),
-              LinesOf(set, told) + (consequences.empty() ? "" : "\n" + consequences));
+              LinesOf(set, limits) + (consequences.empty() ? "" : "\n" + consequences));
 }
 
 void MainWindow::RemoveLimits() {

@@ -51,7 +51,7 @@ void MainWindow::Refresh() {
 }
 
 void MainWindow::ShowVerdict() {
-  if (!session_.HasDocument()) return verdict_->ShowNothing();
+  if (!session_.HasDocument()) return verdict_->Clear();
   auto verdict = parts::VerdictOf(view_.judged.elements, view_.judged.outcome);
   // The run may still change the verdict.
   if (state_.Running()) {

@@ -4,8 +4,7 @@
 
 namespace bench::desktop {
 
-/// Drops from what is typed or pasted into a line what a document cannot hold, such as the line end that a
-/// scanner sends.
+/// Removes characters that a document cannot hold from typed or pasted text, such as a scanner's line end.
 class PlainTextValidator : public QValidator {
  public:
   using QValidator::QValidator;

@@ -12,11 +12,11 @@
 
 namespace bench::desktop {
 
-/// How a run goes, for a window to show.
+/// The progress of a run, for a window to show.
 class RunProgress final : public RunReporter {
  public:
   /// @param changed called when an element has started, finished or become doubtful
-  /// @param remark called with what the person should know
+  /// @param remark called with notices for the user
   RunProgress(const ILoop& loop, double timeScale, std::function<void()> changed,
               std::function<void(const std::string&)> remark);
 
@@ -35,7 +35,7 @@ class RunProgress final : public RunReporter {
   void Started(const judge::JudgedElement& element) override;
   void Finished(const judge::JudgedElement& element) override;
   void Wire(const WireRecord& record) override;
-  void Prompted(const std::string&) override {}  // the prompt stands on the screen
+  void Prompted(const std::string&) override {}  // the prompt is a window of its own
   void Doubted(std::int32_t element, const Reason& doubt) override;
   void Remark(const std::string& text) override { remark_(text); }
   void Over() override;

@@ -28,7 +28,7 @@ std::vector<std::string> SerialDevices() {
   std::vector<std::string> devices;
   std::error_code none;
   for (const auto& port : std::filesystem::directory_iterator("/sys/class/tty", none)) {
-    // What has a device behind it is a line, not a terminal of the screen.
+    // Entries without a device are terminals of the screen.
     const auto device = std::filesystem::path("/dev") / port.path().filename();
     if (std::filesystem::exists(port.path() / "device", none) && HasHardware(port.path()) &&
         std::filesystem::exists(device, none))
@@ -45,11 +45,11 @@ TesterBox::TesterBox(double timeScale, QWidget* parent, std::function<std::vecto
   setToolTip(qt::ToQt(Tr("The serial device of the tester, such as /dev/ttyUSB0, or a simulated tester")));
   setEditable(true);
   setInsertPolicy(QComboBox::NoInsert);
-  // What is typed is taken as it is: "/dev/ttyUSB1" is not the beginning of another.
+  // Completion would turn "/dev/ttyUSB1" into "/dev/ttyUSB10".
   setCompleter(nullptr);
   setMinimumContentsLength(30);
   Fill();
-  // Only a simulated tester can be hurried. Otherwise, without a device, the person has to say which to use.
+  // Only simulated testers scale time. Otherwise, without a device, the user must select one.
   const int firstDevice = FirstSimulated() > 0 ? 0 : -1;
   setCurrentIndex(timeScale == 1.0 ? firstDevice : FirstSimulated());
 }
@@ -96,7 +96,7 @@ void TesterBox::showPopup() {
 }
 
 void TesterBox::wheelEvent(QWheelEvent* event) {
-  // Another tester is chosen, never scrolled to in passing.
+  // Scrolling over the box must not change the tester.
   event->ignore();
 }
 

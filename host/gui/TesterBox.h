@@ -16,7 +16,7 @@ std::vector<std::string> SerialDevices();
 /// of its profiles.
 ///
 /// At first it names the first device, or nothing when there is none. A simulated tester is only ever taken
-/// when the person chose it, or when time is scaled, which no other allows: equipment must not pass for a
+/// when the user selected it, or when time is scaled, which no other allows: equipment must not pass for a
 /// cable that was not plugged in.
 class TesterBox : public QComboBox {
  public:
@@ -26,7 +26,7 @@ class TesterBox : public QComboBox {
 
   /// `InputError` when none is named.
   TesterChoice Choice() const;
-  /// Called when the person has chosen an entry, or has ended typing with Return.
+  /// Called when the user selects an entry, or ends typing with Return.
   void OnChosen(const std::function<void()>& chosen);
 
  private:

@@ -32,7 +32,7 @@ VerdictBar::VerdictBar(QWidget* parent)
   font.setBold(true);
   word_->setFont(font);
   mark_->setFont(font);
-  // What a document holds is shown, never taken for markup.
+  // Text of a document must not be taken for markup.
   word_->setTextFormat(Qt::PlainText);
   sentence_->setTextFormat(Qt::PlainText);
   sentence_->setWordWrap(true);
@@ -43,7 +43,7 @@ VerdictBar::VerdictBar(QWidget* parent)
   layout->addWidget(word_);
   layout->addSpacing(12);
   layout->addWidget(sentence_, 1);
-  ShowNothing();
+  Clear();
 }
 
 void VerdictBar::Show(const report::Verdict& verdict, bool simulated) {
@@ -63,7 +63,7 @@ void VerdictBar::Show(const report::Verdict& verdict, bool simulated) {
                     .arg(colour));
 }
 
-void VerdictBar::ShowNothing() {
+void VerdictBar::Clear() {
   mark_->setVisible(false);
   sign_->setVisible(false);
   word_->clear();

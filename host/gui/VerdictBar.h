@@ -16,8 +16,8 @@ class VerdictBar : public QFrame {
 
   /// @param simulated whether nothing of it was measured
   void Show(const report::Verdict& verdict, bool simulated);
-  /// There is no document.
-  void ShowNothing();
+  /// Shows that no document is open.
+  void Clear();
 
  private:
   QLabel* mark_;

@@ -38,7 +38,7 @@ class CircleSearch {
   void Report(const std::vector<std::string>& circle) {
     std::string way;
     for (const auto& file : circle) way += file + " -> ";
-    findings_.push_back({circle.front(), "stands in a circle: " + way + circle.front()});
+    findings_.push_back({circle.front(), "includes itself: " + way + circle.front()});
   }
 
   std::map<std::string, std::set<std::string>> includes_;

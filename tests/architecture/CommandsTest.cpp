@@ -23,13 +23,13 @@ support::Finished RunCommand(const std::string& command) {
 
 class CommandTest : public testing::TestWithParam<const char*> {};
 
-TEST_P(CommandTest, SaysWhatItDoesWhenAsked) {
+TEST_P(CommandTest, PrintsHelp) {
   const auto outcome = RunCommand(std::string(GetParam()) + " --help");
   EXPECT_EQ(outcome.status, 0);
   EXPECT_THAT(outcome.out, StartsWith(std::string("Usage: ./") + GetParam()));
 }
 
-TEST_P(CommandTest, AnswersTwoToWrongUse) {
+TEST_P(CommandTest, WrongUse_EndsWithTwo) {
   const auto outcome = RunCommand(std::string(GetParam()) + " --nonsense");
   EXPECT_EQ(outcome.status, 2);
   EXPECT_THAT(outcome.out, HasSubstr(std::string("Usage: ./") + GetParam()));
@@ -54,12 +54,12 @@ std::vector<std::string> Packages(const std::string& list) {
   return packages;
 }
 
-TEST(PackageLists, NameEachPackageOnceOneALine) {
+TEST(PackageLists, NameEachPackageOnce) {
   std::set<std::string> seen;
   for (const char* list : {"build", "check", "demo"}) {
     for (const std::string& package : Packages(list)) {
       EXPECT_THAT(package, MatchesRegex("[a-z0-9][-a-z0-9+.]+")) << list;
-      EXPECT_TRUE(seen.insert(package).second) << package << " stands twice";
+      EXPECT_TRUE(seen.insert(package).second) << package << " is listed twice";
     }
   }
   EXPECT_TRUE(seen.contains("g++"));

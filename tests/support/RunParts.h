@@ -65,7 +65,7 @@ class RunParts {
   RunParts(const RunParts&) = delete;
   RunParts& operator=(const RunParts&) = delete;
 
-  /// Runs the elements; somebody has to operate the guide.
+  /// Runs the elements; a test must operate the guide.
   End Run(const Elements& elements) { return runner.Run(heading, elements); }
   End Run() { return Run(TopOf(document_)); }
   /// The program operates the guide.

@@ -5,6 +5,7 @@
 #include <fstream>
 #include <sstream>
 
+#include "tests/support/ReadFile.h"
 #include "tests/support/Seed.h"
 #include "tests/system/fuzz/Mutator.h"
 #include "tests/system/fuzz/Targets.h"
@@ -46,7 +47,7 @@ std::string Kept(const std::string& target, const std::string& input) {
 
 class TargetTest : public testing::TestWithParam<std::string> {};
 
-TEST_P(TargetTest, KeepsItsPromisesForTheCorpusAndForMutationsOfIt) {
+TEST_P(TargetTest, HoldsForCorpusAndMutations) {
   const auto target = LoadTarget(GetParam());
   ASSERT_TRUE(target.function);
   ASSERT_GE(target.corpus.size(), 5U);
@@ -67,18 +68,16 @@ std::string TestName(const testing::TestParamInfo<std::string>& target) {
 
 INSTANTIATE_TEST_SUITE_P(All, TargetTest, testing::ValuesIn(TargetNames()), TestName);
 
-TEST(Targets, EveryEntryHasItsTarget) {
+TEST(Targets, IncludeEveryEntryPoint) {
   std::size_t entries = 0;
   for (const auto& file : std::filesystem::directory_iterator(SOURCE_PATH "/fuzz")) {
     if (file.path().extension() != ".cpp") continue;
-    std::ostringstream source;
-    source << std::ifstream(file.path()).rdbuf();
-    if (source.str().find("LLVMFuzzerTestOneInput") != std::string::npos) ++entries;
+    if (support::ReadFile(file.path()).find("LLVMFuzzerTestOneInput") != std::string::npos) ++entries;
   }
   EXPECT_EQ(TargetNames().size(), entries);
 }
 
-TEST(Mutator, MakesTheSameInputsOfTheSameSeedAndOthersOfAnother) {
+TEST(Mutator, DependsOnTheSeedOnly) {
   const auto inputs = [](unsigned seed) {
     Mutator mutator({"one", "", std::string(3000, 'x')}, {"word"}, seed);
     std::vector<std::string> made;

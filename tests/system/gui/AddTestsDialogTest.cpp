@@ -27,7 +27,7 @@ CatalogueEntry Entry(std::int32_t id, std::int32_t parent, const std::string& na
 }
 
 /// Names differ only at their ends, and the longest stand in groups that are shown closed.
-TEST(AddTestsDialogTest, NamesAreReadToTheirEnds) {
+TEST(AddTestsDialogTest, ShowsCompleteNames) {
   const std::string name = "Patient leakage current AC, single patient lead, SFC open neutral";
   AddTestsDialog dialog({Entry(100, 0, "Complete safety test"), Entry(1500, 100, "Applied part tests"),
                          Entry(1100, 1500, "Patient leakage current"), Entry(1120, 1100, name),
@@ -41,7 +41,7 @@ TEST(AddTestsDialogTest, NamesAreReadToTheirEnds) {
   EXPECT_GE(tests.header()->sectionSize(kNameColumn), rows.sizeHintForColumn(kNameColumn));
 }
 
-TEST(AddTestsDialogTest, ANameWiderThanTheScreenKeepsItsEndAndTellsTheRest) {
+TEST(AddTestsDialogTest, VeryLongName_KeepsItsEndAndHasAToolTip) {
   const std::string name = std::string(2000, 'w') + ", mains reversed";
   AddTestsDialog dialog({Entry(410, 0, name)}, nullptr);
   auto& tests = *dialog.findChild<QTreeWidget*>("catalogue");
@@ -53,7 +53,7 @@ TEST(AddTestsDialogTest, ANameWiderThanTheScreenKeepsItsEndAndTellsTheRest) {
 /// The pictures are the real plug-in's.
 class AddTestsPicturesTest : public DesktopTest {};
 
-TEST_F(AddTestsPicturesTest, StandBesideTheNamesOfTheTests) {
+TEST_F(AddTestsPicturesTest, AreBesideTheNames) {
   AddTestsDialog dialog({Entry(400, 0, "Protective earth"), Entry(410, 400, "With mains cord"),
                          Entry(99999, 400, "Beyond all numbers of tests")},
                         nullptr);

@@ -47,7 +47,6 @@ class CalibrationTest : public DesktopTest {
   Step Opened() {
     return Await("the dialog", [] { return Visible("FCalibrateLeads") != nullptr; });
   }
-  std::string Remark() const { return window_->findChild<QLabel*>("remark")->text().toStdString(); }
   std::optional<bench::LeadCalibration> Stored() const {
     return StoredLeadsOf(bench::RegistryStore(Path("state")), "SIM-0001");
   }
@@ -55,32 +54,31 @@ class CalibrationTest : public DesktopTest {
   std::string file_;
 };
 
-TEST_F(CalibrationTest, TheOutcomeIsShown) {
+TEST_F(CalibrationTest, ShowsTheResult) {
   Open("sound-class-1");
   Drive({Press("calibrate"), Click("cmdCalibrate"), Click("cmdSave"), Idle()});
   EXPECT_THAT(Remark(), HasSubstr("The test leads of tester SIM-0001 have 123 mOhm, measured "));
   ASSERT_TRUE(Stored());
   EXPECT_TRUE(Stored()->measured);
-  Drive({Press("run"), Guide(kPlay), Await("a result", [this] { return Cell(1, kResult) == "passed"; }),
-         Guide(kNext), Idle()});
+  Drive({Press("run"), Guide(kPlay), Result(1, "passed"), Guide(kNext), Idle()});
   EXPECT_EQ(Show(file_)["instrument"]["calibration"], 123);
 }
 
-TEST_F(CalibrationTest, AValueThatTestLeadsCannotHaveIsRefused) {
+TEST_F(CalibrationTest, RefusesAnImpossibleValue) {
   Open("broken-earth");
   Drive({Press("calibrate"), Click("cmdCalibrate"),
          Answer("message", "Close", "1850 mOhm is more than test leads have"), Idle()});
   EXPECT_FALSE(Stored());
 }
 
-TEST_F(CalibrationTest, ATesterWithoutTheTestIsReported) {
+TEST_F(CalibrationTest, ReportsATesterWithoutTheTest) {
   Open("sound-class-2");
   Drive({Press("calibrate"), Click("cmdCalibrate"), Answer("message", "Close", "does not have the test 410"),
          Idle()});
   EXPECT_FALSE(Stored());
 }
 
-TEST_F(CalibrationTest, TheGuidesOwnEntryIsGuarded) {
+TEST_F(CalibrationTest, RefusesAnImpossibleValue_InTheGuide) {
   Open("broken-earth");
   Drive({Press("run"), CalibrateInTheGuide(), Click("cmdCalibrate"),
          Await("refused", [this] { return Remark().find("1850 mOhm is more than") != std::string::npos; }),
@@ -89,7 +87,7 @@ TEST_F(CalibrationTest, TheGuidesOwnEntryIsGuarded) {
   EXPECT_FALSE(Stored());
 }
 
-TEST_F(CalibrationTest, TheGuidesOwnEntryShowsTheOutcome) {
+TEST_F(CalibrationTest, ShowsTheResult_InTheGuide) {
   Open("sound-class-1");
   Drive({Press("run"), CalibrateInTheGuide(), Click("cmdCalibrate"), Click("cmdSave"),
          Await("stored", [this] { return Remark().find("have 123 mOhm, measured") != std::string::npos; }),
@@ -98,7 +96,7 @@ TEST_F(CalibrationTest, TheGuidesOwnEntryShowsTheOutcome) {
   EXPECT_EQ(Stored()->milliohms, 123);
 }
 
-TEST_F(CalibrationTest, StopInTheGuidesDialogEndsTheRun) {
+TEST_F(CalibrationTest, Stop_EndsTheRun_InTheGuide) {
   Open("sound-class-1");
   Drive({Press("run"), CalibrateInTheGuide(), Opened(), Press("stop"), Idle()});
   EXPECT_FALSE(Visible("FCalibrateLeads"));
@@ -109,7 +107,7 @@ TEST_F(CalibrationTest, StopInTheGuidesDialogEndsTheRun) {
   EXPECT_FALSE(Stored());
 }
 
-TEST_F(CalibrationTest, StopWhileMeasuringStoresNothingAndAsksNothing) {
+TEST_F(CalibrationTest, Stop_StoresNothingAndAsksNothing) {
   Open("sound-class-1");
   Drive({Press("calibrate"), Click("cmdCalibrate"), Press("stop"), Idle()});
   EXPECT_FALSE(Visible("FCalibrateLeads"));

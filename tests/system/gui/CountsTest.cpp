@@ -1,4 +1,4 @@
-// The window says the same as the judge, whatever was done to a document that had passed.
+// The window shows the judge's verdict after every change of a document that had passed.
 #include <gmock/gmock.h>
 
 #include <QAction>
@@ -52,7 +52,6 @@ class CountsTest : public DesktopTest {
   void TypeAsset(const std::string& text) {
     QTest::keyClicks(window_->findChild<QLineEdit*>("asset"), QString::fromStdString(text));
   }
-  std::string RemarkText() const { return window_->findChild<QLabel*>("remark")->text().toStdString(); }
   std::string Details() const {
     return window_->findChild<QTextBrowser*>("details")->toPlainText().toStdString();
   }
@@ -64,29 +63,23 @@ class CountsTest : public DesktopTest {
                          [&](const std::string& line) { return line.starts_with(command); });
     });
   }
-  Step Done(const std::string& what, std::function<void()> work) {
-    return Await(what, [work = std::move(work)] {
-      work();
-      return true;
-    });
-  }
 
   std::string file_;
 };
 
-TEST_F(CountsTest, ResultsDoNotGoToAnotherDevice) {
+TEST_F(CountsTest, ResultsDoNotCountForAnotherDevice) {
   OpenPassed({"410", "910"});
   const auto next = Path("next.orvik");
   Drive({Press("saveAs"), TakeFile(next),
          Await("saved", [this] { return window_->windowTitle().startsWith("next.orvik"); })});
-  EXPECT_THAT(RemarkText(), HasSubstr("results are those of the same equipment"));
+  EXPECT_THAT(Remark(), HasSubstr("results are those of the same equipment"));
   TypeAsset("-B");
   EXPECT_EQ(Verdict(), "Incomplete");
   EXPECT_EQ(Cell(1, kResult), "not tested");
   EXPECT_EQ(Cell(1, kValue), "-");
   EXPECT_THAT(Cell(1, kRemark), HasSubstr("the asset number was \"PUMP-7\" and is \"PUMP-7-B\""));
-  EXPECT_THAT(RemarkText(), HasSubstr("element 1 no longer counts: not tested (was: passed)"));
-  EXPECT_THAT(RemarkText(), HasSubstr("the document is now: incomplete (was: passed)"));
+  EXPECT_THAT(Remark(), HasSubstr("element 1 no longer counts: not tested (was: passed)"));
+  EXPECT_THAT(Remark(), HasSubstr("the document is now: incomplete (was: passed)"));
 
   Drive({Press("save"), Await("saved", [this] { return !Changed(); }), Press("report"),
          TakeFile(Path("next.txt")),
@@ -102,16 +95,16 @@ TEST_F(CountsTest, ResultsDoNotGoToAnotherDevice) {
   EXPECT_THAT(archived.out, Not(HasSubstr("\"outcome\": \"passed\"")));
 }
 
-TEST_F(CountsTest, AnEditThatIsTakenBackCountsAgain) {
+TEST_F(CountsTest, RevertedEdit_CountsAgain) {
   OpenPassed({"410"});
   TypeAsset("B");
   EXPECT_EQ(Verdict(), "Incomplete");
   QTest::keyClick(window_->findChild<QLineEdit*>("asset"), Qt::Key_Backspace);
   EXPECT_EQ(Verdict(), "Passed");
-  EXPECT_EQ(RemarkText(), "");
+  EXPECT_EQ(Remark(), "");
 }
 
-TEST_F(CountsTest, TheNextDeviceBeginsWithoutResults) {
+TEST_F(CountsTest, NextDevice_StartsWithoutResults) {
   OpenPassed({"410", "910"});
   Drive({Press("newFrom"), TakeFile(Path("next.orvik")),
          Await("the new one", [this] { return window_->windowTitle().startsWith("next.orvik"); })});
@@ -124,7 +117,7 @@ TEST_F(CountsTest, TheNextDeviceBeginsWithoutResults) {
   EXPECT_EQ(next["run"], 0);
 }
 
-TEST_F(CountsTest, ARunThatIsGoneThroughWithoutATestReplacesTheEarlierOne) {
+TEST_F(CountsTest, RunWithoutATest_ReplacesTheEarlierOne) {
   OpenPassed({"410", "910", "610"});
   Drive({Press("run"), Answer("question", "Run again", "results already"), Guide(kNext), Guide(kNext),
          Guide(kNext), Idle()});
@@ -133,7 +126,7 @@ TEST_F(CountsTest, ARunThatIsGoneThroughWithoutATestReplacesTheEarlierOne) {
   EXPECT_EQ(Show(file_)["outcome"], "incomplete");
 }
 
-TEST_F(CountsTest, StoppedInAGroupTheEarlierRunIsStillListed) {
+TEST_F(CountsTest, StoppedInAGroup_ListsTheEarlierRun) {
   OpenPassed({"400"});
   Drive({Press("run"), Answer("question", "Run again", "results already"), Guide(kPlay), Sending("STST"),
          Press("stop"), Idle()});
@@ -145,7 +138,7 @@ TEST_F(CountsTest, StoppedInAGroupTheEarlierRunIsStillListed) {
   EXPECT_EQ(Show(file_)["run"], 2);
 }
 
-TEST_F(CountsTest, LimitsOfAFurtherStandardFailAReadingAtOnce) {
+TEST_F(CountsTest, AnotherStandardsLimits_FailTheReadingAtOnce) {
   OpenPassed({"410"});
   std::filesystem::create_directories(Path("state/standards"));
   Write("state/standards/house.xml",
@@ -175,7 +168,7 @@ TEST_F(CountsTest, LimitsOfAFurtherStandardFailAReadingAtOnce) {
   EXPECT_THAT(Details(), HasSubstr("exceeded"));
 }
 
-TEST_F(CountsTest, ARunThatAnotherProgramChangedIsDoubted) {
+TEST_F(CountsTest, ForeignChangeOfARun_IsDoubted) {
   file_ = NewDocument({"410"});
   RunByCommand();
   auto text = Contents(file_);
@@ -189,34 +182,34 @@ TEST_F(CountsTest, ARunThatAnotherProgramChangedIsDoubted) {
   EXPECT_THAT(Details(), HasSubstr("the record was changed by another program"));
 }
 
-TEST_F(CountsTest, AChildThatRanAgainLeavesItsGroupUntested) {
+TEST_F(CountsTest, RepeatedChild_LeavesItsGroupUntested) {
   OpenPassed({"400"});
   ChooseElement(2);
   Drive({Press("runSelected"), Answer("question", "Run again", "results already"), Guide(kPlay),
-         Await("a result", [this] { return Cell(2, kResult) == "passed"; }), Guide(kNext), Idle()});
+         Result(2, "passed"), Guide(kNext), Idle()});
   EXPECT_EQ(Cell(1, kResult), "not tested");
   EXPECT_THAT(Cell(1, kRemark), HasSubstr("run the group again"));
   EXPECT_EQ(Verdict(), "Incomplete");
 }
 
-TEST_F(CountsTest, ReadingsAreRecordedOnlyWhenThatWasDecided) {
+TEST_F(CountsTest, RecordOnly_NeedsTheMark) {
   file_ = NewDocument({"210", "410"});
   Bench({"run", file_, "--simulate", "sound-class-1", "--time-scale", "100"});
   window_->Open(file_);
   EXPECT_EQ(Cell(1, kResult), "not judged");
   EXPECT_EQ(Verdict(), "Incomplete");
   ChooseElement(1);
-  Drive({Press("recordOnly"), Await("recorded", [this] { return Cell(1, kResult) == "recorded"; })});
+  Drive({Press("recordOnly"), Result(1, "recorded")});
   EXPECT_EQ(Verdict(), "Passed");
   EXPECT_TRUE(window_->findChild<QAction*>("recordOnly")->isChecked());
-  EXPECT_THAT(RemarkText(), HasSubstr("element 1 counts now: recorded (was: not judged)"));
-  Drive({Press("recordOnly"), Await("not judged", [this] { return Cell(1, kResult) == "not judged"; })});
+  EXPECT_THAT(Remark(), HasSubstr("element 1 counts now: recorded (was: not judged)"));
+  Drive({Press("recordOnly"), Result(1, "not judged")});
   EXPECT_EQ(Verdict(), "Incomplete");
   EXPECT_FALSE(window_->findChild<QAction*>("recordOnly")->isChecked());
-  EXPECT_THAT(RemarkText(), HasSubstr("element 1 no longer counts: not judged (was: recorded)"));
+  EXPECT_THAT(Remark(), HasSubstr("element 1 no longer counts: not judged (was: recorded)"));
 }
 
-TEST_F(CountsTest, ALimitAndTheMarkForRecordOnlyExcludeEachOther) {
+TEST_F(CountsTest, LimitExcludesRecordOnly) {
   OpenPassed({"410"});
   EXPECT_FALSE(Enabled("recordOnly"));
   ChooseElement(1);
@@ -225,23 +218,22 @@ TEST_F(CountsTest, ALimitAndTheMarkForRecordOnlyExcludeEachOther) {
   EXPECT_FALSE(window_->findChild<QAction*>("recordOnly")->isChecked());
   Drive({Press("removeLimits"), Answer("question", "Cancel", "Remove all limits of test 1"), Idle()});
   EXPECT_EQ(Cell(1, kResult), "passed");
-  Drive({Press("removeLimits"), Answer("question", "Remove the limits"),
-         Await("not judged", [this] { return Cell(1, kResult) == "not judged"; })});
-  EXPECT_THAT(RemarkText(), HasSubstr("element 1 no longer counts: not judged (was: passed)"));
+  Drive({Press("removeLimits"), Answer("question", "Remove the limits"), Result(1, "not judged")});
+  EXPECT_THAT(Remark(), HasSubstr("element 1 no longer counts: not judged (was: passed)"));
   EXPECT_FALSE(Enabled("removeLimits"));
-  Drive({Press("recordOnly"), Await("recorded", [this] { return Cell(1, kResult) == "recorded"; })});
+  Drive({Press("recordOnly"), Result(1, "recorded")});
   // Nothing was judged at all.
   EXPECT_EQ(Verdict(), "Incomplete");
 }
 
-TEST_F(CountsTest, ARemovedResultIsNamed) {
+TEST_F(CountsTest, NamesARemovedResult) {
   OpenPassed({"410", "910"});
   ChooseElement(2);
   Drive({Press("remove"), Answer("question", "Remove"), Idle()});
-  EXPECT_THAT(RemarkText(), HasSubstr("element 2 is removed; its result was: passed"));
+  EXPECT_THAT(Remark(), HasSubstr("element 2 is removed; its result was: passed"));
 }
 
-TEST_F(CountsTest, SettingsThatDecideWhatIsMeasuredUndoAResult) {
+TEST_F(CountsTest, ChangedSettings_InvalidateTheResult) {
   OpenPassed({"910"});
   ChooseElement(1);
   const auto chooseOneLead = [] {
@@ -257,10 +249,10 @@ TEST_F(CountsTest, SettingsThatDecideWhatIsMeasuredUndoAResult) {
   };
   Drive({Press("setUp"), Await("the settings", chooseOneLead), Await("closed", close), Idle()});
   EXPECT_EQ(Cell(1, kResult), "not tested");
-  EXPECT_THAT(RemarkText(), HasSubstr("element 1 no longer counts: not tested (was: passed)"));
+  EXPECT_THAT(Remark(), HasSubstr("element 1 no longer counts: not tested (was: passed)"));
 }
 
-TEST_F(CountsTest, SimulatedResultsAreMarkedByWords) {
+TEST_F(CountsTest, MarksSimulatedResults) {
   OpenPassed({"410"});
   const auto* mark = window_->findChild<QLabel*>("simulated");
   EXPECT_TRUE(mark->isVisible());
@@ -274,14 +266,14 @@ TEST_F(CountsTest, SimulatedResultsAreMarkedByWords) {
   EXPECT_THAT(Details(), HasSubstr("SIM-0001"));
 }
 
-TEST_F(CountsTest, RealRunsAreNotMarked) {
+TEST_F(CountsTest, DoesNotMarkRealRuns) {
   window_->Open(RealRun());
   EXPECT_FALSE(window_->findChild<QLabel*>("simulated")->isVisible());
   EXPECT_THAT(Details(), HasSubstr("aborted"));
   EXPECT_THAT(Details(), Not(HasSubstr("SIMULATED")));
 }
 
-TEST_F(CountsTest, ASimulatedRunNeverEntersADocumentWithRealOnes) {
+TEST_F(CountsTest, RefusesASimulatedRunAmongRealOnes) {
   const auto file = RealRun();
   const auto before = Contents(file);
   window_->Open(file);

@@ -140,7 +140,7 @@ DesktopTest::Step DesktopTest::Press(const std::string& name) {
               Click(*button);
               return true;
             }
-            action->trigger();  // it stands in the menu alone
+            action->trigger();  // it is in the menu only
             return true;
           }};
 }
@@ -189,6 +189,26 @@ DesktopTest::Step DesktopTest::Guide(int command) {
           }};
 }
 
+DesktopTest::Step DesktopTest::Do(std::function<void()> work) {
+  return {"do", [work = std::move(work)] {
+            work();
+            return true;
+          }};
+}
+
+DesktopTest::Step DesktopTest::Result(int id, const std::string& word) {
+  return {"element " + std::to_string(id) + " " + word,
+          [this, id, word] { return Cell(id, kResult) == word; }};
+}
+
+DesktopTest::Step DesktopTest::Close() {
+  return {"closed", [this] { return !window_->close(); }};
+}
+
+DesktopTest::Step DesktopTest::Left() {
+  return {"left", [this] { return left_; }};
+}
+
 DesktopTest::Step DesktopTest::Idle() {
   return {"idle",
           [this] { return !Visible("FTestGuide") && window_->findChild<QAction*>("open")->isEnabled(); }};
@@ -208,6 +228,10 @@ void DesktopTest::ChooseTester(const std::string& text) {
 
 std::string DesktopTest::Verdict() const {
   return window_->findChild<QLabel*>("verdictWord")->text().toStdString();
+}
+
+std::string DesktopTest::Remark() const {
+  return window_->findChild<QLabel*>("remark")->text().toStdString();
 }
 
 QTreeWidgetItem* DesktopTest::Row(int id) const {

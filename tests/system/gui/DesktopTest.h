@@ -74,6 +74,14 @@ class DesktopTest : public testing::Test {
   /// Clicks the guide's button once it can be clicked, such as 202 for play.
   Step Guide(int command);
   Step Await(const std::string& what, std::function<bool()> holds) { return {what, std::move(holds)}; }
+  /// Does something once.
+  Step Do(std::function<void()> work);
+  /// The element has that result.
+  Step Result(int id, const std::string& word);
+  /// Asks the window to close, which it refuses at first.
+  Step Close();
+  /// The window has closed.
+  Step Left();
   /// Nothing runs and no window of the plug-in is open.
   Step Idle();
 
@@ -81,9 +89,10 @@ class DesktopTest : public testing::Test {
   static QWidget* Visible(const std::string& name);
   void ChooseTester(const std::string& text);
   std::string Verdict() const;
+  std::string Remark() const;
   /// The text of a column in the row of that element.
   std::string Cell(int id, int column) const;
-  /// The name of the colour in which the result stands in the row of that element.
+  /// The name of the colour of the result in the row of that element.
   std::string ResultColour(int id) const;
   void ChooseElement(int id);
   bool Changed() const { return window_->isWindowModified(); }
@@ -97,7 +106,7 @@ class DesktopTest : public testing::Test {
  private:
   QTreeWidgetItem* Row(int id) const;
 
-  QPointer<QWidget> leftGuide_;  ///< the guide that was told to go on to the next test
+  QPointer<QWidget> leftGuide_;  ///< the guide that was left for the next test
 };
 
 }  // namespace desktop_test

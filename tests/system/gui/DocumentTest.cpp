@@ -24,22 +24,16 @@ class DocumentWindowTest : public DesktopTest {
   void TypeAsset(const std::string& text) {
     QTest::keyClicks(window_->findChild<QLineEdit*>("asset"), QString::fromStdString(text));
   }
-  Step Close() {
-    return Await("close", [this] { return !window_->close(); });
-  }
-  Step Left() {
-    return Await("left", [this] { return left_; });
-  }
 };
 
-TEST_F(DocumentWindowTest, WithoutADocumentNothingCanBeDoneToIt) {
+TEST_F(DocumentWindowTest, DisablesActions_WithoutADocument) {
   for (const auto* name :
        {"save", "addTests", "remove", "limits", "setUp", "report", "archive", "run", "stop"})
     EXPECT_FALSE(window_->findChild<QAction*>(name)->isEnabled()) << name;
   EXPECT_EQ(Verdict(), "");
 }
 
-TEST_F(DocumentWindowTest, AMalformedFileIsRefusedWithItsLineAndTheOpenDocumentStays) {
+TEST_F(DocumentWindowTest, MalformedFile_KeepsTheOpenDocument) {
   window_->Open(NewDocument({"410"}));
   Write("broken.orvik", "<OrvikDocument Version=\"1\">\n<Elements>\n</OrvikDocument>\n");
   Drive({Press("open"), TakeFile(Path("broken.orvik")), Answer("message", "Close", "broken.orvik, line 3")});
@@ -47,21 +41,21 @@ TEST_F(DocumentWindowTest, AMalformedFileIsRefusedWithItsLineAndTheOpenDocumentS
   EXPECT_THAT(window_->windowTitle().toStdString(), HasSubstr("pump.orvik"));
 }
 
-TEST_F(DocumentWindowTest, AFileThatAnotherHoldsIsRefused) {
+TEST_F(DocumentWindowTest, RefusesAFileInUse) {
   const auto file = NewDocument({"410"});
   const auto other = bench::Document::Open(bench_->Host(), file);
   Drive({Press("open"), TakeFile(file), Answer("message", "Close", "pump.orvik")});
   EXPECT_EQ(Verdict(), "");
 }
 
-TEST_F(DocumentWindowTest, AnExistingFileIsNotTakenForANewDocument) {
+TEST_F(DocumentWindowTest, New_RefusesAnExistingFile) {
   const auto file = NewDocument({"410"});
   const auto before = Contents(file);
   Drive({Press("new"), TakeFile(file), Answer("message", "Close", "pump.orvik")});
   EXPECT_EQ(Contents(file), before);
 }
 
-TEST_F(DocumentWindowTest, UnsavedChangesAreAskedForOnClose) {
+TEST_F(DocumentWindowTest, AsksAboutUnsavedChangesOnClose) {
   const auto file = NewDocument({"410"});
   window_->Open(file);
   EXPECT_FALSE(Changed());
@@ -76,7 +70,7 @@ TEST_F(DocumentWindowTest, UnsavedChangesAreAskedForOnClose) {
 }
 
 // As from a scanner that ends with a line, or the clipboard.
-TEST_F(DocumentWindowTest, ControlCharactersDoNotEnterAField) {
+TEST_F(DocumentWindowTest, FieldsRejectControlCharacters) {
   window_->Open(NewDocument({"410"}));
   for (const auto* name : {"asset", "serial", "maker", "model", "operator"}) {
     auto* field = window_->findChild<QLineEdit*>(name);
@@ -89,7 +83,7 @@ TEST_F(DocumentWindowTest, ControlCharactersDoNotEnterAField) {
   }
 }
 
-TEST_F(DocumentWindowTest, ChangesMayBeDropped) {
+TEST_F(DocumentWindowTest, DiscardsChangesOnRequest) {
   const auto file = NewDocument({"410"});
   const auto before = Contents(file);
   window_->Open(file);
@@ -98,7 +92,7 @@ TEST_F(DocumentWindowTest, ChangesMayBeDropped) {
   EXPECT_EQ(Contents(file), before);
 }
 
-TEST_F(DocumentWindowTest, ARequestToEndKeepsUnsavedChangesBesideTheDocument) {
+TEST_F(DocumentWindowTest, RequestToEnd_KeepsUnsavedChanges) {
   const auto file = NewDocument({"410"});
   const auto before = Contents(file);
   window_->Open(file);
@@ -112,10 +106,10 @@ TEST_F(DocumentWindowTest, ARequestToEndKeepsUnsavedChangesBesideTheDocument) {
   EXPECT_THAT(Contents(file + ".unsaved"), HasSubstr("Asset=\"PUMP-7-B\""));
   EXPECT_EQ(Show(file + ".unsaved")["elements"].size(), 1u);
   window_->Open(file);
-  EXPECT_THAT(window_->findChild<QLabel*>("remark")->text().toStdString(), HasSubstr("pump.orvik.unsaved"));
+  EXPECT_THAT(Remark(), HasSubstr("pump.orvik.unsaved"));
 }
 
-TEST_F(DocumentWindowTest, ASavedDocumentIsWhatTheCommandLineReads) {
+TEST_F(DocumentWindowTest, SavesWhatTheCommandLineReads) {
   const auto file = NewDocument({"410", "910"});
   window_->Open(file);
   ChooseElement(1);
@@ -126,7 +120,7 @@ TEST_F(DocumentWindowTest, ASavedDocumentIsWhatTheCommandLineReads) {
   EXPECT_EQ(read["elements"][0]["id"], 2);
 }
 
-TEST_F(DocumentWindowTest, ADoubleClickOpensOneDialog) {
+TEST_F(DocumentWindowTest, DoubleClick_OpensOneDialog) {
   window_->Open(NewDocument({"410"}));
   int dialogs = 0;
   Drive({Press("addTests"), Press("addTests"),
@@ -140,7 +134,7 @@ TEST_F(DocumentWindowTest, ADoubleClickOpensOneDialog) {
   EXPECT_EQ(dialogs, 1);
 }
 
-TEST_F(DocumentWindowTest, WhatTheProgramDoesNotKnowIsKept) {
+TEST_F(DocumentWindowTest, KeepsUnknownXml) {
   const auto file = NewDocument({"410"});
   auto text = Contents(file);
   text.insert(text.find("<Elements>"), "<Extra Kept=\"yes\"/>");
@@ -151,7 +145,7 @@ TEST_F(DocumentWindowTest, WhatTheProgramDoesNotKnowIsKept) {
   EXPECT_THAT(Contents(file), HasSubstr("<Extra Kept=\"yes\""));
 }
 
-TEST_F(DocumentWindowTest, SettingsAreChangedInThePlugInsOwnWindow) {
+TEST_F(DocumentWindowTest, ChangesSettingsInThePlugInsDialog) {
   window_->Open(NewDocument({"410"}));
   ChooseElement(1);
   Drive({Press("setUp"),
@@ -174,7 +168,7 @@ TEST_F(DocumentWindowTest, SettingsAreChangedInThePlugInsOwnWindow) {
   EXPECT_TRUE(Changed());
 }
 
-TEST_F(DocumentWindowTest, AnUnfinishedDocumentIsArchivedOnlyWhenAsked) {
+TEST_F(DocumentWindowTest, ArchivesUnfinishedDocuments_WhenConfirmed) {
   window_->Open(NewDocument({"410"}));
   Drive({Press("archive"), Answer("question", "Cancel", "is not finished")});
   EXPECT_FALSE(std::filesystem::exists(Path("state/archive.sqlite")));
@@ -183,7 +177,7 @@ TEST_F(DocumentWindowTest, AnUnfinishedDocumentIsArchivedOnlyWhenAsked) {
   EXPECT_TRUE(std::filesystem::exists(Path("state/archive.sqlite")));
 }
 
-TEST_F(DocumentWindowTest, ARemarkGoesWithItsDocument) {
+TEST_F(DocumentWindowTest, RemovesTheRemark_WithItsDocument) {
   window_->Open(NewDocument({"410"}));
   TypeAsset("-B");
   Drive({Press("save"), Await("saved", [this] { return !Changed(); })});
@@ -194,7 +188,7 @@ TEST_F(DocumentWindowTest, ARemarkGoesWithItsDocument) {
   EXPECT_THAT(remark->text().toStdString(), Not(HasSubstr("Saved: ")));
 }
 
-TEST_F(DocumentWindowTest, ChangesKeptEarlierAreNotOverwritten) {
+TEST_F(DocumentWindowTest, KeepsEarlierUnsavedChanges) {
   const auto file = NewDocument({"410"});
   Write("pump.orvik.unsaved", "of an earlier session");
   window_->Open(file);

@@ -41,7 +41,7 @@ double Contrast(const QColor& one, const QColor& other) {
   return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
 }
 
-/// The strongest contrast that the word of the result has to what it stands on.
+/// The strongest contrast of the result's word to its background.
 double ContrastOfResult(ElementTree& tree) {
   tree.resize(900, 200);
   tree.show();
@@ -60,12 +60,12 @@ double ContrastOfResult(ElementTree& tree) {
 
 constexpr double kReadable = 4.5;
 
-TEST(ElementTreeTest, ANameThatDoesNotFitKeepsItsEnd) {
+TEST(ElementTreeTest, LongName_KeepsItsEnd) {
   const ElementTree tree;
   EXPECT_EQ(tree.textElideMode(), Qt::ElideMiddle);
 }
 
-TEST(ElementTreeTest, EveryVerdictHasItsOwnSignAndOnlyPassedIsGreen) {
+TEST(ElementTreeTest, EveryVerdictHasItsSign_OnlyPassedIsGreen) {
   using bench::judge::Verdict;
   std::vector<QImage> signs;
   std::set<QString> words;
@@ -76,7 +76,7 @@ TEST(ElementTreeTest, EveryVerdictHasItsOwnSignAndOnlyPassedIsGreen) {
     tree.Show(One(verdict), 0);
     const auto* row = tree.topLevelItem(0);
     words.insert(row->text(kResultColumn));
-    // As drawn: the colour is not to be what tells one from another.
+    // As drawn: signs must differ in more than colour.
     auto sign = row->icon(kResultColumn).pixmap(32, 32).toImage().convertToFormat(QImage::Format_ARGB32);
     const auto colour = row->foreground(kResultColumn).color();
     EXPECT_EQ(colour.green() > colour.red() && colour.green() > colour.blue(), verdict == Verdict::kPassed)
@@ -90,7 +90,7 @@ TEST(ElementTreeTest, EveryVerdictHasItsOwnSignAndOnlyPassedIsGreen) {
   EXPECT_EQ(words.size(), signs.size());
 }
 
-TEST(ElementTreeTest, AResultIsReadInEveryRow) {
+TEST(ElementTreeTest, ResultIsReadableInEveryRow) {
   ElementTree tree;
   tree.Show(OnePassed(), 0);
   EXPECT_GT(ContrastOfResult(tree), kReadable);
@@ -101,7 +101,7 @@ TEST(ElementTreeTest, AResultIsReadInEveryRow) {
               Contrast(palette.color(QPalette::HighlightedText), palette.color(QPalette::Highlight)), 0.2);
 }
 
-TEST(ElementTreeTest, AResultIsReadOnADarkDesktop) {
+TEST(ElementTreeTest, ResultIsReadableOnDarkBackground) {
   ElementTree tree;
   auto dark = tree.palette();
   dark.setColor(QPalette::Base, QColor(30, 30, 34));
@@ -112,7 +112,7 @@ TEST(ElementTreeTest, AResultIsReadOnADarkDesktop) {
   EXPECT_GT(ContrastOfResult(tree), kReadable);
 }
 
-TEST(ElementTreeTest, WhatADocumentHoldsIsNeverTakenForMarkup) {
+TEST(ElementTreeTest, ShowsMarkupAsText) {
   auto document = OnePassed();
   document.elements.back().name = "<b>failed</b>";
   document.elements.back().reasons = {{"negative-reading", {"<i>none</i>"}}};

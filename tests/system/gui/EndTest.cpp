@@ -1,4 +1,4 @@
-// How the window ends, and what it tells on the way, while something goes on.
+// How the window ends, and what it reports, during a run or a dialog.
 #include <gmock/gmock.h>
 
 #include <QAction>
@@ -34,20 +34,11 @@ class EndTest : public DesktopTest {
     return Await(text + " on the wire",
                  [this, text] { return Contents(file_ + ".wire.log").find(text) != std::string::npos; });
   }
-  Step Do(std::function<void()> work) {
-    return Await("do", [work] {
-      work();
-      return true;
-    });
-  }
-  Step Left() {
-    return Await("left", [this] { return left_; });
-  }
 
   std::string file_;
 };
 
-TEST_F(EndTest, WhatIsAskedForTogetherWithTheEndIsNotBegun) {
+TEST_F(EndTest, StartsNoRun_AfterARequestToEnd) {
   OpenOnSoundEquipment();
   window_->findChild<QAction*>("run")->trigger();
   window_->EndByRequest();
@@ -57,22 +48,22 @@ TEST_F(EndTest, WhatIsAskedForTogetherWithTheEndIsNotBegun) {
   EXPECT_FALSE(Visible("FTestGuide"));
 }
 
-TEST_F(EndTest, AnErrorDuringARunIsRemarkedAndToldOnceTheSessionIsOver) {
+TEST_F(EndTest, ShowsErrorsOfARunAfterTheSession) {
   OpenOnSoundEquipment();
   Drive({Press("run"), Guide(kPlay), OnTheWire("STST"), Do([this] {
            window_->ShowErrorLater("the lamp is out");
            window_->ShowErrorLater("the lamp is out");
          }),
-         Await("a result", [this] { return Cell(1, kResult) == "passed"; }), Do([this] {
+         Result(1, "passed"), Do([this] {
            EXPECT_FALSE(QApplication::activeModalWidget());
            EXPECT_EQ(window_->findChild<QLabel*>("remark")->text(), "the lamp is out");
          }),
          Guide(kNext), Answer("message", "Close", "the lamp is out"), Idle(),
-         Await("told once", [] { return !QApplication::activeModalWidget(); })});
+         Await("shown once", [] { return !QApplication::activeModalWidget(); })});
   EXPECT_EQ(Sent(file_).back(), "EREM");
 }
 
-TEST_F(EndTest, AnErrorOnTheWayOutAsksForNobody) {
+TEST_F(EndTest, PrintsErrors_AfterARequestToEnd) {
   OpenOnSoundEquipment();
   testing::internal::CaptureStderr();
   Drive({Press("run"), Guide(kPlay), OnTheWire("STST"), Do([this] {
@@ -84,7 +75,7 @@ TEST_F(EndTest, AnErrorOnTheWayOutAsksForNobody) {
   EXPECT_EQ(Sent(file_).back(), "EREM");
 }
 
-TEST_F(EndTest, ErrorsThatWaitToBeToldDoNotHoldUpTheEnd) {
+TEST_F(EndTest, PendingErrors_DoNotDelayTheEnd) {
   window_->ShowErrorLater("the lamp is out");
   window_->ShowErrorLater("the bell is out");
   testing::internal::CaptureStderr();
@@ -97,9 +88,9 @@ TEST_F(EndTest, ErrorsThatWaitToBeToldDoNotHoldUpTheEnd) {
   EXPECT_THAT(testing::internal::GetCapturedStderr(), HasSubstr("the bell is out"));
 }
 
-TEST_F(EndTest, AQuestionDuringARunSpoilsNoReading) {
+TEST_F(EndTest, QuestionDuringARun_KeepsTheReading) {
   OpenOnSoundEquipment();
-  Drive({Press("run"), Guide(kPlay), OnTheWire("GRES"), Await("closed", [this] { return !window_->close(); }),
+  Drive({Press("run"), Guide(kPlay), OnTheWire("GRES"), Close(),
          In("question", [](QDialog&) { return true; }), OnTheWire("gres"),
          Answer("question", "Go on with the run", "PUMP-7 is being tested"),
          Await("a result", [this] { return Cell(1, kResult) != "running"; }), OnTheWire("EREM"), Guide(kNext),
@@ -108,7 +99,7 @@ TEST_F(EndTest, AQuestionDuringARunSpoilsNoReading) {
   EXPECT_EQ(Cell(1, kRemark), "");
 }
 
-TEST_F(EndTest, WhateverIsOpenARequestToEndIsFollowed) {
+TEST_F(EndTest, EndsOnRequest_WithAnyDialogOpen) {
   OpenOnSoundEquipment();
   const auto clicked = [](const char* window, const char* button) {
     return [=] {
@@ -160,22 +151,21 @@ TEST_F(EndTest, WhateverIsOpenARequestToEndIsFollowed) {
   }
 }
 
-TEST_F(EndTest, ResultsThatCannotBeSavedEndTheRunAndAreSavedUnderAnotherName) {
+TEST_F(EndTest, UnsavableResults_AreSavedUnderAnotherName) {
   OpenOnSoundEquipment();
   Drive({Press("run"), Guide(kPlay), OnTheWire("STST"),
-         Do([this] { Write("pump.orvik", "somebody else's"); }),
-         Await("a result", [this] { return Cell(1, kResult) == "passed"; }), OnTheWire("EREM"), Guide(kNext),
-         Answer("message", "Close", "the document cannot be saved"), Idle()});
+         Do([this] { Write("pump.orvik", "another program's"); }), Result(1, "passed"), OnTheWire("EREM"),
+         Guide(kNext), Answer("message", "Close", "the document cannot be saved"), Idle()});
   EXPECT_TRUE(Changed());
-  EXPECT_EQ(Contents(file_), "somebody else's");
+  EXPECT_EQ(Contents(file_), "another program's");
   Drive({Press("saveAs"), TakeFile(file_), Answer("message", "Close", "is there already"), Press("saveAs"),
          TakeFile(Path("again.orvik")), Await("saved", [this] { return !Changed(); })});
   EXPECT_TRUE(window_->windowTitle().startsWith("again.orvik"));
   EXPECT_EQ(Show(Path("again.orvik"))["outcome"], "passed");
-  EXPECT_EQ(Contents(file_), "somebody else's");
+  EXPECT_EQ(Contents(file_), "another program's");
 }
 
-TEST_F(EndTest, ATesterThatGoesAwayIsToldAndNothingPasses) {
+TEST_F(EndTest, LostTester_IsReportedAndPassesNothing) {
   auto tester = std::make_unique<support::Process>(
       KELD_SIM_PATH, std::vector<std::string>{"--link", Path("line"), "--time-scale", "10"});
   ASSERT_TRUE(tester->AwaitOutput("ready"));
@@ -196,7 +186,7 @@ TEST_F(EndTest, ATesterThatGoesAwayIsToldAndNothingPasses) {
   EXPECT_EQ(Show(file_)["outcome"], "incomplete");
 }
 
-TEST_F(EndTest, TheKeyForStopIsHeardInTheGuide) {
+TEST_F(EndTest, StopKey_WorksInTheGuide) {
   OpenOnSoundEquipment();
   Drive({Press("run"), Guide(kPlay), OnTheWire("STST"), Do([] {
            auto* guide = Visible("FTestGuide");
@@ -205,7 +195,7 @@ TEST_F(EndTest, TheKeyForStopIsHeardInTheGuide) {
          }),
          Idle()});
   EXPECT_EQ(Sent(file_).back(), "EREM");
-  EXPECT_THAT(window_->findChild<QLabel*>("remark")->text().toStdString(), HasSubstr("Stopped."));
+  EXPECT_THAT(Remark(), HasSubstr("Stopped."));
   EXPECT_THAT(Cell(1, kResult), Not("passed"));
 }
 

@@ -19,7 +19,7 @@ Section TestOf(const std::string& name, Standing standing, const std::string& wo
   return section;
 }
 
-TEST(GuideJudgement, NamesTheStandardsThatFailAndThoseThatHold) {
+TEST(GuideJudgement, NamesFailedAndPassedStandards) {
   auto earth = TestOf("Protective earth", Standing::kFailed, "failed");
   earth.judgements.push_back(
       {"IEC 62353", "at most 300 mOhm", Standing::kPassed, "within limit", {}, {}, {}, {}, {}});
@@ -31,20 +31,20 @@ TEST(GuideJudgement, NamesTheStandardsThatFailAndThoseThatHold) {
             "\u2717 IEC 60601-1: at most 200 mOhm, exceeded");
 }
 
-TEST(GuideJudgement, GivesReasonsOfWhatIsOpen) {
+TEST(GuideJudgement, GivesReasonsOfOpenTests) {
   auto earth = TestOf("Protective earth", Standing::kDoubtful, "doubtful");
   earth.notes.push_back({Standing::kDoubtful, "overload (OL)"});
   EXPECT_EQ(GuideJudgement({earth}), "? Protective earth: doubtful\n? overload (OL)");
 }
 
-TEST(GuideJudgement, LeavesOutPassedTestsOfAGroup) {
+TEST(GuideJudgement, OmitsPassedTestsOfAGroup) {
   EXPECT_EQ(GuideJudgement({TestOf("Lead 1", Standing::kPassed, "passed", 1),
                             TestOf("Lead 2", Standing::kFailed, "failed", 1),
                             TestOf("Group", Standing::kPassed, "passed")}),
             "\u2717 Lead 2: failed\n\u2713 Group: passed");
 }
 
-TEST(GuideJudgement, IsShortWhateverHappened) {
+TEST(GuideJudgement, IsBounded) {
   const auto text = GuideJudgement(std::vector<Section>(20, TestOf("Lead", Standing::kFailed, "failed", 1)));
   EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 5);
   EXPECT_THAT(text, testing::EndsWith("15 more lines: see the list of tests"));

@@ -34,7 +34,7 @@ class GuiProgramTest : public testing::Test {
   support::TemporaryFolder folder_;
 };
 
-TEST_F(GuiProgramTest, OpensADocumentAndEndsWhenItIsTold) {
+TEST_F(GuiProgramTest, OpensADocument_EndsOnRequest) {
   const auto file = Path("pump.orvik");
   ASSERT_EQ(Bench({"new", file, "--add", "410"}).status, 0);
   support::Process program(ORVIK_BENCH_PATH, {"gui", file});
@@ -53,7 +53,7 @@ TEST_F(GuiProgramTest, RefusesAFileThatCannotBeRead) {
   EXPECT_EQ(Bench({"gui", "--time-scale", "0"}).status, 3);
 }
 
-TEST_F(GuiProgramTest, SaysThatThereIsNoScreen) {
+TEST_F(GuiProgramTest, ReportsAMissingScreen) {
   for (const auto* variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) unsetenv(variable);
   const auto none = Bench({"gui"});
   EXPECT_EQ(none.status, 2);

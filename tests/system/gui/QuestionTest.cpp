@@ -56,18 +56,16 @@ TEST_P(QuestionTest, RemovesNothing) {
 TEST_P(QuestionTest, RunsNothingAgain) {
   OpenPump({"--maker", "Acme", "--model", "X2"});
   ChooseElement(1);
-  Drive({Press("runSelected"), Guide(kPlay),
-         Await("a result", [this] { return Cell(1, kResult) == "passed"; }), Guide(kNext), Idle(),
-         Press("run"), AnswerByKey("Acme X2 has results already"), NoQuestion(), Idle()});
+  Drive({Press("runSelected"), Guide(kPlay), Result(1, "passed"), Guide(kNext), Idle(), Press("run"),
+         AnswerByKey("Acme X2 has results already"), NoQuestion(), Idle()});
   EXPECT_EQ(Cell(1, kResult), "passed");
   EXPECT_FALSE(Visible("FTestGuide"));
 }
 
 TEST_P(QuestionTest, StopsNoRun) {
   OpenPump({});
-  Drive({Press("run"), Await("the guide", [] { return Visible("FTestGuide") != nullptr; }),
-         Await("closed", [this] { return !window_->close(); }), AnswerByKey("pump.orvik is being tested"),
-         NoQuestion(), Guide(kPlay), Await("a result", [this] { return Cell(1, kResult) == "passed"; }),
+  Drive({Press("run"), Await("the guide", [] { return Visible("FTestGuide") != nullptr; }), Close(),
+         AnswerByKey("pump.orvik is being tested"), NoQuestion(), Guide(kPlay), Result(1, "passed"),
          Press("stop"), Idle()});
   EXPECT_FALSE(left_);
 }
@@ -75,8 +73,8 @@ TEST_P(QuestionTest, StopsNoRun) {
 TEST_P(QuestionTest, DropsNoChanges) {
   OpenPump({});
   ChooseElement(2);
-  Drive({Press("remove"), Answer("question", "Remove"), Await("closed", [this] { return !window_->close(); }),
-         AnswerByKey("pump.orvik has changes"), NoQuestion()});
+  Drive({Press("remove"), Answer("question", "Remove"), Close(), AnswerByKey("pump.orvik has changes"),
+         NoQuestion()});
   EXPECT_TRUE(Changed());
   EXPECT_FALSE(left_);
 }

@@ -41,7 +41,7 @@ class RunTest : public DesktopTest {
   std::string file_;
 };
 
-TEST_F(RunTest, ANewDocumentIsFilledRunByHandReportedAndSaved) {
+TEST_F(RunTest, CreatesRunsReportsAndArchives) {
   const auto file = Path("new.orvik");
   Drive({Press("new"), TakeFile(file), Press("addTests"),
          In("addTests",
@@ -76,10 +76,9 @@ TEST_F(RunTest, ANewDocumentIsFilledRunByHandReportedAndSaved) {
   EXPECT_EQ(Verdict(), "Incomplete");
 
   ChooseTester("Simulated tester: broken-earth");
-  Drive({Press("run"), Guide(kPlay), Await("a failed test", [this] { return Cell(1, kResult) == "failed"; }),
+  Drive({Press("run"), Guide(kPlay), Result(1, "failed"),
          Await("no verdict while it runs", [this] { return Verdict() == "Running"; }), Guide(kNext),
-         Await("the next guide", [this] { return Cell(1, kResult) == "failed"; }), Guide(kPlay),
-         Await("a passed test", [this] { return Cell(2, kResult) == "passed"; }), Guide(kNext), Idle()});
+         Result(1, "failed"), Guide(kPlay), Result(2, "passed"), Guide(kNext), Idle()});
 
   EXPECT_EQ(Cell(1, kValue), "1850 mOhm");
   EXPECT_THAT(
@@ -109,7 +108,7 @@ TEST_F(RunTest, ANewDocumentIsFilledRunByHandReportedAndSaved) {
          Answer("message", "Close", "added as document 1 (simulated: nothing was measured)")});
 }
 
-TEST_F(RunTest, GuideSaysWhichStandardFails) {
+TEST_F(RunTest, GuideShowsWhichStandardFails) {
   file_ = NewDocument({"410", "910"});
   // The standard whose limits the guide's own list shows is the first: that one holds.
   ASSERT_EQ(Bench({"limit", file_, "--element", "1", "--standard", "A", "--high", "5000"}).status, 0);
@@ -142,22 +141,20 @@ TEST_F(RunTest, GuideSaysWhichStandardFails) {
   EXPECT_EQ(next, "");
 }
 
-TEST_F(RunTest, SoundEquipmentPassesAndTheCommandLineSaysTheSame) {
+TEST_F(RunTest, SoundEquipment_PassesAsOnTheCommandLine) {
   Open({"410"}, "sound-class-1");
-  Drive({Press("run"), Guide(kPlay), Await("a result", [this] { return Cell(1, kResult) == "passed"; }),
-         Guide(kNext), Idle()});
+  Drive({Press("run"), Guide(kPlay), Result(1, "passed"), Guide(kNext), Idle()});
   EXPECT_EQ(Verdict(), "Passed");
   EXPECT_EQ(Show(file_)["outcome"], "passed");
 }
 
-TEST_F(RunTest, WhatWasOnlyRecordedIsToldInTheVerdict) {
+TEST_F(RunTest, VerdictCountsRecordedReadings) {
   // No set has limits for the mains voltage.
   file_ = NewDocument({"210", "410"});
   ASSERT_EQ(Bench({"limit", file_, "--element", "1", "--record-only"}).status, 0);
   window_->Open(file_);
   ChooseTester("Simulated tester: sound-class-1");
-  Drive({Press("run"), Guide(kPlay), Await("a result", [this] { return Cell(1, kResult) == "recorded"; }),
-         Guide(kNext), Guide(kPlay), Await("a result", [this] { return Cell(2, kResult) == "passed"; }),
+  Drive({Press("run"), Guide(kPlay), Result(1, "recorded"), Guide(kNext), Guide(kPlay), Result(2, "passed"),
          Guide(kNext), Idle()});
   EXPECT_EQ(Cell(1, kRemark), "record only: not judged by any limit");
   EXPECT_THAT(window_->findChild<QLabel*>("verdictSentence")->text().toStdString(),
@@ -168,34 +165,32 @@ TEST_F(RunTest, WhatWasOnlyRecordedIsToldInTheVerdict) {
             bench::pdf::ColourOf(bench::report::Standing::kNotApplicable).name().toStdString());
 }
 
-TEST_F(RunTest, StopClosesTheSessionAndResumeGoesOn) {
+TEST_F(RunTest, StopClosesTheSession_ResumeContinues) {
   Open({"410", "910"}, "sound-class-1");
-  Drive({Press("run"), Guide(kPlay), Await("a result", [this] { return Cell(1, kResult) == "passed"; }),
-         Guide(kNext), Guide(kPlay), Reached("STST,910"), Press("stop"), Idle()});
+  Drive({Press("run"), Guide(kPlay), Result(1, "passed"), Guide(kNext), Guide(kPlay), Reached("STST,910"),
+         Press("stop"), Idle()});
   EXPECT_EQ(Sent(file_).back(), "EREM");
   EXPECT_EQ(Verdict(), "Incomplete");
   EXPECT_EQ(Show(file_)["outcome"], "incomplete");
   EXPECT_NE(Cell(2, kResult), "passed");
 
-  Drive({Press("resume"), Guide(kPlay), Await("a result", [this] { return Cell(2, kResult) == "passed"; }),
-         Guide(kNext), Idle()});
+  Drive({Press("resume"), Guide(kPlay), Result(2, "passed"), Guide(kNext), Idle()});
   EXPECT_EQ(Verdict(), "Passed");
   EXPECT_EQ(Show(file_)["outcome"], "passed");
   Drive({Press("resume"), Answer("message", "Close", "Every element has a result")});
 }
 
-TEST_F(RunTest, TheChosenElementAloneIsRunAndResultsAreReplacedOnlyWhenAsked) {
+TEST_F(RunTest, RunsTheSelection_ReplacesOnlyWhenConfirmed) {
   Open({"410", "910"}, "sound-class-1");
   ChooseElement(2);
-  Drive({Press("runSelected"), Guide(kPlay),
-         Await("a result", [this] { return Cell(2, kResult) == "passed"; }), Guide(kNext), Idle()});
+  Drive({Press("runSelected"), Guide(kPlay), Result(2, "passed"), Guide(kNext), Idle()});
   EXPECT_EQ(Cell(1, kResult), "not tested");
   EXPECT_EQ(Verdict(), "Incomplete");
   Drive({Press("run"), Answer("question", "Cancel", "PUMP-7 has results already"), Idle()});
   EXPECT_EQ(Cell(2, kResult), "passed");
 }
 
-TEST_F(RunTest, ADoubtfulReadingIsNeverShownAsPassed) {
+TEST_F(RunTest, DoubtfulReading_IsNotShownAsPassed) {
   Write("faults", "at GRES reply gres,610,0,0.001,0,Ohm\n");
   support::Process tester(KELD_SIM_PATH,
                           {"--link", Path("line"), "--time-scale", "10", "--faults", Path("faults")});
@@ -211,7 +206,7 @@ TEST_F(RunTest, ADoubtfulReadingIsNeverShownAsPassed) {
   EXPECT_EQ(Show(file_)["outcome"], "incomplete");
 }
 
-TEST_F(RunTest, ATesterThatIsNotThereIsNamed) {
+TEST_F(RunTest, MissingTester_IsNamed) {
   Open({"410"}, "sound-class-1");
   const auto before = Contents(file_);
   ChooseTester("/dev/no-such-tester");
@@ -221,19 +216,18 @@ TEST_F(RunTest, ATesterThatIsNotThereIsNamed) {
   EXPECT_FALSE(Changed());
 }
 
-TEST_F(RunTest, ClosingDuringARunAsksAndLeavesTheSessionInOrder) {
+TEST_F(RunTest, ClosingDuringARun_AsksAndClosesTheSession) {
   Open({"410", "910"}, "sound-class-1");
-  Drive({Press("run"), Guide(kPlay), Reached("STST"), Await("closed", [this] { return !window_->close(); }),
+  Drive({Press("run"), Guide(kPlay), Reached("STST"), Close(),
          Answer("question", "Go on with the run", "PUMP-7 is being tested"),
          Await("closed again", [this] { return !window_->close(); }),
-         Answer("question", "Stop and quit", "PUMP-7 is being tested"),
-         Await("left", [this] { return left_; })});
+         Answer("question", "Stop and quit", "PUMP-7 is being tested"), Left()});
   EXPECT_EQ(Sent(file_).back(), "EREM");
   EXPECT_FALSE(window_->LeftOver());
   EXPECT_EQ(Show(file_)["outcome"], "incomplete");
 }
 
-TEST_F(RunTest, ARequestToEndStopsTheRunWithoutAQuestion) {
+TEST_F(RunTest, RequestToEnd_StopsTheRunWithoutAQuestion) {
   Open({"410"}, "sound-class-1");
   Drive({Press("run"), Guide(kPlay), Reached("STST"),
          Await("asked",
@@ -241,12 +235,12 @@ TEST_F(RunTest, ARequestToEndStopsTheRunWithoutAQuestion) {
                  window_->EndByRequest();
                  return true;
                }),
-         Await("left", [this] { return left_; })});
+         Left()});
   EXPECT_EQ(Sent(file_).back(), "EREM");
   EXPECT_TRUE(window_->LeftOver());
 }
 
-TEST_F(RunTest, TheOperatorMayAbortInTheGuide) {
+TEST_F(RunTest, OperatorAbortsInTheGuide) {
   Open({"410", "910"}, "sound-class-1");
   Drive({Press("run"), Guide(kAbort),
          Await("the question of the guide",
@@ -259,8 +253,7 @@ TEST_F(RunTest, TheOperatorMayAbortInTheGuide) {
                }),
          Idle()});
   EXPECT_EQ(Verdict(), "Incomplete");
-  EXPECT_THAT(window_->findChild<QLabel*>("remark")->text().toStdString(),
-              HasSubstr("Ended by the operator"));
+  EXPECT_THAT(Remark(), HasSubstr("Ended by the operator"));
 }
 
 TEST(SimulatedProfiles, AreThoseOfTheSimulator) {

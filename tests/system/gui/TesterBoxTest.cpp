@@ -15,7 +15,7 @@ namespace {
 
 using bench::desktop::TesterBox;
 
-TEST(TesterBoxTest, NobodyTestsOnASimulatedTesterWithoutHavingChosenIt) {
+TEST(TesterBoxTest, SimulatedTester_MustBeSelected) {
   TesterBox box(1.0, nullptr, [] { return std::vector<std::string>{}; });
   EXPECT_THROW(box.Choice(), bench::InputError);
   box.show();
@@ -24,13 +24,13 @@ TEST(TesterBoxTest, NobodyTestsOnASimulatedTesterWithoutHavingChosenIt) {
   EXPECT_THROW(box.Choice(), bench::InputError);
 }
 
-TEST(TesterBoxTest, TheFirstDeviceIsOfferedAtOnce) {
+TEST(TesterBoxTest, OffersTheFirstDevice) {
   const TesterBox box(1.0, nullptr, [] { return std::vector<std::string>{"/dev/ttyUSB0", "/dev/ttyUSB1"}; });
   EXPECT_FALSE(box.Choice().simulated);
   EXPECT_EQ(box.Choice().port, "/dev/ttyUSB0");
 }
 
-TEST(TesterBoxTest, WhatIsTypedIsTakenAsItIs) {
+TEST(TesterBoxTest, AcceptsTypedDevices) {
   TesterBox box(1.0, nullptr, [] { return std::vector<std::string>{"/dev/ttyUSB10"}; });
   box.show();
   QFocusEvent focus(QEvent::FocusIn, Qt::TabFocusReason);
@@ -40,9 +40,9 @@ TEST(TesterBoxTest, WhatIsTypedIsTakenAsItIs) {
   EXPECT_EQ(box.Choice().port, "/dev/ttyUSB1");
 }
 
-TEST(TesterBoxTest, OnlyASimulatedTesterCanBeHurried) { EXPECT_TRUE(TesterBox(20).Choice().simulated); }
+TEST(TesterBoxTest, TimeScale_SelectsASimulatedTester) { EXPECT_TRUE(TesterBox(20).Choice().simulated); }
 
-TEST(TesterBoxTest, TheWheelTakesNoOtherTester) {
+TEST(TesterBoxTest, IgnoresTheMouseWheel) {
   TesterBox box(20);
   const auto before = box.currentText();
   box.show();
@@ -52,7 +52,7 @@ TEST(TesterBoxTest, TheWheelTakesNoOtherTester) {
   EXPECT_EQ(box.currentText(), before);
 }
 
-TEST(TesterBoxTest, TheChoiceStaysWhenTheListIsOpened) {
+TEST(TesterBoxTest, KeepsTheChoice_WhenTheListOpens) {
   TesterBox box(1.0);
   box.setEditText("/dev/ttyUSB7");
   box.show();

@@ -31,7 +31,7 @@ std::unique_ptr<support::Process> Started(std::vector<std::string> words) {
 }  // namespace
 
 Display::Display(QSize size) {
-  // The person's own settings of the window manager have no say.
+  // Ignore the user's settings of the window manager.
   for (const auto* variable : {"HOME", "XDG_RUNTIME_DIR"}) setenv(variable, home_.Path().c_str(), 1);
   for (const auto* variable : {"XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_DATA_HOME"}) unsetenv(variable);
   const auto geometry = std::to_string(size.width()) + "x" + std::to_string(size.height()) + "x24";

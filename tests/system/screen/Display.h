@@ -13,7 +13,7 @@ class QWidget;
 
 namespace screen_test {
 
-/// A display (Xvfb) with a window manager (openbox) on it, and what a person does there, by xdotool. Both end
+/// A display (Xvfb) with a window manager (openbox) on it, and mouse and keys, by xdotool. Both end
 /// with this object. `DISPLAY` names it.
 class Display {
  public:

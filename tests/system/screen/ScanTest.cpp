@@ -48,7 +48,7 @@ class ScanTest : public ScreenTest {
   std::string Tester() { return window_->findChild<QComboBox*>("tester")->currentText().toStdString(); }
 };
 
-TEST_F(ScanTest, GoesIntoTheEmptyAssetFieldAndOn) {
+TEST_F(ScanTest, FillsTheEmptyAssetField) {
   Open("");
   Scan("PUMP-0815");
   EXPECT_EQ(TextOf("asset"), "PUMP-0815");
@@ -60,7 +60,7 @@ TEST_F(ScanTest, GoesIntoTheEmptyAssetFieldAndOn) {
   EXPECT_EQ(Tester(), "/dev/ttyS7");
 }
 
-TEST_F(ScanTest, ChangesNothingWhenTheAssetIsKnown) {
+TEST_F(ScanTest, ChangesNothing_WithAKnownAsset) {
   Open("PUMP-7");
   Scan("PUMP-0815");
   EXPECT_EQ(TextOf("asset"), "PUMP-7");
@@ -68,14 +68,14 @@ TEST_F(ScanTest, ChangesNothingWhenTheAssetIsKnown) {
   EXPECT_FALSE(Changed());
 }
 
-TEST_F(ScanTest, ChangesNothingWithoutADocument) {
+TEST_F(ScanTest, ChangesNothing_WithoutADocument) {
   const auto tester = Tester();
   Drive({OnTop("main"), Await("active", [this] { return window_->isActiveWindow(); })});
   Scan("PUMP-0815");
   EXPECT_EQ(Tester(), tester);
 }
 
-TEST_F(ScanTest, LeavesATesterThatWasChosenBefore) {
+TEST_F(ScanTest, KeepsTheSelectedTester) {
   Open("PUMP-7");
   auto* box = window_->findChild<QComboBox*>("tester");
   Drive({Do([box] {

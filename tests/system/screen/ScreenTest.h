@@ -33,13 +33,6 @@ class ScreenTest : private OnDisplay, public desktop_test::DesktopTest {
  protected:
   explicit ScreenTest(QSize size = kSmallScreen) : OnDisplay(size) {}
 
-  /// Does something, or looks at something; what it leads to is awaited by the next step.
-  Step Do(std::function<void()> work) {
-    return Await("do", [work] {
-      work();
-      return true;
-    });
-  }
   /// The window of that name is there and on top of all others.
   Step OnTop(const std::string& name) {
     return Await(name + " on top", [name] {

@@ -37,14 +37,14 @@ class SizeTest : private InLanguage, public ScreenTest, public testing::WithPara
 
   QWidget& Inner(const char* name) { return *window_->findChild<QWidget*>(name); }
   static QRect OnScreen(const QWidget& widget) { return {widget.mapToGlobal(QPoint()), widget.size()}; }
-  /// The colour that is really there, below whatever covers it.
+  /// The colour on the screen.
   static QColor ColourAt(QPoint place) {
     return QColor(
         QGuiApplication::primaryScreen()->grabWindow(0, place.x(), place.y(), 1, 1).toImage().pixel(0, 0));
   }
 };
 
-TEST_P(SizeTest, VerdictIsSeenWhole) {
+TEST_P(SizeTest, VerdictFits) {
   window_->Open(NewDocument({"410", "910", "610", "210"}));
   const auto& verdict = Inner("verdict");
   const QColor colour = bench::desktop::ColourName(bench::report::Standing::kOpen);
@@ -64,7 +64,7 @@ TEST_P(SizeTest, VerdictIsSeenWhole) {
   EXPECT_GE(sentence.height(), sentence.heightForWidth(sentence.width()));
 }
 
-TEST_P(SizeTest, LongVerdictIsSeenWhole) {
+TEST_P(SizeTest, LongVerdictFits) {
   // As a document with many doubts and failures has it.
   window_->Open(NewDocument({"410"}));
   auto& sentence = static_cast<QLabel&>(Inner("verdictSentence"));
@@ -76,7 +76,7 @@ TEST_P(SizeTest, LongVerdictIsSeenWhole) {
   EXPECT_TRUE(QGuiApplication::primaryScreen()->geometry().contains(OnScreen(verdict)));
 }
 
-TEST_P(SizeTest, GuideFitsOnTheScreen) {
+TEST_P(SizeTest, GuideFits) {
   DriveRun({"410", "910"}, "broken-earth",
            {Guide(kPlay), Await("a failed reading", [this] { return Cell(1, kValue) == "1850 mOhm"; }),
             Await("the whole guide on the screen", [] {

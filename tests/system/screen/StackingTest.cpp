@@ -1,4 +1,4 @@
-// What waits for the operator is on top, whatever is clicked.
+// The window that waits for the operator is on top after every click.
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
@@ -37,14 +37,14 @@ class StackingTest : public ScreenTest {
   QTreeWidget& Tree() { return *window_->findChild<QTreeWidget*>("tree"); }
 };
 
-TEST_F(StackingTest, ClickIntoWindowLeavesGuideAbove) {
+TEST_F(StackingTest, ClickIntoWindow_KeepsTheGuideAbove) {
   DriveRun({"410", "910"}, kSound, {ClickRow(2), Chosen(2), Do([this] {
                                       EXPECT_EQ(Display::OwnerOf(GuideWindow()), window_->winId());
                                       EXPECT_TRUE(Display::OnTop(GuideWindow()));
                                     })});
 }
 
-TEST_F(StackingTest, NextGuideStaysAboveToo) {
+TEST_F(StackingTest, NextGuideStaysAbove) {
   QWidget* first = nullptr;
   DriveRun(
       {"410", "910"}, kSound,
@@ -55,7 +55,7 @@ TEST_F(StackingTest, NextGuideStaysAboveToo) {
 }
 
 // openbox minimises a window with its owner, whichever of both is asked for.
-TEST_F(StackingTest, GuideAndWindowAreMinimisedAndRestoredTogether) {
+TEST_F(StackingTest, MinimisesGuideAndWindowTogether) {
   const auto minimised = [this](const std::string& what, bool are) {
     return Await(what,
                  [this, are] { return window_->isMinimized() == are && GuideWindow().isMinimized() == are; });
@@ -73,7 +73,7 @@ TEST_F(StackingTest, GuideAndWindowAreMinimisedAndRestoredTogether) {
             minimised("restored again", false), OnTop("FTestGuide")});
 }
 
-TEST_F(StackingTest, PromptIsAboveTheGuideAndBlocksIt) {
+TEST_F(StackingTest, PromptIsAboveTheGuide_AndBlocksIt) {
   QWidget* first = nullptr;
   DriveRun({"410", "910"}, kSound,
            {Guide(kAbort), OnTop("FYesNoPrompt"), Do([&] {
@@ -87,7 +87,7 @@ TEST_F(StackingTest, PromptIsAboveTheGuideAndBlocksIt) {
             Do([&] { EXPECT_EQ(&GuideWindow(), first) << "Next was clicked while the prompt waited"; })});
 }
 
-TEST_F(StackingTest, QuestionIsAboveTheGuideAndReturnEndsNothing) {
+TEST_F(StackingTest, QuestionIsAboveTheGuide_ReturnEndsNothing) {
   DriveRun({"410"}, kSound,
            {Do([this] { window_->close(); }), OnTop("question"), Do([] {
               const auto& question = *qobject_cast<QMessageBox*>(Visible("question"));
