@@ -11,13 +11,14 @@
 
 namespace conformance {
 
-/// Whether a call goes through, or is refused with a `HostError` that says why. Nothing else may cross.
+/// Whether a call succeeds, or raises a `HostError` with a description.
 template <class Call>
 testing::AssertionResult OnlyHostErrorCrosses(Call&& call) {
   try {
     std::forward<Call>(call)();
   } catch (const orvik::HostError& error) {
-    if (error.Description().empty()) return testing::AssertionFailure() << "a HostError without a word";
+    if (error.Description().empty())
+      return testing::AssertionFailure() << "a HostError without a description";
   } catch (const std::exception& error) {
     return testing::AssertionFailure() << "not a HostError: " << error.what();
   } catch (...) {
@@ -26,7 +27,7 @@ testing::AssertionResult OnlyHostErrorCrosses(Call&& call) {
   return testing::AssertionSuccess();
 }
 
-/// Number of the `HostError` that the call throws; 0 when it goes through. Another exception fails the test.
+/// Number of the `HostError` that the call throws; 0 if it succeeds. Any other exception fails the test.
 template <class Call>
 std::int32_t ErrorNumberOf(Call&& call) {
   try {

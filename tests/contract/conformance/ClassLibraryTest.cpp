@@ -24,7 +24,7 @@ TEST_P(ClassLibrary, NamesEachClassOnceWithItsPurpose) {
   for (std::int32_t index = 1; index <= classes.Count(); ++index) {
     const auto id = classes.ClassIdentifier(index);
     EXPECT_NE(id.find('.'), std::string::npos) << id << " has no prefix of its own";
-    EXPECT_TRUE(seen.insert(id).second) << id << " stands twice in the table";
+    EXPECT_TRUE(seen.insert(id).second) << id << " occurs twice in the table";
     EXPECT_FALSE(classes.Purpose(index).empty()) << id;
   }
 }

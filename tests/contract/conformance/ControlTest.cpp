@@ -22,9 +22,9 @@ class Controls : public EveryPlugIn {
     return identifiers;
   }
 
-  /// Asks a control everything that a host may ask, with a word for each call.
-  void AskEverything(orvik::ICustomControl& control, const std::shared_ptr<orvik::IObject>& stranger,
-                     const std::string& when) {
+  /// Calls every operation of a control.
+  void CallEverything(orvik::ICustomControl& control, const std::shared_ptr<orvik::IObject>& stranger,
+                      const std::string& when) {
     SCOPED_TRACE(when);
     EXPECT_TRUE(OnlyHostErrorCrosses([&] { control.CallBack(); }));
     EXPECT_TRUE(OnlyHostErrorCrosses([&] { control.SetCallBack(nullptr); }));
@@ -62,7 +62,7 @@ TEST_P(Controls, ArePlacedShownResizedAndReleased) {
     site.reset();
     form.reset();
     library_.Application().ProcessMessages();
-    EXPECT_TRUE(watched.expired()) << "somebody still holds the control";
+    EXPECT_TRUE(watched.expired()) << "the control is still referenced";
   }
 }
 
@@ -72,17 +72,17 @@ TEST_P(Controls, WorkBeforeDuringAndAfterPlacement) {
     SCOPED_TRACE(id);
     const auto alone = library_.New<orvik::ICustomControl>(id);
     if (!alone) continue;
-    AskEverything(*alone, stranger, "never placed");
+    CallEverything(*alone, stranger, "never placed");
     std::shared_ptr<orvik::ICustomControl> control;
     {
       const auto form = library_.Application().CreateForm("FControls");
       form->Show();
       control = FindObject<orvik::ICustomControl>(*form, (form->AddControl(id, "isc"), "isc"));
-      AskEverything(*control, stranger, "placed");
+      CallEverything(*control, stranger, "placed");
       form->Unload();
-      AskEverything(*control, stranger, "form unloaded");
+      CallEverything(*control, stranger, "form unloaded");
     }
-    AskEverything(*control, stranger, "form gone");
+    CallEverything(*control, stranger, "form gone");
   }
 }
 

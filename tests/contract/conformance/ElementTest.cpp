@@ -138,7 +138,7 @@ TEST_P(MalformedNode, RaisesOnlyHostErrors) {
   EXPECT_TRUE(OnlyHostErrorCrosses([&] { element->Load(node, nullptr); }));
   EXPECT_TRUE(OnlyHostErrorCrosses([&] { element->Clone(); }));
   EXPECT_TRUE(OnlyHostErrorCrosses([&] { element->Save(node); }));
-  // Whatever was read, it never counts as a pass that nobody gave.
+  // A malformed node never gives a pass.
   const auto result = element->Result();
   EXPECT_NE(result ? result->Status() : 0, 1);
 }
@@ -181,7 +181,7 @@ TEST_F(KeldPlugInLoaded, ElementsRaiseNoErrors) {
     EXPECT_NO_THROW(element->PrintReport(nullptr, nullptr));
     EXPECT_NO_THROW(element->Perform(nullptr));
     EXPECT_TRUE(element->QuerySetParent(nullptr));
-    EXPECT_TRUE(element->QuerySetParent(element)) << "the plug-in answers true for any candidate";
+    EXPECT_TRUE(element->QuerySetParent(element)) << "the plug-in returns true for any candidate";
   }
 }
 

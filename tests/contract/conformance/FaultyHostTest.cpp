@@ -93,7 +93,7 @@ TEST_F(FaultyHost, WithoutThePortOrTheReportIsFoundOut) {
   EXPECT_FALSE(checker_->Check("serial port", {"no such device", nullptr, nullptr}).empty());
   EXPECT_FALSE(checker_->Check("report").empty());
   library_.Line().AnswerBy([](const std::string&) {});
-  EXPECT_FALSE(checker_->Check("serial port", {"CHECK", nullptr, nullptr}).empty()) << "nobody answers";
+  EXPECT_FALSE(checker_->Check("serial port", {"CHECK", nullptr, nullptr}).empty()) << "no answer";
 }
 
 }  // namespace

@@ -73,7 +73,7 @@ TEST_P(PlugIn, HasPicturesOrNoneForAnyTestAndStyle) {
     if (!picture) return;
     const auto bitmap = picture->Bitmap();
     ASSERT_GT(bitmap.size(), 26U) << testId;
-    EXPECT_EQ(std::memcmp(bitmap.data(), "BM", 2), 0) << testId << " is no bitmap file";
+    EXPECT_EQ(std::memcmp(bitmap.data(), "BM", 2), 0) << testId << " is not a bitmap file";
     std::int32_t size[2];
     std::memcpy(size, bitmap.data() + 18, sizeof size);
     EXPECT_EQ(picture->Width(), size[0]) << testId;

@@ -11,7 +11,7 @@
 
 namespace conformance {
 
-/// A run controller that lets everything start, and writes down what it is told.
+/// A run controller that allows every start, and records its calls.
 class RunRecord final : public orvik::IRunController {
  public:
   bool mayStart = true;

@@ -7,12 +7,12 @@
 
 namespace conformance {
 
-/// A plug-in library under test, and what is known of it beforehand.
+/// A plug-in library under test, and the facts that its checks need.
 struct Subject {
   std::string name;
   std::string path;
   std::string plugInId;
-  /// What stands in for the settings value "Configuration"; none for a plug-in that has no settings.
+  /// Replaces the settings value "Configuration"; none for a plug-in without settings.
   std::optional<std::string> catalogue;
   /// A test of its catalogue that can be run alone.
   std::int32_t testId = 0;

@@ -1,4 +1,4 @@
-// What the link sends, when, and what it makes of the replies.
+// The commands of the link, their times, and the states that the replies give.
 #include <gtest/gtest.h>
 
 #include "OrvikTypeLib/HostError.h"

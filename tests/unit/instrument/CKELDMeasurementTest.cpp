@@ -103,7 +103,7 @@ TEST_F(CKELDMeasurementTest, ValuesAddUp) {
       {INT32_MAX, 1, 2147483648.0},
       {INT32_MIN, -1, -2147483649.0},
       {-5, 3, -2},
-      // A text that is no number cannot be added: the value stays.
+      // A text that is not a number cannot be added.
       {1, std::string("x"), 1},
       {std::string("1/2"), 3, std::string("1/2")},
       {1, std::vector<std::string>{"2"}, 1},

@@ -1,4 +1,4 @@
-// What the tester's error replies are made to mean.
+// The state that each error reply of the tester gives.
 #include <gtest/gtest.h>
 
 #include "instrument/ErrorReply.h"
@@ -28,7 +28,7 @@ const Case kCases[] = {
     {"ERRM,0", "0", "0"},
     {"ERRM,1001", "0", "0"},
     {"ERRM,-1003", "0", "0"},
-    // Converted to 16 bits: rounded, and no number at all when it does not fit or is no number.
+    // Converted to 16 bits: rounded, and 0 if it does not fit or is not a number.
     {"ERRM,01003", "6002", "8"},
     {"ERRM, 1003 ", "6002", "8"},
     {"ERRM,1003.4", "6002", "8"},

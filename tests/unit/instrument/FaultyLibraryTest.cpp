@@ -1,4 +1,4 @@
-// A communication library that fails: call by call, once or for ever.
+// A communication library that fails: call by call, once or permanently.
 #include <gtest/gtest.h>
 
 #include <set>

@@ -1,4 +1,4 @@
-// What the link keeps of a reply.
+// The data of a reply that the link stores.
 #include <gtest/gtest.h>
 
 #include "OrvikTypeLib/Conversions.h"

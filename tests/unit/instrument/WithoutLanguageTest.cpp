@@ -25,7 +25,7 @@ class WithoutLanguageTest : public testing::TestWithParam<LanguageFault> {
     orvik::Required(orvik::As<platform::IButton>(form_->Find(button))).Click();
   }
   std::string Caption(const char* control) { return orvik::Required(form_->Find(control)).Caption(); }
-  /// Shows the window modally; the operator acts at once.
+  /// Shows the window modally; the operator acts immediately.
   void ShowModal(const std::function<void()>& act) {
     bench_.Application().Post(act);
     dialog_->ShowModal(nullptr);

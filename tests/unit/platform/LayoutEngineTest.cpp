@@ -201,7 +201,7 @@ TEST(Layout, RefusesNegativeTracksAndMissingSizes) {
   ExpectRefused(grid, {{1, 1}, {1, 1}}, "negative");
 }
 
-/// Random grids: whatever is asked of them, controls of different cells never overlap, nothing is smaller
+/// Random grids: controls of different cells never overlap, nothing is smaller
 /// than it asked for, and a panel of the natural size or more holds everything.
 class RandomGrids : public testing::TestWithParam<unsigned> {
  protected:

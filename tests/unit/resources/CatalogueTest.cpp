@@ -91,7 +91,7 @@ TEST_F(CatalogueTest, HasEachIdentifierOnce) {
   std::set<int> seen;
   ForEachEntry([&](pugi::xml_node entry, int id) {
     EXPECT_EQ(entry.attribute("ID").value(), std::to_string(id)) << "not a plain decimal number";
-    EXPECT_TRUE(seen.insert(id).second) << id << " stands twice";
+    EXPECT_TRUE(seen.insert(id).second) << id << " occurs twice";
   });
   EXPECT_EQ(seen, ExpectedIdentifiers());
 }
@@ -201,7 +201,7 @@ TEST_F(CatalogueTest, TestsComeInTheOrderOfTesting) {
 }
 
 TEST_F(CatalogueTest, NameAndParameterNameTheSameCondition) {
-  // A wrong label would have the technician judge by a limit of another condition.
+  // With a wrong label the technician would use the limit of another condition.
   ForEachEntry([](pugi::xml_node entry, int id) {
     const int family = Family(id);
     if (id % 100 == 0 || family < 3 || family == 7) return;

@@ -7,16 +7,16 @@
 #include "results/CKELDLimitData.h"
 #include "tests/unit/results/Tools.h"
 
-// What the limits ask of the host's objects, and what they do with the answers.
+// The calls of the limits to the host's objects, and what they do with the results.
 namespace {
 
 using keld::CKELDLimitData;
 using Names = std::vector<std::string>;
 
-/// Stands in for a host's standard: fails what it is told to fail, and writes down what it is asked.
-class AskedStandard final : public virtual orvik::IStandard {
+/// A host's standard with a fixed judgement; records its calls.
+class RecordingStandard final : public virtual orvik::IStandard {
  public:
-  explicit AskedStandard(std::string name, std::int32_t verdict = 2)
+  explicit RecordingStandard(std::string name, std::int32_t verdict = 2)
       : name_(std::move(name)), verdict_(verdict) {}
 
   mutable std::vector<float> values;
@@ -43,8 +43,8 @@ class AskedStandard final : public virtual orvik::IStandard {
   const std::int32_t verdict_;
 };
 
-/// Stands in for the host's collection: takes any standard, and writes down what it is handed.
-class AskedCollection final : public virtual orvik::IStandardColl {
+/// The host's collection; accepts any standard and records its calls.
+class RecordingCollection final : public virtual orvik::IStandardColl {
  public:
   std::vector<std::shared_ptr<orvik::IStandard>> standards;
   std::shared_ptr<orvik::IObject> loadedFrom, loadedIn;
@@ -86,7 +86,7 @@ class AskedCollection final : public virtual orvik::IStandardColl {
   }
 };
 
-/// Stands in for the host's limit view, to hear the four values.
+/// The host's limit view; records the values of its set-up.
 class LimitView final : public virtual orvik::ILimitView, public orvik::platform::IUserControl {
  public:
   Names told;
@@ -119,19 +119,19 @@ class LimitView final : public virtual orvik::ILimitView, public orvik::platform
 class CKELDLimitDataHostTest : public results::ResultsTest {
  protected:
   /// Limits with these standards, in collections of their own kind.
-  std::shared_ptr<CKELDLimitData> Judging(const std::vector<std::shared_ptr<AskedStandard>>& standards) {
+  std::shared_ptr<CKELDLimitData> Judging(const std::vector<std::shared_ptr<RecordingStandard>>& standards) {
     host_.Host().Register(orvik::HostClasses::kStandardColl,
-                          [] { return std::make_shared<AskedCollection>(); });
+                          [] { return std::make_shared<RecordingCollection>(); });
     auto limits = CKELDLimitData::Create();
     for (const auto& standard : standards) limits->AddStandard(standard);
     return limits;
   }
 
-  /// Limits whose collection stands in for the host's.
-  std::shared_ptr<CKELDLimitData> Asking(const std::shared_ptr<AskedCollection>& collection) {
+  /// Limits with this collection.
+  std::shared_ptr<CKELDLimitData> Asking(const std::shared_ptr<RecordingCollection>& collection) {
     host_.Host().Register(orvik::HostClasses::kStandardColl, [collection] { return collection; });
     auto limits = CKELDLimitData::Create();
-    limits->AddStandard(std::make_shared<AskedStandard>("A"));
+    limits->AddStandard(std::make_shared<RecordingStandard>("A"));
     return limits;
   }
 
@@ -145,7 +145,7 @@ class CKELDLimitDataHostTest : public results::ResultsTest {
 };
 
 TEST_F(CKELDLimitDataHostTest, JudgesByLimitKeyWithoutANominalValue) {
-  const auto standard = std::make_shared<AskedStandard>("A");
+  const auto standard = std::make_shared<RecordingStandard>("A");
   const auto limits = Judging({standard});
   EXPECT_EQ(Failed(*limits, 0.1), Names{"A"});
   EXPECT_EQ(standard->values, std::vector<float>{0.1F});
@@ -154,15 +154,15 @@ TEST_F(CKELDLimitDataHostTest, JudgesByLimitKeyWithoutANominalValue) {
 }
 
 TEST_F(CKELDLimitDataHostTest, OnlyLimitExceededMeansFailed) {
-  std::vector<std::shared_ptr<AskedStandard>> standards;
+  std::vector<std::shared_ptr<RecordingStandard>> standards;
   for (const std::int32_t verdict : {-1, 0, 1, 2, 3})
-    standards.push_back(std::make_shared<AskedStandard>("Verdict " + std::to_string(verdict), verdict));
+    standards.push_back(std::make_shared<RecordingStandard>("Verdict " + std::to_string(verdict), verdict));
   const auto limits = Judging(standards);
   EXPECT_EQ(Failed(*limits, 1.0), Names{"Verdict 2"});
 }
 
 TEST_F(CKELDLimitDataHostTest, LoadPassesNodeAndContext) {
-  const auto collection = std::make_shared<AskedCollection>();
+  const auto collection = std::make_shared<RecordingCollection>();
   const auto limits = Asking(collection);
   const auto node = Node();
   const auto context = Test(1);
@@ -173,7 +173,7 @@ TEST_F(CKELDLimitDataHostTest, LoadPassesNodeAndContext) {
 }
 
 TEST_F(CKELDLimitDataHostTest, SaveReturnsTheCollectionsNode) {
-  const auto collection = std::make_shared<AskedCollection>();
+  const auto collection = std::make_shared<RecordingCollection>();
   const auto limits = Asking(collection);
   const auto parent = Node();
   EXPECT_FALSE(limits->Save(parent)) << "a collection that writes no node leaves none to name";
@@ -181,7 +181,7 @@ TEST_F(CKELDLimitDataHostTest, SaveReturnsTheCollectionsNode) {
 }
 
 TEST_F(CKELDLimitDataHostTest, PrintPassesReportElementAndHeader) {
-  const auto collection = std::make_shared<AskedCollection>();
+  const auto collection = std::make_shared<RecordingCollection>();
   const auto limits = Asking(collection);
   const auto report = std::make_shared<recorders::Report>();
   const auto element = Test(1);

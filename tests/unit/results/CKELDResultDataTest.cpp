@@ -127,7 +127,7 @@ TEST_F(CKELDResultDataTest, ServiceRecordIsMadeFromInformationCodeAndValue) {
   result->BuildServiceRecord(element);
   EXPECT_EQ(result->ServiceRecord(), record);
   EXPECT_EQ(record->about, element->Information());
-  EXPECT_EQ(record->told, (std::vector<std::string>{"F", "/5.3"}));
+  EXPECT_EQ(record->given, (std::vector<std::string>{"F", "/5.3"}));
 }
 
 // --- reset ---

@@ -11,8 +11,7 @@
 
 namespace results {
 
-/// A container whose extender has the properties that a test gives it, and no others; it writes down which
-/// ones it is asked for.
+/// A container with exactly the extender properties that a test sets; records the names that are read.
 class ContainerProbe final : public orvik::platform::IContainerSite {
  public:
   explicit ContainerProbe(std::shared_ptr<orvik::platform::IPanel> panel) : panel_(std::move(panel)) {}

@@ -11,11 +11,11 @@
 
 namespace results {
 
-/// Stands in for the host's service record, to hear what it is given.
+/// A host's service record that records its calls.
 class ServiceRecordProbe final : public virtual orvik::IServiceRecord {
  public:
   std::shared_ptr<orvik::IInformationRecord> about;
-  std::vector<std::string> told;
+  std::vector<std::string> given;
   std::shared_ptr<orvik::IXmlNode> loadedFrom;
   std::shared_ptr<orvik::IObject> loadedIn;
   /// Where it saves itself; empty: below the parent it is given.
@@ -25,11 +25,11 @@ class ServiceRecordProbe final : public virtual orvik::IServiceRecord {
   void IServiceRecord_Initialize(std::shared_ptr<orvik::IInformationRecord> information,
                                  const std::string& code, const std::string& value) override {
     about = std::move(information);
-    told = {code, value};
+    given = {code, value};
   }
   std::string IServiceRecord_Name() const override { return {}; }
-  std::string IServiceRecord_Code() const override { return told.empty() ? "" : told[0]; }
-  std::string IServiceRecord_Value() const override { return told.empty() ? "" : told[1]; }
+  std::string IServiceRecord_Code() const override { return given.empty() ? "" : given[0]; }
+  std::string IServiceRecord_Value() const override { return given.empty() ? "" : given[1]; }
   void IServiceRecord_Load(std::shared_ptr<orvik::IXmlNode> node,
                            std::shared_ptr<orvik::IObject> context) override {
     loadedFrom = std::move(node);

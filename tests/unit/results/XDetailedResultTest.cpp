@@ -173,7 +173,7 @@ TEST_P(ResultsWithoutLanguageTest, DetailedResultIsShownAndClosed) {
   EXPECT_TRUE(host_.Application().Forms().empty());
 }
 
-// Limits pass the host's errors on, to the letter; nothing must stay behind.
+// Limits propagate the host's errors unchanged, and no window may remain.
 TEST_P(ResultsWithoutLanguageTest, LimitDialogFailsWithoutLeavingAWindow) {
   const auto element = Test(12);
   EXPECT_ANY_THROW(element->Limits()->CreateDialog());

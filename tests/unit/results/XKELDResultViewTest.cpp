@@ -11,7 +11,7 @@ namespace {
 using orvik::platform::Alignment;
 using Texts = std::vector<std::string>;
 
-/// A measurement that says of itself what no instrument's does.
+/// A measurement with another key and format than an instrument's.
 class OtherMeasurement final : public virtual orvik::IMeasurement {
  public:
   std::string key = "NO LIMIT KEY";
@@ -169,7 +169,7 @@ TEST_F(XKELDResultViewTest, ResultIsScrolledIntoViewAndPainted) {
     view_->ShowResult(Measured(id, 5.0));
     EXPECT_EQ(list_->RefreshCount(), painted + 1);
   }
-  // The topmost row that is shown, told by a click on it.
+  // The topmost visible row, found by a click on it.
   const auto topRow = [&] {
     list_->ClickAt({1, 0, 100, 300});
     return list_->SelectedRow();

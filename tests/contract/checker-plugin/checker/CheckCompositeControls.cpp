@@ -64,7 +64,7 @@ void Toolbar(Findings& findings, IForm& form) {
   bar->SetToolTip(101, "tip");
   bar->SetToolTip(4711, "tip");
   listener.reset();
-  bar->Click(101);  // nobody listens any more
+  bar->Click(101);  // the listener is gone
 }
 
 void ContentPane(Findings& findings, IForm& form) {
@@ -82,7 +82,7 @@ void ContentPane(Findings& findings, IForm& form) {
   findings.Expect(!pane->Tab("tab:no"), "a tab that could not be made is not there");
   const std::shared_ptr<orvik::ITestElement> element = CInspection::Create();
   pane->SetTestElement(element);
-  findings.Expect(pane->TestElement() == element, "the pane's element is had back");
+  findings.Expect(pane->TestElement() == element, "the pane returns its element");
   pane->Refresh();
   pane->SetTestElement(nullptr);
   findings.Expect(!pane->TestElement(), "the pane's element can be taken away");
@@ -98,7 +98,7 @@ void ProgressBar(Findings& findings, IForm& form) {
   bar->SetValue(-99);
   findings.Equal(0, bar->Value(), "progress before the beginning");
   for (const std::int32_t end : {0, -1, 5})
-    findings.Refused("a range that is none", [&] { bar->SetRange(5, end); });
+    findings.Refused("an invalid range", [&] { bar->SetRange(5, end); });
   bar->SetValue(7);
   findings.Equal(7, bar->Value(), "progress after refused ranges");
 }

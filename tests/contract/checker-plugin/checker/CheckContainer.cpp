@@ -97,7 +97,8 @@ void Removing(Findings& findings) {
   container->Remove(second);
   container->Remove(nullptr);
   container->Remove(NewElement(1));
-  findings.Equal("1 4 ", Order(*container), "order after removing, and after removing strangers");
+  findings.Equal("1 4 ", Order(*container),
+                 "order after removing, and after removing elements that are not children");
 }
 
 void Circles(Findings& findings) {

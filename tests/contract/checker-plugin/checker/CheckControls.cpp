@@ -22,7 +22,7 @@ void Common(Findings& findings, IForm& form) {
   findings.Equal(4, static_cast<std::int64_t>(form.Controls().size()), "controls of the form");
   findings.Equal("fra", form.Controls()[1]->Name(), "second control in the order of adding");
   findings.Expect(form.Find("cmd") == button && !form.Find("CMD") && !form.Find(""),
-                  "names are matched to the letter");
+                  "names are case-sensitive");
   findings.Refused("a second control of a name", [&] { form.AddLabel("cmd"); });
   findings.Equal(4, static_cast<std::int64_t>(form.Controls().size()), "controls after a refused one");
   const std::set<orvik::platform::WindowHandle> handles{form.Handle(), button->Handle(),
@@ -47,7 +47,7 @@ void Common(Findings& findings, IForm& form) {
   findings.Expect(button->BackColor() == orvik::platform::kRed, "a background colour is kept");
   button->SetBounds({100, 200, 1500, 400});
   findings.Expect(button->Bounds() == orvik::platform::Rect{100, 200, 1500, 400},
-                  "a control that no layout places stands where it is put");
+                  "a control without a layout keeps its place");
   button->SetFocus();
   findings.Expect(button->HasFocus(), "a button takes the focus");
   const int before = button->RefreshCount();
@@ -96,7 +96,7 @@ void ComboBoxes(Findings& findings, IForm& form) {
   findings.Expect(box->Editable(), "a new box takes any text");
   box->TypeOver("three");
   findings.Equal("three", box->Text(), "text after typing over");
-  findings.Equal(-1, box->SelectedIndex(), "selection by a text that is no entry");
+  findings.Equal(-1, box->SelectedIndex(), "selection by a text that is not an entry");
   box->SetText("two");
   findings.Equal(1, box->SelectedIndex(), "selection by the text of an entry");
   box->SetEditable(false);
@@ -178,7 +178,7 @@ void Toolbars(Findings& findings, IForm& form) {
   bar->EnableCommand(900, true);
   bar->ShowCommand(900, false);
   bar->Click(900);
-  findings.Expect(!bar->CommandVisible(900) && bar->CommandVisible(501), "a hidden command is told apart");
+  findings.Expect(!bar->CommandVisible(900) && bar->CommandVisible(501), "a command can be hidden");
   findings.Expect(bar->Commands() == std::vector<int>{501, 900}, "commands keep their order");
   bar->SetCommandToolTip(501, "tip");
   bar->SetCommandToolTip(4711, "tip");

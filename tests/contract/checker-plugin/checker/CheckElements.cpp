@@ -33,7 +33,7 @@ std::shared_ptr<orvik::IXmlNode> NewRoot() {
 void Identity(Findings& findings) {
   const auto element = NewElement();
   findings.Equal(orvik::HostClasses::kTestElement, element->ClassID(), "class of an element");
-  findings.Expect(!orvik::As<orvik::ITestContainer>(element), "an element is no container");
+  findings.Expect(!orvik::As<orvik::ITestContainer>(element), "an element is not a container");
   element->Initialize(names::kPlugInId, 7, 10);
   findings.Equal(7, element->ID(), "identifier");
   findings.Equal(10, element->TestID(), "test identifier");
@@ -73,23 +73,23 @@ void Parts(Findings& findings) {
                   "a new element has no configuration, limits, result and parent");
   const std::shared_ptr<orvik::IResultData> result = CInspectionResult::Create();
   element->SetResult(result);
-  findings.Expect(element->Result() == result, "a result that was set is had back");
+  findings.Expect(element->Result() == result, "a result that was set is returned");
   element->SetResult(nullptr);
   findings.Expect(!element->Result(), "an empty result removes it");
   const std::shared_ptr<orvik::ILimitData> limits = CCheckLimits::Create();
   element->SetLimits(limits);
-  findings.Expect(element->Limits() == limits, "limits that were set are had back");
+  findings.Expect(element->Limits() == limits, "limits that were set are returned");
   element->SetLimits(nullptr);
   findings.Expect(!element->Limits(), "empty limits remove them");
   const std::shared_ptr<orvik::IConfigData> settings = CCheckSettings::Create();
   element->SetConfiguration(settings);
-  findings.Expect(element->Configuration() == settings, "settings that were set are had back");
+  findings.Expect(element->Configuration() == settings, "settings that were set are returned");
   element->SetConfiguration(nullptr);
   findings.Expect(!element->Configuration(), "empty settings remove them");
 
   std::shared_ptr<orvik::ITestElement> parent = NewElement();
   element->SetParent(parent);
-  findings.Expect(element->Parent() == parent, "a parent that was set is had back");
+  findings.Expect(element->Parent() == parent, "a parent that was set is returned");
   parent.reset();
   findings.Expect(!element->Parent(), "an element does not keep its parent alive");
   element->Terminate();
@@ -157,7 +157,7 @@ void Clones(Findings& findings) {
 void Storage(Findings& findings) {
   const auto root = NewRoot();
   const auto node = DecidedInspection()->Save(root);
-  if (!node) return findings.Expect(false, "saving answers the node");
+  if (!node) return findings.Expect(false, "saving returns the node");
   findings.Equal("TestElement", node->Name(), "node of a saved element");
   findings.Equal(1, root->ChildCount(), "nodes added by saving");
   const std::shared_ptr<orvik::ITestElement> loaded = CInspection::Create();

@@ -6,7 +6,7 @@
 
 namespace check {
 
-// What was written is durable, but no plug-in can read it back: whoever runs the check looks at the log.
+// A plug-in cannot read the log; the caller of the check inspects it.
 void CheckErrorLog(Findings& findings, const HostParts&) {
   const auto log = NewHostObject<orvik::IErrorLog>(orvik::HostClasses::kErrorLog);
   findings.Try("an entry without values", [&] {

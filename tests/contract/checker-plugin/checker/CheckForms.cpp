@@ -140,7 +140,7 @@ void Lifetime(Findings& findings) {
   auto form = NewForm("FLifetime");
   const std::weak_ptr<orvik::platform::IForm> watched = form;
   auto button = form->AddButton("cmd");
-  // The handler lets go of the very form whose control raises the event.
+  // The handler releases the form whose control raises the event.
   const auto onClick = button->Clicked().Subscribe([&] {
     form->Unload();
     form.reset();
@@ -148,9 +148,9 @@ void Lifetime(Findings& findings) {
   form->Show();
   button->Click();
   button.reset();
-  findings.Expect(!form, "a form can be let go of inside its own handler");
+  findings.Expect(!form, "a form can be released inside its own handler");
   TheHost().Application()->ProcessMessages();
-  findings.Expect(watched.expired(), "an unloaded form that nobody holds is gone");
+  findings.Expect(watched.expired(), "an unloaded form without references is released");
 }
 
 }  // namespace

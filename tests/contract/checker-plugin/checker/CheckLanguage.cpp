@@ -31,14 +31,14 @@ void Captions(Findings& findings) {
   form->SetCaption("39999::A form");
   form->AddLabel("lbl")->SetCaption("39999::A label");
   form->AddButton("cmd")->SetCaption("39999::&A button");
-  form->AddFrame("fra")->SetCaption("a caption that is no language string");
+  form->AddFrame("fra")->SetCaption("a caption in another form");
   const auto tree = form->AddTreeView("tvw");
   tree->AddNode("node key", "39999::A node");
   service->TranslateControls(names::kModule, form);
   findings.Equal("A form", form->Caption(), "translated caption of a form");
   findings.Equal("A label", form->Find("lbl")->Caption(), "translated caption of a label");
   findings.Equal("&A button", form->Find("cmd")->Caption(), "translated caption of a button");
-  findings.Equal("a caption that is no language string", form->Find("fra")->Caption(), "other caption");
+  findings.Equal("a caption in another form", form->Find("fra")->Caption(), "other caption");
   findings.Equal("A node", tree->NodeCaption("node key"), "translated caption of a node");
   findings.Refused("translating no controls", [&] { service->TranslateControls(names::kModule, nullptr); });
 }

@@ -28,9 +28,9 @@ class CallBack final : public orvik::ICallBack {
 
 void Operations(Findings& findings, orvik::ILimitView& view, orvik::platform::IContainerSite& site) {
   const auto callBack = std::make_shared<CallBack>();
-  findings.Expect(!view.CallBack(), "a new view tells nobody");
+  findings.Expect(!view.CallBack(), "a new view has no call-back");
   view.SetCallBack(callBack);
-  findings.Expect(view.CallBack() == callBack, "the call-back is had back");
+  findings.Expect(view.CallBack() == callBack, "the call-back is returned");
   findings.Expect(view.hWnd() == site.Panel()->Handle(), "the view's window is the inside of its site");
   findings.Expect(!view.Locked(), "a new view can be edited");
   view.SetLocked(true);
@@ -51,7 +51,7 @@ void Operations(Findings& findings, orvik::ILimitView& view, orvik::platform::IC
   view.Refresh();
   findings.Equal("5", limits->Standards()->item(1)->Limit(1)->HighText(), "bound after it was only shown");
   findings.Equal(1, limits->Standards()->Count(), "standards after they were only shown");
-  findings.Equal(0, callBack->Notices(), "notices of a view that nobody edited");
+  findings.Equal(0, callBack->Notices(), "notices of a view that was not edited");
   view.Initialize(nullptr, {}, {}, {});
   view.Refresh();
 }

@@ -11,7 +11,7 @@ using FormPtr = std::shared_ptr<orvik::platform::IForm>;
 
 FormPtr PlainForm(const std::string& name) { return TheHost().Application()->CreateForm(name); }
 
-/// Shows the form modally, and does the work once it stands.
+/// Shows the form modally and runs the work once it is shown.
 template <class Work>
 void ShowModalAnd(const FormPtr& form, const FormPtr& owner, Work work) {
   TheHost().Application()->Post(work);

@@ -34,7 +34,7 @@ void Values(Findings& findings) {
 
   const auto reader = NewReader();
   findings.Expect(reader->OpenKey(kLocalMachine, kPath), "a created key opens");
-  findings.Expect(reader->ReadValue("text") == orvik::Variant(text), "a text is read back to the letter");
+  findings.Expect(reader->ReadValue("text") == orvik::Variant(text), "a text is read back unchanged");
   findings.Expect(reader->ReadValue("number") == orvik::Variant(std::int32_t{-2147483647 - 1}),
                   "a number is read back");
   findings.Expect(reader->ReadValue("a name with \\ and \"quotes\"") == orvik::Variant(std::string()),

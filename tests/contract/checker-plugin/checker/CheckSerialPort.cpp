@@ -67,7 +67,7 @@ void Closing(Findings& findings, orvik::IPort& port) {
 void CheckSerialPort(Findings& findings, const HostParts& parts) {
   const auto application = NewHostObject<orvik::ICommApplication>(orvik::HostClasses::kCommApplication);
   const auto manager = application->PortManager();
-  findings.Expect(manager->FindPort("a device that nobody has") < 1, "an unknown device has no port");
+  findings.Expect(manager->FindPort("no such device") < 1, "an unknown device has no port");
   const auto number = manager->FindPort(parts.device);
   if (number < 1) return findings.Expect(false, "the device " + parts.device + " has a port");
   for (const std::int32_t wrong : {0, -1, 4711})

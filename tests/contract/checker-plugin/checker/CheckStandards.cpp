@@ -59,7 +59,7 @@ void Bounds(Findings& findings) {
   findings.Expect(!limit->LowBound() && !limit->HighBound(), "an empty bound is not set");
   findings.Expect(orvik::IsEmpty(limit->Nominal()), "a new limit has no nominal value");
   limit->SetNominal(200.0);
-  findings.Expect(limit->Nominal() == orvik::Variant(200.0), "a nominal value that was set is had back");
+  findings.Expect(limit->Nominal() == orvik::Variant(200.0), "a nominal value that was set is returned");
   limit->SetBounds("90%", "110%");
   findings.Expect(limit->LowBound() == 180 && limit->HighBound() == 220,
                   "percentages refer to the nominal value");
@@ -115,7 +115,7 @@ void Collections(Findings& findings) {
   findings.Equal(2, all->Count(), "standards of a collection whose clone was changed");
   all->Remove(NewStandard("IEC 62353", nullptr));
   all->Remove(nullptr);
-  findings.Equal(2, all->Count(), "standards after removing strangers");
+  findings.Equal(2, all->Count(), "standards after removing others");
   findings.Refused("an empty standard", [&] { all->Add(nullptr); });
   findings.Refused("printing into an empty report", [&] {
     all->Print(nullptr, nullptr, {kKey, "Limits", "0"});
@@ -128,7 +128,7 @@ void Storage(Findings& findings) {
   const auto all = NewCollection();
   all->Add(NewStandard("IEC <62353> & \"more\"", NewLimit("1", "5.25")));
   const auto node = all->Save(root);
-  findings.Expect(node != nullptr, "saving answers the node");
+  findings.Expect(node != nullptr, "saving returns the node");
   node->SetName("ExpectedResult");
   const auto loaded = NewCollection();
   loaded->Load(root->FindChild("ExpectedResult"), nullptr);

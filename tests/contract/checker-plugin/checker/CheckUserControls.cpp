@@ -85,7 +85,7 @@ void Lifetime(Findings& findings, IForm& form) {
   }
   form.Activate();
   TheHost().Application()->ProcessMessages();
-  findings.Expect(watched.expired(), "a control goes with its form");
+  findings.Expect(watched.expired(), "a control is released with its form");
 }
 
 }  // namespace

@@ -20,8 +20,7 @@ void Reading(Findings& findings) {
   const auto root = document->Root();
   findings.Equal("a", root->Name(), "root");
   findings.Equal("tail", root->Text(), "text directly below the root");
-  findings.Expect(root->HasAttribute("x") && !root->HasAttribute("y"),
-                  "an empty attribute is there all the same");
+  findings.Expect(root->HasAttribute("x") && !root->HasAttribute("y"), "an empty attribute exists");
   findings.Equal(2, root->ChildCount(), "child elements");
   const auto first = root->FirstChild();
   findings.Equal("onetwo", first->Text(), "text around a child");
@@ -33,8 +32,7 @@ void Reading(Findings& findings) {
   root->ForEachChild(
       [&](const std::string& name, const auto& child) { visited += name + child->Attribute("y") + ";"; });
   findings.Equal("b;b2;", visited, "child elements, each in its turn");
-  findings.Expect(document->FindElement("c") && !document->FindElement("C"),
-                  "tags are matched to the letter");
+  findings.Expect(document->FindElement("c") && !document->FindElement("C"), "tags are case-sensitive");
   findings.Expect(root->FindChild("b") && !root->FindChild("c"), "only children are found among children");
 }
 

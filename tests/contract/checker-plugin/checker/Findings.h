@@ -11,7 +11,7 @@
 
 namespace check {
 
-/// What was found wrong while a subject was checked.
+/// The problems found while a subject is checked.
 class Findings {
  public:
   /// What must hold, in words.
@@ -38,7 +38,7 @@ class Findings {
       if (number && error.Number() != *number)
         found_.push_back(what + " is refused with number " + std::to_string(error.Number()) + " instead of " +
                          std::to_string(*number));
-      if (error.Description().empty()) found_.push_back(what + " is refused without a word");
+      if (error.Description().empty()) found_.push_back(what + " is refused without a description");
     } catch (const std::exception& error) {
       found_.push_back(what + " throws something other than HostError: " + error.what());
     } catch (...) {

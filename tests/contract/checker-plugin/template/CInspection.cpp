@@ -54,8 +54,8 @@ std::shared_ptr<CInspectionResult> CInspection::NewResult() {
   return result;
 }
 
-// The run: ask whether it may start, do the work, store the outcome, tell the host. Navigation 0 asks for the
-// next element; 2 abandons the whole run.
+// The run: ask whether it may start, do the work, store the outcome, notify the host. `Navigation::kNext`
+// asks for the next element, `kAbort` ends the whole run.
 void CInspection::ITestElement_Perform(std::shared_ptr<orvik::IRunController> controller) {
   // The operator may close the document meanwhile: stay alive until the operation is over.
   const auto self = orvik::As<orvik::ITestElement>(shared_from_this());
@@ -65,7 +65,7 @@ void CInspection::ITestElement_Perform(std::shared_ptr<orvik::IRunController> co
   const auto result = NewResult();
   if (answer == Answer::kUndamaged) result->Decide(orvik::ResultStatus::kPassed, *self);
   if (answer == Answer::kDamaged) result->Decide(orvik::ResultStatus::kFailed, *self);
-  // A window closed without an answer leaves "not tested": never a pass that nobody gave.
+  // A window closed without an answer leaves "not tested": never a pass without an answer.
 
   controller->FinishedNotice(self);
   controller->NavigationRequest(answer == Answer::kNone ? orvik::Navigation::kAbort

@@ -78,7 +78,7 @@ void CInspectionResult::IResultData_Load(std::shared_ptr<orvik::IXmlNode> node,
   }
 }
 
-// One table of two columns. What people typed goes through `Escape`, or it could read as markup.
+// One table of two columns. Typed text is escaped, or it could read as markup.
 void CInspectionResult::IResultData_PrintReport(std::shared_ptr<orvik::IReport> report,
                                                 std::shared_ptr<orvik::ITestElement> element) {
   auto& page = orvik::Required(report);

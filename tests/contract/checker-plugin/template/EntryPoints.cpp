@@ -19,7 +19,7 @@ extern "C" {
   Library = check::NewClassTable();
 }
 
-// The host has let go of every object. Let go of the host, and of whatever else is kept for the process.
+// The host has released every object. Release the host and anything else kept for the process.
 [[gnu::visibility("default")]] void OrvikCloseLibrary() { check::SetHost(nullptr); }
 
 }  // extern "C"

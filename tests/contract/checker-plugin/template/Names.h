@@ -3,7 +3,7 @@
 #include <cstdint>
 
 /// The plug-in's names. Change all of them first when you copy the template: documents and settings of two
-/// plug-ins are told apart by them.
+/// they distinguish plug-ins.
 namespace check::names {
 
 /// The plug-in's identifier, saved with every element.

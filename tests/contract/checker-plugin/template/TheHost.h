@@ -8,11 +8,11 @@
 #include "OrvikTypeLib/IHost.h"
 #include "OrvikTypeLib/IObject.h"
 
-// Everything the plug-in asks of the world goes through the host that opened its library. Nothing else is
+// The plug-in reaches everything through the host that opened its library. Nothing else is
 // kept for the whole process, so that closing the library leaves nothing behind.
 namespace check {
 
-/// Keeps the host from `OrvikOpenLibrary` on; empty lets go of it.
+/// Keeps the host from `OrvikOpenLibrary` on; empty releases it.
 void SetHost(std::shared_ptr<orvik::IHost> host);
 
 /// The host; `HostError` 91 while the library is closed.
