@@ -1,5 +1,7 @@
 #include "host/report/HtmlText.h"
 
+#include <array>
+
 namespace bench::html {
 
 std::string Escaped(std::string_view text) {
@@ -41,41 +43,14 @@ std::string Isolated(std::string_view text) {
 }
 
 const char* ClassOf(report::Standing standing) {
-  switch (report::ToneOf(standing)) {
-    case report::Tone::kGood:
-      return "passed";
-    case report::Tone::kBad:
-      return "failed";
-    case report::Tone::kQuiet:
-      return "na";
-    case report::Tone::kOpen:
-      break;
-  }
-  return "open";
+  constexpr std::array kClasses{"passed", "failed", "open", "na"};  // in the order of `Tone`
+  return kClasses.at(static_cast<std::size_t>(report::ToneOf(standing)));
 }
 
 const char* PlainSignOf(report::Standing standing) {
-  switch (standing) {
-    case report::Standing::kPassed:
-      return "\u2713";
-    case report::Standing::kFailed:
-      return "\u2717";
-    case report::Standing::kDoubtful:
-      return "?";
-    case report::Standing::kAborted:
-      return "\u25A0";
-    case report::Standing::kNotTested:
-      return "\u25CB";
-    case report::Standing::kNotJudged:
-      return "~";
-    case report::Standing::kRecorded:
-      return "=";
-    case report::Standing::kNotApplicable:
-      return "\u2013";
-    case report::Standing::kOpen:
-      break;
-  }
-  return "!";
+  // In the order of `Standing`.
+  constexpr std::array kSigns{"\u2713", "\u2717", "!", "?", "\u25A0", "\u25CB", "~", "=", "\u2013"};
+  return kSigns.at(static_cast<std::size_t>(standing));
 }
 
 std::string SignOf(report::Standing standing) {

@@ -32,27 +32,26 @@ std::array<int, kKinds> Counts(const std::vector<JudgedElement>& elements) {
   return counts;
 }
 
-std::string Piece(Verdict verdict, const std::string& count) {
-  switch (verdict) {
-    case Verdict::kFailed:
-      return Tr("%%1 failed", {count});
-    case Verdict::kNotTested:
-      return Tr("%%1 not tested", {count});
-    case Verdict::kAborted:
-      return Tr("%%1 aborted", {count});
-    case Verdict::kDoubtful:
-      return Tr("%%1 doubtful", {count});
-    case Verdict::kNotJudged:
-      return Tr("%%1 not judged", {count});
-    case Verdict::kRecorded:
-      return Tr("%%1 recorded only", {count});
-    case Verdict::kNotApplicable:
-      return Tr("%%1 not applicable", {count});
-    case Verdict::kPassed:
-      break;
-  }
-  return Tr("%%1 passed", {count});
+struct Kind {
+  report::Standing standing;
+  const char* count;
+};
+
+/// What reports show for a verdict.
+const Kind& KindOf(Verdict verdict) {
+  static const std::map<Verdict, Kind> kKindOf{
+      {Verdict::kFailed, {report::Standing::kFailed, Marked("%%1 failed")}},
+      {Verdict::kNotTested, {report::Standing::kNotTested, Marked("%%1 not tested")}},
+      {Verdict::kAborted, {report::Standing::kAborted, Marked("%%1 aborted")}},
+      {Verdict::kDoubtful, {report::Standing::kDoubtful, Marked("%%1 doubtful")}},
+      {Verdict::kNotJudged, {report::Standing::kNotJudged, Marked("%%1 not judged")}},
+      {Verdict::kRecorded, {report::Standing::kRecorded, Marked("%%1 recorded only")}},
+      {Verdict::kNotApplicable, {report::Standing::kNotApplicable, Marked("%%1 not applicable")}},
+      {Verdict::kPassed, {report::Standing::kPassed, Marked("%%1 passed")}}};
+  return kKindOf.at(verdict);
 }
+
+std::string Piece(Verdict verdict, const std::string& count) { return Tr(KindOf(verdict).count, {count}); }
 
 /// "2 of 6 failed, 1 not tested".
 std::string Pieces(const std::array<int, kKinds>& counts, std::initializer_list<Verdict> verdicts) {
@@ -76,27 +75,7 @@ constexpr std::initializer_list<Verdict> kOpen = {Verdict::kNotTested, Verdict::
 
 }  // namespace
 
-report::Standing StandingOf(Verdict verdict) {
-  switch (verdict) {
-    case Verdict::kFailed:
-      return report::Standing::kFailed;
-    case Verdict::kDoubtful:
-      return report::Standing::kDoubtful;
-    case Verdict::kAborted:
-      return report::Standing::kAborted;
-    case Verdict::kNotTested:
-      return report::Standing::kNotTested;
-    case Verdict::kNotJudged:
-      return report::Standing::kNotJudged;
-    case Verdict::kRecorded:
-      return report::Standing::kRecorded;
-    case Verdict::kNotApplicable:
-      return report::Standing::kNotApplicable;
-    case Verdict::kPassed:
-      return report::Standing::kPassed;
-  }
-  return report::Standing::kOpen;
-}
+report::Standing StandingOf(Verdict verdict) { return KindOf(verdict).standing; }
 
 report::Standing StandingOf(const JudgedElement& element) { return StandingOf(element.verdict); }
 

@@ -1,6 +1,7 @@
 #include "host/report/TextReport.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 #include "host/base/TextCells.h"
@@ -19,27 +20,9 @@ constexpr std::size_t kIndent = 3;
 constexpr std::size_t kBar = 49;
 
 const char* PlainSignOf(Standing standing) {
-  switch (standing) {
-    case Standing::kPassed:
-      return "[+]";
-    case Standing::kFailed:
-      return "[X]";
-    case Standing::kDoubtful:
-      return "[?]";
-    case Standing::kAborted:
-      return "[#]";
-    case Standing::kNotTested:
-      return "[o]";
-    case Standing::kNotJudged:
-      return "[~]";
-    case Standing::kRecorded:
-      return "[=]";
-    case Standing::kNotApplicable:
-      return "[-]";
-    case Standing::kOpen:
-      break;
-  }
-  return "[!]";
+  // In the order of `Standing`.
+  constexpr std::array kSigns{"[+]", "[X]", "[!]", "[?]", "[#]", "[o]", "[~]", "[=]", "[-]"};
+  return kSigns.at(static_cast<std::size_t>(standing));
 }
 
 std::string Signed(Standing standing, const std::string& text) {

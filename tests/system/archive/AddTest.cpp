@@ -179,22 +179,16 @@ TEST_P(AddTest, DoesNotAddACopyUnderAnotherName) {
   EXPECT_EQ(archive.List({}).size(), 1U);
 }
 
-TEST_P(AddTest, SeparatesAssetsOfOneFile) {
+TEST_P(AddTest, SeparatesEquipmentOfOneFile) {
   auto archive = Open();
   archive.Add(Measured("/d/a.orvik", "P-7", 120));
-  const auto other = archive.Add(Measured("/d/a.orvik", "P-8", 120));
-  EXPECT_EQ(other.added, Added::kNew);
-  EXPECT_EQ(other.revision, 1);
-}
-
-TEST_P(AddTest, SeparatesSerialNumbersOfOneFile) {
-  auto archive = Open();
-  archive.Add(Measured("/d/a.orvik", "P-7", 120));
-  auto other = Measured("/d/a.orvik", "P-7", 121);
-  other.entry.serial = "S-2";
-  const auto receipt = archive.Add(other);
-  EXPECT_EQ(receipt.added, Added::kNew);
-  EXPECT_EQ(receipt.revision, 1);
+  auto serial = Measured("/d/a.orvik", "P-7", 121);
+  serial.entry.serial = "S-2";
+  for (const auto& other : {Measured("/d/a.orvik", "P-8", 120), serial}) {
+    const auto receipt = archive.Add(other);
+    EXPECT_EQ(receipt.added, Added::kNew) << other.entry.serial;
+    EXPECT_EQ(receipt.revision, 1);
+  }
   EXPECT_EQ(archive.Find(1)->entry.revisions, 1);
 }
 

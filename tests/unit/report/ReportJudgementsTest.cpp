@@ -33,35 +33,34 @@ TEST_F(ReportJudgements, ShowTheSideOfEachLimit) {
   EXPECT_EQ(judgements[2].standing, Standing::kPassed);
 }
 
-TEST_F(ReportJudgements, ShowBelowLimit_Insulation) {
-  file_.Add(1010);
-  file_.Limit(1, "2", "");
-  Run("0.4,0,MOhm");
-  const auto judgements = Judgements();
-  ASSERT_EQ(judgements.size(), 1U);
-  EXPECT_EQ(judgements[0].word, "below limit");
-  EXPECT_EQ(judgements[0].standing, Standing::kFailed);
-  EXPECT_EQ(judgements[0].inWords, "0.4 MOhm is below the lower bound: at least 2 MOhm");
-}
-
-TEST_F(ReportJudgements, DoNotJudgeAReadingInAnotherUnit) {
-  file_.Add(610);
-  file_.Limit(1, "", "500");
-  Run("0.9,0,V");
-  const auto judgements = Judgements();
-  ASSERT_EQ(judgements.size(), 1U);
-  EXPECT_EQ(judgements[0].word, "not judged: the reading is in another unit");
-  EXPECT_EQ(judgements[0].standing, Standing::kOpen);
-  EXPECT_FALSE(judgements[0].bar);
-}
-
-TEST_F(ReportJudgements, ConvertAThousandthOfTheUnit) {
-  file_.Add(610);
-  file_.Limit(1, "", "500");
-  Run("0.9,0,mA");
-  const auto judgements = Judgements();
-  EXPECT_EQ(judgements.at(0).valueLabel, "900");
-  EXPECT_EQ(judgements[0].word, "exceeded");
+TEST_F(ReportJudgements, CompareReadingAndLimitByUnit) {
+  struct Case {
+    const char* name;
+    int test;
+    const char *low, *high, *reading, *word;
+    Standing standing;
+    const char* inWords;
+  };
+  const Case cases[] = {{"insulation", 1010, "2", "", "0.4,0,MOhm", "below limit", Standing::kFailed,
+                         "0.4 MOhm is below the lower bound: at least 2 MOhm"},
+                        {"another unit", 610, "", "500", "0.9,0,V",
+                         "not judged: the reading is in another unit", Standing::kOpen, ""},
+                        {"a thousandth", 610, "", "500", "0.9,0,mA", "exceeded", Standing::kFailed,
+                         "900 \u00B5A is above the upper bound: at most 500 \u00B5A"}};
+  for (const auto& [name, test, low, high, reading, word, standing, inWords] : cases) {
+    SCOPED_TRACE(name);
+    support::RecordedDocument file;
+    file.Add(test);
+    file.Limit(1, low, high);
+    file.Reads(test, reading);
+    file.Run();
+    const auto judgements = ReportOf(file.Document(), file.Host()).sections.at(0).judgements;
+    ASSERT_EQ(judgements.size(), 1U);
+    EXPECT_EQ(judgements[0].word, word);
+    EXPECT_EQ(judgements[0].standing, standing);
+    EXPECT_EQ(judgements[0].inWords, inWords);
+    EXPECT_EQ(judgements[0].bar.has_value(), *inWords != 0);
+  }
 }
 
 TEST_F(ReportJudgements, ShowAnOverloadWithoutABar) {
