@@ -6,11 +6,10 @@
 
 #include "OrvikTypeLib/As.h"
 #include "OrvikTypeLib/HostClasses.h"
-#include "host/base/HeapRoom.h"
 #include "host/base/LargeText.h"
 #include "host/base/Tr.h"
-#include "host/document/CutDocument.h"
 #include "host/document/Host.h"
+#include "host/document/RunXml.h"
 #include "host/document/SavedElements.h"
 #include "host/elements/ElementFactory.h"
 #include "host/elements/ElementTags.h"
@@ -38,10 +37,6 @@ constexpr char kComment[] = "Comment";
 constexpr char kStandardsNode[] = "Standards";
 constexpr char kInstrumentsNode[] = "Instruments";
 constexpr char kElements[] = "Elements";
-constexpr char kRuns[] = "Runs";
-
-/// About so many bytes of objects are made of two bytes of text.
-constexpr std::size_t kObjectsOfTwoBytes = 5;
 
 /// A tag that no file can hold, and how it begins when it is written; what follows depends on the format.
 constexpr char kNoName[] = "\x01";
@@ -49,15 +44,6 @@ constexpr std::string_view kPlaceOfElements = "<\x01";
 
 [[noreturn]] void RefuseDocument(const std::string& reason) {
   throw HostError(HostError::kInvalidArgument, kDocumentSource, reason);
-}
-
-/// Refuses a file: its name, the line in which the fault shows (when that is known), and the reason.
-[[noreturn]] void RefuseFile(const std::filesystem::path& file, const std::string& text,
-                             std::ptrdiff_t offset, const std::string& reason) {
-  auto place = file.string();
-  if (offset >= 0)
-    place = Tr("%%1, line %%2", {place, std::to_string(xml::LineOf(text, static_cast<std::size_t>(offset)))});
-  throw HostError(HostError::kPathError, kDocumentSource, Tr("%%1: %%2", {place, reason}));
 }
 
 void CheckVersion(pugi::xml_node root) {
@@ -86,8 +72,6 @@ void Document::BeginEmpty() {
   standards_ = orvik::As<orvik::IStandardColl>(host_->CreateObject(orvik::HostClasses::kStandardColl));
   instruments_ = std::make_shared<InstrumentColl>();
   elements_ = std::make_shared<TestContainer>(host_->Elements());
-  runs_.Load({});
-  highestId_ = 0;
 }
 
 std::shared_ptr<Document> Document::Create(std::shared_ptr<Host> host, const std::filesystem::path& file) {
@@ -97,10 +81,8 @@ std::shared_ptr<Document> Document::Create(std::shared_ptr<Host> host, const std
 std::shared_ptr<Document> Document::Open(std::shared_ptr<Host> host, const std::filesystem::path& file,
                                          DocumentFile::Use use) {
   auto opened = DocumentFile::Existing(file, use);
-  const auto decoded = xml::Decode(opened.Read());
   auto document = std::make_shared<Document>(std::move(host), std::move(opened));
-  document->Require(decoded.text, decoded.fault);
-  document->Load(decoded.text);
+  document->Load();
   return document;
 }
 
@@ -108,72 +90,49 @@ std::shared_ptr<orvik::ITestContainer> Document::Elements() const { return eleme
 
 void Document::MoveTo(const std::filesystem::path& file) { file_ = DocumentFile::New(file); }
 
-void Document::Require(const std::string& text, const xml::Fault& fault) const {
-  if (!fault.reason.empty())
-    RefuseFile(Path(), text, static_cast<std::ptrdiff_t>(fault.offset), fault.reason);
-}
-
-// What is not read in pieces, for whatever reason, is read whole: that also tells where a fault stands.
-void Document::Load(const std::string& text) {
-  textSize_ = text.size();
-  const HeapRoom room(text.size() / 2 * kObjectsOfTwoBytes);
-  if (!LoadInPieces(text)) LoadWhole(text);
-}
-
-bool Document::LoadInPieces(const std::string& text) {
-  const CutDocument cut(text);
-  auto& trouble = host_->Elements()->Trouble();
-  trouble.Clear();
-  const auto frame = std::make_shared<pugi::xml_document>();
-  if (cut.Pieces().empty() || !xml::Parse(cut.Frame(), *frame).reason.empty()) return false;
-  if (!cut.WasCutFrom(frame->document_element().child(kElements))) return false;
-  try {
-    CheckVersion(frame->document_element());
-    SavedElements saved;
-    LoadSections(frame, saved);
-    for (const auto piece : cut.Pieces()) {
-      const auto elements = std::make_shared<pugi::xml_document>();
-      if (!xml::ParseElements(piece, *elements)) return false;
-      LoadElements(elements, *elements, saved);
-      if (!trouble.All().empty()) return false;
-    }
-  } catch (const HostError&) {
-    return false;
+void Document::RefuseFile(std::ptrdiff_t offset, const std::string& reason) const {
+  auto place = Path().string();
+  if (offset >= 0) {
+    // Parsing has changed the text in memory.
+    const auto text = xml::Decode(file_.Read()).text;
+    place = Tr("%%1, line %%2", {place, std::to_string(xml::LineOf(text, static_cast<std::size_t>(offset)))});
   }
-  return true;
+  throw HostError(HostError::kPathError, kDocumentSource, Tr("%%1: %%2", {place, reason}));
 }
 
-void Document::LoadWhole(const std::string& text) {
-  const auto xml = std::make_shared<pugi::xml_document>();
-  const auto fault = xml::Parse(text, *xml);
-  Require(text, fault);
+void Document::Require(const xml::Fault& fault) const {
+  if (!fault.reason.empty()) RefuseFile(static_cast<std::ptrdiff_t>(fault.offset), fault.reason);
+}
+
+void Document::Load() {
+  auto decoded = xml::Decode(file_.Read());
+  Require(decoded.fault);
+  const auto [xml, fault] = xml::ParseInPlace(std::move(decoded.text));
+  Require(fault);
   auto& trouble = host_->Elements()->Trouble();
   trouble.Clear();
-  BeginEmpty();  // what an attempt in pieces has left
   try {
     CheckVersion(xml->document_element());
-    SavedElements saved;
-    LoadSections(xml, saved);
+    LoadSections(xml);
   } catch (const XmlError& error) {
-    if (trouble.All().empty()) RefuseFile(Path(), text, error.Offset(), error.Description());
+    if (trouble.All().empty()) RefuseFile(error.Offset(), error.Description());
   } catch (const HostError& error) {
-    if (trouble.All().empty()) RefuseFile(Path(), text, -1, error.Description());
+    if (trouble.All().empty()) RefuseFile(-1, error.Description());
   }
   // The innermost fault is noted first; a plug-in's element may have passed over it.
-  if (!trouble.All().empty())
-    RefuseFile(Path(), text, trouble.All().front().offset, trouble.All().front().reason);
+  if (!trouble.All().empty()) RefuseFile(trouble.All().front().offset, trouble.All().front().reason);
 }
 
-void Document::LoadSections(const std::shared_ptr<pugi::xml_document>& xml, SavedElements& saved) {
+void Document::LoadSections(const std::shared_ptr<pugi::xml_document>& xml) {
   const auto root = xml->document_element();
   // Only the first would be read, and the other lost when the document is saved.
-  for (const auto* section : {kEquipment, kStandardsNode, kInstrumentsNode, kElements, kRuns}) {
+  for (const auto* section : {kEquipment, kStandardsNode, kInstrumentsNode, kElements, run_tags::kRuns}) {
     if (const auto second = root.child(section).next_sibling(section))
       throw XmlError(second, Tr("there is a second \"%%1\"; join the two", {section}));
   }
   topLeftovers_.Take(*xml, {}, {kRoot});
   rootLeftovers_.Take(root, {kVersionAttribute},
-                      {kEquipment, kStandardsNode, kInstrumentsNode, kElements, kRuns});
+                      {kEquipment, kStandardsNode, kInstrumentsNode, kElements, run_tags::kRuns});
 
   const auto equipped = root.child(kEquipment);
   equipment = {equipped.attribute(kAsset).value(), equipped.attribute(kSerial).value(),
@@ -183,20 +142,19 @@ void Document::LoadSections(const std::shared_ptr<pugi::xml_document>& xml, Save
 
   if (const auto standards = root.child(kStandardsNode)) standards_->Load(Wrapped(xml, standards), nullptr);
   instruments_->Load(root.child(kInstrumentsNode));
-  runs_.Load(root.child(kRuns));
+  runs_.Load(xml, root.child(run_tags::kRuns));
   highestId_ = runs_.HighestElement();
 
   const auto elements = root.child(kElements);
   elementsLeftovers_.Take(elements, {}, {tags::kTestElement});
-  if (elements) LoadElements(xml, elements, saved);
-}
-
-void Document::LoadElements(const std::shared_ptr<pugi::xml_document>& xml, pugi::xml_node parent,
-                            SavedElements& saved) {
-  saved.Check(parent);
+  SavedElements saved;
+  XmlReference reference(xml);
+  for (const auto element : elements.children(tags::kTestElement)) {
+    saved.Check(element);
+    elements_->AddSaved(reference.To(element));
+  }
   // An identifier that a run names is not given again: its record would count for another element.
   highestId_ = std::max(highestId_, saved.HighestId());
-  elements_->LoadChildren(Wrapped(xml, parent));
 }
 
 void Document::Save() {

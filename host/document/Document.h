@@ -24,7 +24,6 @@ namespace bench {
 
 class Host;
 class InstrumentColl;
-class SavedElements;
 class TestContainer;
 
 /// A test document, an XML file:
@@ -113,15 +112,11 @@ class Document {
  private:
   /// Without standards, instruments and elements.
   void BeginEmpty();
-  /// Refuses the file when there is a fault.
-  void Require(const std::string& text, const xml::Fault& fault) const;
-  void Load(const std::string& text);
-  /// @return false when the document must be read whole; what it holds by then counts for nothing
-  bool LoadInPieces(const std::string& text);
-  void LoadWhole(const std::string& text);
-  void LoadSections(const std::shared_ptr<pugi::xml_document>& xml, SavedElements& saved);
-  void LoadElements(const std::shared_ptr<pugi::xml_document>& xml, pugi::xml_node parent,
-                    SavedElements& saved);
+  void Load();
+  /// Throws the error that names file, line and reason; without the line if the offset is negative.
+  [[noreturn]] void RefuseFile(std::ptrdiff_t offset, const std::string& reason) const;
+  void Require(const xml::Fault& fault) const;
+  void LoadSections(const std::shared_ptr<pugi::xml_document>& xml);
   std::string WrittenText() const;
   void WriteElements(std::string& text) const;
   std::shared_ptr<pugi::xml_document> Frame() const;

@@ -92,7 +92,7 @@ void Document::AddPlanOf(const Document& other) {
       saved, [this](pugi::xml_node element) { element.attribute(tags::kID).set_value(NextIdentifier()); });
   auto& trouble = host_->Elements()->Trouble();
   trouble.Clear();
-  elements_->LoadChildren(node);
+  node->ForEachChild([this](const std::string&, const auto& element) { elements_->AddSaved(element); });
   if (!trouble.All().empty()) Refuse(Tr("%%1: %%2", {other.Path().string(), trouble.All().front().reason}));
 }
 

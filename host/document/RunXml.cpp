@@ -152,25 +152,25 @@ void WriteTest(const RecordedTest& test, pugi::xml_node run) {
 
 // --- the digest
 
-/// Gathers what a run's node holds: each text with its length and depth, so that no two different nodes give
-/// the same text.
-class Content final : public pugi::xml_tree_walker {
+/// Digests what a run's node holds: each text with its length and depth, so that no two different nodes give
+/// the same input.
+class ContentDigest final : public pugi::xml_tree_walker {
  public:
-  std::string text;
+  std::string Hex() { return digest_.Hex(); }
 
   bool begin(pugi::xml_node& run) override {
     for (const auto attribute : run.attributes())
-      if (!xml::SameName(attribute.name(), kDigest)) Add(attribute);
+      if (!xml::SameName(attribute.name(), run_tags::kDigest)) Add(attribute);
     return true;
   }
   bool for_each(pugi::xml_node& node) override {
     if (node.type() == pugi::node_element) {
-      text += std::to_string(depth());
+      digest_.Add(std::to_string(depth()));
       Add('<', node.name());
       for (const auto attribute : node.attributes()) Add(attribute);
     } else if ((node.type() == pugi::node_pcdata || node.type() == pugi::node_cdata) &&
                std::string_view(node.value()).find_first_not_of(" \t\r\n") != std::string_view::npos) {
-      text += std::to_string(depth());
+      digest_.Add(std::to_string(depth()));
       Add('-', node.value());
     }
     return true;
@@ -178,15 +178,15 @@ class Content final : public pugi::xml_tree_walker {
 
  private:
   void Add(char kind, std::string_view value) {
-    text += kind;
-    text += std::to_string(value.size());
-    text += ':';
-    text += value;
+    digest_.Add(kind + std::to_string(value.size()) + ':');
+    digest_.Add(value);
   }
   void Add(pugi::xml_attribute attribute) {
     Add('@', attribute.name());
     Add('=', attribute.value());
   }
+
+  Sha256Digest digest_;
 };
 
 }  // namespace
@@ -214,7 +214,7 @@ RunRecord ReadRun(pugi::xml_node node) {
 }
 
 pugi::xml_node WriteRun(const RunRecord& run, pugi::xml_node parent) {
-  auto node = parent.append_child("Run");
+  auto node = parent.append_child(run_tags::kRun);
   xml::AddAttribute(node, "Number", std::to_string(run.number));
   xml::AddAttribute(node, "Begun", run.begun);
   if (run.end != RunRecord::End::kNone) {
@@ -241,22 +241,23 @@ pugi::xml_node WriteRun(const RunRecord& run, pugi::xml_node parent) {
   return node;
 }
 
-bool IsIntact(pugi::xml_node run) { return run.attribute(kDigest).value() == DigestOf(run); }
+bool IsIntact(pugi::xml_node run) { return run.attribute(run_tags::kDigest).value() == DigestOf(run); }
 
 std::vector<bool> GapsAfter(pugi::xml_node section) {
   std::vector<bool> gaps;
-  for (auto run = section.child("Run"); run; run = run.next_sibling("Run")) {
-    const auto next = run.next_sibling("Run");
-    const auto* named = next ? next.attribute(kBefore).value() : section.attribute("Last").value();
-    gaps.push_back(std::string_view(named) != run.attribute(kDigest).value());
+  for (auto run = section.child(run_tags::kRun); run; run = run.next_sibling(run_tags::kRun)) {
+    const auto next = run.next_sibling(run_tags::kRun);
+    const auto* named =
+        next ? next.attribute(run_tags::kBefore).value() : section.attribute(run_tags::kLast).value();
+    gaps.push_back(std::string_view(named) != run.attribute(run_tags::kDigest).value());
   }
   return gaps;
 }
 
 std::string DigestOf(pugi::xml_node run) {
-  Content content;
-  run.traverse(content);
-  return "sha256:" + Sha256(content.text);
+  ContentDigest digest;
+  run.traverse(digest);
+  return "sha256:" + digest.Hex();
 }
 
 }  // namespace bench

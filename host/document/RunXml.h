@@ -24,8 +24,14 @@
 /// "Takes" and "Test" are in the order in which they happened. "Tester" counts the testers of the run from 1.
 namespace bench {
 
-/// Attributes of a run: the digest of its content, and that of the run before it.
-inline constexpr char kDigest[] = "Digest", kBefore[] = "Before";
+/// Names in the file that more than one source file needs.
+namespace run_tags {
+inline constexpr char kRuns[] = "Runs";
+inline constexpr char kRun[] = "Run";
+inline constexpr char kDigest[] = "Digest";
+inline constexpr char kBefore[] = "Before";
+inline constexpr char kLast[] = "Last";
+}  // namespace run_tags
 
 /// Reads a run. `XmlError` for what is missing or malformed. Unknown parts are passed over.
 RunRecord ReadRun(pugi::xml_node node);

@@ -9,34 +9,32 @@
 #include "host/xml/XmlNode.h"
 
 namespace bench {
-namespace {
+Runs::Runs()
+    : document_(std::make_shared<pugi::xml_document>()),
+      finished_(document_->append_child(run_tags::kRuns)) {}
 
-constexpr char kRuns[] = "Runs", kRun[] = "Run", kLast[] = "Last";
-
-}  // namespace
-
-void Runs::Load(pugi::xml_node section) {
-  all_.clear();
-  saved_.reset();
-  open_ = false;
+void Runs::Load(std::shared_ptr<pugi::xml_document> document, pugi::xml_node section) {
+  *this = Runs();
+  if (!section) return;
+  document_ = std::move(document);
+  finished_ = section;
   const char* last = "";
-  besideRuns_.Take(section, {{kLast, last}}, {kRun});
+  besideRuns_.Take(section, {{run_tags::kLast, last}}, {run_tags::kRun});
   last_ = last;
-  for (const auto node : section.children(kRun)) {
+  for (const auto node : section.children(run_tags::kRun)) {
     all_.push_back(ReadRun(node));
     all_.back().intact = IsIntact(node);
-    saved_.append_copy(node);
   }
   const auto gaps = GapsAfter(section);
   for (std::size_t place = 0; place < all_.size(); ++place) all_[place].gapAfter = gaps[place];
 }
 
 void Runs::Save(pugi::xml_node parent) const {
-  auto section = parent.append_child(kRuns);
+  auto section = parent.append_child(run_tags::kRuns);
   auto last = last_;
-  for (const auto run : saved_.children()) section.append_copy(run);
-  if (open_) last = WriteCurrent(section).attribute(kDigest).value();
-  if (!last.empty()) xml::AddAttribute(section, kLast, last);
+  for (const auto run : finished_.children(run_tags::kRun)) section.append_copy(run);
+  if (open_) last = WriteCurrent(section).attribute(run_tags::kDigest).value();
+  if (!last.empty()) xml::AddAttribute(section, run_tags::kLast, last);
   besideRuns_.Restore(section);
   if (!section.first_child() && !section.first_attribute()) parent.remove_child(section);
 }
@@ -61,14 +59,14 @@ RunRecord& Runs::Open(RunRecord run) {
 
 void Runs::Close() {
   if (!std::exchange(open_, false)) return;
-  last_ = WriteCurrent(saved_).attribute(kDigest).value();
+  last_ = WriteCurrent(finished_).attribute(run_tags::kDigest).value();
 }
 
 pugi::xml_node Runs::WriteCurrent(pugi::xml_node parent) const {
   auto node = WriteRun(all_.back(), parent);
   // The digest that the file named: where a run is missing, that shows for ever.
-  xml::AddAttribute(node, kBefore, last_);
-  xml::AddAttribute(node, kDigest, DigestOf(node));
+  xml::AddAttribute(node, run_tags::kBefore, last_);
+  xml::AddAttribute(node, run_tags::kDigest, DigestOf(node));
   return node;
 }
 

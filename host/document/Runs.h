@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <pugixml.hpp>
 #include <string>
 #include <vector>
@@ -14,10 +15,12 @@ namespace bench {
 /// "Runs"; runs that were read are written back as they were, with all that another program added.
 class Runs {
  public:
-  Runs() = default;
+  /// Without runs.
+  Runs();
 
-  /// Reads the section; an empty node gives no runs. `XmlError` for a malformed run.
-  void Load(pugi::xml_node section);
+  /// Reads the section "Runs" of a document, which it keeps: `Save` copies the runs from there. `XmlError`
+  /// for a malformed run.
+  void Load(std::shared_ptr<pugi::xml_document> document, pugi::xml_node section);
   /// Adds the section to the parent; nothing while there are no runs.
   void Save(pugi::xml_node parent) const;
 
@@ -39,8 +42,10 @@ class Runs {
 
   std::vector<RunRecord> all_;
   bool open_ = false;
-  /// The finished runs as they are saved; the one that goes on is added when the document is saved.
-  pugi::xml_document saved_;
+  /// Owns `finished_`.
+  std::shared_ptr<pugi::xml_document> document_;
+  /// The finished runs as they are saved; the current one is added when the document is saved.
+  pugi::xml_node finished_;
   /// The digest of the last finished run, as the file names it.
   std::string last_;
   Leftovers besideRuns_;

@@ -27,23 +27,17 @@ pugi::xml_node Next(pugi::xml_node element, pugi::xml_node top, int& depth) {
 
 }  // namespace
 
-bool SavedElements::IsNew(std::int32_t id) {
-  if (id > HighestId()) {
-    ascending_.push_back(id);
-    return true;
-  }
-  return !std::binary_search(ascending_.begin(), ascending_.end(), id) && others_.insert(id).second;
-}
-
-void SavedElements::Check(pugi::xml_node elements) {
-  int depth = 0;
-  for (auto element = Next(elements, elements, depth); element; element = Next(element, elements, depth)) {
+void SavedElements::Check(pugi::xml_node top) {
+  int depth = 1;
+  for (auto element = top; element; element = Next(element, top, depth)) {
     if (depth > kDeepestNesting)
       throw XmlError(element,
                      Tr("elements are nested more than %%1 levels deep", {std::to_string(kDeepestNesting)}));
     const auto id = xml::NumberAttribute(element, tags::kID);
     if (id < 1) throw XmlError(element, Tr("the identifier %%1 is below 1", {std::to_string(id)}));
-    if (!IsNew(id)) throw XmlError(element, Tr("the identifier %%1 is used twice", {std::to_string(id)}));
+    if (!ids_.insert(id).second)
+      throw XmlError(element, Tr("the identifier %%1 is used twice", {std::to_string(id)}));
+    highestId_ = std::max(highestId_, id);
   }
 }
 

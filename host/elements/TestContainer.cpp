@@ -146,11 +146,7 @@ void TestContainer::ClearChildren() {
   children_->Clear();
 }
 
-void TestContainer::LoadChildren(const std::shared_ptr<orvik::IXmlNode>& node) {
-  const auto& saved = XmlNode::Of(node);
-  XmlReference reference(saved.Document());
-  for (const auto child : saved.Raw().children(tags::kTestElement)) LoadChild(reference.To(child), nullptr);
-}
+void TestContainer::AddSaved(const std::shared_ptr<orvik::IXmlNode>& element) { LoadChild(element, nullptr); }
 
 bool TestContainer::LoadChild(const std::shared_ptr<orvik::IXmlNode>& node,
                               const std::shared_ptr<IObject>& context) {

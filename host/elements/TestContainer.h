@@ -17,8 +17,8 @@ class TestContainer final : public TestElement, public orvik::ITestContainer {
   explicit TestContainer(std::weak_ptr<ElementFactory> factory);
   ~TestContainer() override;
 
-  /// Adds the elements saved below the node. An element that nobody knows is kept as it is.
-  void LoadChildren(const std::shared_ptr<orvik::IXmlNode>& node);
+  /// Adds the element saved in the node. One that no plug-in knows is kept as it is.
+  void AddSaved(const std::shared_ptr<orvik::IXmlNode>& element);
   /// Adds the child to the node, counted from 0; `HostError` when it cannot be saved.
   void SaveChild(std::size_t index, const std::shared_ptr<orvik::IXmlNode>& node) const;
   /// Adds all children to the node.

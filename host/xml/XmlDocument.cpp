@@ -75,6 +75,20 @@ std::size_t FindReferenceToNothing(std::string_view text) {
   return holder ? ReferenceToNothing(text, OffsetOf(holder)) : std::string_view::npos;
 }
 
+/// Parses the text by `load`, which may change it.
+template <class Load>
+Fault Checked(std::string_view text, const pugi::xml_document& document, Load load) {
+  const auto nul = text.find('\0');
+  const auto reference = FindReferenceToNothing(text);
+  const pugi::xml_parse_result result = load();
+  if (!result)
+    return {static_cast<std::size_t>(result.offset < 0 ? 0 : result.offset), Tr(result.description())};
+  if (nul != std::string_view::npos) return {nul, Tr("there is a NUL byte")};
+  if (reference != std::string_view::npos)
+    return {reference, Tr("the reference stands for no character; remove it")};
+  return CheckTop(document, text.size());
+}
+
 bool DeeperThan(pugi::xml_node node, int levels) {
   struct Depth : pugi::xml_tree_walker {
     int limit = 0;
@@ -115,26 +129,23 @@ Fault Parse(std::string_view text, pugi::xml_document& document) {
 }
 
 Fault ParseAsFarAsPossible(std::string_view text, pugi::xml_document& document) {
-  const auto result = document.load_buffer(text.data(), text.size(), kParseFlags, pugi::encoding_utf8);
-  Fault fault;
-  if (!result) {
-    fault = {static_cast<std::size_t>(result.offset < 0 ? 0 : result.offset), Tr(result.description())};
-  } else if (text.find('\0') != std::string_view::npos) {
-    fault = {text.find('\0'), Tr("there is a NUL byte")};
-  } else if (const auto reference = FindReferenceToNothing(text); reference != std::string_view::npos) {
-    fault = {reference, Tr("the reference stands for no character; remove it")};
-  } else {
-    fault = CheckTop(document, text.size());
-  }
-  return fault;
+  return Checked(text, document, [&] {
+    return document.load_buffer(text.data(), text.size(), kParseFlags, pugi::encoding_utf8);
+  });
 }
 
-bool ParseElements(std::string_view text, pugi::xml_document& document) {
-  const auto result = document.load_buffer(text.data(), text.size(), kParseFlags, pugi::encoding_utf8);
-  if (!result || text.find('\0') != std::string_view::npos) return false;
-  if (ReferenceToNothing(text) != std::string_view::npos) return false;
-  return std::all_of(document.begin(), document.end(),
-                     [](pugi::xml_node node) { return node.type() == pugi::node_element; });
+Parsed ParseInPlace(std::string text) {
+  struct Owner {
+    std::string text;
+    pugi::xml_document document;
+  };
+  const auto owner = std::make_shared<Owner>();
+  owner->text = std::move(text);
+  auto fault = Checked(owner->text, owner->document, [&] {
+    return owner->document.load_buffer_inplace(owner->text.data(), owner->text.size(), kParseFlags,
+                                               pugi::encoding_utf8);
+  });
+  return {{owner, &owner->document}, std::move(fault)};
 }
 
 std::size_t LineOf(std::string_view text, std::size_t offset) {

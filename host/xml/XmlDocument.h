@@ -42,12 +42,15 @@ struct Fault {
 /// white space around it.
 /// @return the fault; its reason is empty when the document is well formed
 Fault Parse(std::string_view text, pugi::xml_document& document);
-/// The same, but what stands before the fault stays in `document`.
+/// The same, but `document` keeps what precedes the fault.
 Fault ParseAsFarAsPossible(std::string_view text, pugi::xml_document& document);
 
-/// Parses whole elements that stand beside each other, with nothing but white space around them.
-/// @return false when the text is anything else
-bool ParseElements(std::string_view text, pugi::xml_document& document);
+struct Parsed {
+  std::shared_ptr<pugi::xml_document> document;
+  Fault fault;
+};
+/// The same without a copy of the text: the document owns the text, and changes it.
+Parsed ParseInPlace(std::string text);
 
 /// The number of the line, from 1, in which the byte stands.
 std::size_t LineOf(std::string_view text, std::size_t offset);

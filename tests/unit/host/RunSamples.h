@@ -68,10 +68,10 @@ inline std::string TextOf(const Runs& runs) {
 }
 
 inline Runs Loaded(const std::string& text) {
-  pugi::xml_document xml;
-  EXPECT_EQ(xml::Parse(text, xml).reason, "") << text;
+  const auto [xml, fault] = xml::ParseInPlace(text);
+  EXPECT_EQ(fault.reason, "") << text;
   Runs runs;
-  runs.Load(xml.child("Runs"));
+  runs.Load(xml, xml->child("Runs"));
   return runs;
 }
 
