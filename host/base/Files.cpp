@@ -12,7 +12,6 @@
 
 #include "host/base/FileErrors.h"
 #include "host/base/FreshFile.h"
-#include "host/base/LargeText.h"
 #include "host/base/Patience.h"
 #include "host/base/Tr.h"
 
@@ -42,7 +41,8 @@ std::string ReadDescriptor(int descriptor, const std::filesystem::path& file) {
   if (static_cast<std::uintmax_t>(status.st_size) > kLargestFile)
     ThrowFileError(file, Tr("%%1 is too large"), 0, Tr("files up to 512 MiB are read"));
   const auto size = static_cast<std::size_t>(status.st_size);
-  auto contents = TextWithRoom(size);
+  std::string contents;
+  contents.reserve(size);
   std::vector<char> block(std::min<std::size_t>(size, 256 * 1024));
   while (contents.size() < size) {
     const ssize_t count = pread(descriptor, block.data(), std::min(block.size(), size - contents.size()),

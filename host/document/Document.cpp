@@ -6,7 +6,6 @@
 
 #include "OrvikTypeLib/As.h"
 #include "OrvikTypeLib/HostClasses.h"
-#include "host/base/LargeText.h"
 #include "host/base/Tr.h"
 #include "host/document/Host.h"
 #include "host/document/RunXml.h"
@@ -183,13 +182,11 @@ std::string Document::WrittenText() const {
   const auto frame = xml::Write(*Frame());
   if (elements_->Count() == 0) return frame;
   const auto place = frame.find(kPlaceOfElements);
-  auto text = TextWithRoom(textSize_ + textSize_ / 8);
-  text.append(frame, 0, place);
+  auto text = frame.substr(0, place);
   text.resize(text.find_last_not_of(' ') + 1);
   WriteElements(text);
   if (text.back() == '\n') text.pop_back();
   text.append(frame, frame.find('>', place) + 1);
-  textSize_ = text.size();
   return text;
 }
 

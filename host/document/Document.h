@@ -133,8 +133,6 @@ class Document {
   std::shared_ptr<TestContainer> elements_;
   bench::Runs runs_;
   std::int32_t highestId_ = 0;
-  /// Of the text that was read or written last: the next one will be about as long.
-  mutable std::size_t textSize_ = 0;
   std::optional<std::size_t> savedMark_;
   Leftovers topLeftovers_, rootLeftovers_, equipmentLeftovers_, elementsLeftovers_;
 };

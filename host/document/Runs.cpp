@@ -42,9 +42,13 @@ void Runs::Save(pugi::xml_node parent) const {
 std::int32_t Runs::HighestElement() const {
   std::int32_t highest = 0;
   for (const auto& run : all_) {
-    for (const auto id : run.Elements()) highest = std::max(highest, id);
-    for (const auto& step : run.steps)
-      if (const auto* test = std::get_if<RecordedTest>(&step)) highest = std::max(highest, test->element);
+    for (const auto& step : run.steps) {
+      if (const auto* takes = std::get_if<RecordedTakes>(&step)) {
+        for (const auto id : takes->elements) highest = std::max(highest, id);
+      } else {
+        highest = std::max(highest, std::get<RecordedTest>(step).element);
+      }
+    }
   }
   return highest;
 }

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "host/base/HeapRoom.h"
 #include "host/base/Tr.h"
 #include "host/xml/XmlNode.h"
 #include "host/xml/XmlReferences.h"
@@ -168,9 +167,6 @@ void WriteTo(std::string& text, pugi::xml_node element, unsigned depth) {
 }  // namespace xml
 
 bool XmlDocument::IXmlDocument_LoadFromString(const std::string& sXml) {
-  // The tree, and what is then made of it, take about so many bytes for a byte of the text.
-  constexpr std::size_t kObjectsOfText = 6;
-  const HeapRoom room(sXml.size() * kObjectsOfText);
   document_ = std::make_shared<pugi::xml_document>();
   const auto fault = xml::Parse(sXml, *document_);
   error_.clear();
