@@ -5,7 +5,6 @@
 #include <typeinfo>
 
 #include "OrvikTypeLib/As.h"
-#include "host/base/NodeBlocks.h"
 #include "host/base/Text.h"
 #include "host/base/Tr.h"
 
@@ -127,7 +126,7 @@ std::int32_t NumberIn(const char* text, pugi::xml_node element, const char* name
 }  // namespace xml
 
 std::shared_ptr<XmlNode> XmlNode::Create(std::shared_ptr<pugi::xml_document> document, pugi::xml_node node) {
-  return std::allocate_shared<XmlNode>(NodeBlocks<XmlNode>(), std::move(document), node);
+  return std::make_shared<XmlNode>(std::move(document), node);
 }
 
 const XmlNode& XmlNode::Of(const std::shared_ptr<orvik::IXmlNode>& node) {
