@@ -1,8 +1,6 @@
 #pragma once
 
 #include <memory>
-#include <type_traits>
-#include <typeinfo>
 
 #include "OrvikTypeLib/HostError.h"
 
@@ -11,14 +9,7 @@ namespace orvik {
 /// The object under another of its interfaces; empty if the object is empty or lacks the interface.
 template <class Interface, class Object>
 [[nodiscard]] std::shared_ptr<Interface> As(const std::shared_ptr<Object>& object) {
-  if constexpr (std::is_final_v<Interface> && requires(Object * any) { static_cast<Interface*>(any); }) {
-    // A final class has no derived classes, so comparing the type is enough.
-    const auto* any = object.get();
-    if (!any || typeid(*any) != typeid(Interface)) return nullptr;
-    return std::static_pointer_cast<Interface>(object);
-  } else {
-    return std::dynamic_pointer_cast<Interface>(object);
-  }
+  return std::dynamic_pointer_cast<Interface>(object);
 }
 
 /// The object behind a reference that must not be empty. An empty one raises `HostError` 91, so the step
