@@ -7,8 +7,8 @@
 
 namespace bench {
 
-/// Visits the element and all that stands below it, in document order, parents before children. Nesting of
-/// any depth takes no stack.
+/// Visits the element and all below it in document order, parents before children. Not recursive, so that
+/// deeply nested documents cannot overflow the stack.
 void WalkElements(const std::shared_ptr<orvik::ITestElement>& top,
                   const std::function<void(const std::shared_ptr<orvik::ITestElement>&)>& visit);
 

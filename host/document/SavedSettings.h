@@ -12,7 +12,7 @@
 
 namespace bench {
 
-/// The settings of an element as it saves them: the one way in which a host sees what stands in them.
+/// The settings of an element as it saves them. The contract offers a host no other access to them.
 class SavedSettings {
  public:
   static constexpr const char* kOptions = keld_facts::kOptionsAttribute;
@@ -22,7 +22,7 @@ class SavedSettings {
 
   /// What `IConfigData::Load` takes: the node "Configuration".
   const std::shared_ptr<orvik::IXmlNode>& Node() const { return node_; }
-  /// The node in it whose attributes are the settings; null when the element has none of this kind.
+  /// The node with the settings as attributes; null for an element of another plug-in.
   const std::shared_ptr<orvik::IXmlNode>& Settings() const { return settings_; }
 
  private:
@@ -31,10 +31,10 @@ class SavedSettings {
   std::shared_ptr<orvik::IXmlNode> settings_;
 };
 
-/// The option bits of the element that decide what is measured; 0 when it has none.
+/// The option bits that decide what is measured; 0 for an element without options.
 std::int32_t MeasuringSettings(const orvik::ITestElement& element);
 
-/// How the element makes a value of its children's; empty when it has no such setting.
+/// The name of the filter that gives a group its value; empty for an element without one.
 std::string ValueFilter(const orvik::ITestElement& element);
 
 }  // namespace bench

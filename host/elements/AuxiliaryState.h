@@ -10,13 +10,13 @@ namespace bench {
 /// The host's own settings of an element.
 class AuxiliaryState final : public orvik::IAuxiliaryState {
  public:
-  /// Whether readings of the element are recorded and never judged: a decision that somebody made and that
-  /// the document keeps. Without it an element without limits is not judged.
+  /// Whether readings are recorded without being judged, as a person decided. An element without limits and
+  /// without this mark is "not judged".
   bool RecordOnly() const { return recordOnly_; }
   void SetRecordOnly(bool recordOnly) { recordOnly_ = recordOnly; }
 
   void CopyFrom(const AuxiliaryState& other);
-  /// Replaces all by what an "Auxiliary" node says.
+  /// Replaces the state by that of an "Auxiliary" node.
   void Load(pugi::xml_node node);
   void Save(pugi::xml_node node) const;
   /// Whether nothing differs from a new state.

@@ -6,8 +6,7 @@
 namespace bench {
 namespace {
 
-/// Lets go of the children. Those that a child lets go of meanwhile wait their turn here, so the depth of a
-/// tree never becomes the depth of the stack.
+/// Releases the children. Their own children queue up here, so a deep tree cannot overflow the stack.
 void Release(std::vector<ChildList::Child> children) {
   thread_local std::vector<ChildList::Child> waiting;
   thread_local bool releasing = false;
@@ -26,7 +25,7 @@ void Release(std::vector<ChildList::Child> children) {
 
 }  // namespace
 
-/// One walk: the index of the child that comes next, kept right by the list.
+/// An enumerator: the index of the next child, adjusted by the list.
 class ChildList::Walker final : public orvik::ITestEnumerator {
  public:
   explicit Walker(std::shared_ptr<ChildList> list) : list_(std::move(list)) {}
@@ -42,7 +41,7 @@ class ChildList::Walker final : public orvik::ITestEnumerator {
 ChildList::~ChildList() { Release(std::move(children_)); }
 
 std::optional<std::size_t> ChildList::IndexOf(const Child& child) const {
-  // The last ones come and go most often.
+  // Mostly called for the last ones.
   const auto found = std::find(children_.rbegin(), children_.rend(), child);
   if (found == children_.rend()) return {};
   return static_cast<std::size_t>(children_.rend() - found) - 1;

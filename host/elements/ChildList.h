@@ -10,7 +10,7 @@
 
 namespace bench {
 
-/// The ordered children of a container. Walks over them go on correctly while children come and go, and keep
+/// The ordered children of a container. Enumerators stay valid while children are added and removed, and keep
 /// the list alive.
 class ChildList : public std::enable_shared_from_this<ChildList> {
  public:
@@ -24,7 +24,7 @@ class ChildList : public std::enable_shared_from_this<ChildList> {
 
   void Insert(std::size_t index, Child child);
   void Erase(std::size_t index);
-  /// Lets go of all children, one after the other: a tree of any depth goes without recursion.
+  /// Releases all children one by one, without recursion at any depth.
   void Clear();
 
   std::shared_ptr<orvik::ITestEnumerator> Walk();

@@ -5,24 +5,8 @@
 #include "OrvikTypeLib/As.h"
 #include "OrvikTypeLib/ITestContainer.h"
 #include "host/base/Text.h"
-#include "host/elements/InformationRecord.h"
-#include "host/elements/TestElement.h"
 
 namespace bench {
-namespace {
-
-/// A short way to the base element: nearly every plug-in's element shows the texts of that as its own.
-const TestElement* InsideByTexts(const orvik::ITestElement& element) {
-  try {
-    const auto texts = orvik::As<InformationRecord>(element.Information());
-    const auto* inside = texts ? texts->Element() : nullptr;
-    return inside && inside->IsInside(element) ? inside : nullptr;
-  } catch (const orvik::HostError&) {
-    return nullptr;  // the long way does not ask the plug-in
-  }
-}
-
-}  // namespace
 
 void ElementFactory::AddPlugIn(const std::shared_ptr<orvik::IPlugIn>& plugIn) {
   const auto id = orvik::Required(plugIn).ID();
@@ -78,12 +62,17 @@ const ElementFactory::Prototype* ElementFactory::PrototypeOf(const Identity& ide
   return &prototype;
 }
 
+void ElementFactory::SetWrapped(const orvik::ITestElement* outer, std::shared_ptr<orvik::IBaseElement> base) {
+  wrapped_[outer] = base;
+}
+
+void ElementFactory::ForgetWrapped(const orvik::ITestElement* outer) { wrapped_.erase(outer); }
+
 std::shared_ptr<orvik::IBaseElement> ElementFactory::BaseOf(
     const std::shared_ptr<orvik::ITestElement>& element) const {
   if (auto base = orvik::As<orvik::IBaseElement>(element)) return base;
-  const auto* inside = element ? InsideByTexts(*element) : nullptr;
-  if (!inside) inside = wrapped_.Inside(element.get());
-  return inside ? inside->Self() : nullptr;
+  const auto found = wrapped_.find(element.get());
+  return found == wrapped_.end() ? nullptr : found->second.lock();
 }
 
 }  // namespace bench

@@ -6,6 +6,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -13,17 +14,16 @@
 #include "OrvikTypeLib/IObject.h"
 #include "OrvikTypeLib/IPlugIn.h"
 #include "OrvikTypeLib/ITestElement.h"
-#include "host/elements/WrappedElements.h"
 
 namespace bench {
 
-/// What happened inside an element while a plug-in's element, which ignores errors step by step, stood
-/// between it and the document. The document looks here, so that nothing is lost in silence.
+/// Errors inside elements, for the document: a plug-in's element in between ignores errors step by step, so
+/// they would be lost otherwise.
 class Problems {
  public:
   struct Problem {
     std::string reason;
-    /// Byte in the source of the document where it shows; -1 unknown.
+    /// Byte offset in the document's source; -1 for unknown.
     std::ptrdiff_t offset = -1;
   };
 
@@ -40,7 +40,7 @@ class ElementFactory {
  public:
   using Classes = std::function<std::shared_ptr<orvik::IObject>(const std::string& classId)>;
 
-  /// What a saved element tells of itself.
+  /// How a saved element identifies itself.
   struct Identity {
     std::string_view plugInId;
     std::int32_t testId = 0;
@@ -51,29 +51,30 @@ class ElementFactory {
   /// @param classes creates an object by class identifier; empty or `HostError` for an unknown one
   explicit ElementFactory(Classes classes) : classes_(std::move(classes)) {}
 
-  /// A plug-in that has been initialised. One of the same identifier is replaced.
+  /// Adds an initialised plug-in; one with the same identifier is replaced.
   void AddPlugIn(const std::shared_ptr<orvik::IPlugIn>& plugIn);
   std::vector<std::shared_ptr<orvik::IPlugIn>> PlugIns() const { return plugIns_; }
-  /// The plug-in of that identifier, or empty.
+  /// The plug-in with that identifier, or empty.
   std::shared_ptr<orvik::IPlugIn> PlugIn(std::string_view id) const;
-  /// Lets go of all plug-ins and of everything that came from them.
+  /// Releases all plug-ins and everything that was created by them.
   void ReleasePlugIns();
-  /// The catalogue of a plug-in has changed.
+  /// To be called when the catalogue of a plug-in has changed.
   void ForgetPrototypes() { prototypes_.clear(); }
 
-  /// A new object of the class; empty when there is no such class.
+  /// A new object of the class; empty for an unknown class.
   std::shared_ptr<orvik::IObject> CreateObject(const std::string& classId) const;
 
-  /// An element, without children, that is about to load itself from what was saved. A copy of the
-  /// catalogue's entry when the plug-in has one of that class, since only the catalogue knows its unit; else
-  /// a new element of the class. Empty when nobody knows it.
+  /// An element without children, ready to load what was saved: a copy of the catalogue's entry if that is of
+  /// the class, since only the catalogue knows its unit; else a new element of the class. Empty when neither
+  /// is known.
   std::shared_ptr<orvik::ITestElement> CreateForLoad(const Identity& identity);
 
   /// The base element behind an element: itself, or the one that it wraps; empty when there is none.
   std::shared_ptr<orvik::IBaseElement> BaseOf(const std::shared_ptr<orvik::ITestElement>& element) const;
 
-  /// The base elements that have another element around them.
-  WrappedElements& Wrapped() { return wrapped_; }
+  /// Registers the base element that the plug-in's element `outer` wraps; it is not kept alive.
+  void SetWrapped(const orvik::ITestElement* outer, std::shared_ptr<orvik::IBaseElement> base);
+  void ForgetWrapped(const orvik::ITestElement* outer);
 
   Problems& Trouble() { return problems_; }
 
@@ -84,7 +85,7 @@ class ElementFactory {
   };
 
   std::shared_ptr<orvik::ITestElement> FromCatalogue(const Identity& identity);
-  /// Nothing when the plug-in is not known.
+  /// Null when the plug-in is not known.
   const Prototype* PrototypeOf(const Identity& identity);
 
   /// Which entry of which catalogue.
@@ -101,10 +102,9 @@ class ElementFactory {
 
   Classes classes_;
   std::vector<std::shared_ptr<orvik::IPlugIn>> plugIns_;
-  /// Childless copies of catalogue entries by plug-in and test; without an element for a test that is not in
-  /// the catalogue.
+  /// Copies of catalogue entries, without children; an empty one for a test that is not in the catalogue.
   std::map<Entry, Prototype, EntryOrder> prototypes_;
-  WrappedElements wrapped_;
+  std::unordered_map<const orvik::ITestElement*, std::weak_ptr<orvik::IBaseElement>> wrapped_;
   Problems problems_;
 };
 

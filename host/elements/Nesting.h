@@ -6,10 +6,10 @@
 
 namespace bench {
 
-/// Deepest nesting of elements that is cloned, saved and loaded.
+/// The deepest nesting of elements that can be cloned, saved and loaded.
 inline constexpr int kDeepestNesting = 1000;
 
-/// Counts the levels of one deep operation while it works its way through host and plug-in by turns.
+/// Counts the levels of a deep operation, which recurses through host and plug-in by turns.
 class Nesting {
  public:
   Nesting();
@@ -17,12 +17,12 @@ class Nesting {
   Nesting(const Nesting&) = delete;
   Nesting& operator=(const Nesting&) = delete;
 
-  /// Whether this is the level at which the operation was begun.
+  /// Whether the operation started at this level.
   bool Outermost() const;
 };
 
-/// Throws `HostError` 5 when elements are nested deeper below `element` than a deep operation can go, so that
-/// it is refused before it has begun. Works at any depth.
+/// Throws `HostError` 5 when elements below `element` are nested too deeply for a deep operation, before that
+/// has started. Not recursive itself.
 void RequireShallow(const std::shared_ptr<orvik::ITestElement>& element);
 
 }  // namespace bench

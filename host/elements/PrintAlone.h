@@ -4,8 +4,8 @@
 
 namespace bench {
 
-/// Given as the context of `ITestElement::PrintReport`, it has a sequence print itself without its children,
-/// so that a report can tell which table belongs to which element.
+/// As the context of `ITestElement::PrintReport`, makes a sequence print itself without its children, so that
+/// a report knows which element a table belongs to.
 class PrintAlone final : public orvik::IObject {};
 
 }  // namespace bench

@@ -16,7 +16,7 @@ using orvik::HostError;
 
 constexpr char kContainerSource[] = "OrvikTypeLib.TestContainer";
 
-/// A container that is being searched, and how many of its children have been looked at.
+/// A container that is being searched, and how many of its children were visited.
 struct Level {
   std::shared_ptr<const orvik::ITestContainer> container;
   std::int32_t visited = 0;
@@ -51,7 +51,7 @@ void TestContainer::RefuseCycle(const std::shared_ptr<orvik::ITestElement>& elem
   bool above = element == self || element.get() == static_cast<const ITestElement*>(this);
   auto parent = self->Parent();
   if (parent && !above) {
-    // Only something that holds elements can stand above this container.
+    // Only a container with elements can be above this one.
     const auto container = orvik::As<orvik::ITestContainer>(element);
     if (!container || container->Count() == 0) return;
     for (; parent && !above; parent = parent->Parent()) above = parent == element;
@@ -81,9 +81,9 @@ std::int32_t TestContainer::ITestContainer_Count() const {
 
 std::shared_ptr<orvik::ITestElement> TestContainer::ITestContainer_item(std::int32_t lIndex) const {
   if (lIndex < 1 || static_cast<std::size_t>(lIndex) > children_->Size())
-    throw HostError(
-        HostError::kSubscriptOutOfRange, kContainerSource,
-        Tr("there is no element %%1 of %%2", {std::to_string(lIndex), std::to_string(children_->Size())}));
+    throw HostError(HostError::kSubscriptOutOfRange, kContainerSource,
+                    Tr("element %%1 is out of range (1 to %%2)",
+                       {std::to_string(lIndex), std::to_string(children_->Size())}));
   return children_->At(static_cast<std::size_t>(lIndex) - 1);
 }
 

@@ -10,14 +10,14 @@ namespace bench {
 
 class ChildList;
 
-/// The standard element with children. Each child stands in one container only: one that is added again, or
-/// to another container, is moved.
+/// The standard element with children. A child has one container: adding it again, or to another container,
+/// moves it.
 class TestContainer final : public TestElement, public orvik::ITestContainer {
  public:
   explicit TestContainer(std::weak_ptr<ElementFactory> factory);
   ~TestContainer() override;
 
-  /// Adds the element saved in the node. One that no plug-in knows is kept as it is.
+  /// Adds the element saved in the node. An unknown element is kept as it is.
   void AddSaved(const std::shared_ptr<orvik::IXmlNode>& element);
   /// Adds the child to the node, counted from 0; `HostError` when it cannot be saved.
   void SaveChild(std::size_t index, const std::shared_ptr<orvik::IXmlNode>& node) const;

@@ -31,7 +31,7 @@ std::shared_ptr<orvik::IXmlNode> ScratchRoot(const std::string& name) {
 
 }  // namespace
 
-TestElement::~TestElement() { information_->ForgetElement(); }
+TestElement::~TestElement() { LeaveFactory(); }
 
 std::shared_ptr<orvik::IBaseElement> TestElement::Self() const {
   const auto self = std::const_pointer_cast<IObject>(weak_from_this().lock());
@@ -42,7 +42,7 @@ std::string TestElement::IObject_ClassID() const { return orvik::HostClasses::kT
 
 std::shared_ptr<orvik::ITestElement> TestElement::Shown() const {
   if (auto outer = outer_.lock()) return outer;
-  // The element is only told from others by it; nobody changes it through this reference.
+  // Callers only compare identity, so the const_cast in `Self` is safe.
   return Self();
 }
 
@@ -52,8 +52,8 @@ std::shared_ptr<TestElement> TestElement::NewOfSameClass() const {
   return std::make_shared<TestElement>(factory_);
 }
 
-/// Runs a step; a failure is noted for the document, which sits beyond a plug-in that ignores it, and goes on
-/// to the caller.
+/// Runs a step. Notes a failure for the document, since the plug-in in between ignores errors, and rethrows
+/// it.
 template <class Step>
 auto TestElement::Noted(std::ptrdiff_t offset, Step step) const {
   try {
@@ -73,8 +73,13 @@ void TestElement::ITestElement_Initialize(const std::string& sPlugInID, std::int
   testId_ = lTestID;
 }
 
+void TestElement::LeaveFactory() {
+  if (const auto factory = factory_.lock(); factory && wrappedBy_) factory->ForgetWrapped(wrappedBy_);
+  wrappedBy_ = nullptr;
+}
+
 void TestElement::ITestElement_Terminate() {
-  wrapped_.Leave();
+  LeaveFactory();
   outer_.reset();
 }
 
@@ -129,7 +134,7 @@ void TestElement::IBaseElement_SetLimits(std::shared_ptr<orvik::ILimitData> Limi
 }
 
 void TestElement::IBaseElement_SetResult(std::shared_ptr<orvik::IResultData> Result) {
-  // What an older file said beside a result belongs to that result alone.
+  // Unknown XML next to a result belongs to that result; drop it when the result changes.
   if (Result != result_) resultLeftovers_ = {};
   result_ = std::move(Result);
 }
@@ -140,10 +145,10 @@ std::shared_ptr<orvik::IAuxiliaryState> TestElement::IBaseElement_Auxiliary() co
 }
 
 void TestElement::IBaseElement_SetOuter(std::shared_ptr<ITestElement> iteOuter) {
-  wrapped_.Leave();
+  LeaveFactory();
   outer_ = iteOuter;
-  const auto factory = factory_.lock();
-  if (iteOuter && factory) wrapped_.Join(factory->Wrapped(), iteOuter.get());
+  wrappedBy_ = iteOuter.get();
+  if (const auto factory = factory_.lock(); factory && iteOuter) factory->SetWrapped(wrappedBy_, Self());
   OuterChanged();
 }
 
@@ -228,13 +233,12 @@ void TestElement::LoadElement(const std::shared_ptr<orvik::IXmlNode>& node,
   }
 }
 
-/// A saved reading that is no number is read as 0, or as the number that it begins with: it must not pass.
-/// What a file has no limits for has none.
+/// A file without limits must not leave those of the catalogue's copy in place.
 void TestElement::ClearLimits() {
   if (limits_ && limits_->Standards()) limits_->Load(ScratchRoot(tags::kExpectedResult), nullptr);
 }
 
-/// @return false when the part is not known, or there is nothing that could hold it
+/// @return false when the part is unknown, or the element cannot hold it
 bool TestElement::LoadPart(pugi::xml_node part, XmlReference& reference,
                            const std::shared_ptr<IObject>& context) {
   const auto is = [name = part.name()](const char* tag) { return xml::SameName(name, tag); };
@@ -249,7 +253,7 @@ bool TestElement::LoadPart(pugi::xml_node part, XmlReference& reference,
     limits_->Load(reference.To(part), context);
   } else if (is(tags::kResultItem) && !outer_.expired()) {
     Shown()->Load(reference.To(part), context);
-    // The plug-in's element ignores errors, but a result must not vanish.
+    // The plug-in's element ignores errors, but a result must not be lost.
     if (!result_)
       throw HostError(HostError::kInvalidArgument, kElementSource, Tr("the result could not be read"));
   } else {

@@ -25,19 +25,14 @@ class XmlReference;
 ///       <TestElement .../>       children, in a container
 ///     </TestElement>
 ///
-/// "Class" is the class of the outermost element. What a loader does not know is kept and written back.
+/// "Class" is the class of the outermost element. Unknown XML is kept and written back.
 class TestElement : public orvik::IBaseElement {
  public:
   explicit TestElement(std::weak_ptr<ElementFactory> factory) : factory_(std::move(factory)) {}
   ~TestElement() override;
 
-  /// Whether `element` stands around this one.
-  bool IsInside(const ITestElement& element) const { return outer_.lock().get() == &element; }
-  /// Nothing while the element ends.
-  std::shared_ptr<IBaseElement> Self() const;
-
  protected:
-  /// The element that others see: the plug-in's element around this one, else this one.
+  /// This element as others see it: the plug-in's element that wraps it, else this one.
   std::shared_ptr<ITestElement> Shown() const;
   /// The factory; `HostError` 91 when the host is gone.
   std::shared_ptr<ElementFactory> Factory() const;
@@ -45,7 +40,7 @@ class TestElement : public orvik::IBaseElement {
 
   /// A new element of the same class.
   virtual std::shared_ptr<TestElement> NewOfSameClass() const;
-  /// What a container adds to the deep operations.
+  /// A container's part of the deep operations.
   virtual bool HasChildren() const { return false; }
   virtual void CloneChildren(TestElement&) const {}
   virtual void SaveChildren(const std::shared_ptr<orvik::IXmlNode>&) const {}
@@ -98,6 +93,8 @@ class TestElement : public orvik::IBaseElement {
   std::shared_ptr<orvik::IAuxiliaryState> IBaseElement_Auxiliary() const override;
   void IBaseElement_SetOuter(std::shared_ptr<ITestElement> iteOuter) override;
 
+  std::shared_ptr<IBaseElement> Self() const;
+  void LeaveFactory();
   void CopyTo(TestElement& copy) const;
   std::shared_ptr<orvik::IResultData> CopyOfResult() const;
   void LoadElement(const std::shared_ptr<orvik::IXmlNode>& node, const std::shared_ptr<IObject>& context);
@@ -116,9 +113,9 @@ class TestElement : public orvik::IBaseElement {
   std::string plugInId_;
   std::weak_ptr<ITestElement> parent_;
   std::weak_ptr<ITestElement> outer_;
-  WrappedElements::Link wrapped_{*this};
-  std::shared_ptr<InformationRecord> information_ = std::make_shared<InformationRecord>(this);
-  /// Created when somebody asks for it: few elements differ from the default.
+  const ITestElement* wrappedBy_ = nullptr;  ///< as the factory has it
+  std::shared_ptr<InformationRecord> information_ = std::make_shared<InformationRecord>();
+  /// Created on first use: few elements differ from the default.
   mutable std::shared_ptr<AuxiliaryState> auxiliary_;
   std::shared_ptr<orvik::IConfigData> configuration_;
   std::shared_ptr<orvik::ILimitData> limits_;

@@ -26,7 +26,7 @@ TestKind TestKinds::Learned(const std::string& plugInId, std::int32_t testId,
   kind.readable = ofClass || (inCatalogue && classId.empty());
   kind.sequence = orvik::As<orvik::ITestContainer>(classId.empty() ? shown : ofClass) != nullptr;
   if (!plugIn)
-    kind.fault = Tr("its plug-in \"%%1\" is not there", {plugInId});
+    kind.fault = Tr("its plug-in \"%%1\" is missing", {plugInId});
   else if (!kind.readable)
     kind.fault = Tr("its class \"%%1\" is not known", {classId});
   else if (!inCatalogue)

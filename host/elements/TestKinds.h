@@ -10,21 +10,22 @@
 
 namespace bench {
 
-/// What is known of the test that an element stands for.
+/// What the catalogue says of an element's test.
 struct TestKind {
-  std::string fault;      ///< why it is no test of the catalogue, for people; empty when it is one
-  bool readable = false;  ///< there is a class that reads what was saved
+  std::string fault;      ///< why the catalogue does not have it, as a sentence; empty when it does
+  bool readable = false;  ///< a class can load the saved element
   bool sequence = false;
-  std::optional<std::string> unit;  ///< that its readings are recorded in
+  std::optional<std::string> unit;  ///< in which readings are recorded
 };
 
-/// The tests that elements stand for, each looked up once. A result of what the catalogue does not know
-/// counts for nothing: nobody can say what was measured.
+/// Looks up the tests of elements, each once. A result of an unknown test does not count, since it is unknown
+/// what was measured.
 class TestKinds {
  public:
   explicit TestKinds(const ElementFactory& factory) : factory_(factory) {}
 
-  /// @param classId of the element; empty when it was not told. The answer is valid as long as this object.
+  /// @param classId class of the element; empty when it is not saved
+  /// @return valid as long as this object
   const TestKind& Of(const std::string& plugInId, std::int32_t testId, const std::string& classId);
 
  private:

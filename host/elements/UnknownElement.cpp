@@ -22,7 +22,7 @@ void UnknownElement::ITestElement_Load(std::shared_ptr<orvik::IXmlNode> Node, st
   saved_.append_copy(node);
   const std::string name = node.child(tags::kInformation).attribute(tags::kDisplayName).value();
   const auto shown = name.empty() ? Tr("test %%1", {std::to_string(TestID())}) : name;
-  Texts().SetDisplayName(Tr("%%1 (unknown: the plug-in \"%%2\" is not there)", {shown, PlugInID()}));
+  Texts().SetDisplayName(Tr("%%1 (unknown: the plug-in \"%%2\" is missing)", {shown, PlugInID()}));
 }
 
 std::shared_ptr<orvik::IXmlNode> UnknownElement::ITestElement_Save(

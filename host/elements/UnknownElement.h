@@ -7,7 +7,7 @@
 
 namespace bench {
 
-/// A saved element whose plug-in is not there. It cannot be run; it is shown as unknown and saved as it was
+/// A saved element whose plug-in is missing. It is shown as unknown, cannot be run, and is saved as it was
 /// read, with everything below it.
 class UnknownElement final : public TestElement {
  public:

@@ -17,9 +17,9 @@ constexpr char kInstrument[] = "Instrument";
 
 std::shared_ptr<orvik::IInstrumentRecord> InstrumentColl::IInstrumentColl_item(std::int32_t lIndex) const {
   if (lIndex < 1 || static_cast<std::size_t>(lIndex) > records_.size())
-    throw HostError(
-        HostError::kSubscriptOutOfRange, kInstrumentsSource,
-        Tr("there is no instrument %%1 of %%2", {std::to_string(lIndex), std::to_string(records_.size())}));
+    throw HostError(HostError::kSubscriptOutOfRange, kInstrumentsSource,
+                    Tr("instrument %%1 is out of range (1 to %%2)",
+                       {std::to_string(lIndex), std::to_string(records_.size())}));
   return records_[static_cast<std::size_t>(lIndex) - 1];
 }
 

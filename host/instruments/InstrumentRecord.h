@@ -18,7 +18,7 @@ namespace bench {
 ///     </Instrument>
 class InstrumentRecord final : public orvik::IInstrumentRecord {
  public:
-  /// Reads the record; `XmlError` for an index that is no number.
+  /// Reads the record; throws `XmlError` for an index that is not a number.
   void Load(pugi::xml_node node);
   /// Adds the record to the parent.
   void Save(pugi::xml_node parent) const;

@@ -8,8 +8,8 @@
 #include "host/document/Equipment.h"
 #include "host/document/RunRecord.h"
 
-/// What the judge is given: a document as it is now, and the record of its runs. Plain data, so that a
-/// verdict depends on nothing else.
+/// The judge's input: a document as it is now, and the record of its runs. Plain data, so that a verdict
+/// cannot depend on anything else.
 namespace bench::judge {
 
 /// One limit of a standard as it is now.
@@ -39,7 +39,7 @@ struct SavedResult {
   std::int32_t measurementStatus = 0;
 };
 
-/// How a group's value is made of its children's.
+/// Which of its children's readings becomes a group's value.
 enum class Filter { kNoValue, kMaximum, kMinimum };
 
 struct CaseElement {

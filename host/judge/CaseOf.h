@@ -13,7 +13,7 @@ class ElementFactory;
 
 namespace bench::judge {
 
-/// The document as the judge is given it. It refers to the document's runs, which must outlive it.
+/// The judge's input for a document. Refers to the document's runs, which must outlive it.
 /// @param selected the standards of this view; empty for every standard that an element names
 Case CaseOf(const Document& document, const ElementFactory& factory, std::vector<std::string> selected = {});
 

@@ -7,8 +7,8 @@
 
 namespace bench::judge {
 
-/// Why the element's last record says nothing of the element as it is now: not recorded, not finished,
-/// another test, other settings, other equipment, or another result in the document. None when it is current.
+/// Why the element's last record does not apply to the element as it is now: not recorded, not finished, or
+/// with another test, settings, equipment or saved result. None when it is current.
 std::optional<Reason> NotCurrent(const CaseElement& element, const LastRecord& last,
                                  const Equipment& equipment);
 

@@ -16,7 +16,7 @@ Measurement MeasurementOf(const SavedResult& saved) {
   return {saved.value, saved.unit, saved.flags, saved.measurementStatus};
 }
 
-/// What does not depend on any record.
+/// The part of a result that does not depend on any record.
 JudgedElement Unjudged(const CaseElement& element, const std::vector<std::string>& selected) {
   JudgedElement judged;
   judged.id = element.id;
@@ -36,7 +36,7 @@ JudgedElement Unjudged(const CaseElement& element, const std::vector<std::string
   return judged;
 }
 
-void TakeOrigin(const LastRecord& last, JudgedElement& judged) {
+void SetOrigin(const LastRecord& last, JudgedElement& judged) {
   judged.run = last.run->number;
   judged.at = last.test->at;
   judged.by = last.run->by;
@@ -59,26 +59,20 @@ void ListStandards(const Case& document, JudgedDocument& judged) {
   }
 }
 
-}  // namespace
+void DescribeRuns(const Case& document, JudgedDocument& judged) {
+  if (!document.runs || document.runs->empty()) return;
+  judged.simulated = std::any_of(document.runs->begin(), document.runs->end(),
+                                 [](const RunRecord& run) { return run.simulated; });
+  judged.run = document.runs->back().number;
+}
 
-JudgedDocument Judge(const Case& document) {
+/// From last to first, since a group's verdict depends on its children, which follow it.
+void JudgeElements(const Case& document, std::vector<JudgedElement>& elements) {
   const Records records(document.runs);
-  JudgedDocument judged;
-  if (document.runs && !document.runs->empty()) {
-    judged.simulated = std::any_of(document.runs->begin(), document.runs->end(),
-                                   [](const RunRecord& run) { return run.simulated; });
-    judged.run = document.runs->back().number;
-  }
-  ListStandards(document, judged);
-  judged.elements.reserve(document.elements.size());
-  for (const auto& element : document.elements)
-    judged.elements.push_back(Unjudged(element, document.selected));
-
-  // From the end: children come after their parents, whose verdict depends on theirs.
   std::unordered_map<std::int32_t, std::vector<Child>> children;
   for (auto place = document.elements.size(); place-- > 0;) {
     const auto& element = document.elements[place];
-    auto& result = judged.elements[place];
+    auto& result = elements[place];
     const auto last = records.Of(element.id);
     std::vector<Child> below;
     if (element.group) {
@@ -90,7 +84,7 @@ JudgedDocument Judge(const Case& document) {
     if (reason) {
       result.reasons.push_back(std::move(*reason));
     } else {
-      TakeOrigin(last, result);
+      SetOrigin(last, result);
       if (element.group)
         JudgeGroup(element, last, below, result);
       else
@@ -98,6 +92,18 @@ JudgedDocument Judge(const Case& document) {
     }
     if (element.parent != 0) children[element.parent].push_back({&result, last});
   }
+}
+
+}  // namespace
+
+JudgedDocument Judge(const Case& document) {
+  JudgedDocument judged;
+  DescribeRuns(document, judged);
+  ListStandards(document, judged);
+  judged.elements.reserve(document.elements.size());
+  for (const auto& element : document.elements)
+    judged.elements.push_back(Unjudged(element, document.selected));
+  JudgeElements(document, judged.elements);
   judged.outcome = OutcomeOf(judged.elements);
   return judged;
 }

@@ -5,10 +5,10 @@
 
 namespace bench::judge {
 
-/// What counts. A result counts when it is current: the last run that took up the element finished it, as the
-/// same test with the same settings on the same equipment, its record is as it was written, and what the
-/// plug-in saved agrees with it. Value and judgement are computed again from what the tester said; where that
-/// differs from the plug-in's, the element is doubtful. Nothing that was saved is believed.
+/// Decides what counts. A result counts when it is current: the last run that took up the element finished
+/// it, as the same test with the same settings on the same equipment; its record is unchanged; and the result
+/// that the plug-in saved agrees with it. Value and judgement are computed again from the tester's replies.
+/// Where they differ from the plug-in's, the element is doubtful. No saved verdict is trusted.
 JudgedDocument Judge(const Case& document);
 
 }  // namespace bench::judge

@@ -15,8 +15,8 @@
 namespace bench::judge {
 namespace {
 
-/// The value that the filter makes of the children's readings, in the unit of the first; no value when the
-/// filter gives none, or no child has one.
+/// The value that the filter selects from the children's readings, in the unit of the first reading. None
+/// when the filter gives no value, or no child has one.
 Reading SummaryOf(const CaseElement& element, const std::vector<Child>& children) {
   Reading summary;
   if (element.filter == Filter::kNoValue) return summary;
@@ -35,7 +35,7 @@ Reading SummaryOf(const CaseElement& element, const std::vector<Child>& children
   return summary;
 }
 
-/// The worst that a child is; what decides about the group.
+/// Gives the group the worst verdict of its children.
 void FollowChildren(const std::vector<Child>& children, JudgedElement& judged) {
   constexpr std::array kWorstFirst{Verdict::kFailed,    Verdict::kDoubtful,     Verdict::kAborted,
                                    Verdict::kNotTested, Verdict::kNotJudged,    Verdict::kPassed,
@@ -61,7 +61,7 @@ void JudgeSummary(const CaseElement& element, const LastRecord& last, const std:
   judged.value = summary.value;
   judged.unit = summary.unit;
   const auto recorded = last.test->recorded ? FiniteNumber(last.test->recorded->value) : std::nullopt;
-  // The plug-in has no unit for a group and looks for the extreme by number.
+  // The plug-in has no unit for a group: it compares the bare numbers.
   const bool same = summary.value.has_value() == recorded.has_value() &&
                     (!recorded || SameNumber(*summary.value, *recorded));
   const bool anyLimit = std::any_of(judged.limits.begin(), judged.limits.end(),

@@ -18,7 +18,7 @@ bool HasSelectedLimit(const JudgedElement& judged) {
 
 void JudgeNotApplicable(const RecordedTest& test, std::vector<Reason> doubts, JudgedElement& judged) {
   const bool byOperator = test.by == RecordedTest::By::kOperator;
-  // A tester that lacks the test says nothing of the equipment.
+  // That the tester lacks the test does not clear the equipment.
   if (!byOperator && HasSelectedLimit(judged)) doubts.insert(doubts.begin(), {"refused-with-limits", {}});
   judged.verdict = doubts.empty() ? Verdict::kNotApplicable : Verdict::kDoubtful;
   judged.reasons = std::move(doubts);
@@ -57,7 +57,7 @@ void JudgeReading(const CaseElement& element, const LastRecord& last, std::vecto
 
   judged.reasons = std::move(findings.broke);
   const bool failed = last.test->status == orvik::ResultStatus::kFailed || (findings.broken && !differs);
-  // A reading beyond the range is reason enough: its number is the range's end.
+  // For an overload the reason is there already; its number is only the end of the range.
   if (last.test->status == orvik::ResultStatus::kFailed && judged.reasons.empty() && !put.overload)
     judged.reasons.push_back({"failed-by-plug-in", {}});
   if (failed)

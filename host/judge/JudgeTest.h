@@ -9,10 +9,10 @@ namespace bench::judge {
 /// Judges a single test whose record is current.
 void JudgeTest(const CaseElement& element, const LastRecord& last, JudgedElement& judged);
 
-/// What was noted while the element ran, and what its record itself raises.
+/// The doubts noted while the element ran, and those about its record.
 std::vector<Reason> RecordDoubts(const CaseElement& element, const LastRecord& last);
 
-/// Adds the reason unless one of its code is there.
+/// Adds the reason unless there is one with the same code.
 void AddOnce(std::vector<Reason>& reasons, Reason reason);
 
 }  // namespace bench::judge

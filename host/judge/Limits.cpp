@@ -14,7 +14,7 @@ std::string NameOf(const JudgedLimit& limit) {
 }
 
 LimitVerdict Compared(double value, const JudgedLimit& limit) {
-  // Bounds in single precision too, or 0.3 would break the bound 0.3.
+  // Bounds in single precision too, or 0.3 would exceed the bound 0.3.
   const auto reading = static_cast<float>(value);
   if (limit.low && !(reading >= static_cast<float>(*limit.low))) return LimitVerdict::kBelow;
   if (limit.high && !(reading <= static_cast<float>(*limit.high))) return LimitVerdict::kExceeded;

@@ -9,7 +9,7 @@
 
 namespace bench::judge {
 
-/// A reading that limits are put to.
+/// A reading to compare with limits.
 struct Judged {
   std::optional<double> value;  ///< by the judge's own arithmetic
   std::string unit;
@@ -17,19 +17,19 @@ struct Judged {
   bool overload = false;
 };
 
-/// What the limits of one element say of its reading.
+/// The result of comparing a reading with an element's limits.
 struct LimitFindings {
   bool judged = false;         ///< at least one selected limit was compared
-  bool broken = false;         ///< one is broken by the judge's arithmetic and by the plug-in's
-  std::vector<Reason> broke;   ///< the broken ones
-  std::vector<Reason> doubts;  ///< where the two differ, or nothing can be compared
+  bool broken = false;         ///< one is exceeded, by the judge's and by the plug-in's arithmetic
+  std::vector<Reason> broke;   ///< those exceeded
+  std::vector<Reason> doubts;  ///< where the two differ, or units cannot be compared
 };
 
 /// The element's limits that have a bound, none of them applied yet.
 /// @param selected names of standards; empty for all
 std::vector<JudgedLimit> LimitsOf(const CaseElement& element, const std::vector<std::string>& selected);
 
-/// Puts the reading to the selected limits: inclusive bounds in single precision, as the plug-in has them,
+/// Compares the reading with the selected limits: inclusive bounds in single precision, like the plug-in's,
 /// but in the limit's own unit.
 LimitFindings PutToLimits(const CaseElement& element, const Judged& reading,
                           std::vector<JudgedLimit>& limits);

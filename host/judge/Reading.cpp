@@ -1,7 +1,6 @@
 #include "host/judge/Reading.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 #include <memory>
 
@@ -16,11 +15,10 @@ namespace bench::judge {
 namespace {
 
 constexpr char kOhm[] = "Ohm", kMilliohm[] = "mOhm";
-/// Two readings of the same leads, in mOhm, may be so far apart: what clips and sockets do to them
-/// (practice).
+/// Two readings of the same leads, in mOhm, may differ by this much, due to clips and sockets (practice).
 constexpr double kSpreadOfLeads = 20;
 
-/// The reply that was the result; null without one, or with several that differ.
+/// The reply with the result; null without one, or with several different ones.
 std::shared_ptr<Message> ResultIn(const RecordedTest& test, std::vector<Reason>& doubts) {
   std::shared_ptr<Message> result;
   for (const auto& line : test.said) {
@@ -36,7 +34,7 @@ std::shared_ptr<Message> ResultIn(const RecordedTest& test, std::vector<Reason>&
   return result;
 }
 
-/// Takes the resistance of the test leads away; what is left is never negative.
+/// Subtracts the resistance of the test leads; the result is never negative.
 void CorrectByLeads(Reading& reading, const RecordedTester* tester) {
   const auto milliohms = InUnit(*reading.value, reading.unit, kMilliohm);
   if (!tester || !milliohms) return;
@@ -68,7 +66,7 @@ Reading ReadingOf(const CaseElement& element, const RecordedTest& test, const Re
     reading.doubts.push_back({"unit-of-test", {reading.unit, element.expectedUnit}});
     return reading;
   }
-  // The tester's ohms are recorded in the unit of the test; other units stay.
+  // Ohms are recorded in the unit of the test, other units as the tester sent them.
   if (reading.unit == kOhm && !element.expectedUnit.empty()) {
     reading.value = InUnit(*reading.value, kOhm, element.expectedUnit);
     reading.unit = element.expectedUnit;
@@ -83,9 +81,7 @@ bool SameNumber(double one, double other) {
 }
 
 std::string NumberText(double number, const std::string& unit) {
-  char buffer[64];
-  const auto end = std::to_chars(buffer, buffer + sizeof buffer, number, std::chars_format::general, 15).ptr;
-  std::string text(buffer, end);
+  const auto text = orvik::NumberText(number);
   return unit.empty() ? text : text + " " + unit;
 }
 

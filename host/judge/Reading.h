@@ -9,9 +9,9 @@
 
 namespace bench::judge {
 
-/// A reading by the judge's own arithmetic, from what the tester said.
+/// A reading by the judge's own arithmetic, from the tester's replies.
 struct Reading {
-  std::optional<double> value;  ///< none when the tester said no number
+  std::optional<double> value;  ///< none when the tester sent no number
   std::string unit;
   std::vector<Reason> doubts;
 };
@@ -20,10 +20,10 @@ struct Reading {
 /// @param tester whose test leads correct it; null when none is recorded
 Reading ReadingOf(const CaseElement& element, const RecordedTest& test, const RecordedTester* tester);
 
-/// Whether two numbers are the same but for what is lost when they are written with 15 digits.
+/// Whether two numbers are equal when written with 15 digits.
 bool SameNumber(double one, double other);
 
-/// A number for people and reasons: at most 15 digits; with its unit, when there is one.
+/// A number with at most 15 digits, and its unit if there is one.
 std::string NumberText(double number, const std::string& unit = {});
 
 }  // namespace bench::judge

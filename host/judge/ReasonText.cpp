@@ -15,7 +15,7 @@ namespace {
 
 using Entry = std::pair<std::string_view, const char*>;
 
-// By code. A sentence names the arguments in the order in which the reason has them.
+// By code. %%1 to %%9 are the reason's arguments in order.
 constexpr Entry kSentences[] = {
     // Seen on the wire while the element ran.
     {"late-reply", Marked("a reply was already waiting when \"%%1\" was sent: it was late, or sent twice")},
@@ -23,11 +23,10 @@ constexpr Entry kSentences[] = {
     {"other-test-named", Marked("the reply \"%%1\" names another test or setting than the command \"%%2\"")},
     {"reading-fields", Marked("the reading \"%%1\" has %%2 fields instead of %%3")},
     {"not-a-number", Marked("the reading \"%%1\" is not a number")},
-    {"negative-reading",
-     Marked("the reading \"%%1\" is negative; an upper limit would take it for a small one")},
+    {"negative-reading", Marked("the reading \"%%1\" is negative, which an upper limit would accept")},
     {"overload-mark", Marked("the overload mark \"%%1\" of the reading is neither 0 nor 1")},
     {"overload", Marked("overload (OL): the reading is beyond the tester's range")},
-    {"unknown-unit", Marked("the reading's unit \"%%1\" is none that the tester measures in")},
+    {"unknown-unit", Marked("the reading's unit \"%%1\" is not a unit of this tester")},
     {"refused-now",
      Marked("the tester refused the test as not allowed now (1003), not because it lacks the test")},
     {"refused-elsewhere",
@@ -40,15 +39,14 @@ constexpr Entry kSentences[] = {
     // By the judge's own arithmetic.
     {"several-readings", Marked("the tester sent two different readings: \"%%1\" and \"%%2\"")},
     {"no-reading", Marked("the record holds no reading of the tester")},
-    {"unit-of-test",
-     Marked("the reading is in \"%%1\", which this test cannot have (it is recorded in %%2)")},
+    {"unit-of-test", Marked("the reading is in \"%%1\", which this test cannot have; it is recorded in %%2")},
     {"below-leads",
      Marked(
          "the reading of %%1 mOhm is less than the %%2 mOhm of the test leads; calibrate the leads again")},
     {"leads-implausible",
-     Marked("the test leads were taken as %%1 mOhm; more than 500 mOhm or less than 0 cannot be right, "
+     Marked("the test leads were stored as %%1 mOhm, which is not between 0 and 500 mOhm; "
             "calibrate the leads again")},
-    {"arithmetic-differs", Marked("by the tester's reply the reading is %%1, but the plug-in recorded %%2")},
+    {"arithmetic-differs", Marked("the tester replied %%1, but the plug-in recorded %%2")},
     {"judged-differently",
      Marked("%%1: the reading is %%2, but the plug-in compared the bare number %%3 with limits in %%4")},
     {"limit-unit", Marked("%%1: limits in \"%%2\" cannot be compared with a reading in \"%%3\"")},
@@ -60,7 +58,7 @@ constexpr Entry kSentences[] = {
     {"below-limit", Marked("%%1: %%2 is below the limit of %%3")},
     {"failed-by-plug-in",
      Marked("failed when it was run, by a limit that has been changed since or that this view leaves out")},
-    {"no-children", Marked("the group has no tests any more")},
+    {"no-children", Marked("the group has no tests left")},
     {"child", Marked("element %%1 of the group is %%2")},
     {"refused-with-limits",
      Marked("the tester refused the test although limits are selected for it; nothing was measured")},
@@ -73,26 +71,25 @@ constexpr Entry kSentences[] = {
     // Why a result is not current.
     {"never-run", Marked("not run yet")},
     {"not-recorded", Marked("the saved result was not recorded by a run")},
-    {"not-finished", Marked("run %%1 took it up and did not finish it")},
+    {"not-finished", Marked("run %%1 started it and did not finish it")},
     {"other-test", Marked("run %%1 measured another test, %%2")},
     {"other-equipment", Marked("run %%1 measured other equipment: %%2 was \"%%3\" and is \"%%4\"")},
     {"other-settings", Marked("the settings that decide what is measured were changed after run %%1")},
     {"other-status",
      Marked("the saved result is not the one of run %%1: recorded as \"%%2\", saved as \"%%3\"")},
     {"other-reading", Marked("the saved reading is not the one that run %%1 recorded")},
-    {"older-than-child",
-     Marked("element %%1 of the group was taken up again by run %%2; run the group again")},
+    {"older-than-child", Marked("element %%1 of the group was run again in run %%2; run the group again")},
     {"skipped", Marked("skipped by the operator")},
     {"no-result", Marked("it ended without a result")},
     {"aborted", Marked("aborted by the operator")},
     // Why nothing was judged.
-    {"no-limit", Marked("no limit: give it one, or mark it as record only")},
+    {"no-limit", Marked("no limit: set one, or mark it as record only")},
     {"limits-left-out", Marked("its limits are of standards that this view leaves out")},
     {"group-without-value",
      Marked("the group's limits judge nothing: its value filter gives no value, or nothing was measured")},
 };
 
-/// Arguments that are words of this program, told in the reader's language too.
+/// The reason's arguments; those that are words of this program are translated.
 std::vector<std::string> Translated(const Reason& reason) {
   static constexpr std::array<std::string_view, 4> kWithWords{"changed-after-finish", "child", "service-code",
                                                               "other-status"};
@@ -103,7 +100,7 @@ std::vector<std::string> Translated(const Reason& reason) {
     if (values[1] == "maker") values[1] = Tr("the maker");
     if (values[1] == "model") values[1] = Tr("the model");
   }
-  // The record keeps the plug-in's numbers.
+  // Recorded as the plug-in's status numbers.
   if (reason.code == "changed-after-finish")
     for (auto& value : values) value = StatusText(WholeNumber(value).value_or(-1));
   if (std::find(kWithWords.begin(), kWithWords.end(), reason.code) != kWithWords.end())

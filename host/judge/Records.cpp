@@ -18,7 +18,7 @@ Records::Records(const std::vector<RunRecord>* runs) {
       }
     }
   }
-  // A changed run may have hidden what it or a run before it did with any element.
+  // A changed run may hide later records of any element, so no record up to it can be trusted.
   for (auto& [id, record] : last_) record.changed = record.run - runs->data() < lastChanged;
 }
 

@@ -9,7 +9,7 @@
 
 namespace bench::judge {
 
-/// What the runs say last of one element.
+/// The last record of an element.
 struct LastRecord {
   const RunRecord* run = nullptr;      ///< the last run that took it up; null when none did
   const RecordedTest* test = nullptr;  ///< null while that run has not finished it
@@ -17,7 +17,7 @@ struct LastRecord {
   bool changed = false;                ///< this run or a later one was changed or removed by another program
 };
 
-/// The runs of a document, read once from the oldest to the newest.
+/// The last record of each element, from the runs of a document.
 class Records {
  public:
   /// @param runs must outlive this object; null for none

@@ -1,75 +1,43 @@
 #include "host/judge/Verdict.h"
 
 #include <algorithm>
+#include <array>
 
 #include "OrvikTypeLib/Codes.h"
 #include "host/base/Tr.h"
 
 namespace bench::judge {
 
-std::string VerdictText(Verdict verdict) {
-  switch (verdict) {
-    case Verdict::kFailed:
-      return Marked("failed");
-    case Verdict::kDoubtful:
-      return Marked("doubtful");
-    case Verdict::kAborted:
-      return Marked("aborted");
-    case Verdict::kNotTested:
-      return Marked("not tested");
-    case Verdict::kNotJudged:
-      return Marked("not judged");
-    case Verdict::kRecorded:
-      return Marked("recorded");
-    case Verdict::kNotApplicable:
-      return Marked("not applicable");
-    case Verdict::kPassed:
-      break;
-  }
-  return Marked("passed");
-}
+namespace {
 
-std::string OutcomeText(Outcome outcome) {
-  switch (outcome) {
-    case Outcome::kPassed:
-      return Marked("passed");
-    case Outcome::kFailed:
-      return Marked("failed");
-    case Outcome::kIncomplete:
-      break;
-  }
-  return Marked("incomplete");
+// Each in the order of its enumeration.
+constexpr std::array kVerdicts{Marked("failed"),         Marked("doubtful"),   Marked("aborted"),
+                               Marked("not tested"),     Marked("not judged"), Marked("recorded"),
+                               Marked("not applicable"), Marked("passed")};
+constexpr std::array kOutcomes{Marked("passed"), Marked("failed"), Marked("incomplete")};
+constexpr std::array kStatuses{Marked("not tested"), Marked("passed"), Marked("failed"),
+                               Marked("not applicable"), Marked("aborted")};
+constexpr std::array kLimitVerdicts{Marked("not judged"), Marked("passed"), Marked("failed"),
+                                    Marked("failed"), Marked("not judged")};
+static_assert(kVerdicts.size() == static_cast<std::size_t>(Verdict::kPassed) + 1);
+static_assert(kOutcomes.size() == static_cast<std::size_t>(Outcome::kIncomplete) + 1);
+static_assert(kStatuses.size() == static_cast<std::size_t>(orvik::ResultStatus::kAborted) + 1);
+static_assert(kLimitVerdicts.size() == static_cast<std::size_t>(LimitVerdict::kNotComparable) + 1);
+
+}  // namespace
+
+std::string VerdictText(Verdict verdict) { return kVerdicts.at(static_cast<std::size_t>(verdict)); }
+
+std::string OutcomeText(Outcome outcome) { return kOutcomes.at(static_cast<std::size_t>(outcome)); }
+
+std::string LimitVerdictText(LimitVerdict verdict) {
+  return kLimitVerdicts.at(static_cast<std::size_t>(verdict));
 }
 
 std::string StatusText(std::int32_t status) {
-  switch (status) {
-    case orvik::ResultStatus::kNotTested:
-      return Marked("not tested");
-    case orvik::ResultStatus::kPassed:
-      return Marked("passed");
-    case orvik::ResultStatus::kFailed:
-      return Marked("failed");
-    case orvik::ResultStatus::kNotApplicable:
-      return Marked("not applicable");
-    case orvik::ResultStatus::kAborted:
-      return Marked("aborted");
-    default:
-      return "unknown status " + std::to_string(status);
-  }
-}
-
-std::string LimitVerdictText(LimitVerdict verdict) {
-  switch (verdict) {
-    case LimitVerdict::kWithin:
-      return Marked("passed");
-    case LimitVerdict::kBelow:
-    case LimitVerdict::kExceeded:
-      return Marked("failed");
-    case LimitVerdict::kNotApplied:
-    case LimitVerdict::kNotComparable:
-      break;
-  }
-  return Marked("not judged");
+  const auto place = static_cast<std::size_t>(status);
+  return status >= 0 && place < kStatuses.size() ? kStatuses[place]
+                                                 : "unknown status " + std::to_string(status);
 }
 
 std::vector<std::string> JudgedElement::FailedStandards() const {

@@ -10,7 +10,7 @@
 
 namespace bench::judge {
 
-/// What an element's result counts for, from the worst.
+/// What an element's result counts as, from the worst.
 enum class Verdict {
   kFailed,
   kDoubtful,
@@ -36,10 +36,10 @@ enum class Outcome { kPassed, kFailed, kIncomplete };
 /// "passed", "failed", "incomplete".
 std::string OutcomeText(Outcome outcome);
 
-/// The plug-in's status as people read it: "not tested", "passed", "failed", "not applicable", "aborted".
+/// The plug-in's status as a word: "not tested", "passed", "failed", "not applicable", "aborted".
 std::string StatusText(std::int32_t status);
 
-/// What one limit says of the element's reading.
+/// The result of comparing the element's reading with one limit.
 enum class LimitVerdict {
   kNotApplied,  ///< there is no current reading, or the limit's standard is not selected
   kWithin,
@@ -79,23 +79,23 @@ struct JudgedElement {
   std::string name;
 
   Verdict verdict = Verdict::kNotTested;
-  /// Why, the weightiest first. Those of a passed element are only worth knowing.
+  /// Why, most important first. Those of a passed element are for information only.
   std::vector<Reason> reasons;
   /// Whether at least one selected limit judged the current reading.
   bool judged = false;
   bool recordOnly = false;
-  /// What the tester said, told by the judge's own arithmetic in the element's unit. None without a current
-  /// reading that has a number.
+  /// The tester's reading by the judge's own arithmetic, in the element's unit. None without a current
+  /// reading that is a number.
   std::optional<double> value;
   std::string unit;
   std::vector<JudgedLimit> limits;  ///< those with a bound
 
-  // What made the result; empty without a current one.
+  // Origin of the result; empty without a current one.
   std::int32_t run = 0;  ///< number of the run; 0 without a current result
   std::string at, by;
   std::optional<RecordedTester> tester;
 
-  // As the plug-in saved it, current or not.
+  // As the plug-in saved it, even if it is not current.
   std::int32_t status = 0;
   std::int32_t instrument = 0;
   std::string serviceCode, serviceValue, comment;
@@ -110,8 +110,8 @@ struct JudgedDocument {
   Outcome outcome = Outcome::kIncomplete;
   bool simulated = false;               ///< whether its runs were on a simulated tester
   std::int32_t run = 0;                 ///< number of the last run; 0 when there is none
-  std::vector<std::string> standards;   ///< names of those by which it was judged, each once
-  std::vector<std::string> leftOut;     ///< names of those that this view leaves out
+  std::vector<std::string> standards;   ///< names of the standards it was judged by, each once
+  std::vector<std::string> leftOut;     ///< names of the standards that this view leaves out
   std::vector<JudgedElement> elements;  ///< in document order, parents before children
 
   const JudgedElement* Find(std::int32_t id) const;

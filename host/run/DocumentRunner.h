@@ -12,12 +12,12 @@
 
 namespace bench {
 
-/// Performs elements one after the other, as the operator navigates.
+/// Performs elements in order, forwards and back as the operator navigates.
 class DocumentRunner {
  public:
   enum class End {
     kFinished,    ///< the last element has been left
-    kStopped,     ///< a stop was asked for
+    kStopped,     ///< a stop was requested
     kAborted,     ///< the operator ended the run
     kTesterLost,  ///< the tester cannot be reached: `Reason`
     kNotSaved     ///< the document cannot be saved: `Reason`
@@ -26,12 +26,12 @@ class DocumentRunner {
   DocumentRunner(std::shared_ptr<RunController> controller, LinkWatch& link, const StopRequest& stop)
       : controller_(std::move(controller)), link_(link), stop_(stop) {}
 
-  /// Raised before an element is performed: its place, counted from 1, the number of all, the element.
+  /// An element is about to be performed: its place from 1, the number of elements, the element.
   orvik::platform::Event<std::size_t, std::size_t, const std::shared_ptr<orvik::ITestElement>&>& Reached() {
     return reached_;
   }
 
-  /// Records the run and performs the elements; the session with the tester is over when it returns.
+  /// Records the run and performs the elements; returns when the session with the tester is closed.
   End Run(const RunRecorder::Heading& heading,
           const std::vector<std::shared_ptr<orvik::ITestElement>>& elements);
   const std::string& Reason() const { return reason_; }

@@ -10,7 +10,7 @@ namespace bench {
 
 namespace {
 
-/// A tester that keeps sending must not fill the document.
+/// Bounds the document's size when a tester never stops sending.
 constexpr std::size_t kMostSaid = 8;
 constexpr std::size_t kShownOfLine = 60;
 
@@ -24,11 +24,10 @@ const typename Lists::mapped_type& ListIn(const Lists& lists, std::int32_t id) {
 }  // namespace
 
 DoubtTracker::DoubtTracker(Wire& wire)
-    : watch_(wire.Subscribe([this](const WireRecord& record) { Watch(record); })) {}
+    : watch_(wire.Subscribe([this](const WireRecord& record) { OnWire(record); })) {}
 
 void DoubtTracker::ElementStarts(std::int32_t id) {
   running_ = id;
-  lastOhms_.reset();
   Forget(id);
   for (const auto& doubt : session_) Add(id, doubt);
 }
@@ -49,19 +48,17 @@ const std::vector<Reason>& DoubtTracker::Of(std::int32_t id) const { return List
 
 const std::vector<std::string>& DoubtTracker::Said(std::int32_t id) const { return ListIn(said_, id); }
 
-void DoubtTracker::Watch(const WireRecord& record) {
+void DoubtTracker::OnWire(const WireRecord& record) {
   switch (record.kind) {
     case WireRecord::Kind::kOpened:
       lastCommand_.reset();
       session_.clear();
       break;
     case WireRecord::Kind::kSent:
-      if (record.replyWaiting) Note({"late-reply", {VisibleLatin1(record.text)}});
-      lastCommand_.emplace(record.message->MnemonicText(), record.message->Parameters(),
-                           record.message->Line());
+      OnCommand(record);
       break;
     case WireRecord::Kind::kReceived:
-      TakeReply(*record.message);
+      OnReply(*record.message);
       break;
     case WireRecord::Kind::kDropped:
       Note({"invalid-line", {VisibleLatin1(record.text.substr(0, kShownOfLine))}});
@@ -74,14 +71,20 @@ void DoubtTracker::Watch(const WireRecord& record) {
   }
 }
 
-void DoubtTracker::TakeReply(const Message& reply) {
-  if (const auto ohms = OhmsIn(reply)) lastOhms_ = ohms;
+void DoubtTracker::OnCommand(const WireRecord& command) {
+  if (command.replyWaiting) Note({"late-reply", {VisibleLatin1(command.text)}});
+  lastCommand_.emplace(command.message->MnemonicText(), command.message->Parameters(),
+                       command.message->Line());
+}
+
+void DoubtTracker::OnReply(const Message& reply) {
   const auto& mnemonic = reply.MnemonicText();
   if (running_ && (mnemonic == keld_facts::kReading || mnemonic == keld_facts::kError)) {
     auto& said = said_[*running_];
     if (said.size() < kMostSaid) said.push_back(Utf8FromLatin1(reply.Line()));
   }
-  if (!lastCommand_) return;  // it waits, and is noted when a command goes out
+  // Before the first command: the reply stays in the queue, and that command notes it as late.
+  if (!lastCommand_) return;
   const auto doubts = ReplyDoubts(*lastCommand_, reply);
   if (mnemonic == keld_facts::kIdentity) session_.insert(session_.end(), doubts.begin(), doubts.end());
   for (const auto& doubt : doubts) Note(doubt);

@@ -34,7 +34,7 @@ void ClickButton(const platform::IForm& form, const std::string& button) {
 }
 
 void LeaveGuide(const platform::IApplication& application) {
-  // The innermost window first: behind it the guide does not answer.
+  // The prompt first: the guide does not react behind it.
   const auto form = application.ActiveForm();
   if (!form) return;
   if (form->Name() == guide::kPretestForm) ClickButton(*form, guide::kPretestOk);
@@ -43,7 +43,7 @@ void LeaveGuide(const platform::IApplication& application) {
   if (!guideForm || guideForm->Name() != guide::kGuideForm) return;
   const auto toolbar = GuideToolbar(*guideForm);
   if (!toolbar) return;
-  // While a test runs only stop acts, otherwise only next.
+  // Only one of them is enabled: stop while a test runs, next otherwise.
   toolbar->Click(guide::kStop);
   toolbar->Click(guide::kNext);
 }

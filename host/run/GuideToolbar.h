@@ -13,7 +13,7 @@ namespace bench {
 /// The toolbar of a test guide's window; empty when it has none.
 std::shared_ptr<orvik::ITgToolbar> GuideToolbar(const orvik::platform::IForm& form);
 
-/// Shows the host's judgement of the readings below the buttons of the guide that is shown; empty for none.
+/// Shows the judge's verdict below the buttons of the visible guide; an empty text hides it.
 void ShowJudgement(const orvik::platform::IApplication& application, const std::string& text);
 
 /// The caption of the form's control; empty when there is none.
@@ -22,9 +22,8 @@ std::string CaptionOf(const orvik::platform::IForm& form, const std::string& con
 /// Clicks the form's button, as the operator does.
 void ClickButton(const orvik::platform::IForm& form, const std::string& button);
 
-/// Leaves the guide in good order where a person operates it: answers the prompt that is shown, drops the
-/// running test, and goes on from an element that does not run. A prompt or guide that is shown later needs
-/// another call.
+/// Leaves the visible prompt and guide: answers the prompt, stops the running test, and presses next in a
+/// guide without one. A prompt or guide that appears later needs another call.
 void LeaveGuide(const orvik::platform::IApplication& application);
 
 }  // namespace bench

@@ -24,7 +24,7 @@ namespace platform = orvik::platform;
 
 namespace {
 
-constexpr std::int32_t kCalibration = 0;  // in the place of an element's identifier
+constexpr std::int32_t kCalibration = 0;  // instead of an element's identifier
 
 /// "123 mOhm (measured 2026-11-22 14:03)"
 std::string TextOf(const std::optional<LeadCalibration>& leads) {
@@ -40,7 +40,7 @@ std::string NoReading() {
 
 }  // namespace
 
-/// The plug-in's dialog, and what the tester has said since its measurement began.
+/// The plug-in's dialog, and the tester's replies since its measurement started.
 struct LeadCalibrationGuard::Dialog {
   Dialog(std::shared_ptr<platform::IForm> shown, bench::Wire& wire) : form(std::move(shown)), doubts(wire) {
     doubts.ElementStarts(kCalibration);
@@ -54,7 +54,7 @@ struct LeadCalibrationGuard::Dialog {
     saved.reset();
     doubts.ElementStarts(kCalibration);
   }
-  void Hear(const Message& reply) {
+  void OnReply(const Message& reply) {
     if (reply.MnemonicText() == keld_facts::kError) refusal = reply.Line();
     if (reply.MnemonicText() != keld_facts::kReading) return;
     reading = ReadLeads(reply);
@@ -76,7 +76,7 @@ struct LeadCalibrationGuard::Dialog {
   std::optional<LeadsReading> reading;
   std::string refusal;               ///< the last error reply
   std::optional<std::string> saved;  ///< serial number, while its value waits for the end of the session
-  std::vector<platform::Subscription> heard;
+  std::vector<platform::Subscription> subscriptions;
 };
 
 LeadCalibrationGuard::LeadCalibrationGuard(Parts parts)
@@ -96,14 +96,15 @@ void LeadCalibrationGuard::Shown(const std::shared_ptr<platform::IForm>& form) {
   reason_.clear();
   cancelled_ = false;
   registryWasBusy_ = false;
-  // The plug-in's own handlers were there first, so each of these runs when its operation is over.
-  auto& heard = dialog_->heard;
-  heard.push_back(parts_.ports.TheWire()->Subscribe([this](const WireRecord& record) { Watch(record); }));
-  heard.push_back(form->Unloading().Subscribe([this] { Closed(); }));
+  // The plug-in subscribed first, so these handlers run after its own.
+  auto& subscriptions = dialog_->subscriptions;
+  subscriptions.push_back(
+      parts_.ports.TheWire()->Subscribe([this](const WireRecord& record) { Watch(record); }));
+  subscriptions.push_back(form->Unloading().Subscribe([this] { Closed(); }));
   if (const auto measure = dialog_->Button(guide::kLeadsMeasure))
-    heard.push_back(measure->Clicked().Subscribe([this] { MeasurementOver(); }));
+    subscriptions.push_back(measure->Clicked().Subscribe([this] { MeasurementOver(); }));
   if (const auto save = dialog_->Button(guide::kLeadsSave))
-    heard.push_back(save->Clicked().Subscribe([this] { SaveClicked(); }));
+    subscriptions.push_back(save->Clicked().Subscribe([this] { SaveClicked(); }));
 }
 
 void LeadCalibrationGuard::Watch(const WireRecord& record) {
@@ -111,16 +112,16 @@ void LeadCalibrationGuard::Watch(const WireRecord& record) {
   if (record.kind == WireRecord::Kind::kClosed) dialog_->sessionOpen = false;
   if (record.kind == WireRecord::Kind::kSent)
     dialog_->asked = record.message->MnemonicText() == keld_facts::kGetReading;
-  if (record.kind == WireRecord::Kind::kReceived) dialog_->Hear(*record.message);
+  if (record.kind == WireRecord::Kind::kReceived) dialog_->OnReply(*record.message);
   if (Doubt().empty()) return;
-  // At once, so that nobody can save it; but not inside the plug-in's own exchange.
+  // Close the dialog at once, before it can save; but not inside the plug-in's own exchange.
   parts_.application.Post([this, dialog = std::weak_ptr<Dialog>(dialog_)] {
     if (!dialog.expired() && reason_.empty() && !Doubt().empty()) Refuse(Doubt());
   });
 }
 
 void LeadCalibrationGuard::MeasurementOver() {
-  // A second click, while the first measurement runs, ends at once.
+  // A second click while the first measurement runs returns at once.
   if (dialog_->sessionOpen || !reason_.empty()) return;
   const auto saved = std::exchange(dialog_->saved, {});
   const bool cancelled = !saved && !dialog_->form->Visible();
@@ -136,7 +137,7 @@ std::string LeadCalibrationGuard::Doubt() const {
     return Tr("the measurement is doubtful and was not stored: %%1", {doubt});
   };
   if (dialog_->reading && !dialog_->reading->fault.empty()) return doubtful(dialog_->reading->fault);
-  // Without a serial number of its own the operator types one, or nothing can be saved.
+  // Not a doubt here: the operator types the serial number, or nothing can be saved.
   for (const auto& doubt : dialog_->doubts.Of(kCalibration))
     if (doubt.code != "no-serial-number") return doubtful(judge::ReasonText(doubt));
   return {};
@@ -191,7 +192,7 @@ void LeadCalibrationGuard::SaveClicked() {
 }
 
 void LeadCalibrationGuard::Save(const std::string& serial) {
-  // A reply that comes while the session is being closed can still make the reading doubtful.
+  // A reply while the session is being closed can still make the reading doubtful.
   if (dialog_->sessionOpen)
     dialog_->saved = serial;
   else
@@ -199,7 +200,7 @@ void LeadCalibrationGuard::Save(const std::string& serial) {
 }
 
 std::int32_t LeadCalibrationGuard::Measured() const {
-  // As the plug-in rounds it.
+  // Rounded as the plug-in does it.
   return orvik::RoundToInteger(dialog_->reading->milliohms);
 }
 
@@ -226,7 +227,7 @@ void LeadCalibrationGuard::Store(const std::string& serial) {
   try {
     left = StoredLeadsOf(registry, serial);
   } catch (const orvik::HostError&) {
-    // The registry cannot be read either; the failure says so.
+    // The registry cannot be read either; the failure above says why.
   }
   reason_ =
       Tr("%%1 mOhm was not stored for tester %%2: %%3. Readings of this tester are still corrected by %%4",

@@ -13,12 +13,12 @@
 
 namespace bench {
 
-/// Sees to it that only a sound measurement of the test leads is stored, whoever opens the plug-in's dialog
-/// for it: the command, the window's menu or the guide.
+/// Stores only valid measurements of the test leads, no matter where the plug-in's dialog is opened: by the
+/// command, the window's menu or the guide.
 ///
-/// The dialog believes any number. The guard reads the wire itself and closes the dialog when the measurement
-/// cannot be used. It carries out the plug-in's write of the value once the session with the tester is over,
-/// reads the value back, and notes the date. Any other write of such a value is refused.
+/// The dialog accepts any number. The guard reads the wire itself and closes the dialog when the measurement
+/// is unusable. It executes the plug-in's write of the value once the session with the tester is closed,
+/// reads the value back, and records the date. Any other write of such a value is refused.
 class LeadCalibrationGuard {
  public:
   struct Parts {
@@ -34,19 +34,19 @@ class LeadCalibrationGuard {
   LeadCalibrationGuard& operator=(const LeadCalibrationGuard&) = delete;
   ~LeadCalibrationGuard();
 
-  /// Raised when the dialog has closed and a value was stored, or could not be (the reason, a sentence for
-  /// people). Neither is raised when the operator cancelled.
+  /// Raised when the dialog has closed: a value was stored, or was not, with the reason as a sentence. A
+  /// cancelled dialog raises neither.
   orvik::platform::Event<const LeadCalibration&>& Stored() { return stored_; }
   orvik::platform::Event<const std::string&>& Refused() { return refused_; }
 
-  /// What the dialog that was opened last has stored, as read back; none when it stored nothing.
+  /// The value that the last dialog stored, as read back; none when it stored nothing.
   const std::optional<LeadCalibration>& Value() const { return value_; }
-  /// Why it stored nothing; empty when it did, or when the operator cancelled.
+  /// Why it stored nothing; empty when it did or was cancelled.
   const std::string& Reason() const { return reason_; }
-  /// Whether the reason is that another program was using the registry.
+  /// Whether that is because another program was using the registry.
   bool RegistryWasBusy() const { return registryWasBusy_; }
 
-  /// Closes the dialog. Nothing is stored, whatever the tester still says.
+  /// Closes the dialog without storing anything.
   void Cancel();
 
  private:

@@ -13,7 +13,7 @@ LinkWatch::LinkWatch(PortManager& ports)
 std::string LinkWatch::Loss() const {
   if (!ports_.LastError().empty()) return ports_.LastError();
   if (failed_) return Tr("the tester's cable was unplugged or its port has failed");
-  if (sessionAsked_) return Tr("no tester answers; check that it is switched on and connected");
+  if (sessionRequested_) return Tr("no tester answers; check that it is switched on and connected");
   return {};
 }
 
@@ -21,14 +21,14 @@ void LinkWatch::Watch(const WireRecord& record) {
   switch (record.kind) {
     case WireRecord::Kind::kOpened:
       failed_ = false;
-      sessionAsked_ = false;
+      sessionRequested_ = false;
       break;
     case WireRecord::Kind::kSent:
-      if (record.message->MnemonicText() == keld_facts::kBeginSession) sessionAsked_ = true;
+      if (record.message->MnemonicText() == keld_facts::kBeginSession) sessionRequested_ = true;
       break;
     case WireRecord::Kind::kReceived:
     case WireRecord::Kind::kDropped:
-      sessionAsked_ = false;
+      sessionRequested_ = false;
       break;
     case WireRecord::Kind::kFailed:
       failed_ = true;

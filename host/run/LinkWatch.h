@@ -6,13 +6,13 @@
 
 namespace bench {
 
-/// Tells whether the tester can be reached at all, from what happened on the wire.
+/// Reports whether the tester can be reached, from what happened on the wire.
 class LinkWatch {
  public:
   explicit LinkWatch(PortManager& ports);
 
-  /// Why the tester cannot be reached: the port could not be opened or has failed, or nobody answered when
-  /// the last session was to begin. Empty while all is well.
+  /// Why the tester cannot be reached: the port could not be opened, it failed, or there was no answer at the
+  /// start of the last session. Empty otherwise.
   std::string Loss() const;
 
  private:
@@ -20,7 +20,7 @@ class LinkWatch {
 
   PortManager& ports_;
   bool failed_ = false;
-  bool sessionAsked_ = false;  ///< a session was asked for, and nothing has come in since
+  bool sessionRequested_ = false;  ///< no answer to IREM yet
   orvik::platform::Subscription watch_;
 };
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <optional>
 #include <vector>
 
 #include "host/document/Reason.h"
@@ -9,14 +8,11 @@ namespace bench {
 
 class Message;
 
-/// What is wrong with a reply to that command; nothing when the reply is in order.
+/// Checks a reply to that command; empty when it is in order.
 ///
-/// A reading is in order when what the reply names is the test and setting that were asked for, when it is
-/// complete, holds a number and a unit that a safety tester measures in, and reports no overload. The plug-in
-/// takes other readings as they come (a text that is not a number counts as 0).
+/// A reading is in order when it names the test and setting of the command, is complete, holds a number and a
+/// unit of electrical safety tests, and reports no overload. The plug-in itself accepts any reading: a text
+/// that is not a number counts as 0.
 std::vector<Reason> ReplyDoubts(const Message& command, const Message& reply);
-
-/// The reading in ohms that the reply tells; none when it tells another, or none.
-std::optional<double> OhmsIn(const Message& reply);
 
 }  // namespace bench

@@ -18,11 +18,11 @@ bool RunController::Begin(const RunRecorder::Heading& heading,
 
 bool RunController::IRunController_StartQuery(std::shared_ptr<orvik::ITestElement> iteElement) {
   const auto id = orvik::Required(iteElement).ID();
-  // A guide that opens leaves an older result as it is.
+  // The query of an opening guide measures nothing yet: an older result stays.
   if (std::exchange(opening_, std::nullopt) == id) return true;
   const bool again = parts_.recorder.Starts(iteElement);
   if (again || !saveFailure_.empty()) Save();
-  // What is not on record must not be measured: a power cut would leave the earlier result.
+  // Never measure what is not on record: after a power cut the earlier result would count.
   if (!saveFailure_.empty()) return false;
   parts_.doubts.ElementStarts(id);
   running_.insert(id);
@@ -38,16 +38,23 @@ void RunController::IRunController_NavigationRequest(std::int32_t lCode) {
 }
 
 void RunController::IRunController_FinishedNotice(std::shared_ptr<orvik::ITestElement> iteElement) {
-  // Without a run the operator set the element aside, or said that the test does not apply.
   const bool ran = running_.erase(orvik::Required(iteElement).ID()) > 0;
-  if (!ran)
-    WalkElements(iteElement, [this](const std::shared_ptr<orvik::ITestElement>& below) {
-      parts_.doubts.Forget(below->ID());
-    });
-  parts_.recorder.Finished(iteElement, ran ? RecordedTest::By::kTester : RecordedTest::By::kOperator);
-  // Whoever hears that it has finished may rely on the document.
+  if (ran) {
+    parts_.recorder.Finished(iteElement, RecordedTest::By::kTester);
+  } else {
+    // The operator skipped it or recorded it as not applicable: what the tester said no longer matters.
+    ForgetDoubts(iteElement);
+    parts_.recorder.Finished(iteElement, RecordedTest::By::kOperator);
+  }
+  // Before the event: its handlers may rely on the saved document.
   Save();
   finished_.Raise(iteElement);
+}
+
+void RunController::ForgetDoubts(const std::shared_ptr<orvik::ITestElement>& top) {
+  WalkElements(top, [this](const std::shared_ptr<orvik::ITestElement>& element) {
+    parts_.doubts.Forget(element->ID());
+  });
 }
 
 void RunController::Settle(const std::shared_ptr<orvik::ITestElement>& element) {
@@ -65,7 +72,7 @@ void RunController::Save() {
     parts_.save();
     saveFailure_.clear();
   } catch (const orvik::HostError& error) {
-    // An element cannot do anything about it; the document's runner asks.
+    // The plug-in's element could not handle it; `DocumentRunner` reads it.
     saveFailure_ = error.Description();
   }
 }

@@ -19,8 +19,8 @@
 
 namespace bench {
 
-/// What elements ask and report while they run. Has everything written into the record of the run, and the
-/// document saved before an element is measured again and after each that has finished.
+/// Answers the running elements and records what they report. Saves the document before an element is
+/// measured again, and after each element that has finished.
 class RunController final : public orvik::IRunController {
  public:
   struct Parts {
@@ -34,24 +34,23 @@ class RunController final : public orvik::IRunController {
 
   explicit RunController(Parts parts) : parts_(std::move(parts)) {}
 
-  /// An element has begun to run, or its run is over.
+  /// An element has started to measure, or has finished.
   orvik::platform::Event<const std::shared_ptr<orvik::ITestElement>&>& Started() { return started_; }
   orvik::platform::Event<const std::shared_ptr<orvik::ITestElement>&>& Finished() { return finished_; }
 
-  /// The element is about to be performed. Its first start query is for its guide; those after it for runs.
+  /// The element is about to be performed: its next start query is for the guide, not for a measurement.
   void Open(const orvik::ITestElement& element) { opening_ = element.ID(); }
   /// What the operator asked for when the last element was left.
   orvik::Navigation::Code Asked() const { return asked_; }
-  /// The run begins with these elements: they have no current result from here on. Returns whether that could
-  /// be saved; otherwise nothing may be measured.
+  /// Starts a run of these elements, which have no current result from here on.
+  /// @return whether that could be saved; if not, nothing may be measured
   bool Begin(const RunRecorder::Heading& heading,
              const std::vector<std::shared_ptr<orvik::ITestElement>>& elements);
-  /// Records what came to light about the element and all below it while the session was being closed, and
-  /// saves the document.
+  /// Records what closing the session revealed about the element and all below it, and saves the document.
   void Settle(const std::shared_ptr<orvik::ITestElement>& element);
-  /// The run is over.
+  /// Ends the run and saves the document.
   void End(RunRecord::End end);
-  /// Why the document could not be saved the last time; empty when it could. The element could not be told.
+  /// Why the last save failed; empty after a successful one. The contract has no way to report it.
   const std::string& SaveFailure() const { return saveFailure_; }
 
  private:
@@ -63,11 +62,12 @@ class RunController final : public orvik::IRunController {
     return parts_.instruments;
   }
 
+  void ForgetDoubts(const std::shared_ptr<orvik::ITestElement>& top);
   void Save();
 
   const Parts parts_;
   std::optional<std::int32_t> opening_;
-  std::set<std::int32_t> running_;  ///< started, and not finished
+  std::set<std::int32_t> running_;  ///< elements that have started and not finished
   orvik::Navigation::Code asked_ = orvik::Navigation::kNext;
   std::string saveFailure_;
   orvik::platform::Event<const std::shared_ptr<orvik::ITestElement>&> started_;

@@ -90,7 +90,7 @@ void RunRecorder::Settle(const Element& element, bool aborted) {
 void RunRecorder::SettleOne(const orvik::ITestElement& element, bool aborted) {
   auto* test = LastTest(element.ID());
   const auto status = StatusOf(element);
-  // An abort gives no notice.
+  // The plug-in sends no finished notice after an abort.
   if (aborted && status == orvik::ResultStatus::kAborted && (!test || test->status != status))
     return Append(element, RecordedTest::By::kOperator);
   if (!test) return;
@@ -121,7 +121,7 @@ RecordedTest* RunRecorder::LastTest(std::int32_t element) {
 }
 
 void RunRecorder::Append(const orvik::ITestElement& element, RecordedTest::By by) {
-  // First, since it may add a tester to the run.
+  // Before the steps are accessed: it may add a tester to the run.
   auto test = TestOf(element, by);
   parts_.runs.Current()->steps.emplace_back(std::move(test));
 }

@@ -4,10 +4,10 @@
 
 namespace bench {
 
-/// The wish of the person at the terminal that the run ends in good order.
+/// A request to end the run and to close the session with the tester.
 class StopRequest {
  public:
-  /// Asking again changes nothing: the session with the tester is closed in any case.
+  /// Only the first request has an effect.
   void Ask() {
     if (asked_) return;
     asked_ = true;

@@ -11,7 +11,7 @@ namespace {
 
 constexpr int kSignals[] = {SIGINT, SIGTERM, SIGHUP};
 
-// A signal handler reaches nothing but these.
+// A signal handler may only use lock-free atomics.
 std::atomic<headless::Application*> signalReceiver{nullptr};
 std::atomic<int> arrived{0};
 
@@ -20,8 +20,8 @@ void Handle(int signal) {
   if (auto* application = signalReceiver.load()) application->Wake();
 }
 
-/// Whether the program was started as one that outlives its terminal, as by "nohup".
-bool OutlivesItsTerminal() {
+/// Whether the program was started under "nohup".
+bool IgnoresHangUp() {
   struct sigaction action {};
   sigaction(SIGHUP, nullptr, &action);
   return action.sa_handler == SIG_IGN;
@@ -33,7 +33,7 @@ StopSignals::StopSignals(headless::Application& application, std::function<void(
     : stop_(std::move(stop)), woken_(application.Woken().Subscribe([this] { Deliver(); })) {
   signalReceiver.store(&application);
   for (const int signal : kSignals) {
-    if (signal == SIGHUP && OutlivesItsTerminal()) continue;
+    if (signal == SIGHUP && IgnoresHangUp()) continue;
     Install(signal, &Handle);
   }
   Install(SIGPIPE, SIG_IGN);

@@ -13,13 +13,12 @@ namespace headless {
 class Application;
 }
 
-/// Turns SIGINT, SIGTERM and SIGHUP into calls on the user-interface thread, for as long as it lives. One for
-/// the process. A SIGHUP that the program was told to ignore, as by "nohup", stays ignored. A reader of the
-/// output who has gone does not end the program meanwhile. Then each signal does again what it did
-/// before.
+/// Turns SIGINT, SIGTERM and SIGHUP into calls on the user-interface thread, and ignores SIGPIPE, so that a
+/// closed output cannot end the program while a session is open. One instance per process; its destructor
+/// restores the earlier handlers. A SIGHUP that is ignored at the start, as under "nohup", stays ignored.
 class StopSignals {
  public:
-  /// `stop` is called while messages are processed, with the number of the signal: for every signal once.
+  /// @param stop called with the signal's number while messages are processed, once a signal
   StopSignals(headless::Application& application, std::function<void(int signal)> stop);
   StopSignals(const StopSignals&) = delete;
   StopSignals& operator=(const StopSignals&) = delete;
@@ -30,7 +29,7 @@ class StopSignals {
   void Deliver();
 
   std::function<void(int)> stop_;
-  std::vector<std::pair<int, struct sigaction>> before_;  ///< what was set for each signal
+  std::vector<std::pair<int, struct sigaction>> before_;  ///< earlier handlers
   orvik::platform::Subscription woken_;
 };
 

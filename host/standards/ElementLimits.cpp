@@ -12,7 +12,7 @@
 namespace bench {
 namespace {
 
-/// A limit without bounds in the element's unit. Only a standard that the element creates knows the unit.
+/// A limit without bounds in the element's unit, which is known to standards that the element creates.
 std::shared_ptr<orvik::ILimit> NewLimit(orvik::ILimitData& limits) {
   const auto scratch = limits.CreateStandard("", "");
   auto limit = orvik::Required(scratch).Limit(1);
@@ -21,7 +21,7 @@ std::shared_ptr<orvik::ILimit> NewLimit(orvik::ILimitData& limits) {
 }
 
 std::string Converted(const std::string& bound, const std::string& from, const std::string& to) {
-  // What is no number is refused by the limit itself, which says why.
+  // The limit itself refuses a text that is not a number, and says why.
   if (orvik::Trim(bound).empty() || !FiniteNumber(bound)) return bound;
   if (auto converted = InUnit(bound, from, to)) return *converted;
   throw orvik::HostError(
@@ -78,7 +78,7 @@ std::shared_ptr<orvik::ILimit> SetLimit(orvik::ILimitData& limits, const Entered
   const auto given = entered.unit.empty() ? unit : entered.unit;
   const auto low = Converted(entered.low, given, unit);
   const auto high = Converted(entered.high, given, unit);
-  fresh->SetBounds(low, high);  // refuses before anything is changed
+  fresh->SetBounds(low, high);  // throws before anything is changed
 
   const auto standards = limits.Standards();
   auto standard = standards ? standards->Find(entered.standard, entered.description) : nullptr;
@@ -89,7 +89,7 @@ std::shared_ptr<orvik::ILimit> SetLimit(orvik::ILimitData& limits, const Entered
     return fresh;
   }
   auto limit = found.Limit(1);
-  // The unit too: an older limit may have been entered in one that the reading is not in.
+  // With the unit: an older limit may have been entered in another one.
   limit->Initialize(fresh->Key(), unit, low, high);
   return limit;
 }

@@ -55,7 +55,7 @@ void Limit::Check(const std::optional<Bound>& low, const std::optional<Bound>& h
     Refuse(
         Tr("a bound in percent needs a nominal value, and the limit has none; enter the bound in its unit"));
   if (low && high && low->Resolved(nominal) > high->Resolved(nominal))
-    Refuse(Tr("the lower bound lies above the upper one; exchange them"));
+    Refuse(Tr("the lower bound is above the upper bound; swap them"));
 }
 
 void Limit::ILimit_SetBounds(const std::string& sLow, const std::string& sHigh) {
@@ -77,8 +77,8 @@ void Limit::ILimit_SetNominal(const orvik::Variant& vNominal) {
   if (const auto* number = std::get_if<double>(&vNominal)) nominal = *number;
   if (const auto* whole = std::get_if<std::int32_t>(&vNominal)) nominal = *whole;
   if (!nominal && !orvik::IsEmpty(vNominal))
-    throw HostError(HostError::kTypeMismatch, kLimitSource, Tr("a nominal value is a number"));
-  if (nominal && !std::isfinite(*nominal)) Refuse(Tr("a nominal value is a finite number"));
+    throw HostError(HostError::kTypeMismatch, kLimitSource, Tr("the nominal value must be a number"));
+  if (nominal && !std::isfinite(*nominal)) Refuse(Tr("the nominal value must be a finite number"));
   Check(low_, high_, nominal);
   nominal_ = nominal;
 }
@@ -92,7 +92,7 @@ std::int32_t Limit::Evaluate(float value, std::optional<double> nominal) const {
   if (!low_ && !high_) return Judgement::kNothingToCheck;
   if (!std::isfinite(value)) return Judgement::kLimitExceeded;
   const auto reference = nominal ? nominal : nominal_;
-  // The value comes in single precision: a bound is brought to the same, or 0.3 would break the bound 0.3.
+  // The value is in single precision: so must the bound be, or 0.3 would exceed the bound 0.3.
   const auto bound = [&](const Bound& entered) { return static_cast<float>(entered.Resolved(reference)); };
   if (low_ && !(value >= bound(*low_))) return Judgement::kLimitExceeded;
   if (high_ && !(value <= bound(*high_))) return Judgement::kLimitExceeded;
@@ -117,7 +117,7 @@ void Limit::Load(pugi::xml_node node) {
   leftovers_.Take(node, {{kKey, key}, {kUnit, unit}, {kLow, low}, {kHigh, high}, {kNominal, nominal}}, {});
   try {
     nominal_ = FiniteNumber(nominal);
-    if (!nominal_ && *nominal) Refuse(Tr("the nominal value \"%%1\" is no number", {nominal}));
+    if (!nominal_ && *nominal) Refuse(Tr("the nominal value \"%%1\" is not a number", {nominal}));
     ILimit_Initialize(key, unit, low, high);
   } catch (const HostError& error) {
     throw XmlError(node, error.Description());

@@ -15,7 +15,7 @@ namespace bench {
 class Limit final : public orvik::ILimit {
  public:
   /// A code of `orvik::Judgement`. A value that is not a finite number exceeds every bound.
-  /// @param nominal stands in for the limit's own nominal value; none keeps that
+  /// @param nominal replaces the limit's own nominal value, if given
   std::int32_t Evaluate(float value, std::optional<double> nominal) const;
 
   std::shared_ptr<Limit> Copy() const;

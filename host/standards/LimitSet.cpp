@@ -27,7 +27,7 @@ std::string RequiredText(pugi::xml_node node, const char* name) {
   return text;
 }
 
-/// Refuses what is not known: a misspelt name must not pass for a missing bound.
+/// Refuses unknown names: a misspelt bound must not count as a missing one.
 void CheckNames(pugi::xml_node node, std::initializer_list<std::string_view> attributes,
                 std::initializer_list<std::string_view> elements) {
   std::unordered_set<std::string_view> seen;
@@ -59,7 +59,7 @@ std::vector<std::int32_t> TestsOf(pugi::xml_node node) {
     const auto word = text.substr(start, end - start);
     const auto number = WholeNumber(word);
     if (!number || *number < 1)
-      throw XmlError(node, Tr("\"%%1\" is no test; give identifiers of the catalogue", {word}));
+      throw XmlError(node, Tr("\"%%1\" is not a test; give identifiers of the catalogue", {word}));
     tests.push_back(*number);
     start = end;
   }
@@ -86,19 +86,19 @@ LimitFigure FigureOf(pugi::xml_node node) {
   if (figure.low.empty() && figure.high.empty())
     throw XmlError(node, Tr("the figure has neither \"Low\" nor \"High\"; give at least one bound"));
   if (!figure.low.empty() && !figure.high.empty() && *FiniteNumber(figure.low) > *FiniteNumber(figure.high))
-    throw XmlError(node, Tr("the lower bound lies above the upper one; exchange them"));
+    throw XmlError(node, Tr("the lower bound is above the upper bound; swap them"));
   return figure;
 }
 
 LimitSet SetOf(pugi::xml_node root) {
-  if (std::string_view(root.name()) != kSet) throw XmlError(root, Tr("this is no set of limits"));
+  if (std::string_view(root.name()) != kSet) throw XmlError(root, Tr("this is not a set of limits"));
   const auto version = xml::NumberAttribute(root, "Version");
   if (version > kSetVersion)
     throw XmlError(root, Tr("the set was written for a newer version of this program (format %%1, this "
                             "program reads %%2); use that version",
                             {std::to_string(version), std::to_string(kSetVersion)}));
   if (version < 1)
-    throw XmlError(root, Tr("there is no format %%1 of sets of limits", {std::to_string(version)}));
+    throw XmlError(root, Tr("format %%1 of sets of limits does not exist; use 1", {std::to_string(version)}));
   CheckNames(root, {"Version", "Standard", "Edition", "Class", "Type"}, {kFigure, kLeftOut});
   LimitSet set;
   set.standard = RequiredText(root, "Standard");
@@ -111,7 +111,7 @@ LimitSet SetOf(pugi::xml_node root) {
     for (const auto test : set.figures.back().tests) {
       if (!known.insert(test).second)
         throw XmlError(
-            node, Tr("the test %%1 has a figure already; give each test one figure", {std::to_string(test)}));
+            node, Tr("test %%1 has a figure already; give each test one figure", {std::to_string(test)}));
     }
   }
   if (set.figures.empty()) throw XmlError(root, Tr("the set has no figures"));

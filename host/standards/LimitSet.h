@@ -16,7 +16,7 @@ struct LimitFigure {
   std::string source;     ///< edition, clause, table
 };
 
-/// What a standard has and the set has not, and why.
+/// What the set leaves out of its standard, and why.
 struct LeftOutFigure {
   std::string what, why;
 };
@@ -29,23 +29,23 @@ struct LeftOutFigure {
 ///     </LimitSet>
 ///
 /// Class (of protection) and Type (of the applied parts) may be missing. Every figure has a source, a unit
-/// and at least one bound, and a test stands in one figure at most.
+/// and at least one bound; a test is in at most one figure.
 struct LimitSet {
   std::filesystem::path file;
   std::string standard, edition, equipmentClass, type;
   std::vector<LimitFigure> figures;
   std::vector<LeftOutFigure> leftOut;
 
-  /// What the set is called by: the file's name without its ending.
+  /// The set's name: the file's name without its extension.
   std::string Name() const { return file.stem().string(); }
-  /// What tells it from other sets of the standard: "2014, class I, type BF".
+  /// Edition, class and type: "2014, class I, type BF".
   std::string Description() const;
-  /// The figure for the test of the catalogue; null when the set knows nothing of it.
+  /// The figure for the test; null when the set has none.
   const LimitFigure* FigureFor(std::int32_t testId) const;
 };
 
-/// Reads a set. `HostError` 75 naming file, line and reason when there is anything that it does not know: a
-/// bound that is passed over in silence would let everything pass.
+/// Reads a set. Throws `HostError` 75 with file, line and reason for anything unknown: an ignored bound would
+/// let every reading pass.
 LimitSet ReadLimitSet(const std::filesystem::path& file);
 
 }  // namespace bench

@@ -60,9 +60,9 @@ LimitSet LimitSets::Find(const std::string& nameOrPath) const {
     if (file.stem() == nameOrPath) found.push_back(file);
   }
   if (found.empty())
-    RefuseSet(Tr("there is no set of limits \"%%1\"; \"orvik-bench standards\" lists them", {nameOrPath}));
+    RefuseSet(Tr("unknown set of limits \"%%1\"; \"orvik-bench standards\" lists them", {nameOrPath}));
   if (found.size() > 1)
-    RefuseSet(Tr("there are two sets of limits \"%%1\", %%2 and %%3; give the path of the one that is meant",
+    RefuseSet(Tr("the set of limits \"%%1\" exists twice, as %%2 and %%3; give the path of one",
                  {nameOrPath, found[0].string(), found[1].string()}));
   return ReadLimitSet(found[0]);
 }

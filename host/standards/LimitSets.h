@@ -9,22 +9,22 @@
 
 namespace bench {
 
-/// The sets of limits that lie as NAME.xml in some folders; a folder that is not there has none.
+/// The sets of limits in some folders, each a file NAME.xml. A missing folder has none.
 class LimitSets {
  public:
   struct Entry {
     std::filesystem::path file;
     std::optional<LimitSet> set;
-    std::string fault;  ///< why it cannot be read, when `set` is none
+    std::string fault;  ///< why it cannot be read; empty with a `set`
   };
 
   explicit LimitSets(std::vector<std::filesystem::path> folders) : folders_(std::move(folders)) {}
 
-  /// All there are, folder by folder, each by name; those that cannot be read with the reason.
+  /// All sets, folder by folder, sorted by name; unreadable ones with the reason.
   std::vector<Entry> All() const;
 
-  /// The set of that name; a text with a "/" or the ending ".xml" is the path of its file instead.
-  /// `HostError` 75 when it cannot be read, 5 when there is none or more than one of that name.
+  /// The set with that name; a text with a "/" or the extension ".xml" is the path of its file.
+  /// Throws `HostError` 75 when it cannot be read, 5 when the name is unknown or ambiguous.
   LimitSet Find(const std::string& nameOrPath) const;
 
  private:

@@ -33,7 +33,7 @@ std::shared_ptr<orvik::ILimit> Standard::IStandard_Limit(std::int32_t lIndex) co
   if (lIndex < 1 || static_cast<std::size_t>(lIndex) > limits_.size())
     throw HostError(
         HostError::kSubscriptOutOfRange, kStandardSource,
-        Tr("there is no limit %%1 of %%2", {std::to_string(lIndex), std::to_string(limits_.size())}));
+        Tr("limit %%1 is out of range (1 to %%2)", {std::to_string(lIndex), std::to_string(limits_.size())}));
   return limits_[static_cast<std::size_t>(lIndex) - 1];
 }
 

@@ -41,9 +41,9 @@ std::string Row(const orvik::IReport& report, const orvik::IStandard& standard, 
 
 std::shared_ptr<orvik::IStandard> StandardColl::IStandardColl_item(std::int32_t lIndex) const {
   if (lIndex < 1 || static_cast<std::size_t>(lIndex) > standards_.size())
-    throw HostError(
-        HostError::kSubscriptOutOfRange, kCollectionSource,
-        Tr("there is no standard %%1 of %%2", {std::to_string(lIndex), std::to_string(standards_.size())}));
+    throw HostError(HostError::kSubscriptOutOfRange, kCollectionSource,
+                    Tr("standard %%1 is out of range (1 to %%2)",
+                       {std::to_string(lIndex), std::to_string(standards_.size())}));
   return standards_[static_cast<std::size_t>(lIndex) - 1];
 }
 

@@ -1,7 +1,6 @@
 #include "host/standards/Units.h"
 
 #include <array>
-#include <charconv>
 #include <cmath>
 #include <string_view>
 #include <utility>
@@ -43,13 +42,6 @@ std::optional<Unit> UnitOf(std::string_view text) {
   return {};
 }
 
-/// As people write it: 15 digits hold every bound, and leave no trace of the conversion in the last one.
-std::string Told(double number) {
-  char buffer[64];
-  const auto end = std::to_chars(buffer, buffer + sizeof buffer, number, std::chars_format::general, 15).ptr;
-  return {buffer, end};
-}
-
 }  // namespace
 
 bool SameUnit(const std::string& one, const std::string& other) {
@@ -68,7 +60,7 @@ std::optional<double> InUnit(double number, const std::string& from, const std::
   if (SameUnit(from, to)) return number;
   if (!SameQuantity(from, to)) return {};
   const int steps = UnitOf(from)->exponent - UnitOf(to)->exponent;
-  // Powers of ten are exact as factor and as divisor, not as fraction.
+  // 10 and 1000 are exact as factors and divisors; 0.1 and 0.001 are not.
   const double factor = std::pow(10.0, std::abs(steps));
   const double converted = steps < 0 ? number / factor : number * factor;
   if (!std::isfinite(converted)) return {};
@@ -81,7 +73,8 @@ std::optional<std::string> InUnit(const std::string& number, const std::string& 
   if (SameUnit(from, to)) return orvik::Trim(number);
   const auto converted = InUnit(*value, from, to);
   if (!converted) return {};
-  return Told(*converted);
+  // 15 digits: enough for every bound, and without the rounding error of the conversion.
+  return orvik::NumberText(*converted);
 }
 
 }  // namespace bench

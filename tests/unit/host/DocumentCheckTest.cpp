@@ -131,7 +131,7 @@ class FaultyDocument : public DocumentCheckTest, public testing::WithParamInterf
         {"PlugInGone",
          With("<TestElement ID='1' TestID='110' PlugInID='GONE' "
               "Class='gone.Element'><ResultItem/></TestElement>"),
-         "2:1 element 1: its plug-in \"GONE\" is not there; nobody can read its result"},
+         "2:1 element 1: its plug-in \"GONE\" is missing; nobody can read its result"},
         {"ClassUnknown",
          With("<TestElement ID='1' TestID='110' PlugInID='SAMPLE' "
               "Class='sample.X'><ResultItem/></TestElement>"),
@@ -149,7 +149,7 @@ class FaultyDocument : public DocumentCheckTest, public testing::WithParamInterf
          "3:1 the value \"OL\" is no number"},
         {"TesterUnknown", result(" MTI='2'>"), "the result names the tester 2, which the document does not"},
         {"BoundNoNumber", limit(judging + "Low='1,5'"), "the bound \"1,5\" is not a number"},
-        {"BoundsCrossed", limit(judging + "Low='2' High='1'"), "the lower bound lies above the upper one"},
+        {"BoundsCrossed", limit(judging + "Low='2' High='1'"), "the lower bound is above the upper bound"},
         {"BoundInPercent", limit(judging + "High='110%'"), "a bound in percent needs a nominal value"},
         {"BoundUnit", limit("Key='NO LIMIT KEY' Unit='Ohm' High='1'"),
          "the bounds are in Ohm, but the element is recorded in V"},

@@ -227,17 +227,5 @@ TEST_F(DoubtTrackerTest, RecordsAtMostEightReplies) {
   EXPECT_EQ(tracker_.Said(1).front(), "gres,410,0,0,0,Ohm");
 }
 
-TEST_F(DoubtTrackerTest, ReturnsOhmsOfTheRunningElementOnly) {
-  tracker_.ElementStarts(1);
-  Exchange("GRES", {"410", "0"}, "gres,410,0,0.123,0,Ohm");
-  EXPECT_EQ(tracker_.LastOhms(), 0.123);
-  Exchange("GRES", {"410", "0"}, "gres,410,0,250,0,mOhm");
-  EXPECT_EQ(tracker_.LastOhms(), 0.25);
-  tracker_.ElementStarts(2);
-  EXPECT_FALSE(tracker_.LastOhms());
-  Exchange("GRES", {"610", "0"}, "gres,610,0,90,0,uA");
-  EXPECT_FALSE(tracker_.LastOhms());
-}
-
 }  // namespace
 }  // namespace bench

@@ -77,7 +77,7 @@ INSTANTIATE_TEST_SUITE_P(
         Bad{"AnotherKind", "<LimitSet", "<Limits", "line 6"},
         Bad{"NoVersion", "Version='1'", "", "line 1: the attribute \"Version\""},
         Bad{"Newer", "Version='1'", "Version='2'", "line 1: the set was written for a newer version"},
-        Bad{"Older", "Version='1'", "Version='0'", "line 1: there is no format 0"},
+        Bad{"Older", "Version='1'", "Version='0'", "line 1: format 0 of sets of limits"},
         Bad{"NoStandard", "Standard='Own'", "", "line 1: \"LimitSet\" needs the attribute \"Standard\""},
         Bad{"NoEdition", "Edition='2026'", "Edition=''",
             "line 1: \"LimitSet\" needs the attribute \"Edition\""},
@@ -85,15 +85,15 @@ INSTANTIATE_TEST_SUITE_P(
         Bad{"NoUnit", "Unit='mOhm'", "", "line 2: \"Figure\" needs the attribute \"Unit\""},
         Bad{"NoTests", "Tests='1010'", "", "line 4: \"Figure\" needs the attribute \"Tests\""},
         Bad{"BlankTests", "Tests='1010'", "Tests=' , '", "line 4: the figure names no test"},
-        Bad{"TestNoNumber", "'410, 420'", "'410, x'", "line 2: \"x\" is no test"},
-        Bad{"TestBelowOne", "'410, 420'", "'0'", "line 2: \"0\" is no test"},
-        Bad{"TestTwice", "'1010'", "'420'", "line 4: the test 420 has a figure already"},
-        Bad{"TestTwiceInOne", "'410, 420'", "'410 410'", "line 2: the test 410 has a figure already"},
+        Bad{"TestNoNumber", "'410, 420'", "'410, x'", "line 2: \"x\" is not a test"},
+        Bad{"TestBelowOne", "'410, 420'", "'0'", "line 2: \"0\" is not a test"},
+        Bad{"TestTwice", "'1010'", "'420'", "line 4: test 420 has a figure already"},
+        Bad{"TestTwiceInOne", "'410, 420'", "'410 410'", "line 2: test 410 has a figure already"},
         Bad{"NoBound", "High='300'", "", "line 2: the figure has neither"},
         Bad{"EmptyBound", "High='300'", "High=''", "line 2: the bound \"\" is not a number"},
         Bad{"BoundNoNumber", "High='300'", "High='0,3'", "line 2: the bound \"0,3\" is not a number"},
         Bad{"BoundInPercent", "High='300'", "High='110%'", "line 2: the bound \"110%\" is not a number"},
-        Bad{"BoundsCrossed", "High='300'", "Low='301' High='300'", "line 2: the lower bound lies above"},
+        Bad{"BoundsCrossed", "High='300'", "Low='301' High='300'", "line 2: the lower bound is above"},
         Bad{"MisspeltBound", "Low='2'", "Low='2' Hihg='9'", "line 4: the attribute \"Hihg\""},
         Bad{"AttributeTwice", "Low='2'", "Low='2' Low='1'", "line 4: the attribute \"Low\""},
         Bad{"UnknownElement", "<LeftOut", "<Omitted", "line 5: the element \"Omitted\" is not known"},
@@ -105,7 +105,7 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(LimitSetTest, OneOfAnotherKindOrWithoutFiguresIsRefused) {
   TestFolder folder;
   const auto other = folder.Write("other.xml", "\n<OrvikDocument Version='1'/>");
-  EXPECT_TRUE(Holds(ErrorText([&] { ReadLimitSet(other); }), "other.xml, line 2: this is no set of limits"));
+  EXPECT_TRUE(Holds(ErrorText([&] { ReadLimitSet(other); }), "other.xml, line 2: this is not a set of limits"));
   const auto empty = folder.Write("empty.xml", "<LimitSet Version='1' Standard='S' Edition='1'/>");
   EXPECT_TRUE(Holds(ErrorText([&] { ReadLimitSet(empty); }), "empty.xml, line 1: the set has no figures"));
   EXPECT_TRUE(Holds(ErrorText([&] { ReadLimitSet(folder.Path() / "none.xml"); }), "none.xml"));

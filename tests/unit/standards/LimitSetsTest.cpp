@@ -46,7 +46,7 @@ TEST_F(LimitSetsTest, IsFoundByNameInEachFolderAndByPath) {
 }
 
 TEST_F(LimitSetsTest, WhatIsNotThereIsNamed) {
-  EXPECT_TRUE(Holds(ErrorText([&] { sets_.Find("none"); }), "there is no set of limits \"none\""));
+  EXPECT_TRUE(Holds(ErrorText([&] { sets_.Find("none"); }), "unknown set of limits \"none\""));
   EXPECT_TRUE(Holds(ErrorText([&] { sets_.Find("/nowhere/none.xml"); }), "/nowhere/none.xml"));
 }
 
