@@ -1,4 +1,4 @@
-// Replies that do not come, or not as a whole, or not in time.
+// Replies that are missing, incomplete or late.
 #include "tests/system/faults/Rows.h"
 
 namespace faults {
@@ -6,9 +6,9 @@ namespace faults {
 // clang-format off
 const std::vector<FaultRows>& LostReplies() {
   static const std::vector<FaultRows> rows = {
-    // Asked again, three times in all. Then there is no tester: what ran is not tested, no session is
-    // ended, and the next test of a sequence begins a new one.
-    {"drop",
+    // The command is sent up to three times. Then the tester is lost: the running test is not tested, the
+    // session is not closed, and the next test of a sequence opens a new one.
+    {{"drop"},
      {
       {"IREM",     "IREM x2, STST 1, GRES 1, STST end, EREM",                   "passed",                            0,
        Ending{     "IREM x3",                                                   "not tested",                        2}},
@@ -37,8 +37,8 @@ const std::vector<FaultRows>& LostReplies() {
       {"EREM",     "IREM, STST 1, GRES 1, STST 2, GRES 2, STST end, EREM x2",   "passed, passed, passed",            0,
        Ending{     "IREM, STST 1, GRES 1, STST 2, GRES 2, STST end, EREM x3",   "passed, passed, passed",            0}},
      }},
-    // Late, and in time: nothing happens.
-    {"delay 500",
+    // Late as a whole or in part, but within the time-out: no effect.
+    {{"delay 500", "stall 3 500"},
      {
       {"IREM",     "IREM, STST 1, GRES 1, STST end, EREM",                      "passed",                            0},
       {"STST 1",   "IREM, STST 1, GRES 1, STST end, EREM",                      "passed",                            0},
@@ -55,10 +55,9 @@ const std::vector<FaultRows>& LostReplies() {
       {"STST end", "IREM, STST 1, GRES 1, STST 2, GRES 2, STST end, EREM",      "passed, passed, passed",            0},
       {"EREM",     "IREM, STST 1, GRES 1, STST 2, GRES 2, STST end, EREM",      "passed, passed, passed",            0},
      }},
-    // Comes while the tester is about to be asked again, and is there when it is: the reply taken then may
-    // be the late one. From here on each reply is taken for the next command, which has another name most
-    // of the time.
-    {"delay 3750",
+    // Late as a whole or in part: arrives in the pause before the repeated command, and is taken for its
+    // reply. From then on each reply is taken for that of the next command, which mostly has another name.
+    {{"delay 3750", "stall 3 3750"},
      {
       {"IREM",     "IREM x2, STST 1, STST end, EREM",                           "not tested",                        2,
        Ending{     "IREM x3",                                                   "not tested",                        2}},
@@ -87,56 +86,8 @@ const std::vector<FaultRows>& LostReplies() {
       {"EREM",     "IREM, STST 1, GRES 1, STST 2, GRES 2, STST end, EREM x2",   "doubtful, passed, doubtful",        2,
        Ending{     "IREM, STST 1, GRES 1, STST 2, GRES 2, STST end, EREM x3",   "passed, passed, passed",            0}},
      }},
-    // Goes on in time: nothing happens.
-    {"stall 3 500",
-     {
-      {"IREM",     "IREM, STST 1, GRES 1, STST end, EREM",                      "passed",                            0},
-      {"STST 1",   "IREM, STST 1, GRES 1, STST end, EREM",                      "passed",                            0},
-      {"GRES 1",   "IREM, STST 1, GRES 1, STST end, EREM",                      "passed",                            0},
-      {"STST end", "IREM, STST 1, GRES 1, STST end, EREM",                      "passed",                            0},
-      {"EREM",     "IREM, STST 1, GRES 1, STST end, EREM",                      "passed",                            0},
-     },
-     {
-      {"IREM",     "IREM, STST 1, GRES 1, STST 2, GRES 2, STST end, EREM",      "passed, passed, passed",            0},
-      {"STST 1",   "IREM, STST 1, GRES 1, STST 2, GRES 2, STST end, EREM",      "passed, passed, passed",            0},
-      {"GRES 1",   "IREM, STST 1, GRES 1, STST 2, GRES 2, STST end, EREM",      "passed, passed, passed",            0},
-      {"STST 2",   "IREM, STST 1, GRES 1, STST 2, GRES 2, STST end, EREM",      "passed, passed, passed",            0},
-      {"GRES 2",   "IREM, STST 1, GRES 1, STST 2, GRES 2, STST end, EREM",      "passed, passed, passed",            0},
-      {"STST end", "IREM, STST 1, GRES 1, STST 2, GRES 2, STST end, EREM",      "passed, passed, passed",            0},
-      {"EREM",     "IREM, STST 1, GRES 1, STST 2, GRES 2, STST end, EREM",      "passed, passed, passed",            0},
-     }},
-    // Goes on while the tester is about to be asked again: as if it were late as a whole.
-    {"stall 3 3750",
-     {
-      {"IREM",     "IREM x2, STST 1, STST end, EREM",                           "not tested",                        2,
-       Ending{     "IREM x3",                                                   "not tested",                        2}},
-      {"STST 1",   "IREM, STST 1 x2, GRES 1, STST end, EREM",                   "not tested",                        2,
-       Ending{     "IREM, STST 1 x3",                                           "not tested",                        2}},
-      {"GRES 1",   "IREM, STST 1, GRES 1 x2, STST end, EREM",                   "doubtful",                          2,
-       Ending{     "IREM, STST 1, GRES 1 x3",                                   "not tested",                        2}},
-      {"STST end", "IREM, STST 1, GRES 1, STST end x2, EREM",                   "doubtful",                          2,
-       Ending{     "IREM, STST 1, GRES 1, STST end x3, EREM",                   "doubtful",                          2}},
-      {"EREM",     "IREM, STST 1, GRES 1, STST end, EREM x2",                   "doubtful",                          2,
-       Ending{     "IREM, STST 1, GRES 1, STST end, EREM x3",                   "passed",                            0}},
-     },
-     {
-      {"IREM",     "IREM x2, STST 1, STST 2, GRES 2, STST end, EREM",           "not tested, not tested, not tested", 2,
-       Ending{     "IREM x4, STST 2, STST end, EREM",                           "not tested, not tested, not tested", 2}},
-      {"STST 1",   "IREM, STST 1 x2, GRES 1, STST 2, STST end, EREM",           "not tested, not tested, not tested", 2,
-       Ending{     "IREM, STST 1 x3, IREM",                                     "not tested, not tested, not tested", 2}},
-      {"GRES 1",   "IREM, STST 1, GRES 1 x2, STST 2, STST end, EREM",           "doubtful, doubtful, not tested",    2,
-       Ending{     "IREM, STST 1, GRES 1 x3, IREM",                             "not tested, not tested, not tested", 2}},
-      {"STST 2",   "IREM, STST 1, GRES 1, STST 2 x2, GRES 2, STST end, EREM",   "not tested, passed, not tested",    2,
-       Ending{     "IREM, STST 1, GRES 1, STST 2 x3",                           "not tested, passed, not tested",    2}},
-      {"GRES 2",   "IREM, STST 1, GRES 1, STST 2, GRES 2 x2, STST end, EREM",   "doubtful, passed, doubtful",        2,
-       Ending{     "IREM, STST 1, GRES 1, STST 2, GRES 2 x3",                   "not tested, passed, not tested",    2}},
-      {"STST end", "IREM, STST 1, GRES 1, STST 2, GRES 2, STST end x2, EREM",   "doubtful, passed, doubtful",        2,
-       Ending{     "IREM, STST 1, GRES 1, STST 2, GRES 2, STST end x3, EREM",   "doubtful, passed, doubtful",        2}},
-      {"EREM",     "IREM, STST 1, GRES 1, STST 2, GRES 2, STST end, EREM x2",   "doubtful, passed, doubtful",        2,
-       Ending{     "IREM, STST 1, GRES 1, STST 2, GRES 2, STST end, EREM x3",   "passed, passed, passed",            0}},
-     }},
-    // Never goes on: the next reply continues the line, and the two together are no reply to anything.
-    {"truncate 3",
+    // Never completed: the next reply continues the line, and together they answer no command.
+    {{"truncate 3"},
      {
       {"IREM",     "IREM x2",                                                   "not tested",                        2,
        Ending{     "IREM x3",                                                   "not tested",                        2}},
@@ -165,8 +116,8 @@ const std::vector<FaultRows>& LostReplies() {
       {"EREM",     "IREM, STST 1, GRES 1, STST 2, GRES 2, STST end, EREM x2",   "doubtful, passed, doubtful",        2,
        Ending{     "IREM, STST 1, GRES 1, STST 2, GRES 2, STST end, EREM x3",   "passed, passed, passed",            0}},
      }},
-    // Dropped as a line, and asked again; that a line was dropped speaks against what was running then.
-    {"garble",
+    // The line is discarded and the command repeated; the discarded line makes the running test doubtful.
+    {{"garble"},
      {
       {"IREM",     "IREM x2, STST 1, GRES 1, STST end, EREM",                   "doubtful",                          2,
        Ending{     "IREM x3",                                                   "not tested",                        2}},

@@ -4,6 +4,7 @@
 #include <charconv>
 #include <cstdlib>
 #include <filesystem>
+#include <functional>
 #include <iterator>
 #include <map>
 #include <optional>
@@ -126,84 +127,80 @@ class OffencesTest : public testing::Test {
   }
 
   bench::judge::JudgedElement& Element() { return evidence_.elements.front(); }
-  std::size_t Found() const { return Offences(plan_, evidence_).size(); }
+  void Become(Verdict verdict, const char* reason) {
+    Element().verdict = verdict;
+    Element().reasons = {{reason, {}}};
+  }
 
   Plan plan_;
   Evidence evidence_;
 };
 
-TEST_F(OffencesTest, AGoodRunHasNone) { EXPECT_EQ(Found(), 0u); }
-
-TEST_F(OffencesTest, APassWithoutAReadingIsFound) {
-  evidence_.received.clear();
-  EXPECT_EQ(Found(), 1u);
-}
-
-TEST_F(OffencesTest, APassWithTheReadingOfAnotherRunIsFound) {
-  Element().measurement->value = 122.0;
-  EXPECT_EQ(Found(), 1u);
-}
-
-TEST_F(OffencesTest, APassBeyondTheLimitIsFound) {
-  plan_.truth[410] = 301;
-  evidence_.received = {ReplyTo(410, 301)};
-  Element().measurement->value = 301.0;
-  EXPECT_EQ(Found(), 1u);
-}
-
-TEST_F(OffencesTest, AFailureWithinTheLimitIsFound) {
-  Element().verdict = Verdict::kFailed;
-  Element().reasons = {{"failed-by-plug-in", {}}};
-  evidence_.outcome = bench::judge::Outcome::kFailed;
-  EXPECT_EQ(Found(), 1u);
-}
-
-TEST_F(OffencesTest, NotApplicableInSpiteOfALimitIsFound) {
-  Element().verdict = Verdict::kNotApplicable;
-  Element().reasons = {{"refused-by-tester", {}}};
-  EXPECT_EQ(Found(), 1u);
-}
-
-TEST_F(OffencesTest, AReadingThatNoLimitJudgedIsFound) {
-  Element().verdict = Verdict::kRecorded;
-  Element().reasons = {{"no-limit", {}}};
-  EXPECT_EQ(Found(), 1u);
-}
-
-TEST_F(OffencesTest, ADoubtfulElementInAPassedRunIsFound) {
-  Element().verdict = Verdict::kDoubtful;
-  Element().reasons = {{"late-reply", {"STST,410,0"}}};
-  EXPECT_EQ(Found(), 1u);
-}
-
-TEST_F(OffencesTest, WhatHasNotPassedWithoutAReasonIsFound) {
-  Element().verdict = Verdict::kNotTested;
-  evidence_.outcome = bench::judge::Outcome::kIncomplete;
-  EXPECT_EQ(Found(), 1u);
-}
-
-TEST_F(OffencesTest, WhatIsLeftOpenIsFound) {
-  evidence_.portOpen = true;
-  evidence_.windows = 1;
-  EXPECT_EQ(Found(), 2u);
-  plan_.faultRate = 0;
-  evidence_.inRemoteMode = true;
-  EXPECT_EQ(Found(), 3u);
-}
-
-TEST_F(OffencesTest, AnUndisturbedRunHasToBeExact) {
-  plan_.faultRate = 0;
-  EXPECT_EQ(Found(), 0u);
-  evidence_.sent.pop_back();
-  EXPECT_EQ(Found(), 1u);
-  evidence_.end = bench::DocumentRunner::End::kTesterLost;
-  EXPECT_EQ(Found(), 2u);
-}
-
-TEST_F(OffencesTest, ASavedDocumentThatReadsOtherwiseIsFound) {
-  evidence_.reopened = evidence_.elements;
-  evidence_.reopened.front().verdict = Verdict::kNotTested;
-  EXPECT_EQ(Found(), 1u);
+TEST_F(OffencesTest, AreFoundInEvidence) {
+  struct Row {
+    const char* name;
+    std::size_t offences;
+    std::function<void()> change;
+  };
+  const Row rows[] = {
+      {"a good run", 0, [] {}},
+      {"a pass without a reading", 1, [&] { evidence_.received.clear(); }},
+      {"a pass with the reading of another run", 1, [&] { Element().measurement->value = 122.0; }},
+      {"a pass beyond the limit", 1,
+       [&] {
+         plan_.truth[410] = 301;
+         evidence_.received = {ReplyTo(410, 301)};
+         Element().measurement->value = 301.0;
+       }},
+      {"a failure within the limit", 1,
+       [&] {
+         Become(Verdict::kFailed, "failed-by-plug-in");
+         evidence_.outcome = bench::judge::Outcome::kFailed;
+       }},
+      {"not applicable in spite of a limit", 1,
+       [&] { Become(Verdict::kNotApplicable, "refused-by-tester"); }},
+      {"a reading without a limit", 1, [&] { Become(Verdict::kRecorded, "no-limit"); }},
+      {"a doubtful element in a passed run", 1, [&] { Become(Verdict::kDoubtful, "late-reply"); }},
+      {"not passed without a reason", 1,
+       [&] {
+         Element().verdict = Verdict::kNotTested;
+         evidence_.outcome = bench::judge::Outcome::kIncomplete;
+       }},
+      {"port and window left open", 2,
+       [&] {
+         evidence_.portOpen = true;
+         evidence_.windows = 1;
+       }},
+      {"a session left open without a fault", 1,
+       [&] {
+         plan_.faultRate = 0;
+         evidence_.inRemoteMode = true;
+       }},
+      {"an undisturbed run", 0, [&] { plan_.faultRate = 0; }},
+      {"an undisturbed run without its last command", 1,
+       [&] {
+         plan_.faultRate = 0;
+         evidence_.sent.pop_back();
+       }},
+      {"an undisturbed run that lost its tester", 1,
+       [&] {
+         plan_.faultRate = 0;
+         evidence_.end = bench::DocumentRunner::End::kTesterLost;
+       }},
+      {"a saved document that differs", 1,
+       [&] {
+         evidence_.reopened = evidence_.elements;
+         evidence_.reopened.front().verdict = Verdict::kNotTested;
+       }},
+  };
+  const auto plan = plan_;
+  const auto evidence = evidence_;
+  for (const auto& row : rows) {
+    plan_ = plan;
+    evidence_ = evidence;
+    row.change();
+    EXPECT_EQ(Offences(plan_, evidence_).size(), row.offences) << row.name;
+  }
 }
 
 }  // namespace
