@@ -46,7 +46,7 @@ std::string Joined(const std::vector<std::string>& texts, const char* between) {
 
 std::string ShortNumber(double number) {
   char buffer[64];
-  // Ten digits: what the tester sends in ohms and is recorded in milliohms carries rounding in the last ones.
+  // Ten digits: converting ohms to milliohms leaves rounding errors in the last ones.
   const auto end = std::to_chars(buffer, buffer + sizeof buffer, number, std::chars_format::general, 10).ptr;
   return {buffer, end};
 }

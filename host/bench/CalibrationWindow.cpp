@@ -39,7 +39,7 @@ void CalibrationWindow::Operate() {
   const auto serial = TextBox(*form_, guide::kLeadsSerial);
   if (serial && !serial_.empty()) serial->TypeOver(serial_);
   if (serial && serial->Text().empty()) {
-    obstacle_ = Tr("the tester reported no serial number to store the value under; give one with --serial");
+    obstacle_ = Tr("the tester reported no serial number; give one with --serial to store the value");
     return ClickButton(*form_, guide::kLeadsCancel);
   }
   ClickButton(*form_, guide::kLeadsSave);

@@ -11,7 +11,7 @@ class Document;
 class Host;
 
 /// What a change of a document does to the results that counted before it. Every command that changes a
-/// document prints it, so that nobody learns it only from the report.
+/// document prints it, so that the report holds no surprise.
 class Consequences {
  public:
   /// Judges the document as it is before the change.
@@ -26,7 +26,7 @@ class Consequences {
   struct Verdict {
     std::string name;     ///< of the element
     std::string verdict;  ///< "passed", in English
-    bool counts = false;  ///< measured or decided, and nothing speaks against it
+    bool counts = false;  ///< measured or decided, and not doubtful
     std::string reasons;  ///< for people; why it does not count, or which limits it exceeds
   };
   struct Judgement {

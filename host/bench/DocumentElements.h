@@ -16,7 +16,7 @@ class ElementFactory;
 /// @param option such as "--element"
 std::shared_ptr<orvik::ITestElement> ElementFor(const Document& document, const std::string& option,
                                                 std::int32_t id);
-/// Each of them, in the order given; one that is given twice is there once.
+/// These elements in the order given, each once.
 std::vector<std::shared_ptr<orvik::ITestElement>> ElementsFor(const Document& document,
                                                               const std::string& option,
                                                               const std::vector<std::int32_t>& ids);

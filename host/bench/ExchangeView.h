@@ -10,7 +10,7 @@ namespace bench {
 /// How far the exchange with the tester has come, as seen on the wire.
 class ExchangeView {
  public:
-  /// Takes what has happened.
+  /// Updates the state.
   void Take(const WireRecord& record);
 
   bool Open() const { return open_; }
@@ -24,7 +24,7 @@ class ExchangeView {
   bool Unanswered() const { return waiting_; }
   /// When the time for its reply is over.
   orvik::platform::Time ReplyEnds() const { return since_ + keld_facts::kReplyTime; }
-  /// What goes on, for people to read: "STST,410,0, attempt 1 of 3: reply within 1.8 s".
+  /// The current state for people: "STST,410,0, attempt 1 of 3: reply within 1.8 s".
   std::string Text(orvik::platform::Time now) const;
 
  private:

@@ -16,7 +16,7 @@ namespace bench {
 
 namespace {
 
-/// Reasons by which a document contradicts itself, whoever measured what.
+/// Reasons that show a contradiction within the document.
 constexpr std::array<std::string_view, 8> kContradictions{
     "not-recorded", "other-status", "other-reading",      "service-code",
     "limit-unit",   "limit-key",    "arithmetic-differs", "judged-differently"};

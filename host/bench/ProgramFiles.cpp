@@ -56,8 +56,8 @@ std::optional<std::filesystem::path> FindStateFolder(const std::string& option) 
 std::filesystem::path StateFolder(const std::string& option) {
   if (auto folder = FindStateFolder(option)) return *std::move(folder);
   throw InputError(
-      Tr("there is no place for settings: neither ORVIK_STATE, XDG_STATE_HOME nor HOME is set; name a folder "
-         "with --state"));
+      Tr("no folder for settings: ORVIK_STATE, XDG_STATE_HOME and HOME are not set; name a folder with "
+         "--state"));
 }
 
 }  // namespace bench::files

@@ -30,7 +30,7 @@ std::filesystem::path Simulator();
 /// Where registry and error log live: `option` (--state) when it is not empty, else ORVIK_STATE, else the
 /// folder "orvik" of the XDG state directory. None when the environment names none of them.
 std::optional<std::filesystem::path> FindStateFolder(const std::string& option);
-/// The same, for what cannot do without: `InputError` when there is none.
+/// The same for callers that need one: `InputError` when there is none.
 std::filesystem::path StateFolder(const std::string& option);
 
 }  // namespace bench::files

@@ -22,10 +22,9 @@ bool IsRecordOnly(const std::shared_ptr<orvik::ITestElement>& element, const Ele
 void MarkRecordOnly(const std::shared_ptr<orvik::ITestElement>& element, const ElementFactory& factory,
                     bool recordOnly) {
   const auto state = StateOf(element, factory);
-  // What is unknown is saved as it was read, without a mark that was set meanwhile.
+  // An unknown element is saved as it was read, so a new mark would be lost.
   if (!state || orvik::As<UnknownElement>(element))
-    throw InputError(
-        Tr("%%1: it cannot be marked; its plug-in is not there", {NameWithNumber(*element, factory)}));
+    throw InputError(Tr("%%1 cannot be marked: its plug-in is missing", {NameWithNumber(*element, factory)}));
   const auto limits = element->Limits();
   if (recordOnly && limits) {
     if (const auto present = LimitsOf(*limits); !present.empty())

@@ -33,7 +33,7 @@ void RunEstimate::Take(const WireRecord& record) {
       waiting_ = true;
       break;
     case WireRecord::Kind::kReceived:
-      if (!waiting_) break;  // nobody has asked for it
+      if (!waiting_) break;  // not a reply to a command
       waiting_ = false;
       ++answered_;
       ++replies_;

@@ -8,10 +8,10 @@
 
 namespace bench {
 
-/// About how long a run still takes: the protocol's pauses, and replies as quick as they have been so far.
+/// Estimates how long a run still takes, from the pauses of the protocol and the average reply time so far.
 class RunEstimate {
  public:
-  /// @param tests how many single tests stand in each element of the run
+  /// @param tests number of single tests in each element of the run
   void Plan(std::vector<std::size_t> tests) { tests_ = std::move(tests); }
   /// The run has reached an element: its place from 1.
   void Reach(std::size_t place);
@@ -20,7 +20,7 @@ class RunEstimate {
   /// 0 when nothing is left, or nothing was planned.
   orvik::platform::Time Left(orvik::platform::Time now) const;
   /// "about 1:05 left", with seconds of the wall; empty when nothing is left.
-  /// @param timeScale how many times faster than the wall the clock goes
+  /// @param timeScale how many times faster than the wall clock the run is
   std::string Text(orvik::platform::Time now, double timeScale) const;
 
  private:

@@ -10,7 +10,7 @@
 
 namespace bench {
 
-/// Tells somebody how a run goes.
+/// Reports the progress of a run.
 class RunReporter {
  public:
   RunReporter() = default;
@@ -18,7 +18,7 @@ class RunReporter {
   RunReporter& operator=(const RunReporter&) = delete;
   virtual ~RunReporter() = default;
 
-  /// What the run is going to do: how many single tests stand in each element at the top.
+  /// Before the first element: the number of single tests in each element at the top.
   virtual void Planned(const std::vector<std::size_t>& tests) = 0;
   /// The run has reached an element at the top: its place from 1, the number of all.
   virtual void Reached(std::size_t place, std::size_t count) = 0;
@@ -27,9 +27,9 @@ class RunReporter {
   virtual void Wire(const WireRecord& record) = 0;
   virtual void Prompted(const std::string& text) = 0;
   virtual void Doubted(std::int32_t element, const Reason& doubt) = 0;
-  /// Something that people should know.
+  /// A message for people.
   virtual void Remark(const std::string& text) = 0;
-  /// The run is over, nothing is waited for any more.
+  /// The run is over; nothing more is waited for.
   virtual void Over() = 0;
   /// The document is judged: its outcome, and the program's exit status.
   virtual void Ended(judge::Outcome, int) {}

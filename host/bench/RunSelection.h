@@ -14,7 +14,7 @@ namespace bench {
 class Document;
 class Host;
 
-/// What of a document is to be run.
+/// The part of a document to run.
 struct RunSelection {
   std::string file;
   std::vector<std::int32_t> elements;  ///< none: all at the top
@@ -27,7 +27,7 @@ struct RunSelection {
 std::vector<std::shared_ptr<orvik::ITestElement>> SelectedElements(const Document& document,
                                                                    const RunSelection& selection);
 
-/// Those of the elements with which a resumed run goes on. When the last runs were not finished, those that
+/// The elements with which a resumed run continues. When the last runs were not finished, those that
 /// the last of them took up and that have no result since; otherwise those of which something has no current
 /// result, or a doubtful one.
 std::vector<std::shared_ptr<orvik::ITestElement>> Unfinished(

@@ -21,7 +21,7 @@ using Element = std::shared_ptr<orvik::ITestElement>;
 
 namespace {
 
-/// How many single tests stand in each of the elements.
+/// The number of single tests in each of the elements.
 std::vector<std::size_t> TestsOfEach(const std::vector<Element>& elements) {
   std::vector<std::size_t> tests;
   for (const auto& top : elements) {
@@ -124,7 +124,7 @@ void RunSession::AskToStop() {
   if (stopProgress_.Begun()) return reporter_.Remark(stopProgress_.Text());
   reporter_.Remark(Tr("Stopping: the running test is dropped and the session with the tester closed."));
   stopProgress_.Begin();
-  // In front of the guide it would keep the guide from answering.
+  // Its dialog is in front of the guide and would block it.
   workbench_.Leads().Cancel();
   stop_.Ask();
 }

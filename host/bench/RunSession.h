@@ -23,7 +23,7 @@ class Document;
 /// `InputError` when the document has runs of the other kind: simulated and real ones never meet.
 void RequireOneKindOfRuns(const Document& document, bool simulated);
 
-/// One run of a document: everything that takes part in it, joined.
+/// One run of a document: connects tester, document, log and reporter.
 class RunSession {
  public:
   /// @param by the name of the operator, for the record
@@ -31,7 +31,7 @@ class RunSession {
   RunSession(Workbench& workbench, Document& document, WireLog& log, RunReporter& reporter,
              const TesterConnection& tester, const std::string& by);
 
-  /// What `reporter` hears is judged by these standards; without any by every one that an element names.
+  /// What `reporter` is told is judged by these standards; without any by every one that an element names.
   void JudgeBy(std::vector<std::string> standards) { standards_ = std::move(standards); }
   /// The run's stop request, for the operator of the guide.
   StopRequest& Stop() { return stop_; }
@@ -43,8 +43,8 @@ class RunSession {
                           std::unique_ptr<IOperator> runOperator);
   /// Why it ended so.
   const std::string& Reason() const { return runner_.Reason(); }
-  /// Has the run end in good order: the running test is dropped, the session with the tester closed, the
-  /// document saved. Asked again it tells how far that has come.
+  /// Stops the run cleanly: drops the running test, closes the session with the tester, saves the document.
+  /// Asked again, it reports the progress of that.
   void AskToStop();
 
  private:

@@ -15,8 +15,8 @@ constexpr std::chrono::milliseconds kNextLook{100};
 ScreenOperator::~ScreenOperator() { application_->Forget(again_); }
 
 void ScreenOperator::OnStopRequested() {
-  // The guide can be left once its test has ended, and a prompt may come in between. The next look is due
-  // whatever happens in this one.
+  // The guide can be left once its test has ended, and a prompt may come in between. The next look is
+  // scheduled first, so that it happens even if this one fails.
   again_ = application_->CallAt(application_->Now() + kNextLook, [this] { OnStopRequested(); });
   LeaveGuide(*application_);
 }

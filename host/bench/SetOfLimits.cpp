@@ -23,7 +23,7 @@ namespace {
 
 using Element = std::shared_ptr<orvik::ITestElement>;
 
-/// One set on its way through the elements of a document.
+/// Applies one set to elements of a document.
 class Application {
  public:
   Application(const LimitSet& set, const ElementFactory& factory, EarlierSets earlier)
@@ -96,18 +96,18 @@ AppliedLimits ApplyLimitSet(const LimitSet& set, const std::vector<Element>& ele
                             const ElementFactory& factory, EarlierSets earlier) {
   std::vector<Element> all;
   for (const auto& top : elements) WalkElements(top, [&](const Element& element) { all.push_back(element); });
-  AppliedLimits told;
+  AppliedLimits lines;
   if (std::none_of(all.begin(), all.end(),
                    [&](const Element& element) { return set.FigureFor(element->TestID()) != nullptr; }))
-    return told;
+    return lines;
   const Application application(set, factory, earlier);
   for (const auto& element : all) {
     if (const auto* figure = set.FigureFor(element->TestID()))
-      told.applied.push_back(application.Apply(element, *figure));
+      lines.applied.push_back(application.Apply(element, *figure));
     else if (!orvik::As<orvik::ITestContainer>(element))
-      told.uncovered.push_back(application.Skip(element));
+      lines.uncovered.push_back(application.Skip(element));
   }
-  return told;
+  return lines;
 }
 
 }  // namespace bench

@@ -12,20 +12,19 @@ namespace bench {
 
 class ElementFactory;
 
-/// What came of applying a set, a line for each element.
+/// The result of applying a set, a line for each element.
 struct AppliedLimits {
   std::vector<std::string> applied;
   std::vector<std::string> uncovered;  ///< tests that the set has no figure for
 };
 
-/// What becomes of limits that an earlier set of the same standard gave.
+/// What to do with limits from an earlier set of the same standard.
 enum class EarlierSets { kReplaced, kKept };
 
-/// Gives each of the elements, and all below them, its limit of the set. Limits of the same set are replaced;
-/// so are those of an earlier set of the same standard, such as for class I instead of class II, also where
-/// this set has no figure, unless they are kept. A limit without a description was set by hand and stays. An
-/// element that gets a limit is no longer record-only. When the set covers none of the elements, nothing is
-/// changed and `applied` is empty.
+/// Sets the limits of the set on the elements and all below them. Limits of the same set are replaced. So are
+/// those of an earlier set of the same standard (such as class II before class I), unless they are kept. A
+/// limit without a description was set by hand and stays. An element that gets a limit is no longer
+/// record-only. When the set covers none of the elements, nothing changes and `applied` is empty.
 /// `InputError` naming the element when its unit does not fit; elements may then have changed already.
 AppliedLimits ApplyLimitSet(const LimitSet& set,
                             const std::vector<std::shared_ptr<orvik::ITestElement>>& elements,

@@ -27,14 +27,12 @@ namespace {
 constexpr std::chrono::seconds kPatience{10};
 constexpr char kReady[] = "keld-sim: ready";
 
-/// A path that nobody can guess, for a link that keld-sim makes and removes.
+/// An unpredictable path for the link that keld-sim creates and removes.
 std::string NewLink() {
   std::error_code none;
   const auto folder = std::filesystem::temp_directory_path(none);
   if (none || access(folder.c_str(), W_OK | X_OK) != 0)
-    throw IncompleteError(
-        Tr("nothing can be put into the temporary folder; set TMPDIR to one that you may write "
-           "to"));
+    throw IncompleteError(Tr("the temporary folder is not writable; set TMPDIR to a writable folder"));
   std::random_device random;
   std::ostringstream name;
   name << "orvik-bench-" << std::hex << random() << random();
@@ -42,10 +40,10 @@ std::string NewLink() {
 }
 
 [[noreturn]] void Become(const std::vector<std::string>& command, int output, pid_t parent) {
-  // From here on, and not only from when the simulator watches its parent itself: nobody would end it.
+  // The simulator watches its parent too, but only once it runs.
   prctl(PR_SET_PDEATHSIG, SIGKILL);
   if (getppid() != parent) _exit(127);
-  // Ctrl-C at the terminal is for the run, which still needs its tester to end the session.
+  // Ctrl-C at the terminal stops the run, which still needs its tester to end the session.
   setpgid(0, 0);
   dup2(output, STDOUT_FILENO);
   dup2(output, STDERR_FILENO);
@@ -75,12 +73,12 @@ void SimulatedTester::Start(const std::string& profile, double timeScale) {
                                    "--exit-with-parent",        "--time-scale", ShortNumber(timeScale)};
   if (!profile.empty()) command.insert(command.end(), {"--profile", profile});
   int ends[2];
-  if (pipe2(ends, O_CLOEXEC) != 0) throw IncompleteError(Tr("no pipe can be made"));
+  if (pipe2(ends, O_CLOEXEC) != 0) throw IncompleteError(Tr("a pipe could not be created"));
   output_ = UniqueFd(ends[0]);
   const UniqueFd theirs(ends[1]);
   const pid_t self = getpid();
   process_ = fork();
-  if (process_ < 0) throw IncompleteError(Tr("no process can be started"));
+  if (process_ < 0) throw IncompleteError(Tr("a process could not be started"));
   if (process_ == 0) Become(command, theirs.Get(), self);
 }
 
@@ -114,7 +112,7 @@ void SimulatedTester::End() {
     }
     process_ = -1;
   }
-  // It stands there still when keld-sim came to grief.
+  // A keld-sim that crashed has not removed it.
   std::error_code gone;
   std::filesystem::remove(link_, gone);
 }

@@ -13,8 +13,8 @@ namespace bench {
 inline constexpr std::array kSimulatedProfiles{"sound-class-1", "sound-class-2", "broken-earth", "leaky",
                                                "overloaded"};
 
-/// keld-sim on a pseudo-terminal, started and ended with this object. Nothing of it stays behind, even when
-/// this program is killed: keld-sim ends then, and takes its link with it.
+/// keld-sim on a pseudo-terminal, started and ended with this object. Even when this
+/// program is killed, keld-sim ends and removes its link.
 class SimulatedTester {
  public:
   /// @param profile a built-in profile or a profile file; empty for the simulator's own choice

@@ -27,7 +27,7 @@ StopProgress::StopProgress(Wire& wire, const ILoop& loop, double timeScale)
 
 void StopProgress::Begin() {
   begun_ = true;
-  // Between two commands nobody can tell whether the next one is the test's own.
+  // Between two commands it is unknown whether the next one belongs to the test.
   commandsLeft_ = exchange_.Unanswered() ? kClosingCommands : 1 + kClosingCommands;
 }
 

@@ -7,14 +7,13 @@
 
 namespace bench {
 
-/// Tells a person who asks to stop again what the program waits for, and how long at most.
+/// Answers a repeated stop request with what the program waits for, and how long at most.
 class StopProgress {
  public:
-  /// @param timeScale how many times faster than the wall the clock goes
+  /// @param timeScale how many times faster than the wall clock the run is
   StopProgress(Wire& wire, const ILoop& loop, double timeScale);
 
-  /// A stop was asked for. The exchange that goes on, or is about to, comes to its end; then the session is
-  /// closed.
+  /// A stop was requested. The current or next exchange ends first; then the session is closed.
   void Begin();
   bool Begun() const { return begun_; }
 

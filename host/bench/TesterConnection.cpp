@@ -23,7 +23,7 @@ std::string InField(const std::string& field, const std::exception& error) {
   return Tr("%%1: %%2", {field, error.what()});
 }
 
-/// Sees to it that the device can be opened; returns whether it is a pseudo-terminal.
+/// Checks that the device can be opened; returns whether it is a pseudo-terminal.
 bool ProbeForTerminal(const TesterChoice& choice) {
   try {
     const auto settings = ParseLineSettings(keld_facts::kLineSettings);

@@ -17,17 +17,17 @@ struct TesterChoice {
   double timeScale = 1.0;  ///< how many times faster than the wall all pauses pass
 };
 
-/// A tester that is ready, and its port known; a simulated one ends with it.
+/// A tester that is ready for use. Ends a simulated one when destroyed.
 class TesterConnection {
  public:
-  /// Starts the simulated tester, or sees to it that the device can be opened. `InputError` for a device that
-  /// is not there or is none; `IncompleteError` for one that cannot be had now, `BusyError` when another
-  /// program holds it. All name the field.
+  /// Starts the simulated tester, or checks that the device can be opened. `InputError` when the device does
+  /// not exist or is not a serial device; `IncompleteError` when it is not available now; `BusyError` when
+  /// another program uses it. All name the field.
   TesterConnection(const TesterChoice& choice, PortManager& ports);
 
   /// The serial device that the tester answers at.
   const std::string& Device() const { return device_; }
-  /// Whether its readings are none of real equipment: whatever answers at a pseudo-terminal is a program.
+  /// Whether no real equipment is measured. Behind a pseudo-terminal there is always a program.
   bool Simulated() const { return isSimulated_; }
 
  private:
@@ -38,8 +38,8 @@ class TesterConnection {
   bool isSimulated_ = true;
 };
 
-/// "All pauses and time-outs are divided by 20. That is for simulated testers only."; empty when time is the
-/// wall's.
+/// "All pauses and time-outs are divided by 20. That is for simulated testers only."; empty in real
+/// time.
 std::string TimeScaleRemark(double timeScale);
 
 /// The time scale as it was given, or as it was typed. `InputError` unless it is a number from 0.001 to

@@ -16,7 +16,7 @@ std::filesystem::path UnsavedFile(const Document& document) {
 
 std::filesystem::path KeepUnsaved(const Document& document) {
   auto file = UnsavedFile(document);
-  // What an earlier session kept stays until a person has looked at it.
+  // Never overwrite what an earlier session kept.
   std::error_code none;
   for (int number = 2; std::filesystem::exists(file, none); ++number) {
     file = UnsavedFile(document);

@@ -12,19 +12,19 @@
 
 namespace bench {
 
-/// The options that go with every command.
+/// The options of every command.
 struct GlobalOptions {
   std::string state;
   std::string catalogue;
   std::string language;
-  std::int32_t wait = 0;  ///< seconds in all for what another program holds
+  std::int32_t wait = 0;  ///< seconds in total for files and ports that another program uses
 };
 
 /// The host without a screen, with its serial library and the plug-in opened.
 class Workbench {
  public:
-  /// Whether the saved settings must be readable. What only looks at documents does without them; a run does
-  /// not, since the resistance of the test leads is among them.
+  /// Whether the saved settings must be readable. Commands that only show documents work without them; a run
+  /// does not, because they hold the resistance of the test leads.
   enum class Settings { kNeeded, kIfReadable };
 
   /// @param timeScale how many times faster than the wall all pauses and time-outs pass
@@ -39,7 +39,7 @@ class Workbench {
   const std::shared_ptr<headless::Application>& Application() const { return application_; }
   const std::shared_ptr<bench::Host>& Host() const { return host_; }
   PortManager& Ports() { return *ports_; }
-  /// Guards the calibration of the test leads, whoever opens it.
+  /// Guards every calibration of the test leads.
   LeadCalibrationGuard& Leads() { return *leads_; }
   orvik::IPlugIn& PlugIn() { return *plugIn_; }
   double TimeScale() const { return timeScale_; }

@@ -77,10 +77,11 @@ void DeclareGlobal(CLI::App& program, GlobalOptions& options) {
                       "another program uses; otherwise 0")))
       ->type_name("SECONDS");
   program.set_version_flag("-V,--version", "orvik-bench " ORVIK_VERSION, Tr("Show the version"));
-  program.require_subcommand(0, 1);  // a missing one is told below: an unknown one is then told as such
+  program.require_subcommand(
+      0, 1);  // `RunChosen` reports a missing command, so that an unknown one is reported as unknown
 }
 
-/// What the commands must not have of the program: they take over what is there when they are declared.
+/// Declared after the commands, which would otherwise inherit it.
 void DeclareOwn(CLI::App& program) {
   program.set_help_all_flag("--help-all", Tr("Show the options of all commands"));
   program.footer(
@@ -94,18 +95,18 @@ void DeclareOwn(CLI::App& program) {
       "  orvik-bench run pump.orvik --simulate sound-class-1 --time-scale 100");
 }
 
-ExitStatus Tell(ExitStatus status, const std::string& text) {
+ExitStatus Report(ExitStatus status, const std::string& text) {
   std::cout << std::flush;
   std::cerr << "orvik-bench: " << text << "\n";
   return status;
 }
 
-/// The status, unless what was printed has not come through.
+/// The status, or a failure when the standard output could not be written.
 ExitStatus Written(ExitStatus status) {
   std::cout.flush();
   if (std::cout) return status;
-  return Tell(status == ExitStatus::kPassed ? ExitStatus::kIncomplete : status,
-              Tr("the standard output cannot be written"));
+  return Report(status == ExitStatus::kPassed ? ExitStatus::kIncomplete : status,
+                Tr("the standard output cannot be written"));
 }
 
 ExitStatus RunChosen(const std::vector<Entry>& entries, const GlobalOptions& options) {
@@ -113,7 +114,7 @@ ExitStatus RunChosen(const std::vector<Entry>& entries, const GlobalOptions& opt
     if (!entry.declared->parsed()) continue;
     return Written(entry.command->Run(options));
   }
-  throw InputError(Tr("a command is needed; \"orvik-bench --help\" shows those there are"));
+  throw InputError(Tr("a command is missing; \"orvik-bench --help\" lists the commands"));
 }
 
 void WaitAsAsked(std::int32_t seconds) {
@@ -141,19 +142,19 @@ ExitStatus StatusOf(const orvik::HostError& error) {
   }
 }
 
-/// A word that is not known explains an error better than what is missing for it.
+/// An unknown word explains the error better than the argument that is missing because of it.
 std::string Refusal(const CLI::App& program, const CLI::ParseError& error) {
   const auto code = error.get_exit_code();
   const bool unknown = code == static_cast<int>(CLI::ExitCodes::ExtrasError) ||
                        code == static_cast<int>(CLI::ExitCodes::RequiredError);
   auto reason = unknown ? UnknownWords(program) : std::string();
   if (reason.empty()) reason = error.what();  // the library's own English sentence
-  const auto help = Tr("\"%%1 --help\" shows what can be given", {CommandTyped(program)});
+  const auto help = Tr("\"%%1 --help\" shows the options", {CommandTyped(program)});
   return reason.back() == '?' ? reason + " " + help : Tr("%%1; %%2", {reason, help});
 }
 
 ExitStatus ParseAndRun(int argumentCount, const char* const* arguments) {
-  // Before anything is told: the help is in that language too.
+  // Before the declarations, whose texts are in that language.
   const auto language = ChooseProgramLanguage(argumentCount, arguments);
   CLI::App program{Tr("Plans, runs and records electrical-safety tests with a KELD tester."), "orvik-bench"};
   program.set_help_flag("-h,--help", Tr("Print this help message and exit"));
@@ -171,7 +172,7 @@ ExitStatus ParseAndRun(int argumentCount, const char* const* arguments) {
     program.exit(asked);
     return Written(ExitStatus::kPassed);
   } catch (const CLI::ParseError& error) {
-    return Tell(ExitStatus::kBadInput, Refusal(program, error));
+    return Report(ExitStatus::kBadInput, Refusal(program, error));
   }
   RefuseEmptyNames(program);
   RefuseControlCharacters(program);
@@ -183,22 +184,22 @@ ExitStatus ParseAndRun(int argumentCount, const char* const* arguments) {
 }  // namespace
 
 ExitStatus RunProgram(int argumentCount, const char* const* arguments) {
-  // A file that gets too large is an error like a full disk, and no reason to end at once.
+  // Without this, a file that grows too large would end the program; ignored, the write fails instead.
   std::signal(SIGXFSZ, SIG_IGN);
   try {
     return ParseAndRun(argumentCount, arguments);
   } catch (const InputError& error) {
-    return Tell(ExitStatus::kBadInput, error.what());
+    return Report(ExitStatus::kBadInput, error.what());
   } catch (const IncompleteError& error) {
-    return Tell(ExitStatus::kIncomplete, error.what());
+    return Report(ExitStatus::kIncomplete, error.what());
   } catch (const BusyError& error) {
-    return Tell(ExitStatus::kBusy, error.Description());
+    return Report(ExitStatus::kBusy, error.Description());
   } catch (const StorageError& error) {
-    return Tell(ExitStatus::kIncomplete, error.Description());
+    return Report(ExitStatus::kIncomplete, error.Description());
   } catch (const orvik::HostError& error) {
-    return Tell(StatusOf(error), error.Description());
+    return Report(StatusOf(error), error.Description());
   } catch (const std::exception& error) {
-    return Tell(ExitStatus::kInternal, Tr("internal error: %%1", {error.what()}));
+    return Report(ExitStatus::kInternal, Tr("internal error: %%1", {error.what()}));
   }
 }
 

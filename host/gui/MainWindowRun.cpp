@@ -52,8 +52,7 @@ void MainWindow::Run(RunSelection selection) {
   const auto elements = selection.resume ? Unfinished(selected, document, session_.View().judged) : selected;
   // The selected standards may have changed.
   Refresh();
-  if (elements.empty())
-    return ShowMessage(this, Tr("Every element has a result; there is nothing to go on with."));
+  if (elements.empty()) return ShowMessage(this, Tr("Every element has a result; nothing is left to run."));
   // A document that cannot be saved must be reported before anything is measured.
   session_.Save();
   PerformRun(elements, log, tester);
@@ -132,13 +131,14 @@ void MainWindow::ShowEnd(DocumentRunner::End end, const std::string& reason) {
     case DocumentRunner::End::kFinished:
       return;
     case DocumentRunner::End::kStopped:
-      return Remark(Tr("Stopped. The document is saved; Resume goes on with what has no result yet."));
+      return Remark(
+          Tr("Stopped. The document is saved; Resume continues with the elements that have no result yet."));
     case DocumentRunner::End::kAborted:
       return Remark(Tr("Ended by the operator. The document is saved."));
     case DocumentRunner::End::kTesterLost:
       return ShowErrorLater(Tr("The run has ended: %%1.", {reason}));
     case DocumentRunner::End::kNotSaved:
-      return ShowErrorLater(Tr("The run has ended, since the document cannot be saved: %%1", {reason}));
+      return ShowErrorLater(Tr("The run has ended because the document cannot be saved: %%1", {reason}));
   }
 }
 

@@ -12,7 +12,7 @@ using judge::Verdict;
 using report::VisibleText;
 
 std::string ReadingText(const JudgedElement& element) {
-  // A result that does not count is no reading of the equipment.
+  // A result that is not current is not a reading of this equipment.
   if (!element.Current() || !element.measurement || !element.measurement->value) return "-";
   if (element.measurement->Overloaded()) return "OL";
   const auto number = ShortNumber(*element.measurement->value);

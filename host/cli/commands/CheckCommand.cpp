@@ -20,7 +20,7 @@ namespace bench {
 
 namespace {
 
-std::size_t WrongOnes(const std::vector<Finding>& findings) {
+std::size_t CountWrong(const std::vector<Finding>& findings) {
   return static_cast<std::size_t>(
       std::count_if(findings.begin(), findings.end(), [](const Finding& found) { return found.wrong; }));
 }
@@ -32,18 +32,18 @@ nlohmann::ordered_json JsonOf(const std::string& file, const std::vector<Finding
                    {"line", found.line},
                    {"column", found.column},
                    {"text", found.text}});
-  return {{"document", file}, {"wrong", WrongOnes(findings)}, {"findings", std::move(all)}};
+  return {{"document", file}, {"wrong", CountWrong(findings)}, {"findings", std::move(all)}};
 }
 
 }  // namespace
 
 CLI::App* CheckCommand::Declare(CLI::App& program) {
-  auto* command = program.add_subcommand("check", Tr("Tell everything that is wrong with a document"));
+  auto* command = program.add_subcommand("check", Tr("Check a document for problems"));
   command->add_option("FILE", file_, Tr("The document"))->required();
   command->add_flag("--json", json_, Tr("Print one JSON object"));
-  command->footer(Examples({"orvik-bench check pump-7.orvik", "orvik-bench check pump-7.orvik --json"}) +
-                  "\n\n" +
-                  Tr("Exit status 0: nothing is wrong, 3: something is; it is told with line and column."));
+  command->footer(
+      Examples({"orvik-bench check pump-7.orvik", "orvik-bench check pump-7.orvik --json"}) + "\n\n" +
+      Tr("Exit status 0: no problems, 3: problems were found; each is printed with line and column."));
   return command;
 }
 
@@ -51,8 +51,8 @@ ExitStatus CheckCommand::Run(const GlobalOptions& options) {
   const auto text = ReadFile(file_);
   Workbench workbench(options, Workbench::Settings::kIfReadable);
   auto findings = CheckDocument(text, *workbench.Host()->Elements());
-  if (WrongOnes(findings) == 0) {
-    // Whatever keeps the document from being opened is wrong with it.
+  if (CountWrong(findings) == 0) {
+    // An error that prevents opening the document is a problem of it too.
     try {
       const auto document = Document::Open(workbench.Host(), file_, DocumentFile::Use::kRead);
       const auto judged = CheckJudged(text, ViewOf(*document, *workbench.Host()).judged);
@@ -64,7 +64,7 @@ ExitStatus CheckCommand::Run(const GlobalOptions& options) {
     }
   }
   Print(findings);
-  return WrongOnes(findings) == 0 ? ExitStatus::kPassed : ExitStatus::kBadInput;
+  return CountWrong(findings) == 0 ? ExitStatus::kPassed : ExitStatus::kBadInput;
 }
 
 void CheckCommand::Print(const std::vector<Finding>& findings) const {
@@ -73,16 +73,16 @@ void CheckCommand::Print(const std::vector<Finding>& findings) const {
     return;
   }
   for (const auto& found : findings) {
-    const std::vector<std::string> told{file_, std::to_string(found.line), std::to_string(found.column),
-                                        found.text};
-    std::cout << (found.wrong ? Tr("%%1, line %%2, column %%3: %%4", told)
-                              : Tr("%%1, line %%2, column %%3: note: %%4", told))
+    const std::vector<std::string> fields{file_, std::to_string(found.line), std::to_string(found.column),
+                                          found.text};
+    std::cout << (found.wrong ? Tr("%%1, line %%2, column %%3: %%4", fields)
+                              : Tr("%%1, line %%2, column %%3: note: %%4", fields))
               << "\n";
   }
-  const auto wrong = WrongOnes(findings);
-  std::cout << (wrong == 0   ? Tr("%%1: nothing wrong", {file_})
-                : wrong == 1 ? Tr("%%1: 1 thing is wrong", {file_})
-                             : Tr("%%1: %%2 things are wrong", {file_, std::to_string(wrong)}))
+  const auto wrong = CountWrong(findings);
+  std::cout << (wrong == 0   ? Tr("%%1: no problems found", {file_})
+                : wrong == 1 ? Tr("%%1: 1 problem found", {file_})
+                             : Tr("%%1: %%2 problems found", {file_, std::to_string(wrong)}))
             << "\n";
 }
 

@@ -8,7 +8,7 @@
 
 namespace bench {
 
-/// `check`: tells everything that is wrong with a document.
+/// `check`: reports all problems of a document.
 class CheckCommand final : public Command {
  public:
   CLI::App* Declare(CLI::App& program) override;

@@ -42,7 +42,8 @@ constexpr std::array<Button, 4> kButtons{{{"--allow-na", orvik::OptionBits::kOff
 /// The settings as the element saves them now.
 SavedSettings SettingsOf(const orvik::IConfigData& configuration) {
   SavedSettings saved(configuration);
-  if (!saved.Settings()) throw InputError(Tr("--element: its settings cannot be changed from here"));
+  if (!saved.Settings())
+    throw InputError(Tr("--element: this element has no settings that can be changed here"));
   return saved;
 }
 
@@ -83,7 +84,7 @@ CLI::App* ConfigCommand::Declare(CLI::App& program) {
   for (auto* word : {leads, allowNa, noNa, allowSkip, noSkip}) sum->excludes(word);
   command
       ->add_option(kFilter, filter_,
-                   Tr("How a sequence's value is made up: \"No values\", \"All values\", \"Maximum value\" "
+                   Tr("How a sequence computes its value: \"No values\", \"All values\", \"Maximum value\" "
                       "or \"Minimum value\""))
       ->type_name("NAME");
   command->footer(Examples({"orvik-bench config pump-7.orvik --element 2",

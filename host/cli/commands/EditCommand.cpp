@@ -29,8 +29,8 @@ std::string FieldsOf(const Document& document) {
 }  // namespace
 
 CLI::App* EditCommand::Declare(CLI::App& program) {
-  auto* command =
-      program.add_subcommand("edit", Tr("Show or change what a document says of the equipment under test"));
+  auto* command = program.add_subcommand(
+      "edit", Tr("Show or change the equipment under test and the comment of a document"));
   command->add_option("FILE", file_, Tr("The document"))->required();
   AddEquipmentOptions(*command, equipment_);
   command->add_option("--comment", comment_, Tr("A remark about the document; it changes no result"))

@@ -19,7 +19,7 @@ CLI::App* GuiCommand::Declare(CLI::App& program) {
          "  orvik-bench gui pump-7.orvik\n"
          "  orvik-bench gui pump-7.orvik --time-scale 20\n"
          "\n"
-         "The person before the screen operates the guide. Closing the window during a run stops it first: "
+         "You operate the guide on the screen. Closing the window during a run stops it first: "
          "the session\n"
          "with the tester is closed and the document saved. Ctrl-C in the terminal does so without a "
          "question. Exit\n"

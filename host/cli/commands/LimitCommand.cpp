@@ -40,7 +40,7 @@ constexpr char kRemove[] = "--remove";
 
 std::shared_ptr<orvik::ILimitData> LimitsFor(orvik::ITestElement& element) {
   auto limits = element.Limits();
-  if (!limits) throw InputError(Tr("--element %%1: it takes no limits", {std::to_string(element.ID())}));
+  if (!limits) throw InputError(Tr("--element %%1 does not take limits", {std::to_string(element.ID())}));
   return limits;
 }
 
@@ -48,7 +48,7 @@ std::shared_ptr<orvik::ILimitData> LimitsFor(orvik::ITestElement& element) {
 
 CLI::App* LimitCommand::Declare(CLI::App& program) {
   auto* command = program.add_subcommand(
-      "limit", Tr("Give elements of a document limits of a standard, or mark them as not judged"));
+      "limit", Tr("Set limits on elements of a document, or mark elements as record-only"));
   command->add_option("FILE", file_, Tr("The document"))->required();
   WholeNumbers(command->add_option(kElement, elements_, Tr("Identifiers of the elements")))->type_name("ID");
   command
@@ -61,14 +61,14 @@ CLI::App* LimitCommand::Declare(CLI::App& program) {
   command->add_option(kStandard, entered_.standard, Tr("Name of the standard, such as \"IEC 62353\""))
       ->type_name("NAME");
   command->add_option(kDescription, entered_.description,
-                      Tr("Which of the standards of that name, such as \"class I, BF\""));
+                      Tr("Which standard of that name, such as \"class I, BF\""));
   command->add_option(kLow, entered_.low, Tr("Lower bound, inclusive; a number"))->type_name("LOW");
   command->add_option(kHigh, entered_.high, Tr("Upper bound, inclusive; a number"))->type_name("HIGH");
   command->add_option(kUnit, entered_.unit,
                       Tr("Unit of the bounds; otherwise the unit that the element is recorded in"));
   command->add_flag(kRecordOnly, recordOnly_,
-                    Tr("Mark the elements: their readings are recorded and not judged. A limit that is set "
-                       "later takes the mark away"));
+                    Tr("Mark the elements: their readings are recorded and not judged. Setting a limit later "
+                       "removes the mark"));
   command->add_flag(kRemove, remove_,
                     Tr("Remove the elements' limits of --standard; without it all limits, and the mark"));
   command->footer(Examples(
@@ -88,9 +88,9 @@ ExitStatus LimitCommand::Run(const GlobalOptions& options) {
   Workbench workbench(options);
   const auto document = Document::Open(workbench.Host(), file_);
   const Consequences consequences(*document, *workbench.Host());
-  const auto told = Change(workbench, *document, options);
+  const auto lines = Change(workbench, *document, options);
   document->Save();
-  std::cout << told << consequences.Text();
+  std::cout << lines << consequences.Text();
   return ExitStatus::kPassed;
 }
 
@@ -121,34 +121,34 @@ std::string LimitCommand::Change(Workbench& workbench, Document& document,
   const auto elements = ElementsFor(document, kElement, elements_);
   if (remove_) return RemoveLimits(elements, factory);
   if (!recordOnly_) return SetLimits(elements, factory);
-  std::string told;
+  std::string lines;
   for (const auto& element : elements) {
     MarkRecordOnly(element, factory, true);
-    told += Tr("%%1: %%2", {NameWithNumber(*element, factory), Tr("recorded, not judged")}) + "\n";
+    lines += Tr("%%1: %%2", {NameWithNumber(*element, factory), Tr("recorded, not judged")}) + "\n";
   }
-  return told;
+  return lines;
 }
 
 std::string LimitCommand::SetLimits(const Elements& elements, const ElementFactory& factory) const {
-  std::string told;
+  std::string lines;
   for (const auto& element : elements) {
     const auto limits = LimitsFor(*element);
     try {
       const auto limit = SetLimit(*limits, entered_);
-      told += Tr("%%1: %%2", {NameWithNumber(*element, factory),
-                              TextOf({entered_.standard, entered_.description, limit->LowText(),
-                                      limit->HighText(), limit->Unit()})});
+      lines += Tr("%%1: %%2", {NameWithNumber(*element, factory),
+                               TextOf({entered_.standard, entered_.description, limit->LowText(),
+                                       limit->HighText(), limit->Unit()})});
     } catch (const orvik::HostError& error) {
       throw InputError(Tr("--element %%1, --low, --high, --unit: %%2",
                           {std::to_string(element->ID()), error.Description()}));
     }
     if (IsRecordOnly(element, factory)) {
       MarkRecordOnly(element, factory, false);
-      told += Tr("; no longer record-only");
+      lines += Tr("; no longer record-only");
     }
-    told += "\n";
+    lines += "\n";
   }
-  return told;
+  return lines;
 }
 
 std::string LimitCommand::RemoveLimits(const Elements& elements, const ElementFactory& factory) const {
@@ -157,7 +157,7 @@ std::string LimitCommand::RemoveLimits(const Elements& elements, const ElementFa
     return all || (standard.Name() == entered_.standard &&
                    (!Given(kDescription) || standard.Description() == entered_.description));
   };
-  std::string told;
+  std::string lines;
   for (const auto& element : elements) {
     const auto name = NameWithNumber(*element, factory);
     const auto limits = element->Limits();
@@ -169,13 +169,13 @@ std::string LimitCommand::RemoveLimits(const Elements& elements, const ElementFa
     if (removed.empty() && !marked)
       throw InputError(Tr("--remove: %%1 has no limits and is not record-only", {name}));
     if (all && marked) MarkRecordOnly(element, factory, false);
-    for (const auto& limit : removed) told += Tr("%%1: removed: %%2", {name, TextOf(limit)}) + "\n";
-    if (all && marked) told += Tr("%%1: no longer record-only", {name}) + "\n";
+    for (const auto& limit : removed) lines += Tr("%%1: removed: %%2", {name, TextOf(limit)}) + "\n";
+    if (all && marked) lines += Tr("%%1: no longer record-only", {name}) + "\n";
     const bool sequence = orvik::As<orvik::ITestContainer>(element) != nullptr;
     if (!sequence && limits && LimitsOf(*limits).empty())
-      told += Tr("%%1: %%2", {name, NeedsALimit()}) + "\n";
+      lines += Tr("%%1: %%2", {name, NeedsALimit()}) + "\n";
   }
-  return told;
+  return lines;
 }
 
 std::string LimitCommand::ApplySet(const Document& document, const ElementFactory& factory,
@@ -186,12 +186,12 @@ std::string LimitCommand::ApplySet(const Document& document, const ElementFactor
       ApplyLimitSet(set, elements, factory, also_ ? EarlierSets::kKept : EarlierSets::kReplaced);
   if (applied.applied.empty())
     throw InputError(Tr("--from %%1: the set covers none of these elements of %%2", {set_, file_}));
-  std::string told = StandardText(set.standard, set.Description()) + ":\n";
-  for (const auto& line : applied.applied) told += "  " + line + "\n";
-  if (applied.uncovered.empty()) return told;
-  told += Tr("Not covered by this set:") + "\n";
-  for (const auto& line : applied.uncovered) told += "  " + line + "\n";
-  return told;
+  std::string lines = StandardText(set.standard, set.Description()) + ":\n";
+  for (const auto& line : applied.applied) lines += "  " + line + "\n";
+  if (applied.uncovered.empty()) return lines;
+  lines += Tr("Not covered by this set:") + "\n";
+  for (const auto& line : applied.uncovered) lines += "  " + line + "\n";
+  return lines;
 }
 
 }  // namespace bench

@@ -14,9 +14,9 @@
 namespace bench {
 
 CLI::App* NewCommand::Declare(CLI::App& program) {
-  auto* command =
-      program.add_subcommand("new", Tr("Make a test document and print the identifiers of its elements"));
-  command->add_option("FILE", file_, Tr("The document to make, such as pump-7.orvik"))->required();
+  auto* command = program.add_subcommand(
+      "new", Tr("Create a document of tests and print the identifiers of its elements"));
+  command->add_option("FILE", file_, Tr("The document to create, such as pump-7.orvik"))->required();
   WholeNumbers(command->add_option("--add", tests_, Tr("Tests of the catalogue, in the order of testing")))
       ->type_name("TESTID");
   command

@@ -45,8 +45,9 @@ CLI::App* ReportCommand::Declare(CLI::App& program) {
       Tr("Report this run as it was done, regardless of what counts now; \"show --runs\" lists them")));
   run->type_name("N");
   command
-      ->add_option("--standard", standards_,
-                   Tr("Judge by this standard alone; may be given again. What is left out is named"))
+      ->add_option(
+          "--standard", standards_,
+          Tr("Judge by this standard only; may be given again. The output names the standards left out"))
       ->allow_extra_args(false)
       ->type_name("NAME")
       ->excludes(run);

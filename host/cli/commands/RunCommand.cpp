@@ -49,7 +49,7 @@ CLI::App* RunCommand::Declare(CLI::App& program) {
   command->add_option("--standard", options_.standards, Tr("Judge by this standard; may be given again"))
       ->allow_extra_args(false)
       ->type_name("NAME");
-  command->add_flag("--resume", options_.resume, Tr("Go on with what has no result yet"));
+  command->add_flag("--resume", options_.resume, Tr("Continue with the elements that have no result yet"));
   command->add_option("--operator", options_.operatorKind, Tr("Who presses the guide's buttons: auto or ask"))
       ->type_name("auto|ask");
   command
@@ -107,7 +107,7 @@ ExitStatus RunCommand::Perform(Workbench& workbench, Document& document, RunRepo
   WireLog log(options_.wireLog.empty() ? options_.file + ".wire.log" : options_.wireLog);
   const auto& tester = options_.tester.Connect(workbench.Ports());
   if (const auto remark = options_.tester.TimeRemark(); !remark.empty()) reporter.Remark(remark);
-  if (elements.empty()) reporter.Remark(Tr("Every element has a result; there is nothing to go on with."));
+  if (elements.empty()) reporter.Remark(Tr("Every element has a result; nothing is left to run."));
 
   auto end = DocumentRunner::End::kFinished;
   {
@@ -124,7 +124,7 @@ ExitStatus RunCommand::Perform(Workbench& workbench, Document& document, RunRepo
     const StopSignals signals(*application, [&session](int) { session.AskToStop(); });
     end = session.Run(elements, std::move(runOperator));
     reporter.Over();
-    Tell(end, session.Reason(), reporter);
+    RemarkOnEnd(end, session.Reason(), reporter);
   }
   if (end == DocumentRunner::End::kNotSaved) KeepResults(document, reporter);
   if (!log.Failure().empty())
@@ -139,28 +139,30 @@ ExitStatus RunCommand::Perform(Workbench& workbench, Document& document, RunRepo
   return status;
 }
 
-void RunCommand::Tell(DocumentRunner::End end, const std::string& reason, RunReporter& reporter) const {
+void RunCommand::RemarkOnEnd(DocumentRunner::End end, const std::string& reason,
+                             RunReporter& reporter) const {
   switch (end) {
     case DocumentRunner::End::kFinished:
       return;
     case DocumentRunner::End::kStopped:
       return reporter.Remark(
-          Tr("Stopped. The document is saved; \"run --resume\" goes on with what has no result yet."));
+          Tr("Stopped. The document is saved; \"run --resume\" continues with the elements that have no "
+             "result yet."));
     case DocumentRunner::End::kAborted:
       return reporter.Remark(Tr("Ended by the operator. The document is saved."));
     case DocumentRunner::End::kTesterLost:
       return reporter.Remark(Tr("The run has ended: %%1.", {reason}));
     case DocumentRunner::End::kNotSaved:
-      return reporter.Remark(Tr("The run has ended, since the document cannot be saved: %%1", {reason}));
+      return reporter.Remark(Tr("The run has ended because the document cannot be saved: %%1", {reason}));
   }
 }
 
 void RunCommand::KeepResults(const Document& document, RunReporter& reporter) {
   try {
-    reporter.Remark(Tr("The results are kept in %%1: it is the document as it would have been saved.",
+    reporter.Remark(Tr("The results are in %%1, the document as it would have been saved.",
                        {KeepUnsaved(document).string()}));
   } catch (const orvik::HostError& error) {
-    reporter.Remark(Tr("The results cannot be kept in another file either, and are shown here alone: %%1",
+    reporter.Remark(Tr("The results could not be saved to another file either and are only shown here: %%1",
                        {error.Description()}));
   }
 }

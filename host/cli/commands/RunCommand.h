@@ -23,7 +23,7 @@ class RunCommand final : public Command {
   void Check() const;
   std::unique_ptr<RunReporter> Reporter(Workbench& workbench) const;
   ExitStatus Perform(Workbench& workbench, Document& document, RunReporter& reporter);
-  void Tell(DocumentRunner::End end, const std::string& reason, RunReporter& reporter) const;
+  void RemarkOnEnd(DocumentRunner::End end, const std::string& reason, RunReporter& reporter) const;
   static void KeepResults(const Document& document, RunReporter& reporter);
 
   RunOptions options_;

@@ -23,12 +23,12 @@ CLI::App* ShowCommand::Declare(CLI::App& program) {
   auto* command = program.add_subcommand("show", Tr("Print a document and its results"));
   command->add_option("FILE", file_, Tr("The document"))->required();
   auto* runs = command->add_flag("--runs", runs_, Tr("List every run of the document instead"));
-  auto* run = WholeNumbers(
-      command->add_option("--run", run_, Tr("Print this run as it was done, whatever counts now")));
+  auto* run = WholeNumbers(command->add_option("--run", run_, Tr("Print this run as it was recorded")));
   run->type_name("N")->excludes(runs);
   command
-      ->add_option("--standard", standards_,
-                   Tr("Judge by this standard alone; may be given again. What is left out is named"))
+      ->add_option(
+          "--standard", standards_,
+          Tr("Judge by this standard only; may be given again. The output names the standards left out"))
       ->allow_extra_args(false)
       ->type_name("NAME")
       ->excludes(runs)

@@ -65,8 +65,8 @@ std::string TestsText(const LimitFigure& figure) {
 }  // namespace
 
 CLI::App* StandardsCommand::Declare(CLI::App& program) {
-  auto* command =
-      program.add_subcommand("standards", Tr("List the sets of limits, or show one with the sources"));
+  auto* command = program.add_subcommand(
+      "standards", Tr("List the limit sets, or show one with the source of each limit"));
   command->add_option("SET", set_, Tr("The set to show: its name, or the path of its file"));
   command->add_flag("--json", json_, Tr("Print one JSON object"));
   command->footer(Examples({"orvik-bench standards", "orvik-bench standards iec-62353-class-1-bf",

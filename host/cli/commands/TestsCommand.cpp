@@ -15,7 +15,7 @@ namespace bench {
 
 namespace {
 
-/// Levels beyond this one stand below each other: a catalogue may be nested to any depth.
+/// Deeper levels are not indented further: a catalogue may be nested to any depth.
 constexpr std::size_t kDeepestIndent = 20;
 
 nlohmann::ordered_json JsonOf(const std::vector<CatalogueEntry>& entries) {

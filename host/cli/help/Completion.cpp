@@ -125,7 +125,7 @@ std::string BashCompletion(const CLI::App& program) {
     several += BashSeveral(command, path);
   });
   const auto& name = program.get_name();
-  // No variable may be called "path" or "options": zsh knows the search path and its own settings by them.
+  // Do not name a variable "path" or "options": zsh uses them for its search path and settings.
   return "# Completion of " + name +
          " for bash: source it, or put it into the folder of your completions.\n" + BashFunctions() +
          "_orvik_bench() {\n"

@@ -28,7 +28,7 @@ ExitStatus CompletionCommand::Run(const GlobalOptions&) {
   else if (shell_ == "fish")
     std::cout << FishCompletion(*program_);
   else
-    throw InputError(Tr("%%1 is no shell that is known here; give bash, zsh or fish", {shell_}));
+    throw InputError(Tr("unknown shell %%1 (bash, zsh, fish)", {shell_}));
   return ExitStatus::kPassed;
 }
 

@@ -6,8 +6,8 @@ class App;
 
 namespace bench {
 
-/// Refuses a file, a folder or an argument that was given as an empty text, as by a script whose variable is
-/// not set: taken for "not given" it would be another file than was meant. `InputError`.
+/// Rejects an empty file, folder or argument, such as from a script whose variable is not set: treating it as
+/// "not given" would use another file than intended. `InputError`.
 void RefuseEmptyNames(const CLI::App& program);
 
 }  // namespace bench

@@ -13,8 +13,8 @@ namespace bench {
 
 CLI::App* HelpCommand::Declare(CLI::App& program) {
   program_ = &program;
-  auto* command = program.add_subcommand("help", Tr("Explain a command, as COMMAND --help does"));
-  command->add_option("COMMAND", words_, Tr("The command; without one the program is explained"));
+  auto* command = program.add_subcommand("help", Tr("Print the help of a command"));
+  command->add_option("COMMAND", words_, Tr("The command; without one, the help of the program"));
   command->footer(Examples({"orvik-bench help run", "orvik-bench help archive add"}));
   return command;
 }

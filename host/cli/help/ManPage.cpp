@@ -25,7 +25,7 @@ std::string Escaped(const std::string& text) {
   return escaped;
 }
 
-/// A line of text that no roff request hides in.
+/// A line of text, escaped so that it cannot be read as a roff request.
 std::string Line(const std::string& text) {
   const bool request = !text.empty() && (text[0] == '.' || text[0] == '\'');
   return (request ? "\\&" : "") + Escaped(text) + "\n";
@@ -44,7 +44,7 @@ std::string HeadingOf(const std::string& page, const std::string& version) {
   return ".TH " + UpperCase(page) + " 1 \"\" \"" + version + "\" \"User Commands\"\n";
 }
 
-/// Text as it is laid out already: the examples and remarks that stand below a help text.
+/// Text with its own line breaks: the examples and remarks below a help text.
 std::string Laid(const std::string& text) {
   std::string laid = ".nf\n";
   std::istringstream lines(text);

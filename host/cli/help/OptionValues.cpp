@@ -32,8 +32,8 @@ constexpr std::array<std::string_view, 2> kFolders{"DIR", "FOLDER"};
 /// An argument is called what an option has as its type.
 std::string TypeOf(const CLI::Option& option) {
   const auto type = option.get_type_name();
-  const bool told = type.find('|') != std::string::npos || !option.get_positional();
-  return told ? type : option.get_name(true);
+  const bool named = type.find('|') != std::string::npos || !option.get_positional();
+  return named ? type : option.get_name(true);
 }
 
 template <class Names>

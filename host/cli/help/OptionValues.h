@@ -9,7 +9,7 @@ class Option;
 
 namespace bench {
 
-/// What the value of an option or an argument may be, told by the name of its type: "FILE", "DIR",
+/// What the value of an option or argument may be, derived from the name of its type: "FILE", "DIR",
 /// "passed|failed".
 
 /// A document of tests, FILE.orvik.

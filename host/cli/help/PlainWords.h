@@ -6,7 +6,7 @@ class App;
 
 namespace bench {
 
-/// Refuses texts on the command line that a document cannot hold: control characters, line ends among them,
+/// Rejects texts on the command line that a document cannot hold: control characters, line ends among them,
 /// and bytes that are not UTF-8. Names of files and folders may have them. `InputError` naming the option.
 void RefuseControlCharacters(const CLI::App& program);
 

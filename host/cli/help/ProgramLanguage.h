@@ -7,7 +7,7 @@ namespace bench {
 
 /// Chooses the language of the program's texts, before the command line is parsed: that of "--lang", else
 /// that of the environment (ORVIK_LANG, then LC_ALL, LC_MESSAGES and LANG; the first that is set decides). A
-/// language of the environment that is no name or has no translations is English; so are "C" and "POSIX".
+/// language of the environment that is invalid or has no translations means English; so are "C" and "POSIX".
 /// @return the language for the plug-in's texts, such as "de" or "pt_BR"; empty for English
 /// @throws InputError for a "--lang" without translations; the message names the languages that have them
 /// @throws HostError 75 for a malformed file of translations

@@ -11,7 +11,7 @@ namespace bench {
 namespace {
 
 constexpr std::size_t kShortestBeginning = 3;
-/// Longer words are no mistyped names; the cost grows with the square of the length.
+/// Longer words are not mistyped names; the cost grows with the square of the length.
 constexpr std::size_t kLongestWord = 40;
 
 std::string Bare(std::string_view word) {
@@ -51,7 +51,7 @@ std::string Nearest(std::string_view word, const std::vector<std::string>& candi
     const auto name = Bare(candidate);
     const bool begins = typed.size() >= kShortestBeginning && name.starts_with(typed);
     const auto mistakes = begins ? 1 : Distance(typed, name);
-    // A word of which every letter is wrong is another word.
+    // With every letter wrong it is another word.
     if (mistakes > MistakesIn(typed.size()) || mistakes >= name.size() || mistakes >= fewest) continue;
     fewest = mistakes;
     nearest = candidate;

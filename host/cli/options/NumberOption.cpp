@@ -17,7 +17,7 @@ namespace {
 
 constexpr std::string_view kDigits = "0123456789";
 
-/// The numbers of a list such as "410,910"; none when the text is none.
+/// The numbers of a list such as "410,910"; empty when the text is not a list of numbers.
 std::vector<std::string> NumbersOfList(std::string text) {
   if (text.find_first_not_of(std::string(kDigits) + ",; ") != std::string::npos) return {};
   std::replace_if(

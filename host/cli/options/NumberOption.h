@@ -9,8 +9,8 @@ class Option;
 
 namespace bench {
 
-/// Has an option or argument take whole numbers alone, in decimal digits: "010" is ten. Anything else is told
-/// by `InputError` with the option's name, the text, and what to write instead.
+/// Makes an option or argument accept whole numbers only, in decimal digits: "010" is ten. Anything else is
+/// an `InputError` with the name of the option, the text, and what to write instead.
 /// @param highest of the numbers, and with a minus sign the lowest
 /// @returns the option
 CLI::Option* WholeNumbers(CLI::Option* option,

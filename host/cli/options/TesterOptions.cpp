@@ -34,8 +34,7 @@ void TesterOptions::Check() const {
   const bool simulated = simulate_->count() > 0;
   if (simulated == !choice_.port.empty())
     throw InputError(
-        Tr("name the tester's serial device with --port, or have one simulated with --simulate; one of the "
-           "two"));
+        Tr("give either --port with the serial device of the tester, or --simulate for a simulated one"));
 }
 
 const TesterConnection& TesterOptions::Connect(PortManager& ports) {

@@ -26,7 +26,7 @@ class TesterOptions {
 
   /// Makes the tester ready, as `TesterConnection` does.
   const TesterConnection& Connect(PortManager& ports);
-  /// What to tell the person about the tester's time; empty when it is the wall's.
+  /// The remark on the tester's time scale; empty in real time.
   std::string TimeRemark() const { return TimeScaleRemark(choice_.timeScale); }
 
  private:

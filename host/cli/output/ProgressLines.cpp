@@ -20,7 +20,7 @@ namespace {
 
 constexpr std::chrono::milliseconds kRedraw{250};
 
-/// The text cut to what fits into one line of the terminal: a second line could not be wiped out again.
+/// The text cut to one line of the terminal: a second line could not be erased.
 std::string Fitting(const std::string& text) {
   winsize size{};
   const bool known =
@@ -37,7 +37,7 @@ ProgressLines::ProgressLines(std::ostream& out, int descriptor, std::shared_ptr<
       coloured_(ColoursWanted(descriptor)),
       loop_(std::move(loop)),
       timeScale_(timeScale),
-      // Four times a second for the person who looks on, however fast the run's clock goes.
+      // Four times a second on the wall clock, however fast the clock of the run is.
       interval_(static_cast<std::int64_t>(static_cast<double>(orvik::platform::Time(kRedraw).count()) *
                                           timeScale)) {
   if (terminal_) Redraw();

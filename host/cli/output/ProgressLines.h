@@ -11,8 +11,8 @@
 
 namespace bench {
 
-/// Shows people how a run goes: plain lines, and on a terminal below them one line that is kept up to date
-/// while the run waits.
+/// Prints the progress of a run in lines; on a terminal, also one line below them that is updated while the
+/// run waits.
 class ProgressLines final : public RunReporter {
  public:
   /// @param descriptor the one that `out` writes to

@@ -85,7 +85,7 @@ std::string RunsText(const std::vector<RunRecord>& runs) {
 }
 
 std::string RunText(const RunRecord& run, std::size_t count, const RunOutcomes& outcomes) {
-  auto text = Tr("Run %%1 of %%2, as it was done; what counts now is what \"show\" prints without --run.",
+  auto text = Tr("Run %%1 of %%2 as recorded; \"show\" without --run prints what counts now.",
                  {std::to_string(run.number), std::to_string(count)}) +
               "\n";
   if (run.simulated) text += Tr("SIMULATED: a simulated tester was used; nothing was measured.") + "\n";

@@ -21,7 +21,7 @@ TEST_F(CheckCommandTest, NothingIsWrongWithADocumentThatWasRun) {
   EXPECT_EQ(Bench({"run", file, "--simulate", "sound-class-1", "--time-scale", kTimeScale}).status, 0);
   const auto checked = Bench({"check", file});
   EXPECT_EQ(checked.status, 0);
-  EXPECT_EQ(checked.out, file + ": nothing wrong\n");
+  EXPECT_EQ(checked.out, file + ": no problems found\n");
   const auto json = nlohmann::json::parse(Bench({"check", file, "--json"}).out);
   EXPECT_EQ(json["wrong"], 0);
   EXPECT_TRUE(json["findings"].empty());
@@ -35,7 +35,7 @@ TEST_F(CheckCommandTest, NotesAloneAreNothingWrong) {
   EXPECT_NE(checked.out.find("column 3: note: the element \"Signature\" is not known; it is kept"),
             std::string::npos)
       << checked.out;
-  EXPECT_NE(checked.out.find("nothing wrong"), std::string::npos);
+  EXPECT_NE(checked.out.find("no problems found"), std::string::npos);
 }
 
 TEST_F(CheckCommandTest, EverythingThatIsWrongIsToldWithItsPlace) {
@@ -47,7 +47,7 @@ TEST_F(CheckCommandTest, EverythingThatIsWrongIsToldWithItsPlace) {
   const auto checked = Bench({"check", file});
   EXPECT_EQ(checked.status, 3);
   for (const char* told : {"is used twice", "the catalogue has no test 421", "\"30O\" is not a number",
-                           "the bounds are in Ohm", "4 things are wrong"})
+                           "the bounds are in Ohm", "4 problems found"})
     EXPECT_NE(checked.out.find(told), std::string::npos) << told << " is not in\n" << checked.out;
   const auto json = nlohmann::json::parse(Bench({"check", file, "--json"}).out);
   EXPECT_EQ(json["wrong"], 4);

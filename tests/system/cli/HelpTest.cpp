@@ -40,7 +40,7 @@ TEST_P(MistypedTest, IsRefusedWithWhatWasMeant) {
   const auto refused = Bench(GetParam().words);
   EXPECT_EQ(refused.status, 3);
   EXPECT_EQ(refused.out, "");
-  EXPECT_EQ(refused.error, "orvik-bench: " + std::string(GetParam().told) + " shows what can be given\n");
+  EXPECT_EQ(refused.error, "orvik-bench: " + std::string(GetParam().told) + " shows the options\n");
 }
 
 INSTANTIATE_TEST_SUITE_P(

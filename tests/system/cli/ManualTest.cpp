@@ -219,7 +219,7 @@ TEST_F(CompletionTest, EveryShellThatIsNamedHasAScript) {
   EXPECT_NE(fish.out.find("-l help -d"), std::string::npos) << "a flag takes no value: " << fish.out;
   const auto unknown = Bench({"completion", "tcsh"});
   EXPECT_EQ(unknown.status, 3);
-  EXPECT_NE(unknown.error.find("bash, zsh or fish"), std::string::npos) << unknown.error;
+  EXPECT_NE(unknown.error.find("bash, zsh, fish"), std::string::npos) << unknown.error;
 }
 
 }  // namespace

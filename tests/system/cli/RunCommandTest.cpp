@@ -121,7 +121,7 @@ TEST_F(RunCommandTest, ResumeGoesOnWithWhatHasNoResult) {
   EXPECT_EQ(SentIn(file + ".wire.log"), (Words{"IREM", "STST,420,0", "GRES,420,0", "STST,210,0", "EREM"}));
   const auto again = Bench(Simulated(file, "sound-class-1", {"--resume"}));
   EXPECT_EQ(again.status, 0);
-  EXPECT_NE(again.out.find("nothing to go on with"), std::string::npos);
+  EXPECT_NE(again.out.find("nothing is left to run"), std::string::npos);
 }
 
 TEST_F(RunCommandTest, ResumePassesOverWhatPassedOrFailedItsLimits) {
@@ -233,7 +233,7 @@ TEST_F(RunCommandTest, ResultsThatCannotBeSavedAreKeptBesideTheDocument) {
   const auto ended = run->Wait();
   EXPECT_EQ(ended.status, 2) << ended.out << ended.error;
   EXPECT_NE(ended.out.find("was changed by another program"), std::string::npos) << ended.out;
-  EXPECT_NE(ended.out.find("The results are kept in " + file + ".unsaved"), std::string::npos) << ended.out;
+  EXPECT_NE(ended.out.find("The results are in " + file + ".unsaved"), std::string::npos) << ended.out;
   EXPECT_EQ(SentIn(file + ".wire.log").back(), "EREM");
   EXPECT_EQ(Contents(file), "another file");
   const auto kept = Show(file + ".unsaved");

@@ -107,7 +107,7 @@ TEST_P(MistakeInGerman, IsToldInGerman) {
 INSTANTIATE_TEST_SUITE_P(
     Lines, MistakeInGerman,
     testing::Values(
-        Mistake{"NoCommand", {}, "a command is needed", "ein Befehl ist nötig"},
+        Mistake{"NoCommand", {}, "a command is missing", "ein Befehl fehlt"},
         Mistake{"UnknownOption", {"--nosuch"}, "unknown option --nosuch", "unbekannte Option --nosuch"},
         Mistake{"UnknownCommand", {"frob", "x"}, "unknown command \"frob\"", "unbekannter Befehl"},
         Mistake{"RequiredOption", {"report", "x.orvik"}, "--to is required", "--to is required"},
