@@ -2,6 +2,7 @@
 #include "host/document/Document.h"
 
 #include <algorithm>
+#include <nlohmann/json.hpp>
 
 #include "OrvikTypeLib/HostError.h"
 #include "fuzz/Bench.h"

@@ -5,6 +5,7 @@
 
 namespace CLI {
 class App;
+class Option;
 }  // namespace CLI
 
 namespace bench {

@@ -61,6 +61,8 @@ std::string Answer(const orvik::ITestElement& element, const SavedSettings& save
 
 }  // namespace
 
+bool ConfigCommand::Given(const char* option) const { return command_->count(option) > 0; }
+
 CLI::App* ConfigCommand::Declare(CLI::App& program) {
   auto* command = program.add_subcommand("config", Tr("Show or change the settings of an element"));
   command->add_option("FILE", file_, Tr("The document"))->required();

@@ -14,7 +14,7 @@ class ConfigCommand final : public Command {
   ExitStatus Run(const GlobalOptions& options) override;
 
  private:
-  bool Given(const char* option) const { return command_->count(option) > 0; }
+  bool Given(const char* option) const;
   bool ChangesOptions() const;
   std::int32_t Changed(std::int32_t settings, std::int32_t testId) const;
 

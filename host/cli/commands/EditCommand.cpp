@@ -28,6 +28,8 @@ std::string FieldsOf(const Document& document) {
 
 }  // namespace
 
+bool EditCommand::Given(const char* option) const { return command_->count(option) > 0; }
+
 CLI::App* EditCommand::Declare(CLI::App& program) {
   auto* command = program.add_subcommand(
       "edit", Tr("Show or change the equipment under test and the comment of a document"));

@@ -14,7 +14,7 @@ class EditCommand final : public Command {
   ExitStatus Run(const GlobalOptions& options) override;
 
  private:
-  bool Given(const char* option) const { return command_->count(option) > 0; }
+  bool Given(const char* option) const;
   void Change(Document& document) const;
 
   std::string file_;

@@ -46,6 +46,8 @@ std::shared_ptr<orvik::ILimitData> LimitsFor(orvik::ITestElement& element) {
 
 }  // namespace
 
+bool LimitCommand::Given(const std::string& option) const { return command_->count(option) > 0; }
+
 CLI::App* LimitCommand::Declare(CLI::App& program) {
   auto* command = program.add_subcommand(
       "limit", Tr("Set limits on elements of a document, or mark elements as record-only"));

@@ -22,7 +22,7 @@ class LimitCommand final : public Command {
  private:
   using Elements = std::vector<std::shared_ptr<orvik::ITestElement>>;
 
-  bool Given(const std::string& option) const { return command_->count(option) > 0; }
+  bool Given(const std::string& option) const;
   void Check() const;
   void RefuseTogether(const std::string& option, const std::vector<std::string>& others) const;
 
