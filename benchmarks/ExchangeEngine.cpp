@@ -19,7 +19,7 @@ constexpr std::uint64_t kCommands = 5;
 // and wait on the virtual clock.
 Figure MeasureExchangeEngine(const Context&) {
   VirtualRig rig;
-  const auto link = keld::CKELDInstrument::Create();
+  const auto link = keld::instrument::CKELDInstrument::Create();
   std::uint64_t tests = 0;
   const auto rate = BestRate([&] {
     link->ConnectMTI();

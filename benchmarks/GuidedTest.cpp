@@ -34,18 +34,18 @@ Figure MeasureGuidedTest(const Context& context) {
   const auto element = plugIn->CreateTest(kTest);
   orvik::Required(element).SetID(1);
 
-  bench::StopRequest stop;
-  bench::DoubtTracker doubts(*rig.Ports().TheWire());
+  host::run::StopRequest stop;
+  host::run::DoubtTracker doubts(*rig.Ports().TheWire());
   const auto standards =
       orvik::As<orvik::IStandardColl>(host.CreateObject(orvik::HostClasses::kStandardColl));
-  const auto instruments = std::make_shared<bench::InstrumentColl>();
-  bench::Runs runs;  // no run is begun, so nothing is recorded
-  bench::RunRecorder recorder({runs, instruments, standards, doubts});
-  const auto controller = std::make_shared<bench::RunController>(
-      bench::RunController::Parts{standards, instruments, doubts, recorder, [] {}});
+  const auto instruments = std::make_shared<host::instruments::InstrumentColl>();
+  host::document::Runs runs;  // no run is begun, so nothing is recorded
+  host::run::RunRecorder recorder({runs, instruments, standards, doubts});
+  const auto controller = std::make_shared<host::run::RunController>(
+      host::run::RunController::Parts{standards, instruments, doubts, recorder, [] {}});
   const auto application = rig.Only().SharedApplication();
-  const bench::OperatorEvents program(application, stop,
-                                      std::make_unique<bench::AutoOperator>(application, stop));
+  const host::run::OperatorEvents program(application, stop,
+                                          std::make_unique<host::run::AutoOperator>(application, stop));
   const auto rate = BestRate([&] {
     element->Perform(controller);
     if (!element->Result() || element->Result()->Status() != kPassed)

@@ -41,12 +41,13 @@ class LargeDocument {
   const std::filesystem::path& File() const { return file_; }
   std::string Text() const { return support::ReadFile(file_); }
 
-  std::shared_ptr<bench::Document> Open() {
-    return bench::Document::Open(rig_.Only().SharedHost(), file_, bench::DocumentFile::Use::kRead);
+  std::shared_ptr<host::document::Document> Open() {
+    return host::document::Document::Open(rig_.Only().SharedHost(), file_,
+                                          host::document::DocumentFile::Use::kRead);
   }
 
   /// The document, read and looked over.
-  std::shared_ptr<bench::Document> OpenAndCheck() {
+  std::shared_ptr<host::document::Document> OpenAndCheck() {
     auto document = Open();
     const auto last = document->Find(kLargeResults);
     if (document->Elements()->Count() != kLargeResults || !last || !last->Result() ||
@@ -58,13 +59,13 @@ class LargeDocument {
   /// The least that judging and that loading took.
   std::pair<double, double> SecondsToJudgeAndLoad() {
     const auto document = Open();
-    if (bench::judge::Judge(*document, *rig_.Only().Host().Elements()).outcome !=
-        bench::judge::Outcome::kPassed)
+    if (host::judge::Judge(*document, *rig_.Only().Host().Elements()).outcome !=
+        host::judge::Outcome::kPassed)
       throw std::runtime_error("the document has not passed as it was measured");
     const auto [judged, loaded] = LeastOfEach(
         kJudgeRounds,
         [&] {
-          return SecondsOf([&] { return bench::judge::Judge(*document, *rig_.Only().Host().Elements()); });
+          return SecondsOf([&] { return host::judge::Judge(*document, *rig_.Only().Host().Elements()); });
         },
         [&] { return SecondsOf([&] { return Open(); }); });
     return {judged, loaded};

@@ -20,7 +20,7 @@ void RecordAll(pugi::xml_node run, int count) {
   }
   run.remove_child(test);
   run.child("Takes").attribute("Elements").set_value(taken.c_str());
-  run.attribute("Digest").set_value(bench::DigestOf(run).c_str());
+  run.attribute("Digest").set_value(host::document::DigestOf(run).c_str());
 }
 
 }  // namespace

@@ -26,14 +26,14 @@ constexpr int kAround = 100;
 constexpr int kLists = 7;
 
 /// An element that was measured and keeps its limit.
-std::shared_ptr<keld::CKELDTestElement> MeasuredElement() {
-  const auto element = keld::CKELDTestElement::Create();
+std::shared_ptr<keld::model::CKELDTestElement> MeasuredElement() {
+  const auto element = keld::model::CKELDTestElement::Create();
   element->Initialize("KELD(IN)", 1, 410);
   element->Information()->SetDisplayName("Protective earth, with mains cord");
   element->Limits()->CreateStandard("IEC 62353", "class I")->Limit(1)->SetBounds("", "300");
-  const auto measurement = keld::CKELDMeasurement::Create();
+  const auto measurement = keld::instrument::CKELDMeasurement::Create();
   measurement->AddValue(123.0, "mOhm", "", "");
-  const auto result = keld::CKELDResultData::Create();
+  const auto result = keld::results::CKELDResultData::Create();
   result->SetMeasurement(measurement);
   element->BaseElement()->SetResult(result);
   return element;
@@ -44,7 +44,7 @@ class ResultList {
  public:
   explicit ResultList(VirtualRig& rig)
       : form_(rig.Only().Application().CreateForm("FBenchmark")),
-        view_(orvik::As<keld::XKELDResultView>(
+        view_(orvik::As<keld::results::XKELDResultView>(
             form_->AddControl(keld::ClassIdentifiers::kResultView, "xrv")->Object())) {
     orvik::Required(view_).SelectStandard("IEC 62353", "class I");
   }
@@ -61,8 +61,8 @@ class ResultList {
 
  private:
   const std::shared_ptr<orvik::platform::IForm> form_;
-  const std::shared_ptr<keld::XKELDResultView> view_;
-  const std::shared_ptr<keld::CKELDTestElement> element_ = MeasuredElement();
+  const std::shared_ptr<keld::results::XKELDResultView> view_;
+  const std::shared_ptr<keld::model::CKELDTestElement> element_ = MeasuredElement();
   int rows_ = 0;
 };
 

@@ -84,7 +84,7 @@ double MedianMicroseconds(const std::function<void()>& trip) {
 
 /// The least that any program needs for it: write, wait, read.
 double Bare(const std::string& device) {
-  const bench::UniqueFd opened(open(device.c_str(), O_RDWR | O_NOCTTY | O_CLOEXEC));
+  const host::serial::UniqueFd opened(open(device.c_str(), O_RDWR | O_NOCTTY | O_CLOEXEC));
   return MedianMicroseconds([&] {
     if (write(opened.Get(), kCommand.data(), kCommand.size()) < 0)
       throw std::runtime_error("the pseudo-terminal takes no bytes");
@@ -100,8 +100,9 @@ double Bare(const std::string& device) {
 }
 
 double OnOurPort(const std::string& device) {
-  const auto application = std::make_shared<bench::headless::Application>(bench::ClockKind::kReal);
-  const auto manager = std::make_shared<bench::PortManager>(application, bench::DeviceOpener(application));
+  const auto application = std::make_shared<toolkit::headless::Application>(toolkit::loop::ClockKind::kReal);
+  const auto manager =
+      std::make_shared<host::serial::PortManager>(application, host::serial::DeviceOpener(application));
   manager->Assign("KELD(IN)", device);
   orvik::IPortManager& ports = *manager;
   const auto port = ports.OpenPort(ports.FindPort("KELD(IN)"), "9600,O,8,1");

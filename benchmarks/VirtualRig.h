@@ -25,7 +25,7 @@ class VirtualRig {
   }
 
   support::HostOnly& Only() { return host_; }
-  bench::PortManager& Ports() { return *ports_; }
+  host::serial::PortManager& Ports() { return *ports_; }
   sim::Tester& Tester() { return line_.Tester(); }
 
  private:
@@ -37,11 +37,12 @@ class VirtualRig {
 
   support::HostOnly host_;
   support::SimulatedLine line_;
-  std::shared_ptr<bench::PortManager> ports_ = std::make_shared<bench::PortManager>(
-      host_.SharedApplication(), [this](const std::string&, const bench::LineSettings&) {
-        return std::make_unique<bench::MemoryTransport>(line_.Line());
+  std::shared_ptr<host::serial::PortManager> ports_ = std::make_shared<host::serial::PortManager>(
+      host_.SharedApplication(), [this](const std::string&, const host::serial::LineSettings&) {
+        return std::make_unique<host::serial::MemoryTransport>(line_.Line());
       });
-  std::shared_ptr<bench::CommApplication> comm_ = std::make_shared<bench::CommApplication>(ports_);
+  std::shared_ptr<host::serial::CommApplication> comm_ =
+      std::make_shared<host::serial::CommApplication>(ports_);
 };
 
 }  // namespace benchmarks

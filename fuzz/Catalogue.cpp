@@ -24,9 +24,9 @@ bool IsTaken(const std::string& text) {
   static const fuzz::Scratch scratch;
   const auto file = scratch.Write("catalogue.xml", text);
   try {
-    Require(bench::ReadCatalogue(file) == text, "a catalogue is read as it is in the file");
+    Require(host::bench::ReadCatalogue(file) == text, "a catalogue is read as it is in the file");
     return true;
-  } catch (const bench::InputError& error) {
+  } catch (const host::bench::InputError& error) {
     Require(std::string(error.what()).find(file.string()) != std::string::npos, "a refusal names the file");
     return false;
   }
@@ -73,12 +73,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
   // The first ones are used as a document would: created and saved. What may be nested too deeply is left
   // out.
-  if (entries.size() > bench::kDeepestNesting) return 0;
+  if (entries.size() > host::elements::kDeepestNesting) return 0;
   constexpr std::size_t kUsed = 3;
   for (std::size_t i = 0; i < entries.size() && i < kUsed; ++i) {
     const auto element = plugIn->CreateTest(entries[i]);
     Require(element && element->TestID() == entries[i], "every test of the catalogue can be created");
-    bench::XmlDocument saved;
+    host::xml::XmlDocument saved;
     Require(element->Save(saved.CreateRoot("Elements")) != nullptr,
             "every test of the catalogue can be saved");
   }

@@ -89,7 +89,7 @@ int StatusOf(const std::vector<std::string>& words) {
   for (const auto& word : words) arguments.push_back(word.c_str());
   const Printed printed;
   const auto status =
-      static_cast<int>(bench::RunProgram(static_cast<int>(arguments.size()), arguments.data()));
+      static_cast<int>(host::cli::RunProgram(static_cast<int>(arguments.size()), arguments.data()));
   Require(status != 4, "no command line is an internal error: " + printed.Errors());
   return status;
 }

@@ -20,38 +20,38 @@
 
 namespace {
 
-using bench::Document;
 using fuzz::Require;
+using host::document::Document;
 
 constexpr char kFile[] = "given.orvik";
 
 std::shared_ptr<Document> Opened(const std::filesystem::path& file) {
-  return Document::Open(fuzz::TheBench().Only().SharedHost(), file, bench::DocumentFile::Use::kRead);
+  return Document::Open(fuzz::TheBench().Only().SharedHost(), file, host::document::DocumentFile::Use::kRead);
 }
 
 /// Every finding has a message and names an existing line.
 void CheckFindings(const std::string& text) {
   const auto lines = 1 + static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n'));
-  for (const auto& found : bench::CheckDocument(text, *fuzz::TheBench().Host().Elements()))
+  for (const auto& found : host::document::CheckDocument(text, *fuzz::TheBench().Host().Elements()))
     Require(!found.text.empty() && found.line >= 1 && found.line <= lines && found.column >= 1,
             "a finding has a message and a line of the text");
 }
 
-bench::DocumentView View(const Document& document) {
-  return bench::ViewOf(document, fuzz::TheBench().Host());
+host::report::DocumentView View(const Document& document) {
+  return host::report::ViewOf(document, fuzz::TheBench().Host());
 }
 
-std::vector<bench::judge::Verdict> VerdictsOf(const bench::DocumentView& view) {
-  std::vector<bench::judge::Verdict> verdicts;
+std::vector<host::judge::Verdict> VerdictsOf(const host::report::DocumentView& view) {
+  std::vector<host::judge::Verdict> verdicts;
   for (const auto& element : view.judged.elements) verdicts.push_back(element.verdict);
   return verdicts;
 }
 
 /// What passed was measured in a run, which is as it was written.
-void CheckJudged(const Document& document, const bench::DocumentView& view) {
+void CheckJudged(const Document& document, const host::report::DocumentView& view) {
   for (const auto& element : view.judged.elements) {
-    if (element.verdict != bench::judge::Verdict::kPassed) {
-      Require(element.verdict == bench::judge::Verdict::kRecorded || !element.reasons.empty(),
+    if (element.verdict != host::judge::Verdict::kPassed) {
+      Require(element.verdict == host::judge::Verdict::kRecorded || !element.reasons.empty(),
               "what has not passed says why");
       continue;
     }
@@ -68,18 +68,19 @@ void Show(const Document& document) {
   auto& host = fuzz::TheBench().Host();
   const auto summary = View(document);
   CheckJudged(document, summary);
-  const auto json = bench::Indented(bench::JsonOf(summary));
+  const auto json = host::cli::Indented(host::cli::JsonOf(summary));
   Require(nlohmann::json::accept(json), "shown as JSON it is JSON");
-  Require(bench::InvalidUtf8(json) == std::string::npos, "shown as JSON it is UTF-8");
-  Require(!bench::TextOf(summary).empty(), "shown as text it says something");
+  Require(host::InvalidUtf8(json) == std::string::npos, "shown as JSON it is UTF-8");
+  Require(!host::cli::TextOf(summary).empty(), "shown as text it says something");
 
-  const auto report = bench::ReportOf(document, host);
-  const auto html = bench::HtmlReport(report);
+  const auto report = host::report::ReportOf(document, host);
+  const auto html = host::report::HtmlReport(report);
   pugi::xml_document xml;
   const auto parsed = xml.load_buffer(html.data(), html.size(), pugi::parse_default, pugi::encoding_utf8);
   Require(parsed, std::string("a report as HTML is well formed: ") + parsed.description());
-  Require(bench::InvalidUtf8(html) == std::string::npos, "a report as HTML is UTF-8");
-  Require(bench::InvalidUtf8(bench::TextReport(report)) == std::string::npos, "a report as text is UTF-8");
+  Require(host::InvalidUtf8(html) == std::string::npos, "a report as HTML is UTF-8");
+  Require(host::InvalidUtf8(host::report::TextReport(report)) == std::string::npos,
+          "a report as text is UTF-8");
 }
 
 }  // namespace

@@ -20,19 +20,20 @@ using fuzz::Require;
 struct PortInMemory {
   PortInMemory() {
     static const auto application =
-        std::make_shared<bench::headless::Application>(bench::ClockKind::kVirtual);
-    port = bench::Port::Create(std::make_unique<bench::MemoryTransport>(line), application,
-                               std::make_shared<bench::Wire>(), "memory");
+        std::make_shared<toolkit::headless::Application>(toolkit::loop::ClockKind::kVirtual);
+    port = host::serial::Port::Create(std::make_unique<host::serial::MemoryTransport>(line), application,
+                                      std::make_shared<host::serial::Wire>(), "memory");
   }
 
-  std::shared_ptr<bench::MemoryLine> line = std::make_shared<bench::MemoryLine>();
-  std::shared_ptr<bench::Port> port;
+  std::shared_ptr<host::serial::MemoryLine> line = std::make_shared<host::serial::MemoryLine>();
+  std::shared_ptr<host::serial::Port> port;
 };
 
 /// The messages that wait at the port, as lines.
 std::vector<std::string> TakenFrom(orvik::IPort& port) {
   std::vector<std::string> lines;
-  while (port.ReceivedCount() > 0) lines.push_back(orvik::As<bench::Message>(port.TakeMessage())->Line());
+  while (port.ReceivedCount() > 0)
+    lines.push_back(orvik::As<host::serial::Message>(port.TakeMessage())->Line());
   return lines;
 }
 
@@ -44,13 +45,14 @@ bool HasControlCharacter(const std::string& text) {
 }
 
 void CheckMessage(const std::string& line) {
-  Require(!line.empty() && line.size() <= bench::LineReader::kMaxLine, "a message has 1 to 1,024 bytes");
+  Require(!line.empty() && line.size() <= host::serial::LineReader::kMaxLine,
+          "a message has 1 to 1,024 bytes");
   Require(!HasControlCharacter(line), "a message has no control character");
-  const auto message = bench::ParseMessage(line);
+  const auto message = host::serial::ParseMessage(line);
   Require(message != nullptr, "what was delivered is a message");
   // An empty mnemonic can come, but never be sent; the quotation marks of a sent one may take more room.
   if (message->MnemonicText().empty() || line.find('"') != std::string::npos) return;
-  const auto sent = bench::ComposeMessage(message->MnemonicText(), message->Parameters());
+  const auto sent = host::serial::ComposeMessage(message->MnemonicText(), message->Parameters());
   Require(sent->Line() == line, "a message that came can be sent as the same bytes");
 }
 
@@ -64,7 +66,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
       std::count_if(bytes.begin(), bytes.end(), [](char c) { return c == '\r' || c == '\n'; }));
   const auto waiting = static_cast<std::size_t>(static_cast<orvik::IPort&>(*whole.port).ReceivedCount());
   Require(waiting + whole.port->LinesDropped() <= ends, "nothing is delivered before its end has come");
-  Require(waiting <= bench::Port::kMaxWaiting, "what waits is bounded");
+  Require(waiting <= host::serial::Port::kMaxWaiting, "what waits is bounded");
 
   const PortInMemory piecewise;
   for (const char byte : bytes) piecewise.line->Deliver(std::string_view(&byte, 1));

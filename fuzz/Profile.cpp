@@ -19,10 +19,11 @@ void CheckAnswers(const sim::Profile& profile) {
     const auto both = std::to_string(test) + ",0\r\n";
     tester.Receive("STST," + both + "GRES," + both, {});
   }
-  bench::LineReader reader;
+  host::serial::LineReader reader;
   while (const auto due = tester.NextDue()) {
     reader.Feed(tester.TakeDue(*due)->bytes, [](std::string_view line, bool good) {
-      Require(good && bench::ParseMessage(line), "the host understands every answer: " + std::string(line));
+      Require(good && host::serial::ParseMessage(line),
+              "the host understands every answer: " + std::string(line));
     });
   }
 }

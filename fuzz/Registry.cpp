@@ -6,8 +6,8 @@
 
 namespace {
 
-using bench::RegistryStore;
 using fuzz::Require;
+using host::RegistryStore;
 
 constexpr char kFile[] = "registry.json";
 constexpr auto kHive = static_cast<std::int32_t>(0x80000002U);

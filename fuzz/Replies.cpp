@@ -14,9 +14,9 @@
 
 namespace {
 
-using bench::judge::JudgedElement;
-using bench::judge::Verdict;
 using fuzz::Require;
+using host::judge::JudgedElement;
+using host::judge::Verdict;
 
 constexpr int kHighest = 300;  // mOhm
 
@@ -67,16 +67,16 @@ class Answers {
 };
 
 /// A document with one test, or with a sequence of two, and a limit for each.
-std::shared_ptr<bench::Document> NewDocument(bool sequence) {
+std::shared_ptr<host::document::Document> NewDocument(bool sequence) {
   auto& host = fuzz::TheBench().Only();
-  auto document = bench::Document::Create(host.SharedHost(), host.Folder() / "run.orvik");
+  auto document = host::document::Document::Create(host.SharedHost(), host.Folder() / "run.orvik");
   document->AddTest(sequence ? 400 : 410);
   for (const std::int32_t id : sequence ? std::vector{2, 3} : std::vector{1})
     support::SetLimit(*document, host.Host(), id, "", std::to_string(kHighest));
   return document;
 }
 
-void Run(bench::Document& document, const std::string& input) {
+void Run(host::document::Document& document, const std::string& input) {
   auto& bench = fuzz::TheBench();
   Answers answers(input);
   bench.Line().AnswerBy([&](const std::string& command) { answers.To(command); });
@@ -98,7 +98,7 @@ template <class Fits>
 bool Came(const std::string& mnemonic, Fits fits) {
   const auto received = fuzz::TheBench().Wire().Received();
   return std::any_of(received.begin(), received.end(), [&](const std::string& line) {
-    const auto message = bench::ParseMessage(line);
+    const auto message = host::serial::ParseMessage(line);
     return message && message->MnemonicText() == mnemonic && fits(message->Parameters());
   });
 }
@@ -112,7 +112,7 @@ bool CameReading(std::int32_t testId) {
 /// A verdict that counts is the tester's own.
 void CheckElement(const JudgedElement& element) {
   Require(element.verdict == Verdict::kPassed || !element.reasons.empty(), "what has not passed says why");
-  if (element.group || !bench::judge::IsDone(element.verdict)) return;
+  if (element.group || !host::judge::IsDone(element.verdict)) return;
   Require(element.verdict == Verdict::kPassed, "a test with a limit that is done has passed");
   const auto& measured = element.measurement;
   Require(measured && measured->value && std::isfinite(*measured->value), "what passed was measured");
@@ -122,12 +122,12 @@ void CheckElement(const JudgedElement& element) {
   Require(CameReading(element.testId), "what passed came over the wire");
 }
 
-void CheckOutcome(const bench::judge::JudgedDocument& judged) {
+void CheckOutcome(const host::judge::JudgedDocument& judged) {
   const auto& elements = judged.elements;
   const bool allDone = std::all_of(elements.begin(), elements.end(), [](const JudgedElement& element) {
-    return bench::judge::IsDone(element.verdict);
+    return host::judge::IsDone(element.verdict);
   });
-  Require((judged.outcome == bench::judge::Outcome::kPassed) == allDone,
+  Require((judged.outcome == host::judge::Outcome::kPassed) == allDone,
           "a document has passed when all of it has");
   for (const auto& element : elements) CheckElement(element);
 }
@@ -150,7 +150,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   Require(!bench.Line().Line()->Connected(), "no port stays open");
   Require(bench.Application().Forms().empty(), "no window stays open");
 
-  CheckOutcome(bench::judge::Judge(*document, *bench.Host().Elements()));
+  CheckOutcome(host::judge::Judge(*document, *bench.Host().Elements()));
   const auto saved = document->Text();
   LetTimePass();
   Require(document->Text() == saved, "what comes after the run changes nothing");

@@ -40,9 +40,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   Require(whole.LinesDropped() == piecewise.LinesDropped(), "and so are the dropped lines");
 
   std::size_t answers = 0;
-  bench::LineReader reader;
+  host::serial::LineReader reader;
   reader.Feed(sent, [&](std::string_view line, bool good) {
-    Require(good && bench::ParseMessage(line), "the host understands every answer");
+    Require(good && host::serial::ParseMessage(line), "the host understands every answer");
     ++answers;
   });
   Require(!reader.InLine(), "every answer has its end");

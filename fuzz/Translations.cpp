@@ -27,14 +27,14 @@ std::string Quoted(const std::string& text) {
   return quoted + "\"\n";
 }
 
-std::string FileOf(const bench::Translations& texts) {
+std::string FileOf(const host::Translations& texts) {
   std::string file;
   for (const auto& [number, text] : texts)
     file += "msgctxt \"" + std::to_string(number) + "\"\nmsgid \"\"\nmsgstr " + Quoted(text) + "\n";
   return file;
 }
 
-std::string FileOf(const bench::OwnTranslations& texts) {
+std::string FileOf(const host::OwnTranslations& texts) {
   std::string file;
   for (const auto& [original, text] : texts)
     file += "msgid " + Quoted(original) + "msgstr " + Quoted(text) + "\n";
@@ -55,7 +55,7 @@ void Check(const std::string& text, Texts (*read)(std::string_view, const std::s
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const auto text = fuzz::TextOf(data, size);
-  Check(text, bench::ReadTranslations);
-  Check(text, bench::ReadOwnTranslations);
+  Check(text, host::ReadTranslations);
+  Check(text, host::ReadOwnTranslations);
   return 0;
 }

@@ -9,7 +9,7 @@
 #include "plugin/base/Attempt.h"
 #include "plugin/base/MKELDGlobalVars.h"
 
-namespace keld {
+namespace keld::instrument {
 
 using orvik::Required;
 using orvik::Variant;
@@ -122,4 +122,4 @@ std::vector<std::string> CKELDData::CalibratedSerialNumbers() const {
   return asNumbers;
 }
 
-}  // namespace keld
+}  // namespace keld::instrument

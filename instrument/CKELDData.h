@@ -10,7 +10,7 @@
 #include "instrument/CKELDInstrument.h"
 #include "plugin/base/MKELDConstants.h"
 
-namespace keld {
+namespace keld::instrument {
 
 /// The identity of the connected tester and the resistance of its leads. One object for the process.
 ///
@@ -57,4 +57,4 @@ class CKELDData final : public virtual orvik::IObject {
   std::int32_t lCalibValue = 0;
 };
 
-}  // namespace keld
+}  // namespace keld::instrument

@@ -10,7 +10,7 @@
 #include "plugin/base/MKELDConstants.h"
 #include "plugin/base/MKELDGlobalVars.h"
 
-namespace keld {
+namespace keld::instrument {
 
 using orvik::Required;
 
@@ -132,4 +132,4 @@ void CKELDInstrument::SetMtiData(int iIndex, const orvik::Variant& vValue) {
   }
 }
 
-}  // namespace keld
+}  // namespace keld::instrument

@@ -13,7 +13,7 @@
 #include "platform/Event.h"
 #include "platform/IApplication.h"
 
-namespace keld {
+namespace keld::instrument {
 
 /// The parameters of the tester's last accepted reply.
 /// Of an identity ("irem"): 0 type, 1 serial number, 2 firmware version. Of a result ("gres"): 0 test number,
@@ -109,4 +109,4 @@ class CKELDInstrument final : public virtual orvik::IObject {
   orvik::platform::Subscription ClockSubscription;
 };
 
-}  // namespace keld
+}  // namespace keld::instrument

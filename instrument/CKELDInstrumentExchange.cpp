@@ -11,7 +11,7 @@
 #include "plugin/base/Attempt.h"
 #include "plugin/base/MKELDConstants.h"
 
-namespace keld {
+namespace keld::instrument {
 
 using orvik::Required;
 
@@ -157,4 +157,4 @@ void CKELDInstrument::StoreReplyData(const orvik::IMessage& Reply) {
   }
 }
 
-}  // namespace keld
+}  // namespace keld::instrument

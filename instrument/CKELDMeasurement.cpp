@@ -13,7 +13,7 @@
 #include "plugin/base/MXmlConstants.h"
 #include "plugin/base/ReportMarkup.h"
 
-namespace keld {
+namespace keld::instrument {
 
 using orvik::Required;
 using orvik::Variant;
@@ -121,4 +121,4 @@ std::shared_ptr<orvik::IXmlNode> CKELDMeasurement::IMeasurement_Save(
   return Node;
 }
 
-}  // namespace keld
+}  // namespace keld::instrument

@@ -11,7 +11,7 @@
 #include "OrvikTypeLib/Variant.h"
 #include "plugin/base/MKELDConstants.h"
 
-namespace keld {
+namespace keld::instrument {
 
 /// One measured quantity of a result: description, value, unit, flags and status. A failing host call is
 /// skipped.
@@ -67,4 +67,4 @@ class CKELDMeasurement final : public orvik::IMeasurement {
   std::string sDescription;
 };
 
-}  // namespace keld
+}  // namespace keld::instrument

@@ -10,7 +10,7 @@
 #include "plugin/base/MKELDGlobalVars.h"
 #include "plugin/base/MKELDLanguageConstants.h"
 
-namespace keld {
+namespace keld::instrument {
 
 namespace platform = orvik::platform;
 namespace Texts = MKELDLanguageConstants;
@@ -86,4 +86,4 @@ CalibrationControls CalibrationControls::AddTo(const std::shared_ptr<platform::I
   return controls;
 }
 
-}  // namespace keld
+}  // namespace keld::instrument

@@ -6,7 +6,7 @@
 #include "platform/Controls.h"
 #include "platform/IForm.h"
 
-namespace keld {
+namespace keld::instrument {
 
 /// The controls of the lead calibration window.
 struct CalibrationControls {
@@ -26,4 +26,4 @@ struct CalibrationControls {
   static CalibrationControls AddTo(const std::shared_ptr<orvik::platform::IForm>& Form);
 };
 
-}  // namespace keld
+}  // namespace keld::instrument

@@ -4,7 +4,7 @@
 
 /// The tester's commands, the replies that mean success, and the message codes. The tester also has an
 /// identity query and power commands, which are not used.
-namespace keld::Commands {
+namespace keld::instrument::Commands {
 
 /// Enter remote mode; the reply identifies the tester.
 inline constexpr char kEnterRemote[] = "IREM";
@@ -32,4 +32,4 @@ inline constexpr char kError[] = "ERRM";
 /// The test that is started to end a session: it ends any test in progress.
 inline constexpr std::int16_t kClosingTest = 210;
 
-}  // namespace keld::Commands
+}  // namespace keld::instrument::Commands

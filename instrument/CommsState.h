@@ -3,7 +3,7 @@
 #include <cstdint>
 
 /// How an exchange with the tester ended: the status that `CKELDInstrument::ResultReceived` carries.
-namespace keld::CommsState {
+namespace keld::instrument::CommsState {
 
 /// The tester reported an error other than 1003 and 6002.
 inline constexpr std::int32_t kInstrumentError = 0;
@@ -26,4 +26,4 @@ inline constexpr std::int32_t kRefused = 8;
 /// The tester lacks the test.
 inline constexpr std::int32_t kTestNotSupported = 6002;
 
-}  // namespace keld::CommsState
+}  // namespace keld::instrument::CommsState

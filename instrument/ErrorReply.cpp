@@ -6,7 +6,7 @@
 #include "instrument/Number.h"
 #include "plugin/base/Attempt.h"
 
-namespace keld {
+namespace keld::instrument {
 
 namespace {
 
@@ -32,4 +32,4 @@ std::int32_t StateOfErrorReply(const orvik::IMessage& Reply, const std::string& 
   return CommsState::kInstrumentError;
 }
 
-}  // namespace keld
+}  // namespace keld::instrument

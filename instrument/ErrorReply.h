@@ -7,7 +7,7 @@ namespace orvik {
 class IMessage;
 }
 
-namespace keld {
+namespace keld::instrument {
 
 /// What the tester's error reply to a command means, as a `CommsState`.
 ///
@@ -15,4 +15,4 @@ namespace keld {
 /// integer reads as 0, an instrument error.
 std::int32_t StateOfErrorReply(const orvik::IMessage& Reply, const std::string& sCommand);
 
-}  // namespace keld
+}  // namespace keld::instrument

@@ -10,7 +10,7 @@
 #include "plugin/base/MKELDGlobalVars.h"
 #include "plugin/base/MKELDLanguageConstants.h"
 
-namespace keld {
+namespace keld::instrument {
 
 namespace platform = orvik::platform;
 namespace Texts = MKELDLanguageConstants;
@@ -180,4 +180,4 @@ void FCalibrateLeads::ShowProgress(std::int32_t lSteps) {
   Attempt([&] { Required(mControls.xpbProgress).SetValue(lSteps); });
 }
 
-}  // namespace keld
+}  // namespace keld::instrument

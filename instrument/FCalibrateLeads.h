@@ -11,7 +11,7 @@
 #include "platform/Event.h"
 #include "platform/IForm.h"
 
-namespace keld {
+namespace keld::instrument {
 
 /// The window in which the operator measures the resistance of the test leads and stores it under the
 /// tester's serial number (class "orvikKELD.FCalibrateLeads").
@@ -71,4 +71,4 @@ class FCalibrateLeads final : public virtual orvik::IDialogForm {
   orvik::platform::Subscription mDataSubscription;
 };
 
-}  // namespace keld
+}  // namespace keld::instrument

@@ -3,7 +3,7 @@
 #include "plugin/base/Attempt.h"
 #include "plugin/base/MKELDGlobalVars.h"
 
-namespace keld {
+namespace keld::instrument {
 
 std::shared_ptr<FClock> FClock::Create() { return std::shared_ptr<FClock>(new FClock); }
 
@@ -34,4 +34,4 @@ void FClock::StopClock() { tmrClock->SetEnabled(false); }
 
 bool FClock::Running() const { return Form->Loaded() && tmrClock->Enabled() && tmrClock->Interval() > 0; }
 
-}  // namespace keld
+}  // namespace keld::instrument

@@ -7,7 +7,7 @@
 #include "platform/IForm.h"
 #include "platform/ITimer.h"
 
-namespace keld {
+namespace keld::instrument {
 
 /// The timer form of an instrument link. It is never shown.
 class FClock {
@@ -38,4 +38,4 @@ class FClock {
   orvik::platform::Subscription TickSubscription;
 };
 
-}  // namespace keld
+}  // namespace keld::instrument

@@ -14,7 +14,7 @@
 
 /// Strict conversions: unlike a leading-number parse they accept a text only if all of it is a
 /// number, apart from blanks around it.
-namespace keld {
+namespace keld::instrument {
 
 /// The number that the value is; none when it is not a number.
 inline std::optional<double> NumberIn(const orvik::Variant& vValue) {
@@ -49,4 +49,4 @@ inline std::int32_t IntegerIn(const orvik::Variant& vValue, std::int32_t lLowest
   return orvik::RoundToInteger(*rNumber);
 }
 
-}  // namespace keld
+}  // namespace keld::instrument

@@ -11,7 +11,7 @@
 #include "plugin/base/MKELDGlobalVars.h"
 #include "plugin/base/MKELDLanguageConstants.h"
 
-namespace keld {
+namespace keld::instrument {
 
 namespace platform = orvik::platform;
 
@@ -141,4 +141,4 @@ void XKELDData::ICustomControl_SetFocus() {
   if (cboSerial) cboSerial->SetFocus();
 }
 
-}  // namespace keld
+}  // namespace keld::instrument

@@ -11,7 +11,7 @@
 #include "platform/IUserControl.h"
 #include "platform/Types.h"
 
-namespace keld {
+namespace keld::instrument {
 
 /// Shows the tester's identity and the calibration value of its leads (class "orvikKELD.XKELDData").
 ///
@@ -60,4 +60,4 @@ class XKELDData final : public virtual orvik::ICustomControl, public orvik::plat
   orvik::platform::Subscription mLostFocusSubscription;
 };
 
-}  // namespace keld
+}  // namespace keld::instrument

@@ -13,7 +13,7 @@
 #include "results/CKELDLimitData.h"
 #include "results/CKELDResultData.h"
 
-namespace keld {
+namespace keld::model {
 
 using orvik::As;
 using orvik::Required;
@@ -24,9 +24,9 @@ CKELDElement::~CKELDElement() {
 
 void CKELDElement::InstallBaseElement(const std::string& sHostClass) {
   Attempt([&] { SetBaseElement(MKELDGlobalVars::CreateHostObject<orvik::IBaseElement>(sHostClass)); });
-  Attempt([&] { Required(mBaseElement).SetConfiguration(CKELDTestConfiguration::Create()); });
+  Attempt([&] { Required(mBaseElement).SetConfiguration(configuration::CKELDTestConfiguration::Create()); });
   OwnConfiguration();
-  Attempt([&] { Required(mBaseElement).SetLimits(CKELDLimitData::Create()); });
+  Attempt([&] { Required(mBaseElement).SetLimits(results::CKELDLimitData::Create()); });
   OwnLimits();
 }
 
@@ -41,7 +41,7 @@ void CKELDElement::OwnConfiguration() {
 }
 
 void CKELDElement::OwnLimits() {
-  Attempt([&] { Required(As<CKELDLimitData>(Limits())).SetOwner(SelfElement()); });
+  Attempt([&] { Required(As<results::CKELDLimitData>(Limits())).SetOwner(SelfElement()); });
 }
 
 void CKELDElement::OwnResult() {
@@ -67,8 +67,8 @@ std::shared_ptr<orvik::ITestElement> CKELDElement::SelfElement() {
   return Self ? std::shared_ptr<orvik::ITestElement>(std::move(Self), this) : nullptr;
 }
 
-std::shared_ptr<CKELDTestConfiguration> CKELDElement::TestConfiguration() const {
-  return As<CKELDTestConfiguration>(Configuration());
+std::shared_ptr<configuration::CKELDTestConfiguration> CKELDElement::TestConfiguration() const {
+  return As<configuration::CKELDTestConfiguration>(Configuration());
 }
 
 // --- ITestElement: forwarded to the base element ---
@@ -83,7 +83,7 @@ void CKELDElement::ITestElement_Load(std::shared_ptr<orvik::IXmlNode> Node,
                                      std::shared_ptr<orvik::IObject> Context) {
   Attempt([&] {
     if (Required(Node).Name() != MXmlConstants::kResultItem) return;
-    Required(mBaseElement).SetResult(CKELDResultData::Create());
+    Required(mBaseElement).SetResult(results::CKELDResultData::Create());
     OwnResult();
   });
   Attempt([&] { Required(mBaseElement).Load(Node, Context); });
@@ -164,4 +164,4 @@ orvik::Variant CKELDElement::ITestElement_GetMeasurementList() const {
   return AttemptValue(orvik::Variant(), [&] { return Required(mBaseElement).GetMeasurementList(); });
 }
 
-}  // namespace keld
+}  // namespace keld::model

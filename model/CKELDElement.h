@@ -9,17 +9,25 @@
 #include "model/IKELDTest.h"
 #include "platform/Event.h"
 
+namespace keld::configuration {
+class CKELDTestConfiguration;
+}
+namespace keld::instrument {
+class CKELDMeasurement;
+}
+namespace keld::results {
+class CKELDResultData;
+}
+namespace keld::ui {
+class FTestGuide;
+class FYesNoPrompt;
+}  // namespace keld::ui
+
 namespace orvik {
 class IRunController;
 }  // namespace orvik
 
-namespace keld {
-
-class CKELDMeasurement;
-class CKELDResultData;
-class CKELDTestConfiguration;
-class FTestGuide;
-class FYesNoPrompt;
+namespace keld::model {
 
 /// The common part of single tests and sequences: the host's base element that each wraps, and the frame of
 /// a run.
@@ -46,12 +54,12 @@ class CKELDElement : public orvik::ITestElement, public IKELDTest {
   bool CloneInto(CKELDElement& Copy) const;
 
   std::shared_ptr<orvik::ITestElement> SelfElement();
-  std::shared_ptr<CKELDTestConfiguration> TestConfiguration() const;
+  std::shared_ptr<configuration::CKELDTestConfiguration> TestConfiguration() const;
 
   /// The result as the plug-in's own class, or empty.
-  std::shared_ptr<CKELDResultData> ResultData() const;
+  std::shared_ptr<results::CKELDResultData> ResultData() const;
   /// The result; creates one if there is none.
-  std::shared_ptr<CKELDResultData> EnsureResult();
+  std::shared_ptr<results::CKELDResultData> EnsureResult();
   /// Records status 3 without a measurement.
   void RecordNotApplicable();
   /// Records the status of an aborted element, and removes the service record of an earlier run.
@@ -69,13 +77,13 @@ class CKELDElement : public orvik::ITestElement, public IKELDTest {
   bool AskYesNo(const std::string& sText);
 
   /// The instrument link of the current run, or empty.
-  const std::shared_ptr<CKELDInstrument>& Link() const { return mVTI; }
-  virtual void SetLink(std::shared_ptr<CKELDInstrument> Instrument);
-  std::shared_ptr<FTestGuide> TestGuide() const { return mTestGuide; }
+  const std::shared_ptr<instrument::CKELDInstrument>& Link() const { return mVTI; }
+  virtual void SetLink(std::shared_ptr<instrument::CKELDInstrument> Instrument);
+  std::shared_ptr<ui::FTestGuide> TestGuide() const { return mTestGuide; }
   std::shared_ptr<orvik::IRunController> RunController() const { return mRunController.lock(); }
   /// Whether the measurement fails the element's limits under the run's standards; false without limits.
   /// Raises an error if limits or standards cannot be read, so that an unjudged reading does not pass.
-  bool FailsOwnLimits(CKELDMeasurement& Measurement) const;
+  bool FailsOwnLimits(instrument::CKELDMeasurement& Measurement) const;
   bool StandaloneRun() const { return fStandaloneRun; }
 
   bool fStopRequested = false;
@@ -111,7 +119,8 @@ class CKELDElement : public orvik::ITestElement, public IKELDTest {
   bool IKELDTest_Stopped() const override { return !mVTI; }
   void IKELDTest_NextTest() override;
   void IKELDTest_PrevTest() override;
-  void IKELDTest_InitAutoRun(std::shared_ptr<CKELDInstrument> Instrument, std::shared_ptr<FTestGuide> Guide,
+  void IKELDTest_InitAutoRun(std::shared_ptr<instrument::CKELDInstrument> Instrument,
+                             std::shared_ptr<ui::FTestGuide> Guide,
                              std::shared_ptr<orvik::IRunController> RunController) override;
   void IKELDTest_ResetAutoRun() override;
 
@@ -123,11 +132,11 @@ class CKELDElement : public orvik::ITestElement, public IKELDTest {
   std::string sExpectedUnits;
   std::int16_t iYesNoAnswer = 2;
   bool fStandaloneRun = false;
-  std::shared_ptr<FTestGuide> mTestGuide;
+  std::shared_ptr<ui::FTestGuide> mTestGuide;
   // Weak: the caller of Perform holds the controller, which holds the document and so this element.
   std::weak_ptr<orvik::IRunController> mRunController;
-  std::shared_ptr<CKELDInstrument> mVTI;
-  std::shared_ptr<FYesNoPrompt> mfrmYesNoPrompt;
+  std::shared_ptr<instrument::CKELDInstrument> mVTI;
+  std::shared_ptr<ui::FYesNoPrompt> mfrmYesNoPrompt;
 };
 
-}  // namespace keld
+}  // namespace keld::model

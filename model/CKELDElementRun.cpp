@@ -13,7 +13,7 @@
 #include "ui/FYesNoPrompt.h"
 
 // The frame of a run that single tests and sequences share.
-namespace keld {
+namespace keld::model {
 
 using orvik::As;
 using orvik::Required;
@@ -29,7 +29,7 @@ void CKELDElement::ITestElement_Perform(std::shared_ptr<orvik::IRunController> R
 
 void CKELDElement::GuideOperator(const std::shared_ptr<orvik::IRunController>& RunController) {
   Navigate(orvik::Navigation::kNext);
-  Attempt([&] { mTestGuide = FTestGuide::Create(); });
+  Attempt([&] { mTestGuide = ui::FTestGuide::Create(); });
   Attempt([&] { Required(mTestGuide).Load(); });
   Attempt([&] { Required(mTestGuide).Initialize(SelfElement(), RunController); });
   Attempt([&] { Required(mTestGuide).ShowModal(); });
@@ -41,11 +41,13 @@ bool CKELDElement::MayStart() {
   return AttemptValue(false, [&] { return Required(mRunController)->StartQuery(SelfElement()); });
 }
 
-std::shared_ptr<CKELDResultData> CKELDElement::ResultData() const { return As<CKELDResultData>(Result()); }
+std::shared_ptr<results::CKELDResultData> CKELDElement::ResultData() const {
+  return As<results::CKELDResultData>(Result());
+}
 
-std::shared_ptr<CKELDResultData> CKELDElement::EnsureResult() {
+std::shared_ptr<results::CKELDResultData> CKELDElement::EnsureResult() {
   if (!Result()) {
-    Required(BaseElement()).SetResult(CKELDResultData::Create());
+    Required(BaseElement()).SetResult(results::CKELDResultData::Create());
     OwnResult();
   }
   return ResultData();
@@ -63,7 +65,7 @@ void CKELDElement::RecordAbort(std::int32_t lStatus) {
   Attempt([&] { Required(ResultData()).BuildServiceRecord(SelfElement()); });
 }
 
-bool CKELDElement::FailsOwnLimits(CKELDMeasurement& Measurement) const {
+bool CKELDElement::FailsOwnLimits(instrument::CKELDMeasurement& Measurement) const {
   const auto Standards = Required(mRunController)->Standards();
   static_cast<void>(Required(Standards));
   // Ask the base element: `Limits()` of this element would hide the error.
@@ -92,13 +94,15 @@ void CKELDElement::CloseLink() {
   SetLink(nullptr);
 }
 
-void CKELDElement::SetLink(std::shared_ptr<CKELDInstrument> Instrument) { mVTI = std::move(Instrument); }
+void CKELDElement::SetLink(std::shared_ptr<instrument::CKELDInstrument> Instrument) {
+  mVTI = std::move(Instrument);
+}
 
 bool CKELDElement::AskYesNo(const std::string& sText) {
   // A prompt that closes without an answer is not consent.
   iYesNoAnswer = 2;
   orvik::platform::Subscription Answered;
-  Attempt([&] { mfrmYesNoPrompt = FYesNoPrompt::Create(); });
+  Attempt([&] { mfrmYesNoPrompt = ui::FYesNoPrompt::Create(); });
   Attempt([&] {
     Answered = Required(mfrmYesNoPrompt).YesNoOption().Subscribe([this](std::int32_t lOption) {
       iYesNoAnswer = lOption == 1 ? 1 : 2;
@@ -123,8 +127,8 @@ void CKELDElement::IKELDTest_PrevTest() {
   Navigate(orvik::Navigation::kPrevious);
 }
 
-void CKELDElement::IKELDTest_InitAutoRun(std::shared_ptr<CKELDInstrument> Instrument,
-                                         std::shared_ptr<FTestGuide> Guide,
+void CKELDElement::IKELDTest_InitAutoRun(std::shared_ptr<instrument::CKELDInstrument> Instrument,
+                                         std::shared_ptr<ui::FTestGuide> Guide,
                                          std::shared_ptr<orvik::IRunController> RunController) {
   SetLink(std::move(Instrument));
   mTestGuide = std::move(Guide);
@@ -138,4 +142,4 @@ void CKELDElement::IKELDTest_ResetAutoRun() {
   mRunController.reset();
 }
 
-}  // namespace keld
+}  // namespace keld::model

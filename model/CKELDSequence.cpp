@@ -12,7 +12,7 @@
 #include "plugin/base/MKELDConstants.h"
 #include "plugin/base/MKELDGlobalVars.h"
 
-namespace keld {
+namespace keld::model {
 
 using orvik::As;
 using orvik::Required;
@@ -84,4 +84,4 @@ std::shared_ptr<orvik::ITestElement> CKELDSequence::ITestElement_Clone() const {
 
 bool CKELDSequence::Printable() const { return Result() != nullptr; }
 
-}  // namespace keld
+}  // namespace keld::model

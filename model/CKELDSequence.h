@@ -7,7 +7,7 @@
 #include "OrvikTypeLib/ITestContainer.h"
 #include "model/CKELDElement.h"
 
-namespace keld {
+namespace keld::model {
 
 /// A test element that holds others, single tests or further sequences, and runs them in order on one
 /// instrument link.
@@ -50,7 +50,7 @@ class CKELDSequence final : public CKELDElement, public orvik::ITestContainer {
   void Summarise();
   /// Failed if the sequence's own limits are exceeded, else the status from the children's results. Not
   /// tested if the limits cannot be read and no child failed.
-  std::int32_t SummaryStatus(CKELDMeasurement& Summary, bool fHasLimits) const;
+  std::int32_t SummaryStatus(instrument::CKELDMeasurement& Summary, bool fHasLimits) const;
 
   /// The base element, viewed as a container.
   std::shared_ptr<orvik::ITestContainer> mChildren;
@@ -60,4 +60,4 @@ class CKELDSequence final : public CKELDElement, public orvik::ITestContainer {
   bool fAborted = false;
 };
 
-}  // namespace keld
+}  // namespace keld::model

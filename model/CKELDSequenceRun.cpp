@@ -17,7 +17,7 @@
 #include "ui/FTestGuide.h"
 
 // How a sequence runs its children and sums them up.
-namespace keld {
+namespace keld::model {
 
 using orvik::As;
 using orvik::Required;
@@ -31,7 +31,7 @@ void CKELDSequence::IKELDTest_RunTest() {
     Attempt([&] { Required(BaseElement()).SetResult(nullptr); });
     return;
   }
-  if (StandaloneRun()) Attempt([&] { SetLink(CKELDInstrument::Create()); });
+  if (StandaloneRun()) Attempt([&] { SetLink(instrument::CKELDInstrument::Create()); });
   RunChildren();
   if (fStopRequested) {
     ResetResult();
@@ -84,7 +84,7 @@ void CKELDSequence::Summarise() {
   const std::int32_t lMode =
       AttemptValue(std::int32_t{0}, [&] { return Required(TestConfiguration()).ValueFilter(); });
   const orvik::Variant vValue = SummaryValue(*Summed, lMode);
-  const auto Measurement = CKELDMeasurement::Create();
+  const auto Measurement = instrument::CKELDMeasurement::Create();
   Attempt([&] { Required(Recorded).SetMeasurement(Measurement); });
   Attempt([&] { Measurement->AddValue(vValue, "", "", MKELDConstants::kLimitKey); });
   const bool fHasLimits = lMode != 1 && vValue != orvik::Variant(std::string());
@@ -96,7 +96,7 @@ void CKELDSequence::Summarise() {
   });
 }
 
-std::int32_t CKELDSequence::SummaryStatus(CKELDMeasurement& Summary, bool fHasLimits) const {
+std::int32_t CKELDSequence::SummaryStatus(instrument::CKELDMeasurement& Summary, bool fHasLimits) const {
   bool fFailed = false;
   const bool fJudged = !fHasLimits || Attempt([&] { fFailed = FailsOwnLimits(Summary); });
   if (fFailed) return orvik::ResultStatus::kFailed;
@@ -153,4 +153,4 @@ void CKELDSequence::IKELDTest_SkipTest() {
   Navigate(orvik::Navigation::kSkip);
 }
 
-}  // namespace keld
+}  // namespace keld::model

@@ -16,7 +16,7 @@
 #include "plugin/configuration/CKELDTestConfiguration.h"
 #include "results/CKELDResultData.h"
 
-namespace keld {
+namespace keld::model {
 
 using orvik::Required;
 
@@ -75,7 +75,7 @@ void CKELDTestElement::IKELDTest_RunTest() {
     Attempt([&] { Required(BaseElement()).SetResult(nullptr); });
     return;
   }
-  if (StandaloneRun()) Attempt([&] { SetLink(CKELDInstrument::Create()); });
+  if (StandaloneRun()) Attempt([&] { SetLink(instrument::CKELDInstrument::Create()); });
   MeasureOnLink();
   NotifyFinished();
   if (StandaloneRun()) CloseLink();
@@ -124,4 +124,4 @@ void CKELDTestElement::IKELDTest_AbortTest() {
   Navigate(orvik::Navigation::kAbort);
 }
 
-}  // namespace keld
+}  // namespace keld::model

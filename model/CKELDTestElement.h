@@ -7,9 +7,11 @@
 #include "instrument/CKELDInstrument.h"
 #include "model/CKELDElement.h"
 
-namespace keld {
-
+namespace keld::ui {
 class FPretestPrompt;
+}
+
+namespace keld::model {
 
 /// One test of the catalogue: one measurement on the tester.
 class CKELDTestElement final : public CKELDElement {
@@ -18,7 +20,7 @@ class CKELDTestElement final : public CKELDElement {
   static std::shared_ptr<CKELDTestElement> Create();
 
   /// The failure message now on the screen, tagged with the key of its picture; empty if there is none.
-  std::shared_ptr<FPretestPrompt> FailureMessage() const { return mfrmPretestPrompt; }
+  std::shared_ptr<ui::FPretestPrompt> FailureMessage() const { return mfrmPretestPrompt; }
 
  private:
   std::string IObject_ClassID() const override;
@@ -34,9 +36,9 @@ class CKELDTestElement final : public CKELDElement {
   void IKELDTest_SkipTest() override;
   void IKELDTest_StopTest() override;
 
-  void SetLink(std::shared_ptr<CKELDInstrument> Instrument) override;
+  void SetLink(std::shared_ptr<instrument::CKELDInstrument> Instrument) override;
   void MeasureOnLink();
-  void GotMtiData(const MtiDataArray& avData);
+  void GotMtiData(const instrument::MtiDataArray& avData);
   void ResultReceived(std::int32_t lStatus, std::int16_t iTestNo);
   void StoreInstrumentUpdate();
   void ReportNoInstrument();
@@ -44,9 +46,9 @@ class CKELDTestElement final : public CKELDElement {
   void ReportFailure(const std::string& sText, const std::string& sKey);
   void RecordMeasurement(std::int16_t iTestNo);
 
-  std::shared_ptr<FPretestPrompt> mfrmPretestPrompt;
+  std::shared_ptr<ui::FPretestPrompt> mfrmPretestPrompt;
   orvik::platform::Subscription mGotMtiData;
   orvik::platform::Subscription mResultReceived;
 };
 
-}  // namespace keld
+}  // namespace keld::model

@@ -20,7 +20,7 @@
 #include "ui/FTestGuide.h"
 
 // How a single test handles the events of its instrument link.
-namespace keld {
+namespace keld::model {
 
 using orvik::Required;
 
@@ -42,27 +42,28 @@ Reading InExpectedUnits(Reading Taken, const std::string& sExpectedUnits) {
 /// The resistance of the test leads is not part of the equipment's protective earth.
 Reading WithoutLeads(Reading Taken, std::int16_t iTestNo) {
   if (iTestNo != 410 && iTestNo != 420) return Taken;
-  Taken.rValue -= CKELDData::Shared()->CalibValue();
+  Taken.rValue -= instrument::CKELDData::Shared()->CalibValue();
   if (Taken.rValue < 0) Taken.rValue = 0;
   return Taken;
 }
 
 }  // namespace
 
-void CKELDTestElement::SetLink(std::shared_ptr<CKELDInstrument> Instrument) {
+void CKELDTestElement::SetLink(std::shared_ptr<instrument::CKELDInstrument> Instrument) {
   mGotMtiData.End();
   mResultReceived.End();
   CKELDElement::SetLink(std::move(Instrument));
   if (!Link()) return;
-  mGotMtiData = Link()->GotMtiData().Subscribe([this](const MtiDataArray& avData) { GotMtiData(avData); });
+  mGotMtiData =
+      Link()->GotMtiData().Subscribe([this](const instrument::MtiDataArray& avData) { GotMtiData(avData); });
   mResultReceived = Link()->ResultReceived().Subscribe(
       [this](std::int32_t& lStatus, std::int16_t iTestNo) { ResultReceived(lStatus, iTestNo); });
 }
 
-void CKELDTestElement::GotMtiData(const MtiDataArray& avData) {
+void CKELDTestElement::GotMtiData(const instrument::MtiDataArray& avData) {
   const auto Self = shared_from_this();
   Attempt([&] {
-    CKELDData::Shared()->TakeIdentity(avData);
+    instrument::CKELDData::Shared()->TakeIdentity(avData);
     Required(TestGuide()).Refresh();
   });
 }
@@ -75,13 +76,13 @@ void CKELDTestElement::ResultReceived(std::int32_t lStatus, std::int16_t iTestNo
     return;
   }
   switch (lStatus) {
-    case CommsState::kRemoteOpen:
+    case instrument::CommsState::kRemoteOpen:
       return StoreInstrumentUpdate();
-    case CommsState::kResultReceived:
+    case instrument::CommsState::kResultReceived:
       return RecordMeasurement(iTestNo);
-    case CommsState::kNoAnswer:
+    case instrument::CommsState::kNoAnswer:
       return ReportNoInstrument();
-    case CommsState::kTestNotSupported:
+    case instrument::CommsState::kTestNotSupported:
       return ReportTestNotSupported();
     default:
       return;
@@ -89,7 +90,9 @@ void CKELDTestElement::ResultReceived(std::int32_t lStatus, std::int16_t iTestNo
 }
 
 void CKELDTestElement::StoreInstrumentUpdate() {
-  Attempt([&] { CKELDData::Shared()->SetFirmwareVersion(orvik::TextOf(Required(Link()).MtiData(2))); });
+  Attempt([&] {
+    instrument::CKELDData::Shared()->SetFirmwareVersion(orvik::TextOf(Required(Link()).MtiData(2)));
+  });
   Attempt([&] { Required(TestGuide()).Refresh(); });
 }
 
@@ -110,8 +113,8 @@ void CKELDTestElement::ReportTestNotSupported() {
 void CKELDTestElement::ReportFailure(const std::string& sText, const std::string& sKey) {
   // The operator may abort while this message is shown; ending the session can then show another one.
   const auto Outer = mfrmPretestPrompt;
-  std::shared_ptr<FPretestPrompt> Prompt;
-  Attempt([&] { Prompt = FPretestPrompt::Create(); });
+  std::shared_ptr<ui::FPretestPrompt> Prompt;
+  Attempt([&] { Prompt = ui::FPretestPrompt::Create(); });
   mfrmPretestPrompt = Prompt;
   Attempt([&] { Required(Prompt).SetPrompt(sText, sKey); });
   Attempt([&] { Required(Prompt).ShowModal(); });
@@ -122,7 +125,7 @@ void CKELDTestElement::ReportFailure(const std::string& sText, const std::string
 void CKELDTestElement::RecordMeasurement(std::int16_t iTestNo) {
   Attempt([&] { EnsureResult(); });
   const auto Recorded = ResultData();
-  const auto Measurement = CKELDMeasurement::Create();
+  const auto Measurement = instrument::CKELDMeasurement::Create();
   Attempt([&] { Required(Recorded).SetMeasurement(Measurement); });
   Attempt([&] {
     auto& Instrument = Required(Link());
@@ -141,9 +144,9 @@ void CKELDTestElement::RecordMeasurement(std::int16_t iTestNo) {
   ShowResultInGuide();
   Attempt([&] {
     const std::int32_t lRecord =
-        CKELDData::Shared()->UpdateInstrumentRecord(Required(RunController()).Instruments());
+        instrument::CKELDData::Shared()->UpdateInstrumentRecord(Required(RunController()).Instruments());
     Required(Recorded).SetMTIIdentifier(lRecord);
   });
 }
 
-}  // namespace keld
+}  // namespace keld::model

@@ -8,7 +8,7 @@
 #include "OrvikTypeLib/ITestEnumerator.h"
 #include "plugin/base/Attempt.h"
 
-namespace keld {
+namespace keld::model {
 
 /// Calls `step` with each child of a container, in the container's order. If `step` fails, the next child
 /// follows; if the enumeration fails, the walk ends.
@@ -24,4 +24,4 @@ bool ForEachChild(const orvik::ITestContainer& Container, Step&& step) {
   return fWalked && fAll;
 }
 
-}  // namespace keld
+}  // namespace keld::model

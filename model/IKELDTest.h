@@ -6,14 +6,18 @@
 
 #include "OrvikTypeLib/IObject.h"
 
+namespace keld::instrument {
+class CKELDInstrument;
+}
+namespace keld::ui {
+class FTestGuide;
+}
+
 namespace orvik {
 class IRunController;
 }
 
-namespace keld {
-
-class CKELDInstrument;
-class FTestGuide;
+namespace keld::model {
 
 /// How the test guide and a sequence drive the run of one element.
 ///
@@ -40,7 +44,8 @@ class IKELDTest : public virtual orvik::IObject {
   /// Requests that the running measurement is discarded at the next instrument event.
   void StopTest() { IKELDTest_StopTest(); }
   /// Gives the element the objects of a run that another object drives; any of them may be empty.
-  void InitAutoRun(std::shared_ptr<CKELDInstrument> Instrument, std::shared_ptr<FTestGuide> Guide,
+  void InitAutoRun(std::shared_ptr<instrument::CKELDInstrument> Instrument,
+                   std::shared_ptr<ui::FTestGuide> Guide,
                    std::shared_ptr<orvik::IRunController> RunController) {
     IKELDTest_InitAutoRun(std::move(Instrument), std::move(Guide), std::move(RunController));
   }
@@ -58,10 +63,10 @@ class IKELDTest : public virtual orvik::IObject {
   virtual void IKELDTest_RunTest() = 0;
   virtual void IKELDTest_SkipTest() = 0;
   virtual void IKELDTest_StopTest() = 0;
-  virtual void IKELDTest_InitAutoRun(std::shared_ptr<CKELDInstrument> Instrument,
-                                     std::shared_ptr<FTestGuide> Guide,
+  virtual void IKELDTest_InitAutoRun(std::shared_ptr<instrument::CKELDInstrument> Instrument,
+                                     std::shared_ptr<ui::FTestGuide> Guide,
                                      std::shared_ptr<orvik::IRunController> RunController) = 0;
   virtual void IKELDTest_ResetAutoRun() = 0;
 };
 
-}  // namespace keld
+}  // namespace keld::model

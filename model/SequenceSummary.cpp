@@ -9,7 +9,7 @@
 #include "OrvikTypeLib/IResultData.h"
 #include "model/Children.h"
 
-namespace keld {
+namespace keld::model {
 
 namespace {
 
@@ -67,4 +67,4 @@ std::int32_t ChildrenStatus(const orvik::ITestContainer& Children) {
   return orvik::ResultStatus::kNotTested;
 }
 
-}  // namespace keld
+}  // namespace keld::model

@@ -5,7 +5,7 @@
 #include "OrvikTypeLib/ITestContainer.h"
 #include "OrvikTypeLib/Variant.h"
 
-namespace keld {
+namespace keld::model {
 
 /// The summary value of a sequence over the first measurements of its children.
 /// @param lMode value-filter code: 3 the highest value, 4 the lowest, any other none
@@ -17,4 +17,4 @@ orvik::Variant SummaryValue(const orvik::ITestContainer& Children, std::int32_t 
 /// one passed, else 3 if one was not applicable, else 0. If a child's result cannot be read, it is 2 or 0.
 std::int32_t ChildrenStatus(const orvik::ITestContainer& Children);
 
-}  // namespace keld
+}  // namespace keld::model

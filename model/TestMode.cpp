@@ -2,7 +2,7 @@
 
 #include "OrvikTypeLib/Codes.h"
 
-namespace keld {
+namespace keld::model {
 
 std::int16_t ComputeTestMode(std::int32_t lOptions, std::int32_t lTestID) {
   // The first lead wins, even when several are set.
@@ -15,4 +15,4 @@ std::int16_t ComputeTestMode(std::int32_t lOptions, std::int32_t lTestID) {
   return 999;
 }
 
-}  // namespace keld
+}  // namespace keld::model

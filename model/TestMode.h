@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-namespace keld {
+namespace keld::model {
 
 /// The test mode sent with the start command: 1 to 10 for a single lead, 99 all leads, 9999 some leads, 999
 /// no leads.
@@ -10,4 +10,4 @@ namespace keld {
 /// @param lTestID the test's identifier in the catalogue
 std::int16_t ComputeTestMode(std::int32_t lOptions, std::int32_t lTestID);
 
-}  // namespace keld
+}  // namespace keld::model

@@ -15,7 +15,7 @@
 #include "plugin/base/MKELDLanguageConstants.h"
 #include "plugin/base/Version.h"
 
-namespace keld {
+namespace keld::plugin {
 
 using orvik::As;
 using orvik::Required;
@@ -45,7 +45,7 @@ std::string ReadCatalogueText() {
 
 std::shared_ptr<CKELDPlugin> CKELDPlugin::Create() {
   const std::shared_ptr<CKELDPlugin> Created(new CKELDPlugin);
-  Created->mCatalogue = CKELDSequence::Create();
+  Created->mCatalogue = model::CKELDSequence::Create();
   return Created;
 }
 
@@ -95,4 +95,4 @@ std::shared_ptr<orvik::IObject> CKELDPlugin::IPlugIn_CreateDUTData() const { ret
 std::shared_ptr<orvik::IObject> CKELDPlugin::IPlugIn_PlugInMenu() const { return {}; }
 std::shared_ptr<orvik::IObject> CKELDPlugin::IPlugIn_Setup() const { return {}; }
 
-}  // namespace keld
+}  // namespace keld::plugin

@@ -6,7 +6,7 @@
 
 #include "OrvikTypeLib/IPlugIn.h"
 
-namespace keld {
+namespace keld::plugin {
 
 /// The host's entry to the plug-in: identity, icons, the catalogue of tests, and new tests.
 ///
@@ -42,4 +42,4 @@ class CKELDPlugin final : public virtual orvik::IPlugIn {
   std::string msName;
 };
 
-}  // namespace keld
+}  // namespace keld::plugin

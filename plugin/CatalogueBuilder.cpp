@@ -19,7 +19,7 @@
 #include "plugin/base/MKELDGlobalVars.h"
 #include "plugin/base/MXmlConstants.h"
 
-namespace keld {
+namespace keld::plugin {
 
 using orvik::ITestContainer;
 using orvik::ITestElement;
@@ -121,7 +121,9 @@ std::shared_ptr<Element> NewElement(const Fields& fields, std::int32_t lID) {
   const std::shared_ptr<ITestElement> iteCreated = Created;
   Attempt([&] { Required(iteCreated).Initialize(MKELDConstants::kPlugInID, lID, lID); });
   Attempt([&] { Required(Required(iteCreated).Information()).SetDisplayName(DisplayName(fields)); });
-  Attempt([&] { Required(std::shared_ptr<IKELDTest>(Created)).SetExpectedUnits(FieldText(fields.sUnit)); });
+  Attempt([&] {
+    Required(std::shared_ptr<model::IKELDTest>(Created)).SetExpectedUnits(FieldText(fields.sUnit));
+  });
   return Created;
 }
 
@@ -132,9 +134,9 @@ NewEntry EntryOf(const IXmlNode& Node) {
     const std::int32_t lID = ReadIdentifier(Node);
     const Fields fields = ReadFields(Node);
     if (lID % 100 != 0) {
-      Entry.iteElement = NewElement<CKELDTestElement>(fields, lID);
+      Entry.iteElement = NewElement<model::CKELDTestElement>(fields, lID);
     } else {
-      const auto Sequence = NewElement<CKELDSequence>(fields, lID);
+      const auto Sequence = NewElement<model::CKELDSequence>(fields, lID);
       Entry = {Sequence, Sequence};
     }
   });
@@ -182,9 +184,9 @@ void Fill(const std::shared_ptr<ITestContainer>& Root, const IXmlNode& TemplateD
 std::shared_ptr<ITestContainer> BuildCatalogue(const std::string& sXml) {
   const NodeRef Entries = TemplateData(sXml);
   if (!Entries) LogCatalogueFault();
-  std::shared_ptr<ITestContainer> Root = CKELDSequence::Create();
+  std::shared_ptr<ITestContainer> Root = model::CKELDSequence::Create();
   if (Entries) Attempt([&] { Fill(Root, *Entries); });
   return Root;
 }
 
-}  // namespace keld
+}  // namespace keld::plugin

@@ -7,7 +7,7 @@ namespace orvik {
 class ITestContainer;
 }
 
-namespace keld {
+namespace keld::plugin {
 
 /// Builds the catalogue of tests from its XML: below "TemplateData" each "TestElement" becomes a sequence
 /// (identifier a multiple of 100) with its members, or a single test.
@@ -17,4 +17,4 @@ namespace keld {
 /// @return the root container, without entries if the text is not a catalogue
 std::shared_ptr<orvik::ITestContainer> BuildCatalogue(const std::string& sXml);
 
-}  // namespace keld
+}  // namespace keld::plugin

@@ -22,7 +22,7 @@
 #include "results/XDetailedResult.h"
 #include "results/XKELDResultView.h"
 
-namespace keld {
+namespace keld::plugin {
 namespace {
 
 template <class Class>
@@ -39,23 +39,28 @@ struct Entry {
 constexpr Entry kClasses[] = {
     {ClassIdentifiers::kPlugin, New<CKELDPlugin>,
      "The plug-in itself: identity, icons, catalogue, new tests."},
-    {ClassIdentifiers::kTestElement, New<CKELDTestElement>, "One test of the catalogue."},
-    {ClassIdentifiers::kSequence, New<CKELDSequence>, "A group of tests, run one after the other."},
-    {ClassIdentifiers::kTestConfiguration, New<CKELDTestConfiguration>,
+    {ClassIdentifiers::kTestElement, New<model::CKELDTestElement>, "One test of the catalogue."},
+    {ClassIdentifiers::kSequence, New<model::CKELDSequence>, "A group of tests, run one after the other."},
+    {ClassIdentifiers::kTestConfiguration, New<configuration::CKELDTestConfiguration>,
      "Settings of one element: guide buttons, leads, kept values."},
-    {ClassIdentifiers::kLimitData, New<CKELDLimitData>, "The limits that a measured value is judged by."},
-    {ClassIdentifiers::kResultData, New<CKELDResultData>, "The stored outcome of one element."},
-    {ClassIdentifiers::kMeasurement, New<CKELDMeasurement>,
+    {ClassIdentifiers::kLimitData, New<results::CKELDLimitData>,
+     "The limits that a measured value is judged by."},
+    {ClassIdentifiers::kResultData, New<results::CKELDResultData>, "The stored outcome of one element."},
+    {ClassIdentifiers::kMeasurement, New<instrument::CKELDMeasurement>,
      "One measured value with unit, flags and status."},
-    {ClassIdentifiers::kTestConfigurationControl, New<XKELDTestConfiguration>,
+    {ClassIdentifiers::kTestConfigurationControl, New<configuration::XKELDTestConfiguration>,
      "Control that edits the settings of a single test."},
-    {ClassIdentifiers::kSequenceConfigurationControl, New<XKELDSeqConfiguration>,
+    {ClassIdentifiers::kSequenceConfigurationControl, New<configuration::XKELDSeqConfiguration>,
      "Control that edits the settings of a group."},
-    {ClassIdentifiers::kDataControl, New<XKELDData>, "Control that shows which tester is connected."},
-    {ClassIdentifiers::kResultView, New<XKELDResultView>, "Control that lists values, limits and verdicts."},
-    {ClassIdentifiers::kDetailedResult, New<XDetailedResult>, "Control that shows the operator's comment."},
-    {ClassIdentifiers::kElementSetup, New<FElementSetup>, "Dialog around one of the editing controls."},
-    {ClassIdentifiers::kCalibrateLeads, New<FCalibrateLeads>,
+    {ClassIdentifiers::kDataControl, New<instrument::XKELDData>,
+     "Control that shows which tester is connected."},
+    {ClassIdentifiers::kResultView, New<results::XKELDResultView>,
+     "Control that lists values, limits and verdicts."},
+    {ClassIdentifiers::kDetailedResult, New<results::XDetailedResult>,
+     "Control that shows the operator's comment."},
+    {ClassIdentifiers::kElementSetup, New<configuration::FElementSetup>,
+     "Dialog around one of the editing controls."},
+    {ClassIdentifiers::kCalibrateLeads, New<instrument::FCalibrateLeads>,
      "Dialog that measures the test lead's resistance."},
 };
 
@@ -99,4 +104,4 @@ std::shared_ptr<orvik::IObject> ClassLibrary::IClassLibrary_CreateObject(const s
   return {};
 }
 
-}  // namespace keld
+}  // namespace keld::plugin

@@ -2,7 +2,7 @@
 
 #include "OrvikTypeLib/IClassLibrary.h"
 
-namespace keld {
+namespace keld::plugin {
 
 /// The classes that the host can create by identifier.
 class ClassLibrary final : public virtual orvik::IClassLibrary {
@@ -13,4 +13,4 @@ class ClassLibrary final : public virtual orvik::IClassLibrary {
   std::shared_ptr<orvik::IObject> IClassLibrary_CreateObject(const std::string& sClassID) override;
 };
 
-}  // namespace keld
+}  // namespace keld::plugin

@@ -15,7 +15,7 @@ extern "C" {
   if (!Host) return;
   keld::Attempt([&] {
     keld::MKELDGlobalVars::Open(Host);
-    Library = std::make_shared<keld::ClassLibrary>();
+    Library = std::make_shared<keld::plugin::ClassLibrary>();
   });
 }
 

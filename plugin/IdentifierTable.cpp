@@ -4,7 +4,7 @@
 #include <iterator>
 #include <string>
 
-namespace keld {
+namespace keld::plugin {
 namespace {
 
 constexpr std::int16_t kSmall = 0;
@@ -101,4 +101,4 @@ std::string_view IconKey(std::int16_t iTestID, std::int16_t iStyle) {
   return iTestID % 100 == 0 ? GroupKey(iTestID, iStyle) : TestKey(iTestID, iStyle);
 }
 
-}  // namespace keld
+}  // namespace keld::plugin

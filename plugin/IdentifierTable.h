@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string_view>
 
-namespace keld {
+namespace keld::plugin {
 
 /// The resource key of a test's icon; empty if it has none.
 /// @param iTestID test identifier: 0 is the plug-in itself, a multiple of 100 a group, any other a test
@@ -11,4 +11,4 @@ namespace keld {
 /// a test
 std::string_view IconKey(std::int16_t iTestID, std::int16_t iStyle);
 
-}  // namespace keld
+}  // namespace keld::plugin

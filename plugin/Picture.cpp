@@ -4,7 +4,7 @@
 
 #include "resources/Resources.h"
 
-namespace keld {
+namespace keld::plugin {
 namespace {
 
 // Offsets in a bitmap file, of 32-bit little-endian numbers.
@@ -34,4 +34,4 @@ std::int32_t Picture::IPicture_Width() const { return NumberAt(maBitmap, kWidthO
 // A negative height means top-down row order.
 std::int32_t Picture::IPicture_Height() const { return std::abs(NumberAt(maBitmap, kHeightOffset)); }
 
-}  // namespace keld
+}  // namespace keld::plugin

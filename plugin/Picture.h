@@ -6,7 +6,7 @@
 
 #include "OrvikTypeLib/IPicture.h"
 
-namespace keld {
+namespace keld::plugin {
 
 /// A bitmap resource of the library, as the host gets it.
 class Picture final : public virtual orvik::IPicture {
@@ -24,4 +24,4 @@ class Picture final : public virtual orvik::IPicture {
   std::vector<std::byte> maBitmap;
 };
 
-}  // namespace keld
+}  // namespace keld::plugin

@@ -24,7 +24,7 @@
 #include "plugin/configuration/FElementSetup.h"
 #include "results/JudgedValue.h"
 
-namespace keld {
+namespace keld::results {
 
 using orvik::As;
 using orvik::Required;
@@ -76,13 +76,13 @@ std::shared_ptr<orvik::ILimitData> CKELDLimitData::ILimitData_Clone() const {
 }
 
 std::string CKELDLimitData::ExpectedUnits() const {
-  return Required(As<IKELDTest>(Required(mOwner))).ExpectedUnits();
+  return Required(As<model::IKELDTest>(Required(mOwner))).ExpectedUnits();
 }
 
 bool CKELDLimitData::HasStandards() const { return mStandards && mStandards->Count() > 0; }
 
 std::shared_ptr<orvik::IDialog> CKELDLimitData::ILimitData_CreateDialog() {
-  auto Dialog = FElementSetup::Create();
+  auto Dialog = configuration::FElementSetup::Create();
   const auto Site = Dialog->CreateSetupCtrl(orvik::HostClasses::kLimitView);
   const auto LimitView = As<orvik::ILimitView>(Required(Site).Object());
   const std::string sUnit = ExpectedUnits();
@@ -145,4 +145,4 @@ std::shared_ptr<orvik::IStandardColl> CKELDLimitData::ILimitData_FindFailedStand
   return Failed->Count() > 0 ? Failed : nullptr;
 }
 
-}  // namespace keld
+}  // namespace keld::results

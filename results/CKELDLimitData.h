@@ -11,7 +11,7 @@ namespace orvik {
 class ITestElement;
 }
 
-namespace keld {
+namespace keld::results {
 
 /// The limits of one element: it creates, copies, saves, prints and asks the host's collection of standards.
 /// The host's standards decide whether a value is within a limit.
@@ -64,4 +64,4 @@ class CKELDLimitData final : public orvik::ILimitData {
   orvik::platform::Event<const std::vector<std::string>&> mPrintAccessed;
 };
 
-}  // namespace keld
+}  // namespace keld::results

@@ -17,7 +17,7 @@
 #include "results/ResultReport.h"
 #include "results/ResultServiceRecord.h"
 
-namespace keld {
+namespace keld::results {
 
 using orvik::As;
 using orvik::Required;
@@ -86,8 +86,8 @@ std::shared_ptr<orvik::IMeasurement> CKELDResultData::IResultData_Measurement(st
 }
 
 std::shared_ptr<orvik::IDialog> CKELDResultData::IResultData_CreateDialog() {
-  std::shared_ptr<FElementSetup> Dialog;
-  Attempt([&] { Dialog = FElementSetup::Create(); });
+  std::shared_ptr<configuration::FElementSetup> Dialog;
+  Attempt([&] { Dialog = configuration::FElementSetup::Create(); });
   Attempt([&] { Required(Dialog).CreateSetupCtrl(ClassIdentifiers::kDetailedResult); });
   Attempt([&] { Required(Dialog).Initialize(shared_from_this(), {}, {}, {}); });
   return Dialog;
@@ -98,7 +98,7 @@ void CKELDResultData::IResultData_PrintReport(std::shared_ptr<orvik::IReport> Re
   auto& Printer = Required(Report);
   asReportParts = {ResultReport::Format(Printer), ResultReport::Header(Printer), ""};
   if (!mMeasurement) return;
-  asReportParts.back() = Required(As<CKELDMeasurement>(mMeasurement)).ReportLine(Report);
+  asReportParts.back() = Required(As<instrument::CKELDMeasurement>(mMeasurement)).ReportLine(Report);
   if (asReportParts.back().empty()) return;
   constexpr std::int32_t kBoxColumnsAndRows = 7;
   Printer.SetTableBorder(kBoxColumnsAndRows);
@@ -107,4 +107,4 @@ void CKELDResultData::IResultData_PrintReport(std::shared_ptr<orvik::IReport> Re
   Printer.AddTable(asReportParts[0], asReportParts[1], asReportParts[2]);
 }
 
-}  // namespace keld
+}  // namespace keld::results

@@ -8,7 +8,7 @@
 #include "OrvikTypeLib/IResultData.h"
 #include "OrvikTypeLib/Variant.h"
 
-namespace keld {
+namespace keld::results {
 
 /// The stored outcome of one element: status, at most one measurement, the tester's record, a comment, and
 /// the host's summary.
@@ -79,4 +79,4 @@ class CKELDResultData final : public orvik::IResultData {
   std::weak_ptr<orvik::ITestElement> mOwner;
 };
 
-}  // namespace keld
+}  // namespace keld::results

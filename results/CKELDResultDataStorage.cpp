@@ -13,7 +13,7 @@
 #include "results/CKELDResultData.h"
 
 // How a result is written to and read from the host's documents.
-namespace keld {
+namespace keld::results {
 
 using orvik::Required;
 
@@ -48,10 +48,10 @@ void CKELDResultData::LoadChild(const std::string& sName, const std::shared_ptr<
     Record->Load(Child, Context);
     mServiceRecord = Record;
   } else if (sName == MXmlConstants::kMeasurement) {
-    const std::shared_ptr<orvik::IMeasurement> Measurement = CKELDMeasurement::Create();
+    const std::shared_ptr<orvik::IMeasurement> Measurement = instrument::CKELDMeasurement::Create();
     Measurement->Load(Child);
     mMeasurement = Measurement;
   }
 }
 
-}  // namespace keld
+}  // namespace keld::results

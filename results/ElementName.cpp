@@ -5,7 +5,7 @@
 #include "OrvikTypeLib/ITestElement.h"
 #include "plugin/base/MKELDGlobalVars.h"
 
-namespace keld {
+namespace keld::results {
 
 std::string ElementName(const orvik::ITestElement& iteElement) {
   const orvik::Variant vInfo = iteElement.Info();
@@ -20,4 +20,4 @@ std::string ElementName(const orvik::ITestElement& iteElement) {
   return sName;
 }
 
-}  // namespace keld
+}  // namespace keld::results

@@ -7,7 +7,7 @@
 #include "plugin/base/MKELDLanguageConstants.h"
 #include "plugin/base/ReportMarkup.h"
 
-namespace keld::ResultReport {
+namespace keld::results::ResultReport {
 namespace {
 
 constexpr std::int32_t kUsableWidth = 10;
@@ -23,17 +23,17 @@ std::string HeaderCell(const orvik::IReport& Report, const char* sText) {
 }  // namespace
 
 std::string Format(const orvik::IReport& Report) {
-  using ReportMarkup::kCentred;
-  using ReportMarkup::kLeft;
-  using ReportMarkup::kRight;
+  using keld::ReportMarkup::kCentred;
+  using keld::ReportMarkup::kLeft;
+  using keld::ReportMarkup::kRight;
   const std::int32_t lWidth = (Report.Metric(kUsableWidth) - kFixedWidth) / 4;
-  return ReportMarkup::Format({{kLeft, true, false, kMargin},
-                               {kLeft, false, false, kNameWidth},
-                               {kRight, true, false, lWidth},
-                               {kRight, true, false, lWidth},
-                               {kCentred, true, false, lWidth},
-                               {kLeft, true, true, lWidth},
-                               {kLeft, true, false, kMargin}});
+  return ReportMarkup::Format({{ReportMarkup::kLeft, true, false, kMargin},
+                               {ReportMarkup::kLeft, false, false, kNameWidth},
+                               {ReportMarkup::kRight, true, false, lWidth},
+                               {ReportMarkup::kRight, true, false, lWidth},
+                               {ReportMarkup::kCentred, true, false, lWidth},
+                               {ReportMarkup::kLeft, true, true, lWidth},
+                               {ReportMarkup::kLeft, true, false, kMargin}});
 }
 
 std::string Header(const orvik::IReport& Report) {
@@ -42,4 +42,4 @@ std::string Header(const orvik::IReport& Report) {
                             HeaderCell(Report, MKELDLanguageConstants::kUnit)});
 }
 
-}  // namespace keld::ResultReport
+}  // namespace keld::results::ResultReport

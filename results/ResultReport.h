@@ -7,7 +7,7 @@ class IReport;
 }
 
 /// The result table's parts that do not depend on the result.
-namespace keld::ResultReport {
+namespace keld::results::ResultReport {
 
 /// The column format: a margin of 560 twips, the name in 2,240, four equal columns that share the rest of the
 /// page, and a margin. The four come out negative on a page that is narrower than the fixed columns.
@@ -17,4 +17,4 @@ std::string Format(const orvik::IReport& Report);
 /// empty.
 std::string Header(const orvik::IReport& Report);
 
-}  // namespace keld::ResultReport
+}  // namespace keld::results::ResultReport

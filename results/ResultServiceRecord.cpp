@@ -9,7 +9,7 @@
 #include "plugin/base/MKELDGlobalVars.h"
 #include "results/ResultValueText.h"
 
-namespace keld {
+namespace keld::results {
 
 std::shared_ptr<orvik::IServiceRecord> MakeServiceRecord(
     const std::shared_ptr<orvik::ITestElement>& iteElement, std::int32_t lStatus,
@@ -22,4 +22,4 @@ std::shared_ptr<orvik::IServiceRecord> MakeServiceRecord(
   return Record;
 }
 
-}  // namespace keld
+}  // namespace keld::results

@@ -10,7 +10,7 @@ class IServiceRecord;
 class ITestElement;
 }  // namespace orvik
 
-namespace keld {
+namespace keld::results {
 
 /// The host's summary of an element's result: the element's information record, the code and the value text.
 /// @param lStatus result status; decides the code by `orvik::ServiceCode::Of`
@@ -21,4 +21,4 @@ std::shared_ptr<orvik::IServiceRecord> MakeServiceRecord(
     const std::shared_ptr<orvik::ITestElement>& iteElement, std::int32_t lStatus,
     const orvik::Variant& vOwnValue);
 
-}  // namespace keld
+}  // namespace keld::results

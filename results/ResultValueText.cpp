@@ -13,7 +13,7 @@
 #include "OrvikTypeLib/ITestEnumerator.h"
 #include "plugin/configuration/CKELDTestConfiguration.h"
 
-namespace keld::ResultValueText {
+namespace keld::results::ResultValueText {
 namespace {
 
 /// The searches start from minus and plus two to the thirtieth, so that any real reading replaces the start
@@ -51,7 +51,8 @@ std::string Extreme(const std::string& sList, double rStart,
 
 std::string ValueText(const orvik::ITestElement& iteElement, const orvik::Variant& vOwnValue) {
   const std::int32_t lMode =
-      orvik::Required(orvik::As<CKELDTestConfiguration>(iteElement.Configuration())).ValueFilter();
+      orvik::Required(orvik::As<configuration::CKELDTestConfiguration>(iteElement.Configuration()))
+          .ValueFilter();
   if (orvik::Required(iteElement.Result()).Status() == orvik::ResultStatus::kNotApplicable) return {};
   switch (lMode) {
     case 0:
@@ -79,4 +80,4 @@ std::string CollectedList(const orvik::ITestElement& iteElement, const orvik::Va
 std::string Largest(const std::string& sList) { return Extreme(sList, -kStart, std::greater_equal<>()); }
 std::string Smallest(const std::string& sList) { return Extreme(sList, kStart, std::less_equal<>()); }
 
-}  // namespace keld::ResultValueText
+}  // namespace keld::results::ResultValueText

@@ -9,7 +9,7 @@ namespace orvik {
 class ITestElement;
 }
 
-namespace keld::ResultValueText {
+namespace keld::results::ResultValueText {
 
 /// The value text of an element's service record.
 ///
@@ -31,4 +31,4 @@ std::string CollectedList(const orvik::ITestElement& iteElement, const orvik::Va
 std::string Largest(const std::string& sList);
 std::string Smallest(const std::string& sList);
 
-}  // namespace keld::ResultValueText
+}  // namespace keld::results::ResultValueText

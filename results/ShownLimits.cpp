@@ -13,7 +13,7 @@
 #include "OrvikTypeLib/IStandardColl.h"
 #include "OrvikTypeLib/ITestElement.h"
 
-namespace keld {
+namespace keld::results {
 namespace {
 
 std::shared_ptr<orvik::IStandard> StandardOf(const orvik::ITestElement& iteElement, const std::string& sName,
@@ -49,4 +49,4 @@ ShownLimits LimitsOf(const orvik::ITestElement* iteElement, const orvik::IMeasur
   return {BoundText(High, sUnit), BoundText(Low, sUnit)};
 }
 
-}  // namespace keld
+}  // namespace keld::results

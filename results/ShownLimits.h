@@ -7,7 +7,7 @@ class IMeasurement;
 class ITestElement;
 }  // namespace orvik
 
-namespace keld {
+namespace keld::results {
 
 /// Texts of the two limit cells of a result row; a single blank where there is no bound.
 struct ShownLimits {
@@ -21,4 +21,4 @@ struct ShownLimits {
 ShownLimits LimitsOf(const orvik::ITestElement* iteElement, const orvik::IMeasurement* Measurement,
                      const std::string& sStandardName, const std::string& sStandardText);
 
-}  // namespace keld
+}  // namespace keld::results

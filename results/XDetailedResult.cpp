@@ -9,7 +9,7 @@
 #include "plugin/base/MKELDGlobalVars.h"
 #include "plugin/base/MKELDLanguageConstants.h"
 
-namespace keld {
+namespace keld::results {
 
 using orvik::As;
 using orvik::Required;
@@ -92,4 +92,4 @@ void XDetailedResult::ICustomControl_Refresh() { Required(Required(mSite)->Panel
 
 void XDetailedResult::ICustomControl_SetFocus() { Required(txtComment).SetFocus(); }
 
-}  // namespace keld
+}  // namespace keld::results

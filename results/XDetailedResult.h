@@ -12,7 +12,7 @@ class ILabel;
 class ITextBox;
 }  // namespace orvik::platform
 
-namespace keld {
+namespace keld::results {
 
 /// Shows the operator's comment of one result, read-only, under a title. Errors of the container and of the
 /// result pass to the caller.
@@ -45,4 +45,4 @@ class XDetailedResult final : public virtual orvik::ICustomControl, public orvik
   orvik::platform::Subscription mResized;
 };
 
-}  // namespace keld
+}  // namespace keld::results

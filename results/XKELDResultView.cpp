@@ -15,7 +15,7 @@
 #include "results/ElementName.h"
 #include "results/ShownLimits.h"
 
-namespace keld {
+namespace keld::results {
 
 using orvik::Required;
 using orvik::platform::Alignment;
@@ -164,4 +164,4 @@ void XKELDResultView::FillLimitCells(const std::string& sRow) {
   Fill(kLowColumn, Shown.sLow);
 }
 
-}  // namespace keld
+}  // namespace keld::results

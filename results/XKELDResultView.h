@@ -17,7 +17,7 @@ namespace orvik::platform {
 class IPanel;
 }
 
-namespace keld {
+namespace keld::results {
 
 /// The list of the tests run so far: one row for each element, with the measured value and the limits of one
 /// selected standard. Host and list errors pass to the caller; missing data are shown as a single blank.
@@ -60,4 +60,4 @@ class XKELDResultView final : public virtual orvik::IObject, public orvik::platf
   orvik::platform::Subscription mResized;
 };
 
-}  // namespace keld
+}  // namespace keld::results

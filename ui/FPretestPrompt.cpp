@@ -9,7 +9,7 @@
 #include "ui/PromptLayout.h"
 #include "ui/WhileAlive.h"
 
-namespace keld {
+namespace keld::ui {
 
 using orvik::Required;
 
@@ -80,4 +80,4 @@ void FPretestPrompt::OnActivated() {
 
 void FPretestPrompt::OnUnloading() { mPromptStatus.Raise(kStatusUnloading); }
 
-}  // namespace keld
+}  // namespace keld::ui

@@ -12,7 +12,7 @@ class IForm;
 class ILabel;
 }  // namespace orvik::platform
 
-namespace keld {
+namespace keld::ui {
 
 /// Shows an instruction that the operator acknowledges with OK, above all other windows.
 ///
@@ -59,4 +59,4 @@ class FPretestPrompt final : public std::enable_shared_from_this<FPretestPrompt>
   orvik::platform::Subscription mSubscriptions[3];
 };
 
-}  // namespace keld
+}  // namespace keld::ui

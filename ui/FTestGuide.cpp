@@ -19,7 +19,7 @@
 #include "ui/WhileAlive.h"
 
 // The operations that the element calls; FTestGuideCommands.cpp has what the operator's buttons do.
-namespace keld {
+namespace keld::ui {
 
 using orvik::As;
 using orvik::Required;
@@ -66,7 +66,7 @@ void FTestGuide::Listen() {
 
 void FTestGuide::Initialize(std::shared_ptr<orvik::ITestElement> iteElement,
                             std::shared_ptr<orvik::IRunController> RunController) {
-  mTest = As<IKELDTest>(iteElement);
+  mTest = As<model::IKELDTest>(iteElement);
   mElement = iteElement;
   mRunController = RunController;
   fRanHere = false;
@@ -83,7 +83,7 @@ void FTestGuide::Initialize(std::shared_ptr<orvik::ITestElement> iteElement,
 
 void FTestGuide::ShowGuidance() {
   const auto iteElement = mElement.lock();
-  Required(mWindow.xtwWizard).SetGuidance(iteElement ? ElementName(*iteElement) : std::string());
+  Required(mWindow.xtwWizard).SetGuidance(iteElement ? results::ElementName(*iteElement) : std::string());
 }
 
 void FTestGuide::ShowModal() {
@@ -123,4 +123,4 @@ void FTestGuide::SelectStandard(std::int32_t lIndex) {
   Results.SelectStandard(Required(Shown).Name(), Shown->Description());
 }
 
-}  // namespace keld
+}  // namespace keld::ui

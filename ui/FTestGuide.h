@@ -9,15 +9,17 @@
 #include "platform/Types.h"
 #include "ui/TestGuideWindow.h"
 
+namespace keld::model {
+class IKELDTest;
+}
+
 namespace orvik {
 class IRunController;
 class IStandardColl;
 class ITestElement;
 }  // namespace orvik
 
-namespace keld {
-
-class IKELDTest;
+namespace keld::ui {
 
 /// The window in which the operator steps through one element's run. Every button becomes a call to the
 /// element's `IKELDTest`; the window holds no test logic.
@@ -72,7 +74,7 @@ class FTestGuide final : public virtual orvik::ITgToolbarEvents {
 
   TestGuideWindow mWindow;
   // Weak: the element holds the guide, and the caller of `Perform` holds the controller.
-  std::weak_ptr<IKELDTest> mTest;
+  std::weak_ptr<model::IKELDTest> mTest;
   std::weak_ptr<orvik::ITestElement> mElement;
   std::weak_ptr<orvik::IRunController> mRunController;
   bool fBuilt = false;
@@ -87,4 +89,4 @@ class FTestGuide final : public virtual orvik::ITgToolbarEvents {
   orvik::platform::Subscription mResultsMouseUp;
 };
 
-}  // namespace keld
+}  // namespace keld::ui

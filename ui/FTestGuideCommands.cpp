@@ -14,7 +14,7 @@
 #include "ui/FTestGuide.h"
 
 // What the operator's buttons do.
-namespace keld {
+namespace keld::ui {
 
 using orvik::As;
 using orvik::Required;
@@ -29,7 +29,8 @@ bool ActsDuringRun(std::int32_t lCommand) {
 
 std::int32_t OptionsOf(const std::shared_ptr<orvik::ITestElement>& iteElement) {
   return AttemptValue(std::int32_t{0}, [&] {
-    return Required(As<CKELDTestConfiguration>(Required(iteElement).Configuration())).Options();
+    return Required(As<configuration::CKELDTestConfiguration>(Required(iteElement).Configuration()))
+        .Options();
   });
 }
 
@@ -113,8 +114,8 @@ void FTestGuide::StopRoutine() {
 }
 
 void FTestGuide::CalibrateRoutine() {
-  std::shared_ptr<FCalibrateLeads> Calibration;
-  Attempt([&] { Calibration = FCalibrateLeads::Create(); });
+  std::shared_ptr<instrument::FCalibrateLeads> Calibration;
+  Attempt([&] { Calibration = instrument::FCalibrateLeads::Create(); });
   Attempt([&] {
     Required(Calibration).ShowModal(mWindow.Form);
     if (!Calibration->Cancelled()) RefreshInstrumentData();
@@ -144,4 +145,4 @@ void FTestGuide::OnResultsMouseUp(int iButton, int, orvik::platform::Twips, orvi
   if (iButton == kRightButton) Attempt([&] { SelectStandard(lStandard + 1); });
 }
 
-}  // namespace keld
+}  // namespace keld::ui

@@ -9,7 +9,7 @@
 #include "ui/PromptLayout.h"
 #include "ui/WhileAlive.h"
 
-namespace keld {
+namespace keld::ui {
 
 using orvik::Required;
 
@@ -109,4 +109,4 @@ void FYesNoPrompt::OnCloseRequested(bool& fKeepOpen) {
 
 void FYesNoPrompt::OnUnloading() { mYesNoStatusChanged.Raise(kStatusUnloading, shared_from_this()); }
 
-}  // namespace keld
+}  // namespace keld::ui

@@ -12,7 +12,7 @@ class IForm;
 class ILabel;
 }  // namespace orvik::platform
 
-namespace keld {
+namespace keld::ui {
 
 /// Asks the operator a yes/no question, above all other windows.
 ///
@@ -72,4 +72,4 @@ class FYesNoPrompt final : public std::enable_shared_from_this<FYesNoPrompt> {
   orvik::platform::Subscription mSubscriptions[6];
 };
 
-}  // namespace keld
+}  // namespace keld::ui

@@ -1,6 +1,6 @@
 #include "ui/PromptLayout.h"
 
-namespace keld {
+namespace keld::ui {
 
 namespace platform = orvik::platform;
 
@@ -25,4 +25,4 @@ platform::Grid PromptLayout(const std::string& sText, const std::vector<std::str
   return grid;
 }
 
-}  // namespace keld
+}  // namespace keld::ui

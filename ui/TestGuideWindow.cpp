@@ -19,7 +19,7 @@
 #include "resources/Resources.h"
 #include "results/XKELDResultView.h"
 
-namespace keld {
+namespace keld::ui {
 
 using orvik::As;
 using orvik::Required;
@@ -63,7 +63,8 @@ void TestGuideWindow::Build() {
   auto& Window = Required(Form);
   xtbToolbar = AddControl<orvik::ITgToolbar>(Window, orvik::HostClasses::kToolbar, kToolbarName);
   xtwWizard = AddControl<orvik::ITgContentPane>(Window, orvik::HostClasses::kContentPane, kWizardName);
-  xrvResultView = AddControl<XKELDResultView>(Window, ClassIdentifiers::kResultView, kResultViewName);
+  xrvResultView =
+      AddControl<results::XKELDResultView>(Window, ClassIdentifiers::kResultView, kResultViewName);
   xstShowMTI =
       AddControl<orvik::ITgContentPane>(Window, orvik::HostClasses::kContentPane, kInstrumentPaneName);
   platform::Grid Placed = Layout();
@@ -81,4 +82,4 @@ void TestGuideWindow::LockInstrumentData(bool fLocked) {
   if (Data) Data->SetLocked(fLocked);
 }
 
-}  // namespace keld
+}  // namespace keld::ui

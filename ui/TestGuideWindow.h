@@ -2,6 +2,10 @@
 
 #include <memory>
 
+namespace keld::results {
+class XKELDResultView;
+}
+
 namespace orvik {
 class ITgContentPane;
 class ITgToolbar;
@@ -11,9 +15,7 @@ namespace orvik::platform {
 class IForm;
 }
 
-namespace keld {
-
-class XKELDResultView;
+namespace keld::ui {
 
 /// Command numbers of the guide's toolbar.
 enum TestGuideCommand : int {
@@ -32,7 +34,7 @@ enum TestGuideCommand : int {
 struct TestGuideWindow {
   std::shared_ptr<orvik::platform::IForm> Form;
   std::shared_ptr<orvik::ITgToolbar> xtbToolbar;
-  std::shared_ptr<XKELDResultView> xrvResultView;
+  std::shared_ptr<results::XKELDResultView> xrvResultView;
   std::shared_ptr<orvik::ITgContentPane> xtwWizard;
   std::shared_ptr<orvik::ITgContentPane> xstShowMTI;
 
@@ -44,4 +46,4 @@ struct TestGuideWindow {
   void LockInstrumentData(bool fLocked);
 };
 
-}  // namespace keld
+}  // namespace keld::ui

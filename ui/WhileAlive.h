@@ -2,7 +2,7 @@
 
 #include <memory>
 
-namespace keld {
+namespace keld::ui {
 
 /// Returns a handler that calls the method while the object exists, and keeps the object alive during the
 /// call: the method may cause its release.
@@ -13,4 +13,4 @@ auto WhileAlive(const std::shared_ptr<Object>& Target, void (Object::*pMethod)(A
   };
 }
 
-}  // namespace keld
+}  // namespace keld::ui

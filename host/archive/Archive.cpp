@@ -7,7 +7,7 @@
 #include "host/archive/Schema.h"
 #include "host/base/Sha256.h"
 
-namespace bench {
+namespace host::archive {
 
 namespace {
 
@@ -63,4 +63,4 @@ Archive::Receipt Archive::Add(const ArchivedDocument& document) {
   return receipt;
 }
 
-}  // namespace bench
+}  // namespace host::archive

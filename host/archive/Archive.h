@@ -9,7 +9,7 @@
 #include "host/archive/ArchivedDocument.h"
 #include "host/archive/Database.h"
 
-namespace bench {
+namespace host::archive {
 
 /// Documents to ask about later. Any number of programs may use an archive at once; what `Add` returned from
 /// is kept. All errors are `ArchiveError`.
@@ -59,4 +59,4 @@ class Archive {
   std::unique_ptr<Database> database_;
 };
 
-}  // namespace bench
+}  // namespace host::archive

@@ -3,7 +3,7 @@
 #include <stdexcept>
 #include <string>
 
-namespace bench {
+namespace host::archive {
 
 /// An error of the archive. The message names the file or the URL (never its password) and says what to do.
 class ArchiveError : public std::runtime_error {
@@ -22,4 +22,4 @@ class ArchiveError : public std::runtime_error {
   Kind kind_;
 };
 
-}  // namespace bench
+}  // namespace host::archive

@@ -3,7 +3,7 @@
 #include "host/archive/ArchiveRows.h"
 #include "host/archive/ArchiveWords.h"
 
-namespace bench::rows {
+namespace host::archive::rows {
 
 namespace {
 
@@ -49,7 +49,7 @@ void InsertEntry(Database& database, const ArchivedDocument& document, const std
 }
 
 void InsertReasons(Database& database, std::int64_t document, std::int64_t position,
-                   const std::vector<Reason>& reasons) {
+                   const std::vector<document::Reason>& reasons) {
   std::int64_t number = 0;
   for (const auto& reason : reasons) {
     const auto insert = [&, reasonNumber = ++number](std::int64_t argument, const std::string& text) {
@@ -118,4 +118,4 @@ void Insert(Database& database, const ArchivedDocument& document, const std::str
   for (const auto& element : document.elements) InsertElement(database, id, ++position, element);
 }
 
-}  // namespace bench::rows
+}  // namespace host::archive::rows

@@ -5,7 +5,7 @@
 #include "host/archive/PostgreSqlUrl.h"
 #include "host/base/Tr.h"
 
-namespace bench {
+namespace host::archive {
 
 std::unique_ptr<Database> OpenDatabase(const std::string& location, SqliteDatabase::Missing missing) {
   if (IsPostgreSqlUrl(location)) return std::make_unique<PostgreSqlDatabase>(location);
@@ -17,4 +17,4 @@ std::unique_ptr<Database> OpenDatabase(const std::string& location, SqliteDataba
   return std::make_unique<SqliteDatabase>(location, missing);
 }
 
-}  // namespace bench
+}  // namespace host::archive

@@ -7,7 +7,7 @@
 #include "host/base/Sha256.h"
 #include "host/base/Tr.h"
 
-namespace bench {
+namespace host::archive {
 
 namespace {
 
@@ -29,10 +29,10 @@ constexpr char kFromResults[] =
     " WHERE r.document_key = d.document_key AND r.revision > d.revision"
     " AND f.element_id = e.element_id AND f.run = e.run AND f.run_date = e.run_date) AND ";
 
-std::optional<RecordedTester> InstrumentOf(RowReader& row) {
+std::optional<document::RecordedTester> InstrumentOf(RowReader& row) {
   const auto& type = row.Next();
   if (!std::holds_alternative<std::string>(type)) return {};
-  RecordedTester tester{std::get<std::string>(type), row.Text(), row.Text(), row.Small(), {}};
+  document::RecordedTester tester{std::get<std::string>(type), row.Text(), row.Text(), row.Small(), {}};
   // Archives of before did not keep it.
   if (const auto* calibrated = std::get_if<std::string>(&row.Next())) tester.leadsMeasured = *calibrated;
   return tester;
@@ -139,4 +139,4 @@ Trend Archive::TrendOf(const std::string& asset, std::int32_t testId, bool simul
   return trend;
 }
 
-}  // namespace bench
+}  // namespace host::archive

@@ -2,7 +2,7 @@
 
 #include "host/archive/ArchiveWords.h"
 
-namespace bench::rows {
+namespace host::archive::rows {
 
 namespace {
 
@@ -104,4 +104,4 @@ void ReadDetails(Database& database, std::int64_t document, std::int64_t positio
   }
 }
 
-}  // namespace bench::rows
+}  // namespace host::archive::rows

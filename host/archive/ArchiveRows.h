@@ -6,7 +6,7 @@
 #include "host/archive/ArchivedDocument.h"
 #include "host/archive/Database.h"
 
-namespace bench::rows {
+namespace host::archive::rows {
 
 /// Documents in the tables of `Schema.h`.
 
@@ -24,4 +24,4 @@ ArchivedElement ElementOf(RowReader& row);
 /// Adds what an element has in rows of their own: limits and reasons.
 void ReadDetails(Database& database, std::int64_t document, std::int64_t position, ArchivedElement& element);
 
-}  // namespace bench::rows
+}  // namespace host::archive::rows

@@ -6,7 +6,7 @@
 #include "host/archive/ArchiveError.h"
 #include "host/base/Tr.h"
 
-namespace bench::words {
+namespace host::archive::words {
 
 namespace {
 
@@ -62,4 +62,4 @@ Verdict VerdictOf(const std::string& word) { return MeaningOf(kVerdicts, word); 
 Outcome OutcomeOf(const std::string& word) { return MeaningOf(kOutcomes, word); }
 LimitVerdict LimitVerdictOf(const std::string& word) { return MeaningOf(kLimitVerdicts, word); }
 
-}  // namespace bench::words
+}  // namespace host::archive::words

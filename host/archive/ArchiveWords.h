@@ -4,7 +4,7 @@
 
 #include "host/judge/Verdict.h"
 
-namespace bench::words {
+namespace host::archive::words {
 
 /// The names of verdicts in the tables. They never change, unlike the texts that programs print.
 
@@ -17,4 +17,4 @@ judge::Verdict VerdictOf(const std::string& word);
 judge::Outcome OutcomeOf(const std::string& word);
 judge::LimitVerdict LimitVerdictOf(const std::string& word);
 
-}  // namespace bench::words
+}  // namespace host::archive::words

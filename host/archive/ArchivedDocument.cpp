@@ -1,6 +1,6 @@
 #include "host/archive/ArchivedDocument.h"
 
-namespace bench {
+namespace host::archive {
 
 bool TrendPoint::Overloaded() const {
   const auto& measurement = element.result.measurement;
@@ -18,4 +18,4 @@ std::string TrendPoint::Unit() const {
   return measurement->unit.empty() ? element.result.unit : measurement->unit;
 }
 
-}  // namespace bench
+}  // namespace host::archive

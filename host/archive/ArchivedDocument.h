@@ -9,7 +9,7 @@
 #include "host/document/RunRecord.h"
 #include "host/judge/Verdict.h"
 
-namespace bench {
+namespace host::archive {
 
 /// An element as it was judged when its document was added.
 struct ArchivedElement {
@@ -42,9 +42,9 @@ struct ArchiveEntry {
 /// A document with all that the archive keeps of it.
 struct ArchivedDocument {
   ArchiveEntry entry;
-  std::optional<RecordedTester> instrument;  ///< the tester of the last run that had one
-  std::vector<ArchivedElement> elements;     ///< in document order, parents before children
-  std::string contents;                      ///< the file, byte by byte
+  std::optional<document::RecordedTester> instrument;  ///< the tester of the last run that had one
+  std::vector<ArchivedElement> elements;               ///< in document order, parents before children
+  std::string contents;                                ///< the file, byte by byte
 };
 
 /// One reading of a test.
@@ -73,4 +73,4 @@ struct Trend {
   std::size_t notCurrent = 0;  ///< how many results are left out since they did not count when added
 };
 
-}  // namespace bench
+}  // namespace host::archive

@@ -6,7 +6,7 @@
 #include <variant>
 #include <vector>
 
-namespace bench {
+namespace host::archive {
 
 /// Binary contents of a column.
 struct Bytes {
@@ -83,4 +83,4 @@ class RowReader {
   std::size_t at_ = 0;
 };
 
-}  // namespace bench
+}  // namespace host::archive

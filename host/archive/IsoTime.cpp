@@ -5,7 +5,7 @@
 
 #include "host/base/WallClock.h"
 
-namespace bench {
+namespace host::archive {
 
 std::optional<Seconds> IsoMoment(std::string_view text) {
   // Date; hours and minutes; seconds and a fraction; zone.
@@ -40,4 +40,4 @@ std::optional<std::string> UtcText(std::string_view text) {
 
 Seconds UtcNow() { return std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now()); }
 
-}  // namespace bench
+}  // namespace host::archive

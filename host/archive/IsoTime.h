@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-namespace bench {
+namespace host::archive {
 
 using Seconds = std::chrono::sys_seconds;
 
@@ -23,4 +23,4 @@ std::optional<std::string> UtcText(std::string_view text);
 /// Now, by the machine's clock.
 Seconds UtcNow();
 
-}  // namespace bench
+}  // namespace host::archive

@@ -14,7 +14,7 @@
 #include "host/base/Text.h"
 #include "host/base/Tr.h"
 
-namespace bench {
+namespace host::archive {
 
 namespace {
 
@@ -243,4 +243,4 @@ bool PostgreSqlDatabase::HasTable(const std::string& name) {
 
 bool PostgreSqlDatabase::TakesNewArchive() { return true; }
 
-}  // namespace bench
+}  // namespace host::archive

@@ -6,7 +6,7 @@
 
 #include "host/archive/Database.h"
 
-namespace bench {
+namespace host::archive {
 
 /// A database of a PostgreSQL server. A server that does not answer is given up after `kPatienceSeconds`.
 class PostgreSqlDatabase final : public Database {
@@ -34,4 +34,4 @@ class PostgreSqlDatabase final : public Database {
   std::unique_ptr<Connection> connection_;
 };
 
-}  // namespace bench
+}  // namespace host::archive

@@ -9,7 +9,7 @@
 #include "host/archive/PqLibrary.h"
 #include "host/base/Tr.h"
 
-namespace bench {
+namespace host::archive {
 
 namespace {
 
@@ -70,4 +70,4 @@ std::string ShownUrl(const std::string& url) {
   return shown;
 }
 
-}  // namespace bench
+}  // namespace host::archive

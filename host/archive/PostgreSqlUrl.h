@@ -2,7 +2,7 @@
 
 #include <string>
 
-namespace bench {
+namespace host::archive {
 
 /// Whether the location is a server: "postgresql://..." or "postgres://...".
 bool IsPostgreSqlUrl(const std::string& location);
@@ -11,4 +11,4 @@ bool IsPostgreSqlUrl(const std::string& location);
 /// the URL, for one that cannot be parsed.
 std::string ShownUrl(const std::string& url);
 
-}  // namespace bench
+}  // namespace host::archive

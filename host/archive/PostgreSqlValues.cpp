@@ -4,7 +4,7 @@
 
 #include "host/base/Text.h"
 
-namespace bench {
+namespace host::archive {
 
 namespace {
 
@@ -71,4 +71,4 @@ Value PostgreSqlValue(std::string_view text, Oid type) {
   }
 }
 
-}  // namespace bench
+}  // namespace host::archive

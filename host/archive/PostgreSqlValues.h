@@ -8,7 +8,7 @@
 
 #include "host/archive/Database.h"
 
-namespace bench {
+namespace host::archive {
 
 /// Values as the client library takes them: numbers and texts as text, bytes as they are. The values must
 /// outlive it.
@@ -41,4 +41,4 @@ class PostgreSqlParameters {
 /// A column that is not null, as the server writes it in text.
 Value PostgreSqlValue(std::string_view text, Oid type);
 
-}  // namespace bench
+}  // namespace host::archive

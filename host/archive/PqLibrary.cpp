@@ -5,7 +5,7 @@
 #include "host/archive/ArchiveError.h"
 #include "host/base/Tr.h"
 
-namespace bench {
+namespace host::archive {
 
 namespace {
 
@@ -65,4 +65,4 @@ const PqLibrary& PqLibrary::Get() {
   return library;
 }
 
-}  // namespace bench
+}  // namespace host::archive

@@ -2,7 +2,7 @@
 
 #include <libpq-fe.h>
 
-namespace bench {
+namespace host::archive {
 
 /// The functions of PostgreSQL's client library that the archive calls. The library is loaded when it is
 /// first asked for, and stays.
@@ -38,4 +38,4 @@ struct PqLibrary {
   decltype(&PQgetlength) getlength = nullptr;
 };
 
-}  // namespace bench
+}  // namespace host::archive

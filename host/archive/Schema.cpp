@@ -6,7 +6,7 @@
 #include "host/archive/ArchiveError.h"
 #include "host/base/Tr.h"
 
-namespace bench::schema {
+namespace host::archive::schema {
 
 namespace {
 
@@ -134,4 +134,4 @@ void BringUpTo(Database& database, std::int64_t version) {
 
 void BringUp(Database& database) { BringUpTo(database, kVersion); }
 
-}  // namespace bench::schema
+}  // namespace host::archive::schema

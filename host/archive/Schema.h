@@ -4,7 +4,7 @@
 
 #include "host/archive/Database.h"
 
-namespace bench {
+namespace host::archive {
 
 /// How an archive is laid out, the same in SQLite and PostgreSQL.
 namespace schema {
@@ -22,4 +22,4 @@ void BringUpTo(Database& database, std::int64_t version);
 
 }  // namespace schema
 
-}  // namespace bench
+}  // namespace host::archive

@@ -8,7 +8,7 @@
 #include "host/base/Patience.h"
 #include "host/base/Tr.h"
 
-namespace bench {
+namespace host::archive {
 
 namespace {
 
@@ -182,4 +182,4 @@ void SqliteDatabase::Fail(int code) const {
   }
 }
 
-}  // namespace bench
+}  // namespace host::archive

@@ -9,7 +9,7 @@
 
 struct sqlite3;
 
-namespace bench {
+namespace host::archive {
 
 /// An SQLite file. What was committed is on the disk; a program that is killed, or a power cut, leaves the
 /// state before or after a transaction. Another program that is writing is waited for, up to
@@ -45,4 +45,4 @@ class SqliteDatabase final : public Database {
   std::unique_ptr<sqlite3, Closer> database_;
 };
 
-}  // namespace bench
+}  // namespace host::archive

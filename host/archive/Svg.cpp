@@ -6,7 +6,7 @@
 #include "host/base/VisibleText.h"
 #include "host/report/HtmlText.h"
 
-namespace bench {
+namespace host::archive {
 
 namespace {
 
@@ -19,7 +19,7 @@ bool BeginsLetter(char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x8
 
 }  // namespace
 
-std::string XmlEscaped(std::string_view text) { return html::Escaped(report::VisibleText(text)); }
+std::string XmlEscaped(std::string_view text) { return report::html::Escaped(host::VisibleText(text)); }
 
 std::string Shortened(const std::string& text, std::size_t letters) {
   std::size_t count = 0;
@@ -70,4 +70,4 @@ void Svg::Close(std::string_view name) {
   text_ += ">\n";
 }
 
-}  // namespace bench
+}  // namespace host::archive

@@ -6,7 +6,7 @@
 #include <utility>
 #include <variant>
 
-namespace bench {
+namespace host::archive {
 
 /// Writes an SVG picture. Texts are data: nothing in them is ever markup.
 class Svg {
@@ -36,4 +36,4 @@ std::string XmlEscaped(std::string_view text);
 /// The text, shortened to that many letters.
 std::string Shortened(const std::string& text, std::size_t letters);
 
-}  // namespace bench
+}  // namespace host::archive

@@ -5,7 +5,7 @@
 #include <cmath>
 #include <iterator>
 
-namespace bench {
+namespace host::archive {
 
 namespace {
 
@@ -109,4 +109,4 @@ std::string NumberText(double number) {
   return {std::begin(text), end};
 }
 
-}  // namespace bench
+}  // namespace host::archive

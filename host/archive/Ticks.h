@@ -5,7 +5,7 @@
 
 #include "host/archive/IsoTime.h"
 
-namespace bench {
+namespace host::archive {
 
 /// A mark on an axis.
 template <class Position>
@@ -26,4 +26,4 @@ std::vector<Tick<Seconds>> DateTicks(Seconds from, Seconds to);
 /// The number with at most ten digits, in every locale the same.
 std::string NumberText(double number);
 
-}  // namespace bench
+}  // namespace host::archive

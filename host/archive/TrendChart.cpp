@@ -14,7 +14,7 @@
 #include "host/archive/TrendUnit.h"
 #include "host/base/Tr.h"
 
-namespace bench {
+namespace host::archive {
 
 namespace {
 
@@ -312,4 +312,4 @@ class Chart {
 
 std::string TrendChart(const Trend& trend) { return Chart(trend).Draw(); }
 
-}  // namespace bench
+}  // namespace host::archive

@@ -7,7 +7,7 @@
 #include "host/archive/TrendUnit.h"
 #include "host/base/Tr.h"
 
-namespace bench {
+namespace host::archive {
 
 namespace {
 
@@ -99,4 +99,4 @@ std::string LimitText(const judge::JudgedLimit& limit) {
   return Tr("%%1: at most %%2 %%3", {name, high, limit.unit});
 }
 
-}  // namespace bench
+}  // namespace host::archive

@@ -6,7 +6,7 @@
 
 #include "host/archive/ArchivedDocument.h"
 
-namespace bench {
+namespace host::archive {
 
 /// A limit of a standard for the time in which its bounds were the same.
 struct LimitStretch {
@@ -32,4 +32,4 @@ std::string StandardText(const judge::JudgedLimit& limit);
 /// "IEC 62353, class I: 100 to 300 mOhm", "...: at most 300 mOhm"
 std::string LimitText(const judge::JudgedLimit& limit);
 
-}  // namespace bench
+}  // namespace host::archive

@@ -2,7 +2,7 @@
 
 #include "host/base/Tr.h"
 
-namespace bench {
+namespace host::archive {
 
 namespace {
 
@@ -115,4 +115,4 @@ void DrawMark(Svg& svg, Mark mark, double x, double y) {
   }
 }
 
-}  // namespace bench
+}  // namespace host::archive

@@ -5,7 +5,7 @@
 #include "host/archive/ArchivedDocument.h"
 #include "host/archive/Svg.h"
 
-namespace bench {
+namespace host::archive {
 
 /// The mark of a reading. Each kind has its own shape, so that print without colours shows it too.
 enum class Mark {
@@ -29,4 +29,4 @@ std::string MarkText(Mark mark);
 
 void DrawMark(Svg& svg, Mark mark, double x, double y);
 
-}  // namespace bench
+}  // namespace host::archive

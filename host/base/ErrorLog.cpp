@@ -16,7 +16,7 @@
 #include "host/base/Text.h"
 #include "host/base/Tr.h"
 
-namespace bench {
+namespace host {
 namespace {
 
 std::string UtcText(std::chrono::system_clock::time_point time) {
@@ -119,4 +119,4 @@ void ErrorLog::RotateBefore(std::size_t added) const {
   std::filesystem::rename(file_, Numbered(file_, 1), error);
 }
 
-}  // namespace bench
+}  // namespace host

@@ -8,7 +8,7 @@
 
 #include "OrvikTypeLib/IErrorLog.h"
 
-namespace bench {
+namespace host {
 
 /// The file "error.log" in the state folder, one line an entry, fields separated by tabs: time (UTC), source,
 /// number in hexadecimal and signed decimal, place, level, values. Tabs, line ends and other control
@@ -49,4 +49,4 @@ class ErrorLog final : public orvik::IErrorLog {
   std::string lastEntry_;  ///< without its time
 };
 
-}  // namespace bench
+}  // namespace host

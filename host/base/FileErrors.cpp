@@ -6,7 +6,7 @@
 #include "host/base/SystemError.h"
 #include "host/base/Tr.h"
 
-namespace bench {
+namespace host {
 namespace {
 
 constexpr char kFilesSource[] = "orvik-bench";
@@ -46,4 +46,4 @@ void ThrowFileBusy(const std::filesystem::path& file, const std::string& what, c
   Throw<BusyError>(Tr("%%1 (%%2)", {WithValues(what, {file.string()}), advice}));
 }
 
-}  // namespace bench
+}  // namespace host

@@ -5,7 +5,7 @@
 
 #include "OrvikTypeLib/HostError.h"
 
-namespace bench {
+namespace host {
 
 /// Another program holds what was asked for; trying again later may succeed.
 class BusyError : public orvik::HostError {
@@ -33,4 +33,4 @@ bool IsErrorOfMachine(int error);
 [[noreturn]] void ThrowFileBusy(const std::filesystem::path& file, const std::string& what,
                                 const std::string& advice);
 
-}  // namespace bench
+}  // namespace host

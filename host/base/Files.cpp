@@ -15,7 +15,7 @@
 #include "host/base/Patience.h"
 #include "host/base/Tr.h"
 
-namespace bench {
+namespace host {
 
 FileDescriptor& FileDescriptor::operator=(FileDescriptor&& other) noexcept {
   std::swap(descriptor_, other.descriptor_);
@@ -126,4 +126,4 @@ bool FileLock::TryLock(const std::filesystem::path& lockFile) const {
   return false;
 }
 
-}  // namespace bench
+}  // namespace host

@@ -11,7 +11,7 @@
 #include <utility>
 
 /// Durable files. Every error is a `HostError` 75 that names the file and says what to do.
-namespace bench {
+namespace host {
 
 /// Owns an open file.
 class FileDescriptor {
@@ -75,4 +75,4 @@ class FileLock {
 /// How long the host waits for another program that is writing one of its files.
 inline constexpr std::chrono::milliseconds kLockPatience{2000};
 
-}  // namespace bench
+}  // namespace host

@@ -12,7 +12,7 @@
 #include "host/base/FileErrors.h"
 #include "host/base/Tr.h"
 
-namespace bench {
+namespace host {
 namespace {
 
 constexpr mode_t kUsualMode = 0666;  // less the umask
@@ -100,4 +100,4 @@ int FreshFile::Link(const std::filesystem::path& file) {
   return linkat(AT_FDCWD, from.c_str(), AT_FDCWD, file.c_str(), AT_SYMLINK_FOLLOW) == 0 ? 0 : errno;
 }
 
-}  // namespace bench
+}  // namespace host

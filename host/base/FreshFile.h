@@ -8,7 +8,7 @@
 
 #include "host/base/Files.h"
 
-namespace bench {
+namespace host {
 
 /// A file that has its contents, flushed to disk, before it gets its name. Unless it is given one, nothing is
 /// left of it. Every error is a `HostError` 75 that names the file.
@@ -50,4 +50,4 @@ class FreshFile {
   FileDescriptor descriptor_;
 };
 
-}  // namespace bench
+}  // namespace host

@@ -9,7 +9,7 @@
 #include "platform/IPanel.h"
 #include "platform/ITreeView.h"
 
-namespace bench {
+namespace host {
 namespace {
 
 constexpr char kHostModule[] = "orvik";
@@ -125,4 +125,4 @@ void LanguageService::ILanguageService_TranslateControls(
   }
 }
 
-}  // namespace bench
+}  // namespace host

@@ -9,7 +9,7 @@
 #include "OrvikTypeLib/ILanguageService.h"
 #include "host/base/TranslationFile.h"
 
-namespace bench {
+namespace host {
 
 /// A file of translations, MODULE.LANGUAGE.po.
 struct TranslationFile {
@@ -54,4 +54,4 @@ bool IsLanguageString(std::string_view text);
 /// placeholder without a value stays.
 std::string WithValues(std::string_view text, const std::vector<std::string>& values);
 
-}  // namespace bench
+}  // namespace host

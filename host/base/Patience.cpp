@@ -3,7 +3,7 @@
 #include <ctime>
 #include <utility>
 
-namespace bench {
+namespace host {
 namespace {
 
 using Clock = std::chrono::steady_clock;
@@ -42,4 +42,4 @@ bool Patience::WaitsFor(const std::string& reason) {
   return whole;
 }
 
-}  // namespace bench
+}  // namespace host

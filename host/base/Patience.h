@@ -6,7 +6,7 @@
 
 #include "host/base/FileErrors.h"
 
-namespace bench {
+namespace host {
 
 /// How long this program waits in all for what another program holds: documents, settings, archives, ports.
 /// Not at all unless it was set. One for the program.
@@ -35,4 +35,4 @@ auto WaitUntilFree(Attempt attempt) {
   }
 }
 
-}  // namespace bench
+}  // namespace host

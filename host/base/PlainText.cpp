@@ -2,7 +2,7 @@
 
 #include "host/base/Text.h"
 
-namespace bench {
+namespace host {
 namespace {
 
 bool At(std::string_view text, std::size_t place, std::string_view expected) {
@@ -39,4 +39,4 @@ std::string PlainTextOf(std::string_view text) {
   return plain += text;
 }
 
-}  // namespace bench
+}  // namespace host

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-namespace bench {
+namespace host {
 
 /// Plain text is what a document holds: valid UTF-8 without control characters (line ends and tabs among
 /// them) and without the two code points that XML excludes.
@@ -15,4 +15,4 @@ std::size_t FindNotPlain(std::string_view text);
 /// The text without what is not plain.
 std::string PlainTextOf(std::string_view text);
 
-}  // namespace bench
+}  // namespace host

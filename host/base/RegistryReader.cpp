@@ -3,7 +3,7 @@
 #include "OrvikTypeLib/HostError.h"
 #include "host/base/Tr.h"
 
-namespace bench {
+namespace host {
 namespace {
 constexpr std::int32_t kLevelConfiguration = 3;
 }
@@ -63,4 +63,4 @@ std::vector<std::string> RegistryReader::IRegistryReader_ValueNames() const {
   return store_->Names(key_->hive, key_->path);
 }
 
-}  // namespace bench
+}  // namespace host

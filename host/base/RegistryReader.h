@@ -9,7 +9,7 @@
 #include "OrvikTypeLib/IRegistryReader.h"
 #include "host/base/RegistryStore.h"
 
-namespace bench {
+namespace host {
 
 /// One open key of the registry store. A store that cannot be read is reported to the error log, and its keys
 /// do not open; a failed write is reported and passed on.
@@ -40,4 +40,4 @@ class RegistryReader final : public orvik::IRegistryReader {
   std::optional<OpenedKey> key_;
 };
 
-}  // namespace bench
+}  // namespace host

@@ -10,7 +10,7 @@
 #include "host/base/Files.h"
 #include "host/base/Tr.h"
 
-namespace bench {
+namespace host {
 namespace {
 
 using orvik::HostError;
@@ -238,4 +238,4 @@ void RegistryStore::Modify(Change change) {
   cachedStamp_ = StampNow();
 }
 
-}  // namespace bench
+}  // namespace host

@@ -15,7 +15,7 @@
 #include "OrvikTypeLib/Variant.h"
 #include "platform/Event.h"
 
-namespace bench {
+namespace host {
 
 /// The settings of all programs of this host: the file "registry.json" in the state folder.
 ///
@@ -83,4 +83,4 @@ class RegistryStore {
   mutable std::optional<Stamp> cachedStamp_;
 };
 
-}  // namespace bench
+}  // namespace host

@@ -5,7 +5,7 @@
 #include <array>
 #include <cstdint>
 
-namespace bench {
+namespace host {
 
 void Sha256Digest::Add(std::string_view bytes) {
   sha256_update(&context_, bytes.size(), reinterpret_cast<const std::uint8_t*>(bytes.data()));
@@ -25,4 +25,4 @@ std::string Sha256(std::string_view bytes) {
   return digest.Hex();
 }
 
-}  // namespace bench
+}  // namespace host

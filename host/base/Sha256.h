@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-namespace bench {
+namespace host {
 
 /// Computes the SHA-256 digest (FIPS 180-4) of text that arrives piece by piece.
 class Sha256Digest {
@@ -24,4 +24,4 @@ class Sha256Digest {
 /// The digest of these bytes.
 std::string Sha256(std::string_view bytes);
 
-}  // namespace bench
+}  // namespace host

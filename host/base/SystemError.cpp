@@ -5,7 +5,7 @@
 
 #include "host/base/Tr.h"
 
-namespace bench {
+namespace host {
 
 std::string SystemError(int error) {
   switch (error) {
@@ -52,4 +52,4 @@ std::string SystemError(int error) {
   }
 }
 
-}  // namespace bench
+}  // namespace host

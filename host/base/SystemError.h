@@ -2,10 +2,10 @@
 
 #include <string>
 
-namespace bench {
+namespace host {
 
 /// What the system's error number (`errno`) says, in the language that was chosen; in the system's own words
 /// for one that is rare.
 std::string SystemError(int error);
 
-}  // namespace bench
+}  // namespace host

@@ -4,7 +4,7 @@
 #include <charconv>
 #include <cstring>
 
-namespace bench {
+namespace host {
 namespace {
 
 char Lower(char letter) {
@@ -105,4 +105,4 @@ std::size_t InvalidUtf8(std::string_view text, std::size_t from) {
   return std::string_view::npos;
 }
 
-}  // namespace bench
+}  // namespace host

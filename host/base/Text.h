@@ -9,7 +9,7 @@
 #include "OrvikTypeLib/Conversions.h"
 
 /// Small conversions of texts that the host's files and services share. None of them looks at the C locale.
-namespace bench {
+namespace host {
 
 /// The text with the letters A to Z in lower case.
 std::string LowerAscii(std::string_view text);
@@ -43,4 +43,4 @@ std::string ValidUtf8(std::string_view text);
 /// The first byte at or behind `from` that `ValidUtf8` would replace; `npos` when there is none.
 std::size_t InvalidUtf8(std::string_view text, std::size_t from = 0);
 
-}  // namespace bench
+}  // namespace host

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-namespace bench {
+namespace host {
 
 namespace {
 
@@ -78,4 +78,4 @@ std::string CutToCells(const std::string& text, std::size_t cells) {
   return text.substr(0, text.size() - rest.size());
 }
 
-}  // namespace bench
+}  // namespace host

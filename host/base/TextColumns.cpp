@@ -5,7 +5,7 @@
 
 #include "host/base/TextCells.h"
 
-namespace bench {
+namespace host {
 
 std::string Padded(const std::string& text, std::size_t width) {
   const auto length = CellsOf(text);
@@ -51,4 +51,4 @@ std::string ShortNumber(double number) {
   return {buffer, end};
 }
 
-}  // namespace bench
+}  // namespace host

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-namespace bench {
+namespace host {
 
 /// The text, padded on the right to the width and one more blank; widths are cells of a terminal.
 std::string Padded(const std::string& text, std::size_t width);
@@ -20,4 +20,4 @@ std::string Joined(const std::vector<std::string>& texts, const char* between);
 /// The shortest text of a number, such as "123" or "0.25"; independent of the locale.
 std::string ShortNumber(double number);
 
-}  // namespace bench
+}  // namespace host

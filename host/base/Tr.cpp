@@ -3,7 +3,7 @@
 #include "host/base/Files.h"
 #include "host/base/LanguageService.h"
 
-namespace bench {
+namespace host {
 namespace {
 
 OwnTranslations& Chosen() {
@@ -29,4 +29,4 @@ void ChooseLanguage(const std::string& language, const std::vector<std::filesyst
   Chosen() = std::move(texts);
 }
 
-}  // namespace bench
+}  // namespace host

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-namespace bench {
+namespace host {
 
 /// A text of the program's own in the language that was chosen; the English one itself when there is no
 /// translation. "%%1" to "%%9" are replaced by the values, once. Texts are written as literals at the call,
@@ -23,4 +23,4 @@ constexpr const char* Marked(const char* english) { return english; }
 /// @throws HostError 75 when a file is malformed, 5 when the language is no name
 void ChooseLanguage(const std::string& language, const std::vector<std::filesystem::path>& folders);
 
-}  // namespace bench
+}  // namespace host

@@ -7,7 +7,7 @@
 #include "host/base/Text.h"
 #include "host/base/Tr.h"
 
-namespace bench {
+namespace host {
 namespace {
 
 struct Entry {
@@ -158,4 +158,4 @@ OwnTranslations ReadOwnTranslations(std::string_view text, const std::string& na
   return translations;
 }
 
-}  // namespace bench
+}  // namespace host

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <unordered_map>
 
-namespace bench {
+namespace host {
 
 /// Translated texts by their number.
 using Translations = std::unordered_map<std::int32_t, std::string>;
@@ -28,4 +28,4 @@ using OwnTranslations = std::unordered_map<std::string, std::string>;
 /// Reads a gettext file whose entries carry no numbers: the originals are the keys. Otherwise as above.
 OwnTranslations ReadOwnTranslations(std::string_view text, const std::string& name);
 
-}  // namespace bench
+}  // namespace host

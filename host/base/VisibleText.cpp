@@ -4,7 +4,7 @@
 
 #include "host/base/Text.h"
 
-namespace bench::report {
+namespace host {
 namespace {
 
 bool Within(char32_t letter, char32_t first, char32_t last) { return letter >= first && letter <= last; }
@@ -83,4 +83,4 @@ std::string VisibleText(std::string_view text, LineEnds lineEnds) {
   return visible;
 }
 
-}  // namespace bench::report
+}  // namespace host

@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-namespace bench::report {
+namespace host {
 
 enum class LineEnds { kKept, kShown };
 
@@ -18,4 +18,4 @@ std::u32string CodePoints(std::string_view text);
 /// Appends the code point in UTF-8.
 void AppendUtf8(std::string& text, char32_t letter);
 
-}  // namespace bench::report
+}  // namespace host

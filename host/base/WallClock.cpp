@@ -7,7 +7,7 @@
 
 #include "host/base/Text.h"
 
-namespace bench {
+namespace host {
 namespace {
 
 constexpr std::string_view kForm = "####-##-##T##:##:##@##:##";
@@ -59,4 +59,4 @@ std::optional<Moment> MomentOf(std::string_view text) {
   return moment;
 }
 
-}  // namespace bench
+}  // namespace host

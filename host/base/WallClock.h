@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-namespace bench {
+namespace host {
 
 /// Tells the date and time of day, such as "2026-11-21T14:03:22+01:00": local time and its distance from UTC.
 using WallClock = std::function<std::string()>;
@@ -25,4 +25,4 @@ struct Moment {
 /// None for a text that is no such moment.
 std::optional<Moment> MomentOf(std::string_view text);
 
-}  // namespace bench
+}  // namespace host

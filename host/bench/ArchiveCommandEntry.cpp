@@ -17,7 +17,7 @@
 #include "host/document/Document.h"
 #include "host/report/DocumentView.h"
 
-namespace bench {
+namespace host::bench {
 
 namespace {
 
@@ -47,21 +47,21 @@ judge::JudgedElement Valid(judge::JudgedElement element) {
   return element;
 }
 
-std::vector<ArchivedElement> ElementsOf(const judge::JudgedDocument& judged) {
-  std::vector<ArchivedElement> elements;
+std::vector<archive::ArchivedElement> ElementsOf(const judge::JudgedDocument& judged) {
+  std::vector<archive::ArchivedElement> elements;
   for (const auto& element : judged.elements)
-    elements.push_back({Valid(element), UtcText(element.at).value_or("")});
+    elements.push_back({Valid(element), archive::UtcText(element.at).value_or("")});
   return elements;
 }
 
-std::string LastDate(const std::vector<ArchivedElement>& elements) {
+std::string LastDate(const std::vector<archive::ArchivedElement>& elements) {
   std::string last;
   for (const auto& element : elements) last = std::max(last, element.runDate);
   return last;
 }
 
 /// Each once, in the order of the elements: "A. Berg, K. Holm".
-std::string Operators(const std::vector<ArchivedElement>& elements) {
+std::string Operators(const std::vector<archive::ArchivedElement>& elements) {
   std::vector<std::string> names;
   for (const auto& element : elements)
     if (!element.result.by.empty() && std::find(names.begin(), names.end(), element.result.by) == names.end())
@@ -71,13 +71,13 @@ std::string Operators(const std::vector<ArchivedElement>& elements) {
 
 }  // namespace
 
-ArchivedDocument EntryOf(const std::string& file, Workbench& workbench) {
-  ArchivedDocument entry;
+archive::ArchivedDocument EntryOf(const std::string& file, Workbench& workbench) {
+  archive::ArchivedDocument entry;
   entry.contents = ReadFile(file);
-  const auto document = Document::Open(workbench.Host(), file, DocumentFile::Use::kRead);
+  const auto document = document::Document::Open(workbench.Host(), file, document::DocumentFile::Use::kRead);
   if (ReadFile(file) != entry.contents)
     throw InputError(Tr("%%1 is being changed by another program; try again when that has ended", {file}));
-  const auto view = ViewOf(*document, *workbench.Host());
+  const auto view = report::ViewOf(*document, *workbench.Host());
   entry.elements = ElementsOf(view.judged);
   entry.instrument = view.instrument;
   if (auto& tester = entry.instrument)
@@ -96,11 +96,11 @@ ArchivedDocument EntryOf(const std::string& file, Workbench& workbench) {
   head.finished = UnfinishedReason(entry).empty();
   head.runDate = LastDate(entry.elements);
   head.operatorName = Operators(entry.elements);
-  head.added = IsoText(UtcNow());
+  head.added = archive::IsoText(archive::UtcNow());
   return entry;
 }
 
-std::string UnfinishedReason(const ArchivedDocument& document) {
+std::string UnfinishedReason(const archive::ArchivedDocument& document) {
   if (document.elements.empty()) return Tr("it has no tests");
   std::size_t open = 0;
   const judge::JudgedElement* first = nullptr;
@@ -115,25 +115,25 @@ std::string UnfinishedReason(const ArchivedDocument& document) {
              first->name, Tr(judge::VerdictText(first->verdict))});
 }
 
-std::string SimulatedMark(const ArchiveEntry& entry) {
+std::string SimulatedMark(const archive::ArchiveEntry& entry) {
   return entry.simulated ? Tr("(simulated: nothing was measured)") : std::string();
 }
 
-std::string ReceiptText(const ArchivedDocument& document, const std::string& file,
-                        const Archive::Receipt& receipt) {
+std::string ReceiptText(const archive::ArchivedDocument& document, const std::string& file,
+                        const archive::Archive::Receipt& receipt) {
   const std::vector<std::string> values = {file, std::to_string(receipt.id),
                                            std::to_string(receipt.revision)};
   const auto mark = SimulatedMark(document.entry);
   const auto after = mark.empty() ? std::string() : " " + mark;
   switch (receipt.added) {
-    case Archive::Added::kNew:
+    case archive::Archive::Added::kNew:
       return Tr("%%1: added as document %%2", values) + after;
-    case Archive::Added::kRevision:
+    case archive::Archive::Added::kRevision:
       return Tr("%%1: has changed, added as document %%2, revision %%3", values) + after;
-    case Archive::Added::kUnchanged:
+    case archive::Archive::Added::kUnchanged:
       break;
   }
   return Tr("%%1: is in the archive already, as document %%2; nothing was added", values);
 }
 
-}  // namespace bench
+}  // namespace host::bench

@@ -8,34 +8,34 @@
 #include "host/bench/InputError.h"
 #include "host/bench/ProgramFiles.h"
 
-namespace bench {
+namespace host::bench {
 
 namespace {
 
-using Missing = SqliteDatabase::Missing;
+using Missing = archive::SqliteDatabase::Missing;
 
-Archive Opened(const std::string& location, const GlobalOptions& options, Missing named) {
-  if (!location.empty()) return Archive(OpenDatabase(location, named));
+archive::Archive Opened(const std::string& location, const GlobalOptions& options, Missing named) {
+  if (!location.empty()) return archive::Archive(archive::OpenDatabase(location, named));
   const char* environment = std::getenv("ORVIK_ARCHIVE");
-  if (environment && *environment) return Archive(OpenDatabase(environment, named));
+  if (environment && *environment) return archive::Archive(archive::OpenDatabase(environment, named));
   const auto file = files::StateFolder(options.state) / "archive.sqlite";
-  return Archive(std::make_unique<SqliteDatabase>(file, Missing::kCreate));
+  return archive::Archive(std::make_unique<archive::SqliteDatabase>(file, Missing::kCreate));
 }
 
 }  // namespace
 
-Archive OpenArchiveToAsk(const std::string& location, const GlobalOptions& options) {
+archive::Archive OpenArchiveToAsk(const std::string& location, const GlobalOptions& options) {
   return Opened(location, options, Missing::kRefuse);
 }
 
-Archive OpenArchiveToAdd(const std::string& location, const GlobalOptions& options) {
+archive::Archive OpenArchiveToAdd(const std::string& location, const GlobalOptions& options) {
   return Opened(location, options, Missing::kCreate);
 }
 
-ArchivedDocument Fetched(Archive& archive, std::int64_t id) {
+archive::ArchivedDocument Fetched(archive::Archive& archive, std::int64_t id) {
   if (auto found = archive.Find(id)) return *std::move(found);
   throw InputError(Tr("the archive %%1 has no document %%2; \"orvik-bench archive list\" shows those it has",
                       {archive.Name(), std::to_string(id)}));
 }
 
-}  // namespace bench
+}  // namespace host::bench

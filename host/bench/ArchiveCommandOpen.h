@@ -6,15 +6,15 @@
 #include "host/archive/Archive.h"
 #include "host/bench/Workbench.h"
 
-namespace bench {
+namespace host::bench {
 
 /// Opens the archive that is asked for: `location` (--archive) when it is not empty, else ORVIK_ARCHIVE, else
 /// archive.sqlite in the state folder. Only `add` creates a named file; the one in the state folder is
 /// always created.
-Archive OpenArchiveToAsk(const std::string& location, const GlobalOptions& options);
-Archive OpenArchiveToAdd(const std::string& location, const GlobalOptions& options);
+archive::Archive OpenArchiveToAsk(const std::string& location, const GlobalOptions& options);
+archive::Archive OpenArchiveToAdd(const std::string& location, const GlobalOptions& options);
 
 /// The document of that identifier; `InputError` when there is none.
-ArchivedDocument Fetched(Archive& archive, std::int64_t id);
+archive::ArchivedDocument Fetched(archive::Archive& archive, std::int64_t id);
 
-}  // namespace bench
+}  // namespace host::bench

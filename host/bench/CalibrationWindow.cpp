@@ -7,7 +7,7 @@
 #include "platform/Controls.h"
 #include "platform/IForm.h"
 
-namespace bench {
+namespace host::bench {
 
 namespace {
 
@@ -20,7 +20,8 @@ std::shared_ptr<orvik::platform::ITextBox> TextBox(const orvik::platform::IForm&
 CalibrationWindow::CalibrationWindow(Workbench& workbench, std::string serial)
     : workbench_(workbench),
       serial_(std::move(serial)),
-      dialog_(orvik::As<orvik::IDialogForm>(workbench.Host()->CreateObject(keld_facts::kLeadsDialogClass))),
+      dialog_(
+          orvik::As<orvik::IDialogForm>(workbench.Host()->CreateObject(plugins::keld::kLeadsDialogClass))),
       form_(orvik::Required(dialog_).Form()) {}
 
 void CalibrationWindow::Run() {
@@ -34,22 +35,23 @@ void CalibrationWindow::Show() {
 }
 
 void CalibrationWindow::Operate() {
-  ClickButton(*form_, guide::kLeadsMeasure);  // returns when the session with the tester is over
+  run::ClickButton(*form_,
+                   plugins::keld::guide::kLeadsMeasure);  // returns when the session with the tester is over
   if (!form_->Visible()) return;
-  const auto serial = TextBox(*form_, guide::kLeadsSerial);
+  const auto serial = TextBox(*form_, plugins::keld::guide::kLeadsSerial);
   if (serial && !serial_.empty()) serial->TypeOver(serial_);
   if (serial && serial->Text().empty()) {
     obstacle_ = Tr("the tester reported no serial number; give one with --serial to store the value");
-    return ClickButton(*form_, guide::kLeadsCancel);
+    return run::ClickButton(*form_, plugins::keld::guide::kLeadsCancel);
   }
-  ClickButton(*form_, guide::kLeadsSave);
+  run::ClickButton(*form_, plugins::keld::guide::kLeadsSave);
   if (!form_->Visible()) return;
   obstacle_ = Tr("the value could not be saved; measure again");
-  ClickButton(*form_, guide::kLeadsCancel);
+  run::ClickButton(*form_, plugins::keld::guide::kLeadsCancel);
 }
 
 std::string CalibrationWindow::TesterType() const {
-  const auto type = TextBox(*form_, guide::kLeadsType);
+  const auto type = TextBox(*form_, plugins::keld::guide::kLeadsType);
   return type ? type->Text() : std::string();
 }
 
@@ -57,4 +59,4 @@ std::string CalibrationWindow::Reason() const {
   return obstacle_.empty() ? workbench_.Leads().Reason() : obstacle_;
 }
 
-}  // namespace bench
+}  // namespace host::bench

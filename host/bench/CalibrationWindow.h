@@ -6,7 +6,7 @@
 #include "OrvikTypeLib/IDialogForm.h"
 #include "host/bench/Workbench.h"
 
-namespace bench {
+namespace host::bench {
 
 /// The plug-in's dialog for the calibration of the test leads, operated by the program (calibrate, then save)
 /// or by a person. `Workbench::Leads` closes it when the measurement cannot be used, and holds what was
@@ -39,4 +39,4 @@ class CalibrationWindow {
   std::string obstacle_;
 };
 
-}  // namespace bench
+}  // namespace host::bench

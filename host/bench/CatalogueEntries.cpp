@@ -13,7 +13,7 @@
 #include "host/document/ElementText.h"
 #include "host/elements/ElementFactory.h"
 
-namespace bench {
+namespace host::bench {
 
 namespace {
 
@@ -52,11 +52,11 @@ std::vector<CatalogueEntry> CatalogueEntries(Workbench& workbench) {
     const auto container = orvik::As<orvik::ITestContainer>(element);
     const auto testId = element->TestID();
     entries.push_back({testId, levels.back().testId, container != nullptr, levels.size() - 1,
-                       ElementName(*element, *workbench.Host()->Elements()),
+                       document::ElementName(*element, *workbench.Host()->Elements()),
                        container ? std::string() : UnitOf(workbench.PlugIn(), testId)});
     if (container) levels.push_back({container->NewEnum(), testId});
   }
   return entries;
 }
 
-}  // namespace bench
+}  // namespace host::bench

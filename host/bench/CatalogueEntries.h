@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-namespace bench {
+namespace host::bench {
 
 class Workbench;
 
@@ -25,4 +25,4 @@ std::vector<std::byte> PictureOf(Workbench& workbench, std::int32_t testId);
 /// The catalogue's entries in its order, parents before children.
 std::vector<CatalogueEntry> CatalogueEntries(Workbench& workbench);
 
-}  // namespace bench
+}  // namespace host::bench

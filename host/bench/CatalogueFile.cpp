@@ -8,7 +8,7 @@
 #include "host/bench/InputError.h"
 #include "host/xml/XmlDocument.h"
 
-namespace bench {
+namespace host::bench {
 
 std::string ReadCatalogue(const std::filesystem::path& file) {
   std::string text;
@@ -17,7 +17,7 @@ std::string ReadCatalogue(const std::filesystem::path& file) {
   } catch (const orvik::HostError& error) {
     throw InputError(Tr("catalogue: %%1", {error.Description()}));
   }
-  XmlDocument xml;
+  xml::XmlDocument xml;
   orvik::IXmlDocument& document = xml;
   if (!document.LoadFromString(text))
     throw InputError(Tr("catalogue %%1: %%2; correct the file", {file.string(), document.LastError()}));
@@ -28,4 +28,4 @@ std::string ReadCatalogue(const std::filesystem::path& file) {
   return text;
 }
 
-}  // namespace bench
+}  // namespace host::bench

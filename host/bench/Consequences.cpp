@@ -8,26 +8,26 @@
 #include "host/report/DocumentText.h"
 #include "host/report/DocumentView.h"
 
-namespace bench {
+namespace host::bench {
 
-Consequences::Consequences(const Document& document, Host& host)
+Consequences::Consequences(const document::Document& document, document::Host& host)
     : document_(document), host_(host), before_(Now()) {}
 
 Consequences::Judgement Consequences::Now() const {
-  const auto judged = ViewOf(document_, host_).judged;
+  const auto judged = report::ViewOf(document_, host_).judged;
   Judgement judgement{judge::OutcomeText(judged.outcome), {}};
   for (const auto& element : judged.elements)
     judgement.elements[element.id] = {
         element.name, judge::VerdictText(element.verdict),
         judge::IsDone(element.verdict) || element.verdict == judge::Verdict::kFailed,
-        Joined(ReasonTexts(element), "; ")};
+        Joined(report::ReasonTexts(element), "; ")};
   return judgement;
 }
 
 std::string Consequences::LineOf(std::int32_t id, const Verdict& before, const Verdict& after) {
   if (after.verdict == before.verdict || (!before.counts && !after.counts)) return {};
   const std::vector<std::string> values{std::to_string(id), Tr(after.verdict), Tr(before.verdict)};
-  const auto reasons = after.reasons.empty() ? std::string() : ": " + report::VisibleText(after.reasons);
+  const auto reasons = after.reasons.empty() ? std::string() : ": " + host::VisibleText(after.reasons);
   const auto change = !after.counts    ? Tr("element %%1 no longer counts: %%2 (was: %%3)", values)
                       : !before.counts ? Tr("element %%1 counts now: %%2 (was: %%3)", values)
                                        : Tr("element %%1 is now: %%2 (was: %%3)", values);
@@ -49,4 +49,4 @@ std::string Consequences::Text() const {
   return text;
 }
 
-}  // namespace bench
+}  // namespace host::bench

@@ -5,17 +5,19 @@
 #include <string>
 #include <vector>
 
-namespace bench {
-
+namespace host::document {
 class Document;
 class Host;
+}  // namespace host::document
+
+namespace host::bench {
 
 /// What a change of a document does to the results that counted before it. Every command that changes a
 /// document prints it, so that the report holds no surprise.
 class Consequences {
  public:
   /// Judges the document as it is before the change.
-  Consequences(const Document& document, Host& host);
+  Consequences(const document::Document& document, document::Host& host);
 
   /// Judges it again: a line for each element whose result no longer counts, counts now or counts as
   /// something else, with the reasons, and one when the outcome of the document has changed. Empty when
@@ -38,9 +40,9 @@ class Consequences {
   /// The line for an element that is still there; empty when nothing has changed.
   static std::string LineOf(std::int32_t id, const Verdict& before, const Verdict& after);
 
-  const Document& document_;
-  Host& host_;
+  const document::Document& document_;
+  document::Host& host_;
   Judgement before_;
 };
 
-}  // namespace bench
+}  // namespace host::bench

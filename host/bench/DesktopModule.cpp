@@ -8,7 +8,7 @@
 #include "host/base/Tr.h"
 #include "host/bench/InputError.h"
 
-namespace bench {
+namespace host::bench {
 namespace {
 
 [[noreturn]] void RefuseDesktop(const std::string& reason) {
@@ -53,4 +53,4 @@ bool RunDesktopModule(const DesktopOptions& options, const std::filesystem::path
   throw std::runtime_error(reason);
 }
 
-}  // namespace bench
+}  // namespace host::bench

@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <string>
 
-namespace bench {
+namespace host::bench {
 
 /// The options of the desktop program.
 struct DesktopOptions {
@@ -44,4 +44,4 @@ using RunEntry = Ending(const DesktopOptions& options, std::string& reason);
 
 }  // namespace desktop
 
-}  // namespace bench
+}  // namespace host::bench

@@ -10,11 +10,11 @@
 #include "host/document/ElementText.h"
 #include "host/document/ElementWalk.h"
 
-namespace bench {
+namespace host::bench {
 
 using Element = std::shared_ptr<orvik::ITestElement>;
 
-Element ElementFor(const Document& document, const std::string& option, std::int32_t id) {
+Element ElementFor(const document::Document& document, const std::string& option, std::int32_t id) {
   auto element = document.Find(id);
   if (!element)
     throw InputError(
@@ -22,7 +22,7 @@ Element ElementFor(const Document& document, const std::string& option, std::int
   return element;
 }
 
-std::vector<Element> ElementsFor(const Document& document, const std::string& option,
+std::vector<Element> ElementsFor(const document::Document& document, const std::string& option,
                                  const std::vector<std::int32_t>& ids) {
   std::vector<Element> elements;
   for (const auto id : ids) {
@@ -33,19 +33,19 @@ std::vector<Element> ElementsFor(const Document& document, const std::string& op
   return elements;
 }
 
-std::string ListOf(const Element& top, const ElementFactory& factory) {
+std::string ListOf(const Element& top, const elements::ElementFactory& factory) {
   std::string list;
-  WalkElements(top, [&](const Element& element) {
+  document::WalkElements(top, [&](const Element& element) {
     list += LeftPadded(std::to_string(element->ID()), 4) + "  " +
             LeftPadded(std::to_string(element->TestID()), 4) + "  " +
-            report::VisibleText(ElementName(*element, factory)) + "\n";
+            host::VisibleText(document::ElementName(*element, factory)) + "\n";
   });
   return list;
 }
 
-std::string NameWithNumber(orvik::ITestElement& element, const ElementFactory& factory) {
+std::string NameWithNumber(orvik::ITestElement& element, const elements::ElementFactory& factory) {
   return Tr("element %%1 (%%2)",
-            {std::to_string(element.ID()), report::VisibleText(ElementName(element, factory))});
+            {std::to_string(element.ID()), host::VisibleText(document::ElementName(element, factory))});
 }
 
-}  // namespace bench
+}  // namespace host::bench

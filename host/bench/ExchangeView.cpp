@@ -6,7 +6,7 @@
 #include "host/base/Tr.h"
 #include "host/serial/Latin1.h"
 
-namespace bench {
+namespace host::bench {
 
 namespace {
 
@@ -19,28 +19,28 @@ std::string SecondsText(orvik::platform::Time time) {
 
 }  // namespace
 
-void ExchangeView::Take(const WireRecord& record) {
+void ExchangeView::Take(const serial::WireRecord& record) {
   switch (record.kind) {
-    case WireRecord::Kind::kOpened:
+    case serial::WireRecord::Kind::kOpened:
       *this = {};
       open_ = true;
       break;
-    case WireRecord::Kind::kSent: {
-      const auto command = VisibleLatin1(record.text);
+    case serial::WireRecord::Kind::kSent: {
+      const auto command = serial::VisibleLatin1(record.text);
       // The "STST" that ends test 210 is the one that starts it, and no attempt of that.
-      const bool again = waiting_ && command == command_ && attempt_ < keld_facts::kMaxAttempts;
+      const bool again = waiting_ && command == command_ && attempt_ < plugins::keld::kMaxAttempts;
       attempt_ = again ? attempt_ + 1 : 1;
       command_ = command;
       waiting_ = true;
       break;
     }
-    case WireRecord::Kind::kReceived:
+    case serial::WireRecord::Kind::kReceived:
       waiting_ = false;
       break;
-    case WireRecord::Kind::kDropped:
+    case serial::WireRecord::Kind::kDropped:
       return;
-    case WireRecord::Kind::kFailed:
-    case WireRecord::Kind::kClosed:
+    case serial::WireRecord::Kind::kFailed:
+    case serial::WireRecord::Kind::kClosed:
       open_ = false;
       waiting_ = false;
       break;
@@ -52,14 +52,14 @@ std::string ExchangeView::Text(orvik::platform::Time now) const {
   if (!open_) return "";
   if (Waiting(now))
     return Tr("%%1, attempt %%2 of %%3: reply within %%4",
-              {command_, std::to_string(attempt_), std::to_string(keld_facts::kMaxAttempts),
-               SecondsText(since_ + keld_facts::kReplyTime - now)});
+              {command_, std::to_string(attempt_), std::to_string(plugins::keld::kMaxAttempts),
+               SecondsText(since_ + plugins::keld::kReplyTime - now)});
   const auto next =
-      since_ + (waiting_ ? keld_facts::kReplyTime : orvik::platform::Time(0)) + keld_facts::kPause;
+      since_ + (waiting_ ? plugins::keld::kReplyTime : orvik::platform::Time(0)) + plugins::keld::kPause;
   const auto wait = SecondsText(next - now);
   if (waiting_) return Tr("no reply to %%1: next command in %%2", {command_, wait});
   if (command_.empty()) return Tr("port open: next command in %%1", {wait});
   return Tr("%%1 answered: next command in %%2", {command_, wait});
 }
 
-}  // namespace bench
+}  // namespace host::bench

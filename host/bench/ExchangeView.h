@@ -5,13 +5,13 @@
 #include "host/plugins/keld/KeldProtocol.h"
 #include "host/serial/Wire.h"
 
-namespace bench {
+namespace host::bench {
 
 /// How far the exchange with the tester has come, as seen on the wire.
 class ExchangeView {
  public:
   /// Updates the state.
-  void Take(const WireRecord& record);
+  void Take(const serial::WireRecord& record);
 
   bool Open() const { return open_; }
   /// The command sent last; empty before the first.
@@ -19,11 +19,13 @@ class ExchangeView {
   /// Which attempt it was, from 1.
   int Attempt() const { return attempt_; }
   /// Whether its reply has not come in.
-  bool Waiting(orvik::platform::Time now) const { return waiting_ && now < since_ + keld_facts::kReplyTime; }
+  bool Waiting(orvik::platform::Time now) const {
+    return waiting_ && now < since_ + plugins::keld::kReplyTime;
+  }
   /// Whether the command sent last has no reply, in time or not yet.
   bool Unanswered() const { return waiting_; }
   /// When the time for its reply is over.
-  orvik::platform::Time ReplyEnds() const { return since_ + keld_facts::kReplyTime; }
+  orvik::platform::Time ReplyEnds() const { return since_ + plugins::keld::kReplyTime; }
   /// The current state for people: "STST,410,0, attempt 1 of 3: reply within 1.8 s".
   std::string Text(orvik::platform::Time now) const;
 
@@ -35,4 +37,4 @@ class ExchangeView {
   orvik::platform::Time since_{};  ///< of the command or the reply
 };
 
-}  // namespace bench
+}  // namespace host::bench

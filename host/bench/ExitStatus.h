@@ -1,6 +1,6 @@
 #pragma once
 
-namespace bench {
+namespace host::bench {
 
 /// How the program ends.
 enum class ExitStatus {
@@ -13,4 +13,4 @@ enum class ExitStatus {
   kBusy = 5       ///< another program holds a file or the port; trying again later may succeed
 };
 
-}  // namespace bench
+}  // namespace host::bench

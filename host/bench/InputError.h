@@ -2,7 +2,7 @@
 
 #include <stdexcept>
 
-namespace bench {
+namespace host::bench {
 
 /// Bad input: the message names the file, the line or the option, and says what to do.
 class InputError : public std::runtime_error {
@@ -16,4 +16,4 @@ class IncompleteError : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-}  // namespace bench
+}  // namespace host::bench

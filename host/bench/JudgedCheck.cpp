@@ -12,7 +12,7 @@
 #include "host/judge/ReasonText.h"
 #include "host/xml/XmlDocument.h"
 
-namespace bench {
+namespace host::bench {
 
 namespace {
 
@@ -33,20 +33,21 @@ class Elements final : public pugi::xml_tree_walker {
   std::map<std::int32_t, pugi::xml_node> byId;
 
   bool for_each(pugi::xml_node& node) override {
-    if (std::string_view(node.name()) == tags::kTestElement)
-      if (const auto id = WholeNumber(node.attribute(tags::kID).value())) byId.try_emplace(*id, node);
+    if (std::string_view(node.name()) == elements::tags::kTestElement)
+      if (const auto id = WholeNumber(node.attribute(elements::tags::kID).value()))
+        byId.try_emplace(*id, node);
     return true;
   }
 };
 
 }  // namespace
 
-std::vector<Finding> CheckJudged(const std::string& text, const judge::JudgedDocument& judged) {
+std::vector<document::Finding> CheckJudged(const std::string& text, const judge::JudgedDocument& judged) {
   pugi::xml_document xml;
   if (!xml::Parse(text, xml).reason.empty()) return {};
   Elements elements;
   xml.traverse(elements);
-  Findings findings(text);
+  document::Findings findings(text);
   for (const auto& element : judged.elements) {
     const auto node = elements.byId.find(element.id);
     if (node == elements.byId.end()) continue;
@@ -61,4 +62,4 @@ std::vector<Finding> CheckJudged(const std::string& text, const judge::JudgedDoc
   return findings.InOrder();
 }
 
-}  // namespace bench
+}  // namespace host::bench

@@ -3,7 +3,7 @@
 #include "host/base/Tr.h"
 #include "host/base/VisibleText.h"
 
-namespace bench {
+namespace host::bench {
 
 std::string BoundsText(const std::string& low, const std::string& high, const std::string& unit) {
   std::string text;
@@ -16,15 +16,15 @@ std::string BoundsText(const std::string& low, const std::string& high, const st
 }
 
 std::string StandardText(const std::string& name, const std::string& description) {
-  return report::VisibleText(description.empty() ? name : name + ", " + description);
+  return host::VisibleText(description.empty() ? name : name + ", " + description);
 }
 
-std::string TextOf(const LimitOfElement& limit) {
+std::string TextOf(const standards::LimitOfElement& limit) {
   const auto bounds = BoundsText(limit.low, limit.high, limit.unit);
   return Tr("%%1: %%2", {StandardText(limit.standard, limit.description),
-                         bounds.empty() ? Tr("no bounds") : report::VisibleText(bounds)});
+                         bounds.empty() ? Tr("no bounds") : host::VisibleText(bounds)});
 }
 
 std::string NeedsALimit() { return Tr("not judged: it needs a limit or --record-only"); }
 
-}  // namespace bench
+}  // namespace host::bench

@@ -7,7 +7,7 @@
 #include "host/bench/InputError.h"
 #include "host/plugins/keld/KeldNames.h"
 
-namespace bench::files {
+namespace host::bench::files {
 
 namespace {
 
@@ -22,7 +22,7 @@ std::string Environment(const char* name) {
 
 }  // namespace
 
-std::filesystem::path PlugInLibrary() { return Prefix() / "lib" / "orvik" / keld_facts::kLibraryFile; }
+std::filesystem::path PlugInLibrary() { return Prefix() / "lib" / "orvik" / plugins::keld::kLibraryFile; }
 
 std::filesystem::path PdfModule() { return Prefix() / "lib" / "orvik" / "orvikPdf.so"; }
 
@@ -60,4 +60,4 @@ std::filesystem::path StateFolder(const std::string& option) {
          "--state"));
 }
 
-}  // namespace bench::files
+}  // namespace host::bench::files

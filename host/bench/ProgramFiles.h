@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-namespace bench::files {
+namespace host::bench::files {
 
 /// Files that come with the program, found from where the program itself lies (PREFIX/bin).
 
@@ -33,4 +33,4 @@ std::optional<std::filesystem::path> FindStateFolder(const std::string& option);
 /// The same for callers that need one: `InputError` when there is none.
 std::filesystem::path StateFolder(const std::string& option);
 
-}  // namespace bench::files
+}  // namespace host::bench::files

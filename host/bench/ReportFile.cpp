@@ -11,7 +11,7 @@
 #include "host/report/PdfModule.h"
 #include "host/report/TextReport.h"
 
-namespace bench {
+namespace host::bench {
 
 namespace {
 
@@ -40,13 +40,13 @@ ReportFormat ReportFormatOf(const std::filesystem::path& file) {
 std::string ReportText(const report::Report& report, ReportFormat format) {
   switch (format) {
     case ReportFormat::kHtml:
-      return HtmlReport(report);
+      return report::HtmlReport(report);
     case ReportFormat::kPdf:
-      return WritePdf(report, files::PdfModule());
+      return report::WritePdf(report, files::PdfModule());
     case ReportFormat::kText:
       break;
   }
-  return TextReport(report);
+  return report::TextReport(report);
 }
 
 void RefuseDocumentAsReport(const std::filesystem::path& document, const std::filesystem::path& out) {
@@ -65,4 +65,4 @@ void WriteReport(const report::Report& report, const std::filesystem::path& out)
   ReplaceFile(out, ReportText(report, ReportFormatOf(out)));
 }
 
-}  // namespace bench
+}  // namespace host::bench

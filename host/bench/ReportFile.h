@@ -5,7 +5,7 @@
 
 #include "host/report/Report.h"
 
-namespace bench {
+namespace host::bench {
 
 /// The format of a report's file.
 enum class ReportFormat { kHtml, kPdf, kText };
@@ -29,4 +29,4 @@ void CheckReportFile(const std::filesystem::path& document, const std::filesyste
 /// @throws HostError when it cannot be made or written
 void WriteReport(const report::Report& report, const std::filesystem::path& out);
 
-}  // namespace bench
+}  // namespace host::bench

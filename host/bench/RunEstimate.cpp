@@ -7,7 +7,7 @@
 #include "host/base/Tr.h"
 #include "host/plugins/keld/KeldProtocol.h"
 
-namespace bench {
+namespace host::bench {
 
 using orvik::platform::Time;
 
@@ -23,16 +23,16 @@ void RunEstimate::Reach(std::size_t place) {
   answered_ = 0;
 }
 
-void RunEstimate::Take(const WireRecord& record) {
+void RunEstimate::Take(const serial::WireRecord& record) {
   switch (record.kind) {
-    case WireRecord::Kind::kOpened:
+    case serial::WireRecord::Kind::kOpened:
       answeredAt_ = record.time;
       break;
-    case WireRecord::Kind::kSent:
+    case serial::WireRecord::Kind::kSent:
       sent_ = record.time;
       waiting_ = true;
       break;
-    case WireRecord::Kind::kReceived:
+    case serial::WireRecord::Kind::kReceived:
       if (!waiting_) break;  // not a reply to a command
       waiting_ = false;
       ++answered_;
@@ -40,9 +40,9 @@ void RunEstimate::Take(const WireRecord& record) {
       replyTime_ += record.time - sent_;
       answeredAt_ = record.time;
       break;
-    case WireRecord::Kind::kDropped:
-    case WireRecord::Kind::kFailed:
-    case WireRecord::Kind::kClosed:
+    case serial::WireRecord::Kind::kDropped:
+    case serial::WireRecord::Kind::kFailed:
+    case serial::WireRecord::Kind::kClosed:
       break;
   }
 }
@@ -53,7 +53,7 @@ Time RunEstimate::Left(Time now) const {
   for (auto place = place_; place <= tests_.size(); ++place) commands += CommandsOf(tests_[place - 1]);
   commands -= std::min(answered_, CommandsOf(tests_[place_ - 1]));
   const auto reply = replies_ > 0 ? replyTime_ / static_cast<Time::rep>(replies_) : Time(0);
-  const auto whole = static_cast<Time::rep>(commands) * (keld_facts::kPause + reply);
+  const auto whole = static_cast<Time::rep>(commands) * (plugins::keld::kPause + reply);
   return std::max(whole - (now - answeredAt_), Time(0));
 }
 
@@ -66,4 +66,4 @@ std::string RunEstimate::Text(Time now, double timeScale) const {
   return Tr("about %%1 left", {clock});
 }
 
-}  // namespace bench
+}  // namespace host::bench

@@ -6,7 +6,7 @@
 
 #include "host/serial/Wire.h"
 
-namespace bench {
+namespace host::bench {
 
 /// Estimates how long a run still takes, from the pauses of the protocol and the average reply time so far.
 class RunEstimate {
@@ -15,7 +15,7 @@ class RunEstimate {
   void Plan(std::vector<std::size_t> tests) { tests_ = std::move(tests); }
   /// The run has reached an element: its place from 1.
   void Reach(std::size_t place);
-  void Take(const WireRecord& record);
+  void Take(const serial::WireRecord& record);
 
   /// 0 when nothing is left, or nothing was planned.
   orvik::platform::Time Left(orvik::platform::Time now) const;
@@ -34,4 +34,4 @@ class RunEstimate {
   bool waiting_ = false;
 };
 
-}  // namespace bench
+}  // namespace host::bench

@@ -8,7 +8,7 @@
 #include "host/judge/Verdict.h"
 #include "host/serial/Wire.h"
 
-namespace bench {
+namespace host::bench {
 
 /// Reports the progress of a run.
 class RunReporter {
@@ -24,9 +24,9 @@ class RunReporter {
   virtual void Reached(std::size_t place, std::size_t count) = 0;
   virtual void Started(const judge::JudgedElement& element) = 0;
   virtual void Finished(const judge::JudgedElement& element) = 0;
-  virtual void Wire(const WireRecord& record) = 0;
+  virtual void Wire(const serial::WireRecord& record) = 0;
   virtual void Prompted(const std::string& text) = 0;
-  virtual void Doubted(std::int32_t element, const Reason& doubt) = 0;
+  virtual void Doubted(std::int32_t element, const document::Reason& doubt) = 0;
   /// A message for people.
   virtual void Remark(const std::string& text) = 0;
   /// The run is over; nothing more is waited for.
@@ -35,4 +35,4 @@ class RunReporter {
   virtual void Ended(judge::Outcome, int) {}
 };
 
-}  // namespace bench
+}  // namespace host::bench

@@ -13,7 +13,7 @@
 #include "host/document/Host.h"
 #include "host/report/DocumentView.h"
 
-namespace bench {
+namespace host::bench {
 
 namespace {
 
@@ -35,9 +35,9 @@ InputError NoSuchStandard(const std::string& name, const std::string& file, cons
 
 }  // namespace
 
-Elements SelectedElements(const Document& document, const RunSelection& selection) {
+Elements SelectedElements(const document::Document& document, const RunSelection& selection) {
   if (selection.elements.empty()) {
-    auto all = TopElements(document);
+    auto all = report::TopElements(document);
     if (all.empty()) throw InputError(Tr("%%1: the document has no elements to run", {selection.file}));
     return all;
   }
@@ -51,11 +51,12 @@ Elements SelectedElements(const Document& document, const RunSelection& selectio
   return selected;
 }
 
-Elements Unfinished(const Elements& elements, const Document& document, const judge::JudgedDocument& judged) {
+Elements Unfinished(const Elements& elements, const document::Document& document,
+                    const judge::JudgedDocument& judged) {
   const auto& runs = document.Runs().All();
   // An interrupted run says what it was about; everything else was not asked for.
   std::optional<std::unordered_set<std::int32_t>> taken;
-  if (!runs.empty() && runs.back().end != RunRecord::End::kFinished) {
+  if (!runs.empty() && runs.back().end != document::RunRecord::End::kFinished) {
     const auto ids = runs.back().Elements();
     taken.emplace(ids.begin(), ids.end());
   }
@@ -70,15 +71,15 @@ Elements Unfinished(const Elements& elements, const Document& document, const ju
   Elements unfinished;
   for (const auto& top : elements) {
     bool any = false;
-    WalkElements(top,
-                 [&](const std::shared_ptr<orvik::ITestElement>& element) { any = any || open(element); });
+    document::WalkElements(
+        top, [&](const std::shared_ptr<orvik::ITestElement>& element) { any = any || open(element); });
     if (any) unfinished.push_back(top);
   }
   return unfinished;
 }
 
-void SelectStandards(Document& document, Host& host, const RunSelection& selection) {
-  const auto named = NamedStandards(document, host);
+void SelectStandards(document::Document& document, document::Host& host, const RunSelection& selection) {
+  const auto named = report::NamedStandards(document, host);
   const auto asked = [&](const std::string& name) {
     return selection.standards.empty() || std::find(selection.standards.begin(), selection.standards.end(),
                                                     name) != selection.standards.end();
@@ -117,4 +118,4 @@ std::string OperatorName(const std::string& given) {
   return {};
 }
 
-}  // namespace bench
+}  // namespace host::bench

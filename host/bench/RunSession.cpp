@@ -15,7 +15,7 @@
 #include "host/run/LeadCalibrations.h"
 #include "host/run/OperatorEvents.h"
 
-namespace bench {
+namespace host::bench {
 
 using Element = std::shared_ptr<orvik::ITestElement>;
 
@@ -26,16 +26,16 @@ std::vector<std::size_t> TestsOfEach(const std::vector<Element>& elements) {
   std::vector<std::size_t> tests;
   for (const auto& top : elements) {
     tests.push_back(0);
-    WalkElements(top, [&](const Element& element) {
+    document::WalkElements(top, [&](const Element& element) {
       if (!orvik::As<orvik::ITestContainer>(element)) ++tests.back();
     });
   }
   return tests;
 }
 
-RunRecorder::Heading HeadingOf(const Workbench& workbench, const Document& document,
-                               const TesterConnection& tester, const std::string& by) {
-  RunRecorder::Heading heading;
+run::RunRecorder::Heading HeadingOf(const Workbench& workbench, const document::Document& document,
+                                    const TesterConnection& tester, const std::string& by) {
+  run::RunRecorder::Heading heading;
   heading.equipment = document.equipment;
   heading.by = by;
   heading.port = tester.Device();
@@ -47,7 +47,7 @@ RunRecorder::Heading HeadingOf(const Workbench& workbench, const Document& docum
 
 }  // namespace
 
-void RequireOneKindOfRuns(const Document& document, bool simulated) {
+void RequireOneKindOfRuns(const document::Document& document, bool simulated) {
   const auto& runs = document.Runs().All();
   if (runs.empty() || runs.front().simulated == simulated) return;
   throw InputError(simulated
@@ -59,8 +59,8 @@ void RequireOneKindOfRuns(const Document& document, bool simulated) {
                             {document.Path().string()}));
 }
 
-RunSession::RunSession(Workbench& workbench, Document& document, WireLog& log, RunReporter& reporter,
-                       const TesterConnection& tester, const std::string& by)
+RunSession::RunSession(Workbench& workbench, document::Document& document, serial::WireLog& log,
+                       RunReporter& reporter, const TesterConnection& tester, const std::string& by)
     : workbench_(workbench),
       document_(document),
       log_(log),
@@ -69,26 +69,26 @@ RunSession::RunSession(Workbench& workbench, Document& document, WireLog& log, R
       doubts_(*workbench.Ports().TheWire()),
       link_(workbench.Ports()),
       stopProgress_(*workbench.Ports().TheWire(), *workbench.Application(), workbench.TimeScale()),
-      recorder_(RunRecorder::Parts{
+      recorder_(run::RunRecorder::Parts{
           document.Runs(), document.Instruments(), document.Standards(), doubts_, LocalTimeText,
           [&workbench](const std::string& serial, std::int32_t leads) {
-            return LeadsMeasured(*workbench.Host()->Registry(), serial, leads).value_or("");
+            return run::LeadsMeasured(*workbench.Host()->Registry(), serial, leads).value_or("");
           }}),
-      controller_(std::make_shared<RunController>(
-          RunController::Parts{document.Standards(), document.Instruments(), doubts_, recorder_,
-                               [&document] { document.Save(); }})),
+      controller_(std::make_shared<run::RunController>(
+          run::RunController::Parts{document.Standards(), document.Instruments(), doubts_, recorder_,
+                                    [&document] { document.Save(); }})),
       runner_(controller_, link_, stop_) {
   RequireOneKindOfRuns(document, heading_.simulated);
   Listen();
 }
 
 void RunSession::Listen() {
-  heard_.push_back(workbench_.Ports().TheWire()->Subscribe([this](const WireRecord& record) {
+  heard_.push_back(workbench_.Ports().TheWire()->Subscribe([this](const serial::WireRecord& record) {
     log_.Write(record);
     reporter_.Wire(record);
   }));
   heard_.push_back(doubts_.Noted().Subscribe(
-      [this](std::int32_t element, const bench::Reason& doubt) { reporter_.Doubted(element, doubt); }));
+      [this](std::int32_t element, const document::Reason& doubt) { reporter_.Doubted(element, doubt); }));
   heard_.push_back(controller_->Started().Subscribe(
       [this](const Element& element) { reporter_.Started(Judged(*element)); }));
   heard_.push_back(controller_->Finished().Subscribe(
@@ -102,7 +102,7 @@ void RunSession::Listen() {
 
 std::string RunSession::ReachedTest() const {
   return std::to_string(reached_->TestID()) + " " +
-         report::VisibleText(ElementName(*reached_, *workbench_.Host()->Elements()));
+         host::VisibleText(document::ElementName(*reached_, *workbench_.Host()->Elements()));
 }
 
 judge::JudgedElement RunSession::Judged(const orvik::ITestElement& element) const {
@@ -111,12 +111,12 @@ judge::JudgedElement RunSession::Judged(const orvik::ITestElement& element) cons
   return found ? *found : judge::JudgedElement{};
 }
 
-DocumentRunner::End RunSession::Run(const std::vector<Element>& elements,
-                                    std::unique_ptr<IOperator> runOperator) {
+run::DocumentRunner::End RunSession::Run(const std::vector<Element>& elements,
+                                         std::unique_ptr<run::IOperator> runOperator) {
   reporter_.Planned(TestsOfEach(elements));
   const StoredLeadsNotice leads(*workbench_.Ports().TheWire(), *workbench_.Host()->Registry(), elements,
                                 [this](const std::string& text) { reporter_.Remark(text); });
-  const OperatorEvents operating(workbench_.Application(), stop_, std::move(runOperator));
+  const run::OperatorEvents operating(workbench_.Application(), stop_, std::move(runOperator));
   return runner_.Run(heading_, elements);
 }
 
@@ -129,4 +129,4 @@ void RunSession::AskToStop() {
   stop_.Ask();
 }
 
-}  // namespace bench
+}  // namespace host::bench

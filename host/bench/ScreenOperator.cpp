@@ -4,7 +4,7 @@
 
 #include "host/run/GuideToolbar.h"
 
-namespace bench {
+namespace host::bench {
 
 namespace {
 
@@ -18,7 +18,7 @@ void ScreenOperator::OnStopRequested() {
   // The guide can be left once its test has ended, and a prompt may come in between. The next look is
   // scheduled first, so that it happens even if this one fails.
   again_ = application_->CallAt(application_->Now() + kNextLook, [this] { OnStopRequested(); });
-  LeaveGuide(*application_);
+  run::LeaveGuide(*application_);
 }
 
-}  // namespace bench
+}  // namespace host::bench

@@ -6,13 +6,13 @@
 #include "host/run/IOperator.h"
 #include "toolkit/headless/Application.h"
 
-namespace bench {
+namespace host::bench {
 
 /// Leaves the guide and the prompts to the person before the screen, and brings them to their end when a stop
 /// is asked for.
-class ScreenOperator final : public IOperator {
+class ScreenOperator final : public run::IOperator {
  public:
-  explicit ScreenOperator(std::shared_ptr<headless::Application> application)
+  explicit ScreenOperator(std::shared_ptr<toolkit::headless::Application> application)
       : application_(std::move(application)) {}
   ~ScreenOperator() override;
 
@@ -22,8 +22,8 @@ class ScreenOperator final : public IOperator {
   void OnStopRequested() override;
 
  private:
-  const std::shared_ptr<headless::Application> application_;
-  ILoop::Id again_ = 0;
+  const std::shared_ptr<toolkit::headless::Application> application_;
+  toolkit::loop::ILoop::Id again_ = 0;
 };
 
-}  // namespace bench
+}  // namespace host::bench

@@ -17,7 +17,7 @@
 #include "host/document/ElementWalk.h"
 #include "host/standards/ElementLimits.h"
 
-namespace bench {
+namespace host::bench {
 
 namespace {
 
@@ -26,10 +26,10 @@ using Element = std::shared_ptr<orvik::ITestElement>;
 /// Applies one set to elements of a document.
 class Application {
  public:
-  Application(const LimitSet& set, const ElementFactory& factory, EarlierSets earlier)
+  Application(const standards::LimitSet& set, const elements::ElementFactory& factory, EarlierSets earlier)
       : set_(set), description_(set.Description()), factory_(factory), earlier_(earlier) {}
 
-  std::string Apply(const Element& element, const LimitFigure& figure) const {
+  std::string Apply(const Element& element, const standards::LimitFigure& figure) const {
     const auto limits = element->Limits();
     if (!limits) throw InputError(Tr("element %%1 takes no limits", {std::to_string(element->ID())}));
     const auto replaced = RemoveEarlier(*limits);
@@ -39,7 +39,7 @@ class Application {
       line += Tr("; no longer record-only");
     }
     for (const auto& limit : replaced) line += Tr("; replaces %%1", {TextOf(limit)});
-    for (const auto& other : LimitsOf(*limits)) {
+    for (const auto& other : standards::LimitsOf(*limits)) {
       if (other.standard == set_.standard && other.description != description_)
         line += Tr("; judged by %%1 too", {TextOf(other)});
     }
@@ -53,49 +53,51 @@ class Application {
       for (const auto& limit : RemoveEarlier(*limits)) remark += Tr("removed: %%1", {TextOf(limit)}) + "; ";
     }
     if (IsRecordOnly(element, factory_)) return Line(element, remark + Tr("record only"));
-    const auto left = limits ? LimitsOf(*limits) : std::vector<LimitOfElement>();
+    const auto left = limits ? standards::LimitsOf(*limits) : std::vector<standards::LimitOfElement>();
     if (left.empty()) return Line(element, remark + NeedsALimit());
     return Line(element, remark + Tr("judged by %%1", {TextOf(left.front())}));
   }
 
  private:
-  std::vector<LimitOfElement> RemoveEarlier(orvik::ILimitData& limits) const {
+  std::vector<standards::LimitOfElement> RemoveEarlier(orvik::ILimitData& limits) const {
     if (earlier_ == EarlierSets::kKept) return {};
-    return RemoveStandards(limits, [this](const orvik::IStandard& standard) {
+    return standards::RemoveStandards(limits, [this](const orvik::IStandard& standard) {
       return standard.Name() == set_.standard && !standard.Description().empty() &&
              standard.Description() != description_;
     });
   }
 
-  std::string BoundsOf(const Element& element, orvik::ILimitData& limits, const LimitFigure& figure) const {
+  std::string BoundsOf(const Element& element, orvik::ILimitData& limits,
+                       const standards::LimitFigure& figure) const {
     try {
       const auto limit =
-          SetLimit(limits, {set_.standard, description_, figure.low, figure.high, figure.unit});
+          standards::SetLimit(limits, {set_.standard, description_, figure.low, figure.high, figure.unit});
       return BoundsText(limit->LowText(), limit->HighText(), limit->Unit());
     } catch (const orvik::HostError& error) {
-      throw InputError(
-          Tr("%%1: element %%2 (%%3): %%4", {set_.file.string(), std::to_string(element->ID()),
-                                             ElementName(*element, factory_), error.Description()}));
+      throw InputError(Tr("%%1: element %%2 (%%3): %%4",
+                          {set_.file.string(), std::to_string(element->ID()),
+                           document::ElementName(*element, factory_), error.Description()}));
     }
   }
 
   std::string Line(const Element& element, const std::string& what) const {
     return LeftPadded(std::to_string(element->ID()), 4) + "  " +
-           Padded(report::VisibleText(ElementName(*element, factory_)), 54) + what;
+           Padded(host::VisibleText(document::ElementName(*element, factory_)), 54) + what;
   }
 
-  const LimitSet& set_;
+  const standards::LimitSet& set_;
   const std::string description_;
-  const ElementFactory& factory_;
+  const elements::ElementFactory& factory_;
   const EarlierSets earlier_;
 };
 
 }  // namespace
 
-AppliedLimits ApplyLimitSet(const LimitSet& set, const std::vector<Element>& elements,
-                            const ElementFactory& factory, EarlierSets earlier) {
+AppliedLimits ApplyLimitSet(const standards::LimitSet& set, const std::vector<Element>& elements,
+                            const elements::ElementFactory& factory, EarlierSets earlier) {
   std::vector<Element> all;
-  for (const auto& top : elements) WalkElements(top, [&](const Element& element) { all.push_back(element); });
+  for (const auto& top : elements)
+    document::WalkElements(top, [&](const Element& element) { all.push_back(element); });
   AppliedLimits lines;
   if (std::none_of(all.begin(), all.end(),
                    [&](const Element& element) { return set.FigureFor(element->TestID()) != nullptr; }))
@@ -110,4 +112,4 @@ AppliedLimits ApplyLimitSet(const LimitSet& set, const std::vector<Element>& ele
   return lines;
 }
 
-}  // namespace bench
+}  // namespace host::bench

@@ -8,9 +8,11 @@
 #include "host/bench/LimitText.h"
 #include "host/standards/LimitSet.h"
 
-namespace bench {
-
+namespace host::elements {
 class ElementFactory;
+}
+
+namespace host::bench {
 
 /// The result of applying a set, a line for each element.
 struct AppliedLimits {
@@ -26,8 +28,9 @@ enum class EarlierSets { kReplaced, kKept };
 /// limit without a description was set by hand and stays. An element that gets a limit is no longer
 /// record-only. When the set covers none of the elements, nothing changes and `applied` is empty.
 /// `InputError` naming the element when its unit does not fit; elements may then have changed already.
-AppliedLimits ApplyLimitSet(const LimitSet& set,
+AppliedLimits ApplyLimitSet(const standards::LimitSet& set,
                             const std::vector<std::shared_ptr<orvik::ITestElement>>& elements,
-                            const ElementFactory& factory, EarlierSets earlier = EarlierSets::kReplaced);
+                            const elements::ElementFactory& factory,
+                            EarlierSets earlier = EarlierSets::kReplaced);
 
-}  // namespace bench
+}  // namespace host::bench

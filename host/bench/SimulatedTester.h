@@ -7,7 +7,7 @@
 
 #include "host/serial/UniqueFd.h"
 
-namespace bench {
+namespace host::bench {
 
 /// The profiles of equipment that keld-sim comes with, in the order of its help.
 inline constexpr std::array kSimulatedProfiles{"sound-class-1", "sound-class-2", "broken-earth", "leaky",
@@ -35,7 +35,7 @@ class SimulatedTester {
 
   const std::string link_;
   pid_t process_ = -1;
-  UniqueFd output_;
+  serial::UniqueFd output_;
 };
 
-}  // namespace bench
+}  // namespace host::bench

@@ -7,23 +7,23 @@
 #include "host/plugins/keld/KeldProtocol.h"
 #include "host/serial/Message.h"
 
-namespace bench {
+namespace host::bench {
 
 using orvik::platform::Time;
 
 namespace {
 
-constexpr Time kAttempt = keld_facts::kPause + keld_facts::kReplyTime;
-constexpr Time kCommand = keld_facts::kMaxAttempts * kAttempt;
+constexpr Time kAttempt = plugins::keld::kPause + plugins::keld::kReplyTime;
+constexpr Time kCommand = plugins::keld::kMaxAttempts * kAttempt;
 /// "STST" and "EREM".
 constexpr int kClosingCommands = 2;
 
 }  // namespace
 
-StopProgress::StopProgress(Wire& wire, const ILoop& loop, double timeScale)
+StopProgress::StopProgress(serial::Wire& wire, const toolkit::loop::ILoop& loop, double timeScale)
     : loop_(loop),
       timeScale_(timeScale),
-      heard_(wire.Subscribe([this](const WireRecord& record) { Take(record); })) {}
+      heard_(wire.Subscribe([this](const serial::WireRecord& record) { Take(record); })) {}
 
 void StopProgress::Begin() {
   begun_ = true;
@@ -31,17 +31,17 @@ void StopProgress::Begin() {
   commandsLeft_ = exchange_.Unanswered() ? kClosingCommands : 1 + kClosingCommands;
 }
 
-void StopProgress::Take(const WireRecord& record) {
+void StopProgress::Take(const serial::WireRecord& record) {
   exchange_.Take(record);
-  if (!begun_ || record.kind != WireRecord::Kind::kSent || exchange_.Attempt() > 1) return;
+  if (!begun_ || record.kind != serial::WireRecord::Kind::kSent || exchange_.Attempt() > 1) return;
   commandsLeft_ =
-      record.message->MnemonicText() == keld_facts::kEndSession ? 0 : std::max(commandsLeft_ - 1, 1);
+      record.message->MnemonicText() == plugins::keld::kEndSession ? 0 : std::max(commandsLeft_ - 1, 1);
 }
 
 Time StopProgress::Remaining() const {
   if (!exchange_.Open()) return Time(0);
   // A command that has its reply is over; one without has the rest of this attempt and those that are left.
-  const auto attemptsLeft = keld_facts::kMaxAttempts - exchange_.Attempt();
+  const auto attemptsLeft = plugins::keld::kMaxAttempts - exchange_.Attempt();
   const auto exchange =
       exchange_.Unanswered() ? exchange_.ReplyEnds() - loop_.Now() + attemptsLeft * kAttempt : Time(0);
   return std::max(exchange + commandsLeft_ * kCommand, Time(0));
@@ -56,4 +56,4 @@ std::string StopProgress::Text() const {
       {exchange_.Text(loop_.Now()), std::to_string(static_cast<long long>(seconds))});
 }
 
-}  // namespace bench
+}  // namespace host::bench

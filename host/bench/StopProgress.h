@@ -5,13 +5,13 @@
 #include "host/bench/ExchangeView.h"
 #include "toolkit/loop/ILoop.h"
 
-namespace bench {
+namespace host::bench {
 
 /// Answers a repeated stop request with what the program waits for, and how long at most.
 class StopProgress {
  public:
   /// @param timeScale how many times faster than the wall clock the run is
-  StopProgress(Wire& wire, const ILoop& loop, double timeScale);
+  StopProgress(serial::Wire& wire, const toolkit::loop::ILoop& loop, double timeScale);
 
   /// A stop was requested. The current or next exchange ends first; then the session is closed.
   void Begin();
@@ -24,9 +24,9 @@ class StopProgress {
   std::string Text() const;
 
  private:
-  void Take(const WireRecord& record);
+  void Take(const serial::WireRecord& record);
 
-  const ILoop& loop_;
+  const toolkit::loop::ILoop& loop_;
   const double timeScale_;
   ExchangeView exchange_;
   bool begun_ = false;
@@ -36,4 +36,4 @@ class StopProgress {
   orvik::platform::Subscription heard_;
 };
 
-}  // namespace bench
+}  // namespace host::bench

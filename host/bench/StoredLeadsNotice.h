@@ -9,7 +9,7 @@
 #include "host/run/LeadCalibrations.h"
 #include "host/serial/Wire.h"
 
-namespace bench {
+namespace host::bench {
 
 /// Warns at the start of a run when protective-earth readings are going to be corrected by a value that test
 /// leads cannot have. Such a value was stored by another program; this one refuses it.
@@ -17,12 +17,12 @@ class StoredLeadsNotice {
  public:
   /// @param registry must outlive the notice
   /// @param warn called once for each tester that reports itself on the wire
-  StoredLeadsNotice(Wire& wire, const RegistryStore& registry,
+  StoredLeadsNotice(serial::Wire& wire, const RegistryStore& registry,
                     const std::vector<std::shared_ptr<orvik::ITestElement>>& elements,
                     std::function<void(const std::string& text)> warn);
 
  private:
-  void Watch(const WireRecord& record);
+  void Watch(const serial::WireRecord& record);
 
   const RegistryStore& registry_;
   const std::function<void(const std::string&)> warn_;
@@ -30,4 +30,4 @@ class StoredLeadsNotice {
   orvik::platform::Subscription watch_;
 };
 
-}  // namespace bench
+}  // namespace host::bench

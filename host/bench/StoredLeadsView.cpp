@@ -4,9 +4,9 @@
 #include "host/base/VisibleText.h"
 #include "host/plugins/keld/KeldTests.h"
 
-namespace bench {
+namespace host::bench {
 
-std::string LeadsRemark(const LeadCalibration& leads) {
+std::string LeadsRemark(const run::LeadCalibration& leads) {
   if (leads.Plausible()) return {};
   if (!leads.milliohms)
     return Tr("the stored value is not a number and counts as 0; measure the leads of this tester again");
@@ -15,13 +15,13 @@ std::string LeadsRemark(const LeadCalibration& leads) {
   return Tr(
       "above %%1 mOhm: more than test leads have, so protective-earth readings become too low; measure the "
       "leads of this tester again",
-      {std::to_string(keld_facts::kMostLeadMilliohms)});
+      {std::to_string(plugins::keld::kMostLeadMilliohms)});
 }
 
-std::string TextOf(const LeadCalibration& stored) {
+std::string TextOf(const run::LeadCalibration& stored) {
   return Tr("The test leads of tester %%1 have %%2 mOhm, %%3.",
-            {report::VisibleText(stored.serial), std::to_string(stored.milliohms.value_or(0)),
-             MeasuredText(stored.measured)});
+            {host::VisibleText(stored.serial), std::to_string(stored.milliohms.value_or(0)),
+             run::MeasuredText(stored.measured)});
 }
 
-}  // namespace bench
+}  // namespace host::bench

@@ -9,16 +9,16 @@
 #include "host/bench/InputError.h"
 #include "host/plugins/keld/KeldTests.h"
 
-namespace bench::options {
+namespace host::bench::options {
 
-using keld_facts::kLeads;
-using keld_facts::MeasuresAllLeads;
-using keld_facts::MeasuresByLead;
 using orvik::OptionBits;
+using plugins::keld::kLeads;
+using plugins::keld::MeasuresAllLeads;
+using plugins::keld::MeasuresByLead;
 
 std::string LeadsInWords(std::int32_t options) {
   std::vector<std::string> set;
-  for (std::int32_t lead = 1; lead <= kLeads; ++lead)
+  for (std::int32_t lead = 1; lead <= plugins::keld::kLeads; ++lead)
     if (options & OptionBits::Lead(lead)) set.push_back(std::to_string(lead));
   if (options & OptionBits::kAllLeads) set.push_back(Tr("all"));
   if (set.empty()) return Tr("none");
@@ -28,7 +28,7 @@ std::string LeadsInWords(std::int32_t options) {
 }
 
 bool SaysLeads(std::int32_t options, std::int32_t testId) {
-  return MeasuresByLead(testId) || (options & OptionBits::kAnyLead) != 0;
+  return plugins::keld::MeasuresByLead(testId) || (options & OptionBits::kAnyLead) != 0;
 }
 
 std::string ButtonsInWords(std::int32_t options) {
@@ -48,15 +48,15 @@ std::int32_t WithLeads(std::int32_t options, std::int32_t testId, const std::str
   const auto others = options & ~OptionBits::kAnyLead;
   if (word == "none") return others;
   const auto test = std::to_string(testId);
-  if (!MeasuresByLead(testId))
+  if (!plugins::keld::MeasuresByLead(testId))
     throw InputError(Tr("--leads %%1: test %%2 has no leads to choose", {leads, test}));
   if (word == "all") {
-    if (MeasuresAllLeads(testId)) return others | OptionBits::kAllLeads;
+    if (plugins::keld::MeasuresAllLeads(testId)) return others | OptionBits::kAllLeads;
     throw InputError(
         Tr("--leads %%1: test %%2 measures one lead at a time; give a number from 1 to 10", {leads, test}));
   }
   const auto lead = WholeNumber(word);
-  if (!lead || *lead < 1 || *lead > kLeads)
+  if (!lead || *lead < 1 || *lead > plugins::keld::kLeads)
     throw InputError(
         Tr("--leads %%1: give all, none or one lead from 1 to 10; to measure several leads one "
            "by one, add the test once for each",
@@ -64,4 +64,4 @@ std::int32_t WithLeads(std::int32_t options, std::int32_t testId, const std::str
   return others | OptionBits::Lead(*lead);
 }
 
-}  // namespace bench::options
+}  // namespace host::bench::options

@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-namespace bench {
+namespace host::bench {
 
 /// The settings of a test of the KELD (`orvik::OptionBits`) in words.
 namespace options {
@@ -27,4 +27,4 @@ std::string InWords(std::int32_t options, std::int32_t testId);
 std::int32_t WithLeads(std::int32_t options, std::int32_t testId, const std::string& leads);
 
 }  // namespace options
-}  // namespace bench
+}  // namespace host::bench

@@ -12,7 +12,7 @@
 #include "host/plugins/keld/KeldNames.h"
 #include "host/serial/SerialDevice.h"
 
-namespace bench {
+namespace host::bench {
 
 namespace {
 
@@ -26,8 +26,9 @@ std::string InField(const std::string& field, const std::exception& error) {
 /// Checks that the device can be opened; returns whether it is a pseudo-terminal.
 bool ProbeForTerminal(const TesterChoice& choice) {
   try {
-    const auto settings = ParseLineSettings(keld_facts::kLineSettings);
-    const auto device = WaitUntilFree([&] { return std::make_unique<SerialDevice>(choice.port, settings); });
+    const auto settings = serial::ParseLineSettings(plugins::keld::kLineSettings);
+    const auto device =
+        WaitUntilFree([&] { return std::make_unique<serial::SerialDevice>(choice.port, settings); });
     if (choice.timeScale != 1.0 && !device->IsPseudoTerminal())
       throw InputError(
           Tr("%%1 is a real serial line; a real tester needs its pauses whole, without --time-scale",
@@ -43,7 +44,7 @@ bool ProbeForTerminal(const TesterChoice& choice) {
 
 }  // namespace
 
-TesterConnection::TesterConnection(const TesterChoice& choice, PortManager& ports) {
+TesterConnection::TesterConnection(const TesterChoice& choice, serial::PortManager& ports) {
   try {
     Connect(choice, ports);
   } catch (const InputError& error) {
@@ -55,13 +56,13 @@ TesterConnection::TesterConnection(const TesterChoice& choice, PortManager& port
   }
 }
 
-void TesterConnection::Connect(const TesterChoice& choice, PortManager& ports) {
+void TesterConnection::Connect(const TesterChoice& choice, serial::PortManager& ports) {
   if (choice.simulated)
     simulated_ = std::make_unique<SimulatedTester>(choice.profile, choice.timeScale);
   else
     isSimulated_ = ProbeForTerminal(choice);
   device_ = simulated_ ? simulated_->Device() : choice.port;
-  ports.Assign(keld_facts::kInstrument, device_);
+  ports.Assign(plugins::keld::kInstrument, device_);
 }
 
 std::string TimeScaleRemark(double timeScale) {
@@ -81,4 +82,4 @@ void RequireTimeScale(const std::string& typed) {
     throw InputError(Tr("--time-scale %%1: give a number from 0.001 to 1000000", {typed}));
 }
 
-}  // namespace bench
+}  // namespace host::bench

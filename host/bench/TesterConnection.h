@@ -6,7 +6,7 @@
 #include "host/bench/SimulatedTester.h"
 #include "host/serial/PortManager.h"
 
-namespace bench {
+namespace host::bench {
 
 /// Which tester to use.
 struct TesterChoice {
@@ -23,7 +23,7 @@ class TesterConnection {
   /// Starts the simulated tester, or checks that the device can be opened. `InputError` when the device does
   /// not exist or is not a serial device; `IncompleteError` when it is not available now; `BusyError` when
   /// another program uses it. All name the field.
-  TesterConnection(const TesterChoice& choice, PortManager& ports);
+  TesterConnection(const TesterChoice& choice, serial::PortManager& ports);
 
   /// The serial device that the tester answers at.
   const std::string& Device() const { return device_; }
@@ -31,7 +31,7 @@ class TesterConnection {
   bool Simulated() const { return isSimulated_; }
 
  private:
-  void Connect(const TesterChoice& choice, PortManager& ports);
+  void Connect(const TesterChoice& choice, serial::PortManager& ports);
 
   std::unique_ptr<SimulatedTester> simulated_;
   std::string device_;
@@ -47,4 +47,4 @@ std::string TimeScaleRemark(double timeScale);
 void RequireTimeScale(double timeScale);
 void RequireTimeScale(const std::string& typed);
 
-}  // namespace bench
+}  // namespace host::bench

@@ -6,15 +6,15 @@
 #include "host/base/Files.h"
 #include "host/document/Document.h"
 
-namespace bench {
+namespace host::bench {
 
-std::filesystem::path UnsavedFile(const Document& document) {
+std::filesystem::path UnsavedFile(const document::Document& document) {
   auto file = document.Path();
   file += ".unsaved";
   return file;
 }
 
-std::filesystem::path KeepUnsaved(const Document& document) {
+std::filesystem::path KeepUnsaved(const document::Document& document) {
   auto file = UnsavedFile(document);
   // Never overwrite what an earlier session kept.
   std::error_code none;
@@ -26,4 +26,4 @@ std::filesystem::path KeepUnsaved(const Document& document) {
   return file;
 }
 
-}  // namespace bench
+}  // namespace host::bench

@@ -14,12 +14,12 @@
 #include "host/serial/CommApplication.h"
 #include "toolkit/controls/ControlClasses.h"
 
-namespace bench {
+namespace host::bench {
 
 namespace {
 
-Host::Settings SettingsOf(const GlobalOptions& options) {
-  Host::Settings settings;
+document::Host::Settings SettingsOf(const GlobalOptions& options) {
+  document::Host::Settings settings;
   settings.stateFolder = files::FindStateFolder(options.state).value_or("");
   settings.language = options.language;
   if (!options.catalogue.empty()) settings.catalogue = ReadCatalogue(options.catalogue);
@@ -32,13 +32,14 @@ Host::Settings SettingsOf(const GlobalOptions& options) {
 
 Workbench::Workbench(const GlobalOptions& options, double timeScale, Settings settings)
     : timeScale_(timeScale),
-      application_(std::make_shared<headless::Application>(ClockKind::kReal, timeScale)),
-      ports_(std::make_shared<PortManager>(application_, DeviceOpener(application_))),
-      host_(Host::Create(SettingsOf(options), application_)),
-      leads_(std::make_unique<LeadCalibrationGuard>(
-          LeadCalibrationGuard::Parts{*application_, *ports_, *host_->Registry()})) {
-  ConnectControls(*application_, *host_);
-  const auto comm = std::make_shared<CommApplication>(ports_);
+      application_(
+          std::make_shared<toolkit::headless::Application>(toolkit::loop::ClockKind::kReal, timeScale)),
+      ports_(std::make_shared<serial::PortManager>(application_, serial::DeviceOpener(application_))),
+      host_(document::Host::Create(SettingsOf(options), application_)),
+      leads_(std::make_unique<run::LeadCalibrationGuard>(
+          run::LeadCalibrationGuard::Parts{*application_, *ports_, *host_->Registry()})) {
+  toolkit::controls::ConnectControls(*application_, *host_);
+  const auto comm = std::make_shared<serial::CommApplication>(ports_);
   host_->Register(orvik::HostClasses::kCommApplication, [comm] { return comm; });
   ProvideCatalogue(settings);
   try {
@@ -59,14 +60,14 @@ Workbench::~Workbench() {
 /// Without a catalogue in the settings the shipped one is used.
 void Workbench::ProvideCatalogue(Settings settings) {
   if (!HasOwnCatalogue(settings))
-    host_->Registry()->StandIn(keld_facts::kRegistryHive, keld_facts::kCatalogueKey,
-                               keld_facts::kCatalogueValue, ReadCatalogue(files::Catalogue()));
+    host_->Registry()->StandIn(plugins::keld::kRegistryHive, plugins::keld::kCatalogueKey,
+                               plugins::keld::kCatalogueValue, ReadCatalogue(files::Catalogue()));
 }
 
 bool Workbench::HasOwnCatalogue(Settings settings) const {
   try {
-    return !orvik::IsEmpty(host_->Registry()->Read(keld_facts::kRegistryHive, keld_facts::kCatalogueKey,
-                                                   keld_facts::kCatalogueValue));
+    return !orvik::IsEmpty(host_->Registry()->Read(plugins::keld::kRegistryHive, plugins::keld::kCatalogueKey,
+                                                   plugins::keld::kCatalogueValue));
   } catch (const orvik::HostError& error) {
     if (settings == Settings::kNeeded) throw;
     std::cerr << "orvik-bench: "
@@ -76,4 +77,4 @@ bool Workbench::HasOwnCatalogue(Settings settings) const {
   }
 }
 
-}  // namespace bench
+}  // namespace host::bench

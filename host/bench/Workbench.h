@@ -10,7 +10,7 @@
 #include "host/serial/PortManager.h"
 #include "toolkit/headless/Application.h"
 
-namespace bench {
+namespace host::bench {
 
 /// The options of every command.
 struct GlobalOptions {
@@ -36,11 +36,11 @@ class Workbench {
   Workbench& operator=(const Workbench&) = delete;
   ~Workbench();
 
-  const std::shared_ptr<headless::Application>& Application() const { return application_; }
-  const std::shared_ptr<bench::Host>& Host() const { return host_; }
-  PortManager& Ports() { return *ports_; }
+  const std::shared_ptr<toolkit::headless::Application>& Application() const { return application_; }
+  const std::shared_ptr<document::Host>& Host() const { return host_; }
+  serial::PortManager& Ports() { return *ports_; }
   /// Guards every calibration of the test leads.
-  LeadCalibrationGuard& Leads() { return *leads_; }
+  run::LeadCalibrationGuard& Leads() { return *leads_; }
   orvik::IPlugIn& PlugIn() { return *plugIn_; }
   double TimeScale() const { return timeScale_; }
 
@@ -49,11 +49,11 @@ class Workbench {
   bool HasOwnCatalogue(Settings settings) const;
 
   const double timeScale_;
-  const std::shared_ptr<headless::Application> application_;
-  const std::shared_ptr<PortManager> ports_;
-  std::shared_ptr<bench::Host> host_;
-  std::unique_ptr<LeadCalibrationGuard> leads_;
+  const std::shared_ptr<toolkit::headless::Application> application_;
+  const std::shared_ptr<serial::PortManager> ports_;
+  std::shared_ptr<document::Host> host_;
+  std::unique_ptr<run::LeadCalibrationGuard> leads_;
   std::shared_ptr<orvik::IPlugIn> plugIn_;
 };
 
-}  // namespace bench
+}  // namespace host::bench

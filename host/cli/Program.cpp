@@ -41,7 +41,7 @@
 #include "host/cli/help/UnknownWords.h"
 #include "host/cli/options/NumberOption.h"
 
-namespace bench {
+namespace host::cli {
 
 namespace {
 
@@ -62,7 +62,7 @@ std::vector<Entry> Declare(CLI::App& program) {
   return entries;
 }
 
-void DeclareGlobal(CLI::App& program, GlobalOptions& options) {
+void DeclareGlobal(CLI::App& program, bench::GlobalOptions& options) {
   program.add_option("--state", options.state, Tr("Folder of settings and error log; otherwise ORVIK_STATE"))
       ->type_name("DIR");
   program.add_option("--catalogue", options.catalogue, Tr("Take the catalogue of tests from this file"))
@@ -95,31 +95,31 @@ void DeclareOwn(CLI::App& program) {
       "  orvik-bench run pump.orvik --simulate sound-class-1 --time-scale 100");
 }
 
-ExitStatus Report(ExitStatus status, const std::string& text) {
+bench::ExitStatus Report(bench::ExitStatus status, const std::string& text) {
   std::cout << std::flush;
   std::cerr << "orvik-bench: " << text << "\n";
   return status;
 }
 
 /// The status, or a failure when the standard output could not be written.
-ExitStatus Written(ExitStatus status) {
+bench::ExitStatus Written(bench::ExitStatus status) {
   std::cout.flush();
   if (std::cout) return status;
-  return Report(status == ExitStatus::kPassed ? ExitStatus::kIncomplete : status,
+  return Report(status == bench::ExitStatus::kPassed ? bench::ExitStatus::kIncomplete : status,
                 Tr("the standard output cannot be written"));
 }
 
-ExitStatus RunChosen(const std::vector<Entry>& entries, const GlobalOptions& options) {
+bench::ExitStatus RunChosen(const std::vector<Entry>& entries, const bench::GlobalOptions& options) {
   for (const auto& entry : entries) {
     if (!entry.declared->parsed()) continue;
     return Written(entry.command->Run(options));
   }
-  throw InputError(Tr("a command is missing; \"orvik-bench --help\" lists the commands"));
+  throw bench::InputError(Tr("a command is missing; \"orvik-bench --help\" lists the commands"));
 }
 
 void WaitAsAsked(std::int32_t seconds) {
   if (seconds < 0)
-    throw InputError(Tr("--wait %%1: give a number of seconds from 0", {std::to_string(seconds)}));
+    throw bench::InputError(Tr("--wait %%1: give a number of seconds from 0", {std::to_string(seconds)}));
   Patience::Set(std::chrono::seconds(seconds), [seconds](const std::string& reason) {
     std::cout << std::flush;
     std::cerr << "orvik-bench: "
@@ -129,16 +129,16 @@ void WaitAsAsked(std::int32_t seconds) {
 }
 
 /// Errors of the host about files, arguments and classes come from what was given on the command line.
-ExitStatus StatusOf(const orvik::HostError& error) {
+bench::ExitStatus StatusOf(const orvik::HostError& error) {
   switch (error.Number()) {
     case orvik::HostError::kPathError:
     case orvik::HostError::kInvalidArgument:
     case orvik::HostError::kTypeMismatch:
-      return ExitStatus::kBadInput;
+      return bench::ExitStatus::kBadInput;
     case orvik::HostError::kDeviceError:
-      return ExitStatus::kIncomplete;
+      return bench::ExitStatus::kIncomplete;
     default:
-      return ExitStatus::kInternal;
+      return bench::ExitStatus::kInternal;
   }
 }
 
@@ -153,13 +153,13 @@ std::string Refusal(const CLI::App& program, const CLI::ParseError& error) {
   return reason.back() == '?' ? reason + " " + help : Tr("%%1; %%2", {reason, help});
 }
 
-ExitStatus ParseAndRun(int argumentCount, const char* const* arguments) {
+bench::ExitStatus ParseAndRun(int argumentCount, const char* const* arguments) {
   // Before the declarations, whose texts are in that language.
   const auto language = ChooseProgramLanguage(argumentCount, arguments);
   CLI::App program{Tr("Plans, runs and records electrical-safety tests with a KELD tester."), "orvik-bench"};
   program.set_help_flag("-h,--help", Tr("Print this help message and exit"));
   program.formatter(MakeHelpFormat());
-  GlobalOptions options;
+  bench::GlobalOptions options;
   DeclareGlobal(program, options);
   const auto entries = Declare<TestsCommand, NewCommand, AddCommand, RemoveCommand, MoveCommand, EditCommand,
                                LimitCommand, StandardsCommand, CheckCommand, ConfigCommand, RunCommand,
@@ -170,9 +170,9 @@ ExitStatus ParseAndRun(int argumentCount, const char* const* arguments) {
     program.parse(argumentCount, arguments);
   } catch (const CLI::Success& asked) {  // help and version
     program.exit(asked);
-    return Written(ExitStatus::kPassed);
+    return Written(bench::ExitStatus::kPassed);
   } catch (const CLI::ParseError& error) {
-    return Report(ExitStatus::kBadInput, Refusal(program, error));
+    return Report(bench::ExitStatus::kBadInput, Refusal(program, error));
   }
   RefuseEmptyNames(program);
   RefuseControlCharacters(program);
@@ -183,24 +183,24 @@ ExitStatus ParseAndRun(int argumentCount, const char* const* arguments) {
 
 }  // namespace
 
-ExitStatus RunProgram(int argumentCount, const char* const* arguments) {
+bench::ExitStatus RunProgram(int argumentCount, const char* const* arguments) {
   // Without this, a file that grows too large would end the program; ignored, the write fails instead.
   std::signal(SIGXFSZ, SIG_IGN);
   try {
     return ParseAndRun(argumentCount, arguments);
-  } catch (const InputError& error) {
-    return Report(ExitStatus::kBadInput, error.what());
-  } catch (const IncompleteError& error) {
-    return Report(ExitStatus::kIncomplete, error.what());
+  } catch (const bench::InputError& error) {
+    return Report(bench::ExitStatus::kBadInput, error.what());
+  } catch (const bench::IncompleteError& error) {
+    return Report(bench::ExitStatus::kIncomplete, error.what());
   } catch (const BusyError& error) {
-    return Report(ExitStatus::kBusy, error.Description());
+    return Report(bench::ExitStatus::kBusy, error.Description());
   } catch (const StorageError& error) {
-    return Report(ExitStatus::kIncomplete, error.Description());
+    return Report(bench::ExitStatus::kIncomplete, error.Description());
   } catch (const orvik::HostError& error) {
     return Report(StatusOf(error), error.Description());
   } catch (const std::exception& error) {
-    return Report(ExitStatus::kInternal, Tr("internal error: %%1", {error.what()}));
+    return Report(bench::ExitStatus::kInternal, Tr("internal error: %%1", {error.what()}));
   }
 }
 
-}  // namespace bench
+}  // namespace host::cli

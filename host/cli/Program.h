@@ -2,9 +2,9 @@
 
 #include "host/bench/ExitStatus.h"
 
-namespace bench {
+namespace host::cli {
 
 /// The command line of orvik-bench.
-ExitStatus RunProgram(int argumentCount, const char* const* arguments);
+bench::ExitStatus RunProgram(int argumentCount, const char* const* arguments);
 
-}  // namespace bench
+}  // namespace host::cli

@@ -1,5 +1,5 @@
 #include "host/cli/Program.h"
 
 int main(int argumentCount, char** arguments) {
-  return static_cast<int>(bench::RunProgram(argumentCount, arguments));
+  return static_cast<int>(host::cli::RunProgram(argumentCount, arguments));
 }

@@ -19,7 +19,7 @@
 #include "host/xml/XmlEncoding.h"
 #include "host/xml/XmlNode.h"
 
-namespace bench {
+namespace host::document {
 namespace {
 
 using orvik::HostError;
@@ -46,18 +46,20 @@ constexpr std::string_view kPlaceOfElements = "<\x01";
 }
 
 void CheckVersion(pugi::xml_node root) {
-  if (std::string_view(root.name()) != kRoot) throw XmlError(root, Tr("this is no test document"));
+  if (std::string_view(root.name()) != kRoot) throw xml::XmlError(root, Tr("this is no test document"));
   const auto version = xml::NumberAttribute(root, kVersionAttribute);
   if (version > Document::kVersion)
-    throw XmlError(root, Tr("the document was written by a newer version of this program (format %%1, this "
-                            "program reads %%2); use that version",
-                            {std::to_string(version), std::to_string(Document::kVersion)}));
-  if (version < 1) throw XmlError(root, Tr("there is no document format %%1", {std::to_string(version)}));
+    throw xml::XmlError(root,
+                        Tr("the document was written by a newer version of this program (format %%1, this "
+                           "program reads %%2); use that version",
+                           {std::to_string(version), std::to_string(Document::kVersion)}));
+  if (version < 1)
+    throw xml::XmlError(root, Tr("there is no document format %%1", {std::to_string(version)}));
 }
 
 std::shared_ptr<orvik::IXmlNode> Wrapped(const std::shared_ptr<pugi::xml_document>& xml,
                                          pugi::xml_node node) {
-  return XmlNode::Create(xml, node);
+  return xml::XmlNode::Create(xml, node);
 }
 
 }  // namespace
@@ -69,8 +71,8 @@ Document::Document(std::shared_ptr<Host> host, DocumentFile file)
 
 void Document::BeginEmpty() {
   standards_ = orvik::As<orvik::IStandardColl>(host_->CreateObject(orvik::HostClasses::kStandardColl));
-  instruments_ = std::make_shared<InstrumentColl>();
-  elements_ = std::make_shared<TestContainer>(host_->Elements());
+  instruments_ = std::make_shared<instruments::InstrumentColl>();
+  elements_ = std::make_shared<elements::TestContainer>(host_->Elements());
 }
 
 std::shared_ptr<Document> Document::Create(std::shared_ptr<Host> host, const std::filesystem::path& file) {
@@ -113,7 +115,7 @@ void Document::Load() {
   try {
     CheckVersion(xml->document_element());
     LoadSections(xml);
-  } catch (const XmlError& error) {
+  } catch (const xml::XmlError& error) {
     if (trouble.All().empty()) RefuseFile(error.Offset(), error.Description());
   } catch (const HostError& error) {
     if (trouble.All().empty()) RefuseFile(-1, error.Description());
@@ -127,7 +129,7 @@ void Document::LoadSections(const std::shared_ptr<pugi::xml_document>& xml) {
   // Only the first would be read, and the other lost when the document is saved.
   for (const auto* section : {kEquipment, kStandardsNode, kInstrumentsNode, kElements, run_tags::kRuns}) {
     if (const auto second = root.child(section).next_sibling(section))
-      throw XmlError(second, Tr("there is a second \"%%1\"; join the two", {section}));
+      throw xml::XmlError(second, Tr("there is a second \"%%1\"; join the two", {section}));
   }
   topLeftovers_.Take(*xml, {}, {kRoot});
   rootLeftovers_.Take(root, {kVersionAttribute},
@@ -145,10 +147,10 @@ void Document::LoadSections(const std::shared_ptr<pugi::xml_document>& xml) {
   highestId_ = runs_.HighestElement();
 
   const auto elements = root.child(kElements);
-  elementsLeftovers_.Take(elements, {}, {tags::kTestElement});
+  elementsLeftovers_.Take(elements, {}, {elements::tags::kTestElement});
   SavedElements saved;
-  XmlReference reference(xml);
-  for (const auto element : elements.children(tags::kTestElement)) {
+  xml::XmlReference reference(xml);
+  for (const auto element : elements.children(elements::tags::kTestElement)) {
     saved.Check(element);
     elements_->AddSaved(reference.To(element));
   }
@@ -193,7 +195,7 @@ std::string Document::WrittenText() const {
 void Document::WriteElements(std::string& text) const {
   constexpr unsigned kDepth = 2;
   constexpr std::size_t kAtOnce = 32;
-  const Nesting level;
+  const elements::Nesting level;
   const auto count = static_cast<std::size_t>(elements_->Count());
   for (std::size_t index = 0; index < count;) {
     const auto xml = std::make_shared<pugi::xml_document>();
@@ -233,4 +235,4 @@ std::shared_ptr<pugi::xml_document> Document::Frame() const {
   return xml;
 }
 
-}  // namespace bench
+}  // namespace host::document

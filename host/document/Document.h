@@ -20,11 +20,16 @@
 #include "host/xml/Leftovers.h"
 #include "host/xml/XmlDocument.h"
 
-namespace bench {
+namespace host::elements {
+class TestContainer;
+}
+namespace host::instruments {
+class InstrumentColl;
+}
+
+namespace host::document {
 
 class Host;
-class InstrumentColl;
-class TestContainer;
 
 /// A test document, an XML file:
 ///
@@ -41,7 +46,7 @@ class TestContainer;
 /// What the file holds beyond this is kept and written back.
 class Document {
  public:
-  using Equipment = bench::Equipment;
+  using Equipment = document::Equipment;
 
   /// Version of the format that this program reads and writes.
   static constexpr std::int32_t kVersion = 1;
@@ -78,11 +83,11 @@ class Document {
 
   /// The standards by which measurements are judged.
   const std::shared_ptr<orvik::IStandardColl>& Standards() const { return standards_; }
-  const std::shared_ptr<InstrumentColl>& Instruments() const { return instruments_; }
+  const std::shared_ptr<instruments::InstrumentColl>& Instruments() const { return instruments_; }
 
   /// The record of every run.
-  bench::Runs& Runs() { return runs_; }
-  const bench::Runs& Runs() const { return runs_; }
+  document::Runs& Runs() { return runs_; }
+  const document::Runs& Runs() const { return runs_; }
 
   /// The top-level elements; itself it has the identifier 0.
   std::shared_ptr<orvik::ITestContainer> Elements() const;
@@ -129,12 +134,12 @@ class Document {
   std::shared_ptr<Host> host_;
   DocumentFile file_;
   std::shared_ptr<orvik::IStandardColl> standards_;
-  std::shared_ptr<InstrumentColl> instruments_;
-  std::shared_ptr<TestContainer> elements_;
-  bench::Runs runs_;
+  std::shared_ptr<instruments::InstrumentColl> instruments_;
+  std::shared_ptr<elements::TestContainer> elements_;
+  document::Runs runs_;
   std::int32_t highestId_ = 0;
   std::optional<std::size_t> savedMark_;
-  Leftovers topLeftovers_, rootLeftovers_, equipmentLeftovers_, elementsLeftovers_;
+  xml::Leftovers topLeftovers_, rootLeftovers_, equipmentLeftovers_, elementsLeftovers_;
 };
 
-}  // namespace bench
+}  // namespace host::document

@@ -14,7 +14,7 @@
 #include "host/xml/XmlEncoding.h"
 #include "host/xml/XmlNode.h"
 
-namespace bench {
+namespace host::document {
 namespace {
 
 void CheckEncoding(const xml::Decoded& decoded, Findings& findings) {
@@ -76,7 +76,7 @@ void CheckRoot(pugi::xml_node root, Findings& findings) {
 
 }  // namespace
 
-std::vector<Finding> CheckDocument(const std::string& bytes, ElementFactory& factory) {
+std::vector<Finding> CheckDocument(const std::string& bytes, elements::ElementFactory& factory) {
   const auto decoded = xml::Decode(bytes);
   const auto& text = decoded.text;
   Findings findings(text);
@@ -102,4 +102,4 @@ std::vector<Finding> CheckDocument(const std::string& bytes, ElementFactory& fac
   return findings.InOrder();
 }
 
-}  // namespace bench
+}  // namespace host::document

@@ -17,7 +17,7 @@
 #include "host/elements/TestContainer.h"
 #include "host/xml/XmlNode.h"
 
-namespace bench {
+namespace host::document {
 namespace {
 
 using orvik::HostError;
@@ -38,7 +38,7 @@ Element Document::AddTest(std::int32_t testId, const Element& parent) {
 
 Element Document::AddTest(std::int32_t testId, const ElementPlace& place) {
   auto added = FromCatalogue(testId);
-  RequireShallow(added);
+  elements::RequireShallow(added);
   GiveIdentifiers(added);
   Put(added, place);
   return added;
@@ -85,11 +85,12 @@ void Document::GiveIdentifiers(const Element& top) {
 void Document::AddPlanOf(const Document& other) {
   const auto xml = std::make_shared<pugi::xml_document>();
   const auto saved = xml->append_child("Elements");
-  const auto node = XmlNode::Create(xml, saved);
+  const auto node = xml::XmlNode::Create(xml, saved);
   other.elements_->SaveChildren(node);
   KeepPlanAlone(saved);
-  ForEachSavedElement(
-      saved, [this](pugi::xml_node element) { element.attribute(tags::kID).set_value(NextIdentifier()); });
+  ForEachSavedElement(saved, [this](pugi::xml_node element) {
+    element.attribute(elements::tags::kID).set_value(NextIdentifier());
+  });
   auto& trouble = host_->Elements()->Trouble();
   trouble.Clear();
   node->ForEachChild([this](const std::string&, const auto& element) { elements_->AddSaved(element); });
@@ -133,4 +134,4 @@ void Document::UpdateReferences() const {
 
 Element Document::Find(std::int32_t id) const { return elements_->FindElement(id); }
 
-}  // namespace bench
+}  // namespace host::document

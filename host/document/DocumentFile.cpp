@@ -13,7 +13,7 @@
 #include "host/base/Patience.h"
 #include "host/base/Tr.h"
 
-namespace bench {
+namespace host::document {
 namespace {
 
 constexpr int kOpenAttempts = 100;
@@ -103,4 +103,4 @@ void DocumentFile::Write(std::string_view contents) {
   SyncFolderOf(path_);
 }
 
-}  // namespace bench
+}  // namespace host::document

@@ -8,7 +8,7 @@
 
 #include "host/base/Files.h"
 
-namespace bench {
+namespace host::document {
 
 /// The file of a document. Whoever may write it holds it alone: a lock lies on the file itself and moves to
 /// each new file that takes its place, so two programs never overwrite each other. Reading needs no lock,
@@ -53,4 +53,4 @@ class DocumentFile {
   std::optional<Stamp> stamp_;
 };
 
-}  // namespace bench
+}  // namespace host::document

@@ -5,7 +5,7 @@
 
 #include "OrvikTypeLib/ITestElement.h"
 
-namespace bench {
+namespace host::document {
 
 /// Where an element of a document is placed: at the end of a sequence or of the document, or beside another
 /// element. The order of elements is the order of testing.
@@ -29,4 +29,4 @@ struct ElementPlace {
   std::int32_t after = 0;   ///< identifier of the element in front; 0 for none
 };
 
-}  // namespace bench
+}  // namespace host::document

@@ -3,12 +3,12 @@
 #include "OrvikTypeLib/As.h"
 #include "host/elements/ElementFactory.h"
 
-namespace bench {
+namespace host::document {
 
-std::shared_ptr<AuxiliaryState> StateOf(const std::shared_ptr<orvik::ITestElement>& element,
-                                        const ElementFactory& factory) {
+std::shared_ptr<elements::AuxiliaryState> StateOf(const std::shared_ptr<orvik::ITestElement>& element,
+                                                  const elements::ElementFactory& factory) {
   const auto base = factory.BaseOf(element);
-  return base ? orvik::As<AuxiliaryState>(base->Auxiliary()) : nullptr;
+  return base ? orvik::As<elements::AuxiliaryState>(base->Auxiliary()) : nullptr;
 }
 
-}  // namespace bench
+}  // namespace host::document

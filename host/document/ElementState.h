@@ -5,12 +5,14 @@
 #include "OrvikTypeLib/ITestElement.h"
 #include "host/elements/AuxiliaryState.h"
 
-namespace bench {
-
+namespace host::elements {
 class ElementFactory;
+}
+
+namespace host::document {
 
 /// The host's own settings of an element; null for an element that has none.
-std::shared_ptr<AuxiliaryState> StateOf(const std::shared_ptr<orvik::ITestElement>& element,
-                                        const ElementFactory& factory);
+std::shared_ptr<elements::AuxiliaryState> StateOf(const std::shared_ptr<orvik::ITestElement>& element,
+                                                  const elements::ElementFactory& factory);
 
-}  // namespace bench
+}  // namespace host::document

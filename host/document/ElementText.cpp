@@ -5,9 +5,9 @@
 #include "host/base/Tr.h"
 #include "host/elements/ElementFactory.h"
 
-namespace bench {
+namespace host::document {
 
-std::string ElementName(orvik::ITestElement& element, const ElementFactory& factory) {
+std::string ElementName(orvik::ITestElement& element, const elements::ElementFactory& factory) {
   const auto base = factory.BaseOf(orvik::As<orvik::ITestElement>(element.shared_from_this()));
   if (const auto information = base ? base->Information() : nullptr) {
     if (!information->DisplayName().empty()) return information->DisplayName();
@@ -16,4 +16,4 @@ std::string ElementName(orvik::ITestElement& element, const ElementFactory& fact
   return Tr("test %%1", {std::to_string(element.TestID())});
 }
 
-}  // namespace bench
+}  // namespace host::document

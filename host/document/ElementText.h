@@ -4,11 +4,13 @@
 
 #include "OrvikTypeLib/ITestElement.h"
 
-namespace bench {
-
+namespace host::elements {
 class ElementFactory;
+}
+
+namespace host::document {
 
 /// The display name of an element; "test 410" when it has none.
-std::string ElementName(orvik::ITestElement& element, const ElementFactory& factory);
+std::string ElementName(orvik::ITestElement& element, const elements::ElementFactory& factory);
 
-}  // namespace bench
+}  // namespace host::document

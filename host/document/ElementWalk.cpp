@@ -6,7 +6,7 @@
 #include "OrvikTypeLib/ITestContainer.h"
 #include "OrvikTypeLib/ITestEnumerator.h"
 
-namespace bench {
+namespace host::document {
 
 void WalkElements(const std::shared_ptr<orvik::ITestElement>& top,
                   const std::function<void(const std::shared_ptr<orvik::ITestElement>&)>& visit) {
@@ -26,4 +26,4 @@ void WalkElements(const std::shared_ptr<orvik::ITestElement>& top,
   }
 }
 
-}  // namespace bench
+}  // namespace host::document

@@ -10,19 +10,19 @@
 #include "host/elements/Nesting.h"
 #include "host/xml/XmlNode.h"
 
-namespace bench {
+namespace host::document {
 namespace {
 
-std::string IdentifierOf(pugi::xml_node element) { return element.attribute(tags::kID).value(); }
+std::string IdentifierOf(pugi::xml_node element) { return element.attribute(elements::tags::kID).value(); }
 
 /// The saved elements below `top` in document order. Nesting of any depth takes no stack.
 template <class Visit>
 void Walk(pugi::xml_node top, Visit visit) {
   auto element = top;
   while (true) {
-    auto next = element.child(tags::kTestElement);
+    auto next = element.child(elements::tags::kTestElement);
     while (!next && element != top) {
-      next = element.next_sibling(tags::kTestElement);
+      next = element.next_sibling(elements::tags::kTestElement);
       if (!next) element = element.parent();
     }
     if (!next) return;
@@ -34,7 +34,7 @@ void Walk(pugi::xml_node top, Visit visit) {
 }  // namespace
 
 void ElementsCheck::Look(pugi::xml_node elements, bool cut) {
-  NoteUnknown(elements, {}, {tags::kTestElement}, findings_);
+  NoteUnknown(elements, {}, {elements::tags::kTestElement}, findings_);
   pugi::xml_node last;
   Walk(elements, [&](pugi::xml_node element) { last = element; });
   Walk(elements, [&](pugi::xml_node element) {
@@ -47,15 +47,15 @@ void ElementsCheck::LookAt(pugi::xml_node element, pugi::xml_node top) {
   CheckPlace(element, top);
   const auto kind = KindOf(element);
   if (!kind.fault.empty()) {
-    const auto result = !kind.readable && element.child(tags::kResultItem)
+    const auto result = !kind.readable && element.child(elements::tags::kResultItem)
                             ? Tr("; nobody can read its result")
                             : std::string();
     findings_.Wrong(element, Tr("element %%1: %%2%%3", {IdentifierOf(element), kind.fault, result}));
   }
   CheckParts(element);
-  for (const auto limits : element.children(tags::kExpectedResult))
+  for (const auto limits : element.children(elements::tags::kExpectedResult))
     CheckStandards(limits, kind.unit, findings_);
-  for (const auto result : element.children(tags::kResultItem)) CheckResult(result, kind.sequence);
+  for (const auto result : element.children(elements::tags::kResultItem)) CheckResult(result, kind.sequence);
 }
 
 void ElementsCheck::CheckIdentifier(pugi::xml_node element) {
@@ -81,43 +81,51 @@ void ElementsCheck::CheckPlace(pugi::xml_node element, pugi::xml_node top) {
     findings_.Wrong(element, Tr("element %%1 stands below element %%2, which is no sequence; it is never run",
                                 {IdentifierOf(element), IdentifierOf(parent)}));
   int depth = 0;
-  for (auto above = element; above != top && depth <= kDeepestNesting + 1; above = above.parent()) ++depth;
+  for (auto above = element; above != top && depth <= elements::kDeepestNesting + 1; above = above.parent())
+    ++depth;
   // Told once for a branch: at the element that is one too deep.
-  if (depth == kDeepestNesting + 1)
-    findings_.Wrong(element,
-                    Tr("elements are nested more than %%1 levels deep", {std::to_string(kDeepestNesting)}));
+  if (depth == elements::kDeepestNesting + 1)
+    findings_.Wrong(element, Tr("elements are nested more than %%1 levels deep",
+                                {std::to_string(elements::kDeepestNesting)}));
 }
 
 void ElementsCheck::CheckParts(pugi::xml_node element) {
-  NoteUnknown(element, {tags::kID, tags::kTestID, tags::kPlugInID, tags::kClass},
-              {tags::kTestElement, tags::kInformation, tags::kAuxiliary, tags::kConfiguration,
-               tags::kExpectedResult, tags::kResultItem},
-              findings_);
-  for (const auto* part : {tags::kInformation, tags::kAuxiliary, tags::kConfiguration, tags::kExpectedResult,
-                           tags::kResultItem}) {
+  NoteUnknown(
+      element,
+      {elements::tags::kID, elements::tags::kTestID, elements::tags::kPlugInID, elements::tags::kClass},
+      {elements::tags::kTestElement, elements::tags::kInformation, elements::tags::kAuxiliary,
+       elements::tags::kConfiguration, elements::tags::kExpectedResult, elements::tags::kResultItem},
+      findings_);
+  for (const auto* part :
+       {elements::tags::kInformation, elements::tags::kAuxiliary, elements::tags::kConfiguration,
+        elements::tags::kExpectedResult, elements::tags::kResultItem}) {
     const auto first = element.child(part);
     for (auto next = first.next_sibling(part); first && next; next = next.next_sibling(part))
       findings_.Wrong(next, Tr("element %%1 has a second \"%%2\"; the first is in line %%3",
                                {IdentifierOf(element), part, findings_.LineOf(first)}));
   }
-  NoteUnknown(element.child(tags::kInformation), {tags::kFirstText, tags::kSecondText, tags::kDisplayName},
-              {}, findings_);
-  const auto auxiliary = element.child(tags::kAuxiliary);
-  NoteUnknown(auxiliary, {tags::kPrint, tags::kRecordOnly}, {}, findings_);
-  NoteUnknown(element.child(tags::kConfiguration), {}, {tags::kPlugInData}, findings_);
+  NoteUnknown(element.child(elements::tags::kInformation),
+              {elements::tags::kFirstText, elements::tags::kSecondText, elements::tags::kDisplayName}, {},
+              findings_);
+  const auto auxiliary = element.child(elements::tags::kAuxiliary);
+  NoteUnknown(auxiliary, {elements::tags::kPrint, elements::tags::kRecordOnly}, {}, findings_);
+  NoteUnknown(element.child(elements::tags::kConfiguration), {}, {elements::tags::kPlugInData}, findings_);
 }
 
 void ElementsCheck::CheckResult(pugi::xml_node result, bool sequence) {
-  NoteUnknown(result, {tags::kMTI}, {tags::kStatus, tags::kServiceRecord, tags::kComment, tags::kMeasurement},
+  NoteUnknown(result, {elements::tags::kMTI},
+              {elements::tags::kStatus, elements::tags::kServiceRecord, elements::tags::kComment,
+               elements::tags::kMeasurement},
               findings_);
-  if (const auto tester = result.attribute(tags::kMTI)) {
+  if (const auto tester = result.attribute(elements::tags::kMTI)) {
     const auto number = WholeNumber(tester.value());
     if (!number || !testers_.contains(*number))
       findings_.Wrong(
           result, Tr("the result names the tester %%1, which the document does not have", {tester.value()}));
   }
   CheckStatus(result);
-  for (const auto measurement : result.children(tags::kMeasurement)) CheckMeasurement(measurement, sequence);
+  for (const auto measurement : result.children(elements::tags::kMeasurement))
+    CheckMeasurement(measurement, sequence);
 }
 
 void ElementsCheck::CheckMeasurement(pugi::xml_node measurement, bool sequence) {
@@ -129,12 +137,12 @@ void ElementsCheck::CheckMeasurement(pugi::xml_node measurement, bool sequence) 
     findings_.Wrong(
         measurement.child("Value"),
         Tr("the value \"%%1\" is no number; it would be read as the number it begins with", {value}));
-  if (!sequence && value.empty() && !xml::Text(measurement.child(tags::kUnit)).empty())
+  if (!sequence && value.empty() && !xml::Text(measurement.child(elements::tags::kUnit)).empty())
     findings_.Wrong(measurement, Tr("the reading has a unit and no value; it would be read as 0"));
 }
 
 void ElementsCheck::CheckStatus(pugi::xml_node holder) {
-  const auto node = holder.child(tags::kStatus);
+  const auto node = holder.child(elements::tags::kStatus);
   if (!node) return;
   const auto text = xml::Text(node);
   const auto status = WholeNumber(text);
@@ -145,15 +153,15 @@ void ElementsCheck::CheckStatus(pugi::xml_node holder) {
                        {text}));
 }
 
-TestKind ElementsCheck::KindOf(pugi::xml_node element) {
-  const std::string test = element.attribute(tags::kTestID).value();
+elements::TestKind ElementsCheck::KindOf(pugi::xml_node element) {
+  const std::string test = element.attribute(elements::tags::kTestID).value();
   if (const auto number = WholeNumber(test))
-    return kinds_.Of(element.attribute(tags::kPlugInID).value(), *number,
-                     element.attribute(tags::kClass).value());
-  TestKind none;
+    return kinds_.Of(element.attribute(elements::tags::kPlugInID).value(), *number,
+                     element.attribute(elements::tags::kClass).value());
+  elements::TestKind none;
   none.fault = test.empty() ? Tr("it names no test of the catalogue (\"TestID\")")
                             : Tr("the test \"%%1\" is no whole number", {test});
   return none;
 }
 
-}  // namespace bench
+}  // namespace host::document

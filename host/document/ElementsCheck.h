@@ -8,7 +8,7 @@
 
 #include "host/elements/TestKinds.h"
 
-namespace bench {
+namespace host::document {
 
 class Findings;
 
@@ -16,7 +16,7 @@ class Findings;
 class ElementsCheck {
  public:
   /// @param testers the numbers of the testers that the document names
-  ElementsCheck(const ElementFactory& factory, std::set<std::int32_t> testers, Findings& findings)
+  ElementsCheck(const elements::ElementFactory& factory, std::set<std::int32_t> testers, Findings& findings)
       : kinds_(factory), testers_(std::move(testers)), findings_(findings) {}
 
   /// @param cut the text ends within the last element, which may lack anything
@@ -30,12 +30,12 @@ class ElementsCheck {
   void CheckResult(pugi::xml_node result, bool sequence);
   void CheckMeasurement(pugi::xml_node measurement, bool sequence);
   void CheckStatus(pugi::xml_node holder);
-  TestKind KindOf(pugi::xml_node element);
+  elements::TestKind KindOf(pugi::xml_node element);
 
-  TestKinds kinds_;
+  elements::TestKinds kinds_;
   std::set<std::int32_t> testers_;
   Findings& findings_;
   std::map<std::int32_t, pugi::xml_node> identifiers_;
 };
 
-}  // namespace bench
+}  // namespace host::document

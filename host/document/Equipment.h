@@ -2,7 +2,7 @@
 
 #include <string>
 
-namespace bench {
+namespace host::document {
 
 /// The equipment under test.
 struct Equipment {
@@ -13,4 +13,4 @@ struct Equipment {
   bool operator==(const Equipment&) const = default;
 };
 
-}  // namespace bench
+}  // namespace host::document

@@ -4,7 +4,7 @@
 
 #include "host/xml/XmlDocument.h"
 
-namespace bench {
+namespace host::document {
 
 void Findings::Add(bool wrong, std::size_t offset, std::string text) {
   places_.push_back({std::min(offset, text_.size()), wrong, std::move(text)});
@@ -40,4 +40,4 @@ std::vector<Finding> Findings::InOrder() const {
   return found;
 }
 
-}  // namespace bench
+}  // namespace host::document

@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-namespace bench {
+namespace host::document {
 
 /// Something that was found in a file, and where: line and column count from 1, the column in letters.
 struct Finding {
@@ -48,4 +48,4 @@ class Findings {
   std::vector<Place> places_;
 };
 
-}  // namespace bench
+}  // namespace host::document

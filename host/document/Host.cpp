@@ -22,7 +22,7 @@
 #include "host/xml/XmlDocument.h"
 #include "toolkit/controls/ControlClasses.h"
 
-namespace bench {
+namespace host::document {
 namespace {
 
 using orvik::HostError;
@@ -36,7 +36,7 @@ std::shared_ptr<Host> Host::Create(Settings settings,
                                    std::shared_ptr<orvik::platform::IApplication> application) {
   auto host = std::make_shared<Host>(std::move(application));
   const std::weak_ptr<Host> weak = host;
-  host->elements_ = std::make_shared<ElementFactory>(
+  host->elements_ = std::make_shared<elements::ElementFactory>(
       [weak](const std::string& classId) { return orvik::Required(weak)->CreateObject(classId); });
   host->RegisterServices(settings);
   host->RegisterElements();
@@ -54,28 +54,28 @@ void Host::RegisterServices(const Settings& settings) {
   log_ = std::make_shared<ErrorLog>(settings.stateFolder);
   registry_ = std::make_shared<RegistryStore>(settings.stateFolder);
   if (settings.catalogue)
-    registry_->StandIn(keld_facts::kRegistryHive, keld_facts::kCatalogueKey, keld_facts::kCatalogueValue,
-                       *settings.catalogue);
+    registry_->StandIn(plugins::keld::kRegistryHive, plugins::keld::kCatalogueKey,
+                       plugins::keld::kCatalogueValue, *settings.catalogue);
 
   Register(classes::kLanguageService, [this] { return language_; });
   Register(classes::kErrorLog, [this] { return log_; });
-  Register(classes::kXmlDocument, [] { return std::make_shared<XmlDocument>(); });
+  Register(classes::kXmlDocument, [] { return std::make_shared<xml::XmlDocument>(); });
   Register(classes::kRegistryReader, [this] { return std::make_shared<RegistryReader>(registry_, log_); });
-  Register(classes::kPersistence, [] { return std::make_shared<Persistence>(); });
-  Register(classes::kServiceRecord, [] { return std::make_shared<ServiceRecord>(); });
+  Register(classes::kPersistence, [] { return std::make_shared<xml::Persistence>(); });
+  Register(classes::kServiceRecord, [] { return std::make_shared<elements::ServiceRecord>(); });
 }
 
 void Host::RegisterElements() {
-  Register(classes::kTestElement, [this] { return std::make_shared<TestElement>(elements_); });
-  Register(classes::kTestContainer, [this] { return std::make_shared<TestContainer>(elements_); });
-  Register(classes::kStandardColl, [this] { return std::make_shared<StandardColl>(language_); });
-  Register(classes::kStandard, [] { return std::make_shared<Standard>(); });
-  Register(classes::kLimit, [] { return std::make_shared<Limit>(); });
-  Register(classes::kInstrumentRecord, [] { return std::make_shared<InstrumentRecord>(); });
+  Register(classes::kTestElement, [this] { return std::make_shared<elements::TestElement>(elements_); });
+  Register(classes::kTestContainer, [this] { return std::make_shared<elements::TestContainer>(elements_); });
+  Register(classes::kStandardColl, [this] { return std::make_shared<standards::StandardColl>(language_); });
+  Register(classes::kStandard, [] { return std::make_shared<standards::Standard>(); });
+  Register(classes::kLimit, [] { return std::make_shared<standards::Limit>(); });
+  Register(classes::kInstrumentRecord, [] { return std::make_shared<instruments::InstrumentRecord>(); });
 }
 
 void Host::RegisterControls() {
-  for (const auto& [identifier, create] : ControlClasses())
+  for (const auto& [identifier, create] : toolkit::controls::ControlClasses())
     Register(identifier, [this, create = create] {
       return create(orvik::As<orvik::ILanguageService>(CreateObject(classes::kLanguageService)));
     });
@@ -119,4 +119,4 @@ void Host::Close() {
   plugInLibraries_.clear();
 }
 
-}  // namespace bench
+}  // namespace host::document

@@ -13,13 +13,18 @@
 #include "OrvikTypeLib/IPlugIn.h"
 #include "host/base/Text.h"
 
-namespace bench {
-
-class ElementFactory;
+namespace host {
 class ErrorLog;
 class LanguageService;
-class PlugInLibrary;
 class RegistryStore;
+}  // namespace host
+namespace host::elements {
+class ElementFactory;
+}
+
+namespace host::document {
+
+class PlugInLibrary;
 
 /// The reference host: its classes by identifier, its services, and the plug-ins that it has opened.
 ///
@@ -62,7 +67,7 @@ class Host final : public orvik::IHost {
   /// Lets go of all plug-ins, then closes their libraries. Objects of theirs may be released later, not used.
   void Close();
 
-  const std::shared_ptr<ElementFactory>& Elements() const { return elements_; }
+  const std::shared_ptr<elements::ElementFactory>& Elements() const { return elements_; }
   const std::shared_ptr<LanguageService>& Language() const { return language_; }
   const std::shared_ptr<ErrorLog>& Log() const { return log_; }
   const std::shared_ptr<RegistryStore>& Registry() const { return registry_; }
@@ -79,10 +84,10 @@ class Host final : public orvik::IHost {
   std::unordered_map<std::string, Factory, HashApartFromCase, EqualApartFromCase> factories_;
   std::vector<std::shared_ptr<orvik::IClassLibrary>> classLibraries_;
   std::vector<std::unique_ptr<PlugInLibrary>> plugInLibraries_;
-  std::shared_ptr<ElementFactory> elements_;
+  std::shared_ptr<elements::ElementFactory> elements_;
   std::shared_ptr<LanguageService> language_;
   std::shared_ptr<ErrorLog> log_;
   std::shared_ptr<RegistryStore> registry_;
 };
 
-}  // namespace bench
+}  // namespace host::document

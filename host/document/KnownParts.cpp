@@ -7,7 +7,7 @@
 #include "host/document/Findings.h"
 #include "host/xml/XmlNode.h"
 
-namespace bench {
+namespace host::document {
 
 void NoteUnknown(pugi::xml_node node, std::initializer_list<std::string_view> attributes,
                  std::span<const std::string_view> elements, Findings& findings) {
@@ -27,4 +27,4 @@ void NoteUnknown(pugi::xml_node node, std::initializer_list<std::string_view> at
   }
 }
 
-}  // namespace bench
+}  // namespace host::document

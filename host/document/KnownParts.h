@@ -5,7 +5,7 @@
 #include <span>
 #include <string_view>
 
-namespace bench {
+namespace host::document {
 
 class Findings;
 
@@ -22,4 +22,4 @@ inline void NoteUnknown(pugi::xml_node node, std::initializer_list<std::string_v
   NoteUnknown(node, attributes, std::span(elements.begin(), elements.size()), findings);
 }
 
-}  // namespace bench
+}  // namespace host::document

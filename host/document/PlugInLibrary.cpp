@@ -6,7 +6,7 @@
 #include "host/base/Text.h"
 #include "host/base/Tr.h"
 
-namespace bench {
+namespace host::document {
 
 PlugInLibrary::PlugInLibrary(const std::filesystem::path& file, const std::shared_ptr<orvik::IHost>& host)
     : file_(std::filesystem::absolute(file)) {
@@ -52,4 +52,4 @@ void PlugInLibrary::Refuse(const std::string& reason) const {
                          Tr("%%1 cannot be used as a plug-in: %%2", {file_.string(), reason}));
 }
 
-}  // namespace bench
+}  // namespace host::document

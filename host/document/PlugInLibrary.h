@@ -8,7 +8,7 @@
 #include "OrvikTypeLib/IHost.h"
 #include "OrvikTypeLib/Library.h"
 
-namespace bench {
+namespace host::document {
 
 /// A plug-in library that has been loaded and opened; closed with this object. Its code stays mapped, so that
 /// a reference that somebody lets go of later does not jump into nothing.
@@ -37,4 +37,4 @@ class PlugInLibrary {
   std::shared_ptr<orvik::IClassLibrary> classes_;
 };
 
-}  // namespace bench
+}  // namespace host::document

@@ -4,7 +4,7 @@
 #include <utility>
 #include <vector>
 
-namespace bench {
+namespace host::document {
 
 /// Why a result is doubted or does not count: a code for programs, and what it is about. The sentence for
 /// people is made where it is shown, in the reader's language.
@@ -15,4 +15,4 @@ struct Reason {
   bool operator==(const Reason&) const = default;
 };
 
-}  // namespace bench
+}  // namespace host::document

@@ -2,7 +2,7 @@
 
 #include <unordered_set>
 
-namespace bench {
+namespace host::document {
 
 std::vector<std::int32_t> RunRecord::Elements() const {
   std::vector<std::int32_t> elements;
@@ -32,4 +32,4 @@ std::string EndText(RunRecord::End end) {
   return {};
 }
 
-}  // namespace bench
+}  // namespace host::document

@@ -9,7 +9,7 @@
 #include "host/document/Equipment.h"
 #include "host/document/Reason.h"
 
-namespace bench {
+namespace host::document {
 
 /// The tester that answered, and the test leads by which its readings were corrected.
 struct RecordedTester {
@@ -95,4 +95,4 @@ struct RunRecord {
 /// "finished", "stopped", "aborted", "lost"; empty for `kNone`.
 std::string EndText(RunRecord::End end);
 
-}  // namespace bench
+}  // namespace host::document

@@ -8,7 +8,7 @@
 #include "host/base/Tr.h"
 #include "host/xml/XmlNode.h"
 
-namespace bench {
+namespace host::document {
 namespace {
 
 constexpr char kByTester[] = "tester", kByOperator[] = "operator";
@@ -26,7 +26,7 @@ std::int32_t Number(pugi::xml_node node, const char* name) {
 bool Flag(pugi::xml_node node, const char* name) {
   const auto number = xml::NumberAttribute(node, name);
   if (number != 0 && number != 1)
-    throw XmlError(node, Tr("\"%%1\" of \"%%2\" must be 0 or 1", {name, node.name()}));
+    throw xml::XmlError(node, Tr("\"%%1\" of \"%%2\" must be 0 or 1", {name, node.name()}));
   return number == 1;
 }
 
@@ -35,13 +35,13 @@ RunRecord::End ReadEnd(pugi::xml_node node) {
   for (const auto end : {RunRecord::End::kNone, RunRecord::End::kFinished, RunRecord::End::kStopped,
                          RunRecord::End::kAborted, RunRecord::End::kLost})
     if (text == EndText(end)) return end;
-  throw XmlError(node, Tr("unknown end \"%%1\" of a run (finished, stopped, aborted, lost)", {text}));
+  throw xml::XmlError(node, Tr("unknown end \"%%1\" of a run (finished, stopped, aborted, lost)", {text}));
 }
 
 double ReadTimeScale(pugi::xml_node node) {
   const auto text = Attribute(node, "TimeScale");
   const auto scale = FiniteNumber(text);
-  if (!scale || *scale <= 0) throw XmlError(node, Tr("invalid time scale \"%%1\" of a run", {text}));
+  if (!scale || *scale <= 0) throw xml::XmlError(node, Tr("invalid time scale \"%%1\" of a run", {text}));
   return *scale;
 }
 
@@ -61,8 +61,8 @@ RecordedTest::By ReadBy(pugi::xml_node node) {
   const auto text = Attribute(node, "By");
   if (text == kByTester) return RecordedTest::By::kTester;
   if (text == kByOperator) return RecordedTest::By::kOperator;
-  throw XmlError(node,
-                 Tr("\"By\" of a recorded test must be \"tester\" or \"operator\", not \"%%1\"", {text}));
+  throw xml::XmlError(
+      node, Tr("\"By\" of a recorded test must be \"tester\" or \"operator\", not \"%%1\"", {text}));
 }
 
 Reason ReadDoubt(pugi::xml_node node) {
@@ -81,8 +81,8 @@ RecordedTest ReadTest(pugi::xml_node node, std::size_t testers) {
   test.by = ReadBy(node);
   test.tester = Number(node, "Tester");
   if (test.tester < 0 || static_cast<std::size_t>(test.tester) > testers)
-    throw XmlError(node, Tr("tester %%1 of the run is out of range (1 to %%2)",
-                            {std::to_string(test.tester), std::to_string(testers)}));
+    throw xml::XmlError(node, Tr("tester %%1 of the run is out of range (1 to %%2)",
+                                 {std::to_string(test.tester), std::to_string(testers)}));
   for (const auto part : node.children()) {
     if (xml::IsElement(part, "Said")) test.said.push_back(xml::Text(part));
     if (xml::IsElement(part, "Recorded"))
@@ -260,4 +260,4 @@ std::string DigestOf(pugi::xml_node run) {
   return "sha256:" + digest.Hex();
 }
 
-}  // namespace bench
+}  // namespace host::document

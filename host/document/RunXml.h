@@ -22,7 +22,7 @@
 ///     </Run>
 ///
 /// "Takes" and "Test" are in the order in which they happened. "Tester" counts the testers of the run from 1.
-namespace bench {
+namespace host::document {
 
 /// Names in the file that more than one source file needs.
 namespace run_tags {
@@ -49,4 +49,4 @@ std::vector<bool> GapsAfter(pugi::xml_node section);
 /// "sha256:" and the digest of all that the run's node holds but its own digest, independent of layout.
 std::string DigestOf(pugi::xml_node run);
 
-}  // namespace bench
+}  // namespace host::document

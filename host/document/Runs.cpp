@@ -8,7 +8,7 @@
 #include "host/document/RunXml.h"
 #include "host/xml/XmlNode.h"
 
-namespace bench {
+namespace host::document {
 Runs::Runs()
     : document_(std::make_shared<pugi::xml_document>()),
       finished_(document_->append_child(run_tags::kRuns)) {}
@@ -74,4 +74,4 @@ pugi::xml_node Runs::WriteCurrent(pugi::xml_node parent) const {
   return node;
 }
 
-}  // namespace bench
+}  // namespace host::document

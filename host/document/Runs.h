@@ -9,7 +9,7 @@
 #include "host/document/RunRecord.h"
 #include "host/xml/Leftovers.h"
 
-namespace bench {
+namespace host::document {
 
 /// What was done with a document: runs, each appended once and never changed afterwards. Saved as the node
 /// "Runs"; runs that were read are written back as they were, with all that another program added.
@@ -48,7 +48,7 @@ class Runs {
   pugi::xml_node finished_;
   /// The digest of the last finished run, as the file names it.
   std::string last_;
-  Leftovers besideRuns_;
+  xml::Leftovers besideRuns_;
 };
 
-}  // namespace bench
+}  // namespace host::document

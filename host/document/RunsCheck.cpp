@@ -8,7 +8,7 @@
 #include "host/document/RunXml.h"
 #include "host/xml/XmlNode.h"
 
-namespace bench {
+namespace host::document {
 namespace {
 
 void NoteUnknownParts(pugi::xml_node run, Findings& findings) {
@@ -32,7 +32,7 @@ void CheckRuns(pugi::xml_node section, Findings& findings) {
     NoteUnknownParts(run, findings);
     try {
       ReadRun(run);
-    } catch (const XmlError& error) {
+    } catch (const xml::XmlError& error) {
       findings.Wrong(run, error.Description());
     }
     if (!IsIntact(run))
@@ -49,4 +49,4 @@ void CheckRuns(pugi::xml_node section, Findings& findings) {
   }
 }
 
-}  // namespace bench
+}  // namespace host::document

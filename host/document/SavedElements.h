@@ -4,7 +4,7 @@
 #include <pugixml.hpp>
 #include <unordered_set>
 
-namespace bench {
+namespace host::document {
 
 /// Checks the saved elements of a document before they are created.
 class SavedElements {
@@ -21,4 +21,4 @@ class SavedElements {
   std::int32_t highestId_ = 0;
 };
 
-}  // namespace bench
+}  // namespace host::document

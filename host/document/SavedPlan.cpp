@@ -6,7 +6,7 @@
 
 #include "host/elements/ElementTags.h"
 
-namespace bench {
+namespace host::document {
 namespace {
 
 using Names = std::initializer_list<std::string_view>;
@@ -32,11 +32,13 @@ void KeepChildren(pugi::xml_node node, Names kept) {
 }
 
 void KeepPlanOf(pugi::xml_node element) {
-  KeepAttributes(element, {tags::kID, tags::kTestID, tags::kPlugInID, tags::kClass});
-  KeepChildren(element, {tags::kInformation, tags::kAuxiliary, tags::kConfiguration, tags::kExpectedResult,
-                         tags::kTestElement});
-  const auto marks = element.child(tags::kAuxiliary);
-  KeepAttributes(marks, {tags::kPrint, tags::kRecordOnly});
+  KeepAttributes(element, {elements::tags::kID, elements::tags::kTestID, elements::tags::kPlugInID,
+                           elements::tags::kClass});
+  KeepChildren(element,
+               {elements::tags::kInformation, elements::tags::kAuxiliary, elements::tags::kConfiguration,
+                elements::tags::kExpectedResult, elements::tags::kTestElement});
+  const auto marks = element.child(elements::tags::kAuxiliary);
+  KeepAttributes(marks, {elements::tags::kPrint, elements::tags::kRecordOnly});
   KeepChildren(marks, {});
 }
 
@@ -45,9 +47,9 @@ void KeepPlanOf(pugi::xml_node element) {
 void ForEachSavedElement(pugi::xml_node elements, const std::function<void(pugi::xml_node)>& visit) {
   auto element = elements;
   while (true) {
-    auto next = element.child(tags::kTestElement);
+    auto next = element.child(elements::tags::kTestElement);
     while (!next && element != elements) {
-      next = element.next_sibling(tags::kTestElement);
+      next = element.next_sibling(elements::tags::kTestElement);
       if (!next) element = element.parent();
     }
     if (!next) return;
@@ -58,4 +60,4 @@ void ForEachSavedElement(pugi::xml_node elements, const std::function<void(pugi:
 
 void KeepPlanAlone(pugi::xml_node elements) { ForEachSavedElement(elements, KeepPlanOf); }
 
-}  // namespace bench
+}  // namespace host::document

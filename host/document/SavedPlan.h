@@ -3,7 +3,7 @@
 #include <functional>
 #include <pugixml.hpp>
 
-namespace bench {
+namespace host::document {
 
 /// Visits the saved elements below the node in document order. Nesting of any depth takes no stack.
 void ForEachSavedElement(pugi::xml_node elements, const std::function<void(pugi::xml_node)>& visit);
@@ -14,4 +14,4 @@ void ForEachSavedElement(pugi::xml_node elements, const std::function<void(pugi:
 /// @param elements the node above the saved elements
 void KeepPlanAlone(pugi::xml_node elements);
 
-}  // namespace bench
+}  // namespace host::document

@@ -3,7 +3,7 @@
 #include "OrvikTypeLib/Codes.h"
 #include "host/base/Text.h"
 
-namespace bench {
+namespace host::document {
 namespace {
 
 std::string SettingOf(const orvik::ITestElement& element, const char* name) {
@@ -19,7 +19,7 @@ SavedSettings::SavedSettings(const orvik::IConfigData& configuration) {
   orvik::IXmlDocument& document = *xml_;
   node_ = document.CreateRoot("Configuration");
   configuration.Save(node_);
-  settings_ = document.FindElement(keld_facts::kSettingsNode);
+  settings_ = document.FindElement(plugins::keld::kSettingsNode);
 }
 
 std::int32_t MeasuringSettings(const orvik::ITestElement& element) {
@@ -30,4 +30,4 @@ std::string ValueFilter(const orvik::ITestElement& element) {
   return SettingOf(element, SavedSettings::kFilter);
 }
 
-}  // namespace bench
+}  // namespace host::document

@@ -10,13 +10,13 @@
 #include "host/plugins/keld/KeldNames.h"
 #include "host/xml/XmlDocument.h"
 
-namespace bench {
+namespace host::document {
 
 /// The settings of an element as it saves them. The contract offers a host no other access to them.
 class SavedSettings {
  public:
-  static constexpr const char* kOptions = keld_facts::kOptionsAttribute;
-  static constexpr const char* kFilter = keld_facts::kFilterAttribute;
+  static constexpr const char* kOptions = plugins::keld::kOptionsAttribute;
+  static constexpr const char* kFilter = plugins::keld::kFilterAttribute;
 
   explicit SavedSettings(const orvik::IConfigData& configuration);
 
@@ -26,7 +26,7 @@ class SavedSettings {
   const std::shared_ptr<orvik::IXmlNode>& Settings() const { return settings_; }
 
  private:
-  std::shared_ptr<XmlDocument> xml_ = std::make_shared<XmlDocument>();
+  std::shared_ptr<xml::XmlDocument> xml_ = std::make_shared<xml::XmlDocument>();
   std::shared_ptr<orvik::IXmlNode> node_;
   std::shared_ptr<orvik::IXmlNode> settings_;
 };
@@ -37,4 +37,4 @@ std::int32_t MeasuringSettings(const orvik::ITestElement& element);
 /// The name of the filter that gives a group its value; empty for an element without one.
 std::string ValueFilter(const orvik::ITestElement& element);
 
-}  // namespace bench
+}  // namespace host::document

@@ -12,26 +12,26 @@
 #include "host/standards/Units.h"
 #include "host/xml/XmlNode.h"
 
-namespace bench {
+namespace host::document {
 namespace {
 
 void CheckLimit(pugi::xml_node node, const std::optional<std::string>& unit, Findings& findings) {
   NoteUnknown(node, {"Key", "Unit", "Low", "High", "Nominal"}, {}, findings);
   try {
-    Limit().Load(node);
-  } catch (const XmlError& error) {
+    standards::Limit().Load(node);
+  } catch (const xml::XmlError& error) {
     findings.Wrong(node, error.Description());
   }
   const std::string given = node.attribute("Unit").value();
   const std::string key = node.attribute("Key").value();
-  if (unit && key != keld_facts::kLimitKey)
+  if (unit && key != plugins::keld::kLimitKey)
     findings.Wrong(node, Tr("the limit has the key \"%%1\"; the plug-in judges by limits with the key "
                             "\"%%2\" alone",
-                            {key, std::string(keld_facts::kLimitKey)}));
+                            {key, std::string(plugins::keld::kLimitKey)}));
   const bool bounded = *node.attribute("Low").value() || *node.attribute("High").value();
   if (unit && !unit->empty() && bounded && given.empty())
     findings.Wrong(node, Tr("the limit names no unit; readings of the element are recorded in %%1", {*unit}));
-  if (unit && !given.empty() && !SameUnit(given, *unit))
+  if (unit && !given.empty() && !standards::SameUnit(given, *unit))
     findings.Wrong(node, Tr("the bounds are in %%1, but the element is recorded in %%2, and a reading is "
                             "compared with the bare number",
                             {given, unit->empty() ? Tr("no unit") : *unit}));
@@ -55,4 +55,4 @@ void CheckStandards(pugi::xml_node standards, const std::optional<std::string>& 
   }
 }
 
-}  // namespace bench
+}  // namespace host::document

@@ -4,7 +4,7 @@
 #include <pugixml.hpp>
 #include <string>
 
-namespace bench {
+namespace host::document {
 
 class Findings;
 
@@ -12,4 +12,4 @@ class Findings;
 /// @param unit the unit that readings are recorded in and compared with the bounds; none when it is not known
 void CheckStandards(pugi::xml_node standards, const std::optional<std::string>& unit, Findings& findings);
 
-}  // namespace bench
+}  // namespace host::document

@@ -3,7 +3,7 @@
 #include "host/elements/ElementTags.h"
 #include "host/xml/XmlNode.h"
 
-namespace bench {
+namespace host::elements {
 
 void AuxiliaryState::CopyFrom(const AuxiliaryState& other) {
   printElement_ = other.printElement_;
@@ -23,4 +23,4 @@ void AuxiliaryState::Save(pugi::xml_node node) const {
   leftovers_.Restore(node);
 }
 
-}  // namespace bench
+}  // namespace host::elements

@@ -5,7 +5,7 @@
 #include "OrvikTypeLib/IAuxiliaryState.h"
 #include "host/xml/Leftovers.h"
 
-namespace bench {
+namespace host::elements {
 
 /// The host's own settings of an element.
 class AuxiliaryState final : public orvik::IAuxiliaryState {
@@ -28,7 +28,7 @@ class AuxiliaryState final : public orvik::IAuxiliaryState {
 
   bool printElement_ = true;
   bool recordOnly_ = false;
-  Leftovers leftovers_;
+  xml::Leftovers leftovers_;
 };
 
-}  // namespace bench
+}  // namespace host::elements

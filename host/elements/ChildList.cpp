@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-namespace bench {
+namespace host::elements {
 namespace {
 
 /// Releases the children. Their own children queue up here, so a deep tree cannot overflow the stack.
@@ -77,4 +77,4 @@ std::shared_ptr<orvik::ITestEnumerator> ChildList::Walk() {
   return walker;
 }
 
-}  // namespace bench
+}  // namespace host::elements

@@ -8,7 +8,7 @@
 #include "OrvikTypeLib/ITestElement.h"
 #include "OrvikTypeLib/ITestEnumerator.h"
 
-namespace bench {
+namespace host::elements {
 
 /// The ordered children of a container. Enumerators stay valid while children are added and removed, and keep
 /// the list alive.
@@ -36,4 +36,4 @@ class ChildList : public std::enable_shared_from_this<ChildList> {
   std::vector<std::weak_ptr<Walker>> walkers_;
 };
 
-}  // namespace bench
+}  // namespace host::elements

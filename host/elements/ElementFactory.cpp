@@ -6,7 +6,7 @@
 #include "OrvikTypeLib/ITestContainer.h"
 #include "host/base/Text.h"
 
-namespace bench {
+namespace host::elements {
 
 void ElementFactory::AddPlugIn(const std::shared_ptr<orvik::IPlugIn>& plugIn) {
   const auto id = orvik::Required(plugIn).ID();
@@ -75,4 +75,4 @@ std::shared_ptr<orvik::IBaseElement> ElementFactory::BaseOf(
   return found == wrapped_.end() ? nullptr : found->second.lock();
 }
 
-}  // namespace bench
+}  // namespace host::elements

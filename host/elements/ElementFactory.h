@@ -15,7 +15,7 @@
 #include "OrvikTypeLib/IPlugIn.h"
 #include "OrvikTypeLib/ITestElement.h"
 
-namespace bench {
+namespace host::elements {
 
 /// Errors inside elements, for the document: a plug-in's element in between ignores errors step by step, so
 /// they would be lost otherwise.
@@ -108,4 +108,4 @@ class ElementFactory {
   Problems problems_;
 };
 
-}  // namespace bench
+}  // namespace host::elements

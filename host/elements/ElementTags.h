@@ -1,7 +1,7 @@
 #pragma once
 
 /// Tags and attributes of saved elements.
-namespace bench::tags {
+namespace host::elements::tags {
 
 inline constexpr char kTestElement[] = "TestElement";
 inline constexpr char kID[] = "ID";
@@ -31,4 +31,4 @@ inline constexpr char kMeasurement[] = "Measurement";
 inline constexpr char kValue[] = "Value";
 inline constexpr char kUnit[] = "Unit";
 
-}  // namespace bench::tags
+}  // namespace host::elements::tags

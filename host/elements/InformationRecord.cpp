@@ -3,7 +3,7 @@
 #include "host/elements/ElementTags.h"
 #include "host/xml/XmlNode.h"
 
-namespace bench {
+namespace host::elements {
 
 void InformationRecord::CopyFrom(const InformationRecord& other) {
   firstText_ = other.firstText_;
@@ -29,4 +29,4 @@ void InformationRecord::Save(pugi::xml_node node) const {
   leftovers_.Restore(node);
 }
 
-}  // namespace bench
+}  // namespace host::elements

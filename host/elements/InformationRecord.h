@@ -7,7 +7,7 @@
 #include "OrvikTypeLib/IInformationRecord.h"
 #include "host/xml/Leftovers.h"
 
-namespace bench {
+namespace host::elements {
 
 /// The texts by which an element is shown. The second one is the display name until it is set.
 class InformationRecord final : public orvik::IInformationRecord {
@@ -28,7 +28,7 @@ class InformationRecord final : public orvik::IInformationRecord {
   std::string firstText_;
   std::string displayName_;
   std::optional<std::string> secondText_;
-  Leftovers leftovers_;
+  xml::Leftovers leftovers_;
 };
 
-}  // namespace bench
+}  // namespace host::elements

@@ -7,7 +7,7 @@
 #include "OrvikTypeLib/ITestContainer.h"
 #include "host/base/Tr.h"
 
-namespace bench {
+namespace host::elements {
 namespace {
 
 thread_local int levels = 0;
@@ -47,4 +47,4 @@ void RequireShallow(const std::shared_ptr<orvik::ITestElement>& element) {
   }
 }
 
-}  // namespace bench
+}  // namespace host::elements

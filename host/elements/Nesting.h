@@ -4,7 +4,7 @@
 
 #include "OrvikTypeLib/ITestElement.h"
 
-namespace bench {
+namespace host::elements {
 
 /// The deepest nesting of elements that can be cloned, saved and loaded.
 inline constexpr int kDeepestNesting = 1000;
@@ -25,4 +25,4 @@ class Nesting {
 /// has started. Not recursive itself.
 void RequireShallow(const std::shared_ptr<orvik::ITestElement>& element);
 
-}  // namespace bench
+}  // namespace host::elements

@@ -2,10 +2,10 @@
 
 #include "OrvikTypeLib/IObject.h"
 
-namespace bench {
+namespace host::elements {
 
 /// As the context of `ITestElement::PrintReport`, makes a sequence print itself without its children, so that
 /// a report knows which element a table belongs to.
 class PrintAlone final : public orvik::IObject {};
 
-}  // namespace bench
+}  // namespace host::elements

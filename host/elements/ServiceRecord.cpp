@@ -4,7 +4,7 @@
 #include "OrvikTypeLib/IInformationRecord.h"
 #include "host/xml/XmlNode.h"
 
-namespace bench {
+namespace host::elements {
 
 void ServiceRecord::IServiceRecord_Initialize(std::shared_ptr<orvik::IInformationRecord> Information,
                                               const std::string& sCode, const std::string& sValue) {
@@ -15,7 +15,7 @@ void ServiceRecord::IServiceRecord_Initialize(std::shared_ptr<orvik::IInformatio
 
 void ServiceRecord::IServiceRecord_Load(std::shared_ptr<orvik::IXmlNode> Node, std::shared_ptr<IObject>) {
   const char *name = "", *code = "", *value = "";
-  leftovers_.Take(XmlNode::Of(Node).Raw(), {{"Name", name}, {"Code", code}, {"Value", value}}, {});
+  leftovers_.Take(xml::XmlNode::Of(Node).Raw(), {{"Name", name}, {"Code", code}, {"Value", value}}, {});
   name_ = name;
   code_ = code;
   value_ = value;
@@ -24,7 +24,7 @@ void ServiceRecord::IServiceRecord_Load(std::shared_ptr<orvik::IXmlNode> Node, s
 std::shared_ptr<orvik::IXmlNode> ServiceRecord::IServiceRecord_Save(
     std::shared_ptr<orvik::IXmlNode> Parent) const {
   auto saved = orvik::Required(Parent).AddChild("ServiceRecord");
-  const auto node = XmlNode::Of(saved).Raw();
+  const auto node = xml::XmlNode::Of(saved).Raw();
   xml::AddAttribute(node, "Name", name_);
   xml::AddAttribute(node, "Code", code_);
   xml::AddAttribute(node, "Value", value_);
@@ -32,4 +32,4 @@ std::shared_ptr<orvik::IXmlNode> ServiceRecord::IServiceRecord_Save(
   return saved;
 }
 
-}  // namespace bench
+}  // namespace host::elements

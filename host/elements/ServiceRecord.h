@@ -5,7 +5,7 @@
 #include "OrvikTypeLib/IServiceRecord.h"
 #include "host/xml/Leftovers.h"
 
-namespace bench {
+namespace host::elements {
 
 /// The summary of one result, saved as the attributes "Name", "Code" and "Value".
 class ServiceRecord final : public orvik::IServiceRecord {
@@ -22,7 +22,7 @@ class ServiceRecord final : public orvik::IServiceRecord {
   std::string name_;
   std::string code_;
   std::string value_;
-  Leftovers leftovers_;
+  xml::Leftovers leftovers_;
 };
 
-}  // namespace bench
+}  // namespace host::elements

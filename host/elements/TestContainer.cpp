@@ -9,7 +9,7 @@
 #include "host/elements/UnknownElement.h"
 #include "host/xml/XmlNode.h"
 
-namespace bench {
+namespace host::elements {
 namespace {
 
 using orvik::HostError;
@@ -150,7 +150,7 @@ void TestContainer::AddSaved(const std::shared_ptr<orvik::IXmlNode>& element) { 
 
 bool TestContainer::LoadChild(const std::shared_ptr<orvik::IXmlNode>& node,
                               const std::shared_ptr<IObject>& context) {
-  const auto raw = XmlNode::Of(node).Raw();
+  const auto raw = xml::XmlNode::Of(node).Raw();
   auto child = Factory()->CreateForLoad({.plugInId = raw.attribute(tags::kPlugInID).value(),
                                          .testId = xml::NumberAttribute(raw, tags::kTestID),
                                          .classId = raw.attribute(tags::kClass).value()});
@@ -171,4 +171,4 @@ void TestContainer::OuterChanged() {
   for (std::size_t index = 0; index < children_->Size(); ++index) children_->At(index)->SetParent(Shown());
 }
 
-}  // namespace bench
+}  // namespace host::elements

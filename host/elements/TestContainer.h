@@ -6,7 +6,7 @@
 #include "OrvikTypeLib/ITestContainer.h"
 #include "host/elements/TestElement.h"
 
-namespace bench {
+namespace host::elements {
 
 class ChildList;
 
@@ -51,4 +51,4 @@ class TestContainer final : public TestElement, public orvik::ITestContainer {
   std::shared_ptr<ChildList> children_;
 };
 
-}  // namespace bench
+}  // namespace host::elements

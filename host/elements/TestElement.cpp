@@ -16,7 +16,7 @@
 #include "host/elements/Nesting.h"
 #include "host/xml/XmlNode.h"
 
-namespace bench {
+namespace host::elements {
 namespace {
 
 using orvik::HostError;
@@ -26,7 +26,7 @@ constexpr char kElementSource[] = "OrvikTypeLib.TestElement";
 std::shared_ptr<orvik::IXmlNode> ScratchRoot(const std::string& name) {
   auto document = std::make_shared<pugi::xml_document>();
   const auto root = document->append_child(name.c_str());
-  return XmlNode::Create(std::move(document), root);
+  return xml::XmlNode::Create(std::move(document), root);
 }
 
 }  // namespace
@@ -59,7 +59,7 @@ auto TestElement::Noted(std::ptrdiff_t offset, Step step) const {
   try {
     return step();
   } catch (const HostError& error) {
-    const auto* fault = dynamic_cast<const XmlError*>(&error);
+    const auto* fault = dynamic_cast<const xml::XmlError*>(&error);
     if (const auto factory = factory_.lock())
       factory->Trouble().Note(error.Description(), fault ? fault->Offset() : offset);
     throw;
@@ -195,7 +195,7 @@ std::shared_ptr<orvik::IResultData> TestElement::CopyOfResult() const {
 }
 
 void TestElement::ITestElement_Load(std::shared_ptr<orvik::IXmlNode> Node, std::shared_ptr<IObject> Context) {
-  const auto offset = XmlNode::Of(Node).Raw().offset_debug();
+  const auto offset = xml::XmlNode::Of(Node).Raw().offset_debug();
   Noted(offset, [&] {
     const Nesting level;
     const auto name = Node->Name();
@@ -221,9 +221,9 @@ void TestElement::LoadIdentity(pugi::xml_node node) {
 
 void TestElement::LoadElement(const std::shared_ptr<orvik::IXmlNode>& node,
                               const std::shared_ptr<IObject>& context) {
-  const auto& saved = XmlNode::Of(node);
+  const auto& saved = xml::XmlNode::Of(node);
   const auto raw = saved.Raw();
-  XmlReference reference(saved.Document());
+  xml::XmlReference reference(saved.Document());
   LoadIdentity(raw);
   ClearLimits();
   IBaseElement_SetResult(nullptr);
@@ -239,7 +239,7 @@ void TestElement::ClearLimits() {
 }
 
 /// @return false when the part is unknown, or the element cannot hold it
-bool TestElement::LoadPart(pugi::xml_node part, XmlReference& reference,
+bool TestElement::LoadPart(pugi::xml_node part, xml::XmlReference& reference,
                            const std::shared_ptr<IObject>& context) {
   const auto is = [name = part.name()](const char* tag) { return xml::SameName(name, tag); };
   if (is(tags::kInformation)) {
@@ -271,7 +271,7 @@ void TestElement::LoadAuxiliary(pugi::xml_node node) {
 void TestElement::LoadResult(const std::shared_ptr<orvik::IXmlNode>& node,
                              const std::shared_ptr<IObject>& context) {
   orvik::Required(result_).Load(node, context);
-  resultLeftovers_.Take(XmlNode::Of(node).Raw(), {tags::kMTI},
+  resultLeftovers_.Take(xml::XmlNode::Of(node).Raw(), {tags::kMTI},
                         {tags::kStatus, tags::kServiceRecord, tags::kComment, tags::kMeasurement});
 }
 
@@ -287,7 +287,7 @@ std::shared_ptr<orvik::IXmlNode> TestElement::ITestElement_Save(
 }
 
 void TestElement::SaveTo(const std::shared_ptr<orvik::IXmlNode>& node) const {
-  auto raw = XmlNode::Of(node).Raw();
+  auto raw = xml::XmlNode::Of(node).Raw();
   xml::AddAttribute(raw, tags::kID, std::to_string(id_));
   xml::AddAttribute(raw, tags::kTestID, std::to_string(testId_));
   xml::AddAttribute(raw, tags::kPlugInID, plugInId_);
@@ -299,7 +299,7 @@ void TestElement::SaveTo(const std::shared_ptr<orvik::IXmlNode>& node) const {
   if (configuration_) {
     const auto configuration = node->AddChild(tags::kConfiguration);
     configuration_->Save(configuration);
-    configurationLeftovers_.Restore(XmlNode::Of(configuration).Raw());
+    configurationLeftovers_.Restore(xml::XmlNode::Of(configuration).Raw());
   }
   if (limits_) limits_->Save(node);
   if (result_) SaveResult(node);
@@ -312,7 +312,7 @@ void TestElement::SaveResult(const std::shared_ptr<orvik::IXmlNode>& node) const
   if (!saved)
     throw HostError(HostError::kInvalidArgument, kElementSource,
                     Tr("the result of element %%1 could not be saved", {std::to_string(id_)}));
-  resultLeftovers_.Restore(XmlNode::Of(saved).Raw());
+  resultLeftovers_.Restore(xml::XmlNode::Of(saved).Raw());
 }
 
-}  // namespace bench
+}  // namespace host::elements

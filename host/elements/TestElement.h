@@ -10,9 +10,11 @@
 #include "host/elements/InformationRecord.h"
 #include "host/xml/Leftovers.h"
 
-namespace bench {
-
+namespace host::xml {
 class XmlReference;
+}
+
+namespace host::elements {
 
 /// The standard element. Saved as
 ///
@@ -98,7 +100,7 @@ class TestElement : public orvik::IBaseElement {
   void CopyTo(TestElement& copy) const;
   std::shared_ptr<orvik::IResultData> CopyOfResult() const;
   void LoadElement(const std::shared_ptr<orvik::IXmlNode>& node, const std::shared_ptr<IObject>& context);
-  bool LoadPart(pugi::xml_node part, XmlReference& reference, const std::shared_ptr<IObject>& context);
+  bool LoadPart(pugi::xml_node part, xml::XmlReference& reference, const std::shared_ptr<IObject>& context);
   void LoadResult(const std::shared_ptr<orvik::IXmlNode>& node, const std::shared_ptr<IObject>& context);
   void LoadAuxiliary(pugi::xml_node node);
   void ClearLimits();
@@ -120,9 +122,9 @@ class TestElement : public orvik::IBaseElement {
   std::shared_ptr<orvik::IConfigData> configuration_;
   std::shared_ptr<orvik::ILimitData> limits_;
   std::shared_ptr<orvik::IResultData> result_;
-  Leftovers leftovers_;
-  Leftovers configurationLeftovers_;
-  Leftovers resultLeftovers_;
+  xml::Leftovers leftovers_;
+  xml::Leftovers configurationLeftovers_;
+  xml::Leftovers resultLeftovers_;
 };
 
-}  // namespace bench
+}  // namespace host::elements

@@ -7,7 +7,7 @@
 #include "host/base/Tr.h"
 #include "host/standards/ElementLimits.h"
 
-namespace bench {
+namespace host::elements {
 
 const TestKind& TestKinds::Of(const std::string& plugInId, std::int32_t testId, const std::string& classId) {
   const auto [known, added] = known_.try_emplace({testId, classId, plugInId});
@@ -35,8 +35,8 @@ TestKind TestKinds::Learned(const std::string& plugInId, std::int32_t testId,
     kind.fault = Tr("it is of the class \"%%1\", the catalogue's test %%2 of \"%%3\"",
                     {classId, std::to_string(testId), entry->ClassID()});
   else if (const auto limits = entry->Limits())
-    kind.unit = RecordedUnit(*limits);
+    kind.unit = standards::RecordedUnit(*limits);
   return kind;
 }
 
-}  // namespace bench
+}  // namespace host::elements

@@ -8,7 +8,7 @@
 
 #include "host/elements/ElementFactory.h"
 
-namespace bench {
+namespace host::elements {
 
 /// What the catalogue says of an element's test.
 struct TestKind {
@@ -35,4 +35,4 @@ class TestKinds {
   std::map<std::tuple<std::int32_t, std::string, std::string>, TestKind> known_;
 };
 
-}  // namespace bench
+}  // namespace host::elements

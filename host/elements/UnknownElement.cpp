@@ -5,7 +5,7 @@
 #include "host/elements/ElementTags.h"
 #include "host/xml/XmlNode.h"
 
-namespace bench {
+namespace host::elements {
 
 std::shared_ptr<orvik::ITestElement> UnknownElement::ITestElement_Clone() const {
   const auto factory = Factory();
@@ -16,7 +16,7 @@ std::shared_ptr<orvik::ITestElement> UnknownElement::ITestElement_Clone() const 
 }
 
 void UnknownElement::ITestElement_Load(std::shared_ptr<orvik::IXmlNode> Node, std::shared_ptr<IObject>) {
-  const auto node = XmlNode::Of(Node).Raw();
+  const auto node = xml::XmlNode::Of(Node).Raw();
   LoadIdentity(node);
   saved_.reset();
   saved_.append_copy(node);
@@ -27,10 +27,10 @@ void UnknownElement::ITestElement_Load(std::shared_ptr<orvik::IXmlNode> Node, st
 
 std::shared_ptr<orvik::IXmlNode> UnknownElement::ITestElement_Save(
     std::shared_ptr<orvik::IXmlNode> Parent) const {
-  const auto& parent = XmlNode::Of(Parent);
+  const auto& parent = xml::XmlNode::Of(Parent);
   auto node = parent.Raw().append_copy(saved_.document_element());
   xml::SetAttribute(node, tags::kID, std::to_string(ID()));
-  return XmlNode::Create(parent.Document(), node);
+  return xml::XmlNode::Create(parent.Document(), node);
 }
 
-}  // namespace bench
+}  // namespace host::elements

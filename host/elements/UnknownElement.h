@@ -5,7 +5,7 @@
 
 #include "host/elements/TestElement.h"
 
-namespace bench {
+namespace host::elements {
 
 /// A saved element whose plug-in is missing. It is shown as unknown, cannot be run, and is saved as it was
 /// read, with everything below it.
@@ -21,4 +21,4 @@ class UnknownElement final : public TestElement {
   pugi::xml_document saved_;
 };
 
-}  // namespace bench
+}  // namespace host::elements

@@ -16,7 +16,7 @@
 #include "host/base/Tr.h"
 #include "host/qt/Conversions.h"
 
-namespace bench::desktop {
+namespace host::gui {
 
 namespace {
 
@@ -33,7 +33,7 @@ bool StandsBelowChosen(const QTreeWidgetItem& row) {
 
 }  // namespace
 
-AddTestsDialog::AddTestsDialog(const std::vector<CatalogueEntry>& entries, QWidget* parent)
+AddTestsDialog::AddTestsDialog(const std::vector<bench::CatalogueEntry>& entries, QWidget* parent)
     : QDialog(parent), search_(new QLineEdit(this)), tests_(new QTreeWidget(this)) {
   setObjectName("addTests");
   setWindowTitle(qt::ToQt(Tr("Add tests")));
@@ -135,4 +135,4 @@ void AddTestsDialog::Filter(const QString& wanted) {
   }
 }
 
-}  // namespace bench::desktop
+}  // namespace host::gui

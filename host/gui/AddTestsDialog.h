@@ -13,12 +13,12 @@ class QTreeWidget;
 class QTreeWidgetItem;
 class QPushButton;
 
-namespace bench::desktop {
+namespace host::gui {
 
 /// Selects tests of the catalogue, with its groups and a search.
 class AddTestsDialog : public QDialog {
  public:
-  AddTestsDialog(const std::vector<CatalogueEntry>& entries, QWidget* parent);
+  AddTestsDialog(const std::vector<bench::CatalogueEntry>& entries, QWidget* parent);
 
   /// Shows the picture of each test beside its name.
   /// @param pictureOf the bitmap file of a test's picture; empty when it has none
@@ -38,4 +38,4 @@ class AddTestsDialog : public QDialog {
   std::vector<QTreeWidgetItem*> rows_;  ///< as in the catalogue
 };
 
-}  // namespace bench::desktop
+}  // namespace host::gui

@@ -8,7 +8,7 @@
 
 namespace {
 
-using bench::desktop::Ending;
+using host::bench::desktop::Ending;
 
 /// Errors of the host before the window is open come from what was given on the command line.
 Ending EndingOf(const orvik::HostError& error) {
@@ -30,20 +30,20 @@ extern "C" {
 
 __attribute__((visibility("default"))) const char* OrvikDesktopVersion() { return ORVIK_VERSION; }
 
-__attribute__((visibility("default"))) Ending OrvikRunDesktop(const bench::DesktopOptions& options,
+__attribute__((visibility("default"))) Ending OrvikRunDesktop(const host::bench::DesktopOptions& options,
                                                               std::string& reason) {
   try {
-    return bench::desktop::RunDesktop(options) ? Ending::kInOrder : Ending::kLeftOver;
-  } catch (const bench::InputError& error) {
+    return host::gui::RunDesktop(options) ? Ending::kInOrder : Ending::kLeftOver;
+  } catch (const host::bench::InputError& error) {
     reason = error.what();
     return Ending::kBadInput;
-  } catch (const bench::IncompleteError& error) {
+  } catch (const host::bench::IncompleteError& error) {
     reason = error.what();
     return Ending::kNotPossible;
-  } catch (const bench::BusyError& error) {
+  } catch (const host::BusyError& error) {
     reason = error.Description();
     return Ending::kBusy;
-  } catch (const bench::StorageError& error) {
+  } catch (const host::StorageError& error) {
     reason = error.Description();
     return Ending::kNotPossible;
   } catch (const orvik::HostError& error) {

@@ -21,7 +21,7 @@
 #include "host/qt/Screen.h"
 #include "host/run/StopSignals.h"
 
-namespace bench::desktop {
+namespace host::gui {
 
 namespace {
 
@@ -36,7 +36,7 @@ void RequireDisplay() {
     const char* value = std::getenv(variable);
     if (value && *value) return;
   }
-  throw IncompleteError(NoDisplayText());
+  throw bench::IncompleteError(NoDisplayText());
 }
 
 /// Qt aborts the program when the named screen does not answer. Prints the reason instead.
@@ -47,7 +47,7 @@ void ExitOnFatal(QtMsgType type, const QMessageLogContext&, const QString& messa
     return;
   }
   std::cerr << "orvik-bench: " << NoDisplayText() << "\n" << before << message.toStdString() << std::endl;
-  _exit(static_cast<int>(ExitStatus::kIncomplete));
+  _exit(static_cast<int>(bench::ExitStatus::kIncomplete));
 }
 
 /// Qt's objects while the program runs.
@@ -78,22 +78,22 @@ class QtProgram {
 
 }  // namespace
 
-bool RunDesktop(const DesktopOptions& options) {
-  ChooseLanguage(options.language, {files::Translations()});
-  RequireTimeScale(options.timeScale);
+bool RunDesktop(const bench::DesktopOptions& options) {
+  ChooseLanguage(options.language, {bench::files::Translations()});
+  bench::RequireTimeScale(options.timeScale);
   RequireDisplay();
   const QtProgram qt(options.language);
-  const GlobalOptions global{options.state, options.catalogue, options.language};
-  Workbench workbench(global, options.timeScale);
+  const bench::GlobalOptions global{options.state, options.catalogue, options.language};
+  bench::Workbench workbench(global, options.timeScale);
   qt::Screen screen(workbench.Application());
   MainWindow window(workbench, global, [&screen] { screen.Quit(); });
   screen.SetHostWindow(&window);
   screen.SetErrorHandler([&window](const std::string& error) { window.ShowErrorLater(error); });
-  const StopSignals signals(*workbench.Application(), [&window](int) { window.EndByRequest(); });
+  const run::StopSignals signals(*workbench.Application(), [&window](int) { window.EndByRequest(); });
   if (!options.file.empty()) window.Open(options.file);
   window.show();
   screen.Exec();
   return !window.LeftOver();
 }
 
-}  // namespace bench::desktop
+}  // namespace host::gui

@@ -1,12 +1,12 @@
 #pragma once
 
-namespace bench {
+namespace host::bench {
 struct DesktopOptions;
 }
 
-namespace bench::desktop {
+namespace host::gui {
 
 /// Runs the desktop program; see `RunDesktopModule` for what it answers and throws.
-bool RunDesktop(const DesktopOptions& options);
+bool RunDesktop(const bench::DesktopOptions& options);
 
-}  // namespace bench::desktop
+}  // namespace host::gui

@@ -12,11 +12,11 @@
 #include "host/report/drawing/PdfBar.h"
 #include "host/report/drawing/PdfStyle.h"
 
-namespace bench::desktop {
+namespace host::gui {
 
 namespace {
 
-using html::Escaped;
+using report::html::Escaped;
 
 constexpr double kBarTwips = 4200;  ///< width of a bar
 
@@ -30,15 +30,16 @@ constexpr char kTableStart[] =
 
 std::string Lines(const std::string& text) {
   std::string lines;
-  for (const char letter : text) lines += letter == '\n' ? std::string("<br/>") : Escaped({&letter, 1});
+  for (const char letter : text)
+    lines += letter == '\n' ? std::string("<br/>") : report::html::Escaped({&letter, 1});
   return lines;
 }
 
-std::string Heading(const std::string& text) { return "<h3>" + Escaped(text) + "</h3>"; }
+std::string Heading(const std::string& text) { return "<h3>" + report::html::Escaped(text) + "</h3>"; }
 
 std::string Coloured(report::Standing standing, const std::string& text) {
   return "<span style=\"color: " + ColourName(standing).toStdString() + "; font-weight: bold;\">" +
-         html::SignOf(standing) + " " + text + "</span>";
+         report::html::SignOf(standing) + " " + text + "</span>";
 }
 
 std::string StyledCell(const report::Cell& cell) {
@@ -82,22 +83,22 @@ std::string RowsText(const report::Table& table) {
 std::string FactsText(const std::vector<report::Fact>& facts) {
   std::string text = "<table cellpadding=\"2\">";
   for (const auto& fact : facts)
-    text += "<tr><td><span style=\"color: #566072;\">" + Escaped(fact.label) + "</span></td>" +
+    text += "<tr><td><span style=\"color: #566072;\">" + report::html::Escaped(fact.label) + "</span></td>" +
             Cell(Lines(fact.value)) + "</tr>";
   return text + "</table>";
 }
 
 QPixmap BarPicture(const report::Judgement& judgement, const QWidget& screen) {
-  const double scale = screen.logicalDpiX() / static_cast<double>(pdf::kTwipsPerInch);
+  const double scale = screen.logicalDpiX() / static_cast<double>(report::drawing::kTwipsPerInch);
   const double sharp = screen.devicePixelRatioF();
-  const QSizeF size(kBarTwips * scale, pdf::kBarHeight * scale);
+  const QSizeF size(kBarTwips * scale, report::drawing::kBarHeight * scale);
   QPixmap picture((size * sharp).toSize());
   picture.setDevicePixelRatio(sharp);
   picture.fill(Qt::white);
   QPainter painter(&picture);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.scale(scale, scale);
-  pdf::DrawBar(painter, QRectF(0, 0, kBarTwips, pdf::kBarHeight), judgement);
+  report::drawing::DrawBar(painter, QRectF(0, 0, kBarTwips, report::drawing::kBarHeight), judgement);
   return picture;
 }
 
@@ -113,21 +114,22 @@ DetailsView::DetailsView(QWidget* parent) : QTextBrowser(parent) {
 
 void DetailsView::Show(const report::Section& section, const std::vector<std::string>& settings) {
   document()->clear();  // with the pictures of the page before
-  std::string page = "<h2>" + std::to_string(section.id) + "&nbsp; " + Escaped(section.name) + "</h2><p>" +
-                     Coloured(section.standing, Escaped(section.word));
+  std::string page = "<h2>" + std::to_string(section.id) + "&nbsp; " + report::html::Escaped(section.name) +
+                     "</h2><p>" + Coloured(section.standing, report::html::Escaped(section.word));
   if (!section.value.empty())
-    page += " &nbsp; <b>" + Escaped(section.value) + "</b> " + Escaped(section.unit);
+    page +=
+        " &nbsp; <b>" + report::html::Escaped(section.value) + "</b> " + report::html::Escaped(section.unit);
   page += "</p>";
   for (const auto& note : section.notes) page += "<p>" + Coloured(note.standing, Lines(note.text)) + "</p>";
   if (!section.facts.empty()) page += FactsText(section.facts);
   if (!section.judgements.empty()) page += LimitsOf(section);
   if (!settings.empty()) {
     page += Heading(Tr("Settings")) + "<p>";
-    for (const auto& line : settings) page += Escaped(line) + "<br/>";
+    for (const auto& line : settings) page += report::html::Escaped(line) + "<br/>";
     page += "</p>";
   }
   if (!section.readings.rows.empty())
-    page += Heading(parts::WordsOfReport().readings) + TableText(section.readings);
+    page += Heading(report::parts::WordsOfReport().readings) + TableText(section.readings);
   if (!section.tables.empty()) page += Heading(Tr("Record"));
   for (const auto& table : section.tables) page += TableText(table);
   ShowPage(page);
@@ -136,29 +138,32 @@ void DetailsView::Show(const report::Section& section, const std::vector<std::st
 void DetailsView::ShowFacts(const std::string& title, const std::vector<std::string>& facts,
                             const report::Table& runs) {
   document()->clear();
-  std::string page = title.empty() ? "" : "<h2>" + Escaped(title) + "</h2>";
+  std::string page = title.empty() ? "" : "<h2>" + report::html::Escaped(title) + "</h2>";
   for (const auto& fact : facts) page += "<p>" + Lines(fact) + "</p>";
-  if (!runs.rows.empty()) page += Heading(parts::WordsOfReport().runs) + RowsText(runs);
+  if (!runs.rows.empty()) page += Heading(report::parts::WordsOfReport().runs) + RowsText(runs);
   ShowPage(page);
 }
 
 void DetailsView::ShowPage(const std::string& page) { setHtml(qt::ToQt(page)); }
 
 std::string DetailsView::LimitsOf(const report::Section& section) {
-  const auto words = parts::WordsOfReport();
-  std::string text = Heading(words.limits) + kTableStart + "<tr>" + Cell(Escaped(words.standard), true) +
-                     Cell(Escaped(words.bounds), true) + Cell(Escaped(words.judgement), true) + "</tr>";
+  const auto words = report::parts::WordsOfReport();
+  std::string text = Heading(words.limits) + kTableStart + "<tr>" +
+                     Cell(report::html::Escaped(words.standard), true) +
+                     Cell(report::html::Escaped(words.bounds), true) +
+                     Cell(report::html::Escaped(words.judgement), true) + "</tr>";
   for (std::size_t i = 0; i < section.judgements.size(); ++i) {
     const auto& judgement = section.judgements[i];
-    text += "<tr>" + Cell(Escaped(judgement.standard)) + Cell(Escaped(judgement.bounds)) +
-            Cell(Coloured(judgement.standing, Escaped(judgement.word))) + "</tr>";
+    text += "<tr>" + Cell(report::html::Escaped(judgement.standard)) +
+            Cell(report::html::Escaped(judgement.bounds)) +
+            Cell(Coloured(judgement.standing, report::html::Escaped(judgement.word))) + "</tr>";
     if (!judgement.bar) continue;
     const auto name = "bar-" + std::to_string(i);
     document()->addResource(QTextDocument::ImageResource, QUrl(qt::ToQt(name)), BarPicture(judgement, *this));
-    text +=
-        "<tr><td colspan=\"3\"><img src=\"" + name + "\"/><br/>" + Escaped(judgement.inWords) + "</td></tr>";
+    text += "<tr><td colspan=\"3\"><img src=\"" + name + "\"/><br/>" +
+            report::html::Escaped(judgement.inWords) + "</td></tr>";
   }
   return text + "</table>";
 }
 
-}  // namespace bench::desktop
+}  // namespace host::gui

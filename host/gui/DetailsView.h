@@ -6,7 +6,7 @@
 
 #include "host/report/Report.h"
 
-namespace bench::desktop {
+namespace host::gui {
 
 /// One element in full, as a page: result, reasons, what made it, limits with a picture of the value between
 /// its bounds, earlier readings, settings, and the tables that the plug-in prints. Or the document, with its
@@ -25,4 +25,4 @@ class DetailsView : public QTextBrowser {
   std::string LimitsOf(const report::Section& section);
 };
 
-}  // namespace bench::desktop
+}  // namespace host::gui

@@ -14,7 +14,7 @@
 #include "host/base/Tr.h"
 #include "host/qt/Conversions.h"
 
-namespace bench::desktop {
+namespace host::gui {
 
 namespace {
 
@@ -135,4 +135,4 @@ void CloseQuestions() {
   }
 }
 
-}  // namespace bench::desktop
+}  // namespace host::gui

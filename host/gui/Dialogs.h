@@ -9,7 +9,7 @@
 class QWidget;
 
 /// The questions and messages of the window. Each returns when the user has answered.
-namespace bench::desktop {
+namespace host::gui {
 
 void ShowError(QWidget* parent, const std::string& text);
 /// @param details further lines; empty for none
@@ -33,4 +33,4 @@ std::optional<std::filesystem::path> AskForFile(QWidget* parent, const FileDialo
 /// Closes all open questions and messages, as Escape does.
 void CloseQuestions();
 
-}  // namespace bench::desktop
+}  // namespace host::gui

@@ -24,7 +24,7 @@
 #include "host/report/ReportParts.h"
 #include "host/standards/ElementLimits.h"
 
-namespace bench::desktop {
+namespace host::gui {
 
 namespace {
 
@@ -35,40 +35,42 @@ std::vector<std::string> OptionsInWords(std::int32_t bits, std::int32_t testId) 
   if (bits & orvik::OptionBits::kOffersNotApplicable)
     words.push_back(Tr("The guide offers \"not applicable\"."));
   if (bits & orvik::OptionBits::kOffersSkip) words.push_back(Tr("The guide offers \"skip\"."));
-  if (options::SaysLeads(bits, testId)) words.push_back(Tr("Leads: %%1.", {options::LeadsInWords(bits)}));
+  if (bench::options::SaysLeads(bits, testId))
+    words.push_back(Tr("Leads: %%1.", {bench::options::LeadsInWords(bits)}));
   return words;
 }
 
 /// How a sequence's value is made up; the settings hold it in English.
 std::string FilterInWords(const std::string& filter) {
-  for (const auto* known : keld_facts::kFilters)
+  for (const auto* known : plugins::keld::kFilters)
     if (filter == known) return Tr(known);
   return filter;
 }
 
 /// What made the result.
 std::vector<report::Fact> OriginOf(const judge::JudgedElement& element, bool simulated) {
-  using report::VisibleText;
+  using host::VisibleText;
   std::vector<report::Fact> facts;
   if (element.Current()) {
-    parts::AddFact(facts, Tr("Run"), std::to_string(element.run) + (simulated ? ", " + Tr("SIMULATED") : ""));
-    parts::AddFact(facts, Tr("Tested"), parts::MinuteText(element.at));
-    parts::AddFact(facts, Tr("Operator"), VisibleText(element.by));
-    if (element.tester) parts::AddTesters(facts, {*element.tester});
+    report::parts::AddFact(facts, Tr("Run"),
+                           std::to_string(element.run) + (simulated ? ", " + Tr("SIMULATED") : ""));
+    report::parts::AddFact(facts, Tr("Tested"), report::parts::MinuteText(element.at));
+    report::parts::AddFact(facts, Tr("Operator"), VisibleText(element.by));
+    if (element.tester) report::parts::AddTesters(facts, {*element.tester});
   }
-  parts::AddFact(facts, Tr("Comment"), VisibleText(element.comment, report::LineEnds::kKept));
+  report::parts::AddFact(facts, Tr("Comment"), VisibleText(element.comment, host::LineEnds::kKept));
   return facts;
 }
 
 }  // namespace
 
 void DocumentSession::Create(const std::filesystem::path& file) {
-  document_ = Document::Create(workbench_.Host(), file);
+  document_ = document::Document::Create(workbench_.Host(), file);
   openedMark_.reset();  // a new document is worth saving
 }
 
 void DocumentSession::CreateFromThis(const std::filesystem::path& file) {
-  const auto next = Document::Create(workbench_.Host(), file);
+  const auto next = document::Document::Create(workbench_.Host(), file);
   next->AddPlanOf(*document_);
   document_ = next;
   openedMark_.reset();
@@ -78,8 +80,8 @@ void DocumentSession::Open(const std::filesystem::path& file) {
   std::error_code absent;
   // The document holds its file alone, also against ourselves.
   if (document_ && std::filesystem::equivalent(document_->Path(), file, absent)) document_.reset();
-  document_ = Document::Open(workbench_.Host(), file);
-  openedMark_ = Document::MarkOf(document_->Text());
+  document_ = document::Document::Open(workbench_.Host(), file);
+  openedMark_ = document::Document::MarkOf(document_->Text());
 }
 
 void DocumentSession::SaveAs(const std::filesystem::path& file) {
@@ -91,7 +93,7 @@ bool DocumentSession::Changed() const {
   if (!document_) return false;
   const auto saved = document_->SavedMark();
   try {
-    return Document::MarkOf(document_->Text()) != (saved ? saved : openedMark_);
+    return document::Document::MarkOf(document_->Text()) != (saved ? saved : openedMark_);
   } catch (const orvik::HostError&) {
     return true;  // saving reports the reason
   }
@@ -112,28 +114,30 @@ std::string DocumentSession::Device() const {
   return kind.empty() ? number : number + " (" + Joined(kind, " ") + ")";
 }
 
-DocumentView DocumentSession::View() const { return ViewOf(*document_, *workbench_.Host()); }
+report::DocumentView DocumentSession::View() const { return report::ViewOf(*document_, *workbench_.Host()); }
 
-std::vector<report::Section> DocumentSession::Sections(const DocumentView& view,
+std::vector<report::Section> DocumentSession::Sections(const report::DocumentView& view,
                                                        const std::vector<std::int32_t>& ids) const {
-  auto sections = SectionsOf(*document_, *workbench_.Host(), view, ids);
+  auto sections = report::SectionsOf(*document_, *workbench_.Host(), view, ids);
   for (auto& section : sections)
     if (const auto* element = view.judged.Find(section.id))
       section.facts = OriginOf(*element, view.judged.simulated);
   return sections;
 }
 
-report::Table DocumentSession::Runs(const DocumentView& view) const { return RunsOf(*document_, view); }
+report::Table DocumentSession::Runs(const report::DocumentView& view) const {
+  return report::RunsOf(*document_, view);
+}
 
 std::vector<std::string> DocumentSession::Settings(std::int32_t id) const {
   const auto element = document_->Find(id);
   const auto configuration = element ? element->Configuration() : nullptr;
   if (!configuration) return {};
-  const SavedSettings saved(*configuration);
+  const document::SavedSettings saved(*configuration);
   if (!saved.Settings()) return {};
-  auto words = OptionsInWords(std::atoi(saved.Settings()->Attribute(SavedSettings::kOptions).c_str()),
-                              element->TestID());
-  const auto filter = saved.Settings()->Attribute(SavedSettings::kFilter);
+  auto words = OptionsInWords(
+      std::atoi(saved.Settings()->Attribute(document::SavedSettings::kOptions).c_str()), element->TestID());
+  const auto filter = saved.Settings()->Attribute(document::SavedSettings::kFilter);
   if (orvik::As<orvik::ITestContainer>(element) && !filter.empty())
     words.push_back(Tr("Value of the sequence: %%1.", {FilterInWords(filter)}));
   return words;
@@ -152,36 +156,37 @@ bool DocumentSession::IsRecordOnly(std::int32_t id) const {
 }
 
 void DocumentSession::SetRecordOnly(std::int32_t id, bool recordOnly) {
-  MarkRecordOnly(Found(id), *workbench_.Host()->Elements(), recordOnly);
+  bench::MarkRecordOnly(Found(id), *workbench_.Host()->Elements(), recordOnly);
 }
 
 bool DocumentSession::HasLimits(std::int32_t id) const {
   const auto limits = Found(id)->Limits();
-  return limits && !LimitsOf(*limits).empty();
+  return limits && !standards::LimitsOf(*limits).empty();
 }
 
 void DocumentSession::RemoveLimits(std::int32_t id) {
   if (const auto limits = Found(id)->Limits())
-    RemoveStandards(*limits, [](const orvik::IStandard&) { return true; });
+    standards::RemoveStandards(*limits, [](const orvik::IStandard&) { return true; });
 }
 
-AppliedLimits DocumentSession::ApplySet(const LimitSet& set, std::optional<std::int32_t> id) {
-  const auto elements = id ? std::vector<Element>{Found(*id)} : TopElements(*document_);
-  auto result = ApplyLimitSet(set, elements, *workbench_.Host()->Elements());
+bench::AppliedLimits DocumentSession::ApplySet(const standards::LimitSet& set,
+                                               std::optional<std::int32_t> id) {
+  const auto elements = id ? std::vector<Element>{Found(*id)} : report::TopElements(*document_);
+  auto result = bench::ApplyLimitSet(set, elements, *workbench_.Host()->Elements());
   if (result.applied.empty())
-    throw InputError(Tr("%%1: the set covers none of these elements", {set.Name()}));
+    throw bench::InputError(Tr("%%1: the set covers none of these elements", {set.Name()}));
   return result;
 }
 
 void DocumentSession::WriteReport(const std::filesystem::path& out) const {
-  CheckReportFile(document_->Path(), out);
-  bench::WriteReport(ReportOf(*document_, *workbench_.Host(), options_.language), out);
+  bench::CheckReportFile(document_->Path(), out);
+  bench::WriteReport(report::ReportOf(*document_, *workbench_.Host(), options_.language), out);
 }
 
 Element DocumentSession::Found(std::int32_t id) const {
   auto element = document_->Find(id);
-  if (!element) throw InputError(Tr("The document has no element %%1.", {std::to_string(id)}));
+  if (!element) throw bench::InputError(Tr("The document has no element %%1.", {std::to_string(id)}));
   return element;
 }
 
-}  // namespace bench::desktop
+}  // namespace host::gui

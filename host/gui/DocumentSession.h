@@ -14,20 +14,20 @@
 #include "host/report/DocumentView.h"
 #include "host/report/Report.h"
 
-namespace bench::desktop {
+namespace host::gui {
 
 /// The document that is open and the operations on it: the procedures of the command line, with the same
 /// errors. Everything but `Create`, `Open` and `HasDocument` needs an open document.
 class DocumentSession {
  public:
-  DocumentSession(Workbench& workbench, GlobalOptions options)
+  DocumentSession(bench::Workbench& workbench, bench::GlobalOptions options)
       : workbench_(workbench), options_(std::move(options)) {}
 
-  Workbench& Bench() { return workbench_; }
-  const GlobalOptions& Options() const { return options_; }
+  bench::Workbench& Bench() { return workbench_; }
+  const bench::GlobalOptions& Options() const { return options_; }
 
   bool HasDocument() const { return document_ != nullptr; }
-  Document& TheDocument() const { return *document_; }
+  document::Document& TheDocument() const { return *document_; }
   /// Starts a new document in place of the open one; saving it creates the file.
   void Create(const std::filesystem::path& file);
   /// Starts a document for the next device, with tests, settings, limits and marks of the open one, without
@@ -49,10 +49,11 @@ class DocumentSession {
   /// else the document's file.
   std::string Device() const;
 
-  DocumentView View() const;
+  report::DocumentView View() const;
   /// The elements' sections of a report, with the run that made each result.
-  std::vector<report::Section> Sections(const DocumentView& view, const std::vector<std::int32_t>& ids) const;
-  report::Table Runs(const DocumentView& view) const;
+  std::vector<report::Section> Sections(const report::DocumentView& view,
+                                        const std::vector<std::int32_t>& ids) const;
+  report::Table Runs(const report::DocumentView& view) const;
   /// The element's settings in words.
   std::vector<std::string> Settings(std::int32_t id) const;
 
@@ -61,7 +62,7 @@ class DocumentSession {
   /// Removes the element with everything below it.
   void Remove(std::int32_t id);
   /// Judges the document as it is before a change.
-  Consequences BeforeChange() const { return Consequences(*document_, *workbench_.Host()); }
+  bench::Consequences BeforeChange() const { return bench::Consequences(*document_, *workbench_.Host()); }
   bool IsRecordOnly(std::int32_t id) const;
   /// `InputError` for a mark that the element's limits contradict.
   void SetRecordOnly(std::int32_t id, bool recordOnly);
@@ -70,16 +71,16 @@ class DocumentSession {
   void RemoveLimits(std::int32_t id);
   /// Gives an element, or all without one, and those below it the limits of the set. `InputError` if the set
   /// covers none of them.
-  AppliedLimits ApplySet(const LimitSet& set, std::optional<std::int32_t> id);
+  bench::AppliedLimits ApplySet(const standards::LimitSet& set, std::optional<std::int32_t> id);
   void WriteReport(const std::filesystem::path& out) const;
 
  private:
   std::shared_ptr<orvik::ITestElement> Found(std::int32_t id) const;
 
-  Workbench& workbench_;
-  const GlobalOptions options_;
-  std::shared_ptr<Document> document_;
+  bench::Workbench& workbench_;
+  const bench::GlobalOptions options_;
+  std::shared_ptr<document::Document> document_;
   std::optional<std::size_t> openedMark_;  ///< of the document as it was opened
 };
 
-}  // namespace bench::desktop
+}  // namespace host::gui

@@ -14,7 +14,7 @@
 #include "host/report/DocumentText.h"
 #include "host/report/ReportParts.h"
 
-namespace bench::desktop {
+namespace host::gui {
 
 namespace {
 
@@ -24,11 +24,13 @@ constexpr int kColumnRoom = 12, kWidest = 400;  ///< of a column, in pixels
 constexpr int kParent = Qt::UserRole + 1;
 constexpr int kHalfLight = 128;
 
-QString VisibleInTree(const std::string& text) { return qt::ToQt(report::VisibleText(text)); }
+QString VisibleInTree(const std::string& text) { return qt::ToQt(host::VisibleText(text)); }
 
-QString TipOf(const std::string& text) { return qt::PlainToolTip(report::VisibleText(text)); }
+QString TipOf(const std::string& text) { return qt::PlainToolTip(host::VisibleText(text)); }
 
-std::string RemarkOf(const judge::JudgedElement& element) { return Joined(ReasonTexts(element), "; "); }
+std::string RemarkOf(const judge::JudgedElement& element) {
+  return Joined(report::ReasonTexts(element), "; ");
+}
 
 /// The colours of results are readable on white only; on a dark background only the sign has them.
 QBrush ColourIn(const QTreeWidget& tree, report::Standing standing) {
@@ -59,9 +61,9 @@ ElementTree::RowText RowTextOf(const judge::JudgedElement& element, bool running
   return {element.id,
           element.name,
           running ? Tr("running") : Tr(judge::VerdictText(element.verdict)),
-          ReadingText(element),
+          report::ReadingText(element),
           RemarkOf(element),
-          parts::StandingOf(element),
+          report::parts::StandingOf(element),
           running};
 }
 
@@ -154,4 +156,4 @@ void ElementTree::Build(const judge::JudgedDocument& document) {
   if (chosen) Choose(*chosen);
 }
 
-}  // namespace bench::desktop
+}  // namespace host::gui

@@ -10,7 +10,7 @@
 #include "host/report/DocumentView.h"
 #include "host/report/Report.h"
 
-namespace bench::desktop {
+namespace host::gui {
 
 /// The elements of a document in its order, sequences with their elements: number, name, result as sign,
 /// colour and word, value, and remark.
@@ -46,4 +46,4 @@ class ElementTree : public QTreeWidget {
   std::vector<RowText> texts_;          ///< of the rows
 };
 
-}  // namespace bench::desktop
+}  // namespace host::gui

@@ -8,7 +8,7 @@
 #include "host/gui/PlainTextValidator.h"
 #include "host/qt/Conversions.h"
 
-namespace bench::desktop {
+namespace host::gui {
 
 EquipmentBar::EquipmentBar(std::function<void()> edited, QWidget* parent) : QWidget(parent) {
   auto* layout = new QHBoxLayout(this);
@@ -33,7 +33,7 @@ EquipmentBar::EquipmentBar(std::function<void()> edited, QWidget* parent) : QWid
   model_ = add("model", Tr("Model"));
 }
 
-void EquipmentBar::Show(const Document::Equipment& equipment) {
+void EquipmentBar::Show(const document::Document::Equipment& equipment) {
   asset_->setText(qt::ToQt(equipment.asset));
   serial_->setText(qt::ToQt(equipment.serial));
   maker_->setText(qt::ToQt(equipment.maker));
@@ -45,9 +45,9 @@ void EquipmentBar::FocusOnAsset() {
   asset_->selectAll();
 }
 
-Document::Equipment EquipmentBar::Entered() const {
+document::Document::Equipment EquipmentBar::Entered() const {
   return {asset_->text().toStdString(), serial_->text().toStdString(), maker_->text().toStdString(),
           model_->text().toStdString()};
 }
 
-}  // namespace bench::desktop
+}  // namespace host::gui

@@ -7,7 +7,7 @@
 
 class QLineEdit;
 
-namespace bench::desktop {
+namespace host::gui {
 
 /// Fields for the equipment under test.
 class EquipmentBar : public QWidget {
@@ -15,8 +15,8 @@ class EquipmentBar : public QWidget {
   /// @param edited called when the user changes a field
   EquipmentBar(std::function<void()> edited, QWidget* parent);
 
-  void Show(const Document::Equipment& equipment);
-  Document::Equipment Entered() const;
+  void Show(const document::Document::Equipment& equipment);
+  document::Document::Equipment Entered() const;
   /// Moves the focus to the asset number and selects it, so that a scan replaces it.
   void FocusOnAsset();
 
@@ -27,4 +27,4 @@ class EquipmentBar : public QWidget {
   QLineEdit* model_;
 };
 
-}  // namespace bench::desktop
+}  // namespace host::gui

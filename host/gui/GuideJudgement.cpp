@@ -4,7 +4,7 @@
 #include "host/base/Tr.h"
 #include "host/report/HtmlText.h"
 
-namespace bench::desktop {
+namespace host::gui {
 
 namespace {
 
@@ -15,7 +15,7 @@ using TextLines = std::vector<std::string>;
 constexpr std::size_t kMostLines = 6;  ///< the guide must fit on a small screen
 
 std::string Signed(Standing standing, const std::string& text) {
-  return std::string(html::PlainSignOf(standing)) + " " + text;
+  return std::string(report::html::PlainSignOf(standing)) + " " + text;
 }
 
 std::string VerdictLine(const Section& section) {
@@ -48,4 +48,4 @@ std::string GuideJudgement(const std::vector<Section>& sections) {
   return Joined(lines, "\n");
 }
 
-}  // namespace bench::desktop
+}  // namespace host::gui

@@ -9,7 +9,7 @@
 #include "host/base/Tr.h"
 #include "host/qt/Conversions.h"
 
-namespace bench::desktop {
+namespace host::gui {
 
 namespace {
 
@@ -18,7 +18,8 @@ constexpr int kPlace = Qt::UserRole;  ///< of the set in the list
 
 }  // namespace
 
-LimitSetDialog::LimitSetDialog(std::vector<LimitSets::Entry> sets, const QString& chosen, QWidget* parent)
+LimitSetDialog::LimitSetDialog(std::vector<standards::LimitSets::Entry> sets, const QString& chosen,
+                               QWidget* parent)
     : QDialog(parent),
       sets_(std::move(sets)),
       list_(new QTreeWidget(this)),
@@ -71,7 +72,7 @@ LimitSetDialog::LimitSetDialog(std::vector<LimitSets::Entry> sets, const QString
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 }
 
-const LimitSet* LimitSetDialog::Set() const {
+const standards::LimitSet* LimitSetDialog::Set() const {
   const auto chosen = list_->selectedItems();
   if (chosen.isEmpty()) return nullptr;
   const auto& set = sets_[static_cast<std::size_t>(chosen.first()->data(0, kPlace).toInt())].set;
@@ -80,4 +81,4 @@ const LimitSet* LimitSetDialog::Set() const {
 
 bool LimitSetDialog::ForAll() const { return all_->isChecked(); }
 
-}  // namespace bench::desktop
+}  // namespace host::gui

@@ -31,7 +31,7 @@
 #include "host/gui/VerdictBar.h"
 #include "host/qt/Conversions.h"
 
-namespace bench::desktop {
+namespace host::gui {
 
 namespace {
 
@@ -48,7 +48,8 @@ QLabel* LabelFor(QWidget* box, const std::string& text) {
 
 }  // namespace
 
-MainWindow::MainWindow(Workbench& workbench, const GlobalOptions& options, std::function<void()> quit)
+MainWindow::MainWindow(bench::Workbench& workbench, const bench::GlobalOptions& options,
+                       std::function<void()> quit)
     : session_(workbench, options), quit_(std::move(quit)) {
   setObjectName("main");
   FitToScreen();
@@ -89,8 +90,9 @@ void MainWindow::Open(const std::filesystem::path& file) {
 
 void MainWindow::ShowOpened() {
   beforeEdit_.reset();
-  equipment_->Show(session_.HasDocument() ? session_.TheDocument().equipment : Document::Equipment{});
-  Remark(TimeScaleRemark(session_.Bench().TimeScale()));
+  equipment_->Show(session_.HasDocument() ? session_.TheDocument().equipment
+                                          : document::Document::Equipment{});
+  Remark(bench::TimeScaleRemark(session_.Bench().TimeScale()));
   Refresh();
   FocusForScan();
 }
@@ -228,7 +230,7 @@ void MainWindow::MakeToolbars() {
   tester_->OnChosen([this] { FocusForScan(); });
   run->addAction(actions_.calibrate);
   run->addSeparator();
-  operator_ = new QLineEdit(qt::ToQt(OperatorName({})), run);
+  operator_ = new QLineEdit(qt::ToQt(bench::OperatorName({})), run);
   operator_->setObjectName("operator");
   operator_->setValidator(new PlainTextValidator(operator_));
   operator_->setAccessibleName(qt::ToQt(Tr("Operator")));
@@ -295,9 +297,9 @@ void MainWindow::Try(const std::function<void()>& work) {
     work();
   } catch (const orvik::HostError& error) {
     failure = error.Description();
-  } catch (const InputError& error) {
+  } catch (const bench::InputError& error) {
     failure = error.what();
-  } catch (const IncompleteError& error) {
+  } catch (const bench::IncompleteError& error) {
     failure = error.what();
   } catch (const std::exception& error) {
     failure = Tr("internal error: %%1", {error.what()});
@@ -344,4 +346,4 @@ void MainWindow::CloseWindow() {
   quit_();
 }
 
-}  // namespace bench::desktop
+}  // namespace host::gui

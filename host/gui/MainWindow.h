@@ -17,11 +17,11 @@ class QProgressBar;
 class QTimer;
 class QToolBar;
 
-namespace bench {
+namespace host::serial {
 class WireLog;
 }
 
-namespace bench::desktop {
+namespace host::gui {
 
 class DetailsView;
 class ElementTree;
@@ -38,7 +38,7 @@ class VerdictBar;
 class MainWindow : public QMainWindow {
  public:
   /// @param quit called after the window has closed
-  MainWindow(Workbench& workbench, const GlobalOptions& options, std::function<void()> quit);
+  MainWindow(bench::Workbench& workbench, const bench::GlobalOptions& options, std::function<void()> quit);
   ~MainWindow() override;
 
   /// Opens a document. Throws on errors.
@@ -131,10 +131,10 @@ class MainWindow : public QMainWindow {
   void RunAll() { Run({}); }
   void Resume();
   void RunSelected();
-  void Run(RunSelection selection);
+  void Run(bench::RunSelection selection);
   bool MayReplaceResults(const std::vector<std::shared_ptr<orvik::ITestElement>>& elements);
-  void PerformRun(const std::vector<std::shared_ptr<orvik::ITestElement>>& elements, WireLog& log,
-                  const TesterConnection& tester);
+  void PerformRun(const std::vector<std::shared_ptr<orvik::ITestElement>>& elements, serial::WireLog& log,
+                  const bench::TesterConnection& tester);
   /// Shows the run now, or a little later if it was shown just before: judging a large document takes time,
   /// and the window must respond.
   void RunChanged();
@@ -142,7 +142,7 @@ class MainWindow : public QMainWindow {
   /// Shows how each standard judged the readings in the guide, whose own list shows the limits of one
   /// standard.
   void ShowJudgementInGuide();
-  void ShowEnd(DocumentRunner::End end, const std::string& reason);
+  void ShowEnd(run::DocumentRunner::End end, const std::string& reason);
   void Stop() { state_.Stop(); }
   void Calibrate();
   void SubscribeToCalibrations();
@@ -166,10 +166,10 @@ class MainWindow : public QMainWindow {
   QTimer* progressTimer_ = nullptr;
 
   WindowState state_;
-  DocumentView view_;                       ///< the document as it is shown
-  std::optional<Consequences> beforeEdit_;  ///< before the first letter was typed into the equipment
-  RunProgress* progress_ = nullptr;         ///< during a run
-  bool runChanged_ = false;                 ///< since it was shown
+  report::DocumentView view_;                      ///< the document as it is shown
+  std::optional<bench::Consequences> beforeEdit_;  ///< before the first letter was typed into the equipment
+  RunProgress* progress_ = nullptr;                ///< during a run
+  bool runChanged_ = false;                        ///< since it was shown
   orvik::platform::Time runShown_{};
   std::vector<std::string> pendingErrors_;  ///< of `ShowErrorLater`
   bool reportingErrors_ = false;
@@ -177,4 +177,4 @@ class MainWindow : public QMainWindow {
   orvik::platform::Subscription leadsStored_, leadsRefused_;
 };
 
-}  // namespace bench::desktop
+}  // namespace host::gui

@@ -20,14 +20,14 @@
 #include "host/qt/Conversions.h"
 #include "platform/IForm.h"
 
-namespace bench::desktop {
+namespace host::gui {
 
 namespace {
 
 std::string DocumentKinds() { return Tr("Test documents (*.orvik)") + ";;" + Tr("All files (*)"); }
 
 /// "IEC 62353, 2014, class I:" and a line for each limit.
-std::string LinesOf(const LimitSet& set, const AppliedLimits& limits) {
+std::string LinesOf(const standards::LimitSet& set, const bench::AppliedLimits& limits) {
   std::string lines = set.standard + ", " + set.Description() + ":\n";
   for (const auto& line : limits.applied) lines += "  " + line + "\n";
   if (!limits.uncovered.empty()) lines += "\n" + Tr("Not covered by this set:") + "\n";
@@ -83,12 +83,12 @@ void MainWindow::ShowSaved() {
 }
 
 void MainWindow::AddTests() {
-  const auto entries = CatalogueEntries(session_.Bench());
+  const auto entries = bench::CatalogueEntries(session_.Bench());
   if (entries.empty())
-    throw InputError(Tr(
+    throw bench::InputError(Tr(
         "the catalogue has no tests; see error.log in the state folder, or name another with --catalogue"));
   AddTestsDialog dialog(entries, this);
-  dialog.ShowPictures([this](std::int32_t testId) { return PictureOf(session_.Bench(), testId); });
+  dialog.ShowPictures([this](std::int32_t testId) { return bench::PictureOf(session_.Bench(), testId); });
   if (dialog.exec() != QDialog::Accepted) return;
   const auto last = session_.AddTests(dialog.Chosen());
   Refresh();
@@ -99,7 +99,7 @@ void MainWindow::Remove() {
   const auto id = tree_->Chosen();
   if (!id) return;
   const auto element = session_.TheDocument().Find(*id);
-  const auto name = ElementName(*element, *session_.Bench().Host()->Elements());
+  const auto name = document::ElementName(*element, *session_.Bench().Host()->Elements());
   if (Ask(this,
           Tr("Remove test %%1, %%2, from %%3, with its result and everything in it?",
              {std::to_string(*id), name, session_.Device()}),
@@ -111,9 +111,9 @@ void MainWindow::Remove() {
 void MainWindow::SetLimits() {
   const auto id = tree_->Chosen();
   const auto element = id ? session_.TheDocument().Find(*id) : nullptr;
-  const auto name = element ? ElementName(*element, *session_.Bench().Host()->Elements()) : "";
-  LimitSetDialog dialog(LimitSets(files::StandardsFolders(session_.Options().state)).All(), qt::ToQt(name),
-                        this);
+  const auto name = element ? document::ElementName(*element, *session_.Bench().Host()->Elements()) : "";
+  LimitSetDialog dialog(standards::LimitSets(bench::files::StandardsFolders(session_.Options().state)).All(),
+                        qt::ToQt(name), this);
   if (dialog.exec() != QDialog::Accepted) return;
   const auto& set = *dialog.Set();
   const auto before = session_.BeforeChange();
@@ -128,7 +128,8 @@ void MainWindow::SetLimits() {
 void MainWindow::RemoveLimits() {
   const auto id = tree_->Chosen();
   if (!id) return;
-  const auto name = ElementName(*session_.TheDocument().Find(*id), *session_.Bench().Host()->Elements());
+  const auto name =
+      document::ElementName(*session_.TheDocument().Find(*id), *session_.Bench().Host()->Elements());
   if (Ask(this,
           Tr("Remove all limits of test %%1, %%2? Its readings are then judged by none.",
              {std::to_string(*id), name}),
@@ -142,8 +143,8 @@ void MainWindow::SetRecordOnly() {
   if (!id) return;
   const bool mark = !session_.IsRecordOnly(*id);
   if (mark && session_.HasLimits(*id))
-    throw InputError(Tr("Test %%1 has limits, so its readings are judged. Remove its limits first.",
-                        {std::to_string(*id)}));
+    throw bench::InputError(Tr("Test %%1 has limits, so its readings are judged. Remove its limits first.",
+                               {std::to_string(*id)}));
   Change([&] { session_.SetRecordOnly(*id, mark); });
 }
 
@@ -153,7 +154,7 @@ void MainWindow::SetUp() {
   const auto configuration = session_.TheDocument().Find(*id)->Configuration();
   const auto dialog = configuration ? configuration->CreateDialog() : nullptr;
   const auto window = orvik::As<orvik::IDialogForm>(dialog);
-  if (!window) throw InputError(Tr("Element %%1 has no settings.", {std::to_string(*id)}));
+  if (!window) throw bench::InputError(Tr("Element %%1 has no settings.", {std::to_string(*id)}));
   Change([&] {
     {
       const auto settingUp =
@@ -182,7 +183,7 @@ void MainWindow::Report() {
 void MainWindow::AddToArchive() {
   if (session_.Changed()) Save();
   const auto file = session_.TheDocument().Path().string();
-  const auto entry = EntryOf(file, session_.Bench());
+  const auto entry = bench::EntryOf(file, session_.Bench());
   if (entry.entry.simulated && Ask(this,
                                    Tr("%%1 was run on a simulated tester; nothing was measured. Add it to "
                                       "the archive all the same? It "
@@ -190,14 +191,14 @@ void MainWindow::AddToArchive() {
                                       {file}),
                                    {Tr("Add it as it is"), Tr("Cancel")}) != 0)
     return;
-  const auto reason = UnfinishedReason(entry);
+  const auto reason = bench::UnfinishedReason(entry);
   if (!reason.empty() &&
       Ask(this,
           Tr("%%1 is not finished: %%2. Add it to the archive as it is? It is marked there.", {file, reason}),
           {Tr("Add it as it is"), Tr("Cancel")}) != 0)
     return;
-  auto archive = OpenArchiveToAdd({}, session_.Options());
-  ShowMessage(this, ReceiptText(entry, file, archive.Add(entry)));
+  auto archive = bench::OpenArchiveToAdd({}, session_.Options());
+  ShowMessage(this, bench::ReceiptText(entry, file, archive.Add(entry)));
 }
 
 bool MainWindow::MayLeaveDocument() {
@@ -225,4 +226,4 @@ std::filesystem::path MainWindow::Folder() const {
                                 : std::filesystem::current_path();
 }
 
-}  // namespace bench::desktop
+}  // namespace host::gui

@@ -19,7 +19,7 @@
 #include "host/run/GuideToolbar.h"
 #include "platform/IForm.h"
 
-namespace bench::desktop {
+namespace host::gui {
 
 namespace {
 
@@ -29,7 +29,7 @@ constexpr std::chrono::milliseconds kRefreshInterval(250);
 }  // namespace
 
 void MainWindow::Resume() {
-  RunSelection selection;
+  bench::RunSelection selection;
   selection.resume = true;
   Run(selection);
 }
@@ -38,18 +38,19 @@ void MainWindow::RunSelected() {
   if (const auto id = tree_->Chosen()) Run({.file = {}, .elements = {*id}, .standards = {}, .resume = false});
 }
 
-void MainWindow::Run(RunSelection selection) {
+void MainWindow::Run(bench::RunSelection selection) {
   if (!session_.HasDocument()) return;
   auto& document = session_.TheDocument();
   selection.file = document.Path().string();
-  const auto selected = SelectedElements(document, selection);
+  const auto selected = bench::SelectedElements(document, selection);
   // A missing tester, or one of the other kind, must leave the document unchanged.
-  const TesterConnection tester(tester_->Choice(), session_.Bench().Ports());
-  RequireOneKindOfRuns(document, tester.Simulated());
+  const bench::TesterConnection tester(tester_->Choice(), session_.Bench().Ports());
+  bench::RequireOneKindOfRuns(document, tester.Simulated());
   if (!selection.resume && !MayReplaceResults(selected)) return;
-  WireLog log(selection.file + ".wire.log");
-  SelectStandards(document, *session_.Bench().Host(), selection);
-  const auto elements = selection.resume ? Unfinished(selected, document, session_.View().judged) : selected;
+  serial::WireLog log(selection.file + ".wire.log");
+  bench::SelectStandards(document, *session_.Bench().Host(), selection);
+  const auto elements =
+      selection.resume ? bench::Unfinished(selected, document, session_.View().judged) : selected;
   // The selected standards may have changed.
   Refresh();
   if (elements.empty()) return ShowMessage(this, Tr("Every element has a result; nothing is left to run."));
@@ -59,7 +60,7 @@ void MainWindow::Run(RunSelection selection) {
 }
 
 bool MainWindow::MayReplaceResults(const std::vector<std::shared_ptr<orvik::ITestElement>>& elements) {
-  const auto part = JudgedPart(session_.View().judged, elements);
+  const auto part = report::JudgedPart(session_.View().judged, elements);
   const bool some =
       std::any_of(part.elements.begin(), part.elements.end(), [](const judge::JudgedElement& element) {
         return element.Current() && element.verdict != judge::Verdict::kNotTested;
@@ -71,22 +72,22 @@ bool MainWindow::MayReplaceResults(const std::vector<std::shared_ptr<orvik::ITes
                       {Tr("Run again"), Tr("Cancel")}) == 0;
 }
 
-void MainWindow::PerformRun(const std::vector<std::shared_ptr<orvik::ITestElement>>& elements, WireLog& log,
-                            const TesterConnection& tester) {
+void MainWindow::PerformRun(const std::vector<std::shared_ptr<orvik::ITestElement>>& elements,
+                            serial::WireLog& log, const bench::TesterConnection& tester) {
   auto& bench = session_.Bench();
   RunProgress progress(
       *bench.Application(), bench.TimeScale(), [this] { RunChanged(); },
       [this](const std::string& text) { Remark(text); });
-  RunSession session(bench, session_.TheDocument(), log, progress, tester,
-                     OperatorName(operator_->text().toStdString()));
+  bench::RunSession session(bench, session_.TheDocument(), log, progress, tester,
+                            bench::OperatorName(operator_->text().toStdString()));
   Remark({});
   beforeEdit_.reset();
-  auto end = DocumentRunner::End::kFinished;
+  auto end = run::DocumentRunner::End::kFinished;
   {
     const auto running = state_.Begin(WindowState::Activity::kRunning, [&session] { session.AskToStop(); });
     const ProgressDisplay display(*this, progress);
     Refresh();
-    end = session.Run(elements, std::make_unique<ScreenOperator>(bench.Application()));
+    end = session.Run(elements, std::make_unique<bench::ScreenOperator>(bench.Application()));
   }
   runChanged_ = false;
   Refresh();
@@ -111,7 +112,7 @@ void MainWindow::ShowRun() {
 void MainWindow::ShowJudgementInGuide() {
   if (!progress_) return;
   const auto sections = session_.Sections(view_, progress_->FinishedInGuide());
-  ShowJudgement(*session_.Bench().Application(), GuideJudgement(sections));
+  run::ShowJudgement(*session_.Bench().Application(), GuideJudgement(sections));
 }
 
 MainWindow::ProgressDisplay::ProgressDisplay(MainWindow& window, RunProgress& progress) : window_(window) {
@@ -126,25 +127,25 @@ MainWindow::ProgressDisplay::~ProgressDisplay() {
   window_.progress_ = nullptr;
 }
 
-void MainWindow::ShowEnd(DocumentRunner::End end, const std::string& reason) {
+void MainWindow::ShowEnd(run::DocumentRunner::End end, const std::string& reason) {
   switch (end) {
-    case DocumentRunner::End::kFinished:
+    case run::DocumentRunner::End::kFinished:
       return;
-    case DocumentRunner::End::kStopped:
+    case run::DocumentRunner::End::kStopped:
       return Remark(
           Tr("Stopped. The document is saved; Resume continues with the elements that have no result yet."));
-    case DocumentRunner::End::kAborted:
+    case run::DocumentRunner::End::kAborted:
       return Remark(Tr("Ended by the operator. The document is saved."));
-    case DocumentRunner::End::kTesterLost:
+    case run::DocumentRunner::End::kTesterLost:
       return ShowErrorLater(Tr("The run has ended: %%1.", {reason}));
-    case DocumentRunner::End::kNotSaved:
+    case run::DocumentRunner::End::kNotSaved:
       return ShowErrorLater(Tr("The run has ended because the document cannot be saved: %%1", {reason}));
   }
 }
 
 void MainWindow::Calibrate() {
-  const TesterConnection tester(tester_->Choice(), session_.Bench().Ports());
-  CalibrationWindow window(session_.Bench(), {});
+  const bench::TesterConnection tester(tester_->Choice(), session_.Bench().Ports());
+  bench::CalibrationWindow window(session_.Bench(), {});
   {
     const auto calibrating =
         state_.Begin(WindowState::Activity::kCalibrating, [&window] { window.Cancel(); });
@@ -157,8 +158,9 @@ void MainWindow::Calibrate() {
 void MainWindow::SubscribeToCalibrations() {
   // The guide opens the calibration dialog too.
   auto& leads = session_.Bench().Leads();
-  leadsStored_ = leads.Stored().Subscribe([this](const LeadCalibration& stored) { Remark(TextOf(stored)); });
+  leadsStored_ =
+      leads.Stored().Subscribe([this](const run::LeadCalibration& stored) { Remark(bench::TextOf(stored)); });
   leadsRefused_ = leads.Refused().Subscribe([this](const std::string& reason) { ShowErrorLater(reason); });
 }
 
-}  // namespace bench::desktop
+}  // namespace host::gui

@@ -19,7 +19,7 @@
 #include "host/qt/Conversions.h"
 #include "host/report/ReportParts.h"
 
-namespace bench::desktop {
+namespace host::gui {
 
 namespace {
 
@@ -42,7 +42,7 @@ std::string Shortened(const std::string& text) {
 void MainWindow::Refresh() {
   const bool open = session_.HasDocument();
   if (!open) equipment_->Show({});
-  view_ = open ? session_.View() : DocumentView{};
+  view_ = open ? session_.View() : report::DocumentView{};
   tree_->Show(view_.judged, progress_ ? progress_->Running() : 0);
   ShowVerdict();
   ShowDetails();
@@ -52,7 +52,7 @@ void MainWindow::Refresh() {
 
 void MainWindow::ShowVerdict() {
   if (!session_.HasDocument()) return verdict_->Clear();
-  auto verdict = parts::VerdictOf(view_.judged.elements, view_.judged.outcome);
+  auto verdict = report::parts::VerdictOf(view_.judged.elements, view_.judged.outcome);
   // The run may still change the verdict.
   if (state_.Running()) {
     verdict.standing = report::Standing::kOpen;
@@ -79,7 +79,7 @@ void MainWindow::ShowDocument() {
   if (const auto& tester = view_.instrument)
     facts.push_back(Tr("Tester %%1, serial number %%2, firmware %%3, test leads %%4 mOhm",
                        {tester->type, tester->serial, tester->firmware, std::to_string(tester->leads)}));
-  if (view_.judged.simulated) facts.push_back(parts::SimulatedMark().text);
+  if (view_.judged.simulated) facts.push_back(report::parts::SimulatedMark().text);
   if (view_.judged.elements.empty()) facts.push_back(Tr("The document has no tests yet: add some."));
   if (view_.judged.run == 0) facts.push_back(Tr("The document has not been run yet."));
   details_->ShowFacts(session_.TheDocument().Path().filename().string(), facts, session_.Runs(view_));
@@ -153,4 +153,4 @@ void MainWindow::EquipmentEdited() {
   });
 }
 
-}  // namespace bench::desktop
+}  // namespace host::gui

@@ -4,7 +4,7 @@
 
 #include "host/qt/Conversions.h"
 
-namespace bench::desktop {
+namespace host::gui {
 
 QString ButtonText(const std::string& menuText) {
   auto text = qt::ToQt(menuText);
@@ -12,4 +12,4 @@ QString ButtonText(const std::string& menuText) {
   return text;
 }
 
-}  // namespace bench::desktop
+}  // namespace host::gui

@@ -3,7 +3,7 @@
 #include "host/base/PlainText.h"
 #include "host/qt/Conversions.h"
 
-namespace bench::desktop {
+namespace host::gui {
 
 QValidator::State PlainTextValidator::validate(QString& input, int& cursor) const {
   const auto plain = [](const QString& text) { return qt::ToQt(PlainTextOf(text.toStdString())); };
@@ -12,4 +12,4 @@ QValidator::State PlainTextValidator::validate(QString& input, int& cursor) cons
   return Acceptable;
 }
 
-}  // namespace bench::desktop
+}  // namespace host::gui

@@ -2,7 +2,7 @@
 
 #include <QValidator>
 
-namespace bench::desktop {
+namespace host::gui {
 
 /// Removes characters that a document cannot hold from typed or pasted text, such as a scanner's line end.
 class PlainTextValidator : public QValidator {
@@ -12,4 +12,4 @@ class PlainTextValidator : public QValidator {
   State validate(QString& input, int& cursor) const override;
 };
 
-}  // namespace bench::desktop
+}  // namespace host::gui

@@ -6,9 +6,9 @@
 #include "host/base/VisibleText.h"
 #include "host/judge/ReasonText.h"
 
-namespace bench::desktop {
+namespace host::gui {
 
-RunProgress::RunProgress(const ILoop& loop, double timeScale, std::function<void()> changed,
+RunProgress::RunProgress(const toolkit::loop::ILoop& loop, double timeScale, std::function<void()> changed,
                          std::function<void(const std::string&)> remark)
     : loop_(loop), timeScale_(timeScale), changed_(std::move(changed)), remark_(std::move(remark)) {}
 
@@ -35,7 +35,7 @@ void RunProgress::Started(const judge::JudgedElement& element) {
   running_ = element.id;
   // The guide's own test begins again with everything in it.
   if (element.parent == 0) finished_.clear();
-  element_ = std::to_string(element.testId) + " " + report::VisibleText(element.name);
+  element_ = std::to_string(element.testId) + " " + host::VisibleText(element.name);
   changed_();
 }
 
@@ -46,13 +46,13 @@ void RunProgress::Finished(const judge::JudgedElement& element) {
   changed_();
 }
 
-void RunProgress::Wire(const WireRecord& record) {
+void RunProgress::Wire(const serial::WireRecord& record) {
   exchange_.Take(record);
   estimate_.Take(record);
-  if (record.kind == WireRecord::Kind::kFailed) remark_(Tr("the line to the tester has failed"));
+  if (record.kind == serial::WireRecord::Kind::kFailed) remark_(Tr("the line to the tester has failed"));
 }
 
-void RunProgress::Doubted(std::int32_t, const Reason& doubt) {
+void RunProgress::Doubted(std::int32_t, const document::Reason& doubt) {
   remark_(Tr("doubt: %%1", {judge::ReasonText(doubt)}));
   changed_();
 }
@@ -63,4 +63,4 @@ void RunProgress::Over() {
   changed_();
 }
 
-}  // namespace bench::desktop
+}  // namespace host::gui

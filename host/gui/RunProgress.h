@@ -10,14 +10,14 @@
 #include "host/bench/RunReporter.h"
 #include "toolkit/loop/ILoop.h"
 
-namespace bench::desktop {
+namespace host::gui {
 
 /// The progress of a run, for a window to show.
-class RunProgress final : public RunReporter {
+class RunProgress final : public bench::RunReporter {
  public:
   /// @param changed called when an element has started, finished or become doubtful
   /// @param remark called with notices for the user
-  RunProgress(const ILoop& loop, double timeScale, std::function<void()> changed,
+  RunProgress(const toolkit::loop::ILoop& loop, double timeScale, std::function<void()> changed,
               std::function<void(const std::string&)> remark);
 
   /// "[2/3] GRES,610,0, attempt 1 of 3: reply within 1.8 s | about 0:10 left | 610 Earth leakage, NC".
@@ -34,19 +34,19 @@ class RunProgress final : public RunReporter {
   void Reached(std::size_t place, std::size_t count) override;
   void Started(const judge::JudgedElement& element) override;
   void Finished(const judge::JudgedElement& element) override;
-  void Wire(const WireRecord& record) override;
+  void Wire(const serial::WireRecord& record) override;
   void Prompted(const std::string&) override {}  // the prompt is a window of its own
-  void Doubted(std::int32_t element, const Reason& doubt) override;
+  void Doubted(std::int32_t element, const document::Reason& doubt) override;
   void Remark(const std::string& text) override { remark_(text); }
   void Over() override;
 
  private:
-  const ILoop& loop_;
+  const toolkit::loop::ILoop& loop_;
   const double timeScale_;
   const std::function<void()> changed_;
   const std::function<void(const std::string&)> remark_;
-  ExchangeView exchange_;
-  RunEstimate estimate_;
+  bench::ExchangeView exchange_;
+  bench::RunEstimate estimate_;
   std::size_t place_ = 0;
   std::size_t count_ = 0;
   std::int32_t running_ = 0;
@@ -54,4 +54,4 @@ class RunProgress final : public RunReporter {
   std::string element_;
 };
 
-}  // namespace bench::desktop
+}  // namespace host::gui

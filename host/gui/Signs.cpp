@@ -6,7 +6,7 @@
 #include "host/report/drawing/PdfSign.h"
 #include "host/report/drawing/PdfStyle.h"
 
-namespace bench::desktop {
+namespace host::gui {
 
 namespace {
 
@@ -21,13 +21,13 @@ QIcon SignIcon(report::Standing standing) {
   QPainter painter(&picture);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
-  painter.setBrush(pdf::ColourOf(standing));
+  painter.setBrush(report::drawing::ColourOf(standing));
   painter.drawEllipse(0, 0, kIconSize, kIconSize);
   const double side = kIconSize - 2.0 * kSignMargin;
-  pdf::DrawSign(painter, standing, QRectF(kSignMargin, kSignMargin, side, side), Qt::white);
+  report::drawing::DrawSign(painter, standing, QRectF(kSignMargin, kSignMargin, side, side), Qt::white);
   return QIcon(picture);
 }
 
-QString ColourName(report::Standing standing) { return pdf::ColourOf(standing).name(); }
+QString ColourName(report::Standing standing) { return report::drawing::ColourOf(standing).name(); }
 
-}  // namespace bench::desktop
+}  // namespace host::gui

@@ -11,7 +11,7 @@
 #include "host/bench/InputError.h"
 #include "host/qt/Conversions.h"
 
-namespace bench::desktop {
+namespace host::gui {
 
 namespace {
 
@@ -54,10 +54,10 @@ TesterBox::TesterBox(double timeScale, QWidget* parent, std::function<std::vecto
   setCurrentIndex(timeScale == 1.0 ? firstDevice : FirstSimulated());
 }
 
-int TesterBox::FirstSimulated() const { return findData(QString(kSimulatedProfiles.front())); }
+int TesterBox::FirstSimulated() const { return findData(QString(bench::kSimulatedProfiles.front())); }
 
-TesterChoice TesterBox::Choice() const {
-  TesterChoice choice;
+bench::TesterChoice TesterBox::Choice() const {
+  bench::TesterChoice choice;
   choice.field = Tr("Tester");
   choice.timeScale = timeScale_;
   const int known = findText(currentText());
@@ -68,7 +68,7 @@ TesterChoice TesterBox::Choice() const {
     choice.port = currentText().trimmed().toStdString();
   }
   if (!choice.simulated && choice.port.empty())
-    throw InputError(
+    throw bench::InputError(
         Tr("No tester is named: choose its serial device, or a simulated tester, above the list of tests."));
   return choice;
 }
@@ -81,7 +81,7 @@ void TesterBox::OnChosen(const std::function<void()>& chosen) {
 void TesterBox::Fill() {
   clear();
   for (const auto& device : devices_()) addItem(qt::ToQt(device));
-  for (const auto* profile : kSimulatedProfiles)
+  for (const auto* profile : bench::kSimulatedProfiles)
     addItem(qt::ToQt(Tr("Simulated tester: %%1", {profile})), QString(profile));
 }
 
@@ -100,4 +100,4 @@ void TesterBox::wheelEvent(QWheelEvent* event) {
   event->ignore();
 }
 
-}  // namespace bench::desktop
+}  // namespace host::gui

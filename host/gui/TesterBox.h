@@ -7,7 +7,7 @@
 
 #include "host/bench/TesterConnection.h"
 
-namespace bench::desktop {
+namespace host::gui {
 
 /// The serial devices that a tester may be at.
 std::vector<std::string> SerialDevices();
@@ -25,7 +25,7 @@ class TesterBox : public QComboBox {
                      std::function<std::vector<std::string>()> devices = SerialDevices);
 
   /// `InputError` when none is named.
-  TesterChoice Choice() const;
+  bench::TesterChoice Choice() const;
   /// Called when the user selects an entry, or ends typing with Return.
   void OnChosen(const std::function<void()>& chosen);
 
@@ -39,4 +39,4 @@ class TesterBox : public QComboBox {
   const std::function<std::vector<std::string>()> devices_;
 };
 
-}  // namespace bench::desktop
+}  // namespace host::gui

@@ -8,7 +8,7 @@
 #include "host/qt/Conversions.h"
 #include "host/report/ReportParts.h"
 
-namespace bench::desktop {
+namespace host::gui {
 
 namespace {
 
@@ -51,7 +51,7 @@ void VerdictBar::Show(const report::Verdict& verdict, bool simulated) {
   sign_->setPixmap(SignIcon(verdict.standing).pixmap(kSignSize, kSignSize));
   sign_->setVisible(true);
   word_->setText(qt::ToQt(verdict.word));
-  const auto mark = simulated ? parts::SimulatedMark() : report::PageMark{};
+  const auto mark = simulated ? report::parts::SimulatedMark() : report::PageMark{};
   const auto sentence = simulated ? mark.text + "\n" + verdict.sentence : verdict.sentence;
   mark_->setText(qt::ToQt(mark.word));
   mark_->setVisible(simulated);
@@ -72,4 +72,4 @@ void VerdictBar::Clear() {
   setStyleSheet("#verdict { border: 1px solid palette(mid); border-radius: 4px; }");
 }
 
-}  // namespace bench::desktop
+}  // namespace host::gui

@@ -6,7 +6,7 @@
 
 class QLabel;
 
-namespace bench::desktop {
+namespace host::gui {
 
 /// The one verdict of the document: sign, word, and why, in its colour. Of a simulated run it says so, white
 /// on black, before everything else.
@@ -26,4 +26,4 @@ class VerdictBar : public QFrame {
   QLabel* sentence_;
 };
 
-}  // namespace bench::desktop
+}  // namespace host::gui

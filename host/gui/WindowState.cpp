@@ -3,7 +3,7 @@
 #include <stdexcept>
 #include <utility>
 
-namespace bench::desktop {
+namespace host::gui {
 
 WindowState::Scope::~Scope() {
   state_.activity_ = before_;
@@ -43,4 +43,4 @@ void WindowState::KeepOpen() {
   if (closing_ == Closing::kWanted) closing_ = Closing::kNo;
 }
 
-}  // namespace bench::desktop
+}  // namespace host::gui

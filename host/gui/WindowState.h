@@ -2,7 +2,7 @@
 
 #include <functional>
 
-namespace bench::desktop {
+namespace host::gui {
 
 /// What the window is doing, and whether it is about to close. Every change of either is one of the
 /// operations below.
@@ -72,4 +72,4 @@ class WindowState {
   std::function<void()> stop_;
 };
 
-}  // namespace bench::desktop
+}  // namespace host::gui

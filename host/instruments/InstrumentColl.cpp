@@ -4,7 +4,7 @@
 #include "host/base/Tr.h"
 #include "host/instruments/InstrumentRecord.h"
 
-namespace bench {
+namespace host::instruments {
 namespace {
 
 using orvik::HostError;
@@ -47,4 +47,4 @@ void InstrumentColl::Save(pugi::xml_node parent) const {
   leftovers_.Restore(node);
 }
 
-}  // namespace bench
+}  // namespace host::instruments

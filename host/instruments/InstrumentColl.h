@@ -7,7 +7,7 @@
 #include "OrvikTypeLib/IInstrumentColl.h"
 #include "host/xml/Leftovers.h"
 
-namespace bench {
+namespace host::instruments {
 
 class InstrumentRecord;
 
@@ -25,7 +25,7 @@ class InstrumentColl final : public orvik::IInstrumentColl {
   void IInstrumentColl_Add(std::shared_ptr<orvik::IInstrumentRecord> Record) override;
 
   std::vector<std::shared_ptr<InstrumentRecord>> records_;
-  Leftovers leftovers_;
+  xml::Leftovers leftovers_;
 };
 
-}  // namespace bench
+}  // namespace host::instruments

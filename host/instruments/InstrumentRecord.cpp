@@ -2,7 +2,7 @@
 
 #include "host/xml/XmlNode.h"
 
-namespace bench {
+namespace host::instruments {
 namespace {
 
 constexpr char kIndex[] = "Index";
@@ -50,4 +50,4 @@ void InstrumentRecord::Save(pugi::xml_node parent) const {
   leftovers_.Restore(node);
 }
 
-}  // namespace bench
+}  // namespace host::instruments

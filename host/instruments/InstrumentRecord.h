@@ -9,7 +9,7 @@
 #include "OrvikTypeLib/IInstrumentRecord.h"
 #include "host/xml/Leftovers.h"
 
-namespace bench {
+namespace host::instruments {
 
 /// One test instrument, saved as
 ///
@@ -42,7 +42,7 @@ class InstrumentRecord final : public orvik::IInstrumentRecord {
   std::string typeName_, mtiType_, serialNumber_, firmwareVersion_;
   std::int32_t index_ = 0;
   std::map<std::string, std::string> properties_;
-  Leftovers leftovers_;
+  xml::Leftovers leftovers_;
 };
 
-}  // namespace bench
+}  // namespace host::instruments

@@ -10,7 +10,7 @@
 
 /// The judge's input: a document as it is now, and the record of its runs. Plain data, so that a verdict
 /// cannot depend on anything else.
-namespace bench::judge {
+namespace host::judge {
 
 /// One limit of a standard as it is now.
 struct CaseLimit {
@@ -58,11 +58,11 @@ struct CaseElement {
 };
 
 struct Case {
-  Equipment equipment;
+  document::Equipment equipment;
   std::vector<CaseElement> elements;  ///< in document order, parents before children
-  const std::vector<RunRecord>* runs = nullptr;
+  const std::vector<document::RunRecord>* runs = nullptr;
   /// The names of the standards by which this view judges; empty for every standard that an element names.
   std::vector<std::string> selected;
 };
 
-}  // namespace bench::judge
+}  // namespace host::judge

@@ -23,7 +23,7 @@
 #include "host/judge/Judge.h"
 #include "host/plugins/keld/KeldTests.h"
 
-namespace bench::judge {
+namespace host::judge {
 namespace {
 
 CaseLimit LimitOf(const orvik::ILimit& limit) {
@@ -72,24 +72,24 @@ std::optional<SavedResult> ResultOf(const orvik::ITestElement& element) {
 }
 
 Filter FilterOf(const std::string& name) {
-  if (name == keld_facts::kMaximumFilter) return Filter::kMaximum;
-  return name == keld_facts::kMinimumFilter ? Filter::kMinimum : Filter::kNoValue;
+  if (name == plugins::keld::kMaximumFilter) return Filter::kMaximum;
+  return name == plugins::keld::kMinimumFilter ? Filter::kMinimum : Filter::kNoValue;
 }
 
-CaseElement ElementOf(const std::shared_ptr<orvik::ITestElement>& element, const ElementFactory& factory,
-                      TestKinds& kinds) {
+CaseElement ElementOf(const std::shared_ptr<orvik::ITestElement>& element,
+                      const elements::ElementFactory& factory, elements::TestKinds& kinds) {
   CaseElement known;
   known.id = element->ID();
   if (const auto parent = element->Parent()) known.parent = parent->ID();
   known.testId = element->TestID();
-  known.name = ElementName(*element, factory);
+  known.name = document::ElementName(*element, factory);
   known.group = orvik::As<orvik::ITestContainer>(element) != nullptr;
   const auto& kind = kinds.Of(element->PlugInID(), known.testId, element->ClassID());
   known.fault = kind.fault;
   known.expectedUnit = kind.unit.value_or("");
-  known.settings = MeasuringSettings(*element);
-  if (known.group) known.filter = FilterOf(ValueFilter(*element));
-  if (const auto state = StateOf(element, factory)) known.recordOnly = state->RecordOnly();
+  known.settings = document::MeasuringSettings(*element);
+  if (known.group) known.filter = FilterOf(document::ValueFilter(*element));
+  if (const auto state = document::StateOf(element, factory)) known.recordOnly = state->RecordOnly();
   known.standards = StandardsOf(*element);
   known.result = ResultOf(*element);
   return known;
@@ -97,24 +97,25 @@ CaseElement ElementOf(const std::shared_ptr<orvik::ITestElement>& element, const
 
 }  // namespace
 
-Case CaseOf(const Document& document, const ElementFactory& factory, std::vector<std::string> selected) {
+Case CaseOf(const document::Document& document, const elements::ElementFactory& factory,
+            std::vector<std::string> selected) {
   Case known;
   known.equipment = document.equipment;
   known.runs = &document.Runs().All();
   known.selected = std::move(selected);
-  TestKinds kinds(factory);
+  elements::TestKinds kinds(factory);
   const auto walk = document.Elements()->NewEnum();
   while (const auto top = walk->Next()) {
-    WalkElements(top, [&](const std::shared_ptr<orvik::ITestElement>& element) {
+    document::WalkElements(top, [&](const std::shared_ptr<orvik::ITestElement>& element) {
       known.elements.push_back(ElementOf(element, factory, kinds));
     });
   }
   return known;
 }
 
-JudgedDocument Judge(const Document& document, const ElementFactory& factory,
+JudgedDocument Judge(const document::Document& document, const elements::ElementFactory& factory,
                      std::vector<std::string> selected) {
   return Judge(CaseOf(document, factory, std::move(selected)));
 }
 
-}  // namespace bench::judge
+}  // namespace host::judge

@@ -8,12 +8,12 @@
 #include "host/judge/Reading.h"
 #include "host/judge/Verdict.h"
 
-namespace bench::judge {
+namespace host::judge {
 namespace {
 
 std::string RunOf(const LastRecord& last) { return std::to_string(last.run->number); }
 
-std::optional<Reason> OtherEquipment(const LastRecord& last, const Equipment& now) {
+std::optional<document::Reason> OtherEquipment(const LastRecord& last, const document::Equipment& now) {
   const auto& then = last.run->equipment;
   const std::array<std::pair<const char*, std::pair<const std::string*, const std::string*>>, 4> fields{
       {{"asset", {&then.asset, &now.asset}},
@@ -22,11 +22,11 @@ std::optional<Reason> OtherEquipment(const LastRecord& last, const Equipment& no
        {"model", {&then.model, &now.model}}}};
   for (const auto& [name, values] : fields)
     if (*values.first != *values.second)
-      return Reason{"other-equipment", {RunOf(last), name, *values.first, *values.second}};
+      return document::Reason{"other-equipment", {RunOf(last), name, *values.first, *values.second}};
   return {};
 }
 
-bool SameReading(const RecordedTest& test, const SavedResult& saved) {
+bool SameReading(const document::RecordedTest& test, const SavedResult& saved) {
   if (test.recorded.has_value() != saved.measured) return false;
   if (!saved.measured) return true;
   const auto recorded = FiniteNumber(test.recorded->value);
@@ -35,32 +35,33 @@ bool SameReading(const RecordedTest& test, const SavedResult& saved) {
   return test.recorded->unit == saved.unit && test.recorded->flags == saved.flags;
 }
 
-std::optional<Reason> OtherResult(const CaseElement& element, const LastRecord& last) {
+std::optional<document::Reason> OtherResult(const CaseElement& element, const LastRecord& last) {
   const auto& test = *last.test;
   const auto status = element.result ? element.result->status : std::int32_t{orvik::ResultStatus::kNotTested};
   if (status != test.status)
-    return Reason{"other-status", {RunOf(last), StatusText(test.status), StatusText(status)}};
+    return document::Reason{"other-status", {RunOf(last), StatusText(test.status), StatusText(status)}};
   if (status != orvik::ResultStatus::kPassed && status != orvik::ResultStatus::kFailed) return {};
   const auto& saved = *element.result;
-  if (!SameReading(test, saved)) return Reason{"other-reading", {RunOf(last)}};
-  if (saved.measured && saved.measurementStatus != status) return Reason{"other-reading", {RunOf(last)}};
+  if (!SameReading(test, saved)) return document::Reason{"other-reading", {RunOf(last)}};
+  if (saved.measured && saved.measurementStatus != status)
+    return document::Reason{"other-reading", {RunOf(last)}};
   return {};
 }
 
 }  // namespace
 
-std::optional<Reason> NotCurrent(const CaseElement& element, const LastRecord& last,
-                                 const Equipment& equipment) {
+std::optional<document::Reason> NotCurrent(const CaseElement& element, const LastRecord& last,
+                                           const document::Equipment& equipment) {
   if (!last.run)
     return element.result && element.result->status != orvik::ResultStatus::kNotTested
-               ? Reason{"not-recorded", {}}
-               : Reason{"never-run", {}};
-  if (!last.test) return Reason{"not-finished", {RunOf(last)}};
+               ? document::Reason{"not-recorded", {}}
+               : document::Reason{"never-run", {}};
+  if (!last.test) return document::Reason{"not-finished", {RunOf(last)}};
   if (last.test->testId != element.testId)
-    return Reason{"other-test", {RunOf(last), std::to_string(last.test->testId)}};
+    return document::Reason{"other-test", {RunOf(last), std::to_string(last.test->testId)}};
   if (auto reason = OtherEquipment(last, equipment)) return reason;
-  if (last.test->settings != element.settings) return Reason{"other-settings", {RunOf(last)}};
+  if (last.test->settings != element.settings) return document::Reason{"other-settings", {RunOf(last)}};
   return OtherResult(element, last);
 }
 
-}  // namespace bench::judge
+}  // namespace host::judge

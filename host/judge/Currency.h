@@ -5,11 +5,11 @@
 #include "host/judge/Case.h"
 #include "host/judge/Records.h"
 
-namespace bench::judge {
+namespace host::judge {
 
 /// Why the element's last record does not apply to the element as it is now: not recorded, not finished, or
 /// with another test, settings, equipment or saved result. None when it is current.
-std::optional<Reason> NotCurrent(const CaseElement& element, const LastRecord& last,
-                                 const Equipment& equipment);
+std::optional<document::Reason> NotCurrent(const CaseElement& element, const LastRecord& last,
+                                           const document::Equipment& equipment);
 
-}  // namespace bench::judge
+}  // namespace host::judge

@@ -9,7 +9,7 @@
 #include "host/judge/JudgeTest.h"
 #include "host/judge/Limits.h"
 
-namespace bench::judge {
+namespace host::judge {
 namespace {
 
 Measurement MeasurementOf(const SavedResult& saved) {
@@ -62,7 +62,7 @@ void ListStandards(const Case& document, JudgedDocument& judged) {
 void DescribeRuns(const Case& document, JudgedDocument& judged) {
   if (!document.runs || document.runs->empty()) return;
   judged.simulated = std::any_of(document.runs->begin(), document.runs->end(),
-                                 [](const RunRecord& run) { return run.simulated; });
+                                 [](const document::RunRecord& run) { return run.simulated; });
   judged.run = document.runs->back().number;
 }
 
@@ -108,4 +108,4 @@ JudgedDocument Judge(const Case& document) {
   return judged;
 }
 
-}  // namespace bench::judge
+}  // namespace host::judge

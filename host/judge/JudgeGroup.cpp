@@ -12,7 +12,7 @@
 #include "host/judge/Reading.h"
 #include "host/standards/Units.h"
 
-namespace bench::judge {
+namespace host::judge {
 namespace {
 
 /// The value that the filter selects from the children's readings, in the unit of the first reading. None
@@ -24,7 +24,7 @@ Reading SummaryOf(const CaseElement& element, const std::vector<Child>& children
     const auto& reading = child.judged->value;
     if (!reading) continue;
     if (!summary.value) summary.unit = child.judged->unit;
-    const auto value = InUnit(*reading, child.judged->unit, summary.unit);
+    const auto value = standards::InUnit(*reading, child.judged->unit, summary.unit);
     if (!value) {
       summary.doubts.push_back({"units-of-children", {child.judged->unit, summary.unit}});
       return summary;
@@ -55,7 +55,7 @@ void FollowChildren(const std::vector<Child>& children, JudgedElement& judged) {
 }
 
 void JudgeSummary(const CaseElement& element, const LastRecord& last, const std::vector<Child>& children,
-                  std::vector<Reason> doubts, JudgedElement& judged) {
+                  std::vector<document::Reason> doubts, JudgedElement& judged) {
   const auto summary = SummaryOf(element, children);
   doubts.insert(doubts.end(), summary.doubts.begin(), summary.doubts.end());
   judged.value = summary.value;
@@ -93,11 +93,12 @@ void JudgeSummary(const CaseElement& element, const LastRecord& last, const std:
 
 }  // namespace
 
-std::optional<Reason> OlderThanChildren(const LastRecord& group, const std::vector<Child>& children) {
+std::optional<document::Reason> OlderThanChildren(const LastRecord& group,
+                                                  const std::vector<Child>& children) {
   for (const auto& child : children)
     if (child.last.run && (child.last.run != group.run || child.last.step > group.step))
-      return Reason{"older-than-child",
-                    {std::to_string(child.judged->id), std::to_string(child.last.run->number)}};
+      return document::Reason{"older-than-child",
+                              {std::to_string(child.judged->id), std::to_string(child.last.run->number)}};
   return {};
 }
 
@@ -105,16 +106,16 @@ void JudgeGroup(const CaseElement& element, const LastRecord& last, const std::v
                 JudgedElement& judged) {
   auto doubts = RecordDoubts(element, last);
   if (last.test->status == orvik::ResultStatus::kNotApplicable &&
-      last.test->by == RecordedTest::By::kOperator) {
+      last.test->by == document::RecordedTest::By::kOperator) {
     judged.verdict = doubts.empty() ? Verdict::kNotApplicable : Verdict::kDoubtful;
     if (doubts.empty()) judged.reasons = {{"set-aside-by-operator", {judged.by}}};
   } else if (last.test->status == orvik::ResultStatus::kNotTested) {
     judged.verdict = Verdict::kNotTested;
-    judged.reasons = {{last.test->by == RecordedTest::By::kOperator ? "skipped" : "no-result", {}}};
+    judged.reasons = {{last.test->by == document::RecordedTest::By::kOperator ? "skipped" : "no-result", {}}};
   } else {
     return JudgeSummary(element, last, children, std::move(doubts), judged);
   }
   std::move(doubts.begin(), doubts.end(), std::back_inserter(judged.reasons));
 }
 
-}  // namespace bench::judge
+}  // namespace host::judge

@@ -6,7 +6,7 @@
 #include "host/judge/Records.h"
 #include "host/judge/Verdict.h"
 
-namespace bench::judge {
+namespace host::judge {
 
 /// A child of a group, already judged.
 struct Child {
@@ -16,11 +16,12 @@ struct Child {
 
 /// Why the group's record is older than its children's: a child was taken up again afterwards, or in a later
 /// run. None when it is not.
-std::optional<Reason> OlderThanChildren(const LastRecord& group, const std::vector<Child>& children);
+std::optional<document::Reason> OlderThanChildren(const LastRecord& group,
+                                                  const std::vector<Child>& children);
 
 /// Judges a group whose record is current: by its children, and by its own limits on the value that its
 /// filter selects from its children's readings.
 void JudgeGroup(const CaseElement& element, const LastRecord& last, const std::vector<Child>& children,
                 JudgedElement& judged);
 
-}  // namespace bench::judge
+}  // namespace host::judge

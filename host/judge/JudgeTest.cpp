@@ -8,7 +8,7 @@
 #include "host/judge/Limits.h"
 #include "host/judge/Reading.h"
 
-namespace bench::judge {
+namespace host::judge {
 namespace {
 
 bool HasSelectedLimit(const JudgedElement& judged) {
@@ -16,23 +16,24 @@ bool HasSelectedLimit(const JudgedElement& judged) {
                      [](const JudgedLimit& limit) { return limit.selected; });
 }
 
-void JudgeNotApplicable(const RecordedTest& test, std::vector<Reason> doubts, JudgedElement& judged) {
-  const bool byOperator = test.by == RecordedTest::By::kOperator;
+void JudgeNotApplicable(const document::RecordedTest& test, std::vector<document::Reason> doubts,
+                        JudgedElement& judged) {
+  const bool byOperator = test.by == document::RecordedTest::By::kOperator;
   // That the tester lacks the test does not clear the equipment.
   if (!byOperator && HasSelectedLimit(judged)) doubts.insert(doubts.begin(), {"refused-with-limits", {}});
   judged.verdict = doubts.empty() ? Verdict::kNotApplicable : Verdict::kDoubtful;
   judged.reasons = std::move(doubts);
   if (!judged.reasons.empty()) return;
-  judged.reasons.push_back(byOperator ? Reason{"set-aside-by-operator", {judged.by}}
-                                      : Reason{"refused-by-tester", {}});
+  judged.reasons.push_back(byOperator ? document::Reason{"set-aside-by-operator", {judged.by}}
+                                      : document::Reason{"refused-by-tester", {}});
 }
 
 /// Why no limit judged the reading.
-Reason WhyNotJudged(const JudgedElement& judged) {
-  return judged.limits.empty() ? Reason{"no-limit", {}} : Reason{"limits-left-out", {}};
+document::Reason WhyNotJudged(const JudgedElement& judged) {
+  return judged.limits.empty() ? document::Reason{"no-limit", {}} : document::Reason{"limits-left-out", {}};
 }
 
-void JudgeReading(const CaseElement& element, const LastRecord& last, std::vector<Reason> doubts,
+void JudgeReading(const CaseElement& element, const LastRecord& last, std::vector<document::Reason> doubts,
                   JudgedElement& judged) {
   auto reading = ReadingOf(element, *last.test, judged.tester ? &*judged.tester : nullptr);
   for (auto& doubt : reading.doubts) AddOnce(doubts, std::move(doubt));
@@ -74,13 +75,13 @@ void JudgeReading(const CaseElement& element, const LastRecord& last, std::vecto
 
 }  // namespace
 
-void AddOnce(std::vector<Reason>& reasons, Reason reason) {
+void AddOnce(std::vector<document::Reason>& reasons, document::Reason reason) {
   const bool known = std::any_of(reasons.begin(), reasons.end(),
-                                 [&](const Reason& other) { return other.code == reason.code; });
+                                 [&](const document::Reason& other) { return other.code == reason.code; });
   if (!known) reasons.push_back(std::move(reason));
 }
 
-std::vector<Reason> RecordDoubts(const CaseElement& element, const LastRecord& last) {
+std::vector<document::Reason> RecordDoubts(const CaseElement& element, const LastRecord& last) {
   auto doubts = last.test->doubts;
   if (last.changed) doubts.push_back({"record-changed", {std::to_string(last.run->number)}});
   if (!element.fault.empty()) doubts.push_back({"unknown-test", {element.fault}});
@@ -105,9 +106,9 @@ void JudgeTest(const CaseElement& element, const LastRecord& last, JudgedElement
       break;
     default:
       judged.verdict = Verdict::kNotTested;
-      judged.reasons = {{test.by == RecordedTest::By::kOperator ? "skipped" : "no-result", {}}};
+      judged.reasons = {{test.by == document::RecordedTest::By::kOperator ? "skipped" : "no-result", {}}};
   }
   std::move(doubts.begin(), doubts.end(), std::back_inserter(judged.reasons));
 }
 
-}  // namespace bench::judge
+}  // namespace host::judge

@@ -6,7 +6,7 @@
 #include "host/plugins/keld/KeldTests.h"
 #include "host/standards/Units.h"
 
-namespace bench::judge {
+namespace host::judge {
 namespace {
 
 std::string NameOf(const JudgedLimit& limit) {
@@ -21,7 +21,7 @@ LimitVerdict Compared(double value, const JudgedLimit& limit) {
   return LimitVerdict::kWithin;
 }
 
-Reason BrokenBound(const JudgedLimit& limit) {
+document::Reason BrokenBound(const JudgedLimit& limit) {
   const bool below = limit.verdict == LimitVerdict::kBelow;
   return {below ? "below-limit" : "above-limit",
           {NameOf(limit), NumberText(*limit.value, limit.unit),
@@ -33,7 +33,7 @@ void PutTo(JudgedLimit& limit, const CaseLimit& now, const Judged& reading, Limi
     limit.verdict = LimitVerdict::kNotComparable;
     return;
   }
-  if (reading.value) limit.value = InUnit(*reading.value, reading.unit, limit.unit);
+  if (reading.value) limit.value = standards::InUnit(*reading.value, reading.unit, limit.unit);
   if (!limit.value) {
     limit.verdict = LimitVerdict::kNotComparable;
     findings.doubts.push_back({"limit-unit", {NameOf(limit), limit.unit, reading.unit}});
@@ -41,7 +41,7 @@ void PutTo(JudgedLimit& limit, const CaseLimit& now, const Judged& reading, Limi
   }
   limit.verdict = Compared(*limit.value, limit);
   findings.judged = true;
-  const bool byPlugIn = now.key == keld_facts::kLimitKey;
+  const bool byPlugIn = now.key == plugins::keld::kLimitKey;
   const auto broken = [](LimitVerdict verdict) {
     return verdict == LimitVerdict::kBelow || verdict == LimitVerdict::kExceeded;
   };
@@ -86,4 +86,4 @@ LimitFindings PutToLimits(const CaseElement& element, const Judged& reading,
   return findings;
 }
 
-}  // namespace bench::judge
+}  // namespace host::judge

@@ -7,7 +7,7 @@
 #include "host/judge/Case.h"
 #include "host/judge/Verdict.h"
 
-namespace bench::judge {
+namespace host::judge {
 
 /// A reading to compare with limits.
 struct Judged {
@@ -19,10 +19,10 @@ struct Judged {
 
 /// The result of comparing a reading with an element's limits.
 struct LimitFindings {
-  bool judged = false;         ///< at least one selected limit was compared
-  bool broken = false;         ///< one is exceeded, by the judge's and by the plug-in's arithmetic
-  std::vector<Reason> broke;   ///< those exceeded
-  std::vector<Reason> doubts;  ///< where the two differ, or units cannot be compared
+  bool judged = false;                   ///< at least one selected limit was compared
+  bool broken = false;                   ///< one is exceeded, by the judge's and by the plug-in's arithmetic
+  std::vector<document::Reason> broke;   ///< those exceeded
+  std::vector<document::Reason> doubts;  ///< where the two differ, or units cannot be compared
 };
 
 /// The element's limits that have a bound, none of them applied yet.
@@ -34,4 +34,4 @@ std::vector<JudgedLimit> LimitsOf(const CaseElement& element, const std::vector<
 LimitFindings PutToLimits(const CaseElement& element, const Judged& reading,
                           std::vector<JudgedLimit>& limits);
 
-}  // namespace bench::judge
+}  // namespace host::judge

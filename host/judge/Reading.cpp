@@ -11,7 +11,7 @@
 #include "host/serial/Message.h"
 #include "host/standards/Units.h"
 
-namespace bench::judge {
+namespace host::judge {
 namespace {
 
 constexpr char kOhm[] = "Ohm", kMilliohm[] = "mOhm";
@@ -19,11 +19,12 @@ constexpr char kOhm[] = "Ohm", kMilliohm[] = "mOhm";
 constexpr double kSpreadOfLeads = 20;
 
 /// The reply with the result; null without one, or with several different ones.
-std::shared_ptr<Message> ResultIn(const RecordedTest& test, std::vector<Reason>& doubts) {
-  std::shared_ptr<Message> result;
+std::shared_ptr<serial::Message> ResultIn(const document::RecordedTest& test,
+                                          std::vector<document::Reason>& doubts) {
+  std::shared_ptr<serial::Message> result;
   for (const auto& line : test.said) {
-    auto message = ParseMessage(Latin1FromUtf8(line).value_or(std::string()));
-    if (!message || message->MnemonicText() != keld_facts::kReading) continue;
+    auto message = serial::ParseMessage(serial::Latin1FromUtf8(line).value_or(std::string()));
+    if (!message || message->MnemonicText() != plugins::keld::kReading) continue;
     if (result && result->Line() != message->Line()) {
       doubts.push_back({"several-readings", {result->Line(), message->Line()}});
       return nullptr;
@@ -35,43 +36,46 @@ std::shared_ptr<Message> ResultIn(const RecordedTest& test, std::vector<Reason>&
 }
 
 /// Subtracts the resistance of the test leads; the result is never negative.
-void CorrectByLeads(Reading& reading, const RecordedTester* tester) {
-  const auto milliohms = InUnit(*reading.value, reading.unit, kMilliohm);
+void CorrectByLeads(Reading& reading, const document::RecordedTester* tester) {
+  const auto milliohms = standards::InUnit(*reading.value, reading.unit, kMilliohm);
   if (!tester || !milliohms) return;
   const auto leads = tester->leads;
-  if (leads > keld_facts::kMostLeadMilliohms || leads < 0)
+  if (leads > plugins::keld::kMostLeadMilliohms || leads < 0)
     reading.doubts.push_back({"leads-implausible", {std::to_string(leads)}});
   if (leads - *milliohms > kSpreadOfLeads && *milliohms >= 0)
     reading.doubts.push_back(
         {"below-leads", {std::to_string(std::lround(*milliohms)), std::to_string(leads)}});
-  reading.value = InUnit(std::max(*milliohms - leads, 0.0), kMilliohm, reading.unit);
+  reading.value = standards::InUnit(std::max(*milliohms - leads, 0.0), kMilliohm, reading.unit);
 }
 
 }  // namespace
 
-Reading ReadingOf(const CaseElement& element, const RecordedTest& test, const RecordedTester* tester) {
+Reading ReadingOf(const CaseElement& element, const document::RecordedTest& test,
+                  const document::RecordedTester* tester) {
   Reading reading;
   const auto said = ResultIn(test, reading.doubts);
   if (!said) return reading;
   const auto& fields = said->Parameters();
-  reading.value = fields.size() >= keld_facts::kReadingFields ? FiniteNumber(fields[keld_facts::kValueField])
-                                                              : std::nullopt;
+  reading.value = fields.size() >= plugins::keld::kReadingFields
+                      ? FiniteNumber(fields[plugins::keld::kValueField])
+                      : std::nullopt;
   if (!reading.value) {
     reading.doubts.push_back({"no-reading", {}});
     return reading;
   }
-  if (*reading.value < 0) reading.doubts.push_back({"negative-reading", {fields[keld_facts::kValueField]}});
-  reading.unit = fields[keld_facts::kUnitField];
-  if (!element.expectedUnit.empty() && !SameQuantity(reading.unit, element.expectedUnit)) {
+  if (*reading.value < 0)
+    reading.doubts.push_back({"negative-reading", {fields[plugins::keld::kValueField]}});
+  reading.unit = fields[plugins::keld::kUnitField];
+  if (!element.expectedUnit.empty() && !standards::SameQuantity(reading.unit, element.expectedUnit)) {
     reading.doubts.push_back({"unit-of-test", {reading.unit, element.expectedUnit}});
     return reading;
   }
   // Ohms are recorded in the unit of the test, other units as the tester sent them.
   if (reading.unit == kOhm && !element.expectedUnit.empty()) {
-    reading.value = InUnit(*reading.value, kOhm, element.expectedUnit);
+    reading.value = standards::InUnit(*reading.value, kOhm, element.expectedUnit);
     reading.unit = element.expectedUnit;
   }
-  if (keld_facts::CorrectedByLeads(element.testId)) CorrectByLeads(reading, tester);
+  if (plugins::keld::CorrectedByLeads(element.testId)) CorrectByLeads(reading, tester);
   return reading;
 }
 
@@ -85,4 +89,4 @@ std::string NumberText(double number, const std::string& unit) {
   return unit.empty() ? text : text + " " + unit;
 }
 
-}  // namespace bench::judge
+}  // namespace host::judge

@@ -10,7 +10,7 @@
 #include "host/base/Tr.h"
 #include "host/judge/Verdict.h"
 
-namespace bench::judge {
+namespace host::judge {
 namespace {
 
 using Entry = std::pair<std::string_view, const char*>;
@@ -90,7 +90,7 @@ constexpr Entry kSentences[] = {
 };
 
 /// The reason's arguments; those that are words of this program are translated.
-std::vector<std::string> Translated(const Reason& reason) {
+std::vector<std::string> Translated(const document::Reason& reason) {
   static constexpr std::array<std::string_view, 4> kWithWords{"changed-after-finish", "child", "service-code",
                                                               "other-status"};
   auto values = reason.arguments;
@@ -110,7 +110,7 @@ std::vector<std::string> Translated(const Reason& reason) {
 
 }  // namespace
 
-std::string ReasonText(const Reason& reason) {
+std::string ReasonText(const document::Reason& reason) {
   for (const auto& [code, sentence] : kSentences)
     if (reason.code == code) return Tr(sentence, Translated(reason));
   auto text = reason.code;
@@ -118,4 +118,4 @@ std::string ReasonText(const Reason& reason) {
   return text;
 }
 
-}  // namespace bench::judge
+}  // namespace host::judge

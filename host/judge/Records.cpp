@@ -1,8 +1,8 @@
 #include "host/judge/Records.h"
 
-namespace bench::judge {
+namespace host::judge {
 
-Records::Records(const std::vector<RunRecord>* runs) {
+Records::Records(const std::vector<document::RunRecord>* runs) {
   if (!runs) return;
   std::size_t step = 0;
   std::int32_t lastChanged = 0;
@@ -10,10 +10,10 @@ Records::Records(const std::vector<RunRecord>* runs) {
     if (!run.intact || run.gapAfter) lastChanged = static_cast<std::int32_t>(&run - runs->data()) + 1;
     for (const auto& done : run.steps) {
       ++step;
-      if (const auto* takes = std::get_if<RecordedTakes>(&done)) {
+      if (const auto* takes = std::get_if<document::RecordedTakes>(&done)) {
         for (const auto id : takes->elements) last_[id] = {&run, nullptr, step, false};
       } else {
-        const auto& test = std::get<RecordedTest>(done);
+        const auto& test = std::get<document::RecordedTest>(done);
         last_[test.element] = {&run, &test, step, false};
       }
     }
@@ -27,4 +27,4 @@ LastRecord Records::Of(std::int32_t element) const {
   return found == last_.end() ? LastRecord{} : found->second;
 }
 
-}  // namespace bench::judge
+}  // namespace host::judge

@@ -7,21 +7,21 @@
 
 #include "host/document/RunRecord.h"
 
-namespace bench::judge {
+namespace host::judge {
 
 /// The last record of an element.
 struct LastRecord {
-  const RunRecord* run = nullptr;      ///< the last run that took it up; null when none did
-  const RecordedTest* test = nullptr;  ///< null while that run has not finished it
-  std::size_t step = 0;                ///< place among the steps of all runs
-  bool changed = false;                ///< this run or a later one was changed or removed by another program
+  const document::RunRecord* run = nullptr;      ///< the last run that took it up; null when none did
+  const document::RecordedTest* test = nullptr;  ///< null while that run has not finished it
+  std::size_t step = 0;                          ///< place among the steps of all runs
+  bool changed = false;  ///< this run or a later one was changed or removed by another program
 };
 
 /// The last record of each element, from the runs of a document.
 class Records {
  public:
   /// @param runs must outlive this object; null for none
-  explicit Records(const std::vector<RunRecord>* runs);
+  explicit Records(const std::vector<document::RunRecord>* runs);
 
   LastRecord Of(std::int32_t element) const;
 
@@ -29,4 +29,4 @@ class Records {
   std::unordered_map<std::int32_t, LastRecord> last_;
 };
 
-}  // namespace bench::judge
+}  // namespace host::judge

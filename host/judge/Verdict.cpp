@@ -6,7 +6,7 @@
 #include "OrvikTypeLib/Codes.h"
 #include "host/base/Tr.h"
 
-namespace bench::judge {
+namespace host::judge {
 
 namespace {
 
@@ -65,4 +65,4 @@ Outcome OutcomeOf(const std::vector<JudgedElement>& elements) {
   return done && passed ? Outcome::kPassed : Outcome::kIncomplete;
 }
 
-}  // namespace bench::judge
+}  // namespace host::judge

@@ -8,7 +8,7 @@
 #include "host/document/Reason.h"
 #include "host/document/RunRecord.h"
 
-namespace bench::judge {
+namespace host::judge {
 
 /// What an element's result counts as, from the worst.
 enum class Verdict {
@@ -80,7 +80,7 @@ struct JudgedElement {
 
   Verdict verdict = Verdict::kNotTested;
   /// Why, most important first. Those of a passed element are for information only.
-  std::vector<Reason> reasons;
+  std::vector<document::Reason> reasons;
   /// Whether at least one selected limit judged the current reading.
   bool judged = false;
   bool recordOnly = false;
@@ -93,7 +93,7 @@ struct JudgedElement {
   // Origin of the result; empty without a current one.
   std::int32_t run = 0;  ///< number of the run; 0 without a current result
   std::string at, by;
-  std::optional<RecordedTester> tester;
+  std::optional<document::RecordedTester> tester;
 
   // As the plug-in saved it, even if it is not current.
   std::int32_t status = 0;
@@ -121,4 +121,4 @@ struct JudgedDocument {
 /// incomplete.
 Outcome OutcomeOf(const std::vector<JudgedElement>& elements);
 
-}  // namespace bench::judge
+}  // namespace host::judge

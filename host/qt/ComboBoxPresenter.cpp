@@ -4,13 +4,13 @@
 
 #include "host/qt/Conversions.h"
 
-namespace bench::qt {
+namespace host::qt {
 
-ComboBoxPresenter::ComboBoxPresenter(WidgetMirror& mirror, headless::Control& control)
+ComboBoxPresenter::ComboBoxPresenter(WidgetMirror& mirror, toolkit::headless::Control& control)
     : PresenterFor(mirror, control, new QComboBox) {
   GetShown().setInsertPolicy(QComboBox::NoInsert);
   When(&GetShown(), &QComboBox::activated,
-       [this](int index) { Forward([index](headless::ComboBox& box) { box.Choose(index); }); });
+       [this](int index) { Forward([index](toolkit::headless::ComboBox& box) { box.Choose(index); }); });
 }
 
 void ComboBoxPresenter::SyncOwn() {
@@ -30,7 +30,7 @@ void ComboBoxPresenter::SyncEditable() {
   // Typed text is not completed.
   shown.setCompleter(nullptr);
   When(shown.lineEdit(), &QLineEdit::textEdited, [this](const QString& text) {
-    Forward([typed = FromQt(text)](headless::ComboBox& box) { box.TypeOver(typed); });
+    Forward([typed = FromQt(text)](toolkit::headless::ComboBox& box) { box.TypeOver(typed); });
   });
 }
 
@@ -45,4 +45,4 @@ void ComboBoxPresenter::SyncItems() {
   shown.addItems(items);
 }
 
-}  // namespace bench::qt
+}  // namespace host::qt

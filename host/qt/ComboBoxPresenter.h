@@ -5,11 +5,11 @@
 #include "host/qt/Presenter.h"
 #include "toolkit/headless/ComboBox.h"
 
-namespace bench::qt {
+namespace host::qt {
 
-class ComboBoxPresenter final : public PresenterFor<headless::ComboBox, QComboBox> {
+class ComboBoxPresenter final : public PresenterFor<toolkit::headless::ComboBox, QComboBox> {
  public:
-  ComboBoxPresenter(WidgetMirror& mirror, headless::Control& control);
+  ComboBoxPresenter(WidgetMirror& mirror, toolkit::headless::Control& control);
 
  protected:
   void SyncOwn() override;
@@ -20,4 +20,4 @@ class ComboBoxPresenter final : public PresenterFor<headless::ComboBox, QComboBo
   void SyncItems();
 };
 
-}  // namespace bench::qt
+}  // namespace host::qt

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace bench::qt {
+namespace host::qt {
 namespace {
 
 constexpr double kLegible = 4.5;
@@ -39,4 +39,4 @@ QColor Legible(const QColor& color, const QColor& background) {
   return legible;
 }
 
-}  // namespace bench::qt
+}  // namespace host::qt

@@ -2,7 +2,7 @@
 
 #include <QColor>
 
-namespace bench::qt {
+namespace host::qt {
 
 /// The contrast of two colours as the Web Content Accessibility Guidelines define it: 1 for equal colours,
 /// 21 for black on white.
@@ -11,4 +11,4 @@ double Contrast(const QColor& one, const QColor& other);
 /// The colour, darkened or lightened until its contrast with the background is at least 4.5.
 QColor Legible(const QColor& color, const QColor& background);
 
-}  // namespace bench::qt
+}  // namespace host::qt

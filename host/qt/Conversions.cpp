@@ -4,7 +4,7 @@
 #include <QPalette>
 #include <QTextDocument>
 
-namespace bench::qt {
+namespace host::qt {
 namespace {
 
 namespace platform = orvik::platform;
@@ -92,4 +92,4 @@ int ShiftOf(const QInputEvent& event) {
          (modifiers & Qt::AltModifier ? 4 : 0);
 }
 
-}  // namespace bench::qt
+}  // namespace host::qt

@@ -15,7 +15,7 @@ class QKeyEvent;
 class QPalette;
 
 /// Conversions between Qt's types and those of the toolkit.
-namespace bench::qt {
+namespace host::qt {
 
 /// UTF-8 to Qt and back.
 QString ToQt(std::string_view text);
@@ -40,4 +40,4 @@ int KeyOf(const QKeyEvent& event);
 /// Shift 1, Ctrl 2, Alt 4.
 int ShiftOf(const QInputEvent& event);
 
-}  // namespace bench::qt
+}  // namespace host::qt

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <utility>
 
-namespace bench::qt {
+namespace host::qt {
 namespace {
 
 int LoopLevel() { return QThread::currentThread()->loopLevel(); }
@@ -90,4 +90,4 @@ void EventDispatcher::Serve() {
   StartWorkTimer();
 }
 
-}  // namespace bench::qt
+}  // namespace host::qt

@@ -10,7 +10,7 @@
 #include <optional>
 #include <vector>
 
-namespace bench::qt {
+namespace host::qt {
 
 /// Sleeps in Qt's event dispatcher, which also watches our descriptors and timers. While Qt runs a loop of
 /// its own (an open menu, a file dialog), it calls `serve` from there.
@@ -53,4 +53,4 @@ class EventDispatcher {
   int errorDepth_ = 0;
 };
 
-}  // namespace bench::qt
+}  // namespace host::qt

@@ -14,10 +14,10 @@
 
 #include "host/qt/Conversions.h"
 
-namespace bench::qt {
+namespace host::qt {
 namespace {
 
-using headless::Part;
+using toolkit::headless::Part;
 namespace platform = orvik::platform;
 
 constexpr int kLongestLine = 60;
@@ -118,4 +118,4 @@ platform::Size FontMetrics::Character() const {
   return units_.Twips(QSize(Metrics().averageCharWidth(), Metrics().height()));
 }
 
-}  // namespace bench::qt
+}  // namespace host::qt

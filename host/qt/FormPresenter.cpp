@@ -12,13 +12,13 @@
 #include "host/qt/WidgetMirror.h"
 #include "toolkit/headless/Application.h"
 
-namespace bench::qt {
+namespace host::qt {
 namespace {
 
 /// The content of a window; its size hint is the size that the form's layout needs.
 class FormWidget final : public QWidget {
  public:
-  FormWidget(QWidget* parent, std::weak_ptr<headless::Control> form, const Units& units)
+  FormWidget(QWidget* parent, std::weak_ptr<toolkit::headless::Control> form, const Units& units)
       : QWidget(parent), form_(std::move(form)), units_(units) {}
   QSize sizeHint() const override {
     const auto form = form_.lock();
@@ -26,12 +26,12 @@ class FormWidget final : public QWidget {
   }
 
  private:
-  const std::weak_ptr<headless::Control> form_;
+  const std::weak_ptr<toolkit::headless::Control> form_;
   const Units units_;
 };
 
-QWidget* NewFormWidget(WidgetMirror& mirror, headless::Control& control) {
-  const auto& form = dynamic_cast<const headless::Form&>(control);
+QWidget* NewFormWidget(WidgetMirror& mirror, toolkit::headless::Control& control) {
+  const auto& form = dynamic_cast<const toolkit::headless::Form&>(control);
   QWidget* outer = mirror.EmbeddedIn(form);
   auto* widget = new FormWidget(outer, control.weak_from_this(), mirror.GetUnits());
   // Window managers keep dialogs above their owner and minimise them with it.
@@ -61,7 +61,7 @@ void Centre(QWidget& window, const QWidget* owner) {
 
 }  // namespace
 
-FormPresenter::FormPresenter(WidgetMirror& mirror, headless::Control& control)
+FormPresenter::FormPresenter(WidgetMirror& mirror, toolkit::headless::Control& control)
     : PresenterFor(mirror, control, NewFormWidget(mirror, control)) {
   GetShown().setFocusPolicy(Qt::ClickFocus);
 }
@@ -119,7 +119,7 @@ bool FormPresenter::Filter(QObject& watched, QEvent& event) {
     case QEvent::Close:
       if (Embedded()) break;
       event.ignore();
-      Forward([](headless::Form& form) { form.Close(); });
+      Forward([](toolkit::headless::Form& form) { form.Close(); });
       return true;
     case QEvent::Resize:
       Resized();
@@ -139,17 +139,17 @@ void FormPresenter::Resized() {
   const auto inner = GetMirror().GetUnits().Twips(size);
   if (Embedded())
     // Resized by the host's layout, so not an action of the user: it applies even if the form is blocked.
-    GetMirror().Enqueue(Control(), [inner](headless::Control& form) {
+    GetMirror().Enqueue(Control(), [inner](toolkit::headless::Control& form) {
       form.SetBounds({form.Bounds().left, form.Bounds().top, inner.width, inner.height});
     });
   else
-    Forward([inner](headless::Form& form) { form.Resize(inner); });
+    Forward([inner](toolkit::headless::Form& form) { form.Resize(inner); });
 }
 
 void FormPresenter::Activated() {
   // Qt may have moved the focus; the model decides where it is.
   GetMirror().RestoreFocus();
-  Forward([](headless::Form& form) { form.Activate(); });
+  Forward([](toolkit::headless::Form& form) { form.Activate(); });
 }
 
-}  // namespace bench::qt
+}  // namespace host::qt

@@ -6,12 +6,12 @@
 #include "host/qt/Presenter.h"
 #include "toolkit/headless/Form.h"
 
-namespace bench::qt {
+namespace host::qt {
 
 /// A window, or the content of one if the form is embedded.
-class FormPresenter final : public PresenterFor<headless::Form, QWidget> {
+class FormPresenter final : public PresenterFor<toolkit::headless::Form, QWidget> {
  public:
-  FormPresenter(WidgetMirror& mirror, headless::Control& control);
+  FormPresenter(WidgetMirror& mirror, toolkit::headless::Control& control);
   bool Filter(QObject& watched, QEvent& event) override;
 
  protected:
@@ -31,4 +31,4 @@ class FormPresenter final : public PresenterFor<headless::Form, QWidget> {
   orvik::platform::Rect place_;
 };
 
-}  // namespace bench::qt
+}  // namespace host::qt

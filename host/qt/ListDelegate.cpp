@@ -6,7 +6,7 @@
 #include "host/qt/Contrast.h"
 #include "host/qt/ListModel.h"
 
-namespace bench::qt {
+namespace host::qt {
 namespace {
 
 constexpr int kSignSize = 64;  // Qt scales it down
@@ -49,4 +49,4 @@ void ListDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelInd
   option->text = FailedText(option->text);
 }
 
-}  // namespace bench::qt
+}  // namespace host::qt

@@ -2,7 +2,7 @@
 
 #include <QStyledItemDelegate>
 
-namespace bench::qt {
+namespace host::qt {
 
 /// Draws the cells of a list: their colours are legible in light and dark palettes and in selected rows, and
 /// the text of a failed row starts with a sign and a word.
@@ -14,4 +14,4 @@ class ListDelegate final : public QStyledItemDelegate {
   void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
 };
 
-}  // namespace bench::qt
+}  // namespace host::qt

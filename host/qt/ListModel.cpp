@@ -7,7 +7,7 @@
 #include "host/qt/Conversions.h"
 #include "host/qt/Units.h"
 
-namespace bench::qt {
+namespace host::qt {
 
 namespace platform = orvik::platform;
 
@@ -103,4 +103,4 @@ QVariant ListModel::headerData(int section, Qt::Orientation orientation, int rol
   return {};
 }
 
-}  // namespace bench::qt
+}  // namespace host::qt

@@ -5,7 +5,7 @@
 
 #include "toolkit/headless/ListView.h"
 
-namespace bench::qt {
+namespace host::qt {
 
 /// Whether the cell belongs to a reading that failed.
 inline constexpr int kFailedRole = Qt::UserRole;
@@ -17,7 +17,7 @@ QString FailedText(const QString& text);
 /// rows.
 class ListModel final : public QAbstractTableModel {
  public:
-  explicit ListModel(const headless::ListView& list) : list_(list) {}
+  explicit ListModel(const toolkit::headless::ListView& list) : list_(list) {}
 
   /// Notifies the views of changes in the list.
   void Update();
@@ -28,10 +28,10 @@ class ListModel final : public QAbstractTableModel {
   QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
  private:
-  const headless::ListView& list_;
+  const toolkit::headless::ListView& list_;
   // What the views were notified of.
   int rows_ = 0;
   std::vector<orvik::platform::ListColumn> columns_;
 };
 
-}  // namespace bench::qt
+}  // namespace host::qt

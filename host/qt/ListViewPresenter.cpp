@@ -8,7 +8,7 @@
 #include "host/qt/Units.h"
 #include "host/qt/WidgetMirror.h"
 
-namespace bench::qt {
+namespace host::qt {
 namespace {
 
 int ButtonOf(const QMouseEvent& event) {
@@ -26,7 +26,7 @@ int ButtonOf(const QMouseEvent& event) {
 
 }  // namespace
 
-ListViewPresenter::ListViewPresenter(WidgetMirror& mirror, headless::Control& control)
+ListViewPresenter::ListViewPresenter(WidgetMirror& mirror, toolkit::headless::Control& control)
     : PresenterFor(mirror, control, new QTreeView), list_(GetModel()) {
   QTreeView& shown = GetShown();
   shown.setModel(&list_);
@@ -90,14 +90,14 @@ void ListViewPresenter::Clicked(const QMouseEvent& event) {
   const orvik::platform::MouseEvent mouse{ButtonOf(event), ShiftOf(event), units.Twips(inList.x()),
                                           units.Twips(inList.y())};
   const int row = GetShown().indexAt(inViewport).row();
-  Forward([row, mouse](headless::ListView& list) { list.ClickRow(row, mouse); });
+  Forward([row, mouse](toolkit::headless::ListView& list) { list.ClickRow(row, mouse); });
 }
 
 void ListViewPresenter::Selected(int row) {
   if (row < 0) return;
-  Forward([row](headless::ListView& list) {
+  Forward([row](toolkit::headless::ListView& list) {
     if (row < list.RowCount()) list.SelectRow(list.RowKeyAt(row));
   });
 }
 
-}  // namespace bench::qt
+}  // namespace host::qt

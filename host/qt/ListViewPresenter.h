@@ -8,11 +8,11 @@
 
 class QMouseEvent;
 
-namespace bench::qt {
+namespace host::qt {
 
-class ListViewPresenter final : public PresenterFor<headless::ListView, QTreeView> {
+class ListViewPresenter final : public PresenterFor<toolkit::headless::ListView, QTreeView> {
  public:
-  ListViewPresenter(WidgetMirror& mirror, headless::Control& control);
+  ListViewPresenter(WidgetMirror& mirror, toolkit::headless::Control& control);
   ~ListViewPresenter() override;
   bool Filter(QObject& watched, QEvent& event) override;
 
@@ -30,4 +30,4 @@ class ListViewPresenter final : public PresenterFor<headless::ListView, QTreeVie
   int ensured_ = -1;
 };
 
-}  // namespace bench::qt
+}  // namespace host::qt

@@ -8,9 +8,9 @@
 #include "host/qt/WidgetMirror.h"
 #include "toolkit/headless/Form.h"
 
-namespace bench::qt {
+namespace host::qt {
 
-Presenter::Presenter(WidgetMirror& mirror, headless::Control& control, QWidget* widget)
+Presenter::Presenter(WidgetMirror& mirror, toolkit::headless::Control& control, QWidget* widget)
     : mirror_(mirror), control_(control), widget_(widget) {
   widget->setObjectName(ToQt(control.Name()));
   WatchEvents(*widget);
@@ -53,7 +53,7 @@ void Presenter::SyncBackground() {
   widget_->setAutoFillBackground(true);
 }
 
-void Presenter::ForwardToControl(std::function<void(headless::Control&)> action) {
+void Presenter::ForwardToControl(std::function<void(toolkit::headless::Control&)> action) {
   mirror_.Forward(control_, std::move(action));
 }
 
@@ -69,10 +69,10 @@ void Presenter::FocusCame(const QEvent& event) {
   // Set by Qt for a window that became active; the model decides where the focus is.
   if (reason == Qt::ActiveWindowFocusReason) return mirror_.RestoreFocus();
   if (!control_.CanFocus() || reason == Qt::PopupFocusReason) return;
-  ForwardToControl([](headless::Control& control) {
+  ForwardToControl([](toolkit::headless::Control& control) {
     if (const auto form = control.TopForm()) form->Activate();
     control.SetFocus();
   });
 }
 
-}  // namespace bench::qt
+}  // namespace host::qt

@@ -9,7 +9,7 @@
 
 class QEvent;
 
-namespace bench::qt {
+namespace host::qt {
 
 class WidgetMirror;
 
@@ -21,7 +21,7 @@ class Presenter {
   Presenter(const Presenter&) = delete;
   Presenter& operator=(const Presenter&) = delete;
 
-  headless::Control& Control() const { return control_; }
+  toolkit::headless::Control& Control() const { return control_; }
   /// The widget; null after the window that it is embedded in was deleted.
   QWidget* Widget() const { return widget_; }
   /// Copies the state of the control to the widget.
@@ -37,7 +37,7 @@ class Presenter {
 
  protected:
   /// Watches the widget's events.
-  Presenter(WidgetMirror& mirror, headless::Control& control, QWidget* widget);
+  Presenter(WidgetMirror& mirror, toolkit::headless::Control& control, QWidget* widget);
 
   /// Copies the state of this class of control.
   virtual void SyncOwn() = 0;
@@ -57,14 +57,14 @@ class Presenter {
     QObject::connect(sender, signal, &listener_, std::move(handler));
   }
   /// Posts the user's action, unless the mirror itself is changing the widget.
-  void ForwardToControl(std::function<void(headless::Control&)> action);
+  void ForwardToControl(std::function<void(toolkit::headless::Control&)> action);
 
  private:
   void SyncBackground();
   void FocusCame(const QEvent& event);
 
   WidgetMirror& mirror_;
-  headless::Control& control_;
+  toolkit::headless::Control& control_;
   QPointer<QWidget> widget_;
   QObject listener_;
 };
@@ -73,7 +73,7 @@ class Presenter {
 template <class Model, class Shown>
 class PresenterFor : public Presenter {
  protected:
-  PresenterFor(WidgetMirror& mirror, headless::Control& control, Shown* widget)
+  PresenterFor(WidgetMirror& mirror, toolkit::headless::Control& control, Shown* widget)
       : Presenter(mirror, control, widget), shown_(widget) {}
 
   Model& GetModel() const { return static_cast<Model&>(Control()); }
@@ -81,12 +81,13 @@ class PresenterFor : public Presenter {
   /// Posts the user's `action` on the model.
   template <class Action>
   void Forward(Action action) {
-    ForwardToControl(
-        [action = std::move(action)](headless::Control& control) { action(static_cast<Model&>(control)); });
+    ForwardToControl([action = std::move(action)](toolkit::headless::Control& control) {
+      action(static_cast<Model&>(control));
+    });
   }
 
  private:
   Shown* shown_;
 };
 
-}  // namespace bench::qt
+}  // namespace host::qt

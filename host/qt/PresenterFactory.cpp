@@ -11,41 +11,41 @@
 #include "toolkit/headless/ContainerSite.h"
 #include "toolkit/headless/Panel.h"
 
-namespace bench::qt {
+namespace host::qt {
 namespace {
 
 using Made = std::unique_ptr<Presenter>;
 
 template <class Model, class Shown>
-Made MakeIf(WidgetMirror& mirror, headless::Control& control) {
+Made MakeIf(WidgetMirror& mirror, toolkit::headless::Control& control) {
   return dynamic_cast<Model*>(&control) ? std::make_unique<Shown>(mirror, control) : nullptr;
 }
 
 // A form is a panel too, so it comes first.
-constexpr Made (*kMakers[])(WidgetMirror&, headless::Control&) = {
-    MakeIf<headless::Form, FormPresenter>,
-    MakeIf<headless::Panel, PanelPresenter>,
-    MakeIf<headless::ContainerSite, PanelPresenter>,
-    MakeIf<headless::Label, LabelPresenter>,
-    MakeIf<headless::Frame, FramePresenter>,
-    MakeIf<headless::Button, ButtonPresenter>,
-    MakeIf<headless::TextBox, TextBoxPresenter>,
-    MakeIf<headless::ComboBox, ComboBoxPresenter>,
-    MakeIf<headless::ListView, ListViewPresenter>,
-    MakeIf<headless::TreeView, TreeViewPresenter>,
-    MakeIf<headless::Toolbar, ToolbarPresenter>,
-    MakeIf<headless::ProgressBar, ProgressBarPresenter>,
-    MakeIf<headless::PictureBox, PictureBoxPresenter>,
-    MakeIf<headless::Tabs, TabsPresenter>,
+constexpr Made (*kMakers[])(WidgetMirror&, toolkit::headless::Control&) = {
+    MakeIf<toolkit::headless::Form, FormPresenter>,
+    MakeIf<toolkit::headless::Panel, PanelPresenter>,
+    MakeIf<toolkit::headless::ContainerSite, PanelPresenter>,
+    MakeIf<toolkit::headless::Label, LabelPresenter>,
+    MakeIf<toolkit::headless::Frame, FramePresenter>,
+    MakeIf<toolkit::headless::Button, ButtonPresenter>,
+    MakeIf<toolkit::headless::TextBox, TextBoxPresenter>,
+    MakeIf<toolkit::headless::ComboBox, ComboBoxPresenter>,
+    MakeIf<toolkit::headless::ListView, ListViewPresenter>,
+    MakeIf<toolkit::headless::TreeView, TreeViewPresenter>,
+    MakeIf<toolkit::headless::Toolbar, ToolbarPresenter>,
+    MakeIf<toolkit::headless::ProgressBar, ProgressBarPresenter>,
+    MakeIf<toolkit::headless::PictureBox, PictureBoxPresenter>,
+    MakeIf<toolkit::headless::Tabs, TabsPresenter>,
 };
 
 }  // namespace
 
-Made MakePresenter(WidgetMirror& mirror, headless::Control& control) {
+Made MakePresenter(WidgetMirror& mirror, toolkit::headless::Control& control) {
   for (const auto make : kMakers) {
     if (auto made = make(mirror, control)) return made;
   }
   return nullptr;
 }
 
-}  // namespace bench::qt
+}  // namespace host::qt

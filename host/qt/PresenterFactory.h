@@ -2,16 +2,16 @@
 
 #include <memory>
 
-namespace bench::headless {
+namespace toolkit::headless {
 class Control;
 }
 
-namespace bench::qt {
+namespace host::qt {
 
 class Presenter;
 class WidgetMirror;
 
 /// Creates the presenter for the control's class; empty for invisible controls.
-std::unique_ptr<Presenter> MakePresenter(WidgetMirror& mirror, headless::Control& control);
+std::unique_ptr<Presenter> MakePresenter(WidgetMirror& mirror, toolkit::headless::Control& control);
 
-}  // namespace bench::qt
+}  // namespace host::qt

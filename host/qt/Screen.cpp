@@ -9,18 +9,18 @@
 #include "toolkit/headless/Application.h"
 #include "toolkit/headless/Form.h"
 
-namespace bench::qt {
+namespace host::qt {
 
-Screen::Screen(std::shared_ptr<headless::Application> application, Measure measure)
+Screen::Screen(std::shared_ptr<toolkit::headless::Application> application, Measure measure)
     : mirror_(std::make_unique<WidgetMirror>(std::move(application), measure)) {}
 
 Screen::~Screen() = default;
 
 QWidget* Screen::Embed(const std::shared_ptr<orvik::platform::IForm>& form, QWidget* parent) {
-  const auto embedded = std::dynamic_pointer_cast<headless::Form>(form);
+  const auto embedded = std::dynamic_pointer_cast<toolkit::headless::Form>(form);
   if (!embedded || !parent)
-    headless::Fail(orvik::HostError::kInvalidArgument,
-                   "only a form of the application can be embedded, and only in a window");
+    toolkit::headless::Fail(orvik::HostError::kInvalidArgument,
+                            "only a form of the application can be embedded, and only in a window");
   return mirror_->Embed(*embedded, parent);
 }
 
@@ -41,4 +41,4 @@ void Screen::Exec() { mirror_->Exec(); }
 
 void Screen::Quit() { mirror_->Quit(); }
 
-}  // namespace bench::qt
+}  // namespace host::qt

@@ -6,16 +6,16 @@
 
 class QWidget;
 
+namespace toolkit::headless {
+class Application;
+}
+
 namespace orvik::platform {
 class IControl;
 class IForm;
 }  // namespace orvik::platform
 
-namespace bench::headless {
-class Application;
-}
-
-namespace bench::qt {
+namespace host::qt {
 
 /// The sizes that the layout uses.
 enum class Measure {
@@ -30,7 +30,8 @@ class WidgetMirror;
 /// removes open windows from the screen; the application continues without one.
 class Screen {
  public:
-  explicit Screen(std::shared_ptr<headless::Application> application, Measure measure = Measure::kFont);
+  explicit Screen(std::shared_ptr<toolkit::headless::Application> application,
+                  Measure measure = Measure::kFont);
   Screen(const Screen&) = delete;
   Screen& operator=(const Screen&) = delete;
   ~Screen();
@@ -62,4 +63,4 @@ class Screen {
   std::unique_ptr<WidgetMirror> mirror_;
 };
 
-}  // namespace bench::qt
+}  // namespace host::qt

@@ -5,9 +5,9 @@
 
 #include "host/qt/Conversions.h"
 
-namespace bench::qt {
+namespace host::qt {
 
-LabelPresenter::LabelPresenter(WidgetMirror& mirror, headless::Control& control)
+LabelPresenter::LabelPresenter(WidgetMirror& mirror, toolkit::headless::Control& control)
     : PresenterFor(mirror, control, new QLabel) {
   // Texts of the tester and the operator are never markup.
   GetShown().setTextFormat(Qt::PlainText);
@@ -27,10 +27,10 @@ void LabelPresenter::SyncOwn() {
 
 void FramePresenter::SyncOwn() { GetShown().setTitle(WithAccessKey(GetModel().Caption())); }
 
-ButtonPresenter::ButtonPresenter(WidgetMirror& mirror, headless::Control& control)
+ButtonPresenter::ButtonPresenter(WidgetMirror& mirror, toolkit::headless::Control& control)
     : PresenterFor(mirror, control, new QPushButton) {
   When(&GetShown(), &QPushButton::clicked,
-       [this] { Forward([](headless::Button& button) { button.Click(); }); });
+       [this] { Forward([](toolkit::headless::Button& button) { button.Click(); }); });
 }
 
 void ButtonPresenter::SyncOwn() { GetShown().setText(WithAccessKey(GetModel().Caption())); }
@@ -44,7 +44,7 @@ bool ButtonPresenter::Filter(QObject& watched, QEvent& event) {
   return true;
 }
 
-PictureBoxPresenter::PictureBoxPresenter(WidgetMirror& mirror, headless::Control& control)
+PictureBoxPresenter::PictureBoxPresenter(WidgetMirror& mirror, toolkit::headless::Control& control)
     : PresenterFor(mirror, control, new QLabel) {
   // A bitmap's pixel has a fixed length, independent of the screen's resolution.
   GetShown().setScaledContents(true);
@@ -57,7 +57,7 @@ void PictureBoxPresenter::SyncOwn() {
   GetShown().setPixmap(PictureOf(bitmap_));
 }
 
-ProgressBarPresenter::ProgressBarPresenter(WidgetMirror& mirror, headless::Control& control)
+ProgressBarPresenter::ProgressBarPresenter(WidgetMirror& mirror, toolkit::headless::Control& control)
     : PresenterFor(mirror, control, new QProgressBar) {
   GetShown().setTextVisible(false);
 }
@@ -69,4 +69,4 @@ void ProgressBarPresenter::SyncOwn() {
   GetShown().setValue(GetModel().Value());
 }
 
-}  // namespace bench::qt
+}  // namespace host::qt

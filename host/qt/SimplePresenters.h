@@ -13,12 +13,12 @@
 #include "toolkit/headless/PictureBox.h"
 #include "toolkit/headless/ProgressBar.h"
 
-namespace bench::qt {
+namespace host::qt {
 
 /// A surface: a panel, or the site of a user control.
-class PanelPresenter final : public PresenterFor<headless::Control, QWidget> {
+class PanelPresenter final : public PresenterFor<toolkit::headless::Control, QWidget> {
  public:
-  PanelPresenter(WidgetMirror& mirror, headless::Control& control)
+  PanelPresenter(WidgetMirror& mirror, toolkit::headless::Control& control)
       : PresenterFor(mirror, control, new QWidget) {}
 
  protected:
@@ -26,27 +26,27 @@ class PanelPresenter final : public PresenterFor<headless::Control, QWidget> {
 };
 
 /// A text. It names the control after it if that can have the focus; its access key moves the focus there.
-class LabelPresenter final : public PresenterFor<headless::Label, QLabel> {
+class LabelPresenter final : public PresenterFor<toolkit::headless::Label, QLabel> {
  public:
-  LabelPresenter(WidgetMirror& mirror, headless::Control& control);
+  LabelPresenter(WidgetMirror& mirror, toolkit::headless::Control& control);
   void Precedes(const Presenter& next) override;
 
  protected:
   void SyncOwn() override;
 };
 
-class FramePresenter final : public PresenterFor<headless::Frame, QGroupBox> {
+class FramePresenter final : public PresenterFor<toolkit::headless::Frame, QGroupBox> {
  public:
-  FramePresenter(WidgetMirror& mirror, headless::Control& control)
+  FramePresenter(WidgetMirror& mirror, toolkit::headless::Control& control)
       : PresenterFor(mirror, control, new QGroupBox) {}
 
  protected:
   void SyncOwn() override;
 };
 
-class ButtonPresenter final : public PresenterFor<headless::Button, QPushButton> {
+class ButtonPresenter final : public PresenterFor<toolkit::headless::Button, QPushButton> {
  public:
-  ButtonPresenter(WidgetMirror& mirror, headless::Control& control);
+  ButtonPresenter(WidgetMirror& mirror, toolkit::headless::Control& control);
   /// Return clicks the button too, as in a dialog.
   bool Filter(QObject& watched, QEvent& event) override;
 
@@ -54,9 +54,9 @@ class ButtonPresenter final : public PresenterFor<headless::Button, QPushButton>
   void SyncOwn() override;
 };
 
-class PictureBoxPresenter final : public PresenterFor<headless::PictureBox, QLabel> {
+class PictureBoxPresenter final : public PresenterFor<toolkit::headless::PictureBox, QLabel> {
  public:
-  PictureBoxPresenter(WidgetMirror& mirror, headless::Control& control);
+  PictureBoxPresenter(WidgetMirror& mirror, toolkit::headless::Control& control);
 
  protected:
   void SyncOwn() override;
@@ -65,12 +65,12 @@ class PictureBoxPresenter final : public PresenterFor<headless::PictureBox, QLab
   std::vector<std::byte> bitmap_;
 };
 
-class ProgressBarPresenter final : public PresenterFor<headless::ProgressBar, QProgressBar> {
+class ProgressBarPresenter final : public PresenterFor<toolkit::headless::ProgressBar, QProgressBar> {
  public:
-  ProgressBarPresenter(WidgetMirror& mirror, headless::Control& control);
+  ProgressBarPresenter(WidgetMirror& mirror, toolkit::headless::Control& control);
 
  protected:
   void SyncOwn() override;
 };
 
-}  // namespace bench::qt
+}  // namespace host::qt

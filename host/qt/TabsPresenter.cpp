@@ -5,20 +5,21 @@
 
 #include "host/qt/Conversions.h"
 
-namespace bench::qt {
+namespace host::qt {
 
-TabsPresenter::TabsPresenter(WidgetMirror& mirror, headless::Control& control)
+TabsPresenter::TabsPresenter(WidgetMirror& mirror, toolkit::headless::Control& control)
     : PresenterFor(mirror, control, new QWidget), bar_(*new QTabBar(&GetShown())) {
   bar_.setExpanding(false);
   When(&bar_, &QTabBar::currentChanged, [this](int place) {
     const auto keys = GetModel().Keys();
     if (place < 0 || place >= static_cast<int>(keys.size())) return;
-    Forward([key = keys[static_cast<std::size_t>(place)]](headless::Tabs& tabs) { tabs.Choose(key); });
+    Forward(
+        [key = keys[static_cast<std::size_t>(place)]](toolkit::headless::Tabs& tabs) { tabs.Choose(key); });
   });
 }
 
 void TabsPresenter::SyncOwn() {
-  const headless::Tabs& model = GetModel();
+  const toolkit::headless::Tabs& model = GetModel();
   const auto keys = model.Keys();
   // Pages are never removed.
   while (bar_.count() < static_cast<int>(keys.size())) bar_.addTab(QString());
@@ -36,4 +37,4 @@ bool TabsPresenter::Filter(QObject& watched, QEvent& event) {
   return Presenter::Filter(watched, event);
 }
 
-}  // namespace bench::qt
+}  // namespace host::qt

@@ -8,12 +8,12 @@
 #include "host/qt/Presenter.h"
 #include "toolkit/headless/Tabs.h"
 
-namespace bench::qt {
+namespace host::qt {
 
 /// A tab bar; the model places the pages below it.
-class TabsPresenter final : public PresenterFor<headless::Tabs, QWidget> {
+class TabsPresenter final : public PresenterFor<toolkit::headless::Tabs, QWidget> {
  public:
-  TabsPresenter(WidgetMirror& mirror, headless::Control& control);
+  TabsPresenter(WidgetMirror& mirror, toolkit::headless::Control& control);
   bool Filter(QObject& watched, QEvent& event) override;
 
  protected:
@@ -23,4 +23,4 @@ class TabsPresenter final : public PresenterFor<headless::Tabs, QWidget> {
   QTabBar& bar_;
 };
 
-}  // namespace bench::qt
+}  // namespace host::qt

@@ -6,11 +6,11 @@
 
 #include "host/qt/Conversions.h"
 
-namespace bench::qt {
+namespace host::qt {
 namespace {
 
-QWidget* NewTextWidget(const headless::Control& control) {
-  if (!dynamic_cast<const headless::TextBox&>(control).MultiLine()) return new QLineEdit;
+QWidget* NewTextWidget(const toolkit::headless::Control& control) {
+  if (!dynamic_cast<const toolkit::headless::TextBox&>(control).MultiLine()) return new QLineEdit;
   auto* lines = new QPlainTextEdit;
   lines->setTabChangesFocus(true);
   return lines;
@@ -18,7 +18,7 @@ QWidget* NewTextWidget(const headless::Control& control) {
 
 }  // namespace
 
-TextBoxPresenter::TextBoxPresenter(WidgetMirror& mirror, headless::Control& control)
+TextBoxPresenter::TextBoxPresenter(WidgetMirror& mirror, toolkit::headless::Control& control)
     : PresenterFor(mirror, control, NewTextWidget(control)),
       line_(qobject_cast<QLineEdit*>(Widget())),
       lines_(qobject_cast<QPlainTextEdit*>(Widget())) {
@@ -31,7 +31,7 @@ TextBoxPresenter::TextBoxPresenter(WidgetMirror& mirror, headless::Control& cont
 bool TextBoxPresenter::Fits() const { return GetModel().MultiLine() == (lines_ != nullptr); }
 
 void TextBoxPresenter::Typed(const QString& text) {
-  Forward([typed = FromQt(text)](headless::TextBox& box) { box.TypeOver(typed); });
+  Forward([typed = FromQt(text)](toolkit::headless::TextBox& box) { box.TypeOver(typed); });
 }
 
 void TextBoxPresenter::SyncOwn() {
@@ -50,4 +50,4 @@ void TextBoxPresenter::SyncOwn() {
   line_->setCursorPosition(std::min(cursor, static_cast<int>(text.size())));
 }
 
-}  // namespace bench::qt
+}  // namespace host::qt

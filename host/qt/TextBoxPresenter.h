@@ -8,12 +8,12 @@
 class QLineEdit;
 class QPlainTextEdit;
 
-namespace bench::qt {
+namespace host::qt {
 
 /// A line edit or a multi-line edit.
-class TextBoxPresenter final : public PresenterFor<headless::TextBox, QWidget> {
+class TextBoxPresenter final : public PresenterFor<toolkit::headless::TextBox, QWidget> {
  public:
-  TextBoxPresenter(WidgetMirror& mirror, headless::Control& control);
+  TextBoxPresenter(WidgetMirror& mirror, toolkit::headless::Control& control);
   bool Fits() const override;
 
  protected:
@@ -28,4 +28,4 @@ class TextBoxPresenter final : public PresenterFor<headless::TextBox, QWidget> {
   QPlainTextEdit* lines_ = nullptr;
 };
 
-}  // namespace bench::qt
+}  // namespace host::qt

@@ -6,9 +6,9 @@
 
 #include "host/qt/Conversions.h"
 
-namespace bench::qt {
+namespace host::qt {
 
-ToolbarPresenter::ToolbarPresenter(WidgetMirror& mirror, headless::Control& control)
+ToolbarPresenter::ToolbarPresenter(WidgetMirror& mirror, toolkit::headless::Control& control)
     : PresenterFor(mirror, control, new QWidget) {
   auto* row = new QHBoxLayout(&GetShown());
   row->setContentsMargins(0, 0, 0, 0);
@@ -21,7 +21,7 @@ void ToolbarPresenter::SyncOwn() {
   const std::size_t known = commands_.size();
   commands_ = GetModel().Commands();
   AddFrom(known);
-  const headless::Toolbar& model = GetModel();
+  const toolkit::headless::Toolbar& model = GetModel();
   for (const auto& [command, button] : buttons_) {
     button->setText(WithAccessKey(model.CommandCaption(command)));
     button->setAccessibleName(WithoutAccessKey(model.CommandCaption(command)));
@@ -75,7 +75,7 @@ QString ToolbarPresenter::NameOf(int command) const {
 }
 
 void ToolbarPresenter::Chosen(int command) {
-  Forward([command](headless::Toolbar& toolbar) { toolbar.Click(command); });
+  Forward([command](toolkit::headless::Toolbar& toolbar) { toolbar.Click(command); });
 }
 
-}  // namespace bench::qt
+}  // namespace host::qt

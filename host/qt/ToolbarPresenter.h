@@ -11,12 +11,12 @@
 class QAction;
 class QToolButton;
 
-namespace bench::qt {
+namespace host::qt {
 
 /// A row of buttons named "TOOLBAR.COMMAND"; buttons with entries open a menu.
-class ToolbarPresenter final : public PresenterFor<headless::Toolbar, QWidget> {
+class ToolbarPresenter final : public PresenterFor<toolkit::headless::Toolbar, QWidget> {
  public:
-  ToolbarPresenter(WidgetMirror& mirror, headless::Control& control);
+  ToolbarPresenter(WidgetMirror& mirror, toolkit::headless::Control& control);
 
  protected:
   void SyncOwn() override;
@@ -33,4 +33,4 @@ class ToolbarPresenter final : public PresenterFor<headless::Toolbar, QWidget> {
   std::map<int, QAction*> entries_;
 };
 
-}  // namespace bench::qt
+}  // namespace host::qt

@@ -4,7 +4,7 @@
 
 #include "host/qt/Conversions.h"
 
-namespace bench::qt {
+namespace host::qt {
 namespace {
 
 // The role of the node's key.
@@ -12,7 +12,7 @@ constexpr int kKeyRole = Qt::UserRole;
 
 }  // namespace
 
-TreeViewPresenter::TreeViewPresenter(WidgetMirror& mirror, headless::Control& control)
+TreeViewPresenter::TreeViewPresenter(WidgetMirror& mirror, toolkit::headless::Control& control)
     : PresenterFor(mirror, control, new QTreeWidget) {
   GetShown().setColumnCount(1);
   GetShown().setHeaderHidden(true);
@@ -20,7 +20,7 @@ TreeViewPresenter::TreeViewPresenter(WidgetMirror& mirror, headless::Control& co
   GetShown().setUniformRowHeights(true);
   // Users can only change check marks.
   When(&GetShown(), &QTreeWidget::itemChanged, [this](QTreeWidgetItem* item) {
-    Forward([key = FromQt(item->data(0, kKeyRole).toString())](headless::TreeView& tree) {
+    Forward([key = FromQt(item->data(0, kKeyRole).toString())](toolkit::headless::TreeView& tree) {
       tree.ClickNode(key);
     });
   });
@@ -45,4 +45,4 @@ void TreeViewPresenter::SyncOwn() {
   }
 }
 
-}  // namespace bench::qt
+}  // namespace host::qt

@@ -5,15 +5,15 @@
 #include "host/qt/Presenter.h"
 #include "toolkit/headless/TreeView.h"
 
-namespace bench::qt {
+namespace host::qt {
 
-class TreeViewPresenter final : public PresenterFor<headless::TreeView, QTreeWidget> {
+class TreeViewPresenter final : public PresenterFor<toolkit::headless::TreeView, QTreeWidget> {
  public:
-  TreeViewPresenter(WidgetMirror& mirror, headless::Control& control);
+  TreeViewPresenter(WidgetMirror& mirror, toolkit::headless::Control& control);
 
  protected:
   void SyncOwn() override;
   orvik::platform::Color PlainBackColor() const override { return orvik::platform::kWindowBackground; }
 };
 
-}  // namespace bench::qt
+}  // namespace host::qt

@@ -4,7 +4,7 @@
 #include <QScreen>
 #include <cmath>
 
-namespace bench::qt {
+namespace host::qt {
 
 namespace platform = orvik::platform;
 
@@ -38,4 +38,4 @@ platform::Twips Units::Twips(int pixels) const {
 
 platform::Size Units::Twips(const QSize& size) const { return {Twips(size.width()), Twips(size.height())}; }
 
-}  // namespace bench::qt
+}  // namespace host::qt

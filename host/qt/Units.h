@@ -5,7 +5,7 @@
 
 #include "platform/Types.h"
 
-namespace bench::qt {
+namespace host::qt {
 
 /// Converts between twips (1,440 an inch) and pixels of the screen's logical resolution.
 class Units {
@@ -25,4 +25,4 @@ class Units {
   double twipsPerPixel_;
 };
 
-}  // namespace bench::qt
+}  // namespace host::qt

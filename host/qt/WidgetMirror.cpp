@@ -14,7 +14,7 @@
 #include "toolkit/headless/Form.h"
 #include "toolkit/headless/PlainMetrics.h"
 
-namespace bench::qt {
+namespace host::qt {
 
 using orvik::platform::WindowHandle;
 
@@ -58,10 +58,10 @@ class WidgetMirror::HostWatch final : public QObject {
   WidgetMirror& mirror_;
 };
 
-WidgetMirror::WidgetMirror(std::shared_ptr<headless::Application> application, Measure measure)
+WidgetMirror::WidgetMirror(std::shared_ptr<toolkit::headless::Application> application, Measure measure)
     : application_(std::move(application)),
-      metrics_(measure == Measure::kFont ? std::unique_ptr<headless::IMetrics>(new FontMetrics)
-                                         : std::make_unique<headless::PlainMetrics>()),
+      metrics_(measure == Measure::kFont ? std::unique_ptr<toolkit::headless::IMetrics>(new FontMetrics)
+                                         : std::make_unique<toolkit::headless::PlainMetrics>()),
       filter_(std::make_unique<EventFilter>(*this)),
       dispatcher_([this] { return application_->UntilWork(); },
                   [this] {
@@ -81,13 +81,13 @@ WidgetMirror::~WidgetMirror() {
   for (const auto& widget : discarded_) delete widget;
 }
 
-void WidgetMirror::Changed(headless::Control& control) {
+void WidgetMirror::Changed(toolkit::headless::Control& control) {
   changed_.insert_or_assign(control.Handle(), control.weak_from_this());
   // The change may come from a handler of Qt during a sleep, which must end then.
   dispatcher_.LookAgain();
 }
 
-void WidgetMirror::Destroyed(const headless::Control& control) {
+void WidgetMirror::Destroyed(const toolkit::headless::Control& control) {
   changed_.erase(control.Handle());
   embedded_.erase(control.Handle());
   Discard(control.Handle());
@@ -134,9 +134,9 @@ bool WidgetMirror::Update() {
   return true;
 }
 
-void WidgetMirror::Show(headless::Control& control) {
+void WidgetMirror::Show(toolkit::headless::Control& control) {
   Presenter* presenter = Find(control.Handle());
-  if (const auto* form = dynamic_cast<headless::Form*>(&control)) {
+  if (const auto* form = dynamic_cast<toolkit::headless::Form*>(&control)) {
     const bool wanted = form->Visible() || (presenter && form->Loaded()) || EmbeddedIn(*form);
     if (!wanted) return Remove(control);
   } else {
@@ -153,7 +153,7 @@ void WidgetMirror::Show(headless::Control& control) {
     Present(control);
 }
 
-void WidgetMirror::Present(headless::Control& control) {
+void WidgetMirror::Present(toolkit::headless::Control& control) {
   auto made = MakePresenter(*this, control);
   if (!made) return;
   Presenter& presenter = *made;
@@ -168,7 +168,7 @@ void WidgetMirror::Present(headless::Control& control) {
   presenter.Sync();
 }
 
-void WidgetMirror::Remove(headless::Control& control) {
+void WidgetMirror::Remove(toolkit::headless::Control& control) {
   if (!Find(control.Handle())) return;
   for (const auto& inner : application_->WindowsInside(control)) Remove(*inner);
   Discard(control.Handle());
@@ -202,7 +202,7 @@ void WidgetMirror::RemoveDeleted() {
 }
 
 void WidgetMirror::SyncFocus() {
-  const auto active = std::dynamic_pointer_cast<headless::Form>(application_->ActiveForm());
+  const auto active = std::dynamic_pointer_cast<toolkit::headless::Form>(application_->ActiveForm());
   const WindowHandle activeHandle = active ? active->Handle() : 0;
   if (std::exchange(shownActive_, activeHandle) != activeHandle && activeHandle != 0) {
     if (const Presenter* window = Find(activeHandle)) {
@@ -222,7 +222,7 @@ void WidgetMirror::RestoreFocus() {
   dispatcher_.LookAgain();
 }
 
-QWidget* WidgetMirror::Embed(headless::Form& form, QWidget* parent) {
+QWidget* WidgetMirror::Embed(toolkit::headless::Form& form, QWidget* parent) {
   embedded_[form.Handle()] = parent;
   Remove(form);
   const bool updating = std::exchange(updating_, true);
@@ -231,7 +231,7 @@ QWidget* WidgetMirror::Embed(headless::Form& form, QWidget* parent) {
   return Find(form.Handle())->Widget();
 }
 
-QWidget* WidgetMirror::EmbeddedIn(const headless::Form& form) const {
+QWidget* WidgetMirror::EmbeddedIn(const toolkit::headless::Form& form) const {
   const auto found = embedded_.find(form.Handle());
   return found == embedded_.end() ? nullptr : found->second.data();
 }
@@ -249,12 +249,12 @@ void WidgetMirror::RestoreMinimised() {
   }
 }
 
-QWidget* WidgetMirror::OwnerOfNext(const headless::Form& form) const {
+QWidget* WidgetMirror::OwnerOfNext(const toolkit::headless::Form& form) const {
   // With a host window, only dialogs of the host are modal for Qt.
   if (QWidget* question = hostWindow_ ? QApplication::activeModalWidget() : nullptr) return question;
-  const headless::Form* owner = nullptr;
+  const toolkit::headless::Form* owner = nullptr;
   for (const auto& [handle, presenter] : presenters_) {
-    const auto* other = dynamic_cast<headless::Form*>(&presenter->Control());
+    const auto* other = dynamic_cast<toolkit::headless::Form*>(&presenter->Control());
     if (!other || other == &form || !other->Visible() || !presenter->Widget()) continue;
     if (other->ShowOrder() < form.ShowOrder() && (!owner || owner->ShowOrder() < other->ShowOrder()))
       owner = other;
@@ -264,11 +264,13 @@ QWidget* WidgetMirror::OwnerOfNext(const headless::Form& form) const {
                        : QApplication::activeWindow();
 }
 
-void WidgetMirror::Forward(headless::Control& control, std::function<void(headless::Control&)> action) {
+void WidgetMirror::Forward(toolkit::headless::Control& control,
+                           std::function<void(toolkit::headless::Control&)> action) {
   if (!updating_) Enqueue(control, std::move(action));
 }
 
-void WidgetMirror::Enqueue(headless::Control& control, std::function<void(headless::Control&)> action) {
+void WidgetMirror::Enqueue(toolkit::headless::Control& control,
+                           std::function<void(toolkit::headless::Control&)> action) {
   ++*pendingActions_;
   application_->Post([this, on = std::weak_ptr<int>(pendingActions_), to = control.weak_from_this(),
                       action = std::move(action)] {
@@ -280,7 +282,8 @@ void WidgetMirror::Enqueue(headless::Control& control, std::function<void(headle
   });
 }
 
-void WidgetMirror::Run(headless::Control& control, const std::function<void(headless::Control&)>& action) {
+void WidgetMirror::Run(toolkit::headless::Control& control,
+                       const std::function<void(toolkit::headless::Control&)>& action) {
   const std::weak_ptr<int> here = pendingActions_;
   try {
     action(control);
@@ -304,7 +307,7 @@ void WidgetMirror::ReportError() {
   }
 }
 
-void WidgetMirror::PreviewKey(headless::Control& control, const QKeyEvent& event) {
+void WidgetMirror::PreviewKey(toolkit::headless::Control& control, const QKeyEvent& event) {
   const auto form = control.TopForm();
   const int key = KeyOf(event);
   const QWidget* widget = Find(control.Handle())->Widget();
@@ -312,8 +315,8 @@ void WidgetMirror::PreviewKey(headless::Control& control, const QKeyEvent& event
   // A key that the focused control did not handle was previewed already.
   if (focused && focused != widget) return;
   if (!form || !form->KeyPreview() || key == 0 || event.isAutoRepeat()) return;
-  Forward(*form, [key, shift = ShiftOf(event)](headless::Control& target) {
-    static_cast<headless::Form&>(target).PreviewKey(key, shift);
+  Forward(*form, [key, shift = ShiftOf(event)](toolkit::headless::Control& target) {
+    static_cast<toolkit::headless::Form&>(target).PreviewKey(key, shift);
   });
 }
 
@@ -327,4 +330,4 @@ void WidgetMirror::Unwatch(const Presenter& presenter) {
   std::erase_if(watched_, [&](const auto& entry) { return entry.second == &presenter; });
 }
 
-}  // namespace bench::qt
+}  // namespace host::qt

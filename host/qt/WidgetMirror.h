@@ -19,26 +19,26 @@
 
 class QKeyEvent;
 
-namespace bench::headless {
+namespace toolkit::headless {
 class Application;
 class Control;
 class Form;
-}  // namespace bench::headless
+}  // namespace toolkit::headless
 
-namespace bench::qt {
+namespace host::qt {
 
 class Presenter;
 
 /// Mirrors the windows as widgets: owns the presenters of all windows that have been shown, records changes
 /// until the next update, and forwards user actions to the model.
-class WidgetMirror final : public headless::IScreen {
+class WidgetMirror final : public toolkit::headless::IScreen {
  public:
-  WidgetMirror(std::shared_ptr<headless::Application> application, Measure measure);
+  WidgetMirror(std::shared_ptr<toolkit::headless::Application> application, Measure measure);
   ~WidgetMirror() override;
 
-  void Changed(headless::Control& control) override;
-  void Destroyed(const headless::Control& control) override;
-  const headless::IMetrics& Metrics() const override { return *metrics_; }
+  void Changed(toolkit::headless::Control& control) override;
+  void Destroyed(const toolkit::headless::Control& control) override;
+  const toolkit::headless::IMetrics& Metrics() const override { return *metrics_; }
   void Watch(const std::vector<int>& descriptors) override { dispatcher_.Watch(descriptors); }
   void WorkAdded() override { dispatcher_.WorkAdded(); }
   void Sleep(std::chrono::nanoseconds longest) override;
@@ -53,26 +53,26 @@ class WidgetMirror final : public headless::IScreen {
   bool Update();
   void Exec();
   void Quit();
-  QWidget* Embed(headless::Form& form, QWidget* parent);
+  QWidget* Embed(toolkit::headless::Form& form, QWidget* parent);
 
   /// The presenter of a window, or null if it is not shown.
   Presenter* Find(orvik::platform::WindowHandle handle) const;
   const Units& GetUnits() const { return units_; }
-  headless::Application& Application() const { return *application_; }
+  toolkit::headless::Application& Application() const { return *application_; }
   /// The widget that the form is embedded in, or null.
-  QWidget* EmbeddedIn(const headless::Form& form) const;
+  QWidget* EmbeddedIn(const toolkit::headless::Form& form) const;
   /// The owner for a window that appears now, or null: an open dialog of the host, which would be covered
   /// otherwise, else the window shown last, else the host's own.
-  QWidget* OwnerOfNext(const headless::Form& form) const;
+  QWidget* OwnerOfNext(const toolkit::headless::Form& form) const;
   /// Restores windows that were minimised without the host's own, since they may wait for the user.
   void RestoreMinimised();
 
   /// Posts an action of the user. Does nothing during an update, when the mirror itself changes the widgets.
-  void Forward(headless::Control& control, std::function<void(headless::Control&)> action);
+  void Forward(toolkit::headless::Control& control, std::function<void(toolkit::headless::Control&)> action);
   /// Posts an action in any case.
-  void Enqueue(headless::Control& control, std::function<void(headless::Control&)> action);
+  void Enqueue(toolkit::headless::Control& control, std::function<void(toolkit::headless::Control&)> action);
   /// Lets the form preview the key.
-  void PreviewKey(headless::Control& control, const QKeyEvent& event);
+  void PreviewKey(toolkit::headless::Control& control, const QKeyEvent& event);
   /// Sets active window and focus as in the model again, after Qt has changed them.
   void RestoreFocus();
   void Watch(QObject& object, Presenter& presenter);
@@ -82,25 +82,26 @@ class WidgetMirror final : public headless::IScreen {
   class EventFilter;
   class HostWatch;
 
-  void Show(headless::Control& control);
-  void Present(headless::Control& control);
-  void Remove(headless::Control& control);
+  void Show(toolkit::headless::Control& control);
+  void Present(toolkit::headless::Control& control);
+  void Remove(toolkit::headless::Control& control);
   void Discard(orvik::platform::WindowHandle handle);
   void RemoveDeleted();
   void SyncFocus();
-  void Run(headless::Control& control, const std::function<void(headless::Control&)>& action);
+  void Run(toolkit::headless::Control& control,
+           const std::function<void(toolkit::headless::Control&)>& action);
   void ReportError();
 
-  std::shared_ptr<headless::Application> application_;
+  std::shared_ptr<toolkit::headless::Application> application_;
   Units units_;
-  std::unique_ptr<headless::IMetrics> metrics_;
+  std::unique_ptr<toolkit::headless::IMetrics> metrics_;
   QPointer<QWidget> hostWindow_;
   std::unique_ptr<HostWatch> hostWatch_;
   std::function<void(const std::string&)> errorHandler_;
   std::unique_ptr<EventFilter> filter_;
   std::unordered_map<QObject*, Presenter*> watched_;
   // By handle: outer windows are created before inner ones.
-  std::map<orvik::platform::WindowHandle, std::weak_ptr<headless::Control>> changed_;
+  std::map<orvik::platform::WindowHandle, std::weak_ptr<toolkit::headless::Control>> changed_;
   std::map<orvik::platform::WindowHandle, std::unique_ptr<Presenter>> presenters_;
   std::map<orvik::platform::WindowHandle, QPointer<QWidget>> embedded_;
   // Widgets of destroyed controls that Qt may still use on the stack.
@@ -114,4 +115,4 @@ class WidgetMirror final : public headless::IScreen {
   EventDispatcher dispatcher_;
 };
 
-}  // namespace bench::qt
+}  // namespace host::qt

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace bench::report {
+namespace host::report {
 namespace {
 
 /// Space beside a bound, and how far the line may stretch to reach the value, as shares of the allowed range.
@@ -93,4 +93,4 @@ std::optional<Bar> MakeBar(std::optional<double> low, std::optional<double> high
   return bar;
 }
 
-}  // namespace bench::report
+}  // namespace host::report

@@ -2,7 +2,7 @@
 
 #include <optional>
 
-namespace bench::report {
+namespace host::report {
 
 /// A value and its bounds as places on a line from 0 to 1.
 struct Bar {
@@ -20,4 +20,4 @@ struct Bar {
 /// precision.
 std::optional<Bar> MakeBar(std::optional<double> low, std::optional<double> high, double value);
 
-}  // namespace bench::report
+}  // namespace host::report

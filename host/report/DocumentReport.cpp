@@ -19,22 +19,22 @@
 #include "host/report/DocumentView.h"
 #include "host/report/ReportParts.h"
 
-namespace bench {
+namespace host::report {
 
 namespace {
 
 using Element = std::shared_ptr<orvik::ITestElement>;
+using host::LineEnds;
+using host::VisibleText;
 using report::Fact;
-using report::LineEnds;
-using report::VisibleText;
 
 /// Puts together the report of one document.
 class Builder {
  public:
-  Builder(const Document& document, Host& host, DocumentView view)
+  Builder(const document::Document& document, document::Host& host, DocumentView view)
       : document_(document), host_(host), view_(std::move(view)), outcomes_(view_.judged) {
     for (const auto& top : TopElements(document))
-      WalkElements(top, [this](const Element& element) { elements_.push_back(element); });
+      document::WalkElements(top, [this](const Element& element) { elements_.push_back(element); });
     FindTimes();
     FindTesters();
     FindReadings();
@@ -194,13 +194,13 @@ class Builder {
     return facts;
   }
 
-  const Document& document_;
-  Host& host_;
+  const document::Document& document_;
+  document::Host& host_;
   const DocumentView view_;
   const RunOutcomes outcomes_;
   std::vector<Element> elements_;  ///< as they are judged
   parts::RunTimes times_;
-  std::vector<RecordedTester> testers_;
+  std::vector<document::RecordedTester> testers_;
   std::unordered_map<std::int32_t, std::vector<parts::RecordedIn>> readings_;
   std::map<std::int32_t, int> depths_;
   std::set<std::int32_t> unprinted_;
@@ -209,13 +209,13 @@ class Builder {
 
 }  // namespace
 
-report::Report ReportOf(const Document& document, Host& host, const std::string& language,
+report::Report ReportOf(const document::Document& document, document::Host& host, const std::string& language,
                         std::vector<std::string> standards) {
   return Builder(document, host, ViewOf(document, host, std::move(standards))).Build(language);
 }
 
-std::vector<report::Section> SectionsOf(const Document& document, Host& host, DocumentView view,
-                                        const std::vector<std::int32_t>& ids) {
+std::vector<report::Section> SectionsOf(const document::Document& document, document::Host& host,
+                                        DocumentView view, const std::vector<std::int32_t>& ids) {
   if (ids.empty()) return {};
   const Builder builder(document, host, std::move(view));
   std::vector<report::Section> sections;
@@ -224,8 +224,8 @@ std::vector<report::Section> SectionsOf(const Document& document, Host& host, Do
   return sections;
 }
 
-report::Table RunsOf(const Document& document, const DocumentView& view) {
+report::Table RunsOf(const document::Document& document, const DocumentView& view) {
   return parts::RunsTable(document.Runs().All(), RunOutcomes(view.judged), document.equipment);
 }
 
-}  // namespace bench
+}  // namespace host::report

@@ -5,11 +5,10 @@
 #include "host/base/VisibleText.h"
 #include "host/judge/ReasonText.h"
 
-namespace bench {
+namespace host::report {
 
+using host::VisibleText;
 using judge::JudgedElement;
-using judge::Verdict;
-using report::VisibleText;
 
 std::string ReadingText(const JudgedElement& element) {
   // A result that is not current is not a reading of this equipment.
@@ -23,10 +22,11 @@ std::vector<std::string> ReasonTexts(const JudgedElement& element) {
   std::vector<std::string> texts;
   for (const auto& reason : element.reasons) {
     const auto text = judge::ReasonText(reason);
-    texts.push_back(element.verdict == Verdict::kDoubtful ? Tr("doubt: %%1", {text}) : text);
+    texts.push_back(element.verdict == judge::Verdict::kDoubtful ? Tr("doubt: %%1", {text}) : text);
   }
-  if (element.verdict == Verdict::kRecorded) texts.push_back(Tr("record only: not judged by any limit"));
+  if (element.verdict == judge::Verdict::kRecorded)
+    texts.push_back(Tr("record only: not judged by any limit"));
   return texts;
 }
 
-}  // namespace bench
+}  // namespace host::report

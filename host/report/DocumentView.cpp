@@ -12,11 +12,11 @@
 #include "host/document/Host.h"
 #include "host/judge/CaseOf.h"
 
-namespace bench {
+namespace host::report {
 
 namespace {
 
-std::optional<RecordedTester> LastTester(const std::vector<RunRecord>& runs) {
+std::optional<document::RecordedTester> LastTester(const std::vector<document::RunRecord>& runs) {
   for (auto run = runs.rbegin(); run != runs.rend(); ++run)
     if (!run->testers.empty()) return run->testers.back();
   return std::nullopt;
@@ -24,14 +24,15 @@ std::optional<RecordedTester> LastTester(const std::vector<RunRecord>& runs) {
 
 }  // namespace
 
-std::vector<std::shared_ptr<orvik::ITestElement>> TopElements(const Document& document) {
+std::vector<std::shared_ptr<orvik::ITestElement>> TopElements(const document::Document& document) {
   std::vector<std::shared_ptr<orvik::ITestElement>> elements;
   const auto walk = document.Elements()->NewEnum();
   while (auto element = walk->Next()) elements.push_back(std::move(element));
   return elements;
 }
 
-std::shared_ptr<orvik::IStandardColl> NamedStandards(const Document& document, Host& host) {
+std::shared_ptr<orvik::IStandardColl> NamedStandards(const document::Document& document,
+                                                     document::Host& host) {
   auto named = orvik::As<orvik::IStandardColl>(host.CreateObject(orvik::HostClasses::kStandardColl));
   const auto take = [&](const orvik::IStandard& standard) {
     if (named->Find(standard.Name(), standard.Description())) return;
@@ -40,7 +41,7 @@ std::shared_ptr<orvik::IStandardColl> NamedStandards(const Document& document, H
     named->Add(copy);
   };
   for (const auto& top : TopElements(document)) {
-    WalkElements(top, [&](const std::shared_ptr<orvik::ITestElement>& element) {
+    document::WalkElements(top, [&](const std::shared_ptr<orvik::ITestElement>& element) {
       const auto limits = element->Limits();
       const auto standards = limits ? limits->Standards() : nullptr;
       for (std::int32_t i = 1; standards && i <= standards->Count(); ++i) take(*standards->item(i));
@@ -49,7 +50,8 @@ std::shared_ptr<orvik::IStandardColl> NamedStandards(const Document& document, H
   return named;
 }
 
-DocumentView ViewOf(const Document& document, const Host& host, std::vector<std::string> standards) {
+DocumentView ViewOf(const document::Document& document, const document::Host& host,
+                    std::vector<std::string> standards) {
   DocumentView view;
   view.path = document.Path().string();
   view.equipment = document.equipment;
@@ -63,8 +65,8 @@ judge::JudgedDocument JudgedPart(const judge::JudgedDocument& judged,
                                  const std::vector<std::shared_ptr<orvik::ITestElement>>& elements) {
   std::unordered_set<std::int32_t> wanted;
   for (const auto& top : elements)
-    WalkElements(top,
-                 [&](const std::shared_ptr<orvik::ITestElement>& element) { wanted.insert(element->ID()); });
+    document::WalkElements(
+        top, [&](const std::shared_ptr<orvik::ITestElement>& element) { wanted.insert(element->ID()); });
   auto part = judged;
   std::erase_if(part.elements,
                 [&](const judge::JudgedElement& element) { return !wanted.contains(element.id); });
@@ -72,4 +74,4 @@ judge::JudgedDocument JudgedPart(const judge::JudgedDocument& judged,
   return part;
 }
 
-}  // namespace bench
+}  // namespace host::report

@@ -3,7 +3,7 @@
 
 #include "host/report/HtmlText.h"
 
-namespace bench::html {
+namespace host::report::html {
 namespace {
 
 using report::Bar;
@@ -68,4 +68,4 @@ std::string BarOf(const report::Judgement& judgement) {
   return svg + "</svg>";
 }
 
-}  // namespace bench::html
+}  // namespace host::report::html

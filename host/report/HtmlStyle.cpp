@@ -1,6 +1,6 @@
 #include "host/report/HtmlText.h"
 
-namespace bench::html {
+namespace host::report::html {
 
 // Every text has a contrast of at least 4.5 to 1 with its background. A verdict's colour always comes with a
 // sign and a word.
@@ -116,4 +116,4 @@ svg.bar { display: block; width: 100%; max-width: 19rem; height: auto; }
 }
 )css";
 
-}  // namespace bench::html
+}  // namespace host::report::html

@@ -2,7 +2,7 @@
 
 #include <array>
 
-namespace bench::html {
+namespace host::report::html {
 
 std::string Escaped(std::string_view text) {
   std::string escaped;
@@ -57,4 +57,4 @@ std::string SignOf(report::Standing standing) {
   return std::string("<span class=\"sign\" aria-hidden=\"true\">") + PlainSignOf(standing) + "</span>";
 }
 
-}  // namespace bench::html
+}  // namespace host::report::html

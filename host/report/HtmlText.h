@@ -6,7 +6,7 @@
 #include "host/report/Report.h"
 
 /// Pieces of HTML.
-namespace bench::html {
+namespace host::report::html {
 
 /// The text as the content of an element or of an attribute in double quotes.
 std::string Escaped(std::string_view text);
@@ -28,4 +28,4 @@ std::string BarOf(const report::Judgement& judgement);
 /// The style of the whole page.
 extern const char* const kStyle;
 
-}  // namespace bench::html
+}  // namespace host::report::html

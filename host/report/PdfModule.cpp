@@ -5,7 +5,7 @@
 #include "OrvikTypeLib/HostError.h"
 #include "host/base/Tr.h"
 
-namespace bench {
+namespace host::report {
 namespace {
 
 [[noreturn]] void Refuse(const std::string& reason) {
@@ -36,4 +36,4 @@ std::string WritePdf(const report::Report& report, const std::filesystem::path& 
   return pdf;
 }
 
-}  // namespace bench
+}  // namespace host::report

@@ -5,7 +5,7 @@
 
 #include "host/report/Report.h"
 
-namespace bench {
+namespace host::report {
 
 /// Makes a PDF file of A4 pages with the given module (lib/orvik/orvikPdf.so), which is loaded on first use
 /// and stays loaded.
@@ -25,4 +25,4 @@ using WriteEntry = bool(const report::Report& report, std::string& pdf, std::str
 
 }  // namespace pdf
 
-}  // namespace bench
+}  // namespace host::report

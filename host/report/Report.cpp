@@ -2,7 +2,7 @@
 
 #include "host/base/LanguageService.h"
 
-namespace bench::report {
+namespace host::report {
 
 std::string Labelled(const Words& words, const std::string& label, const std::string& value) {
   return WithValues(words.labelled, {label, value});
@@ -13,4 +13,4 @@ std::string CaptionOf(const Report& report) {
                     {report.title, report.pageHeader.front().value, report.verdict.word});
 }
 
-}  // namespace bench::report
+}  // namespace host::report

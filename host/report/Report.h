@@ -11,7 +11,7 @@
 /// The content of a report, independent of its output format. Every text is UTF-8, in the language of the
 /// report, and safe to show: no control characters, nothing that changes the direction of writing. Outputs
 /// add their own escaping and no words.
-namespace bench::report {
+namespace host::report {
 
 /// The status of a report or an element. Outputs give each its own sign, a colour by its tone, and always the
 /// word too.
@@ -146,4 +146,4 @@ std::string Labelled(const Words& words, const std::string& label, const std::st
 /// Title, equipment and verdict in one line, for the title of a window.
 std::string CaptionOf(const Report& report);
 
-}  // namespace bench::report
+}  // namespace host::report

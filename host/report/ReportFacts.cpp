@@ -5,9 +5,9 @@
 #include "host/base/VisibleText.h"
 #include "host/report/ReportParts.h"
 
-namespace bench::parts {
+namespace host::report::parts {
 
-using report::VisibleText;
+using host::VisibleText;
 
 std::string MinuteText(const std::string& date) {
   const auto moment = MomentOf(date);
@@ -30,12 +30,12 @@ std::string OperatorsText(const RunTimes& times) {
   return times.operators.empty() ? Tr("not recorded") : Joined(times.operators, ", ");
 }
 
-std::string TesterText(const RecordedTester& tester) {
+std::string TesterText(const document::RecordedTester& tester) {
   return Tr("%%1, serial number %%2, firmware %%3",
             {VisibleText(tester.type), VisibleText(tester.serial), VisibleText(tester.firmware)});
 }
 
-std::string TestersText(const std::vector<RecordedTester>& testers) {
+std::string TestersText(const std::vector<document::RecordedTester>& testers) {
   if (testers.empty()) return Tr("not recorded");
   if (testers.size() == 1) return TesterText(testers.front());
   std::vector<std::string> names;
@@ -51,14 +51,14 @@ void AddFact(std::vector<report::Fact>& facts, const std::string& label, const s
   if (!value.empty()) facts.push_back({label, value});
 }
 
-void AddEquipment(std::vector<report::Fact>& facts, const Equipment& equipment) {
+void AddEquipment(std::vector<report::Fact>& facts, const document::Equipment& equipment) {
   AddFact(facts, Tr("Asset number"), VisibleText(equipment.asset));
   AddFact(facts, Tr("Serial number"), VisibleText(equipment.serial));
   AddFact(facts, Tr("Maker"), VisibleText(equipment.maker));
   AddFact(facts, Tr("Model"), VisibleText(equipment.model));
 }
 
-void AddTesters(std::vector<report::Fact>& facts, const std::vector<RecordedTester>& testers) {
+void AddTesters(std::vector<report::Fact>& facts, const std::vector<document::RecordedTester>& testers) {
   if (testers.empty()) AddFact(facts, Tr("Tester"), Tr("not recorded"));
   for (std::size_t i = 0; i < testers.size(); ++i) {
     const auto& tester = testers[i];
@@ -71,8 +71,9 @@ void AddTesters(std::vector<report::Fact>& facts, const std::vector<RecordedTest
   }
 }
 
-std::vector<report::Fact> PageHeader(const Equipment& equipment, const std::string& otherwise,
-                                     const std::vector<RecordedTester>& testers, const RunTimes& times) {
+std::vector<report::Fact> PageHeader(const document::Equipment& equipment, const std::string& otherwise,
+                                     const std::vector<document::RecordedTester>& testers,
+                                     const RunTimes& times) {
   std::vector<std::string> names;
   for (const auto* part : {&equipment.asset, &equipment.maker, &equipment.model, &equipment.serial})
     if (!part->empty()) names.push_back(VisibleText(*part));
@@ -96,4 +97,4 @@ std::string LanguageTag(const std::string& language) {
   return tag;
 }
 
-}  // namespace bench::parts
+}  // namespace host::report::parts

@@ -4,13 +4,13 @@
 #include "host/base/VisibleText.h"
 #include "host/report/ReportParts.h"
 
-namespace bench::parts {
+namespace host::report::parts {
 namespace {
 
+using host::VisibleText;
 using report::Bar;
 using report::Judgement;
 using report::Standing;
-using report::VisibleText;
 
 std::string WithUnit(const std::string& number, const std::string& unit) {
   return unit.empty() ? number : number + " " + unit;
@@ -101,7 +101,7 @@ Judgement JudgementOf(const judge::JudgedLimit& limit, const judge::JudgedElemen
   return judgement;
 }
 
-Judgement JudgementOf(const RecordedLimit& limit, const RecordedTest& test) {
+Judgement JudgementOf(const document::RecordedLimit& limit, const document::RecordedTest& test) {
   const auto unit = VisibleText(limit.unit);
   const auto verdict = VerdictThen(limit, test);
   Judgement judgement;
@@ -131,10 +131,10 @@ std::vector<Judgement> JudgementsOf(const judge::JudgedElement& element) {
   return judgements;
 }
 
-std::vector<Judgement> JudgementsOf(const RecordedTest& test) {
+std::vector<Judgement> JudgementsOf(const document::RecordedTest& test) {
   std::vector<Judgement> judgements;
   for (const auto& limit : test.judged) judgements.push_back(JudgementOf(limit, test));
   return judgements;
 }
 
-}  // namespace bench::parts
+}  // namespace host::report::parts

@@ -3,7 +3,7 @@
 #include "OrvikTypeLib/HostError.h"
 #include "host/base/Tr.h"
 
-namespace bench {
+namespace host::report {
 
 std::int32_t ReportObject::IReport_Metric(std::int32_t lNumber) const {
   if (lNumber == 10) return kUsableWidth;
@@ -23,4 +23,4 @@ void ReportObject::IReport_AddTable(const std::string& sFormat, const std::strin
   tables_.push_back(std::move(table));
 }
 
-}  // namespace bench
+}  // namespace host::report

@@ -6,7 +6,7 @@
 #include "OrvikTypeLib/IReport.h"
 #include "host/report/Table.h"
 
-namespace bench {
+namespace host::report {
 
 /// Collects the tables that the plug-in prints; outputs turn them into text or pages.
 class ReportObject final : public orvik::IReport {
@@ -31,4 +31,4 @@ class ReportObject final : public orvik::IReport {
   std::vector<report::Table> tables_;
 };
 
-}  // namespace bench
+}  // namespace host::report

@@ -8,7 +8,7 @@
 #include "host/elements/PrintAlone.h"
 #include "host/report/ReportObject.h"
 
-namespace bench::parts {
+namespace host::report::parts {
 
 bool Overloaded(const judge::JudgedElement& element) {
   return element.measurement && element.measurement->Overloaded();
@@ -19,17 +19,17 @@ std::string ValueText(const judge::JudgedElement& element) {
   return Overloaded(element) ? "OL" : ShortNumber(*element.measurement->value);
 }
 
-std::string ValueText(const RecordedTest& test) {
+std::string ValueText(const document::RecordedTest& test) {
   if (!test.recorded || test.recorded->value.empty()) return {};
   if (test.recorded->flags.find('O') != std::string::npos) return "OL";
   const auto number = FiniteNumber(test.recorded->value);
-  return number ? ShortNumber(*number) : report::VisibleText(test.recorded->value);
+  return number ? ShortNumber(*number) : host::VisibleText(test.recorded->value);
 }
 
 std::vector<report::Table> TablesOf(orvik::ITestElement& element, const std::string& name) {
   const auto printed = std::make_shared<ReportObject>();
   try {
-    element.PrintReport(printed, std::make_shared<PrintAlone>());
+    element.PrintReport(printed, std::make_shared<elements::PrintAlone>());
   } catch (const orvik::HostError& error) {
     throw orvik::HostError(
         error.Number(), error.Source(),
@@ -70,4 +70,4 @@ report::Words WordsOfReport() {
   return words;
 }
 
-}  // namespace bench::parts
+}  // namespace host::report::parts

@@ -12,7 +12,7 @@
 #include "host/report/RunOutcome.h"
 
 /// The parts that a report is put together from.
-namespace bench::parts {
+namespace host::report::parts {
 
 /// When and by whom something was done.
 struct RunTimes {
@@ -37,18 +37,19 @@ std::string SpanText(const RunTimes& times);
 std::string OperatorsText(const RunTimes& times);
 
 /// "KELD(IN), serial number SIM-0001, firmware 3.10"
-std::string TesterText(const RecordedTester& tester);
+std::string TesterText(const document::RecordedTester& tester);
 /// All testers in one line, for the top of a page: one in full, of several type and serial number.
-std::string TestersText(const std::vector<RecordedTester>& testers);
+std::string TestersText(const std::vector<document::RecordedTester>& testers);
 /// Adds the fact unless its value is empty.
 void AddFact(std::vector<report::Fact>& facts, const std::string& label, const std::string& value);
-void AddEquipment(std::vector<report::Fact>& facts, const Equipment& equipment);
+void AddEquipment(std::vector<report::Fact>& facts, const document::Equipment& equipment);
 /// Each tester with its test leads and their date.
-void AddTesters(std::vector<report::Fact>& facts, const std::vector<RecordedTester>& testers);
+void AddTesters(std::vector<report::Fact>& facts, const std::vector<document::RecordedTester>& testers);
 /// The four facts for the top of every page.
 /// @param otherwise for equipment without a name
-std::vector<report::Fact> PageHeader(const Equipment& equipment, const std::string& otherwise,
-                                     const std::vector<RecordedTester>& testers, const RunTimes& times);
+std::vector<report::Fact> PageHeader(const document::Equipment& equipment, const std::string& otherwise,
+                                     const std::vector<document::RecordedTester>& testers,
+                                     const RunTimes& times);
 /// For every page of a simulated run.
 report::PageMark SimulatedMark();
 /// "SIMULATED electrical safety test" or "Electrical safety test".
@@ -58,22 +59,22 @@ std::string LanguageTag(const std::string& language);
 
 /// The reading without its unit: "1850", "OL", or empty.
 std::string ValueText(const judge::JudgedElement& element);
-std::string ValueText(const RecordedTest& test);
+std::string ValueText(const document::RecordedTest& test);
 bool Overloaded(const judge::JudgedElement& element);
 
 /// What the selected limits say of the element's reading.
 std::vector<report::Judgement> JudgementsOf(const judge::JudgedElement& element);
 /// What limits said of the reading when it was measured.
-std::vector<report::Judgement> JudgementsOf(const RecordedTest& test);
+std::vector<report::Judgement> JudgementsOf(const document::RecordedTest& test);
 
 /// A row for each run: times, end, operator, testers, and the outcome of its elements.
 /// @param now the equipment as the document has it
-report::Table RunsTable(const std::vector<RunRecord>& runs, const RunOutcomes& outcomes,
-                        const Equipment& now);
+report::Table RunsTable(const std::vector<document::RunRecord>& runs, const RunOutcomes& outcomes,
+                        const document::Equipment& now);
 
 /// A test with the run that did it.
 struct RecordedIn {
-  const RunRecord* run = nullptr;
+  const document::RunRecord* run = nullptr;
   TestThen then;
 };
 /// A row for each reading of one element.
@@ -84,4 +85,4 @@ std::vector<report::Table> TablesOf(orvik::ITestElement& element, const std::str
 
 report::Words WordsOfReport();
 
-}  // namespace bench::parts
+}  // namespace host::report::parts

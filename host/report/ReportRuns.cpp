@@ -4,11 +4,11 @@
 #include "host/report/ReportParts.h"
 #include "host/report/RunOutcome.h"
 
-namespace bench::parts {
+namespace host::report::parts {
 namespace {
 
+using host::VisibleText;
 using orvik::platform::Alignment;
-using report::VisibleText;
 
 report::Cell CellOf(const std::string& text, bool bold = false) { return {{text, bold}}; }
 
@@ -26,15 +26,15 @@ report::Table TableOf(const std::vector<std::pair<std::string, orvik::platform::
   return table;
 }
 
-std::string TestersOf(const RunRecord& run) {
+std::string TestersOf(const document::RunRecord& run) {
   std::vector<std::string> names;
   for (const auto& tester : run.testers) names.push_back(VisibleText(tester.type + " " + tester.serial));
   return names.empty() ? "-" : Joined(names, "; ");
 }
 
 /// How the run ended, and what is unusual about it.
-report::Cell EndCell(const RunRecord& run, const Equipment& now) {
-  auto cell = CellOf(EndWord(run), run.end != RunRecord::End::kFinished);
+report::Cell EndCell(const document::RunRecord& run, const document::Equipment& now) {
+  auto cell = CellOf(EndWord(run), run.end != document::RunRecord::End::kFinished);
   const auto add = [&cell](const std::string& text) { cell.push_back({"\n" + text, true}); };
   if (run.simulated) add(Tr("SIMULATED"));
   if (!run.intact) add(Tr("the record was changed by another program"));
@@ -48,8 +48,8 @@ report::Cell EndCell(const RunRecord& run, const Equipment& now) {
 
 }  // namespace
 
-report::Table RunsTable(const std::vector<RunRecord>& runs, const RunOutcomes& outcomes,
-                        const Equipment& now) {
+report::Table RunsTable(const std::vector<document::RunRecord>& runs, const RunOutcomes& outcomes,
+                        const document::Equipment& now) {
   auto table = TableOf({{Tr("No."), 600},
                         {Tr("Begun"), 1280},
                         {Tr("Ended"), 1280},
@@ -85,4 +85,4 @@ report::Table ReadingsTable(const std::vector<RecordedIn>& tests) {
   return table;
 }
 
-}  // namespace bench::parts
+}  // namespace host::report::parts

@@ -5,7 +5,7 @@
 #include "host/base/Tr.h"
 #include "host/report/ReportParts.h"
 
-namespace bench::parts {
+namespace host::report::parts {
 namespace {
 
 using judge::JudgedElement;
@@ -112,4 +112,4 @@ std::string OpenParts(const std::vector<JudgedElement>& elements) {
   return Pieces(Counts(elements), kOpen);
 }
 
-}  // namespace bench::parts
+}  // namespace host::report::parts

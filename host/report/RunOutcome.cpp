@@ -9,16 +9,16 @@
 #include "host/base/Text.h"
 #include "host/base/Tr.h"
 
-namespace bench {
+namespace host::report {
 
 namespace {
 
 using judge::LimitVerdict;
-using judge::Verdict;
 
-constexpr std::array kWorstFirst{Verdict::kFailed,    Verdict::kDoubtful,     Verdict::kAborted,
-                                 Verdict::kNotTested, Verdict::kNotJudged,    Verdict::kPassed,
-                                 Verdict::kRecorded,  Verdict::kNotApplicable};
+constexpr std::array kWorstFirst{judge::Verdict::kFailed,    judge::Verdict::kDoubtful,
+                                 judge::Verdict::kAborted,   judge::Verdict::kNotTested,
+                                 judge::Verdict::kNotJudged, judge::Verdict::kPassed,
+                                 judge::Verdict::kRecorded,  judge::Verdict::kNotApplicable};
 
 /// "1, 3-7"
 std::string NumbersText(const std::set<std::int32_t>& numbers) {
@@ -42,16 +42,16 @@ RunOutcomes::RunOutcomes(const judge::JudgedDocument& now) {
   }
 }
 
-RunOutcome RunOutcomes::Of(const RunRecord& run) const {
+RunOutcome RunOutcomes::Of(const document::RunRecord& run) const {
   RunOutcome outcome;
   Verdicts verdicts;
   std::set<std::int32_t> open;
   for (const auto& step : run.steps) {
-    if (const auto* takes = std::get_if<RecordedTakes>(&step)) {
+    if (const auto* takes = std::get_if<document::RecordedTakes>(&step)) {
       open.insert(takes->elements.begin(), takes->elements.end());
       continue;
     }
-    const auto& test = std::get<RecordedTest>(step);
+    const auto& test = std::get<document::RecordedTest>(step);
     open.erase(test.element);
     outcome.tests.push_back({&test, VerdictThen(test, verdicts)});
     verdicts[test.element] = outcome.tests.back().verdict;
@@ -60,37 +60,38 @@ RunOutcome RunOutcomes::Of(const RunRecord& run) const {
   return outcome;
 }
 
-Verdict RunOutcomes::VerdictThen(const RecordedTest& test, const Verdicts& before) const {
+judge::Verdict RunOutcomes::VerdictThen(const document::RecordedTest& test, const Verdicts& before) const {
   switch (test.status) {
     case orvik::ResultStatus::kFailed:
-      return Verdict::kFailed;
+      return judge::Verdict::kFailed;
     case orvik::ResultStatus::kAborted:
-      return Verdict::kAborted;
+      return judge::Verdict::kAborted;
     case orvik::ResultStatus::kNotTested:
-      return Verdict::kNotTested;
+      return judge::Verdict::kNotTested;
     default:
       break;
   }
-  if (!test.doubts.empty()) return Verdict::kDoubtful;
-  if (test.status == orvik::ResultStatus::kNotApplicable) return Verdict::kNotApplicable;
-  if (std::any_of(test.judged.begin(), test.judged.end(),
-                  [](const RecordedLimit& limit) { return limit.status == orvik::Judgement::kWithinLimits; }))
-    return Verdict::kPassed;
+  if (!test.doubts.empty()) return judge::Verdict::kDoubtful;
+  if (test.status == orvik::ResultStatus::kNotApplicable) return judge::Verdict::kNotApplicable;
+  if (std::any_of(test.judged.begin(), test.judged.end(), [](const document::RecordedLimit& limit) {
+        return limit.status == orvik::Judgement::kWithinLimits;
+      }))
+    return judge::Verdict::kPassed;
   // A group without a limit of its own is what its children are.
   const auto children = children_.find(test.element);
-  if (!groups_.contains(test.element) || children == children_.end()) return Verdict::kNotJudged;
+  if (!groups_.contains(test.element) || children == children_.end()) return judge::Verdict::kNotJudged;
   for (const auto verdict : kWorstFirst)
     for (const auto child : children->second)
       if (const auto known = before.find(child); known != before.end() && known->second == verdict)
         return verdict;
-  return Verdict::kNotJudged;
+  return judge::Verdict::kNotJudged;
 }
 
 std::string RunOutcomes::TextOf(const RunOutcome& outcome) const {
-  std::unordered_map<std::int32_t, Verdict> last;
+  std::unordered_map<std::int32_t, judge::Verdict> last;
   for (const auto& [test, verdict] : outcome.tests) last[test->element] = verdict;
   for (const auto id : outcome.unfinished) last.erase(id);
-  const auto toldByChild = [&](std::int32_t id, Verdict verdict) {
+  const auto toldByChild = [&](std::int32_t id, judge::Verdict verdict) {
     const auto children = children_.find(id);
     return groups_.contains(id) && children != children_.end() &&
            std::any_of(children->second.begin(), children->second.end(), [&](std::int32_t child) {
@@ -112,7 +113,7 @@ std::string RunOutcomes::TextOf(const RunOutcome& outcome) const {
   return text;
 }
 
-LimitVerdict VerdictThen(const RecordedLimit& limit, const RecordedTest& test) {
+LimitVerdict VerdictThen(const document::RecordedLimit& limit, const document::RecordedTest& test) {
   if (limit.status == orvik::Judgement::kWithinLimits) return LimitVerdict::kWithin;
   if (limit.status != orvik::Judgement::kLimitExceeded) return LimitVerdict::kNotApplied;
   const auto value = test.recorded ? FiniteNumber(test.recorded->value) : std::nullopt;
@@ -136,29 +137,29 @@ std::string LimitWord(LimitVerdict verdict) {
   return Tr("not judged");
 }
 
-std::string EndWord(const RunRecord& run) {
+std::string EndWord(const document::RunRecord& run) {
   switch (run.end) {
-    case RunRecord::End::kFinished:
+    case document::RunRecord::End::kFinished:
       return Tr("finished");
-    case RunRecord::End::kStopped:
+    case document::RunRecord::End::kStopped:
       return Tr("stopped");
-    case RunRecord::End::kAborted:
+    case document::RunRecord::End::kAborted:
       return Tr("aborted");
-    case RunRecord::End::kLost:
+    case document::RunRecord::End::kLost:
       return Tr("tester lost");
-    case RunRecord::End::kNone:
+    case document::RunRecord::End::kNone:
       break;
   }
   return Tr("interrupted");
 }
 
-RunProgressCount CountOf(const RunRecord& run) {
+RunProgressCount CountOf(const document::RunRecord& run) {
   std::map<std::int32_t, bool> done;
   for (const auto& step : run.steps) {
-    if (const auto* takes = std::get_if<RecordedTakes>(&step)) {
+    if (const auto* takes = std::get_if<document::RecordedTakes>(&step)) {
       for (const auto id : takes->elements) done[id] = false;
     } else {
-      const auto& test = std::get<RecordedTest>(step);
+      const auto& test = std::get<document::RecordedTest>(step);
       done[test.element] =
           test.status >= orvik::ResultStatus::kPassed && test.status <= orvik::ResultStatus::kNotApplicable;
     }
@@ -169,4 +170,4 @@ RunProgressCount CountOf(const RunRecord& run) {
   return count;
 }
 
-}  // namespace bench
+}  // namespace host::report

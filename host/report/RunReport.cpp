@@ -13,18 +13,18 @@
 #include "host/report/ReportParts.h"
 #include "host/report/RunOutcome.h"
 
-namespace bench {
+namespace host::report {
 
 namespace {
 
-using report::LineEnds;
+using host::LineEnds;
+using host::VisibleText;
 using report::Standing;
-using report::VisibleText;
 
 /// Puts together the report of one run.
 class RunBuilder {
  public:
-  RunBuilder(const Document& document, const Host& host, const RunRecord& run)
+  RunBuilder(const document::Document& document, const document::Host& host, const document::RunRecord& run)
       : document_(document), run_(run), now_(ViewOf(document, host).judged), outcomes_(now_) {
     for (const auto& element : now_.elements) elements_[element.id] = &element;
   }
@@ -85,7 +85,7 @@ class RunBuilder {
   }
 
   /// The element's name, where the document still has it as the same test.
-  std::string NameOf(std::int32_t id, const RecordedTest* test) const {
+  std::string NameOf(std::int32_t id, const document::RecordedTest* test) const {
     const auto found = elements_.find(id);
     const bool same = found != elements_.end() && (!test || found->second->testId == test->testId);
     if (same) return VisibleText(found->second->name);
@@ -93,7 +93,7 @@ class RunBuilder {
                 : Tr("Element %%1 (not in the document any more)", {std::to_string(id)});
   }
 
-  report::OverviewRow RowOf(std::int32_t id, const RecordedTest* test, judge::Verdict verdict) {
+  report::OverviewRow RowOf(std::int32_t id, const document::RecordedTest* test, judge::Verdict verdict) {
     report::OverviewRow row;
     row.id = id;
     row.name = NameOf(id, test);
@@ -142,13 +142,14 @@ class RunBuilder {
     report_.overview.push_back(std::move(row));
   }
 
-  std::vector<report::Fact> FactsOf(const RecordedTest& test) const {
+  std::vector<report::Fact> FactsOf(const document::RecordedTest& test) const {
     std::vector<report::Fact> facts;
     parts::AddFact(facts, Tr("Tested"), parts::MinuteText(test.at));
-    parts::AddFact(facts, Tr("Recorded as"),
-                   Tr("%%1, by %%2", {Tr(judge::StatusText(test.status)),
-                                      test.by == RecordedTest::By::kOperator ? Tr("the operator")
-                                                                             : Tr("the tester's answer")}));
+    parts::AddFact(
+        facts, Tr("Recorded as"),
+        Tr("%%1, by %%2", {Tr(judge::StatusText(test.status)),
+                           test.by == document::RecordedTest::By::kOperator ? Tr("the operator")
+                                                                            : Tr("the tester's answer")}));
     if (run_.testers.size() > 1 && test.tester > 0)
       parts::AddFact(facts, Tr("Tester"),
                      parts::TesterText(run_.testers[static_cast<std::size_t>(test.tester) - 1]));
@@ -160,8 +161,8 @@ class RunBuilder {
     return facts;
   }
 
-  const Document& document_;
-  const RunRecord& run_;
+  const document::Document& document_;
+  const document::RunRecord& run_;
   const judge::JudgedDocument now_;  ///< for names and groups alone
   const RunOutcomes outcomes_;
   std::map<std::int32_t, const judge::JudgedElement*> elements_;
@@ -171,9 +172,9 @@ class RunBuilder {
 
 }  // namespace
 
-report::Report RunReportOf(const Document& document, const Host& host, const RunRecord& run,
-                           const std::string& language) {
+report::Report RunReportOf(const document::Document& document, const document::Host& host,
+                           const document::RunRecord& run, const std::string& language) {
   return RunBuilder(document, host, run).Build(language);
 }
 
-}  // namespace bench
+}  // namespace host::report

@@ -5,7 +5,7 @@
 #include "host/base/Tr.h"
 #include "host/base/VisibleText.h"
 
-namespace bench::report {
+namespace host::report {
 namespace {
 
 constexpr char kMarkup[] = "\\|;{}";
@@ -177,4 +177,4 @@ std::string Escape(std::string_view text) {
   return escaped;
 }
 
-}  // namespace bench::report
+}  // namespace host::report

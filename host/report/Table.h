@@ -7,7 +7,7 @@
 #include "platform/Types.h"
 
 /// Tables parsed from the plug-in's markup. Outputs use these, never the markup.
-namespace bench::report {
+namespace host::report {
 
 /// A piece of text in one style.
 struct Run {
@@ -55,4 +55,4 @@ std::vector<Row> ParseRows(std::string_view markup, std::size_t columns);
 /// The text with a "\" before every character of the markup.
 std::string Escape(std::string_view text);
 
-}  // namespace bench::report
+}  // namespace host::report

@@ -6,7 +6,7 @@
 #include "host/base/TextCells.h"
 #include "host/base/VisibleText.h"
 
-namespace bench::text {
+namespace host::report::text {
 namespace {
 
 /// Fills lines letter by letter.
@@ -26,7 +26,7 @@ class Breaker {
         if (letter == ' ') continue;  // replaced by the end of the line
       }
       if (letter == ' ') blank_ = line_.size() + 1;
-      report::AppendUtf8(line_, letter);
+      host::AppendUtf8(line_, letter);
       columns_ += columns;
     }
     End();
@@ -61,7 +61,7 @@ class Breaker {
 }  // namespace
 
 std::vector<std::string> Wrapped(std::string_view text, std::size_t width) {
-  return Breaker(width).Break(report::CodePoints(text));
+  return Breaker(width).Break(host::CodePoints(text));
 }
 
 std::string Filled(const std::string& line, std::size_t width, orvik::platform::Alignment alignment) {
@@ -77,4 +77,4 @@ std::string Indented(const std::vector<std::string>& lines, std::size_t indent) 
   return text;
 }
 
-}  // namespace bench::text
+}  // namespace host::report::text

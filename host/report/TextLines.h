@@ -8,7 +8,7 @@
 #include "platform/Types.h"
 
 /// Lines of plain text that line up in columns of letters of one width.
-namespace bench::text {
+namespace host::report::text {
 
 /// The text in lines of at most `width` columns: broken at its own line ends, at blanks, and inside words
 /// that are longer than a line. At least one line.
@@ -20,4 +20,4 @@ std::string Filled(const std::string& line, std::size_t width, orvik::platform::
 /// Lines joined, each behind the indent.
 std::string Indented(const std::vector<std::string>& lines, std::size_t indent);
 
-}  // namespace bench::text
+}  // namespace host::report::text

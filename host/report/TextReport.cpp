@@ -9,7 +9,7 @@
 #include "host/report/TextLines.h"
 #include "host/report/TextTable.h"
 
-namespace bench {
+namespace host::report {
 namespace {
 
 using orvik::platform::Alignment;
@@ -33,9 +33,9 @@ std::string Signed(Standing standing, const std::string& text) {
 std::string Upper(const std::string& text) {
   constexpr char32_t kDivision = 0xF7, kApart = 0x20;
   std::string capitals;
-  for (const auto letter : report::CodePoints(text)) {
+  for (const auto letter : host::CodePoints(text)) {
     const bool small = (letter >= 'a' && letter <= 'z') || (letter >= 0xE0 && letter <= 0xFE);
-    report::AppendUtf8(capitals, small && letter != kDivision ? letter - kApart : letter);
+    host::AppendUtf8(capitals, small && letter != kDivision ? letter - kApart : letter);
   }
   return capitals;
 }
@@ -190,4 +190,4 @@ std::string TextBar(const report::Bar& bar) {
   return "[" + line + "]";
 }
 
-}  // namespace bench
+}  // namespace host::report

@@ -4,7 +4,7 @@
 
 #include "host/report/Report.h"
 
-namespace bench {
+namespace host::report {
 
 /// The report as plain text, UTF-8, in lines of about 100 columns.
 std::string TextReport(const report::Report& report);
@@ -13,4 +13,4 @@ std::string TextReport(const report::Report& report);
 /// ">" is a value beyond the end of the line.
 std::string TextBar(const report::Bar& bar);
 
-}  // namespace bench
+}  // namespace host::report

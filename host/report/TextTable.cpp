@@ -6,7 +6,7 @@
 #include "host/base/TextCells.h"
 #include "host/report/TextLines.h"
 
-namespace bench {
+namespace host::report {
 namespace {
 
 using report::Row;
@@ -90,4 +90,4 @@ class Printer {
 
 std::string TextTable(const Table& table, std::size_t width) { return Printer(table, width).Print(); }
 
-}  // namespace bench
+}  // namespace host::report

@@ -2,24 +2,25 @@
 
 #include "host/run/GuideToolbar.h"
 
-namespace bench {
+namespace host::run {
 
 void AutoOperator::OnWindowReady(const Form& form) {
-  if (form->Name() == guide::kGuideForm) OperateGuide(form);
-  if (form->Name() == guide::kPretestForm) Acknowledge(form, guide::kPretestOk);
-  if (form->Name() == guide::kYesNoForm) Acknowledge(form, guide::kYes);
+  if (form->Name() == plugins::keld::guide::kGuideForm) OperateGuide(form);
+  if (form->Name() == plugins::keld::guide::kPretestForm) Acknowledge(form, plugins::keld::guide::kPretestOk);
+  if (form->Name() == plugins::keld::guide::kYesNoForm) Acknowledge(form, plugins::keld::guide::kYes);
 }
 
 void AutoOperator::OperateGuide(const Form& form) {
   const auto toolbar = GuideToolbar(*form);
-  if (toolbar && !stop_.Asked()) toolbar->Click(guide::kPlay);  // returns when the test is over
-  if (toolbar && form->Visible()) toolbar->Click(guide::kNext);
+  if (toolbar && !stop_.Asked())
+    toolbar->Click(plugins::keld::guide::kPlay);  // returns when the test is over
+  if (toolbar && form->Visible()) toolbar->Click(plugins::keld::guide::kNext);
   // The run continues even if the guide ignores its buttons.
   if (form->Visible()) form->Hide();
 }
 
 void AutoOperator::Acknowledge(const Form& form, const char* button) {
-  if (prompted_) prompted_(CaptionOf(*form, guide::kPromptText));
+  if (prompted_) prompted_(CaptionOf(*form, plugins::keld::guide::kPromptText));
   ClickButton(*form, button);
   // The guide does not react behind a prompt, so an earlier stop may not have reached it.
   if (stop_.Asked())
@@ -30,9 +31,9 @@ void AutoOperator::Acknowledge(const Form& form, const char* button) {
 
 void AutoOperator::OnStopRequested() {
   for (const auto& form : application_->Forms()) {
-    if (form->Name() != guide::kGuideForm || !form->Visible()) continue;
-    if (const auto toolbar = GuideToolbar(*form)) toolbar->Click(guide::kStop);
+    if (form->Name() != plugins::keld::guide::kGuideForm || !form->Visible()) continue;
+    if (const auto toolbar = GuideToolbar(*form)) toolbar->Click(plugins::keld::guide::kStop);
   }
 }
 
-}  // namespace bench
+}  // namespace host::run

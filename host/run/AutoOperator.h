@@ -9,7 +9,7 @@
 #include "host/run/StopRequest.h"
 #include "platform/IApplication.h"
 
-namespace bench {
+namespace host::run {
 
 /// Operates the plug-in's windows by itself: play, then next in the guide; prompts are acknowledged.
 class AutoOperator final : public IOperator {
@@ -34,4 +34,4 @@ class AutoOperator final : public IOperator {
   const std::shared_ptr<int> alive_ = std::make_shared<int>();
 };
 
-}  // namespace bench
+}  // namespace host::run

@@ -1,22 +1,22 @@
 #include "host/run/DocumentRunner.h"
 
-namespace bench {
+namespace host::run {
 
 namespace {
 
-RunRecord::End RecordedEnd(DocumentRunner::End end) {
+document::RunRecord::End RecordedEnd(DocumentRunner::End end) {
   switch (end) {
     case DocumentRunner::End::kFinished:
-      return RunRecord::End::kFinished;
+      return document::RunRecord::End::kFinished;
     case DocumentRunner::End::kAborted:
-      return RunRecord::End::kAborted;
+      return document::RunRecord::End::kAborted;
     case DocumentRunner::End::kTesterLost:
-      return RunRecord::End::kLost;
+      return document::RunRecord::End::kLost;
     case DocumentRunner::End::kStopped:
     case DocumentRunner::End::kNotSaved:
       break;
   }
-  return RunRecord::End::kStopped;
+  return document::RunRecord::End::kStopped;
 }
 
 }  // namespace
@@ -62,4 +62,4 @@ void DocumentRunner::Perform(const std::shared_ptr<orvik::ITestElement>& element
   controller_->Settle(element);
 }
 
-}  // namespace bench
+}  // namespace host::run

@@ -10,7 +10,7 @@
 #include "host/run/StopRequest.h"
 #include "platform/Event.h"
 
-namespace bench {
+namespace host::run {
 
 /// Performs elements in order, forwards and back as the operator navigates.
 class DocumentRunner {
@@ -47,4 +47,4 @@ class DocumentRunner {
   orvik::platform::Event<std::size_t, std::size_t, const std::shared_ptr<orvik::ITestElement>&> reached_;
 };
 
-}  // namespace bench
+}  // namespace host::run

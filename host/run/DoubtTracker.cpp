@@ -6,7 +6,7 @@
 #include "host/run/ReplyDoubts.h"
 #include "host/serial/Latin1.h"
 
-namespace bench {
+namespace host::run {
 
 namespace {
 
@@ -23,8 +23,8 @@ const typename Lists::mapped_type& ListIn(const Lists& lists, std::int32_t id) {
 
 }  // namespace
 
-DoubtTracker::DoubtTracker(Wire& wire)
-    : watch_(wire.Subscribe([this](const WireRecord& record) { OnWire(record); })) {}
+DoubtTracker::DoubtTracker(serial::Wire& wire)
+    : watch_(wire.Subscribe([this](const serial::WireRecord& record) { OnWire(record); })) {}
 
 void DoubtTracker::ElementStarts(std::int32_t id) {
   running_ = id;
@@ -37,61 +37,61 @@ void DoubtTracker::Forget(std::int32_t id) {
   said_.erase(id);
 }
 
-void DoubtTracker::Add(std::int32_t id, const Reason& doubt) {
+void DoubtTracker::Add(std::int32_t id, const document::Reason& doubt) {
   auto& noted = doubts_[id];
   if (std::find(noted.begin(), noted.end(), doubt) != noted.end()) return;
   noted.push_back(doubt);
   noted_.Raise(id, doubt);
 }
 
-const std::vector<Reason>& DoubtTracker::Of(std::int32_t id) const { return ListIn(doubts_, id); }
+const std::vector<document::Reason>& DoubtTracker::Of(std::int32_t id) const { return ListIn(doubts_, id); }
 
 const std::vector<std::string>& DoubtTracker::Said(std::int32_t id) const { return ListIn(said_, id); }
 
-void DoubtTracker::OnWire(const WireRecord& record) {
+void DoubtTracker::OnWire(const serial::WireRecord& record) {
   switch (record.kind) {
-    case WireRecord::Kind::kOpened:
+    case serial::WireRecord::Kind::kOpened:
       lastCommand_.reset();
       session_.clear();
       break;
-    case WireRecord::Kind::kSent:
+    case serial::WireRecord::Kind::kSent:
       OnCommand(record);
       break;
-    case WireRecord::Kind::kReceived:
+    case serial::WireRecord::Kind::kReceived:
       OnReply(*record.message);
       break;
-    case WireRecord::Kind::kDropped:
-      Note({"invalid-line", {VisibleLatin1(record.text.substr(0, kShownOfLine))}});
+    case serial::WireRecord::Kind::kDropped:
+      Note({"invalid-line", {serial::VisibleLatin1(record.text.substr(0, kShownOfLine))}});
       break;
-    case WireRecord::Kind::kFailed:
-    case WireRecord::Kind::kClosed:
+    case serial::WireRecord::Kind::kFailed:
+    case serial::WireRecord::Kind::kClosed:
       // The next element starts before its own session is opened.
       session_.clear();
       break;
   }
 }
 
-void DoubtTracker::OnCommand(const WireRecord& command) {
-  if (command.replyWaiting) Note({"late-reply", {VisibleLatin1(command.text)}});
+void DoubtTracker::OnCommand(const serial::WireRecord& command) {
+  if (command.replyWaiting) Note({"late-reply", {serial::VisibleLatin1(command.text)}});
   lastCommand_.emplace(command.message->MnemonicText(), command.message->Parameters(),
                        command.message->Line());
 }
 
-void DoubtTracker::OnReply(const Message& reply) {
+void DoubtTracker::OnReply(const serial::Message& reply) {
   const auto& mnemonic = reply.MnemonicText();
-  if (running_ && (mnemonic == keld_facts::kReading || mnemonic == keld_facts::kError)) {
+  if (running_ && (mnemonic == plugins::keld::kReading || mnemonic == plugins::keld::kError)) {
     auto& said = said_[*running_];
-    if (said.size() < kMostSaid) said.push_back(Utf8FromLatin1(reply.Line()));
+    if (said.size() < kMostSaid) said.push_back(serial::Utf8FromLatin1(reply.Line()));
   }
   // Before the first command: the reply stays in the queue, and that command notes it as late.
   if (!lastCommand_) return;
   const auto doubts = ReplyDoubts(*lastCommand_, reply);
-  if (mnemonic == keld_facts::kIdentity) session_.insert(session_.end(), doubts.begin(), doubts.end());
+  if (mnemonic == plugins::keld::kIdentity) session_.insert(session_.end(), doubts.begin(), doubts.end());
   for (const auto& doubt : doubts) Note(doubt);
 }
 
-void DoubtTracker::Note(const Reason& doubt) {
+void DoubtTracker::Note(const document::Reason& doubt) {
   if (running_) Add(*running_, doubt);
 }
 
-}  // namespace bench
+}  // namespace host::run

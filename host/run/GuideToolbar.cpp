@@ -4,20 +4,22 @@
 #include "platform/IContainerSite.h"
 #include "platform/IUserControl.h"
 
-namespace bench {
+namespace host::run {
 
 namespace platform = orvik::platform;
 
 std::shared_ptr<orvik::ITgToolbar> GuideToolbar(const platform::IForm& form) {
-  const auto site = std::dynamic_pointer_cast<platform::IContainerSite>(form.Find(guide::kToolbar));
+  const auto site =
+      std::dynamic_pointer_cast<platform::IContainerSite>(form.Find(plugins::keld::guide::kToolbar));
   return site ? std::dynamic_pointer_cast<orvik::ITgToolbar>(site->Object()) : nullptr;
 }
 
 void ShowJudgement(const platform::IApplication& application, const std::string& text) {
   for (const auto& form : application.Forms()) {
-    if (form->Name() != guide::kGuideForm || !form->Visible()) continue;
-    const auto site = std::dynamic_pointer_cast<platform::IContainerSite>(form->Find(guide::kToolbar));
-    const auto label = site ? site->Panel()->Find(guide::kJudgement) : nullptr;
+    if (form->Name() != plugins::keld::guide::kGuideForm || !form->Visible()) continue;
+    const auto site =
+        std::dynamic_pointer_cast<platform::IContainerSite>(form->Find(plugins::keld::guide::kToolbar));
+    const auto label = site ? site->Panel()->Find(plugins::keld::guide::kJudgement) : nullptr;
     if (!label) continue;
     label->SetCaption(text);
     label->SetVisible(!text.empty());
@@ -37,15 +39,16 @@ void LeaveGuide(const platform::IApplication& application) {
   // The prompt first: the guide does not react behind it.
   const auto form = application.ActiveForm();
   if (!form) return;
-  if (form->Name() == guide::kPretestForm) ClickButton(*form, guide::kPretestOk);
-  if (form->Name() == guide::kYesNoForm) ClickButton(*form, guide::kNo);
+  if (form->Name() == plugins::keld::guide::kPretestForm)
+    ClickButton(*form, plugins::keld::guide::kPretestOk);
+  if (form->Name() == plugins::keld::guide::kYesNoForm) ClickButton(*form, plugins::keld::guide::kNo);
   const auto guideForm = application.ActiveForm();
-  if (!guideForm || guideForm->Name() != guide::kGuideForm) return;
+  if (!guideForm || guideForm->Name() != plugins::keld::guide::kGuideForm) return;
   const auto toolbar = GuideToolbar(*guideForm);
   if (!toolbar) return;
   // Only one of them is enabled: stop while a test runs, next otherwise.
-  toolbar->Click(guide::kStop);
-  toolbar->Click(guide::kNext);
+  toolbar->Click(plugins::keld::guide::kStop);
+  toolbar->Click(plugins::keld::guide::kNext);
 }
 
-}  // namespace bench
+}  // namespace host::run

@@ -8,7 +8,7 @@
 #include "platform/IApplication.h"
 #include "platform/IForm.h"
 
-namespace bench {
+namespace host::run {
 
 /// The toolbar of a test guide's window; empty when it has none.
 std::shared_ptr<orvik::ITgToolbar> GuideToolbar(const orvik::platform::IForm& form);
@@ -26,4 +26,4 @@ void ClickButton(const orvik::platform::IForm& form, const std::string& button);
 /// guide without one. A prompt or guide that appears later needs another call.
 void LeaveGuide(const orvik::platform::IApplication& application);
 
-}  // namespace bench
+}  // namespace host::run

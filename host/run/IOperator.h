@@ -4,7 +4,7 @@
 
 #include "platform/IForm.h"
 
-namespace bench {
+namespace host::run {
 
 /// Operates the plug-in's windows during a run: the program, or a person by another medium than the window
 /// itself. `OperatorEvents` calls it.
@@ -23,4 +23,4 @@ class IOperator {
   virtual void OnStopRequested() = 0;
 };
 
-}  // namespace bench
+}  // namespace host::run

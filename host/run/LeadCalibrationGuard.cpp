@@ -18,7 +18,7 @@
 #include "platform/Controls.h"
 #include "platform/IForm.h"
 
-namespace bench {
+namespace host::run {
 
 namespace platform = orvik::platform;
 
@@ -42,7 +42,7 @@ std::string NoReading() {
 
 /// The plug-in's dialog, and the tester's replies since its measurement started.
 struct LeadCalibrationGuard::Dialog {
-  Dialog(std::shared_ptr<platform::IForm> shown, bench::Wire& wire) : form(std::move(shown)), doubts(wire) {
+  Dialog(std::shared_ptr<platform::IForm> shown, serial::Wire& wire) : form(std::move(shown)), doubts(wire) {
     doubts.ElementStarts(kCalibration);
   }
 
@@ -54,19 +54,19 @@ struct LeadCalibrationGuard::Dialog {
     saved.reset();
     doubts.ElementStarts(kCalibration);
   }
-  void OnReply(const Message& reply) {
-    if (reply.MnemonicText() == keld_facts::kError) refusal = reply.Line();
-    if (reply.MnemonicText() != keld_facts::kReading) return;
+  void OnReply(const serial::Message& reply) {
+    if (reply.MnemonicText() == plugins::keld::kError) refusal = reply.Line();
+    if (reply.MnemonicText() != plugins::keld::kReading) return;
     reading = ReadLeads(reply);
     if (!asked)
       reading->fault = Tr("the reading \"%%1\" came without being asked for; measure again",
-                          {VisibleLatin1(reply.Line())});
+                          {serial::VisibleLatin1(reply.Line())});
   }
   std::shared_ptr<platform::IButton> Button(const char* name) const {
     return std::dynamic_pointer_cast<platform::IButton>(form->Find(name));
   }
   std::shared_ptr<platform::ITextBox> Serial() const {
-    return std::dynamic_pointer_cast<platform::ITextBox>(form->Find(guide::kLeadsSerial));
+    return std::dynamic_pointer_cast<platform::ITextBox>(form->Find(plugins::keld::guide::kLeadsSerial));
   }
 
   const std::shared_ptr<platform::IForm> form;
@@ -84,13 +84,13 @@ LeadCalibrationGuard::LeadCalibrationGuard(Parts parts)
       shown_(parts_.application.FormShown().Subscribe(
           [this](const std::shared_ptr<platform::IForm>& form) { Shown(form); })),
       writing_(parts_.registry.GuardWrites(
-          keld_facts::kRegistryHive, keld_facts::kLeadsKey,
+          plugins::keld::kRegistryHive, plugins::keld::kLeadsKey,
           [this](const std::string& serial, const orvik::Variant& value) { Write(serial, value); })) {}
 
 LeadCalibrationGuard::~LeadCalibrationGuard() = default;
 
 void LeadCalibrationGuard::Shown(const std::shared_ptr<platform::IForm>& form) {
-  if (form->Name() != guide::kLeadsForm || (dialog_ && dialog_->form == form)) return;
+  if (form->Name() != plugins::keld::guide::kLeadsForm || (dialog_ && dialog_->form == form)) return;
   dialog_ = std::make_shared<Dialog>(form, *parts_.ports.TheWire());
   value_.reset();
   reason_.clear();
@@ -99,20 +99,20 @@ void LeadCalibrationGuard::Shown(const std::shared_ptr<platform::IForm>& form) {
   // The plug-in subscribed first, so these handlers run after its own.
   auto& subscriptions = dialog_->subscriptions;
   subscriptions.push_back(
-      parts_.ports.TheWire()->Subscribe([this](const WireRecord& record) { Watch(record); }));
+      parts_.ports.TheWire()->Subscribe([this](const serial::WireRecord& record) { Watch(record); }));
   subscriptions.push_back(form->Unloading().Subscribe([this] { Closed(); }));
-  if (const auto measure = dialog_->Button(guide::kLeadsMeasure))
+  if (const auto measure = dialog_->Button(plugins::keld::guide::kLeadsMeasure))
     subscriptions.push_back(measure->Clicked().Subscribe([this] { MeasurementOver(); }));
-  if (const auto save = dialog_->Button(guide::kLeadsSave))
+  if (const auto save = dialog_->Button(plugins::keld::guide::kLeadsSave))
     subscriptions.push_back(save->Clicked().Subscribe([this] { SaveClicked(); }));
 }
 
-void LeadCalibrationGuard::Watch(const WireRecord& record) {
-  if (record.kind == WireRecord::Kind::kOpened) dialog_->Begin();
-  if (record.kind == WireRecord::Kind::kClosed) dialog_->sessionOpen = false;
-  if (record.kind == WireRecord::Kind::kSent)
-    dialog_->asked = record.message->MnemonicText() == keld_facts::kGetReading;
-  if (record.kind == WireRecord::Kind::kReceived) dialog_->OnReply(*record.message);
+void LeadCalibrationGuard::Watch(const serial::WireRecord& record) {
+  if (record.kind == serial::WireRecord::Kind::kOpened) dialog_->Begin();
+  if (record.kind == serial::WireRecord::Kind::kClosed) dialog_->sessionOpen = false;
+  if (record.kind == serial::WireRecord::Kind::kSent)
+    dialog_->asked = record.message->MnemonicText() == plugins::keld::kGetReading;
+  if (record.kind == serial::WireRecord::Kind::kReceived) dialog_->OnReply(*record.message);
   if (Doubt().empty()) return;
   // Close the dialog at once, before it can save; but not inside the plug-in's own exchange.
   parts_.application.Post([this, dialog = std::weak_ptr<Dialog>(dialog_)] {
@@ -127,7 +127,7 @@ void LeadCalibrationGuard::MeasurementOver() {
   const bool cancelled = !saved && !dialog_->form->Visible();
   if (const auto obstacle = Obstacle(); !obstacle.empty() && !cancelled) return Refuse(obstacle);
   if (saved) return Store(*saved);
-  const auto save = dialog_->Button(guide::kLeadsSave);
+  const auto save = dialog_->Button(plugins::keld::guide::kLeadsSave);
   const auto serial = dialog_->Serial();
   if (!cancelled && save && !save->Enabled() && serial && !serial->Text().empty()) Refuse(NoReading());
 }
@@ -147,7 +147,7 @@ std::string LeadCalibrationGuard::Obstacle() const {
   if (const auto& error = parts_.ports.LastError(); !error.empty()) return error;
   if (auto doubt = Doubt(); !doubt.empty()) return doubt;
   if (dialog_->reading) return {};
-  if (dialog_->refusal.find(std::to_string(keld_facts::kNoSuchTest)) != std::string::npos)
+  if (dialog_->refusal.find(std::to_string(plugins::keld::kNoSuchTest)) != std::string::npos)
     return Tr(
         "the tester does not have the test 410, which measures the test leads; nothing was stored. Use a "
         "tester that has it");
@@ -155,13 +155,13 @@ std::string LeadCalibrationGuard::Obstacle() const {
     return Tr(
         "the tester refused the measurement (\"%%1\"); nothing was stored. Switch it off and on and "
         "try again",
-        {VisibleLatin1(dialog_->refusal)});
+        {serial::VisibleLatin1(dialog_->refusal)});
   return NoReading();
 }
 
 void LeadCalibrationGuard::Refuse(const std::string& reason) {
   reason_ = reason;
-  ClickButton(*dialog_->form, guide::kLeadsCancel);
+  ClickButton(*dialog_->form, plugins::keld::guide::kLeadsCancel);
 }
 
 void LeadCalibrationGuard::Cancel() {
@@ -240,4 +240,4 @@ void LeadCalibrationGuard::Closed() {
   if (!reason_.empty() && !cancelled_) refused_.Raise(reason_);
 }
 
-}  // namespace bench
+}  // namespace host::run

@@ -11,7 +11,7 @@
 #include "host/serial/PortManager.h"
 #include "platform/IApplication.h"
 
-namespace bench {
+namespace host::run {
 
 /// Stores only valid measurements of the test leads, no matter where the plug-in's dialog is opened: by the
 /// command, the window's menu or the guide.
@@ -23,7 +23,7 @@ class LeadCalibrationGuard {
  public:
   struct Parts {
     orvik::platform::IApplication& application;
-    PortManager& ports;
+    serial::PortManager& ports;
     RegistryStore& registry;
     WallClock clock = LocalTimeText;
   };
@@ -53,7 +53,7 @@ class LeadCalibrationGuard {
   struct Dialog;
 
   void Shown(const std::shared_ptr<orvik::platform::IForm>& form);
-  void Watch(const WireRecord& record);
+  void Watch(const serial::WireRecord& record);
   void MeasurementOver();
   void SaveClicked();
   void Closed();
@@ -77,4 +77,4 @@ class LeadCalibrationGuard {
   orvik::platform::Subscription writing_;
 };
 
-}  // namespace bench
+}  // namespace host::run

@@ -9,7 +9,7 @@
 #include "host/base/WallClock.h"
 #include "host/plugins/keld/KeldNames.h"
 
-namespace bench {
+namespace host::run {
 
 namespace {
 
@@ -29,7 +29,7 @@ std::optional<std::int32_t> Milliohms(const orvik::Variant& value) {
 /// The value; empty when it is missing or of another kind than this host stores.
 orvik::Variant ReadOrEmpty(const RegistryStore& registry, const char* key, const std::string& name) {
   try {
-    return registry.Read(keld_facts::kRegistryHive, key, name);
+    return registry.Read(plugins::keld::kRegistryHive, key, name);
   } catch (const orvik::HostError& error) {
     if (error.Number() != orvik::HostError::kTypeMismatch) throw;
     return {};
@@ -37,7 +37,7 @@ orvik::Variant ReadOrEmpty(const RegistryStore& registry, const char* key, const
 }
 
 LeadCalibration Read(const RegistryStore& registry, const std::string& serial) {
-  LeadCalibration stored{serial, Milliohms(ReadOrEmpty(registry, keld_facts::kLeadsKey, serial)), {}};
+  LeadCalibration stored{serial, Milliohms(ReadOrEmpty(registry, plugins::keld::kLeadsKey, serial)), {}};
   if (stored.milliohms) stored.measured = LeadsMeasured(registry, serial, *stored.milliohms);
   return stored;
 }
@@ -46,13 +46,13 @@ LeadCalibration Read(const RegistryStore& registry, const std::string& serial) {
 
 std::vector<LeadCalibration> StoredLeads(const RegistryStore& registry) {
   std::vector<LeadCalibration> all;
-  for (const auto& serial : registry.Names(keld_facts::kRegistryHive, keld_facts::kLeadsKey))
+  for (const auto& serial : registry.Names(plugins::keld::kRegistryHive, plugins::keld::kLeadsKey))
     all.push_back(Read(registry, serial));
   return all;
 }
 
 std::optional<LeadCalibration> StoredLeadsOf(const RegistryStore& registry, const std::string& serial) {
-  for (const auto& known : registry.Names(keld_facts::kRegistryHive, keld_facts::kLeadsKey))
+  for (const auto& known : registry.Names(plugins::keld::kRegistryHive, plugins::keld::kLeadsKey))
     if (known == serial) return Read(registry, serial);
   return {};
 }
@@ -75,8 +75,8 @@ std::string MeasuredText(const std::optional<std::string>& measured) {
 
 void StoreLeads(RegistryStore& registry, const std::string& serial, std::int32_t milliohms,
                 const std::string& when) {
-  registry.Write(keld_facts::kRegistryHive, keld_facts::kLeadsKey, serial, milliohms);
-  registry.Write(keld_facts::kRegistryHive, kDatesKey, serial, std::to_string(milliohms) + " " + when);
+  registry.Write(plugins::keld::kRegistryHive, plugins::keld::kLeadsKey, serial, milliohms);
+  registry.Write(plugins::keld::kRegistryHive, kDatesKey, serial, std::to_string(milliohms) + " " + when);
 }
 
-}  // namespace bench
+}  // namespace host::run

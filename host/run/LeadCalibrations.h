@@ -12,7 +12,7 @@
 ///
 /// The plug-in stores the value alone. The host notes value and date beside it, so that a value that somebody
 /// else has written since has no date. Errors of the registry file are `HostError` 75.
-namespace bench {
+namespace host::run {
 
 /// One stored value.
 struct LeadCalibration {
@@ -24,7 +24,7 @@ struct LeadCalibration {
 
   /// Whether test leads can have it: a number from 0 to `keld_facts::kMostLeadMilliohms`.
   bool Plausible() const {
-    return milliohms && *milliohms >= 0 && *milliohms <= keld_facts::kMostLeadMilliohms;
+    return milliohms && *milliohms >= 0 && *milliohms <= plugins::keld::kMostLeadMilliohms;
   }
 };
 
@@ -48,4 +48,4 @@ std::string MeasuredText(const std::optional<std::string>& measured);
 void StoreLeads(RegistryStore& registry, const std::string& serial, std::int32_t milliohms,
                 const std::string& when);
 
-}  // namespace bench
+}  // namespace host::run

@@ -9,7 +9,7 @@
 #include "host/serial/Latin1.h"
 #include "host/serial/Message.h"
 
-namespace bench {
+namespace host::run {
 
 namespace {
 
@@ -22,32 +22,32 @@ LeadsReading Unusable(std::string fault) { return {0, std::move(fault)}; }
 
 }  // namespace
 
-LeadsReading ReadLeads(const Message& reply) {
+LeadsReading ReadLeads(const serial::Message& reply) {
   const auto& fields = reply.Parameters();
-  const auto said = VisibleLatin1(reply.Line());
-  if (fields.size() != keld_facts::kReadingFields)
+  const auto said = serial::VisibleLatin1(reply.Line());
+  if (fields.size() != plugins::keld::kReadingFields)
     return Unusable(Tr("the reading \"%%1\" is incomplete", {said}));
-  const auto& unit = fields[keld_facts::kUnitField];
+  const auto& unit = fields[plugins::keld::kUnitField];
   if (unit != "Ohm" && unit != "mOhm")
     return Unusable(
         Tr("the reading \"%%1\" is not in Ohm or mOhm; check that the tester measures the test "
            "leads",
            {said}));
-  const auto number = FiniteNumber(fields[keld_facts::kValueField]);
+  const auto number = FiniteNumber(fields[plugins::keld::kValueField]);
   if (!number) return Unusable(Tr("the reading \"%%1\" is not a number", {said}));
-  if (orvik::Trim(fields[keld_facts::kOverloadField]) != "0")
+  if (orvik::Trim(fields[plugins::keld::kOverloadField]) != "0")
     return Unusable(
         Tr("overload (OL) in \"%%1\"; put the clip firmly at the ground of the tester's power "
            "socket",
            {said}));
   const double milliohms = unit == "Ohm" ? AsShown(*number * kMilliohmsOfOhm) : *number;
   if (milliohms < 0) return Unusable(Tr("the reading \"%%1\" is negative; measure again", {said}));
-  if (milliohms > keld_facts::kMostLeadMilliohms)
+  if (milliohms > plugins::keld::kMostLeadMilliohms)
     return Unusable(
         Tr("%%1 mOhm is more than test leads have (at most %%2 mOhm); put the clip firmly at the "
            "ground of the tester's power socket",
-           {orvik::NumberText(milliohms), std::to_string(keld_facts::kMostLeadMilliohms)}));
+           {orvik::NumberText(milliohms), std::to_string(plugins::keld::kMostLeadMilliohms)}));
   return {milliohms, {}};
 }
 
-}  // namespace bench
+}  // namespace host::run

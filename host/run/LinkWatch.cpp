@@ -4,11 +4,11 @@
 #include "host/plugins/keld/KeldProtocol.h"
 #include "host/serial/Message.h"
 
-namespace bench {
+namespace host::run {
 
-LinkWatch::LinkWatch(PortManager& ports)
+LinkWatch::LinkWatch(serial::PortManager& ports)
     : ports_(ports),
-      watch_(ports.TheWire()->Subscribe([this](const WireRecord& record) { Watch(record); })) {}
+      watch_(ports.TheWire()->Subscribe([this](const serial::WireRecord& record) { Watch(record); })) {}
 
 std::string LinkWatch::Loss() const {
   if (!ports_.LastError().empty()) return ports_.LastError();
@@ -17,25 +17,25 @@ std::string LinkWatch::Loss() const {
   return {};
 }
 
-void LinkWatch::Watch(const WireRecord& record) {
+void LinkWatch::Watch(const serial::WireRecord& record) {
   switch (record.kind) {
-    case WireRecord::Kind::kOpened:
+    case serial::WireRecord::Kind::kOpened:
       failed_ = false;
       sessionRequested_ = false;
       break;
-    case WireRecord::Kind::kSent:
-      if (record.message->MnemonicText() == keld_facts::kBeginSession) sessionRequested_ = true;
+    case serial::WireRecord::Kind::kSent:
+      if (record.message->MnemonicText() == plugins::keld::kBeginSession) sessionRequested_ = true;
       break;
-    case WireRecord::Kind::kReceived:
-    case WireRecord::Kind::kDropped:
+    case serial::WireRecord::Kind::kReceived:
+    case serial::WireRecord::Kind::kDropped:
       sessionRequested_ = false;
       break;
-    case WireRecord::Kind::kFailed:
+    case serial::WireRecord::Kind::kFailed:
       failed_ = true;
       break;
-    case WireRecord::Kind::kClosed:
+    case serial::WireRecord::Kind::kClosed:
       break;
   }
 }
 
-}  // namespace bench
+}  // namespace host::run

@@ -4,24 +4,24 @@
 
 #include "host/serial/PortManager.h"
 
-namespace bench {
+namespace host::run {
 
 /// Reports whether the tester can be reached, from what happened on the wire.
 class LinkWatch {
  public:
-  explicit LinkWatch(PortManager& ports);
+  explicit LinkWatch(serial::PortManager& ports);
 
   /// Why the tester cannot be reached: the port could not be opened, it failed, or there was no answer at the
   /// start of the last session. Empty otherwise.
   std::string Loss() const;
 
  private:
-  void Watch(const WireRecord& record);
+  void Watch(const serial::WireRecord& record);
 
-  PortManager& ports_;
+  serial::PortManager& ports_;
   bool failed_ = false;
   bool sessionRequested_ = false;  ///< no answer to IREM yet
   orvik::platform::Subscription watch_;
 };
 
-}  // namespace bench
+}  // namespace host::run

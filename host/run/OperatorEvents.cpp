@@ -1,6 +1,6 @@
 #include "host/run/OperatorEvents.h"
 
-namespace bench {
+namespace host::run {
 
 OperatorEvents::OperatorEvents(std::shared_ptr<orvik::platform::IApplication> application, StopRequest& stop,
                                std::unique_ptr<IOperator> runOperator)
@@ -15,4 +15,4 @@ OperatorEvents::OperatorEvents(std::shared_ptr<orvik::platform::IApplication> ap
   stopRequested_ = stop.Happened().Subscribe([this] { operator_->OnStopRequested(); });
 }
 
-}  // namespace bench
+}  // namespace host::run

@@ -6,7 +6,7 @@
 #include "host/run/StopRequest.h"
 #include "platform/IApplication.h"
 
-namespace bench {
+namespace host::run {
 
 /// Owns the operator of a run, and reports windows and a requested stop to it for as long as it lives.
 class OperatorEvents {
@@ -23,4 +23,4 @@ class OperatorEvents {
   orvik::platform::Subscription stopRequested_;
 };
 
-}  // namespace bench
+}  // namespace host::run

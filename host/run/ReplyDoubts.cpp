@@ -12,7 +12,7 @@
 #include "host/serial/Latin1.h"
 #include "host/serial/Message.h"
 
-namespace bench {
+namespace host::run {
 
 namespace {
 
@@ -24,45 +24,45 @@ constexpr std::array<std::string_view, 20> kUnits{"V",  "mV",  "kV",   "A",    "
                                                   "kW", "VA",  "kVA",  "Hz",   "s",    "%"};
 
 /// Whether the reply names another parameter than the command; a reply may leave its parameters out.
-bool NamesAnother(const Message& command, const Message& reply, std::size_t index) {
+bool NamesAnother(const serial::Message& command, const serial::Message& reply, std::size_t index) {
   if (command.Parameters().size() <= index || reply.Parameters().size() <= index) return false;
   return orvik::Trim(command.Parameters()[index]) != orvik::Trim(reply.Parameters()[index]);
 }
 
-std::string Shown(const Message& message) { return VisibleLatin1(message.Line()); }
+std::string Shown(const serial::Message& message) { return serial::VisibleLatin1(message.Line()); }
 
-void CheckReading(const Message& reply, std::vector<Reason>& doubts) {
+void CheckReading(const serial::Message& reply, std::vector<document::Reason>& doubts) {
   const auto& fields = reply.Parameters();
-  if (fields.size() != keld_facts::kReadingFields) {
+  if (fields.size() != plugins::keld::kReadingFields) {
     doubts.push_back(
         {"reading-fields",
-         {Shown(reply), std::to_string(fields.size()), std::to_string(keld_facts::kReadingFields)}});
+         {Shown(reply), std::to_string(fields.size()), std::to_string(plugins::keld::kReadingFields)}});
     return;
   }
-  const auto value = orvik::FiniteNumber(fields[keld_facts::kValueField]);
-  if (!value) doubts.push_back({"not-a-number", {fields[keld_facts::kValueField]}});
-  if (value && *value < 0) doubts.push_back({"negative-reading", {fields[keld_facts::kValueField]}});
-  if (orvik::Trim(fields[keld_facts::kOverloadField]) != "0" &&
-      orvik::Trim(fields[keld_facts::kOverloadField]) != "1")
-    doubts.push_back({"overload-mark", {fields[keld_facts::kOverloadField]}});
-  if (orvik::Trim(fields[keld_facts::kOverloadField]) == "1") doubts.push_back({"overload", {}});
-  if (std::find(kUnits.begin(), kUnits.end(), fields[keld_facts::kUnitField]) == kUnits.end())
-    doubts.push_back({"unknown-unit", {fields[keld_facts::kUnitField]}});
+  const auto value = orvik::FiniteNumber(fields[plugins::keld::kValueField]);
+  if (!value) doubts.push_back({"not-a-number", {fields[plugins::keld::kValueField]}});
+  if (value && *value < 0) doubts.push_back({"negative-reading", {fields[plugins::keld::kValueField]}});
+  if (orvik::Trim(fields[plugins::keld::kOverloadField]) != "0" &&
+      orvik::Trim(fields[plugins::keld::kOverloadField]) != "1")
+    doubts.push_back({"overload-mark", {fields[plugins::keld::kOverloadField]}});
+  if (orvik::Trim(fields[plugins::keld::kOverloadField]) == "1") doubts.push_back({"overload", {}});
+  if (std::find(kUnits.begin(), kUnits.end(), fields[plugins::keld::kUnitField]) == kUnits.end())
+    doubts.push_back({"unknown-unit", {fields[plugins::keld::kUnitField]}});
 }
 
-void CheckIdentity(const Message& reply, std::vector<Reason>& doubts) {
+void CheckIdentity(const serial::Message& reply, std::vector<document::Reason>& doubts) {
   const auto& fields = reply.Parameters();
   if (fields.size() < kIdentityFields) {
     doubts.push_back({"identity-incomplete", {Shown(reply)}});
     return;
   }
   if (orvik::Trim(fields[1]).empty()) doubts.push_back({"no-serial-number", {}});
-  if (orvik::Trim(fields[0]) != keld_facts::kInstrument)
-    doubts.push_back({"other-tester", {fields[0], keld_facts::kInstrument}});
+  if (orvik::Trim(fields[0]) != plugins::keld::kInstrument)
+    doubts.push_back({"other-tester", {fields[0], plugins::keld::kInstrument}});
 }
 
 /// The number of an error reply, parsed as leniently as the plug-in does; 0 when there is none.
-int ErrorNumber(const Message& reply) {
+int ErrorNumber(const serial::Message& reply) {
   const auto& fields = reply.Parameters();
   if (fields.empty()) return 0;
   const auto field = orvik::Trim(fields[fields.size() == 1 ? 0 : 1]);
@@ -74,25 +74,25 @@ int ErrorNumber(const Message& reply) {
 }
 
 /// A refusal records the test as not applicable. That counts only for error 6002 in reply to STST.
-void CheckRefusal(const Message& command, int error, std::vector<Reason>& doubts) {
-  const bool startsTest = command.MnemonicText() == keld_facts::kStartTest;
-  if (error == keld_facts::kNotAllowedNow && startsTest) doubts.push_back({"refused-now", {}});
-  if (error == keld_facts::kNoSuchTest && !startsTest)
+void CheckRefusal(const serial::Message& command, int error, std::vector<document::Reason>& doubts) {
+  const bool startsTest = command.MnemonicText() == plugins::keld::kStartTest;
+  if (error == plugins::keld::kNotAllowedNow && startsTest) doubts.push_back({"refused-now", {}});
+  if (error == plugins::keld::kNoSuchTest && !startsTest)
     doubts.push_back({"refused-elsewhere", {Shown(command)}});
 }
 
 }  // namespace
 
-std::vector<Reason> ReplyDoubts(const Message& command, const Message& reply) {
-  std::vector<Reason> doubts;
+std::vector<document::Reason> ReplyDoubts(const serial::Message& command, const serial::Message& reply) {
+  std::vector<document::Reason> doubts;
   const auto& mnemonic = reply.MnemonicText();
-  if ((mnemonic == keld_facts::kStarted || mnemonic == keld_facts::kReading) &&
+  if ((mnemonic == plugins::keld::kStarted || mnemonic == plugins::keld::kReading) &&
       (NamesAnother(command, reply, 0) || NamesAnother(command, reply, 1)))
     doubts.push_back({"other-test-named", {Shown(reply), Shown(command)}});
-  if (mnemonic == keld_facts::kReading) CheckReading(reply, doubts);
-  if (mnemonic == keld_facts::kIdentity) CheckIdentity(reply, doubts);
-  if (mnemonic == keld_facts::kError) CheckRefusal(command, ErrorNumber(reply), doubts);
+  if (mnemonic == plugins::keld::kReading) CheckReading(reply, doubts);
+  if (mnemonic == plugins::keld::kIdentity) CheckIdentity(reply, doubts);
+  if (mnemonic == plugins::keld::kError) CheckRefusal(command, ErrorNumber(reply), doubts);
   return doubts;
 }
 
-}  // namespace bench
+}  // namespace host::run

@@ -7,7 +7,7 @@
 #include "host/base/Tr.h"
 #include "host/document/ElementWalk.h"
 
-namespace bench {
+namespace host::run {
 
 bool RunController::Begin(const RunRecorder::Heading& heading,
                           const std::vector<std::shared_ptr<orvik::ITestElement>>& elements) {
@@ -40,11 +40,11 @@ void RunController::IRunController_NavigationRequest(std::int32_t lCode) {
 void RunController::IRunController_FinishedNotice(std::shared_ptr<orvik::ITestElement> iteElement) {
   const bool ran = running_.erase(orvik::Required(iteElement).ID()) > 0;
   if (ran) {
-    parts_.recorder.Finished(iteElement, RecordedTest::By::kTester);
+    parts_.recorder.Finished(iteElement, document::RecordedTest::By::kTester);
   } else {
     // The operator skipped it or recorded it as not applicable: what the tester said no longer matters.
     ForgetDoubts(iteElement);
-    parts_.recorder.Finished(iteElement, RecordedTest::By::kOperator);
+    parts_.recorder.Finished(iteElement, document::RecordedTest::By::kOperator);
   }
   // Before the event: its handlers may rely on the saved document.
   Save();
@@ -52,7 +52,7 @@ void RunController::IRunController_FinishedNotice(std::shared_ptr<orvik::ITestEl
 }
 
 void RunController::ForgetDoubts(const std::shared_ptr<orvik::ITestElement>& top) {
-  WalkElements(top, [this](const std::shared_ptr<orvik::ITestElement>& element) {
+  document::WalkElements(top, [this](const std::shared_ptr<orvik::ITestElement>& element) {
     parts_.doubts.Forget(element->ID());
   });
 }
@@ -62,7 +62,7 @@ void RunController::Settle(const std::shared_ptr<orvik::ITestElement>& element) 
   Save();
 }
 
-void RunController::End(RunRecord::End end) {
+void RunController::End(document::RunRecord::End end) {
   parts_.recorder.End(end);
   Save();
 }
@@ -77,4 +77,4 @@ void RunController::Save() {
   }
 }
 
-}  // namespace bench
+}  // namespace host::run

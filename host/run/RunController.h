@@ -17,7 +17,7 @@
 #include "host/run/RunRecorder.h"
 #include "platform/Event.h"
 
-namespace bench {
+namespace host::run {
 
 /// Answers the running elements and records what they report. Saves the document before an element is
 /// measured again, and after each element that has finished.
@@ -49,7 +49,7 @@ class RunController final : public orvik::IRunController {
   /// Records what closing the session revealed about the element and all below it, and saves the document.
   void Settle(const std::shared_ptr<orvik::ITestElement>& element);
   /// Ends the run and saves the document.
-  void End(RunRecord::End end);
+  void End(document::RunRecord::End end);
   /// Why the last save failed; empty after a successful one. The contract has no way to report it.
   const std::string& SaveFailure() const { return saveFailure_; }
 
@@ -74,4 +74,4 @@ class RunController final : public orvik::IRunController {
   orvik::platform::Event<const std::shared_ptr<orvik::ITestElement>&> finished_;
 };
 
-}  // namespace bench
+}  // namespace host::run

@@ -13,7 +13,7 @@
 #include "host/document/ElementWalk.h"
 #include "host/document/SavedSettings.h"
 
-namespace bench {
+namespace host::run {
 
 namespace {
 
@@ -22,12 +22,12 @@ std::int32_t StatusOf(const orvik::ITestElement& element) {
   return result ? result->Status() : orvik::ResultStatus::kNotTested;
 }
 
-void AddOnce(std::vector<Reason>& doubts, const Reason& doubt) {
+void AddOnce(std::vector<document::Reason>& doubts, const document::Reason& doubt) {
   if (std::find(doubts.begin(), doubts.end(), doubt) == doubts.end()) doubts.push_back(doubt);
 }
 
-RecordedReading ReadingOf(const orvik::IMeasurement& measurement) {
-  RecordedReading reading{{}, measurement.Unit(), measurement.Flags()};
+document::RecordedReading ReadingOf(const orvik::IMeasurement& measurement) {
+  document::RecordedReading reading{{}, measurement.Unit(), measurement.Flags()};
   const auto value = measurement.value();
   if (const auto* number = std::get_if<double>(&value)) reading.value = ExactNumberText(*number);
   if (const auto* whole = std::get_if<std::int32_t>(&value)) reading.value = std::to_string(*whole);
@@ -37,22 +37,23 @@ RecordedReading ReadingOf(const orvik::IMeasurement& measurement) {
 /// The element and all below it, children before the group that they are in.
 std::vector<RunRecorder::Element> ChildrenFirst(const RunRecorder::Element& top) {
   std::vector<RunRecorder::Element> elements;
-  WalkElements(top, [&](const RunRecorder::Element& element) { elements.push_back(element); });
+  document::WalkElements(top, [&](const RunRecorder::Element& element) { elements.push_back(element); });
   std::reverse(elements.begin(), elements.end());
   return elements;
 }
 
-RecordedTakes TakesOf(const std::vector<RunRecorder::Element>& elements) {
-  RecordedTakes takes;
+document::RecordedTakes TakesOf(const std::vector<RunRecorder::Element>& elements) {
+  document::RecordedTakes takes;
   for (const auto& top : elements)
-    WalkElements(top, [&](const RunRecorder::Element& element) { takes.elements.push_back(element->ID()); });
+    document::WalkElements(
+        top, [&](const RunRecorder::Element& element) { takes.elements.push_back(element->ID()); });
   return takes;
 }
 
 }  // namespace
 
 void RunRecorder::Begin(const Heading& heading, const std::vector<Element>& elements) {
-  RunRecord run;
+  document::RunRecord run;
   run.begun = parts_.clock();
   run.by = heading.by;
   run.simulated = heading.simulated;
@@ -76,9 +77,9 @@ bool RunRecorder::Starts(const Element& element) {
   return again;
 }
 
-void RunRecorder::Finished(const Element& element, RecordedTest::By by) {
+void RunRecorder::Finished(const Element& element, document::RecordedTest::By by) {
   if (!parts_.runs.Current()) return;
-  if (by == RecordedTest::By::kTester) return Append(*element, by);
+  if (by == document::RecordedTest::By::kTester) return Append(*element, by);
   for (const auto& below : ChildrenFirst(element)) Append(*below, by);
 }
 
@@ -92,14 +93,14 @@ void RunRecorder::SettleOne(const orvik::ITestElement& element, bool aborted) {
   const auto status = StatusOf(element);
   // The plug-in sends no finished notice after an abort.
   if (aborted && status == orvik::ResultStatus::kAborted && (!test || test->status != status))
-    return Append(element, RecordedTest::By::kOperator);
+    return Append(element, document::RecordedTest::By::kOperator);
   if (!test) return;
   for (const auto& doubt : parts_.doubts.Of(element.ID())) AddOnce(test->doubts, doubt);
   if (test->status != status)
     AddOnce(test->doubts, {"changed-after-finish", {std::to_string(test->status), std::to_string(status)}});
 }
 
-void RunRecorder::End(RunRecord::End end) {
+void RunRecorder::End(document::RunRecord::End end) {
   auto* run = parts_.runs.Current();
   if (!run) return;
   run->end = end;
@@ -107,35 +108,36 @@ void RunRecorder::End(RunRecord::End end) {
   parts_.runs.Close();
 }
 
-RecordedTest* RunRecorder::LastTest(std::int32_t element) {
+document::RecordedTest* RunRecorder::LastTest(std::int32_t element) {
   auto* run = parts_.runs.Current();
   for (auto step = run->steps.rbegin(); step != run->steps.rend(); ++step) {
-    if (auto* test = std::get_if<RecordedTest>(&*step)) {
+    if (auto* test = std::get_if<document::RecordedTest>(&*step)) {
       if (test->element == element) return test;
     } else {
-      const auto& taken = std::get<RecordedTakes>(*step).elements;
+      const auto& taken = std::get<document::RecordedTakes>(*step).elements;
       if (std::find(taken.begin(), taken.end(), element) != taken.end()) return nullptr;
     }
   }
   return nullptr;
 }
 
-void RunRecorder::Append(const orvik::ITestElement& element, RecordedTest::By by) {
+void RunRecorder::Append(const orvik::ITestElement& element, document::RecordedTest::By by) {
   // Before the steps are accessed: it may add a tester to the run.
   auto test = TestOf(element, by);
   parts_.runs.Current()->steps.emplace_back(std::move(test));
 }
 
-RecordedTest RunRecorder::TestOf(const orvik::ITestElement& element, RecordedTest::By by) {
-  RecordedTest test;
+document::RecordedTest RunRecorder::TestOf(const orvik::ITestElement& element,
+                                           document::RecordedTest::By by) {
+  document::RecordedTest test;
   test.element = element.ID();
   test.testId = element.TestID();
-  test.settings = MeasuringSettings(element);
+  test.settings = document::MeasuringSettings(element);
   test.at = parts_.clock();
   test.status = StatusOf(element);
   test.by = by;
   const auto result = element.Result();
-  if (by == RecordedTest::By::kTester) {
+  if (by == document::RecordedTest::By::kTester) {
     test.said = parts_.doubts.Said(test.element);
     test.doubts = parts_.doubts.Of(test.element);
     if (result) test.tester = TesterOf(result->MTIID());
@@ -151,11 +153,11 @@ std::int32_t RunRecorder::TesterOf(std::int32_t instrument) {
   const auto& all = parts_.instruments;
   if (!all || instrument < 1 || instrument > all->Count()) return 0;
   const auto record = all->item(instrument);
-  RecordedTester tester{record->MTIType(),
-                        record->SerialNumber(),
-                        record->FirmwareVersion(),
-                        WholeNumber(record->Property("calib")).value_or(0),
-                        {}};
+  document::RecordedTester tester{record->MTIType(),
+                                  record->SerialNumber(),
+                                  record->FirmwareVersion(),
+                                  WholeNumber(record->Property("calib")).value_or(0),
+                                  {}};
   if (parts_.leadsMeasured) tester.leadsMeasured = parts_.leadsMeasured(tester.serial, tester.leads);
   auto& testers = parts_.runs.Current()->testers;
   const auto known = std::find(testers.begin(), testers.end(), tester);
@@ -164,9 +166,9 @@ std::int32_t RunRecorder::TesterOf(std::int32_t instrument) {
   return static_cast<std::int32_t>(testers.size());
 }
 
-std::vector<RecordedLimit> RunRecorder::JudgedBy(const orvik::ITestElement& element,
-                                                 const orvik::IMeasurement& measurement) const {
-  std::vector<RecordedLimit> judged;
+std::vector<document::RecordedLimit> RunRecorder::JudgedBy(const orvik::ITestElement& element,
+                                                           const orvik::IMeasurement& measurement) const {
+  std::vector<document::RecordedLimit> judged;
   const auto value = measurement.value();
   const auto* number = std::get_if<double>(&value);
   const auto limits = element.Limits();
@@ -185,4 +187,4 @@ std::vector<RecordedLimit> RunRecorder::JudgedBy(const orvik::ITestElement& elem
   return judged;
 }
 
-}  // namespace bench
+}  // namespace host::run

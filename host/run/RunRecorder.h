@@ -14,7 +14,7 @@
 #include "host/document/Runs.h"
 #include "host/run/DoubtTracker.h"
 
-namespace bench {
+namespace host::run {
 
 /// Records a run in the document's record of runs.
 class RunRecorder {
@@ -23,7 +23,7 @@ class RunRecorder {
 
   /// What is known of a run before it starts.
   struct Heading {
-    Equipment equipment;
+    document::Equipment equipment;
     std::string by;  ///< the operator's name; may be empty
     std::string port;
     std::string program;
@@ -32,7 +32,7 @@ class RunRecorder {
   };
 
   struct Parts {
-    Runs& runs;
+    document::Runs& runs;
     std::shared_ptr<orvik::IInstrumentColl> instruments;
     std::shared_ptr<orvik::IStandardColl> standards;  ///< by which the plug-in judges
     const DoubtTracker& doubts;
@@ -49,25 +49,25 @@ class RunRecorder {
   /// @return whether that was recorded: the run had finished the element already, or had not taken it up
   bool Starts(const Element& element);
   /// The element is finished; by the operator, all elements below it are finished, too.
-  void Finished(const Element& element, RecordedTest::By by);
+  void Finished(const Element& element, document::RecordedTest::By by);
   /// The element has been left and its session is closed: records what happened since it finished, for it and
   /// all below it.
   /// @param aborted whether it was left by an abort; otherwise a saved "aborted" is from an earlier run
   void Settle(const Element& element, bool aborted);
   /// Ends the run.
-  void End(RunRecord::End end);
+  void End(document::RunRecord::End end);
 
  private:
   void SettleOne(const orvik::ITestElement& element, bool aborted);
   /// The current run's last record of the element; null until the run has finished it.
-  RecordedTest* LastTest(std::int32_t element);
-  RecordedTest TestOf(const orvik::ITestElement& element, RecordedTest::By by);
-  void Append(const orvik::ITestElement& element, RecordedTest::By by);
+  document::RecordedTest* LastTest(std::int32_t element);
+  document::RecordedTest TestOf(const orvik::ITestElement& element, document::RecordedTest::By by);
+  void Append(const orvik::ITestElement& element, document::RecordedTest::By by);
   std::int32_t TesterOf(std::int32_t instrument);
-  std::vector<RecordedLimit> JudgedBy(const orvik::ITestElement& element,
-                                      const orvik::IMeasurement& measurement) const;
+  std::vector<document::RecordedLimit> JudgedBy(const orvik::ITestElement& element,
+                                                const orvik::IMeasurement& measurement) const;
 
   const Parts parts_;
 };
 
-}  // namespace bench
+}  // namespace host::run

@@ -2,7 +2,7 @@
 
 #include "platform/Event.h"
 
-namespace bench {
+namespace host::run {
 
 /// A request to end the run and to close the session with the tester.
 class StopRequest {
@@ -21,4 +21,4 @@ class StopRequest {
   orvik::platform::Event<> happened_;
 };
 
-}  // namespace bench
+}  // namespace host::run

@@ -5,14 +5,14 @@
 
 #include "toolkit/headless/Application.h"
 
-namespace bench {
+namespace host::run {
 
 namespace {
 
 constexpr int kSignals[] = {SIGINT, SIGTERM, SIGHUP};
 
 // A signal handler may only use lock-free atomics.
-std::atomic<headless::Application*> signalReceiver{nullptr};
+std::atomic<toolkit::headless::Application*> signalReceiver{nullptr};
 std::atomic<int> arrived{0};
 
 void Handle(int signal) {
@@ -29,7 +29,7 @@ bool IgnoresHangUp() {
 
 }  // namespace
 
-StopSignals::StopSignals(headless::Application& application, std::function<void(int signal)> stop)
+StopSignals::StopSignals(toolkit::headless::Application& application, std::function<void(int signal)> stop)
     : stop_(std::move(stop)), woken_(application.Woken().Subscribe([this] { Deliver(); })) {
   signalReceiver.store(&application);
   for (const int signal : kSignals) {
@@ -55,4 +55,4 @@ void StopSignals::Deliver() {
   if (const int signal = arrived.exchange(0)) stop_(signal);
 }
 
-}  // namespace bench
+}  // namespace host::run

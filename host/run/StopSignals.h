@@ -7,11 +7,11 @@
 
 #include "platform/Event.h"
 
-namespace bench {
-
-namespace headless {
+namespace toolkit::headless {
 class Application;
 }
+
+namespace host::run {
 
 /// Turns SIGINT, SIGTERM and SIGHUP into calls on the user-interface thread, and ignores SIGPIPE, so that a
 /// closed output cannot end the program while a session is open. One instance per process; its destructor
@@ -19,7 +19,7 @@ class Application;
 class StopSignals {
  public:
   /// @param stop called with the signal's number while messages are processed, once a signal
-  StopSignals(headless::Application& application, std::function<void(int signal)> stop);
+  StopSignals(toolkit::headless::Application& application, std::function<void(int signal)> stop);
   StopSignals(const StopSignals&) = delete;
   StopSignals& operator=(const StopSignals&) = delete;
   ~StopSignals();
@@ -33,4 +33,4 @@ class StopSignals {
   orvik::platform::Subscription woken_;
 };
 
-}  // namespace bench
+}  // namespace host::run

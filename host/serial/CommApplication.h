@@ -5,19 +5,19 @@
 #include "OrvikTypeLib/ICommApplication.h"
 #include "host/serial/PortManager.h"
 
-namespace bench {
+namespace host::serial {
 
 /// The serial communication library.
 class CommApplication final : public orvik::ICommApplication {
  public:
-  explicit CommApplication(std::shared_ptr<bench::PortManager> manager) : manager_(std::move(manager)) {}
+  explicit CommApplication(std::shared_ptr<serial::PortManager> manager) : manager_(std::move(manager)) {}
 
-  const std::shared_ptr<bench::PortManager>& Manager() const { return manager_; }
+  const std::shared_ptr<serial::PortManager>& Manager() const { return manager_; }
 
  private:
   std::shared_ptr<orvik::IPortManager> ICommApplication_PortManager() const override { return manager_; }
 
-  const std::shared_ptr<bench::PortManager> manager_;
+  const std::shared_ptr<serial::PortManager> manager_;
 };
 
-}  // namespace bench
+}  // namespace host::serial

@@ -6,9 +6,10 @@
 #include "OrvikTypeLib/HostError.h"
 #include "host/base/Tr.h"
 
-namespace bench {
+namespace host::serial {
 
-DeviceTransport::DeviceTransport(std::string path, const LineSettings& settings, std::shared_ptr<ILoop> loop)
+DeviceTransport::DeviceTransport(std::string path, const LineSettings& settings,
+                                 std::shared_ptr<toolkit::loop::ILoop> loop)
     : loop_(std::move(loop)), device_(std::move(path), settings) {
   watch_ = loop_->WatchReadable(device_.Descriptor(), [this] { ReadArrived(); });
 }
@@ -56,4 +57,4 @@ void DeviceTransport::Fail() {
   if (listener) listener();
 }
 
-}  // namespace bench
+}  // namespace host::serial

@@ -7,13 +7,13 @@
 #include "host/serial/SerialDevice.h"
 #include "toolkit/loop/ILoop.h"
 
-namespace bench {
+namespace host::serial {
 
 /// A serial device, read while messages are processed. After a hang-up or a failure it is closed.
 class DeviceTransport final : public ITransport {
  public:
   /// Opens the device; `HostError` as `SerialDevice`.
-  DeviceTransport(std::string path, const LineSettings& settings, std::shared_ptr<ILoop> loop);
+  DeviceTransport(std::string path, const LineSettings& settings, std::shared_ptr<toolkit::loop::ILoop> loop);
   ~DeviceTransport() override;
 
   void SetReceiver(Receiver receiver) override;
@@ -26,13 +26,13 @@ class DeviceTransport final : public ITransport {
   void ReadArrived();
   void Fail();
 
-  const std::shared_ptr<ILoop> loop_;
+  const std::shared_ptr<toolkit::loop::ILoop> loop_;
   SerialDevice device_;
-  ILoop::Id watch_ = 0;
+  toolkit::loop::ILoop::Id watch_ = 0;
   Receiver receiver_;
   std::function<void()> failureListener_;
   /// Expires with this object: a receiver may release it.
   std::shared_ptr<int> alive_ = std::make_shared<int>();
 };
 
-}  // namespace bench
+}  // namespace host::serial

@@ -3,7 +3,7 @@
 #include <functional>
 #include <string_view>
 
-namespace bench {
+namespace host::serial {
 
 /// Carries bytes to the instrument and back. User-interface thread only.
 class ITransport {
@@ -27,4 +27,4 @@ class ITransport {
   virtual void Close() = 0;
 };
 
-}  // namespace bench
+}  // namespace host::serial

@@ -1,6 +1,6 @@
 #include "host/serial/Latin1.h"
 
-namespace bench {
+namespace host::serial {
 
 namespace {
 
@@ -57,4 +57,4 @@ std::string VisibleLatin1(std::string_view bytes) {
   return text;
 }
 
-}  // namespace bench
+}  // namespace host::serial

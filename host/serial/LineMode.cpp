@@ -9,7 +9,7 @@
 #include "host/base/SystemError.h"
 #include "host/base/Tr.h"
 
-namespace bench {
+namespace host::serial {
 
 namespace {
 
@@ -69,4 +69,4 @@ std::string SetLineMode(int descriptor, const LineSettings& settings, bool pseud
   return {};
 }
 
-}  // namespace bench
+}  // namespace host::serial

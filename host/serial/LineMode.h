@@ -4,7 +4,7 @@
 
 #include "host/serial/LineSettings.h"
 
-namespace bench {
+namespace host::serial {
 
 /// Puts a terminal into raw mode with these settings, without flow control. A byte with a parity error is
 /// received as 0x00, which makes its line invalid.
@@ -13,4 +13,4 @@ namespace bench {
 /// @return empty, or why the settings cannot be used
 std::string SetLineMode(int descriptor, const LineSettings& settings, bool pseudo);
 
-}  // namespace bench
+}  // namespace host::serial

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-namespace bench {
+namespace host::serial {
 
 /// Splits the bytes of a serial line into lines as they are received.
 ///
@@ -50,4 +50,4 @@ class LineReader {
   bool valid_ = true;
 };
 
-}  // namespace bench
+}  // namespace host::serial

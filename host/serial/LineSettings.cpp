@@ -7,7 +7,7 @@
 #include "OrvikTypeLib/HostError.h"
 #include "host/base/Tr.h"
 
-namespace bench {
+namespace host::serial {
 
 namespace {
 
@@ -76,4 +76,4 @@ LineSettings ParseLineSettings(const std::string& text) {
                      Marked("the stop bits \"%%1\" are not one of 1, 1.5 and 2"))};
 }
 
-}  // namespace bench
+}  // namespace host::serial

@@ -2,7 +2,7 @@
 
 #include <string>
 
-namespace bench {
+namespace host::serial {
 
 enum class Parity { kNone, kEven, kOdd, kMark, kSpace };
 enum class StopBits { kOne, kOneAndAHalf, kTwo };
@@ -20,4 +20,4 @@ struct LineSettings {
 /// data bits (5 to 8), stop bits (1, 1.5 or 2). `HostError` 5 names the invalid field.
 LineSettings ParseLineSettings(const std::string& text);
 
-}  // namespace bench
+}  // namespace host::serial

@@ -5,7 +5,7 @@
 #include "OrvikTypeLib/HostError.h"
 #include "host/base/Tr.h"
 
-namespace bench {
+namespace host::serial {
 
 using orvik::HostError;
 
@@ -57,4 +57,4 @@ void MemoryTransport::Close() {
   line->failureListener_ = nullptr;
 }
 
-}  // namespace bench
+}  // namespace host::serial

@@ -6,7 +6,7 @@
 #include "host/serial/ITransport.h"
 #include "platform/Event.h"
 
-namespace bench {
+namespace host::serial {
 
 class MemoryTransport;
 
@@ -48,4 +48,4 @@ class MemoryTransport final : public ITransport {
   std::shared_ptr<MemoryLine> line_;  ///< empty once closed
 };
 
-}  // namespace bench
+}  // namespace host::serial

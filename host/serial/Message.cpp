@@ -7,7 +7,7 @@
 #include "host/serial/Latin1.h"
 #include "host/serial/LineReader.h"
 
-namespace bench {
+namespace host::serial {
 
 namespace {
 
@@ -103,4 +103,4 @@ std::shared_ptr<Message> ParseMessage(std::string_view line) {
   return std::make_shared<Message>(Utf8FromLatin1(mnemonic), std::move(parameters), std::string(line));
 }
 
-}  // namespace bench
+}  // namespace host::serial

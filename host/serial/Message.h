@@ -8,7 +8,7 @@
 
 #include "OrvikTypeLib/IMessage.h"
 
-namespace bench {
+namespace host::serial {
 
 /// One message on the wire: a mnemonic and its parameters, as UTF-8 text.
 class Message final : public orvik::IMessage {
@@ -41,4 +41,4 @@ std::shared_ptr<Message> ComposeMessage(const std::string& mnemonic, std::vector
 /// Parses a line; empty if its quotation marks do not match.
 std::shared_ptr<Message> ParseMessage(std::string_view line);
 
-}  // namespace bench
+}  // namespace host::serial

@@ -1,6 +1,6 @@
 #pragma once
 
-namespace bench {
+namespace host::serial {
 
 /// How many pauses of a millisecond to wait. At 9,600 baud that is enough for about a hundred bytes.
 inline constexpr int kMaxPauses = 100;
@@ -18,4 +18,4 @@ bool AwaitEmptyQueue(Unsent unsent, Pause pause) {
   return true;
 }
 
-}  // namespace bench
+}  // namespace host::serial

@@ -9,12 +9,13 @@
 #include "host/base/Tr.h"
 #include "host/serial/Message.h"
 
-namespace bench {
+namespace host::serial {
 
 using orvik::HostError;
 
-std::shared_ptr<Port> Port::Create(std::unique_ptr<ITransport> transport, std::shared_ptr<ILoop> loop,
-                                   std::shared_ptr<Wire> wire, const std::string& name) {
+std::shared_ptr<Port> Port::Create(std::unique_ptr<ITransport> transport,
+                                   std::shared_ptr<toolkit::loop::ILoop> loop, std::shared_ptr<Wire> wire,
+                                   const std::string& name) {
   auto port = std::shared_ptr<Port>(new Port(std::move(transport), std::move(loop), std::move(wire)));
   const std::weak_ptr<Port> weak = port;
   port->transport_->SetReceiver([weak](std::string_view bytes) {
@@ -28,7 +29,8 @@ std::shared_ptr<Port> Port::Create(std::unique_ptr<ITransport> transport, std::s
   return port;
 }
 
-Port::Port(std::unique_ptr<ITransport> transport, std::shared_ptr<ILoop> loop, std::shared_ptr<Wire> wire)
+Port::Port(std::unique_ptr<ITransport> transport, std::shared_ptr<toolkit::loop::ILoop> loop,
+           std::shared_ptr<Wire> wire)
     : transport_(std::move(transport)), loop_(std::move(loop)), wire_(std::move(wire)) {}
 
 Port::~Port() { IPort_Close(); }
@@ -45,7 +47,7 @@ std::shared_ptr<orvik::IMessage> Port::IPort_CreateMessage(const std::string& sM
 
 void Port::IPort_Send(std::shared_ptr<orvik::IMessage> Message) {
   const auto self = shared_from_this();
-  const auto message = orvik::As<bench::Message>(Message);
+  const auto message = orvik::As<serial::Message>(Message);
   if (!message)
     throw HostError(HostError::kInvalidArgument, "OrvikComm.Port",
                     Tr("the message was not created by this port"));
@@ -92,4 +94,4 @@ void Port::Record(WireRecord::Kind kind, std::string_view text, const Message* m
   wire_->Raise({kind, loop_->Now(), text, message, replyWaiting});
 }
 
-}  // namespace bench
+}  // namespace host::serial

@@ -11,7 +11,7 @@
 #include "host/serial/Wire.h"
 #include "toolkit/loop/ILoop.h"
 
-namespace bench {
+namespace host::serial {
 
 class Message;
 
@@ -22,15 +22,17 @@ class Port final : public orvik::IPort {
   static constexpr std::size_t kMaxWaiting = 1000;
 
   /// @param name device and settings, for the wire log
-  static std::shared_ptr<Port> Create(std::unique_ptr<ITransport> transport, std::shared_ptr<ILoop> loop,
-                                      std::shared_ptr<Wire> wire, const std::string& name);
+  static std::shared_ptr<Port> Create(std::unique_ptr<ITransport> transport,
+                                      std::shared_ptr<toolkit::loop::ILoop> loop, std::shared_ptr<Wire> wire,
+                                      const std::string& name);
   ~Port() override;
 
   /// Lines discarded so far: too long, with a control byte, or not a message.
   std::uint64_t LinesDropped() const { return discarded_; }
 
  private:
-  Port(std::unique_ptr<ITransport> transport, std::shared_ptr<ILoop> loop, std::shared_ptr<Wire> wire);
+  Port(std::unique_ptr<ITransport> transport, std::shared_ptr<toolkit::loop::ILoop> loop,
+       std::shared_ptr<Wire> wire);
 
   std::shared_ptr<orvik::IMessage> IPort_CreateMessage(const std::string& sMnemonic,
                                                        const orvik::Variant& vParameters) override;
@@ -45,7 +47,7 @@ class Port final : public orvik::IPort {
               bool replyWaiting = false) const;
 
   const std::unique_ptr<ITransport> transport_;
-  const std::shared_ptr<ILoop> loop_;
+  const std::shared_ptr<toolkit::loop::ILoop> loop_;
   const std::shared_ptr<Wire> wire_;
   LineReader reader_;
   std::deque<std::shared_ptr<Message>> received_;
@@ -53,4 +55,4 @@ class Port final : public orvik::IPort {
   bool closed_ = false;
 };
 
-}  // namespace bench
+}  // namespace host::serial

@@ -8,11 +8,11 @@
 #include "host/serial/DeviceTransport.h"
 #include "host/serial/Port.h"
 
-namespace bench {
+namespace host::serial {
 
 using orvik::HostError;
 
-PortManager::PortManager(std::shared_ptr<ILoop> loop, Opener opener)
+PortManager::PortManager(std::shared_ptr<toolkit::loop::ILoop> loop, Opener opener)
     : loop_(std::move(loop)), opener_(std::move(opener)) {}
 
 void PortManager::Assign(const std::string& instrument, const std::string& device) {
@@ -59,10 +59,10 @@ std::shared_ptr<orvik::IPort> PortManager::Open(std::int32_t lPort, const std::s
   return Port::Create(std::move(transport), loop_, wire_, device + " " + sSettings);
 }
 
-PortManager::Opener DeviceOpener(std::shared_ptr<ILoop> loop) {
+PortManager::Opener DeviceOpener(std::shared_ptr<toolkit::loop::ILoop> loop) {
   return [loop = std::move(loop)](const std::string& device, const LineSettings& settings) {
     return std::make_unique<DeviceTransport>(device, settings, loop);
   };
 }
 
-}  // namespace bench
+}  // namespace host::serial

@@ -11,7 +11,7 @@
 #include "host/serial/Wire.h"
 #include "toolkit/loop/ILoop.h"
 
-namespace bench {
+namespace host::serial {
 
 /// Assigns ports, each with a serial device, to instruments.
 class PortManager final : public orvik::IPortManager {
@@ -20,7 +20,7 @@ class PortManager final : public orvik::IPortManager {
   using Opener =
       std::function<std::unique_ptr<ITransport>(const std::string& device, const LineSettings& settings)>;
 
-  PortManager(std::shared_ptr<ILoop> loop, Opener opener);
+  PortManager(std::shared_ptr<toolkit::loop::ILoop> loop, Opener opener);
 
   /// Assigns the device to an instrument; ports are numbered from 1 in the order of their first assignment.
   void Assign(const std::string& instrument, const std::string& device);
@@ -43,7 +43,7 @@ class PortManager final : public orvik::IPortManager {
                                                       const std::string& sSettings) override;
   std::shared_ptr<orvik::IPort> Open(std::int32_t lPort, const std::string& sSettings);
 
-  const std::shared_ptr<ILoop> loop_;
+  const std::shared_ptr<toolkit::loop::ILoop> loop_;
   const Opener opener_;
   const std::shared_ptr<Wire> wire_ = std::make_shared<Wire>();
   std::vector<Assignment> ports_;  ///< by port number, from 1
@@ -51,6 +51,6 @@ class PortManager final : public orvik::IPortManager {
 };
 
 /// Opens real serial devices.
-PortManager::Opener DeviceOpener(std::shared_ptr<ILoop> loop);
+PortManager::Opener DeviceOpener(std::shared_ptr<toolkit::loop::ILoop> loop);
 
-}  // namespace bench
+}  // namespace host::serial

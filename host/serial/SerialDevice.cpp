@@ -17,7 +17,7 @@
 #include "host/serial/LineMode.h"
 #include "host/serial/OutputQueue.h"
 
-namespace bench {
+namespace host::serial {
 
 namespace {
 
@@ -120,4 +120,4 @@ void SerialDevice::Close() {
   descriptor_.Reset();
 }
 
-}  // namespace bench
+}  // namespace host::serial

@@ -6,7 +6,7 @@
 #include "host/serial/LineSettings.h"
 #include "host/serial/UniqueFd.h"
 
-namespace bench {
+namespace host::serial {
 
 /// A serial device that is open for this program alone, in raw mode. Its descriptor does not block.
 class SerialDevice {
@@ -44,4 +44,4 @@ class SerialDevice {
   bool exclusive_ = false;
 };
 
-}  // namespace bench
+}  // namespace host::serial

@@ -4,7 +4,7 @@
 
 #include <utility>
 
-namespace bench {
+namespace host::serial {
 
 /// Owns a file descriptor.
 class UniqueFd {
@@ -33,4 +33,4 @@ class UniqueFd {
   int descriptor_ = -1;
 };
 
-}  // namespace bench
+}  // namespace host::serial

@@ -5,7 +5,7 @@
 #include "platform/Event.h"
 #include "platform/Types.h"
 
-namespace bench {
+namespace host::serial {
 
 class Message;
 
@@ -33,4 +33,4 @@ struct WireRecord {
 /// Raised by ports for what happens on the wire. The views in a record are valid during the call only.
 using Wire = orvik::platform::Event<const WireRecord&>;
 
-}  // namespace bench
+}  // namespace host::serial

@@ -15,7 +15,7 @@
 #include "host/base/Tr.h"
 #include "host/serial/Latin1.h"
 
-namespace bench {
+namespace host::serial {
 
 namespace {
 
@@ -140,4 +140,4 @@ void WireLog::Rotate() {
   Open();
 }
 
-}  // namespace bench
+}  // namespace host::serial

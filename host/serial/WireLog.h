@@ -7,7 +7,7 @@
 #include "host/serial/UniqueFd.h"
 #include "host/serial/Wire.h"
 
-namespace bench {
+namespace host::serial {
 
 /// A file with one line for each event on the wire, "TIME DIRECTION TEXT".
 ///
@@ -43,4 +43,4 @@ class WireLog {
   std::string failure_;
 };
 
-}  // namespace bench
+}  // namespace host::serial

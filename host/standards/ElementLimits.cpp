@@ -9,7 +9,7 @@
 #include "host/base/Tr.h"
 #include "host/standards/Units.h"
 
-namespace bench {
+namespace host::standards {
 namespace {
 
 /// A limit without bounds in the element's unit, which is known to standards that the element creates.
@@ -94,4 +94,4 @@ std::shared_ptr<orvik::ILimit> SetLimit(orvik::ILimitData& limits, const Entered
   return limit;
 }
 
-}  // namespace bench
+}  // namespace host::standards

@@ -9,7 +9,7 @@
 #include "OrvikTypeLib/ILimitData.h"
 #include "OrvikTypeLib/IStandard.h"
 
-namespace bench {
+namespace host::standards {
 
 /// A limit as it is entered.
 struct EnteredLimit {
@@ -39,4 +39,4 @@ std::vector<LimitOfElement> LimitsOf(orvik::ILimitData& limits);
 std::vector<LimitOfElement> RemoveStandards(orvik::ILimitData& limits,
                                             const std::function<bool(const orvik::IStandard&)>& fits);
 
-}  // namespace bench
+}  // namespace host::standards

@@ -9,7 +9,7 @@
 #include "host/base/Tr.h"
 #include "host/xml/XmlNode.h"
 
-namespace bench {
+namespace host::standards {
 namespace {
 
 using orvik::HostError;
@@ -120,7 +120,7 @@ void Limit::Load(pugi::xml_node node) {
     if (!nominal_ && *nominal) Refuse(Tr("the nominal value \"%%1\" is not a number", {nominal}));
     ILimit_Initialize(key, unit, low, high);
   } catch (const HostError& error) {
-    throw XmlError(node, error.Description());
+    throw xml::XmlError(node, error.Description());
   }
 }
 
@@ -134,4 +134,4 @@ void Limit::Save(pugi::xml_node parent) const {
   leftovers_.Restore(node);
 }
 
-}  // namespace bench
+}  // namespace host::standards

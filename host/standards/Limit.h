@@ -8,7 +8,7 @@
 #include "OrvikTypeLib/ILimit.h"
 #include "host/xml/Leftovers.h"
 
-namespace bench {
+namespace host::standards {
 
 /// Bounds of one measured quantity, saved as
 /// `<Limit Key="NO LIMIT KEY" Unit="mOhm" Low="" High="300" Nominal=""/>`.
@@ -53,7 +53,7 @@ class Limit final : public orvik::ILimit {
   std::string key_, unit_, lowText_, highText_;
   std::optional<Bound> low_, high_;
   std::optional<double> nominal_;
-  Leftovers leftovers_;
+  xml::Leftovers leftovers_;
 };
 
-}  // namespace bench
+}  // namespace host::standards

@@ -11,7 +11,7 @@
 #include "host/xml/XmlDocument.h"
 #include "host/xml/XmlNode.h"
 
-namespace bench {
+namespace host::standards {
 namespace {
 
 constexpr char kSetSource[] = "orvik-bench";
@@ -23,7 +23,7 @@ constexpr std::int32_t kSetVersion = 1;
 std::string RequiredText(pugi::xml_node node, const char* name) {
   std::string text = node.attribute(name).value();
   if (text.empty())
-    throw XmlError(node, Tr("\"%%1\" needs the attribute \"%%2\"", {node.name(), std::string(name)}));
+    throw xml::XmlError(node, Tr("\"%%1\" needs the attribute \"%%2\"", {node.name(), std::string(name)}));
   return text;
 }
 
@@ -34,20 +34,20 @@ void CheckNames(pugi::xml_node node, std::initializer_list<std::string_view> att
   for (const auto attribute : node.attributes()) {
     const std::string_view name = attribute.name();
     if (std::find(attributes.begin(), attributes.end(), name) == attributes.end())
-      throw XmlError(node,
-                     Tr("the attribute \"%%1\" of \"%%2\" is not known", {attribute.name(), node.name()}));
+      throw xml::XmlError(
+          node, Tr("the attribute \"%%1\" of \"%%2\" is not known", {attribute.name(), node.name()}));
     if (!seen.insert(name).second)
-      throw XmlError(node,
-                     Tr("the attribute \"%%1\" of \"%%2\" is given twice", {attribute.name(), node.name()}));
+      throw xml::XmlError(
+          node, Tr("the attribute \"%%1\" of \"%%2\" is given twice", {attribute.name(), node.name()}));
   }
   for (const auto child : node.children()) {
     const std::string_view name = child.name();
     if (child.type() == pugi::node_element &&
         std::find(elements.begin(), elements.end(), name) == elements.end())
-      throw XmlError(child, Tr("the element \"%%1\" is not known here", {child.name()}));
+      throw xml::XmlError(child, Tr("the element \"%%1\" is not known here", {child.name()}));
   }
   if (xml::Text(node).find_first_not_of(" \t\r\n") != std::string::npos)
-    throw XmlError(node, Tr("\"%%1\" holds text; a set is made of attributes", {node.name()}));
+    throw xml::XmlError(node, Tr("\"%%1\" holds text; a set is made of attributes", {node.name()}));
 }
 
 std::vector<std::int32_t> TestsOf(pugi::xml_node node) {
@@ -59,19 +59,19 @@ std::vector<std::int32_t> TestsOf(pugi::xml_node node) {
     const auto word = text.substr(start, end - start);
     const auto number = WholeNumber(word);
     if (!number || *number < 1)
-      throw XmlError(node, Tr("\"%%1\" is not a test; give identifiers of the catalogue", {word}));
+      throw xml::XmlError(node, Tr("\"%%1\" is not a test; give identifiers of the catalogue", {word}));
     tests.push_back(*number);
     start = end;
   }
-  if (tests.empty()) throw XmlError(node, Tr("the figure names no test"));
+  if (tests.empty()) throw xml::XmlError(node, Tr("the figure names no test"));
   return tests;
 }
 
 std::string BoundOf(pugi::xml_node node, const char* name) {
   std::string text = node.attribute(name).value();
   if (node.attribute(name) && !FiniteNumber(text))
-    throw XmlError(node,
-                   Tr("the bound \"%%1\" is not a number; write for example 0.3 (with a point)", {text}));
+    throw xml::XmlError(
+        node, Tr("the bound \"%%1\" is not a number; write for example 0.3 (with a point)", {text}));
   return text;
 }
 
@@ -84,21 +84,22 @@ LimitFigure FigureOf(pugi::xml_node node) {
                      node.attribute("Condition").value(),
                      RequiredText(node, "Source")};
   if (figure.low.empty() && figure.high.empty())
-    throw XmlError(node, Tr("the figure has neither \"Low\" nor \"High\"; give at least one bound"));
+    throw xml::XmlError(node, Tr("the figure has neither \"Low\" nor \"High\"; give at least one bound"));
   if (!figure.low.empty() && !figure.high.empty() && *FiniteNumber(figure.low) > *FiniteNumber(figure.high))
-    throw XmlError(node, Tr("the lower bound is above the upper bound; swap them"));
+    throw xml::XmlError(node, Tr("the lower bound is above the upper bound; swap them"));
   return figure;
 }
 
 LimitSet SetOf(pugi::xml_node root) {
-  if (std::string_view(root.name()) != kSet) throw XmlError(root, Tr("this is not a set of limits"));
+  if (std::string_view(root.name()) != kSet) throw xml::XmlError(root, Tr("this is not a set of limits"));
   const auto version = xml::NumberAttribute(root, "Version");
   if (version > kSetVersion)
-    throw XmlError(root, Tr("the set was written for a newer version of this program (format %%1, this "
-                            "program reads %%2); use that version",
-                            {std::to_string(version), std::to_string(kSetVersion)}));
+    throw xml::XmlError(root, Tr("the set was written for a newer version of this program (format %%1, this "
+                                 "program reads %%2); use that version",
+                                 {std::to_string(version), std::to_string(kSetVersion)}));
   if (version < 1)
-    throw XmlError(root, Tr("format %%1 of sets of limits does not exist; use 1", {std::to_string(version)}));
+    throw xml::XmlError(root,
+                        Tr("format %%1 of sets of limits does not exist; use 1", {std::to_string(version)}));
   CheckNames(root, {"Version", "Standard", "Edition", "Class", "Type"}, {kFigure, kLeftOut});
   LimitSet set;
   set.standard = RequiredText(root, "Standard");
@@ -110,11 +111,11 @@ LimitSet SetOf(pugi::xml_node root) {
     set.figures.push_back(FigureOf(node));
     for (const auto test : set.figures.back().tests) {
       if (!known.insert(test).second)
-        throw XmlError(
+        throw xml::XmlError(
             node, Tr("test %%1 has a figure already; give each test one figure", {std::to_string(test)}));
     }
   }
-  if (set.figures.empty()) throw XmlError(root, Tr("the set has no figures"));
+  if (set.figures.empty()) throw xml::XmlError(root, Tr("the set has no figures"));
   for (const auto node : root.children(kLeftOut)) {
     CheckNames(node, {"What", "Why"}, {});
     set.leftOut.push_back({RequiredText(node, "What"), RequiredText(node, "Why")});
@@ -154,10 +155,10 @@ LimitSet ReadLimitSet(const std::filesystem::path& file) {
     auto set = SetOf(document.document_element());
     set.file = file;
     return set;
-  } catch (const XmlError& error) {
+  } catch (const xml::XmlError& error) {
     Refuse(file, xml::LineOf(text, static_cast<std::size_t>(std::max<std::ptrdiff_t>(0, error.Offset()))),
            error.Description());
   }
 }
 
-}  // namespace bench
+}  // namespace host::standards

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-namespace bench {
+namespace host::standards {
 
 /// Bounds that a standard, or a manufacturer, gives for some tests of the catalogue.
 struct LimitFigure {
@@ -48,4 +48,4 @@ struct LimitSet {
 /// let every reading pass.
 LimitSet ReadLimitSet(const std::filesystem::path& file);
 
-}  // namespace bench
+}  // namespace host::standards

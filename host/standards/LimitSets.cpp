@@ -8,7 +8,7 @@
 #include "host/base/Files.h"
 #include "host/base/Tr.h"
 
-namespace bench {
+namespace host::standards {
 namespace {
 
 constexpr char kEnding[] = ".xml";
@@ -67,4 +67,4 @@ LimitSet LimitSets::Find(const std::string& nameOrPath) const {
   return ReadLimitSet(found[0]);
 }
 
-}  // namespace bench
+}  // namespace host::standards

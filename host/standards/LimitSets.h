@@ -7,7 +7,7 @@
 
 #include "host/standards/LimitSet.h"
 
-namespace bench {
+namespace host::standards {
 
 /// The sets of limits in some folders, each a file NAME.xml. A missing folder has none.
 class LimitSets {
@@ -33,4 +33,4 @@ class LimitSets {
   std::vector<std::filesystem::path> folders_;
 };
 
-}  // namespace bench
+}  // namespace host::standards

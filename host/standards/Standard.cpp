@@ -9,7 +9,7 @@
 #include "host/standards/Limit.h"
 #include "host/xml/XmlNode.h"
 
-namespace bench {
+namespace host::standards {
 namespace {
 
 using orvik::HostError;
@@ -38,7 +38,7 @@ std::shared_ptr<orvik::ILimit> Standard::IStandard_Limit(std::int32_t lIndex) co
 }
 
 void Standard::IStandard_AddLimit(std::shared_ptr<orvik::ILimit> Limit) {
-  auto limit = orvik::As<bench::Limit>(Limit);
+  auto limit = orvik::As<standards::Limit>(Limit);
   if (!limit)
     throw HostError(HostError::kTypeMismatch, kStandardSource,
                     Tr("only a limit of the class \"OrvikTypeLib.Limit\" can be added"));
@@ -75,7 +75,7 @@ void Standard::Load(pugi::xml_node node) {
   limits_.clear();
   for (auto child = node.first_child(); child; child = child.next_sibling()) {
     if (xml::IsElement(child, kLimit)) {
-      limits_.push_back(std::make_shared<bench::Limit>());
+      limits_.push_back(std::make_shared<standards::Limit>());
       limits_.back()->Load(child);
     } else {
       leftovers_.Add(child);
@@ -92,4 +92,4 @@ void Standard::Save(pugi::xml_node parent) const {
   leftovers_.Restore(node);
 }
 
-}  // namespace bench
+}  // namespace host::standards

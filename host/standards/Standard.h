@@ -9,7 +9,7 @@
 #include "OrvikTypeLib/IStandard.h"
 #include "host/xml/Leftovers.h"
 
-namespace bench {
+namespace host::standards {
 
 class Limit;
 
@@ -37,8 +37,8 @@ class Standard final : public orvik::IStandard {
   std::string name_;
   std::string description_;
   std::int32_t number_ = 1;
-  std::vector<std::shared_ptr<bench::Limit>> limits_;
-  Leftovers leftovers_;
+  std::vector<std::shared_ptr<standards::Limit>> limits_;
+  xml::Leftovers leftovers_;
 };
 
-}  // namespace bench
+}  // namespace host::standards

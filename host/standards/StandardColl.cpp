@@ -7,7 +7,7 @@
 #include "host/standards/Standard.h"
 #include "host/xml/XmlNode.h"
 
-namespace bench {
+namespace host::standards {
 namespace {
 
 using orvik::HostError;
@@ -48,7 +48,7 @@ std::shared_ptr<orvik::IStandard> StandardColl::IStandardColl_item(std::int32_t 
 }
 
 void StandardColl::IStandardColl_Add(std::shared_ptr<orvik::IStandard> Standard) {
-  auto standard = orvik::As<bench::Standard>(Standard);
+  auto standard = orvik::As<standards::Standard>(Standard);
   if (!standard)
     throw HostError(HostError::kTypeMismatch, kCollectionSource,
                     Tr("only a standard of the class \"OrvikTypeLib.Standard\" can be added"));
@@ -56,7 +56,7 @@ void StandardColl::IStandardColl_Add(std::shared_ptr<orvik::IStandard> Standard)
 }
 
 void StandardColl::IStandardColl_Remove(std::shared_ptr<orvik::IStandard> Standard) {
-  std::erase(standards_, orvik::As<bench::Standard>(Standard));
+  std::erase(standards_, orvik::As<standards::Standard>(Standard));
 }
 
 std::shared_ptr<orvik::IStandard> StandardColl::IStandardColl_Find(const std::string& sName,
@@ -75,11 +75,11 @@ std::shared_ptr<orvik::IStandardColl> StandardColl::IStandardColl_Clone() const 
 }
 
 void StandardColl::IStandardColl_Load(std::shared_ptr<orvik::IXmlNode> Node, std::shared_ptr<IObject>) {
-  const auto node = XmlNode::Of(Node).Raw();
+  const auto node = xml::XmlNode::Of(Node).Raw();
   leftovers_.TakeAttributes(node, {});
   for (auto child = node.first_child(); child; child = child.next_sibling()) {
     if (xml::IsElement(child, kStandard)) {
-      const auto standard = std::make_shared<bench::Standard>();
+      const auto standard = std::make_shared<standards::Standard>();
       standard->Load(child);
       standards_.push_back(standard);
     } else {
@@ -91,7 +91,7 @@ void StandardColl::IStandardColl_Load(std::shared_ptr<orvik::IXmlNode> Node, std
 std::shared_ptr<orvik::IXmlNode> StandardColl::IStandardColl_Save(
     std::shared_ptr<orvik::IXmlNode> Parent) const {
   auto saved = orvik::Required(Parent).AddChild(kStandards);
-  const auto node = XmlNode::Of(saved).Raw();
+  const auto node = xml::XmlNode::Of(saved).Raw();
   for (const auto& standard : standards_) standard->Save(node);
   leftovers_.Restore(node);
   return saved;
@@ -120,4 +120,4 @@ void StandardColl::IStandardColl_Print(std::shared_ptr<orvik::IReport> Report, s
   report.AddTable(Format(report), header + ";", rows);
 }
 
-}  // namespace bench
+}  // namespace host::standards

@@ -7,7 +7,7 @@
 #include "OrvikTypeLib/IStandardColl.h"
 #include "host/xml/Leftovers.h"
 
-namespace bench {
+namespace host::standards {
 
 class Standard;
 
@@ -31,8 +31,8 @@ class StandardColl final : public orvik::IStandardColl {
                            const std::vector<std::string>& asHeader) const override;
 
   std::shared_ptr<orvik::ILanguageService> language_;
-  std::vector<std::shared_ptr<bench::Standard>> standards_;
-  Leftovers leftovers_;
+  std::vector<std::shared_ptr<standards::Standard>> standards_;
+  xml::Leftovers leftovers_;
 };
 
-}  // namespace bench
+}  // namespace host::standards

@@ -8,7 +8,7 @@
 #include "OrvikTypeLib/Conversions.h"
 #include "host/base/Text.h"
 
-namespace bench {
+namespace host::standards {
 namespace {
 
 /// A unit as power of ten and quantity.
@@ -77,4 +77,4 @@ std::optional<std::string> InUnit(const std::string& number, const std::string& 
   return orvik::NumberText(*converted);
 }
 
-}  // namespace bench
+}  // namespace host::standards

@@ -3,7 +3,7 @@
 #include <optional>
 #include <string>
 
-namespace bench {
+namespace host::standards {
 
 /// Converts a number to another unit of the same quantity: "0.3" in "Ohm" is "300" in "mOhm". Units are
 /// ampere, volt and ohm with the prefixes n, µ (or u), m, k, M and G. None when the units are of different
@@ -19,4 +19,4 @@ bool SameQuantity(const std::string& one, const std::string& other);
 /// Whether both are the same unit; both Unicode letters for "µ" and "u" are equal.
 bool SameUnit(const std::string& one, const std::string& other);
 
-}  // namespace bench
+}  // namespace host::standards

@@ -7,7 +7,7 @@
 
 #include "host/xml/XmlNode.h"
 
-namespace bench {
+namespace host::xml {
 namespace {
 
 /// Finds known things by their names. Nearly all files hold them in the order in which they are listed.
@@ -102,4 +102,4 @@ void Leftovers::Restore(pugi::xml_node node) const {
   for (const auto child : holder.children()) node.append_copy(child);
 }
 
-}  // namespace bench
+}  // namespace host::xml

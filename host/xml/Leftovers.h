@@ -4,7 +4,7 @@
 #include <memory>
 #include <pugixml.hpp>
 
-namespace bench {
+namespace host::xml {
 
 /// What a loader found in a node and does not know: attributes, elements, comments. Kept, and written back,
 /// so that a file which another version or another program has added to loses nothing.
@@ -52,4 +52,4 @@ class Leftovers {
   std::unique_ptr<pugi::xml_document> kept_;
 };
 
-}  // namespace bench
+}  // namespace host::xml

@@ -5,7 +5,7 @@
 #include "host/base/Text.h"
 #include "host/base/Tr.h"
 
-namespace bench {
+namespace host::xml {
 namespace {
 
 constexpr char kPersistenceSource[] = "OrvikTypeLib.Persistence";
@@ -41,4 +41,4 @@ std::int32_t Persistence::IPersistence_ReadStatus(std::shared_ptr<orvik::IXmlNod
                          Tr("the status \"%%1\" is not a whole number", {text}));
 }
 
-}  // namespace bench
+}  // namespace host::xml

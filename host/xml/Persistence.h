@@ -2,7 +2,7 @@
 
 #include "OrvikTypeLib/IPersistence.h"
 
-namespace bench {
+namespace host::xml {
 
 /// Value and status nodes: the text, or the code, is the text of the node.
 class Persistence final : public orvik::IPersistence {
@@ -16,4 +16,4 @@ class Persistence final : public orvik::IPersistence {
   std::int32_t IPersistence_ReadStatus(std::shared_ptr<orvik::IXmlNode> Node) const override;
 };
 
-}  // namespace bench
+}  // namespace host::xml

@@ -6,8 +6,7 @@
 #include "host/xml/XmlNode.h"
 #include "host/xml/XmlReferences.h"
 
-namespace bench {
-namespace xml {
+namespace host::xml {
 namespace {
 
 constexpr int kIndentedLevels = 256;
@@ -164,8 +163,6 @@ void WriteTo(std::string& text, pugi::xml_node element, unsigned depth) {
   element.print(writer, kIndent, FormatOf(element), pugi::encoding_utf8, depth);
 }
 
-}  // namespace xml
-
 bool XmlDocument::IXmlDocument_LoadFromString(const std::string& sXml) {
   document_ = std::make_shared<pugi::xml_document>();
   const auto fault = xml::Parse(sXml, *document_);
@@ -203,4 +200,4 @@ std::shared_ptr<orvik::IXmlNode> XmlDocument::IXmlDocument_Root() const {
 
 std::string XmlDocument::IXmlDocument_SaveToString() const { return xml::Write(*document_); }
 
-}  // namespace bench
+}  // namespace host::xml

@@ -7,7 +7,7 @@
 
 #include "OrvikTypeLib/IXmlDocument.h"
 
-namespace bench {
+namespace host::xml {
 
 /// An XML document. Nodes that were handed out before a load keep the document they belong to.
 class XmlDocument final : public orvik::IXmlDocument {
@@ -29,8 +29,6 @@ class XmlDocument final : public orvik::IXmlDocument {
   std::shared_ptr<pugi::xml_document> document_;
   std::string error_;
 };
-
-namespace xml {
 
 /// Why a text is no XML document, and the byte at which that shows.
 struct Fault {
@@ -62,5 +60,4 @@ std::string Write(const pugi::xml_document& document);
 /// the line end behind it.
 void WriteTo(std::string& text, pugi::xml_node element, unsigned depth);
 
-}  // namespace xml
-}  // namespace bench
+}  // namespace host::xml

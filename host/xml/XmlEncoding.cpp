@@ -12,7 +12,7 @@
 #include "host/base/Text.h"
 #include "host/base/Tr.h"
 
-namespace bench::xml {
+namespace host::xml {
 namespace {
 
 using namespace std::string_view_literals;
@@ -147,4 +147,4 @@ Decoded Decode(std::string bytes) {
                             {declared->name})}};
 }
 
-}  // namespace bench::xml
+}  // namespace host::xml

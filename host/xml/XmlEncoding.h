@@ -4,7 +4,7 @@
 
 #include "host/xml/XmlDocument.h"
 
-namespace bench::xml {
+namespace host::xml {
 
 /// A text of an XML file as UTF-8.
 struct Decoded {
@@ -18,4 +18,4 @@ struct Decoded {
 /// not text in the file's encoding, are a fault.
 Decoded Decode(std::string bytes);
 
-}  // namespace bench::xml
+}  // namespace host::xml

@@ -8,7 +8,7 @@
 #include "host/base/Text.h"
 #include "host/base/Tr.h"
 
-namespace bench {
+namespace host::xml {
 namespace {
 
 constexpr char kNodeSource[] = "OrvikTypeLib.XmlNode";
@@ -48,8 +48,6 @@ constexpr auto kInName = [] {
 }();
 
 }  // namespace
-
-namespace xml {
 
 pugi::xml_node ElementFrom(pugi::xml_node node) {
   while (node && node.type() != pugi::node_element) node = node.next_sibling();
@@ -122,8 +120,6 @@ std::int32_t NumberIn(const char* text, pugi::xml_node element, const char* name
                    Tr("the attribute \"%%1\" of \"%%2\" is not a whole number", {name, element.name()}));
   return *number;
 }
-
-}  // namespace xml
 
 std::shared_ptr<XmlNode> XmlNode::Create(std::shared_ptr<pugi::xml_document> document, pugi::xml_node node) {
   return std::make_shared<XmlNode>(std::move(document), node);
@@ -221,4 +217,4 @@ void XmlNode::IXmlNode_Append(std::shared_ptr<IXmlNode> Node) {
                            Tr("the node \"%%1\" stands above the one it is to be put below", {Node->Name()}));
 }
 
-}  // namespace bench
+}  // namespace host::xml

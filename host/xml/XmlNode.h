@@ -7,7 +7,7 @@
 #include "OrvikTypeLib/HostError.h"
 #include "OrvikTypeLib/IXmlNode.h"
 
-namespace bench {
+namespace host::xml {
 
 /// One element of a document. It keeps the document alive.
 class XmlNode final : public orvik::IXmlNode {
@@ -77,8 +77,6 @@ class XmlError final : public orvik::HostError {
 };
 
 /// Operations on raw nodes that the host's own readers and writers share.
-namespace xml {
-
 /// The node itself when it is an element, else the next element after it; empty when there is none.
 pugi::xml_node ElementFrom(pugi::xml_node node);
 inline pugi::xml_node FirstElement(pugi::xml_node parent) { return ElementFrom(parent.first_child()); }
@@ -123,5 +121,4 @@ std::int32_t NumberAttribute(pugi::xml_node element, const char* name);
 /// The same for an attribute that was read already.
 std::int32_t NumberIn(const char* text, pugi::xml_node element, const char* name);
 
-}  // namespace xml
-}  // namespace bench
+}  // namespace host::xml

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-namespace bench::xml {
+namespace host::xml {
 namespace {
 
 constexpr std::string_view kBegin = "&#";
@@ -43,4 +43,4 @@ std::size_t ReferenceToNothing(std::string_view text, std::size_t from) {
   return at;
 }
 
-}  // namespace bench::xml
+}  // namespace host::xml

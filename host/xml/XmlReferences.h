@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <string_view>
 
-namespace bench::xml {
+namespace host::xml {
 
 /// The first reference by number that names no character ("&#0;", "&#xD800;", "&#x110000;"), from the byte
 /// `from` on; `npos` when there is none. A text as it stands in the file: references in comments and in
@@ -12,4 +12,4 @@ namespace bench::xml {
 /// References to control characters are none of these: they are how such characters are saved.
 std::size_t ReferenceToNothing(std::string_view text, std::size_t from = 0);
 
-}  // namespace bench::xml
+}  // namespace host::xml

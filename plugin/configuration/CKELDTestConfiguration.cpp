@@ -22,7 +22,7 @@
 #include "plugin/configuration/ConfigurationControl.h"
 #include "plugin/configuration/FElementSetup.h"
 
-namespace keld {
+namespace keld::configuration {
 
 using orvik::As;
 using orvik::Required;
@@ -131,15 +131,17 @@ void CKELDTestConfiguration::IConfigData_PrintReport(std::shared_ptr<orvik::IRep
   Attempt([&] { Required(Report).SetTableIndent(0); });
   Attempt([&] { Required(Report).SetHeaderRows(1); });
   Attempt([&] {
-    using MKELDGlobalVars::Translated;
-    using ReportMarkup::Row;
-    const std::string sHeading = Translated(MKELDLanguageConstants::kConfigurationHeading);
-    const std::string sLeads = Translated(ConfigurationTables::LeadText(OwnerTestID(), mlOptions));
+    using keld::MKELDGlobalVars::Translated;
+    using keld::ReportMarkup::Row;
+    const std::string sHeading = MKELDGlobalVars::Translated(MKELDLanguageConstants::kConfigurationHeading);
+    const std::string sLeads =
+        MKELDGlobalVars::Translated(ConfigurationTables::LeadText(OwnerTestID(), mlOptions));
     const auto Escaped = [&](const std::string& sText) { return Required(Report).Escape(sText); };
     Required(Report).AddTable(
         ReportMarkup::Format({{.lWidth = kMargin}, {.lWidth = std::max(lWidth - kMargin, 0)}}),
-        Row({"", ReportMarkup::BoldItalic(Escaped(sHeading))}), Row({"", Escaped(sLeads) + kSixSpaces}));
+        ReportMarkup::Row({"", ReportMarkup::BoldItalic(Escaped(sHeading))}),
+        ReportMarkup::Row({"", Escaped(sLeads) + kSixSpaces}));
   });
 }
 
-}  // namespace keld
+}  // namespace keld::configuration

@@ -11,7 +11,7 @@ namespace orvik {
 class ITestElement;
 }
 
-namespace keld {
+namespace keld::configuration {
 
 /// The settings of one test or sequence: which extra buttons the test guide offers, which leads a leakage
 /// test covers, which measured values of a group are kept.
@@ -49,4 +49,4 @@ class CKELDTestConfiguration final : public orvik::IConfigData {
   std::weak_ptr<orvik::ITestElement> miteOwner;
 };
 
-}  // namespace keld
+}  // namespace keld::configuration

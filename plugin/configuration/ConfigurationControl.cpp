@@ -12,7 +12,7 @@
 #include "plugin/base/MKELDLanguageConstants.h"
 #include "plugin/configuration/CKELDTestConfiguration.h"
 
-namespace keld {
+namespace keld::configuration {
 
 using orvik::As;
 using orvik::Required;
@@ -160,4 +160,4 @@ void ConfigurationControl::ICustomControl_SetFocus() {
   if (const auto tvwSettings = Tree()) tvwSettings->SetFocus();
 }
 
-}  // namespace keld
+}  // namespace keld::configuration

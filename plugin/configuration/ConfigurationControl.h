@@ -14,7 +14,7 @@ class IPanel;
 class ITreeView;
 }  // namespace orvik::platform
 
-namespace keld {
+namespace keld::configuration {
 
 class CKELDTestConfiguration;
 
@@ -73,4 +73,4 @@ class ConfigurationControl : public virtual orvik::ICustomControl, public orvik:
   orvik::platform::Subscription mClickSubscription;
 };
 
-}  // namespace keld
+}  // namespace keld::configuration

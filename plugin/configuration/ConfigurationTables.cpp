@@ -7,7 +7,7 @@
 #include "OrvikTypeLib/Codes.h"
 #include "plugin/base/MKELDLanguageConstants.h"
 
-namespace keld::ConfigurationTables {
+namespace keld::configuration::ConfigurationTables {
 namespace {
 
 namespace Text = MKELDLanguageConstants;
@@ -90,4 +90,4 @@ const char* LeadText(std::int16_t iTestID, std::int32_t lOptions) {
   return Text::kNoLeadsTested;
 }
 
-}  // namespace keld::ConfigurationTables
+}  // namespace keld::configuration::ConfigurationTables

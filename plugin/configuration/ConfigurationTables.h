@@ -8,7 +8,7 @@
 #include "OrvikTypeLib/Codes.h"
 
 /// The tables behind the test configuration: option bits, value filters, and the texts about leads.
-namespace keld::ConfigurationTables {
+namespace keld::configuration::ConfigurationTables {
 
 /// One option bit and the tree node that shows it.
 struct Option {
@@ -42,4 +42,4 @@ std::int32_t ValueFilterCode(std::string_view sName);
 /// purpose.
 const char* LeadText(std::int16_t iTestID, std::int32_t lOptions);
 
-}  // namespace keld::ConfigurationTables
+}  // namespace keld::configuration::ConfigurationTables

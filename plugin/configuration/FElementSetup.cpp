@@ -11,7 +11,7 @@
 #include "plugin/base/MKELDGlobalVars.h"
 #include "plugin/base/MKELDLanguageConstants.h"
 
-namespace keld {
+namespace keld::configuration {
 
 using orvik::As;
 using orvik::Required;
@@ -152,4 +152,4 @@ void FElementSetup::ReturnControlToForm() {
   });
 }
 
-}  // namespace keld
+}  // namespace keld::configuration

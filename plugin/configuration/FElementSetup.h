@@ -13,7 +13,7 @@ class IContainerSite;
 class IForm;
 }  // namespace orvik::platform
 
-namespace keld {
+namespace keld::configuration {
 
 /// The dialog for every editing view of the plug-in: a form with one user control, which the host docks into
 /// its own window or shows as a window.
@@ -62,4 +62,4 @@ class FElementSetup final : public virtual orvik::IDialog, public virtual orvik:
   orvik::platform::Subscription mFocusSubscription;
 };
 
-}  // namespace keld
+}  // namespace keld::configuration

@@ -8,7 +8,7 @@
 #include "plugin/base/MKELDLanguageConstants.h"
 #include "plugin/configuration/CKELDTestConfiguration.h"
 
-namespace keld {
+namespace keld::configuration {
 
 namespace platform = orvik::platform;
 
@@ -58,4 +58,4 @@ std::shared_ptr<platform::IComboBox> XKELDSeqConfiguration::FilterList() const {
   return orvik::As<platform::IComboBox>(GetControl(kList));
 }
 
-}  // namespace keld
+}  // namespace keld::configuration

@@ -9,7 +9,7 @@ namespace orvik::platform {
 class IComboBox;
 }
 
-namespace keld {
+namespace keld::configuration {
 
 /// Edits the configuration of a sequence (class "orvikKELD.XKELDSeqConfiguration"): the tree, and under the
 /// label "lblAssign" the list "cmbAssign" of value filters.
@@ -29,4 +29,4 @@ class XKELDSeqConfiguration final : public ConfigurationControl {
   orvik::platform::Subscription mSelectSubscription;
 };
 
-}  // namespace keld
+}  // namespace keld::configuration

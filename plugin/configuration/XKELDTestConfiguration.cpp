@@ -3,7 +3,7 @@
 #include "platform/ITreeView.h"
 #include "plugin/base/ClassIdentifiers.h"
 
-namespace keld {
+namespace keld::configuration {
 
 std::shared_ptr<XKELDTestConfiguration> XKELDTestConfiguration::Create() {
   return std::shared_ptr<XKELDTestConfiguration>(new XKELDTestConfiguration);
@@ -29,4 +29,4 @@ void XKELDTestConfiguration::OnLeadClicked(const std::string& sKey) {
   msLastLead = sKey;
 }
 
-}  // namespace keld
+}  // namespace keld::configuration

@@ -5,7 +5,7 @@
 
 #include "plugin/configuration/ConfigurationControl.h"
 
-namespace keld {
+namespace keld::configuration {
 
 /// Edits the configuration of a single test (class "orvikKELD.XKELDTestConfiguration"). Leads are exclusive:
 /// clicking a lead checks it and clears the one before.
@@ -23,4 +23,4 @@ class XKELDTestConfiguration final : public ConfigurationControl {
   std::string msLastLead;  ///< key of the lead checked last, or empty
 };
 
-}  // namespace keld
+}  // namespace keld::configuration

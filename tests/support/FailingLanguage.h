@@ -53,7 +53,7 @@ class FailingLanguage final : public orvik::ILanguageService {
 };
 
 /// From now on the host's language service fails. To be called before the plug-in first asks for it.
-inline void FailLanguage(bench::Host& host, LanguageFault fault) {
+inline void FailLanguage(host::document::Host& host, LanguageFault fault) {
   std::shared_ptr<orvik::ILanguageService> failing;
   if (fault != LanguageFault::kIsMissing)
     failing = std::make_shared<FailingLanguage>(

@@ -28,24 +28,24 @@ class HostOnly {
   /// @param catalogue what stands in for the settings value "Configuration"; without it there is no settings
   /// key
   explicit HostOnly(std::optional<std::string> catalogue = {})
-      : application_(std::make_shared<bench::headless::Application>(bench::ClockKind::kVirtual)),
-        host_(bench::Host::Create({.stateFolder = folder_.Path(),
-                                   .language = {},
-                                   .catalogue = std::move(catalogue),
-                                   .translationFolders = {}},
-                                  application_)) {
-    host_->AddClasses(std::make_shared<keld::ClassLibrary>());
-    bench::ConnectControls(*application_, *host_);
+      : application_(std::make_shared<toolkit::headless::Application>(toolkit::loop::ClockKind::kVirtual)),
+        host_(host::document::Host::Create({.stateFolder = folder_.Path(),
+                                            .language = {},
+                                            .catalogue = std::move(catalogue),
+                                            .translationFolders = {}},
+                                           application_)) {
+    host_->AddClasses(std::make_shared<keld::plugin::ClassLibrary>());
+    toolkit::controls::ConnectControls(*application_, *host_);
     keld::MKELDGlobalVars::Open(host_);
   }
   HostOnly(const HostOnly&) = delete;
   HostOnly& operator=(const HostOnly&) = delete;
   ~HostOnly() { keld::MKELDGlobalVars::Close(); }
 
-  bench::Host& Host() { return *host_; }
-  const std::shared_ptr<bench::Host>& SharedHost() const { return host_; }
-  bench::headless::Application& Application() { return *application_; }
-  const std::shared_ptr<bench::headless::Application>& SharedApplication() const { return application_; }
+  host::document::Host& Host() { return *host_; }
+  const std::shared_ptr<host::document::Host>& SharedHost() const { return host_; }
+  toolkit::headless::Application& Application() { return *application_; }
+  const std::shared_ptr<toolkit::headless::Application>& SharedApplication() const { return application_; }
   const std::filesystem::path& Folder() const { return folder_.Path(); }
 
   /// Creates the settings key and writes the catalogue's text into it.
@@ -66,9 +66,9 @@ class HostOnly {
 
  private:
   TemporaryFolder folder_;
-  std::shared_ptr<bench::headless::Application> application_;
+  std::shared_ptr<toolkit::headless::Application> application_;
   std::shared_ptr<void> screen_ = OnScreen(application_);
-  std::shared_ptr<bench::Host> host_;
+  std::shared_ptr<host::document::Host> host_;
 };
 
 }  // namespace support

@@ -3,7 +3,7 @@
 #include <functional>
 #include <memory>
 
-namespace bench::headless {
+namespace toolkit::headless {
 class Application;
 }
 
@@ -12,14 +12,14 @@ namespace support {
 /// Shows the windows of an application until it is let go of. Empty in most test programs; those whose name
 /// ends in "-qt" run the same tests with every window on a screen, too.
 using ScreenMaker =
-    std::function<std::shared_ptr<void>(const std::shared_ptr<bench::headless::Application>&)>;
+    std::function<std::shared_ptr<void>(const std::shared_ptr<toolkit::headless::Application>&)>;
 
 inline ScreenMaker& TheScreenMaker() {
   static ScreenMaker maker;
   return maker;
 }
 
-inline std::shared_ptr<void> OnScreen(const std::shared_ptr<bench::headless::Application>& application) {
+inline std::shared_ptr<void> OnScreen(const std::shared_ptr<toolkit::headless::Application>& application) {
   return TheScreenMaker() ? TheScreenMaker()(application) : nullptr;
 }
 

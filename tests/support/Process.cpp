@@ -24,7 +24,7 @@ namespace support {
 
 namespace {
 
-using bench::UniqueFd;
+using host::serial::UniqueFd;
 
 constexpr std::chrono::minutes kPatience(2);
 

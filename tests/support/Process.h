@@ -65,7 +65,7 @@ class Process {
 
  private:
   struct Stream {
-    bench::UniqueFd from;
+    host::serial::UniqueFd from;
     std::string text;
   };
 
@@ -73,7 +73,7 @@ class Process {
 
   pid_t process_ = -1;
   Clock::time_point started_;
-  bench::UniqueFd in_;
+  host::serial::UniqueFd in_;
   Stream out_, error_;
 };
 

@@ -42,16 +42,18 @@ class ChosenReplies final : public sim::Faults {
 };
 
 /// Presses one button of each guide, such as "not applicable", and leaves it.
-class ButtonOperator final : public bench::IOperator {
+class ButtonOperator final : public host::run::IOperator {
  public:
   explicit ButtonOperator(std::int32_t button) : button_(button) {}
 
  private:
   void OnWindowReady(const Form& form) override {
-    if (form->Name() == bench::guide::kYesNoForm) return bench::ClickButton(*form, bench::guide::kYes);
-    if (form->Name() == bench::guide::kPretestForm)
-      return bench::ClickButton(*form, bench::guide::kPretestOk);
-    if (form->Name() == bench::guide::kGuideForm) bench::GuideToolbar(*form)->Click(button_);
+    if (form->Name() == host::plugins::keld::guide::kYesNoForm)
+      return host::run::ClickButton(*form, host::plugins::keld::guide::kYes);
+    if (form->Name() == host::plugins::keld::guide::kPretestForm)
+      return host::run::ClickButton(*form, host::plugins::keld::guide::kPretestOk);
+    if (form->Name() == host::plugins::keld::guide::kGuideForm)
+      host::run::GuideToolbar(*form)->Click(button_);
   }
 
   void OnStopRequested() override {}
@@ -65,7 +67,8 @@ struct RunOf {
   std::string at = "2026-11-21T14:03:22+01:00";
   std::string by = "M. Holm";
   bool simulated = false;
-  /// Pressed in every guide in the place of play and next, such as `bench::guide::kNotApplicable`.
+  /// Pressed in every guide in the place of play and next, such as
+  /// `host::plugins::keld::guide::kNotApplicable`.
   std::int32_t button = 0;
   /// The program is killed when it has saved the document so often; 0: it ends in good order. The document is
   /// then the one that is on the disk.
@@ -80,7 +83,7 @@ struct RunOf {
 ///     file.Limit(1, "", "300");                 // mOhm, IEC 62353
 ///     file.Reads(410, "0.123,0,Ohm");           // value, overload, unit
 ///     file.Run({.by = "M. Holm"});
-///     EXPECT_EQ(file.Judged().outcome, bench::judge::Outcome::kPassed);
+///     EXPECT_EQ(file.Judged().outcome, host::judge::Outcome::kPassed);
 class RecordedDocument {
  public:
   using Element = std::shared_ptr<orvik::ITestElement>;
@@ -90,7 +93,7 @@ class RecordedDocument {
       : bench_(std::move(settings)) {
     bench_.Host().Elements()->AddPlugIn(bench_.PlugIn());
     bench_.Tester().UseFaults(replies_);
-    document_ = bench::Document::Create(bench_.Only().SharedHost(), bench_.Only().Folder() / name);
+    document_ = host::document::Document::Create(bench_.Only().SharedHost(), bench_.Only().Folder() / name);
     document_->equipment = {"VENT-1", "S-2", "Maker", "Model"};
   }
   RecordedDocument(const RecordedDocument&) = delete;
@@ -101,9 +104,9 @@ class RecordedDocument {
   }
 
   VirtualBench& Bench() { return bench_; }
-  bench::Host& Host() { return bench_.Host(); }
-  bench::Document& Document() { return *document_; }
-  const std::vector<bench::RunRecord>& Runs() const { return document_->Runs().All(); }
+  host::document::Host& Host() { return bench_.Host(); }
+  host::document::Document& Document() { return *document_; }
+  const std::vector<host::document::RunRecord>& Runs() const { return document_->Runs().All(); }
 
   /// Adds the catalogue's test, or a whole sequence, at the end.
   Element Add(std::int32_t testId) { return document_->AddTest(testId); }
@@ -114,15 +117,15 @@ class RecordedDocument {
              const std::string& standard = "IEC 62353", const std::string& description = {}) {
     SetLimit(*document_, Host(), element, low, high, standard, description);
   }
-  /// @param setting such as `bench::SavedSettings::kFilter`
+  /// @param setting such as `host::document::SavedSettings::kFilter`
   void Set(std::int32_t element, const std::string& setting, const std::string& value) {
     const auto configuration = Find(element)->Configuration();
-    const bench::SavedSettings wanted(*configuration);
+    const host::document::SavedSettings wanted(*configuration);
     wanted.Settings()->SetAttribute(setting, value);
     configuration->Load(wanted.Node());
   }
   void RecordOnly(std::int32_t element) {
-    bench::StateOf(Find(element), *Host().Elements())->SetRecordOnly(true);
+    host::document::StateOf(Find(element), *Host().Elements())->SetRecordOnly(true);
   }
 
   /// What the tester reads from now on in the test, in any setting: "0.123,0,Ohm" is value, overload, unit.
@@ -139,22 +142,22 @@ class RecordedDocument {
   /// The registry holds these test leads for the tester, 0 to 500 mOhm or what a test needs otherwise.
   /// @param measured when, as `WallClock` returns it
   void Leads(const std::string& serial, std::int32_t milliohms, const std::string& measured) {
-    bench::StoreLeads(*Host().Registry(), serial, milliohms, measured);
+    host::run::StoreLeads(*Host().Registry(), serial, milliohms, measured);
   }
 
-  bench::DocumentRunner::End Run(const RunOf& run = {}) {
+  host::run::DocumentRunner::End Run(const RunOf& run = {}) {
     RunParts parts(bench_.Ports(), *document_);
     parts.heading = HeadingOf(run);
     parts.clock = [&] { return run.at; };
     parts.leadsMeasured = [this](const std::string& serial, std::int32_t leads) {
-      return bench::LeadsMeasured(*Host().Registry(), serial, leads).value_or("");
+      return host::run::LeadsMeasured(*Host().Registry(), serial, leads).value_or("");
     };
     int saves = 0;
     parts.save = [&] {
       if (run.killedAfterSaves == 0 || saves++ < run.killedAfterSaves) document_->Save();
     };
-    const bench::OperatorEvents operating(bench_.Only().SharedApplication(), parts.stop,
-                                          OperatorOf(run, parts.stop));
+    const host::run::OperatorEvents operating(bench_.Only().SharedApplication(), parts.stop,
+                                              OperatorOf(run, parts.stop));
     const auto end = parts.Run(ElementsOf(run));
     if (run.killedAfterSaves > 0) Reopen();
     return end;
@@ -164,18 +167,18 @@ class RecordedDocument {
   void Reopen() {
     const auto path = document_->Path();
     document_.reset();
-    document_ = bench::Document::Open(bench_.Only().SharedHost(), path);
+    document_ = host::document::Document::Open(bench_.Only().SharedHost(), path);
   }
 
   /// What counts now.
   /// @param standards to judge by; empty for all
-  bench::judge::JudgedDocument Judged(std::vector<std::string> standards = {}) {
-    return bench::judge::Judge(*document_, *Host().Elements(), std::move(standards));
+  host::judge::JudgedDocument Judged(std::vector<std::string> standards = {}) {
+    return host::judge::Judge(*document_, *Host().Elements(), std::move(standards));
   }
 
  private:
-  bench::RunRecorder::Heading HeadingOf(const RunOf& run) const {
-    bench::RunRecorder::Heading heading;
+  host::run::RunRecorder::Heading HeadingOf(const RunOf& run) const {
+    host::run::RunRecorder::Heading heading;
     heading.equipment = document_->equipment;
     heading.by = run.by;
     heading.port = VirtualBench::kDevice;
@@ -191,14 +194,14 @@ class RecordedDocument {
     return elements;
   }
 
-  std::unique_ptr<bench::IOperator> OperatorOf(const RunOf& run, bench::StopRequest& stop) {
+  std::unique_ptr<host::run::IOperator> OperatorOf(const RunOf& run, host::run::StopRequest& stop) {
     if (run.button != 0) return std::make_unique<ButtonOperator>(run.button);
-    return std::make_unique<bench::AutoOperator>(bench_.Only().SharedApplication(), stop);
+    return std::make_unique<host::run::AutoOperator>(bench_.Only().SharedApplication(), stop);
   }
 
   VirtualBench bench_;
   const std::shared_ptr<ChosenReplies> replies_ = std::make_shared<ChosenReplies>();
-  std::shared_ptr<bench::Document> document_;
+  std::shared_ptr<host::document::Document> document_;
 };
 
 }  // namespace support

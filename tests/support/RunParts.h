@@ -29,7 +29,7 @@ namespace support {
 inline constexpr char kStandard[] = "IEC 62353";
 
 /// Gives the element a limit of the standard, in place of the one that it has, and selects the standard.
-inline void SetLimit(bench::Document& document, bench::Host& host, std::int32_t element,
+inline void SetLimit(host::document::Document& document, host::document::Host& host, std::int32_t element,
                      const std::string& low, const std::string& high, const std::string& standard = kStandard,
                      const std::string& description = {}) {
   const auto limits = document.Find(element)->Limits();
@@ -43,7 +43,7 @@ inline void SetLimit(bench::Document& document, bench::Host& host, std::int32_t 
 }
 
 /// The elements at the top of the document, in order.
-inline std::vector<std::shared_ptr<orvik::ITestElement>> TopOf(const bench::Document& document) {
+inline std::vector<std::shared_ptr<orvik::ITestElement>> TopOf(const host::document::Document& document) {
   std::vector<std::shared_ptr<orvik::ITestElement>> elements;
   for (std::int32_t i = 1; i <= document.Elements()->Count(); ++i)
     elements.push_back(document.Elements()->item(i));
@@ -55,10 +55,10 @@ inline std::vector<std::shared_ptr<orvik::ITestElement>> TopOf(const bench::Docu
 class RunParts {
  public:
   using Elements = std::vector<std::shared_ptr<orvik::ITestElement>>;
-  using End = bench::DocumentRunner::End;
+  using End = host::run::DocumentRunner::End;
   using Application = std::shared_ptr<orvik::platform::IApplication>;
 
-  RunParts(bench::PortManager& ports, bench::Document& document)
+  RunParts(host::serial::PortManager& ports, host::document::Document& document)
       : doubts(*ports.TheWire()), link(ports), document_(document) {
     heading.equipment = document.equipment;
   }
@@ -70,8 +70,8 @@ class RunParts {
   End Run() { return Run(TopOf(document_)); }
   /// The program operates the guide.
   End RunByProgram(const Application& application, const Elements& elements) {
-    const bench::OperatorEvents program(application, stop,
-                                        std::make_unique<bench::AutoOperator>(application, stop));
+    const host::run::OperatorEvents program(application, stop,
+                                            std::make_unique<host::run::AutoOperator>(application, stop));
     return Run(elements);
   }
   End RunByProgram(const Application& application) { return RunByProgram(application, TopOf(document_)); }
@@ -83,22 +83,22 @@ class RunParts {
   /// When leads were measured, as the record has it.
   std::function<std::string(const std::string& serial, std::int32_t leads)> leadsMeasured =
       [](const std::string&, std::int32_t) { return std::string(); };
-  bench::RunRecorder::Heading heading;
-  bench::StopRequest stop;
-  bench::DoubtTracker doubts;
-  bench::LinkWatch link;
+  host::run::RunRecorder::Heading heading;
+  host::run::StopRequest stop;
+  host::run::DoubtTracker doubts;
+  host::run::LinkWatch link;
 
  private:
-  bench::Document& document_;
+  host::document::Document& document_;
 
  public:
-  bench::RunRecorder recorder{
+  host::run::RunRecorder recorder{
       {document_.Runs(), document_.Instruments(), document_.Standards(), doubts, [this] { return clock(); },
        [this](const std::string& serial, std::int32_t leads) { return leadsMeasured(serial, leads); }}};
-  const std::shared_ptr<bench::RunController> controller =
-      std::make_shared<bench::RunController>(bench::RunController::Parts{
+  const std::shared_ptr<host::run::RunController> controller =
+      std::make_shared<host::run::RunController>(host::run::RunController::Parts{
           document_.Standards(), document_.Instruments(), doubts, recorder, [this] { save(); }});
-  bench::DocumentRunner runner{controller, link, stop};
+  host::run::DocumentRunner runner{controller, link, stop};
 };
 
 }  // namespace support

@@ -20,7 +20,7 @@ class SimulatedLine {
   /// Hears each command line in the tester's place, without its end.
   using Script = std::function<void(const std::string& command)>;
 
-  SimulatedLine(std::shared_ptr<bench::ILoop> loop, sim::Profile profile)
+  SimulatedLine(std::shared_ptr<toolkit::loop::ILoop> loop, sim::Profile profile)
       : loop_(std::move(loop)), tester_(std::move(profile)) {
     heard_ = line_->Sent().Subscribe([this](std::string_view bytes) { Hear(bytes); });
   }
@@ -31,7 +31,7 @@ class SimulatedLine {
     loop_->Forget(back_);
   }
 
-  const std::shared_ptr<bench::MemoryLine>& Line() const { return line_; }
+  const std::shared_ptr<host::serial::MemoryLine>& Line() const { return line_; }
   sim::Tester& Tester() { return tester_; }
 
   /// Puts a script in the tester's place; empty gives the tester the line again.
@@ -76,13 +76,13 @@ class SimulatedLine {
     Schedule();
   }
 
-  const std::shared_ptr<bench::ILoop> loop_;
-  const std::shared_ptr<bench::MemoryLine> line_ = std::make_shared<bench::MemoryLine>();
+  const std::shared_ptr<toolkit::loop::ILoop> loop_;
+  const std::shared_ptr<host::serial::MemoryLine> line_ = std::make_shared<host::serial::MemoryLine>();
   sim::Tester tester_;
   Script script_;
-  bench::LineReader reader_;
-  bench::ILoop::Id call_ = 0;
-  bench::ILoop::Id back_ = 0;
+  host::serial::LineReader reader_;
+  toolkit::loop::ILoop::Id call_ = 0;
+  toolkit::loop::ILoop::Id back_ = 0;
   orvik::platform::Subscription heard_;
 };
 

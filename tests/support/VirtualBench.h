@@ -53,10 +53,10 @@ class VirtualBench {
     if (settings.assigned) Assign();
   }
 
-  bench::Host& Host() { return host_.Host(); }
+  host::document::Host& Host() { return host_.Host(); }
   HostOnly& Only() { return host_; }
-  bench::headless::Application& Application() { return host_.Application(); }
-  bench::PortManager& Ports() { return *manager_; }
+  toolkit::headless::Application& Application() { return host_.Application(); }
+  host::serial::PortManager& Ports() { return *manager_; }
   SimulatedLine& Line() { return line_; }
   sim::Tester& Tester() { return line_.Tester(); }
   /// Everything on the wire, with virtual times.
@@ -91,11 +91,12 @@ class VirtualBench {
 
   HostOnly host_;
   SimulatedLine line_;
-  std::shared_ptr<bench::PortManager> manager_ = std::make_shared<bench::PortManager>(
-      host_.SharedApplication(), [this](const std::string&, const bench::LineSettings&) {
-        return std::make_unique<bench::MemoryTransport>(line_.Line());
+  std::shared_ptr<host::serial::PortManager> manager_ = std::make_shared<host::serial::PortManager>(
+      host_.SharedApplication(), [this](const std::string&, const host::serial::LineSettings&) {
+        return std::make_unique<host::serial::MemoryTransport>(line_.Line());
       });
-  std::shared_ptr<bench::CommApplication> comm_ = std::make_shared<bench::CommApplication>(manager_);
+  std::shared_ptr<host::serial::CommApplication> comm_ =
+      std::make_shared<host::serial::CommApplication>(manager_);
   WireLines wire_{*manager_->TheWire()};
   std::shared_ptr<orvik::IPlugIn> plugIn_;
 };

@@ -40,7 +40,7 @@ class WatchedLanguage final : public orvik::ILanguageService {
 };
 
 /// Watches the host's language service from now on. To be called before the plug-in first asks for it.
-inline std::shared_ptr<WatchedLanguage> WatchLanguage(bench::Host& host) {
+inline std::shared_ptr<WatchedLanguage> WatchLanguage(host::document::Host& host) {
   auto watched = std::make_shared<WatchedLanguage>(
       orvik::As<orvik::ILanguageService>(host.CreateObject(orvik::HostClasses::kLanguageService)));
   host.Register(orvik::HostClasses::kLanguageService, [watched] { return watched; });

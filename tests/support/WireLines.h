@@ -13,7 +13,7 @@ namespace support {
 /// One thing that happened on the wire, as text: "sent STST,410,0".
 struct WireLine {
   orvik::platform::Time time;
-  bench::WireRecord::Kind kind;
+  host::serial::WireRecord::Kind kind;
   std::string text;
   bool replyWaiting;
 };
@@ -21,23 +21,23 @@ struct WireLine {
 /// Keeps everything that happens on a wire.
 class WireLines {
  public:
-  explicit WireLines(bench::Wire& wire)
-      : watch_(wire.Subscribe([this](const bench::WireRecord& record) {
+  explicit WireLines(host::serial::Wire& wire)
+      : watch_(wire.Subscribe([this](const host::serial::WireRecord& record) {
           lines_.push_back(
-              {record.time, record.kind, bench::VisibleLatin1(record.text), record.replyWaiting});
+              {record.time, record.kind, host::serial::VisibleLatin1(record.text), record.replyWaiting});
         })) {}
 
   const std::vector<WireLine>& All() const { return lines_; }
   /// The texts of the commands sent.
-  std::vector<std::string> Sent() const { return Texts(bench::WireRecord::Kind::kSent); }
+  std::vector<std::string> Sent() const { return Texts(host::serial::WireRecord::Kind::kSent); }
   /// The texts of the messages received.
-  std::vector<std::string> Received() const { return Texts(bench::WireRecord::Kind::kReceived); }
+  std::vector<std::string> Received() const { return Texts(host::serial::WireRecord::Kind::kReceived); }
   /// How often that happened.
-  std::size_t Count(bench::WireRecord::Kind kind) const { return Texts(kind).size(); }
+  std::size_t Count(host::serial::WireRecord::Kind kind) const { return Texts(kind).size(); }
   void Clear() { lines_.clear(); }
 
  private:
-  std::vector<std::string> Texts(bench::WireRecord::Kind kind) const {
+  std::vector<std::string> Texts(host::serial::WireRecord::Kind kind) const {
     std::vector<std::string> texts;
     for (const auto& line : lines_) {
       if (line.kind == kind) texts.push_back(line.text);

@@ -11,7 +11,7 @@
 #include "toolkit/controls/XTgToolbar.h"
 #include "toolkit/headless/Application.h"
 
-namespace bench {
+namespace toolkit::controls {
 namespace {
 
 template <class Control>
@@ -38,4 +38,4 @@ void ConnectControls(headless::Application& application, orvik::IHost& host) {
   });
 }
 
-}  // namespace bench
+}  // namespace toolkit::controls

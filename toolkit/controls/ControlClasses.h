@@ -6,11 +6,11 @@
 #include "OrvikTypeLib/IHost.h"
 #include "OrvikTypeLib/ILanguageService.h"
 
-namespace bench {
-
-namespace headless {
+namespace toolkit::headless {
 class Application;
 }
+
+namespace toolkit::controls {
 
 /// A composite control that a host registers as one of its own classes.
 struct ControlClass {
@@ -26,4 +26,4 @@ const std::array<ControlClass, 4>& ControlClasses();
 /// application keeps only a weak reference to the host.
 void ConnectControls(headless::Application& application, orvik::IHost& host);
 
-}  // namespace bench
+}  // namespace toolkit::controls

@@ -1,7 +1,7 @@
 #pragma once
 
 /// Texts of the composite controls: number, "::", English text; module "orvik".
-namespace bench::ControlTexts {
+namespace toolkit::controls::ControlTexts {
 
 inline constexpr char kAbort[] = "1101::Abort";
 inline constexpr char kAbortToolTip[] = "1102::End this test and discard all previous test results";
@@ -38,4 +38,4 @@ inline constexpr char kNominalWrong[] = "1213::The nominal value must be a numbe
 inline constexpr char kNothingSelected[] = "1214::Select a standard first.";
 inline constexpr char kNoLimit[] = "1215::This standard has no limit for the measured value.";
 
-}  // namespace bench::ControlTexts
+}  // namespace toolkit::controls::ControlTexts

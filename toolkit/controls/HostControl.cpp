@@ -3,7 +3,7 @@
 #include "OrvikTypeLib/As.h"
 #include "platform/IPanel.h"
 
-namespace bench {
+namespace toolkit::controls {
 namespace {
 
 constexpr char kSource[] = "orvik-bench";
@@ -26,4 +26,4 @@ std::string HostControl::Text(const std::string& text) const {
 
 std::shared_ptr<orvik::platform::IContainerSite> HostControl::Site() const { return orvik::Required(site_); }
 
-}  // namespace bench
+}  // namespace toolkit::controls

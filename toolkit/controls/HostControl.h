@@ -7,7 +7,7 @@
 #include "platform/IContainerSite.h"
 #include "platform/IUserControl.h"
 
-namespace bench {
+namespace toolkit::controls {
 
 /// The base of the composite controls: their site, and the language of their texts.
 class HostControl : public orvik::platform::IUserControl {
@@ -32,4 +32,4 @@ class HostControl : public orvik::platform::IUserControl {
   bool attached_ = false;
 };
 
-}  // namespace bench
+}  // namespace toolkit::controls

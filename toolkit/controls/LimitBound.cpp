@@ -4,7 +4,7 @@
 
 #include "OrvikTypeLib/Conversions.h"
 
-namespace bench {
+namespace toolkit::controls {
 
 LimitBound SplitBound(std::string_view text, const std::string& unit) {
   const std::string trimmed = orvik::Trim(text);
@@ -35,4 +35,4 @@ std::vector<std::string> UsableUnits(std::string_view allowed, const std::string
   }
 }
 
-}  // namespace bench
+}  // namespace toolkit::controls

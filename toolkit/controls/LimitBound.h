@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-namespace bench {
+namespace toolkit::controls {
 
 /// A bound as entered: a number and its unit or "%".
 struct LimitBound {
@@ -23,4 +23,4 @@ std::string BoundWithUnit(std::string_view text, const std::string& unit);
 /// The allowed units (separated by ";") that a bound can have: the limit's unit and "%".
 std::vector<std::string> UsableUnits(std::string_view allowed, const std::string& unit);
 
-}  // namespace bench
+}  // namespace toolkit::controls

@@ -2,7 +2,7 @@
 
 #include "toolkit/controls/ControlTexts.h"
 
-namespace bench {
+namespace toolkit::controls {
 namespace {
 
 namespace platform = orvik::platform;
@@ -85,4 +85,4 @@ void LimitViewControls::SetLocked(bool locked) const {
   for (const auto& button : {cmdApply, cmdAdd, cmdRemove}) button->SetEnabled(!locked);
 }
 
-}  // namespace bench
+}  // namespace toolkit::controls

@@ -8,7 +8,7 @@
 #include "platform/IListView.h"
 #include "platform/IPanel.h"
 
-namespace bench {
+namespace toolkit::controls {
 
 /// Columns of the list of limits.
 namespace LimitColumns {
@@ -41,4 +41,4 @@ struct LimitViewControls {
   void SetLocked(bool locked) const;
 };
 
-}  // namespace bench
+}  // namespace toolkit::controls

@@ -8,7 +8,7 @@
 #include "toolkit/controls/ControlTexts.h"
 #include "toolkit/controls/LimitBound.h"
 
-namespace bench {
+namespace toolkit::controls {
 namespace {
 
 using orvik::Required;
@@ -256,4 +256,4 @@ std::shared_ptr<orvik::ILimit> XLimitView::LimitOf(const std::string& row) const
   return nullptr;
 }
 
-}  // namespace bench
+}  // namespace toolkit::controls

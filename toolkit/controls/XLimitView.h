@@ -12,7 +12,7 @@
 #include "toolkit/controls/HostControl.h"
 #include "toolkit/controls/LimitViewControls.h"
 
-namespace bench {
+namespace toolkit::controls {
 
 /// Edits the limits of one element: lists its standards, edits the bounds of the selected one (the first
 /// limit with the view's key), and adds and removes standards.
@@ -73,4 +73,4 @@ class XLimitView final : public virtual orvik::ILimitView, public HostControl {
   bool pending_ = false;
 };
 
-}  // namespace bench
+}  // namespace toolkit::controls

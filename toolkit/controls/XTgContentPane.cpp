@@ -6,7 +6,7 @@
 #include "OrvikTypeLib/ITestElement.h"
 #include "platform/IPanel.h"
 
-namespace bench {
+namespace toolkit::controls {
 
 using orvik::Required;
 
@@ -84,4 +84,4 @@ void XTgContentPane::ITgContentPane_Refresh() {
   }
 }
 
-}  // namespace bench
+}  // namespace toolkit::controls

@@ -9,7 +9,7 @@
 #include "platform/Controls.h"
 #include "toolkit/controls/HostControl.h"
 
-namespace bench {
+namespace toolkit::controls {
 
 /// The guidance text "lblGuidance" above the pages "tabPages"; each page has one control, named as the page's
 /// key. Empty parts are hidden. Operations fail with `HostError` 91 until the control is placed.
@@ -40,4 +40,4 @@ class XTgContentPane final : public virtual orvik::ITgContentPane, public HostCo
   std::weak_ptr<orvik::ITestElement> element_;
 };
 
-}  // namespace bench
+}  // namespace toolkit::controls

@@ -6,7 +6,7 @@
 #include "OrvikTypeLib/HostClasses.h"
 #include "platform/IPanel.h"
 
-namespace bench {
+namespace toolkit::controls {
 
 using orvik::Required;
 
@@ -34,4 +34,4 @@ void XTgProgressBar::ITgProgressBar_SetValue(std::int32_t lValue) { Required(bar
 
 std::int32_t XTgProgressBar::ITgProgressBar_Value() const { return Required(bar_).Value(); }
 
-}  // namespace bench
+}  // namespace toolkit::controls

@@ -6,7 +6,7 @@
 #include "platform/Controls.h"
 #include "toolkit/controls/HostControl.h"
 
-namespace bench {
+namespace toolkit::controls {
 
 /// The progress bar "prgBar". Operations fail with `HostError` 91 until the control is placed.
 class XTgProgressBar final : public virtual orvik::ITgProgressBar, public HostControl {
@@ -24,4 +24,4 @@ class XTgProgressBar final : public virtual orvik::ITgProgressBar, public HostCo
   std::shared_ptr<orvik::platform::IProgressBar> bar_;
 };
 
-}  // namespace bench
+}  // namespace toolkit::controls

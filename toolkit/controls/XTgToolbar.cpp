@@ -6,7 +6,7 @@
 #include "platform/IPanel.h"
 #include "toolkit/controls/ControlTexts.h"
 
-namespace bench {
+namespace toolkit::controls {
 namespace {
 
 using orvik::Required;
@@ -81,4 +81,4 @@ void XTgToolbar::ITgToolbar_AddEntry(std::int32_t lParent, std::int32_t lCommand
 
 void XTgToolbar::ITgToolbar_Click(std::int32_t lCommand) { Required(toolbar_).Click(lCommand); }
 
-}  // namespace bench
+}  // namespace toolkit::controls

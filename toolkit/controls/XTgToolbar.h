@@ -8,7 +8,7 @@
 #include "platform/Event.h"
 #include "toolkit/controls/HostControl.h"
 
-namespace bench {
+namespace toolkit::controls {
 
 /// The test-guide toolbar: the buttons "tbrCommands", the status text "lblStatus" beside them, and below both
 /// "lblJudgement", where the host shows the judgement of the readings; hidden while empty. Operations fail
@@ -40,4 +40,4 @@ class XTgToolbar final : public virtual orvik::ITgToolbar, public HostControl {
   orvik::platform::Subscription chosen_;
 };
 
-}  // namespace bench
+}  // namespace toolkit::controls

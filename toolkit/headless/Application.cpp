@@ -5,7 +5,7 @@
 #include "toolkit/headless/Desktop.h"
 #include "toolkit/headless/Form.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 
 Application::Application(ClockKind kind, double timeScale)
     : desktop_(std::make_shared<Desktop>(kind, timeScale)) {}
@@ -74,14 +74,14 @@ platform::WindowHandle Application::Parent(platform::WindowHandle child) const {
   return desktop_->Windows().Parent(child);
 }
 
-ILoop::Id Application::WatchReadable(int descriptor, std::function<void()> callback) {
+loop::ILoop::Id Application::WatchReadable(int descriptor, std::function<void()> callback) {
   return desktop_->Loop().WatchReadable(descriptor, std::move(callback));
 }
 
-ILoop::Id Application::CallAt(platform::Time when, std::function<void()> callback) {
+loop::ILoop::Id Application::CallAt(platform::Time when, std::function<void()> callback) {
   return desktop_->Loop().CallAt(when, std::move(callback));
 }
 
 void Application::Forget(Id id) { desktop_->Loop().Forget(id); }
 
-}  // namespace bench::headless
+}  // namespace toolkit::headless

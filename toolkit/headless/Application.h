@@ -14,9 +14,9 @@ namespace orvik::platform {
 class IUserControl;
 }
 
-namespace bench::headless {
+namespace toolkit::headless {
 
-using bench::ClockKind;
+using toolkit::loop::ClockKind;
 class Control;
 class Desktop;
 class Form;
@@ -26,7 +26,7 @@ class IScreen;
 /// wait takes no time: the clock jumps to the next timer, call or deadline.
 ///
 /// Errors of the toolkit are `orvik::HostError`. The destructor releases loaded forms without unloading them.
-class Application final : public orvik::platform::IApplication, public ILoop {
+class Application final : public orvik::platform::IApplication, public loop::ILoop {
  public:
   /// @param timeScale the real clock runs that many times faster, which divides all timer intervals and
   /// deadlines; `HostError` 5 unless it is above 0 and finite
@@ -79,4 +79,4 @@ class Application final : public orvik::platform::IApplication, public ILoop {
   std::shared_ptr<Desktop> desktop_;
 };
 
-}  // namespace bench::headless
+}  // namespace toolkit::headless

@@ -4,7 +4,7 @@
 
 #include "toolkit/headless/IMetrics.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 
 void Button::Click() {
   const auto self = shared_from_this();
@@ -22,4 +22,4 @@ void Button::KeyPressed(int key, int) {
   if (key == platform::kKeyReturn || key == platform::kKeySpace) Click();
 }
 
-}  // namespace bench::headless
+}  // namespace toolkit::headless

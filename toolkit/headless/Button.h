@@ -3,7 +3,7 @@
 #include "platform/Controls.h"
 #include "toolkit/headless/Control.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 
 class Button final : public Control, public virtual platform::IButton {
  public:
@@ -21,4 +21,4 @@ class Button final : public Control, public virtual platform::IButton {
   platform::Event<> clicked_;
 };
 
-}  // namespace bench::headless
+}  // namespace toolkit::headless

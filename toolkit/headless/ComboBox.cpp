@@ -6,7 +6,7 @@
 
 #include "toolkit/headless/IMetrics.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 
 ComboBox::ComboBox(std::shared_ptr<Desktop> desktop, std::string name)
     : Control(std::move(desktop), std::move(name)) {
@@ -67,4 +67,4 @@ void ComboBox::Select(int index, const std::string& text) {
   if (another) selectedEvent_.Raise();
 }
 
-}  // namespace bench::headless
+}  // namespace toolkit::headless

@@ -6,7 +6,7 @@
 #include "platform/Controls.h"
 #include "toolkit/headless/Control.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 
 /// A box that is not editable ignores a text that is not one of its entries.
 class ComboBox final : public Control, public virtual platform::IComboBox {
@@ -44,4 +44,4 @@ class ComboBox final : public Control, public virtual platform::IComboBox {
   platform::Event<> lostFocus_;
 };
 
-}  // namespace bench::headless
+}  // namespace toolkit::headless

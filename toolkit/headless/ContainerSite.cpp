@@ -6,7 +6,7 @@
 #include "toolkit/headless/Desktop.h"
 #include "toolkit/headless/Panel.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 namespace {
 
 using orvik::HostError;
@@ -82,4 +82,4 @@ void ContainerSite::BoundsChanged(const platform::Rect&) {
   if (panel_) panel_->SetBounds({0, 0, Bounds().width, Bounds().height});
 }
 
-}  // namespace bench::headless
+}  // namespace toolkit::headless

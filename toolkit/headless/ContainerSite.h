@@ -6,7 +6,7 @@
 #include "platform/IContainerSite.h"
 #include "toolkit/headless/Control.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 
 /// Contains a user control. The site owns the control and the panel inside.
 class ContainerSite final : public Control, public virtual platform::IContainerSite {
@@ -35,4 +35,4 @@ class ContainerSite final : public Control, public virtual platform::IContainerS
   std::shared_ptr<platform::IUserControl> object_;
 };
 
-}  // namespace bench::headless
+}  // namespace toolkit::headless

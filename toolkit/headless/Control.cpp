@@ -8,7 +8,7 @@
 #include "toolkit/headless/IScreen.h"
 #include "toolkit/headless/Panel.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 
 void Fail(std::int32_t number, const std::string& description) {
   throw orvik::HostError(number, "orvik-bench", description);
@@ -115,4 +115,4 @@ void Control::LoseFocusWhenUnusable() {
   if (const auto form = TopForm()) form->MoveFocusOn();
 }
 
-}  // namespace bench::headless
+}  // namespace toolkit::headless

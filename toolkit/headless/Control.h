@@ -6,7 +6,7 @@
 
 #include "platform/IControl.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 
 namespace platform = orvik::platform;
 
@@ -111,4 +111,4 @@ class Control : public virtual platform::IControl, public std::enable_shared_fro
 /// Throws a `HostError` of the toolkit.
 [[noreturn]] void Fail(std::int32_t number, const std::string& description);
 
-}  // namespace bench::headless
+}  // namespace toolkit::headless

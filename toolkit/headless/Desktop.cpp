@@ -5,7 +5,7 @@
 #include "OrvikTypeLib/HostError.h"
 #include "toolkit/headless/Form.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 
 std::shared_ptr<platform::IUserControl> Desktop::CreateUserControl(const std::string& classIdentifier) const {
   auto control = factory_ ? factory_(classIdentifier) : nullptr;
@@ -39,7 +39,7 @@ void Desktop::WaitMessages(platform::Time deadline) {
     cameBackEmpty_ = false;
     return;
   }
-  if (loop_.Wait(deadline) != WaitOutcome::kNothingLeft) {
+  if (loop_.Wait(deadline) != loop::WaitOutcome::kNothingLeft) {
     cameBackEmpty_ = false;
     return;
   }
@@ -63,4 +63,4 @@ bool Desktop::PumpedActed() {
   return activity_ != before;
 }
 
-}  // namespace bench::headless
+}  // namespace toolkit::headless

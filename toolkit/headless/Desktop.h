@@ -12,16 +12,16 @@
 #include "toolkit/headless/WindowTable.h"
 #include "toolkit/loop/EventLoop.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 
 /// What the windows of one application share. Each window keeps it alive.
 class Desktop : public std::enable_shared_from_this<Desktop> {
  public:
   using ControlFactory = std::function<std::shared_ptr<platform::IUserControl>(const std::string&)>;
 
-  Desktop(ClockKind kind, double timeScale) : loop_(kind, timeScale) {}
+  Desktop(loop::ClockKind kind, double timeScale) : loop_(kind, timeScale) {}
 
-  EventLoop& Loop() { return loop_; }
+  loop::EventLoop& Loop() { return loop_; }
   FormStack& Forms() { return forms_; }
   WindowTable& Windows() { return windows_; }
 
@@ -55,7 +55,7 @@ class Desktop : public std::enable_shared_from_this<Desktop> {
  private:
   bool PumpedActed();
 
-  EventLoop loop_;
+  loop::EventLoop loop_;
   FormStack forms_;
   WindowTable windows_;
   PlainMetrics plain_;
@@ -67,4 +67,4 @@ class Desktop : public std::enable_shared_from_this<Desktop> {
   bool cameBackEmpty_ = false;
 };
 
-}  // namespace bench::headless
+}  // namespace toolkit::headless

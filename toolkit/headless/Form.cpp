@@ -8,7 +8,7 @@
 #include "toolkit/headless/Desktop.h"
 #include "toolkit/headless/TextSize.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 namespace {
 
 constexpr int kAlt = 4;
@@ -201,4 +201,4 @@ void Form::NaturalSizeChanged() {
                     std::max(least.height, NaturalSize().height)});
 }
 
-}  // namespace bench::headless
+}  // namespace toolkit::headless

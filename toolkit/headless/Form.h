@@ -6,7 +6,7 @@
 #include "platform/IForm.h"
 #include "toolkit/headless/Panel.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 
 /// A window. Until it is given a size, it is as large as its grid needs.
 class Form final : public Panel, public virtual platform::IForm {
@@ -88,4 +88,4 @@ class Form final : public Panel, public virtual platform::IForm {
   platform::Event<> unloading_;
 };
 
-}  // namespace bench::headless
+}  // namespace toolkit::headless

@@ -5,7 +5,7 @@
 
 #include "toolkit/headless/Form.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 namespace {
 
 /// Removes the form and all expired references.
@@ -87,4 +87,4 @@ void FormStack::Clear() {
   const auto loaded = std::exchange(loaded_, {});
 }
 
-}  // namespace bench::headless
+}  // namespace toolkit::headless

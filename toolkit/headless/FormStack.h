@@ -8,7 +8,7 @@
 #include "platform/Event.h"
 #include "platform/IForm.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 
 namespace platform = orvik::platform;
 
@@ -60,4 +60,4 @@ class FormStack {
   platform::Event<const std::shared_ptr<platform::IForm>&> formShown_;
 };
 
-}  // namespace bench::headless
+}  // namespace toolkit::headless

@@ -4,7 +4,7 @@
 
 #include "platform/Types.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 
 namespace platform = orvik::platform;
 
@@ -29,4 +29,4 @@ class IMetrics {
   virtual platform::Size Padding(Part part) const = 0;
 };
 
-}  // namespace bench::headless
+}  // namespace toolkit::headless

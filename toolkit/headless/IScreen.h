@@ -2,14 +2,14 @@
 
 #include "toolkit/loop/IEventDispatcher.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 
 class Control;
 class IMetrics;
 
 /// Shows the windows of an application on a real screen. The windows report what has changed and ask for text
 /// sizes; they know nothing else of it.
-class IScreen : public IEventDispatcher {
+class IScreen : public loop::IEventDispatcher {
  public:
   /// The window is new or its state, bounds, parent or focus has changed. It is updated when messages are
   /// next processed, since the change may be incomplete.
@@ -20,4 +20,4 @@ class IScreen : public IEventDispatcher {
   virtual const IMetrics& Metrics() const = 0;
 };
 
-}  // namespace bench::headless
+}  // namespace toolkit::headless

@@ -2,7 +2,7 @@
 
 #include "toolkit/headless/IMetrics.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 
 platform::Size Label::NaturalSize() const { return Metrics().Wrapped(Caption()); }
 
@@ -13,4 +13,4 @@ platform::Size Frame::NaturalSize() const {
   return {caption.width + padding.width, caption.height + padding.height};
 }
 
-}  // namespace bench::headless
+}  // namespace toolkit::headless

@@ -3,7 +3,7 @@
 #include "platform/Controls.h"
 #include "toolkit/headless/Control.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 
 class Label final : public Control, public virtual platform::ILabel {
  public:
@@ -17,4 +17,4 @@ class Frame final : public Control, public virtual platform::IFrame {
   platform::Size NaturalSize() const override;
 };
 
-}  // namespace bench::headless
+}  // namespace toolkit::headless

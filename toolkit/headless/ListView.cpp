@@ -8,7 +8,7 @@
 #include "toolkit/headless/IMetrics.h"
 #include "toolkit/headless/TextSize.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 
 using orvik::HostError;
 
@@ -130,4 +130,4 @@ std::size_t ListView::ColumnIndex(const std::string& columnKey) const {
   return static_cast<std::size_t>(std::distance(columns_.begin(), found));
 }
 
-}  // namespace bench::headless
+}  // namespace toolkit::headless

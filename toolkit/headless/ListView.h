@@ -8,7 +8,7 @@
 #include "platform/IListView.h"
 #include "toolkit/headless/Control.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 
 /// A report list. A click selects the row under the pointer; rows are one line high below a line of captions.
 class ListView final : public Control, public virtual platform::IListView {
@@ -67,4 +67,4 @@ class ListView final : public Control, public virtual platform::IListView {
   platform::Event<const platform::MouseEvent&> mouseUp_;
 };
 
-}  // namespace bench::headless
+}  // namespace toolkit::headless

@@ -19,7 +19,7 @@
 #include "toolkit/headless/Toolbar.h"
 #include "toolkit/headless/TreeView.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 
 using orvik::HostError;
 
@@ -187,4 +187,4 @@ void Panel::RemoveControl(const std::shared_ptr<Control>& control) {
   byName_.erase(control->Name());
 }
 
-}  // namespace bench::headless
+}  // namespace toolkit::headless

@@ -9,7 +9,7 @@
 #include "platform/IPanel.h"
 #include "toolkit/headless/Control.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 
 /// A surface with controls: the inside of a form, of a user control, or of a tab.
 class Panel : public Control, public virtual platform::IPanel {
@@ -74,4 +74,4 @@ class Panel : public Control, public virtual platform::IPanel {
   platform::Event<> resized_;
 };
 
-}  // namespace bench::headless
+}  // namespace toolkit::headless

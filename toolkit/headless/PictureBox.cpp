@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <cstdlib>
 
-namespace bench::headless {
+namespace toolkit::headless {
 namespace {
 
 // Offsets of width and height in a bitmap file, little-endian.
@@ -34,4 +34,4 @@ platform::Size PictureBox::NaturalSize() const {
   return isBitmap ? platform::Size{Length(bitmap_, kWidthAt), Length(bitmap_, kHeightAt)} : platform::Size{};
 }
 
-}  // namespace bench::headless
+}  // namespace toolkit::headless

@@ -7,7 +7,7 @@
 #include "platform/Controls.h"
 #include "toolkit/headless/Control.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 
 class PictureBox final : public Control, public virtual platform::IPictureBox {
  public:
@@ -23,4 +23,4 @@ class PictureBox final : public Control, public virtual platform::IPictureBox {
   std::vector<std::byte> bitmap_;
 };
 
-}  // namespace bench::headless
+}  // namespace toolkit::headless

@@ -2,7 +2,7 @@
 
 #include "toolkit/headless/TextSize.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 
 platform::Size PlainMetrics::Line(std::string_view caption) const { return LineSize(caption); }
 
@@ -32,4 +32,4 @@ platform::Size PlainMetrics::Padding(Part part) const {
   return {};
 }
 
-}  // namespace bench::headless
+}  // namespace toolkit::headless

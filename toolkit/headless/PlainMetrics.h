@@ -2,7 +2,7 @@
 
 #include "toolkit/headless/IMetrics.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 
 /// The sizes without a screen: all characters have the same width (`TextSize.h`).
 class PlainMetrics final : public IMetrics {
@@ -13,4 +13,4 @@ class PlainMetrics final : public IMetrics {
   platform::Size Padding(Part part) const override;
 };
 
-}  // namespace bench::headless
+}  // namespace toolkit::headless

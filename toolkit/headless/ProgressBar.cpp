@@ -4,7 +4,7 @@
 
 #include "OrvikTypeLib/HostError.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 
 void ProgressBar::SetRange(int minimum, int maximum) {
   if (maximum < minimum)
@@ -20,4 +20,4 @@ void ProgressBar::SetValue(int value) {
   NotifyChanged();
 }
 
-}  // namespace bench::headless
+}  // namespace toolkit::headless

@@ -3,7 +3,7 @@
 #include "platform/Controls.h"
 #include "toolkit/headless/Control.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 
 /// The default range is 0 to 100.
 class ProgressBar final : public Control, public virtual platform::IProgressBar {
@@ -25,4 +25,4 @@ class ProgressBar final : public Control, public virtual platform::IProgressBar 
   int value_ = 0;
 };
 
-}  // namespace bench::headless
+}  // namespace toolkit::headless

@@ -8,7 +8,7 @@
 #include "toolkit/headless/IMetrics.h"
 #include "toolkit/headless/Panel.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 
 using orvik::HostError;
 
@@ -96,4 +96,4 @@ void Tabs::PlacePages() {
   for (const PageEntry& page : pages) page.panel->SetBounds(inside);
 }
 
-}  // namespace bench::headless
+}  // namespace toolkit::headless

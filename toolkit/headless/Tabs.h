@@ -9,7 +9,7 @@
 #include "platform/Controls.h"
 #include "toolkit/headless/Control.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 
 /// Pages under a line of captions. The first page is shown until another is chosen. `Page` returns empty for
 /// an unknown key and `Choose` ignores it; other operations fail with `HostError` 9.
@@ -52,4 +52,4 @@ class Tabs final : public Control, public virtual platform::ITabs {
   std::string selected_;
 };
 
-}  // namespace bench::headless
+}  // namespace toolkit::headless

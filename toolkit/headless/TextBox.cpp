@@ -4,7 +4,7 @@
 
 #include "toolkit/headless/IMetrics.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 
 TextBox::TextBox(std::shared_ptr<Desktop> desktop, std::string name)
     : Control(std::move(desktop), std::move(name)) {
@@ -52,4 +52,4 @@ void TextBox::KeyPressed(int key, int shift) {
   Type(std::string(1, static_cast<char>(typed)));
 }
 
-}  // namespace bench::headless
+}  // namespace toolkit::headless

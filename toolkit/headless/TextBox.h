@@ -5,7 +5,7 @@
 #include "platform/Controls.h"
 #include "toolkit/headless/Control.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 
 class TextBox final : public Control, public virtual platform::ITextBox {
  public:
@@ -33,4 +33,4 @@ class TextBox final : public Control, public virtual platform::ITextBox {
   platform::Event<> changed_;
 };
 
-}  // namespace bench::headless
+}  // namespace toolkit::headless

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace bench::headless {
+namespace toolkit::headless {
 namespace {
 
 constexpr int kLongestLine = 60;
@@ -48,4 +48,4 @@ int AccessKey(std::string_view caption) {
   return 0;
 }
 
-}  // namespace bench::headless
+}  // namespace toolkit::headless

@@ -4,7 +4,7 @@
 
 #include "platform/Types.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 
 namespace platform = orvik::platform;
 
@@ -24,4 +24,4 @@ platform::Size WrappedSize(std::string_view text);
 /// The access key in upper case, 0 if the caption has none.
 int AccessKey(std::string_view caption);
 
-}  // namespace bench::headless
+}  // namespace toolkit::headless

@@ -7,7 +7,7 @@
 #include "OrvikTypeLib/HostError.h"
 #include "toolkit/headless/Desktop.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 
 Timer::Timer(std::shared_ptr<Desktop> desktop, std::string name)
     : Control(std::move(desktop), std::move(name)) {
@@ -47,4 +47,4 @@ void Timer::Due() {
   tick_.Raise();
 }
 
-}  // namespace bench::headless
+}  // namespace toolkit::headless

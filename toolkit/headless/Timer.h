@@ -4,7 +4,7 @@
 #include "toolkit/headless/Control.h"
 #include "toolkit/loop/ILoop.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 
 /// A timer starts disabled, and is disabled when its form is unloaded. A late timer ticks once, not once for
 /// each missed interval.
@@ -29,8 +29,8 @@ class Timer final : public Control, public virtual platform::ITimer {
 
   int interval_ = 0;
   platform::Time due_{};
-  ILoop::Id call_ = 0;
+  loop::ILoop::Id call_ = 0;
   platform::Event<> tick_;
 };
 
-}  // namespace bench::headless
+}  // namespace toolkit::headless

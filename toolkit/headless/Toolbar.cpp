@@ -6,7 +6,7 @@
 #include "OrvikTypeLib/HostError.h"
 #include "toolkit/headless/IMetrics.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 
 void Toolbar::AddButton(int command, const std::string& caption) {
   Item item;
@@ -111,4 +111,4 @@ bool Toolbar::CanChoose(const Item& item) const {
   return !button || (button->enabled && button->visible);
 }
 
-}  // namespace bench::headless
+}  // namespace toolkit::headless

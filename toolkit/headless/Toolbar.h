@@ -6,7 +6,7 @@
 #include "platform/Controls.h"
 #include "toolkit/headless/Control.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 
 /// Buttons and menu entries under them. Unknown commands are ignored, and are neither enabled nor visible.
 class Toolbar final : public Control, public virtual platform::IToolbar {
@@ -54,4 +54,4 @@ class Toolbar final : public Control, public virtual platform::IToolbar {
   platform::Event<int> commandChosen_;
 };
 
-}  // namespace bench::headless
+}  // namespace toolkit::headless

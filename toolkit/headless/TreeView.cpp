@@ -6,7 +6,7 @@
 #include "OrvikTypeLib/HostError.h"
 #include "toolkit/headless/IMetrics.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 
 using orvik::HostError;
 
@@ -70,4 +70,4 @@ std::size_t TreeView::Index(const std::string& key) const {
   return found->second;
 }
 
-}  // namespace bench::headless
+}  // namespace toolkit::headless

@@ -7,7 +7,7 @@
 #include "platform/ITreeView.h"
 #include "toolkit/headless/Control.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 
 class TreeView final : public Control, public virtual platform::ITreeView {
  public:
@@ -44,4 +44,4 @@ class TreeView final : public Control, public virtual platform::ITreeView {
   platform::Event<const std::string&> nodeClicked_;
 };
 
-}  // namespace bench::headless
+}  // namespace toolkit::headless

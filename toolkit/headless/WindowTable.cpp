@@ -9,7 +9,7 @@
 #include "toolkit/headless/Form.h"
 #include "toolkit/headless/Panel.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 
 using orvik::HostError;
 
@@ -66,4 +66,4 @@ std::shared_ptr<Control> WindowTable::Movable(platform::WindowHandle handle) con
   return site ? site : window;
 }
 
-}  // namespace bench::headless
+}  // namespace toolkit::headless

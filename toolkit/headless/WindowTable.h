@@ -6,7 +6,7 @@
 
 #include "platform/Types.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 
 namespace platform = orvik::platform;
 
@@ -38,4 +38,4 @@ class WindowTable {
   std::unordered_map<platform::WindowHandle, std::weak_ptr<Control>> windows_;
 };
 
-}  // namespace bench::headless
+}  // namespace toolkit::headless

@@ -5,7 +5,7 @@
 
 #include "OrvikTypeLib/HostError.h"
 
-namespace bench {
+namespace toolkit::loop {
 
 using orvik::platform::Time;
 
@@ -34,4 +34,4 @@ std::chrono::nanoseconds Clock::SleepUntil(Time moment) const {
              : longest;
 }
 
-}  // namespace bench
+}  // namespace toolkit::loop

@@ -4,7 +4,7 @@
 
 #include "platform/Types.h"
 
-namespace bench {
+namespace toolkit::loop {
 
 /// Virtual time only changes during a wait: it jumps to the next event.
 enum class ClockKind { kVirtual, kReal };
@@ -30,4 +30,4 @@ class Clock {
   std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
 };
 
-}  // namespace bench
+}  // namespace toolkit::loop

@@ -4,7 +4,7 @@
 
 #include "OrvikTypeLib/HostError.h"
 
-namespace bench {
+namespace toolkit::loop {
 
 using orvik::platform::Time;
 
@@ -123,4 +123,4 @@ bool EventLoop::RunCalls(std::uint64_t mark) {
   return ran;
 }
 
-}  // namespace bench
+}  // namespace toolkit::loop

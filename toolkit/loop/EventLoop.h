@@ -13,7 +13,7 @@
 #include "toolkit/loop/Poller.h"
 #include "toolkit/loop/TimerQueue.h"
 
-namespace bench {
+namespace toolkit::loop {
 
 /// The outcome of a wait.
 enum class WaitOutcome {
@@ -77,4 +77,4 @@ class EventLoop final : public ILoop {
   IEventDispatcher* dispatcher_ = nullptr;
 };
 
-}  // namespace bench
+}  // namespace toolkit::loop

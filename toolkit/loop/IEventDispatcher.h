@@ -3,7 +3,7 @@
 #include <chrono>
 #include <vector>
 
-namespace bench {
+namespace toolkit::loop {
 
 /// Sleeps instead of the event loop, so that one thread serves the window system too. The window system may
 /// also run a loop of its own (an open menu, a file dialog); the dispatcher then processes the event loop.
@@ -23,4 +23,4 @@ class IEventDispatcher {
   virtual void Sleep(std::chrono::nanoseconds longest) = 0;
 };
 
-}  // namespace bench
+}  // namespace toolkit::loop

@@ -5,7 +5,7 @@
 
 #include "platform/Types.h"
 
-namespace bench {
+namespace toolkit::loop {
 
 /// The event loop as devices see it. User-interface thread only.
 class ILoop {
@@ -26,4 +26,4 @@ class ILoop {
   virtual void Forget(Id id) = 0;
 };
 
-}  // namespace bench
+}  // namespace toolkit::loop

@@ -12,7 +12,7 @@
 
 #include "OrvikTypeLib/HostError.h"
 
-namespace bench {
+namespace toolkit::loop {
 namespace {
 
 [[noreturn]] void Fail(const std::string& what) {
@@ -104,4 +104,4 @@ bool Poller::CallBack() {
   return called;
 }
 
-}  // namespace bench
+}  // namespace toolkit::loop

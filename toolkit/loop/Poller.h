@@ -9,7 +9,7 @@
 #include <memory>
 #include <vector>
 
-namespace bench {
+namespace toolkit::loop {
 
 /// Sleeps until a watched descriptor is readable or has hung up, or until woken.
 class Poller {
@@ -61,4 +61,4 @@ class Poller {
   std::uint64_t polls_ = 0;
 };
 
-}  // namespace bench
+}  // namespace toolkit::loop

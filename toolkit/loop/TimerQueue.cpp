@@ -1,6 +1,6 @@
 #include "toolkit/loop/TimerQueue.h"
 
-namespace bench {
+namespace toolkit::loop {
 
 TimerQueue::Id TimerQueue::Add(orvik::platform::Time when, std::function<void()> callback) {
   const Id id = nextId_++;
@@ -29,4 +29,4 @@ std::function<void()> TimerQueue::TakeDue(orvik::platform::Time now, Id mark) {
   return std::move(calls_.extract(calls_.begin()).mapped());
 }
 
-}  // namespace bench
+}  // namespace toolkit::loop

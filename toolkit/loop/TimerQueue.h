@@ -8,7 +8,7 @@
 
 #include "platform/Types.h"
 
-namespace bench {
+namespace toolkit::loop {
 
 /// Timed calls, earliest first; calls with equal times run in the order in which they were added.
 class TimerQueue {
@@ -37,4 +37,4 @@ class TimerQueue {
   Id nextId_ = 1;
 };
 
-}  // namespace bench
+}  // namespace toolkit::loop

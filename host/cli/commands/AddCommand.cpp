@@ -13,7 +13,7 @@
 #include "host/cli/options/NumberOption.h"
 #include "host/document/Document.h"
 
-namespace bench {
+namespace host::cli {
 
 CLI::App* AddCommand::Declare(CLI::App& program) {
   auto* command = program.add_subcommand("add", Tr("Add tests to a document and print their identifiers"));
@@ -33,35 +33,36 @@ CLI::App* AddCommand::Declare(CLI::App& program) {
   return command;
 }
 
-ElementPlace AddCommand::PlaceIn(const Document& document) const {
-  if (before_) return ElementPlace::Before(*ElementFor(document, "--before", *before_));
-  if (after_) return ElementPlace::After(*ElementFor(document, "--after", *after_));
-  if (!to_) return ElementPlace::AtEndOf(nullptr);
-  const auto sequence = ElementFor(document, "--to", *to_);
+document::ElementPlace AddCommand::PlaceIn(const document::Document& document) const {
+  if (before_) return document::ElementPlace::Before(*bench::ElementFor(document, "--before", *before_));
+  if (after_) return document::ElementPlace::After(*bench::ElementFor(document, "--after", *after_));
+  if (!to_) return document::ElementPlace::AtEndOf(nullptr);
+  const auto sequence = bench::ElementFor(document, "--to", *to_);
   if (!orvik::As<orvik::ITestContainer>(sequence))
-    throw InputError(Tr("--to %%1: the element is not a sequence; give one, or --after %%1 to add behind it",
-                        {std::to_string(*to_)}));
-  return ElementPlace::AtEndOf(sequence);
+    throw bench::InputError(
+        Tr("--to %%1: the element is not a sequence; give one, or --after %%1 to add behind it",
+           {std::to_string(*to_)}));
+  return document::ElementPlace::AtEndOf(sequence);
 }
 
-ExitStatus AddCommand::Run(const GlobalOptions& options) {
-  Workbench workbench(options);
-  const auto document = Document::Open(workbench.Host(), file_);
-  const Consequences consequences(*document, *workbench.Host());
+bench::ExitStatus AddCommand::Run(const bench::GlobalOptions& options) {
+  bench::Workbench workbench(options);
+  const auto document = document::Document::Open(workbench.Host(), file_);
+  const bench::Consequences consequences(*document, *workbench.Host());
   auto place = PlaceIn(*document);
   std::string list;
   for (const auto testId : tests_) {
     if (!workbench.PlugIn().CreateTest(testId))
-      throw InputError(
+      throw bench::InputError(
           Tr("TESTID %%1: the catalogue has no such test; \"orvik-bench tests\" prints those it has",
              {std::to_string(testId)}));
     const auto added = document->AddTest(testId, place);
-    if (place.after != 0) place = ElementPlace::After(*added);
-    list += ListOf(added, *workbench.Host()->Elements());
+    if (place.after != 0) place = document::ElementPlace::After(*added);
+    list += bench::ListOf(added, *workbench.Host()->Elements());
   }
   document->Save();
   std::cout << list << consequences.Text();
-  return ExitStatus::kPassed;
+  return bench::ExitStatus::kPassed;
 }
 
-}  // namespace bench
+}  // namespace host::cli

@@ -13,7 +13,7 @@
 #include "host/cli/commands/ArchiveCommandTrend.h"
 #include "host/cli/help/Examples.h"
 
-namespace bench {
+namespace host::cli {
 
 CLI::App* ArchiveCommand::Declare(CLI::App& program) {
   auto* archive = program.add_subcommand("archive", Tr("Keep finished documents, and ask about them later"));
@@ -52,23 +52,23 @@ CLI::App* ArchiveCommand::Declare(CLI::App& program) {
   return archive;
 }
 
-ExitStatus ArchiveCommand::Run(const GlobalOptions& options) {
+bench::ExitStatus ArchiveCommand::Run(const bench::GlobalOptions& options) {
   try {
     for (const auto& part : parts_)
       if (part.declared->parsed()) return part.command->Run(options);
-  } catch (const ArchiveError& error) {
+  } catch (const archive::ArchiveError& error) {
     switch (error.Why()) {
-      case ArchiveError::Kind::kBadInput:
-        throw InputError(error.what());
-      case ArchiveError::Kind::kBusy:
+      case archive::ArchiveError::Kind::kBadInput:
+        throw bench::InputError(error.what());
+      case archive::ArchiveError::Kind::kBusy:
         throw BusyError(orvik::HostError::kPathError, "orvik-bench", error.what());
-      case ArchiveError::Kind::kUnreachable:
-        throw IncompleteError(error.what());
+      case archive::ArchiveError::Kind::kUnreachable:
+        throw bench::IncompleteError(error.what());
     }
   }
-  throw InputError(
+  throw bench::InputError(
       Tr("archive: give a command: add, list, show, trend or export; \"orvik-bench archive --help\" "
          "explains them"));
 }
 
-}  // namespace bench
+}  // namespace host::cli

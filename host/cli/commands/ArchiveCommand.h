@@ -5,13 +5,13 @@
 
 #include "host/cli/commands/Command.h"
 
-namespace bench {
+namespace host::cli {
 
 /// `archive`: keeps finished documents for asking later. It has commands of its own.
 class ArchiveCommand final : public Command {
  public:
   CLI::App* Declare(CLI::App& program) override;
-  ExitStatus Run(const GlobalOptions& options) override;
+  bench::ExitStatus Run(const bench::GlobalOptions& options) override;
 
  private:
   struct Part {
@@ -23,4 +23,4 @@ class ArchiveCommand final : public Command {
   std::vector<Part> parts_;
 };
 
-}  // namespace bench
+}  // namespace host::cli

@@ -11,17 +11,17 @@
 #include "host/bench/InputError.h"
 #include "host/cli/output/DocumentJson.h"
 
-namespace bench {
+namespace host::cli {
 
 namespace {
 
-std::string KeyOf(Archive::Added added) {
+std::string KeyOf(archive::Archive::Added added) {
   switch (added) {
-    case Archive::Added::kNew:
+    case archive::Archive::Added::kNew:
       return "added";
-    case Archive::Added::kRevision:
+    case archive::Archive::Added::kRevision:
       return "revision";
-    case Archive::Added::kUnchanged:
+    case archive::Archive::Added::kUnchanged:
       break;
   }
   return "unchanged";
@@ -39,38 +39,38 @@ CLI::App* ArchiveCommandAdd::Declare(CLI::App& archive) {
   return command;
 }
 
-ExitStatus ArchiveCommandAdd::Run(const GlobalOptions& options) {
+bench::ExitStatus ArchiveCommandAdd::Run(const bench::GlobalOptions& options) {
   const auto documents = Read(options);
   try {
     if (!documents.empty()) {
-      auto archive = OpenArchiveToAdd(location_, options);
+      auto archive = bench::OpenArchiveToAdd(location_, options);
       for (std::size_t i = 0; i < documents.size(); ++i)
         Report(documents[i], taken_[i], archive.Add(documents[i]));
     }
-  } catch (const ArchiveError&) {
+  } catch (const archive::ArchiveError&) {
     PrintJson();  // what was added before is in the archive
     throw;
   }
   PrintJson();
-  if (refusals_.empty()) return ExitStatus::kPassed;
+  if (refusals_.empty()) return bench::ExitStatus::kPassed;
   std::string all;
   for (const auto& refusal : refusals_) all += (all.empty() ? "" : "\n") + refusal;
-  throw InputError(all);
+  throw bench::InputError(all);
 }
 
-std::vector<ArchivedDocument> ArchiveCommandAdd::Read(const GlobalOptions& options) {
-  Workbench workbench(options, Workbench::Settings::kIfReadable);
-  std::vector<ArchivedDocument> documents;
+std::vector<archive::ArchivedDocument> ArchiveCommandAdd::Read(const bench::GlobalOptions& options) {
+  bench::Workbench workbench(options, bench::Workbench::Settings::kIfReadable);
+  std::vector<archive::ArchivedDocument> documents;
   for (const auto& file : files_) {
     try {
-      auto document = EntryOf(file, workbench);
+      auto document = bench::EntryOf(file, workbench);
       if (document.entry.simulated && !simulated_) {
         Refuse(file, Tr("%%1 was not added: it was run on a simulated tester, and nothing was measured "
                         "(--simulated adds it, marked as simulated)",
                         {file}));
         continue;
       }
-      const auto reason = UnfinishedReason(document);
+      const auto reason = bench::UnfinishedReason(document);
       if (!reason.empty() && !incomplete_) {
         Refuse(file,
                Tr("%%1 is not finished and was not added: %%2; run it to its end with \"orvik-bench run "
@@ -82,7 +82,7 @@ std::vector<ArchivedDocument> ArchiveCommandAdd::Read(const GlobalOptions& optio
       taken_.push_back(file);
     } catch (const orvik::HostError& error) {
       Refuse(file, error.Description());
-    } catch (const InputError& error) {
+    } catch (const bench::InputError& error) {
       Refuse(file, error.what());
     }
   }
@@ -94,19 +94,20 @@ void ArchiveCommandAdd::Refuse(const std::string& file, const std::string& reaso
   results_.push_back({{"file", file}, {"result", "refused"}, {"reason", reason}});
 }
 
-void ArchiveCommandAdd::Report(const ArchivedDocument& document, const std::string& file,
-                               const Archive::Receipt& receipt) {
+void ArchiveCommandAdd::Report(const archive::ArchivedDocument& document, const std::string& file,
+                               const archive::Archive::Receipt& receipt) {
   results_.push_back({{"file", file},
                       {"result", KeyOf(receipt.added)},
                       {"id", receipt.id},
                       {"revision", receipt.revision},
                       {"outcome", judge::OutcomeText(document.entry.outcome)},
                       {"simulated", document.entry.simulated}});
-  if (!json_) std::cout << ReceiptText(document, file, receipt) << std::endl;  // each as soon as it is kept
+  if (!json_)
+    std::cout << bench::ReceiptText(document, file, receipt) << std::endl;  // each as soon as it is kept
 }
 
 void ArchiveCommandAdd::PrintJson() const {
   if (json_) std::cout << Indented({{"documents", results_}}) << "\n";
 }
 
-}  // namespace bench
+}  // namespace host::cli

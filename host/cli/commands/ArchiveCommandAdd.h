@@ -7,7 +7,7 @@
 #include "host/archive/Archive.h"
 #include "host/cli/commands/Command.h"
 
-namespace bench {
+namespace host::cli {
 
 /// `archive add`: adds documents to the archive. Refused ones do not keep the others out.
 class ArchiveCommandAdd final : public Command {
@@ -16,12 +16,13 @@ class ArchiveCommandAdd final : public Command {
   explicit ArchiveCommandAdd(const std::string& location) : location_(location) {}
 
   CLI::App* Declare(CLI::App& archive) override;
-  ExitStatus Run(const GlobalOptions& options) override;
+  bench::ExitStatus Run(const bench::GlobalOptions& options) override;
 
  private:
-  std::vector<ArchivedDocument> Read(const GlobalOptions& options);
+  std::vector<archive::ArchivedDocument> Read(const bench::GlobalOptions& options);
   void Refuse(const std::string& file, const std::string& reason);
-  void Report(const ArchivedDocument& document, const std::string& file, const Archive::Receipt& receipt);
+  void Report(const archive::ArchivedDocument& document, const std::string& file,
+              const archive::Archive::Receipt& receipt);
   void PrintJson() const;
 
   const std::string& location_;
@@ -35,4 +36,4 @@ class ArchiveCommandAdd final : public Command {
   nlohmann::ordered_json results_ = nlohmann::ordered_json::array();
 };
 
-}  // namespace bench
+}  // namespace host::cli

@@ -10,7 +10,7 @@
 #include "host/cli/options/NumberOption.h"
 #include "host/document/DocumentFile.h"
 
-namespace bench {
+namespace host::cli {
 
 CLI::App* ArchiveCommandExport::Declare(CLI::App& archive) {
   auto* command = archive.add_subcommand("export", Tr("Write a document of the archive as the file it was"));
@@ -23,14 +23,14 @@ CLI::App* ArchiveCommandExport::Declare(CLI::App& archive) {
   return command;
 }
 
-ExitStatus ArchiveCommandExport::Run(const GlobalOptions& options) {
-  auto file = DocumentFile::New(to_);
-  auto archive = OpenArchiveToAsk(location_, options);
-  const auto document = Fetched(archive, id_);
+bench::ExitStatus ArchiveCommandExport::Run(const bench::GlobalOptions& options) {
+  auto file = document::DocumentFile::New(to_);
+  auto archive = bench::OpenArchiveToAsk(location_, options);
+  const auto document = bench::Fetched(archive, id_);
   file.Write(document.contents);
-  const auto mark = SimulatedMark(document.entry);
+  const auto mark = bench::SimulatedMark(document.entry);
   std::cout << to_ << (mark.empty() ? "" : " ") << mark << "\n";
-  return ExitStatus::kPassed;
+  return bench::ExitStatus::kPassed;
 }
 
-}  // namespace bench
+}  // namespace host::cli

@@ -5,7 +5,7 @@
 
 #include "host/cli/commands/Command.h"
 
-namespace bench {
+namespace host::cli {
 
 /// `archive export`: writes a document of the archive as the file that it was, byte by byte.
 class ArchiveCommandExport final : public Command {
@@ -14,7 +14,7 @@ class ArchiveCommandExport final : public Command {
   explicit ArchiveCommandExport(const std::string& location) : location_(location) {}
 
   CLI::App* Declare(CLI::App& archive) override;
-  ExitStatus Run(const GlobalOptions& options) override;
+  bench::ExitStatus Run(const bench::GlobalOptions& options) override;
 
  private:
   const std::string& location_;
@@ -22,4 +22,4 @@ class ArchiveCommandExport final : public Command {
   std::string to_;
 };
 
-}  // namespace bench
+}  // namespace host::cli

@@ -4,7 +4,7 @@
 
 #include "host/cli/output/DocumentJson.h"
 
-namespace bench {
+namespace host::cli {
 
 namespace {
 
@@ -13,7 +13,7 @@ using Json = nlohmann::ordered_json;
 /// Dates and operators that are not recorded.
 Json OrNull(const std::string& text) { return text.empty() ? Json(nullptr) : Json(text); }
 
-Json JsonOf(const TrendPoint& point) {
+Json JsonOf(const archive::TrendPoint& point) {
   const auto& measurement = point.element.result.measurement;
   Json json;
   json["document"] = point.document;
@@ -26,7 +26,7 @@ Json JsonOf(const TrendPoint& point) {
   json["unit"] = point.Unit();
   json["flags"] = measurement ? measurement->flags : "";
   json["overload"] = point.Overloaded();
-  auto element = bench::JsonOf(point.element.result);
+  auto element = cli::JsonOf(point.element.result);
   for (const char* shared : {"name", "run", "operator", "status", "statusText", "verdict", "judged",
                              "recordOnly", "limits", "failedStandards", "reasons", "doubts"})
     json[shared] = std::move(element[shared]);
@@ -34,7 +34,7 @@ Json JsonOf(const TrendPoint& point) {
 }
 
 /// Those by which the document was judged, each once.
-std::vector<std::string> StandardsOf(const ArchivedDocument& document) {
+std::vector<std::string> StandardsOf(const archive::ArchivedDocument& document) {
   std::vector<std::string> names;
   for (const auto& element : document.elements)
     for (const auto& limit : element.result.limits)
@@ -45,7 +45,7 @@ std::vector<std::string> StandardsOf(const ArchivedDocument& document) {
 
 }  // namespace
 
-Json JsonOf(const ArchiveEntry& entry) {
+Json JsonOf(const archive::ArchiveEntry& entry) {
   Json json;
   json["id"] = entry.id;
   json["revision"] = entry.revision;
@@ -68,13 +68,13 @@ Json JsonOf(const ArchiveEntry& entry) {
   return json;
 }
 
-Json JsonOf(const ArchivedDocument& document) {
+Json JsonOf(const archive::ArchivedDocument& document) {
   auto json = JsonOf(ViewOf(document));
   json["archive"] = JsonOf(document.entry);
   return json;
 }
 
-Json JsonOf(const Trend& trend) {
+Json JsonOf(const archive::Trend& trend) {
   Json json;
   json["asset"] = trend.asset;
   json["testId"] = trend.testId;
@@ -86,9 +86,9 @@ Json JsonOf(const Trend& trend) {
   return json;
 }
 
-DocumentView ViewOf(const ArchivedDocument& document) {
+report::DocumentView ViewOf(const archive::ArchivedDocument& document) {
   const auto& entry = document.entry;
-  DocumentView view;
+  report::DocumentView view;
   view.path = entry.path;
   view.equipment = {entry.asset, entry.serial, entry.maker, entry.model};
   view.comment = entry.comment;
@@ -101,4 +101,4 @@ DocumentView ViewOf(const ArchivedDocument& document) {
   return view;
 }
 
-}  // namespace bench
+}  // namespace host::cli

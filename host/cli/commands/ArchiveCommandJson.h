@@ -5,16 +5,16 @@
 #include "host/archive/ArchivedDocument.h"
 #include "host/report/DocumentView.h"
 
-namespace bench {
+namespace host::cli {
 
-nlohmann::ordered_json JsonOf(const ArchiveEntry& entry);
+nlohmann::ordered_json JsonOf(const archive::ArchiveEntry& entry);
 
 /// As `show --json` printed it when the document was added, and "archive" for what the archive adds.
-nlohmann::ordered_json JsonOf(const ArchivedDocument& document);
+nlohmann::ordered_json JsonOf(const archive::ArchivedDocument& document);
 
-nlohmann::ordered_json JsonOf(const Trend& trend);
+nlohmann::ordered_json JsonOf(const archive::Trend& trend);
 
 /// What `show` prints of the document.
-DocumentView ViewOf(const ArchivedDocument& document);
+report::DocumentView ViewOf(const archive::ArchivedDocument& document);
 
-}  // namespace bench
+}  // namespace host::cli

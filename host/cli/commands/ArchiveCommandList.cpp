@@ -14,24 +14,24 @@
 #include "host/cli/options/NumberOption.h"
 #include "host/cli/output/DocumentJson.h"
 
-namespace bench {
+namespace host::cli {
 
 namespace {
 
-using report::VisibleText;
+using host::VisibleText;
 
 std::vector<std::string> ListHeading() {
   return {Tr("ID"), Tr("Date"), Tr("Revision"), Tr("Outcome"), Tr("Asset"), Tr("Serial number")};
 }
 
-std::string MarksOf(const ArchiveEntry& entry) {
+std::string MarksOf(const archive::ArchiveEntry& entry) {
   std::vector<std::string> marks;
   if (!entry.finished) marks.push_back(Tr("(not finished)"));
-  if (entry.simulated) marks.push_back(SimulatedMark(entry));
+  if (entry.simulated) marks.push_back(bench::SimulatedMark(entry));
   return Joined(marks, " ");
 }
 
-std::vector<std::string> LineOf(const ArchiveEntry& entry) {
+std::vector<std::string> LineOf(const archive::ArchiveEntry& entry) {
   return {std::to_string(entry.id),
           VisibleText(entry.Date()),
           std::to_string(entry.revision) + "/" + std::to_string(entry.revisions),
@@ -59,27 +59,28 @@ CLI::App* ArchiveCommandList::Declare(CLI::App& archive) {
   return command;
 }
 
-Archive::Filter ArchiveCommandList::Checked() const {
-  Archive::Filter filter{asset_, serial_, {}, outcome_, {}};
+archive::Archive::Filter ArchiveCommandList::Checked() const {
+  archive::Archive::Filter filter{asset_, serial_, {}, outcome_, {}};
   if (!since_.empty()) {
-    const auto since = UtcText(since_);
+    const auto since = archive::UtcText(since_);
     if (!since)
-      throw InputError(
+      throw bench::InputError(
           Tr("--since %%1: invalid date; write it as 2026-01-31 or 2026-01-31T08:00Z", {since_}));
     filter.since = *since;
   }
   if (!outcome_.empty() && outcome_ != "passed" && outcome_ != "failed" && outcome_ != "incomplete")
-    throw InputError(Tr("--outcome %%1: give passed, failed or incomplete", {outcome_}));
+    throw bench::InputError(Tr("--outcome %%1: give passed, failed or incomplete", {outcome_}));
   if (limitOption_->count() > 0) {
-    if (limit_ < 1) throw InputError(Tr("--limit %%1: give a number from 1 on", {std::to_string(limit_)}));
+    if (limit_ < 1)
+      throw bench::InputError(Tr("--limit %%1: give a number from 1 on", {std::to_string(limit_)}));
     filter.limit = limit_;
   }
   return filter;
 }
 
-ExitStatus ArchiveCommandList::Run(const GlobalOptions& options) {
+bench::ExitStatus ArchiveCommandList::Run(const bench::GlobalOptions& options) {
   const auto filter = Checked();
-  auto archive = OpenArchiveToAsk(location_, options);
+  auto archive = bench::OpenArchiveToAsk(location_, options);
   const auto entries = archive.List(filter);
   if (json_) {
     nlohmann::ordered_json json;
@@ -94,7 +95,7 @@ ExitStatus ArchiveCommandList::Run(const GlobalOptions& options) {
     for (const auto& entry : entries) lines.push_back(LineOf(entry));
     std::cout << Columned(lines, {0});
   }
-  return ExitStatus::kPassed;
+  return bench::ExitStatus::kPassed;
 }
 
-}  // namespace bench
+}  // namespace host::cli

@@ -6,7 +6,7 @@
 #include "host/archive/Archive.h"
 #include "host/cli/commands/Command.h"
 
-namespace bench {
+namespace host::cli {
 
 /// `archive list`: prints the documents of the archive.
 class ArchiveCommandList final : public Command {
@@ -15,10 +15,10 @@ class ArchiveCommandList final : public Command {
   explicit ArchiveCommandList(const std::string& location) : location_(location) {}
 
   CLI::App* Declare(CLI::App& archive) override;
-  ExitStatus Run(const GlobalOptions& options) override;
+  bench::ExitStatus Run(const bench::GlobalOptions& options) override;
 
  private:
-  Archive::Filter Checked() const;
+  archive::Archive::Filter Checked() const;
 
   const std::string& location_;
   std::string asset_, serial_, since_, outcome_;
@@ -27,4 +27,4 @@ class ArchiveCommandList final : public Command {
   bool json_ = false;
 };
 
-}  // namespace bench
+}  // namespace host::cli

@@ -12,17 +12,17 @@
 #include "host/cli/output/DocumentJson.h"
 #include "host/cli/output/DocumentLines.h"
 
-namespace bench {
+namespace host::cli {
 
 namespace {
 
-using report::VisibleText;
+using host::VisibleText;
 
 void AddLine(std::string& text, const std::string& line, const std::string& value) {
   if (!value.empty()) text += line + "\n";
 }
 
-std::string HeadOf(const ArchiveEntry& entry) {
+std::string HeadOf(const archive::ArchiveEntry& entry) {
   std::string text =
       Tr("Document %%1, revision %%2 of %%3",
          {std::to_string(entry.id), std::to_string(entry.revision), std::to_string(entry.revisions)}) +
@@ -50,14 +50,14 @@ CLI::App* ArchiveCommandShow::Declare(CLI::App& archive) {
   return command;
 }
 
-ExitStatus ArchiveCommandShow::Run(const GlobalOptions& options) {
-  auto archive = OpenArchiveToAsk(location_, options);
-  const auto document = Fetched(archive, id_);
+bench::ExitStatus ArchiveCommandShow::Run(const bench::GlobalOptions& options) {
+  auto archive = bench::OpenArchiveToAsk(location_, options);
+  const auto document = bench::Fetched(archive, id_);
   if (json_)
     std::cout << Indented(JsonOf(document)) << "\n";
   else
     std::cout << HeadOf(document.entry) << TextOf(ViewOf(document));
-  return ExitStatus::kPassed;
+  return bench::ExitStatus::kPassed;
 }
 
-}  // namespace bench
+}  // namespace host::cli

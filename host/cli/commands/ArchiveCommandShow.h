@@ -5,7 +5,7 @@
 
 #include "host/cli/commands/Command.h"
 
-namespace bench {
+namespace host::cli {
 
 /// `archive show`: prints a document of the archive.
 class ArchiveCommandShow final : public Command {
@@ -14,7 +14,7 @@ class ArchiveCommandShow final : public Command {
   explicit ArchiveCommandShow(const std::string& location) : location_(location) {}
 
   CLI::App* Declare(CLI::App& archive) override;
-  ExitStatus Run(const GlobalOptions& options) override;
+  bench::ExitStatus Run(const bench::GlobalOptions& options) override;
 
  private:
   const std::string& location_;
@@ -22,4 +22,4 @@ class ArchiveCommandShow final : public Command {
   bool json_ = false;
 };
 
-}  // namespace bench
+}  // namespace host::cli

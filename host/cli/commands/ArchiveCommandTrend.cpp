@@ -17,15 +17,15 @@
 #include "host/cli/options/NumberOption.h"
 #include "host/cli/output/DocumentJson.h"
 
-namespace bench {
+namespace host::cli {
 
 namespace {
 
-using report::VisibleText;
+using host::VisibleText;
 
 constexpr std::size_t kValueColumn = 1;
 
-std::string ValueText(const TrendPoint& point) {
+std::string ValueText(const archive::TrendPoint& point) {
   if (point.Overloaded()) return "OL";
   const auto value = point.Value();
   return value ? ShortNumber(*value) : "-";
@@ -35,11 +35,11 @@ std::vector<std::string> TrendHeading() {
   return {Tr("Date"), Tr("Value"), Tr("Unit"), Tr("Status"), Tr("Document"), Tr("Element"), Tr("Limits")};
 }
 
-std::vector<std::string> LineOf(const TrendPoint& point) {
+std::vector<std::string> LineOf(const archive::TrendPoint& point) {
   const auto& result = point.element.result;
   std::string limits;
   for (const auto& limit : result.limits)
-    if (limit.selected) limits += (limits.empty() ? "" : "; ") + VisibleText(LimitText(limit));
+    if (limit.selected) limits += (limits.empty() ? "" : "; ") + VisibleText(archive::LimitText(limit));
   return {VisibleText(point.date) + (point.dated ? "" : "*"),
           ValueText(point),
           VisibleText(point.Unit()),
@@ -50,7 +50,7 @@ std::vector<std::string> LineOf(const TrendPoint& point) {
 }
 
 /// What the trend leaves out, and why; a line each.
-std::string LeftOutText(const Trend& trend) {
+std::string LeftOutText(const archive::Trend& trend) {
   std::string text;
   if (trend.otherKind > 0)
     text += Tr(trend.simulated ? Marked("Real readings left out: %%1")
@@ -80,23 +80,25 @@ CLI::App* ArchiveCommandTrend::Declare(CLI::App& archive) {
   return command;
 }
 
-ExitStatus ArchiveCommandTrend::Run(const GlobalOptions& options) {
+bench::ExitStatus ArchiveCommandTrend::Run(const bench::GlobalOptions& options) {
   if (!to_.empty() && LowerAscii(std::filesystem::path(to_).extension().string()) != ".svg")
-    throw InputError(Tr("--to %%1: pictures are written as SVG; give a name that ends in .svg", {to_}));
-  auto archive = OpenArchiveToAsk(location_, options);
+    throw bench::InputError(
+        Tr("--to %%1: pictures are written as SVG; give a name that ends in .svg", {to_}));
+  auto archive = bench::OpenArchiveToAsk(location_, options);
   const auto trend = archive.TrendOf(asset_, test_, simulated_);
   const auto leftOut = LeftOutText(trend);
   if (trend.points.empty())
-    throw InputError(Tr("the archive %%1 has no results of test %%2 of asset %%3; \"orvik-bench archive list "
-                        "--asset ASSET\" and \"archive show ID\" show what it has",
-                        {archive.Name(), std::to_string(test_), VisibleText(asset_)}) +
-                     (leftOut.empty() ? "" : "\n" + leftOut.substr(0, leftOut.size() - 1)));
-  if (!to_.empty()) ReplaceFile(to_, TrendChart(trend));
+    throw bench::InputError(
+        Tr("the archive %%1 has no results of test %%2 of asset %%3; \"orvik-bench archive list "
+           "--asset ASSET\" and \"archive show ID\" show what it has",
+           {archive.Name(), std::to_string(test_), VisibleText(asset_)}) +
+        (leftOut.empty() ? "" : "\n" + leftOut.substr(0, leftOut.size() - 1)));
+  if (!to_.empty()) ReplaceFile(to_, archive::TrendChart(trend));
   Print(trend);
-  return ExitStatus::kPassed;
+  return bench::ExitStatus::kPassed;
 }
 
-void ArchiveCommandTrend::Print(const Trend& trend) const {
+void ArchiveCommandTrend::Print(const archive::Trend& trend) const {
   if (json_) {
     std::cout << Indented(JsonOf(trend)) << "\n";
     return;
@@ -116,4 +118,4 @@ void ArchiveCommandTrend::Print(const Trend& trend) const {
   if (!to_.empty()) std::cout << to_ << "\n";
 }
 
-}  // namespace bench
+}  // namespace host::cli

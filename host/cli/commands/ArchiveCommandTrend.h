@@ -6,7 +6,7 @@
 #include "host/archive/ArchivedDocument.h"
 #include "host/cli/commands/Command.h"
 
-namespace bench {
+namespace host::cli {
 
 /// `archive trend`: shows and plots the readings of one test of one asset over time.
 class ArchiveCommandTrend final : public Command {
@@ -15,10 +15,10 @@ class ArchiveCommandTrend final : public Command {
   explicit ArchiveCommandTrend(const std::string& location) : location_(location) {}
 
   CLI::App* Declare(CLI::App& archive) override;
-  ExitStatus Run(const GlobalOptions& options) override;
+  bench::ExitStatus Run(const bench::GlobalOptions& options) override;
 
  private:
-  void Print(const Trend& trend) const;
+  void Print(const archive::Trend& trend) const;
 
   const std::string& location_;
   std::string asset_, to_;
@@ -27,4 +27,4 @@ class ArchiveCommandTrend final : public Command {
   bool json_ = false;
 };
 
-}  // namespace bench
+}  // namespace host::cli

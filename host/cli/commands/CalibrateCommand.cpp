@@ -20,21 +20,21 @@
 #include "host/cli/output/ProgressLines.h"
 #include "host/run/StopSignals.h"
 
-namespace bench {
+namespace host::cli {
 
 namespace {
 
 using Json = nlohmann::ordered_json;
-using report::VisibleText;
+using host::VisibleText;
 
 /// What is wrong with a value, as programs read it; null when nothing is.
-Json ProblemOf(const LeadCalibration& leads) {
+Json ProblemOf(const run::LeadCalibration& leads) {
   if (leads.Plausible()) return nullptr;
   if (!leads.milliohms) return "not-a-number";
   return *leads.milliohms < 0 ? "negative" : "too-high";
 }
 
-std::string TextOf(const std::vector<LeadCalibration>& stored) {
+std::string TextOf(const std::vector<run::LeadCalibration>& stored) {
   if (stored.empty())
     return Tr("No test leads have been measured yet; \"orvik-bench calibrate --port DEVICE\" measures those "
               "of a tester.") +
@@ -43,17 +43,19 @@ std::string TextOf(const std::vector<LeadCalibration>& stored) {
   std::vector<std::vector<std::string>> lines{{Tr("Serial number"), "mOhm"}};
   for (const auto& leads : stored)
     lines.push_back({VisibleText(leads.serial), leads.milliohms ? std::to_string(*leads.milliohms) : "-",
-                     MeasuredText(leads.measured), LeadsRemark(leads)});
+                     run::MeasuredText(leads.measured), bench::LeadsRemark(leads)});
   return Columned(lines, {kNumbers});
 }
 
-Json MilliohmsOf(const LeadCalibration& leads) {
+Json MilliohmsOf(const run::LeadCalibration& leads) {
   return leads.milliohms ? Json(*leads.milliohms) : Json(nullptr);
 }
 
-Json DateOf(const LeadCalibration& leads) { return leads.measured ? Json(*leads.measured) : Json(nullptr); }
+Json DateOf(const run::LeadCalibration& leads) {
+  return leads.measured ? Json(*leads.measured) : Json(nullptr);
+}
 
-Json JsonOf(const std::vector<LeadCalibration>& stored) {
+Json JsonOf(const std::vector<run::LeadCalibration>& stored) {
   auto testers = Json::array();
   for (const auto& leads : stored)
     testers.push_back({{"serial", leads.serial},
@@ -63,7 +65,7 @@ Json JsonOf(const std::vector<LeadCalibration>& stored) {
   return {{"instruments", std::move(testers)}};
 }
 
-Json JsonOf(const LeadCalibration& stored, const std::string& type) {
+Json JsonOf(const run::LeadCalibration& stored, const std::string& type) {
   return {{"instrument",
            {{"type", type},
             {"serial", stored.serial},
@@ -94,14 +96,14 @@ CLI::App* CalibrateCommand::Declare(CLI::App& program) {
   return command;
 }
 
-void CalibrateCommand::Operate(Workbench& workbench, CalibrationWindow& window) const {
+void CalibrateCommand::Operate(bench::Workbench& workbench, bench::CalibrationWindow& window) const {
   auto& wire = *workbench.Ports().TheWire();
   const auto& application = workbench.Application();
   ProgressLines progress(std::cerr, STDERR_FILENO, application, workbench.TimeScale());
-  StopProgress stop(wire, *application, workbench.TimeScale());
-  const auto watch = wire.Subscribe([&](const WireRecord& record) { progress.Wire(record); });
+  bench::StopProgress stop(wire, *application, workbench.TimeScale());
+  const auto watch = wire.Subscribe([&](const serial::WireRecord& record) { progress.Wire(record); });
   if (const auto remark = tester_.TimeRemark(); !remark.empty()) progress.Remark(remark);
-  const StopSignals signals(*application, [&](int) {
+  const run::StopSignals signals(*application, [&](int) {
     if (stop.Begun()) return progress.Remark(stop.Text());
     progress.Remark(Tr("Stopping: nothing is stored, and the session with the tester is closed."));
     stop.Begin();
@@ -110,33 +112,33 @@ void CalibrateCommand::Operate(Workbench& workbench, CalibrationWindow& window) 
   window.Run();
 }
 
-ExitStatus CalibrateCommand::Run(const GlobalOptions& options) {
+bench::ExitStatus CalibrateCommand::Run(const bench::GlobalOptions& options) {
   if (list_)
     List(options);
   else
     Measure(options);
-  return ExitStatus::kPassed;
+  return bench::ExitStatus::kPassed;
 }
 
-void CalibrateCommand::List(const GlobalOptions& options) const {
-  const auto stored = StoredLeads(RegistryStore(files::StateFolder(options.state)));
+void CalibrateCommand::List(const bench::GlobalOptions& options) const {
+  const auto stored = run::StoredLeads(RegistryStore(bench::files::StateFolder(options.state)));
   std::cout << (json_ ? Indented(JsonOf(stored)) + "\n" : TextOf(stored));
 }
 
-void CalibrateCommand::Measure(const GlobalOptions& options) {
+void CalibrateCommand::Measure(const bench::GlobalOptions& options) {
   tester_.Check();
-  Workbench workbench(options, tester_.TimeScale());
+  bench::Workbench workbench(options, tester_.TimeScale());
   tester_.Connect(workbench.Ports());
-  CalibrationWindow window(workbench, serial_);
+  bench::CalibrationWindow window(workbench, serial_);
   Operate(workbench, window);
   const auto& stored = workbench.Leads().Value();
   if (!stored) {
     const auto reason = Tr("calibrate: %%1", {window.Reason()});
     if (workbench.Leads().RegistryWasBusy())
       throw BusyError(orvik::HostError::kPathError, "orvik-bench", reason);
-    throw IncompleteError(reason);
+    throw bench::IncompleteError(reason);
   }
-  std::cout << (json_ ? Indented(JsonOf(*stored, window.TesterType())) : TextOf(*stored)) << "\n";
+  std::cout << (json_ ? Indented(JsonOf(*stored, window.TesterType())) : bench::TextOf(*stored)) << "\n";
 }
 
-}  // namespace bench
+}  // namespace host::cli

@@ -5,21 +5,23 @@
 #include "host/cli/commands/Command.h"
 #include "host/cli/options/TesterOptions.h"
 
-namespace bench {
-
+namespace host::bench {
 class CalibrationWindow;
+}
+
+namespace host::cli {
 
 /// `calibrate`: has the tester measure the resistance of its test leads, and stores it under its serial
 /// number; with --list, shows the values that are stored.
 class CalibrateCommand final : public Command {
  public:
   CLI::App* Declare(CLI::App& program) override;
-  ExitStatus Run(const GlobalOptions& options) override;
+  bench::ExitStatus Run(const bench::GlobalOptions& options) override;
 
  private:
-  void List(const GlobalOptions& options) const;
-  void Measure(const GlobalOptions& options);
-  void Operate(Workbench& workbench, CalibrationWindow& window) const;
+  void List(const bench::GlobalOptions& options) const;
+  void Measure(const bench::GlobalOptions& options);
+  void Operate(bench::Workbench& workbench, bench::CalibrationWindow& window) const;
 
   TesterOptions tester_;
   std::string serial_;
@@ -27,4 +29,4 @@ class CalibrateCommand final : public Command {
   bool json_ = false;
 };
 
-}  // namespace bench
+}  // namespace host::cli

@@ -16,16 +16,16 @@
 #include "host/elements/ElementFactory.h"
 #include "host/report/DocumentView.h"
 
-namespace bench {
+namespace host::cli {
 
 namespace {
 
-std::size_t CountWrong(const std::vector<Finding>& findings) {
-  return static_cast<std::size_t>(
-      std::count_if(findings.begin(), findings.end(), [](const Finding& found) { return found.wrong; }));
+std::size_t CountWrong(const std::vector<document::Finding>& findings) {
+  return static_cast<std::size_t>(std::count_if(findings.begin(), findings.end(),
+                                                [](const document::Finding& found) { return found.wrong; }));
 }
 
-nlohmann::ordered_json JsonOf(const std::string& file, const std::vector<Finding>& findings) {
+nlohmann::ordered_json JsonOf(const std::string& file, const std::vector<document::Finding>& findings) {
   auto all = nlohmann::ordered_json::array();
   for (const auto& found : findings)
     all.push_back({{"kind", found.wrong ? "wrong" : "note"},
@@ -47,27 +47,29 @@ CLI::App* CheckCommand::Declare(CLI::App& program) {
   return command;
 }
 
-ExitStatus CheckCommand::Run(const GlobalOptions& options) {
+bench::ExitStatus CheckCommand::Run(const bench::GlobalOptions& options) {
   const auto text = ReadFile(file_);
-  Workbench workbench(options, Workbench::Settings::kIfReadable);
-  auto findings = CheckDocument(text, *workbench.Host()->Elements());
+  bench::Workbench workbench(options, bench::Workbench::Settings::kIfReadable);
+  auto findings = document::CheckDocument(text, *workbench.Host()->Elements());
   if (CountWrong(findings) == 0) {
     // An error that prevents opening the document is a problem of it too.
     try {
-      const auto document = Document::Open(workbench.Host(), file_, DocumentFile::Use::kRead);
-      const auto judged = CheckJudged(text, ViewOf(*document, *workbench.Host()).judged);
+      const auto document =
+          document::Document::Open(workbench.Host(), file_, document::DocumentFile::Use::kRead);
+      const auto judged = bench::CheckJudged(text, report::ViewOf(*document, *workbench.Host()).judged);
       findings.insert(findings.end(), judged.begin(), judged.end());
-      std::stable_sort(findings.begin(), findings.end(),
-                       [](const Finding& one, const Finding& other) { return one.line < other.line; });
+      std::stable_sort(
+          findings.begin(), findings.end(),
+          [](const document::Finding& one, const document::Finding& other) { return one.line < other.line; });
     } catch (const orvik::HostError& error) {
       findings.push_back({true, 1, 1, error.Description()});
     }
   }
   Print(findings);
-  return CountWrong(findings) == 0 ? ExitStatus::kPassed : ExitStatus::kBadInput;
+  return CountWrong(findings) == 0 ? bench::ExitStatus::kPassed : bench::ExitStatus::kBadInput;
 }
 
-void CheckCommand::Print(const std::vector<Finding>& findings) const {
+void CheckCommand::Print(const std::vector<document::Finding>& findings) const {
   if (json_) {
     std::cout << Indented(JsonOf(file_, findings)) << "\n";
     return;
@@ -86,4 +88,4 @@ void CheckCommand::Print(const std::vector<Finding>& findings) const {
             << "\n";
 }
 
-}  // namespace bench
+}  // namespace host::cli

@@ -6,19 +6,19 @@
 #include "host/cli/commands/Command.h"
 #include "host/document/Findings.h"
 
-namespace bench {
+namespace host::cli {
 
 /// `check`: reports all problems of a document.
 class CheckCommand final : public Command {
  public:
   CLI::App* Declare(CLI::App& program) override;
-  ExitStatus Run(const GlobalOptions& options) override;
+  bench::ExitStatus Run(const bench::GlobalOptions& options) override;
 
  private:
-  void Print(const std::vector<Finding>& findings) const;
+  void Print(const std::vector<document::Finding>& findings) const;
 
   std::string file_;
   bool json_ = false;
 };
 
-}  // namespace bench
+}  // namespace host::cli

@@ -8,7 +8,7 @@ class App;
 class Option;
 }  // namespace CLI
 
-namespace bench {
+namespace host::cli {
 
 /// One command of the program: it declares its options and runs.
 class Command {
@@ -21,7 +21,7 @@ class Command {
   /// Adds the command with its options.
   virtual CLI::App* Declare(CLI::App& program) = 0;
   /// Runs it; errors are thrown.
-  virtual ExitStatus Run(const GlobalOptions& options) = 0;
+  virtual bench::ExitStatus Run(const bench::GlobalOptions& options) = 0;
 };
 
-}  // namespace bench
+}  // namespace host::cli

@@ -20,7 +20,7 @@
 #include "host/document/Document.h"
 #include "host/document/SavedSettings.h"
 
-namespace bench {
+namespace host::cli {
 
 namespace {
 
@@ -40,22 +40,23 @@ constexpr std::array<Button, 4> kButtons{{{"--allow-na", orvik::OptionBits::kOff
                                           {"--no-skip", orvik::OptionBits::kOffersSkip, false}}};
 
 /// The settings as the element saves them now.
-SavedSettings SettingsOf(const orvik::IConfigData& configuration) {
-  SavedSettings saved(configuration);
+document::SavedSettings SettingsOf(const orvik::IConfigData& configuration) {
+  document::SavedSettings saved(configuration);
   if (!saved.Settings())
-    throw InputError(Tr("--element: this element has no settings that can be changed here"));
+    throw bench::InputError(Tr("--element: this element has no settings that can be changed here"));
   return saved;
 }
 
-std::int32_t OptionBitsOf(const SavedSettings& saved) {
-  return WholeNumber(saved.Settings()->Attribute(SavedSettings::kOptions)).value_or(0);
+std::int32_t OptionBitsOf(const document::SavedSettings& saved) {
+  return WholeNumber(saved.Settings()->Attribute(document::SavedSettings::kOptions)).value_or(0);
 }
 
-std::string Answer(const orvik::ITestElement& element, const SavedSettings& saved, bool withFilter) {
+std::string Answer(const orvik::ITestElement& element, const document::SavedSettings& saved,
+                   bool withFilter) {
   const auto set = OptionBitsOf(saved);
   auto text = Tr("element %%1: options %%2 (%%3)", {std::to_string(element.ID()), std::to_string(set),
-                                                    options::InWords(set, element.TestID())});
-  if (withFilter) text += Tr(", filter %%1", {saved.Settings()->Attribute(SavedSettings::kFilter)});
+                                                    bench::options::InWords(set, element.TestID())});
+  if (withFilter) text += Tr(", filter %%1", {saved.Settings()->Attribute(document::SavedSettings::kFilter)});
   return text + "\n";
 }
 
@@ -105,45 +106,48 @@ bool ConfigCommand::ChangesOptions() const {
 
 std::int32_t ConfigCommand::Changed(std::int32_t settings, std::int32_t testId) const {
   if (Given(kOptions)) return settings_;
-  if (Given(kLeads)) settings = options::WithLeads(settings, testId, leads_);
+  if (Given(kLeads)) settings = bench::options::WithLeads(settings, testId, leads_);
   for (const auto& button : kButtons) {
     if (Given(button.flag)) settings = button.offered ? settings | button.bit : settings & ~button.bit;
   }
   return settings;
 }
 
-ExitStatus ConfigCommand::Run(const GlobalOptions& options) {
+bench::ExitStatus ConfigCommand::Run(const bench::GlobalOptions& options) {
   if (settings_ < 0 || settings_ > orvik::OptionBits::kEveryOption)
-    throw InputError(Tr("--options %%1: give a number from 0 to 8191", {std::to_string(settings_)}));
-  Workbench workbench(options);
+    throw bench::InputError(Tr("--options %%1: give a number from 0 to 8191", {std::to_string(settings_)}));
+  bench::Workbench workbench(options);
   const bool changes = ChangesOptions() || Given(kFilter);
-  const auto document =
-      Document::Open(workbench.Host(), file_, changes ? DocumentFile::Use::kWrite : DocumentFile::Use::kRead);
-  const auto element = ElementFor(*document, "--element", element_);
+  const auto document = document::Document::Open(
+      workbench.Host(), file_,
+      changes ? document::DocumentFile::Use::kWrite : document::DocumentFile::Use::kRead);
+  const auto element = bench::ElementFor(*document, "--element", element_);
   const auto configuration = element->Configuration();
-  if (!configuration) throw InputError(Tr("--element %%1: it has no settings", {std::to_string(element_)}));
+  if (!configuration)
+    throw bench::InputError(Tr("--element %%1: it has no settings", {std::to_string(element_)}));
   const bool withFilter = Given(kFilter) || orvik::As<orvik::ITestContainer>(element);
   if (!changes) {
     std::cout << Answer(*element, SettingsOf(*configuration), withFilter);
-    return ExitStatus::kPassed;
+    return bench::ExitStatus::kPassed;
   }
 
-  const Consequences consequences(*document, *workbench.Host());
+  const bench::Consequences consequences(*document, *workbench.Host());
   const auto wanted = SettingsOf(*configuration);
   if (ChangesOptions())
-    wanted.Settings()->SetAttribute(SavedSettings::kOptions,
+    wanted.Settings()->SetAttribute(document::SavedSettings::kOptions,
                                     std::to_string(Changed(OptionBitsOf(wanted), element->TestID())));
-  if (Given(kFilter)) wanted.Settings()->SetAttribute(SavedSettings::kFilter, filter_);
+  if (Given(kFilter)) wanted.Settings()->SetAttribute(document::SavedSettings::kFilter, filter_);
   configuration->Load(wanted.Node());
   // What the element now says of itself is what it has taken.
   const auto taken = SettingsOf(*configuration);
-  if (Given(kFilter) && (filter_.empty() || taken.Settings()->Attribute(SavedSettings::kFilter) != filter_))
-    throw InputError(
+  if (Given(kFilter) &&
+      (filter_.empty() || taken.Settings()->Attribute(document::SavedSettings::kFilter) != filter_))
+    throw bench::InputError(
         Tr("--filter %%1: give \"No values\", \"All values\", \"Maximum value\" or \"Minimum value\"",
            {filter_}));
   document->Save();
   std::cout << Answer(*element, taken, withFilter) << consequences.Text();
-  return ExitStatus::kPassed;
+  return bench::ExitStatus::kPassed;
 }
 
-}  // namespace bench
+}  // namespace host::cli

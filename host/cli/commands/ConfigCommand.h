@@ -5,13 +5,13 @@
 
 #include "host/cli/commands/Command.h"
 
-namespace bench {
+namespace host::cli {
 
 /// `config`: shows and changes the settings of an element.
 class ConfigCommand final : public Command {
  public:
   CLI::App* Declare(CLI::App& program) override;
-  ExitStatus Run(const GlobalOptions& options) override;
+  bench::ExitStatus Run(const bench::GlobalOptions& options) override;
 
  private:
   bool Given(const char* option) const;
@@ -25,4 +25,4 @@ class ConfigCommand final : public Command {
   CLI::App* command_ = nullptr;
 };
 
-}  // namespace bench
+}  // namespace host::cli

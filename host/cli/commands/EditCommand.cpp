@@ -10,14 +10,14 @@
 #include "host/cli/help/Examples.h"
 #include "host/cli/options/EquipmentOptions.h"
 
-namespace bench {
+namespace host::cli {
 
 namespace {
 
-std::string FieldsOf(const Document& document) {
+std::string FieldsOf(const document::Document& document) {
   const auto& equipment = document.equipment;
   const auto shown = [](const std::string& value) {
-    return value.empty() ? std::string("-") : report::VisibleText(value);
+    return value.empty() ? std::string("-") : host::VisibleText(value);
   };
   return Columned({{Tr("Asset number"), shown(equipment.asset)},
                    {Tr("Serial number"), shown(equipment.serial)},
@@ -48,7 +48,7 @@ CLI::App* EditCommand::Declare(CLI::App& program) {
   return command;
 }
 
-void EditCommand::Change(Document& document) const {
+void EditCommand::Change(document::Document& document) const {
   if (Given("--asset")) document.equipment.asset = equipment_.asset;
   if (Given("--serial")) document.equipment.serial = equipment_.serial;
   if (Given("--maker")) document.equipment.maker = equipment_.maker;
@@ -56,22 +56,23 @@ void EditCommand::Change(Document& document) const {
   if (Given("--comment")) document.comment = comment_;
 }
 
-ExitStatus EditCommand::Run(const GlobalOptions& options) {
-  Workbench workbench(options);
+bench::ExitStatus EditCommand::Run(const bench::GlobalOptions& options) {
+  bench::Workbench workbench(options);
   bool changes = false;
   for (const auto* option : {"--asset", "--serial", "--maker", "--model", "--comment"})
     changes = changes || Given(option);
-  const auto document =
-      Document::Open(workbench.Host(), file_, changes ? DocumentFile::Use::kWrite : DocumentFile::Use::kRead);
+  const auto document = document::Document::Open(
+      workbench.Host(), file_,
+      changes ? document::DocumentFile::Use::kWrite : document::DocumentFile::Use::kRead);
   if (!changes) {
     std::cout << FieldsOf(*document);
-    return ExitStatus::kPassed;
+    return bench::ExitStatus::kPassed;
   }
-  const Consequences consequences(*document, *workbench.Host());
+  const bench::Consequences consequences(*document, *workbench.Host());
   Change(*document);
   document->Save();
   std::cout << FieldsOf(*document) << consequences.Text();
-  return ExitStatus::kPassed;
+  return bench::ExitStatus::kPassed;
 }
 
-}  // namespace bench
+}  // namespace host::cli

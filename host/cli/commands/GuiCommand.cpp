@@ -6,7 +6,7 @@
 #include "host/bench/ProgramFiles.h"
 #include "host/cli/options/TesterOptions.h"
 
-namespace bench {
+namespace host::cli {
 
 CLI::App* GuiCommand::Declare(CLI::App& program) {
   auto* command =
@@ -29,11 +29,12 @@ CLI::App* GuiCommand::Declare(CLI::App& program) {
   return command;
 }
 
-ExitStatus GuiCommand::Run(const GlobalOptions& options) {
+bench::ExitStatus GuiCommand::Run(const bench::GlobalOptions& options) {
   options_.state = options.state;
   options_.catalogue = options.catalogue;
   options_.language = options.language;
-  return RunDesktopModule(options_, files::DesktopModule()) ? ExitStatus::kPassed : ExitStatus::kIncomplete;
+  return bench::RunDesktopModule(options_, bench::files::DesktopModule()) ? bench::ExitStatus::kPassed
+                                                                          : bench::ExitStatus::kIncomplete;
 }
 
-}  // namespace bench
+}  // namespace host::cli

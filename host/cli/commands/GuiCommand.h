@@ -3,16 +3,16 @@
 #include "host/bench/DesktopModule.h"
 #include "host/cli/commands/Command.h"
 
-namespace bench {
+namespace host::cli {
 
 /// `gui`: opens the window of the desktop program.
 class GuiCommand final : public Command {
  public:
   CLI::App* Declare(CLI::App& program) override;
-  ExitStatus Run(const GlobalOptions& options) override;
+  bench::ExitStatus Run(const bench::GlobalOptions& options) override;
 
  private:
-  DesktopOptions options_;
+  bench::DesktopOptions options_;
 };
 
-}  // namespace bench
+}  // namespace host::cli

@@ -23,7 +23,7 @@
 #include "host/report/DocumentView.h"
 #include "host/standards/LimitSets.h"
 
-namespace bench {
+namespace host::cli {
 
 namespace {
 
@@ -40,7 +40,8 @@ constexpr char kRemove[] = "--remove";
 
 std::shared_ptr<orvik::ILimitData> LimitsFor(orvik::ITestElement& element) {
   auto limits = element.Limits();
-  if (!limits) throw InputError(Tr("--element %%1 does not take limits", {std::to_string(element.ID())}));
+  if (!limits)
+    throw bench::InputError(Tr("--element %%1 does not take limits", {std::to_string(element.ID())}));
   return limits;
 }
 
@@ -85,20 +86,20 @@ CLI::App* LimitCommand::Declare(CLI::App& program) {
   return command;
 }
 
-ExitStatus LimitCommand::Run(const GlobalOptions& options) {
+bench::ExitStatus LimitCommand::Run(const bench::GlobalOptions& options) {
   Check();
-  Workbench workbench(options);
-  const auto document = Document::Open(workbench.Host(), file_);
-  const Consequences consequences(*document, *workbench.Host());
+  bench::Workbench workbench(options);
+  const auto document = document::Document::Open(workbench.Host(), file_);
+  const bench::Consequences consequences(*document, *workbench.Host());
   const auto lines = Change(workbench, *document, options);
   document->Save();
   std::cout << lines << consequences.Text();
-  return ExitStatus::kPassed;
+  return bench::ExitStatus::kPassed;
 }
 
 void LimitCommand::RefuseTogether(const std::string& option, const std::vector<std::string>& others) const {
   for (const auto& other : others) {
-    if (Given(option) && Given(other)) throw InputError(Tr("%%1 excludes %%2", {option, other}));
+    if (Given(option) && Given(other)) throw bench::InputError(Tr("%%1 excludes %%2", {option, other}));
   }
 }
 
@@ -106,46 +107,46 @@ void LimitCommand::Check() const {
   RefuseTogether(kFrom, {kStandard, kDescription, kLow, kHigh, kUnit, kRecordOnly, kRemove});
   RefuseTogether(kRecordOnly, {kStandard, kDescription, kLow, kHigh, kUnit, kRemove});
   RefuseTogether(kRemove, {kLow, kHigh, kUnit});
-  if (Given(kAlso) && !Given(kFrom)) throw InputError(Tr("--also: give the set with --from"));
+  if (Given(kAlso) && !Given(kFrom)) throw bench::InputError(Tr("--also: give the set with --from"));
   if (Given(kFrom)) return;
   if (!Given(kElement))
-    throw InputError(Tr("name the element with --element, or a set of limits for all with --from"));
+    throw bench::InputError(Tr("name the element with --element, or a set of limits for all with --from"));
   if (recordOnly_ || (remove_ && !Given(kStandard) && !Given(kDescription))) return;
-  if (entered_.standard.empty()) throw InputError(Tr("--standard: give the name of the standard"));
+  if (entered_.standard.empty()) throw bench::InputError(Tr("--standard: give the name of the standard"));
   if (!remove_ && entered_.low.empty() && entered_.high.empty())
-    throw InputError(Tr("neither --low nor --high was given; give at least one bound"));
+    throw bench::InputError(Tr("neither --low nor --high was given; give at least one bound"));
 }
 
-std::string LimitCommand::Change(Workbench& workbench, Document& document,
-                                 const GlobalOptions& options) const {
+std::string LimitCommand::Change(bench::Workbench& workbench, document::Document& document,
+                                 const bench::GlobalOptions& options) const {
   const auto& factory = *workbench.Host()->Elements();
   if (Given(kFrom)) return ApplySet(document, factory, options);
-  const auto elements = ElementsFor(document, kElement, elements_);
+  const auto elements = bench::ElementsFor(document, kElement, elements_);
   if (remove_) return RemoveLimits(elements, factory);
   if (!recordOnly_) return SetLimits(elements, factory);
   std::string lines;
   for (const auto& element : elements) {
-    MarkRecordOnly(element, factory, true);
-    lines += Tr("%%1: %%2", {NameWithNumber(*element, factory), Tr("recorded, not judged")}) + "\n";
+    bench::MarkRecordOnly(element, factory, true);
+    lines += Tr("%%1: %%2", {bench::NameWithNumber(*element, factory), Tr("recorded, not judged")}) + "\n";
   }
   return lines;
 }
 
-std::string LimitCommand::SetLimits(const Elements& elements, const ElementFactory& factory) const {
+std::string LimitCommand::SetLimits(const Elements& elements, const elements::ElementFactory& factory) const {
   std::string lines;
   for (const auto& element : elements) {
     const auto limits = LimitsFor(*element);
     try {
-      const auto limit = SetLimit(*limits, entered_);
-      lines += Tr("%%1: %%2", {NameWithNumber(*element, factory),
-                               TextOf({entered_.standard, entered_.description, limit->LowText(),
-                                       limit->HighText(), limit->Unit()})});
+      const auto limit = standards::SetLimit(*limits, entered_);
+      lines += Tr("%%1: %%2", {bench::NameWithNumber(*element, factory),
+                               bench::TextOf({entered_.standard, entered_.description, limit->LowText(),
+                                              limit->HighText(), limit->Unit()})});
     } catch (const orvik::HostError& error) {
-      throw InputError(Tr("--element %%1, --low, --high, --unit: %%2",
-                          {std::to_string(element->ID()), error.Description()}));
+      throw bench::InputError(Tr("--element %%1, --low, --high, --unit: %%2",
+                                 {std::to_string(element->ID()), error.Description()}));
     }
-    if (IsRecordOnly(element, factory)) {
-      MarkRecordOnly(element, factory, false);
+    if (bench::IsRecordOnly(element, factory)) {
+      bench::MarkRecordOnly(element, factory, false);
       lines += Tr("; no longer record-only");
     }
     lines += "\n";
@@ -153,7 +154,8 @@ std::string LimitCommand::SetLimits(const Elements& elements, const ElementFacto
   return lines;
 }
 
-std::string LimitCommand::RemoveLimits(const Elements& elements, const ElementFactory& factory) const {
+std::string LimitCommand::RemoveLimits(const Elements& elements,
+                                       const elements::ElementFactory& factory) const {
   const bool all = !Given(kStandard);
   const auto fits = [&](const orvik::IStandard& standard) {
     return all || (standard.Name() == entered_.standard &&
@@ -161,34 +163,37 @@ std::string LimitCommand::RemoveLimits(const Elements& elements, const ElementFa
   };
   std::string lines;
   for (const auto& element : elements) {
-    const auto name = NameWithNumber(*element, factory);
+    const auto name = bench::NameWithNumber(*element, factory);
     const auto limits = element->Limits();
-    const auto removed = limits ? RemoveStandards(*limits, fits) : std::vector<LimitOfElement>();
-    const bool marked = IsRecordOnly(element, factory);
+    const auto removed =
+        limits ? standards::RemoveStandards(*limits, fits) : std::vector<standards::LimitOfElement>();
+    const bool marked = bench::IsRecordOnly(element, factory);
     if (removed.empty() && !all)
-      throw InputError(Tr("--standard \"%%1\": %%2 has no such limit",
-                          {StandardText(entered_.standard, entered_.description), name}));
+      throw bench::InputError(Tr("--standard \"%%1\": %%2 has no such limit",
+                                 {bench::StandardText(entered_.standard, entered_.description), name}));
     if (removed.empty() && !marked)
-      throw InputError(Tr("--remove: %%1 has no limits and is not record-only", {name}));
-    if (all && marked) MarkRecordOnly(element, factory, false);
-    for (const auto& limit : removed) lines += Tr("%%1: removed: %%2", {name, TextOf(limit)}) + "\n";
+      throw bench::InputError(Tr("--remove: %%1 has no limits and is not record-only", {name}));
+    if (all && marked) bench::MarkRecordOnly(element, factory, false);
+    for (const auto& limit : removed) lines += Tr("%%1: removed: %%2", {name, bench::TextOf(limit)}) + "\n";
     if (all && marked) lines += Tr("%%1: no longer record-only", {name}) + "\n";
     const bool sequence = orvik::As<orvik::ITestContainer>(element) != nullptr;
-    if (!sequence && limits && LimitsOf(*limits).empty())
-      lines += Tr("%%1: %%2", {name, NeedsALimit()}) + "\n";
+    if (!sequence && limits && standards::LimitsOf(*limits).empty())
+      lines += Tr("%%1: %%2", {name, bench::NeedsALimit()}) + "\n";
   }
   return lines;
 }
 
-std::string LimitCommand::ApplySet(const Document& document, const ElementFactory& factory,
-                                   const GlobalOptions& options) const {
-  const auto set = LimitSets(files::StandardsFolders(options.state)).Find(set_);
-  const auto elements = Given(kElement) ? ElementsFor(document, kElement, elements_) : TopElements(document);
-  const auto applied =
-      ApplyLimitSet(set, elements, factory, also_ ? EarlierSets::kKept : EarlierSets::kReplaced);
+std::string LimitCommand::ApplySet(const document::Document& document,
+                                   const elements::ElementFactory& factory,
+                                   const bench::GlobalOptions& options) const {
+  const auto set = standards::LimitSets(bench::files::StandardsFolders(options.state)).Find(set_);
+  const auto elements =
+      Given(kElement) ? bench::ElementsFor(document, kElement, elements_) : report::TopElements(document);
+  const auto applied = bench::ApplyLimitSet(
+      set, elements, factory, also_ ? bench::EarlierSets::kKept : bench::EarlierSets::kReplaced);
   if (applied.applied.empty())
-    throw InputError(Tr("--from %%1: the set covers none of these elements of %%2", {set_, file_}));
-  std::string lines = StandardText(set.standard, set.Description()) + ":\n";
+    throw bench::InputError(Tr("--from %%1: the set covers none of these elements of %%2", {set_, file_}));
+  std::string lines = bench::StandardText(set.standard, set.Description()) + ":\n";
   for (const auto& line : applied.applied) lines += "  " + line + "\n";
   if (applied.uncovered.empty()) return lines;
   lines += Tr("Not covered by this set:") + "\n";
@@ -196,4 +201,4 @@ std::string LimitCommand::ApplySet(const Document& document, const ElementFactor
   return lines;
 }
 
-}  // namespace bench
+}  // namespace host::cli

@@ -8,16 +8,18 @@
 #include "host/cli/commands/Command.h"
 #include "host/standards/ElementLimits.h"
 
-namespace bench {
-
+namespace host::document {
 class Document;
+}
+
+namespace host::cli {
 
 /// `limit`: gives elements a limit of a standard or those of a set, marks them "record only", or takes limits
 /// and mark away.
 class LimitCommand final : public Command {
  public:
   CLI::App* Declare(CLI::App& program) override;
-  ExitStatus Run(const GlobalOptions& options) override;
+  bench::ExitStatus Run(const bench::GlobalOptions& options) override;
 
  private:
   using Elements = std::vector<std::shared_ptr<orvik::ITestElement>>;
@@ -27,18 +29,19 @@ class LimitCommand final : public Command {
   void RefuseTogether(const std::string& option, const std::vector<std::string>& others) const;
 
   /// Each changes the document and returns what is to be printed.
-  std::string Change(Workbench& workbench, Document& document, const GlobalOptions& options) const;
-  std::string SetLimits(const Elements& elements, const ElementFactory& factory) const;
-  std::string RemoveLimits(const Elements& elements, const ElementFactory& factory) const;
-  std::string ApplySet(const Document& document, const ElementFactory& factory,
-                       const GlobalOptions& options) const;
+  std::string Change(bench::Workbench& workbench, document::Document& document,
+                     const bench::GlobalOptions& options) const;
+  std::string SetLimits(const Elements& elements, const elements::ElementFactory& factory) const;
+  std::string RemoveLimits(const Elements& elements, const elements::ElementFactory& factory) const;
+  std::string ApplySet(const document::Document& document, const elements::ElementFactory& factory,
+                       const bench::GlobalOptions& options) const;
 
   std::string file_;
   std::vector<std::int32_t> elements_;
   std::string set_;
-  EnteredLimit entered_;
+  standards::EnteredLimit entered_;
   bool also_ = false, recordOnly_ = false, remove_ = false;
   CLI::App* command_ = nullptr;
 };
 
-}  // namespace bench
+}  // namespace host::cli

@@ -12,7 +12,7 @@
 #include "host/document/Document.h"
 #include "host/report/DocumentView.h"
 
-namespace bench {
+namespace host::cli {
 
 CLI::App* MoveCommand::Declare(CLI::App& program) {
   auto* command = program.add_subcommand("move", Tr("Change the order in which a document is tested"));
@@ -35,29 +35,30 @@ CLI::App* MoveCommand::Declare(CLI::App& program) {
   return command;
 }
 
-ElementPlace MoveCommand::PlaceIn(const Document& document) const {
+document::ElementPlace MoveCommand::PlaceIn(const document::Document& document) const {
   const auto besideItself = [&](const std::string& option, std::int32_t id) {
     if (id == element_)
-      throw InputError(
+      throw bench::InputError(
           Tr("%%1 %%2: give another element than the one to move", {option, std::to_string(id)}));
-    return ElementFor(document, option, id);
+    return bench::ElementFor(document, option, id);
   };
-  if (before_) return ElementPlace::Before(*besideItself("--before", *before_));
-  if (after_) return ElementPlace::After(*besideItself("--after", *after_));
-  if (!toEnd_) throw InputError(Tr("give the place with --before, --after or --to-end"));
-  return ElementPlace::AtEndOf(nullptr);
+  if (before_) return document::ElementPlace::Before(*besideItself("--before", *before_));
+  if (after_) return document::ElementPlace::After(*besideItself("--after", *after_));
+  if (!toEnd_) throw bench::InputError(Tr("give the place with --before, --after or --to-end"));
+  return document::ElementPlace::AtEndOf(nullptr);
 }
 
-ExitStatus MoveCommand::Run(const GlobalOptions& options) {
-  Workbench workbench(options);
-  const auto document = Document::Open(workbench.Host(), file_);
-  const auto element = ElementFor(*document, "--element", element_);
-  const Consequences consequences(*document, *workbench.Host());
+bench::ExitStatus MoveCommand::Run(const bench::GlobalOptions& options) {
+  bench::Workbench workbench(options);
+  const auto document = document::Document::Open(workbench.Host(), file_);
+  const auto element = bench::ElementFor(*document, "--element", element_);
+  const bench::Consequences consequences(*document, *workbench.Host());
   document->Move(element, PlaceIn(*document));
   document->Save();
-  for (const auto& top : TopElements(*document)) std::cout << ListOf(top, *workbench.Host()->Elements());
+  for (const auto& top : report::TopElements(*document))
+    std::cout << bench::ListOf(top, *workbench.Host()->Elements());
   std::cout << consequences.Text();
-  return ExitStatus::kPassed;
+  return bench::ExitStatus::kPassed;
 }
 
-}  // namespace bench
+}  // namespace host::cli

@@ -5,19 +5,21 @@
 
 #include "host/cli/commands/Command.h"
 
-namespace bench {
-
+namespace host::document {
 class Document;
 struct ElementPlace;
+}  // namespace host::document
+
+namespace host::cli {
 
 /// `move`: takes an element of a document to another place, which is the order of testing.
 class MoveCommand final : public Command {
  public:
   CLI::App* Declare(CLI::App& program) override;
-  ExitStatus Run(const GlobalOptions& options) override;
+  bench::ExitStatus Run(const bench::GlobalOptions& options) override;
 
  private:
-  ElementPlace PlaceIn(const Document& document) const;
+  document::ElementPlace PlaceIn(const document::Document& document) const;
 
   std::string file_;
   std::int32_t element_ = 0;
@@ -25,4 +27,4 @@ class MoveCommand final : public Command {
   bool toEnd_ = false;
 };
 
-}  // namespace bench
+}  // namespace host::cli

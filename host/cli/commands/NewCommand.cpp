@@ -11,7 +11,7 @@
 #include "host/cli/options/NumberOption.h"
 #include "host/report/DocumentView.h"
 
-namespace bench {
+namespace host::cli {
 
 CLI::App* NewCommand::Declare(CLI::App& program) {
   auto* command = program.add_subcommand(
@@ -33,30 +33,31 @@ CLI::App* NewCommand::Declare(CLI::App& program) {
   return command;
 }
 
-void NewCommand::AddTests(Workbench& workbench, Document& document) const {
+void NewCommand::AddTests(bench::Workbench& workbench, document::Document& document) const {
   for (const auto testId : tests_) {
     if (!workbench.PlugIn().CreateTest(testId))
-      throw InputError(
+      throw bench::InputError(
           Tr("--add %%1: the catalogue has no such test; \"orvik-bench tests\" prints those it has",
              {std::to_string(testId)}));
     document.AddTest(testId);
   }
 }
 
-ExitStatus NewCommand::Run(const GlobalOptions& options) {
+bench::ExitStatus NewCommand::Run(const bench::GlobalOptions& options) {
   if (tests_.empty() && from_.empty())
-    throw InputError(Tr("give the tests with --add, or a document to take them from with --from"));
-  Workbench workbench(options);
-  const auto document = Document::Create(workbench.Host(), file_);
+    throw bench::InputError(Tr("give the tests with --add, or a document to take them from with --from"));
+  bench::Workbench workbench(options);
+  const auto document = document::Document::Create(workbench.Host(), file_);
   document->equipment = equipment_;
   if (!from_.empty()) {
-    const auto other = Document::Open(workbench.Host(), from_, DocumentFile::Use::kRead);
+    const auto other = document::Document::Open(workbench.Host(), from_, document::DocumentFile::Use::kRead);
     document->AddPlanOf(*other);
   }
   AddTests(workbench, *document);
   document->Save();
-  for (const auto& top : TopElements(*document)) std::cout << ListOf(top, *workbench.Host()->Elements());
-  return ExitStatus::kPassed;
+  for (const auto& top : report::TopElements(*document))
+    std::cout << bench::ListOf(top, *workbench.Host()->Elements());
+  return bench::ExitStatus::kPassed;
 }
 
-}  // namespace bench
+}  // namespace host::cli

@@ -6,21 +6,21 @@
 #include "host/cli/commands/Command.h"
 #include "host/document/Document.h"
 
-namespace bench {
+namespace host::cli {
 
 /// `new`: makes a document.
 class NewCommand final : public Command {
  public:
   CLI::App* Declare(CLI::App& program) override;
-  ExitStatus Run(const GlobalOptions& options) override;
+  bench::ExitStatus Run(const bench::GlobalOptions& options) override;
 
  private:
-  void AddTests(Workbench& workbench, Document& document) const;
+  void AddTests(bench::Workbench& workbench, document::Document& document) const;
 
   std::string file_;
   std::string from_;
   std::vector<std::int32_t> tests_;
-  Document::Equipment equipment_;
+  document::Document::Equipment equipment_;
 };
 
-}  // namespace bench
+}  // namespace host::cli

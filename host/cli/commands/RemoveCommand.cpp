@@ -10,7 +10,7 @@
 #include "host/cli/options/NumberOption.h"
 #include "host/document/Document.h"
 
-namespace bench {
+namespace host::cli {
 
 CLI::App* RemoveCommand::Declare(CLI::App& program) {
   auto* command = program.add_subcommand("remove", Tr("Remove elements from a document"));
@@ -24,19 +24,19 @@ CLI::App* RemoveCommand::Declare(CLI::App& program) {
   return command;
 }
 
-ExitStatus RemoveCommand::Run(const GlobalOptions& options) {
-  Workbench workbench(options);
-  const auto document = Document::Open(workbench.Host(), file_);
-  const Consequences consequences(*document, *workbench.Host());
+bench::ExitStatus RemoveCommand::Run(const bench::GlobalOptions& options) {
+  bench::Workbench workbench(options);
+  const auto document = document::Document::Open(workbench.Host(), file_);
+  const bench::Consequences consequences(*document, *workbench.Host());
   std::string list;
-  for (const auto& element : ElementsFor(*document, "--element", elements_)) {
+  for (const auto& element : bench::ElementsFor(*document, "--element", elements_)) {
     if (document->Find(element->ID()) != element) continue;  // it went with a sequence that was removed
     document->Remove(element);
-    list += Tr("removed: %%1", {NameWithNumber(*element, *workbench.Host()->Elements())}) + "\n";
+    list += Tr("removed: %%1", {bench::NameWithNumber(*element, *workbench.Host()->Elements())}) + "\n";
   }
   document->Save();
   std::cout << list << consequences.Text();
-  return ExitStatus::kPassed;
+  return bench::ExitStatus::kPassed;
 }
 
-}  // namespace bench
+}  // namespace host::cli

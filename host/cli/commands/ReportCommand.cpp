@@ -15,7 +15,7 @@
 #include "host/report/DocumentView.h"
 #include "host/report/RunReport.h"
 
-namespace bench {
+namespace host::cli {
 
 namespace {
 
@@ -59,33 +59,34 @@ CLI::App* ReportCommand::Declare(CLI::App& program) {
   return command;
 }
 
-ReportFormat ReportCommand::Format() const {
-  if (command_->count("--format") > 0) return ReportFormatNamed(format_);
-  return to_ == kStandardOutput ? ReportFormat::kText : ReportFormatOf(to_);
+bench::ReportFormat ReportCommand::Format() const {
+  if (command_->count("--format") > 0) return bench::ReportFormatNamed(format_);
+  return to_ == kStandardOutput ? bench::ReportFormat::kText : bench::ReportFormatOf(to_);
 }
 
-report::Report ReportCommand::Report(const Document& document, Host& host,
+report::Report ReportCommand::Report(const document::Document& document, document::Host& host,
                                      const std::string& language) const {
-  if (run_) return RunReportOf(document, host, FoundRun(document.Runs().All(), *run_), language);
-  if (!standards_.empty()) RequireStandards(ViewOf(document, host, standards_).judged, standards_, file_);
-  return ReportOf(document, host, language, standards_);
+  if (run_) return report::RunReportOf(document, host, FoundRun(document.Runs().All(), *run_), language);
+  if (!standards_.empty())
+    bench::RequireStandards(report::ViewOf(document, host, standards_).judged, standards_, file_);
+  return report::ReportOf(document, host, language, standards_);
 }
 
-ExitStatus ReportCommand::Run(const GlobalOptions& options) {
+bench::ExitStatus ReportCommand::Run(const bench::GlobalOptions& options) {
   const std::filesystem::path out(to_);
   const bool toOutput = to_ == kStandardOutput;
   const auto format = Format();
-  if (!toOutput) RefuseDocumentAsReport(file_, out);
-  Workbench workbench(options, Workbench::Settings::kIfReadable);
-  const auto document = Document::Open(workbench.Host(), file_, DocumentFile::Use::kRead);
-  const auto report = ReportText(Report(*document, *workbench.Host(), options.language), format);
+  if (!toOutput) bench::RefuseDocumentAsReport(file_, out);
+  bench::Workbench workbench(options, bench::Workbench::Settings::kIfReadable);
+  const auto document = document::Document::Open(workbench.Host(), file_, document::DocumentFile::Use::kRead);
+  const auto report = bench::ReportText(Report(*document, *workbench.Host(), options.language), format);
   if (toOutput) {
     std::cout << report;
-    return ExitStatus::kPassed;
+    return bench::ExitStatus::kPassed;
   }
   ReplaceFile(out, report);
   std::cout << out.string() << "\n";
-  return ExitStatus::kPassed;
+  return bench::ExitStatus::kPassed;
 }
 
-}  // namespace bench
+}  // namespace host::cli

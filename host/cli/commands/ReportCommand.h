@@ -8,20 +8,23 @@
 #include "host/bench/ReportFile.h"
 #include "host/cli/commands/Command.h"
 
-namespace bench {
-
+namespace host::document {
 class Document;
 class Host;
+}  // namespace host::document
+
+namespace host::cli {
 
 /// `report`: writes a document as a report.
 class ReportCommand final : public Command {
  public:
   CLI::App* Declare(CLI::App& program) override;
-  ExitStatus Run(const GlobalOptions& options) override;
+  bench::ExitStatus Run(const bench::GlobalOptions& options) override;
 
  private:
-  ReportFormat Format() const;
-  report::Report Report(const Document& document, Host& host, const std::string& language) const;
+  bench::ReportFormat Format() const;
+  report::Report Report(const document::Document& document, document::Host& host,
+                        const std::string& language) const;
 
   std::string file_;
   std::string to_;
@@ -31,4 +34,4 @@ class ReportCommand final : public Command {
   CLI::App* command_ = nullptr;
 };
 
-}  // namespace bench
+}  // namespace host::cli

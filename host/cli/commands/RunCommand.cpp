@@ -25,15 +25,15 @@
 #include "host/run/AutoOperator.h"
 #include "host/run/StopSignals.h"
 
-namespace bench {
+namespace host::cli {
 
 namespace {
 
-ExitStatus StatusOf(DocumentRunner::End end, judge::Outcome outcome) {
-  if (outcome == judge::Outcome::kFailed) return ExitStatus::kFailed;
-  if (end != DocumentRunner::End::kFinished || outcome == judge::Outcome::kIncomplete)
-    return ExitStatus::kIncomplete;
-  return ExitStatus::kPassed;
+bench::ExitStatus StatusOf(run::DocumentRunner::End end, judge::Outcome outcome) {
+  if (outcome == judge::Outcome::kFailed) return bench::ExitStatus::kFailed;
+  if (end != run::DocumentRunner::End::kFinished || outcome == judge::Outcome::kIncomplete)
+    return bench::ExitStatus::kIncomplete;
+  return bench::ExitStatus::kPassed;
 }
 
 }  // namespace
@@ -79,18 +79,18 @@ CLI::App* RunCommand::Declare(CLI::App& program) {
 void RunCommand::Check() const {
   options_.tester.Check();
   if (options_.operatorKind != "auto" && options_.operatorKind != "ask")
-    throw InputError(Tr("--operator %%1: give \"auto\" or \"ask\"", {options_.operatorKind}));
+    throw bench::InputError(Tr("--operator %%1: give \"auto\" or \"ask\"", {options_.operatorKind}));
 }
 
-ExitStatus RunCommand::Run(const GlobalOptions& options) {
+bench::ExitStatus RunCommand::Run(const bench::GlobalOptions& options) {
   Check();
-  Workbench workbench(options, options_.tester.TimeScale());
-  const auto document = Document::Open(workbench.Host(), options_.file);
+  bench::Workbench workbench(options, options_.tester.TimeScale());
+  const auto document = document::Document::Open(workbench.Host(), options_.file);
   const auto reporter = Reporter(workbench);
   return Perform(workbench, *document, *reporter);
 }
 
-std::unique_ptr<RunReporter> RunCommand::Reporter(Workbench& workbench) const {
+std::unique_ptr<bench::RunReporter> RunCommand::Reporter(bench::Workbench& workbench) const {
   if (options_.events) return std::make_unique<EventLines>(std::cout, *workbench.Application());
   // With --json the standard output belongs to the object alone.
   const bool onError = options_.json;
@@ -99,39 +99,42 @@ std::unique_ptr<RunReporter> RunCommand::Reporter(Workbench& workbench) const {
                                          options_.tester.TimeScale());
 }
 
-ExitStatus RunCommand::Perform(Workbench& workbench, Document& document, RunReporter& reporter) {
-  const auto selected = SelectedElements(document, options_);
-  SelectStandards(document, *workbench.Host(), options_);
+bench::ExitStatus RunCommand::Perform(bench::Workbench& workbench, document::Document& document,
+                                      bench::RunReporter& reporter) {
+  const auto selected = bench::SelectedElements(document, options_);
+  bench::SelectStandards(document, *workbench.Host(), options_);
   const auto elements =
-      options_.resume ? Unfinished(selected, document, ViewOf(document, *workbench.Host()).judged) : selected;
-  WireLog log(options_.wireLog.empty() ? options_.file + ".wire.log" : options_.wireLog);
+      options_.resume
+          ? bench::Unfinished(selected, document, report::ViewOf(document, *workbench.Host()).judged)
+          : selected;
+  serial::WireLog log(options_.wireLog.empty() ? options_.file + ".wire.log" : options_.wireLog);
   const auto& tester = options_.tester.Connect(workbench.Ports());
   if (const auto remark = options_.tester.TimeRemark(); !remark.empty()) reporter.Remark(remark);
   if (elements.empty()) reporter.Remark(Tr("Every element has a result; nothing is left to run."));
 
-  auto end = DocumentRunner::End::kFinished;
+  auto end = run::DocumentRunner::End::kFinished;
   {
     const auto& application = workbench.Application();
-    RunSession session(workbench, document, log, reporter, tester, OperatorName(options_.by));
+    bench::RunSession session(workbench, document, log, reporter, tester, bench::OperatorName(options_.by));
     session.JudgeBy(options_.standards);
-    std::unique_ptr<IOperator> runOperator;
+    std::unique_ptr<run::IOperator> runOperator;
     if (options_.operatorKind == "ask")
       runOperator = std::make_unique<AskOperator>(application, session.Stop(), reporter,
                                                   [&session] { return session.ReachedTest(); });
     else
-      runOperator = std::make_unique<AutoOperator>(
+      runOperator = std::make_unique<run::AutoOperator>(
           application, session.Stop(), [&reporter](const std::string& text) { reporter.Prompted(text); });
-    const StopSignals signals(*application, [&session](int) { session.AskToStop(); });
+    const run::StopSignals signals(*application, [&session](int) { session.AskToStop(); });
     end = session.Run(elements, std::move(runOperator));
     reporter.Over();
     RemarkOnEnd(end, session.Reason(), reporter);
   }
-  if (end == DocumentRunner::End::kNotSaved) KeepResults(document, reporter);
+  if (end == run::DocumentRunner::End::kNotSaved) KeepResults(document, reporter);
   if (!log.Failure().empty())
     reporter.Remark(Tr("The wire log %%1 could not be written: %%2", {log.Path(), log.Failure()}));
 
-  const auto view = ViewOf(document, *workbench.Host(), options_.standards);
-  const auto status = StatusOf(end, JudgedPart(view.judged, selected).outcome);
+  const auto view = report::ViewOf(document, *workbench.Host(), options_.standards);
+  const auto status = StatusOf(end, report::JudgedPart(view.judged, selected).outcome);
   reporter.Ended(view.judged.outcome, static_cast<int>(status));
   if (!options_.events)
     std::cout << (options_.json ? Indented(JsonOf(view)) + "\n" : TextOf(view, ColoursWanted(STDOUT_FILENO)))
@@ -139,32 +142,32 @@ ExitStatus RunCommand::Perform(Workbench& workbench, Document& document, RunRepo
   return status;
 }
 
-void RunCommand::RemarkOnEnd(DocumentRunner::End end, const std::string& reason,
-                             RunReporter& reporter) const {
+void RunCommand::RemarkOnEnd(run::DocumentRunner::End end, const std::string& reason,
+                             bench::RunReporter& reporter) const {
   switch (end) {
-    case DocumentRunner::End::kFinished:
+    case run::DocumentRunner::End::kFinished:
       return;
-    case DocumentRunner::End::kStopped:
+    case run::DocumentRunner::End::kStopped:
       return reporter.Remark(
           Tr("Stopped. The document is saved; \"run --resume\" continues with the elements that have no "
              "result yet."));
-    case DocumentRunner::End::kAborted:
+    case run::DocumentRunner::End::kAborted:
       return reporter.Remark(Tr("Ended by the operator. The document is saved."));
-    case DocumentRunner::End::kTesterLost:
+    case run::DocumentRunner::End::kTesterLost:
       return reporter.Remark(Tr("The run has ended: %%1.", {reason}));
-    case DocumentRunner::End::kNotSaved:
+    case run::DocumentRunner::End::kNotSaved:
       return reporter.Remark(Tr("The run has ended because the document cannot be saved: %%1", {reason}));
   }
 }
 
-void RunCommand::KeepResults(const Document& document, RunReporter& reporter) {
+void RunCommand::KeepResults(const document::Document& document, bench::RunReporter& reporter) {
   try {
     reporter.Remark(Tr("The results are in %%1, the document as it would have been saved.",
-                       {KeepUnsaved(document).string()}));
+                       {bench::KeepUnsaved(document).string()}));
   } catch (const orvik::HostError& error) {
     reporter.Remark(Tr("The results could not be saved to another file either and are only shown here: %%1",
                        {error.Description()}));
   }
 }
 
-}  // namespace bench
+}  // namespace host::cli

@@ -9,24 +9,28 @@
 #include "host/cli/options/RunOptions.h"
 #include "host/run/DocumentRunner.h"
 
-namespace bench {
-
+namespace host::document {
 class Document;
+}
+
+namespace host::cli {
 
 /// `run`: runs the elements of a document.
 class RunCommand final : public Command {
  public:
   CLI::App* Declare(CLI::App& program) override;
-  ExitStatus Run(const GlobalOptions& options) override;
+  bench::ExitStatus Run(const bench::GlobalOptions& options) override;
 
  private:
   void Check() const;
-  std::unique_ptr<RunReporter> Reporter(Workbench& workbench) const;
-  ExitStatus Perform(Workbench& workbench, Document& document, RunReporter& reporter);
-  void RemarkOnEnd(DocumentRunner::End end, const std::string& reason, RunReporter& reporter) const;
-  static void KeepResults(const Document& document, RunReporter& reporter);
+  std::unique_ptr<bench::RunReporter> Reporter(bench::Workbench& workbench) const;
+  bench::ExitStatus Perform(bench::Workbench& workbench, document::Document& document,
+                            bench::RunReporter& reporter);
+  void RemarkOnEnd(run::DocumentRunner::End end, const std::string& reason,
+                   bench::RunReporter& reporter) const;
+  static void KeepResults(const document::Document& document, bench::RunReporter& reporter);
 
   RunOptions options_;
 };
 
-}  // namespace bench
+}  // namespace host::cli

@@ -17,7 +17,7 @@
 #include "host/cli/output/RunText.h"
 #include "host/document/Document.h"
 
-namespace bench {
+namespace host::cli {
 
 CLI::App* ShowCommand::Declare(CLI::App& program) {
   auto* command = program.add_subcommand("show", Tr("Print a document and its results"));
@@ -40,25 +40,26 @@ CLI::App* ShowCommand::Declare(CLI::App& program) {
   return command;
 }
 
-void ShowCommand::Print(const Document& document, const Host& host) const {
+void ShowCommand::Print(const document::Document& document, const document::Host& host) const {
   const auto& runs = document.Runs().All();
   if (runs_) {
     std::cout << (json_ ? Indented(JsonOf(runs, document.Path().string())) + "\n" : RunsText(runs));
   } else if (run_) {
     const auto& run = FoundRun(runs, *run_);
-    const RunOutcomes outcomes(ViewOf(document, host).judged);
+    const report::RunOutcomes outcomes(report::ViewOf(document, host).judged);
     std::cout << (json_ ? Indented(JsonOf(run)) + "\n" : RunText(run, runs.size(), outcomes));
   } else {
-    const auto view = ViewOf(document, host, standards_);
-    RequireStandards(view.judged, standards_, file_);
+    const auto view = report::ViewOf(document, host, standards_);
+    bench::RequireStandards(view.judged, standards_, file_);
     std::cout << (json_ ? Indented(JsonOf(view)) + "\n" : TextOf(view, ColoursWanted(STDOUT_FILENO)));
   }
 }
 
-ExitStatus ShowCommand::Run(const GlobalOptions& options) {
-  Workbench workbench(options, Workbench::Settings::kIfReadable);
-  Print(*Document::Open(workbench.Host(), file_, DocumentFile::Use::kRead), *workbench.Host());
-  return ExitStatus::kPassed;
+bench::ExitStatus ShowCommand::Run(const bench::GlobalOptions& options) {
+  bench::Workbench workbench(options, bench::Workbench::Settings::kIfReadable);
+  Print(*document::Document::Open(workbench.Host(), file_, document::DocumentFile::Use::kRead),
+        *workbench.Host());
+  return bench::ExitStatus::kPassed;
 }
 
-}  // namespace bench
+}  // namespace host::cli

@@ -7,19 +7,21 @@
 
 #include "host/cli/commands/Command.h"
 
-namespace bench {
-
+namespace host::document {
 class Document;
 class Host;
+}  // namespace host::document
+
+namespace host::cli {
 
 /// `show`: prints a document.
 class ShowCommand final : public Command {
  public:
   CLI::App* Declare(CLI::App& program) override;
-  ExitStatus Run(const GlobalOptions& options) override;
+  bench::ExitStatus Run(const bench::GlobalOptions& options) override;
 
  private:
-  void Print(const Document& document, const Host& host) const;
+  void Print(const document::Document& document, const document::Host& host) const;
 
   std::string file_;
   std::vector<std::string> standards_;
@@ -28,4 +30,4 @@ class ShowCommand final : public Command {
   bool json_ = false;
 };
 
-}  // namespace bench
+}  // namespace host::cli

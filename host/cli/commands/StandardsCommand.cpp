@@ -12,18 +12,18 @@
 #include "host/cli/help/Examples.h"
 #include "host/cli/output/DocumentJson.h"
 
-namespace bench {
+namespace host::cli {
 
 namespace {
 
 using Json = nlohmann::ordered_json;
 
-Json Head(const LimitSet& set) {
+Json Head(const standards::LimitSet& set) {
   return {{"set", set.Name()},      {"file", set.file.string()},   {"standard", set.standard},
           {"edition", set.edition}, {"class", set.equipmentClass}, {"type", set.type}};
 }
 
-Json JsonOf(const LimitSets::Entry& entry) {
+Json JsonOf(const standards::LimitSets::Entry& entry) {
   if (!entry.set)
     return {{"set", entry.file.stem().string()}, {"file", entry.file.string()}, {"fault", entry.fault}};
   auto json = Head(*entry.set);
@@ -31,13 +31,13 @@ Json JsonOf(const LimitSets::Entry& entry) {
   return json;
 }
 
-Json JsonOf(const std::vector<LimitSets::Entry>& entries) {
+Json JsonOf(const std::vector<standards::LimitSets::Entry>& entries) {
   auto sets = Json::array();
   for (const auto& entry : entries) sets.push_back(JsonOf(entry));
   return {{"standards", std::move(sets)}};
 }
 
-Json JsonOf(const LimitSet& set) {
+Json JsonOf(const standards::LimitSet& set) {
   auto json = Head(set);
   json["figures"] = Json::array();
   for (const auto& figure : set.figures)
@@ -56,7 +56,7 @@ std::string FiguresText(std::size_t count) {
   return count == 1 ? Tr("1 figure") : Tr("%%1 figures", {std::to_string(count)});
 }
 
-std::string TestsText(const LimitFigure& figure) {
+std::string TestsText(const standards::LimitFigure& figure) {
   std::string text;
   for (const auto test : figure.tests) text += (text.empty() ? "" : " ") + std::to_string(test);
   return text;
@@ -74,26 +74,26 @@ CLI::App* StandardsCommand::Declare(CLI::App& program) {
   return command;
 }
 
-ExitStatus StandardsCommand::Run(const GlobalOptions& options) {
-  const LimitSets sets(files::StandardsFolders(options.state));
+bench::ExitStatus StandardsCommand::Run(const bench::GlobalOptions& options) {
+  const standards::LimitSets sets(bench::files::StandardsFolders(options.state));
   if (set_.empty()) return List(sets);
   const auto set = sets.Find(set_);
   if (json_)
     std::cout << Indented(JsonOf(set)) << "\n";
   else
     Show(set);
-  return ExitStatus::kPassed;
+  return bench::ExitStatus::kPassed;
 }
 
-ExitStatus StandardsCommand::List(const LimitSets& sets) const {
+bench::ExitStatus StandardsCommand::List(const standards::LimitSets& sets) const {
   const auto entries = sets.All();
   if (json_) std::cout << Indented(JsonOf(entries)) << "\n";
-  auto status = ExitStatus::kPassed;
+  auto status = bench::ExitStatus::kPassed;
   std::filesystem::path folder;
   for (const auto& entry : entries) {
     if (!entry.set) {
       std::cerr << "orvik-bench: " << entry.fault << "\n";
-      status = ExitStatus::kBadInput;
+      status = bench::ExitStatus::kBadInput;
     }
     if (json_ || !entry.set) continue;
     if (entry.file.parent_path() != folder) {
@@ -106,11 +106,11 @@ ExitStatus StandardsCommand::List(const LimitSets& sets) const {
   return status;
 }
 
-void StandardsCommand::Show(const LimitSet& set) const {
+void StandardsCommand::Show(const standards::LimitSet& set) const {
   std::cout << set.standard << ", " << set.Description() << "\n" << set.file.string() << "\n";
   for (const auto& figure : set.figures) {
     std::cout << "\n"
-              << Padded(BoundsText(figure.low, figure.high, figure.unit), 24)
+              << Padded(bench::BoundsText(figure.low, figure.high, figure.unit), 24)
               << Tr("tests %%1", {TestsText(figure)}) << "\n";
     if (!figure.condition.empty()) std::cout << "    " << figure.condition << "\n";
     std::cout << "    " << figure.source << "\n";
@@ -120,4 +120,4 @@ void StandardsCommand::Show(const LimitSet& set) const {
   for (const auto& out : set.leftOut) std::cout << "  " << out.what << "\n    " << out.why << "\n";
 }
 
-}  // namespace bench
+}  // namespace host::cli

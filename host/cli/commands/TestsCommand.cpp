@@ -11,14 +11,14 @@
 #include "host/bench/InputError.h"
 #include "host/cli/output/DocumentJson.h"
 
-namespace bench {
+namespace host::cli {
 
 namespace {
 
 /// Deeper levels are not indented further: a catalogue may be nested to any depth.
 constexpr std::size_t kDeepestIndent = 20;
 
-nlohmann::ordered_json JsonOf(const std::vector<CatalogueEntry>& entries) {
+nlohmann::ordered_json JsonOf(const std::vector<bench::CatalogueEntry>& entries) {
   auto tests = nlohmann::ordered_json::array();
   for (const auto& entry : entries)
     tests.push_back({{"testId", entry.testId},
@@ -41,22 +41,22 @@ CLI::App* TestsCommand::Declare(CLI::App& program) {
   return command;
 }
 
-ExitStatus TestsCommand::Run(const GlobalOptions& options) {
-  Workbench workbench(options, Workbench::Settings::kIfReadable);
-  const auto entries = CatalogueEntries(workbench);
+bench::ExitStatus TestsCommand::Run(const bench::GlobalOptions& options) {
+  bench::Workbench workbench(options, bench::Workbench::Settings::kIfReadable);
+  const auto entries = bench::CatalogueEntries(workbench);
   if (entries.empty())
-    throw InputError(Tr(
+    throw bench::InputError(Tr(
         "the catalogue has no tests; see error.log in the state folder, or name another with --catalogue"));
   if (json_) {
     std::cout << Indented(JsonOf(entries)) << "\n";
-    return ExitStatus::kPassed;
+    return bench::ExitStatus::kPassed;
   }
   for (const auto& entry : entries) {
     const auto name = std::string(2 * std::min(entry.depth, kDeepestIndent), ' ') + entry.name;
     std::cout << LeftPadded(std::to_string(entry.testId), 5) << "  "
               << (entry.unit.empty() ? name : Padded(name, 60) + entry.unit) << "\n";
   }
-  return ExitStatus::kPassed;
+  return bench::ExitStatus::kPassed;
 }
 
-}  // namespace bench
+}  // namespace host::cli

@@ -2,16 +2,16 @@
 
 #include "host/cli/commands/Command.h"
 
-namespace bench {
+namespace host::cli {
 
 /// `tests`: prints the catalogue.
 class TestsCommand final : public Command {
  public:
   CLI::App* Declare(CLI::App& program) override;
-  ExitStatus Run(const GlobalOptions& options) override;
+  bench::ExitStatus Run(const bench::GlobalOptions& options) override;
 
  private:
   bool json_ = false;
 };
 
-}  // namespace bench
+}  // namespace host::cli

@@ -5,7 +5,7 @@
 
 #include "host/base/Tr.h"
 
-namespace bench {
+namespace host::cli {
 
 namespace {
 
@@ -87,4 +87,4 @@ std::vector<std::string> SpellingsAt(const CLI::App& command) {
 
 bool TakesValue(const CLI::Option& option) { return option.get_items_expected_max() > 0; }
 
-}  // namespace bench
+}  // namespace host::cli

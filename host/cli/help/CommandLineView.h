@@ -8,7 +8,7 @@ class App;
 class Option;
 }  // namespace CLI
 
-namespace bench {
+namespace host::cli {
 
 /// What is declared of the command line, for manual and completion. What is hidden is left out.
 
@@ -40,4 +40,4 @@ std::vector<std::string> InheritedOptions(const CLI::App& command);
 /// Whether the option takes a value.
 bool TakesValue(const CLI::Option& option);
 
-}  // namespace bench
+}  // namespace host::cli

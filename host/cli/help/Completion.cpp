@@ -7,7 +7,7 @@
 #include "host/cli/help/CommandLineView.h"
 #include "host/cli/help/OptionValues.h"
 
-namespace bench {
+namespace host::cli {
 
 namespace {
 
@@ -240,4 +240,4 @@ std::string FishCompletion(const CLI::App& program) {
   return text;
 }
 
-}  // namespace bench
+}  // namespace host::cli

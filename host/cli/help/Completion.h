@@ -6,7 +6,7 @@ namespace CLI {
 class App;
 }  // namespace CLI
 
-namespace bench {
+namespace host::cli {
 
 /// Scripts that complete the program's command line, made from the declarations that `--help` shows:
 /// commands, options, the words that an option takes, files and folders.
@@ -16,4 +16,4 @@ std::string BashCompletion(const CLI::App& program);
 std::string ZshCompletion(const CLI::App& program);
 std::string FishCompletion(const CLI::App& program);
 
-}  // namespace bench
+}  // namespace host::cli

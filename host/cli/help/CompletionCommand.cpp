@@ -7,7 +7,7 @@
 #include "host/bench/InputError.h"
 #include "host/cli/help/Completion.h"
 
-namespace bench {
+namespace host::cli {
 
 CLI::App* CompletionCommand::Declare(CLI::App& program) {
   program_ = &program;
@@ -20,7 +20,7 @@ CLI::App* CompletionCommand::Declare(CLI::App& program) {
   return command;
 }
 
-ExitStatus CompletionCommand::Run(const GlobalOptions&) {
+bench::ExitStatus CompletionCommand::Run(const bench::GlobalOptions&) {
   if (shell_ == "bash")
     std::cout << BashCompletion(*program_);
   else if (shell_ == "zsh")
@@ -28,8 +28,8 @@ ExitStatus CompletionCommand::Run(const GlobalOptions&) {
   else if (shell_ == "fish")
     std::cout << FishCompletion(*program_);
   else
-    throw InputError(Tr("unknown shell %%1 (bash, zsh, fish)", {shell_}));
-  return ExitStatus::kPassed;
+    throw bench::InputError(Tr("unknown shell %%1 (bash, zsh, fish)", {shell_}));
+  return bench::ExitStatus::kPassed;
 }
 
-}  // namespace bench
+}  // namespace host::cli

@@ -4,17 +4,17 @@
 
 #include "host/cli/commands/Command.h"
 
-namespace bench {
+namespace host::cli {
 
 /// `completion`: prints a script with which a shell completes the command line.
 class CompletionCommand final : public Command {
  public:
   CLI::App* Declare(CLI::App& program) override;
-  ExitStatus Run(const GlobalOptions& options) override;
+  bench::ExitStatus Run(const bench::GlobalOptions& options) override;
 
  private:
   const CLI::App* program_ = nullptr;
   std::string shell_;
 };
 
-}  // namespace bench
+}  // namespace host::cli

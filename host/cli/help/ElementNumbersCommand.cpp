@@ -12,7 +12,7 @@
 #include "host/elements/ElementFactory.h"
 #include "host/report/DocumentView.h"
 
-namespace bench {
+namespace host::cli {
 
 CLI::App* ElementNumbersCommand::Declare(CLI::App& program) {
   auto* command =
@@ -23,16 +23,16 @@ CLI::App* ElementNumbersCommand::Declare(CLI::App& program) {
   return command;
 }
 
-ExitStatus ElementNumbersCommand::Run(const GlobalOptions& options) {
-  Workbench workbench(options, Workbench::Settings::kIfReadable);
-  const auto document = Document::Open(workbench.Host(), file_, DocumentFile::Use::kRead);
-  for (const auto& top : TopElements(*document)) {
-    WalkElements(top, [&](const std::shared_ptr<orvik::ITestElement>& element) {
+bench::ExitStatus ElementNumbersCommand::Run(const bench::GlobalOptions& options) {
+  bench::Workbench workbench(options, bench::Workbench::Settings::kIfReadable);
+  const auto document = document::Document::Open(workbench.Host(), file_, document::DocumentFile::Use::kRead);
+  for (const auto& top : report::TopElements(*document)) {
+    document::WalkElements(top, [&](const std::shared_ptr<orvik::ITestElement>& element) {
       std::cout << element->ID() << "\t"
-                << report::VisibleText(ElementName(*element, *workbench.Host()->Elements())) << "\n";
+                << host::VisibleText(document::ElementName(*element, *workbench.Host()->Elements())) << "\n";
     });
   }
-  return ExitStatus::kPassed;
+  return bench::ExitStatus::kPassed;
 }
 
-}  // namespace bench
+}  // namespace host::cli

@@ -7,7 +7,7 @@
 #include "host/bench/InputError.h"
 #include "host/cli/help/OptionValues.h"
 
-namespace bench {
+namespace host::cli {
 
 namespace {
 
@@ -23,9 +23,9 @@ void RefuseEmptyNames(const CLI::App& program) {
   for (const auto* option : program.get_options()) {
     const auto& given = option->results();
     if (MustNotBeEmpty(*option) && std::find(given.begin(), given.end(), "") != given.end())
-      throw InputError(Tr("%%1: the name must not be empty", {option->get_name()}));
+      throw bench::InputError(Tr("%%1: the name must not be empty", {option->get_name()}));
   }
   for (const auto* command : program.get_subcommands()) RefuseEmptyNames(*command);
 }
 
-}  // namespace bench
+}  // namespace host::cli

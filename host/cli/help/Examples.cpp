@@ -3,7 +3,7 @@
 #include "host/base/Tr.h"
 #include "host/report/TextLines.h"
 
-namespace bench {
+namespace host::cli {
 
 namespace {
 
@@ -16,8 +16,8 @@ std::string Examples(const std::vector<std::string>& commandLines, const std::st
   for (const auto& line : commandLines) text += "\n  " + line;
   if (remark.empty()) return text;
   text += "\n";
-  for (const auto& line : text::Wrapped(remark, kRemarkWidth)) text += "\n" + line;
+  for (const auto& line : report::text::Wrapped(remark, kRemarkWidth)) text += "\n" + line;
   return text;
 }
 
-}  // namespace bench
+}  // namespace host::cli

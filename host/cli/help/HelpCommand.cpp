@@ -9,7 +9,7 @@
 #include "host/cli/help/Examples.h"
 #include "host/cli/help/Suggestions.h"
 
-namespace bench {
+namespace host::cli {
 
 CLI::App* HelpCommand::Declare(CLI::App& program) {
   program_ = &program;
@@ -19,12 +19,12 @@ CLI::App* HelpCommand::Declare(CLI::App& program) {
   return command;
 }
 
-ExitStatus HelpCommand::Run(const GlobalOptions&) {
+bench::ExitStatus HelpCommand::Run(const bench::GlobalOptions&) {
   const auto* command = program_;
   std::string above;
   for (const auto& word : words_) {
     const auto* below = CommandNamed(*command, word);
-    if (!below) throw InputError(UnknownCommand(word, CommandNamesOf(*command)));
+    if (!below) throw bench::InputError(UnknownCommand(word, CommandNamesOf(*command)));
     above += (above.empty() ? "" : " ") + command->get_name();
     command = below;
   }
@@ -33,7 +33,7 @@ ExitStatus HelpCommand::Run(const GlobalOptions&) {
                                                       CLI::AppFormatMode::Normal);
   else
     std::cout << command->help(above);
-  return ExitStatus::kPassed;
+  return bench::ExitStatus::kPassed;
 }
 
-}  // namespace bench
+}  // namespace host::cli

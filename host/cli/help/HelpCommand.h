@@ -5,17 +5,17 @@
 
 #include "host/cli/commands/Command.h"
 
-namespace bench {
+namespace host::cli {
 
 /// `help`: prints the help of the program or of a command, as `--help` does.
 class HelpCommand final : public Command {
  public:
   CLI::App* Declare(CLI::App& program) override;
-  ExitStatus Run(const GlobalOptions& options) override;
+  bench::ExitStatus Run(const bench::GlobalOptions& options) override;
 
  private:
   const CLI::App* program_ = nullptr;
   std::vector<std::string> words_;
 };
 
-}  // namespace bench
+}  // namespace host::cli

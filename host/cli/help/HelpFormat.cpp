@@ -10,7 +10,7 @@
 #include "host/cli/help/CommandLineView.h"
 #include "host/report/TextLines.h"
 
-namespace bench {
+namespace host::cli {
 
 namespace {
 
@@ -20,7 +20,7 @@ constexpr std::size_t kLineWidth = 110;
 /// The text in lines behind a margin of so many cells.
 std::string Wrapped(const std::string& text, std::size_t margin) {
   std::string wrapped;
-  for (const auto& line : text::Wrapped(text, kLineWidth - margin))
+  for (const auto& line : report::text::Wrapped(text, kLineWidth - margin))
     wrapped += (wrapped.empty() ? "" : "\n" + std::string(margin, ' ')) + line;
   return wrapped;
 }
@@ -109,4 +109,4 @@ std::string HelpFormat::Line(const std::string& name, const std::string& descrip
 
 std::shared_ptr<CLI::FormatterBase> MakeHelpFormat() { return std::make_shared<HelpFormat>(); }
 
-}  // namespace bench
+}  // namespace host::cli

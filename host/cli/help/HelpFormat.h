@@ -6,9 +6,9 @@ namespace CLI {
 class FormatterBase;
 }  // namespace CLI
 
-namespace bench {
+namespace host::cli {
 
 /// The form of the help: the parser's own, in the language that was chosen, its columns counted in cells.
 std::shared_ptr<CLI::FormatterBase> MakeHelpFormat();
 
-}  // namespace bench
+}  // namespace host::cli

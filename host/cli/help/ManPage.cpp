@@ -7,7 +7,7 @@
 
 #include "host/cli/help/CommandLineView.h"
 
-namespace bench {
+namespace host::cli {
 
 namespace {
 
@@ -129,4 +129,4 @@ std::vector<ManPage> ManPages(const CLI::App& program) {
   return pages;
 }
 
-}  // namespace bench
+}  // namespace host::cli

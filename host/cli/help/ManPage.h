@@ -7,7 +7,7 @@ namespace CLI {
 class App;
 }  // namespace CLI
 
-namespace bench {
+namespace host::cli {
 
 /// A page of the manual, in the "man" macros of roff.
 struct ManPage {
@@ -19,4 +19,4 @@ struct ManPage {
 /// declarations that `--help` shows. Hidden commands and options have none.
 std::vector<ManPage> ManPages(const CLI::App& program);
 
-}  // namespace bench
+}  // namespace host::cli

@@ -8,7 +8,7 @@
 #include "host/cli/help/Examples.h"
 #include "host/cli/help/ManPage.h"
 
-namespace bench {
+namespace host::cli {
 
 CLI::App* ManualCommand::Declare(CLI::App& program) {
   program_ = &program;
@@ -19,11 +19,11 @@ CLI::App* ManualCommand::Declare(CLI::App& program) {
   return command;
 }
 
-ExitStatus ManualCommand::Run(const GlobalOptions&) {
+bench::ExitStatus ManualCommand::Run(const bench::GlobalOptions&) {
   const std::filesystem::path folder(folder_);
   CreateFolder(folder);
   for (const auto& page : ManPages(*program_)) ReplaceFile(folder / page.name, page.text);
-  return ExitStatus::kPassed;
+  return bench::ExitStatus::kPassed;
 }
 
-}  // namespace bench
+}  // namespace host::cli

@@ -4,17 +4,17 @@
 
 #include "host/cli/commands/Command.h"
 
-namespace bench {
+namespace host::cli {
 
 /// `manual`: writes the pages of the manual into a folder. For the build; not shown in the help.
 class ManualCommand final : public Command {
  public:
   CLI::App* Declare(CLI::App& program) override;
-  ExitStatus Run(const GlobalOptions& options) override;
+  bench::ExitStatus Run(const bench::GlobalOptions& options) override;
 
  private:
   const CLI::App* program_ = nullptr;
   std::string folder_;
 };
 
-}  // namespace bench
+}  // namespace host::cli

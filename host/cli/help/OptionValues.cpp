@@ -11,7 +11,7 @@
 #include "host/cli/help/ProgramLanguage.h"
 #include "host/standards/LimitSets.h"
 
-namespace bench {
+namespace host::cli {
 
 namespace {
 
@@ -50,7 +50,7 @@ std::vector<std::string> Alternatives(const std::string& alternatives) {
 
 std::vector<std::string> ShippedSets() {
   std::vector<std::string> names;
-  for (const auto& entry : LimitSets({files::ShippedStandards()}).All())
+  for (const auto& entry : standards::LimitSets({bench::files::ShippedStandards()}).All())
     names.push_back(entry.file.stem().string());
   return names;
 }
@@ -74,11 +74,11 @@ bool NamesCommand(const CLI::Option& option) {
 
 std::vector<std::string> WordsFor(const CLI::Option& option) {
   const auto type = TypeOf(option);
-  if (type == kProfile) return {kSimulatedProfiles.begin(), kSimulatedProfiles.end()};
+  if (type == kProfile) return {bench::kSimulatedProfiles.begin(), bench::kSimulatedProfiles.end()};
   if (type == kSet) return ShippedSets();
   if (type == "L") return KnownLanguages();
   if (type == kFileOrAddress || type.find('|') == std::string::npos) return {};
   return Alternatives(type);
 }
 
-}  // namespace bench
+}  // namespace host::cli

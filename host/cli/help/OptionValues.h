@@ -7,7 +7,7 @@ namespace CLI {
 class Option;
 }  // namespace CLI
 
-namespace bench {
+namespace host::cli {
 
 /// What the value of an option or argument may be, derived from the name of its type: "FILE", "DIR",
 /// "passed|failed".
@@ -24,4 +24,4 @@ bool NamesCommand(const CLI::Option& option);
 /// The words that can be given; beside files, where those can be given too.
 std::vector<std::string> WordsFor(const CLI::Option& option);
 
-}  // namespace bench
+}  // namespace host::cli

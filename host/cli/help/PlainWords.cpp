@@ -7,7 +7,7 @@
 #include "host/bench/InputError.h"
 #include "host/cli/help/OptionValues.h"
 
-namespace bench {
+namespace host::cli {
 
 void RefuseControlCharacters(const CLI::App& program) {
   for (const auto* option : program.get_options()) {
@@ -15,7 +15,7 @@ void RefuseControlCharacters(const CLI::App& program) {
     for (const auto& text : option->results()) {
       const auto bad = FindNotPlain(text);
       if (bad != std::string::npos)
-        throw InputError(
+        throw bench::InputError(
             Tr("%%1: the text has a control character, or a byte that is not UTF-8, after \"%%2\"; "
                "remove it",
                {option->get_name(), text.substr(0, bad)}));
@@ -24,4 +24,4 @@ void RefuseControlCharacters(const CLI::App& program) {
   for (const auto* command : program.get_subcommands()) RefuseControlCharacters(*command);
 }
 
-}  // namespace bench
+}  // namespace host::cli

@@ -11,7 +11,7 @@
 #include "host/bench/InputError.h"
 #include "host/bench/ProgramFiles.h"
 
-namespace bench {
+namespace host::cli {
 
 namespace {
 
@@ -47,7 +47,7 @@ std::optional<std::string> Resolved(const std::string& language) {
   const auto name = NameOf(language);
   if (!name) return {};
   if (*name == "C" || *name == "POSIX" || name->substr(0, name->find_first_of("_-")) == kEnglish) return "";
-  const auto files = TranslationFiles(*name, {files::Translations()});
+  const auto files = TranslationFiles(*name, {bench::files::Translations()});
   const bool known = std::any_of(files.begin(), files.end(),
                                  [](const TranslationFile& file) { return file.module == kProgramModule; });
   if (!known) return {};
@@ -74,7 +74,7 @@ std::vector<std::string> KnownLanguages() {
   const std::string beginning = std::string(kProgramModule) + ".";
   std::vector<std::string> languages{kEnglish};
   std::error_code error;
-  for (const auto& entry : std::filesystem::directory_iterator(files::Translations(), error)) {
+  for (const auto& entry : std::filesystem::directory_iterator(bench::files::Translations(), error)) {
     const auto name = entry.path().filename();
     const auto stem = name.stem().string();
     if (name.extension() == ".po" && stem.starts_with(beginning))
@@ -86,16 +86,16 @@ std::vector<std::string> KnownLanguages() {
 
 std::string ChooseProgramLanguage(int argumentCount, const char* const* arguments) {
   auto language = Resolved(OfEnvironment()).value_or("");
-  ChooseLanguage(language, {files::Translations()});
+  ChooseLanguage(language, {bench::files::Translations()});
   if (const auto given = Given(argumentCount, arguments)) {
     const auto wanted = Resolved(*given);
     if (!wanted)
-      throw InputError(Tr("--lang %%1: there are no translations into this language; give one of %%2",
-                          {*given, ListOfLanguages()}));
+      throw bench::InputError(Tr("--lang %%1: there are no translations into this language; give one of %%2",
+                                 {*given, ListOfLanguages()}));
     language = *wanted;
-    ChooseLanguage(language, {files::Translations()});
+    ChooseLanguage(language, {bench::files::Translations()});
   }
   return language;
 }
 
-}  // namespace bench
+}  // namespace host::cli

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-namespace bench {
+namespace host::cli {
 
 /// Chooses the language of the program's texts, before the command line is parsed: that of "--lang", else
 /// that of the environment (ORVIK_LANG, then LC_ALL, LC_MESSAGES and LANG; the first that is set decides). A
@@ -16,4 +16,4 @@ std::string ChooseProgramLanguage(int argumentCount, const char* const* argument
 /// The languages that there are translations of the program into, sorted, and English.
 std::vector<std::string> KnownLanguages();
 
-}  // namespace bench
+}  // namespace host::cli

@@ -6,7 +6,7 @@
 #include "host/base/Text.h"
 #include "host/base/Tr.h"
 
-namespace bench {
+namespace host::cli {
 
 namespace {
 
@@ -65,4 +65,4 @@ std::string UnknownCommand(const std::string& word, const std::vector<std::strin
                        : Tr("unknown command \"%%1\": did you mean \"%%2\"?", {word, meant});
 }
 
-}  // namespace bench
+}  // namespace host::cli

@@ -9,7 +9,7 @@
 #include "host/cli/help/CommandLineView.h"
 #include "host/cli/help/Suggestions.h"
 
-namespace bench {
+namespace host::cli {
 
 namespace {
 
@@ -34,7 +34,7 @@ std::string UnknownOption(const std::string& word, const CLI::App& command) {
 
 std::string UnknownWords(const CLI::App& program) {
   std::vector<std::string> words;
-  for (const auto& word : program.remaining(true)) words.push_back(report::VisibleText(word));
+  for (const auto& word : program.remaining(true)) words.push_back(host::VisibleText(word));
   if (words.empty()) return {};
   const auto& command = Innermost(program);
   if (IsOption(words.front())) return UnknownOption(words.front(), command);
@@ -55,4 +55,4 @@ std::string CommandTyped(const CLI::App& program) {
   return typed;
 }
 
-}  // namespace bench
+}  // namespace host::cli

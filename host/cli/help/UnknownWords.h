@@ -6,7 +6,7 @@ namespace CLI {
 class App;
 }  // namespace CLI
 
-namespace bench {
+namespace host::cli {
 
 /// What the parser did not know of a command line, with what was probably meant; empty when it knew every
 /// word.
@@ -16,4 +16,4 @@ std::string UnknownWords(const CLI::App& program);
 /// The command that was being parsed, as it is typed: "orvik-bench archive add".
 std::string CommandTyped(const CLI::App& program);
 
-}  // namespace bench
+}  // namespace host::cli

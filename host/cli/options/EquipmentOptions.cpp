@@ -4,9 +4,9 @@
 
 #include "host/base/Tr.h"
 
-namespace bench {
+namespace host::cli {
 
-void AddEquipmentOptions(CLI::App& command, Document::Equipment& equipment) {
+void AddEquipmentOptions(CLI::App& command, document::Document::Equipment& equipment) {
   for (auto* option :
        {command.add_option("--asset", equipment.asset, Tr("Asset number of the equipment under test")),
         command.add_option("--serial", equipment.serial, Tr("Its serial number")),
@@ -15,4 +15,4 @@ void AddEquipmentOptions(CLI::App& command, Document::Equipment& equipment) {
     option->type_name("TEXT");
 }
 
-}  // namespace bench
+}  // namespace host::cli

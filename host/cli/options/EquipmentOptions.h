@@ -6,10 +6,10 @@ namespace CLI {
 class App;
 }  // namespace CLI
 
-namespace bench {
+namespace host::cli {
 
 /// Adds --asset, --serial, --maker and --model to the command; they are read into `equipment`, which lives as
 /// long as the command.
-void AddEquipmentOptions(CLI::App& command, Document::Equipment& equipment);
+void AddEquipmentOptions(CLI::App& command, document::Document::Equipment& equipment);
 
-}  // namespace bench
+}  // namespace host::cli

@@ -11,7 +11,7 @@
 #include "host/base/Tr.h"
 #include "host/bench/InputError.h"
 
-namespace bench {
+namespace host::cli {
 
 namespace {
 
@@ -44,14 +44,15 @@ std::string OneByOne(const CLI::Option& option, const std::vector<std::string>& 
 std::int64_t RequireWholeNumber(const CLI::Option& option, std::int64_t highest, const std::string& text) {
   const auto name = option.get_name();
   if (const auto numbers = NumbersOfList(text); numbers.size() > 1 && option.get_expected_max() > 1)
-    throw InputError(
+    throw bench::InputError(
         Tr("%%1 %%2: give the numbers one by one: %%3", {name, text, OneByOne(option, numbers)}));
   std::int64_t number = 0;
   const auto read = std::from_chars(text.data(), text.data() + text.size(), number);
   if (read.ptr != text.data() + text.size() || read.ec == std::errc::invalid_argument)
-    throw InputError(Tr("%%1 %%2: give a whole number, in digits alone", {name, text}));
+    throw bench::InputError(Tr("%%1 %%2: give a whole number, in digits alone", {name, text}));
   if (read.ec != std::errc() || number > highest || number < -highest)
-    throw InputError(Tr("%%1 %%2: give a whole number up to %%3", {name, text, std::to_string(highest)}));
+    throw bench::InputError(
+        Tr("%%1 %%2: give a whole number up to %%3", {name, text, std::to_string(highest)}));
   return number;
 }
 
@@ -67,4 +68,4 @@ CLI::Option* WholeNumbers(CLI::Option* option, std::int64_t highest) {
       ""));
 }
 
-}  // namespace bench
+}  // namespace host::cli

@@ -7,7 +7,7 @@ namespace CLI {
 class Option;
 }  // namespace CLI
 
-namespace bench {
+namespace host::cli {
 
 /// Makes an option or argument accept whole numbers only, in decimal digits: "010" is ten. Anything else is
 /// an `InputError` with the name of the option, the text, and what to write instead.
@@ -16,4 +16,4 @@ namespace bench {
 CLI::Option* WholeNumbers(CLI::Option* option,
                           std::int64_t highest = std::numeric_limits<std::int32_t>::max());
 
-}  // namespace bench
+}  // namespace host::cli

@@ -5,10 +5,10 @@
 #include "host/bench/RunSelection.h"
 #include "host/cli/options/TesterOptions.h"
 
-namespace bench {
+namespace host::cli {
 
 /// What `run` was asked for.
-struct RunOptions : RunSelection {
+struct RunOptions : bench::RunSelection {
   TesterOptions tester;
   std::string operatorKind = "auto";
   std::string by;  ///< the operator's name; empty: that of the account
@@ -17,4 +17,4 @@ struct RunOptions : RunSelection {
   std::string wireLog;  ///< empty: FILE.wire.log
 };
 
-}  // namespace bench
+}  // namespace host::cli

@@ -5,7 +5,7 @@
 #include "host/base/Tr.h"
 #include "host/bench/InputError.h"
 
-namespace bench {
+namespace host::cli {
 
 void DeclareTimeScale(CLI::App& command, double& timeScale) {
   command
@@ -13,7 +13,7 @@ void DeclareTimeScale(CLI::App& command, double& timeScale) {
                   Tr("Divide every pause and time-out; for simulated testers only"))
       ->type_name("X")
       ->check([](const std::string& typed) {
-        RequireTimeScale(typed);
+        bench::RequireTimeScale(typed);
         return std::string();
       });
 }
@@ -33,15 +33,15 @@ void TesterOptions::Declare(CLI::App& command) {
 void TesterOptions::Check() const {
   const bool simulated = simulate_->count() > 0;
   if (simulated == !choice_.port.empty())
-    throw InputError(
+    throw bench::InputError(
         Tr("give either --port with the serial device of the tester, or --simulate for a simulated one"));
 }
 
-const TesterConnection& TesterOptions::Connect(PortManager& ports) {
+const bench::TesterConnection& TesterOptions::Connect(serial::PortManager& ports) {
   choice_.simulated = simulate_->count() > 0;
   choice_.field = choice_.simulated ? "--simulate" : "--port";
-  connection_ = std::make_unique<TesterConnection>(choice_, ports);
+  connection_ = std::make_unique<bench::TesterConnection>(choice_, ports);
   return *connection_;
 }
 
-}  // namespace bench
+}  // namespace host::cli

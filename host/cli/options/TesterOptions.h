@@ -10,7 +10,7 @@ class App;
 class Option;
 }  // namespace CLI
 
-namespace bench {
+namespace host::cli {
 
 /// Declares --time-scale. What it is given is checked as by `RequireTimeScale`.
 void DeclareTimeScale(CLI::App& command, double& timeScale);
@@ -25,14 +25,14 @@ class TesterOptions {
   double TimeScale() const { return choice_.timeScale; }
 
   /// Makes the tester ready, as `TesterConnection` does.
-  const TesterConnection& Connect(PortManager& ports);
+  const bench::TesterConnection& Connect(serial::PortManager& ports);
   /// The remark on the tester's time scale; empty in real time.
-  std::string TimeRemark() const { return TimeScaleRemark(choice_.timeScale); }
+  std::string TimeRemark() const { return bench::TimeScaleRemark(choice_.timeScale); }
 
  private:
-  TesterChoice choice_;
+  bench::TesterChoice choice_;
   CLI::Option* simulate_ = nullptr;
-  std::unique_ptr<TesterConnection> connection_;
+  std::unique_ptr<bench::TesterConnection> connection_;
 };
 
-}  // namespace bench
+}  // namespace host::cli

@@ -11,7 +11,7 @@
 #include "host/base/Tr.h"
 #include "host/run/GuideToolbar.h"
 
-namespace bench {
+namespace host::cli {
 
 namespace {
 
@@ -20,13 +20,13 @@ struct Button {
   std::int32_t command;
 };
 
-constexpr std::array<Button, 7> kButtons{{{"play", guide::kPlay},
-                                          {"stop", guide::kStop},
-                                          {"next", guide::kNext},
-                                          {"previous", guide::kPrevious},
-                                          {"skip", guide::kSkip},
-                                          {"na", guide::kNotApplicable},
-                                          {"abort", guide::kAbort}}};
+constexpr std::array<Button, 7> kButtons{{{"play", plugins::keld::guide::kPlay},
+                                          {"stop", plugins::keld::guide::kStop},
+                                          {"next", plugins::keld::guide::kNext},
+                                          {"previous", plugins::keld::guide::kPrevious},
+                                          {"skip", plugins::keld::guide::kSkip},
+                                          {"na", plugins::keld::guide::kNotApplicable},
+                                          {"abort", plugins::keld::guide::kAbort}}};
 
 constexpr std::size_t kLongestLine = 1000;
 
@@ -37,8 +37,8 @@ std::string WithChoices(const std::string& prompt, const std::string& words) {
 
 }  // namespace
 
-AskOperator::AskOperator(std::shared_ptr<headless::Application> application, StopRequest& stop,
-                         RunReporter& reporter, std::function<std::string()> test)
+AskOperator::AskOperator(std::shared_ptr<toolkit::headless::Application> application, run::StopRequest& stop,
+                         bench::RunReporter& reporter, std::function<std::string()> test)
     : application_(std::move(application)),
       stop_(stop),
       reporter_(reporter),
@@ -47,19 +47,19 @@ AskOperator::AskOperator(std::shared_ptr<headless::Application> application, Sto
 
 AskOperator::~AskOperator() { application_->Forget(watch_); }
 
-void AskOperator::OnStopRequested() { LeaveGuide(*application_); }
+void AskOperator::OnStopRequested() { run::LeaveGuide(*application_); }
 
 void AskOperator::OnWindowReady(const Form& form) {
-  if (stop_.Asked()) return LeaveGuide(*application_);
-  if (form->Name() == guide::kGuideForm) PutGuide(form);
-  if (form->Name() == guide::kPretestForm)
-    reporter_.Prompted(WithChoices(CaptionOf(*form, guide::kPromptText), "ok"));
-  if (form->Name() == guide::kYesNoForm)
-    reporter_.Prompted(WithChoices(CaptionOf(*form, guide::kPromptText), "yes, no"));
+  if (stop_.Asked()) return run::LeaveGuide(*application_);
+  if (form->Name() == plugins::keld::guide::kGuideForm) PutGuide(form);
+  if (form->Name() == plugins::keld::guide::kPretestForm)
+    reporter_.Prompted(WithChoices(run::CaptionOf(*form, plugins::keld::guide::kPromptText), "ok"));
+  if (form->Name() == plugins::keld::guide::kYesNoForm)
+    reporter_.Prompted(WithChoices(run::CaptionOf(*form, plugins::keld::guide::kPromptText), "yes, no"));
 }
 
 void AskOperator::PutGuide(const Form& form) {
-  const auto toolbar = GuideToolbar(*form);
+  const auto toolbar = run::GuideToolbar(*form);
   if (!toolbar) return;
   std::string words;
   for (const auto& button : kButtons) {
@@ -90,24 +90,27 @@ void AskOperator::ReadInput() {
 void AskOperator::Choose(const std::string& word) {
   const auto form = application_->ActiveForm();
   if (!form) return;
-  if (form->Name() == guide::kGuideForm) return ChooseInGuide(form, word);
-  if (form->Name() == guide::kPretestForm && word == "ok") return ClickButton(*form, guide::kPretestOk);
-  if (form->Name() == guide::kYesNoForm && word == "yes") return ClickButton(*form, guide::kYes);
-  if (form->Name() == guide::kYesNoForm && word == "no") return ClickButton(*form, guide::kNo);
+  if (form->Name() == plugins::keld::guide::kGuideForm) return ChooseInGuide(form, word);
+  if (form->Name() == plugins::keld::guide::kPretestForm && word == "ok")
+    return run::ClickButton(*form, plugins::keld::guide::kPretestOk);
+  if (form->Name() == plugins::keld::guide::kYesNoForm && word == "yes")
+    return run::ClickButton(*form, plugins::keld::guide::kYes);
+  if (form->Name() == plugins::keld::guide::kYesNoForm && word == "no")
+    return run::ClickButton(*form, plugins::keld::guide::kNo);
   OnWindowReady(form);
 }
 
 void AskOperator::ChooseInGuide(const Form& form, const std::string& word) {
   if (std::exchange(unconfirmed_, {}).lock() == form) {
-    if (word == "yes") return Click(form, guide::kNotApplicable);
+    if (word == "yes") return Click(form, plugins::keld::guide::kNotApplicable);
     return OnWindowReady(form);
   }
   const auto button =
       std::find_if(kButtons.begin(), kButtons.end(), [&](const Button& known) { return known.word == word; });
-  const auto toolbar = GuideToolbar(*form);
+  const auto toolbar = run::GuideToolbar(*form);
   if (!toolbar || button == kButtons.end() || !toolbar->IsEnabled(button->command))
     return OnWindowReady(form);
-  if (button->command != guide::kNotApplicable) return Click(form, button->command);
+  if (button->command != plugins::keld::guide::kNotApplicable) return Click(form, button->command);
   unconfirmed_ = form;
   AskNotApplicable();
 }
@@ -117,8 +120,9 @@ void AskOperator::AskNotApplicable() {
 }
 
 void AskOperator::Click(const Form& form, std::int32_t command) {
-  if (const auto toolbar = GuideToolbar(*form)) toolbar->Click(command);  // play returns when the run is over
+  if (const auto toolbar = run::GuideToolbar(*form))
+    toolbar->Click(command);  // play returns when the run is over
   if (form->Visible()) OnWindowReady(form);
 }
 
-}  // namespace bench
+}  // namespace host::cli

@@ -5,7 +5,7 @@
 #include <cstdlib>
 #include <string_view>
 
-namespace bench {
+namespace host::cli {
 
 namespace {
 
@@ -39,4 +39,4 @@ std::string Toned(const std::string& text, Tone tone, bool coloured) {
   return RenditionOf(tone) + text + "\033[0m";
 }
 
-}  // namespace bench
+}  // namespace host::cli

@@ -2,7 +2,7 @@
 
 #include <string>
 
-namespace bench {
+namespace host::cli {
 
 /// The meaning of a text. Its colour is never the only sign.
 enum class Tone { kPlain, kGood, kBad, kOpen };
@@ -13,4 +13,4 @@ bool ColoursWanted(int descriptor);
 /// The text in the colour of its tone, for a terminal; unchanged when colours are not wanted.
 std::string Toned(const std::string& text, Tone tone, bool coloured);
 
-}  // namespace bench
+}  // namespace host::cli

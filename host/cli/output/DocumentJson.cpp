@@ -4,7 +4,7 @@
 
 #include "host/judge/ReasonText.h"
 
-namespace bench {
+namespace host::cli {
 
 namespace {
 
@@ -40,14 +40,14 @@ std::vector<std::string> Doubts(const judge::JudgedElement& element) {
 
 Json NumberOrNull(const std::optional<double>& number) { return number ? Json(*number) : Json(nullptr); }
 
-Json JsonOf(const Equipment& equipment) {
+Json JsonOf(const document::Equipment& equipment) {
   return {{"asset", equipment.asset},
           {"serial", equipment.serial},
           {"maker", equipment.maker},
           {"model", equipment.model}};
 }
 
-Json JsonOf(const std::vector<Reason>& reasons) {
+Json JsonOf(const std::vector<document::Reason>& reasons) {
   auto json = Json::array();
   for (const auto& reason : reasons)
     json.push_back(
@@ -55,7 +55,7 @@ Json JsonOf(const std::vector<Reason>& reasons) {
   return json;
 }
 
-Json JsonOf(const RecordedTester& tester) {
+Json JsonOf(const document::RecordedTester& tester) {
   return {{"type", tester.type},
           {"serial", tester.serial},
           {"firmware", tester.firmware},
@@ -89,7 +89,7 @@ Json JsonOf(const judge::JudgedElement& element) {
           {"doubts", Doubts(element)}};
 }
 
-Json JsonOf(const DocumentView& document) {
+Json JsonOf(const report::DocumentView& document) {
   auto elements = Json::array();
   for (const auto& element : document.judged.elements) elements.push_back(JsonOf(element));
   return {{"document", document.path},
@@ -108,4 +108,4 @@ std::string OneLine(const Json& json) { return json.dump(-1, ' ', false, Json::e
 
 std::string Indented(const Json& json) { return json.dump(2, ' ', false, Json::error_handler_t::replace); }
 
-}  // namespace bench
+}  // namespace host::cli

@@ -9,14 +9,14 @@
 #include "host/cli/output/Colour.h"
 #include "host/report/DocumentText.h"
 
-namespace bench {
+namespace host::cli {
 
 namespace {
 
+using host::VisibleText;
 using judge::JudgedElement;
 using judge::Outcome;
 using judge::Verdict;
-using report::VisibleText;
 
 Tone ToneOf(Verdict verdict) {
   if (verdict == Verdict::kFailed) return Tone::kBad;
@@ -35,7 +35,7 @@ Tone ToneOf(Outcome outcome) {
   return Tone::kOpen;
 }
 
-std::string TesterLine(const RecordedTester& tester) {
+std::string TesterLine(const document::RecordedTester& tester) {
   auto line = Tr("Tester %%1, serial number %%2, firmware %%3, test leads %%4 mOhm",
                  {VisibleText(tester.type), VisibleText(tester.serial), VisibleText(tester.firmware),
                   std::to_string(tester.leads)});
@@ -45,7 +45,7 @@ std::string TesterLine(const RecordedTester& tester) {
          ")";
 }
 
-std::string EquipmentLine(const Equipment& equipment) {
+std::string EquipmentLine(const document::Equipment& equipment) {
   std::vector<std::string> parts;
   for (const auto* part : {&equipment.asset, &equipment.maker, &equipment.model, &equipment.serial})
     if (!part->empty()) parts.push_back(VisibleText(*part));
@@ -61,9 +61,10 @@ std::string ElementsOf(const judge::JudgedDocument& document, bool coloured) {
     depths[element.id] = depth;
     text += LeftPadded(std::to_string(element.id), 4) + "  " +
             Toned(Padded(Tr(judge::VerdictText(element.verdict)), 15), ToneOf(element.verdict), coloured) +
-            Padded(ReadingText(element), 16) + std::string(2 * static_cast<std::size_t>(depth), ' ') +
+            Padded(report::ReadingText(element), 16) + std::string(2 * static_cast<std::size_t>(depth), ' ') +
             VisibleText(element.name) + "\n";
-    for (const auto& reason : ReasonTexts(element)) text += std::string(6, ' ') + VisibleText(reason) + "\n";
+    for (const auto& reason : report::ReasonTexts(element))
+      text += std::string(6, ' ') + VisibleText(reason) + "\n";
   }
   return text;
 }
@@ -73,10 +74,10 @@ std::string ElementsOf(const judge::JudgedDocument& document, bool coloured) {
 std::string LineOf(const JudgedElement& element, bool coloured) {
   return std::to_string(element.id) + "  " +
          Toned(Tr(judge::VerdictText(element.verdict)), ToneOf(element.verdict), coloured) + "  " +
-         ReadingText(element) + "  " + VisibleText(element.name);
+         report::ReadingText(element) + "  " + VisibleText(element.name);
 }
 
-std::string TextOf(const DocumentView& document, bool coloured) {
+std::string TextOf(const report::DocumentView& document, bool coloured) {
   const auto& judged = document.judged;
   std::string text =
       Tr("%%1: %%2", {VisibleText(std::filesystem::path(document.path).filename().string()),
@@ -93,4 +94,4 @@ std::string TextOf(const DocumentView& document, bool coloured) {
   return text + ElementsOf(judged, coloured);
 }
 
-}  // namespace bench
+}  // namespace host::cli

@@ -7,7 +7,7 @@
 #include "host/judge/ReasonText.h"
 #include "host/serial/Latin1.h"
 
-namespace bench {
+namespace host::cli {
 
 using Json = nlohmann::ordered_json;
 
@@ -34,28 +34,28 @@ void EventLines::Finished(const judge::JudgedElement& element) {
                      {"reasons", JsonOf(element.reasons)}});
 }
 
-void EventLines::Wire(const WireRecord& record) {
+void EventLines::Wire(const serial::WireRecord& record) {
   exchange_.Take(record);
-  const auto text = VisibleLatin1(record.text);
+  const auto text = serial::VisibleLatin1(record.text);
   switch (record.kind) {
-    case WireRecord::Kind::kSent:
+    case serial::WireRecord::Kind::kSent:
       return Print("command", {{"text", text}, {"attempt", exchange_.Attempt()}});
-    case WireRecord::Kind::kReceived:
+    case serial::WireRecord::Kind::kReceived:
       return Print("reply", {{"text", text}});
-    case WireRecord::Kind::kDropped:
+    case serial::WireRecord::Kind::kDropped:
       return Print("dropped", {{"text", text}});
-    case WireRecord::Kind::kOpened:
+    case serial::WireRecord::Kind::kOpened:
       return Print("port-opened", Json::object());
-    case WireRecord::Kind::kFailed:
+    case serial::WireRecord::Kind::kFailed:
       return Print("port-failed", Json::object());
-    case WireRecord::Kind::kClosed:
+    case serial::WireRecord::Kind::kClosed:
       return Print("port-closed", Json::object());
   }
 }
 
 void EventLines::Prompted(const std::string& text) { Print("prompt", {{"text", text}}); }
 
-void EventLines::Doubted(std::int32_t element, const Reason& doubt) {
+void EventLines::Doubted(std::int32_t element, const document::Reason& doubt) {
   Print("doubt", {{"element", element},
                   {"code", doubt.code},
                   {"arguments", doubt.arguments},
@@ -74,4 +74,4 @@ void EventLines::Print(const char* event, const Json& fields) {
   out_ << OneLine(line) << std::endl;
 }
 
-}  // namespace bench
+}  // namespace host::cli

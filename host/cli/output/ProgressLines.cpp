@@ -14,7 +14,7 @@
 #include "host/plugins/keld/KeldProtocol.h"
 #include "host/serial/Latin1.h"
 
-namespace bench {
+namespace host::cli {
 
 namespace {
 
@@ -31,7 +31,8 @@ std::string Fitting(const std::string& text) {
 
 }  // namespace
 
-ProgressLines::ProgressLines(std::ostream& out, int descriptor, std::shared_ptr<ILoop> loop, double timeScale)
+ProgressLines::ProgressLines(std::ostream& out, int descriptor, std::shared_ptr<toolkit::loop::ILoop> loop,
+                             double timeScale)
     : out_(out),
       terminal_(isatty(descriptor) == 1),
       coloured_(ColoursWanted(descriptor)),
@@ -56,7 +57,7 @@ void ProgressLines::Reached(std::size_t place, std::size_t count) {
 }
 
 void ProgressLines::Started(const judge::JudgedElement& element) {
-  element_ = std::to_string(element.testId) + " " + report::VisibleText(element.name);
+  element_ = std::to_string(element.testId) + " " + host::VisibleText(element.name);
   Print(place_ + element_);
 }
 
@@ -64,22 +65,23 @@ void ProgressLines::Finished(const judge::JudgedElement& element) {
   Print("      " + LineOf(element, coloured_));
 }
 
-void ProgressLines::Wire(const WireRecord& record) {
+void ProgressLines::Wire(const serial::WireRecord& record) {
   exchange_.Take(record);
   estimate_.Take(record);
-  if (record.kind == WireRecord::Kind::kFailed) Print("      " + Tr("the line to the tester has failed"));
-  if (record.kind != WireRecord::Kind::kSent) return;
+  if (record.kind == serial::WireRecord::Kind::kFailed)
+    Print("      " + Tr("the line to the tester has failed"));
+  if (record.kind != serial::WireRecord::Kind::kSent) return;
   if (terminal_) return Redraw();
   Print("      " + Tr("%%1, attempt %%2 of %%3", {exchange_.Command(), std::to_string(exchange_.Attempt()),
-                                                  std::to_string(keld_facts::kMaxAttempts)}));
+                                                  std::to_string(plugins::keld::kMaxAttempts)}));
 }
 
 void ProgressLines::Prompted(const std::string& text) {
-  Print("      " + report::VisibleText(text, report::LineEnds::kKept));
+  Print("      " + host::VisibleText(text, host::LineEnds::kKept));
 }
 
-void ProgressLines::Doubted(std::int32_t, const Reason& doubt) {
-  Print("      " + Tr("doubt: %%1", {report::VisibleText(judge::ReasonText(doubt))}));
+void ProgressLines::Doubted(std::int32_t, const document::Reason& doubt) {
+  Print("      " + Tr("doubt: %%1", {host::VisibleText(judge::ReasonText(doubt))}));
 }
 
 void ProgressLines::Remark(const std::string& text) { Print(text); }
@@ -107,4 +109,4 @@ void ProgressLines::Erase() {
   drawn_ = false;
 }
 
-}  // namespace bench
+}  // namespace host::cli

@@ -8,20 +8,20 @@
 #include "host/judge/Verdict.h"
 #include "host/report/RunOutcome.h"
 
-namespace bench {
+namespace host::cli {
 
 namespace {
 
-using report::VisibleText;
+using host::VisibleText;
 
-std::string EquipmentText(const Equipment& equipment) {
+std::string EquipmentText(const document::Equipment& equipment) {
   std::vector<std::string> parts;
   for (const auto* part : {&equipment.asset, &equipment.maker, &equipment.model, &equipment.serial})
     if (!part->empty()) parts.push_back(VisibleText(*part));
   return parts.empty() ? Tr("not recorded") : Joined(parts, ", ");
 }
 
-std::string TesterText(const RecordedTester& tester) {
+std::string TesterText(const document::RecordedTester& tester) {
   const auto measured = tester.leadsMeasured.empty()
                             ? Tr("date not known")
                             : Tr("measured %%1", {VisibleText(tester.leadsMeasured)});
@@ -30,34 +30,34 @@ std::string TesterText(const RecordedTester& tester) {
              std::to_string(tester.leads), measured});
 }
 
-std::string BoundsText(const RecordedLimit& limit) {
+std::string BoundsText(const document::RecordedLimit& limit) {
   if (!limit.low.empty() && !limit.high.empty())
     return Tr("%%1 to %%2", {limit.low, limit.high + " " + limit.unit});
   return limit.low.empty() ? Tr("at most %%1", {limit.high + " " + limit.unit})
                            : Tr("at least %%1", {limit.low + " " + limit.unit});
 }
 
-std::string Reading(const RecordedTest& test) {
+std::string Reading(const document::RecordedTest& test) {
   if (!test.recorded || test.recorded->value.empty()) return "-";
   if (test.recorded->flags.find('O') != std::string::npos) return "OL";
   return test.recorded->unit.empty() ? test.recorded->value
                                      : test.recorded->value + " " + VisibleText(test.recorded->unit);
 }
 
-std::string TestText(const TestThen& then) {
+std::string TestText(const report::TestThen& then) {
   const auto& test = *then.test;
   constexpr char kIndent[] = "      ";
   auto text =
       LeftPadded(std::to_string(test.element), 4) + "  " + LeftPadded(std::to_string(test.testId), 4) + "  " +
       Padded(Tr(judge::VerdictText(then.verdict)), 15) + Padded(Reading(test), 16) + VisibleText(test.at) +
-      (test.by == RecordedTest::By::kOperator ? "  " + Tr("by the operator") : "") + "\n";
+      (test.by == document::RecordedTest::By::kOperator ? "  " + Tr("by the operator") : "") + "\n";
   for (const auto& line : test.said) text += kIndent + Tr("said: %%1", {VisibleText(line)}) + "\n";
   for (const auto& limit : test.judged)
     text += kIndent +
             Tr("judged: %%1, %%2: %%3",
                {VisibleText(limit.description.empty() ? limit.standard
                                                       : limit.standard + ", " + limit.description),
-                VisibleText(BoundsText(limit)), LimitWord(VerdictThen(limit, test))}) +
+                VisibleText(BoundsText(limit)), report::LimitWord(report::VerdictThen(limit, test))}) +
             "\n";
   for (const auto& doubt : test.doubts)
     text += kIndent + Tr("doubt: %%1", {VisibleText(judge::ReasonText(doubt))}) + "\n";
@@ -66,17 +66,17 @@ std::string TestText(const TestThen& then) {
 
 }  // namespace
 
-std::string RunsText(const std::vector<RunRecord>& runs) {
+std::string RunsText(const std::vector<document::RunRecord>& runs) {
   if (runs.empty()) return Tr("The document has not been run yet.") + "\n";
   std::vector<std::vector<std::string>> lines{{Tr("Run"), Tr("Begun"), Tr("End"), Tr("Finished"),
                                                Tr("Operator"), Tr("Tester"), Tr("Equipment"), Tr("Remark")}};
   for (const auto& run : runs) {
-    const auto count = CountOf(run);
+    const auto count = report::CountOf(run);
     std::vector<std::string> remarks;
     if (run.simulated) remarks.push_back(Tr("SIMULATED"));
     if (!run.intact) remarks.push_back(Tr("changed by another program"));
     if (run.gapAfter) remarks.push_back(Tr("a later run is missing"));
-    lines.push_back({std::to_string(run.number), VisibleText(run.begun), EndWord(run),
+    lines.push_back({std::to_string(run.number), VisibleText(run.begun), report::EndWord(run),
                      Tr("%%1 of %%2", {std::to_string(count.finished), std::to_string(count.taken)}),
                      VisibleText(run.by), run.testers.empty() ? "-" : VisibleText(run.testers.back().serial),
                      EquipmentText(run.equipment), Joined(remarks, ", ")});
@@ -84,16 +84,17 @@ std::string RunsText(const std::vector<RunRecord>& runs) {
   return Columned(lines, {0});
 }
 
-std::string RunText(const RunRecord& run, std::size_t count, const RunOutcomes& outcomes) {
+std::string RunText(const document::RunRecord& run, std::size_t count, const report::RunOutcomes& outcomes) {
   auto text = Tr("Run %%1 of %%2 as recorded; \"show\" without --run prints what counts now.",
                  {std::to_string(run.number), std::to_string(count)}) +
               "\n";
   if (run.simulated) text += Tr("SIMULATED: a simulated tester was used; nothing was measured.") + "\n";
   if (!run.intact) text += Tr("This record was changed by another program.") + "\n";
   if (run.gapAfter) text += Tr("A run that came after it was removed or changed by another program.") + "\n";
-  text += Tr("Begun %%1, ended %%2: %%3",
-             {VisibleText(run.begun), run.ended.empty() ? "-" : VisibleText(run.ended), EndWord(run)}) +
-          "\n";
+  text +=
+      Tr("Begun %%1, ended %%2: %%3",
+         {VisibleText(run.begun), run.ended.empty() ? "-" : VisibleText(run.ended), report::EndWord(run)}) +
+      "\n";
   text += Tr("Equipment %%1", {EquipmentText(run.equipment)}) + "\n";
   if (!run.by.empty()) text += Tr("Operator %%1", {VisibleText(run.by)}) + "\n";
   for (const auto& tester : run.testers) text += TesterText(tester) + "\n";
@@ -101,13 +102,13 @@ std::string RunText(const RunRecord& run, std::size_t count, const RunOutcomes& 
   return text;
 }
 
-const RunRecord& FoundRun(const std::vector<RunRecord>& runs, std::int32_t number) {
+const document::RunRecord& FoundRun(const std::vector<document::RunRecord>& runs, std::int32_t number) {
   for (const auto& run : runs)
     if (run.number == number) return run;
   if (runs.empty())
-    throw InputError(Tr("--run %%1: the document has not been run yet", {std::to_string(number)}));
-  throw InputError(
+    throw bench::InputError(Tr("--run %%1: the document has not been run yet", {std::to_string(number)}));
+  throw bench::InputError(
       Tr("--run %%1: the document has runs 1 to %%2", {std::to_string(number), std::to_string(runs.size())}));
 }
 
-}  // namespace bench
+}  // namespace host::cli

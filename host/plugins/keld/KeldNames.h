@@ -3,7 +3,7 @@
 #include <cstdint>
 
 /// The names under which the host finds this one plug-in, its classes and its saved settings.
-namespace bench::keld_facts {
+namespace host::plugins::keld {
 
 inline constexpr char kLibraryFile[] = "orvikKELD.so";
 /// The class of the dialog that measures the test leads.
@@ -27,4 +27,4 @@ inline constexpr char kSettingsNode[] = "KELDConfig";
 inline constexpr char kOptionsAttribute[] = "Options";
 inline constexpr char kFilterAttribute[] = "ValueFilter";
 
-}  // namespace bench::keld_facts
+}  // namespace host::plugins::keld

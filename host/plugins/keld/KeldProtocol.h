@@ -4,7 +4,7 @@
 #include <string_view>
 
 /// How this one plug-in talks with its tester, for the host to follow on the wire.
-namespace bench::keld_facts {
+namespace host::plugins::keld {
 
 /// The pause before each command.
 inline constexpr std::chrono::milliseconds kPause{3500};
@@ -30,4 +30,4 @@ inline constexpr std::size_t kValueField = 2, kOverloadField = 3, kUnitField = 4
 inline constexpr int kNotAllowedNow = 1003;
 inline constexpr int kNoSuchTest = 6002;
 
-}  // namespace bench::keld_facts
+}  // namespace host::plugins::keld

@@ -7,7 +7,7 @@
 #include "host/base/Tr.h"
 
 /// What the host knows of the tests of this one plug-in, to check its results by rules of its own.
-namespace bench::keld_facts {
+namespace host::plugins::keld {
 
 /// The key of the limits by which the plug-in judges.
 inline constexpr std::string_view kLimitKey = "NO LIMIT KEY";
@@ -34,4 +34,4 @@ inline constexpr std::array kFilters{Marked("No values"), Marked("All values"), 
 inline constexpr std::string_view kMaximumFilter = kFilters[2];
 inline constexpr std::string_view kMinimumFilter = kFilters[3];
 
-}  // namespace bench::keld_facts
+}  // namespace host::plugins::keld

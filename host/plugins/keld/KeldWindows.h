@@ -3,7 +3,7 @@
 #include <cstdint>
 
 /// Names of the windows of this one plug-in and of their controls, and the commands of the guide's buttons.
-namespace bench::guide {
+namespace host::plugins::keld::guide {
 
 inline constexpr char kGuideForm[] = "FTestGuide";
 inline constexpr char kToolbar[] = "xtbToolbar";
@@ -31,4 +31,4 @@ inline constexpr char kLeadsCancel[] = "cmdCancel";
 inline constexpr char kLeadsSerial[] = "txtSerial";
 inline constexpr char kLeadsType[] = "txtMTIType";
 
-}  // namespace bench::guide
+}  // namespace host::plugins::keld::guide

@@ -5,7 +5,7 @@
 
 #include "host/report/drawing/PdfText.h"
 
-namespace bench::pdf {
+namespace host::report::drawing {
 namespace {
 
 constexpr double kTop = 300, kThick = 140, kSide = 160;
@@ -59,4 +59,4 @@ void DrawBar(QPainter& painter, const QRectF& place, const report::Judgement& ju
   painter.restore();
 }
 
-}  // namespace bench::pdf
+}  // namespace host::report::drawing

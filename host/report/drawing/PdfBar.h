@@ -4,11 +4,11 @@
 
 #include "host/report/Report.h"
 
-namespace bench::pdf {
+namespace host::report::drawing {
 
 inline constexpr double kBarHeight = 760;
 
 /// Draws the judgement's bar with its labels into the place, `kBarHeight` high.
 void DrawBar(QPainter& painter, const QRectF& place, const report::Judgement& judgement);
 
-}  // namespace bench::pdf
+}  // namespace host::report::drawing

@@ -2,7 +2,7 @@
 
 #include <QPainterPath>
 
-namespace bench::pdf {
+namespace host::report::drawing {
 namespace {
 
 void DrawQuestionMark(QPainter& painter, const QRectF& square) {
@@ -60,4 +60,4 @@ void DrawSign(QPainter& painter, report::Standing standing, const QRectF& square
   painter.restore();
 }
 
-}  // namespace bench::pdf
+}  // namespace host::report::drawing

@@ -4,9 +4,9 @@
 
 #include "host/report/Report.h"
 
-namespace bench::pdf {
+namespace host::report::drawing {
 
 /// Draws the sign of a standing into a square: a tick, a cross, a question mark and so on.
 void DrawSign(QPainter& painter, report::Standing standing, const QRectF& square, const QColor& colour);
 
-}  // namespace bench::pdf
+}  // namespace host::report::drawing

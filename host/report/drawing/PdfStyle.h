@@ -6,7 +6,7 @@
 
 /// Measures and colours of the pages. Lengths are in twips, 20 of which are a point and 1,440 an inch: the
 /// same as in the tables' markup, and fine enough to place letters exactly.
-namespace bench::pdf {
+namespace host::report::drawing {
 
 inline constexpr int kTwipsPerInch = 1440;
 inline constexpr double kPoint = 20;
@@ -44,4 +44,4 @@ inline QColor ColourOf(report::Standing standing) {
   return {0x85, 0x50, 0x00};
 }
 
-}  // namespace bench::pdf
+}  // namespace host::report::drawing

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace bench::pdf {
+namespace host::report::drawing {
 namespace {
 
 constexpr double kLeading = 1.16;
@@ -77,4 +77,4 @@ void PdfText::Draw(QPainter& painter, QPointF at, std::size_t first, std::size_t
   }
 }
 
-}  // namespace bench::pdf
+}  // namespace host::report::drawing

@@ -11,7 +11,7 @@
 
 class QTextLayout;
 
-namespace bench::pdf {
+namespace host::report::drawing {
 
 struct TextStyle {
   double points = 9.5;
@@ -43,4 +43,4 @@ class PdfText {
   QColor colour_;
 };
 
-}  // namespace bench::pdf
+}  // namespace host::report::drawing

@@ -7,10 +7,10 @@ extern "C" {
 
 __attribute__((visibility("default"))) const char* OrvikPdfVersion() { return ORVIK_VERSION; }
 
-__attribute__((visibility("default"))) bool OrvikWritePdf(const bench::report::Report& report,
+__attribute__((visibility("default"))) bool OrvikWritePdf(const host::report::Report& report,
                                                           std::string& pdf, std::string& reason) {
   try {
-    pdf = bench::PdfReport(report);
+    pdf = host::report::pdf::PdfReport(report);
     return true;
   } catch (const std::exception& error) {
     reason = error.what();

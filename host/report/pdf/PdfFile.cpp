@@ -4,7 +4,7 @@
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFWriter.hh>
 
-namespace bench::pdf {
+namespace host::report::pdf {
 namespace {
 
 using Object = QPDFObjectHandle;
@@ -79,4 +79,4 @@ std::string Completed(const std::string& pdf, const Properties& properties,
   return {reinterpret_cast<const char*>(bytes->getBuffer()), bytes->getSize()};
 }
 
-}  // namespace bench::pdf
+}  // namespace host::report::pdf

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-namespace bench::pdf {
+namespace host::report::pdf {
 
 /// An entry of the outline that readers show beside the pages.
 struct Bookmark {
@@ -26,4 +26,4 @@ struct Properties {
 std::string Completed(const std::string& pdf, const Properties& properties,
                       const std::vector<Bookmark>& bookmarks);
 
-}  // namespace bench::pdf
+}  // namespace host::report::pdf

@@ -9,13 +9,13 @@
 
 #include "host/report/drawing/PdfText.h"
 
-namespace bench::pdf {
+namespace host::report::pdf {
 namespace {
 
 constexpr double kSmall = 8;
 
 /// The start of a text that is longer than any line: measuring all of it on each page takes too long.
-QString StartOf(const std::string& text) { return Text(text).left(400); }
+QString StartOf(const std::string& text) { return drawing::Text(text).left(400); }
 
 /// One line of text that ends with "..." where it would be wider.
 void DrawLine(QPainter& painter, const std::string& text, const QRectF& place, const QFont& font,
@@ -34,20 +34,24 @@ class Header {
 
   void Draw(std::size_t page, std::size_t pages) {
     constexpr double kNumber = 1200;
-    DrawLine(painter_, Fact(0), Line(0, kUsable - kNumber), FontOf(kSmall, true), kInk, Qt::AlignLeft);
+    DrawLine(painter_, Fact(0), Line(0, drawing::kUsable - kNumber), drawing::FontOf(kSmall, true),
+             drawing::kInk, Qt::AlignLeft);
     DrawLine(painter_, std::to_string(page + 1) + " / " + std::to_string(pages),
-             Line(kUsable - kNumber, kUsable), FontOf(kSmall, true), kInk, Qt::AlignRight);
-    y_ += kLineHeight;
-    DrawLine(painter_, Fact(1), Line(0, kUsable), FontOf(kSmall), kQuiet, Qt::AlignLeft);
-    y_ += kLineHeight;
-    const auto date = Line(0, std::min(WidthOf(Fact(2)), kUsable / 2));
-    DrawLine(painter_, Fact(2), date, FontOf(kSmall), kQuiet, Qt::AlignLeft);
-    DrawLine(painter_, Fact(3), Line(date.width() + kBetween, kUsable), FontOf(kSmall), kQuiet,
+             Line(drawing::kUsable - kNumber, drawing::kUsable), drawing::FontOf(kSmall, true), drawing::kInk,
              Qt::AlignRight);
     y_ += kLineHeight;
+    DrawLine(painter_, Fact(1), Line(0, drawing::kUsable), drawing::FontOf(kSmall), drawing::kQuiet,
+             Qt::AlignLeft);
+    y_ += kLineHeight;
+    const auto date = Line(0, std::min(WidthOf(Fact(2)), drawing::kUsable / 2));
+    DrawLine(painter_, Fact(2), date, drawing::FontOf(kSmall), drawing::kQuiet, Qt::AlignLeft);
+    DrawLine(painter_, Fact(3), Line(date.width() + kBetween, drawing::kUsable), drawing::FontOf(kSmall),
+             drawing::kQuiet, Qt::AlignRight);
+    y_ += kLineHeight;
     for (const auto& mark : report_.marks) Mark(mark);
-    painter_.setPen(QPen(kAccent, 12));
-    painter_.drawLine(QPointF(kMargin, y_ + kBelow), QPointF(kMargin + kUsable, y_ + kBelow));
+    painter_.setPen(QPen(drawing::kAccent, 12));
+    painter_.drawLine(QPointF(drawing::kMargin, y_ + kBelow),
+                      QPointF(drawing::kMargin + drawing::kUsable, y_ + kBelow));
   }
 
  private:
@@ -60,37 +64,38 @@ class Header {
 
   static double WidthOf(const std::string& text) {
     constexpr double kRounding = 2;
-    return QFontMetricsF(FontOf(kSmall)).horizontalAdvance(StartOf(text)) + kRounding;
+    return QFontMetricsF(drawing::FontOf(kSmall)).horizontalAdvance(StartOf(text)) + kRounding;
   }
 
-  QRectF Line(double from, double to) const { return {kMargin + from, y_, to - from, kLineHeight}; }
+  QRectF Line(double from, double to) const { return {drawing::kMargin + from, y_, to - from, kLineHeight}; }
 
   void Mark(const report::PageMark& mark) {
     if (!mark.strong) {
-      DrawLine(painter_, mark.text, Line(0, kUsable), FontOf(kSmall, true), ColourOf(report::Standing::kOpen),
-               Qt::AlignLeft);
+      DrawLine(painter_, mark.text, Line(0, drawing::kUsable), drawing::FontOf(kSmall, true),
+               drawing::ColourOf(report::Standing::kOpen), Qt::AlignLeft);
       y_ += kLineHeight;
       return;
     }
-    painter_.fillRect(QRectF(kMargin, y_, kUsable, kStrongHeight), Qt::black);
-    DrawLine(painter_, mark.text, QRectF(kMargin + 80, y_ + 20, kUsable - 160, kStrongHeight),
-             FontOf(9.5, true), Qt::white, Qt::AlignLeft);
+    painter_.fillRect(QRectF(drawing::kMargin, y_, drawing::kUsable, kStrongHeight), Qt::black);
+    DrawLine(painter_, mark.text,
+             QRectF(drawing::kMargin + 80, y_ + 20, drawing::kUsable - 160, kStrongHeight),
+             drawing::FontOf(9.5, true), Qt::white, Qt::AlignLeft);
     y_ += kStrongHeight + 30;
   }
 
   QPainter& painter_;
   const report::Report& report_;
-  double y_ = kHeaderTop;
+  double y_ = drawing::kHeaderTop;
 };
 
 void DrawWatermark(QPainter& painter, const report::PageMark& mark) {
   painter.save();
-  painter.translate(kPageWidth / 2, kPageHeight / 2);
+  painter.translate(drawing::kPageWidth / 2, drawing::kPageHeight / 2);
   painter.rotate(-55);
-  painter.setFont(FontOf(120, true));
-  painter.setPen(mark.strong ? kFaintStrong : kFaint);
-  painter.drawText(QRectF(-kPageHeight / 2, -2000, kPageHeight, 4000), Qt::AlignCenter,
-                   Text(mark.word).toUpper());
+  painter.setFont(drawing::FontOf(120, true));
+  painter.setPen(mark.strong ? drawing::kFaintStrong : drawing::kFaint);
+  painter.drawText(QRectF(-drawing::kPageHeight / 2, -2000, drawing::kPageHeight, 4000), Qt::AlignCenter,
+                   drawing::Text(mark.word).toUpper());
   painter.restore();
 }
 
@@ -98,7 +103,7 @@ void DrawWatermark(QPainter& painter, const report::PageMark& mark) {
 
 void PdfPages::NewPage() {
   pages_.emplace_back();
-  y_ = kBodyTop;
+  y_ = drawing::kBodyTop;
 }
 
 void PdfPages::Ensure(double height) {
@@ -112,13 +117,13 @@ void PdfPages::Gap(double height) {
 void PdfPages::Line() {
   if (AtTop()) return;
   Draw([y = y_ + 200](QPainter& painter) {
-    painter.setPen(QPen(kLine, 14));
-    painter.drawLine(QPointF(kMargin, y), QPointF(kMargin + kUsable, y));
+    painter.setPen(QPen(drawing::kLine, 14));
+    painter.drawLine(QPointF(drawing::kMargin, y), QPointF(drawing::kMargin + drawing::kUsable, y));
   });
 }
 
 void PdfPages::Mark(const std::string& title, int level) {
-  bookmarks_.push_back({title, pages_.size() - 1, (y_ - 100) / kPoint, level});
+  bookmarks_.push_back({title, pages_.size() - 1, (y_ - 100) / drawing::kPoint, level});
 }
 
 std::string PdfPages::Write(const report::Report& report) const {
@@ -126,9 +131,9 @@ std::string PdfPages::Write(const report::Report& report) const {
   QBuffer buffer(&bytes);
   buffer.open(QIODevice::WriteOnly);
   QPdfWriter writer(&buffer);
-  writer.setTitle(Text(CaptionOf(report)));
+  writer.setTitle(drawing::Text(CaptionOf(report)));
   writer.setCreator("orvik-bench");
-  writer.setResolution(kTwipsPerInch);
+  writer.setResolution(drawing::kTwipsPerInch);
   writer.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF(0, 0, 0, 0)));
   QPainter painter;
   if (!painter.begin(&writer)) throw std::runtime_error("the pages cannot be drawn");
@@ -142,4 +147,4 @@ std::string PdfPages::Write(const report::Report& report) const {
   return bytes.toStdString();
 }
 
-}  // namespace bench::pdf
+}  // namespace host::report::pdf

@@ -8,7 +8,7 @@
 #include "host/report/drawing/PdfStyle.h"
 #include "host/report/pdf/PdfFile.h"
 
-namespace bench::pdf {
+namespace host::report::pdf {
 
 /// Pages that are filled from the top. They are drawn when all are known, since each shows how many there
 /// are.
@@ -21,9 +21,9 @@ class PdfPages {
   void NewPage();
   /// Where the next part starts, from the top of the page.
   double Y() const { return y_; }
-  double Room() const { return kBodyBottom - y_; }
-  static constexpr double FullPage() { return kBodyBottom - kBodyTop; }
-  bool AtTop() const { return y_ <= kBodyTop; }
+  double Room() const { return drawing::kBodyBottom - y_; }
+  static constexpr double FullPage() { return drawing::kBodyBottom - drawing::kBodyTop; }
+  bool AtTop() const { return y_ <= drawing::kBodyTop; }
   /// Starts a new page if this one lacks that much room, and an empty one has it.
   void Ensure(double height);
   void Advance(double height) { y_ += height; }
@@ -46,4 +46,4 @@ class PdfPages {
   double y_ = 0;
 };
 
-}  // namespace bench::pdf
+}  // namespace host::report::pdf

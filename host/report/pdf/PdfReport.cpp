@@ -12,7 +12,7 @@
 #include "host/report/pdf/PdfPages.h"
 #include "host/report/pdf/PdfSections.h"
 
-namespace bench {
+namespace host::report::pdf {
 namespace {
 
 using namespace pdf;
@@ -83,8 +83,9 @@ std::string PdfReport(const report::Report& report) {
     if (!parts.front().line) parts.insert(parts.begin(), HeadingPart(report.words.details));
     PlaceTogether(parts, pages);
   }
-  return Completed(pages.Write(report), {report.language, report.created, kPageHeight / kPoint},
+  return Completed(pages.Write(report),
+                   {report.language, report.created, drawing::kPageHeight / drawing::kPoint},
                    pages.Bookmarks());
 }
 
-}  // namespace bench
+}  // namespace host::report::pdf

@@ -5,16 +5,16 @@
 #include "host/report/drawing/PdfBar.h"
 #include "host/report/drawing/PdfSign.h"
 
-namespace bench::pdf {
+namespace host::report::pdf {
 namespace {
 
 using Rules = PdfTable::Rules;
 
-const TextStyle kQuietText{8.5, false, kQuiet};
+const drawing::TextStyle kQuietText{8.5, false, drawing::kQuiet};
 const std::string kDash = "\u2013";
 
-PdfTable TextTable(const std::string& text, const TextStyle& style) {
-  PdfTable table({{kUsable}}, {});
+PdfTable TextTable(const std::string& text, const drawing::TextStyle& style) {
+  PdfTable table({{drawing::kUsable}}, {});
   table.AddRow({TextCell(text, style)});
   return table;
 }
@@ -22,20 +22,22 @@ PdfTable TextTable(const std::string& text, const TextStyle& style) {
 /// The verdict on its colour, readable from across the room.
 PdfTable VerdictTable(const report::Verdict& verdict) {
   constexpr double kPadding = 420, kVerdictSign = 1500, kLeft = kPadding + kVerdictSign + 480;
-  const PdfText word({{verdict.word}}, kUsable - kLeft - kPadding, {46, true, Qt::white});
-  const PdfText sentence({{verdict.sentence}}, kUsable - kLeft - kPadding, {14, false, Qt::white});
+  const drawing::PdfText word({{verdict.word}}, drawing::kUsable - kLeft - kPadding, {46, true, Qt::white});
+  const drawing::PdfText sentence({{verdict.sentence}}, drawing::kUsable - kLeft - kPadding,
+                                  {14, false, Qt::white});
   const double text = word.Height() + sentence.Height();
-  PdfTable table({{kUsable}}, {});
+  PdfTable table({{drawing::kUsable}}, {});
   table.AddRow({{.text = {},
                  .height = std::max(text, kVerdictSign) + 2 * kPadding,
                  .draw = [=, standing = verdict.standing](QPainter& painter, const QRectF& place) {
                    painter.setPen(Qt::NoPen);
-                   painter.setBrush(ColourOf(standing));
+                   painter.setBrush(drawing::ColourOf(standing));
                    painter.drawRoundedRect(place, 160, 160);
                    const double middle = place.center().y();
-                   DrawSign(painter, standing,
-                            {place.left() + kPadding, middle - kVerdictSign / 2, kVerdictSign, kVerdictSign},
-                            Qt::white);
+                   drawing::DrawSign(
+                       painter, standing,
+                       {place.left() + kPadding, middle - kVerdictSign / 2, kVerdictSign, kVerdictSign},
+                       Qt::white);
                    word.Draw(painter, {place.left() + kLeft, middle - text / 2});
                    sentence.Draw(painter, {place.left() + kLeft, middle - text / 2 + word.Height()});
                  }}});
@@ -43,21 +45,26 @@ PdfTable VerdictTable(const report::Verdict& verdict) {
 }
 
 PdfTable NotesTable(const std::vector<report::Note>& notes) {
-  PdfTable table({{kUsable}}, {.above = 30});
+  PdfTable table({{drawing::kUsable}}, {.above = 30});
   for (const auto& note : notes) table.AddRow({WordCell(note.standing, note.text)});
   return table;
 }
 
 PdfTable JudgementsTable(const report::Section& section, const report::Words& words) {
-  PdfTable table({{kUsable * 0.27}, {kUsable * 0.2}, {kUsable * 0.18}, {kUsable * 0.35}},
+  PdfTable table({{drawing::kUsable * 0.27},
+                  {drawing::kUsable * 0.2},
+                  {drawing::kUsable * 0.18},
+                  {drawing::kUsable * 0.35}},
                  {.rules = Rules::kRows, .above = 70});
   table.AddHead({TextCell(words.standard, kQuietText), TextCell(words.bounds, kQuietText),
                  TextCell(words.judgement, kQuietText), TextCell(words.bar, kQuietText)});
   for (const auto& judgement : section.judgements) {
     TableCell bar = TextCell(kDash);
     if (judgement.bar) {
-      bar.height = kBarHeight;
-      bar.draw = [judgement](QPainter& painter, const QRectF& place) { DrawBar(painter, place, judgement); };
+      bar.height = drawing::kBarHeight;
+      bar.draw = [judgement](QPainter& painter, const QRectF& place) {
+        drawing::DrawBar(painter, place, judgement);
+      };
     }
     table.AddRow({TextCell(judgement.standard), TextCell(judgement.bounds),
                   WordCell(judgement.standing, judgement.word), bar});
@@ -77,24 +84,26 @@ std::vector<PdfTable::Column> ColumnsOf(const report::Table& table) {
   std::vector<PdfTable::Column> columns;
   for (const auto& column : table.columns)
     columns.push_back(
-        {std::max<double>(column.width, kLeast) / whole * kUsable, AlignmentOf(column.alignment)});
+        {std::max<double>(column.width, kLeast) / whole * drawing::kUsable, AlignmentOf(column.alignment)});
   return columns;
 }
 
 }  // namespace
 
 Parts VerdictParts(const report::Report& report) {
-  Parts parts{{0, TextTable(report.title, {13, true, kAccent})}, {240, VerdictTable(report.verdict)}};
+  Parts parts{{0, TextTable(report.title, {13, true, drawing::kAccent})},
+              {240, VerdictTable(report.verdict)}};
   for (const auto& mark : report.marks) {
-    const auto colour = mark.strong ? kInk : ColourOf(report::Standing::kOpen);
+    const auto colour = mark.strong ? drawing::kInk : drawing::ColourOf(report::Standing::kOpen);
     parts.push_back({200, TextTable(mark.text, {11, true, colour})});
   }
   return parts;
 }
 
 Part HeadingPart(const std::string& text) {
-  PdfTable table({{kUsable}}, {.rules = Rules::kRows, .above = 60, .pen = QPen(kAccent, 24)});
-  table.AddRow({TextCell(text, {15, true, kAccent})});
+  PdfTable table({{drawing::kUsable}},
+                 {.rules = Rules::kRows, .above = 60, .pen = QPen(drawing::kAccent, 24)});
+  table.AddRow({TextCell(text, {15, true, drawing::kAccent})});
   return {500, table, text};
 }
 
@@ -113,19 +122,19 @@ PdfTable PrintedTable(const report::Table& table) {
 }
 
 PdfTable FactsTable(const std::vector<report::Fact>& facts) {
-  PdfTable table({{kUsable * 0.22}, {kUsable * 0.78}}, {.above = 25});
+  PdfTable table({{drawing::kUsable * 0.22}, {drawing::kUsable * 0.78}}, {.above = 25});
   for (const auto& fact : facts)
-    table.AddRow({TextCell(fact.label, {9.5, false, kQuiet}), TextCell(fact.value)});
+    table.AddRow({TextCell(fact.label, {9.5, false, drawing::kQuiet}), TextCell(fact.value)});
   return table;
 }
 
 PdfTable OverviewTable(const report::Report& report) {
   const auto& words = report.words;
-  PdfTable table({{kUsable * 0.07, Qt::AlignRight},
-                  {kUsable * 0.49},
-                  {kUsable * 0.13, Qt::AlignRight},
-                  {kUsable * 0.1},
-                  {kUsable * 0.21}},
+  PdfTable table({{drawing::kUsable * 0.07, Qt::AlignRight},
+                  {drawing::kUsable * 0.49},
+                  {drawing::kUsable * 0.13, Qt::AlignRight},
+                  {drawing::kUsable * 0.1},
+                  {drawing::kUsable * 0.21}},
                  {.rules = Rules::kRows, .above = 80});
   table.AddHead({TextCell(words.number, kQuietText), TextCell(words.test, kQuietText),
                  TextCell(words.value, kQuietText), TextCell(words.unit, kQuietText),
@@ -134,7 +143,7 @@ PdfTable OverviewTable(const report::Report& report) {
     auto name = TextCell(row.name);
     name.indent = 180.0 * std::min(row.depth, 8);
     if (!row.note.empty()) name.text.push_back({"\n" + row.note, false, true});
-    table.AddRow({TextCell(std::to_string(row.id), {9.5, false, kQuiet}), name,
+    table.AddRow({TextCell(std::to_string(row.id), {9.5, false, drawing::kQuiet}), name,
                   TextCell(row.value.empty() ? kDash : row.value), TextCell(row.unit),
                   WordCell(row.standing, row.word)});
   }
@@ -143,7 +152,7 @@ PdfTable OverviewTable(const report::Report& report) {
 
 Parts SectionParts(const report::Section& section, const report::Words& words) {
   const auto title = std::to_string(section.id) + "  " + section.name;
-  PdfTable head({{kUsable * 0.79}, {kUsable * 0.21}}, {});
+  PdfTable head({{drawing::kUsable * 0.79}, {drawing::kUsable * 0.21}}, {});
   head.AddRow({TextCell(title, {12, true}), WordCell(section.standing, section.word)});
   Parts parts{{0, head, title, 1 + section.depth}};
   if (!section.value.empty()) parts.push_back({0, TextTable(section.value + " " + section.unit, {15})});
@@ -170,4 +179,4 @@ void PlaceTogether(const Parts& parts, PdfPages& pages) {
   }
 }
 
-}  // namespace bench::pdf
+}  // namespace host::report::pdf

@@ -4,7 +4,7 @@
 #include "host/report/pdf/PdfTable.h"
 
 /// The parts of the report as tables.
-namespace bench::pdf {
+namespace host::report::pdf {
 
 /// A table and the space above it, which falls away at the top of a page.
 struct Part {
@@ -30,4 +30,4 @@ Parts SectionParts(const report::Section& section, const report::Words& words);
 /// Places the parts on one page, if a page has room for all of them.
 void PlaceTogether(const Parts& parts, PdfPages& pages);
 
-}  // namespace bench::pdf
+}  // namespace host::report::pdf

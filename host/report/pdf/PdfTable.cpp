@@ -4,22 +4,22 @@
 
 #include "host/report/drawing/PdfSign.h"
 
-namespace bench::pdf {
+namespace host::report::pdf {
 namespace {
 
 constexpr double kPadding = 100, kSign = 170, kSignRoom = 260;
 
 }  // namespace
 
-TableCell TextCell(const std::string& text, const TextStyle& style) { return {{{text}}, style}; }
+TableCell TextCell(const std::string& text, const drawing::TextStyle& style) { return {{{text}}, style}; }
 
 TableCell WordCell(report::Standing standing, const std::string& word) {
-  return {{{word}}, {9.5, true, ColourOf(standing)}, kSignRoom, standing};
+  return {{{word}}, {9.5, true, drawing::ColourOf(standing)}, kSignRoom, standing};
 }
 
 PdfTable::Row PdfTable::Laid(const std::vector<TableCell>& cells) const {
   Row row;
-  double left = kMargin;
+  double left = drawing::kMargin;
   for (std::size_t i = 0; i < cells.size(); ++i) {
     const auto& cell = cells[i];
     // Without a grid, the outer cells are flush with the text of the page.
@@ -27,7 +27,7 @@ PdfTable::Row PdfTable::Laid(const std::vector<TableCell>& cells) const {
     const double from = left + (i > 0 || grid ? kPadding : 0) + cell.indent;
     left += columns_[i].width;
     const double to = left - (i + 1 < columns_.size() || grid ? kPadding : 0);
-    PdfText text(cell.text, to - from, cell.style, columns_[i].alignment);
+    drawing::PdfText text(cell.text, to - from, cell.style, columns_[i].alignment);
     const double height = cell.draw ? cell.height : text.Height();
     row.cells.push_back({cell, text, {from, look_.above, to - from, height}});
     row.height = std::max(row.height, height + 2 * look_.above);
@@ -59,7 +59,7 @@ void PdfTable::PlaceHead(PdfPages& pages) const {
 }
 
 void PdfTable::PlaceRow(PdfPages& pages, const Row& row) const {
-  constexpr double kThreeLines = 3 * 16 * kPoint;
+  constexpr double kThreeLines = 3 * 16 * drawing::kPoint;
   std::vector<std::size_t> next(row.cells.size(), 0);
   if (row.height > pages.Room() && (row.height <= PdfPages::FullPage() / 2 || pages.Room() < kThreeLines)) {
     pages.NewPage();
@@ -94,7 +94,8 @@ bool PdfTable::PlaceSlice(PdfPages& pages, const Row& row, std::vector<std::size
     pages.Draw([text, first, count, sign = cell.sign,
                 at = QPointF(place.left(), top + look_.above)](QPainter& painter) {
       if (sign && first == 0)
-        DrawSign(painter, *sign, {at.x() - kSignRoom, at.y() + 22, kSign, kSign}, ColourOf(*sign));
+        drawing::DrawSign(painter, *sign, {at.x() - kSignRoom, at.y() + 22, kSign, kSign},
+                          drawing::ColourOf(*sign));
       text.Draw(painter, at, first, count);
     });
   }
@@ -108,7 +109,7 @@ void PdfTable::DrawRules(PdfPages& pages, double height) const {
   pages.Draw([y = pages.Y(), height, look = look_, columns = columns_](QPainter& painter) {
     painter.setPen(look.pen);
     painter.setBrush(Qt::NoBrush);
-    double x = kMargin;
+    double x = drawing::kMargin;
     for (const auto& column : columns) {
       if (look.rules == Rules::kGrid)
         painter.drawRect(QRectF(x, y, column.width, height));
@@ -119,4 +120,4 @@ void PdfTable::DrawRules(PdfPages& pages, double height) const {
   });
 }
 
-}  // namespace bench::pdf
+}  // namespace host::report::pdf

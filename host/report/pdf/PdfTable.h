@@ -7,19 +7,19 @@
 #include "host/report/drawing/PdfText.h"
 #include "host/report/pdf/PdfPages.h"
 
-namespace bench::pdf {
+namespace host::report::pdf {
 
 /// What a cell shows: a text, with the sign of a standing before it, or a drawing.
 struct TableCell {
   report::Cell text;
-  TextStyle style = {};
+  drawing::TextStyle style = {};
   double indent = 0;
   std::optional<report::Standing> sign = {};
   double height = 0;  ///< of the drawing
   std::function<void(QPainter&, const QRectF&)> draw = {};
 };
 
-TableCell TextCell(const std::string& text, const TextStyle& style = {});
+TableCell TextCell(const std::string& text, const drawing::TextStyle& style = {});
 /// A sign and a word in its colour.
 TableCell WordCell(report::Standing standing, const std::string& word);
 
@@ -41,7 +41,7 @@ class PdfTable {
   struct Look {
     Rules rules = Rules::kNone;
     double above = 0;  ///< space above and below the text of a cell
-    QPen pen = QPen(kLine, 14);
+    QPen pen = QPen(drawing::kLine, 14);
   };
 
   PdfTable(std::vector<Column> columns, Look look) : columns_(std::move(columns)), look_(std::move(look)) {}
@@ -56,7 +56,7 @@ class PdfTable {
  private:
   struct LaidCell {
     TableCell cell;
-    PdfText text;
+    drawing::PdfText text;
     QRectF place;  ///< of the text or the drawing, from the top of the row
   };
   struct Row {
@@ -75,4 +75,4 @@ class PdfTable {
   std::vector<Row> head_, rows_;
 };
 
-}  // namespace bench::pdf
+}  // namespace host::report::pdf

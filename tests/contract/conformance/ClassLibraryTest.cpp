@@ -120,12 +120,14 @@ TEST_P(EntryPoints, CloseMoreThanOnce) {
 }
 
 TEST_P(EntryPoints, ReleaseTheHostOnClose) {
-  std::weak_ptr<bench::headless::Application> watched;
+  std::weak_ptr<toolkit::headless::Application> watched;
   {
     const support::TemporaryFolder folder;
-    const auto application = std::make_shared<bench::headless::Application>(bench::ClockKind::kVirtual);
+    const auto application =
+        std::make_shared<toolkit::headless::Application>(toolkit::loop::ClockKind::kVirtual);
     watched = application;
-    const auto host = bench::Host::Create({folder.Path(), {}, GetParam().catalogue, {}}, application);
+    const auto host =
+        host::document::Host::Create({folder.Path(), {}, GetParam().catalogue, {}}, application);
     ASSERT_TRUE(host->OpenPlugIn(GetParam().path));
     host->Close();
   }

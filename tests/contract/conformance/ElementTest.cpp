@@ -167,7 +167,7 @@ INSTANTIATE_TEST_SUITE_P(Loaded, MalformedNode,
                          });
 
 TEST_P(Element, PrintsIntoAReport) {
-  const auto report = std::make_shared<bench::ReportObject>();
+  const auto report = std::make_shared<host::report::ReportObject>();
   EXPECT_NO_THROW(Decided()->PrintReport(report, nullptr));
   EXPECT_FALSE(report->Tables().empty());
 }

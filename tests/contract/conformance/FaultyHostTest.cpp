@@ -81,7 +81,7 @@ class Lenient final : public orvik::IStandard {
     return 1;
   }
 
-  std::shared_ptr<orvik::IStandard> inner_ = std::make_shared<bench::Standard>();
+  std::shared_ptr<orvik::IStandard> inner_ = std::make_shared<host::standards::Standard>();
 };
 
 TEST_F(FaultyHost, ThatPassesEverythingIsFoundOut) {

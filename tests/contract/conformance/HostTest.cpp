@@ -54,13 +54,13 @@ TEST_F(ReferenceHost, LogsErrors) {
 }
 
 TEST_F(ReferenceHost, PrintsReports) {
-  const auto report = std::make_shared<bench::ReportObject>();
+  const auto report = std::make_shared<host::report::ReportObject>();
   ExpectNone(checker_->Check("report", {"", report, nullptr}));
   EXPECT_EQ(report->Tables().size(), 2U) << "a refused table must not be printed";
   std::string text;
   for (const auto& table : report->Tables()) {
     for (const auto& row : table.rows) {
-      for (const auto& cell : row) text += bench::report::PlainText(cell) + "\n";
+      for (const auto& cell : row) text += host::report::PlainText(cell) + "\n";
     }
   }
   EXPECT_NE(text.find("a|b;c{d}e\\f"), std::string::npos) << text;
@@ -76,16 +76,17 @@ class ReferenceRun : public ReferenceHost {
     standards_->Add(standard);
   }
 
-  bench::Wire wire_;
-  bench::DoubtTracker doubts_{wire_};
+  host::serial::Wire wire_;
+  host::run::DoubtTracker doubts_{wire_};
   std::shared_ptr<orvik::IStandardColl> standards_ =
       library_.New<orvik::IStandardColl>(orvik::HostClasses::kStandardColl);
-  std::shared_ptr<bench::InstrumentColl> instruments_ = std::make_shared<bench::InstrumentColl>();
-  bench::Runs runs_;
-  bench::RunRecorder recorder_{{runs_, instruments_, standards_, doubts_}};
+  std::shared_ptr<host::instruments::InstrumentColl> instruments_ =
+      std::make_shared<host::instruments::InstrumentColl>();
+  host::document::Runs runs_;
+  host::run::RunRecorder recorder_{{runs_, instruments_, standards_, doubts_}};
   int saved_ = 0;
-  std::shared_ptr<bench::RunController> controller_ = std::make_shared<bench::RunController>(
-      bench::RunController::Parts{standards_, instruments_, doubts_, recorder_, [this] { ++saved_; }});
+  std::shared_ptr<host::run::RunController> controller_ = std::make_shared<host::run::RunController>(
+      host::run::RunController::Parts{standards_, instruments_, doubts_, recorder_, [this] { ++saved_; }});
 };
 
 TEST_F(ReferenceRun, ControlsRuns) {
@@ -123,11 +124,11 @@ TEST_F(ReferenceRun, RunsAPlugInsElement) {
   EXPECT_EQ(saved_, 2) << "the beginning and the finished element";
   ASSERT_EQ(runs_.All().size(), 1U);
   ASSERT_EQ(runs_.All()[0].steps.size(), 2U);
-  const auto& test = std::get<bench::RecordedTest>(runs_.All()[0].steps[1]);
+  const auto& test = std::get<host::document::RecordedTest>(runs_.All()[0].steps[1]);
   EXPECT_EQ(test.element, element->ID());
   EXPECT_EQ(test.testId, element->TestID());
   EXPECT_EQ(test.status, 1);
-  EXPECT_EQ(test.by, bench::RecordedTest::By::kTester);
+  EXPECT_EQ(test.by, host::document::RecordedTest::By::kTester);
 }
 
 /// The host's limit view on limits of the plug-in's own, edited by hand.

@@ -13,20 +13,20 @@ namespace conformance {
 
 LoadedLibrary::LoadedLibrary(Subject subject)
     : subject_(std::move(subject)),
-      application_(std::make_shared<bench::headless::Application>(bench::ClockKind::kVirtual)),
-      host_(bench::Host::Create({folder_.Path(), {}, subject_.catalogue, {}}, application_)),
+      application_(std::make_shared<toolkit::headless::Application>(toolkit::loop::ClockKind::kVirtual)),
+      host_(host::document::Host::Create({folder_.Path(), {}, subject_.catalogue, {}}, application_)),
       line_(application_, *sim::MakeBuiltInProfile(sim::kDefaultProfile)),
-      ports_(std::make_shared<bench::PortManager>(application_,
-                                                  [this](const std::string&, const bench::LineSettings&) {
-                                                    return std::make_unique<bench::MemoryTransport>(
-                                                        line_.Line());
-                                                  })),
+      ports_(std::make_shared<host::serial::PortManager>(
+          application_,
+          [this](const std::string&, const host::serial::LineSettings&) {
+            return std::make_unique<host::serial::MemoryTransport>(line_.Line());
+          })),
       wire_(*ports_->TheWire()) {
-  bench::ConnectControls(*application_, *host_);
+  toolkit::controls::ConnectControls(*application_, *host_);
   ports_->Assign(subject_.plugInId, "memory");
   host_->Register(orvik::HostClasses::kCommApplication,
-                  [ports = ports_] { return std::make_shared<bench::CommApplication>(ports); });
-  library_ = std::make_unique<bench::PlugInLibrary>(subject_.path, host_);
+                  [ports = ports_] { return std::make_shared<host::serial::CommApplication>(ports); });
+  library_ = std::make_unique<host::document::PlugInLibrary>(subject_.path, host_);
   host_->AddClasses(library_->Classes());
   plugIn_ = New<orvik::IPlugIn>(library_->PlugInClass());
   if (!plugIn_) throw std::runtime_error(subject_.path + " has no plug-in object");

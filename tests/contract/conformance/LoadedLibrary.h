@@ -32,8 +32,8 @@ class LoadedLibrary {
   ~LoadedLibrary();
 
   const Subject& Tested() const { return subject_; }
-  bench::Host& Host() { return *host_; }
-  bench::headless::Application& Application() { return *application_; }
+  host::document::Host& Host() { return *host_; }
+  toolkit::headless::Application& Application() { return *application_; }
   orvik::IClassLibrary& Classes() { return *library_->Classes(); }
   std::string PlugInClass() const { return library_->PlugInClass(); }
 
@@ -63,12 +63,12 @@ class LoadedLibrary {
  private:
   Subject subject_;
   support::TemporaryFolder folder_;
-  std::shared_ptr<bench::headless::Application> application_;
-  std::shared_ptr<bench::Host> host_;
+  std::shared_ptr<toolkit::headless::Application> application_;
+  std::shared_ptr<host::document::Host> host_;
   support::SimulatedLine line_;
-  std::shared_ptr<bench::PortManager> ports_;
+  std::shared_ptr<host::serial::PortManager> ports_;
   support::WireLines wire_;
-  std::unique_ptr<bench::PlugInLibrary> library_;
+  std::unique_ptr<host::document::PlugInLibrary> library_;
   std::shared_ptr<orvik::IPlugIn> plugIn_;
 };
 

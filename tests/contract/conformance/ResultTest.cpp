@@ -57,8 +57,8 @@ TEST_P(Result, RaisesOnlyHostErrorsForWrongArguments) {
   EXPECT_TRUE(OnlyHostErrorCrosses([&] { result->Save(nullptr); }));
   EXPECT_TRUE(OnlyHostErrorCrosses([&] { result->PrintReport(nullptr, nullptr); }));
   EXPECT_TRUE(OnlyHostErrorCrosses([&] { result->PrintReport(nullptr, element_); }));
-  EXPECT_TRUE(
-      OnlyHostErrorCrosses([&] { result->PrintReport(std::make_shared<bench::ReportObject>(), nullptr); }));
+  EXPECT_TRUE(OnlyHostErrorCrosses(
+      [&] { result->PrintReport(std::make_shared<host::report::ReportObject>(), nullptr); }));
   EXPECT_TRUE(OnlyHostErrorCrosses([&] { result->Load(library_.NewNode("Alien"), nullptr); }));
   EXPECT_TRUE(OnlyHostErrorCrosses([&] { result->CreateDialog(); }));
   for (const auto index : {-1, 0, 2, std::numeric_limits<std::int32_t>::max()})
@@ -67,7 +67,7 @@ TEST_P(Result, RaisesOnlyHostErrorsForWrongArguments) {
 
 TEST_P(Result, PrintsTheCommentAsText) {
   const auto result = Loaded("<ResultItem><Status>2</Status><Comment>|;{}</Comment></ResultItem>");
-  EXPECT_NO_THROW(result->PrintReport(std::make_shared<bench::ReportObject>(), element_));
+  EXPECT_NO_THROW(result->PrintReport(std::make_shared<host::report::ReportObject>(), element_));
 }
 
 }  // namespace

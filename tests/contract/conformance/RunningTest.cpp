@@ -23,7 +23,7 @@ constexpr int kNext = 103, kPlay = 202;
 class Running : public KeldPlugInLoaded {
  protected:
   Running() {
-    controller_->instruments = std::make_shared<bench::InstrumentColl>();
+    controller_->instruments = std::make_shared<host::instruments::InstrumentColl>();
     controller_->standards = library_.New<orvik::IStandardColl>(orvik::HostClasses::kStandardColl);
     shown_ = library_.Application().FormShown().Subscribe(
         [this](const auto& form) { library_.Application().Post([this, form] { Operate(*form); }); });

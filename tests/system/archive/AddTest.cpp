@@ -7,10 +7,10 @@
 namespace archive_tests {
 namespace {
 
-using bench::Archive;
-using Added = bench::Archive::Added;
-using bench::judge::LimitVerdict;
-using bench::judge::Verdict;
+using host::archive::Archive;
+using Added = host::archive::Archive::Added;
+using host::judge::LimitVerdict;
+using host::judge::Verdict;
 
 class AddTest : public ArchiveTest {};
 
@@ -30,7 +30,7 @@ TEST_P(AddTest, ReturnsTheDocumentAsAdded) {
   EXPECT_EQ(found->entry.operatorName, "A. Berg");
   EXPECT_EQ(found->entry.run, 12);
   EXPECT_EQ(found->entry.runDate, "2026-03-01T09:30:00Z");
-  EXPECT_EQ(found->entry.outcome, bench::judge::Outcome::kFailed);
+  EXPECT_EQ(found->entry.outcome, host::judge::Outcome::kFailed);
   EXPECT_TRUE(found->entry.finished);
   EXPECT_FALSE(found->entry.simulated);
 }
@@ -42,7 +42,7 @@ TEST_P(AddTest, ReturnsEachElementAsJudged) {
   first.reasons = {{"late-reply", {"STST,410,0"}}, {"overload", {}}, {"judged-differently", {"a", "", "c"}}};
   first.limits.push_back({"AAMI", "", "uA", 1.5, {}, "", "", false, {}, {}});
   document.elements[0].result = first;
-  bench::ArchivedElement sequence;
+  host::archive::ArchivedElement sequence;
   sequence.result.id = 7;
   sequence.result.parent = 1;
   sequence.result.group = true;
@@ -125,7 +125,7 @@ TEST_P(AddTest, RefusesAnUnknownVerdict) {
   auto archive = Open();
   archive.Add(Measured("/d/a.orvik", "P-7", 100));
   Database()->Run("UPDATE orvik_elements SET verdict = 'good'", {});
-  EXPECT_THROW(archive.Find(1), bench::ArchiveError);
+  EXPECT_THROW(archive.Find(1), host::archive::ArchiveError);
 }
 
 TEST_P(AddTest, MarksWhatIsSimulated) {
@@ -219,7 +219,7 @@ TEST_P(AddTest, RollsBackWithoutCommit) {
   archive.Add(Measured("/d/a.orvik", "P-7", 120));
   const auto database = Database();
   {
-    const bench::Transaction undone(*database, bench::Database::Use::kWrite);
+    const host::archive::Transaction undone(*database, host::archive::Database::Use::kWrite);
     database->Run("UPDATE orvik_documents SET asset = 'gone'", {});
   }
   EXPECT_EQ(archive.List({}).at(0).asset, "P-7");
@@ -228,7 +228,7 @@ TEST_P(AddTest, RollsBackWithoutCommit) {
 TEST_P(AddTest, DetectsChangedContents) {
   auto archive = Open();
   archive.Add(Measured("/d/a.orvik", "P-7", 120));
-  Database()->Run("UPDATE orvik_contents SET contents = $1", {bench::Bytes{"other"}});
+  Database()->Run("UPDATE orvik_contents SET contents = $1", {host::archive::Bytes{"other"}});
   EXPECT_THROW(archive.Find(1), std::runtime_error);
 }
 

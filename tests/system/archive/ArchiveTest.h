@@ -25,10 +25,10 @@ class ArchiveTest : public testing::TestWithParam<Kind> {
 
   std::string Path(const std::string& name) const { return (folder_.Path() / name).string(); }
 
-  std::unique_ptr<bench::Database> Database() const {
-    return bench::OpenDatabase(location_, bench::SqliteDatabase::Missing::kCreate);
+  std::unique_ptr<host::archive::Database> Database() const {
+    return host::archive::OpenDatabase(location_, host::archive::SqliteDatabase::Missing::kCreate);
   }
-  bench::Archive Open() const { return bench::Archive(Database()); }
+  host::archive::Archive Open() const { return host::archive::Archive(Database()); }
 
   support::TemporaryFolder folder_;
   const std::string location_;

@@ -16,18 +16,18 @@ class ListTest : public ArchiveTest {
     archive_.Add(Measured("/d/2", "P-8", 400, "2026-01-01T00:00:00Z"));
     auto late = Measured("/d/3", "P-7", 130, "");  // counts by the date of adding
     late.entry.serial = "S-2";
-    late.entry.outcome = bench::judge::Outcome::kIncomplete;
+    late.entry.outcome = host::judge::Outcome::kIncomplete;
     late.entry.finished = false;
     archive_.Add(late);
   }
 
-  std::vector<std::int64_t> Listed(const bench::Archive::Filter& filter) {
+  std::vector<std::int64_t> Listed(const host::archive::Archive::Filter& filter) {
     std::vector<std::int64_t> ids;
     for (const auto& entry : archive_.List(filter)) ids.push_back(entry.id);
     return ids;
   }
 
-  bench::Archive archive_;
+  host::archive::Archive archive_;
 };
 
 TEST_P(ListTest, ListsTheNewestFirst) { EXPECT_THAT(Listed({}), ElementsAre(3, 1, 2)); }

@@ -183,7 +183,7 @@ void PostgreSqlServer::AwaitReadiness() const {
     try {
       Administer("postgres", "SELECT 1");
       return;
-    } catch (const bench::ArchiveError& error) {
+    } catch (const host::archive::ArchiveError& error) {
       if (std::chrono::steady_clock::now() > deadline)
         throw std::runtime_error(std::string(error.what()) + TextOf(folder_ / "postgres.log"));
     }
@@ -192,7 +192,7 @@ void PostgreSqlServer::AwaitReadiness() const {
 }
 
 void PostgreSqlServer::Administer(const std::string& database, const std::string& statement) const {
-  bench::PostgreSqlDatabase(UrlFor("master", database)).Run(statement, {});
+  host::archive::PostgreSqlDatabase(UrlFor("master", database)).Run(statement, {});
 }
 
 std::string PostgreSqlServer::NewDatabase() {

@@ -158,7 +158,7 @@ TEST_P(ProgramTest, RefusesUnfinishedDocumentsOnly) {
 }
 
 TEST_P(ProgramTest, RefusesAnAbortedTest) {
-  const auto file = Document("a.orvik", "P-7", "0.123", {.button = bench::guide::kAbort});
+  const auto file = Document("a.orvik", "P-7", "0.123", {.button = host::plugins::keld::guide::kAbort});
   const auto refused = Run({"add", file});
   EXPECT_EQ(refused.status, 3);
   EXPECT_THAT(refused.error, HasSubstr("is not finished"));
@@ -322,7 +322,7 @@ TEST_P(ProgramTest, BusyArchive_EndsWithFiveOrWaits) {
   const auto file = Document("a.orvik", "P-7");
   ASSERT_EQ(Run({"add", file}).status, 0);
   const auto database = Database();
-  database->Begin(bench::Database::Use::kWrite);
+  database->Begin(host::archive::Database::Use::kWrite);
   const auto next = Document("b.orvik", "P-8");
   const auto waiting =
       Start({"--state", Path("state"), "archive", "--archive", location_, "add", next, "--wait", "600"});
@@ -381,7 +381,7 @@ TEST_F(ErrorTest, RefusesADamagedFileUnchanged) {
 }
 
 TEST_F(ErrorTest, RefusesADatabaseOfAnotherProgram) {
-  bench::SqliteDatabase(Path("b.sqlite"), bench::SqliteDatabase::Missing::kCreate)
+  host::archive::SqliteDatabase(Path("b.sqlite"), host::archive::SqliteDatabase::Missing::kCreate)
       .Run("CREATE TABLE mine (x)", {});
   const auto ended = On(Path("b.sqlite"), {"list"});
   EXPECT_EQ(ended.status, 3);

@@ -10,7 +10,7 @@
 namespace archive_tests {
 namespace {
 
-using bench::ArchiveError;
+using host::archive::ArchiveError;
 using testing::HasSubstr;
 
 class SchemaTest : public ArchiveTest {
@@ -28,11 +28,12 @@ class SchemaTest : public ArchiveTest {
       statement.clear();
     }
     database->Run("INSERT INTO orvik_contents (document_id, contents) VALUES (1, $1)",
-                  {bench::Bytes{kContents}});
+                  {host::archive::Bytes{kContents}});
   }
 
   std::int64_t Version() const {
-    return bench::RowReader(Database()->Run("SELECT version FROM orvik_archive_version", {}).at(0)).Whole();
+    return host::archive::RowReader(Database()->Run("SELECT version FROM orvik_archive_version", {}).at(0))
+        .Whole();
   }
 
   /// What the archive cannot be opened for.
@@ -73,7 +74,7 @@ TEST_P(SchemaTest, UpgradesVersionOne) {
 TEST_P(SchemaTest, UpgradesVersionTwo_ResultsDoNotCount) {
   MakeVersionOne();
   const auto database = Database();
-  bench::schema::BringUpTo(*database, 2);
+  host::archive::schema::BringUpTo(*database, 2);
   EXPECT_EQ(Version(), 2);
   database->Run("UPDATE orvik_documents SET operator = 'K. Holm'", {});
   database->Run(
@@ -93,24 +94,24 @@ TEST_P(SchemaTest, UpgradesVersionTwo_ResultsDoNotCount) {
   EXPECT_EQ(Version(), 3);
   const auto found = archive.Find(1);
   ASSERT_TRUE(found);
-  EXPECT_EQ(found->entry.outcome, bench::judge::Outcome::kIncomplete);
+  EXPECT_EQ(found->entry.outcome, host::judge::Outcome::kIncomplete);
   EXPECT_FALSE(found->entry.finished);
   EXPECT_FALSE(found->entry.simulated);
   EXPECT_EQ(found->entry.run, 0);
   EXPECT_EQ(found->entry.operatorName, "K. Holm");
   ASSERT_EQ(found->elements.size(), 2U);
   const auto& element = found->elements[0].result;
-  EXPECT_EQ(element.verdict, bench::judge::Verdict::kNotTested);
-  EXPECT_EQ(element.reasons, (std::vector<bench::Reason>{{"not-recorded", {}}}));
+  EXPECT_EQ(element.verdict, host::judge::Verdict::kNotTested);
+  EXPECT_EQ(element.reasons, (std::vector<host::document::Reason>{{"not-recorded", {}}}));
   EXPECT_EQ(element.status, 1);
   EXPECT_EQ(element.at + element.by + found->elements[0].runDate, "");
   EXPECT_FALSE(element.Current());
   EXPECT_FALSE(element.judged);
   EXPECT_FALSE(element.recordOnly);
   EXPECT_FALSE(element.value);
-  EXPECT_EQ(element.limits.at(0).verdict, bench::judge::LimitVerdict::kNotApplied);
+  EXPECT_EQ(element.limits.at(0).verdict, host::judge::LimitVerdict::kNotApplied);
   EXPECT_FALSE(element.limits.at(0).value);
-  EXPECT_EQ(found->elements[1].result.reasons, (std::vector<bench::Reason>{{"never-run", {}}}));
+  EXPECT_EQ(found->elements[1].result.reasons, (std::vector<host::document::Reason>{{"never-run", {}}}));
   EXPECT_TRUE(archive.TrendOf("P-7", 410).points.empty());
   EXPECT_EQ(archive.TrendOf("P-7", 410).notCurrent, 1U);
 }
@@ -143,7 +144,7 @@ TEST_P(SchemaTest, RefusesAnArchiveWithoutVersion) {
 TEST_P(SchemaTest, OpeningAgainChangesNothing) {
   Open().Add(Measured("/d/1", "P-7", 1));
   EXPECT_EQ(Open().List({}).size(), 1U);
-  EXPECT_EQ(Version(), bench::schema::kVersion);
+  EXPECT_EQ(Version(), host::archive::schema::kVersion);
 }
 
 TEST_P(SchemaTest, ReportsMissingTables) {

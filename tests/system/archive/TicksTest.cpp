@@ -9,25 +9,26 @@
 namespace archive_tests {
 namespace {
 
-using bench::Seconds;
+using host::archive::Seconds;
 using testing::ElementsAre;
 
 template <class Position>
-std::vector<std::string> Labels(const std::vector<bench::Tick<Position>>& ticks) {
+std::vector<std::string> Labels(const std::vector<host::archive::Tick<Position>>& ticks) {
   std::vector<std::string> labels;
   for (const auto& tick : ticks) labels.push_back(tick.label);
   return labels;
 }
 
 std::vector<std::string> DateLabels(const char* from, const char* to) {
-  return Labels(bench::DateTicks(*bench::IsoMoment(from), *bench::IsoMoment(to)));
+  return Labels(host::archive::DateTicks(*host::archive::IsoMoment(from), *host::archive::IsoMoment(to)));
 }
 
 TEST(NumberTicks, AreRoundAndEncloseTheRange) {
-  EXPECT_THAT(Labels(bench::NumberTicks(0, 300)), ElementsAre("0", "100", "200", "300"));
-  EXPECT_THAT(Labels(bench::NumberTicks(0, 0.25)), ElementsAre("0", "0.05", "0.1", "0.15", "0.2", "0.25"));
-  EXPECT_THAT(Labels(bench::NumberTicks(-3, 4)), ElementsAre("-4", "-2", "0", "2", "4"));
-  EXPECT_THAT(Labels(bench::NumberTicks(0, 0)), ElementsAre("0", "0.2", "0.4", "0.6", "0.8", "1"));
+  EXPECT_THAT(Labels(host::archive::NumberTicks(0, 300)), ElementsAre("0", "100", "200", "300"));
+  EXPECT_THAT(Labels(host::archive::NumberTicks(0, 0.25)),
+              ElementsAre("0", "0.05", "0.1", "0.15", "0.2", "0.25"));
+  EXPECT_THAT(Labels(host::archive::NumberTicks(-3, 4)), ElementsAre("-4", "-2", "0", "2", "4"));
+  EXPECT_THAT(Labels(host::archive::NumberTicks(0, 0)), ElementsAre("0", "0.2", "0.4", "0.6", "0.8", "1"));
 }
 
 TEST(NumberTicks, AreFewAndInOrder_RandomRanges) {
@@ -37,7 +38,7 @@ TEST(NumberTicks, AreFewAndInOrder_RandomRanges) {
     double low = sign(random) * std::pow(10, exponent(random)),
            high = sign(random) * std::pow(10, exponent(random));
     if (low > high) std::swap(low, high);
-    const auto ticks = bench::NumberTicks(low, high);
+    const auto ticks = host::archive::NumberTicks(low, high);
     const double slack = 1e-9 * (std::abs(low) + std::abs(high));
     ASSERT_GE(ticks.size(), 2U);
     ASSERT_LE(ticks.size(), 8U) << low << " " << high;
@@ -64,8 +65,8 @@ TEST(DateTicks, AreRoundInEverySpan) {
 }
 
 TEST(NumberText, IsShort) {
-  EXPECT_EQ(bench::NumberText(0.1 + 0.2), "0.3");
-  EXPECT_EQ(bench::NumberText(412.125), "412.125");
+  EXPECT_EQ(host::archive::NumberText(0.1 + 0.2), "0.3");
+  EXPECT_EQ(host::archive::NumberText(412.125), "412.125");
 }
 
 }  // namespace

@@ -9,32 +9,32 @@
 namespace archive_tests {
 namespace {
 
-using bench::Mark;
+using host::archive::Mark;
 using testing::HasSubstr;
 using testing::Not;
 
-bench::TrendPoint Point(const std::string& date, double value) {
-  bench::TrendPoint point;
+host::archive::TrendPoint Point(const std::string& date, double value) {
+  host::archive::TrendPoint point;
   point.document = 1;
   point.date = date;
   point.element = Measured("/d", "P", value, date).elements[0];
   return point;
 }
 
-bench::TrendPoint Doubtful(bench::TrendPoint point) {
-  point.element.result.verdict = bench::judge::Verdict::kDoubtful;
+host::archive::TrendPoint Doubtful(host::archive::TrendPoint point) {
+  point.element.result.verdict = host::judge::Verdict::kDoubtful;
   return point;
 }
 
-bench::TrendPoint Overloaded(bench::TrendPoint point) {
+host::archive::TrendPoint Overloaded(host::archive::TrendPoint point) {
   point.element.result.measurement->flags = "O";
   return point;
 }
 
 /// The picture, which must be well-formed and in itself complete.
-std::string Drawn(const std::vector<bench::TrendPoint>& points, const std::string& asset = "P-7",
+std::string Drawn(const std::vector<host::archive::TrendPoint>& points, const std::string& asset = "P-7",
                   bool simulated = false) {
-  const auto svg = bench::TrendChart({asset, 410, simulated, points, 0, 0});
+  const auto svg = host::archive::TrendChart({asset, 410, simulated, points, 0, 0});
   pugi::xml_document xml;
   EXPECT_TRUE(xml.load_string(svg.c_str())) << svg;
   const auto root = xml.document_element();
@@ -55,12 +55,12 @@ std::size_t CountOf(const std::string& text, const std::string& part) {
 }
 
 TEST(TrendMarks, FollowTheVerdict) {
-  using bench::judge::Verdict;
+  using host::judge::Verdict;
   const auto marked = [](Verdict verdict, bool overloaded = false) {
     auto point = Point("2024-01-01T00:00:00Z", 100);
     point.element.result.verdict = verdict;
     point.element.result.status = 1;  // the plug-in's has no say
-    return MarkOf(overloaded ? Overloaded(point) : point);
+    return host::archive::MarkOf(overloaded ? Overloaded(point) : point);
   };
   EXPECT_EQ(marked(Verdict::kPassed), Mark::kPassed);
   EXPECT_EQ(marked(Verdict::kFailed), Mark::kFailed);
@@ -87,12 +87,12 @@ TEST(TrendPoint, AGroupHasTheUnitOfItsTests) {
 
 TEST(TrendMarks, HaveDistinctShapes) {
   std::set<std::string> shapes;
-  for (const auto mark : bench::kMarks) {
-    bench::Svg svg;
-    DrawMark(svg, mark, 10, 10);
+  for (const auto mark : host::archive::kMarks) {
+    host::archive::Svg svg;
+    host::archive::DrawMark(svg, mark, 10, 10);
     shapes.insert(svg.Text());
   }
-  EXPECT_EQ(shapes.size(), std::size(bench::kMarks));
+  EXPECT_EQ(shapes.size(), std::size(host::archive::kMarks));
 }
 
 TEST(TrendChart, DescribesReadingsAndLimits) {
@@ -153,7 +153,7 @@ TEST(TrendChart, CountsWhatItDidNotDraw) {
 }
 
 TEST(TrendChart, MarksSimulatedReadings) {
-  const std::vector<bench::TrendPoint> points = {Point("2024-01-01T00:00:00Z", 100)};
+  const std::vector<host::archive::TrendPoint> points = {Point("2024-01-01T00:00:00Z", 100)};
   EXPECT_EQ(CountOf(Drawn(points, "P-7", true), "SIMULATED"), 2U);
   EXPECT_EQ(CountOf(Drawn(points), "SIMULATED"), 0U);
 }

@@ -10,13 +10,13 @@ using testing::ElementsAre;
 
 class TrendTest : public ArchiveTest {
  protected:
-  static std::vector<double> ValuesOf(const bench::Trend& trend) {
+  static std::vector<double> ValuesOf(const host::archive::Trend& trend) {
     std::vector<double> values;
     for (const auto& point : trend.points) values.push_back(point.Value().value_or(-1));
     return values;
   }
 
-  bench::Archive archive_ = Open();
+  host::archive::Archive archive_ = Open();
 };
 
 TEST_P(TrendTest, OrdersReadingsByDate) {
@@ -65,7 +65,7 @@ TEST_P(TrendTest, OmitsAndCountsResultsNotCurrent) {
   for (const double value : {120.0, 121.0}) {  // of the same document: it counts once
     auto document = Measured("/d/1", "P-7", value);
     document.elements[0].result.run = 0;
-    document.elements[0].result.verdict = bench::judge::Verdict::kNotTested;
+    document.elements[0].result.verdict = host::judge::Verdict::kNotTested;
     document.elements[0].result.reasons = {{"other-equipment", {"1", "asset", "P-6", "P-7"}}};
     document.elements[0].runDate.clear();
     archive_.Add(document);

@@ -13,13 +13,13 @@ constexpr char kSerial[] = "SIM-0001";
 
 class CalibrateCommandTest : public CliTest {
  protected:
-  bench::RegistryStore Registry() const { return bench::RegistryStore(Path("state")); }
-  std::optional<bench::LeadCalibration> Stored(const std::string& serial = kSerial) const {
-    return StoredLeadsOf(Registry(), serial);
+  host::RegistryStore Registry() const { return host::RegistryStore(Path("state")); }
+  std::optional<host::run::LeadCalibration> Stored(const std::string& serial = kSerial) const {
+    return host::run::StoredLeadsOf(Registry(), serial);
   }
   /// As another program does.
   void Store(const std::string& serial, const orvik::Variant& value) const {
-    Registry().Write(bench::keld_facts::kRegistryHive, bench::keld_facts::kLeadsKey, serial, value);
+    Registry().Write(host::plugins::keld::kRegistryHive, host::plugins::keld::kLeadsKey, serial, value);
   }
   /// Calibrates with a tester that reads this as test 410.
   Finished Calibrate(const std::string& reading, const Words& more = {}) const {

@@ -11,8 +11,8 @@
 namespace desktop_test {
 namespace {
 
-using bench::CatalogueEntry;
-using bench::desktop::AddTestsDialog;
+using host::bench::CatalogueEntry;
+using host::gui::AddTestsDialog;
 
 constexpr int kNameColumn = 1;
 
@@ -57,10 +57,10 @@ TEST_F(AddTestsPicturesTest, AreBesideTheNames) {
   AddTestsDialog dialog({Entry(400, 0, "Protective earth"), Entry(410, 400, "With mains cord"),
                          Entry(99999, 400, "Beyond all numbers of tests")},
                         nullptr);
-  dialog.ShowPictures([this](std::int32_t id) { return bench::PictureOf(*bench_, id); });
+  dialog.ShowPictures([this](std::int32_t id) { return host::bench::PictureOf(*bench_, id); });
   const auto& group = *dialog.findChild<QTreeWidget*>("catalogue")->topLevelItem(0);
   EXPECT_FALSE(group.icon(kNameColumn).isNull());
-  const auto expected = bench::qt::PictureOf(bench_->PlugIn().Icon(410, 0)->Bitmap());
+  const auto expected = host::qt::PictureOf(bench_->PlugIn().Icon(410, 0)->Bitmap());
   ASSERT_FALSE(expected.isNull());
   EXPECT_EQ(group.child(0)->icon(kNameColumn).pixmap(expected.size()).toImage(), expected.toImage());
   EXPECT_TRUE(group.child(1)->icon(kNameColumn).isNull());

@@ -39,16 +39,16 @@ class CalibrationTest : public DesktopTest {
     return Await("the guide's calibration", [this] {
       if (!Visible("FTestGuide")) return false;
       for (const auto& form : bench_->Application()->Forms())
-        if (const auto toolbar = bench::GuideToolbar(*form))
-          bench_->Application()->Post([toolbar] { toolbar->Click(bench::guide::kCalibrate); });
+        if (const auto toolbar = host::run::GuideToolbar(*form))
+          bench_->Application()->Post([toolbar] { toolbar->Click(host::plugins::keld::guide::kCalibrate); });
       return true;
     });
   }
   Step Opened() {
     return Await("the dialog", [] { return Visible("FCalibrateLeads") != nullptr; });
   }
-  std::optional<bench::LeadCalibration> Stored() const {
-    return StoredLeadsOf(bench::RegistryStore(Path("state")), "SIM-0001");
+  std::optional<host::run::LeadCalibration> Stored() const {
+    return host::run::StoredLeadsOf(host::RegistryStore(Path("state")), "SIM-0001");
   }
 
   std::string file_;

@@ -39,10 +39,10 @@ class CountsTest : public DesktopTest {
   /// A document with a run on a real tester, which the operator ended before the first test.
   std::string RealRun() const {
     const auto file = NewDocument({"410"});
-    const auto document = bench::Document::Open(bench_->Host(), file);
-    bench::RunRecord run;
+    const auto document = host::document::Document::Open(bench_->Host(), file);
+    host::document::RunRecord run;
     run.begun = run.ended = "2026-11-21T14:03:22+01:00";
-    run.end = bench::RunRecord::End::kAborted;
+    run.end = host::document::RunRecord::End::kAborted;
     run.equipment = document->equipment;
     document->Runs().Open(run);
     document->Runs().Close();

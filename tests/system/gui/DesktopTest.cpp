@@ -52,14 +52,14 @@ std::string OpenQuestion() {
 DesktopTest::DesktopTest() {
   setenv("ORVIK_STATE", Path("state").c_str(), 1);
   unsetenv("ORVIK_ARCHIVE");
-  bench_ = std::make_unique<bench::Workbench>(bench::GlobalOptions{}, kTimeScale);
-  screen_ = std::make_unique<bench::qt::Screen>(bench_->Application());
+  bench_ = std::make_unique<host::bench::Workbench>(host::bench::GlobalOptions{}, kTimeScale);
+  screen_ = std::make_unique<host::qt::Screen>(bench_->Application());
   MakeWindow();
 }
 
 void DesktopTest::MakeWindow() {
-  window_ =
-      std::make_unique<bench::desktop::MainWindow>(*bench_, bench::GlobalOptions{}, [this] { left_ = true; });
+  window_ = std::make_unique<host::gui::MainWindow>(*bench_, host::bench::GlobalOptions{},
+                                                    [this] { left_ = true; });
   screen_->SetHostWindow(window_.get());
   window_->show();
 }

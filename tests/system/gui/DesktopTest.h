@@ -38,8 +38,8 @@ class DesktopTest : public testing::Test {
   static constexpr double kTimeScale = 10;
 
   /// Of the guide's buttons.
-  static constexpr int kAbort = bench::guide::kAbort, kNext = bench::guide::kNext,
-                       kPlay = bench::guide::kPlay;
+  static constexpr int kAbort = host::plugins::keld::guide::kAbort, kNext = host::plugins::keld::guide::kNext,
+                       kPlay = host::plugins::keld::guide::kPlay;
   /// Columns of the tree.
   static constexpr int kName = 1, kResult = 2, kValue = 3, kRemark = 4;
 
@@ -98,9 +98,9 @@ class DesktopTest : public testing::Test {
   bool Changed() const { return window_->isWindowModified(); }
 
   support::TemporaryFolder folder_;
-  std::unique_ptr<bench::Workbench> bench_;
-  std::unique_ptr<bench::qt::Screen> screen_;
-  std::unique_ptr<bench::desktop::MainWindow> window_;
+  std::unique_ptr<host::bench::Workbench> bench_;
+  std::unique_ptr<host::qt::Screen> screen_;
+  std::unique_ptr<host::gui::MainWindow> window_;
   bool left_ = false;
 
  private:

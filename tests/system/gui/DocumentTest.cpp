@@ -43,7 +43,7 @@ TEST_F(DocumentWindowTest, MalformedFile_KeepsTheOpenDocument) {
 
 TEST_F(DocumentWindowTest, RefusesAFileInUse) {
   const auto file = NewDocument({"410"});
-  const auto other = bench::Document::Open(bench_->Host(), file);
+  const auto other = host::document::Document::Open(bench_->Host(), file);
   Drive({Press("open"), TakeFile(file), Answer("message", "Close", "pump.orvik")});
   EXPECT_EQ(Verdict(), "");
 }

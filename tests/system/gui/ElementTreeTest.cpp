@@ -15,19 +15,19 @@
 namespace desktop_test {
 namespace {
 
-using bench::desktop::ElementTree;
+using host::gui::ElementTree;
 
 constexpr int kResultColumn = 2;
 
-bench::judge::JudgedDocument One(bench::judge::Verdict verdict) {
-  bench::judge::JudgedDocument document;
+host::judge::JudgedDocument One(host::judge::Verdict verdict) {
+  host::judge::JudgedDocument document;
   document.elements.emplace_back();
   document.elements.back().id = 1;
   document.elements.back().verdict = verdict;
   return document;
 }
 
-bench::judge::JudgedDocument OnePassed() { return One(bench::judge::Verdict::kPassed); }
+host::judge::JudgedDocument OnePassed() { return One(host::judge::Verdict::kPassed); }
 
 double Luminance(const QColor& colour) {
   const auto linear = [](double part) {
@@ -66,7 +66,7 @@ TEST(ElementTreeTest, LongName_KeepsItsEnd) {
 }
 
 TEST(ElementTreeTest, EveryVerdictHasItsSign_OnlyPassedIsGreen) {
-  using bench::judge::Verdict;
+  using host::judge::Verdict;
   std::vector<QImage> signs;
   std::set<QString> words;
   for (const auto verdict :

@@ -6,10 +6,10 @@ namespace desktop_test {
 namespace {
 
 TEST(ButtonText, OmitsAccessKeyAndDots) {
-  EXPECT_EQ(bench::desktop::ButtonText("&New..."), "New");
-  EXPECT_EQ(bench::desktop::ButtonText("R&esume"), "Resume");
-  EXPECT_EQ(bench::desktop::ButtonText("\u65B0\u5EFA(&N)..."), "\u65B0\u5EFA");
-  EXPECT_EQ(bench::desktop::ButtonText("Limits (all)"), "Limits (all)");
+  EXPECT_EQ(host::gui::ButtonText("&New..."), "New");
+  EXPECT_EQ(host::gui::ButtonText("R&esume"), "Resume");
+  EXPECT_EQ(host::gui::ButtonText("\u65B0\u5EFA(&N)..."), "\u65B0\u5EFA");
+  EXPECT_EQ(host::gui::ButtonText("Limits (all)"), "Limits (all)");
 }
 
 }  // namespace

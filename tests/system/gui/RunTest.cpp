@@ -162,7 +162,7 @@ TEST_F(RunTest, VerdictCountsRecordedReadings) {
   // Nobody has said that the first is good; the second has limits.
   EXPECT_NE(ResultColour(1), ResultColour(2));
   EXPECT_EQ(ResultColour(1),
-            bench::pdf::ColourOf(bench::report::Standing::kNotApplicable).name().toStdString());
+            host::report::drawing::ColourOf(host::report::Standing::kNotApplicable).name().toStdString());
 }
 
 TEST_F(RunTest, StopClosesTheSession_ResumeContinues) {
@@ -257,7 +257,9 @@ TEST_F(RunTest, OperatorAbortsInTheGuide) {
 }
 
 TEST(SimulatedProfiles, AreThoseOfTheSimulator) {
-  std::vector<std::string> offered(bench::kSimulatedProfiles.begin(), bench::kSimulatedProfiles.end()), known;
+  std::vector<std::string> offered(host::bench::kSimulatedProfiles.begin(),
+                                   host::bench::kSimulatedProfiles.end()),
+      known;
   for (const auto& profile : sim::BuiltInProfiles()) known.emplace_back(profile.name);
   EXPECT_EQ(offered, known);
 }

@@ -13,15 +13,15 @@
 namespace desktop_test {
 namespace {
 
-using bench::desktop::TesterBox;
+using host::gui::TesterBox;
 
 TEST(TesterBoxTest, SimulatedTester_MustBeSelected) {
   TesterBox box(1.0, nullptr, [] { return std::vector<std::string>{}; });
-  EXPECT_THROW(box.Choice(), bench::InputError);
+  EXPECT_THROW(box.Choice(), host::bench::InputError);
   box.show();
   static_cast<QComboBox&>(box).showPopup();
   box.hidePopup();
-  EXPECT_THROW(box.Choice(), bench::InputError);
+  EXPECT_THROW(box.Choice(), host::bench::InputError);
 }
 
 TEST(TesterBoxTest, OffersTheFirstDevice) {

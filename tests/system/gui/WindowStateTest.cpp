@@ -9,7 +9,7 @@
 namespace desktop_test {
 namespace {
 
-using bench::desktop::WindowState;
+using host::gui::WindowState;
 using Activity = WindowState::Activity;
 using Closing = WindowState::Closing;
 

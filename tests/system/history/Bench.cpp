@@ -46,8 +46,9 @@ void Bench::Clear() {
   keld::MKELDGlobalVars::InstrumentDataSlot().reset();
 }
 
-std::shared_ptr<bench::Document> Bench::Open(const std::string& file) {
-  return bench::Document::Open(bench_.Only().SharedHost(), PathOf(file), bench::DocumentFile::Use::kRead);
+std::shared_ptr<host::document::Document> Bench::Open(const std::string& file) {
+  return host::document::Document::Open(bench_.Only().SharedHost(), PathOf(file),
+                                        host::document::DocumentFile::Use::kRead);
 }
 
 std::optional<std::string> Bench::Perform(const Operation& operation, World& world, bool byCommand) {
@@ -66,7 +67,7 @@ std::optional<std::string> Bench::Perform(const Operation& operation, World& wor
     return {};
   } catch (const orvik::HostError& error) {
     return error.Description();
-  } catch (const bench::InputError& error) {
+  } catch (const host::bench::InputError& error) {
     return error.what();
   }
 }
@@ -78,7 +79,7 @@ Bench::Told Bench::Command(std::vector<std::string> arguments) {
   for (const auto& argument : arguments) typed.push_back(argument.c_str());
   Printed out(std::cout), error(std::cerr);
   Told told;
-  told.status = static_cast<int>(bench::RunProgram(static_cast<int>(typed.size()), typed.data()));
+  told.status = static_cast<int>(host::cli::RunProgram(static_cast<int>(typed.size()), typed.data()));
   told.out = out.Text();
   told.error = error.Text();
   return told;

@@ -30,9 +30,9 @@ class Bench {
   std::optional<std::string> Perform(const Operation& operation, World& world, bool byCommand);
 
   /// The document as its file has it.
-  std::shared_ptr<bench::Document> Open(const std::string& file);
+  std::shared_ptr<host::document::Document> Open(const std::string& file);
   std::filesystem::path PathOf(const std::string& file) const { return folder_ / file; }
-  bench::Host& Host() { return bench_.Host(); }
+  host::document::Host& Host() { return bench_.Host(); }
 
   struct Told {
     int status = 0;

@@ -17,18 +17,18 @@
 namespace history {
 namespace {
 
-void SetFields(const Operation& operation, bench::Equipment& equipment) {
+void SetFields(const Operation& operation, host::document::Equipment& equipment) {
   for (const auto& [field, value] : operation.fields) {
     std::string* const fields[] = {&equipment.asset, &equipment.serial, &equipment.maker, &equipment.model};
     *fields[field] = value;
   }
 }
 
-bench::ElementPlace PlaceIn(const bench::Document& document, const Operation& operation) {
+host::document::ElementPlace PlaceIn(const host::document::Document& document, const Operation& operation) {
   const auto neighbour = document.Find(operation.placeOf);
-  if (operation.place == "--before") return bench::ElementPlace::Before(*neighbour);
-  if (operation.place == "--after") return bench::ElementPlace::After(*neighbour);
-  return bench::ElementPlace::AtEndOf(operation.place == "--to" ? neighbour : nullptr);
+  if (operation.place == "--before") return host::document::ElementPlace::Before(*neighbour);
+  if (operation.place == "--after") return host::document::ElementPlace::After(*neighbour);
+  return host::document::ElementPlace::AtEndOf(operation.place == "--to" ? neighbour : nullptr);
 }
 
 }  // namespace
@@ -48,33 +48,33 @@ void EditsOf::Perform(const Operation& operation) {
     default:
       break;
   }
-  const auto document = bench::Document::Open(bench_.Only().SharedHost(), folder_ + operation.file);
+  const auto document = host::document::Document::Open(bench_.Only().SharedHost(), folder_ + operation.file);
   Change(operation, *document);
   document->Save();
 }
 
 void EditsOf::StoreLeads(const Operation& operation) {
   auto& registry = *bench_.Host().Registry();
-  if (operation.number >= 0 && operation.number <= bench::keld_facts::kMostLeadMilliohms)
-    bench::StoreLeads(registry, operation.text, operation.number, "2026-11-22T09:00:00+01:00");
+  if (operation.number >= 0 && operation.number <= host::plugins::keld::kMostLeadMilliohms)
+    host::run::StoreLeads(registry, operation.text, operation.number, "2026-11-22T09:00:00+01:00");
   else  // which no program of this system does
-    registry.Write(bench::keld_facts::kRegistryHive, bench::keld_facts::kLeadsKey, operation.text,
+    registry.Write(host::plugins::keld::kRegistryHive, host::plugins::keld::kLeadsKey, operation.text,
                    operation.number);
 }
 
 void EditsOf::Make(const Operation& operation) {
   const auto host = bench_.Only().SharedHost();
-  const auto document = bench::Document::Create(host, folder_ + operation.file);
+  const auto document = host::document::Document::Create(host, folder_ + operation.file);
   SetFields(operation, document->equipment);
   if (operation.kind == Operation::Kind::kNewFrom)
-    document->AddPlanOf(
-        *bench::Document::Open(host, folder_ + operation.other, bench::DocumentFile::Use::kRead));
+    document->AddPlanOf(*host::document::Document::Open(host, folder_ + operation.other,
+                                                        host::document::DocumentFile::Use::kRead));
   for (const int testId : operation.tests) document->AddTest(testId);
   document->Save();
 }
 
-void EditsOf::Change(const Operation& operation, bench::Document& document) {
-  const auto elements = bench::ElementsFor(document, "--element", operation.elements);
+void EditsOf::Change(const Operation& operation, host::document::Document& document) {
+  const auto elements = host::bench::ElementsFor(document, "--element", operation.elements);
   switch (operation.kind) {
     case Operation::Kind::kAdd:
       return Add(operation, document);
@@ -93,7 +93,8 @@ void EditsOf::Change(const Operation& operation, bench::Document& document) {
     case Operation::Kind::kLimitRemove:
       return RemoveLimits(operation, elements);
     case Operation::Kind::kRecordOnly:
-      for (const auto& element : elements) bench::MarkRecordOnly(element, *bench_.Host().Elements(), true);
+      for (const auto& element : elements)
+        host::bench::MarkRecordOnly(element, *bench_.Host().Elements(), true);
       return;
     case Operation::Kind::kOptions:
     case Operation::Kind::kFilter:
@@ -103,50 +104,52 @@ void EditsOf::Change(const Operation& operation, bench::Document& document) {
   }
 }
 
-void EditsOf::Add(const Operation& operation, bench::Document& document) {
+void EditsOf::Add(const Operation& operation, host::document::Document& document) {
   auto place = PlaceIn(document, operation);
   for (const int testId : operation.tests) {
     const auto added = document.AddTest(testId, place);
-    if (place.after != 0) place = bench::ElementPlace::After(*added);
+    if (place.after != 0) place = host::document::ElementPlace::After(*added);
   }
 }
 
 void EditsOf::SetLimits(const Operation& operation, const Elements& elements) {
   const auto& limit = operation.limit;
   for (const auto& element : elements) {
-    bench::SetLimit(*element->Limits(),
-                    {limit.standard, limit.description, operation.lowText, operation.highText, limit.unit});
-    if (bench::IsRecordOnly(element, *bench_.Host().Elements()))
-      bench::MarkRecordOnly(element, *bench_.Host().Elements(), false);
+    host::standards::SetLimit(*element->Limits(), {limit.standard, limit.description, operation.lowText,
+                                                   operation.highText, limit.unit});
+    if (host::bench::IsRecordOnly(element, *bench_.Host().Elements()))
+      host::bench::MarkRecordOnly(element, *bench_.Host().Elements(), false);
   }
 }
 
-void EditsOf::ApplySet(const Operation& operation, const bench::Document& document) {
-  const auto set = bench::LimitSets({}).Find(folder_ + operation.set + ".xml");
-  bench::ApplyLimitSet(
+void EditsOf::ApplySet(const Operation& operation, const host::document::Document& document) {
+  const auto set = host::standards::LimitSets({}).Find(folder_ + operation.set + ".xml");
+  host::bench::ApplyLimitSet(
       set,
-      operation.elements.empty() ? bench::TopElements(document)
-                                 : bench::ElementsFor(document, "--element", operation.elements),
-      *bench_.Host().Elements(), operation.also ? bench::EarlierSets::kKept : bench::EarlierSets::kReplaced);
+      operation.elements.empty() ? host::report::TopElements(document)
+                                 : host::bench::ElementsFor(document, "--element", operation.elements),
+      *bench_.Host().Elements(),
+      operation.also ? host::bench::EarlierSets::kKept : host::bench::EarlierSets::kReplaced);
 }
 
 void EditsOf::RemoveLimits(const Operation& operation, const Elements& elements) {
   const auto& name = operation.limit.standard;
   for (const auto& element : elements) {
-    bench::RemoveStandards(*element->Limits(), [&](const orvik::IStandard& standard) {
+    host::standards::RemoveStandards(*element->Limits(), [&](const orvik::IStandard& standard) {
       return name.empty() || standard.Name() == name;
     });
-    if (name.empty()) bench::MarkRecordOnly(element, *bench_.Host().Elements(), false);
+    if (name.empty()) host::bench::MarkRecordOnly(element, *bench_.Host().Elements(), false);
   }
 }
 
 void EditsOf::Configure(const Operation& operation, orvik::ITestElement& element) {
   const auto configuration = element.Configuration();
-  const bench::SavedSettings wanted(*configuration);
+  const host::document::SavedSettings wanted(*configuration);
   if (operation.kind == Operation::Kind::kOptions)
-    wanted.Settings()->SetAttribute(bench::SavedSettings::kOptions, std::to_string(operation.number));
+    wanted.Settings()->SetAttribute(host::document::SavedSettings::kOptions,
+                                    std::to_string(operation.number));
   else
-    wanted.Settings()->SetAttribute(bench::SavedSettings::kFilter, operation.text);
+    wanted.Settings()->SetAttribute(host::document::SavedSettings::kFilter, operation.text);
   configuration->Load(wanted.Node());
 }
 

@@ -25,10 +25,10 @@ class EditsOf {
 
   void StoreLeads(const Operation& operation);
   void Make(const Operation& operation);
-  void Change(const Operation& operation, bench::Document& document);
-  void Add(const Operation& operation, bench::Document& document);
+  void Change(const Operation& operation, host::document::Document& document);
+  void Add(const Operation& operation, host::document::Document& document);
   void SetLimits(const Operation& operation, const Elements& elements);
-  void ApplySet(const Operation& operation, const bench::Document& document);
+  void ApplySet(const Operation& operation, const host::document::Document& document);
   void RemoveLimits(const Operation& operation, const Elements& elements);
   void Configure(const Operation& operation, orvik::ITestElement& element);
 

@@ -9,29 +9,31 @@
 
 namespace history {
 
-std::optional<std::string> OutputsDiffer(const bench::DocumentView& view, const bench::Document& document,
-                                         bench::Host& host) {
-  const auto outcome = bench::judge::OutcomeText(view.judged.outcome);
-  const auto json = bench::JsonOf(view);
+std::optional<std::string> OutputsDiffer(const host::report::DocumentView& view,
+                                         const host::document::Document& document,
+                                         host::document::Host& host) {
+  const auto outcome = host::judge::OutcomeText(view.judged.outcome);
+  const auto json = host::cli::JsonOf(view);
   if (json["outcome"] != outcome) return "JSON says " + json["outcome"].dump();
   for (std::size_t i = 0; i < view.judged.elements.size(); ++i)
-    if (json["elements"][i]["verdict"] != bench::judge::VerdictText(view.judged.elements[i].verdict))
+    if (json["elements"][i]["verdict"] != host::judge::VerdictText(view.judged.elements[i].verdict))
       return "JSON says of an element " + json["elements"][i]["verdict"].dump();
-  const auto text = bench::TextOf(view, false);
+  const auto text = host::cli::TextOf(view, false);
   if (text.substr(0, text.find('\n')).find(": " + outcome) == std::string::npos)
     return "the text says " + text.substr(0, text.find('\n'));
-  const auto word = bench::LowerAscii(bench::ReportOf(document, host).verdict.word);
+  const auto word = host::LowerAscii(host::report::ReportOf(document, host).verdict.word);
   if (word != outcome) return "the report says " + word;
   return {};
 }
 
-std::optional<std::string> CommandsDiffer(const bench::DocumentView& view, Bench& program, bool tampered) {
-  const auto outcome = bench::judge::OutcomeText(view.judged.outcome);
+std::optional<std::string> CommandsDiffer(const host::report::DocumentView& view, Bench& program,
+                                          bool tampered) {
+  const auto outcome = host::judge::OutcomeText(view.judged.outcome);
   const auto shown = nlohmann::json::parse(program.Command({"show", view.path, "--json"}).out);
   if (shown["outcome"] != outcome) return "show --json says " + shown["outcome"].dump();
   const auto text = program.Command({"show", view.path}).out;
   if (text.find(": " + outcome) == std::string::npos) return "show says " + text.substr(0, text.find('\n'));
-  const auto report = bench::LowerAscii(program.Command({"report", view.path, "--to", "-"}).out);
+  const auto report = host::LowerAscii(program.Command({"report", view.path, "--to", "-"}).out);
   if (report.substr(0, report.find("summary")).find(outcome) == std::string::npos)
     return "the report does not say " + outcome + ": " + report;
   if (outcome == "passed" && !tampered) {

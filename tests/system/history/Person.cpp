@@ -6,12 +6,14 @@
 
 namespace history {
 
-namespace guide = bench::guide;
+namespace guide = host::plugins::keld::guide;
 
 void Person::OnWindowReady(const Form& form) {
-  if (form->Name() == guide::kYesNoForm) return bench::ClickButton(*form, guide::kYes);
-  if (form->Name() == guide::kPretestForm) return bench::ClickButton(*form, guide::kPretestOk);
-  if (form->Name() == guide::kGuideForm) OperateGuide(form);
+  if (form->Name() == host::plugins::keld::guide::kYesNoForm)
+    return host::run::ClickButton(*form, host::plugins::keld::guide::kYes);
+  if (form->Name() == host::plugins::keld::guide::kPretestForm)
+    return host::run::ClickButton(*form, host::plugins::keld::guide::kPretestOk);
+  if (form->Name() == host::plugins::keld::guide::kGuideForm) OperateGuide(form);
 }
 
 void Person::OperateGuide(const Form& form) {
@@ -19,33 +21,33 @@ void Person::OperateGuide(const Form& form) {
   listener_(press, true);
   switch (press) {
     case Press::kPlayTwice:
-      Click(form, guide::kPlay);
+      Click(form, host::plugins::keld::guide::kPlay);
       [[fallthrough]];
     case Press::kPlayThenNext:
-      Click(form, guide::kPlay);
+      Click(form, host::plugins::keld::guide::kPlay);
       break;
     case Press::kPlayThenPrevious:
-      Click(form, guide::kPlay);
-      Click(form, guide::kPrevious);
+      Click(form, host::plugins::keld::guide::kPlay);
+      Click(form, host::plugins::keld::guide::kPrevious);
       break;
     case Press::kNotApplicable:
-      Click(form, guide::kNotApplicable);
+      Click(form, host::plugins::keld::guide::kNotApplicable);
       break;
     case Press::kSkip:
-      Click(form, guide::kSkip);
+      Click(form, host::plugins::keld::guide::kSkip);
       break;
     case Press::kAbort:
-      Click(form, guide::kAbort);
+      Click(form, host::plugins::keld::guide::kAbort);
       break;
     case Press::kNext:
       break;
   }
-  Click(form, guide::kNext);
+  Click(form, host::plugins::keld::guide::kNext);
   if (form->Visible()) form->Hide();
 }
 
 void Person::Click(const Form& form, std::int32_t button) const {
-  const auto toolbar = form->Visible() ? bench::GuideToolbar(*form) : nullptr;
+  const auto toolbar = form->Visible() ? host::run::GuideToolbar(*form) : nullptr;
   if (toolbar) toolbar->Click(button);
 }
 
@@ -53,9 +55,9 @@ void Person::Abort() {
   application_->Post([this, alive = std::weak_ptr<int>(alive_)] {
     if (alive.expired()) return;
     for (const auto& form : application_->Forms()) {
-      if (form->Name() != guide::kGuideForm || !form->Visible()) continue;
+      if (form->Name() != host::plugins::keld::guide::kGuideForm || !form->Visible()) continue;
       listener_(Press::kAbort, false);
-      return Click(form, guide::kAbort);
+      return Click(form, host::plugins::keld::guide::kAbort);
     }
   });
 }

@@ -13,7 +13,7 @@ namespace history {
 
 /// Presses the guide's buttons as a history says: one entry in one guide after the other, then play and next.
 /// Says yes to questions and acknowledges messages.
-class Person final : public bench::IOperator {
+class Person final : public host::run::IOperator {
  public:
   /// Hears what is about to be pressed, and whether in a guide that waits for it.
   using Listener = std::function<void(Press press, bool inWaitingGuide)>;

@@ -23,7 +23,7 @@ std::string TextOf(const Verdicts& verdicts) {
   return text;
 }
 
-std::string ReasonsOf(const bench::judge::JudgedElement& element) {
+std::string ReasonsOf(const host::judge::JudgedElement& element) {
   std::string text;
   for (const auto& reason : element.reasons) text += (text.empty() ? "" : ", ") + reason.code;
   return text.empty() ? "no reason" : text;
@@ -42,7 +42,7 @@ std::vector<std::string> RunsIn(const std::filesystem::path& file) {
 }
 
 /// Parents and tests too: an identifier that is given twice would make one result count for another test.
-std::string StructureOf(const bench::judge::JudgedDocument& judged) {
+std::string StructureOf(const host::judge::JudgedDocument& judged) {
   std::string text;
   for (const auto& element : judged.elements)
     text += std::to_string(element.id) + ":" + std::to_string(element.testId) + " in " +
@@ -60,10 +60,10 @@ std::string StructureOf(const Plan& plan) {
   return text;
 }
 
-std::string OutcomeOf(const bench::judge::JudgedDocument& judged) {
+std::string OutcomeOf(const host::judge::JudgedDocument& judged) {
   bool passed = false, open = judged.elements.empty();
   for (const auto& element : judged.elements) {
-    const auto verdict = bench::judge::VerdictText(element.verdict);
+    const auto verdict = host::judge::VerdictText(element.verdict);
     if (verdict == "failed") return "failed";
     passed = passed || verdict == "passed";
     open = open || (verdict != "passed" && verdict != "recorded" && verdict != "not applicable");
@@ -128,13 +128,13 @@ std::optional<std::string> Player::TamperWith(const Operation& operation) {
 std::optional<std::string> Player::Check(const std::string& file) {
   const auto& known = world_.documents.at(file);
   const auto document = bench_.Open(file);
-  const auto view = bench::ViewOf(*document, bench_.Host());
+  const auto view = host::report::ViewOf(*document, bench_.Host());
   const auto& judged = view.judged;
   if (StructureOf(judged) != StructureOf(known.plan))
     return "elements are " + StructureOf(judged) + "and should be " + StructureOf(known.plan);
 
   const Oracle oracle(known);
-  const auto said = [&](int id) { return bench::judge::VerdictText(judged.Find(id)->verdict); };
+  const auto said = [&](int id) { return host::judge::VerdictText(judged.Find(id)->verdict); };
   const auto all = known.plan.All();
   for (const auto* element : all) {
     const auto verdict = said(element->id);
@@ -146,10 +146,10 @@ std::optional<std::string> Player::Check(const std::string& file) {
     if (!allowed.contains(verdict))
       return "element " + std::to_string(element->id) + " is \"" + verdict + "\" (" + ReasonsOf(reasons) +
              "), and should be " + TextOf(allowed);
-    if (reasons.reasons.empty() && !IsDone(judged.Find(element->id)->verdict))
+    if (reasons.reasons.empty() && !host::judge::IsDone(judged.Find(element->id)->verdict))
       return "element " + std::to_string(element->id) + " is \"" + verdict + "\" without a reason";
   }
-  const auto outcome = bench::judge::OutcomeText(judged.outcome);
+  const auto outcome = host::judge::OutcomeText(judged.outcome);
   ++counts_.outcomes[outcome];
   if (outcome != OutcomeOf(judged))
     return "outcome \"" + outcome + "\", and should be \"" + OutcomeOf(judged) + "\"";

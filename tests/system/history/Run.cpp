@@ -16,8 +16,8 @@ std::vector<int> IdentifiersOf(const std::vector<std::shared_ptr<orvik::ITestEle
   return identifiers;
 }
 
-void TellOfWire(const bench::WireRecord& record, RunWatch& watch) {
-  using What = bench::WireRecord::Kind;
+void TellOfWire(const host::serial::WireRecord& record, RunWatch& watch) {
+  using What = host::serial::WireRecord::Kind;
   const auto at = std::chrono::duration_cast<RunWatch::Time>(record.time);
   switch (record.kind) {
     case What::kOpened:
@@ -42,8 +42,8 @@ std::optional<std::string> RunOf::Perform(const Operation& operation, World& wor
     keld::MKELDGlobalVars::InstrumentDataSlot().reset();
     world.leadsInUse = world.LeadsOf(world.lastSerial);
   }
-  const auto document = bench::Document::Open(bench_.Only().SharedHost(), folder_ + operation.file);
-  bench::RequireOneKindOfRuns(*document, run.simulated);
+  const auto document = host::document::Document::Open(bench_.Only().SharedHost(), folder_ + operation.file);
+  host::bench::RequireOneKindOfRuns(*document, run.simulated);
   const auto elements = Selected(operation, *document);
   const auto tester =
       std::make_shared<TrueTester>(world, world.documents.at(operation.file).plan.equipment, run.tester);
@@ -57,19 +57,19 @@ std::optional<std::string> RunOf::Perform(const Operation& operation, World& wor
   return watch.Offence();
 }
 
-RunOf::Elements RunOf::Selected(const Operation& operation, bench::Document& document) {
-  bench::RunSelection selection;
+RunOf::Elements RunOf::Selected(const Operation& operation, host::document::Document& document) {
+  host::bench::RunSelection selection;
   selection.file = operation.file;
   selection.elements.assign(operation.run.elements.begin(), operation.run.elements.end());
   selection.standards = operation.run.standards;
   selection.resume = operation.run.resume;
-  const auto selected = bench::SelectedElements(document, selection);
-  bench::SelectStandards(document, bench_.Host(), selection);
+  const auto selected = host::bench::SelectedElements(document, selection);
+  host::bench::SelectStandards(document, bench_.Host(), selection);
   if (!selection.resume) return selected;
-  return bench::Unfinished(selected, document, bench::ViewOf(document, bench_.Host()).judged);
+  return host::bench::Unfinished(selected, document, host::report::ViewOf(document, bench_.Host()).judged);
 }
 
-void RunOf::RunElements(const RunSetup& run, const Elements& elements, bench::Document& document,
+void RunOf::RunElements(const RunSetup& run, const Elements& elements, host::document::Document& document,
                         RunWatch& watch) {
   support::RunParts parts(bench_.Ports(), document);
   parts.heading.simulated = run.simulated;
@@ -88,9 +88,9 @@ void RunOf::RunElements(const RunSetup& run, const Elements& elements, bench::Do
     if (press == Press::kAbort) watch.Aborted(inWaitingGuide);
   });
   auto* const aborting = person.get();
-  std::unique_ptr<bench::IOperator> runOperator = std::move(person);
-  if (byProgram) runOperator = std::make_unique<bench::AutoOperator>(application, parts.stop);
-  const bench::OperatorEvents operating(application, parts.stop, std::move(runOperator));
+  std::unique_ptr<host::run::IOperator> runOperator = std::move(person);
+  if (byProgram) runOperator = std::make_unique<host::run::AutoOperator>(application, parts.stop);
+  const host::run::OperatorEvents operating(application, parts.stop, std::move(runOperator));
   int calls = 0;
   const auto pumped = bench_.Application().Pumped().Subscribe([&] {
     const int call = calls++;
@@ -107,7 +107,7 @@ std::vector<orvik::platform::Subscription> RunOf::Tell(support::RunParts& parts,
   using Told = std::shared_ptr<orvik::ITestElement>;
   std::vector<orvik::platform::Subscription> told;
   told.push_back(bench_.Ports().TheWire()->Subscribe(
-      [&watch](const bench::WireRecord& record) { TellOfWire(record, watch); }));
+      [&watch](const host::serial::WireRecord& record) { TellOfWire(record, watch); }));
   told.push_back(
       parts.controller->Started().Subscribe([&watch](const Told& element) { watch.Started(element->ID()); }));
   told.push_back(parts.controller->Finished().Subscribe(

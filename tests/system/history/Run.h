@@ -28,8 +28,9 @@ class RunOf {
  private:
   using Elements = std::vector<std::shared_ptr<orvik::ITestElement>>;
 
-  Elements Selected(const Operation& operation, bench::Document& document);
-  void RunElements(const RunSetup& run, const Elements& elements, bench::Document& document, RunWatch& watch);
+  Elements Selected(const Operation& operation, host::document::Document& document);
+  void RunElements(const RunSetup& run, const Elements& elements, host::document::Document& document,
+                   RunWatch& watch);
   std::vector<orvik::platform::Subscription> Tell(support::RunParts& parts, RunWatch& watch);
   void LetTimePass();
 

@@ -75,7 +75,8 @@ std::string TrueTester::Result(const std::string& command, int testId, int setti
   reading.overload = BehaviourIn(testId, Behaviour::Kind::kOverload) != nullptr;
   readings_[command] = reading;
   return "gres," + std::to_string(testId) + "," + std::to_string(setting) + "," +
-         reading.amount.number.Text() + (reading.overload ? ",1," : ",0,") + *bench::Latin1FromUtf8(unit);
+         reading.amount.number.Text() + (reading.overload ? ",1," : ",0,") +
+         *host::serial::Latin1FromUtf8(unit);
 }
 
 const Behaviour* TrueTester::BehaviourIn(int testId, Behaviour::Kind kind) const {

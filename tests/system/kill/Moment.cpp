@@ -39,7 +39,7 @@ class Watch {
   }
 
  private:
-  bench::UniqueFd events_;
+  host::serial::UniqueFd events_;
   int count_ = 0;
 };
 

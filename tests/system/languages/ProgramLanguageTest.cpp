@@ -199,7 +199,7 @@ TEST_P(HelpIn, KeepsItsColumns) {
   const auto at = line.rfind(description);
   ASSERT_NE(at, std::string::npos) << line;
   // The label before it says in that language that the word is required, in wide letters perhaps.
-  EXPECT_EQ(bench::CellsOf(line.substr(0, at)), 30U) << line;
+  EXPECT_EQ(host::CellsOf(line.substr(0, at)), 30U) << line;
 }
 
 INSTANTIATE_TEST_SUITE_P(All, HelpIn, testing::ValuesIn(languages::kAll),

@@ -9,8 +9,8 @@
 
 namespace {
 
-void Speak(bench::Host& host, const std::string& language) {
-  const auto service = std::make_shared<bench::LanguageService>(
+void Speak(host::document::Host& host, const std::string& language) {
+  const auto service = std::make_shared<host::LanguageService>(
       language, std::vector<std::filesystem::path>{languages::Folder()});
   host.Register(orvik::HostClasses::kLanguageService, [service] { return service; });
 }
@@ -43,7 +43,7 @@ using Texts = std::vector<std::string>;
 TEST(SetUpDialogInGerman, ShowsTheSettingsOfASequence) {
   support::HostOnly bench;
   Speak(bench.Host(), "de");
-  support::ConfigurationDialog<keld::CKELDSequence> open(600);
+  support::ConfigurationDialog<keld::model::CKELDSequence> open(600);
   EXPECT_EQ(open.list->Items(), (Texts{"Keine Werte", "Alle Werte", "Größter Wert", "Kleinster Wert"}));
   EXPECT_EQ(open.control->GetControl("lblAssign")->Caption(), "Werte der Prüfungen der Gruppe:");
   // The settings are numbers: what is chosen does not depend on the language.
@@ -54,7 +54,7 @@ TEST(SetUpDialogInGerman, ShowsTheSettingsOfASequence) {
 TEST(SetUpDialogInChinese, ShowsTheSettingsOfASequence) {
   support::HostOnly bench;
   Speak(bench.Host(), "zh");
-  support::ConfigurationDialog<keld::CKELDSequence> open(600);
+  support::ConfigurationDialog<keld::model::CKELDSequence> open(600);
   EXPECT_EQ(open.list->Items(), (Texts{"不取值", "所有值", "最大值", "最小值"}));
   EXPECT_EQ(open.control->GetControl("lblGeneralSettings")->Caption(), "常规设置：");
 }

@@ -63,7 +63,7 @@ void OpenEveryDialog(Stage& stage, bool docked) {
     auto& element = sequence ? stage.PlaceSequence() : stage.PlaceTest();
     OpenDialog(stage, element.Configuration()->CreateDialog(), docked);
     OpenDialog(stage, element.Limits()->CreateDialog(), docked);
-    const auto result = keld::CKELDResultData::Create();
+    const auto result = keld::results::CKELDResultData::Create();
     result->SetComment("lead worn");
     stage.See("result", result);
     OpenDialog(stage, result->CreateDialog(), docked);
@@ -72,7 +72,7 @@ void OpenEveryDialog(Stage& stage, bool docked) {
 
 /// Operates the calibration window from its opening on.
 void Calibrate(Stage& stage) {
-  const auto dialog = keld::FCalibrateLeads::Create();
+  const auto dialog = keld::instrument::FCalibrateLeads::Create();
   stage.See("calibration", dialog);
   const auto form = orvik::As<orvik::IDialogForm>(dialog)->Form();
   auto& application = stage.bench.Application();
@@ -95,14 +95,14 @@ void SaveLoadAndClone(Stage& stage) {
     ASSERT_TRUE(node);
     std::shared_ptr<orvik::ITestElement> loaded;
     if (sequence)
-      loaded = keld::CKELDSequence::Create();
+      loaded = keld::model::CKELDSequence::Create();
     else
-      loaded = keld::CKELDTestElement::Create();
+      loaded = keld::model::CKELDTestElement::Create();
     loaded->Load(node, nullptr);
     EXPECT_TRUE(loaded->Result());
     auto clone = loaded->Clone();
     EXPECT_TRUE(clone->Result());
-    const auto report = std::make_shared<bench::ReportObject>();
+    const auto report = std::make_shared<host::report::ReportObject>();
     clone->PrintReport(report, nullptr);
     EXPECT_FALSE(report->Tables().empty());
     for (const auto& copy : {loaded, clone}) {
@@ -114,8 +114,8 @@ void SaveLoadAndClone(Stage& stage) {
 
 void Prompts(Stage& stage) {
   for (const bool modal : {false, true}) {
-    const auto question = keld::FYesNoPrompt::Create();
-    const auto instruction = keld::FPretestPrompt::Create();
+    const auto question = keld::ui::FYesNoPrompt::Create();
+    const auto instruction = keld::ui::FPretestPrompt::Create();
     stage.See("yes/no prompt", question);
     stage.See("pre-test prompt", instruction);
     question->SetPrompt("20999::Go on?");

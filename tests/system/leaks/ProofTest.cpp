@@ -49,7 +49,7 @@ TEST(ProofTest, WhatSomebodyHoldsIsSeen) {
   EXPECT_THAT(watched.Alive(), testing::UnorderedElementsAre("result", "measurement", "service record",
                                                              "OrvikTypeLib.ServiceRecord"));
   // The result does not hold its element.
-  EXPECT_FALSE(orvik::As<keld::CKELDResultData>(held)->Owner());
+  EXPECT_FALSE(orvik::As<keld::results::CKELDResultData>(held)->Owner());
 }
 
 TEST(ProofTest, ACircleIsSeenByBoth) {

@@ -70,10 +70,10 @@ class Stage {
   }
   /// A sequence of a test, a nested sequence, and a test.
   orvik::ITestElement& PlaceSequence() {
-    const auto nested = keld::CKELDSequence::Create();
+    const auto nested = keld::model::CKELDSequence::Create();
     nested->Initialize("KELD(IN)", 20, 200);
     nested->Add(bench.CreateTest(410), {}, {});
-    const auto sequence = keld::CKELDSequence::Create();
+    const auto sequence = keld::model::CKELDSequence::Create();
     sequence->Initialize("KELD(IN)", 10, 100);
     sequence->Add(bench.CreateTest(210), {}, {});
     sequence->Add(nested, {}, {});

@@ -23,12 +23,12 @@ namespace leaks {
 namespace {
 
 /// What an element holds while it runs, and shows to its own classes alone.
-class Inside : public keld::CKELDElement {
+class Inside : public keld::model::CKELDElement {
  public:
-  static std::shared_ptr<keld::CKELDInstrument> LinkOf(const keld::CKELDElement& element) {
+  static std::shared_ptr<keld::instrument::CKELDInstrument> LinkOf(const keld::model::CKELDElement& element) {
     return (element.*&Inside::Link)();
   }
-  static std::shared_ptr<keld::FTestGuide> GuideOf(const keld::CKELDElement& element) {
+  static std::shared_ptr<keld::ui::FTestGuide> GuideOf(const keld::model::CKELDElement& element) {
     return (element.*&Inside::TestGuide)();
   }
 };
@@ -63,7 +63,7 @@ void Watch::SeeElement(const std::shared_ptr<orvik::ITestElement>& element) {
 }
 
 void Watch::SeeRun(const std::shared_ptr<orvik::ITestElement>& element) {
-  const auto own = orvik::As<keld::CKELDElement>(element);
+  const auto own = orvik::As<keld::model::CKELDElement>(element);
   if (!own) return;
   See("base element", own->BaseElement());
   See("link", Inside::LinkOf(*own));

@@ -46,7 +46,7 @@ class ScreenTest : private OnDisplay, public desktop_test::DesktopTest {
     file_ = NewDocument(std::move(tests));
     window_->Open(file_);
     window_->findChild<QComboBox*>("tester")->setCurrentText(
-        QString::fromStdString(bench::Tr("Simulated tester: %%1", {profile})));
+        QString::fromStdString(host::Tr("Simulated tester: %%1", {profile})));
     Steps all{OnTop("main"), Press("run"), OnTop("FTestGuide")};
     all.insert(all.end(), steps.begin(), steps.end());
     all.insert(all.end(), {Press("stop"), Idle()});

@@ -27,7 +27,7 @@ class InLanguage {
 
  private:
   static void Choose(const std::string& language) {
-    bench::ChooseLanguage(language, {bench::files::Translations()});
+    host::ChooseLanguage(language, {host::bench::files::Translations()});
   }
 };
 
@@ -47,7 +47,7 @@ class SizeTest : private InLanguage, public ScreenTest, public testing::WithPara
 TEST_P(SizeTest, VerdictFits) {
   window_->Open(NewDocument({"410", "910", "610", "210"}));
   const auto& verdict = Inner("verdict");
-  const QColor colour = bench::desktop::ColourName(bench::report::Standing::kOpen);
+  const QColor colour = host::gui::ColourName(host::report::Standing::kOpen);
   const auto place = [&verdict] { return OnScreen(verdict); };
   Drive({OnTop("main"), Await("the verdict painted", [&] {
            const auto border = place();

@@ -8,9 +8,9 @@ namespace soak {
 
 namespace {
 
-using bench::judge::JudgedElement;
-using bench::judge::Outcome;
-using bench::judge::Verdict;
+using host::judge::JudgedElement;
+using host::judge::Outcome;
+using host::judge::Verdict;
 using Texts = std::vector<std::string>;
 
 bool Contains(const Texts& texts, const std::string& text) {
@@ -19,7 +19,7 @@ bool Contains(const Texts& texts, const std::string& text) {
 
 bool AllDone(const std::vector<JudgedElement>& elements) {
   return std::all_of(elements.begin(), elements.end(),
-                     [](const JudgedElement& element) { return bench::judge::IsDone(element.verdict); });
+                     [](const JudgedElement& element) { return host::judge::IsDone(element.verdict); });
 }
 
 /// A pass counts only when the tester's own reading of this run came over the wire, stands in the result, and
@@ -58,7 +58,7 @@ void CheckElement(const Plan& plan, const JudgedElement& element, const Texts& r
 void CheckWhole(const Evidence& evidence, Texts& offences) {
   const auto& elements = evidence.elements;
   if ((evidence.outcome == Outcome::kPassed) != AllDone(elements))
-    offences.push_back("the outcome is " + bench::judge::OutcomeText(evidence.outcome));
+    offences.push_back("the outcome is " + host::judge::OutcomeText(evidence.outcome));
   // The first one is the sequence, where there is one.
   if (elements.size() > 1 && elements.front().verdict == Verdict::kPassed && !AllDone(elements))
     offences.push_back("the sequence passed with such children");
@@ -83,7 +83,7 @@ void CheckUndisturbed(const Plan& plan, const Evidence& evidence, Texts& offence
   if (VerdictsOf(evidence.elements) != expected)
     offences.push_back("undisturbed, it should have ended " + expected);
   if (evidence.sent != commands) offences.push_back("undisturbed, it sent other commands");
-  if (evidence.end != bench::DocumentRunner::End::kFinished)
+  if (evidence.end != host::run::DocumentRunner::End::kFinished)
     offences.push_back("undisturbed, it was not finished");
 }
 
@@ -92,7 +92,7 @@ void CheckUndisturbed(const Plan& plan, const Evidence& evidence, Texts& offence
 std::string VerdictsOf(const std::vector<JudgedElement>& elements) {
   std::string texts;
   for (const auto& element : elements)
-    texts += (texts.empty() ? "" : ", ") + bench::judge::VerdictText(element.verdict);
+    texts += (texts.empty() ? "" : ", ") + host::judge::VerdictText(element.verdict);
   return texts;
 }
 

@@ -39,7 +39,7 @@ class RunFaults final : public sim::Faults {
 /// none.
 void GiveTextsRoom() {
   const std::string text(40, 'x');
-  keld::CKELDData::Shared()->TakeIdentity({text, text, text, {}, {}});
+  keld::instrument::CKELDData::Shared()->TakeIdentity({text, text, text, {}, {}});
 }
 
 }  // namespace
@@ -58,7 +58,7 @@ std::filesystem::path SoakBench::Prepared(Kind kind) {
 }
 
 void SoakBench::Prepare(Kind kind) {
-  const auto document = bench::Document::Create(bench_.Only().SharedHost(), Prepared(kind));
+  const auto document = host::document::Document::Create(bench_.Only().SharedHost(), Prepared(kind));
   document->AddTest(kind == Kind::kTest ? 410 : 400);
   for (const std::int32_t id : kind == Kind::kTest ? std::vector{1} : std::vector{2, 3})
     support::SetLimit(*document, bench_.Host(), id, "", std::to_string(kHighest));
@@ -71,7 +71,7 @@ Evidence SoakBench::Run(const Plan& plan, bool save) {
   Disturb(plan);
   Evidence evidence;
   {
-    const auto document = bench::Document::Open(bench_.Only().SharedHost(), file);
+    const auto document = host::document::Document::Open(bench_.Only().SharedHost(), file);
     Perform(plan, *document, save, evidence);
     const auto judged = Judged(*document);
     evidence.elements = judged.elements;
@@ -84,9 +84,9 @@ Evidence SoakBench::Run(const Plan& plan, bool save) {
   evidence.portOpen = bench_.Line().Line()->Connected();
   evidence.windows = bench_.Application().Forms().size();
   if (save)
-    evidence.reopened =
-        Judged(*bench::Document::Open(bench_.Only().SharedHost(), file, bench::DocumentFile::Use::kRead))
-            .elements;
+    evidence.reopened = Judged(*host::document::Document::Open(bench_.Only().SharedHost(), file,
+                                                               host::document::DocumentFile::Use::kRead))
+                            .elements;
   bench_.Wire().Clear();
   bench_.Tester().UseFaults(nullptr);
   return evidence;
@@ -98,14 +98,14 @@ void SoakBench::Disturb(const Plan& plan) {
   bench_.Tester().UseFaults(std::make_shared<RunFaults>(plan));
 }
 
-void SoakBench::Perform(const Plan& plan, bench::Document& document, bool save, Evidence& evidence) {
+void SoakBench::Perform(const Plan& plan, host::document::Document& document, bool save, Evidence& evidence) {
   auto& wire = *bench_.Ports().TheWire();
-  bench::WireLog log(bench_.Only().Folder() / "run.orvik.wire.log");
-  const auto logged = wire.Subscribe([&](const bench::WireRecord& record) { log.Write(record); });
+  host::serial::WireLog log(bench_.Only().Folder() / "run.orvik.wire.log");
+  const auto logged = wire.Subscribe([&](const host::serial::WireRecord& record) { log.Write(record); });
   support::RunParts parts(bench_.Ports(), document);
   parts.heading.by = "M. Holm";
   parts.heading.simulated = true;
-  parts.clock = bench::LocalTimeText;
+  parts.clock = host::LocalTimeText;
   parts.save = [&] { save ? document.Save() : static_cast<void>(document.Text()); };
   int calls = 0;
   const auto pumped = bench_.Application().Pumped().Subscribe([&] {
@@ -114,8 +114,8 @@ void SoakBench::Perform(const Plan& plan, bench::Document& document, bool save, 
   evidence.end = parts.RunByProgram(bench_.Only().SharedApplication());
 }
 
-bench::judge::JudgedDocument SoakBench::Judged(const bench::Document& document) {
-  return bench::judge::Judge(document, *bench_.Host().Elements());
+host::judge::JudgedDocument SoakBench::Judged(const host::document::Document& document) {
+  return host::judge::Judge(document, *bench_.Host().Elements());
 }
 
 void SoakBench::LetTimePass() {

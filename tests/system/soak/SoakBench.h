@@ -6,9 +6,9 @@
 #include "tests/support/VirtualBench.h"
 #include "tests/system/soak/SoakRun.h"
 
-namespace bench {
+namespace host::document {
 class Document;
-}  // namespace bench
+}
 
 namespace soak {
 
@@ -27,8 +27,8 @@ class SoakBench {
   std::filesystem::path Prepared(Kind kind);
   void Prepare(Kind kind);
   void Disturb(const Plan& plan);
-  void Perform(const Plan& plan, bench::Document& document, bool save, Evidence& evidence);
-  bench::judge::JudgedDocument Judged(const bench::Document& document);
+  void Perform(const Plan& plan, host::document::Document& document, bool save, Evidence& evidence);
+  host::judge::JudgedDocument Judged(const host::document::Document& document);
   void LetTimePass();
 
   support::VirtualBench bench_;

@@ -41,16 +41,16 @@ std::string TextOf(const Plan& plan);
 
 /// What a run left behind.
 struct Evidence {
-  bench::DocumentRunner::End end{};
-  std::vector<bench::judge::JudgedElement> elements;
-  bench::judge::Outcome outcome{};
+  host::run::DocumentRunner::End end{};
+  std::vector<host::judge::JudgedElement> elements;
+  host::judge::Outcome outcome{};
   std::vector<std::string> sent;
   std::vector<std::string> received;
   bool inRemoteMode = false;  ///< the tester
   bool portOpen = false;
   std::size_t windows = 0;  ///< still open
   /// How the elements read when the saved document is opened again; empty when it was not saved.
-  std::vector<bench::judge::JudgedElement> reopened;
+  std::vector<host::judge::JudgedElement> reopened;
 };
 
 /// What must not be: a pass that was not measured, a verdict that is none of the tester's own reading, a run
@@ -61,6 +61,6 @@ std::vector<std::string> Offences(const Plan& plan, const Evidence& evidence);
 std::string ReplyTo(int testId, int milliohms);
 
 /// How the elements ended: "doubtful, passed, doubtful".
-std::string VerdictsOf(const std::vector<bench::judge::JudgedElement>& elements);
+std::string VerdictsOf(const std::vector<host::judge::JudgedElement>& elements);
 
 }  // namespace soak

@@ -16,7 +16,7 @@
 namespace soak {
 namespace {
 
-using bench::judge::Verdict;
+using host::judge::Verdict;
 
 #ifdef __SANITIZE_ADDRESS__
 constexpr int kRunsOfThisBuild = 5000;
@@ -77,7 +77,7 @@ void ExpectFlat(const Look& now, const Look& first, int runs) {
 }
 
 /// One run by its plan; how it ended.
-bench::judge::Outcome RunAndCheck(SoakBench& bench, unsigned seed, int run) {
+host::judge::Outcome RunAndCheck(SoakBench& bench, unsigned seed, int run) {
   const auto plan = DrawPlan(seed, run);
   const auto evidence = bench.Run(plan, run % kSavedEvery == 0);
   for (const auto& offence : Offences(plan, evidence))
@@ -92,7 +92,7 @@ TEST(SoakTest, ManyRunsWithFaultsLeaveNothingAndEndRight) {
   UseFilesInMemory();
   SoakBench bench;
   std::optional<Look> first;
-  std::map<bench::judge::Outcome, int> outcomes;
+  std::map<host::judge::Outcome, int> outcomes;
   for (int run = 1; run <= runs && !HasFailure(); ++run) {
     ++outcomes[RunAndCheck(bench, seed, run)];
     if (run % kBetweenLooks != 0) continue;
@@ -100,12 +100,12 @@ TEST(SoakTest, ManyRunsWithFaultsLeaveNothingAndEndRight) {
     if (!first) first = look;
     ExpectFlat(look, *first, run);
   }
-  std::cout << runs << " runs: " << outcomes[bench::judge::Outcome::kPassed] << " passed, "
-            << outcomes[bench::judge::Outcome::kFailed] << " failed, "
-            << outcomes[bench::judge::Outcome::kIncomplete] << " incomplete" << std::endl;
+  std::cout << runs << " runs: " << outcomes[host::judge::Outcome::kPassed] << " passed, "
+            << outcomes[host::judge::Outcome::kFailed] << " failed, "
+            << outcomes[host::judge::Outcome::kIncomplete] << " incomplete" << std::endl;
   for (const auto outcome :
-       {bench::judge::Outcome::kPassed, bench::judge::Outcome::kFailed, bench::judge::Outcome::kIncomplete})
-    EXPECT_GT(outcomes[outcome], runs / 20) << "hardly any run is " << bench::judge::OutcomeText(outcome);
+       {host::judge::Outcome::kPassed, host::judge::Outcome::kFailed, host::judge::Outcome::kIncomplete})
+    EXPECT_GT(outcomes[outcome], runs / 20) << "hardly any run is " << host::judge::OutcomeText(outcome);
 }
 
 class OffencesTest : public testing::Test {
@@ -114,19 +114,19 @@ class OffencesTest : public testing::Test {
   OffencesTest() {
     plan_.truth = {{410, 123}, {420, 131}};
     plan_.faultRate = 0.2;
-    bench::judge::JudgedElement element;
+    host::judge::JudgedElement element;
     element.id = 1;
     element.testId = 410;
     element.status = 1;
     element.verdict = Verdict::kPassed;
-    element.measurement = bench::judge::Measurement{123.0, "mOhm", "", 1};
+    element.measurement = host::judge::Measurement{123.0, "mOhm", "", 1};
     evidence_.elements = {element};
-    evidence_.outcome = bench::judge::Outcome::kPassed;
+    evidence_.outcome = host::judge::Outcome::kPassed;
     evidence_.sent = {"IREM", "STST,410,0", "GRES,410,0", "STST,210,0", "EREM"};
     evidence_.received = {ReplyTo(410, 123)};
   }
 
-  bench::judge::JudgedElement& Element() { return evidence_.elements.front(); }
+  host::judge::JudgedElement& Element() { return evidence_.elements.front(); }
   void Become(Verdict verdict, const char* reason) {
     Element().verdict = verdict;
     Element().reasons = {{reason, {}}};
@@ -155,7 +155,7 @@ TEST_F(OffencesTest, AreFoundInEvidence) {
       {"a failure within the limit", 1,
        [&] {
          Become(Verdict::kFailed, "failed-by-plug-in");
-         evidence_.outcome = bench::judge::Outcome::kFailed;
+         evidence_.outcome = host::judge::Outcome::kFailed;
        }},
       {"not applicable in spite of a limit", 1,
        [&] { Become(Verdict::kNotApplicable, "refused-by-tester"); }},
@@ -164,7 +164,7 @@ TEST_F(OffencesTest, AreFoundInEvidence) {
       {"not passed without a reason", 1,
        [&] {
          Element().verdict = Verdict::kNotTested;
-         evidence_.outcome = bench::judge::Outcome::kIncomplete;
+         evidence_.outcome = host::judge::Outcome::kIncomplete;
        }},
       {"port and window left open", 2,
        [&] {
@@ -185,7 +185,7 @@ TEST_F(OffencesTest, AreFoundInEvidence) {
       {"an undisturbed run that lost its tester", 1,
        [&] {
          plan_.faultRate = 0;
-         evidence_.end = bench::DocumentRunner::End::kTesterLost;
+         evidence_.end = host::run::DocumentRunner::End::kTesterLost;
        }},
       {"a saved document that differs", 1,
        [&] {

@@ -10,7 +10,7 @@
 #include "host/report/DocumentView.h"
 #include "tests/unit/bench/VirtualLine.h"
 
-namespace bench {
+namespace host {
 namespace {
 
 using testing::HasSubstr;
@@ -45,35 +45,35 @@ void ExpectShown(const std::string& text, std::ptrdiff_t lines, std::size_t plac
 }
 
 TEST(DocumentText, WhatComesFromOutsideMovesNoCursorAndMakesNoLine) {
-  DocumentView document;
+  report::DocumentView document;
   document.path = std::string("/tmp/") + kForged + ".orvik";
   document.equipment = {kForged, kForged, kForged, kForged};
   document.comment = kForged;
-  document.instrument = RecordedTester{kForged, kForged, kForged, 0, kForged};
+  document.instrument = document::RecordedTester{kForged, kForged, kForged, 0, kForged};
   document.judged.simulated = true;
   document.judged.outcome = judge::Outcome::kFailed;
   document.judged.standards = {kForged};
   document.judged.leftOut = {kForged};
   document.judged.elements = {Forged()};
   // The document, its equipment and comment, its tester, its standards; the element, its two reasons.
-  ExpectShown(TextOf(document, false), 9, 1 + 4 + 1 + 4 + 2 + 2 + 2 + 1);
-  ExpectShown(LineOf(Forged(), false), 0, 2);
+  ExpectShown(cli::TextOf(document, false), 9, 1 + 4 + 1 + 4 + 2 + 2 + 2 + 1);
+  ExpectShown(cli::LineOf(Forged(), false), 0, 2);
 }
 
 TEST(DocumentText, AReadingThatDoesNotCountIsNotShown) {
   auto element = Forged();
   element.measurement->unit = "mOhm";
-  EXPECT_EQ(ReadingText(element), "1850 mOhm");
+  EXPECT_EQ(report::ReadingText(element), "1850 mOhm");
   element.measurement->flags = "O";
-  EXPECT_EQ(ReadingText(element), "OL");
+  EXPECT_EQ(report::ReadingText(element), "OL");
   element.run = 0;
-  EXPECT_EQ(ReadingText(element), "-");
+  EXPECT_EQ(report::ReadingText(element), "-");
 }
 
 TEST(ProgressLinesText, WhatComesFromOutsideMovesNoCursorAndMakesNoLine) {
   app::VirtualLine line;
   std::ostringstream out;
-  ProgressLines progress(out, -1, line.SharedLoop(), 1);
+  cli::ProgressLines progress(out, -1, line.SharedLoop(), 1);
   progress.Reached(1, 1);
   progress.Started(Forged());
   progress.Doubted(1, {"invalid-line", {kForged}});
@@ -82,4 +82,4 @@ TEST(ProgressLinesText, WhatComesFromOutsideMovesNoCursorAndMakesNoLine) {
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

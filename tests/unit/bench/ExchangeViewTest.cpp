@@ -3,7 +3,7 @@
 #include "host/bench/ExchangeView.h"
 #include "tests/unit/bench/VirtualLine.h"
 
-namespace bench {
+namespace host {
 namespace {
 
 class ExchangeViewTest : public testing::Test {
@@ -14,9 +14,9 @@ class ExchangeViewTest : public testing::Test {
   }
 
   app::VirtualLine line_;
-  ExchangeView view_;
+  host::bench::ExchangeView view_;
   orvik::platform::Subscription heard_ =
-      line_.Wire().Subscribe([this](const WireRecord& record) { view_.Take(record); });
+      line_.Wire().Subscribe([this](const serial::WireRecord& record) { view_.Take(record); });
 };
 
 TEST_F(ExchangeViewTest, CountsHowOftenACommandIsSentInVain) {
@@ -35,4 +35,4 @@ TEST_F(ExchangeViewTest, ThereIsNoFourthAttempt) {
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

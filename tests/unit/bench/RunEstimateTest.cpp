@@ -3,7 +3,7 @@
 #include "host/bench/RunEstimate.h"
 #include "tests/unit/bench/VirtualLine.h"
 
-namespace bench {
+namespace host {
 namespace {
 
 using namespace std::chrono_literals;
@@ -11,11 +11,11 @@ using namespace std::chrono_literals;
 class RunEstimateTest : public testing::Test {
  protected:
   RunEstimateTest() {
-    heard_ = line_.Wire().Subscribe([this](const WireRecord& record) { estimate_.Take(record); });
+    heard_ = line_.Wire().Subscribe([this](const serial::WireRecord& record) { estimate_.Take(record); });
   }
 
   app::VirtualLine line_;
-  RunEstimate estimate_;
+  host::bench::RunEstimate estimate_;
   orvik::platform::Subscription heard_;
 };
 
@@ -74,4 +74,4 @@ TEST_F(RunEstimateTest, TellsMinutesAndSecondsOfTheWall) {
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

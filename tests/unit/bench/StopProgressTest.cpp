@@ -3,7 +3,7 @@
 #include "host/bench/StopProgress.h"
 #include "tests/unit/bench/VirtualLine.h"
 
-namespace bench {
+namespace host {
 namespace {
 
 using namespace std::chrono_literals;
@@ -14,7 +14,7 @@ constexpr auto kCommand = 3 * 5500ms;
 class StopProgressTest : public testing::Test {
  protected:
   app::VirtualLine line_;
-  StopProgress stop_{line_.Wire(), line_.Loop(), 10.0};
+  host::bench::StopProgress stop_{line_.Wire(), line_.Loop(), 10.0};
 };
 
 TEST_F(StopProgressTest, WithoutASessionOnlyTheDocumentIsLeft) {
@@ -98,4 +98,4 @@ TEST_F(StopProgressTest, SaysWhatItWaitsForInSecondsOfTheWall) {
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

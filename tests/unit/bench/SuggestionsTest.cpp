@@ -2,7 +2,7 @@
 
 #include "host/cli/help/Suggestions.h"
 
-namespace bench {
+namespace host {
 namespace {
 
 const std::vector<std::string> kCommands{"tests",     "new",   "add",    "remove", "move", "edit",
@@ -14,27 +14,27 @@ TEST(Suggestions, FindWhatWasMeantByAMistypedCommand) {
       {"rnu", "run"},     {"ru", "run"},        {"runn", "run"},        {"shwo", "show"},
       {"RUN", "run"},     {"reprot", "report"}, {"stand", "standards"}, {"confg", "config"},
       {"chekc", "check"}, {"--help", "help"},   {"achive", "archive"},  {"limits", "limit"}};
-  for (const auto& [word, meant] : typed) EXPECT_EQ(Nearest(word, kCommands), meant) << word;
+  for (const auto& [word, meant] : typed) EXPECT_EQ(cli::Nearest(word, kCommands), meant) << word;
 }
 
 TEST(Suggestions, LeaveOtherWordsAlone) {
   for (const auto* word : {"", "-", "fly", "xyz", "calibration", "d.orvik"})
-    EXPECT_EQ(Nearest(word, kCommands), "") << word;
-  EXPECT_EQ(Nearest(std::string(100000, 'r'), kCommands), "");
+    EXPECT_EQ(cli::Nearest(word, kCommands), "") << word;
+  EXPECT_EQ(cli::Nearest(std::string(100000, 'r'), kCommands), "");
 }
 
 TEST(Suggestions, FindOptionsWhateverTheirDashes) {
   const std::vector<std::string> options{"-h", "--help", "--element", "--low", "--high"};
-  EXPECT_EQ(Nearest("--elemnt", options), "--element");
-  EXPECT_EQ(Nearest("-element", options), "--element");
-  EXPECT_EQ(Nearest("--hgih", options), "--high");
-  EXPECT_EQ(Nearest("--lwo", options), "--low");
+  EXPECT_EQ(cli::Nearest("--elemnt", options), "--element");
+  EXPECT_EQ(cli::Nearest("-element", options), "--element");
+  EXPECT_EQ(cli::Nearest("--hgih", options), "--high");
+  EXPECT_EQ(cli::Nearest("--lwo", options), "--low");
 }
 
 TEST(Suggestions, AreAskedAsAQuestion) {
-  EXPECT_EQ(UnknownCommand("rnu", kCommands), "unknown command \"rnu\": did you mean \"run\"?");
-  EXPECT_EQ(UnknownCommand("fly", kCommands), "unknown command \"fly\"");
+  EXPECT_EQ(cli::UnknownCommand("rnu", kCommands), "unknown command \"rnu\": did you mean \"run\"?");
+  EXPECT_EQ(cli::UnknownCommand("fly", kCommands), "unknown command \"fly\"");
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

@@ -2,7 +2,7 @@
 
 #include "host/base/TextColumns.h"
 
-namespace bench {
+namespace host {
 namespace {
 
 TEST(TextColumns, StandUnderOneAnotherWhateverTheLanguage) {
@@ -24,4 +24,4 @@ TEST(TextColumns, NoBlanksStandAtAnEnd) {
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

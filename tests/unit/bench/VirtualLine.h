@@ -15,13 +15,14 @@ namespace app {
 /// A port on a line in memory, on the virtual clock, whose wire the classes under test hear.
 class VirtualLine {
  public:
-  bench::Wire& Wire() { return *wire_; }
-  const bench::ILoop& Loop() const { return *loop_; }
-  std::shared_ptr<bench::ILoop> SharedLoop() const { return loop_; }
+  host::serial::Wire& Wire() { return *wire_; }
+  const toolkit::loop::ILoop& Loop() const { return *loop_; }
+  std::shared_ptr<toolkit::loop::ILoop> SharedLoop() const { return loop_; }
   orvik::platform::Time Now() const { return loop_->Now(); }
 
   void Open() {
-    port_ = bench::Port::Create(std::make_unique<bench::MemoryTransport>(line_), loop_, wire_, "memory");
+    port_ = host::serial::Port::Create(std::make_unique<host::serial::MemoryTransport>(line_), loop_, wire_,
+                                       "memory");
   }
   void Close() { port_->Close(); }
   void Send(const std::string& mnemonic, const std::vector<std::string>& parameters = {}) {
@@ -34,10 +35,10 @@ class VirtualLine {
   void Pass(std::chrono::milliseconds time) { loop_->Wait(loop_->Now() + time); }
 
  private:
-  std::shared_ptr<bench::EventLoop> loop_ =
-      std::make_shared<bench::EventLoop>(bench::ClockKind::kVirtual, 1.0);
-  std::shared_ptr<bench::Wire> wire_ = std::make_shared<bench::Wire>();
-  std::shared_ptr<bench::MemoryLine> line_ = std::make_shared<bench::MemoryLine>();
+  std::shared_ptr<toolkit::loop::EventLoop> loop_ =
+      std::make_shared<toolkit::loop::EventLoop>(toolkit::loop::ClockKind::kVirtual, 1.0);
+  std::shared_ptr<host::serial::Wire> wire_ = std::make_shared<host::serial::Wire>();
+  std::shared_ptr<host::serial::MemoryLine> line_ = std::make_shared<host::serial::MemoryLine>();
   std::shared_ptr<orvik::IPort> port_;
 };
 

@@ -4,16 +4,16 @@
 
 #include "host/elements/AuxiliaryState.h"
 
-namespace bench {
+namespace host {
 namespace {
 
-void Load(AuxiliaryState& state, const std::string& text) {
+void Load(elements::AuxiliaryState& state, const std::string& text) {
   pugi::xml_document document;
   ASSERT_TRUE(document.load_string(text.c_str(), pugi::parse_default | pugi::parse_comments));
   state.Load(document.document_element());
 }
 
-std::string Saved(const AuxiliaryState& state) {
+std::string Saved(const elements::AuxiliaryState& state) {
   pugi::xml_document document;
   state.Save(document.append_child("Auxiliary"));
   std::ostringstream text;
@@ -24,7 +24,7 @@ std::string Saved(const AuxiliaryState& state) {
 TEST(AuxiliaryState, KeepsWhatAnotherProgramWrites) {
   const std::string text =
       R"(<Auxiliary Print="1" Room="7"><Doubt Since="3">first</Doubt><Weather/></Auxiliary>)";
-  AuxiliaryState state, copy;
+  elements::AuxiliaryState state, copy;
   Load(state, text);
   EXPECT_FALSE(state.IsDefault());
   EXPECT_EQ(Saved(state), text);
@@ -36,7 +36,7 @@ TEST(AuxiliaryState, KeepsWhatAnotherProgramWrites) {
 }
 
 TEST(AuxiliaryState, KeepsRecordOnlyAndSavesItOnlyWhenSet) {
-  AuxiliaryState state, copy;
+  elements::AuxiliaryState state, copy;
   EXPECT_FALSE(state.RecordOnly());
   state.SetRecordOnly(true);
   EXPECT_FALSE(state.IsDefault());
@@ -51,4 +51,4 @@ TEST(AuxiliaryState, KeepsRecordOnlyAndSavesItOnlyWhenSet) {
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

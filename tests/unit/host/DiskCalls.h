@@ -1,6 +1,6 @@
 #pragma once
 
-namespace bench::test {
+namespace host::test {
 
 /// While it lives, folders cannot be flushed to disk.
 class FoldersCannotBeFlushed {
@@ -16,4 +16,4 @@ class FoldersCannotBeFlushed {
   }
 };
 
-}  // namespace bench::test
+}  // namespace host::test

@@ -11,11 +11,11 @@
 #include "tests/unit/host/Errors.h"
 #include "tests/unit/host/HostFixture.h"
 
-namespace bench {
+namespace host {
 namespace {
 
-using test::ErrorText;
-using test::Holds;
+using host::test::ErrorText;
+using host::test::Holds;
 
 /// What is wrong, and the notes, a line each: "LINE:COLUMN text".
 struct Told {
@@ -26,7 +26,7 @@ class DocumentCheckTest : public test::HostFixture {
  protected:
   Told Check(const std::string& text) {
     Told told;
-    for (const auto& found : CheckDocument(text, *host_->Elements()))
+    for (const auto& found : document::CheckDocument(text, *host_->Elements()))
       (found.wrong ? told.wrong : told.notes)
           .push_back(std::to_string(found.line) + ":" + std::to_string(found.column) + " " + found.text);
     return told;
@@ -47,7 +47,7 @@ class DocumentCheckTest : public test::HostFixture {
 };
 
 TEST_F(DocumentCheckTest, NothingIsWrongWithWhatTheProgramWrites) {
-  const auto document = Document::Create(host_, folder_.Path() / "a.orvik");
+  const auto document = document::Document::Create(host_, folder_.Path() / "a.orvik");
   document->AddTest(100);
   document->Find(2)->Limits()->CreateStandard("S", "")->Limit(1)->SetBounds("1", "2");
   const auto told = Check(document->Text());
@@ -66,8 +66,8 @@ TEST_F(DocumentCheckTest, EverythingIsToldNotOnlyTheFirstThing) {
   ASSERT_GE(told.wrong.size(), 4U);
   EXPECT_EQ(told.wrong[0], "3:1 the identifier 1 is used twice; first in line 2");
   EXPECT_EQ(told.wrong[1], "4:3 the identifier \"x\" is no whole number from 1 on");
-  EXPECT_TRUE(Holds(told.wrong[2], "the status \"7\" is not one of"));
-  EXPECT_TRUE(Holds(told.wrong[3], "7:1 the bound \"abc\" is not a number"));
+  EXPECT_TRUE(test::Holds(told.wrong[2], "the status \"7\" is not one of"));
+  EXPECT_TRUE(test::Holds(told.wrong[3], "7:1 the bound \"abc\" is not a number"));
 }
 
 struct Fault {
@@ -177,7 +177,7 @@ class FaultyDocument : public DocumentCheckTest, public testing::WithParamInterf
 TEST_P(FaultyDocument, IsToldWithItsPlaceAndNothingElseIs) {
   const auto told = Check(GetParam().text);
   ASSERT_EQ(told.wrong.size(), 1U) << (told.wrong.empty() ? "" : told.wrong.back());
-  EXPECT_TRUE(Holds(told.wrong[0], GetParam().told));
+  EXPECT_TRUE(test::Holds(told.wrong[0], GetParam().told));
 }
 
 INSTANTIATE_TEST_SUITE_P(Table, FaultyDocument, testing::ValuesIn(FaultyDocument::All()),
@@ -187,8 +187,8 @@ TEST_F(DocumentCheckTest, BytesThatAreNotUtf8AreReportedOnceALine) {
   const auto told =
       Check("<OrvikDocument Version='1'>\n<Equipment Asset='\xE6\xE6'\n Serial='\xE6'/></OrvikDocument>");
   ASSERT_EQ(told.wrong.size(), 2U);
-  EXPECT_TRUE(Holds(told.wrong[0], "2:19 there are bytes that are not UTF-8"));
-  EXPECT_TRUE(Holds(told.wrong[1], "3:10 there are bytes that are not UTF-8"));
+  EXPECT_TRUE(test::Holds(told.wrong[0], "2:19 there are bytes that are not UTF-8"));
+  EXPECT_TRUE(test::Holds(told.wrong[1], "3:10 there are bytes that are not UTF-8"));
 }
 
 TEST_F(DocumentCheckTest, AnotherEncodingIsANote) {
@@ -223,8 +223,8 @@ TEST_F(DocumentCheckTest, KnowsTheMarksOfAnElement) {
 TEST_F(DocumentCheckTest, WhatStandsBeforeTheFaultIsLookedAtToo) {
   const auto told = Check(With(Test("1") + "\n" + Test("1") + "\n<TestElement TestID='110'\n"));
   ASSERT_EQ(told.wrong.size(), 2U);
-  EXPECT_TRUE(Holds(told.wrong[0], "3:1 the identifier 1 is used twice"));
-  EXPECT_TRUE(Holds(told.wrong[1], "nothing behind this place could be looked at"));
+  EXPECT_TRUE(test::Holds(told.wrong[0], "3:1 the identifier 1 is used twice"));
+  EXPECT_TRUE(test::Holds(told.wrong[1], "nothing behind this place could be looked at"));
 }
 
 TEST_F(DocumentCheckTest, NestingOfAnyDepthIsToldOnce) {
@@ -235,12 +235,12 @@ TEST_F(DocumentCheckTest, NestingOfAnyDepthIsToldOnce) {
   for (int level = 1; level <= 5000; ++level) text += "</TestElement>";
   const auto told = Check(With(text));
   ASSERT_EQ(told.wrong.size(), 1U);
-  EXPECT_TRUE(Holds(told.wrong[0], "nested more than " + std::to_string(kDeepestNesting)));
+  EXPECT_TRUE(test::Holds(told.wrong[0], "nested more than " + std::to_string(elements::kDeepestNesting)));
 }
 
 TEST_F(DocumentCheckTest, NothingWrongMeansThatItCanBeOpened) {
   std::mt19937 random(support::Seed());
-  const auto document = Document::Create(host_, folder_.Path() / "a.orvik");
+  const auto document = document::Document::Create(host_, folder_.Path() / "a.orvik");
   document->AddTest(100);
   document->Find(2)->Limits()->CreateStandard("S", "")->Limit(1)->SetBounds("1", "2");
   const auto good = document->Text();
@@ -254,8 +254,9 @@ TEST_F(DocumentCheckTest, NothingWrongMeansThatItCanBeOpened) {
       text.erase(at, 1 + random() % 12);
     const bool wrong = !Check(text).wrong.empty();
     folder_.Write("b.orvik", text);
-    const auto refusal =
-        ErrorText([&] { Document::Open(host_, folder_.Path() / "b.orvik", DocumentFile::Use::kRead); });
+    const auto refusal = test::ErrorText([&] {
+      document::Document::Open(host_, folder_.Path() / "b.orvik", document::DocumentFile::Use::kRead);
+    });
     if (refusal.empty()) ++opened;
     EXPECT_TRUE(wrong || refusal.empty()) << refusal << "\nfor\n" << text;
   }
@@ -263,4 +264,4 @@ TEST_F(DocumentCheckTest, NothingWrongMeansThatItCanBeOpened) {
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

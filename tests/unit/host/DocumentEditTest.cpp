@@ -10,20 +10,21 @@
 #include "tests/unit/host/Errors.h"
 #include "tests/unit/host/HostFixture.h"
 
-namespace bench {
+namespace host {
 namespace {
 
-using test::ErrorText;
-using test::Holds;
+using host::test::ErrorText;
+using host::test::Holds;
 using testing::ElementsAre;
 
 class DocumentEditTest : public test::HostFixture {
  protected:
-  DocumentEditTest() : document_(Document::Create(host_, folder_.Path() / "a.orvik")) {}
+  DocumentEditTest() : document_(document::Document::Create(host_, folder_.Path() / "a.orvik")) {}
 
-  std::shared_ptr<Document> Opened(const std::string& text) {
+  std::shared_ptr<document::Document> Opened(const std::string& text) {
     folder_.Write("given.orvik", text);
-    return Document::Open(host_, folder_.Path() / "given.orvik", DocumentFile::Use::kRead);
+    return document::Document::Open(host_, folder_.Path() / "given.orvik",
+                                    document::DocumentFile::Use::kRead);
   }
   /// The identifiers at the top of the document, or in the sequence.
   static std::vector<std::int32_t> Order(const std::shared_ptr<orvik::ITestContainer>& container) {
@@ -34,21 +35,21 @@ class DocumentEditTest : public test::HostFixture {
   std::vector<std::int32_t> Order() const { return Order(document_->Elements()); }
   std::shared_ptr<orvik::ITestElement> At(std::int32_t id) const { return document_->Find(id); }
 
-  std::shared_ptr<Document> document_;
+  std::shared_ptr<document::Document> document_;
 };
 
 TEST_F(DocumentEditTest, AddsBeforeAndAfterANeighbour) {
   document_->AddTest(110);
   document_->AddTest(110);
-  EXPECT_EQ(document_->AddTest(110, ElementPlace::Before(*At(2)))->ID(), 3);
-  EXPECT_EQ(document_->AddTest(110, ElementPlace::After(*At(1)))->ID(), 4);
+  EXPECT_EQ(document_->AddTest(110, document::ElementPlace::Before(*At(2)))->ID(), 3);
+  EXPECT_EQ(document_->AddTest(110, document::ElementPlace::After(*At(1)))->ID(), 4);
   EXPECT_THAT(Order(), ElementsAre(1, 4, 3, 2));
 }
 
 TEST_F(DocumentEditTest, AddsBesideAChildOfASequence) {
   const auto group = document_->AddTest(200);
   const auto child = In(group)->item(1)->ID();
-  const auto added = document_->AddTest(110, ElementPlace::Before(*At(child)));
+  const auto added = document_->AddTest(110, document::ElementPlace::Before(*At(child)));
   EXPECT_EQ(added->Parent(), group);
   EXPECT_THAT(Order(In(group)), ElementsAre(added->ID(), child));
 }
@@ -56,13 +57,13 @@ TEST_F(DocumentEditTest, AddsBesideAChildOfASequence) {
 TEST_F(DocumentEditTest, MovesAmongNeighboursAndIntoASequence) {
   const auto group = document_->AddTest(200);  // 1, with 2 in it
   for (int i = 0; i < 3; ++i) document_->AddTest(110);
-  document_->Move(At(5), ElementPlace::Before(*At(1)));
+  document_->Move(At(5), document::ElementPlace::Before(*At(1)));
   EXPECT_THAT(Order(), ElementsAre(5, 1, 3, 4));
-  document_->Move(At(5), ElementPlace::After(*At(3)));
+  document_->Move(At(5), document::ElementPlace::After(*At(3)));
   EXPECT_THAT(Order(), ElementsAre(1, 3, 5, 4));
-  document_->Move(At(1), ElementPlace::AtEndOf(nullptr));
+  document_->Move(At(1), document::ElementPlace::AtEndOf(nullptr));
   EXPECT_THAT(Order(), ElementsAre(3, 5, 4, 1));
-  document_->Move(At(3), ElementPlace::After(*At(2)));
+  document_->Move(At(3), document::ElementPlace::After(*At(2)));
   EXPECT_THAT(Order(), ElementsAre(5, 4, 1));
   EXPECT_THAT(Order(In(group)), ElementsAre(2, 3));
   EXPECT_EQ(At(3)->Parent(), group);
@@ -71,12 +72,15 @@ TEST_F(DocumentEditTest, MovesAmongNeighboursAndIntoASequence) {
 TEST_F(DocumentEditTest, RefusesAPlaceInsideOrBesideTheElementItself) {
   const auto group = document_->AddTest(200);
   const auto order = document_->Text();
-  EXPECT_TRUE(Holds(ErrorText([&] { document_->Move(group, ElementPlace::After(*At(2))); }),
-                    "element 1 cannot be placed inside itself"));
-  EXPECT_TRUE(Holds(ErrorText([&] { document_->Move(group, ElementPlace::AtEndOf(group)); }),
-                    "element 1 cannot be placed inside itself"));
-  EXPECT_TRUE(Holds(ErrorText([&] { document_->Move(group, ElementPlace::Before(*group)); }),
-                    "element 1 cannot be placed beside itself"));
+  EXPECT_TRUE(
+      test::Holds(test::ErrorText([&] { document_->Move(group, document::ElementPlace::After(*At(2))); }),
+                  "element 1 cannot be placed inside itself"));
+  EXPECT_TRUE(
+      test::Holds(test::ErrorText([&] { document_->Move(group, document::ElementPlace::AtEndOf(group)); }),
+                  "element 1 cannot be placed inside itself"));
+  EXPECT_TRUE(
+      test::Holds(test::ErrorText([&] { document_->Move(group, document::ElementPlace::Before(*group)); }),
+                  "element 1 cannot be placed beside itself"));
   EXPECT_EQ(document_->Text(), order);
 }
 
@@ -125,14 +129,14 @@ TEST_F(DocumentEditTest, ThePlanOfAnotherDocumentIsTakenWithoutItsResults) {
   document_->AddPlanOf(*other);
   document_->AddTest(110);
   EXPECT_THAT(Order(), ElementsAre(1, 3, 5));
-  EXPECT_EQ(document_->equipment, Document::Equipment());
+  EXPECT_EQ(document_->equipment, document::Document::Equipment());
   const auto text = document_->Text();
   for (const auto* planned : {"DisplayName=\"Mine\"", "<Auxiliary Print=\"0\" RecordOnly=\"1\" />",
                               "<TestElement ID=\"4\" TestID=\"1\"", "PlugInID=\"GONE\""})
-    EXPECT_TRUE(Holds(text, planned));
+    EXPECT_TRUE(test::Holds(text, planned));
   for (const auto* past : {"ResultItem", "Doubt", "Kim", "Photo", "Seen"})
     EXPECT_EQ(text.find(past), std::string::npos) << past << " is in\n" << text;
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

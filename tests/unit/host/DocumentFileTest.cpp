@@ -16,17 +16,17 @@
 #include "tests/unit/host/InChild.h"
 #include "tests/unit/host/TestFolder.h"
 
-namespace bench {
+namespace host {
 namespace {
 
-using test::ErrorText;
-using test::Holds;
-using test::TestFolder;
-using Use = DocumentFile::Use;
+using host::test::ErrorText;
+using host::test::Holds;
+using host::test::TestFolder;
+using Use = document::DocumentFile::Use;
 
 TEST(DocumentFile, NewFileComesIntoBeingWithTheFirstWrite) {
   TestFolder folder;
-  auto file = DocumentFile::New(folder.Path() / "a.orvik");
+  auto file = document::DocumentFile::New(folder.Path() / "a.orvik");
   EXPECT_EQ(folder.Count(), 0U);
   file.Write("one");
   EXPECT_EQ(folder.Read("a.orvik"), "one");
@@ -39,10 +39,11 @@ TEST(DocumentFile, NewFileComesIntoBeingWithTheFirstWrite) {
 TEST(DocumentFile, NewFileNeverReplacesOneThatIsThere) {
   TestFolder folder;
   folder.Write("a.orvik", "there");
-  EXPECT_TRUE(Holds(ErrorText([&] { DocumentFile::New(folder.Path() / "a.orvik"); }), "is there already"));
-  auto late = DocumentFile::New(folder.Path() / "b.orvik");
+  EXPECT_TRUE(test::Holds(test::ErrorText([&] { document::DocumentFile::New(folder.Path() / "a.orvik"); }),
+                          "is there already"));
+  auto late = document::DocumentFile::New(folder.Path() / "b.orvik");
   folder.Write("b.orvik", "somebody was faster");
-  EXPECT_TRUE(Holds(ErrorText([&] { late.Write("mine"); }), "is there already"));
+  EXPECT_TRUE(test::Holds(test::ErrorText([&] { late.Write("mine"); }), "is there already"));
   EXPECT_EQ(folder.Read("b.orvik"), "somebody was faster");
   EXPECT_EQ(folder.Count(), 2U);
 }
@@ -51,77 +52,80 @@ TEST(DocumentFile, OnlyOneMayWrite) {
   TestFolder folder;
   const auto path = folder.Write("a.orvik", "old");
   {
-    auto first = DocumentFile::Existing(path, Use::kWrite);
-    EXPECT_TRUE(
-        Holds(ErrorText([&] { DocumentFile::Existing(path, Use::kWrite); }), "open in another program"));
+    auto first = document::DocumentFile::Existing(path, Use::kWrite);
+    EXPECT_TRUE(test::Holds(test::ErrorText([&] { document::DocumentFile::Existing(path, Use::kWrite); }),
+                            "open in another program"));
     first.Write("new");
-    EXPECT_TRUE(
-        Holds(ErrorText([&] { DocumentFile::Existing(path, Use::kWrite); }), "open in another program"))
+    EXPECT_TRUE(test::Holds(test::ErrorText([&] { document::DocumentFile::Existing(path, Use::kWrite); }),
+                            "open in another program"))
         << "the new file is locked like the old one";
-    EXPECT_EQ(DocumentFile::Existing(path, Use::kRead).Read(), "new");
+    EXPECT_EQ(document::DocumentFile::Existing(path, Use::kRead).Read(), "new");
   }
-  EXPECT_EQ(ErrorText([&] { DocumentFile::Existing(path, Use::kWrite); }), "");
+  EXPECT_EQ(test::ErrorText([&] { document::DocumentFile::Existing(path, Use::kWrite); }), "");
 }
 
 TEST(DocumentFile, NewFileIsLockedFromItsFirstWrite) {
   TestFolder folder;
   const auto path = folder.Path() / "a.orvik";
-  auto file = DocumentFile::New(path);
+  auto file = document::DocumentFile::New(path);
   file.Write("x");
-  EXPECT_TRUE(
-      Holds(ErrorText([&] { DocumentFile::Existing(path, Use::kWrite); }), "open in another program"));
+  EXPECT_TRUE(test::Holds(test::ErrorText([&] { document::DocumentFile::Existing(path, Use::kWrite); }),
+                          "open in another program"));
 }
 
 TEST(DocumentFile, FileForReadingCannotBeWritten) {
   TestFolder folder;
-  auto file = DocumentFile::Existing(folder.Write("a.orvik", "old"), Use::kRead);
-  EXPECT_TRUE(Holds(ErrorText([&] { file.Write("new"); }), "reading only"));
+  auto file = document::DocumentFile::Existing(folder.Write("a.orvik", "old"), Use::kRead);
+  EXPECT_TRUE(test::Holds(test::ErrorText([&] { file.Write("new"); }), "reading only"));
   EXPECT_EQ(folder.Read("a.orvik"), "old");
 }
 
 TEST(DocumentFile, ChangeByAProgramThatDoesNotLockIsNoticed) {
   TestFolder folder;
   const auto path = folder.Write("a.orvik", "old");
-  auto file = DocumentFile::Existing(path, Use::kWrite);
+  auto file = document::DocumentFile::Existing(path, Use::kWrite);
   folder.Write("edited", "by hand");
   std::filesystem::rename(folder.Path() / "edited", path);
-  EXPECT_TRUE(Holds(ErrorText([&] { file.Write("new"); }), "changed by another program"));
+  EXPECT_TRUE(test::Holds(test::ErrorText([&] { file.Write("new"); }), "changed by another program"));
   EXPECT_EQ(folder.Read("a.orvik"), "by hand");
   std::filesystem::remove(path);
-  EXPECT_TRUE(Holds(ErrorText([&] { file.Write("new"); }), "changed by another program"));
+  EXPECT_TRUE(test::Holds(test::ErrorText([&] { file.Write("new"); }), "changed by another program"));
 }
 
 TEST(DocumentFile, LinkIsFollowed) {
   TestFolder folder;
   const auto path = folder.Write("real.orvik", "old");
   std::filesystem::create_symlink(path, folder.Path() / "link.orvik");
-  DocumentFile::Existing(folder.Path() / "link.orvik", Use::kWrite).Write("new");
+  document::DocumentFile::Existing(folder.Path() / "link.orvik", Use::kWrite).Write("new");
   EXPECT_EQ(folder.Read("real.orvik"), "new");
   EXPECT_TRUE(std::filesystem::is_symlink(folder.Path() / "link.orvik"));
 }
 
 TEST(DocumentFile, MissingFileIsNamed) {
   EXPECT_TRUE(
-      Holds(ErrorText([] { DocumentFile::Existing("/nowhere/a.orvik", Use::kRead); }), "/nowhere/a.orvik"));
+      test::Holds(test::ErrorText([] { document::DocumentFile::Existing("/nowhere/a.orvik", Use::kRead); }),
+                  "/nowhere/a.orvik"));
 }
 
 TEST(DocumentFile, KeepsThePermissions) {
   TestFolder folder;
   const auto path = folder.Write("a.orvik", "old");
   ASSERT_EQ(chmod(path.c_str(), 0600), 0);
-  DocumentFile::Existing(path, Use::kWrite).Write("new");
+  document::DocumentFile::Existing(path, Use::kWrite).Write("new");
   EXPECT_EQ(FileMode(path), mode_t{0600});
 }
 
 TEST(DocumentFile, RefusesAWriteProtectedFile) {
   TestFolder folder;
   const auto path = folder.Write("a.orvik", "old");
-  auto open = DocumentFile::Existing(path, Use::kWrite);
+  auto open = document::DocumentFile::Existing(path, Use::kWrite);
   ASSERT_EQ(chmod(path.c_str(), 0444), 0);
-  EXPECT_TRUE(Holds(ErrorText([&] { open.Write("new"); }), path.string() + " is write-protected"));
-  open = DocumentFile();
-  EXPECT_TRUE(Holds(ErrorText([&] { DocumentFile::Existing(path, Use::kWrite); }), "is write-protected"));
-  EXPECT_EQ(DocumentFile::Existing(path, Use::kRead).Read(), "old");
+  EXPECT_TRUE(
+      test::Holds(test::ErrorText([&] { open.Write("new"); }), path.string() + " is write-protected"));
+  open = document::DocumentFile();
+  EXPECT_TRUE(test::Holds(test::ErrorText([&] { document::DocumentFile::Existing(path, Use::kWrite); }),
+                          "is write-protected"));
+  EXPECT_EQ(document::DocumentFile::Existing(path, Use::kRead).Read(), "old");
   EXPECT_EQ(folder.Read("a.orvik"), "old");
   EXPECT_EQ(folder.Count(), 1U);
 }
@@ -129,8 +133,8 @@ TEST(DocumentFile, RefusesAWriteProtectedFile) {
 TEST(DocumentFile, SecondProgramIsToldToTryAgain) {
   TestFolder folder;
   const auto path = folder.Write("a.orvik", "old");
-  const auto first = DocumentFile::Existing(path, Use::kWrite);
-  EXPECT_THROW(DocumentFile::Existing(path, Use::kWrite), BusyError);
+  const auto first = document::DocumentFile::Existing(path, Use::kWrite);
+  EXPECT_THROW(document::DocumentFile::Existing(path, Use::kWrite), BusyError);
 }
 
 TEST(DocumentFile, OfProgramsThatCreateOneNameOneSucceeds) {
@@ -139,7 +143,7 @@ TEST(DocumentFile, OfProgramsThatCreateOneNameOneSucceeds) {
   std::vector<pid_t> programs;
   for (int number = 0; number < kPrograms; ++number)
     programs.push_back(test::StartChild([&] {
-      auto file = DocumentFile::New(folder.Path() / "a.orvik");
+      auto file = document::DocumentFile::New(folder.Path() / "a.orvik");
       file.Write(std::string(300'000, static_cast<char>('a' + number)));
     }));
   int succeeded = 0;
@@ -171,7 +175,7 @@ TEST(DocumentFile, NewFileWithAnEarlyNameIsGoneUnlessItGetsItsOwn) {
   EXPECT_EQ(folder.Count(), 0U);
   create().TakeNewName(path);
   EXPECT_EQ(folder.Read("a.orvik"), "contents");
-  EXPECT_TRUE(Holds(ErrorText([&] { create().TakeNewName(path); }), "is there already"));
+  EXPECT_TRUE(test::Holds(test::ErrorText([&] { create().TakeNewName(path); }), "is there already"));
   EXPECT_EQ(folder.Count(), 1U);
 }
 
@@ -182,7 +186,7 @@ TEST(DocumentFile, FailedWriteOfANewFileLeavesNothing) {
     std::signal(SIGXFSZ, SIG_IGN);
     const rlimit limit{100, 100};
     setrlimit(RLIMIT_FSIZE, &limit);
-    auto file = DocumentFile::New(folder.Path() / "a.orvik");
+    auto file = document::DocumentFile::New(folder.Path() / "a.orvik");
     EXPECT_THROW(file.Write(std::string(100'000, 'x')), StorageError);
   })));
   EXPECT_EQ(folder.Count(), 0U);
@@ -191,15 +195,15 @@ TEST(DocumentFile, FailedWriteOfANewFileLeavesNothing) {
 TEST(DocumentFile, GoesOnAfterAFailedFlushOfTheFolder) {
   TestFolder folder;
   const auto path = folder.Write("a.orvik", "old");
-  auto file = DocumentFile::Existing(path, Use::kWrite);
+  auto file = document::DocumentFile::Existing(path, Use::kWrite);
   {
     const test::FoldersCannotBeFlushed broken;
     EXPECT_THROW(file.Write("new"), StorageError);
   }
   EXPECT_EQ(folder.Read("a.orvik"), "new");
   EXPECT_EQ(file.Read(), "new");
-  EXPECT_THROW(DocumentFile::Existing(path, Use::kWrite), BusyError) << "the lock has moved along";
-  EXPECT_EQ(ErrorText([&] { file.Write("newer"); }), "");
+  EXPECT_THROW(document::DocumentFile::Existing(path, Use::kWrite), BusyError) << "the lock has moved along";
+  EXPECT_EQ(test::ErrorText([&] { file.Write("newer"); }), "");
   EXPECT_EQ(folder.Read("a.orvik"), "newer");
 }
 
@@ -213,7 +217,7 @@ TEST(DocumentFile, ProgramKilledWhileItWritesLeavesTheOldOrTheNewFile) {
     const pid_t child = fork();
     ASSERT_GE(child, 0);
     if (child == 0) {
-      auto file = DocumentFile::Existing(path, Use::kWrite);
+      auto file = document::DocumentFile::Existing(path, Use::kWrite);
       for (int i = 0;; ++i) {
         file.Write(std::string(50000, static_cast<char>('a' + i % 26)));
         [[maybe_unused]] const auto told = write(progress[1], "x", 1);
@@ -234,4 +238,4 @@ TEST(DocumentFile, ProgramKilledWhileItWritesLeavesTheOldOrTheNewFile) {
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

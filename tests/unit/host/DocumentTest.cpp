@@ -16,31 +16,31 @@
 #include "tests/unit/host/Errors.h"
 #include "tests/unit/host/HostFixture.h"
 
-namespace bench {
+namespace host {
 namespace {
 
 using namespace std::string_literals;
+using host::test::ErrorNumber;
+using host::test::ErrorText;
+using host::test::Holds;
 using orvik::HostError;
-using test::ErrorNumber;
-using test::ErrorText;
-using test::Holds;
 
 class DocumentTest : public test::HostFixture {
  protected:
-  std::shared_ptr<Document> New(const std::string& name = "a.orvik") {
-    return Document::Create(host_, folder_.Path() / name);
+  std::shared_ptr<document::Document> New(const std::string& name = "a.orvik") {
+    return document::Document::Create(host_, folder_.Path() / name);
   }
-  std::shared_ptr<Document> Reopen(const std::string& name = "a.orvik") {
-    return Document::Open(host_, folder_.Path() / name, DocumentFile::Use::kRead);
+  std::shared_ptr<document::Document> Reopen(const std::string& name = "a.orvik") {
+    return document::Document::Open(host_, folder_.Path() / name, document::DocumentFile::Use::kRead);
   }
   /// Opens a document of this text.
-  std::shared_ptr<Document> Opened(const std::string& text) {
+  std::shared_ptr<document::Document> Opened(const std::string& text) {
     folder_.Write("given.orvik", text);
     return Reopen("given.orvik");
   }
   /// How a document of this text is refused.
   std::string Refusal(const std::string& text) {
-    return ErrorText([&] { Opened(text); });
+    return test::ErrorText([&] { Opened(text); });
   }
 };
 
@@ -52,9 +52,9 @@ TEST_F(DocumentTest, NewDocumentIsEmptyAndReadsBackEmpty) {
   EXPECT_EQ(again->Elements()->Count(), 0);
   EXPECT_EQ(again->Standards()->Count(), 0);
   EXPECT_EQ(again->Instruments()->Count(), 0);
-  EXPECT_EQ(again->equipment, Document::Equipment());
-  EXPECT_TRUE(Holds(folder_.Read("a.orvik"),
-                    "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<OrvikDocument Version=\"1\">"));
+  EXPECT_EQ(again->equipment, document::Document::Equipment());
+  EXPECT_TRUE(test::Holds(folder_.Read("a.orvik"),
+                          "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<OrvikDocument Version=\"1\">"));
 }
 
 TEST_F(DocumentTest, EverythingReadsBack) {
@@ -63,7 +63,7 @@ TEST_F(DocumentTest, EverythingReadsBack) {
   const auto standard = Make<orvik::IStandard>(orvik::HostClasses::kStandard);
   standard->Initialize("IEC 62353", "class I", 1);
   document->Standards()->Add(standard);
-  const auto record = std::make_shared<InstrumentRecord>();
+  const auto record = std::make_shared<instruments::InstrumentRecord>();
   record->SetSerialNumber("17");
   record->SetIndex(1);
   document->Instruments()->Add(record);
@@ -109,11 +109,11 @@ TEST_F(DocumentTest, TestIsAddedToASequence) {
   const auto added = document->AddTest(110, group);
   EXPECT_EQ(added->Parent(), group);
   EXPECT_EQ(In(group)->Count(), 2);
-  EXPECT_TRUE(Holds(ErrorText([&] { document->AddTest(110, added); }), "is not a sequence"));
+  EXPECT_TRUE(test::Holds(test::ErrorText([&] { document->AddTest(110, added); }), "is not a sequence"));
 }
 
 TEST_F(DocumentTest, UnknownTestIsNamed) {
-  EXPECT_TRUE(Holds(ErrorText([&] { New()->AddTest(411); }), "no test 411"));
+  EXPECT_TRUE(test::Holds(test::ErrorText([&] { New()->AddTest(411); }), "no test 411"));
 }
 
 TEST_F(DocumentTest, AddedTestIsACopyOfTheCatalogues) {
@@ -134,29 +134,29 @@ TEST_F(DocumentTest, OtherEncodingsAreReadAndSavedAsUtf8) {
        {"<?xml version='1.0' encoding='iso-8859-1'?>" + narrow,
         "<?xml version='1.0' encoding='windows-1252'?>" + narrow, wide, "\xFF\xFE" + wide}) {
     folder_.Write("given.orvik", bytes);
-    auto document = Document::Open(host_, folder_.Path() / "given.orvik");
+    auto document = document::Document::Open(host_, folder_.Path() / "given.orvik");
     EXPECT_EQ(document->equipment.asset, "µ");
     document->Save();
     const auto saved = folder_.Read("given.orvik");
-    EXPECT_TRUE(Holds(saved, "encoding=\"UTF-8\""));
-    EXPECT_TRUE(Holds(saved, "Asset=\"µ\""));
+    EXPECT_TRUE(test::Holds(saved, "encoding=\"UTF-8\""));
+    EXPECT_TRUE(test::Holds(saved, "Asset=\"µ\""));
   }
 }
 
 TEST_F(DocumentTest, NestingBeyondTheBoundIsRefusedWithoutTryingIt) {
-  for (const int levels : {kDeepestNesting + 1, 10000}) {
+  for (const int levels : {elements::kDeepestNesting + 1, 10000}) {
     std::string text = "<OrvikDocument Version='1'><Elements>";
     for (int level = 1; level <= levels; ++level)
       text += "<TestElement ID='" + std::to_string(level) +
               "' TestID='100' PlugInID='SAMPLE' Class='sample.Sequence'>";
     for (int level = 1; level <= levels; ++level) text += "</TestElement>";
-    EXPECT_TRUE(Holds(Refusal(text + "</Elements></OrvikDocument>"), "more than 1000 levels"));
+    EXPECT_TRUE(test::Holds(Refusal(text + "</Elements></OrvikDocument>"), "more than 1000 levels"));
   }
 }
 
 TEST_F(DocumentTest, DeepestAllowedDocumentReadsBack) {
   const auto document = New();
-  document->Elements()->Add(Chain(kDeepestNesting), {}, {});
+  document->Elements()->Add(Chain(elements::kDeepestNesting), {}, {});
   document->Save();
   EXPECT_EQ(Reopen()->Text(), document->Text());
 }
@@ -166,8 +166,9 @@ TEST_F(DocumentTest, DocumentThatIsTooDeepIsNotSavedAndTheFileStays) {
   document->AddTest(110);
   document->Save();
   const auto before = folder_.Read("a.orvik");
-  document->Elements()->Add(Chain(kDeepestNesting + 1), {}, {});
-  EXPECT_TRUE(Holds(ErrorText([&] { document->Save(); }), "a.orvik was not saved: elements are nested"));
+  document->Elements()->Add(Chain(elements::kDeepestNesting + 1), {}, {});
+  EXPECT_TRUE(
+      test::Holds(test::ErrorText([&] { document->Save(); }), "a.orvik was not saved: elements are nested"));
   EXPECT_EQ(folder_.Read("a.orvik"), before);
 }
 
@@ -204,7 +205,7 @@ TEST_F(DocumentTest, WhatItDoesNotKnowIsWrittenBack) {
           ->Text();
   for (const auto* part : {"<!--top-->", "Extra=\"e\"", "Room=\"r\"", "<Photo />", "Mode=\"m\"", "<Other />",
                            "Sort=\"s\"", "<!--el-->", "<Signature>abc</Signature>"})
-    EXPECT_TRUE(Holds(text, part));
+    EXPECT_TRUE(test::Holds(text, part));
 }
 
 TEST_F(DocumentTest, LineBreaksInAnEmptyElementAreNoContent) {
@@ -212,8 +213,8 @@ TEST_F(DocumentTest, LineBreaksInAnEmptyElementAreNoContent) {
                         "<OrvikDocument Version='1'>\n  <Equipment Asset='a'>\n  </Equipment>\n"
                         "  <More>\n  </More>\n</OrvikDocument>")
                         ->Text();
-  EXPECT_TRUE(Holds(text, "<Equipment Asset=\"a\" Serial=\"\" Maker=\"\" Model=\"\" />"));
-  EXPECT_TRUE(Holds(text, "<More>\n  </More>"));
+  EXPECT_TRUE(test::Holds(text, "<Equipment Asset=\"a\" Serial=\"\" Maker=\"\" Model=\"\" />"));
+  EXPECT_TRUE(test::Holds(text, "<More>\n  </More>"));
   EXPECT_EQ(Opened(text)->Text(), text);
 }
 
@@ -225,7 +226,7 @@ TEST_F(DocumentTest, ReferencesThatMeanThemselvesAreWrittenBack) {
   for (const auto* part : {"<!--&#0;-->", "<![CDATA[&#xD800;]]>",
                            "Kept=\"&amp;#;&amp;#x;&amp;#0&#01;&#09;\xF0\x9F\x98\x80"
                            "A&amp;#0;\""})
-    EXPECT_TRUE(Holds(text, part));
+    EXPECT_TRUE(test::Holds(text, part));
 }
 
 TEST_F(DocumentTest, SavingTwiceGivesTheSameText) {
@@ -271,9 +272,10 @@ TEST_F(DocumentTest, ElementsStandInThePlaceWhereTheyBelong) {
 
 TEST_F(DocumentTest, TwoProgramsCannotBothOpenItForWriting) {
   New()->Save();
-  const auto held = Document::Open(host_, folder_.Path() / "a.orvik");
-  EXPECT_TRUE(Holds(ErrorText([&] { Document::Open(host_, folder_.Path() / "a.orvik"); }),
-                    "open in another program"));
+  const auto held = document::Document::Open(host_, folder_.Path() / "a.orvik");
+  EXPECT_TRUE(
+      test::Holds(test::ErrorText([&] { document::Document::Open(host_, folder_.Path() / "a.orvik"); }),
+                  "open in another program"));
   EXPECT_NE(Reopen(), nullptr);
 }
 
@@ -290,9 +292,10 @@ TEST_F(DocumentTest, GoesOnUnderAnotherName) {
 /// Makes documents at random.
 class Generator {
  public:
-  Generator(std::mt19937& random, const std::shared_ptr<Host>& host) : random_(random), host_(host) {}
+  Generator(std::mt19937& random, const std::shared_ptr<document::Host>& host)
+      : random_(random), host_(host) {}
 
-  void Fill(Document& document) {
+  void Fill(document::Document& document) {
     document.equipment = {Text(), Text(), Text(), Text()};
     std::vector<std::shared_ptr<orvik::ITestElement>> groups{nullptr};
     for (auto left = random_() % 12; left > 0; --left) {
@@ -334,7 +337,7 @@ class Generator {
 
   inline static const std::vector<std::int32_t> kTests{100, 110, 120, 200, 210};
   std::mt19937& random_;
-  std::shared_ptr<Host> host_;
+  std::shared_ptr<document::Host> host_;
 };
 
 std::string Described(const std::shared_ptr<orvik::ITestElement>& element) {
@@ -355,7 +358,7 @@ std::string Described(const std::shared_ptr<orvik::ITestElement>& element) {
   return text;
 }
 
-std::string Described(const Document& document) {
+std::string Described(const document::Document& document) {
   const auto& equipment = document.equipment;
   std::string text = equipment.asset + "/" + equipment.serial + "/" + equipment.maker + "/" + equipment.model;
   for (std::int32_t i = 1; i <= document.Elements()->Count(); ++i)
@@ -401,7 +404,7 @@ TEST_F(DocumentTest, AnyDamageGivesAnErrorOrADocument) {
     try {
       EXPECT_FALSE(Opened(text)->Text().empty());
     } catch (const HostError& error) {
-      EXPECT_TRUE(Holds(error.Description(), "given.orvik"));
+      EXPECT_TRUE(test::Holds(error.Description(), "given.orvik"));
     }
   }
 }
@@ -409,11 +412,11 @@ TEST_F(DocumentTest, AnyDamageGivesAnErrorOrADocument) {
 TEST(SavedElements, HighestIdentifierCountsAtAnyDepth) {
   pugi::xml_document document;
   document.load_string("<E><TestElement ID='2'><TestElement ID='7'/></TestElement><TestElement ID='3'/></E>");
-  SavedElements saved;
+  document::SavedElements saved;
   EXPECT_EQ(saved.HighestId(), 0);
   for (const auto element : document.document_element()) saved.Check(element);
   EXPECT_EQ(saved.HighestId(), 7);
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

@@ -31,7 +31,7 @@ extern "C" int fsync(int descriptor) {
   Done().push_back(
       "flush " + NameOf(std::filesystem::read_symlink("/proc/self/fd/" + std::to_string(descriptor), none)));
   struct stat status {};
-  if (bench::test::FoldersCannotBeFlushed::Now() && fstat(descriptor, &status) == 0 &&
+  if (host::test::FoldersCannotBeFlushed::Now() && fstat(descriptor, &status) == 0 &&
       S_ISDIR(status.st_mode)) {
     errno = EIO;
     return -1;
@@ -43,10 +43,10 @@ extern "C" int rename(const char* from, const char* to) noexcept {
   return static_cast<int>(syscall(SYS_rename, from, to));
 }
 
-namespace bench {
+namespace host {
 namespace {
 
-using test::TestFolder;
+using host::test::TestFolder;
 
 /// A file goes to the disk before it gets its name, and its name before anybody is told.
 std::vector<std::string> Safely(const std::string& file, const TestFolder& folder) {
@@ -55,7 +55,8 @@ std::vector<std::string> Safely(const std::string& file, const TestFolder& folde
 
 TEST(Durability, ADocumentIsOnTheDiskWhenItIsSaved) {
   TestFolder folder;
-  auto file = DocumentFile::Existing(folder.Write("a.orvik", "old"), DocumentFile::Use::kWrite);
+  auto file =
+      document::DocumentFile::Existing(folder.Write("a.orvik", "old"), document::DocumentFile::Use::kWrite);
   Done().clear();
   file.Write("new");
   EXPECT_EQ(Done(), Safely("a.orvik", folder));
@@ -63,7 +64,7 @@ TEST(Durability, ADocumentIsOnTheDiskWhenItIsSaved) {
 
 TEST(Durability, ANewDocumentIsOnTheDiskWhenItIsSaved) {
   TestFolder folder;
-  auto file = DocumentFile::New(folder.Path() / "a.orvik");
+  auto file = document::DocumentFile::New(folder.Path() / "a.orvik");
   Done().clear();
   file.Write("new");
   // It is given its name by another call, which refuses to replace a file; until then it has none.
@@ -90,4 +91,4 @@ TEST(Durability, AnEntryOfTheErrorLogIsOnTheDiskUnlessItRepeatsTheOneBefore) {
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

@@ -5,11 +5,11 @@
 #include "tests/unit/host/Errors.h"
 #include "tests/unit/host/HostFixture.h"
 
-namespace bench {
+namespace host {
 namespace {
 
-using test::ErrorText;
-using test::Holds;
+using host::test::ErrorText;
+using host::test::Holds;
 
 /// The sample's elements are recorded in volts.
 class ElementLimitsTest : public test::HostFixture {
@@ -21,44 +21,44 @@ class ElementLimitsTest : public test::HostFixture {
 
 TEST_F(ElementLimitsTest, TheUnitIsToldWithoutLeavingATrace) {
   const auto element = Element(1);
-  EXPECT_EQ(RecordedUnit(*element->Limits()), "V");
+  EXPECT_EQ(standards::RecordedUnit(*element->Limits()), "V");
   EXPECT_EQ(element->Limits()->Standards()->Count(), 0);
-  SetLimit(*element->Limits(), {"S", "", "", "1", ""});
-  EXPECT_EQ(RecordedUnit(*element->Limits()), "V");
+  standards::SetLimit(*element->Limits(), {"S", "", "", "1", ""});
+  EXPECT_EQ(standards::RecordedUnit(*element->Limits()), "V");
   EXPECT_EQ(element->Limits()->Standards()->Count(), 1);
 }
 
 TEST_F(ElementLimitsTest, AnOlderLimitOfTheSameStandardIsReplacedUnitAndAll) {
   const auto element = Element(1);
   auto& limits = *element->Limits();
-  EXPECT_EQ(Bounds(SetLimit(limits, {"S", "d", "1", "2", ""})), "1..2 V");
+  EXPECT_EQ(Bounds(standards::SetLimit(limits, {"S", "d", "1", "2", ""})), "1..2 V");
   limits.Standards()->item(1)->Limit(1)->Initialize("NO LIMIT KEY", "mV", "1", "2");
-  EXPECT_EQ(Bounds(SetLimit(limits, {"S", "d", "", "7", ""})), "..7 V");
+  EXPECT_EQ(Bounds(standards::SetLimit(limits, {"S", "d", "", "7", ""})), "..7 V");
   EXPECT_EQ(limits.Standards()->Count(), 1);
   EXPECT_EQ(limits.Standards()->item(1)->LimitCount(), 1);
-  SetLimit(limits, {"S", "other", "", "8", ""});
+  standards::SetLimit(limits, {"S", "other", "", "8", ""});
   EXPECT_EQ(limits.Standards()->Count(), 2);
 }
 
 TEST_F(ElementLimitsTest, BoundsAreToldInTheUnitThatTheElementIsRecordedIn) {
   const auto element = Element(1);
   auto& limits = *element->Limits();
-  EXPECT_EQ(Bounds(SetLimit(limits, {"S", "", "0.1", "0.3", "kV"})), "100..300 V");
+  EXPECT_EQ(Bounds(standards::SetLimit(limits, {"S", "", "0.1", "0.3", "kV"})), "100..300 V");
   EXPECT_EQ(limits.Standards()->item(1)->Evaluate(200, limits.Standards()->item(1)->Limit(1)->Key(), {}), 1);
 }
 
 TEST_F(ElementLimitsTest, WhatDoesNotFitIsRefusedAndChangesNothing) {
   const auto element = Element(1);
   auto& limits = *element->Limits();
-  SetLimit(limits, {"S", "", "", "7", ""});
-  const auto refusal = [&](const EnteredLimit& entered) {
-    return ErrorText([&] { SetLimit(limits, entered); });
+  standards::SetLimit(limits, {"S", "", "", "7", ""});
+  const auto refusal = [&](const standards::EnteredLimit& entered) {
+    return test::ErrorText([&] { standards::SetLimit(limits, entered); });
   };
-  EXPECT_TRUE(Holds(refusal({"S", "", "", "8", "A"}), "a bound in A does not fit"));
-  EXPECT_TRUE(Holds(refusal({"S", "", "", "8", "%"}), "a bound in % does not fit"));
-  EXPECT_TRUE(Holds(refusal({"S", "", "", "x", ""}), "is not a number"));
-  EXPECT_TRUE(Holds(refusal({"T", "", "9", "8", ""}), "above the upper"));
-  EXPECT_TRUE(Holds(refusal({"T", "", "", "110%", "mV"}), "percent"));
+  EXPECT_TRUE(test::Holds(refusal({"S", "", "", "8", "A"}), "a bound in A does not fit"));
+  EXPECT_TRUE(test::Holds(refusal({"S", "", "", "8", "%"}), "a bound in % does not fit"));
+  EXPECT_TRUE(test::Holds(refusal({"S", "", "", "x", ""}), "is not a number"));
+  EXPECT_TRUE(test::Holds(refusal({"T", "", "9", "8", ""}), "above the upper"));
+  EXPECT_TRUE(test::Holds(refusal({"T", "", "", "110%", "mV"}), "percent"));
   EXPECT_EQ(limits.Standards()->Count(), 1);
   EXPECT_EQ(Bounds(limits.Standards()->item(1)->Limit(1)), "..7 V");
 }
@@ -70,9 +70,9 @@ TEST_F(ElementLimitsTest, AStandardThatHasLostItsLimitGetsOne) {
   standard->Initialize("S", "", 1);
   limits.CreateStandard("X", "");
   limits.Standards()->Add(standard);
-  EXPECT_EQ(Bounds(SetLimit(limits, {"S", "", "1", "", ""})), "1.. V");
+  EXPECT_EQ(Bounds(standards::SetLimit(limits, {"S", "", "1", "", ""})), "1.. V");
   EXPECT_EQ(standard->LimitCount(), 1);
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

@@ -8,11 +8,11 @@
 #include "tests/unit/host/Errors.h"
 #include "tests/unit/host/TestFolder.h"
 
-namespace bench {
+namespace host {
 namespace {
 
-using test::Holds;
-using test::TestFolder;
+using host::test::Holds;
+using host::test::TestFolder;
 
 /// 2026-02-28 23:59:59.250 UTC.
 std::chrono::system_clock::time_point Fixed() {
@@ -46,8 +46,8 @@ TEST(ErrorLog, FieldsCannotForgeLines) {
   Log(log, "a\nb\tc\\d\x1B[31m\r", "\xFF");
   const auto text = folder.Read("error.log");
   EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 1);
-  EXPECT_TRUE(Holds(text, "\ta\\nb\\tc\\\\d\\x1b[31m\\x0d\t"));
-  EXPECT_TRUE(Holds(text, "\t\xEF\xBF\xBD\n"));
+  EXPECT_TRUE(test::Holds(text, "\ta\\nb\\tc\\\\d\\x1b[31m\\x0d\t"));
+  EXPECT_TRUE(test::Holds(text, "\t\xEF\xBF\xBD\n"));
 }
 
 TEST(ErrorLog, EntriesOfAnEarlierRunStay) {
@@ -58,17 +58,17 @@ TEST(ErrorLog, EntriesOfAnEarlierRunStay) {
   }
   ErrorLog log(folder.Path(), ErrorLog::kDefaultLimit, Fixed);
   Log(log, "second");
-  EXPECT_TRUE(Holds(folder.Read("error.log"), "first"));
-  EXPECT_TRUE(Holds(folder.Read("error.log"), "second"));
+  EXPECT_TRUE(test::Holds(folder.Read("error.log"), "first"));
+  EXPECT_TRUE(test::Holds(folder.Read("error.log"), "second"));
 }
 
 TEST(ErrorLog, FullFileMovesAsideAndTheOldestGoes) {
   TestFolder folder;
   ErrorLog log(folder.Path(), 100, Fixed);
   for (const auto* source : {"one", "two", "three", "four"}) Log(log, source);
-  EXPECT_TRUE(Holds(folder.Read("error.log"), "four"));
-  EXPECT_TRUE(Holds(folder.Read("error.log.1"), "three"));
-  EXPECT_TRUE(Holds(folder.Read("error.log.2"), "two"));
+  EXPECT_TRUE(test::Holds(folder.Read("error.log"), "four"));
+  EXPECT_TRUE(test::Holds(folder.Read("error.log.1"), "three"));
+  EXPECT_TRUE(test::Holds(folder.Read("error.log.2"), "two"));
   EXPECT_FALSE(std::filesystem::exists(folder.Path() / "error.log.3"));
 }
 
@@ -76,7 +76,7 @@ TEST(ErrorLog, EntryLargerThanTheLimitIsWrittenWhole) {
   TestFolder folder;
   ErrorLog log(folder.Path(), 100, Fixed);
   Log(log, std::string(1000, 'x'));
-  EXPECT_TRUE(Holds(folder.Read("error.log"), std::string(1000, 'x')));
+  EXPECT_TRUE(test::Holds(folder.Read("error.log"), std::string(1000, 'x')));
 }
 
 TEST(ErrorLog, TwoProgramsLoseNoEntryAndMixNone) {
@@ -117,7 +117,7 @@ TEST(ErrorLog, EntryThatCannotBeWrittenIsLostAndSaysWhy) {
   ErrorLog log(folder.Write("file", "") / "below");
   EXPECT_EQ(log.Failure(), "");
   EXPECT_EQ(test::ErrorText([&] { Log(log, "S"); }), "");
-  EXPECT_TRUE(Holds(log.Failure(), "file/below"));
+  EXPECT_TRUE(test::Holds(log.Failure(), "file/below"));
 }
 
 TEST(ErrorLog, DropsEntriesWithoutAFolder) {
@@ -128,4 +128,4 @@ TEST(ErrorLog, DropsEntriesWithoutAFolder) {
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

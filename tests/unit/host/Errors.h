@@ -7,7 +7,7 @@
 
 #include "OrvikTypeLib/HostError.h"
 
-namespace bench::test {
+namespace host::test {
 
 /// The error that the step ends with; none when it goes through.
 template <class Step>
@@ -40,4 +40,4 @@ inline ::testing::AssertionResult Holds(const std::string& text, const std::stri
   return ::testing::AssertionFailure() << "\"" << text << "\" does not hold \"" << part << "\"";
 }
 
-}  // namespace bench::test
+}  // namespace host::test

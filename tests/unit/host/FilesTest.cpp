@@ -11,13 +11,13 @@
 #include "tests/unit/host/Errors.h"
 #include "tests/unit/host/TestFolder.h"
 
-namespace bench {
+namespace host {
 namespace {
 
+using host::test::ErrorText;
+using host::test::Holds;
+using host::test::TestFolder;
 using orvik::HostError;
-using test::ErrorText;
-using test::Holds;
-using test::TestFolder;
 
 TEST(Files, ReplacedFileHasTheNewContentsAndNothingElseIsLeft) {
   TestFolder folder;
@@ -68,7 +68,7 @@ TEST(Files, WriteProtectedFileIsNotReplaced) {
   TestFolder folder;
   const auto file = folder.Write("a.txt", "old");
   chmod(file.c_str(), 0444);
-  EXPECT_TRUE(Holds(ErrorText([&] { ReplaceFile(file, "new"); }), "a.txt is write-protected"));
+  EXPECT_TRUE(test::Holds(test::ErrorText([&] { ReplaceFile(file, "new"); }), "a.txt is write-protected"));
   EXPECT_EQ(folder.Read("a.txt"), "old");
   EXPECT_EQ(folder.Count(), 1U);
 }
@@ -85,17 +85,17 @@ TEST(Files, MachinesErrorsAreToldFromWrongNames) {
 }
 
 TEST(Files, MissingFileAndFolderAreNamed) {
-  EXPECT_TRUE(Holds(ErrorText([] { ReadFile("/nowhere/a.txt"); }), "/nowhere/a.txt"));
-  EXPECT_TRUE(Holds(ErrorText([] { ReplaceFile("/nowhere/a.txt", "x"); }), "/nowhere/a.txt"));
-  EXPECT_TRUE(Holds(ErrorText([] { CreateFolder("/proc/nowhere"); }), "/proc/nowhere"));
+  EXPECT_TRUE(test::Holds(test::ErrorText([] { ReadFile("/nowhere/a.txt"); }), "/nowhere/a.txt"));
+  EXPECT_TRUE(test::Holds(test::ErrorText([] { ReplaceFile("/nowhere/a.txt", "x"); }), "/nowhere/a.txt"));
+  EXPECT_TRUE(test::Holds(test::ErrorText([] { CreateFolder("/proc/nowhere"); }), "/proc/nowhere"));
 }
 
 TEST(Files, FolderAndPipeAreNoFiles) {
   TestFolder folder;
-  EXPECT_TRUE(Holds(ErrorText([&] { ReadFile(folder.Path()); }), "is no file"));
+  EXPECT_TRUE(test::Holds(test::ErrorText([&] { ReadFile(folder.Path()); }), "is no file"));
   const auto pipe = folder.Path() / "pipe";
   ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
-  EXPECT_TRUE(Holds(ErrorText([&] { ReadFile(pipe); }), "is no file"));
+  EXPECT_TRUE(test::Holds(test::ErrorText([&] { ReadFile(pipe); }), "is no file"));
 }
 
 TEST(Files, LockIsRefusedWhileAnotherHoldsIt) {
@@ -103,10 +103,11 @@ TEST(Files, LockIsRefusedWhileAnotherHoldsIt) {
   const auto file = folder.Path() / "lock";
   {
     const FileLock held(file, kLockPatience);
-    EXPECT_TRUE(Holds(ErrorText([&] { FileLock(file, std::chrono::milliseconds(0)); }), "held by another"));
+    EXPECT_TRUE(test::Holds(test::ErrorText([&] { FileLock(file, std::chrono::milliseconds(0)); }),
+                            "held by another"));
     EXPECT_THROW(FileLock(file, std::chrono::milliseconds(0)), BusyError);
   }
-  EXPECT_EQ(ErrorText([&] { FileLock(file, std::chrono::milliseconds(0)); }), "");
+  EXPECT_EQ(test::ErrorText([&] { FileLock(file, std::chrono::milliseconds(0)); }), "");
 }
 
 TEST(Files, LockIsFreeAfterItsHolderWasKilled) {
@@ -123,13 +124,13 @@ TEST(Files, LockIsFreeAfterItsHolderWasKilled) {
   }
   char byte = 0;
   ASSERT_EQ(read(ready[0], &byte, 1), 1);
-  EXPECT_NE(ErrorText([&] { FileLock(file, std::chrono::milliseconds(0)); }), "");
+  EXPECT_NE(test::ErrorText([&] { FileLock(file, std::chrono::milliseconds(0)); }), "");
   kill(child, SIGKILL);
   waitpid(child, nullptr, 0);
-  EXPECT_EQ(ErrorText([&] { FileLock(file, std::chrono::milliseconds(0)); }), "");
+  EXPECT_EQ(test::ErrorText([&] { FileLock(file, std::chrono::milliseconds(0)); }), "");
   close(ready[0]);
   close(ready[1]);
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

@@ -3,7 +3,7 @@
 #include "host/document/Findings.h"
 #include "host/xml/XmlDocument.h"
 
-namespace bench {
+namespace host {
 namespace {
 
 TEST(Findings, AreToldAsTheyStandInTheText) {
@@ -11,7 +11,7 @@ TEST(Findings, AreToldAsTheyStandInTheText) {
   pugi::xml_document xml;
   xml::Parse(text, xml);
   const auto b = xml.child("A").child("B");
-  Findings findings(text);
+  document::Findings findings(text);
   findings.Wrong(text.size() + 99, "end");
   findings.Note(b.child("C"), "c");
   findings.Wrong(b, "b");
@@ -33,4 +33,4 @@ TEST(Findings, AreToldAsTheyStandInTheText) {
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

@@ -13,15 +13,15 @@
 #include "tests/unit/host/SamplePlugIn.h"
 #include "tests/unit/host/TestFolder.h"
 
-namespace bench::test {
+namespace host::test {
 
 /// The host without windows, and the sample plug-in in it.
 class HostFixture : public ::testing::Test {
  protected:
-  HostFixture() : host_(Host::Create({folder_.Path(), "", {}, {}}, nullptr)) { OpenSample(*host_); }
+  HostFixture() : host_(document::Host::Create({folder_.Path(), "", {}, {}}, nullptr)) { OpenSample(*host_); }
   ~HostFixture() override { host_->Close(); }
 
-  static void OpenSample(Host& host) {
+  static void OpenSample(document::Host& host) {
     const auto shared = std::dynamic_pointer_cast<orvik::IHost>(host.shared_from_this());
     host.AddClasses(sample::CreateClasses(shared));
     host.Elements()->AddPlugIn(sample::CreatePlugIn(shared));
@@ -62,12 +62,12 @@ class HostFixture : public ::testing::Test {
 
   /// What the element saves, as text.
   static std::string Saved(const std::shared_ptr<orvik::ITestElement>& element) {
-    XmlDocument document;
+    xml::XmlDocument document;
     return element->Save(document.CreateRoot("Elements")) ? document.SaveToString() : "(nothing)";
   }
 
   TestFolder folder_;
-  std::shared_ptr<Host> host_;
+  std::shared_ptr<document::Host> host_;
 };
 
-}  // namespace bench::test
+}  // namespace host::test

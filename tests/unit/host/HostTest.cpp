@@ -10,13 +10,13 @@
 #include "tests/unit/host/Errors.h"
 #include "tests/unit/host/HostFixture.h"
 
-namespace bench {
+namespace host {
 namespace {
 
+using host::test::ErrorNumber;
+using host::test::ErrorText;
+using host::test::Holds;
 using orvik::HostError;
-using test::ErrorNumber;
-using test::ErrorText;
-using test::Holds;
 namespace classes = orvik::HostClasses;
 
 class HostTest : public test::HostFixture {};
@@ -46,9 +46,9 @@ TEST_F(HostTest, DocumentsAndReadersAreNewEachTime) {
 }
 
 TEST_F(HostTest, UnknownClassIsNamed) {
-  const auto text = ErrorText([&] { host_->CreateObject("nobody.Knows"); });
-  EXPECT_TRUE(Holds(text, "\"nobody.Knows\" is not registered"));
-  EXPECT_EQ(ErrorNumber([&] { host_->CreateObject(""); }), HostError::kClassNotRegistered);
+  const auto text = test::ErrorText([&] { host_->CreateObject("nobody.Knows"); });
+  EXPECT_TRUE(test::Holds(text, "\"nobody.Knows\" is not registered"));
+  EXPECT_EQ(test::ErrorNumber([&] { host_->CreateObject(""); }), HostError::kClassNotRegistered);
 }
 
 TEST_F(HostTest, RegisteredClassIsCreatedAndCanBeReplaced) {
@@ -65,7 +65,7 @@ TEST_F(HostTest, ClassesOfLibrariesAreCreatedToo) {
 }
 
 TEST_F(HostTest, CatalogueStandsInForTheOneInTheRegistry) {
-  const auto other = Host::Create({folder_.Path(), "", "<TemplateData/>", {}}, nullptr);
+  const auto other = document::Host::Create({folder_.Path(), "", "<TemplateData/>", {}}, nullptr);
   const auto reader = orvik::As<orvik::IRegistryReader>(other->CreateObject(classes::kRegistryReader));
   constexpr auto kHive = static_cast<std::int32_t>(0x80000002U);
   ASSERT_TRUE(reader->OpenKey(kHive, "Software\\Telvane\\orvik\\KELD(IN)"));
@@ -77,7 +77,7 @@ TEST_F(HostTest, CatalogueStandsInForTheOneInTheRegistry) {
 
 TEST_F(HostTest, LanguageIsTheOneOfTheSettings) {
   folder_.Write("KELD.da.po", "msgctxt \"1\"\nmsgid \"x\"\nmsgstr \"dansk\"\n");
-  const auto danish = Host::Create({folder_.Path(), "da", {}, {folder_.Path()}}, nullptr);
+  const auto danish = document::Host::Create({folder_.Path(), "da", {}, {folder_.Path()}}, nullptr);
   const auto service = orvik::As<orvik::ILanguageService>(danish->CreateObject(classes::kLanguageService));
   EXPECT_EQ(service->Translate("1::english", "KELD", {}), "dansk");
   EXPECT_EQ(Make<orvik::ILanguageService>(classes::kLanguageService)->Translate("1::english", "KELD", {}),
@@ -88,16 +88,16 @@ TEST_F(HostTest, ClosedHostHasNoPlugIns) {
   EXPECT_NE(host_->Elements()->PlugIn(sample::kPlugInId), nullptr);
   host_->Close();
   EXPECT_EQ(host_->Elements()->PlugIn(sample::kPlugInId), nullptr);
-  EXPECT_EQ(ErrorNumber([&] { host_->CreateObject(sample::kResult); }), HostError::kClassNotRegistered);
+  EXPECT_EQ(test::ErrorNumber([&] { host_->CreateObject(sample::kResult); }), HostError::kClassNotRegistered);
 }
 
 TEST_F(HostTest, HostGoesWithItsLastReference) {
-  const std::weak_ptr<Host> weak = host_;
+  const std::weak_ptr<document::Host> weak = host_;
   const auto element = Element(1);
   host_->Close();
   host_.reset();
   EXPECT_TRUE(weak.expired()) << "no element and no service holds the host";
-  host_ = Host::Create({folder_.Path(), "", {}, {}}, nullptr);
+  host_ = document::Host::Create({folder_.Path(), "", {}, {}}, nullptr);
 }
 
 TEST_F(HostTest, BaseElementIsFoundBehindItsOuterOne) {
@@ -119,7 +119,7 @@ TEST_F(HostTest, BaseElementIsFoundWhateverTextsTheOuterOneShows) {
   const auto base = sample->BaseElement;
   sample->OtherTexts = other->Information();
   EXPECT_EQ(host_->Elements()->BaseOf(element), base);
-  sample->OtherTexts = std::make_shared<InformationRecord>();
+  sample->OtherTexts = std::make_shared<elements::InformationRecord>();
   EXPECT_EQ(host_->Elements()->BaseOf(element), base);
   sample->fRefusesTexts = true;
   EXPECT_EQ(host_->Elements()->BaseOf(element), base);
@@ -164,11 +164,13 @@ TEST_F(HostTest, BaseElementsOfManyAreFoundWhileSomeAreReleased) {
 
 TEST_F(HostTest, FilesThatAreNoPlugInAreRefusedByName) {
   const auto text = folder_.Write("notes.so", "just text");
-  EXPECT_TRUE(Holds(ErrorText([&] { host_->OpenPlugIn(text); }), "notes.so cannot be used as a plug-in"));
-  EXPECT_TRUE(Holds(ErrorText([&] { host_->OpenPlugIn("/nowhere/x.so"); }), "there is no such file"));
-  EXPECT_TRUE(Holds(ErrorText([&] { host_->OpenPlugIn("/lib/x86_64-linux-gnu/libm.so.6"); }),
-                    "OrvikContractVersion"));
+  EXPECT_TRUE(
+      test::Holds(test::ErrorText([&] { host_->OpenPlugIn(text); }), "notes.so cannot be used as a plug-in"));
+  EXPECT_TRUE(
+      test::Holds(test::ErrorText([&] { host_->OpenPlugIn("/nowhere/x.so"); }), "there is no such file"));
+  EXPECT_TRUE(test::Holds(test::ErrorText([&] { host_->OpenPlugIn("/lib/x86_64-linux-gnu/libm.so.6"); }),
+                          "OrvikContractVersion"));
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

@@ -6,7 +6,7 @@
 
 #include <exception>
 
-namespace bench::test {
+namespace host::test {
 
 /// Starts a child process that carries out the step; what changes the process does not change the tests then.
 template <class Step>
@@ -29,4 +29,4 @@ inline bool ChildSucceeded(pid_t child) {
   return waitpid(child, &status, 0) == child && WIFEXITED(status) && WEXITSTATUS(status) == 0;
 }
 
-}  // namespace bench::test
+}  // namespace host::test

@@ -2,11 +2,11 @@
 
 #include "host/elements/InformationRecord.h"
 
-namespace bench {
+namespace host {
 namespace {
 
 TEST(InformationRecord, SecondTextIsTheDisplayNameUntilOneIsSet) {
-  InformationRecord record;
+  elements::InformationRecord record;
   EXPECT_EQ(record.SecondText(), "");
   record.SetDisplayName("Earth leakage");
   EXPECT_EQ(record.SecondText(), "Earth leakage");
@@ -17,14 +17,14 @@ TEST(InformationRecord, SecondTextIsTheDisplayNameUntilOneIsSet) {
 }
 
 TEST(InformationRecord, SecondTextCanBeSetToNothing) {
-  InformationRecord record;
+  elements::InformationRecord record;
   record.SetDisplayName("Earth leakage");
   record.SetSecondText("");
   EXPECT_EQ(record.SecondText(), "");
 }
 
 TEST(InformationRecord, FirstTextIsEmptyUntilItIsSet) {
-  InformationRecord record;
+  elements::InformationRecord record;
   record.SetDisplayName("Earth leakage");
   EXPECT_EQ(record.FirstText(), "");
   record.SetFirstText("NC");
@@ -32,4 +32,4 @@ TEST(InformationRecord, FirstTextIsEmptyUntilItIsSet) {
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

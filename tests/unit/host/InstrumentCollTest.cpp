@@ -6,13 +6,13 @@
 #include "host/instruments/InstrumentRecord.h"
 #include "tests/unit/host/Errors.h"
 
-namespace bench {
+namespace host {
 namespace {
 
+using host::test::ErrorNumber;
 using orvik::HostError;
-using test::ErrorNumber;
 
-std::string Saved(const InstrumentColl& coll) {
+std::string Saved(const instruments::InstrumentColl& coll) {
   pugi::xml_document document;
   coll.Save(document);
   std::ostringstream text;
@@ -21,20 +21,20 @@ std::string Saved(const InstrumentColl& coll) {
 }
 
 TEST(InstrumentColl, CountsFromOne) {
-  InstrumentColl coll;
+  instruments::InstrumentColl coll;
   EXPECT_EQ(coll.Count(), 0);
-  const auto record = std::make_shared<InstrumentRecord>();
+  const auto record = std::make_shared<instruments::InstrumentRecord>();
   coll.Add(record);
   EXPECT_EQ(coll.Count(), 1);
   EXPECT_EQ(coll.item(1), record);
-  EXPECT_EQ(ErrorNumber([&] { coll.item(0); }), HostError::kSubscriptOutOfRange);
-  EXPECT_EQ(ErrorNumber([&] { coll.item(2); }), HostError::kSubscriptOutOfRange);
-  EXPECT_EQ(ErrorNumber([&] { coll.Add(nullptr); }), HostError::kTypeMismatch);
+  EXPECT_EQ(test::ErrorNumber([&] { coll.item(0); }), HostError::kSubscriptOutOfRange);
+  EXPECT_EQ(test::ErrorNumber([&] { coll.item(2); }), HostError::kSubscriptOutOfRange);
+  EXPECT_EQ(test::ErrorNumber([&] { coll.Add(nullptr); }), HostError::kTypeMismatch);
 }
 
 TEST(InstrumentColl, SavedRecordsReadBack) {
-  InstrumentColl coll;
-  const auto record = std::make_shared<InstrumentRecord>();
+  instruments::InstrumentColl coll;
+  const auto record = std::make_shared<instruments::InstrumentRecord>();
   record->SetTypeName("KELD(IN)");
   record->SetMTIType("KELD 3");
   record->SetSerialNumber("A<17>");
@@ -45,7 +45,7 @@ TEST(InstrumentColl, SavedRecordsReadBack) {
   const auto text = Saved(coll);
   pugi::xml_document document;
   document.load_string(text.c_str());
-  InstrumentColl loaded;
+  instruments::InstrumentColl loaded;
   loaded.Load(document.document_element());
   EXPECT_EQ(Saved(loaded), text);
   const auto read = loaded.item(1);
@@ -57,7 +57,9 @@ TEST(InstrumentColl, SavedRecordsReadBack) {
   EXPECT_EQ(read->Property("calib"), "35");
 }
 
-TEST(InstrumentColl, PropertyThatWasNeverSetIsEmpty) { EXPECT_EQ(InstrumentRecord().Property("calib"), ""); }
+TEST(InstrumentColl, PropertyThatWasNeverSetIsEmpty) {
+  EXPECT_EQ(instruments::InstrumentRecord().Property("calib"), "");
+}
 
 TEST(InstrumentColl, WhatItDoesNotKnowIsWrittenBack) {
   const std::string text =
@@ -65,7 +67,7 @@ TEST(InstrumentColl, WhatItDoesNotKnowIsWrittenBack) {
       "FirmwareVersion=\"\" b=\"2\"><Extra/></Instrument><Other/></Instruments>";
   pugi::xml_document document;
   document.load_string(text.c_str());
-  InstrumentColl coll;
+  instruments::InstrumentColl coll;
   coll.Load(document.document_element());
   EXPECT_EQ(Saved(coll), text);
 }
@@ -73,9 +75,9 @@ TEST(InstrumentColl, WhatItDoesNotKnowIsWrittenBack) {
 TEST(InstrumentColl, MalformedIndexIsRefused) {
   pugi::xml_document document;
   document.load_string("<Instruments><Instrument Index='one'/></Instruments>");
-  InstrumentColl coll;
-  EXPECT_EQ(ErrorNumber([&] { coll.Load(document.document_element()); }), HostError::kTypeMismatch);
+  instruments::InstrumentColl coll;
+  EXPECT_EQ(test::ErrorNumber([&] { coll.Load(document.document_element()); }), HostError::kTypeMismatch);
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

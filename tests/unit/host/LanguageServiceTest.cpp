@@ -8,12 +8,12 @@
 #include "tests/unit/host/TestFolder.h"
 #include "toolkit/headless/Application.h"
 
-namespace bench {
+namespace host {
 namespace {
 
-using test::ErrorText;
-using test::Holds;
-using test::TestFolder;
+using host::test::ErrorText;
+using host::test::Holds;
+using host::test::TestFolder;
 
 constexpr char kNotSupported[] =
     "20805::The connected KELD does not support the test  %%1 %%2. The test will be recorded as Not "
@@ -83,17 +83,19 @@ TEST(LanguageService, MissingFolderMeansEnglish) {
 TEST(LanguageService, MalformedFileAndLanguageAreRefused) {
   TestFolder folder;
   folder.Write("KELD.da.po", "rubbish");
-  EXPECT_TRUE(Holds(ErrorText([&] { LanguageService("da", {folder.Path()}); }), "KELD.da.po, line 1"));
   EXPECT_TRUE(
-      Holds(ErrorText([&] { LanguageService("../da", {folder.Path()}); }), "\"../da\" is no language"));
-  EXPECT_EQ(ErrorText([&] { LanguageService("C.UTF-8", {folder.Path()}); }), "");
+      test::Holds(test::ErrorText([&] { LanguageService("da", {folder.Path()}); }), "KELD.da.po, line 1"));
+  EXPECT_TRUE(test::Holds(test::ErrorText([&] { LanguageService("../da", {folder.Path()}); }),
+                          "\"../da\" is no language"));
+  EXPECT_EQ(test::ErrorText([&] { LanguageService("C.UTF-8", {folder.Path()}); }), "");
 }
 
 TEST(LanguageService, RewritesCaptionsInTheLanguageStringFormAndNoOthers) {
   TestFolder folder;
   folder.Write("KELD.da.po", Po("200", "GUIDE") + Po("20774", "Ledning 1"));
   const LanguageService service("da", {folder.Path()});
-  const auto application = std::make_shared<headless::Application>(ClockKind::kVirtual);
+  const auto application =
+      std::make_shared<toolkit::headless::Application>(toolkit::loop::ClockKind::kVirtual);
   const auto form = application->CreateForm("F");
   form->SetCaption("200::TEST GUIDE");
   form->AddLabel("lblA")->SetCaption("1::&OK");
@@ -120,4 +122,4 @@ TEST(LanguageService, EmptyPanelIsRefused) {
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

@@ -5,10 +5,10 @@
 #include "host/xml/Leftovers.h"
 #include "host/xml/XmlNode.h"
 
-namespace bench {
+namespace host {
 namespace {
 
-std::string Restored(const Leftovers& leftovers, const char* into = "<a/>") {
+std::string Restored(const xml::Leftovers& leftovers, const char* into = "<a/>") {
   pugi::xml_document document;
   document.load_string(into);
   leftovers.Restore(document.document_element());
@@ -25,7 +25,7 @@ pugi::xml_document ParsedWithComments(const char* text) {
 
 TEST(Leftovers, KeepWhatIsNotNamed) {
   const auto document = ParsedWithComments("<a k='1' x='2'><known/><new><deep/></new><!--note-->text</a>");
-  Leftovers leftovers;
+  xml::Leftovers leftovers;
   leftovers.Take(document.document_element(), {"k"}, {"known"});
   EXPECT_EQ(Restored(leftovers), "<a x=\"2\"><new><deep/></new><!--note-->text</a>");
 }
@@ -33,15 +33,15 @@ TEST(Leftovers, KeepWhatIsNotNamed) {
 // Which of the two is meant cannot be known.
 TEST(Leftovers, KnownAttributeThatStandsTwiceIsRefused) {
   const auto document = ParsedWithComments("<a k='1' x='2' k='3'/>");
-  Leftovers leftovers;
-  EXPECT_THROW(leftovers.Take(document.document_element(), {"k"}, {}), XmlError);
+  xml::Leftovers leftovers;
+  EXPECT_THROW(leftovers.Take(document.document_element(), {"k"}, {}), xml::XmlError);
   EXPECT_NO_THROW(leftovers.Take(document.document_element(), {"x"}, {}));
 }
 
 TEST(Leftovers, ValuesGoWhereTheReaderWantsThem) {
   const auto document = ParsedWithComments("<a b='2' x='3' a='1'/>");
   const char *first = "none", *second = "none", *third = "none";
-  Leftovers leftovers;
+  xml::Leftovers leftovers;
   leftovers.TakeAttributes(document.document_element(), {{"a", first}, {"b", second}, {"c", third}});
   EXPECT_STREQ(first, "1");
   EXPECT_STREQ(second, "2");
@@ -51,14 +51,14 @@ TEST(Leftovers, ValuesGoWhereTheReaderWantsThem) {
 
 TEST(Leftovers, NothingIsKeptOfAKnownNode) {
   const auto document = ParsedWithComments("<a k='1'><known/></a>");
-  Leftovers leftovers;
+  xml::Leftovers leftovers;
   leftovers.Take(document.document_element(), {"k"}, {"known"});
   EXPECT_TRUE(leftovers.Empty());
   EXPECT_EQ(Restored(leftovers), "<a/>");
 }
 
 TEST(Leftovers, TakingAgainReplacesWhatWasKept) {
-  Leftovers leftovers;
+  xml::Leftovers leftovers;
   leftovers.Take(ParsedWithComments("<a x='1'/>").document_element(), {}, {});
   leftovers.Take(ParsedWithComments("<a y='1'/>").document_element(), {}, {});
   EXPECT_EQ(Restored(leftovers), "<a y=\"1\"/>");
@@ -67,15 +67,15 @@ TEST(Leftovers, TakingAgainReplacesWhatWasKept) {
 }
 
 TEST(Leftovers, AttributeThatIsThereByNowStays) {
-  Leftovers leftovers;
+  xml::Leftovers leftovers;
   leftovers.Take(ParsedWithComments("<a x='old'/>").document_element(), {}, {});
   EXPECT_EQ(Restored(leftovers, "<a x='new'/>"), "<a x=\"new\"/>");
 }
 
 TEST(Leftovers, CopiesAreIndependent) {
-  Leftovers first;
+  xml::Leftovers first;
   first.Take(ParsedWithComments("<a x='1'/>").document_element(), {}, {});
-  Leftovers second = first;
+  xml::Leftovers second = first;
   first = {};
   EXPECT_TRUE(first.Empty());
   EXPECT_EQ(Restored(second), "<a x=\"1\"/>");
@@ -84,4 +84,4 @@ TEST(Leftovers, CopiesAreIndependent) {
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

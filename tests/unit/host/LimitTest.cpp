@@ -7,17 +7,17 @@
 #include "host/standards/Limit.h"
 #include "tests/unit/host/Errors.h"
 
-namespace bench {
+namespace host {
 namespace {
 
+using host::test::ErrorNumber;
+using host::test::ErrorText;
+using host::test::Holds;
 using orvik::HostError;
 using orvik::Variant;
-using test::ErrorNumber;
-using test::ErrorText;
-using test::Holds;
 
-std::shared_ptr<Limit> Between(const std::string& low, const std::string& high) {
-  auto limit = std::make_shared<Limit>();
+std::shared_ptr<standards::Limit> Between(const std::string& low, const std::string& high) {
+  auto limit = std::make_shared<standards::Limit>();
   limit->Initialize("NO LIMIT KEY", "mOhm", low, high);
   return limit;
 }
@@ -66,13 +66,13 @@ TEST(Limit, TextsAreKeptAsEntered) {
 TEST(Limit, RefusedBoundsLeaveThoseThereWere) {
   const auto limit = Between("1", "2");
   for (const auto* text : {"abc", "0,3", "1 2", "inf", "nan", "%", "1%%", "1e999", "--1"}) {
-    EXPECT_EQ(ErrorNumber([&] { limit->SetBounds(text, ""); }), HostError::kInvalidArgument) << text;
-    EXPECT_EQ(ErrorNumber([&] { limit->SetBounds("", text); }), HostError::kInvalidArgument) << text;
+    EXPECT_EQ(test::ErrorNumber([&] { limit->SetBounds(text, ""); }), HostError::kInvalidArgument) << text;
+    EXPECT_EQ(test::ErrorNumber([&] { limit->SetBounds("", text); }), HostError::kInvalidArgument) << text;
   }
-  EXPECT_TRUE(Holds(ErrorText([&] { limit->SetBounds("3", "2"); }), "above the upper"));
+  EXPECT_TRUE(test::Holds(test::ErrorText([&] { limit->SetBounds("3", "2"); }), "above the upper"));
   EXPECT_EQ(limit->LowText(), "1");
   EXPECT_EQ(limit->HighText(), "2");
-  EXPECT_EQ(ErrorNumber([&] { limit->SetBounds("2", "2"); }), 0) << "one single value may be allowed";
+  EXPECT_EQ(test::ErrorNumber([&] { limit->SetBounds("2", "2"); }), 0) << "one single value may be allowed";
 }
 
 TEST(Limit, PercentageIsRelativeToTheNominalValue) {
@@ -98,10 +98,10 @@ TEST(Limit, GivenNominalStandsInForItsOwn) {
 
 TEST(Limit, PercentageWithoutNominalIsRefused) {
   const auto limit = Between("", "");
-  EXPECT_TRUE(Holds(ErrorText([&] { limit->SetBounds("", "110%"); }), "needs a nominal value"));
+  EXPECT_TRUE(test::Holds(test::ErrorText([&] { limit->SetBounds("", "110%"); }), "needs a nominal value"));
   limit->SetNominal(230.0);
   limit->SetBounds("", "110%");
-  EXPECT_TRUE(Holds(ErrorText([&] { limit->SetNominal({}); }), "needs a nominal value"));
+  EXPECT_TRUE(test::Holds(test::ErrorText([&] { limit->SetNominal({}); }), "needs a nominal value"));
   EXPECT_EQ(limit->Nominal(), Variant(230.0));
 }
 
@@ -109,7 +109,7 @@ TEST(Limit, NominalThatTurnsTheBoundsRoundIsRefused) {
   const auto limit = Between("", "");
   limit->SetNominal(230.0);
   limit->SetBounds("90%", "110%");
-  EXPECT_EQ(ErrorNumber([&] { limit->SetNominal(-230.0); }), HostError::kInvalidArgument);
+  EXPECT_EQ(test::ErrorNumber([&] { limit->SetNominal(-230.0); }), HostError::kInvalidArgument);
   EXPECT_EQ(limit->Nominal(), Variant(230.0));
 }
 
@@ -118,13 +118,13 @@ TEST(Limit, NominalIsANumberOrNothing) {
   EXPECT_EQ(limit->Nominal(), Variant());
   limit->SetNominal(std::int32_t{5});
   EXPECT_EQ(limit->Nominal(), Variant(5.0));
-  EXPECT_EQ(ErrorNumber([&] { limit->SetNominal("5"); }), HostError::kTypeMismatch);
-  EXPECT_EQ(ErrorNumber([&] { limit->SetNominal(std::nan("")); }), HostError::kInvalidArgument);
+  EXPECT_EQ(test::ErrorNumber([&] { limit->SetNominal("5"); }), HostError::kTypeMismatch);
+  EXPECT_EQ(test::ErrorNumber([&] { limit->SetNominal(std::nan("")); }), HostError::kInvalidArgument);
   limit->SetNominal({});
   EXPECT_EQ(limit->Nominal(), Variant());
 }
 
-std::string Saved(const Limit& limit) {
+std::string Saved(const standards::Limit& limit) {
   pugi::xml_document document;
   limit.Save(document);
   std::ostringstream text;
@@ -140,7 +140,7 @@ TEST(Limit, SavedLimitReadsBack) {
   EXPECT_EQ(text, "<Limit Key=\"NO LIMIT KEY\" Unit=\"mOhm\" High=\"110%\" Nominal=\"0.1\"/>");
   pugi::xml_document document;
   document.load_string(text.c_str());
-  Limit loaded;
+  standards::Limit loaded;
   loaded.Load(document.document_element());
   EXPECT_EQ(Saved(loaded), text);
   EXPECT_EQ(loaded.HighBound(), limit->HighBound());
@@ -151,8 +151,8 @@ TEST(Limit, MalformedSavedLimitsAreRefused) {
        {"<Limit Low='x'/>", "<Limit High='110%'/>", "<Limit Low='2' High='1'/>", "<Limit Nominal='n'/>"}) {
     pugi::xml_document document;
     document.load_string(text);
-    Limit limit;
-    EXPECT_NE(ErrorNumber([&] { limit.Load(document.document_element()); }), 0) << text;
+    standards::Limit limit;
+    EXPECT_NE(test::ErrorNumber([&] { limit.Load(document.document_element()); }), 0) << text;
   }
 }
 
@@ -165,4 +165,4 @@ TEST(Limit, CopyIsIndependent) {
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

@@ -2,11 +2,11 @@
 #include "tests/unit/host/Errors.h"
 #include "tests/unit/host/HostFixture.h"
 
-namespace bench {
+namespace host {
 namespace {
 
-using test::ErrorText;
-using test::Holds;
+using host::test::ErrorText;
+using host::test::Holds;
 
 std::string ElementText(int id, const std::string& inside = "") {
   return "    <TestElement ID=\"" + std::to_string(id) +
@@ -32,12 +32,13 @@ int Count(const std::string& text, const std::string& part) {
 
 class LoadDocument : public test::HostFixture {
  protected:
-  std::shared_ptr<Document> Opened(const std::string& text) {
+  std::shared_ptr<document::Document> Opened(const std::string& text) {
     folder_.Write("given.orvik", text);
-    return Document::Open(host_, folder_.Path() / "given.orvik", DocumentFile::Use::kRead);
+    return document::Document::Open(host_, folder_.Path() / "given.orvik",
+                                    document::DocumentFile::Use::kRead);
   }
   std::string Refusal(const std::string& text) {
-    return ErrorText([&] { Opened(text); });
+    return test::ErrorText([&] { Opened(text); });
   }
 };
 
@@ -116,15 +117,15 @@ TEST_F(LoadDocument, ReportsTheLineOfAFault) {
       {good + ElementText(151, "<x>"), ": Start-end tags mismatch"},
   };
   for (const auto& row : cases)
-    EXPECT_TRUE(Holds(Refusal(DocumentText(row.elements)), row.complaint)) << row.complaint;
-  EXPECT_TRUE(Holds(Refusal(DocumentText(good) + DocumentText(good)), "second root element"));
+    EXPECT_TRUE(test::Holds(Refusal(DocumentText(row.elements)), row.complaint)) << row.complaint;
+  EXPECT_TRUE(test::Holds(Refusal(DocumentText(good) + DocumentText(good)), "second root element"));
 }
 
 TEST_F(LoadDocument, RefusesAnIdentifierUsedTwice) {
-  EXPECT_TRUE(Holds(Refusal(DocumentText(ElementText(7) + ElementText(3) + ElementText(3))),
-                    "the identifier 3 is used twice"));
-  EXPECT_TRUE(Holds(Refusal(DocumentText(ElementText(7) + ElementText(3) + ElementText(7))),
-                    "the identifier 7 is used twice"));
+  EXPECT_TRUE(test::Holds(Refusal(DocumentText(ElementText(7) + ElementText(3) + ElementText(3))),
+                          "the identifier 3 is used twice"));
+  EXPECT_TRUE(test::Holds(Refusal(DocumentText(ElementText(7) + ElementText(3) + ElementText(7))),
+                          "the identifier 7 is used twice"));
   EXPECT_EQ(Opened(DocumentText(ElementText(7) + ElementText(3) + ElementText(5)))->Elements()->Count(), 3);
 }
 
@@ -134,17 +135,18 @@ TEST_F(LoadDocument, RefusesASecondSection) {
   for (const auto& section : sections) {
     auto text = DocumentText(ElementTexts(3));
     text.insert(text.find("  <Elements>"), section + section);
-    EXPECT_TRUE(Holds(Refusal(text), "line 4: there is a second ")) << section;
+    EXPECT_TRUE(test::Holds(Refusal(text), "line 4: there is a second ")) << section;
   }
-  EXPECT_TRUE(Holds(Refusal(DocumentText(ElementTexts(3) + "  </Elements>\n  <Elements>\n" + ElementText(9))),
-                    "there is a second \"Elements\""));
+  EXPECT_TRUE(
+      test::Holds(Refusal(DocumentText(ElementTexts(3) + "  </Elements>\n  <Elements>\n" + ElementText(9))),
+                  "there is a second \"Elements\""));
 }
 
 TEST_F(LoadDocument, ReportsANewerVersionBeforeOtherFaults) {
   auto text = DocumentText(ElementTexts(2) + ElementText(1));
   text.replace(text.find("Version=\"1\""), 11, "Version=\"2\"");
-  EXPECT_TRUE(Holds(Refusal(text), "newer version"));
+  EXPECT_TRUE(test::Holds(Refusal(text), "newer version"));
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

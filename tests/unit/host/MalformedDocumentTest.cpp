@@ -2,11 +2,11 @@
 #include "tests/unit/host/Errors.h"
 #include "tests/unit/host/HostFixture.h"
 
-namespace bench {
+namespace host {
 namespace {
 
-using test::ErrorText;
-using test::Holds;
+using host::test::ErrorText;
+using host::test::Holds;
 
 struct DocumentFault {
   const char* text;
@@ -17,10 +17,11 @@ class MalformedDocument : public test::HostFixture, public ::testing::WithParamI
 
 TEST_P(MalformedDocument, IsRefusedWithFileAndReasonAndLeftAsItIs) {
   folder_.Write("given.orvik", GetParam().text);
-  const auto text =
-      ErrorText([&] { Document::Open(host_, folder_.Path() / "given.orvik", DocumentFile::Use::kRead); });
-  EXPECT_TRUE(Holds(text, "given.orvik"));
-  EXPECT_TRUE(Holds(text, GetParam().complaint));
+  const auto text = test::ErrorText([&] {
+    document::Document::Open(host_, folder_.Path() / "given.orvik", document::DocumentFile::Use::kRead);
+  });
+  EXPECT_TRUE(test::Holds(text, "given.orvik"));
+  EXPECT_TRUE(test::Holds(text, GetParam().complaint));
   EXPECT_EQ(folder_.Read("given.orvik"), GetParam().text);
 }
 
@@ -93,4 +94,4 @@ INSTANTIATE_TEST_SUITE_P(
                       "line 2"}));
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

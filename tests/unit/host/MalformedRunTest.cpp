@@ -2,7 +2,7 @@
 #include "tests/unit/host/Errors.h"
 #include "tests/unit/host/HostFixture.h"
 
-namespace bench::test::runs {
+namespace host::test::runs {
 namespace {
 
 struct RunFault {
@@ -17,7 +17,7 @@ TEST_P(MalformedRun, IsRefusedWithItsLine) {
   const auto text = std::string("<OrvikDocument Version='1'>\n<Elements/>\n<Runs>\n") + GetParam().run +
                     "\n</Runs></OrvikDocument>";
   folder_.Write("given.orvik", text);
-  const auto refusal = ErrorText([&] { Document::Open(host_, folder_.Path() / "given.orvik"); });
+  const auto refusal = ErrorText([&] { document::Document::Open(host_, folder_.Path() / "given.orvik"); });
   EXPECT_TRUE(Holds(refusal, "given.orvik"));
   EXPECT_TRUE(Holds(refusal, GetParam().complaint));
   EXPECT_EQ(folder_.Read("given.orvik"), text);
@@ -67,4 +67,4 @@ INSTANTIATE_TEST_SUITE_P(
 #undef RUN
 
 }  // namespace
-}  // namespace bench::test::runs
+}  // namespace host::test::runs

@@ -8,7 +8,7 @@
 #include "host/base/Patience.h"
 #include "tests/unit/host/InChild.h"
 
-namespace bench {
+namespace host {
 namespace {
 
 using std::chrono::hours;
@@ -74,4 +74,4 @@ TEST_F(PatienceTest, EndsWhenASignalArrives) {
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

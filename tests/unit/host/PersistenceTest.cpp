@@ -5,15 +5,15 @@
 #include "host/xml/XmlDocument.h"
 #include "tests/unit/host/Errors.h"
 
-namespace bench {
+namespace host {
 namespace {
 
+using host::test::ErrorNumber;
 using orvik::HostError;
-using test::ErrorNumber;
 
 TEST(Persistence, ValueIsTheTextOfItsNode) {
-  XmlDocument document;
-  Persistence persistence;
+  xml::XmlDocument document;
+  xml::Persistence persistence;
   const auto node = persistence.WriteValue(document.CreateRoot("Measurement"), "12.5");
   EXPECT_EQ(node->Name(), "Value");
   EXPECT_EQ(node->Text(), "12.5");
@@ -22,16 +22,16 @@ TEST(Persistence, ValueIsTheTextOfItsNode) {
 }
 
 TEST(Persistence, EmptyValueIsRefusedAndNotReadAsZero) {
-  XmlDocument document;
-  Persistence persistence;
+  xml::XmlDocument document;
+  xml::Persistence persistence;
   const auto node = persistence.WriteValue(document.CreateRoot("Measurement"), "");
   EXPECT_EQ(node->Text(), "");
-  EXPECT_EQ(ErrorNumber([&] { persistence.ReadValue(node); }), HostError::kTypeMismatch);
+  EXPECT_EQ(test::ErrorNumber([&] { persistence.ReadValue(node); }), HostError::kTypeMismatch);
 }
 
 TEST(Persistence, StatusHasANameOnlyWhenThereIsOne) {
-  XmlDocument document;
-  Persistence persistence;
+  xml::XmlDocument document;
+  xml::Persistence persistence;
   const auto root = document.CreateRoot("ResultItem");
   const auto plain = persistence.WriteStatus(root, "", 2);
   EXPECT_EQ(plain->Name(), "Status");
@@ -41,22 +41,22 @@ TEST(Persistence, StatusHasANameOnlyWhenThereIsOne) {
 }
 
 TEST(Persistence, StatusThatIsNoNumberIsRefused) {
-  XmlDocument document;
-  Persistence persistence;
+  xml::XmlDocument document;
+  xml::Persistence persistence;
   const auto node = document.CreateRoot("Status");
   for (const auto* text : {"", "passed", "1.0", "99999999999"}) {
     node->SetText(text);
-    EXPECT_EQ(ErrorNumber([&] { persistence.ReadStatus(node); }), HostError::kTypeMismatch) << text;
+    EXPECT_EQ(test::ErrorNumber([&] { persistence.ReadStatus(node); }), HostError::kTypeMismatch) << text;
   }
 }
 
 TEST(Persistence, EmptyNodesAreRefused) {
-  Persistence persistence;
-  EXPECT_EQ(ErrorNumber([&] { persistence.WriteValue(nullptr, "x"); }), HostError::kEmptyReference);
-  EXPECT_EQ(ErrorNumber([&] { persistence.ReadValue(nullptr); }), HostError::kEmptyReference);
-  EXPECT_EQ(ErrorNumber([&] { persistence.WriteStatus(nullptr, "", 1); }), HostError::kEmptyReference);
-  EXPECT_EQ(ErrorNumber([&] { persistence.ReadStatus(nullptr); }), HostError::kEmptyReference);
+  xml::Persistence persistence;
+  EXPECT_EQ(test::ErrorNumber([&] { persistence.WriteValue(nullptr, "x"); }), HostError::kEmptyReference);
+  EXPECT_EQ(test::ErrorNumber([&] { persistence.ReadValue(nullptr); }), HostError::kEmptyReference);
+  EXPECT_EQ(test::ErrorNumber([&] { persistence.WriteStatus(nullptr, "", 1); }), HostError::kEmptyReference);
+  EXPECT_EQ(test::ErrorNumber([&] { persistence.ReadStatus(nullptr); }), HostError::kEmptyReference);
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

@@ -2,7 +2,7 @@
 
 #include "host/base/PlainText.h"
 
-namespace bench {
+namespace host {
 namespace {
 
 using namespace std::string_literals;
@@ -37,4 +37,4 @@ TEST(PlainText, IsTheTextWithoutIt) {
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

@@ -15,7 +15,7 @@
 #include "tests/unit/host/Errors.h"
 #include "tests/unit/host/TestFolder.h"
 
-namespace bench {
+namespace host {
 namespace {
 
 std::string ShippedCatalogue() {
@@ -27,7 +27,8 @@ std::string ShippedCatalogue() {
 /// The plug-in as it is loaded in production, on a host without windows.
 class PlugInLibraryTest : public ::testing::Test {
  protected:
-  PlugInLibraryTest() : host_(Host::Create({folder_.Path(), "", ShippedCatalogue(), {}}, nullptr)) {}
+  PlugInLibraryTest()
+      : host_(document::Host::Create({folder_.Path(), "", ShippedCatalogue(), {}}, nullptr)) {}
   ~PlugInLibraryTest() override { host_->Close(); }
 
   static std::string UnitOf(const std::shared_ptr<orvik::ITestElement>& element) {
@@ -35,7 +36,7 @@ class PlugInLibraryTest : public ::testing::Test {
   }
 
   test::TestFolder folder_;
-  std::shared_ptr<Host> host_;
+  std::shared_ptr<document::Host> host_;
 };
 
 TEST_F(PlugInLibraryTest, OpensAndIsInitialised) {
@@ -62,22 +63,24 @@ TEST_F(PlugInLibraryTest, ObjectsMayBeReleasedAfterTheLibraryWasClosed) {
 
 TEST_F(PlugInLibraryTest, ItsWholeCatalogueReadsBackFromADocument) {
   host_->OpenPlugIn(PLUGIN_PATH);
-  const auto document = Document::Create(host_, folder_.Path() / "a.orvik");
+  const auto document = document::Document::Create(host_, folder_.Path() / "a.orvik");
   const auto all = document->AddTest(100);
   const auto text = document->Text();
   document->Save();
-  const auto again = Document::Open(host_, folder_.Path() / "a.orvik", DocumentFile::Use::kRead);
+  const auto again =
+      document::Document::Open(host_, folder_.Path() / "a.orvik", document::DocumentFile::Use::kRead);
   EXPECT_EQ(again->Text(), text);
   EXPECT_GT(again->Elements()->FindElement(10)->ID(), 0);
 }
 
 TEST_F(PlugInLibraryTest, LoadedElementsHaveTheUnitsOfTheCatalogue) {
   host_->OpenPlugIn(PLUGIN_PATH);
-  const auto document = Document::Create(host_, folder_.Path() / "a.orvik");
+  const auto document = document::Document::Create(host_, folder_.Path() / "a.orvik");
   const auto single = document->AddTest(410);
   const auto group = document->AddTest(400);
   document->Save();
-  const auto again = Document::Open(host_, folder_.Path() / "a.orvik", DocumentFile::Use::kRead);
+  const auto again =
+      document::Document::Open(host_, folder_.Path() / "a.orvik", document::DocumentFile::Use::kRead);
   for (const auto id : {single->ID(), group->ID(), group->ID() + 1})
     EXPECT_EQ(UnitOf(again->Find(id)), "mOhm") << "element " << id;
 }
@@ -86,14 +89,16 @@ TEST_F(PlugInLibraryTest, DocumentWithoutThePlugInLosesNothing) {
   std::string text;
   {
     host_->OpenPlugIn(PLUGIN_PATH);
-    const auto document = Document::Create(host_, folder_.Path() / "a.orvik");
+    const auto document = document::Document::Create(host_, folder_.Path() / "a.orvik");
     UnitOf(document->AddTest(400));
     document->Save();
     text = document->Text();
   }
-  const auto other = Host::Create({folder_.Path(), "", {}, {}}, nullptr);
-  EXPECT_EQ(Document::Open(other, folder_.Path() / "a.orvik", DocumentFile::Use::kRead)->Text(), text);
+  const auto other = document::Host::Create({folder_.Path(), "", {}, {}}, nullptr);
+  EXPECT_EQ(
+      document::Document::Open(other, folder_.Path() / "a.orvik", document::DocumentFile::Use::kRead)->Text(),
+      text);
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

@@ -5,13 +5,13 @@
 #include "tests/unit/host/Errors.h"
 #include "tests/unit/host/TestFolder.h"
 
-namespace bench {
+namespace host {
 namespace {
 
+using host::test::ErrorNumber;
+using host::test::Holds;
 using orvik::HostError;
 using orvik::Variant;
-using test::ErrorNumber;
-using test::Holds;
 
 constexpr auto kHive = static_cast<std::int32_t>(0x80000002U);
 
@@ -30,7 +30,7 @@ TEST_F(RegistryReaderTest, MissingKeyDoesNotOpen) {
   EXPECT_FALSE(reader.IsOpen());
   EXPECT_EQ(reader.ReadValue("v"), Variant());
   EXPECT_TRUE(reader.ValueNames().empty());
-  EXPECT_EQ(ErrorNumber([&] { reader.WriteValue("v", "1"); }), HostError::kInvalidArgument);
+  EXPECT_EQ(test::ErrorNumber([&] { reader.WriteValue("v", "1"); }), HostError::kInvalidArgument);
 }
 
 TEST_F(RegistryReaderTest, CreatedKeyIsOpenAndThereForOthers) {
@@ -79,7 +79,7 @@ TEST_F(RegistryReaderTest, DamagedStoreDoesNotOpenAndIsLogged) {
   auto reader = Reader();
   EXPECT_FALSE(reader.OpenKey(kHive, "Software\\X"));
   EXPECT_FALSE(reader.CreateKey(kHive, "Software\\X"));
-  EXPECT_TRUE(Holds(folder_.Read("error.log"), "registry.json cannot be used"));
+  EXPECT_TRUE(test::Holds(folder_.Read("error.log"), "registry.json cannot be used"));
   EXPECT_EQ(folder_.Read("registry.json"), "{ cut");
 }
 
@@ -87,9 +87,9 @@ TEST_F(RegistryReaderTest, FailedWriteIsLoggedAndPassedOn) {
   auto reader = Reader();
   ASSERT_TRUE(reader.CreateKey(kHive, "Software\\X"));
   std::filesystem::permissions(folder_.Path() / "registry.json", std::filesystem::perms::owner_read);
-  EXPECT_EQ(ErrorNumber([&] { reader.WriteValue("v", "1"); }), HostError::kPathError);
-  EXPECT_TRUE(Holds(folder_.Read("error.log"), "registry.json is write-protected"));
+  EXPECT_EQ(test::ErrorNumber([&] { reader.WriteValue("v", "1"); }), HostError::kPathError);
+  EXPECT_TRUE(test::Holds(folder_.Read("error.log"), "registry.json is write-protected"));
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

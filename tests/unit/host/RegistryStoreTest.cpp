@@ -12,15 +12,15 @@
 #include "tests/unit/host/Errors.h"
 #include "tests/unit/host/TestFolder.h"
 
-namespace bench {
+namespace host {
 namespace {
 
+using host::test::ErrorNumber;
+using host::test::ErrorText;
+using host::test::Holds;
+using host::test::TestFolder;
 using orvik::HostError;
 using orvik::Variant;
-using test::ErrorNumber;
-using test::ErrorText;
-using test::Holds;
-using test::TestFolder;
 
 constexpr auto kStoreHive = static_cast<std::int32_t>(0x80000002U);
 constexpr char kStoreKey[] = "Software\\Telvane\\orvik\\KELD(IN)";
@@ -100,8 +100,9 @@ TEST(RegistryStore, OtherKindsOfValuesAreRefused) {
   TestFolder folder;
   RegistryStore store(folder.Path());
   for (const Variant& value : {Variant(), Variant(1.5), Variant(std::vector<std::string>{"a"})})
-    EXPECT_EQ(ErrorNumber([&] { store.Write(kStoreHive, kStoreKey, "v", value); }), HostError::kTypeMismatch);
-  EXPECT_EQ(ErrorNumber([&] { store.Write(kStoreHive, kStoreKey, "v", "\xFF"); }),
+    EXPECT_EQ(test::ErrorNumber([&] { store.Write(kStoreHive, kStoreKey, "v", value); }),
+              HostError::kTypeMismatch);
+  EXPECT_EQ(test::ErrorNumber([&] { store.Write(kStoreHive, kStoreKey, "v", "\xFF"); }),
             HostError::kInvalidArgument);
   EXPECT_FALSE(store.HasKey(kStoreHive, kStoreKey));
 }
@@ -112,8 +113,8 @@ TEST(RegistryStore, WhatOthersPutIntoTheFileIsKept) {
     "keys": {"HKEY_LOCAL_MACHINE\\X": {"odd": [true], "n": 7}}})");
   RegistryStore store(folder.Path());
   store.Write(kStoreHive, "X", "m", "new");
-  EXPECT_TRUE(Holds(folder.Read("registry.json"), "\"extra\""));
-  EXPECT_TRUE(Holds(folder.Read("registry.json"), "\"odd\""));
+  EXPECT_TRUE(test::Holds(folder.Read("registry.json"), "\"extra\""));
+  EXPECT_TRUE(test::Holds(folder.Read("registry.json"), "\"odd\""));
   EXPECT_EQ(store.Read(kStoreHive, "X", "n"), Variant(std::int32_t{7}));
 }
 
@@ -123,9 +124,9 @@ TEST(RegistryStore, ValuesOfAnotherKindInTheFileAreNamed) {
     "keys": {"HKEY_LOCAL_MACHINE\\X": {"big": 2147483648, "real": 1.5, "flag": true, "min": -2147483648}}})");
   const RegistryStore store(folder.Path());
   for (const auto* name : {"big", "real", "flag"}) {
-    const auto text = ErrorText([&] { store.Read(kStoreHive, "X", name); });
-    EXPECT_TRUE(Holds(text, "registry.json"));
-    EXPECT_TRUE(Holds(text, name));
+    const auto text = test::ErrorText([&] { store.Read(kStoreHive, "X", name); });
+    EXPECT_TRUE(test::Holds(text, "registry.json"));
+    EXPECT_TRUE(test::Holds(text, name));
   }
   EXPECT_EQ(store.Read(kStoreHive, "X", "min"), Variant(std::numeric_limits<std::int32_t>::min()));
 }
@@ -136,12 +137,12 @@ TEST_P(DamagedRegistry, IsRefusedByNameAndLeftAsItIs) {
   TestFolder folder;
   folder.Write("registry.json", GetParam());
   RegistryStore store(folder.Path());
-  for (const auto& text : {ErrorText([&] { store.HasKey(kStoreHive, kStoreKey); }),
-                           ErrorText([&] { store.Read(kStoreHive, kStoreKey, "v"); }),
-                           ErrorText([&] { store.Write(kStoreHive, kStoreKey, "v", "1"); }),
-                           ErrorText([&] { store.CreateKey(kStoreHive, kStoreKey); })}) {
-    EXPECT_TRUE(Holds(text, "registry.json cannot be used"));
-    EXPECT_TRUE(Holds(text, "left as it is"));
+  for (const auto& text : {test::ErrorText([&] { store.HasKey(kStoreHive, kStoreKey); }),
+                           test::ErrorText([&] { store.Read(kStoreHive, kStoreKey, "v"); }),
+                           test::ErrorText([&] { store.Write(kStoreHive, kStoreKey, "v", "1"); }),
+                           test::ErrorText([&] { store.CreateKey(kStoreHive, kStoreKey); })}) {
+    EXPECT_TRUE(test::Holds(text, "registry.json cannot be used"));
+    EXPECT_TRUE(test::Holds(text, "left as it is"));
   }
   EXPECT_EQ(folder.Read("registry.json"), GetParam());
 }
@@ -162,7 +163,7 @@ TEST(RegistryStore, FolderInTheFilesPlaceIsRefused) {
   TestFolder folder;
   std::filesystem::create_directory(folder.Path() / "registry.json");
   const RegistryStore store(folder.Path());
-  EXPECT_TRUE(Holds(ErrorText([&] { store.HasKey(kStoreHive, kStoreKey); }), "registry.json"));
+  EXPECT_TRUE(test::Holds(test::ErrorText([&] { store.HasKey(kStoreHive, kStoreKey); }), "registry.json"));
 }
 
 TEST(RegistryStore, HeldLockIsReportedAndNothingIsWritten) {
@@ -171,8 +172,8 @@ TEST(RegistryStore, HeldLockIsReportedAndNothingIsWritten) {
   store.Write(kStoreHive, kStoreKey, "v", "old");
   const int lock = open((folder.Path() / "registry.lock").c_str(), O_RDWR);
   ASSERT_EQ(flock(lock, LOCK_EX), 0);
-  const auto text = ErrorText([&] { store.Write(kStoreHive, kStoreKey, "v", "new"); });
-  EXPECT_TRUE(Holds(text, "registry.lock is held by another program"));
+  const auto text = test::ErrorText([&] { store.Write(kStoreHive, kStoreKey, "v", "new"); });
+  EXPECT_TRUE(test::Holds(text, "registry.lock is held by another program"));
   EXPECT_EQ(store.Read(kStoreHive, kStoreKey, "v"), Variant("old")) << "reading needs no lock";
   close(lock);
   store.Write(kStoreHive, kStoreKey, "v", "new");
@@ -203,7 +204,7 @@ TEST(RegistryStore, TwoProgramsLoseNothingOfEachOther) {
       while (written < kValues) {
         const auto name = std::to_string(program) + "-" + std::to_string(written);
         // On a loaded machine the wait for the others may run out: then it is tried again.
-        if (ErrorNumber([&] { store.Write(kStoreHive, kInner, name, written); }) == 0) ++written;
+        if (test::ErrorNumber([&] { store.Write(kStoreHive, kInner, name, written); }) == 0) ++written;
       }
       _exit(0);
     }
@@ -263,4 +264,4 @@ TEST(RegistryStore, StandInIsReadAndMakesTheKeyExistButIsNotWritten) {
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

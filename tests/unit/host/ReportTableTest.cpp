@@ -7,20 +7,20 @@
 #include "tests/support/Seed.h"
 #include "tests/unit/host/Errors.h"
 
-namespace bench {
+namespace host {
 namespace {
 
+using host::report::ParseFormat;
+using host::report::ParseRows;
+using host::report::PlainText;
+using host::test::ErrorNumber;
+using host::test::ErrorText;
+using host::test::Holds;
 using orvik::HostError;
 using orvik::platform::Alignment;
-using report::ParseFormat;
-using report::ParseRows;
-using report::PlainText;
-using test::ErrorNumber;
-using test::ErrorText;
-using test::Holds;
 
 TEST(ReportTable, ColumnFormatNamesAlignmentRuleAndWidth) {
-  const auto columns = ParseFormat("<+560|<2240|>+1569|^+1569|<+!1569|>!7;");
+  const auto columns = report::ParseFormat("<+560|<2240|>+1569|^+1569|<+!1569|>!7;");
   ASSERT_EQ(columns.size(), 6U);
   EXPECT_EQ(columns[0].alignment, Alignment::kLeft);
   EXPECT_TRUE(columns[0].ruled);
@@ -37,34 +37,35 @@ TEST(ReportTable, ColumnFormatNamesAlignmentRuleAndWidth) {
 TEST(ReportTable, MalformedColumnFormatsAreRefused) {
   for (const auto* format :
        {"", ";", "<100", "100;", "<;", "<x;", "<-1;", "<100|;", "<100||<100;", "*100;", "<!+1;"})
-    EXPECT_TRUE(Holds(ErrorText([&] { ParseFormat(format); }), "malformed")) << format;
+    EXPECT_TRUE(test::Holds(test::ErrorText([&] { report::ParseFormat(format); }), "malformed")) << format;
 }
 
 TEST(ReportTable, CellsAreSeparatedByBarsAndRowsEndWithSemicolons) {
-  const auto rows = ParseRows("|a|b;c;", 3);
+  const auto rows = report::ParseRows("|a|b;c;", 3);
   ASSERT_EQ(rows.size(), 2U);
   ASSERT_EQ(rows[0].size(), 3U);
-  EXPECT_EQ(PlainText(rows[0][0]), "");
-  EXPECT_EQ(PlainText(rows[0][2]), "b");
+  EXPECT_EQ(report::PlainText(rows[0][0]), "");
+  EXPECT_EQ(report::PlainText(rows[0][2]), "b");
   ASSERT_EQ(rows[1].size(), 1U);
-  EXPECT_TRUE(ParseRows("", 1).empty());
+  EXPECT_TRUE(report::ParseRows("", 1).empty());
 }
 
 TEST(ReportTable, GroupsCarryStyles) {
-  const auto rows = ParseRows("|{\\i\\b Result:}|{\\b x} y;", 3);
+  const auto rows = report::ParseRows("|{\\i\\b Result:}|{\\b x} y;", 3);
   EXPECT_EQ(rows[0][1], (report::Cell{{"Result:", true, true}}));
   EXPECT_EQ(rows[0][2], (report::Cell{{"x", true, false}, {" y", false, false}}));
 }
 
 TEST(ReportTable, BlanksOfTheTextStay) {
-  EXPECT_EQ(PlainText(ParseRows("      text;", 1)[0][0]), "      text");
-  EXPECT_EQ(PlainText(ParseRows("{\\b  two};", 1)[0][0]), " two") << "one blank belongs to the control";
+  EXPECT_EQ(report::PlainText(report::ParseRows("      text;", 1)[0][0]), "      text");
+  EXPECT_EQ(report::PlainText(report::ParseRows("{\\b  two};", 1)[0][0]), " two")
+      << "one blank belongs to the control";
 }
 
 TEST(ReportTable, MalformedRowsAreRefused) {
   for (const auto* rows : {"a", "a|b", "{a;", "a};", "{{a}};", "{a|b};", "\\b a;", "{\\u a};", "a;b", "a\\"})
-    EXPECT_TRUE(Holds(ErrorText([&] { ParseRows(rows, 9); }), "malformed")) << rows;
-  EXPECT_TRUE(Holds(ErrorText([] { ParseRows("a|b|c;", 2); }), "more cells"));
+    EXPECT_TRUE(test::Holds(test::ErrorText([&] { report::ParseRows(rows, 9); }), "malformed")) << rows;
+  EXPECT_TRUE(test::Holds(test::ErrorText([] { report::ParseRows("a|b|c;", 2); }), "more cells"));
 }
 
 TEST(ReportTable, EscapedTextComesOutUnchangedWhateverItHolds) {
@@ -73,21 +74,21 @@ TEST(ReportTable, EscapedTextComesOutUnchangedWhateverItHolds) {
   for (int round = 0; round < 5000; ++round) {
     std::string text;
     for (auto left = random() % 10; left > 0; --left) text += letters[random() % letters.size()];
-    ReportObject report;
+    report::ReportObject report;
     report.AddTable("<100|<100;", "{\\b " + report.Escape(text) + "};", "x|" + report.Escape(text) + ";");
-    ASSERT_EQ(PlainText(report.Tables()[0].rows[0][1]), text);
-    ASSERT_EQ(PlainText(report.Tables()[0].header[0][0]), text);
+    ASSERT_EQ(report::PlainText(report.Tables()[0].rows[0][1]), text);
+    ASSERT_EQ(report::PlainText(report.Tables()[0].header[0][0]), text);
   }
 }
 
 TEST(ReportObject, KnowsTheUsableWidthAndNoOtherMetric) {
-  const ReportObject report;
+  const report::ReportObject report;
   EXPECT_EQ(report.Metric(10), 9637) << "170 mm in twips";
-  EXPECT_EQ(ErrorNumber([&] { report.Metric(9); }), HostError::kInvalidArgument);
+  EXPECT_EQ(test::ErrorNumber([&] { report.Metric(9); }), HostError::kInvalidArgument);
 }
 
 TEST(ReportObject, LayoutHoldsForTheTablesThatFollow) {
-  ReportObject report;
+  report::ReportObject report;
   report.AddTable("<1;", "", "a;");
   report.SetTableBorder(7);
   report.SetTableIndent(30);
@@ -103,10 +104,10 @@ TEST(ReportObject, LayoutHoldsForTheTablesThatFollow) {
 }
 
 TEST(ReportObject, RefusedTableIsNotAdded) {
-  ReportObject report;
-  EXPECT_NE(ErrorNumber([&] { report.AddTable("<1;", "a|b;", ""); }), 0);
+  report::ReportObject report;
+  EXPECT_NE(test::ErrorNumber([&] { report.AddTable("<1;", "a|b;", ""); }), 0);
   EXPECT_TRUE(report.Tables().empty());
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

@@ -2,7 +2,7 @@
 #include "tests/unit/host/RunSamples.h"
 
 // What gives a change of the record away.
-namespace bench::test::runs {
+namespace host::test::runs {
 namespace {
 
 /// The three runs, after something was done to them.
@@ -189,4 +189,4 @@ TEST(RunChain, KeepsWhatAnotherProgramAdded) {
 }
 
 }  // namespace
-}  // namespace bench::test::runs
+}  // namespace host::test::runs

@@ -6,13 +6,13 @@
 #include "host/xml/XmlDocument.h"
 #include "tests/unit/host/Errors.h"
 
-namespace bench {
+namespace host {
 namespace {
 
 TEST(ServiceRecord, TakesTheNameThatTheElementHas) {
-  const auto information = std::make_shared<InformationRecord>();
+  const auto information = std::make_shared<elements::InformationRecord>();
   information->SetDisplayName("Earth leakage");
-  ServiceRecord record;
+  elements::ServiceRecord record;
   record.Initialize(information, "NA", "/ 5.3");
   information->SetDisplayName("renamed later");
   EXPECT_EQ(record.Name(), "Earth leakage");
@@ -21,25 +21,25 @@ TEST(ServiceRecord, TakesTheNameThatTheElementHas) {
 }
 
 TEST(ServiceRecord, SavedRecordReadsBackWithWhatOthersAdded) {
-  XmlDocument document;
+  xml::XmlDocument document;
   ASSERT_TRUE(document.LoadFromString(
       "<r><ServiceRecord Name='n' Code='P' Value='/ 5.3' Extra='e'><More/></ServiceRecord></r>"));
-  ServiceRecord record;
+  elements::ServiceRecord record;
   record.Load(document.Root()->FirstChild(), nullptr);
   EXPECT_EQ(record.Name(), "n");
   EXPECT_EQ(record.Code(), "P");
   EXPECT_EQ(record.Value(), "/ 5.3");
-  XmlDocument copy;
+  xml::XmlDocument copy;
   const auto saved = record.Save(copy.CreateRoot("r"));
   EXPECT_EQ(saved->Name(), "ServiceRecord");
   EXPECT_EQ(copy.SaveToString(), document.SaveToString());
 }
 
 TEST(ServiceRecord, NeedsAnInformationRecord) {
-  ServiceRecord record;
+  elements::ServiceRecord record;
   EXPECT_EQ(test::ErrorNumber([&] { record.Initialize(nullptr, "P", ""); }),
             orvik::HostError::kEmptyReference);
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

@@ -8,12 +8,12 @@
 #include "tests/unit/host/Errors.h"
 #include "tests/unit/host/HostFixture.h"
 
-namespace bench {
+namespace host {
 namespace {
 
+using host::test::ErrorNumber;
+using host::test::Holds;
 using orvik::HostError;
-using test::ErrorNumber;
-using test::Holds;
 
 class StandardCollTest : public test::HostFixture {
  protected:
@@ -42,7 +42,7 @@ TEST_F(StandardCollTest, CountsFromOneInTheOrderOfAdding) {
   EXPECT_EQ(coll->item(1), first);
   EXPECT_EQ(coll->item(2), second);
   for (const std::int32_t index : {0, 3, -1})
-    EXPECT_EQ(ErrorNumber([&] { coll->item(index); }), HostError::kSubscriptOutOfRange);
+    EXPECT_EQ(test::ErrorNumber([&] { coll->item(index); }), HostError::kSubscriptOutOfRange);
 }
 
 TEST_F(StandardCollTest, FindsByBothTexts) {
@@ -69,7 +69,7 @@ TEST_F(StandardCollTest, RemovesAStandardAndPassesOverOthers) {
 
 TEST_F(StandardCollTest, EmptyStandardIsRefused) {
   const auto coll = Coll();
-  EXPECT_EQ(ErrorNumber([&] { coll->Add(nullptr); }), HostError::kTypeMismatch);
+  EXPECT_EQ(test::ErrorNumber([&] { coll->Add(nullptr); }), HostError::kTypeMismatch);
   EXPECT_EQ(coll->Count(), 0);
 }
 
@@ -88,12 +88,12 @@ TEST_F(StandardCollTest, SavedCollectionReadsBackWithWhatOthersAdded) {
       "<r><Standards More=\"1\"><Standard Name=\"a\" Description=\"d\" Number=\"1\" X=\"2\">"
       "<Limit Key=\"k\" Unit=\"V\" Low=\"1\" High=\"2\" Y=\"3\" /><Note>n</Note></Standard><Other "
       "/></Standards></r>";
-  XmlDocument document;
+  xml::XmlDocument document;
   ASSERT_TRUE(document.LoadFromString(text));
   const auto coll = Coll();
   coll->Load(document.Root()->FirstChild(), nullptr);
   EXPECT_EQ(coll->Count(), 1);
-  XmlDocument copy;
+  xml::XmlDocument copy;
   const auto saved = coll->Save(copy.CreateRoot("r"));
   EXPECT_EQ(saved->Name(), "Standards");
   EXPECT_EQ(copy.SaveToString(), document.SaveToString());
@@ -101,7 +101,7 @@ TEST_F(StandardCollTest, SavedCollectionReadsBackWithWhatOthersAdded) {
 }
 
 TEST_F(StandardCollTest, LoadReadsFromANodeOfAnyName) {
-  XmlDocument document;
+  xml::XmlDocument document;
   ASSERT_TRUE(document.LoadFromString("<ExpectedResult><Standard Name='a'/></ExpectedResult>"));
   const auto coll = Coll();
   coll->Load(document.Root(), nullptr);
@@ -113,9 +113,9 @@ TEST_F(StandardCollTest, LoadReadsFromANodeOfAnyName) {
 TEST_F(StandardCollTest, MalformedStandardsAreRefused) {
   for (const auto* text :
        {"<S><Standard Number='x'/></S>", "<S><Standard><Limit High='abc'/></Standard></S>"}) {
-    XmlDocument document;
+    xml::XmlDocument document;
     ASSERT_TRUE(document.LoadFromString(text));
-    EXPECT_NE(ErrorNumber([&] { Coll()->Load(document.Root(), nullptr); }), 0) << text;
+    EXPECT_NE(test::ErrorNumber([&] { Coll()->Load(document.Root(), nullptr); }), 0) << text;
   }
 }
 
@@ -123,11 +123,11 @@ TEST_F(StandardCollTest, PrintsTheLimitsOfTheKey) {
   const auto coll = Coll();
   coll->Add(Standard("IEC|62353", "class I; BF", "", "300"));
   coll->Add(Standard("other", "", "1", "2", "OTHER KEY"));
-  const auto report = std::make_shared<ReportObject>();
+  const auto report = std::make_shared<report::ReportObject>();
   coll->Print(report, nullptr, {"NO LIMIT KEY", "Test {Limits}", "0"});
   ASSERT_EQ(report->Tables().size(), 1U);
   EXPECT_EQ(report->Tables()[0].border, 7);
-  EXPECT_EQ(TextTable(report::Shown(report->Tables()[0]), 100),
+  EXPECT_EQ(report::TextTable(report::Shown(report->Tables()[0]), 100),
             "+-------------------------+-----------+------------+------+\n"
             "| Test {Limits}           | Low value | High value | Unit |\n"
             "+=========================+===========+============+======+\n"
@@ -138,11 +138,11 @@ TEST_F(StandardCollTest, PrintsTheLimitsOfTheKey) {
 TEST_F(StandardCollTest, PrintsNothingWithoutLimitsOfTheKeyAndRefusesAShortHeader) {
   const auto coll = Coll();
   coll->Add(Standard("other", "", "1", "2", "OTHER KEY"));
-  const auto report = std::make_shared<ReportObject>();
+  const auto report = std::make_shared<report::ReportObject>();
   coll->Print(report, nullptr, {"NO LIMIT KEY", "Limits", "0"});
   EXPECT_TRUE(report->Tables().empty());
-  EXPECT_NE(ErrorNumber([&] { coll->Print(report, nullptr, {"NO LIMIT KEY"}); }), 0);
+  EXPECT_NE(test::ErrorNumber([&] { coll->Print(report, nullptr, {"NO LIMIT KEY"}); }), 0);
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

@@ -4,22 +4,23 @@
 #include "host/standards/Standard.h"
 #include "tests/unit/host/Errors.h"
 
-namespace bench {
+namespace host {
 namespace {
 
+using host::test::ErrorNumber;
 using orvik::HostError;
-using test::ErrorNumber;
 
 constexpr char kLimitKey[] = "NO LIMIT KEY";
 
-std::shared_ptr<Limit> MakeLimit(const std::string& key, const std::string& low, const std::string& high) {
-  auto limit = std::make_shared<Limit>();
+std::shared_ptr<standards::Limit> MakeLimit(const std::string& key, const std::string& low,
+                                            const std::string& high) {
+  auto limit = std::make_shared<standards::Limit>();
   limit->Initialize(key, "V", low, high);
   return limit;
 }
 
 TEST(Standard, KeepsItsIdentifyingTexts) {
-  Standard standard;
+  standards::Standard standard;
   standard.Initialize("IEC 62353", "class I, BF", 1);
   EXPECT_EQ(standard.Name(), "IEC 62353");
   EXPECT_EQ(standard.Description(), "class I, BF");
@@ -27,14 +28,14 @@ TEST(Standard, KeepsItsIdentifyingTexts) {
 }
 
 TEST(Standard, WithoutLimitsThereIsNothingToCheck) {
-  Standard standard;
+  standards::Standard standard;
   EXPECT_EQ(standard.Evaluate(1, kLimitKey, {}), 0);
   standard.AddLimit(MakeLimit(kLimitKey, "", ""));
   EXPECT_EQ(standard.Evaluate(1, kLimitKey, {}), 0);
 }
 
 TEST(Standard, LimitsOfAnotherKeyAreNotLookedAt) {
-  Standard standard;
+  standards::Standard standard;
   standard.AddLimit(MakeLimit("OTHER", "", "1"));
   EXPECT_EQ(standard.Evaluate(99, kLimitKey, {}), 0);
   EXPECT_EQ(standard.Evaluate(99, "OTHER", {}), 2);
@@ -42,7 +43,7 @@ TEST(Standard, LimitsOfAnotherKeyAreNotLookedAt) {
 }
 
 TEST(Standard, OneBrokenBoundFailsTheStandard) {
-  Standard standard;
+  standards::Standard standard;
   standard.AddLimit(MakeLimit(kLimitKey, "", "10"));
   standard.AddLimit(MakeLimit(kLimitKey, "5", ""));
   standard.AddLimit(MakeLimit(kLimitKey, "", ""));
@@ -52,7 +53,7 @@ TEST(Standard, OneBrokenBoundFailsTheStandard) {
 }
 
 TEST(Standard, NominalValueIsHandedToTheLimits) {
-  Standard standard;
+  standards::Standard standard;
   const auto limit = MakeLimit(kLimitKey, "", "");
   limit->SetNominal(100.0);
   limit->SetBounds("90%", "");
@@ -62,18 +63,18 @@ TEST(Standard, NominalValueIsHandedToTheLimits) {
 }
 
 TEST(Standard, LimitsAreCountedFromOne) {
-  Standard standard;
+  standards::Standard standard;
   const auto limit = MakeLimit(kLimitKey, "1", "2");
   standard.AddLimit(limit);
   EXPECT_EQ(standard.LimitCount(), 1);
   EXPECT_EQ(standard.Limit(1), limit);
-  EXPECT_EQ(ErrorNumber([&] { standard.Limit(0); }), HostError::kSubscriptOutOfRange);
-  EXPECT_EQ(ErrorNumber([&] { standard.Limit(2); }), HostError::kSubscriptOutOfRange);
-  EXPECT_EQ(ErrorNumber([&] { standard.AddLimit(nullptr); }), HostError::kTypeMismatch);
+  EXPECT_EQ(test::ErrorNumber([&] { standard.Limit(0); }), HostError::kSubscriptOutOfRange);
+  EXPECT_EQ(test::ErrorNumber([&] { standard.Limit(2); }), HostError::kSubscriptOutOfRange);
+  EXPECT_EQ(test::ErrorNumber([&] { standard.AddLimit(nullptr); }), HostError::kTypeMismatch);
 }
 
 TEST(Standard, CopyIsDeep) {
-  Standard standard;
+  standards::Standard standard;
   standard.Initialize("n", "d", 3);
   standard.AddLimit(MakeLimit(kLimitKey, "1", "2"));
   const auto copy = standard.Copy();
@@ -85,4 +86,4 @@ TEST(Standard, CopyIsDeep) {
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

@@ -8,12 +8,12 @@
 #include "tests/unit/host/Errors.h"
 #include "tests/unit/host/HostFixture.h"
 
-namespace bench {
+namespace host {
 namespace {
 
+using host::test::ErrorNumber;
+using host::test::Holds;
 using orvik::HostError;
-using test::ErrorNumber;
-using test::Holds;
 
 class TestContainerTest : public test::HostFixture {
  protected:
@@ -44,7 +44,7 @@ TEST_F(TestContainerTest, KeepsChildrenInOrderAndCountsFromOne) {
   const auto container = WithChildren(3);
   EXPECT_EQ(Ids(container), (Order{1, 2, 3}));
   for (const std::int32_t index : {0, -1, 4})
-    EXPECT_EQ(ErrorNumber([&] { container->item(index); }), HostError::kSubscriptOutOfRange);
+    EXPECT_EQ(test::ErrorNumber([&] { container->item(index); }), HostError::kSubscriptOutOfRange);
 }
 
 TEST_F(TestContainerTest, AddsBeforeAndAfterAnotherChild) {
@@ -53,10 +53,10 @@ TEST_F(TestContainerTest, AddsBeforeAndAfterAnotherChild) {
   EXPECT_EQ(Ids(container), (Order{3, 1, 2}));
   container->Add(Element(4), {}, std::int32_t{1});
   EXPECT_EQ(Ids(container), (Order{3, 1, 4, 2}));
-  EXPECT_EQ(ErrorNumber([&] { container->Add(Element(5), std::int32_t{99}, {}); }),
+  EXPECT_EQ(test::ErrorNumber([&] { container->Add(Element(5), std::int32_t{99}, {}); }),
             HostError::kInvalidArgument);
-  EXPECT_EQ(ErrorNumber([&] { container->Add(Element(5), {}, "1"); }), HostError::kTypeMismatch);
-  EXPECT_EQ(ErrorNumber([&] { container->Add(nullptr, {}, {}); }), HostError::kEmptyReference);
+  EXPECT_EQ(test::ErrorNumber([&] { container->Add(Element(5), {}, "1"); }), HostError::kTypeMismatch);
+  EXPECT_EQ(test::ErrorNumber([&] { container->Add(nullptr, {}, {}); }), HostError::kEmptyReference);
   EXPECT_EQ(Ids(container), (Order{3, 1, 4, 2}));
 }
 
@@ -96,11 +96,11 @@ TEST_F(TestContainerTest, RefusesWhatStandsAboveIt) {
   In(middle)->Add(bottom, {}, {});
   for (const auto& above : {top, middle, bottom}) {
     const auto base = In(host_->Elements()->BaseOf(bottom));
-    EXPECT_EQ(ErrorNumber([&] { base->Add(above, {}, {}); }), HostError::kInvalidArgument);
+    EXPECT_EQ(test::ErrorNumber([&] { base->Add(above, {}, {}); }), HostError::kInvalidArgument);
   }
   EXPECT_EQ(In(bottom)->Count(), 0);
   const auto plain = Container();
-  EXPECT_EQ(ErrorNumber([&] { plain->Add(orvik::As<orvik::ITestElement>(plain), {}, {}); }),
+  EXPECT_EQ(test::ErrorNumber([&] { plain->Add(orvik::As<orvik::ITestElement>(plain), {}, {}); }),
             HostError::kInvalidArgument);
 }
 
@@ -197,7 +197,7 @@ TEST_F(TestContainerTest, SavedTreeReadsBackWithItsClasses) {
   In(inner)->Add(Element(3, 210), {}, {});
   In(top)->Add(Element(4), {}, {});
   In(top)->Add(inner, {}, {});
-  XmlDocument document;
+  xml::XmlDocument document;
   const auto saved = top->Save(document.CreateRoot("Elements"));
   const auto loaded = Sequence(0);
   loaded->Load(saved, nullptr);
@@ -212,7 +212,7 @@ TEST_F(TestContainerTest, LoadedElementsGetWhatOnlyTheCatalogueKnows) {
   const auto top = Sequence(1, 100);
   In(top)->Add(Element(2, 120), {}, {});
   In(top)->Add(Sequence(3, 200), {}, {});
-  XmlDocument document;
+  xml::XmlDocument document;
   const auto loaded = Sequence(0);
   loaded->Load(top->Save(document.CreateRoot("Elements")), nullptr);
   EXPECT_EQ(orvik::As<sample::ISampleTest>(In(loaded)->item(1))->sUnit, "mA");
@@ -225,7 +225,7 @@ TEST_F(TestContainerTest, ElementOutsideTheCatalogueIsCreatedByItsClass) {
   const auto top = Sequence(1);
   In(top)->Add(Element(2, 999), {}, {});
   In(top)->Add(Sequence(3, 110), {}, {});
-  XmlDocument document;
+  xml::XmlDocument document;
   const auto loaded = Sequence(0);
   loaded->Load(top->Save(document.CreateRoot("Elements")), nullptr);
   EXPECT_EQ(In(loaded)->item(1)->ClassID(), sample::kElement);
@@ -240,17 +240,17 @@ TEST_F(TestContainerTest, ElementOfAnUnknownPlugInIsKeptAsItIs) {
       "      <Whatever>text</Whatever>\n"
       "      <TestElement ID=\"6\" TestID=\"8\" PlugInID=\"GONE\" Class=\"gone.Test\" />\n"
       "    </TestElement>";
-  XmlDocument document;
+  xml::XmlDocument document;
   ASSERT_TRUE(document.LoadFromString("<TestElement ID='1' TestID='100' PlugInID='SAMPLE'>" + unknown +
                                       "</TestElement>"));
   const auto loaded = Sequence(0);
   loaded->Load(document.Root(), nullptr);
-  EXPECT_TRUE(Holds(Saved(loaded), unknown));
-  EXPECT_TRUE(Holds(Saved(loaded->Clone()), unknown));
+  EXPECT_TRUE(test::Holds(Saved(loaded), unknown));
+  EXPECT_TRUE(test::Holds(Saved(loaded->Clone()), unknown));
   const auto element = In(loaded)->FindElement(5);
-  EXPECT_TRUE(Holds(element->Information()->DisplayName(), "Old test (unknown: the plug-in \"GONE\""));
+  EXPECT_TRUE(test::Holds(element->Information()->DisplayName(), "Old test (unknown: the plug-in \"GONE\""));
   EXPECT_EQ(element->Parent(), loaded);
-  EXPECT_EQ(ErrorNumber([&] { element->Perform(nullptr); }), HostError::kNoSuchProperty);
+  EXPECT_EQ(test::ErrorNumber([&] { element->Perform(nullptr); }), HostError::kNoSuchProperty);
 }
 
 TEST_F(TestContainerTest, TenThousandLevelsAreSearchedAndLetGo) {
@@ -271,11 +271,11 @@ TEST_F(TestContainerTest, TenThousandLevelsBuiltFromBelowAreLetGo) {
 }
 
 TEST_F(TestContainerTest, AThousandLevelsAreClonedSavedAndLoaded) {
-  const auto top = Chain(kDeepestNesting);
+  const auto top = Chain(elements::kDeepestNesting);
   const auto text = Saved(top);
-  EXPECT_TRUE(Holds(text, "ID=\"1000\""));
+  EXPECT_TRUE(test::Holds(text, "ID=\"1000\""));
   EXPECT_EQ(Saved(top->Clone()), text);
-  XmlDocument document;
+  xml::XmlDocument document;
   ASSERT_TRUE(document.LoadFromString(text));
   const auto loaded = Sequence(0);
   loaded->Load(document.Root()->FirstChild(), nullptr);
@@ -285,21 +285,21 @@ TEST_F(TestContainerTest, AThousandLevelsAreClonedSavedAndLoaded) {
 
 TEST_F(TestContainerTest, DeeperTreesAreRefusedBeforeAnythingIsDone) {
   const auto base = host_->Elements()->BaseOf(Chain(1));
-  const auto top = Chain(kDeepestNesting + 2);
+  const auto top = Chain(elements::kDeepestNesting + 2);
   const auto inside = host_->Elements()->BaseOf(top);
-  EXPECT_TRUE(Holds(test::ErrorText([&] { inside->Clone(); }), "more than 1000 levels"));
-  XmlDocument document;
+  EXPECT_TRUE(test::Holds(test::ErrorText([&] { inside->Clone(); }), "more than 1000 levels"));
+  xml::XmlDocument document;
   const auto root = document.CreateRoot("Elements");
-  EXPECT_TRUE(Holds(test::ErrorText([&] { inside->Save(root); }), "more than 1000 levels"));
+  EXPECT_TRUE(test::Holds(test::ErrorText([&] { inside->Save(root); }), "more than 1000 levels"));
   EXPECT_EQ(root->ChildCount(), 0);
   EXPECT_FALSE(host_->Elements()->Trouble().All().empty()) << "noted for the document";
 }
 
 TEST_F(TestContainerTest, DeepOperationCanBeRepeatedAfterARefusal) {
-  const auto deep = host_->Elements()->BaseOf(Chain(kDeepestNesting + 2));
-  for (int i = 0; i < 3; ++i) EXPECT_NE(ErrorNumber([&] { deep->Clone(); }), 0);
-  EXPECT_NE(Chain(kDeepestNesting)->Clone(), nullptr);
+  const auto deep = host_->Elements()->BaseOf(Chain(elements::kDeepestNesting + 2));
+  for (int i = 0; i < 3; ++i) EXPECT_NE(test::ErrorNumber([&] { deep->Clone(); }), 0);
+  EXPECT_NE(Chain(elements::kDeepestNesting)->Clone(), nullptr);
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

@@ -10,13 +10,13 @@
 #include "tests/unit/host/Errors.h"
 #include "tests/unit/host/HostFixture.h"
 
-namespace bench {
+namespace host {
 namespace {
 
+using host::test::ErrorNumber;
+using host::test::Holds;
 using orvik::HostError;
 using orvik::Variant;
-using test::ErrorNumber;
-using test::Holds;
 
 class TestElementTest : public test::HostFixture {
  protected:
@@ -26,7 +26,7 @@ class TestElementTest : public test::HostFixture {
 
   /// Loads an element of the plug-in from a text and returns what it saves.
   std::string Reloaded(const std::string& text) {
-    XmlDocument document;
+    xml::XmlDocument document;
     EXPECT_TRUE(document.LoadFromString("<Elements>" + text + "</Elements>")) << document.LastError();
     const auto element = Element(0);
     element->Load(document.Root()->FirstChild(), nullptr);
@@ -86,7 +86,7 @@ TEST_F(TestElementTest, CannotBePlacedBelowItself) {
 }
 
 TEST_F(TestElementTest, HasNoTestOfItsOwn) {
-  EXPECT_EQ(ErrorNumber([&] { Base()->Perform(nullptr); }), HostError::kNoSuchProperty);
+  EXPECT_EQ(test::ErrorNumber([&] { Base()->Perform(nullptr); }), HostError::kNoSuchProperty);
 }
 
 TEST_F(TestElementTest, SavesAllPartsInTheirOrder) {
@@ -97,8 +97,8 @@ TEST_F(TestElementTest, SavesAllPartsInTheirOrder) {
   const auto result = std::make_shared<sample::SampleResult>();
   result->lStatus = 2;
   host_->Elements()->BaseOf(element)->SetResult(result);
-  EXPECT_TRUE(Holds(Saved(element),
-                    R"(  <TestElement ID="3" TestID="110" PlugInID="SAMPLE" Class="sample.Element">
+  EXPECT_TRUE(test::Holds(Saved(element),
+                          R"(  <TestElement ID="3" TestID="110" PlugInID="SAMPLE" Class="sample.Element">
     <Information DisplayName="A &amp; B" />
     <Auxiliary Print="1" />
     <Configuration>
@@ -133,10 +133,10 @@ constexpr char kWhole[] = R"(<TestElement ID="9" TestID="120" PlugInID="SAMPLE" 
     </ResultItem>
   </TestElement>)";
 
-TEST_F(TestElementTest, SavedElementReadsBackWhole) { EXPECT_TRUE(Holds(Reloaded(kWhole), kWhole)); }
+TEST_F(TestElementTest, SavedElementReadsBackWhole) { EXPECT_TRUE(test::Holds(Reloaded(kWhole), kWhole)); }
 
 TEST_F(TestElementTest, LoadedElementAnswersWhatWasSaved) {
-  XmlDocument document;
+  xml::XmlDocument document;
   ASSERT_TRUE(document.LoadFromString(kWhole));
   const auto element = Element(0);
   element->Load(document.Root(), nullptr);
@@ -167,11 +167,11 @@ TEST_F(TestElementTest, WhatItDoesNotKnowIsWrittenBack) {
   for (const auto* part : {"New=\"1\"", "<!--by hand-->", "Colour=\"red\"", "<Hint />", "Owner=\"me\"",
                            "<HostPart x=\"1\" />", "Signed=\"yes\"", "<Signature>abc</Signature>",
                            "<File name=\"a\" />", "ID=\"10\" TestID=\"1\" PlugInID=\"OTHER\" Class=\"o.E\""})
-    EXPECT_TRUE(Holds(text, part));
+    EXPECT_TRUE(test::Holds(text, part));
 }
 
 TEST_F(TestElementTest, LoadingAgainKeepsNothingOfBefore) {
-  XmlDocument first, second;
+  xml::XmlDocument first, second;
   ASSERT_TRUE(first.LoadFromString(kWhole));
   ASSERT_TRUE(second.LoadFromString("<TestElement ID='2' TestID='110' PlugInID='SAMPLE'/>"));
   const auto element = Element(0);
@@ -183,15 +183,15 @@ TEST_F(TestElementTest, LoadingAgainKeepsNothingOfBefore) {
 }
 
 TEST_F(TestElementTest, LeftoversOfAResultGoWithTheResult) {
-  XmlDocument document;
+  xml::XmlDocument document;
   ASSERT_TRUE(
       document.LoadFromString("<TestElement ID='2' TestID='110'><ResultItem><Status>1</Status>"
                               "<Signature/></ResultItem></TestElement>"));
   const auto element = Element(0);
   element->Load(document.Root(), nullptr);
-  EXPECT_TRUE(Holds(Saved(element), "Signature"));
+  EXPECT_TRUE(test::Holds(Saved(element), "Signature"));
   host_->Elements()->BaseOf(element)->SetResult(std::make_shared<sample::SampleResult>());
-  EXPECT_FALSE(Holds(Saved(element), "Signature"));
+  EXPECT_FALSE(test::Holds(Saved(element), "Signature"));
 }
 
 TEST_F(TestElementTest, FaultsAreNotedEvenWhenThePlugInPassesOverThem) {
@@ -203,17 +203,17 @@ TEST_F(TestElementTest, FaultsAreNotedEvenWhenThePlugInPassesOverThem) {
         "Low='x'/></Standard></ExpectedResult>"
         "</TestElement>"}) {
     host_->Elements()->Trouble().Clear();
-    XmlDocument document;
+    xml::XmlDocument document;
     ASSERT_TRUE(document.LoadFromString(text));
     const auto element = Element(0);
-    EXPECT_EQ(ErrorNumber([&] { element->Load(document.Root(), nullptr); }), 0);
+    EXPECT_EQ(test::ErrorNumber([&] { element->Load(document.Root(), nullptr); }), 0);
     ASSERT_FALSE(host_->Elements()->Trouble().All().empty()) << text;
     EXPECT_GE(host_->Elements()->Trouble().All().front().offset, 0) << text;
   }
 }
 
 TEST_F(TestElementTest, CloneIsDeepAndKnowsNoParent) {
-  XmlDocument document;
+  xml::XmlDocument document;
   ASSERT_TRUE(document.LoadFromString(kWhole));
   const auto parent = Sequence(1);
   const auto element = Element(0);
@@ -230,17 +230,17 @@ TEST_F(TestElementTest, CloneIsDeepAndKnowsNoParent) {
   copy->Information()->SetDisplayName("other");
   copy->SetID(77);
   host_->Elements()->BaseOf(copy)->Auxiliary()->SetPrintElement(true);
-  EXPECT_TRUE(Holds(Saved(element), kWhole));
+  EXPECT_TRUE(test::Holds(Saved(element), kWhole));
 }
 
 TEST_F(TestElementTest, ResultOfAnUnknownClassIsNotLostInSilence) {
   const auto base = Base();
   base->SetResult(std::make_shared<sample::SampleResult>());
   EXPECT_NE(base->Clone(), nullptr);
-  auto other = Host::Create({folder_.Path(), "", {}, {}}, nullptr);
+  auto other = document::Host::Create({folder_.Path(), "", {}, {}}, nullptr);
   const auto foreign = orvik::As<orvik::IBaseElement>(other->CreateObject(orvik::HostClasses::kTestElement));
   foreign->SetResult(std::make_shared<sample::SampleResult>());
-  EXPECT_EQ(ErrorNumber([&] { foreign->Clone(); }), HostError::kClassNotRegistered);
+  EXPECT_EQ(test::ErrorNumber([&] { foreign->Clone(); }), HostError::kClassNotRegistered);
   EXPECT_FALSE(other->Elements()->Trouble().All().empty());
 }
 
@@ -250,10 +250,10 @@ TEST_F(TestElementTest, ReportShowsNameConfigurationLimitsAndResult) {
   const auto standard = element->Limits()->CreateStandard("IEC|62353", "");
   const auto result = std::make_shared<sample::SampleResult>();
   host_->Elements()->BaseOf(element)->SetResult(result);
-  const auto report = std::make_shared<ReportObject>();
+  const auto report = std::make_shared<report::ReportObject>();
   element->PrintReport(report, nullptr);
   std::string text;
-  for (const auto& table : report->Tables()) text += TextTable(table, 100);
+  for (const auto& table : report->Tables()) text += report::TextTable(table, 100);
   const auto at = [&text](const char* part) { return text.find(part); };
   EXPECT_LT(at("Earth; {leakage}"), at("Options 3"));
   EXPECT_LT(at("Options 3"), at("IEC|62353"));
@@ -267,10 +267,10 @@ TEST_F(TestElementTest, HostThatIsGoneIsAnErrorAndNoCrash) {
   base->SetResult(std::make_shared<sample::SampleResult>());
   host_->Close();
   host_.reset();
-  EXPECT_EQ(ErrorNumber([&] { base->Clone(); }), HostError::kEmptyReference);
+  EXPECT_EQ(test::ErrorNumber([&] { base->Clone(); }), HostError::kEmptyReference);
   element.reset();
-  host_ = Host::Create({folder_.Path(), "", {}, {}}, nullptr);
+  host_ = document::Host::Create({folder_.Path(), "", {}, {}}, nullptr);
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

@@ -9,7 +9,7 @@
 #include <stdexcept>
 #include <string>
 
-namespace bench::test {
+namespace host::test {
 
 /// A folder that goes with the object.
 class TestFolder {
@@ -50,4 +50,4 @@ class TestFolder {
   std::filesystem::path path_;
 };
 
-}  // namespace bench::test
+}  // namespace host::test

@@ -2,7 +2,7 @@
 
 #include "host/base/TextCells.h"
 
-namespace bench {
+namespace host {
 namespace {
 
 TEST(TextCells, CountsLettersAndNotBytes) {
@@ -34,4 +34,4 @@ TEST(TextCells, CutsBetweenLetters) {
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

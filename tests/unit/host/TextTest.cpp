@@ -4,7 +4,7 @@
 
 #include "host/base/Text.h"
 
-namespace bench {
+namespace host {
 namespace {
 
 TEST(Text, WholeNumbersMustBeTheWholeText) {
@@ -69,4 +69,4 @@ TEST(Text, BytesThatAreNotUtf8BecomeReplacementCharacters) {
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

@@ -3,11 +3,11 @@
 #include "host/base/TranslationFile.h"
 #include "tests/unit/host/Errors.h"
 
-namespace bench {
+namespace host {
 namespace {
 
-using test::ErrorText;
-using test::Holds;
+using host::test::ErrorText;
+using host::test::Holds;
 
 TEST(TranslationFile, ReadsNumberedTexts) {
   const auto texts = ReadTranslations(R"(# A comment
@@ -62,8 +62,8 @@ struct MalformedTranslation {
 class MalformedTranslations : public ::testing::TestWithParam<MalformedTranslation> {};
 
 TEST_P(MalformedTranslations, AreRefusedWithFileAndLine) {
-  const auto text = ErrorText([] { ReadTranslations(GetParam().text, "KELD.da.po"); });
-  EXPECT_TRUE(Holds(text, "KELD.da.po, " + std::string(GetParam().place))) << GetParam().text;
+  const auto text = test::ErrorText([] { ReadTranslations(GetParam().text, "KELD.da.po"); });
+  EXPECT_TRUE(test::Holds(text, "KELD.da.po, " + std::string(GetParam().place))) << GetParam().text;
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -83,4 +83,4 @@ INSTANTIATE_TEST_SUITE_P(
                              "line 7"}));
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

@@ -7,13 +7,13 @@
 #include "tests/support/Seed.h"
 #include "tests/unit/host/Errors.h"
 
-namespace bench {
+namespace host {
 namespace {
 
-using test::Holds;
+using host::test::Holds;
 
 TEST(XmlDocument, FindsTheFirstElementInDocumentOrderAtAnyDepth) {
-  XmlDocument document;
+  xml::XmlDocument document;
   ASSERT_TRUE(document.LoadFromString("<r><a><x n='1'/></a><x n='2'/></r>"));
   EXPECT_EQ(document.FindElement("x")->Attribute("n"), "1");
   EXPECT_EQ(document.FindElement("r")->Name(), "r");
@@ -21,7 +21,7 @@ TEST(XmlDocument, FindsTheFirstElementInDocumentOrderAtAnyDepth) {
 }
 
 TEST(XmlDocument, NewDocumentIsEmpty) {
-  XmlDocument document;
+  xml::XmlDocument document;
   EXPECT_EQ(document.Root(), nullptr);
   EXPECT_EQ(document.FindElement("a"), nullptr);
   EXPECT_EQ(document.LastError(), "");
@@ -35,10 +35,10 @@ struct Malformed {
 class MalformedXml : public ::testing::TestWithParam<Malformed> {};
 
 TEST_P(MalformedXml, IsRefusedWithItsPlaceAndLeavesTheDocumentEmpty) {
-  XmlDocument document;
+  xml::XmlDocument document;
   ASSERT_TRUE(document.LoadFromString("<good/>"));
   EXPECT_FALSE(document.LoadFromString(GetParam().text));
-  EXPECT_TRUE(Holds(document.LastError(), GetParam().place)) << GetParam().text;
+  EXPECT_TRUE(test::Holds(document.LastError(), GetParam().place)) << GetParam().text;
   EXPECT_EQ(document.Root(), nullptr);
   EXPECT_TRUE(document.LoadFromString("<good/>"));
   EXPECT_EQ(document.LastError(), "");
@@ -54,22 +54,22 @@ INSTANTIATE_TEST_SUITE_P(
                       Malformed{"<a><!-- never closed", "line 1"}, Malformed{"<a", "line 1"}));
 
 TEST(XmlDocument, NulByteIsRefused) {
-  XmlDocument document;
+  xml::XmlDocument document;
   EXPECT_FALSE(document.LoadFromString(std::string("<a>\0</a>", 8)));
   EXPECT_NE(document.LastError(), "");
 }
 
 TEST(XmlDocument, SavedTextIsIndentedByTwoBlanks) {
-  XmlDocument document;
+  xml::XmlDocument document;
   document.CreateRoot("a")->AddChild("b")->AddChild("c")->SetText("x & y");
-  EXPECT_TRUE(Holds(document.SaveToString(), "<a>\n  <b>\n    <c>x &amp; y</c>\n  </b>\n</a>\n"));
+  EXPECT_TRUE(test::Holds(document.SaveToString(), "<a>\n  <b>\n    <c>x &amp; y</c>\n  </b>\n</a>\n"));
 }
 
 TEST(XmlDocument, CommentsAndInstructionsAreKept) {
-  XmlDocument document;
+  xml::XmlDocument document;
   ASSERT_TRUE(document.LoadFromString("<?go on?><!--top--><a><!--in--><b/></a>"));
   const auto text = document.SaveToString();
-  for (const auto* part : {"<?go on?>", "<!--top-->", "<!--in-->"}) EXPECT_TRUE(Holds(text, part));
+  for (const auto* part : {"<?go on?>", "<!--top-->", "<!--in-->"}) EXPECT_TRUE(test::Holds(text, part));
 }
 
 std::string RandomText(std::mt19937& random) {
@@ -106,11 +106,11 @@ TEST(XmlDocument, AnyTextComesBackUnchanged) {
   for (int round = 0; round < 2000; ++round) {
     const auto text = RandomText(random);
     const auto value = RandomText(random);
-    XmlDocument saved;
+    xml::XmlDocument saved;
     const auto root = saved.CreateRoot("r");
     root->AddChild("t")->SetText(text);
     root->SetAttribute("v", value);
-    XmlDocument loaded;
+    xml::XmlDocument loaded;
     ASSERT_TRUE(loaded.LoadFromString(saved.SaveToString())) << loaded.LastError();
     ASSERT_EQ(loaded.Root()->FirstChild()->Text(), text);
     ASSERT_EQ(loaded.Root()->Attribute("v"), value);
@@ -126,19 +126,19 @@ std::string Nested(int levels) {
 }
 
 TEST(XmlDocument, TenThousandLevelsAreLoadedSearchedSavedAndLetGo) {
-  XmlDocument document;
+  xml::XmlDocument document;
   ASSERT_TRUE(document.LoadFromString(Nested(10000)));
   EXPECT_EQ(document.FindElement("last")->Name(), "last");
   const auto saved = document.SaveToString();
   // Indented, the text would be 400 MB.
   EXPECT_LT(saved.size(), 200000U);
-  XmlDocument again;
+  xml::XmlDocument again;
   EXPECT_TRUE(again.LoadFromString(saved));
   EXPECT_NE(again.FindElement("last"), nullptr);
 }
 
 TEST(XmlDocument, AMillionLevelsDoNotEndTheProgram) {
-  XmlDocument document;
+  xml::XmlDocument document;
   ASSERT_TRUE(document.LoadFromString(Nested(1000000)));
   EXPECT_NE(document.FindElement("last"), nullptr);
   EXPECT_FALSE(document.SaveToString().empty());
@@ -151,4 +151,4 @@ TEST(XmlDocument, LinesAreCountedFromOne) {
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

@@ -6,11 +6,11 @@
 #include "host/xml/XmlEncoding.h"
 #include "tests/unit/host/Errors.h"
 
-namespace bench {
+namespace host {
 namespace {
 
 using namespace std::string_literals;
-using test::Holds;
+using host::test::Holds;
 
 /// The text in UTF-16 or UTF-32; of ASCII and Latin-1 letters.
 std::string Wide(std::string_view latin1, std::size_t width, bool bigEndian) {
@@ -98,10 +98,10 @@ TEST(XmlEncoding, RefusesWhatItCannotReadAndSaysWhere) {
   };
   for (const auto& refused : kRefused) {
     const auto decoded = xml::Decode(refused.bytes);
-    EXPECT_TRUE(Holds(decoded.fault.reason, refused.reason));
+    EXPECT_TRUE(test::Holds(decoded.fault.reason, refused.reason));
     EXPECT_EQ(xml::LineOf(decoded.text, decoded.fault.offset), refused.line) << refused.reason;
   }
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

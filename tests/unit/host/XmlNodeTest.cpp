@@ -4,14 +4,14 @@
 #include "host/xml/XmlNode.h"
 #include "tests/unit/host/Errors.h"
 
-namespace bench {
+namespace host {
 namespace {
 
+using host::test::ErrorNumber;
 using orvik::HostError;
-using test::ErrorNumber;
 
 std::shared_ptr<orvik::IXmlNode> Parsed(const std::string& text) {
-  const auto document = std::make_shared<XmlDocument>();
+  const auto document = std::make_shared<xml::XmlDocument>();
   EXPECT_TRUE(document->LoadFromString(text)) << document->LastError();
   return document->Root();
 }
@@ -23,7 +23,7 @@ TEST(XmlNode, KeepsItsDocumentAlive) {
 }
 
 TEST(XmlNode, KeepsItsDocumentWhenAnotherIsLoaded) {
-  XmlDocument document;
+  xml::XmlDocument document;
   document.LoadFromString("<a>one</a>");
   const auto node = document.Root();
   document.LoadFromString("<b/>");
@@ -71,7 +71,7 @@ TEST(XmlNode, AVisitorMayMoveAChildAndStopByAnError) {
     if (name == "b") last->Append(child);
     if (name == "c") throw HostError(HostError::kInvalidArgument, "test", "enough");
   };
-  EXPECT_EQ(ErrorNumber([&] { root->ForEachChild(visit); }), HostError::kInvalidArgument);
+  EXPECT_EQ(test::ErrorNumber([&] { root->ForEachChild(visit); }), HostError::kInvalidArgument);
   EXPECT_EQ(seen, "b c ");
   EXPECT_EQ(root->FirstChild()->Name(), "c");
   EXPECT_TRUE(last->FindChild("b"));
@@ -79,8 +79,8 @@ TEST(XmlNode, AVisitorMayMoveAChildAndStopByAnError) {
 
 TEST(XmlReference, StandsForTheNodeThatItWasLedTo) {
   const auto root = Parsed("<a><b/><c/></a>");
-  const auto& raw = XmlNode::Of(root);
-  XmlReference reference(raw.Document());
+  const auto& raw = xml::XmlNode::Of(root);
+  xml::XmlReference reference(raw.Document());
   EXPECT_EQ(reference.To(raw.Raw().child("b"))->Name(), "b");
   const auto kept = reference.To(raw.Raw().child("c"));
   EXPECT_EQ(reference.To(raw.Raw().child("b"))->Name(), "b");
@@ -123,18 +123,18 @@ TEST(XmlNode, AppendMovesANodeToTheEndAndLeavesTheLastOneThere) {
 
 TEST(XmlNode, AppendRefusesEmptyForeignAndEnclosingNodes) {
   const auto root = Parsed("<a><b/></a>");
-  EXPECT_EQ(ErrorNumber([&] { root->Append(nullptr); }), HostError::kEmptyReference);
-  EXPECT_EQ(ErrorNumber([&] { root->Append(Parsed("<c/>")); }), HostError::kInvalidArgument);
-  EXPECT_EQ(ErrorNumber([&] { root->FirstChild()->Append(root); }), HostError::kInvalidArgument);
+  EXPECT_EQ(test::ErrorNumber([&] { root->Append(nullptr); }), HostError::kEmptyReference);
+  EXPECT_EQ(test::ErrorNumber([&] { root->Append(Parsed("<c/>")); }), HostError::kInvalidArgument);
+  EXPECT_EQ(test::ErrorNumber([&] { root->FirstChild()->Append(root); }), HostError::kInvalidArgument);
   EXPECT_EQ(root->ChildCount(), 1);
 }
 
 TEST(XmlNode, NamesThatNoFileCanHoldAreRefused) {
   const auto root = Parsed("<a/>");
   for (const auto* name : {"", "1a", "a b", "<", "a>", "-x", "a\"b"}) {
-    EXPECT_EQ(ErrorNumber([&] { root->AddChild(name); }), HostError::kInvalidArgument) << name;
-    EXPECT_EQ(ErrorNumber([&] { root->SetName(name); }), HostError::kInvalidArgument) << name;
-    EXPECT_EQ(ErrorNumber([&] { root->SetAttribute(name, "x"); }), HostError::kInvalidArgument) << name;
+    EXPECT_EQ(test::ErrorNumber([&] { root->AddChild(name); }), HostError::kInvalidArgument) << name;
+    EXPECT_EQ(test::ErrorNumber([&] { root->SetName(name); }), HostError::kInvalidArgument) << name;
+    EXPECT_EQ(test::ErrorNumber([&] { root->SetAttribute(name, "x"); }), HostError::kInvalidArgument) << name;
   }
   root->SetName("gr\xC3\xB8n");
   EXPECT_EQ(root->Name(), "gr\xC3\xB8n");
@@ -142,11 +142,11 @@ TEST(XmlNode, NamesThatNoFileCanHoldAreRefused) {
 
 TEST(XmlNode, NumberAttributeTellsWhatIsWrong) {
   const auto root = Parsed("<a ID='12' X='1x'/>");
-  const auto node = XmlNode::Of(root).Raw();
+  const auto node = xml::XmlNode::Of(root).Raw();
   EXPECT_EQ(xml::NumberAttribute(node, "ID"), 12);
   EXPECT_TRUE(test::Holds(test::ErrorText([&] { xml::NumberAttribute(node, "X"); }), "\"X\" of \"a\""));
-  EXPECT_EQ(ErrorNumber([&] { xml::NumberAttribute(node, "Y"); }), HostError::kTypeMismatch);
+  EXPECT_EQ(test::ErrorNumber([&] { xml::NumberAttribute(node, "Y"); }), HostError::kTypeMismatch);
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

@@ -15,13 +15,14 @@ using orvik::Variant;
 constexpr char kSettings[] = "Software\\Telvane\\orvik\\KELD(IN)";
 constexpr char kInstruments[] = "Software\\Telvane\\orvik\\KELD(IN)\\MTI";
 
-keld::MtiDataArray Identity(const std::string& type, const std::string& serial, const std::string& firmware) {
+keld::instrument::MtiDataArray Identity(const std::string& type, const std::string& serial,
+                                        const std::string& firmware) {
   return {type, serial, firmware, std::string(), std::string("NO VALUE")};
 }
 
 class CKELDDataTest : public testing::Test {
  protected:
-  static keld::CKELDData& Data() { return *keld::CKELDData::Shared(); }
+  static keld::instrument::CKELDData& Data() { return *keld::instrument::CKELDData::Shared(); }
   static void Write(const char* key, const std::string& name, const Variant& value) {
     const auto registry = keld::MKELDGlobalVars::RegistryReader();
     ASSERT_TRUE(registry->CreateKey(static_cast<std::int32_t>(0x80000002U), key));
@@ -37,7 +38,7 @@ class CKELDDataTest : public testing::Test {
 };
 
 TEST_F(CKELDDataTest, IsOneObjectForTheProcess) {
-  EXPECT_EQ(keld::CKELDData::Shared(), keld::CKELDData::Shared());
+  EXPECT_EQ(keld::instrument::CKELDData::Shared(), keld::instrument::CKELDData::Shared());
 }
 
 TEST_F(CKELDDataTest, HasNoTesterAtFirst) {
@@ -132,7 +133,7 @@ TEST_F(CKELDDataTest, PlainFieldsAreKept) {
 }
 
 TEST_F(CKELDDataTest, TheTesterGetsARecordAndKeepsIt) {
-  const auto instruments = std::make_shared<bench::InstrumentColl>();
+  const auto instruments = std::make_shared<host::instruments::InstrumentColl>();
   Data().TakeIdentity(Identity("KELD(IN)-2", "4711", "1.05"));
   Data().SetCalibValue(35);
   EXPECT_EQ(Data().UpdateInstrumentRecord(instruments), 1);
@@ -154,7 +155,7 @@ TEST_F(CKELDDataTest, TheTesterGetsARecordAndKeepsIt) {
 }
 
 TEST_F(CKELDDataTest, RecordIsFoundByTypeAndSerialNumber) {
-  const auto instruments = std::make_shared<bench::InstrumentColl>();
+  const auto instruments = std::make_shared<host::instruments::InstrumentColl>();
   Data().SetSerialNumber("1");
   EXPECT_EQ(Data().UpdateInstrumentRecord(instruments), 1);
   instruments->item(1)->SetTypeName("another kind");
@@ -166,7 +167,7 @@ TEST_F(CKELDDataTest, RecordIsFoundByTypeAndSerialNumber) {
 }
 
 TEST_F(CKELDDataTest, NoCollectionGivesNoRecord) {
-  EXPECT_EQ(keld::CKELDData::Shared()->UpdateInstrumentRecord(nullptr), 0);
+  EXPECT_EQ(keld::instrument::CKELDData::Shared()->UpdateInstrumentRecord(nullptr), 0);
 }
 
 TEST_F(CKELDDataTest, FailingRegistryKeepsTheFields) {

@@ -222,7 +222,7 @@ class EventReentryTest : public testing::TestWithParam<int> {
     const auto act = [this, action, left = std::make_shared<int>(GetParam())] {
       if ((*left)-- == 0) action();
     };
-    link_.onData = [act](const keld::MtiDataArray&) { act(); };
+    link_.onData = [act](const keld::instrument::MtiDataArray&) { act(); };
     link_.onResult = [act](std::int32_t&, std::int16_t) { act(); };
     // Not held here: the action may release the last reference.
     link_.Link()->RunMtiTest(410, 0);
@@ -245,7 +245,7 @@ TEST_P(EventReentryTest, DisconnectFromAHandler) {
 
 TEST_P(EventReentryTest, DisconnectAndReleaseFromAHandler) {
   std::size_t told = 0;
-  std::weak_ptr<keld::CKELDInstrument> left = link_.Link();
+  std::weak_ptr<keld::instrument::CKELDInstrument> left = link_.Link();
   Run([&] {
     const auto held = link_.Link();
     link_.Release();
@@ -259,7 +259,7 @@ TEST_P(EventReentryTest, DisconnectAndReleaseFromAHandler) {
 }
 
 TEST_P(EventReentryTest, ReleaseFromAHandler) {
-  std::weak_ptr<keld::CKELDInstrument> left = link_.Link();
+  std::weak_ptr<keld::instrument::CKELDInstrument> left = link_.Link();
   Run([&] { link_.Release(); });
   EXPECT_TRUE(left.expired());
 }
@@ -290,10 +290,10 @@ TEST_F(ReentryOrderTest, InterruptedRunLeavesTheSessionOpen) {
 
 TEST_F(ReentryOrderTest, EveryHandlerGetsTheIdentity) {
   link_.Script(GoodAnswers());
-  link_.onData = [&](const keld::MtiDataArray&) { link_.Link()->DisconnectMTI(); };
-  keld::MtiDataArray heard;
+  link_.onData = [&](const keld::instrument::MtiDataArray&) { link_.Link()->DisconnectMTI(); };
+  keld::instrument::MtiDataArray heard;
   const auto second =
-      link_.Link()->GotMtiData().Subscribe([&](const keld::MtiDataArray& data) { heard = data; });
+      link_.Link()->GotMtiData().Subscribe([&](const keld::instrument::MtiDataArray& data) { heard = data; });
   link_.Link()->RunMtiTest(410, 0);
   EXPECT_EQ(link_.Sent().back(), "EREM");
   EXPECT_EQ(heard[1], orvik::Variant(std::string("4711")));

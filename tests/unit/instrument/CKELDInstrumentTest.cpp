@@ -14,7 +14,7 @@ Variant Text(const char* text) { return std::string(text); }
 
 class CKELDInstrumentTest : public testing::Test {
  protected:
-  keld::CKELDInstrument& Link() { return *link_.Link(); }
+  keld::instrument::CKELDInstrument& Link() { return *link_.Link(); }
   /// Brings the link into remote mode and forgets how.
   void EnterRemote() {
     link_.Run(GoodAnswers());
@@ -91,11 +91,11 @@ TEST_F(CKELDInstrumentTest, SettingsWithoutALeadAreSentAsZero) {
 }
 
 TEST_F(CKELDInstrumentTest, IdentityIsRaisedBeforeTheState) {
-  keld::MtiDataArray data;
-  link_.onData = [&](const keld::MtiDataArray& received) { data = received; };
+  keld::instrument::MtiDataArray data;
+  link_.onData = [&](const keld::instrument::MtiDataArray& received) { data = received; };
   link_.Run({{"IREM", {"irem,KELD(IN),4711,1.05"}}, {"STST", {"ERRM,1"}}});
-  EXPECT_EQ(data,
-            (keld::MtiDataArray{Text("KELD(IN)"), Text("4711"), Text("1.05"), Text(""), Text("NO VALUE")}));
+  EXPECT_EQ(data, (keld::instrument::MtiDataArray{Text("KELD(IN)"), Text("4711"), Text("1.05"), Text(""),
+                                                  Text("NO VALUE")}));
   EXPECT_EQ(link_.Raised(), (Texts{"GotMtiData", "3 0", "0 410"}));
 }
 
@@ -196,7 +196,8 @@ TEST_F(CKELDInstrumentTest, ExchangeConsumesOneMessage) {
 TEST_F(CKELDInstrumentTest, AHandlerThatChangesTheStateChangesTheRun) {
   link_.Connect(GoodAnswers());
   link_.onResult = [](std::int32_t& state, std::int16_t) {
-    if (state == CommsState::kTestStarted) state = CommsState::kInstrumentError;
+    if (state == keld::instrument::CommsState::kTestStarted)
+      state = keld::instrument::CommsState::kInstrumentError;
   };
   Link().RunMtiTest(410, 0);
   EXPECT_EQ(link_.Sent(), (Texts{"IREM", "STST,410,0"}));
@@ -265,7 +266,7 @@ TEST_F(CKELDInstrumentTest, UnplugDuringThePauseEndsTheRunAfterIt) {
 }
 
 TEST_F(CKELDInstrumentTest, PortThatCannotBeOpenedCountsAsClosed) {
-  const auto other = keld::CKELDInstrument::Create();
+  const auto other = keld::instrument::CKELDInstrument::Create();
   other->ConnectMTI();  // holds the line
   Link().ConnectMTI();
   EXPECT_EQ(Link().PortNumber(), 1);

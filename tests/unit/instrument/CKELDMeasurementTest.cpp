@@ -47,7 +47,8 @@ class CKELDMeasurementTest : public testing::Test {
   }
 
   support::HostOnly host_;
-  std::shared_ptr<keld::CKELDMeasurement> measurement_ = keld::CKELDMeasurement::Create();
+  std::shared_ptr<keld::instrument::CKELDMeasurement> measurement_ =
+      keld::instrument::CKELDMeasurement::Create();
 };
 
 TEST_F(CKELDMeasurementTest, IsEmptyAtFirst) {
@@ -109,7 +110,7 @@ TEST_F(CKELDMeasurementTest, ValuesAddUp) {
       {1, std::vector<std::string>{"2"}, 1},
   };
   for (const auto& [left, right, sum] : cases) {
-    const auto measurement = keld::CKELDMeasurement::Create();
+    const auto measurement = keld::instrument::CKELDMeasurement::Create();
     measurement->AddValue(left, "", "", "");
     measurement->AddValue(right, "V", "O", "");
     EXPECT_EQ(measurement->value(), sum);
@@ -120,17 +121,18 @@ TEST_F(CKELDMeasurementTest, ValuesAddUp) {
 TEST_F(CKELDMeasurementTest, ReportLineShowsDescriptionNumberAndUnit) {
   measurement_->SetDescription("20702::No values");
   measurement_->AddValue(12.6, "mOhm", "", "");
-  EXPECT_EQ(measurement_->ReportLine(std::make_shared<bench::ReportObject>()), "|      No values|13|mOhm;");
+  EXPECT_EQ(measurement_->ReportLine(std::make_shared<host::report::ReportObject>()),
+            "|      No values|13|mOhm;");
 }
 
 TEST_F(CKELDMeasurementTest, AnEmptyReportLineKeepsItsCells) {
-  EXPECT_EQ(measurement_->ReportLine(std::make_shared<bench::ReportObject>()), "|      ||;");
+  EXPECT_EQ(measurement_->ReportLine(std::make_shared<host::report::ReportObject>()), "|      ||;");
 }
 
 TEST_F(CKELDMeasurementTest, ReportLineEscapesTextsOfTheTester) {
   measurement_->SetDescription("a|b;c");
   measurement_->AddValue(1, "{\\b V}|;", "", "");
-  const auto report = std::make_shared<bench::ReportObject>();
+  const auto report = std::make_shared<host::report::ReportObject>();
   const std::string row = measurement_->ReportLine(report);
   EXPECT_EQ(row, "|      " + report->Escape("a|b;c") + "|1|" + report->Escape("{\\b V}|;") + ";");
   EXPECT_NE(row, "|      a|b;c|1|{\\b V}|;;");
@@ -140,7 +142,7 @@ TEST_F(CKELDMeasurementTest, TheReportLineRoundsToAWholeNumber) {
   const std::pair<Variant, std::string> cases[] = {{12.4, "12"}, {12.5, "13"}, {-12.6, "-13"},
                                                    {-0.2, "0"},  {7, "7"},     {std::string("12.6"), "13"}};
   for (const auto& [value, shown] : cases) {
-    const auto measurement = keld::CKELDMeasurement::Create();
+    const auto measurement = keld::instrument::CKELDMeasurement::Create();
     measurement->AddValue(value, "V", "", "");
     EXPECT_EQ(measurement->ReportLine(nullptr), "|      |" + shown + "|V;");
   }
@@ -169,7 +171,7 @@ TEST_F(CKELDMeasurementTest, LoadsWhatWasSaved) {
   EXPECT_EQ(node->Attribute("Flags"), "O");
   EXPECT_EQ(node->ChildCount(), 4);
 
-  const auto loaded = keld::CKELDMeasurement::Create();
+  const auto loaded = keld::instrument::CKELDMeasurement::Create();
   loaded->Load(node);
   EXPECT_EQ(loaded->Description(), "20702::No values");
   EXPECT_EQ(loaded->value(), Variant(12.5));
@@ -215,7 +217,7 @@ TEST_F(CKELDMeasurementTest, ALoadedValueIsADouble) {
   const std::pair<std::string, double> cases[] = {{"12.5", 12.5}, {"OL", 0},    {"7x", 7},
                                                   {" -3 ", -3},   {"1e2", 100}, {"12,5", 12}};
   for (const auto& [text, value] : cases) {
-    measurement_ = keld::CKELDMeasurement::Create();
+    measurement_ = keld::instrument::CKELDMeasurement::Create();
     Load("<Measurement><Value>" + text + "</Value></Measurement>");
     EXPECT_EQ(measurement_->value(), Variant(value)) << text;
   }
@@ -224,7 +226,7 @@ TEST_F(CKELDMeasurementTest, ALoadedValueIsADouble) {
 // The host's persistence service reads no value from it: it must not become a reading of 0.
 TEST_F(CKELDMeasurementTest, AnEmptySavedValueIsNoValue) {
   for (const char* text : {"<Value/>", "<Value></Value>"}) {
-    measurement_ = keld::CKELDMeasurement::Create();
+    measurement_ = keld::instrument::CKELDMeasurement::Create();
     Load("<Measurement>" + std::string(text) + "<Unit>V</Unit></Measurement>");
     EXPECT_EQ(measurement_->value(), Variant{}) << text;
     EXPECT_EQ(measurement_->Unit(), "V") << text;
@@ -267,7 +269,7 @@ TEST_F(CKELDMeasurementTest, EmptyNodeChangesNothing) {
 }
 
 TEST_F(CKELDMeasurementTest, FailsExceededLimits) {
-  const auto limits = keld::CKELDLimitData::Create();
+  const auto limits = keld::results::CKELDLimitData::Create();
   limits->AddStandard(Standard("", "200"));
   const auto standards = New<orvik::IStandardColl>(orvik::HostClasses::kStandardColl);
   standards->Add(Standard("", ""));  // selected by its name
@@ -278,7 +280,7 @@ TEST_F(CKELDMeasurementTest, FailsExceededLimits) {
 }
 
 TEST_F(CKELDMeasurementTest, WithoutLimitsOrStandardsNothingFails) {
-  const auto limits = keld::CKELDLimitData::Create();
+  const auto limits = keld::results::CKELDLimitData::Create();
   const auto standards = New<orvik::IStandardColl>(orvik::HostClasses::kStandardColl);
   measurement_->AddValue(1e9, "mOhm", "", "");
   EXPECT_FALSE(measurement_->FailsLimits(limits, standards));
@@ -312,7 +314,7 @@ class BrokenStandards final : public orvik::IStandardColl {
 };
 
 TEST_F(CKELDMeasurementTest, JudgementWithAnErrorCountsAsFailed) {
-  const auto limits = keld::CKELDLimitData::Create();
+  const auto limits = keld::results::CKELDLimitData::Create();
   limits->AddStandard(Standard("", "200"));
   measurement_->AddValue(1.0, "mOhm", "", "");
   EXPECT_TRUE(measurement_->FailsLimits(limits, std::make_shared<BrokenStandards>()));

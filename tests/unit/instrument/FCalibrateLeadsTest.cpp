@@ -22,7 +22,7 @@ class FCalibrateLeadsTest : public testing::Test {
   FCalibrateLeadsTest() { Open(); }
 
   void Open() {
-    dialog_ = keld::FCalibrateLeads::Create();
+    dialog_ = keld::instrument::FCalibrateLeads::Create();
     form_ = orvik::As<orvik::IDialogForm>(dialog_)->Form();
   }
   template <class Control>
@@ -57,7 +57,7 @@ class FCalibrateLeadsTest : public testing::Test {
   }
 
   support::VirtualBench bench_;
-  std::shared_ptr<keld::FCalibrateLeads> dialog_;
+  std::shared_ptr<keld::instrument::FCalibrateLeads> dialog_;
   std::shared_ptr<platform::IForm> form_;
 };
 
@@ -238,13 +238,13 @@ TEST_F(FCalibrateLeadsTest, SaveNeedsASerialNumber) {
 }
 
 TEST_F(FCalibrateLeadsTest, IdentityWithoutSerialNumberIsSavedNotShown) {
-  keld::CKELDData::Shared()->SetSerialNumber("0815");
+  keld::instrument::CKELDData::Shared()->SetSerialNumber("0815");
   Measure(",410,0,0.125,0,Ohm", ",KELD(IN)-2,,1.07");
   EXPECT_EQ(Serial().Text(), "");
   EXPECT_EQ(Find<platform::ITextBox>("txtMTIType")->Text(), "");
   Serial().TypeOver("4711");
   Click("cmdSave");
-  const auto data = keld::CKELDData::Shared();
+  const auto data = keld::instrument::CKELDData::Shared();
   EXPECT_EQ(data->MTIType(), "KELD(IN)-2");
   EXPECT_EQ(data->FirmwareVersion(), "1.07");
   EXPECT_EQ(data->SerialNumber(), "4711");
@@ -254,7 +254,7 @@ TEST_F(FCalibrateLeadsTest, IdentityWithoutSerialNumberIsSavedNotShown) {
 TEST_F(FCalibrateLeadsTest, SaveUsesTheTestersSerialNumber) {
   Measure(",410,0,0.1256,0,Ohm");
   Click("cmdSave");
-  const auto data = keld::CKELDData::Shared();
+  const auto data = keld::instrument::CKELDData::Shared();
   EXPECT_EQ(data->SerialNumber(), "4711");
   EXPECT_EQ(data->FirmwareVersion(), "1.05");
   EXPECT_EQ(data->CalibValue(), 126);
@@ -267,7 +267,7 @@ TEST_F(FCalibrateLeadsTest, SaveUsesATypedSerialNumber) {
   Measure();
   Serial().TypeOver("0815");
   Click("cmdSave");
-  const auto data = keld::CKELDData::Shared();
+  const auto data = keld::instrument::CKELDData::Shared();
   EXPECT_EQ(data->SerialNumber(), "0815");
   EXPECT_EQ(data->CalibratedSerialNumbers(), (Texts{"0815"}));
 }
@@ -275,8 +275,8 @@ TEST_F(FCalibrateLeadsTest, SaveUsesATypedSerialNumber) {
 TEST_F(FCalibrateLeadsTest, ValueOutOfRangeIsNotStored) {
   Measure(",410,0,1e20,0,Ohm");
   Click("cmdSave");
-  EXPECT_EQ(keld::CKELDData::Shared()->CalibValue(), 0);
-  EXPECT_TRUE(keld::CKELDData::Shared()->CalibratedSerialNumbers().empty());
+  EXPECT_EQ(keld::instrument::CKELDData::Shared()->CalibValue(), 0);
+  EXPECT_TRUE(keld::instrument::CKELDData::Shared()->CalibratedSerialNumbers().empty());
 }
 
 TEST_F(FCalibrateLeadsTest, CancelStoresNothing) {
@@ -284,8 +284,8 @@ TEST_F(FCalibrateLeadsTest, CancelStoresNothing) {
   Click("cmdCancel");
   EXPECT_TRUE(dialog_->Cancelled());
   EXPECT_FALSE(form_->Visible());
-  EXPECT_EQ(keld::CKELDData::Shared()->SerialNumber(), "");
-  EXPECT_EQ(keld::CKELDData::Shared()->CalibValue(), 0);
+  EXPECT_EQ(keld::instrument::CKELDData::Shared()->SerialNumber(), "");
+  EXPECT_EQ(keld::instrument::CKELDData::Shared()->CalibValue(), 0);
 }
 
 TEST_F(FCalibrateLeadsTest, CancelDuringAMeasurementEndsTheSessionAtOnce) {
@@ -341,7 +341,7 @@ TEST_F(FCalibrateLeadsTest, SaveWhileTheSessionEndsWaitsForItsEnd) {
   });
   dialog_->ShowModal(nullptr);
   EXPECT_EQ(bench_.Wire().Sent().back(), "EREM");
-  EXPECT_EQ(keld::CKELDData::Shared()->CalibValue(), 125);
+  EXPECT_EQ(keld::instrument::CKELDData::Shared()->CalibValue(), 125);
   EXPECT_FALSE(dialog_->Cancelled());
 }
 
@@ -356,8 +356,8 @@ TEST_P(CalibrationLeftTest, EndsTheSessionWithinBounds) {
   for (; reached && pump < kEndless; ++pump) {
     SCOPED_TRACE("pump call " + std::to_string(pump));
     support::VirtualBench bench;
-    auto dialog = keld::FCalibrateLeads::Create();
-    const std::weak_ptr<keld::FCalibrateLeads> left = dialog;
+    auto dialog = keld::instrument::FCalibrateLeads::Create();
+    const std::weak_ptr<keld::instrument::FCalibrateLeads> left = dialog;
     auto form = orvik::As<orvik::IDialogForm>(dialog)->Form();
     if (mute) bench.Line().AnswerBy([](const std::string&) {});
     form->Show();

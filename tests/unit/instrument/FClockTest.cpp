@@ -18,7 +18,7 @@ class FClockTest : public testing::Test {
   }
 
   support::VirtualBench bench_;
-  std::shared_ptr<keld::FClock> clock_ = keld::FClock::Create();
+  std::shared_ptr<keld::instrument::FClock> clock_ = keld::instrument::FClock::Create();
   int pulses_ = 0;
   orvik::platform::Subscription heard_ = clock_->ClockPulse().Subscribe([this] { ++pulses_; });
 };

@@ -86,7 +86,7 @@ class FaultyPort final : public orvik::IPort {
 
 class FaultyLibrary final : public orvik::ICommApplication, public orvik::IPortManager {
  public:
-  FaultyLibrary(std::shared_ptr<Faults> faults, bench::PortManager& inner)
+  FaultyLibrary(std::shared_ptr<Faults> faults, host::serial::PortManager& inner)
       : faults_(std::move(faults)), inner_(inner) {}
 
  private:
@@ -107,7 +107,7 @@ class FaultyLibrary final : public orvik::ICommApplication, public orvik::IPortM
   }
 
   std::shared_ptr<Faults> faults_;
-  bench::PortManager& inner_;
+  host::serial::PortManager& inner_;
 };
 
 class FaultyLibraryTest : public testing::Test {
@@ -116,7 +116,7 @@ class FaultyLibraryTest : public testing::Test {
     const auto library = std::make_shared<FaultyLibrary>(faults_, link_.Bench().Ports());
     link_.Bench().Host().Register(orvik::HostClasses::kCommApplication, [library] { return library; });
   }
-  keld::CKELDInstrument& Link() { return *link_.Link(); }
+  keld::instrument::CKELDInstrument& Link() { return *link_.Link(); }
 
   const std::shared_ptr<Faults> faults_ = std::make_shared<Faults>();
   LinkBench link_;
@@ -200,7 +200,7 @@ TEST_F(FaultyLibraryTest, UnreadableParametersGiveNoErrorNumber) {
 TEST_F(FaultyLibraryTest, AnUnreadableCountReadsAsNoParameters) {
   link_.Connect(GoodAnswers());
   link_.onResult = [&](std::int32_t& state, std::int16_t) {
-    if (state == CommsState::kTestStarted) faults_->failing = {"ParameterCount"};
+    if (state == keld::instrument::CommsState::kTestStarted) faults_->failing = {"ParameterCount"};
   };
   Link().RunMtiTest(410, 0);
   EXPECT_EQ(Link().MtiData(2), orvik::Variant(std::string("NO VALUE")));
@@ -226,7 +226,7 @@ TEST_F(FaultyLibraryTest, DisconnectEndsForAnyFailingCall) {
 
 TEST_F(FaultyLibraryTest, HandlerThatThrowsDoesNotBreakTheLink) {
   Link().ConnectMTI();
-  link_.onData = [](const keld::MtiDataArray&) { throw 42; };
+  link_.onData = [](const keld::instrument::MtiDataArray&) { throw 42; };
   link_.onResult = [](std::int32_t&, std::int16_t) { throw 42; };
   Link().RunMtiTest(410, 0);
   EXPECT_EQ(link_.Raised(), (Texts{"GotMtiData", "3 0", "4 410", "5 410"}));
@@ -259,7 +259,9 @@ TEST_F(FaultyLibraryTest, PumpErrorEndsNoPauseAndNoWait) {
         for (int i = 0; i < errors; ++i) link.Application().Post([] { throw 42; });
       });
     }
-    link.onResult = [](std::int32_t& state, std::int16_t) { state = CommsState::kInstrumentError; };
+    link.onResult = [](std::int32_t& state, std::int16_t) {
+      state = keld::instrument::CommsState::kInstrumentError;
+    };
     link.Link()->RunMtiTest(410, 0);
     EXPECT_EQ(link.SentAt(), (std::vector{milliseconds(3500)})) << errors;
     EXPECT_EQ(link.Raised(), (Texts{"GotMtiData", "3 0"})) << errors;

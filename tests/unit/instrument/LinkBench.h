@@ -15,23 +15,23 @@
 
 namespace instrument_test {
 
-using bench::WireRecord;
+using host::serial::WireRecord;
 using std::chrono::milliseconds;
-namespace CommsState = keld::CommsState;
+namespace CommsState = keld::instrument::CommsState;
 using Texts = std::vector<std::string>;
 
 /// A link to the tester at the other end of a line in memory, and all events that it raises.
 class LinkBench {
  public:
   explicit LinkBench(support::VirtualBench::Settings settings = {})
-      : bench_(std::move(settings)), link_(keld::CKELDInstrument::Create()) {
+      : bench_(std::move(settings)), link_(keld::instrument::CKELDInstrument::Create()) {
     Listen();
   }
 
   support::VirtualBench& Bench() { return bench_; }
-  bench::headless::Application& Application() { return bench_.Application(); }
+  toolkit::headless::Application& Application() { return bench_.Application(); }
   /// The link; empty once released.
-  std::shared_ptr<keld::CKELDInstrument>& Link() { return link_; }
+  std::shared_ptr<keld::instrument::CKELDInstrument>& Link() { return link_; }
   /// What the link has raised: "GotMtiData", "3 0" (status and test number), "MessageSent 6 0 0".
   const Texts& Raised() const { return raised_; }
   Texts Sent() { return bench_.Wire().Sent(); }
@@ -103,14 +103,15 @@ class LinkBench {
 
   /// Called with each status that the link reports, before it is noted.
   std::function<void(std::int32_t&, std::int16_t)> onResult;
-  std::function<void(const keld::MtiDataArray&)> onData;
+  std::function<void(const keld::instrument::MtiDataArray&)> onData;
 
  private:
   void Listen() {
-    subscriptions_.push_back(link_->GotMtiData().Subscribe([this](const keld::MtiDataArray& data) {
-      raised_.push_back("GotMtiData");
-      if (onData) onData(data);
-    }));
+    subscriptions_.push_back(
+        link_->GotMtiData().Subscribe([this](const keld::instrument::MtiDataArray& data) {
+          raised_.push_back("GotMtiData");
+          if (onData) onData(data);
+        }));
     subscriptions_.push_back(
         link_->ResultReceived().Subscribe([this](std::int32_t& state, std::int16_t test) {
           raised_.push_back(std::to_string(state) + " " + std::to_string(test));
@@ -126,7 +127,7 @@ class LinkBench {
   support::VirtualBench bench_;
   Texts raised_;
   orvik::platform::Time started_{};
-  std::shared_ptr<keld::CKELDInstrument> link_;
+  std::shared_ptr<keld::instrument::CKELDInstrument> link_;
   std::vector<orvik::platform::Subscription> subscriptions_;
   orvik::platform::Subscription pump_;
 };

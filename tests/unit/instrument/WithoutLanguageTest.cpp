@@ -18,7 +18,7 @@ class WithoutLanguageTest : public testing::TestWithParam<LanguageFault> {
  protected:
   WithoutLanguageTest() {
     support::FailLanguage(bench_.Host(), GetParam());
-    dialog_ = keld::FCalibrateLeads::Create();
+    dialog_ = keld::instrument::FCalibrateLeads::Create();
     form_ = orvik::As<orvik::IDialogForm>(dialog_)->Form();
   }
   void Click(const char* button) {
@@ -33,7 +33,7 @@ class WithoutLanguageTest : public testing::TestWithParam<LanguageFault> {
   }
 
   support::VirtualBench bench_;
-  std::shared_ptr<keld::FCalibrateLeads> dialog_;
+  std::shared_ptr<keld::instrument::FCalibrateLeads> dialog_;
   std::shared_ptr<platform::IForm> form_;
 };
 
@@ -45,7 +45,7 @@ TEST_P(WithoutLanguageTest, SaveStoresTheMeasuredValue) {
     Click("cmdSave");
   });
   EXPECT_FALSE(dialog_->Cancelled());
-  EXPECT_EQ(keld::CKELDData::Shared()->CalibValue(), 123);
+  EXPECT_EQ(keld::instrument::CKELDData::Shared()->CalibValue(), 123);
 }
 
 TEST_P(WithoutLanguageTest, CancelCrossAndEscapeClose) {

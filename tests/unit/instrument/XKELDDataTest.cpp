@@ -14,7 +14,7 @@ namespace platform = orvik::platform;
 class XKELDDataTest : public testing::Test {
  protected:
   XKELDDataTest() {
-    const auto data = keld::CKELDData::Shared();
+    const auto data = keld::instrument::CKELDData::Shared();
     data->SetSerialNumber("0815");
     data->SetCalibValue(12);
     data->SetSerialNumber("4711");
@@ -29,7 +29,9 @@ class XKELDDataTest : public testing::Test {
   }
   std::string Field(const char* name) { return Find<platform::ITextBox>(name)->Text(); }
   platform::IComboBox& Serial() { return *Find<platform::IComboBox>("cboSerial"); }
-  std::shared_ptr<keld::XKELDData> Control() { return orvik::As<keld::XKELDData>(site_->Object()); }
+  std::shared_ptr<keld::instrument::XKELDData> Control() {
+    return orvik::As<keld::instrument::XKELDData>(site_->Object());
+  }
 
   support::HostOnly host_;
   const std::shared_ptr<platform::IForm> form_ = host_.Application().CreateForm("FTest");
@@ -58,7 +60,7 @@ TEST_F(XKELDDataTest, OnlyTheSerialNumberCanBeEdited) {
 
 TEST_F(XKELDDataTest, ChoosingASerialNumberSelectsIt) {
   Serial().Choose(0);
-  EXPECT_EQ(keld::CKELDData::Shared()->SerialNumber(), "0815");
+  EXPECT_EQ(keld::instrument::CKELDData::Shared()->SerialNumber(), "0815");
   EXPECT_EQ(Serial().Text(), "0815");
   EXPECT_EQ(Field("txtCalib"), "12");
 }
@@ -66,9 +68,9 @@ TEST_F(XKELDDataTest, ChoosingASerialNumberSelectsIt) {
 TEST_F(XKELDDataTest, TypedSerialNumberIsUsedWhenFocusIsLost) {
   Serial().SetFocus();
   Serial().TypeOver("new");
-  EXPECT_EQ(keld::CKELDData::Shared()->SerialNumber(), "4711");
+  EXPECT_EQ(keld::instrument::CKELDData::Shared()->SerialNumber(), "4711");
   Find<platform::ITextBox>("txtMTIType")->SetFocus();
-  EXPECT_EQ(keld::CKELDData::Shared()->SerialNumber(), "new");
+  EXPECT_EQ(keld::instrument::CKELDData::Shared()->SerialNumber(), "new");
   EXPECT_EQ(Field("txtCalib"), "0");
 }
 
@@ -77,13 +79,13 @@ TEST_F(XKELDDataTest, EmptiedBoxReverts) {
     Serial().SetFocus();
     Serial().TypeOver(text);
     Find<platform::ITextBox>("txtMTIType")->SetFocus();
-    EXPECT_EQ(keld::CKELDData::Shared()->SerialNumber(), "4711");
+    EXPECT_EQ(keld::instrument::CKELDData::Shared()->SerialNumber(), "4711");
     EXPECT_EQ(Serial().Text(), "4711");
   }
 }
 
 TEST_F(XKELDDataTest, RefreshShowsWhatHasChanged) {
-  const auto data = keld::CKELDData::Shared();
+  const auto data = keld::instrument::CKELDData::Shared();
   data->TakeIdentity(
       {std::string("type"), std::string("new"), std::string("2.0"), std::string(), std::string()});
   data->SetCalibValue(99);
@@ -100,9 +102,9 @@ TEST_F(XKELDDataTest, RefreshShowsWhatHasChanged) {
 }
 
 TEST_F(XKELDDataTest, RefreshSetsNoSerialNumber) {
-  keld::CKELDData::Shared()->SetSerialNumber("");
+  keld::instrument::CKELDData::Shared()->SetSerialNumber("");
   Control()->Refresh();
-  EXPECT_EQ(keld::CKELDData::Shared()->SerialNumber(), "");
+  EXPECT_EQ(keld::instrument::CKELDData::Shared()->SerialNumber(), "");
   EXPECT_EQ(Serial().Text(), "");
 }
 
@@ -110,10 +112,10 @@ TEST_F(XKELDDataTest, LockedControlIgnoresTheChoice) {
   Control()->SetLocked(true);
   EXPECT_TRUE(Control()->Locked());
   Serial().Choose(0);
-  EXPECT_EQ(keld::CKELDData::Shared()->SerialNumber(), "4711");
+  EXPECT_EQ(keld::instrument::CKELDData::Shared()->SerialNumber(), "4711");
   Control()->SetLocked(false);
   Serial().Choose(0);
-  EXPECT_EQ(keld::CKELDData::Shared()->SerialNumber(), "0815");
+  EXPECT_EQ(keld::instrument::CKELDData::Shared()->SerialNumber(), "0815");
 }
 
 TEST_F(XKELDDataTest, BackColorHandleAndVisibility) {
@@ -127,7 +129,7 @@ TEST_F(XKELDDataTest, BackColorHandleAndVisibility) {
 }
 
 TEST_F(XKELDDataTest, UnplacedControlDoesNothing) {
-  const auto control = keld::XKELDData::Create();
+  const auto control = keld::instrument::XKELDData::Create();
   control->Refresh();
   control->SetFocus();
   control->SetLocked(true);

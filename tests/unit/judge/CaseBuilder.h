@@ -9,19 +9,19 @@
 
 namespace judge_tests {
 
-namespace judge = bench::judge;
+namespace judge = host::judge;
 
 /// A document with runs, put together as plain data: one earth test (element 1, 410, mOhm) unless told
 /// otherwise. What is changed afterwards is what a person or another program would change.
 struct CaseBuilder {
-  judge::Case document;
-  std::vector<bench::RunRecord> runs;
+  host::judge::Case document;
+  std::vector<host::document::RunRecord> runs;
 
   CaseBuilder() { document.equipment = {"PUMP-7", "2209", "Maker", "Model"}; }
 
-  judge::CaseElement& Add(std::int32_t id, std::int32_t testId, const std::string& unit,
-                          std::int32_t parent = 0) {
-    judge::CaseElement element;
+  host::judge::CaseElement& Add(std::int32_t id, std::int32_t testId, const std::string& unit,
+                                std::int32_t parent = 0) {
+    host::judge::CaseElement element;
     element.id = id;
     element.testId = testId;
     element.name = "test " + std::to_string(testId);
@@ -32,39 +32,39 @@ struct CaseBuilder {
     return document.elements.back();
   }
 
-  judge::CaseElement& Element(std::int32_t id) {
+  host::judge::CaseElement& Element(std::int32_t id) {
     for (auto& element : document.elements)
       if (element.id == id) return element;
     throw std::out_of_range("no such element");
   }
 
-  static judge::CaseStandard Limit(const std::string& unit, std::optional<double> low,
-                                   std::optional<double> high, const std::string& name = "IEC 62353") {
-    judge::CaseLimit limit{"NO LIMIT KEY", unit, low, high, {}, {}};
+  static host::judge::CaseStandard Limit(const std::string& unit, std::optional<double> low,
+                                         std::optional<double> high, const std::string& name = "IEC 62353") {
+    host::judge::CaseLimit limit{"NO LIMIT KEY", unit, low, high, {}, {}};
     if (low) limit.lowText = std::to_string(*low);
     if (high) limit.highText = std::to_string(*high);
     return {name, "class I", {limit}};
   }
 
   /// A run begins that takes up these elements.
-  bench::RunRecord& Begin(std::vector<std::int32_t> elements) {
-    bench::RunRecord run;
+  host::document::RunRecord& Begin(std::vector<std::int32_t> elements) {
+    host::document::RunRecord run;
     run.number = static_cast<std::int32_t>(runs.size()) + 1;
     run.by = "M. Holm";
     run.equipment = document.equipment;
     run.testers.push_back({"KELD(IN)", "4711", "3.10", 0, {}});
-    run.steps.emplace_back(bench::RecordedTakes{std::move(elements)});
-    run.end = bench::RunRecord::End::kFinished;
+    run.steps.emplace_back(host::document::RecordedTakes{std::move(elements)});
+    run.end = host::document::RunRecord::End::kFinished;
     runs.push_back(std::move(run));
     return runs.back();
   }
 
   /// The present run finishes a test with this reply ("1.85,0,Ohm") and this measurement; saved in the
   /// element.
-  bench::RecordedTest& Measure(std::int32_t id, const std::string& reply, double value,
-                               const std::string& unit, std::int32_t status) {
+  host::document::RecordedTest& Measure(std::int32_t id, const std::string& reply, double value,
+                                        const std::string& unit, std::int32_t status) {
     auto& element = Element(id);
-    bench::RecordedTest test;
+    host::document::RecordedTest test;
     test.element = id;
     test.testId = element.testId;
     test.settings = element.settings;
@@ -72,8 +72,8 @@ struct CaseBuilder {
     test.status = status;
     test.tester = 1;
     test.said = {"gres," + std::to_string(element.testId) + ",0," + reply};
-    test.recorded = bench::RecordedReading{TextOf(value), unit, {}};
-    element.result = judge::SavedResult{};
+    test.recorded = host::document::RecordedReading{TextOf(value), unit, {}};
+    element.result = host::judge::SavedResult{};
     element.result->status = status;
     element.result->serviceCode = status == 2 ? "F" : "P";
     element.result->measured = true;
@@ -81,29 +81,30 @@ struct CaseBuilder {
     element.result->unit = unit;
     element.result->measurementStatus = status;
     runs.back().steps.emplace_back(test);
-    return std::get<bench::RecordedTest>(runs.back().steps.back());
+    return std::get<host::document::RecordedTest>(runs.back().steps.back());
   }
 
   /// The present run finishes an element without a measurement.
-  bench::RecordedTest& Finish(std::int32_t id, std::int32_t status, bench::RecordedTest::By by) {
+  host::document::RecordedTest& Finish(std::int32_t id, std::int32_t status,
+                                       host::document::RecordedTest::By by) {
     auto& element = Element(id);
-    bench::RecordedTest test;
+    host::document::RecordedTest test;
     test.element = id;
     test.testId = element.testId;
     test.settings = element.settings;
     test.status = status;
     test.by = by;
-    element.result = judge::SavedResult{};
+    element.result = host::judge::SavedResult{};
     element.result->status = status;
     element.result->serviceCode = status == 1 ? "P" : status == 2 ? "F" : status == 3 ? "NA" : "";
     runs.back().steps.emplace_back(test);
-    return std::get<bench::RecordedTest>(runs.back().steps.back());
+    return std::get<host::document::RecordedTest>(runs.back().steps.back());
   }
 
   /// The present run finishes a group with this summary.
-  bench::RecordedTest& Sum(std::int32_t id, std::optional<double> value, std::int32_t status) {
-    auto& test = Finish(id, status, bench::RecordedTest::By::kTester);
-    test.recorded = bench::RecordedReading{value ? TextOf(*value) : "", "", ""};
+  host::document::RecordedTest& Sum(std::int32_t id, std::optional<double> value, std::int32_t status) {
+    auto& test = Finish(id, status, host::document::RecordedTest::By::kTester);
+    test.recorded = host::document::RecordedReading{value ? TextOf(*value) : "", "", ""};
     auto& saved = *Element(id).result;
     saved.measured = true;
     saved.value = value;
@@ -111,12 +112,12 @@ struct CaseBuilder {
     return test;
   }
 
-  judge::JudgedDocument Judged() {
+  host::judge::JudgedDocument Judged() {
     document.runs = &runs;
-    return judge::Judge(document);
+    return host::judge::Judge(document);
   }
-  judge::JudgedElement Judged(std::int32_t id) { return *Judged().Find(id); }
-  judge::Verdict Verdict(std::int32_t id = 1) { return Judged(id).verdict; }
+  host::judge::JudgedElement Judged(std::int32_t id) { return *Judged().Find(id); }
+  host::judge::Verdict Verdict(std::int32_t id = 1) { return Judged(id).verdict; }
   /// Codes of the element's reasons.
   std::vector<std::string> Codes(std::int32_t id = 1) {
     std::vector<std::string> codes;

@@ -6,10 +6,10 @@
 namespace judge_tests {
 namespace {
 
-using bench::RecordedTest;
-using judge::Filter;
-using judge::Outcome;
-using judge::Verdict;
+using host::document::RecordedTest;
+using host::judge::Filter;
+using host::judge::Outcome;
+using host::judge::Verdict;
 using testing::Contains;
 using testing::ElementsAre;
 using testing::IsEmpty;

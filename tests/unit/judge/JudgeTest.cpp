@@ -6,9 +6,9 @@
 namespace judge_tests {
 namespace {
 
-using bench::RecordedTest;
-using judge::Outcome;
-using judge::Verdict;
+using host::document::RecordedTest;
+using host::judge::Outcome;
+using host::judge::Verdict;
 using testing::Contains;
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -27,7 +27,7 @@ TEST(Judge, PassesAReadingWithinItsLimit) {
   EXPECT_EQ(judged.by, "M. Holm");
   EXPECT_EQ(judged.at, "2026-11-21T14:03:22+01:00");
   ASSERT_EQ(judged.limits.size(), 1U);
-  EXPECT_EQ(judged.limits[0].verdict, judge::LimitVerdict::kWithin);
+  EXPECT_EQ(judged.limits[0].verdict, host::judge::LimitVerdict::kWithin);
   EXPECT_EQ(earth.Judged().outcome, Outcome::kPassed);
 }
 
@@ -120,14 +120,14 @@ TEST(Judge, CountsNothingThatWasNotRecordedByARun) {
 
 TEST(Judge, CountsNothingThatALaterRunTookUpAndDidNotFinish) {
   auto earth = PassedEarth();
-  earth.Begin({1}).end = bench::RunRecord::End::kNone;
+  earth.Begin({1}).end = host::document::RunRecord::End::kNone;
   EXPECT_EQ(earth.Verdict(), Verdict::kNotTested);
   EXPECT_THAT(earth.Codes(), ElementsAre("not-finished"));
 }
 
 TEST(Judge, CountsNothingThatTheSameRunTookUpAgain) {
   auto earth = PassedEarth();
-  earth.runs.back().steps.emplace_back(bench::RecordedTakes{{1}});
+  earth.runs.back().steps.emplace_back(host::document::RecordedTakes{{1}});
   EXPECT_EQ(earth.Verdict(), Verdict::kNotTested);
   EXPECT_THAT(earth.Codes(), ElementsAre("not-finished"));
 }
@@ -309,7 +309,7 @@ TEST(Judge, DoubtsAnOverload) {
   earth.Element(1).result->flags = "O";
   EXPECT_EQ(earth.Verdict(), Verdict::kDoubtful);
   EXPECT_THAT(earth.Codes(), Contains("overload"));
-  EXPECT_EQ(earth.Judged(1).limits[0].verdict, judge::LimitVerdict::kNotComparable);
+  EXPECT_EQ(earth.Judged(1).limits[0].verdict, host::judge::LimitVerdict::kNotComparable);
 }
 
 TEST(Judge, FailsAnOverloadThatThePlugInFailedForBeingOne) {

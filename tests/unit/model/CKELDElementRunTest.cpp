@@ -56,13 +56,13 @@ TEST_P(CKELDElementRunTest, RunsOnOneSession) {
             Joined({{start, "navigate 0", start}, GetParam().children, {finished, "navigate 0"}}));
   EXPECT_EQ(States(element), GetParam().passed);
   EXPECT_TRUE(Test(element)->Stopped());
-  EXPECT_EQ(orvik::As<CKELDResultData>(element->Result())->Owner(), element);
+  EXPECT_EQ(orvik::As<results::CKELDResultData>(element->Result())->Owner(), element);
 }
 
 TEST_P(CKELDElementRunTest, CreatesItsResultBeforeTheHostIsAsked) {
   Element owner;
   controller->mayStart = [&](const auto& asked) {
-    if (const auto created = orvik::As<CKELDResultData>(asked->Result())) owner = created->Owner();
+    if (const auto created = orvik::As<results::CKELDResultData>(asked->Result())) owner = created->Owner();
     return false;
   };
   Perform(element);
@@ -214,8 +214,8 @@ TEST_P(CKELDElementRunTest, RecordsAnAbortAfterTheSessionHasEnded) {
   Test(element)->InitAutoRun(link, nullptr, controller);
   Test(element)->RunTest();
   Texts states;
-  const auto listening = bench.Ports().TheWire()->Subscribe([&](const bench::WireRecord& record) {
-    if (record.kind == bench::WireRecord::Kind::kClosed) states = States(element);
+  const auto listening = bench.Ports().TheWire()->Subscribe([&](const host::serial::WireRecord& record) {
+    if (record.kind == host::serial::WireRecord::Kind::kClosed) states = States(element);
   });
   Test(element)->AbortTest();
   EXPECT_EQ(bench.Wire().Sent().back(), "EREM");
@@ -250,7 +250,7 @@ TEST_P(CKELDElementRunTest, LeavesTheLinkOpenWhenDriven) {
 TEST_P(CKELDElementRunTest, ReleasesGuideAndControllerOnReset) {
   Drive(element);
   Test(element)->ResetAutoRun();
-  const std::weak_ptr<FTestGuide> released = std::exchange(guide, nullptr);
+  const std::weak_ptr<ui::FTestGuide> released = std::exchange(guide, nullptr);
   EXPECT_TRUE(released.expired());
   Test(element)->NextTest();
   EXPECT_TRUE(controller->told.empty());

@@ -15,18 +15,18 @@ namespace keld {
 class CKELDElementTest : public support::ModelTest, public testing::WithParamInterface<bool> {
  protected:
   static Element Create() {
-    return GetParam() ? Element(CKELDSequence::Create()) : Element(CKELDTestElement::Create());
+    return GetParam() ? Element(model::CKELDSequence::Create()) : Element(model::CKELDTestElement::Create());
   }
   static Element Make() { return GetParam() ? MakeSequence({}, 7) : MakeTest(410, 7); }
   static std::int32_t TestId() { return GetParam() ? 100 : 410; }
-  static std::shared_ptr<CKELDResultData> GiveResult(const Element& element) {
-    const auto result = CKELDResultData::Create();
+  static std::shared_ptr<results::CKELDResultData> GiveResult(const Element& element) {
+    const auto result = results::CKELDResultData::Create();
     result->SetComment("old");
     Base(element).SetResult(result);
     return result;
   }
-  static std::shared_ptr<CKELDResultData> ResultOf(const Element& element) {
-    return orvik::As<CKELDResultData>(element->Result());
+  static std::shared_ptr<results::CKELDResultData> ResultOf(const Element& element) {
+    return orvik::As<results::CKELDResultData>(element->Result());
   }
   void Load(const Element& element, const char* xml, const Element& context = nullptr) {
     const auto document = MKELDGlobalVars::XmlDocument();
@@ -37,9 +37,9 @@ class CKELDElementTest : public support::ModelTest, public testing::WithParamInt
 
 TEST_P(CKELDElementTest, StartsWithItsOwnConfigurationAndLimits) {
   const auto element = Create();
-  ASSERT_TRUE(orvik::As<CKELDTestConfiguration>(element->Configuration()));
+  ASSERT_TRUE(orvik::As<configuration::CKELDTestConfiguration>(element->Configuration()));
   EXPECT_EQ(Configuration(element).Owner(), element);
-  ASSERT_TRUE(orvik::As<CKELDLimitData>(element->Limits()));
+  ASSERT_TRUE(orvik::As<results::CKELDLimitData>(element->Limits()));
   EXPECT_EQ(element->Limits()->Owner(), element);
   EXPECT_FALSE(element->Result());
   EXPECT_EQ(Test(element)->ExpectedUnits(), "");
@@ -59,7 +59,7 @@ TEST_P(CKELDElementTest, KeepsWhatItWasInitialisedWith) {
 
 TEST_P(CKELDElementTest, OwnsNewLimitsOnceInitialised) {
   const auto element = Create();
-  const auto limits = CKELDLimitData::Create();
+  const auto limits = results::CKELDLimitData::Create();
   Base(element).SetLimits(limits);
   EXPECT_FALSE(limits->Owner());
   element->Initialize("KELD(IN)", 1, 410);
@@ -106,7 +106,7 @@ TEST_P(CKELDElementTest, KeepsItsResultWhenTheHostRejectsANode) {
 }
 
 TEST_P(CKELDElementTest, ForwardsTheContextOfALoad) {
-  const auto record = std::make_shared<results::ServiceRecordProbe>();
+  const auto record = std::make_shared<::results::ServiceRecordProbe>();
   bench.Host().Register(orvik::HostClasses::kServiceRecord, [&] { return record; });
   const auto context = MakeTest(420);
   Load(Make(), "<ResultItem><ServiceRecord/></ResultItem>", context);
@@ -157,7 +157,7 @@ TEST_P(CKELDElementTest, ForwardsTheRestToItsBaseElement) {
   EXPECT_EQ(element->Information(), Base(element).Information());
   EXPECT_EQ(element->GetMeasurementList(), orvik::Variant(Texts{}));
   const auto result = GiveResult(element);
-  result->SetMeasurement(CKELDMeasurement::Create());
+  result->SetMeasurement(instrument::CKELDMeasurement::Create());
   EXPECT_EQ(element->Result(), result);
   const auto document = MKELDGlobalVars::XmlDocument();
   const auto root = document->CreateRoot("Elements");
@@ -189,7 +189,7 @@ TEST_P(CKELDElementTest, TerminatesItsBaseElementWhenDestroyed) {
 }
 
 TEST_P(CKELDElementTest, KeepsItsBaseElementForEver) {
-  const auto element = orvik::As<CKELDElement>(Create());
+  const auto element = orvik::As<model::CKELDElement>(Create());
   const auto base = element->BaseElement();
   element->SetBaseElement(nullptr);
   EXPECT_EQ(element->BaseElement(), base);
@@ -198,7 +198,7 @@ TEST_P(CKELDElementTest, KeepsItsBaseElementForEver) {
 TEST_P(CKELDElementTest, IsPrintedIfTheHostSaysSo) {
   const auto element = Make();
   GiveResult(element);
-  const auto report = std::make_shared<bench::ReportObject>();
+  const auto report = std::make_shared<host::report::ReportObject>();
   for (const bool print : {false, true}) {
     Base(element).Auxiliary()->SetPrintElement(print);
     element->PrintReport(report, nullptr);

@@ -27,7 +27,7 @@ class CKELDSequenceTest : public support::ModelTest {
 };
 
 TEST_F(CKELDSequenceTest, HoldsItsChildrenInOrder) {
-  EXPECT_EQ(CKELDSequence::Create()->Count(), 0);
+  EXPECT_EQ(model::CKELDSequence::Create()->Count(), 0);
   EXPECT_EQ(children.Count(), 2);
   EXPECT_EQ(children.item(1), first);
   EXPECT_EQ(first->Parent(), sequence);
@@ -56,7 +56,7 @@ TEST_F(CKELDSequenceTest, LogsAnElementThatCannotBeAdded) {
 
 TEST_F(CKELDSequenceTest, KeepsItsOptionsWhenInitialised) {
   for (const std::int32_t id : {100, 920, 1100, 1120}) {
-    const auto created = CKELDSequence::Create();
+    const auto created = model::CKELDSequence::Create();
     created->Initialize("KELD(IN)", 1, id);
     EXPECT_EQ(created->TestID(), id);
     EXPECT_EQ(Configuration(created).Options(), 3) << id;
@@ -65,7 +65,7 @@ TEST_F(CKELDSequenceTest, KeepsItsOptionsWhenInitialised) {
 
 TEST_F(CKELDSequenceTest, IsClonedWithItsChildren) {
   const auto clone = sequence->Clone();
-  ASSERT_TRUE(orvik::As<CKELDSequence>(clone));
+  ASSERT_TRUE(orvik::As<model::CKELDSequence>(clone));
   ASSERT_EQ(Container(clone)->Count(), 2);
   EXPECT_EQ(Container(clone)->item(1)->Parent(), clone);
   EXPECT_EQ(first->Parent(), sequence);
@@ -90,14 +90,14 @@ TEST_F(CKELDSequenceTest, InfoIsTheBaseElements) {
 }
 
 TEST_F(CKELDSequenceTest, IsNotPrintedWithoutAResult) {
-  const auto report = std::make_shared<bench::ReportObject>();
+  const auto report = std::make_shared<host::report::ReportObject>();
   sequence->PrintReport(report, nullptr);
   EXPECT_TRUE(report->Tables().empty());
 }
 
 TEST_F(CKELDSequenceTest, RaisesNothingWithoutItsContainer) {
   bench.Host().Register(orvik::HostClasses::kTestContainer, [] { return nullptr; });
-  const auto empty = CKELDSequence::Create();
+  const auto empty = model::CKELDSequence::Create();
   const auto child = MakeTest(210, 1);
   empty->Add(child, {}, {});
   empty->Remove(child);

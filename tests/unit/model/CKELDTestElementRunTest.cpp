@@ -14,8 +14,8 @@ class CKELDTestElementRunTest : public support::DrivenTest {
       "the unit is powered on.";
 
   void UseLeads(double milliohms) {
-    CKELDData::Shared()->SetSerialNumber("0815");
-    CKELDData::Shared()->SetCalibValue(milliohms);
+    instrument::CKELDData::Shared()->SetSerialNumber("0815");
+    instrument::CKELDData::Shared()->SetCalibValue(milliohms);
   }
   /// A field of the guide's instrument data.
   std::string Shown(const char* field) {
@@ -222,7 +222,7 @@ TEST_F(CKELDTestElementRunTest, CreatesAndShowsItsResultOnAMeasurement) {
   ASSERT_EQ(Rows(*guide->Form()), 0);
   Measure();
   EXPECT_EQ(State(element), "1 5 P");
-  EXPECT_EQ(orvik::As<CKELDResultData>(element->Result())->Owner(), element);
+  EXPECT_EQ(orvik::As<results::CKELDResultData>(element->Result())->Owner(), element);
   EXPECT_EQ(Rows(*guide->Form()), 1);
 }
 
@@ -251,7 +251,7 @@ TEST_F(CKELDTestElementRunTest, DoesNotChangeItsResultWithoutAnAnswer) {
 }
 
 TEST_F(CKELDTestElementRunTest, TagsItsMessagesWithTheirPicture) {
-  const auto test = orvik::As<CKELDTestElement>(Drive(element));
+  const auto test = orvik::As<model::CKELDTestElement>(Drive(element));
   Texts keys;
   person.onAnswer = [&](const std::string&) { keys.push_back(test->FailureMessage()->Tag()); };
   Raise(7);
@@ -279,12 +279,12 @@ TEST_F(CKELDTestElementRunTest, StoresAndShowsTheTestersIdentity) {
   Drive(element);
   link->SetMtiData(2, std::string("3.4"));
   Raise(3);
-  EXPECT_EQ(CKELDData::Shared()->FirmwareVersion(), "3.4");
+  EXPECT_EQ(instrument::CKELDData::Shared()->FirmwareVersion(), "3.4");
   EXPECT_EQ(Shown("txtFwVer"), "3.4");
   EXPECT_FALSE(element->Result());
-  link->GotMtiData().Raise(MtiDataArray{std::string("KELD(IN)-2"), std::string("0815"), std::string("2.1"),
-                                        std::string(), std::string()});
-  EXPECT_EQ(CKELDData::Shared()->SerialNumber(), "0815");
+  link->GotMtiData().Raise(instrument::MtiDataArray{std::string("KELD(IN)-2"), std::string("0815"),
+                                                    std::string("2.1"), std::string(), std::string()});
+  EXPECT_EQ(instrument::CKELDData::Shared()->SerialNumber(), "0815");
   EXPECT_EQ(Shown("txtMTIType"), "KELD(IN)-2");
   EXPECT_EQ(Shown("txtFwVer"), "2.1");
 }
@@ -293,7 +293,7 @@ TEST_F(CKELDTestElementRunTest, HandlesEventsWithoutAGuide) {
   Test(element)->InitAutoRun(link, nullptr, controller);
   link->SetMtiData(2, std::string("3.4"));
   Raise(3);
-  EXPECT_EQ(CKELDData::Shared()->FirmwareVersion(), "3.4");
+  EXPECT_EQ(instrument::CKELDData::Shared()->FirmwareVersion(), "3.4");
   Raise(5);
   EXPECT_EQ(element->Result()->MTIID(), 1);
 }

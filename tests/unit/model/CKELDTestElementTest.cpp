@@ -21,7 +21,7 @@ TEST_F(CKELDTestElementTest, SetsTheLeadOptionsOfItsTest) {
         Row{1165, 4096 + 4, 4096 + 8}, Row{1110, kHighest, kHighest}, Row{1110, kHighest - 3, kHighest - 3},
         Row{1110, kHighest - 4, kHighest}, Row{910, 3, 4099}, Row{965, 3, 4099}, Row{965, 4096, 4096},
         Row{966, 3, 3}, Row{909, 3, 3}, Row{410, 3, 3}}) {
-    const auto element = CKELDTestElement::Create();
+    const auto element = model::CKELDTestElement::Create();
     Configuration(element).SetOptions(row.before);
     element->Initialize("KELD(IN)", 1, row.testId);
     EXPECT_EQ(Configuration(element).Options(), row.after) << row.testId << ", " << row.before;
@@ -38,14 +38,14 @@ TEST_F(CKELDTestElementTest, InfoIsTheSecondTextThenTheFirst) {
 
 TEST_F(CKELDTestElementTest, ListsItsMeasurement) {
   const auto element = MakeTest(410);
-  const auto result = CKELDResultData::Create();
-  result->SetMeasurement(CKELDMeasurement::Create());
+  const auto result = results::CKELDResultData::Create();
+  result->SetMeasurement(instrument::CKELDMeasurement::Create());
   Base(element).SetResult(result);
   EXPECT_EQ(element->GetMeasurementList(), orvik::Variant(Texts{"::"}));
 }
 
 TEST_F(CKELDTestElementTest, IsPrintedWithoutAResult) {
-  const auto report = std::make_shared<bench::ReportObject>();
+  const auto report = std::make_shared<host::report::ReportObject>();
   MakeTest(410)->PrintReport(report, nullptr);
   EXPECT_FALSE(report->Tables().empty());
 }
@@ -54,7 +54,7 @@ TEST_F(CKELDTestElementTest, ContinuesAfterAFailingStep) {
   bench.Host().Register(orvik::HostClasses::kTestElement, [factory = std::weak_ptr(bench.Host().Elements())] {
     return std::make_shared<support::FailingElement>(factory);
   });
-  const auto element = CKELDTestElement::Create();
+  const auto element = model::CKELDTestElement::Create();
   ASSERT_TRUE(element->BaseElement());
   EXPECT_FALSE(element->Configuration());
   ASSERT_TRUE(element->Limits());

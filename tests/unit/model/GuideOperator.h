@@ -31,7 +31,7 @@ class GuideOperator {
   static constexpr int kNotApplicable = 301;
   static constexpr int kSkip = 302;
 
-  explicit GuideOperator(bench::headless::Application& application) : application_(application) {
+  explicit GuideOperator(toolkit::headless::Application& application) : application_(application) {
     shown_ = application.FormShown().Subscribe([this](const auto& form) { OnShown(form); });
   }
 
@@ -116,7 +116,7 @@ class GuideOperator {
     return site ? orvik::As<orvik::ITgToolbar>(site->Object()) : nullptr;
   }
 
-  bench::headless::Application& application_;
+  toolkit::headless::Application& application_;
   std::weak_ptr<orvik::platform::IForm> guideForm_;
   /// The guide's buttons are to be pressed once the prompt is answered.
   bool waiting_ = false;

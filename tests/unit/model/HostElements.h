@@ -28,8 +28,8 @@ namespace support {
 /// A container's operations, forwarded to a real one.
 class ForwardingContainer : public orvik::ITestContainer {
  public:
-  explicit ForwardingContainer(const std::weak_ptr<bench::ElementFactory>& factory)
-      : children_(std::make_shared<bench::TestContainer>(factory)) {}
+  explicit ForwardingContainer(const std::weak_ptr<host::elements::ElementFactory>& factory)
+      : children_(std::make_shared<host::elements::TestContainer>(factory)) {}
 
  protected:
   const orvik::ITestContainer& Children() const { return *children_; }
@@ -64,10 +64,11 @@ struct ElementWatch {
 };
 
 /// The host's base element, watched.
-class WatchedElement : public bench::TestElement {
+class WatchedElement : public host::elements::TestElement {
  public:
-  WatchedElement(const std::weak_ptr<bench::ElementFactory>& factory, std::shared_ptr<ElementWatch> watch)
-      : TestElement(factory), watch_(std::move(watch)) {}
+  WatchedElement(const std::weak_ptr<host::elements::ElementFactory>& factory,
+                 std::shared_ptr<ElementWatch> watch)
+      : host::elements::TestElement(factory), watch_(std::move(watch)) {}
 
  private:
   void ITestElement_Terminate() override { ++watch_->terminated; }
@@ -85,14 +86,15 @@ class WatchedElement : public bench::TestElement {
 
 class WatchedContainer final : public WatchedElement, public ForwardingContainer {
  public:
-  WatchedContainer(const std::weak_ptr<bench::ElementFactory>& factory, std::shared_ptr<ElementWatch> watch)
+  WatchedContainer(const std::weak_ptr<host::elements::ElementFactory>& factory,
+                   std::shared_ptr<ElementWatch> watch)
       : WatchedElement(factory, std::move(watch)), ForwardingContainer(factory) {}
 };
 
 /// From now on the host creates watched base elements.
-inline std::shared_ptr<ElementWatch> RegisterWatchedElements(bench::Host& host) {
+inline std::shared_ptr<ElementWatch> RegisterWatchedElements(host::document::Host& host) {
   const auto watch = std::make_shared<ElementWatch>();
-  const std::weak_ptr<bench::ElementFactory> factory = host.Elements();
+  const std::weak_ptr<host::elements::ElementFactory> factory = host.Elements();
   host.Register(orvik::HostClasses::kTestElement,
                 [factory, watch] { return std::make_shared<WatchedElement>(factory, watch); });
   host.Register(orvik::HostClasses::kTestContainer,
@@ -101,9 +103,9 @@ inline std::shared_ptr<ElementWatch> RegisterWatchedElements(bench::Host& host) 
 }
 
 /// A base element that accepts limits and fails otherwise.
-class FailingElement final : public bench::TestElement {
+class FailingElement final : public host::elements::TestElement {
  public:
-  using TestElement::TestElement;
+  using host::elements::TestElement::TestElement;
 
  private:
   void IBaseElement_SetConfiguration(std::shared_ptr<orvik::IConfigData>) override { RaiseHostError(); }

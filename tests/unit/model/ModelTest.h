@@ -54,27 +54,27 @@ class ModelTest : public testing::Test {
 
   /// A single test, not from the catalogue.
   static Element MakeTest(std::int32_t testId, std::int32_t id = 1) {
-    auto made = keld::CKELDTestElement::Create();
+    auto made = keld::model::CKELDTestElement::Create();
     made->Initialize("KELD(IN)", id, testId);
     return made;
   }
   static Element MakeSequence(const std::vector<Element>& children, std::int32_t id = 100) {
-    auto made = keld::CKELDSequence::Create();
+    auto made = keld::model::CKELDSequence::Create();
     made->Initialize("KELD(IN)", id, 100);
     for (const auto& child : children) made->Add(child, {}, {});
     return made;
   }
-  static std::shared_ptr<keld::IKELDTest> Test(const Element& element) {
-    return orvik::As<keld::IKELDTest>(element);
+  static std::shared_ptr<keld::model::IKELDTest> Test(const Element& element) {
+    return orvik::As<keld::model::IKELDTest>(element);
   }
   static std::shared_ptr<orvik::ITestContainer> Container(const Element& element) {
     return orvik::As<orvik::ITestContainer>(element);
   }
-  static keld::CKELDTestConfiguration& Configuration(const Element& element) {
-    return *orvik::As<keld::CKELDTestConfiguration>(element->Configuration());
+  static keld::configuration::CKELDTestConfiguration& Configuration(const Element& element) {
+    return *orvik::As<keld::configuration::CKELDTestConfiguration>(element->Configuration());
   }
   static orvik::IBaseElement& Base(const Element& element) {
-    return *orvik::As<keld::CKELDElement>(element)->BaseElement();
+    return *orvik::As<keld::model::CKELDElement>(element)->BaseElement();
   }
   static std::int32_t Status(const Element& element) {
     return element->Result() ? element->Result()->Status() : -1;
@@ -165,8 +165,8 @@ class DrivenTest : public ModelTest {
     Raise(5, testNo);
   }
 
-  std::shared_ptr<keld::CKELDInstrument> link = keld::CKELDInstrument::Create();
-  std::shared_ptr<keld::FTestGuide> guide = keld::FTestGuide::Create();
+  std::shared_ptr<keld::instrument::CKELDInstrument> link = keld::instrument::CKELDInstrument::Create();
+  std::shared_ptr<keld::ui::FTestGuide> guide = keld::ui::FTestGuide::Create();
 };
 
 }  // namespace support

@@ -81,7 +81,7 @@ class OperatorRun {
     top_ = element_->TestID();
   }
 
-  keld::IKELDTest& Test() { return dynamic_cast<keld::IKELDTest&>(*element_); }
+  keld::model::IKELDTest& Test() { return dynamic_cast<keld::model::IKELDTest&>(*element_); }
 
   /// @param moment the pump call at which the operator acts; less than 0: never
   /// @param release whether nobody but the run holds the element any more from then on
@@ -117,11 +117,11 @@ class OperatorRun {
 
  private:
   std::shared_ptr<orvik::ITestElement> MakeSequence() {
-    const auto nested = keld::CKELDSequence::Create();
+    const auto nested = keld::model::CKELDSequence::Create();
     nested->Initialize("KELD(IN)", 20, 200);
     nested->Add(bench_.CreateTest(410), {}, {});
     nested->Add(bench_.CreateTest(420), {}, {});
-    const auto sequence = keld::CKELDSequence::Create();
+    const auto sequence = keld::model::CKELDSequence::Create();
     sequence->Initialize("KELD(IN)", 10, 100);
     sequence->Add(bench_.CreateTest(210), {}, {});
     sequence->Add(nested, {}, {});

@@ -81,13 +81,14 @@ class RandomTree {
   }
 
   void GiveSettings(orvik::ITestElement& element) {
-    auto& configuration = dynamic_cast<keld::CKELDTestConfiguration&>(*element.Configuration());
+    auto& configuration =
+        dynamic_cast<keld::configuration::CKELDTestConfiguration&>(*element.Configuration());
     configuration.SetOptions(Below(4) ? static_cast<std::int32_t>(Below(8192))
                                       : static_cast<std::int32_t>(random_()));
     configuration.SetValueFilter(static_cast<std::int32_t>(Below(6)));
     if (Below(3)) return;  // the host's own part of most elements is never asked for
-    auto& host = dynamic_cast<bench::AuxiliaryState&>(
-        *dynamic_cast<keld::CKELDElement&>(element).BaseElement()->Auxiliary());
+    auto& host = dynamic_cast<host::elements::AuxiliaryState&>(
+        *dynamic_cast<keld::model::CKELDElement&>(element).BaseElement()->Auxiliary());
     orvik::IAuxiliaryState& state = host;
     state.SetPrintElement(Below(2) == 0);
     host.SetRecordOnly(Below(3) == 0);
@@ -123,8 +124,8 @@ class RandomTree {
   }
 
   void GiveResult(const Element& element) {
-    const auto result = keld::CKELDResultData::Create();
-    orvik::As<keld::CKELDElement>(element)->BaseElement()->SetResult(result);
+    const auto result = keld::results::CKELDResultData::Create();
+    orvik::As<keld::model::CKELDElement>(element)->BaseElement()->SetResult(result);
     result->SetStatus(static_cast<std::int32_t>(Below(5)));
     if (Below(2)) result->SetComment(Text());
     if (Below(2)) result->SetMTIIdentifier(static_cast<std::int32_t>(Below(3)));
@@ -135,8 +136,8 @@ class RandomTree {
     if (Below(8) == 0) result->SetServiceRecord(nullptr);
   }
 
-  std::shared_ptr<keld::CKELDMeasurement> Measurement() {
-    const auto measurement = keld::CKELDMeasurement::Create();
+  std::shared_ptr<keld::instrument::CKELDMeasurement> Measurement() {
+    const auto measurement = keld::instrument::CKELDMeasurement::Create();
     if (Below(4))
       measurement->AddValue(Number(), Text(), Below(3) ? "" : "O", "");
     else

@@ -22,7 +22,7 @@ class RecordingController final : public virtual orvik::IRunController {
     return true;
   };
   std::shared_ptr<orvik::IStandardColl> standards;
-  std::shared_ptr<orvik::IInstrumentColl> instruments = std::make_shared<bench::InstrumentColl>();
+  std::shared_ptr<orvik::IInstrumentColl> instruments = std::make_shared<host::instruments::InstrumentColl>();
   /// By test identifier: "start 410", "finished 410", "navigate 0".
   std::vector<std::string> told;
   /// The navigation requests, and the identifiers of the finished elements.

@@ -25,22 +25,24 @@ void ForEachElement(const Element& element, const std::function<void(const Eleme
 }
 
 std::string Saved(const Element& element) {
-  bench::XmlDocument document;
+  host::xml::XmlDocument document;
   orvik::IXmlDocument& written = document;
   return element->Save(written.CreateRoot("Elements")) ? written.SaveToString() : "(nothing)";
 }
 
-orvik::IBaseElement& BaseOf(const Element& element) { return *As<CKELDElement>(element)->BaseElement(); }
+orvik::IBaseElement& BaseOf(const Element& element) {
+  return *As<model::CKELDElement>(element)->BaseElement();
+}
 
 /// Whether whatever an element of the tree has knows that it belongs to that element.
 testing::AssertionResult OwnsWhatItHas(const Element& tree) {
   std::string strays;
   ForEachElement(tree, [&](const Element& element) {
     const std::string name = " of element " + std::to_string(element->ID()) + "\n";
-    if (As<CKELDTestConfiguration>(element->Configuration())->Owner() != element)
+    if (As<configuration::CKELDTestConfiguration>(element->Configuration())->Owner() != element)
       strays += "configuration" + name;
     if (element->Limits()->Owner() != element) strays += "limits" + name;
-    const auto result = As<CKELDResultData>(element->Result());
+    const auto result = As<results::CKELDResultData>(element->Result());
     if (result && result->Owner() != element) strays += "result" + name;
     const auto container = As<orvik::ITestContainer>(element);
     for (std::int32_t i = 1; container && i <= container->Count(); ++i) {
@@ -53,8 +55,9 @@ testing::AssertionResult OwnsWhatItHas(const Element& tree) {
 
 std::map<std::int32_t, std::string> UnitsOf(const Element& tree) {
   std::map<std::int32_t, std::string> units;
-  ForEachElement(
-      tree, [&](const Element& element) { units[element->ID()] = As<IKELDTest>(element)->ExpectedUnits(); });
+  ForEachElement(tree, [&](const Element& element) {
+    units[element->ID()] = As<model::IKELDTest>(element)->ExpectedUnits();
+  });
   return units;
 }
 
@@ -71,7 +74,7 @@ class RoundTripTest : public support::ModelTest {
   /// classes alone.
   Element Loaded(const std::string& text) {
     auto& factory = *bench.Host().Elements();
-    bench::XmlDocument document;
+    host::xml::XmlDocument document;
     orvik::IXmlDocument& read = document;
     EXPECT_TRUE(read.LoadFromString(text)) << read.LastError();
     const auto node = read.Root()->FirstChild();
@@ -96,7 +99,7 @@ class RoundTripTest : public support::ModelTest {
     for (const auto& change : Changes()) {
       for (const auto& element : elements) change.make(element);
     }
-    for (const auto& element : elements) As<IKELDTest>(element)->SetExpectedUnits("changed");
+    for (const auto& element : elements) As<model::IKELDTest>(element)->SetExpectedUnits("changed");
   }
 
   std::mt19937 random_;
@@ -114,7 +117,7 @@ std::vector<RoundTripTest::Change> RoundTripTest::Changes() {
   changes.push_back({"the host's own part", [](const Element& element) {
                        const auto state = BaseOf(element).Auxiliary();
                        state->SetPrintElement(!state->PrintElement());
-                       auto& host = dynamic_cast<bench::AuxiliaryState&>(*state);
+                       auto& host = dynamic_cast<host::elements::AuxiliaryState&>(*state);
                        host.SetRecordOnly(!host.RecordOnly());
                      }});
   changes.push_back({"configuration", [](const Element& element) {
@@ -145,7 +148,7 @@ std::vector<RoundTripTest::Change> RoundTripTest::Changes() {
   changes.push_back({"further standards",
                      [](const Element& element) { element->Limits()->CreateStandard("further", ""); }});
   changes.push_back({"result", [](const Element& element) {
-                       const auto result = As<CKELDResultData>(element->Result());
+                       const auto result = As<results::CKELDResultData>(element->Result());
                        if (!result) return;
                        result->SetComment(result->Comment() + "x");
                        result->SetStatus(result->Status() == 1 ? 2 : 1);
@@ -153,7 +156,8 @@ std::vector<RoundTripTest::Change> RoundTripTest::Changes() {
                      }});
   changes.push_back({"measurement", [](const Element& element) {
                        const auto result = element->Result();
-                       const auto measured = As<CKELDMeasurement>(result ? result->Measurement(1) : nullptr);
+                       const auto measured =
+                           As<instrument::CKELDMeasurement>(result ? result->Measurement(1) : nullptr);
                        if (!measured) return;
                        measured->AddValue(1000.0, measured->Unit() + "x", measured->Flags() + "y", "");
                        measured->SetDescription(measured->Description() + "z");
@@ -177,7 +181,7 @@ std::vector<RoundTripTest::Change> RoundTripTest::Changes() {
                        container->Add(trees_.Test(), {}, {});
                      }});
   changes.push_back({"measurement taken away", [](const Element& element) {
-                       if (const auto result = As<CKELDResultData>(element->Result()))
+                       if (const auto result = As<results::CKELDResultData>(element->Result()))
                          result->SetMeasurement(nullptr);
                      }});
   changes.push_back(
@@ -225,9 +229,9 @@ TEST_F(RoundTripTest, ACloneOfAnyTreeSavesTheSameBytesAndSharesNothing) {
 TEST_F(RoundTripTest, EveryChangeShowsInWhatIsSaved) {
   const auto test = MakeTest(410, 2);
   Limit(test, "1", "2");
-  const auto result = CKELDResultData::Create();
+  const auto result = results::CKELDResultData::Create();
   Base(test).SetResult(result);
-  const auto measurement = CKELDMeasurement::Create();
+  const auto measurement = instrument::CKELDMeasurement::Create();
   measurement->AddValue(1.5, "mOhm", "", "");
   result->SetMeasurement(measurement);
   result->SetStatus(1);
@@ -249,9 +253,9 @@ TEST_F(RoundTripTest, AValueThatIsNoNumberReadsBackAsANumberOrNoneAndStaysThat) 
       {orvik::Variant(), ""}, {std::string(), ""}, {std::string("OL"), "0"}, {std::string("12 V"), "12"}};
   for (const auto& [value, number] : rows) {
     const auto test = MakeTest(410);
-    const auto result = CKELDResultData::Create();
+    const auto result = results::CKELDResultData::Create();
     Base(test).SetResult(result);
-    const auto measurement = CKELDMeasurement::Create();
+    const auto measurement = instrument::CKELDMeasurement::Create();
     measurement->AddValue(value, "mOhm", "", "");
     result->SetMeasurement(measurement);
     const auto loaded = Loaded(Saved(test));

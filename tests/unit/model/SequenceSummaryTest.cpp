@@ -36,16 +36,16 @@ class SequenceSummaryTest : public support::ModelTest {
  protected:
   static Element WithStatus(std::int32_t status) {
     const auto element = MakeTest(210);
-    const auto result = CKELDResultData::Create();
+    const auto result = results::CKELDResultData::Create();
     result->SetStatus(status);
     Base(element).SetResult(result);
     return element;
   }
   static Element WithValue(const orvik::Variant& value) {
     const auto element = WithStatus(1);
-    const auto measurement = CKELDMeasurement::Create();
+    const auto measurement = instrument::CKELDMeasurement::Create();
     measurement->AddValue(value, "", "", "");
-    orvik::As<CKELDResultData>(element->Result())->SetMeasurement(measurement);
+    orvik::As<results::CKELDResultData>(element->Result())->SetMeasurement(measurement);
     return element;
   }
   /// A child whose result cannot be read.
@@ -84,10 +84,10 @@ TEST_F(SequenceSummaryTest, ValueIsTheHighestOrLowestOfTheChildren) {
       {"a text, by its number", {WithValue(text("12.5")), WithValue(7.0)}, 12.5, 7.0}};
   for (const Row& row : rows) {
     const auto container = Of(row.children);
-    EXPECT_EQ(SummaryValue(*container, 3), row.highest) << row.name;
-    EXPECT_EQ(SummaryValue(*container, 4), row.lowest) << row.name;
+    EXPECT_EQ(model::SummaryValue(*container, 3), row.highest) << row.name;
+    EXPECT_EQ(model::SummaryValue(*container, 4), row.lowest) << row.name;
     for (const std::int32_t mode : {0, 1, 2, 5, -1})
-      EXPECT_EQ(SummaryValue(*container, mode), text("")) << row.name << ", mode " << mode;
+      EXPECT_EQ(model::SummaryValue(*container, mode), text("")) << row.name << ", mode " << mode;
   }
 }
 
@@ -110,7 +110,7 @@ TEST_F(SequenceSummaryTest, StatusFollowsFromTheChildren) {
                                  {"failed beside an unreadable result", {Broken(), WithStatus(2)}, 2},
                                  {"failed, then the enumeration fails", {WithStatus(2)}, 2, true}};
   for (const Row& row : rows)
-    EXPECT_EQ(ChildrenStatus(*Of(row.children, row.breaks)), row.status) << row.name;
+    EXPECT_EQ(model::ChildrenStatus(*Of(row.children, row.breaks)), row.status) << row.name;
 }
 
 }  // namespace keld

@@ -19,7 +19,7 @@
 
 namespace {
 
-using keld::CKELDPlugin;
+using keld::plugin::CKELDPlugin;
 using orvik::As;
 using orvik::ITestContainer;
 
@@ -41,7 +41,7 @@ class CKELDPluginTest : public testing::Test {
     return *plugin_;
   }
   static orvik::IInformationRecord& Texts(const std::shared_ptr<orvik::ITestElement>& element) {
-    return *As<keld::CKELDElement>(element)->BaseElement()->Information();
+    return *As<keld::model::CKELDElement>(element)->BaseElement()->Information();
   }
 
   std::unique_ptr<support::HostOnly> bench_ = std::make_unique<support::HostOnly>(kSmallCatalogue);
@@ -54,7 +54,7 @@ TEST_F(CKELDPluginTest, IsEmptyUntilInitialised) {
   EXPECT_EQ(plugin_->Name(), "");
   EXPECT_EQ(plugin_->Flags(), 0);
   EXPECT_EQ(plugin_->Version(), "2.2.2");
-  ASSERT_TRUE(As<keld::CKELDSequence>(plugin_->Tests()));
+  ASSERT_TRUE(As<keld::model::CKELDSequence>(plugin_->Tests()));
   EXPECT_EQ(plugin_->Tests()->Count(), 0);
   EXPECT_FALSE(plugin_->CreateTest(410));
 }
@@ -141,14 +141,14 @@ TEST_F(CKELDPluginTest, CreatesIndependentCopies) {
   EXPECT_NE(first, second);
   EXPECT_NE(first, plugin.Tests()->FindElement(410));
   Texts(first).SetDisplayName("changed");
-  As<keld::CKELDTestConfiguration>(first->Configuration())->SetOptions(0);
-  As<keld::IKELDTest>(first)->SetExpectedUnits("V");
+  As<keld::configuration::CKELDTestConfiguration>(first->Configuration())->SetOptions(0);
+  As<keld::model::IKELDTest>(first)->SetExpectedUnits("V");
   first->SetID(99);
   for (const auto& other : {second, plugin.Tests()->FindElement(410), plugin.CreateTest(410)}) {
     ASSERT_TRUE(other);
     EXPECT_EQ(Texts(other).DisplayName(), "PE");
-    EXPECT_EQ(As<keld::CKELDTestConfiguration>(other->Configuration())->Options(), 3);
-    EXPECT_EQ(As<keld::IKELDTest>(other)->ExpectedUnits(), "mOhm");
+    EXPECT_EQ(As<keld::configuration::CKELDTestConfiguration>(other->Configuration())->Options(), 3);
+    EXPECT_EQ(As<keld::model::IKELDTest>(other)->ExpectedUnits(), "mOhm");
     EXPECT_EQ(other->ID(), 410);
   }
 }
@@ -217,10 +217,10 @@ TEST_F(CKELDPluginTest, ReturnsTheIconOfATestOrOfItself) {
 }
 
 TEST_F(CKELDPluginTest, ViewsASequenceAsAContainer) {
-  const auto sequence = keld::CKELDSequence::Create();
+  const auto sequence = keld::model::CKELDSequence::Create();
   EXPECT_TRUE(plugin_->Cast_ITestContainer(sequence));
   EXPECT_EQ(plugin_->Cast_ITestContainer(sequence), As<ITestContainer>(sequence));
-  EXPECT_FALSE(plugin_->Cast_ITestContainer(keld::CKELDTestElement::Create()));
+  EXPECT_FALSE(plugin_->Cast_ITestContainer(keld::model::CKELDTestElement::Create()));
   EXPECT_FALSE(plugin_->Cast_ITestContainer(nullptr));
 }
 

@@ -16,11 +16,11 @@
 
 namespace {
 
-using keld::CKELDTestConfiguration;
+using keld::configuration::CKELDTestConfiguration;
 using orvik::As;
 using Texts = std::vector<std::string>;
-using TestDialog = support::ConfigurationDialog<keld::CKELDTestElement>;
-using SequenceDialog = support::ConfigurationDialog<keld::CKELDSequence>;
+using TestDialog = support::ConfigurationDialog<keld::model::CKELDTestElement>;
+using SequenceDialog = support::ConfigurationDialog<keld::model::CKELDSequence>;
 
 class TestConfiguration : public testing::Test {
  protected:
@@ -37,7 +37,7 @@ class TestConfiguration : public testing::Test {
     return configuration;
   }
   std::shared_ptr<CKELDTestConfiguration> Owned(std::int32_t testId, std::int32_t options = 3) {
-    owner_ = keld::CKELDTestElement::Create();
+    owner_ = keld::model::CKELDTestElement::Create();
     owner_->Initialize("KELD(IN)", 1, testId);
     const auto configuration = With(options);
     configuration->SetOwner(owner_);
@@ -220,18 +220,18 @@ TEST_F(TestConfiguration, TriesEveryStepOnAFailingReport) {
 }
 
 TEST_F(TestConfiguration, PrintsATableOnTheHostsReport) {
-  const auto report = std::make_shared<bench::ReportObject>();
+  const auto report = std::make_shared<host::report::ReportObject>();
   Owned(1110, 2048)->PrintReport(report);
   ASSERT_EQ(report->Tables().size(), 1U);
   const auto& table = report->Tables().front();
   ASSERT_EQ(table.header.size(), 1U);
   ASSERT_EQ(table.header[0].size(), 2U);
-  using Cell = bench::report::Cell;
+  using Cell = host::report::Cell;
   EXPECT_EQ(table.header[0][1], (Cell{{.text = "Configuration:", .bold = true, .italic = true}}));
   ASSERT_EQ(table.rows.size(), 1U);
   ASSERT_EQ(table.rows[0].size(), 2U);
-  EXPECT_EQ(bench::report::PlainText(table.rows[0][0]), "") << "the margin";
-  EXPECT_EQ(bench::report::PlainText(table.rows[0][1]), "Lead number 10 tested.      ");
+  EXPECT_EQ(host::report::PlainText(table.rows[0][0]), "") << "the margin";
+  EXPECT_EQ(host::report::PlainText(table.rows[0][1]), "Lead number 10 tested.      ");
 }
 
 // --- dialog ---
@@ -239,13 +239,13 @@ TEST_F(TestConfiguration, PrintsATableOnTheHostsReport) {
 TEST_F(TestConfiguration, EditsEachClassInItsControl) {
   TestDialog test(410);
   EXPECT_EQ(test.dialog->ClassID(), "orvikKELD.FElementSetup");
-  EXPECT_TRUE(As<keld::XKELDTestConfiguration>(test.site->Object()));
+  EXPECT_TRUE(As<keld::configuration::XKELDTestConfiguration>(test.site->Object()));
   EXPECT_FALSE(test.list);
   SequenceDialog sequence(600);
-  EXPECT_TRUE(As<keld::XKELDSeqConfiguration>(sequence.site->Object()));
+  EXPECT_TRUE(As<keld::configuration::XKELDSeqConfiguration>(sequence.site->Object()));
   test.configuration->SetOwner(nullptr);
   test.Open();
-  EXPECT_TRUE(As<keld::XKELDTestConfiguration>(test.site->Object()));
+  EXPECT_TRUE(As<keld::configuration::XKELDTestConfiguration>(test.site->Object()));
   EXPECT_EQ(test.tree->NodeKeys(), (Texts{"NA key", "Skip key"}));
 }
 
@@ -288,7 +288,7 @@ TEST_F(TestConfiguration, TranslatesEveryTextForItsModule) {
 
 TEST_F(TestConfiguration, OpensADialogWithoutItsControl) {
   bench_.Host().Register("orvikKELD.XKELDSeqConfiguration", [] { return nullptr; });
-  const auto sequence = keld::CKELDSequence::Create();
+  const auto sequence = keld::model::CKELDSequence::Create();
   const auto configuration = With(3, 4);
   configuration->SetOwner(sequence);
   const auto dialog = configuration->CreateDialog();

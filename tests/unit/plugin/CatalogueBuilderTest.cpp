@@ -22,11 +22,11 @@ using orvik::ITestContainer;
 using orvik::ITestElement;
 
 std::string DisplayNameOf(const std::shared_ptr<ITestElement>& element) {
-  return As<keld::CKELDElement>(element)->BaseElement()->Information()->DisplayName();
+  return As<keld::model::CKELDElement>(element)->BaseElement()->Information()->DisplayName();
 }
 
 std::string UnitOf(const std::shared_ptr<ITestElement>& element) {
-  return As<keld::IKELDTest>(element)->ExpectedUnits();
+  return As<keld::model::IKELDTest>(element)->ExpectedUnits();
 }
 
 /// The entries as "ID" or "ID(members)", separated by blanks.
@@ -45,7 +45,7 @@ std::string Catalogue(const std::string& entries) { return "<TemplateData>" + en
 
 class CatalogueBuilder : public testing::Test {
  protected:
-  std::shared_ptr<ITestContainer> Build(const std::string& xml) { return keld::BuildCatalogue(xml); }
+  std::shared_ptr<ITestContainer> Build(const std::string& xml) { return keld::plugin::BuildCatalogue(xml); }
 
   std::size_t Faults() const {
     const auto lines = bench_.ErrorLines();

@@ -20,7 +20,7 @@ const std::set<std::string> kIdentifiers = {
 class ClassLibraryTest : public testing::Test {
  protected:
   support::HostOnly bench_;
-  std::shared_ptr<orvik::IClassLibrary> library_ = std::make_shared<keld::ClassLibrary>();
+  std::shared_ptr<orvik::IClassLibrary> library_ = std::make_shared<keld::plugin::ClassLibrary>();
 };
 
 TEST_F(ClassLibraryTest, ListsEveryClassOnceWithItsPurpose) {

@@ -21,7 +21,7 @@ namespace support {
 template <class Element>
 struct ConfigurationDialog {
   explicit ConfigurationDialog(std::int32_t testId, std::int32_t options = 3, std::int32_t filter = 1)
-      : element(Element::Create()), configuration(keld::CKELDTestConfiguration::Create()) {
+      : element(Element::Create()), configuration(keld::configuration::CKELDTestConfiguration::Create()) {
     orvik::As<orvik::ITestElement>(element)->Initialize("KELD(IN)", 1, testId);
     configuration->SetOwner(orvik::As<orvik::ITestElement>(element));
     configuration->SetOptions(options);
@@ -35,17 +35,17 @@ struct ConfigurationDialog {
     form = orvik::As<orvik::IDialogForm>(dialog)->Form();
     form->Show();
     site = orvik::As<orvik::platform::IContainerSite>(form->Find("isc"));
-    control = orvik::As<keld::ConfigurationControl>(site->Object());
+    control = orvik::As<keld::configuration::ConfigurationControl>(site->Object());
     tree = orvik::As<orvik::platform::ITreeView>(site->Panel()->Find("tvwSettings"));
     list = orvik::As<orvik::platform::IComboBox>(site->Panel()->Find("cmbAssign"));
   }
 
   std::shared_ptr<Element> element;
-  std::shared_ptr<keld::CKELDTestConfiguration> configuration;
+  std::shared_ptr<keld::configuration::CKELDTestConfiguration> configuration;
   std::shared_ptr<orvik::IDialog> dialog;
   std::shared_ptr<orvik::platform::IForm> form;
   std::shared_ptr<orvik::platform::IContainerSite> site;
-  std::shared_ptr<keld::ConfigurationControl> control;
+  std::shared_ptr<keld::configuration::ConfigurationControl> control;
   std::shared_ptr<orvik::platform::ITreeView> tree;
   std::shared_ptr<orvik::platform::IComboBox> list;
 };

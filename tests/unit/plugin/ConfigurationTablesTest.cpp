@@ -7,7 +7,7 @@
 
 namespace {
 
-namespace Tables = keld::ConfigurationTables;
+namespace Tables = keld::configuration::ConfigurationTables;
 
 struct OptionRow {
   std::int32_t bit;

@@ -32,7 +32,7 @@ TEST(EntryPoints, OpenTheLibraryAndReleaseTheHostOnClose) {
 }
 
 TEST(EntryPoints, ReturnNoLibraryWithoutAHost) {
-  std::shared_ptr<orvik::IClassLibrary> library = std::make_shared<keld::ClassLibrary>();
+  std::shared_ptr<orvik::IClassLibrary> library = std::make_shared<keld::plugin::ClassLibrary>();
   OrvikOpenLibrary(nullptr, library);
   EXPECT_FALSE(library);
 }

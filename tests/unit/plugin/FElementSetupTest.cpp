@@ -82,14 +82,14 @@ class EmptyElementSetup : public testing::Test {
   EmptyElementSetup() {
     bench_.Host().Register("Test.Recorder", [] { return std::make_shared<RecordingControl>(); });
     bench_.Host().Register("Test.Other", [] { return std::make_shared<OtherControl>(); });
-    setup_ = keld::FElementSetup::Create();
+    setup_ = keld::configuration::FElementSetup::Create();
     dialog_ = setup_;
     form_ = As<orvik::IDialogForm>(setup_)->Form();
     window_ = bench_.Application().CreateForm("HostWindow");
   }
 
   support::HostOnly bench_;
-  std::shared_ptr<keld::FElementSetup> setup_;
+  std::shared_ptr<keld::configuration::FElementSetup> setup_;
   std::shared_ptr<orvik::IDialog> dialog_;
   std::shared_ptr<orvik::platform::IForm> form_;
   std::shared_ptr<orvik::platform::IForm> window_;
@@ -271,7 +271,7 @@ TEST_F(ElementSetup, UnloadsTheFormInEveryState) {
 TEST_F(ElementSetup, UnloadsItsFormWhenDestroyed) {
   dialog_->Dock(window_->Handle());
   form_->Show();
-  const std::weak_ptr<keld::FElementSetup> watched = setup_;
+  const std::weak_ptr<keld::configuration::FElementSetup> watched = setup_;
   setup_.reset();
   dialog_.reset();
   EXPECT_TRUE(watched.expired());

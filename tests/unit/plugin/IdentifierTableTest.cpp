@@ -12,7 +12,7 @@ constexpr char kItem[] = "TE:ITEM(16x16)";
 constexpr char kWhiteItem[] = "TE:ITEM(16X16)_WHT";
 
 std::string Key(int id, int style) {
-  return std::string(keld::IconKey(static_cast<std::int16_t>(id), static_cast<std::int16_t>(style)));
+  return std::string(keld::plugin::IconKey(static_cast<std::int16_t>(id), static_cast<std::int16_t>(style)));
 }
 
 TEST(IconKey, MatchesTheTableForBothStyles) {

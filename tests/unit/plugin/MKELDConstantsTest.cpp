@@ -47,11 +47,11 @@ class Constants : public testing::Test {
 };
 
 TEST_F(Constants, SaveAResult) {
-  const auto measurement = keld::CKELDMeasurement::Create();
+  const auto measurement = keld::instrument::CKELDMeasurement::Create();
   measurement->SetDescription("20702::No values");
   measurement->AddValue(5.3, "mA", "O", "");
   measurement->SetStatus(2);
-  const auto result = keld::CKELDResultData::Create();
+  const auto result = keld::results::CKELDResultData::Create();
   result->SetMTIIdentifier(3);
   result->SetStatus(2);
   result->SetComment("worn lead");
@@ -63,8 +63,8 @@ TEST_F(Constants, SaveAResult) {
 }
 
 TEST_F(Constants, SaveAServiceRecordBelowItsResult) {
-  const auto element = keld::CKELDTestElement::Create();
-  const auto result = keld::CKELDResultData::Create();
+  const auto element = keld::model::CKELDTestElement::Create();
+  const auto result = keld::results::CKELDResultData::Create();
   result->SetStatus(3);
   element->BaseElement()->SetResult(result);
   result->BuildServiceRecord(element);
@@ -74,7 +74,7 @@ TEST_F(Constants, SaveAServiceRecordBelowItsResult) {
 }
 
 TEST_F(Constants, SaveAConfiguration) {
-  const auto configuration = keld::CKELDTestConfiguration::Create();
+  const auto configuration = keld::configuration::CKELDTestConfiguration::Create();
   configuration->SetOptions(7);
   configuration->SetValueFilter(3);
   EXPECT_EQ(Saved([&](const auto& root) { configuration->Save(root); }),
@@ -82,8 +82,8 @@ TEST_F(Constants, SaveAConfiguration) {
 }
 
 TEST_F(Constants, SaveLimitsUnderTheirName) {
-  const auto element = keld::CKELDTestElement::Create();
-  As<keld::CKELDLimitData>(element->Limits())->CreateStandard("IEC 62353", "class I");
+  const auto element = keld::model::CKELDTestElement::Create();
+  As<keld::results::CKELDLimitData>(element->Limits())->CreateStandard("IEC 62353", "class I");
   const auto saved = Saved([&](const auto& root) { element->Limits()->Save(root); });
   EXPECT_TRUE(saved.starts_with("<R><ExpectedResult>")) << saved;
   EXPECT_NE(saved.find("\"NO LIMIT KEY\""), std::string::npos) << saved;
@@ -94,14 +94,14 @@ TEST_F(Constants, LocateTheCatalogueInTheRegistry) {
   ASSERT_TRUE(registry->CreateKey(kLocalMachine, kSettings));
   registry->WriteValue("Configuration",
                        std::string("<TemplateData><TestElement ID=\"410\"/></TemplateData>"));
-  const auto plugin = keld::CKELDPlugin::Create();
+  const auto plugin = keld::plugin::CKELDPlugin::Create();
   plugin->Initialize(nullptr);
   EXPECT_TRUE(plugin->CreateTest(410));
 }
 
 TEST_F(Constants, LocateTheTestersInTheRegistry) {
-  keld::CKELDData::Shared()->SetSerialNumber("4711");
-  keld::CKELDData::Shared()->SetCalibValue(35);
+  keld::instrument::CKELDData::Shared()->SetSerialNumber("4711");
+  keld::instrument::CKELDData::Shared()->SetCalibValue(35);
   const auto registry = keld::MKELDGlobalVars::RegistryReader();
   ASSERT_TRUE(registry->OpenKey(kLocalMachine, kTesters));
   EXPECT_EQ(orvik::TextOf(registry->ReadValue("4711")), "35");
@@ -117,7 +117,7 @@ TEST_F(Constants, ShareTextNumbersWithTheHost) {
   form->AddControl("orvikKELD.XKELDResultView", "view");
   EXPECT_EQ(asked, (Texts{"20340::KELD test", "231::Value", "232::High limit", "233::Low limit"}));
   asked.clear();
-  keld::CKELDResultData::Create()->PrintReport(std::make_shared<recorders::Report>(), nullptr);
+  keld::results::CKELDResultData::Create()->PrintReport(std::make_shared<recorders::Report>(), nullptr);
   EXPECT_EQ(asked, (Texts{"312::Result:", "231::Value", "234::Unit"}));
 }
 

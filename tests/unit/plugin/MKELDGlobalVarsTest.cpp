@@ -59,7 +59,7 @@ TEST(MKELDGlobalVars, CreateEachServiceOnFirstUseAndOnce) {
                                                        {Classes::kRegistryReader, 1},
                                                        {Classes::kPersistence, 1}}));
   // The plug-in's classes share them.
-  keld::CKELDPlugin::Create()->Initialize(nullptr);
+  keld::plugin::CKELDPlugin::Create()->Initialize(nullptr);
   Globals::Translated("20702::No values");
   EXPECT_EQ(host->created[Classes::kLanguageService], 1);
 }

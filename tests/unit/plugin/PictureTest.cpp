@@ -14,7 +14,7 @@ TEST(Picture, HasTheWholeBitmapAndItsSize) {
   // Keys are case-insensitive.
   for (const Row& row : {Row{"TE:MV(32X16)", 32, 16}, Row{"tab:MtiData", 32, 34}, Row{"KELD(16x16)", 16, 16},
                          Row{"te:group(16x16)_wht", 16, 16}}) {
-    const auto picture = keld::Picture::FromResource(row.key);
+    const auto picture = keld::plugin::Picture::FromResource(row.key);
     ASSERT_TRUE(picture) << row.key;
     EXPECT_EQ(picture->Width(), row.width) << row.key;
     EXPECT_EQ(picture->Height(), row.height) << row.key;
@@ -24,8 +24,8 @@ TEST(Picture, HasTheWholeBitmapAndItsSize) {
 }
 
 TEST(Picture, IsEmptyForAnUnknownKey) {
-  EXPECT_FALSE(keld::Picture::FromResource(""));
-  EXPECT_FALSE(keld::Picture::FromResource("TE:NONE(16X16)"));
+  EXPECT_FALSE(keld::plugin::Picture::FromResource(""));
+  EXPECT_FALSE(keld::plugin::Picture::FromResource("TE:NONE(16X16)"));
 }
 
 }  // namespace

@@ -22,7 +22,7 @@ class WithoutLanguageTest : public testing::TestWithParam<LanguageFault> {
 };
 
 TEST_P(WithoutLanguageTest, ATestsSettingsAreEditedAndClosed) {
-  ConfigurationDialog<keld::CKELDTestElement> opened(910, 3);
+  ConfigurationDialog<keld::model::CKELDTestElement> opened(910, 3);
   ASSERT_TRUE(opened.tree);
   EXPECT_EQ(opened.tree->NodeCaption("NA key"), "20784::Enable NA button in test guide");
   opened.tree->ClickNode("NA key");
@@ -33,7 +33,7 @@ TEST_P(WithoutLanguageTest, ATestsSettingsAreEditedAndClosed) {
 }
 
 TEST_P(WithoutLanguageTest, ASequencesSettingsAreEditedAndDocked) {
-  ConfigurationDialog<keld::CKELDSequence> opened(600, 3, 1);
+  ConfigurationDialog<keld::model::CKELDSequence> opened(600, 3, 1);
   ASSERT_TRUE(opened.list);
   EXPECT_EQ(opened.list->Items().size(), 4U);
   opened.list->Choose(2);
@@ -47,7 +47,7 @@ TEST_P(WithoutLanguageTest, ASequencesSettingsAreEditedAndDocked) {
 TEST_P(WithoutLanguageTest, ThePlugInStillCreatesTests) {
   bench_.WriteCatalogue(
       "<TemplateData><TestElement ID=\"410\"><Name LID=\"1::PE\"/></TestElement></TemplateData>");
-  const auto plugin = keld::CKELDPlugin::Create();
+  const auto plugin = keld::plugin::CKELDPlugin::Create();
   plugin->Initialize(nullptr);
   EXPECT_EQ(plugin->Name(), "");
   EXPECT_TRUE(plugin->CreateTest(410));

@@ -9,7 +9,7 @@
 
 namespace {
 
-using SequenceDialog = support::ConfigurationDialog<keld::CKELDSequence>;
+using SequenceDialog = support::ConfigurationDialog<keld::model::CKELDSequence>;
 using Texts = std::vector<std::string>;
 
 class SequenceConfigurationControl : public testing::Test {

@@ -12,7 +12,7 @@
 
 namespace {
 
-using Dialog = support::ConfigurationDialog<keld::CKELDTestElement>;
+using Dialog = support::ConfigurationDialog<keld::model::CKELDTestElement>;
 using Notices = std::vector<std::string>;
 
 class TestConfigurationControl : public testing::Test {
@@ -31,7 +31,7 @@ TEST_F(TestConfigurationControl, FindsItsControlsByName) {
 }
 
 TEST_F(TestConfigurationControl, IsEmptyBeforeItIsPlaced) {
-  const auto control = keld::XKELDTestConfiguration::Create();
+  const auto control = keld::configuration::XKELDTestConfiguration::Create();
   EXPECT_FALSE(control->GetControl("tvwSettings"));
   control->FillSettings();
   EXPECT_EQ(control->hWnd(), 0U);
@@ -150,8 +150,8 @@ TEST_F(TestConfigurationControl, ShowsTheOptionsAfterRandomClicks) {
     int leads = 0;
     for (const auto& node : keys) {
       if (!open.tree->Checked(node)) continue;
-      shown |= keld::ConfigurationTables::BitOf(node);
-      leads += keld::ConfigurationTables::IsLead(node) ? 1 : 0;
+      shown |= keld::configuration::ConfigurationTables::BitOf(node);
+      leads += keld::configuration::ConfigurationTables::IsLead(node) ? 1 : 0;
     }
     ASSERT_EQ(open.configuration->Options(), shown) << "click " << i;
     ASSERT_LE(leads, 1) << "click " << i;

@@ -19,7 +19,7 @@
 
 #include "tests/unit/qt/ScreenTest.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 namespace {
 
 using support::Inner;
@@ -435,4 +435,4 @@ TEST_F(ControlsOnScreen, AreNotClipped) {
 }
 
 }  // namespace
-}  // namespace bench::headless
+}  // namespace toolkit::headless

@@ -12,12 +12,12 @@
 
 // Our loop inside Qt's, and the other way round, on the real clock: the order of things is looked at, never
 // how long they take.
-namespace bench::qt {
+namespace host::qt {
 namespace {
 
-using headless::Application;
-using headless::ClockKind;
 using orvik::platform::Time;
+using toolkit::headless::Application;
+using toolkit::loop::ClockKind;
 using namespace std::chrono_literals;
 
 class EventDispatcherTest : public testing::Test {
@@ -45,7 +45,7 @@ class EventDispatcherTest : public testing::Test {
   std::shared_ptr<Application> app = std::make_shared<Application>(ClockKind::kReal);
   std::shared_ptr<Screen> screen = std::make_shared<Screen>(app);
   std::string received;
-  headless::Application::Id watch_ = 0;
+  toolkit::headless::Application::Id watch_ = 0;
 
  private:
   std::array<int, 2> pipe_{};
@@ -171,4 +171,4 @@ TEST_F(EventDispatcherTest, LeavesSleepingToTheLoopWhenRemoved) {
 }
 
 }  // namespace
-}  // namespace bench::qt
+}  // namespace host::qt

@@ -9,7 +9,7 @@
 
 #include "tests/unit/qt/ScreenTest.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 namespace {
 
 namespace person = support::person;
@@ -431,7 +431,7 @@ TEST_F(FormsOnScreen, AreShownOnAScreenCreatedLater) {
   form->SetGrid(OneColumn({"cmd"}));
   button->SetCaption("A long caption in real letters");
   form->Show();
-  onScreen = std::make_shared<qt::Screen>(app);
+  onScreen = std::make_shared<host::qt::Screen>(app);
   Pump();
   EXPECT_TRUE(IsOnScreen(*button));
   EXPECT_GE(WidgetOf(*button).width(), WidgetOf(*button).sizeHint().width());
@@ -439,4 +439,4 @@ TEST_F(FormsOnScreen, AreShownOnAScreenCreatedLater) {
 }
 
 }  // namespace
-}  // namespace bench::headless
+}  // namespace toolkit::headless

@@ -65,7 +65,7 @@ class GuideOnScreen : public GuideTest {
     EXPECT_EQ(support::Differences(finder, App()), std::vector<std::string>{});
   }
 
-  bench::qt::Screen screen_{bench_.Only().SharedApplication()};
+  host::qt::Screen screen_{bench_.Only().SharedApplication()};
   /// The button that is pressed in every other window.
   std::string answer_ = "cmdDecline";
 };

@@ -7,7 +7,7 @@
 #include "host/qt/ListModel.h"
 #include "tests/unit/qt/ScreenTest.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 namespace {
 
 constexpr double kLegible = 4.5;
@@ -66,7 +66,7 @@ class ListDelegateTest : public ScreenTest, public testing::WithParamInterface<b
     double best = 1;
     for (int y = 0; y < cell.height(); ++y)
       for (int x = 0; x < cell.width(); ++x)
-        best = std::max(best, qt::Contrast(QColor(cell.pixel(x, y)), background));
+        best = std::max(best, host::qt::Contrast(QColor(cell.pixel(x, y)), background));
     return best;
   }
   static bool Reddish(const QColor& color) {
@@ -130,16 +130,16 @@ INSTANTIATE_TEST_SUITE_P(Palettes, ListDelegateTest, testing::Bool(),
                          });
 
 TEST(Contrast, FollowsTheAccessibilityGuidelines) {
-  EXPECT_NEAR(qt::Contrast(Qt::black, Qt::white), 21, 0.01);
-  EXPECT_NEAR(qt::Contrast(Qt::white, Qt::red), 4.0, 0.01);
-  EXPECT_NEAR(qt::Contrast(Qt::blue, Qt::blue), 1, 0.01);
+  EXPECT_NEAR(host::qt::Contrast(Qt::black, Qt::white), 21, 0.01);
+  EXPECT_NEAR(host::qt::Contrast(Qt::white, Qt::red), 4.0, 0.01);
+  EXPECT_NEAR(host::qt::Contrast(Qt::blue, Qt::blue), 1, 0.01);
 }
 
 TEST(Contrast, ChangesOnlyIllegibleColours) {
-  EXPECT_EQ(qt::Legible(Qt::black, Qt::white), QColor(Qt::black));
+  EXPECT_EQ(host::qt::Legible(Qt::black, Qt::white), QColor(Qt::black));
   for (const QColor background : {Qt::white, Qt::black, Qt::gray, Qt::blue, Qt::yellow})
-    EXPECT_GE(qt::Contrast(qt::Legible(Qt::red, background), background), kLegible);
+    EXPECT_GE(host::qt::Contrast(host::qt::Legible(Qt::red, background), background), kLegible);
 }
 
 }  // namespace
-}  // namespace bench::headless
+}  // namespace toolkit::headless

@@ -19,23 +19,23 @@
 namespace support {
 namespace {
 
-class WatchedScreen final : public bench::headless::IScreen {
+class WatchedScreen final : public toolkit::headless::IScreen {
  public:
-  explicit WatchedScreen(const std::shared_ptr<bench::headless::Application>& application)
+  explicit WatchedScreen(const std::shared_ptr<toolkit::headless::Application>& application)
       // The tests know the sizes that windows have without a screen.
-      : mirror_(application, bench::qt::Measure::kPlain),
+      : mirror_(application, host::qt::Measure::kPlain),
         application_(application),
         pumped_(application->Pumped().Subscribe([this] { Look(); })) {
     application_->SetScreen(this);
   }
   ~WatchedScreen() override { Look(); }
 
-  void Changed(bench::headless::Control& control) override {
+  void Changed(toolkit::headless::Control& control) override {
     mirror_.Changed(control);
     mirror_.Update();
   }
-  void Destroyed(const bench::headless::Control& control) override { mirror_.Destroyed(control); }
-  const bench::headless::IMetrics& Metrics() const override { return mirror_.Metrics(); }
+  void Destroyed(const toolkit::headless::Control& control) override { mirror_.Destroyed(control); }
+  const toolkit::headless::IMetrics& Metrics() const override { return mirror_.Metrics(); }
   void Watch(const std::vector<int>& descriptors) override { mirror_.Watch(descriptors); }
   void WorkAdded() override { mirror_.WorkAdded(); }
   void Sleep(std::chrono::nanoseconds longest) override { mirror_.Sleep(longest); }
@@ -50,8 +50,8 @@ class WatchedScreen final : public bench::headless::IScreen {
     for (const std::string& difference : Differences(finder, *application_)) ADD_FAILURE() << difference;
   }
 
-  bench::qt::WidgetMirror mirror_;
-  std::shared_ptr<bench::headless::Application> application_;
+  host::qt::WidgetMirror mirror_;
+  std::shared_ptr<toolkit::headless::Application> application_;
   orvik::platform::Subscription pumped_;
 };
 

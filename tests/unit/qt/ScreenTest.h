@@ -10,7 +10,7 @@
 #include "tests/unit/qt/WidgetDifferences.h"
 #include "tests/unit/toolkit/ToolkitTest.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 
 /// Windows on the screen.
 class ScreenTest : public ToolkitTest {
@@ -57,10 +57,10 @@ class ScreenTest : public ToolkitTest {
   std::shared_ptr<platform::IForm> Newest() const { return forms_.back(); }
   void ReleaseForms() { forms_.clear(); }
 
-  std::shared_ptr<qt::Screen> onScreen = std::make_shared<qt::Screen>(app);
+  std::shared_ptr<host::qt::Screen> onScreen = std::make_shared<host::qt::Screen>(app);
 
  private:
   std::vector<std::shared_ptr<platform::IForm>> forms_;
 };
 
-}  // namespace bench::headless
+}  // namespace toolkit::headless

@@ -5,7 +5,7 @@
 #include "host/qt/Units.h"
 #include "toolkit/headless/IMetrics.h"
 
-namespace bench::qt {
+namespace host::qt {
 namespace {
 
 TEST(TextsOnScreen, HaveAccessKeysBeforeLettersAndDigits) {
@@ -36,9 +36,10 @@ TEST(FontMetricsOnScreen, LongerTextsAreLarger) {
       metrics.Wrapped("many words " + std::string(40, ' ') + "more words and still more words to come here")
           .width,
       62 * metrics.Character().width);
-  for (const auto part : {headless::Part::kButton, headless::Part::kComboBox, headless::Part::kToolButton})
+  for (const auto part : {toolkit::headless::Part::kButton, toolkit::headless::Part::kComboBox,
+                          toolkit::headless::Part::kToolButton})
     EXPECT_GT(metrics.Padding(part).width, 0);
 }
 
 }  // namespace
-}  // namespace bench::qt
+}  // namespace host::qt

@@ -32,26 +32,26 @@
 namespace support {
 namespace {
 
-namespace headless = bench::headless;
+namespace headless = toolkit::headless;
 namespace platform = orvik::platform;
-using bench::qt::FromQt;
-using bench::qt::WithAccessKey;
-using bench::qt::WithoutAccessKey;
+using host::qt::FromQt;
+using host::qt::WithAccessKey;
+using host::qt::WithoutAccessKey;
 
 std::string Text(const std::string& text) { return text; }
-std::string Text(const QString& text) { return FromQt(text); }
+std::string Text(const QString& text) { return host::qt::FromQt(text); }
 std::string Text(bool value) { return value ? "true" : "false"; }
 std::string Text(int value) { return std::to_string(value); }
 
 /// Holds the widgets of one application against its windows.
 class Mirror {
  public:
-  Mirror(const WidgetFinder& widgetOf, const headless::Application& application)
+  Mirror(const WidgetFinder& widgetOf, const toolkit::headless::Application& application)
       : widgetOf_(widgetOf), application_(application) {}
 
   std::vector<std::string> Look() {
     for (const auto& form : application_.Forms()) {
-      const auto window = std::dynamic_pointer_cast<headless::Form>(form);
+      const auto window = std::dynamic_pointer_cast<toolkit::headless::Form>(form);
       QWidget* widget = widgetOf_(*window);
       if (window->Visible() && !widget) differences_.push_back("form " + window->Name() + " is not shown");
       if (widget) LookAtForm(*window, *widget);
@@ -67,20 +67,20 @@ class Mirror {
                              Text(shown) + "\"");
   }
 
-  void LookAtForm(headless::Form& form, QWidget& widget) {
+  void LookAtForm(toolkit::headless::Form& form, QWidget& widget) {
     where_ = form.Name();
     Compare("visible", form.Visible(), !widget.isHidden());
-    Compare("title", WithoutAccessKey(form.Caption()), widget.windowTitle());
+    Compare("title", host::qt::WithoutAccessKey(form.Caption()), widget.windowTitle());
     Compare("topmost", form.Topmost(), widget.windowFlags().testFlag(Qt::WindowStaysOnTopHint));
     if (form.Visible()) Compare("modal", application_.IsModal(form), widget.windowModality() != Qt::NonModal);
     LookInside(form);
   }
 
-  void LookInside(const headless::Control& outer) {
+  void LookInside(const toolkit::headless::Control& outer) {
     for (const auto& control : application_.WindowsInside(outer)) {
       QWidget* widget = widgetOf_(*control);
       where_ = outer.Name() + "." + control->Name();
-      if (std::dynamic_pointer_cast<headless::Timer>(control)) continue;
+      if (std::dynamic_pointer_cast<toolkit::headless::Timer>(control)) continue;
       if (!widget) {
         differences_.push_back(where_ + " is not shown");
         continue;
@@ -91,29 +91,32 @@ class Mirror {
     }
   }
 
-  void LookAt(headless::Control& control, QWidget& widget) {
+  void LookAt(toolkit::headless::Control& control, QWidget& widget) {
     Compare("name", control.Name(), widget.objectName());
     Compare("visible", control.Visible(), !widget.isHidden());
     Compare("enabled", control.Enabled(), widget.testAttribute(Qt::WA_ForceDisabled) == false);
     CompareSizes(control, widget);
-    if (const auto* label = dynamic_cast<headless::Label*>(&control)) LookAtLabel(*label, widget);
-    if (const auto* frame = dynamic_cast<headless::Frame*>(&control))
-      Compare("title", WithAccessKey(frame->Caption()), dynamic_cast<QGroupBox&>(widget).title());
-    if (const auto* button = dynamic_cast<headless::Button*>(&control))
-      Compare("caption", WithAccessKey(button->Caption()), dynamic_cast<QPushButton&>(widget).text());
-    if (const auto* box = dynamic_cast<headless::TextBox*>(&control)) LookAtText(*box, widget);
-    if (const auto* box = dynamic_cast<headless::ComboBox*>(&control)) LookAtCombo(*box, widget);
-    if (const auto* bar = dynamic_cast<headless::ProgressBar*>(&control)) LookAtProgress(*bar, widget);
-    if (const auto* list = dynamic_cast<headless::ListView*>(&control)) LookAtList(*list, widget);
-    if (const auto* tree = dynamic_cast<headless::TreeView*>(&control)) LookAtTree(*tree, widget);
-    if (const auto* toolbar = dynamic_cast<headless::Toolbar*>(&control)) LookAtToolbar(*toolbar, widget);
-    if (const auto* tabs = dynamic_cast<headless::Tabs*>(&control)) LookAtTabs(*tabs, widget);
-    if (const auto* box = dynamic_cast<headless::PictureBox*>(&control))
+    if (const auto* label = dynamic_cast<toolkit::headless::Label*>(&control)) LookAtLabel(*label, widget);
+    if (const auto* frame = dynamic_cast<toolkit::headless::Frame*>(&control))
+      Compare("title", host::qt::WithAccessKey(frame->Caption()), dynamic_cast<QGroupBox&>(widget).title());
+    if (const auto* button = dynamic_cast<toolkit::headless::Button*>(&control))
+      Compare("caption", host::qt::WithAccessKey(button->Caption()),
+              dynamic_cast<QPushButton&>(widget).text());
+    if (const auto* box = dynamic_cast<toolkit::headless::TextBox*>(&control)) LookAtText(*box, widget);
+    if (const auto* box = dynamic_cast<toolkit::headless::ComboBox*>(&control)) LookAtCombo(*box, widget);
+    if (const auto* bar = dynamic_cast<toolkit::headless::ProgressBar*>(&control))
+      LookAtProgress(*bar, widget);
+    if (const auto* list = dynamic_cast<toolkit::headless::ListView*>(&control)) LookAtList(*list, widget);
+    if (const auto* tree = dynamic_cast<toolkit::headless::TreeView*>(&control)) LookAtTree(*tree, widget);
+    if (const auto* toolbar = dynamic_cast<toolkit::headless::Toolbar*>(&control))
+      LookAtToolbar(*toolbar, widget);
+    if (const auto* tabs = dynamic_cast<toolkit::headless::Tabs*>(&control)) LookAtTabs(*tabs, widget);
+    if (const auto* box = dynamic_cast<toolkit::headless::PictureBox*>(&control))
       Compare("picture", box->NaturalSize() != platform::Size{},
               !dynamic_cast<QLabel&>(widget).pixmap(Qt::ReturnByValue).isNull());
   }
 
-  void CompareSizes(const headless::Control& control, const QWidget& widget) {
+  void CompareSizes(const toolkit::headless::Control& control, const QWidget& widget) {
     const platform::Rect place = control.Bounds();
     const int pixel = platform::kTwipsPerPixel;
     // Within a pixel: edges are rounded.
@@ -123,13 +126,15 @@ class Mirror {
     Compare("height", true, std::abs(widget.height() * pixel - place.height) <= pixel);
   }
 
-  void LookAtLabel(const headless::Label& label, const QWidget& widget) {
+  void LookAtLabel(const toolkit::headless::Label& label, const QWidget& widget) {
     const auto& shown = dynamic_cast<const QLabel&>(widget);
-    Compare("caption", shown.buddy() ? WithAccessKey(label.Caption()) : WithoutAccessKey(label.Caption()),
+    Compare("caption",
+            shown.buddy() ? host::qt::WithAccessKey(label.Caption())
+                          : host::qt::WithoutAccessKey(label.Caption()),
             shown.text());
   }
 
-  void LookAtText(const headless::TextBox& box, const QWidget& widget) {
+  void LookAtText(const toolkit::headless::TextBox& box, const QWidget& widget) {
     if (const auto* lines = qobject_cast<const QPlainTextEdit*>(&widget)) {
       Compare("several lines", box.MultiLine(), true);
       Compare("text", box.Text(), lines->toPlainText());
@@ -140,7 +145,7 @@ class Mirror {
     Compare("locked", box.Locked(), dynamic_cast<const QLineEdit&>(widget).isReadOnly());
   }
 
-  void LookAtCombo(const headless::ComboBox& box, const QWidget& widget) {
+  void LookAtCombo(const toolkit::headless::ComboBox& box, const QWidget& widget) {
     const auto& shown = dynamic_cast<const QComboBox&>(widget);
     Compare("entries", static_cast<int>(box.Items().size()), shown.count());
     for (int index = 0; index < shown.count(); ++index)
@@ -150,13 +155,13 @@ class Mirror {
     Compare("text", box.Text(), shown.currentText());
   }
 
-  void LookAtProgress(const headless::ProgressBar& bar, const QWidget& widget) {
+  void LookAtProgress(const toolkit::headless::ProgressBar& bar, const QWidget& widget) {
     const auto& shown = dynamic_cast<const QProgressBar&>(widget);
     Compare("minimum", bar.Minimum(), shown.minimum());
     Compare("value", bar.Value(), shown.value());
   }
 
-  void LookAtList(const headless::ListView& list, const QWidget& widget) {
+  void LookAtList(const toolkit::headless::ListView& list, const QWidget& widget) {
     const auto& view = dynamic_cast<const QTreeView&>(widget);
     const QAbstractItemModel& shown = *view.model();
     Compare("rows", list.RowCount(), shown.rowCount());
@@ -167,7 +172,7 @@ class Mirror {
     }
   }
 
-  void LookAtCell(const headless::ListView& list, const QAbstractItemModel& shown, int row,
+  void LookAtCell(const toolkit::headless::ListView& list, const QAbstractItemModel& shown, int row,
                   const platform::ListColumn& wanted) {
     int column = 0;
     while (list.Columns()[static_cast<std::size_t>(column)].key != wanted.key) ++column;
@@ -179,7 +184,7 @@ class Mirror {
             index.data(Qt::ForegroundRole).value<QColor>() == QColor(Qt::red));
   }
 
-  void LookAtTree(const headless::TreeView& tree, const QWidget& widget) {
+  void LookAtTree(const toolkit::headless::TreeView& tree, const QWidget& widget) {
     const auto& shown = dynamic_cast<const QTreeWidget&>(widget);
     const auto keys = tree.NodeKeys();
     Compare("nodes", static_cast<int>(keys.size()), shown.topLevelItemCount());
@@ -190,7 +195,7 @@ class Mirror {
     }
   }
 
-  void LookAtToolbar(const headless::Toolbar& toolbar, const QWidget& widget) {
+  void LookAtToolbar(const toolkit::headless::Toolbar& toolbar, const QWidget& widget) {
     for (const int command : toolbar.Commands()) {
       const QString name = widget.objectName() + "." + QString::number(command);
       const auto* button = widget.findChild<QToolButton*>(name);
@@ -202,33 +207,34 @@ class Mirror {
     }
   }
 
-  void LookAtCommand(const headless::Toolbar& toolbar, int command, const QString& text, bool enabled,
-                     bool visible) {
-    Compare("caption", WithAccessKey(toolbar.CommandCaption(command)), text);
+  void LookAtCommand(const toolkit::headless::Toolbar& toolbar, int command, const QString& text,
+                     bool enabled, bool visible) {
+    Compare("caption", host::qt::WithAccessKey(toolbar.CommandCaption(command)), text);
     Compare("command enabled", toolbar.CommandEnabled(command), enabled);
     Compare("command visible", toolbar.CommandVisible(command), visible);
   }
 
-  void LookAtTabs(const headless::Tabs& tabs, const QWidget& widget) {
+  void LookAtTabs(const toolkit::headless::Tabs& tabs, const QWidget& widget) {
     const auto* bar = widget.findChild<QTabBar*>();
     const auto keys = tabs.Keys();
     Compare("pages", static_cast<int>(keys.size()), bar->count());
     for (int place = 0; place < bar->count(); ++place) {
       const auto& key = keys[static_cast<std::size_t>(place)];
-      Compare("page", WithAccessKey(tabs.PageCaption(key)), bar->tabText(place));
+      Compare("page", host::qt::WithAccessKey(tabs.PageCaption(key)), bar->tabText(place));
       Compare("page selected", tabs.SelectedKey() == key, bar->currentIndex() == place);
     }
   }
 
   const WidgetFinder& widgetOf_;
-  const headless::Application& application_;
+  const toolkit::headless::Application& application_;
   std::string where_;
   std::vector<std::string> differences_;
 };
 
 }  // namespace
 
-std::vector<std::string> Differences(const WidgetFinder& widgetOf, const headless::Application& application) {
+std::vector<std::string> Differences(const WidgetFinder& widgetOf,
+                                     const toolkit::headless::Application& application) {
   return Mirror(widgetOf, application).Look();
 }
 

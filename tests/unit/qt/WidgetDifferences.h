@@ -6,7 +6,7 @@
 
 class QWidget;
 
-namespace bench::headless {
+namespace toolkit::headless {
 class Application;
 }
 namespace orvik::platform {
@@ -21,6 +21,6 @@ using WidgetFinder = std::function<QWidget*(const orvik::platform::IControl&)>;
 /// Where the widgets on the screen do not show what their windows hold: one line each, empty when they are
 /// the same. Looks at every loaded form, its controls, and theirs.
 std::vector<std::string> Differences(const WidgetFinder& widgetOf,
-                                     const bench::headless::Application& application);
+                                     const toolkit::headless::Application& application);
 
 }  // namespace support

@@ -7,7 +7,7 @@
 #include "host/report/Bar.h"
 #include "tests/support/Seed.h"
 
-namespace bench::report {
+namespace host::report {
 namespace {
 
 using Place = Bar::Place;
@@ -93,4 +93,4 @@ TEST(Bar, PlacesRandomValuesOnTheirSide) {
 }
 
 }  // namespace
-}  // namespace bench::report
+}  // namespace host::report

@@ -7,10 +7,10 @@
 #include "host/report/TextReport.h"
 #include "tests/unit/report/ReportTest.h"
 
-namespace bench {
+namespace host {
 namespace {
 
-using report::Standing;
+using host::report::Standing;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
@@ -198,7 +198,7 @@ TEST_F(DocumentReport, MakesEnteredTextsVisible) {
   EXPECT_EQ(FactOf(report.sections.at(0).facts, "Comment"), "one\ntwo[U+001B][2J");
   EXPECT_EQ(FactOf(report.sections.at(0).facts, "Tested"), "yesterday");
   EXPECT_THAT(RowsOf(report.runs).at(0), HasSubstr("x[U+000A]y|KELD(IN) <s>"));
-  EXPECT_THAT(HtmlReport(report), HasSubstr("KELD(IN) &lt;s&gt;"));
+  EXPECT_THAT(report::HtmlReport(report), HasSubstr("KELD(IN) &lt;s&gt;"));
 }
 
 TEST_F(DocumentReport, IsTheSameAfterReopening) {
@@ -209,9 +209,9 @@ TEST_F(DocumentReport, IsTheSameAfterReopening) {
   file_.Document().Save();
   const auto before = Report();
   file_.Reopen();
-  EXPECT_EQ(HtmlReport(Report()), HtmlReport(before));
-  EXPECT_EQ(TextReport(Report()), TextReport(before));
+  EXPECT_EQ(report::HtmlReport(Report()), report::HtmlReport(before));
+  EXPECT_EQ(report::TextReport(Report()), report::TextReport(before));
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

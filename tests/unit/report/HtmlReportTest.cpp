@@ -9,10 +9,10 @@
 #include "host/report/HtmlText.h"
 #include "tests/unit/report/SampleReport.h"
 
-namespace bench {
+namespace host {
 namespace {
 
-using report::Standing;
+using host::report::Standing;
 using testing::HasSubstr;
 using testing::Not;
 
@@ -23,7 +23,7 @@ constexpr std::array kEveryStanding{Standing::kPassed,    Standing::kFailed,   S
 /// The page read as XML, as strictly as it can be.
 class ReadPage {
  public:
-  explicit ReadPage(const report::Report& report) : text(HtmlReport(report)) {
+  explicit ReadPage(const report::Report& report) : text(report::HtmlReport(report)) {
     const auto read = xml.load_buffer(text.data(), text.size(), pugi::parse_full & ~pugi::parse_pi);
     EXPECT_TRUE(read) << read.description() << " at "
                       << text.substr(static_cast<std::size_t>(read.offset), 80);
@@ -49,7 +49,7 @@ std::string Compact(std::string style) {
 
 /// The declarations of the rule that is written so, such as ".stacked,.stackedcaption", from the place on.
 std::string RuleOf(const std::string& selector, const std::string& after = "") {
-  const auto style = Compact(html::kStyle);
+  const auto style = Compact(report::html::kStyle);
   const auto from = style.find(selector + "{", style.find(after));
   EXPECT_NE(from, std::string::npos) << selector;
   const auto begin = from + selector.size() + 1;
@@ -114,7 +114,8 @@ TEST(HtmlReport, TablesStackOnNarrowScreens) {
 
 TEST(HtmlReport, LongWordsWrap) {
   EXPECT_THAT(RuleOf("body"), HasSubstr("overflow-wrap:anywhere;"));
-  EXPECT_THAT(html::kStyle, Not(HasSubstr("break-word"))) << "such a word would still widen its column";
+  EXPECT_THAT(report::html::kStyle, Not(HasSubstr("break-word")))
+      << "such a word would still widen its column";
   EXPECT_THAT(RuleOf(".page", "@mediaprint"), HasSubstr("table-layout:fixed;"));
 }
 
@@ -124,15 +125,15 @@ TEST(HtmlReport, StandingsHaveWordAndSignBesideColour) {
   EXPECT_EQ(page.Count("//*[starts-with(@class, 'word ')][not(*[@class='sign'])]"), 0);
   const char* const signs[] = {"\u2713", "\u2717", "!", "?", "\u25A0", "\u25CB", "~", "=", "\u2013"};
   for (std::size_t i = 0; i < kEveryStanding.size(); ++i)
-    EXPECT_STREQ(html::PlainSignOf(kEveryStanding.at(i)), signs[i]);
+    EXPECT_STREQ(report::html::PlainSignOf(kEveryStanding.at(i)), signs[i]);
 }
 
 TEST(HtmlReport, OnlyPassedIsGreen) {
   for (const auto standing : kEveryStanding)
-    EXPECT_EQ(std::string(html::ClassOf(standing)) == "passed", standing == Standing::kPassed);
-  EXPECT_STREQ(html::ClassOf(Standing::kFailed), "failed");
-  EXPECT_STREQ(html::ClassOf(Standing::kDoubtful), "open");
-  EXPECT_STREQ(html::ClassOf(Standing::kRecorded), "na");
+    EXPECT_EQ(std::string(report::html::ClassOf(standing)) == "passed", standing == Standing::kPassed);
+  EXPECT_STREQ(report::html::ClassOf(Standing::kFailed), "failed");
+  EXPECT_STREQ(report::html::ClassOf(Standing::kDoubtful), "open");
+  EXPECT_STREQ(report::html::ClassOf(Standing::kRecorded), "na");
 }
 
 TEST(HtmlReport, OverviewLinksToItsElements) {
@@ -216,7 +217,7 @@ TEST(HtmlReport, KeepsATextOfTenThousandLetters) {
 TEST(HtmlReport, KeepsTheLineEndsOfAComment) {
   auto report = sample::Report();
   report.sections[0].facts = {{"Comment", "one\ntwo"}};
-  EXPECT_THAT(HtmlReport(report), HasSubstr("<bdi>one<br/>two</bdi>"));
+  EXPECT_THAT(report::HtmlReport(report), HasSubstr("<bdi>one<br/>two</bdi>"));
 }
 
 TEST(HtmlReport, ReportsADocumentWithoutTests) {
@@ -226,7 +227,9 @@ TEST(HtmlReport, ReportsADocumentWithoutTests) {
   EXPECT_EQ(page.Count("//section"), 0);
 }
 
-TEST(HtmlReport, IsReproducible) { EXPECT_EQ(HtmlReport(sample::Report()), HtmlReport(sample::Report())); }
+TEST(HtmlReport, IsReproducible) {
+  EXPECT_EQ(report::HtmlReport(sample::Report()), report::HtmlReport(sample::Report()));
+}
 
 /// Relative luminance of "#rrggbb" as the accessibility guidelines reckon it.
 double Luminance(const std::string& colour) {
@@ -242,13 +245,13 @@ double Luminance(const std::string& colour) {
 // Its letters are white.
 TEST(HtmlReport, VerdictsHaveABackground) {
   for (const auto standing : kEveryStanding) {
-    const std::string name = html::ClassOf(standing);
+    const std::string name = report::html::ClassOf(standing);
     EXPECT_EQ(RuleOf(".verdict." + name), "background:var(--" + name + ");;") << name;
   }
 }
 
 TEST(HtmlReport, TextContrastsWithItsBackground) {
-  const std::string style = html::kStyle;
+  const std::string style = report::html::kStyle;
   const auto colour = [&style](const std::string& name) {
     const auto at = style.find("--" + name + ": ");
     EXPECT_NE(at, std::string::npos) << name;
@@ -263,4 +266,4 @@ TEST(HtmlReport, TextContrastsWithItsBackground) {
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

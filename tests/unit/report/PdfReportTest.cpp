@@ -10,7 +10,7 @@
 #include "tests/support/TemporaryFolder.h"
 #include "tests/unit/report/SampleReport.h"
 
-namespace bench {
+namespace host {
 namespace {
 
 using testing::HasSubstr;
@@ -18,7 +18,7 @@ using testing::Not;
 
 class PdfReportTest : public testing::Test {
  protected:
-  static std::string Pdf(const report::Report& report) { return WritePdf(report, PDF_MODULE_PATH); }
+  static std::string Pdf(const report::Report& report) { return report::WritePdf(report, PDF_MODULE_PATH); }
 
   /// The output of a PDF tool about the file.
   std::string Output(const report::Report& report, const std::string& before, const std::string& after = "") {
@@ -181,7 +181,7 @@ TEST_F(PdfReportTest, IsReproducible) { EXPECT_EQ(Pdf(sample::Report(12)), Pdf(s
 
 TEST_F(PdfReportTest, NamesAMissingModuleAndAnAlternative) {
   try {
-    WritePdf(sample::Report(), folder_.Path() / "none.so");
+    report::WritePdf(sample::Report(), folder_.Path() / "none.so");
     FAIL() << "there is no such module";
   } catch (const orvik::HostError& error) {
     EXPECT_EQ(error.Number(), orvik::HostError::kDeviceError);
@@ -191,4 +191,4 @@ TEST_F(PdfReportTest, NamesAMissingModuleAndAnAlternative) {
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

@@ -2,10 +2,10 @@
 
 #include "tests/unit/report/ReportTest.h"
 
-namespace bench {
+namespace host {
 namespace {
 
-using report::Standing;
+using host::report::Standing;
 using testing::HasSubstr;
 
 class ReportJudgements : public ReportTest {
@@ -54,7 +54,7 @@ TEST_F(ReportJudgements, CompareReadingAndLimitByUnit) {
     file.Limit(1, low, high);
     file.Reads(test, reading);
     file.Run();
-    const auto judgements = ReportOf(file.Document(), file.Host()).sections.at(0).judgements;
+    const auto judgements = report::ReportOf(file.Document(), file.Host()).sections.at(0).judgements;
     ASSERT_EQ(judgements.size(), 1U);
     EXPECT_EQ(judgements[0].word, word);
     EXPECT_EQ(judgements[0].standing, standing);
@@ -108,7 +108,7 @@ TEST_F(ReportJudgements, ShowAPercentageWithItsNumber) {
 
 TEST_F(ReportJudgements, JudgeASequenceByItsOwnLimit) {
   file_.Add(400);
-  file_.Set(1, SavedSettings::kFilter, "Maximum value");
+  file_.Set(1, document::SavedSettings::kFilter, "Maximum value");
   file_.Limit(1, "", "100");
   file_.RecordOnly(2);
   file_.RecordOnly(3);
@@ -123,9 +123,9 @@ TEST_F(ReportJudgements, AreNotJudgedWithoutAReading) {
   file_.Add(410);
   file_.Limit(1, "", "300");
   EXPECT_EQ(Judgements().at(0).word, "not judged");
-  file_.Run({.button = guide::kNotApplicable});
+  file_.Run({.button = plugins::keld::guide::kNotApplicable});
   EXPECT_EQ(Judgements().at(0).standing, Standing::kNotApplicable);
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

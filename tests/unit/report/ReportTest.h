@@ -8,7 +8,7 @@
 #include "host/report/DocumentReport.h"
 #include "tests/support/RecordedDocument.h"
 
-namespace bench {
+namespace host {
 
 /// Reports of a document that is run on the virtual bench, with readings of the test's choice.
 class ReportTest : public testing::Test {
@@ -20,7 +20,7 @@ class ReportTest : public testing::Test {
   }
 
   report::Report Report(std::vector<std::string> standards = {}) {
-    return ReportOf(file_.Document(), file_.Host(), {}, std::move(standards));
+    return report::ReportOf(file_.Document(), file_.Host(), {}, std::move(standards));
   }
 
   static std::string FactOf(const std::vector<report::Fact>& facts, const std::string& label) {
@@ -48,4 +48,4 @@ class ReportTest : public testing::Test {
   support::RecordedDocument file_;
 };
 
-}  // namespace bench
+}  // namespace host

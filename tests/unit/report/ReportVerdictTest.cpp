@@ -3,17 +3,17 @@
 #include "host/report/TextReport.h"
 #include "tests/unit/report/ReportTest.h"
 
-namespace bench {
+namespace host {
 namespace {
 
-using report::Standing;
+using host::report::Standing;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
 class ReportVerdict : public ReportTest {
  protected:
-  report::Verdict Verdict() { return ReportOf(file_.Document(), file_.Host()).verdict; }
+  report::Verdict Verdict() { return report::ReportOf(file_.Document(), file_.Host()).verdict; }
 };
 
 TEST_F(ReportVerdict, IsPassedWhenAllPassed) {
@@ -70,7 +70,7 @@ TEST_F(ReportVerdict, AnEmptyDocumentIsIncomplete) {
   const auto report = Report();
   EXPECT_EQ(report.verdict.standing, Standing::kOpen);
   EXPECT_EQ(report.verdict.sentence, "The document has no tests.");
-  EXPECT_THAT(TextReport(report), HasSubstr("The document has no tests."));
+  EXPECT_THAT(report::TextReport(report), HasSubstr("The document has no tests."));
 }
 
 /// One element of each verdict.
@@ -87,8 +87,8 @@ class EveryVerdict : public ReportVerdict {
                 "A");
     file_.Refuses(730);
     file_.Run({.elements = {1, 2, 3, 4, 8, 9}});
-    file_.Run({.elements = {5}, .button = guide::kNotApplicable});
-    file_.Run({.elements = {6}, .button = guide::kAbort});
+    file_.Run({.elements = {5}, .button = plugins::keld::guide::kNotApplicable});
+    file_.Run({.elements = {6}, .button = plugins::keld::guide::kAbort});
   }
 };
 
@@ -126,7 +126,7 @@ TEST_F(EveryVerdict, HasItsWordAndStanding) {
 TEST_F(ReportVerdict, ASequenceCountsOnlyWhereNoChildSaysTheSame) {
   file_.Add(400);
   file_.Add(1000);
-  file_.Set(1, SavedSettings::kFilter, "Maximum value");
+  file_.Set(1, document::SavedSettings::kFilter, "Maximum value");
   file_.Limit(1, "", "100");
   file_.Limit(2, "", "300");
   file_.Limit(3, "", "300");
@@ -137,4 +137,4 @@ TEST_F(ReportVerdict, ASequenceCountsOnlyWhereNoChildSaysTheSame) {
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

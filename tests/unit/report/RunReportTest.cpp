@@ -5,10 +5,10 @@
 #include "host/report/TextReport.h"
 #include "tests/unit/report/ReportTest.h"
 
-namespace bench {
+namespace host {
 namespace {
 
-using report::Standing;
+using host::report::Standing;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
@@ -33,7 +33,7 @@ class RepairedDevice : public ReportTest {
   }
 
   report::Report OfRun(std::size_t number) {
-    return RunReportOf(file_.Document(), file_.Host(), file_.Runs().at(number - 1));
+    return report::RunReportOf(file_.Document(), file_.Host(), file_.Runs().at(number - 1));
   }
 };
 
@@ -131,7 +131,7 @@ TEST_F(RunReport, ShowsDoubtsOverloadsAndNotApplicable) {
   file_.Reads(410, "19.99,1,Ohm");
   file_.Limit(1, "", "30000");
   file_.Run({.elements = {1}});
-  file_.Run({.elements = {2}, .button = guide::kNotApplicable});
+  file_.Run({.elements = {2}, .button = plugins::keld::guide::kNotApplicable});
   const auto overload = OfRun(3), aside = OfRun(4);
   EXPECT_EQ(overload.sections.at(0).value, "OL");
   EXPECT_EQ(overload.sections[0].word, "doubtful");
@@ -147,10 +147,10 @@ TEST_F(RunReport, MarksASimulatedRun) {
   support::RecordedDocument simulated;
   simulated.Add(410);
   simulated.Run({.simulated = true});
-  const auto report = RunReportOf(simulated.Document(), simulated.Host(), simulated.Runs().at(0));
+  const auto report = report::RunReportOf(simulated.Document(), simulated.Host(), simulated.Runs().at(0));
   EXPECT_EQ(report.title, "SIMULATED electrical safety test: run 1 of 1");
   EXPECT_TRUE(report.marks.at(0).strong);
-  EXPECT_THAT(TextReport(report), HasSubstr("*** SIMULATED"));
+  EXPECT_THAT(report::TextReport(report), HasSubstr("*** SIMULATED"));
 }
 
 TEST_F(RunReport, EscapesTheTestersReply) {
@@ -158,7 +158,7 @@ TEST_F(RunReport, EscapesTheTestersReply) {
   file_.Run({.elements = {1}});
   const auto report = OfRun(3);
   EXPECT_EQ(FactOf(report.sections.at(0).facts, "The tester said"), "gres,410,0,0.1,0,<b>Ohm[U+00AD]");
-  EXPECT_THAT(HtmlReport(report), Not(HasSubstr("<b>Ohm")));
+  EXPECT_THAT(report::HtmlReport(report), Not(HasSubstr("<b>Ohm")));
 }
 
 TEST_F(RunReport, ShowsBelowLimit) {
@@ -184,4 +184,4 @@ TEST_F(RunReport, JudgesASequenceByItsTests) {
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

@@ -13,8 +13,8 @@ struct Hostile {
   static constexpr char kQuotes[] = "\"'&lt;]]>--><!--";
 };
 
-inline bench::report::Words Words() {
-  bench::report::Words words;
+inline host::report::Words Words() {
+  host::report::Words words;
   words.summary = "Summary";
   words.overview = "Overview";
   words.details = "Tests in detail";
@@ -37,16 +37,16 @@ inline bench::report::Words Words() {
   return words;
 }
 
-inline bench::report::Judgement Judgement(std::optional<double> low, std::optional<double> high,
-                                          double value) {
-  using bench::report::Bar;
-  bench::report::Judgement judgement;
+inline host::report::Judgement Judgement(std::optional<double> low, std::optional<double> high,
+                                         double value) {
+  using host::report::Bar;
+  host::report::Judgement judgement;
   judgement.standard = "IEC 62353";
   judgement.bounds = "at most 300 mOhm";
-  judgement.bar = bench::report::MakeBar(low, high, value);
+  judgement.bar = host::report::MakeBar(low, high, value);
   const bool kept = judgement.bar && judgement.bar->place != Bar::Place::kAbove &&
                     judgement.bar->place != Bar::Place::kBelow;
-  judgement.standing = kept ? bench::report::Standing::kPassed : bench::report::Standing::kFailed;
+  judgement.standing = kept ? host::report::Standing::kPassed : host::report::Standing::kFailed;
   judgement.word = kept ? "within limit" : "exceeded";
   if (low) judgement.lowLabel = std::to_string(static_cast<int>(*low));
   if (high) judgement.highLabel = std::to_string(static_cast<int>(*high));
@@ -56,8 +56,8 @@ inline bench::report::Judgement Judgement(std::optional<double> low, std::option
 }
 
 /// A table of one column and row.
-inline bench::report::Table OneCell(const std::string& head, const std::string& text) {
-  bench::report::Table table;
+inline host::report::Table OneCell(const std::string& head, const std::string& text) {
+  host::report::Table table;
   table.border = 7;
   table.columns.resize(1);
   table.columns[0].width = 2000;
@@ -67,9 +67,9 @@ inline bench::report::Table OneCell(const std::string& head, const std::string& 
 }
 
 /// A report of `tests` elements, the second of which has failed.
-inline bench::report::Report Report(int tests = 3) {
-  using bench::report::Standing;
-  bench::report::Report report;
+inline host::report::Report Report(int tests = 3) {
+  using host::report::Standing;
+  host::report::Report report;
   report.language = "en";
   report.title = "Electrical safety test";
   report.verdict = {Standing::kFailed, "Failed", "1 of 3 failed, 2 passed"};
@@ -87,7 +87,7 @@ inline bench::report::Report Report(int tests = 3) {
     report.overview.push_back({i, 0, name, failed ? "1850" : "123", "mOhm", standing,
                                failed ? "failed" : "passed", failed ? "Fails IEC 62353" : "",
                                "element-" + std::to_string(i)});
-    bench::report::Section section;
+    host::report::Section section;
     section.id = i;
     section.anchor = "element-" + std::to_string(i);
     section.name = name;
@@ -98,7 +98,7 @@ inline bench::report::Report Report(int tests = 3) {
     if (failed) section.notes.push_back({Standing::kFailed, "Fails IEC 62353"});
     section.facts = {{"Tested", "2026-11-21 14:03"}};
     section.judgements.push_back(Judgement({}, 300, failed ? 1850 : 123));
-    bench::report::Table table;
+    host::report::Table table;
     table.border = 7;
     table.columns.resize(3);
     table.columns[1].alignment = orvik::platform::Alignment::kRight;
@@ -111,21 +111,21 @@ inline bench::report::Report Report(int tests = 3) {
   return report;
 }
 
-inline void MakePartial(bench::report::Report& report) {
+inline void MakePartial(host::report::Report& report) {
   report.marks.push_back({"Partial", "Partial report: 1 of 3 not tested"});
 }
 
-inline void MakeSimulated(bench::report::Report& report) {
+inline void MakeSimulated(host::report::Report& report) {
   report.marks.insert(report.marks.begin(), {"SIMULATED", "SIMULATED: nothing was measured.", true});
 }
 
-inline void AddRuns(bench::report::Report& report) {
+inline void AddRuns(host::report::Report& report) {
   report.runs = OneCell("How it ended", "interrupted");
   for (auto& section : report.sections) section.readings = OneCell("Result then", "failed in run 1");
 }
 
 /// The same text in every place that something from outside can come to.
-inline bench::report::Report Everywhere(const std::string& text) {
+inline host::report::Report Everywhere(const std::string& text) {
   auto report = Report();
   MakePartial(report);
   MakeSimulated(report);
@@ -137,7 +137,7 @@ inline bench::report::Report Everywhere(const std::string& text) {
   for (auto& row : report.overview) row.name = row.value = row.unit = row.word = row.note = text;
   for (auto& section : report.sections) {
     section.name = section.word = section.value = section.unit = text;
-    section.notes = {{bench::report::Standing::kOpen, text}};
+    section.notes = {{host::report::Standing::kOpen, text}};
     section.facts = {{text, text}};
     section.readings = OneCell(text, text);
     for (auto& judgement : section.judgements)

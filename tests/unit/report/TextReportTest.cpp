@@ -4,14 +4,14 @@
 #include "host/report/TextReport.h"
 #include "tests/unit/report/SampleReport.h"
 
-namespace bench {
+namespace host {
 namespace {
 
 using testing::HasSubstr;
 using testing::Not;
 
 TEST(TextReport, ShowsVerdictFactsAndEachElement) {
-  const auto text = TextReport(sample::Report());
+  const auto text = report::TextReport(sample::Report());
   for (const char* shown :
        {"[X]  FAILED", "1 of 3 failed, 2 passed", "Asset number   VENT-0042", "Operator       M. Holm",
         "|   2 | Protective earth 2 |  1850 | mOhm | [X] failed |", "|     |   Fails IEC 62353  |",
@@ -26,15 +26,15 @@ TEST(TextReport, WritesTheVerdictInCapitals) {
                                                        {"\u4E0D\u5B8C\u6574", "\u4E0D\u5B8C\u6574"}};
   for (const auto& [word, capitals] : words) {
     report.verdict.word = word;
-    EXPECT_THAT(TextReport(report), HasSubstr(std::string("]  ") + capitals + "\n"));
+    EXPECT_THAT(report::TextReport(report), HasSubstr(std::string("]  ") + capitals + "\n"));
   }
 }
 
 TEST(TextReport, MarksAPartialReportAtBothEnds) {
   auto report = sample::Report();
-  EXPECT_THAT(TextReport(report), Not(HasSubstr("***")));
+  EXPECT_THAT(report::TextReport(report), Not(HasSubstr("***")));
   sample::MakePartial(report);
-  const auto text = TextReport(report);
+  const auto text = report::TextReport(report);
   const auto mark = std::string("*** Partial report: 1 of 3 not tested ***");
   EXPECT_LT(text.find(mark), text.find("Summary"));
   EXPECT_TRUE(text.ends_with(mark + "\n"));
@@ -44,7 +44,7 @@ TEST(TextReport, MarksASimulatedReportInEachPart) {
   auto report = sample::Report();
   sample::AddRuns(report);
   sample::MakeSimulated(report);
-  const auto text = TextReport(report);
+  const auto text = report::TextReport(report);
   for (const char* part : {"Electrical safety test", "Summary", "Overview", "Runs", "Tests in detail"}) {
     const auto at = text.find(std::string(part) + "\n");
     EXPECT_LT(text.find("*** SIMULATED ***", at) - at, 80U) << part;
@@ -57,13 +57,13 @@ TEST(TextReport, MarksASimulatedReportInEachPart) {
 TEST(TextReport, ShowsRunsAndReadingsByRun) {
   auto report = sample::Report();
   sample::AddRuns(report);
-  const auto text = TextReport(report);
+  const auto text = report::TextReport(report);
   EXPECT_THAT(text, HasSubstr("Runs\n----\n\n+--------------+\n| How it ended |"));
   EXPECT_THAT(text, HasSubstr("   Readings by run\n   +-----------------+\n   | Result then     |"));
 }
 
 TEST(TextReport, EveryStandingHasItsOwnSign) {
-  using report::Standing;
+  using host::report::Standing;
   const std::pair<Standing, const char*> signs[] = {
       {Standing::kPassed, "[+]"},    {Standing::kFailed, "[X]"},   {Standing::kOpen, "[!]"},
       {Standing::kDoubtful, "[?]"},  {Standing::kAborted, "[#]"},  {Standing::kNotTested, "[o]"},
@@ -71,13 +71,13 @@ TEST(TextReport, EveryStandingHasItsOwnSign) {
   for (const auto& [standing, sign] : signs) {
     auto report = sample::Report(0);
     report.verdict = {standing, "word", "why"};
-    EXPECT_THAT(TextReport(report), HasSubstr(sign + std::string("  WORD")));
+    EXPECT_THAT(report::TextReport(report), HasSubstr(sign + std::string("  WORD")));
   }
 }
 
 TEST(TextReport, BreaksLongTextsWithoutLoss) {
-  const auto text = TextReport(sample::Everywhere(std::string(10000, 'W')));
-  const auto short_ = TextReport(sample::Everywhere("W"));
+  const auto text = report::TextReport(sample::Everywhere(std::string(10000, 'W')));
+  const auto short_ = report::TextReport(sample::Everywhere("W"));
   const auto times = std::count(short_.begin(), short_.end(), 'W');
   EXPECT_EQ(std::count(text.begin(), text.end(), 'W'), times * 10000);
 }
@@ -85,13 +85,15 @@ TEST(TextReport, BreaksLongTextsWithoutLoss) {
 TEST(TextReport, ShowsHostileTextsUnchanged) {
   for (const std::string text :
        {sample::Hostile::kScript, sample::Hostile::kMarkup, sample::Hostile::kQuotes})
-    EXPECT_THAT(TextReport(sample::Everywhere(text)), HasSubstr("1  " + text));
+    EXPECT_THAT(report::TextReport(sample::Everywhere(text)), HasSubstr("1  " + text));
 }
 
-TEST(TextReport, IsReproducible) { EXPECT_EQ(TextReport(sample::Report()), TextReport(sample::Report())); }
+TEST(TextReport, IsReproducible) {
+  EXPECT_EQ(report::TextReport(sample::Report()), report::TextReport(sample::Report()));
+}
 
 std::string BarFor(std::optional<double> low, std::optional<double> high, double value) {
-  return TextBar(*report::MakeBar(low, high, value));
+  return report::TextBar(*report::MakeBar(low, high, value));
 }
 
 TEST(TextBar, ShowsTheSideOfABound) {
@@ -115,4 +117,4 @@ TEST(TextBar, ShowsAnArrowBeyondTheLine) {
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

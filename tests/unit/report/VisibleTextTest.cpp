@@ -2,7 +2,7 @@
 
 #include "host/base/VisibleText.h"
 
-namespace bench::report {
+namespace host::report {
 namespace {
 
 TEST(VisibleText, KeepsOrdinaryTextOfAnyScript) {
@@ -40,4 +40,4 @@ TEST(VisibleText, CodePointsRoundTrip) {
 }
 
 }  // namespace
-}  // namespace bench::report
+}  // namespace host::report

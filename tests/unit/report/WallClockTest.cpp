@@ -2,7 +2,7 @@
 
 #include "host/base/WallClock.h"
 
-namespace bench {
+namespace host {
 namespace {
 
 TEST(WallClock, ParsesAMoment) {
@@ -29,4 +29,4 @@ TEST(WallClock, RejectsOtherTexts) {
 TEST(WallClock, LocalTimeIsAMoment) { EXPECT_TRUE(MomentOf(LocalTimeText())); }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

@@ -10,7 +10,7 @@
 // The calls of the limits to the host's objects, and what they do with the results.
 namespace {
 
-using keld::CKELDLimitData;
+using keld::results::CKELDLimitData;
 using Names = std::vector<std::string>;
 
 /// A host's standard with a fixed judgement; records its calls.

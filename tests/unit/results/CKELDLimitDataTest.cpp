@@ -6,7 +6,7 @@
 
 namespace {
 
-using keld::CKELDLimitData;
+using keld::results::CKELDLimitData;
 
 class CKELDLimitDataTest : public results::ResultsTest {
  protected:

@@ -6,7 +6,7 @@
 // How a result is written to and read from the host's documents.
 namespace {
 
-using keld::CKELDResultData;
+using keld::results::CKELDResultData;
 
 using CKELDResultDataStorageTest = results::ResultsTest;
 

@@ -7,7 +7,7 @@
 
 namespace {
 
-using keld::CKELDResultData;
+using keld::results::CKELDResultData;
 
 using CKELDResultDataTest = results::ResultsTest;
 
@@ -165,7 +165,8 @@ TEST_F(CKELDResultDataTest, ResetReachesEveryDescendant) {
   const auto withoutResult = Sequence(5, {bare});
   const auto outer = Sequence(1, {Measured(2, 1.0, 2), inner, withoutResult, Test(7)});
   const auto result = GiveResult(*outer, 2);
-  for (const auto& element : std::vector<std::shared_ptr<keld::CKELDElement>>{leaf, bare, inner, outer})
+  for (const auto& element :
+       std::vector<std::shared_ptr<keld::model::CKELDElement>>{leaf, bare, inner, outer})
     orvik::As<CKELDResultData>(element->Result())->BuildServiceRecord(element);
   ASSERT_TRUE(leaf->Result()->ServiceRecord());
 
@@ -199,7 +200,7 @@ TEST_F(CKELDResultDataTest, ResetSetsStatusAndRecordOfEveryDescendant) {
 }
 
 TEST_F(CKELDResultDataTest, ResetHandlesTenThousandLevels) {
-  std::vector<std::shared_ptr<keld::CKELDSequence>> chain{Sequence(1, {})};
+  std::vector<std::shared_ptr<keld::model::CKELDSequence>> chain{Sequence(1, {})};
   for (std::int32_t level = 2; level <= 10'000; ++level) {
     auto next = Sequence(level, {});
     GiveResult(*next, 1);

@@ -36,46 +36,47 @@ class ResultsTest : public testing::Test {
     return keld::MKELDGlobalVars::CreateHostObject<Interface>(classId);
   }
 
-  std::shared_ptr<keld::CKELDTestElement> Test(std::int32_t id, std::int32_t testId = 110) {
-    auto element = keld::CKELDTestElement::Create();
+  std::shared_ptr<keld::model::CKELDTestElement> Test(std::int32_t id, std::int32_t testId = 110) {
+    auto element = keld::model::CKELDTestElement::Create();
     element->Initialize("KELD(IN)", id, testId);
     element->Information()->SetDisplayName("Test " + std::to_string(id));
     return element;
   }
 
-  std::shared_ptr<keld::CKELDSequence> Sequence(
+  std::shared_ptr<keld::model::CKELDSequence> Sequence(
       std::int32_t id, const std::vector<std::shared_ptr<orvik::ITestElement>>& children) {
-    auto sequence = keld::CKELDSequence::Create();
+    auto sequence = keld::model::CKELDSequence::Create();
     sequence->Initialize("KELD(IN)", id, 100);
     for (const auto& child : children) sequence->Add(child, {}, {});
     return sequence;
   }
 
-  std::shared_ptr<keld::CKELDResultData> GiveResult(keld::CKELDElement& element, std::int32_t status) {
-    auto result = keld::CKELDResultData::Create();
+  std::shared_ptr<keld::results::CKELDResultData> GiveResult(keld::model::CKELDElement& element,
+                                                             std::int32_t status) {
+    auto result = keld::results::CKELDResultData::Create();
     result->SetStatus(status);
     element.BaseElement()->SetResult(result);
     return result;
   }
 
   /// A child with a result and a measurement of that value.
-  std::shared_ptr<keld::CKELDTestElement> Measured(std::int32_t id, const orvik::Variant& value,
-                                                   std::int32_t status = 1) {
+  std::shared_ptr<keld::model::CKELDTestElement> Measured(std::int32_t id, const orvik::Variant& value,
+                                                          std::int32_t status = 1) {
     auto element = Test(id);
     GiveResult(*element, status)->SetMeasurement(Measurement(value));
     return element;
   }
 
-  static std::shared_ptr<keld::CKELDMeasurement> Measurement(const orvik::Variant& value,
-                                                             const std::string& unit = "mA",
-                                                             const std::string& flags = "") {
-    auto measurement = keld::CKELDMeasurement::Create();
+  static std::shared_ptr<keld::instrument::CKELDMeasurement> Measurement(const orvik::Variant& value,
+                                                                         const std::string& unit = "mA",
+                                                                         const std::string& flags = "") {
+    auto measurement = keld::instrument::CKELDMeasurement::Create();
     measurement->AddValue(value, unit, flags, "");
     return measurement;
   }
 
-  static void SetFilter(keld::CKELDElement& element, std::int32_t filter) {
-    orvik::As<keld::CKELDTestConfiguration>(element.Configuration())->SetValueFilter(filter);
+  static void SetFilter(keld::model::CKELDElement& element, std::int32_t filter) {
+    orvik::As<keld::configuration::CKELDTestConfiguration>(element.Configuration())->SetValueFilter(filter);
   }
 
   /// A standard with one limit of the plug-in's key.

@@ -18,7 +18,7 @@ class XDetailedResultTest : public results::ResultsTest {
   }
 
   void Show(const std::string& comment) {
-    const auto result = keld::CKELDResultData::Create();
+    const auto result = keld::results::CKELDResultData::Create();
     result->SetComment(comment);
     control_->Initialize(result, {}, {}, {});
   }
@@ -57,7 +57,7 @@ TEST_F(XDetailedResultTest, TypingHasNoEffect) {
 
 TEST_F(XDetailedResultTest, RejectsDataThatIsNotAResult) {
   EXPECT_THROW(control_->Initialize(nullptr, {}, {}, {}), orvik::HostError);
-  EXPECT_THROW(control_->Initialize(keld::CKELDLimitData::Create(), {}, {}, {}), orvik::HostError);
+  EXPECT_THROW(control_->Initialize(keld::results::CKELDLimitData::Create(), {}, {}, {}), orvik::HostError);
 }
 
 TEST_F(XDetailedResultTest, CallBackAndLockAreIgnored) {
@@ -70,7 +70,7 @@ TEST_F(XDetailedResultTest, CallBackAndLockAreIgnored) {
 TEST_F(XDetailedResultTest, WindowIsTheSites) {
   EXPECT_NE(control_->hWnd(), 0U);
   EXPECT_EQ(control_->hWnd(), site_->Handle());
-  EXPECT_EQ(keld::XDetailedResult::Create()->ICustomControl::hWnd(), 0U);
+  EXPECT_EQ(keld::results::XDetailedResult::Create()->ICustomControl::hWnd(), 0U);
 }
 
 TEST_F(XDetailedResultTest, ReadingVisibleFailsWithTheContainersError) {
@@ -86,7 +86,7 @@ TEST_F(XDetailedResultTest, ReadingVisibleFailsWithTheContainersError) {
 TEST_F(XDetailedResultTest, VisibleReadsTheMisspeltProperty) {
   const auto form = host_.Application().CreateForm("Other");
   const auto container = std::make_shared<results::ContainerProbe>(form);
-  const auto control = keld::XDetailedResult::Create();
+  const auto control = keld::results::XDetailedResult::Create();
   control->AttachTo(container);
   orvik::ICustomControl& view = *control;
   container->properties["Visible"] = true;
@@ -156,7 +156,7 @@ class ResultsWithoutLanguageTest : public results::ResultsTest,
 };
 
 TEST_P(ResultsWithoutLanguageTest, DetailedResultIsShownAndClosed) {
-  const auto result = keld::CKELDResultData::Create();
+  const auto result = keld::results::CKELDResultData::Create();
   result->SetComment("worn lead");
   const auto dialog = result->CreateDialog();
   ASSERT_TRUE(dialog);

@@ -39,7 +39,7 @@ class XKELDResultViewTest : public results::ResultsTest {
  protected:
   XKELDResultViewTest() {
     site_ = Placed("orvikKELD.XKELDResultView");
-    view_ = orvik::As<keld::XKELDResultView>(site_->Object());
+    view_ = orvik::As<keld::results::XKELDResultView>(site_->Object());
     list_ = orvik::As<orvik::platform::IListView>(site_->Panel()->Find("lvwResults"));
   }
 
@@ -50,15 +50,15 @@ class XKELDResultViewTest : public results::ResultsTest {
   Texts Limits(const std::string& row) const { return {Text(row, "HIL"), Text(row, "LOL")}; }
 
   /// A measured element with limits of the standard "A".
-  std::shared_ptr<keld::CKELDTestElement> WithLimits(std::int32_t id, const std::string& low,
-                                                     const std::string& high) {
+  std::shared_ptr<keld::model::CKELDTestElement> WithLimits(std::int32_t id, const std::string& low,
+                                                            const std::string& high) {
     auto element = Measured(id, 5.3);
-    orvik::As<keld::CKELDLimitData>(element->Limits())->AddStandard(Standard("A", low, high));
+    orvik::As<keld::results::CKELDLimitData>(element->Limits())->AddStandard(Standard("A", low, high));
     return element;
   }
 
   std::shared_ptr<orvik::platform::IContainerSite> site_;
-  std::shared_ptr<keld::XKELDResultView> view_;
+  std::shared_ptr<keld::results::XKELDResultView> view_;
   std::shared_ptr<orvik::platform::IListView> list_;
 };
 
@@ -199,7 +199,7 @@ TEST_F(XKELDResultViewTest, MeasurementWithoutValueShowsOnlyItsUnit) {
 
 TEST_F(XKELDResultViewTest, FailedRowIsBoldAndRedUntilItPasses) {
   const auto element = Measured(12, 5.0);
-  const auto measurement = orvik::As<keld::CKELDMeasurement>(element->Result()->Measurement(1));
+  const auto measurement = orvik::As<keld::instrument::CKELDMeasurement>(element->Result()->Measurement(1));
   const auto expectStyle = [&](bool bold, orvik::platform::Color color) {
     for (const char* column : {"NAM", "VAL", "HIL", "LOL"}) {
       EXPECT_EQ(list_->Cell("12::", column).bold, bold) << column;
@@ -249,7 +249,7 @@ TEST_F(XKELDResultViewTest, UnknownStandardClearsTheLimitCells) {
 
 TEST_F(XKELDResultViewTest, LimitCellsKeepTheRowsStyle) {
   const auto element = WithLimits(12, "2", "10");
-  orvik::As<keld::CKELDMeasurement>(element->Result()->Measurement(1))->SetStatus(2);
+  orvik::As<keld::instrument::CKELDMeasurement>(element->Result()->Measurement(1))->SetStatus(2);
   view_->ShowResult(element);
   view_->SelectStandard("A", "A text");
   EXPECT_TRUE(list_->Cell("12::", "HIL").bold);
@@ -301,7 +301,7 @@ TEST_F(XKELDResultViewTest, RowOutlivesItsElement) {
   auto element = WithLimits(12, "2", "10");
   view_->SelectStandard("A", "A text");
   view_->ShowResult(element);
-  const std::weak_ptr<keld::CKELDTestElement> weak = element;
+  const std::weak_ptr<keld::model::CKELDTestElement> weak = element;
   element.reset();
   EXPECT_TRUE(weak.expired());
   view_->SelectStandard("A", "A text");
@@ -329,7 +329,7 @@ TEST_F(XKELDResultViewTest, ForwardsTheMouseEventOfTheList) {
 
 TEST_F(XKELDResultViewTest, PropagatesErrors) {
   EXPECT_THROW(view_->ShowResult(nullptr), orvik::HostError);
-  EXPECT_THROW(keld::XKELDResultView::Create()->ClearDisplay(), orvik::HostError);
+  EXPECT_THROW(keld::results::XKELDResultView::Create()->ClearDisplay(), orvik::HostError);
 }
 
 }  // namespace

@@ -15,10 +15,10 @@ class GroupRunTest : public RunFixture {
   /// Element 1 is the group, 2 and 3 are its tests.
   void AddGroup(std::int32_t testId, const std::string& filter) {
     const auto group = Add(testId);
-    const bench::SavedSettings settings(*group->Configuration());
-    settings.Settings()->SetAttribute(bench::SavedSettings::kFilter, filter);
+    const host::document::SavedSettings settings(*group->Configuration());
+    settings.Settings()->SetAttribute(host::document::SavedSettings::kFilter, filter);
     group->Configuration()->Load(settings.Node());
-    ASSERT_EQ(bench::ValueFilter(*group), filter);
+    ASSERT_EQ(host::document::ValueFilter(*group), filter);
   }
   /// The value that the plug-in recorded for the group.
   orvik::Variant Recorded() const { return document_->Find(1)->Result()->Measurement(1)->value(); }
@@ -27,8 +27,8 @@ class GroupRunTest : public RunFixture {
 TEST_F(GroupRunTest, MaximumIsJudgedByTheLimitOfTheGroup) {
   AddGroup(400, "Maximum value");
   Limit(1, "", "150");
-  bench::StateOf(document_->Find(2), *bench_.Host().Elements())->SetRecordOnly(true);
-  bench::StateOf(document_->Find(3), *bench_.Host().Elements())->SetRecordOnly(true);
+  host::document::StateOf(document_->Find(2), *bench_.Host().Elements())->SetRecordOnly(true);
+  host::document::StateOf(document_->Find(3), *bench_.Host().Elements())->SetRecordOnly(true);
   Read("410", "0.1,0,Ohm");
   Read("420", "0.14,0,Ohm");
   Run();
@@ -42,7 +42,7 @@ TEST_F(GroupRunTest, MaximumIsJudgedByTheLimitOfTheGroup) {
   EXPECT_EQ(Judged(1).status, 2);
   EXPECT_EQ(Verdict(1), "failed: above-limit");
   EXPECT_EQ(Verdict(3), "recorded");
-  EXPECT_EQ(Outcome(), bench::judge::Outcome::kFailed);
+  EXPECT_EQ(Outcome(), host::judge::Outcome::kFailed);
 }
 
 TEST_F(GroupRunTest, MinimumIsJudgedByTheLowerBoundOfTheGroup) {
@@ -57,7 +57,7 @@ TEST_F(GroupRunTest, MinimumIsJudgedByTheLowerBoundOfTheGroup) {
   EXPECT_EQ(Verdict(1), "failed: below-limit");
   EXPECT_EQ(Verdict(2), "passed");
   EXPECT_EQ(Verdict(3), "passed");
-  EXPECT_EQ(Outcome(), bench::judge::Outcome::kFailed) << "though every child passed";
+  EXPECT_EQ(Outcome(), host::judge::Outcome::kFailed) << "though every child passed";
 }
 
 // The plug-in looks for the extreme by number: 5 uA would be more than 0.9 mA.
@@ -88,7 +88,7 @@ TEST_F(GroupRunTest, ALimitWithoutAValueJudgesNothing) {
   EXPECT_EQ(Judged(1).status, 1);
   EXPECT_EQ(Verdict(1), "not judged: group-without-value");
   EXPECT_EQ(Verdict(2), "passed");
-  EXPECT_EQ(Outcome(), bench::judge::Outcome::kIncomplete);
+  EXPECT_EQ(Outcome(), host::judge::Outcome::kIncomplete);
 }
 
 TEST_F(GroupRunTest, IsOlderThanAChildThatWasMeasuredAlone) {

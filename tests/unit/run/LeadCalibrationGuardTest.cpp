@@ -17,7 +17,7 @@
 
 namespace {
 
-using bench::LeadCalibration;
+using host::run::LeadCalibration;
 using testing::HasSubstr;
 
 constexpr char kWhen[] = "2026-11-22T14:03:22+01:00";
@@ -30,10 +30,10 @@ class LeadCalibrationGuardTest : public testing::Test {
     refused_ = guard_.Refused().Subscribe([this](const std::string& reason) { reasons_.push_back(reason); });
   }
 
-  bench::RegistryStore& Registry() { return *bench_.Host().Registry(); }
+  host::RegistryStore& Registry() { return *bench_.Host().Registry(); }
   /// What the registry holds for the tester; -1 for nothing.
   std::int32_t Stored(const std::string& serial = kSerial) {
-    const auto stored = StoredLeadsOf(Registry(), serial);
+    const auto stored = host::run::StoredLeadsOf(Registry(), serial);
     return stored ? stored->milliohms.value_or(-2) : -1;
   }
   /// Answers the measurement with these fields: value, overload, unit.
@@ -56,11 +56,11 @@ class LeadCalibrationGuardTest : public testing::Test {
         orvik::As<orvik::IDialogForm>(bench_.Host().CreateObject(keld::ClassIdentifiers::kCalibrateLeads));
     form_ = dialog->Form();
     auto& application = bench_.Application();
-    application.Post([this] { bench::ClickButton(*form_, "cmdCalibrate"); });
+    application.Post([this] { host::run::ClickButton(*form_, "cmdCalibrate"); });
     if (meanwhile) meanwhile();
     PressSave();
     const auto giveUp = application.CallAt(application.Now() + std::chrono::minutes(5),
-                                           [this] { bench::ClickButton(*form_, "cmdCancel"); });
+                                           [this] { host::run::ClickButton(*form_, "cmdCancel"); });
     form_->ShowModal(nullptr);
     application.Forget(giveUp);
     application.Forget(next_);
@@ -71,7 +71,7 @@ class LeadCalibrationGuardTest : public testing::Test {
     auto& application = bench_.Application();
     next_ = application.CallAt(application.Now() + std::chrono::milliseconds(10), [this] {
       PressSave();
-      if (pressing_) bench::ClickButton(*form_, "cmdSave");
+      if (pressing_) host::run::ClickButton(*form_, "cmdSave");
     });
   }
   void TypeSerial(const std::string& serial) {
@@ -79,10 +79,10 @@ class LeadCalibrationGuardTest : public testing::Test {
   }
 
   support::VirtualBench bench_;
-  bench::LeadCalibrationGuard guard_{
+  host::run::LeadCalibrationGuard guard_{
       {bench_.Application(), bench_.Ports(), *bench_.Host().Registry(), [] { return std::string(kWhen); }}};
   std::shared_ptr<orvik::platform::IForm> form_;
-  bench::ILoop::Id next_ = 0;
+  toolkit::loop::ILoop::Id next_ = 0;
   bool pressing_ = true;
   int storedCount_ = 0;
   std::vector<std::string> reasons_;
@@ -92,7 +92,7 @@ class LeadCalibrationGuardTest : public testing::Test {
 TEST_F(LeadCalibrationGuardTest, StoresASoundValueWithItsDate) {
   Calibrate();
   EXPECT_EQ(Stored(), 123);
-  EXPECT_EQ(bench::LeadsMeasured(Registry(), kSerial, 123), kWhen);
+  EXPECT_EQ(host::run::LeadsMeasured(Registry(), kSerial, 123), kWhen);
   EXPECT_EQ(storedCount_, 1);
   EXPECT_EQ(guard_.Reason(), "");
   ASSERT_TRUE(guard_.Value());
@@ -221,7 +221,7 @@ TEST_F(LeadCalibrationGuardTest, ALateDoubtComesInTimeWhenTheSerialNumberIsTyped
   });
   ASSERT_EQ(reasons_.size(), 1U);
   EXPECT_THAT(reasons_[0], HasSubstr("doubtful and was not stored"));
-  EXPECT_TRUE(StoredLeads(Registry()).empty());
+  EXPECT_TRUE(host::run::StoredLeads(Registry()).empty());
 }
 
 class CalibrationFaultTest : public LeadCalibrationGuardTest,
@@ -250,7 +250,7 @@ INSTANTIATE_TEST_SUITE_P(AtEveryCommand, CalibrationFaultTest,
 
 TEST_F(LeadCalibrationGuardTest, RefusesAnyOtherWriteOfAPlugIn) {
   const auto registry = keld::MKELDGlobalVars::RegistryReader();
-  ASSERT_TRUE(registry->CreateKey(bench::keld_facts::kRegistryHive, bench::keld_facts::kLeadsKey));
+  ASSERT_TRUE(registry->CreateKey(host::plugins::keld::kRegistryHive, host::plugins::keld::kLeadsKey));
   EXPECT_THROW(registry->WriteValue(kSerial, std::int32_t{35}), orvik::HostError);
   EXPECT_EQ(Stored(), -1);
 }
@@ -261,7 +261,7 @@ TEST_F(LeadCalibrationGuardTest, RefusesAnotherValueThanTheMeasuredOne) {
   Calibrate([&] {
     bench_.Application().CallAt(bench_.Application().Now() + std::chrono::minutes(1), [&] {
       const auto registry = keld::MKELDGlobalVars::RegistryReader();
-      registry->CreateKey(bench::keld_facts::kRegistryHive, bench::keld_facts::kLeadsKey);
+      registry->CreateKey(host::plugins::keld::kRegistryHive, host::plugins::keld::kLeadsKey);
       try {
         registry->WriteValue(kSerial, std::int32_t{124});
       } catch (const orvik::HostError& error) {
@@ -281,7 +281,7 @@ class UnwritableRegistry : public LeadCalibrationGuardTest, public testing::With
 TEST_P(UnwritableRegistry, IsReportedWithTheValueThatStillCounts) {
   const bool measuredBefore = GetParam();
   if (measuredBefore) Calibrate();
-  Registry().Write(bench::keld_facts::kRegistryHive, "Software\\X", "a", "b");
+  Registry().Write(host::plugins::keld::kRegistryHive, "Software\\X", "a", "b");
   const auto lock = bench_.Only().Folder() / "registry.lock";
   std::filesystem::remove(lock);
   std::filesystem::create_directory(lock);
@@ -299,7 +299,7 @@ TEST_P(UnwritableRegistry, IsReportedWithTheValueThatStillCounts) {
 INSTANTIATE_TEST_SUITE_P(WithAndWithoutAnEarlierValue, UnwritableRegistry, testing::Bool());
 
 TEST_F(LeadCalibrationGuardTest, AValueThatIsNotReadBackIsNotStored) {
-  Registry().StandIn(bench::keld_facts::kRegistryHive, bench::keld_facts::kLeadsKey, kSerial, "90");
+  Registry().StandIn(host::plugins::keld::kRegistryHive, host::plugins::keld::kLeadsKey, kSerial, "90");
   Calibrate();
   EXPECT_FALSE(guard_.Value());
   ASSERT_EQ(reasons_.size(), 1U);
@@ -314,27 +314,28 @@ class GuideCalibrationTest : public LeadCalibrationGuardTest {
     const auto element = bench_.CreateTest(410);
     element->SetID(1);
     support::GuideOperator person(bench_.Application());
-    person.guide = {bench::guide::kCalibrate};
+    person.guide = {host::plugins::keld::guide::kCalibrate};
     const auto dialogs = bench_.Application().FormShown().Subscribe([this](const auto& form) {
-      if (form->Name() != bench::guide::kLeadsForm) return;
+      if (form->Name() != host::plugins::keld::guide::kLeadsForm) return;
       form_ = form;
-      bench_.Application().Post([this] { bench::ClickButton(*form_, "cmdCalibrate"); });
+      bench_.Application().Post([this] { host::run::ClickButton(*form_, "cmdCalibrate"); });
       PressSave();
     });
-    bench::DocumentRunner(controller_, link_, stop_).Run({}, {element});
+    host::run::DocumentRunner(controller_, link_, stop_).Run({}, {element});
     bench_.Application().Forget(next_);
   }
 
-  bench::StopRequest stop_;
-  bench::DoubtTracker doubts_{*bench_.Ports().TheWire()};
-  bench::LinkWatch link_{bench_.Ports()};
-  bench::Runs runs_;
+  host::run::StopRequest stop_;
+  host::run::DoubtTracker doubts_{*bench_.Ports().TheWire()};
+  host::run::LinkWatch link_{bench_.Ports()};
+  host::document::Runs runs_;
   std::shared_ptr<orvik::IStandardColl> standards_ =
       orvik::As<orvik::IStandardColl>(bench_.Host().CreateObject(orvik::HostClasses::kStandardColl));
-  std::shared_ptr<orvik::IInstrumentColl> instruments_ = std::make_shared<bench::InstrumentColl>();
-  bench::RunRecorder recorder_{{runs_, instruments_, standards_, doubts_}};
-  std::shared_ptr<bench::RunController> controller_ = std::make_shared<bench::RunController>(
-      bench::RunController::Parts{standards_, instruments_, doubts_, recorder_, [] {}});
+  std::shared_ptr<orvik::IInstrumentColl> instruments_ =
+      std::make_shared<host::instruments::InstrumentColl>();
+  host::run::RunRecorder recorder_{{runs_, instruments_, standards_, doubts_}};
+  std::shared_ptr<host::run::RunController> controller_ = std::make_shared<host::run::RunController>(
+      host::run::RunController::Parts{standards_, instruments_, doubts_, recorder_, [] {}});
 };
 
 TEST_F(GuideCalibrationTest, StoresASoundValue) {

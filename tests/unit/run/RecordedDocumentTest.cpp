@@ -5,8 +5,8 @@
 
 namespace {
 
-using bench::judge::Outcome;
-using bench::judge::Verdict;
+using host::judge::Outcome;
+using host::judge::Verdict;
 using support::RecordedDocument;
 using testing::ElementsAre;
 
@@ -25,7 +25,7 @@ TEST(RecordedDocument, JudgesWhatTheTesterReads) {
   file.Limit(2, "", "300");
   file.Reads(410, "0.123,0,Ohm");
   file.Reads(420, "1.85,0,Ohm");
-  EXPECT_EQ(file.Run(), bench::DocumentRunner::End::kFinished);
+  EXPECT_EQ(file.Run(), host::run::DocumentRunner::End::kFinished);
   EXPECT_EQ(VerdictOf(file, 1), Verdict::kPassed);
   EXPECT_EQ(VerdictOf(file, 2), Verdict::kFailed);
   ASSERT_EQ(file.Runs().size(), 1U);
@@ -47,11 +47,12 @@ TEST(RecordedDocument, RunsChosenElementsOfASequence) {
 TEST(RecordedDocument, SetsAsideWhatTheOperatorOrTheTesterDoes) {
   RecordedDocument file;
   file.Add(410);
-  file.Run({.button = bench::guide::kNotApplicable});
+  file.Run({.button = host::plugins::keld::guide::kNotApplicable});
   EXPECT_EQ(VerdictOf(file, 1), Verdict::kNotApplicable);
-  file.Run({.button = bench::guide::kSkip});
+  file.Run({.button = host::plugins::keld::guide::kSkip});
   EXPECT_EQ(VerdictOf(file, 1), Verdict::kNotTested);
-  EXPECT_EQ(file.Run({.button = bench::guide::kAbort}), bench::DocumentRunner::End::kAborted);
+  EXPECT_EQ(file.Run({.button = host::plugins::keld::guide::kAbort}),
+            host::run::DocumentRunner::End::kAborted);
   EXPECT_EQ(VerdictOf(file, 1), Verdict::kAborted);
   file.Refuses(410);
   file.Run();
@@ -66,7 +67,7 @@ TEST(RecordedDocument, KilledRunHasNoEnd) {
   file.RecordOnly(1);
   // At its begin, and after the first test.
   file.Run({.killedAfterSaves = 2});
-  EXPECT_EQ(file.Runs().at(0).end, bench::RunRecord::End::kNone);
+  EXPECT_EQ(file.Runs().at(0).end, host::document::RunRecord::End::kNone);
   EXPECT_EQ(VerdictOf(file, 1), Verdict::kRecorded);
   EXPECT_EQ(VerdictOf(file, 2), Verdict::kNotTested);
 }
@@ -78,7 +79,7 @@ TEST(RecordedDocument, KnowsTestersAndTheirLeads) {
   file.Leads("S-9", 35, "2026-11-01T08:00:00+01:00");
   file.Run();
   ASSERT_EQ(file.Runs().at(0).testers.size(), 1U);
-  const bench::RecordedTester expected{"KELD(IN)", "S-9", "3.10", 35, "2026-11-01T08:00:00+01:00"};
+  const host::document::RecordedTester expected{"KELD(IN)", "S-9", "3.10", 35, "2026-11-01T08:00:00+01:00"};
   EXPECT_EQ(file.Runs()[0].testers[0], expected);
 }
 

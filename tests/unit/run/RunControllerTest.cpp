@@ -8,8 +8,8 @@
 namespace run {
 namespace {
 
-using namespace bench::guide;
-using bench::RunRecord;
+using namespace host::plugins::keld::guide;
+using host::document::RunRecord;
 
 class RunControllerTest : public RunFixture {
  protected:
@@ -28,7 +28,10 @@ TEST_F(RunControllerTest, ADoubtfulResultStaysDoubtfulUntilItIsMeasuredAgain) {
   AddLimited(420);
   ReadEverywhere("0.1,1,Ohm");
   // The first guide is opened again and left without a run.
-  RunByHand({{kPlay, kNext}, {kPrevious}, {kNext}, {kNext}});
+  RunByHand({{host::plugins::keld::guide::kPlay, host::plugins::keld::guide::kNext},
+             {host::plugins::keld::guide::kPrevious},
+             {host::plugins::keld::guide::kNext},
+             {host::plugins::keld::guide::kNext}});
   EXPECT_EQ(Verdict(1), "doubtful: overload");
   EXPECT_EQ(Verdict(2), "not tested: not-finished");
 
@@ -42,7 +45,7 @@ TEST_F(RunControllerTest, AnElementThatARunTookUpAndDidNotMeasureHasNoResult) {
   AddLimited(410);
   Run();
   EXPECT_EQ(Verdict(1), "passed");
-  RunByHand({{kNext}});
+  RunByHand({{host::plugins::keld::guide::kNext}});
   EXPECT_EQ(document_->Find(1)->Result()->Status(), 1) << "the plug-in's own result stays";
   EXPECT_EQ(Verdict(1), "not tested: not-finished");
 }
@@ -63,7 +66,7 @@ TEST_F(RunControllerTest, ASequenceWithADoubtfulChildIsIncomplete) {
   Run();
   EXPECT_EQ(Judged(1).status, 1);
   EXPECT_EQ(Verdict(1), "doubtful: child");
-  EXPECT_EQ(Outcome(), bench::judge::Outcome::kIncomplete);
+  EXPECT_EQ(Outcome(), host::judge::Outcome::kIncomplete);
 }
 
 TEST_F(RunControllerTest, SavesAtTheBeginningAfterEachElementAndAtTheEnd) {
@@ -125,7 +128,8 @@ TEST_F(RunControllerTest, MeasuresNothingAgainThatIsNotOnRecord) {
   AddLimited(410);
   ReadEverywhere("1.85,0,Ohm");  // fails, so that play measures again
   FailSaves({3, 4});             // each press of play but the first
-  RunByHand({{kPlay, kPlay, kPlay, kNext}});
+  RunByHand({{host::plugins::keld::guide::kPlay, host::plugins::keld::guide::kPlay,
+              host::plugins::keld::guide::kPlay, host::plugins::keld::guide::kNext}});
   EXPECT_EQ(bench_.Wire().Sent().size(), 5U) << "the first session alone";
   EXPECT_EQ(StepsOf(Runs().back()), (Texts{"takes 1", "1 status 2 by tester", "takes 1"}));
   EXPECT_EQ(Verdict(1), "not tested: not-finished");
@@ -138,8 +142,8 @@ TEST_F(RunControllerTest, AResultThatChangesWhileTheSessionIsClosedDoesNotCount)
   Run();
   EXPECT_EQ(Verdict(1), "not tested: other-status");
   EXPECT_EQ(TestOf(OnDisk()->Runs().All().back(), 1).doubts,
-            (std::vector<bench::Reason>{{"changed-after-finish", {"1", "3"}}}));
-  EXPECT_EQ(bench::judge::ReasonText({"changed-after-finish", {"1", "3"}}),
+            (std::vector<host::document::Reason>{{"changed-after-finish", {"1", "3"}}}));
+  EXPECT_EQ(host::judge::ReasonText({"changed-after-finish", {"1", "3"}}),
             "the result was \"passed\" when the test had finished and was changed to \"not applicable\" "
             "afterwards");
 }
@@ -192,7 +196,11 @@ TEST_F(RunControllerTest, PreviousGoesBackAndStaysAtTheFirst) {
   std::vector<std::size_t> places;
   const auto reached = parts_.runner.Reached().Subscribe(
       [&](std::size_t place, std::size_t, const auto&) { places.push_back(place); });
-  EXPECT_EQ(RunByHand({{kPrevious}, {kPlay, kNext}, {kPrevious}, {kPlay, kNext}, {kPlay, kNext}}),
+  EXPECT_EQ(RunByHand({{host::plugins::keld::guide::kPrevious},
+                       {host::plugins::keld::guide::kPlay, host::plugins::keld::guide::kNext},
+                       {host::plugins::keld::guide::kPrevious},
+                       {host::plugins::keld::guide::kPlay, host::plugins::keld::guide::kNext},
+                       {host::plugins::keld::guide::kPlay, host::plugins::keld::guide::kNext}}),
             End::kFinished);
   EXPECT_EQ(places, (std::vector<std::size_t>{1, 1, 2, 1, 2}));
 }
@@ -200,7 +208,8 @@ TEST_F(RunControllerTest, PreviousGoesBackAndStaysAtTheFirst) {
 TEST_F(RunControllerTest, SkippedIsNotTestedAndNotApplicableIsDone) {
   AddLimited(410);
   AddLimited(420);
-  EXPECT_EQ(RunByHand({{kSkip}, {kNotApplicable}}), End::kFinished);
+  EXPECT_EQ(RunByHand({{host::plugins::keld::guide::kSkip}, {host::plugins::keld::guide::kNotApplicable}}),
+            End::kFinished);
   EXPECT_EQ(Verdict(1), "not tested: skipped");
   EXPECT_EQ(Verdict(2), "not applicable: set-aside-by-operator");
   EXPECT_TRUE(bench_.Wire().Sent().empty());
@@ -210,7 +219,7 @@ TEST_F(RunControllerTest, SkippedIsNotTestedAndNotApplicableIsDone) {
 TEST_F(RunControllerTest, SettingAsideForgetsTheDoubtsOfTheMeasurement) {
   AddLimited(410);
   ReadEverywhere("0.1,1,Ohm");
-  RunByHand({{kPlay, kNotApplicable}});
+  RunByHand({{host::plugins::keld::guide::kPlay, host::plugins::keld::guide::kNotApplicable}});
   EXPECT_EQ(StepsOf(Runs().back()), (Texts{"takes 1", "1 status 1 by tester", "1 status 3 by operator"}));
   EXPECT_TRUE(TestOf(Runs().back(), 1).doubts.empty());
   EXPECT_EQ(Verdict(1), "not applicable: set-aside-by-operator");
@@ -220,9 +229,10 @@ TEST_F(RunControllerTest, SettingAsideForgetsTheDoubtsOfTheMeasurement) {
 TEST_F(RunControllerTest, SettingAsideTakesNothingFromTheTestBefore) {
   AddLimited(410);
   AddLimited(420);
-  bench::StoreLeads(*bench_.Host().Registry(), "SIM-0001", 290, "2026-11-01T08:00:00+01:00");
+  host::run::StoreLeads(*bench_.Host().Registry(), "SIM-0001", 290, "2026-11-01T08:00:00+01:00");
   ReadEverywhere("0.1,0,Ohm");  // less than the leads
-  RunByHand({{kPlay, kNext}, {kNotApplicable}});
+  RunByHand({{host::plugins::keld::guide::kPlay, host::plugins::keld::guide::kNext},
+             {host::plugins::keld::guide::kNotApplicable}});
   EXPECT_EQ(Verdict(1), "doubtful: below-leads");
   const auto& aside = TestOf(Runs().back(), 2);
   EXPECT_TRUE(aside.doubts.empty());

@@ -20,7 +20,7 @@ using Element = std::shared_ptr<orvik::ITestElement>;
 using Elements = std::vector<Element>;
 using End = support::RunParts::End;
 using Texts = std::vector<std::string>;
-using bench::judge::Verdict;
+using host::judge::Verdict;
 
 /// Presses the buttons of each guide, one guide after the other. A question is answered with yes.
 class Presser {
@@ -30,11 +30,12 @@ class Presser {
   Presser(support::VirtualBench& bench, Guides guides) : guides_(std::move(guides)) {
     shown_ = bench.Application().FormShown().Subscribe(
         [this, &bench](const std::shared_ptr<orvik::platform::IForm>& form) {
-          if (form->Name() == bench::guide::kYesNoForm)
-            bench.Application().Post([form] { bench::ClickButton(*form, bench::guide::kYes); });
-          if (form->Name() != bench::guide::kGuideForm || place_ >= guides_.size()) return;
+          if (form->Name() == host::plugins::keld::guide::kYesNoForm)
+            bench.Application().Post(
+                [form] { host::run::ClickButton(*form, host::plugins::keld::guide::kYes); });
+          if (form->Name() != host::plugins::keld::guide::kGuideForm || place_ >= guides_.size()) return;
           bench.Application().Post([form, buttons = guides_[place_++]] {
-            for (const auto button : buttons) bench::GuideToolbar(*form)->Click(button);
+            for (const auto button : buttons) host::run::GuideToolbar(*form)->Click(button);
           });
         });
   }
@@ -84,37 +85,36 @@ class RunFixture : public testing::Test {
     return parts_.Run();
   }
 
-  const std::vector<bench::RunRecord>& Runs() const { return document_->Runs().All(); }
-  bench::judge::JudgedElement Judged(std::int32_t id) { return JudgedIn(*document_, id); }
-  bench::judge::JudgedElement JudgedIn(const bench::Document& document, std::int32_t id) {
-    const auto judged = bench::judge::Judge(document, *bench_.Host().Elements());
+  const std::vector<host::document::RunRecord>& Runs() const { return document_->Runs().All(); }
+  host::judge::JudgedElement Judged(std::int32_t id) { return JudgedIn(*document_, id); }
+  host::judge::JudgedElement JudgedIn(const host::document::Document& document, std::int32_t id) {
+    const auto judged = host::judge::Judge(document, *bench_.Host().Elements());
     const auto* found = judged.Find(id);
     if (!found) ADD_FAILURE() << "no element " << id;
-    return found ? *found : bench::judge::JudgedElement{};
+    return found ? *found : host::judge::JudgedElement{};
   }
   /// "passed", or the verdict with the codes of its reasons: "doubtful: overload".
   std::string Verdict(std::int32_t id) { return VerdictIn(*document_, id); }
-  std::string VerdictIn(const bench::Document& document, std::int32_t id) {
+  std::string VerdictIn(const host::document::Document& document, std::int32_t id) {
     const auto judged = JudgedIn(document, id);
-    auto text = bench::judge::VerdictText(judged.verdict);
+    auto text = host::judge::VerdictText(judged.verdict);
     for (const auto& reason : judged.reasons)
       text += (&reason == &judged.reasons[0] ? ": " : ", ") + reason.code;
     return text;
   }
-  bench::judge::Outcome Outcome() {
-    return bench::judge::Judge(*document_, *bench_.Host().Elements()).outcome;
-  }
+  host::judge::Outcome Outcome() { return host::judge::Judge(*document_, *bench_.Host().Elements()).outcome; }
 
   /// The document as its file has it now.
-  std::shared_ptr<bench::Document> OnDisk() {
-    return bench::Document::Open(bench_.Only().SharedHost(), File(), bench::DocumentFile::Use::kRead);
+  std::shared_ptr<host::document::Document> OnDisk() {
+    return host::document::Document::Open(bench_.Only().SharedHost(), File(),
+                                          host::document::DocumentFile::Use::kRead);
   }
   std::filesystem::path File() const { return document_->Path(); }
 
   support::VirtualBench bench_;
   const std::shared_ptr<support::ChosenReplies> replies_ = std::make_shared<support::ChosenReplies>();
-  const std::shared_ptr<bench::Document> document_ =
-      bench::Document::Create(bench_.Only().SharedHost(), bench_.Only().Folder() / "run.orvik");
+  const std::shared_ptr<host::document::Document> document_ =
+      host::document::Document::Create(bench_.Only().SharedHost(), bench_.Only().Folder() / "run.orvik");
   support::RunParts parts_{bench_.Ports(), *document_};
 
  private:
@@ -127,26 +127,27 @@ class RunFixture : public testing::Test {
 };
 
 /// "410 status 1 by tester": the tests of a run as it took them up and finished them.
-inline Texts StepsOf(const bench::RunRecord& run) {
+inline Texts StepsOf(const host::document::RunRecord& run) {
   Texts steps;
   for (const auto& step : run.steps) {
-    if (const auto* takes = std::get_if<bench::RecordedTakes>(&step)) {
+    if (const auto* takes = std::get_if<host::document::RecordedTakes>(&step)) {
       std::string text = "takes";
       for (const auto id : takes->elements) text += " " + std::to_string(id);
       steps.push_back(text);
       continue;
     }
-    const auto& test = std::get<bench::RecordedTest>(step);
+    const auto& test = std::get<host::document::RecordedTest>(step);
     steps.push_back(std::to_string(test.element) + " status " + std::to_string(test.status) +
-                    (test.by == bench::RecordedTest::By::kTester ? " by tester" : " by operator"));
+                    (test.by == host::document::RecordedTest::By::kTester ? " by tester" : " by operator"));
   }
   return steps;
 }
 
 /// The last that the run recorded of the element.
-inline const bench::RecordedTest& TestOf(const bench::RunRecord& run, std::int32_t element) {
+inline const host::document::RecordedTest& TestOf(const host::document::RunRecord& run,
+                                                  std::int32_t element) {
   for (auto step = run.steps.rbegin(); step != run.steps.rend(); ++step)
-    if (const auto* test = std::get_if<bench::RecordedTest>(&*step))
+    if (const auto* test = std::get_if<host::document::RecordedTest>(&*step))
       if (test->element == element) return *test;
   throw std::logic_error("the run has not finished element " + std::to_string(element));
 }

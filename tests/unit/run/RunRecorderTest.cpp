@@ -13,16 +13,16 @@
 namespace run {
 namespace {
 
-using namespace bench::guide;
-using bench::RecordedTest;
-using bench::RunRecord;
-using bench::WireRecord;
+using namespace host::plugins::keld::guide;
+using host::document::RecordedTest;
+using host::document::RunRecord;
+using host::serial::WireRecord;
 
 constexpr char kTime[] = "2026-11-22T10:00:00+01:00";
 
 /// Gives the element's result another status, as something else than a run may.
 void SetStatus(orvik::ITestElement& element, std::int32_t status) {
-  const auto xml = std::make_shared<bench::XmlDocument>();
+  const auto xml = std::make_shared<host::xml::XmlDocument>();
   const auto node = element.Result()->Save(static_cast<orvik::IXmlDocument&>(*xml).CreateRoot("Result"));
   node->Append(keld::MKELDGlobalVars::Persistence()->WriteStatus(node, "", status));
   element.Result()->Load(node, nullptr);
@@ -39,8 +39,9 @@ class RunRecorderTest : public RunFixture {
     });
   }
   std::filesystem::path Copy() { return bench_.Only().Folder() / "cut.orvik"; }
-  std::shared_ptr<bench::Document> Cut() {
-    return bench::Document::Open(bench_.Only().SharedHost(), Copy(), bench::DocumentFile::Use::kRead);
+  std::shared_ptr<host::document::Document> Cut() {
+    return host::document::Document::Open(bench_.Only().SharedHost(), Copy(),
+                                          host::document::DocumentFile::Use::kRead);
   }
   /// Does it once, when that command goes out for the nth time.
   void At(const std::string& command, int nth, std::function<void()> act) {
@@ -143,9 +144,9 @@ TEST_F(RunRecorderTest, RecordsWhatWasSaidMeasuredAndJudged) {
   // Not selected, so the plug-in does not judge by it.
   document_->Find(1)->Limits()->CreateStandard("other", "")->Limit(1)->SetBounds("", "1");
   Add(610);
-  bench::StoreLeads(*bench_.Host().Registry(), "SIM-0001", 35, "2026-11-01T08:00:00+01:00");
+  host::run::StoreLeads(*bench_.Host().Registry(), "SIM-0001", 35, "2026-11-01T08:00:00+01:00");
   parts_.leadsMeasured = [&](const std::string& serial, std::int32_t leads) {
-    return bench::LeadsMeasured(*bench_.Host().Registry(), serial, leads).value_or("");
+    return host::run::LeadsMeasured(*bench_.Host().Registry(), serial, leads).value_or("");
   };
   Read("410", "0.185,0,Ohm");
   Read("610",
@@ -158,8 +159,8 @@ TEST_F(RunRecorderTest, RecordsWhatWasSaidMeasuredAndJudged) {
   const auto file = OnDisk();
   const auto& run = file->Runs().All().back();
   ASSERT_EQ(run.testers.size(), 1U);
-  EXPECT_EQ(run.testers[0], (bench::RecordedTester{"KELD(IN)", "SIM-0001", run.testers[0].firmware, 35,
-                                                   "2026-11-01T08:00:00+01:00"}));
+  EXPECT_EQ(run.testers[0], (host::document::RecordedTester{"KELD(IN)", "SIM-0001", run.testers[0].firmware,
+                                                            35, "2026-11-01T08:00:00+01:00"}));
   EXPECT_NE(run.testers[0].firmware, "");
 
   const auto& earth = TestOf(run, 1);
@@ -170,9 +171,10 @@ TEST_F(RunRecorderTest, RecordsWhatWasSaidMeasuredAndJudged) {
   EXPECT_EQ(earth.by, RecordedTest::By::kTester);
   EXPECT_EQ(earth.tester, 1);
   EXPECT_EQ(earth.said, Texts{"gres,410,0,0.185,0,Ohm"});
-  EXPECT_EQ(earth.recorded, (bench::RecordedReading{"150", "mOhm", ""}));
-  EXPECT_EQ(earth.judged, (std::vector<bench::RecordedLimit>{{"IEC 62353", "", "mOhm", "0.05", "100", 2},
-                                                             {"house rule", "2026", "mOhm", "", "300", 1}}));
+  EXPECT_EQ(earth.recorded, (host::document::RecordedReading{"150", "mOhm", ""}));
+  EXPECT_EQ(earth.judged,
+            (std::vector<host::document::RecordedLimit>{{"IEC 62353", "", "mOhm", "0.05", "100", 2},
+                                                        {"house rule", "2026", "mOhm", "", "300", 1}}));
   EXPECT_TRUE(earth.doubts.empty());
 
   const auto& leakage = TestOf(run, 2);
@@ -185,8 +187,8 @@ TEST_F(RunRecorderTest, RecordsWhatWasSaidMeasuredAndJudged) {
 TEST_F(RunRecorderTest, RecordsTheSettingsThatDecideWhatIsMeasured) {
   const auto element = AddLimited(410);
   const auto set = [&](std::int32_t options) {
-    const bench::SavedSettings settings(*element->Configuration());
-    settings.Settings()->SetAttribute(bench::SavedSettings::kOptions, std::to_string(options));
+    const host::document::SavedSettings settings(*element->Configuration());
+    settings.Settings()->SetAttribute(host::document::SavedSettings::kOptions, std::to_string(options));
     element->Configuration()->Load(settings.Node());
   };
   set(8191);
@@ -202,7 +204,10 @@ TEST_F(RunRecorderTest, RecordsWhoSetAnElementAside) {
   AddLimited(410);
   AddLimited(420);
   AddLimited(610);
-  EXPECT_EQ(RunByHand({{kSkip}, {kNotApplicable}, {kPlay, kSkip}}), End::kFinished);
+  EXPECT_EQ(RunByHand({{host::plugins::keld::guide::kSkip},
+                       {host::plugins::keld::guide::kNotApplicable},
+                       {host::plugins::keld::guide::kPlay, host::plugins::keld::guide::kSkip}}),
+            End::kFinished);
   EXPECT_EQ(Steps(), (Texts{"takes 1 2 3", "1 status 0 by operator", "2 status 3 by operator",
                             "3 status 1 by tester", "3 status 0 by operator"}));
   EXPECT_EQ(Steps(), StepsOnDisk());
@@ -215,11 +220,16 @@ TEST_F(RunRecorderTest, SettingAStoppedElementAsideIsTheOperatorsWord) {
     const auto id = AddLimited(test)->ID();
     At("GRES,410,0", test == 410 ? 1 : 2, [this] {
       for (const auto& form : bench_.Application().Forms())
-        if (form->Name() == kGuideForm)
-          bench_.Application().Post([form] { bench::GuideToolbar(*form)->Click(kStop); });
+        if (form->Name() == host::plugins::keld::guide::kGuideForm)
+          bench_.Application().Post(
+              [form] { host::run::GuideToolbar(*form)->Click(host::plugins::keld::guide::kStop); });
     });
-    RunByHand(test == 410 ? Presser::Guides{{kPlay, kNotApplicable}}
-                          : Presser::Guides{{kPlay, kNext}, {kPlay, kNotApplicable}});
+    RunByHand(
+        test == 410
+            ? Presser::Guides{{host::plugins::keld::guide::kPlay, host::plugins::keld::guide::kNotApplicable}}
+            : Presser::Guides{
+                  {host::plugins::keld::guide::kPlay, host::plugins::keld::guide::kNext},
+                  {host::plugins::keld::guide::kPlay, host::plugins::keld::guide::kNotApplicable}});
     EXPECT_EQ(Steps(), test == 410 ? (Texts{"takes 1", "1 status 0 by tester", "1 status 3 by operator"})
                                    : (Texts{"takes 1 2 3 4", "1 status 1 by tester", "3 status 0 by tester",
                                             "2 status 0 by tester", "4 status 3 by operator",
@@ -231,7 +241,7 @@ TEST_F(RunRecorderTest, SettingAStoppedElementAsideIsTheOperatorsWord) {
 TEST_F(RunRecorderTest, SettingAGroupAsideFinishesItsChildren) {
   Add(400);
   Run();
-  RunByHand({{kNotApplicable}});
+  RunByHand({{host::plugins::keld::guide::kNotApplicable}});
   EXPECT_EQ(Steps(), (Texts{"takes 1 2 3", "3 status 3 by operator", "2 status 3 by operator",
                             "1 status 3 by operator"}));
   for (const std::int32_t id : {1, 2, 3})
@@ -241,7 +251,7 @@ TEST_F(RunRecorderTest, SettingAGroupAsideFinishesItsChildren) {
 TEST_F(RunRecorderTest, SettingAMeasuredGroupAsideReplacesItsResults) {
   Add(400);
   Limit(2, "", "300");
-  RunByHand({{kPlay, kNotApplicable}});
+  RunByHand({{host::plugins::keld::guide::kPlay, host::plugins::keld::guide::kNotApplicable}});
   for (const std::int32_t id : {1, 2, 3})
     EXPECT_EQ(VerdictIn(*OnDisk(), id), "not applicable: set-aside-by-operator") << id;
 }
@@ -249,10 +259,11 @@ TEST_F(RunRecorderTest, SettingAMeasuredGroupAsideReplacesItsResults) {
 TEST_F(RunRecorderTest, AnAbortedGroupHasNoResult) {
   Add(400);
   Limit(2, "", "300");
-  EXPECT_EQ(RunByHand({{kPlay, kAbort}}), End::kAborted);
+  EXPECT_EQ(RunByHand({{host::plugins::keld::guide::kPlay, host::plugins::keld::guide::kAbort}}),
+            End::kAborted);
   EXPECT_EQ(VerdictIn(*OnDisk(), 1), "not tested: other-status");
   EXPECT_EQ(VerdictIn(*OnDisk(), 2), "passed");
-  EXPECT_EQ(RunByHand({{kAbort}}), End::kAborted);
+  EXPECT_EQ(RunByHand({{host::plugins::keld::guide::kAbort}}), End::kAborted);
   for (const std::int32_t id : {1, 2, 3})
     EXPECT_EQ(VerdictIn(*OnDisk(), id), "not tested: not-finished") << id;
 }
@@ -260,7 +271,9 @@ TEST_F(RunRecorderTest, AnAbortedGroupHasNoResult) {
 TEST_F(RunRecorderTest, AnAbortEndsTheRunAndTheElement) {
   AddLimited(410);
   AddLimited(420);
-  EXPECT_EQ(RunByHand({{kPlay, kNext}, {kAbort}}), End::kAborted);
+  EXPECT_EQ(RunByHand({{host::plugins::keld::guide::kPlay, host::plugins::keld::guide::kNext},
+                       {host::plugins::keld::guide::kAbort}}),
+            End::kAborted);
   EXPECT_EQ(Steps(), (Texts{"takes 1 2", "1 status 1 by tester", "2 status 4 by operator"}));
   EXPECT_EQ(OnDisk()->Runs().All().back().end, RunRecord::End::kAborted);
   EXPECT_EQ(VerdictIn(*OnDisk(), 1), "passed");
@@ -269,7 +282,8 @@ TEST_F(RunRecorderTest, AnAbortEndsTheRunAndTheElement) {
 
 TEST_F(RunRecorderTest, AnAbortAfterAMeasurementTakesItsPlace) {
   AddLimited(410);
-  EXPECT_EQ(RunByHand({{kPlay, kAbort}}), End::kAborted);
+  EXPECT_EQ(RunByHand({{host::plugins::keld::guide::kPlay, host::plugins::keld::guide::kAbort}}),
+            End::kAborted);
   EXPECT_EQ(Steps(), (Texts{"takes 1", "1 status 1 by tester", "1 status 4 by operator"}));
   const auto& aborted = TestOf(Runs().back(), 1);
   EXPECT_TRUE(aborted.said.empty()) << "the tester said nothing of the abort";
@@ -279,8 +293,8 @@ TEST_F(RunRecorderTest, AnAbortAfterAMeasurementTakesItsPlace) {
 
 TEST_F(RunRecorderTest, AnAbortIsRecordedOnlyInItsOwnRun) {
   AddLimited(410);
-  RunByHand({{kAbort}});
-  EXPECT_EQ(RunByHand({{kNext}}), End::kFinished);
+  RunByHand({{host::plugins::keld::guide::kAbort}});
+  EXPECT_EQ(RunByHand({{host::plugins::keld::guide::kNext}}), End::kFinished);
   EXPECT_EQ(Steps(), (Texts{"takes 1"}));
   EXPECT_EQ(Verdict(1), "not tested: not-finished");
 }
@@ -312,7 +326,10 @@ TEST_F(RunRecorderTest, AStopInAGroupKeepsItsFinishedChildren) {
 TEST_F(RunRecorderTest, PreviousAndAgainTakesTheElementUpOnceMore) {
   AddLimited(410);
   AddLimited(420);
-  RunByHand({{kPlay, kNext}, {kPrevious}, {kPlay, kNext}, {kPlay, kNext}});
+  RunByHand({{host::plugins::keld::guide::kPlay, host::plugins::keld::guide::kNext},
+             {host::plugins::keld::guide::kPrevious},
+             {host::plugins::keld::guide::kPlay, host::plugins::keld::guide::kNext},
+             {host::plugins::keld::guide::kPlay, host::plugins::keld::guide::kNext}});
   EXPECT_EQ(Steps(), (Texts{"takes 1 2", "1 status 1 by tester", "takes 1", "1 status 1 by tester",
                             "2 status 1 by tester"}));
   EXPECT_EQ(Verdict(1), "passed");
@@ -321,7 +338,8 @@ TEST_F(RunRecorderTest, PreviousAndAgainTakesTheElementUpOnceMore) {
 TEST_F(RunRecorderTest, KilledWhileMeasuringAgainLeavesNoResult) {
   AddLimited(410);
   CopyAtCommand(6);  // the second session's IREM
-  RunByHand({{kPlay, kPrevious}, {kPlay, kNext}});
+  RunByHand({{host::plugins::keld::guide::kPlay, host::plugins::keld::guide::kPrevious},
+             {host::plugins::keld::guide::kPlay, host::plugins::keld::guide::kNext}});
   const auto cut = Cut();
   EXPECT_EQ(StepsOf(cut->Runs().All().back()), (Texts{"takes 1", "1 status 1 by tester", "takes 1"}));
   EXPECT_EQ(VerdictIn(*cut, 1), "not tested: not-finished");
@@ -331,7 +349,8 @@ TEST_F(RunRecorderTest, MeasuringAGroupAgainTakesItsChildrenUpToo) {
   Add(400);
   Limit(2, "", "300");
   CopyAtCommand(8);  // the second session's IREM
-  RunByHand({{kPlay, kPrevious}, {kPlay, kNext}});
+  RunByHand({{host::plugins::keld::guide::kPlay, host::plugins::keld::guide::kPrevious},
+             {host::plugins::keld::guide::kPlay, host::plugins::keld::guide::kNext}});
   const auto cut = Cut();
   EXPECT_EQ(StepsOf(cut->Runs().All().back()),
             (Texts{"takes 1 2 3", "2 status 1 by tester", "3 status 1 by tester", "1 status 1 by tester",
@@ -365,15 +384,15 @@ TEST_F(RunRecorderTest, RecordsTwoTestersOfOneRun) {
   AddLimited(410);
   AddLimited(420);
   AddLimited(410);
-  bench::StoreLeads(*bench_.Host().Registry(), "B", 20, "");
+  host::run::StoreLeads(*bench_.Host().Registry(), "B", 20, "");
   int session = 0;
   const auto watch = parts_.controller->Started().Subscribe([&](const Element&) {
     Answer("IREM", ++session == 2 ? "irem,KELD(IN),B,2.0" : "irem,KELD(IN),A,1.0");
   });
   Run();
   const auto& run = Runs().back();
-  EXPECT_EQ(run.testers, (std::vector<bench::RecordedTester>{{"KELD(IN)", "A", "1.0", 0, ""},
-                                                             {"KELD(IN)", "B", "2.0", 20, ""}}));
+  EXPECT_EQ(run.testers, (std::vector<host::document::RecordedTester>{{"KELD(IN)", "A", "1.0", 0, ""},
+                                                                      {"KELD(IN)", "B", "2.0", 20, ""}}));
   EXPECT_EQ(TestOf(run, 1).tester, 1);
   EXPECT_EQ(TestOf(run, 2).tester, 2);
   EXPECT_EQ(TestOf(run, 3).tester, 1);
@@ -400,9 +419,9 @@ TEST_F(RunRecorderTest, NotesAStatusThatChangedAfterTheFinishOnce) {
       [&](const Element& finishedNow) { SetStatus(*finishedNow, 0); });
   Run();
   parts_.controller->Settle(element);
-  const bench::Reason changed{"changed-after-finish", {"1", "0"}};
-  EXPECT_EQ(TestOf(Runs().back(), 1).doubts, std::vector<bench::Reason>{changed});
-  EXPECT_EQ(TestOf(OnDisk()->Runs().All().back(), 1).doubts, std::vector<bench::Reason>{changed});
+  const host::document::Reason changed{"changed-after-finish", {"1", "0"}};
+  EXPECT_EQ(TestOf(Runs().back(), 1).doubts, std::vector<host::document::Reason>{changed});
+  EXPECT_EQ(TestOf(OnDisk()->Runs().All().back(), 1).doubts, std::vector<host::document::Reason>{changed});
 }
 
 TEST_F(RunRecorderTest, AFinishedRunIsNeverChanged) {

@@ -9,15 +9,15 @@
 namespace run {
 namespace {
 
-using namespace bench::guide;
+using namespace host::plugins::keld::guide;
 using Ids = std::vector<std::int32_t>;
 
 class RunSelectionTest : public RunFixture {
  protected:
   Ids Unfinished() {
-    const auto judged = bench::judge::Judge(*document_, *bench_.Host().Elements());
+    const auto judged = host::judge::Judge(*document_, *bench_.Host().Elements());
     Ids ids;
-    for (const auto& element : bench::Unfinished(support::TopOf(*document_), *document_, judged))
+    for (const auto& element : host::bench::Unfinished(support::TopOf(*document_), *document_, judged))
       ids.push_back(element->ID());
     return ids;
   }
@@ -28,7 +28,7 @@ class RunSelectionTest : public RunFixture {
     return names;
   }
   void Select(const Texts& standards) {
-    bench::SelectStandards(*document_, bench_.Host(), {"a.orvik", {}, standards, false});
+    host::bench::SelectStandards(*document_, bench_.Host(), {"a.orvik", {}, standards, false});
   }
 };
 
@@ -43,7 +43,9 @@ TEST_F(RunSelectionTest, ResumesWhatHasNoResult) {
 
 TEST_F(RunSelectionTest, ResumesAfterAnAbortWhatWasAborted) {
   for (const std::int32_t test : {410, 420, 610}) AddLimited(test);
-  EXPECT_EQ(RunByHand({{kPlay, kNext}, {kPlay, kAbort}}), End::kAborted);
+  EXPECT_EQ(RunByHand({{host::plugins::keld::guide::kPlay, host::plugins::keld::guide::kNext},
+                       {host::plugins::keld::guide::kPlay, host::plugins::keld::guide::kAbort}}),
+            End::kAborted);
   EXPECT_EQ(Unfinished(), (Ids{2, 3}));
 }
 
@@ -51,7 +53,10 @@ TEST_F(RunSelectionTest, ResumesWhatIsDoubtfulOrSkippedAndNotWhatIsDecided) {
   for (const std::int32_t test : {410, 420, 610, 620}) AddLimited(test);
   Read("410", "0.1,1,Ohm");
   Read("420", "1.85,0,Ohm");
-  RunByHand({{kPlay, kNext}, {kPlay, kNext}, {kSkip}, {kNotApplicable}});
+  RunByHand({{host::plugins::keld::guide::kPlay, host::plugins::keld::guide::kNext},
+             {host::plugins::keld::guide::kPlay, host::plugins::keld::guide::kNext},
+             {host::plugins::keld::guide::kSkip},
+             {host::plugins::keld::guide::kNotApplicable}});
   EXPECT_EQ(Verdict(1), "doubtful: overload");
   EXPECT_EQ(Verdict(2), "failed: above-limit");
   EXPECT_EQ(Unfinished(), (Ids{1, 3}));
@@ -74,18 +79,20 @@ TEST_F(RunSelectionTest, TheStandardsOfOneRunAreNotThoseOfTheNext) {
   EXPECT_EQ(Selected(), (Texts{"IEC 62353", "house rule"}));
   Select({"IEC 62353"});
   EXPECT_EQ(Selected(), Texts{"IEC 62353"});
-  EXPECT_THROW(Select({"other"}), bench::InputError);
+  EXPECT_THROW(Select({"other"}), host::bench::InputError);
 }
 
 TEST_F(RunSelectionTest, RefusesElementsThatAreNotThere) {
-  EXPECT_THROW(bench::SelectedElements(*document_, {"a.orvik", {}, {}, false}), bench::InputError);
+  EXPECT_THROW(host::bench::SelectedElements(*document_, {"a.orvik", {}, {}, false}),
+               host::bench::InputError);
   AddLimited(410);
   AddLimited(420);
-  EXPECT_EQ(bench::SelectedElements(*document_, {"a.orvik", {}, {}, false}).size(), 2U);
-  const auto chosen = bench::SelectedElements(*document_, {"a.orvik", {2, 1}, {}, false});
+  EXPECT_EQ(host::bench::SelectedElements(*document_, {"a.orvik", {}, {}, false}).size(), 2U);
+  const auto chosen = host::bench::SelectedElements(*document_, {"a.orvik", {2, 1}, {}, false});
   ASSERT_EQ(chosen.size(), 2U);
   EXPECT_EQ(chosen[0]->ID(), 2);
-  EXPECT_THROW(bench::SelectedElements(*document_, {"a.orvik", {3}, {}, false}), bench::InputError);
+  EXPECT_THROW(host::bench::SelectedElements(*document_, {"a.orvik", {3}, {}, false}),
+               host::bench::InputError);
 }
 
 }  // namespace

@@ -17,7 +17,7 @@ using namespace std::chrono_literals;
 using support::Ending;
 using support::StoppedRun;
 using support::WireLine;
-using Kind = bench::WireRecord::Kind;
+using Kind = host::serial::WireRecord::Kind;
 using Outcome = StoppedRun::Outcome;
 using Texts = std::vector<std::string>;
 using Time = StoppedRun::Time;

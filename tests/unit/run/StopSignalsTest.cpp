@@ -6,7 +6,7 @@
 #include "host/run/StopSignals.h"
 #include "toolkit/headless/Application.h"
 
-namespace bench {
+namespace host {
 namespace {
 
 using Handler = void (*)(int);
@@ -32,12 +32,12 @@ class Disposition {
 
 class StopSignalsTest : public ::testing::Test {
  protected:
-  headless::Application application_{ClockKind::kVirtual};
+  toolkit::headless::Application application_{toolkit::loop::ClockKind::kVirtual};
   std::vector<int> arrived_;
 };
 
 TEST_F(StopSignalsTest, AreDeliveredOnceWhileMessagesAreProcessed) {
-  const StopSignals signals(application_, [this](int signal) { arrived_.push_back(signal); });
+  const run::StopSignals signals(application_, [this](int signal) { arrived_.push_back(signal); });
   for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
     std::raise(signal);
     EXPECT_TRUE(arrived_.empty()) << "not within the handler";
@@ -50,7 +50,7 @@ TEST_F(StopSignalsTest, AreDeliveredOnceWhileMessagesAreProcessed) {
 
 TEST_F(StopSignalsTest, AReaderWhoHasGoneEndsNothing) {
   const Disposition usual(SIGPIPE, SIG_DFL);
-  const StopSignals signals(application_, [](int) {});
+  const run::StopSignals signals(application_, [](int) {});
   EXPECT_EQ(HandlerOf(SIGPIPE), SIG_IGN);
 }
 
@@ -59,7 +59,7 @@ TEST_F(StopSignalsTest, EachDoesAfterwardsWhatItDidBefore) {
   const Disposition interrupt(SIGINT, own), terminate(SIGTERM, SIG_DFL), hangUp(SIGHUP, SIG_DFL),
       pipe(SIGPIPE, SIG_IGN);
   {
-    const StopSignals signals(application_, [](int) {});
+    const run::StopSignals signals(application_, [](int) {});
     for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
       EXPECT_NE(HandlerOf(signal), SIG_DFL) << signal;
       EXPECT_NE(HandlerOf(signal), own) << signal;
@@ -72,4 +72,4 @@ TEST_F(StopSignalsTest, EachDoesAfterwardsWhatItDidBefore) {
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

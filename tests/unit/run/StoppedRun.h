@@ -105,22 +105,22 @@ class StoppedRun {
       outcome_.pumps.push_back(bench_.Application().Now());
       if (endAtPump_ && outcome_.pumps.size() == *endAtPump_ + 1) End();
     });
-    const bench::StopSignals signals(bench_.Application(), [this](int) { parts_.stop.Ask(); });
+    const host::run::StopSignals signals(bench_.Application(), [this](int) { parts_.stop.Ask(); });
     std::unique_ptr<GuideOperator> person;
     const auto application = bench_.Only().SharedApplication();
-    std::unique_ptr<bench::IOperator> program;
+    std::unique_ptr<host::run::IOperator> program;
     if (settings_.ending == Ending::kSignal) {
-      program = std::make_unique<bench::AutoOperator>(application, parts_.stop);
+      program = std::make_unique<host::run::AutoOperator>(application, parts_.stop);
     } else {
       person = std::make_unique<GuideOperator>(bench_.Application());
       person->thinks = settings_.thinks;
       person->onAnswer = [this](const std::string& form) {
-        if (form == bench::guide::kYesNoForm) NoteMoment();
+        if (form == host::plugins::keld::guide::kYesNoForm) NoteMoment();
       };
-      program = std::make_unique<bench::ScreenOperator>(application);
+      program = std::make_unique<host::bench::ScreenOperator>(application);
     }
     person_ = person.get();
-    const bench::OperatorEvents operating(application, parts_.stop, std::move(program));
+    const host::run::OperatorEvents operating(application, parts_.stop, std::move(program));
     parts_.Run();
     outcome_.ended = bench_.Application().Now();
     outcome_.wire = bench_.Wire().All();
@@ -154,17 +154,17 @@ class StoppedRun {
 
   bool Running() {
     for (const auto& form : bench_.Application().Forms()) {
-      if (form->Name() != bench::guide::kGuideForm || !form->Visible()) continue;
-      const auto toolbar = bench::GuideToolbar(*form);
-      return toolbar && toolbar->IsEnabled(bench::guide::kStop);
+      if (form->Name() != host::plugins::keld::guide::kGuideForm || !form->Visible()) continue;
+      const auto toolbar = host::run::GuideToolbar(*form);
+      return toolbar && toolbar->IsEnabled(host::plugins::keld::guide::kStop);
     }
     return false;
   }
 
   const Settings settings_;
   VirtualBench bench_;
-  const std::shared_ptr<bench::Document> document_ =
-      bench::Document::Create(bench_.Only().SharedHost(), bench_.Only().Folder() / "run.orvik");
+  const std::shared_ptr<host::document::Document> document_ =
+      host::document::Document::Create(bench_.Only().SharedHost(), bench_.Only().Folder() / "run.orvik");
   RunParts parts_{bench_.Ports(), *document_};
   GuideOperator* person_ = nullptr;
   std::optional<std::size_t> endAtPump_;

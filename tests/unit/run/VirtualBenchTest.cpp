@@ -22,8 +22,8 @@ class VirtualBenchTest : public testing::Test {
   }
 
   VirtualBench bench_;
-  const std::shared_ptr<bench::Document> document_ =
-      bench::Document::Create(bench_.Only().SharedHost(), bench_.Only().Folder() / "run.orvik");
+  const std::shared_ptr<host::document::Document> document_ =
+      host::document::Document::Create(bench_.Only().SharedHost(), bench_.Only().Folder() / "run.orvik");
   RunParts parts_{bench_.Ports(), *document_};
 };
 
@@ -42,7 +42,7 @@ TEST_F(VirtualBenchTest, TheTestersPausesAreKept) {
   Perform();
   std::vector<std::int64_t> sent;
   for (const auto& line : bench_.Wire().All()) {
-    if (line.kind == bench::WireRecord::Kind::kSent) sent.push_back(line.time.count());
+    if (line.kind == host::serial::WireRecord::Kind::kSent) sent.push_back(line.time.count());
   }
   ASSERT_EQ(sent.size(), 5u);
   for (std::size_t i = 1; i < sent.size(); ++i) EXPECT_GE(sent[i] - sent[i - 1], 3'500'000) << i;
@@ -69,7 +69,7 @@ TEST_F(VirtualBenchTest, AnUnpluggedLineEndsTheRun) {
       bench_.Line().Unplug();
   });
   const auto element = Perform();
-  EXPECT_EQ(bench_.Wire().Count(bench::WireRecord::Kind::kFailed), 1u);
+  EXPECT_EQ(bench_.Wire().Count(host::serial::WireRecord::Kind::kFailed), 1u);
   EXPECT_EQ(element->Result()->Status(), 0);
 }
 

@@ -8,9 +8,9 @@
 
 namespace {
 
-using bench::judge::JudgedElement;
-using bench::judge::Verdict;
-using End = bench::DocumentRunner::End;
+using host::judge::JudgedElement;
+using host::judge::Verdict;
+using End = host::run::DocumentRunner::End;
 
 struct Fault {
   std::string command;
@@ -37,12 +37,12 @@ class WireFaultsTest : public testing::TestWithParam<Fault> {
   End Run() { return parts_.RunByProgram(bench_.Only().SharedApplication()); }
 
   std::vector<JudgedElement> Judged() {
-    return bench::judge::Judge(*document_, *bench_.Host().Elements()).elements;
+    return host::judge::Judge(*document_, *bench_.Host().Elements()).elements;
   }
 
   support::VirtualBench bench_;
-  std::shared_ptr<bench::Document> document_ =
-      bench::Document::Create(bench_.Only().SharedHost(), bench_.Only().Folder() / "run.orvik");
+  std::shared_ptr<host::document::Document> document_ =
+      host::document::Document::Create(bench_.Only().SharedHost(), bench_.Only().Folder() / "run.orvik");
   support::RunParts parts_{bench_.Ports(), *document_};
   int saved_ = 0;
 };

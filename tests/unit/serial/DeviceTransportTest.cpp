@@ -12,7 +12,7 @@
 #include "tests/support/PseudoTerminal.h"
 #include "toolkit/loop/EventLoop.h"
 
-namespace bench {
+namespace host {
 namespace {
 
 using namespace std::chrono_literals;
@@ -20,8 +20,9 @@ using orvik::HostError;
 
 class DeviceTransportTest : public testing::Test {
  protected:
-  std::unique_ptr<DeviceTransport> Open(const std::string& path) {
-    auto transport = std::make_unique<DeviceTransport>(path, ParseLineSettings("9600,O,8,1"), loop_);
+  std::unique_ptr<serial::DeviceTransport> Open(const std::string& path) {
+    auto transport =
+        std::make_unique<serial::DeviceTransport>(path, serial::ParseLineSettings("9600,O,8,1"), loop_);
     transport->SetReceiver([this](std::string_view bytes) { received_ += bytes; });
     transport->SetFailureListener([this] { ++failures_; });
     return transport;
@@ -47,7 +48,8 @@ class DeviceTransportTest : public testing::Test {
     return "opened";
   }
 
-  std::shared_ptr<EventLoop> loop_ = std::make_shared<EventLoop>(ClockKind::kReal, 1.0);
+  std::shared_ptr<toolkit::loop::EventLoop> loop_ =
+      std::make_shared<toolkit::loop::EventLoop>(toolkit::loop::ClockKind::kReal, 1.0);
   support::PseudoTerminal terminal_;
   std::string received_;
   int failures_ = 0;
@@ -132,8 +134,9 @@ TEST_F(DeviceTransportTest, RejectsASecondProgram) {
   const pid_t child = fork();
   if (child == 0) {
     try {
-      DeviceTransport second(terminal_.Path(), ParseLineSettings("9600,O,8,1"),
-                             std::make_shared<EventLoop>(ClockKind::kReal, 1.0));
+      serial::DeviceTransport second(
+          terminal_.Path(), serial::ParseLineSettings("9600,O,8,1"),
+          std::make_shared<toolkit::loop::EventLoop>(toolkit::loop::ClockKind::kReal, 1.0));
       _exit(1);
     } catch (const HostError& error) {
       _exit(error.Description().find("held by another program") != std::string::npos ? 0 : 2);
@@ -162,13 +165,16 @@ TEST_F(DeviceTransportTest, RejectsOtherFiles) {
 }
 
 TEST_F(DeviceTransportTest, RejectsAnUnknownRate) {
-  EXPECT_THROW(DeviceTransport(terminal_.Path(), ParseLineSettings("9601,N,8,1"), loop_), HostError);
+  EXPECT_THROW(serial::DeviceTransport(terminal_.Path(), serial::ParseLineSettings("9601,N,8,1"), loop_),
+               HostError);
 }
 
 TEST_F(DeviceTransportTest, RejectsUnsupportedStopBits) {
-  EXPECT_THROW(DeviceTransport(terminal_.Path(), ParseLineSettings("9600,N,8,1.5"), loop_), HostError);
-  EXPECT_THROW(DeviceTransport(terminal_.Path(), ParseLineSettings("9600,N,5,2"), loop_), HostError);
+  EXPECT_THROW(serial::DeviceTransport(terminal_.Path(), serial::ParseLineSettings("9600,N,8,1.5"), loop_),
+               HostError);
+  EXPECT_THROW(serial::DeviceTransport(terminal_.Path(), serial::ParseLineSettings("9600,N,5,2"), loop_),
+               HostError);
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

@@ -6,7 +6,7 @@
 #include "host/serial/Port.h"
 #include "toolkit/loop/EventLoop.h"
 
-namespace bench {
+namespace host {
 namespace {
 
 using Texts = std::vector<std::string>;
@@ -39,25 +39,26 @@ class DoubtTrackerTest : public testing::Test {
   }
   /// ... in a session of its own.
   Texts CodesOfIdentity(const std::string& reply) {
-    Raise(WireRecord::Kind::kOpened);
+    Raise(serial::WireRecord::Kind::kOpened);
     const auto codes = CodesOf("IREM", {}, reply);
-    Raise(WireRecord::Kind::kClosed);
+    Raise(serial::WireRecord::Kind::kClosed);
     return codes;
   }
-  void Raise(WireRecord::Kind kind) {
-    WireRecord record{};
+  void Raise(serial::WireRecord::Kind kind) {
+    serial::WireRecord record{};
     record.kind = kind;
     wire_->Raise(record);
   }
   /// What is noted of a reading of test 410, setting 0.
   Texts CodesOfReading(const std::string& reply) { return CodesOf("GRES", {"410", "0"}, reply); }
 
-  std::shared_ptr<EventLoop> loop_ = std::make_shared<EventLoop>(ClockKind::kVirtual, 1.0);
-  std::shared_ptr<Wire> wire_ = std::make_shared<Wire>();
-  DoubtTracker tracker_{*wire_};
-  std::shared_ptr<MemoryLine> line_ = std::make_shared<MemoryLine>();
+  std::shared_ptr<toolkit::loop::EventLoop> loop_ =
+      std::make_shared<toolkit::loop::EventLoop>(toolkit::loop::ClockKind::kVirtual, 1.0);
+  std::shared_ptr<serial::Wire> wire_ = std::make_shared<serial::Wire>();
+  run::DoubtTracker tracker_{*wire_};
+  std::shared_ptr<serial::MemoryLine> line_ = std::make_shared<serial::MemoryLine>();
   std::shared_ptr<orvik::IPort> port_ =
-      Port::Create(std::make_unique<MemoryTransport>(line_), loop_, wire_, "memory");
+      serial::Port::Create(std::make_unique<serial::MemoryTransport>(line_), loop_, wire_, "memory");
 };
 
 TEST_F(DoubtTrackerTest, AcceptsAValidRun) {
@@ -76,14 +77,15 @@ TEST_F(DoubtTrackerTest, DoubtsAReplyReceivedBeforeItsCommand) {
   line_->Deliver("gres,410,0,0.123,0,Ohm\r\n");
   EXPECT_EQ(Codes(), Texts());
   Send("STST", {"210", "0"});
-  EXPECT_EQ(tracker_.Of(1), (std::vector<Reason>{{"late-reply", {"STST,210,0"}}}));
+  EXPECT_EQ(tracker_.Of(1), (std::vector<document::Reason>{{"late-reply", {"STST,210,0"}}}));
 }
 
 TEST_F(DoubtTrackerTest, DoubtsAReplyForAnotherTestOrSetting) {
   EXPECT_EQ(CodesOfReading("gres,420,0,0.123,0,Ohm"), Texts{"other-test-named"});
   EXPECT_EQ(CodesOfReading("gres,410,1,0.123,0,Ohm"), Texts{"other-test-named"});
   EXPECT_EQ(CodesOf("STST", {"410", "0"}, "stst,420,0"), Texts{"other-test-named"});
-  EXPECT_EQ(tracker_.Of(1), (std::vector<Reason>{{"other-test-named", {"stst,420,0", "STST,410,0"}}}));
+  EXPECT_EQ(tracker_.Of(1),
+            (std::vector<document::Reason>{{"other-test-named", {"stst,420,0", "STST,410,0"}}}));
 }
 
 // The protocol lets a tester confirm a command by its name alone.
@@ -97,7 +99,7 @@ TEST_F(DoubtTrackerTest, DoubtsAnInvalidLine) {
   tracker_.ElementStarts(1);
   Send("GRES", {"410", "0"});
   line_->Deliver("gres,4\x01\r\n");
-  EXPECT_EQ(tracker_.Of(1), (std::vector<Reason>{{"invalid-line", {"gres,4\\x01"}}}));
+  EXPECT_EQ(tracker_.Of(1), (std::vector<document::Reason>{{"invalid-line", {"gres,4\\x01"}}}));
 }
 
 TEST_F(DoubtTrackerTest, DoubtsAnOverload) {
@@ -163,7 +165,7 @@ TEST_F(DoubtTrackerTest, DoubtsAnIncompleteIdentity) {
 
 // The session's tester answers for each test of a sequence, though it names itself once.
 TEST_F(DoubtTrackerTest, DoubtsTheTesterForEachElementOfASession) {
-  Raise(WireRecord::Kind::kOpened);
+  Raise(serial::WireRecord::Kind::kOpened);
   EXPECT_EQ(CodesOf("IREM", {}, "irem,KELD(IN),,3.10"), Texts{"no-serial-number"});
   tracker_.ElementStarts(2);
   EXPECT_EQ(Codes(2), Texts{"no-serial-number"});
@@ -171,8 +173,8 @@ TEST_F(DoubtTrackerTest, DoubtsTheTesterForEachElementOfASession) {
 
 // An element starts before its port is opened: what the tester before it lacked is none of its business.
 TEST_F(DoubtTrackerTest, EndsDoubtsOfTheTesterWithTheSession) {
-  for (const auto end : {WireRecord::Kind::kClosed, WireRecord::Kind::kFailed}) {
-    Raise(WireRecord::Kind::kOpened);
+  for (const auto end : {serial::WireRecord::Kind::kClosed, serial::WireRecord::Kind::kFailed}) {
+    Raise(serial::WireRecord::Kind::kOpened);
     EXPECT_EQ(CodesOf("IREM", {}, "irem,KELD(IN),,3.10"), Texts{"no-serial-number"});
     Raise(end);
     tracker_.ElementStarts(2);
@@ -194,7 +196,7 @@ TEST_F(DoubtTrackerTest, RecordsDoubtsForTheRunningElement) {
 TEST_F(DoubtTrackerTest, RecordsAndReportsEachDoubtOnce) {
   std::vector<std::pair<std::int32_t, std::string>> reported;
   const auto watch = tracker_.Noted().Subscribe(
-      [&](std::int32_t id, const Reason& doubt) { reported.emplace_back(id, doubt.code); });
+      [&](std::int32_t id, const document::Reason& doubt) { reported.emplace_back(id, doubt.code); });
   tracker_.ElementStarts(1);
   for (int i = 0; i < 3; ++i) Exchange("GRES", {"410", "0"}, "gres,410,0,1,1,Ohm");
   EXPECT_EQ(Codes(), Texts{"overload"});
@@ -228,4 +230,4 @@ TEST_F(DoubtTrackerTest, RecordsAtMostEightReplies) {
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

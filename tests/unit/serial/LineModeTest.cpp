@@ -3,12 +3,14 @@
 #include "host/serial/LineMode.h"
 #include "tests/support/PseudoTerminal.h"
 
-namespace bench {
+namespace host {
 namespace {
 
 class LineModeTest : public testing::Test {
  protected:
-  UniqueFd Open() { return UniqueFd(open(terminal_.Path().c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK)); }
+  serial::UniqueFd Open() {
+    return serial::UniqueFd(open(terminal_.Path().c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK));
+  }
 
   support::PseudoTerminal terminal_;
 };
@@ -17,21 +19,21 @@ class LineModeTest : public testing::Test {
 // without the parity asked for must never pass for one with it.
 TEST_F(LineModeTest, RejectsARealLineThatDropsTheParityBit) {
   const auto device = Open();
-  const auto odd = ParseLineSettings("9600,O,8,1");
-  EXPECT_NE(SetLineMode(device.Get(), odd, false), "");
-  EXPECT_NE(SetLineMode(device.Get(), odd, false), "");
+  const auto odd = serial::ParseLineSettings("9600,O,8,1");
+  EXPECT_NE(serial::SetLineMode(device.Get(), odd, false), "");
+  EXPECT_NE(serial::SetLineMode(device.Get(), odd, false), "");
 }
 
 TEST_F(LineModeTest, AcceptsAPseudoTerminalThatDropsIt) {
   const auto device = Open();
-  const auto odd = ParseLineSettings("9600,O,8,1");
-  EXPECT_EQ(SetLineMode(device.Get(), odd, true), "");
-  EXPECT_EQ(SetLineMode(device.Get(), odd, true), "");
+  const auto odd = serial::ParseLineSettings("9600,O,8,1");
+  EXPECT_EQ(serial::SetLineMode(device.Get(), odd, true), "");
+  EXPECT_EQ(serial::SetLineMode(device.Get(), odd, true), "");
 }
 
 TEST_F(LineModeTest, SetsRateAndRawMode) {
   const auto device = Open();
-  EXPECT_EQ(SetLineMode(device.Get(), ParseLineSettings("19200,N,8,2"), true), "");
+  EXPECT_EQ(serial::SetLineMode(device.Get(), serial::ParseLineSettings("19200,N,8,2"), true), "");
   termios mode{};
   ASSERT_EQ(tcgetattr(device.Get(), &mode), 0);
   EXPECT_EQ(cfgetospeed(&mode), static_cast<speed_t>(B19200));
@@ -43,7 +45,7 @@ TEST_F(LineModeTest, SetsRateAndRawMode) {
 
 TEST_F(LineModeTest, ChecksTheParityOfInput) {
   const auto device = Open();
-  EXPECT_EQ(SetLineMode(device.Get(), ParseLineSettings("9600,O,8,1"), true), "");
+  EXPECT_EQ(serial::SetLineMode(device.Get(), serial::ParseLineSettings("9600,O,8,1"), true), "");
   termios mode{};
   ASSERT_EQ(tcgetattr(device.Get(), &mode), 0);
   EXPECT_NE(mode.c_iflag & INPCK, 0u);
@@ -51,9 +53,9 @@ TEST_F(LineModeTest, ChecksTheParityOfInput) {
 }
 
 TEST_F(LineModeTest, RejectsOtherDevices) {
-  UniqueFd nothing(open("/dev/null", O_RDWR));
-  EXPECT_NE(SetLineMode(nothing.Get(), ParseLineSettings("9600,O,8,1"), false), "");
+  serial::UniqueFd nothing(open("/dev/null", O_RDWR));
+  EXPECT_NE(serial::SetLineMode(nothing.Get(), serial::ParseLineSettings("9600,O,8,1"), false), "");
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

@@ -6,7 +6,7 @@
 #include "host/serial/LineReader.h"
 #include "tests/support/Seed.h"
 
-namespace bench {
+namespace host {
 namespace {
 
 struct Line {
@@ -19,14 +19,14 @@ std::ostream& operator<<(std::ostream& out, const Line& line) {
   return out << (line.good ? "good " : "bad ") << testing::PrintToString(line.text);
 }
 
-std::vector<Line> Feed(LineReader& reader, std::string_view bytes) {
+std::vector<Line> Feed(serial::LineReader& reader, std::string_view bytes) {
   std::vector<Line> lines;
   reader.Feed(bytes, [&](std::string_view text, bool good) { lines.push_back({std::string(text), good}); });
   return lines;
 }
 
 std::vector<Line> Read(std::string_view bytes) {
-  LineReader reader;
+  serial::LineReader reader;
   return Feed(reader, bytes);
 }
 
@@ -39,7 +39,7 @@ TEST(LineReader, AcceptsEveryLineEnding) {
 }
 
 TEST(LineReader, ReturnsALineOnlyAtItsEnd) {
-  LineReader reader;
+  serial::LineReader reader;
   EXPECT_FALSE(reader.InLine());
   EXPECT_TRUE(Feed(reader, "gres,410").empty());
   EXPECT_TRUE(reader.InLine());
@@ -50,18 +50,18 @@ TEST(LineReader, ReturnsALineOnlyAtItsEnd) {
 }
 
 TEST(LineReader, AcceptsLinesUpToTheMaximumLength) {
-  const std::string full(LineReader::kMaxLine, 'x');
+  const std::string full(serial::LineReader::kMaxLine, 'x');
   EXPECT_EQ(Read(full + "\r\n"), (std::vector<Line>{{full, true}}));
   EXPECT_EQ(Read(full + "y\r\nok\n"), (std::vector<Line>{{full, false}, {"ok", true}}));
 }
 
 TEST(LineReader, LimitsTheMemoryOfAnEndlessLine) {
-  LineReader reader;
+  serial::LineReader reader;
   for (int i = 0; i < 1000; ++i) EXPECT_TRUE(Feed(reader, std::string(1000, 'x')).empty());
   const auto lines = Feed(reader, "\n");
   ASSERT_EQ(lines.size(), 1u);
   EXPECT_FALSE(lines[0].good);
-  EXPECT_EQ(lines[0].text.size(), LineReader::kMaxLine);
+  EXPECT_EQ(lines[0].text.size(), serial::LineReader::kMaxLine);
 }
 
 TEST(LineReader, RejectsLinesWithAControlByte) {
@@ -87,7 +87,7 @@ TEST(LineReader, ReadsTheSameLinesFromPieces) {
     const bool longLines = random() % 4 == 0;
     for (std::size_t i = 0; i < length; ++i)
       bytes.push_back(longLines && random() % 1500 != 0 ? 'x' : alphabet[random() % alphabet.size()]);
-    LineReader reader;
+    serial::LineReader reader;
     std::vector<Line> pieces;
     for (std::size_t at = 0; at < bytes.size();) {
       const auto size = std::min<std::size_t>(1 + random() % 700, bytes.size() - at);
@@ -99,4 +99,4 @@ TEST(LineReader, ReadsTheSameLinesFromPieces) {
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

@@ -3,31 +3,33 @@
 #include "OrvikTypeLib/HostError.h"
 #include "host/serial/LineSettings.h"
 
-namespace bench {
+namespace host {
 namespace {
 
 TEST(LineSettings, ReadsTheTestersSettings) {
-  EXPECT_EQ(ParseLineSettings("9600,O,8,1"), (LineSettings{9600, Parity::kOdd, 8, StopBits::kOne}));
+  EXPECT_EQ(serial::ParseLineSettings("9600,O,8,1"),
+            (serial::LineSettings{9600, serial::Parity::kOdd, 8, serial::StopBits::kOne}));
 }
 
 TEST(LineSettings, ReadsEveryParityInEitherCase) {
-  const std::pair<const char*, Parity> cases[] = {{"N", Parity::kNone},
-                                                  {"E", Parity::kEven},
-                                                  {"O", Parity::kOdd},
-                                                  {"M", Parity::kMark},
-                                                  {"S", Parity::kSpace}};
+  const std::pair<const char*, serial::Parity> cases[] = {{"N", serial::Parity::kNone},
+                                                          {"E", serial::Parity::kEven},
+                                                          {"O", serial::Parity::kOdd},
+                                                          {"M", serial::Parity::kMark},
+                                                          {"S", serial::Parity::kSpace}};
   for (const auto& [letter, parity] : cases) {
     const std::string upper = letter;
     const std::string lower(1, static_cast<char>(upper[0] + 32));
-    EXPECT_EQ(ParseLineSettings("1200," + upper + ",7,2").parity, parity);
-    EXPECT_EQ(ParseLineSettings("1200," + lower + ",7,2").parity, parity);
+    EXPECT_EQ(serial::ParseLineSettings("1200," + upper + ",7,2").parity, parity);
+    EXPECT_EQ(serial::ParseLineSettings("1200," + lower + ",7,2").parity, parity);
   }
 }
 
 TEST(LineSettings, ReadsRatesDataBitsAndStopBits) {
-  EXPECT_EQ(ParseLineSettings("4000000,N,5,1.5"),
-            (LineSettings{4'000'000, Parity::kNone, 5, StopBits::kOneAndAHalf}));
-  EXPECT_EQ(ParseLineSettings("1,N,6,2"), (LineSettings{1, Parity::kNone, 6, StopBits::kTwo}));
+  EXPECT_EQ(serial::ParseLineSettings("4000000,N,5,1.5"),
+            (serial::LineSettings{4'000'000, serial::Parity::kNone, 5, serial::StopBits::kOneAndAHalf}));
+  EXPECT_EQ(serial::ParseLineSettings("1,N,6,2"),
+            (serial::LineSettings{1, serial::Parity::kNone, 6, serial::StopBits::kTwo}));
 }
 
 struct BadSettings {
@@ -39,7 +41,7 @@ class LineSettingsRefusal : public testing::TestWithParam<BadSettings> {};
 
 TEST_P(LineSettingsRefusal, NamesTheSettingsAndTheField) {
   try {
-    ParseLineSettings(GetParam().text);
+    serial::ParseLineSettings(GetParam().text);
     FAIL() << "accepted " << GetParam().text;
   } catch (const orvik::HostError& error) {
     EXPECT_EQ(error.Number(), orvik::HostError::kInvalidArgument);
@@ -62,4 +64,4 @@ INSTANTIATE_TEST_SUITE_P(
                     BadSettings{"9600,O,8,", "stop bits \"\""}));
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

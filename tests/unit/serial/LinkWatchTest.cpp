@@ -7,7 +7,7 @@
 #include "host/serial/MemoryTransport.h"
 #include "toolkit/loop/EventLoop.h"
 
-namespace bench {
+namespace host {
 namespace {
 
 class LinkWatchTest : public testing::Test {
@@ -27,12 +27,13 @@ class LinkWatchTest : public testing::Test {
     line_->Deliver("irem,KELD(IN),1,3.10\r\n");
   }
 
-  std::shared_ptr<EventLoop> loop_ = std::make_shared<EventLoop>(ClockKind::kVirtual, 1.0);
-  std::shared_ptr<MemoryLine> line_ = std::make_shared<MemoryLine>();
-  PortManager ports_{loop_, [this](const std::string&, const LineSettings&) {
-                       return std::make_unique<MemoryTransport>(line_);
-                     }};
-  LinkWatch watch_{ports_};
+  std::shared_ptr<toolkit::loop::EventLoop> loop_ =
+      std::make_shared<toolkit::loop::EventLoop>(toolkit::loop::ClockKind::kVirtual, 1.0);
+  std::shared_ptr<serial::MemoryLine> line_ = std::make_shared<serial::MemoryLine>();
+  serial::PortManager ports_{loop_, [this](const std::string&, const serial::LineSettings&) {
+                               return std::make_unique<serial::MemoryTransport>(line_);
+                             }};
+  run::LinkWatch watch_{ports_};
   std::shared_ptr<orvik::IPort> port_;
 };
 
@@ -71,4 +72,4 @@ TEST_F(LinkWatchTest, ReportsAPortThatCannotBeOpened) {
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

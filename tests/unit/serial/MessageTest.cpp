@@ -7,19 +7,19 @@
 #include "host/serial/Message.h"
 #include "tests/support/Seed.h"
 
-namespace bench {
+namespace host {
 namespace {
 
 using orvik::HostError;
 using Texts = std::vector<std::string>;
 
 std::string LineOf(const std::string& mnemonic, const Texts& parameters) {
-  return ComposeMessage(mnemonic, parameters)->Line();
+  return serial::ComposeMessage(mnemonic, parameters)->Line();
 }
 
 void ExpectRefused(const std::string& mnemonic, const Texts& parameters, const std::string& reason) {
   try {
-    ComposeMessage(mnemonic, parameters);
+    serial::ComposeMessage(mnemonic, parameters);
     FAIL() << "accepted " << mnemonic;
   } catch (const HostError& error) {
     EXPECT_EQ(error.Number(), HostError::kInvalidArgument);
@@ -64,7 +64,7 @@ TEST(Message, RejectsALineThatIsTooLong) {
 }
 
 TEST(Message, ReadsAReply) {
-  const auto message = ParseMessage("gres,410,0,0.123,0,Ohm");
+  const auto message = serial::ParseMessage("gres,410,0,0.123,0,Ohm");
   ASSERT_TRUE(message);
   EXPECT_EQ(message->Mnemonic(), "gres");
   ASSERT_EQ(message->ParameterCount(), 5);
@@ -74,7 +74,7 @@ TEST(Message, ReadsAReply) {
 }
 
 TEST(Message, RejectsAnInvalidIndex) {
-  const auto message = ParseMessage("irem,a");
+  const auto message = serial::ParseMessage("irem,a");
   for (const std::int32_t index : {-1, 1, 1000}) {
     try {
       message->Parameter(index);
@@ -86,17 +86,17 @@ TEST(Message, RejectsAnInvalidIndex) {
 }
 
 TEST(Message, ReadsEmptyAndQuotedParameters) {
-  EXPECT_EQ(ParseMessage("x")->Parameters(), Texts{});
-  EXPECT_EQ(ParseMessage("x,")->Parameters(), Texts{""});
-  EXPECT_EQ(ParseMessage("x,,")->Parameters(), (Texts{"", ""}));
-  EXPECT_EQ(ParseMessage("x,\"a,\"\"b\"\"\",\"\"")->Parameters(), (Texts{"a,\"b\"", ""}));
-  EXPECT_EQ(ParseMessage("x,\xB5")->Parameters(), Texts{"\u00B5"});
+  EXPECT_EQ(serial::ParseMessage("x")->Parameters(), Texts{});
+  EXPECT_EQ(serial::ParseMessage("x,")->Parameters(), Texts{""});
+  EXPECT_EQ(serial::ParseMessage("x,,")->Parameters(), (Texts{"", ""}));
+  EXPECT_EQ(serial::ParseMessage("x,\"a,\"\"b\"\"\",\"\"")->Parameters(), (Texts{"a,\"b\"", ""}));
+  EXPECT_EQ(serial::ParseMessage("x,\xB5")->Parameters(), Texts{"\u00B5"});
 }
 
 TEST(Message, RejectsUnbalancedQuotationMarks) {
   for (const char* line :
        {"x,\"", "x,\"a", "x,a\"b", "x,\"a\"b", "x,\"a\"\"", "\"x\",1", "x\",1", "x,\"a\" ,b"})
-    EXPECT_FALSE(ParseMessage(line)) << line;
+    EXPECT_FALSE(serial::ParseMessage(line)) << line;
 }
 
 // Whatever can be sent arrives as it was.
@@ -111,15 +111,15 @@ TEST(Message, ParsesEverythingItComposes) {
           c = random() % 3 == 0 ? (random() % 2 == 0 ? ',' : '"') : static_cast<char>(random() % 256);
         } while (static_cast<unsigned char>(c) < 0x20 || c == 0x7F);
       }
-      parameter = Utf8FromLatin1(bytes);
+      parameter = serial::Utf8FromLatin1(bytes);
     }
-    const auto sent = ComposeMessage("CMD", parameters);
-    const auto received = ParseMessage(sent->Line());
-    ASSERT_TRUE(received) << VisibleLatin1(sent->Line());
+    const auto sent = serial::ComposeMessage("CMD", parameters);
+    const auto received = serial::ParseMessage(sent->Line());
+    ASSERT_TRUE(received) << serial::VisibleLatin1(sent->Line());
     EXPECT_EQ(received->Mnemonic(), "CMD");
-    EXPECT_EQ(received->Parameters(), parameters) << VisibleLatin1(sent->Line());
+    EXPECT_EQ(received->Parameters(), parameters) << serial::VisibleLatin1(sent->Line());
   }
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

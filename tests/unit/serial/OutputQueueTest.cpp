@@ -2,7 +2,7 @@
 
 #include "host/serial/OutputQueue.h"
 
-namespace bench {
+namespace host {
 namespace {
 
 /// A queue that sends one byte in each pause.
@@ -11,11 +11,11 @@ struct Queue {
   int pauses = 0;
 
   bool Await(int sentAtOnce = 1) {
-    return AwaitEmptyQueue([this] { return unsent; },
-                           [this, sentAtOnce] {
-                             unsent -= sentAtOnce;
-                             ++pauses;
-                           });
+    return serial::AwaitEmptyQueue([this] { return unsent; },
+                                   [this, sentAtOnce] {
+                                     unsent -= sentAtOnce;
+                                     ++pauses;
+                                   });
   }
 };
 
@@ -34,8 +34,8 @@ TEST(OutputQueue, WaitsUntilEmpty) {
 TEST(OutputQueue, StopsWaitingForABlockedLine) {
   Queue queue{1};
   EXPECT_FALSE(queue.Await(0));
-  EXPECT_EQ(queue.pauses, kMaxPauses);
+  EXPECT_EQ(queue.pauses, serial::kMaxPauses);
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

@@ -6,20 +6,21 @@
 #include "host/serial/PortManager.h"
 #include "toolkit/loop/EventLoop.h"
 
-namespace bench {
+namespace host {
 namespace {
 
 class PortManagerTest : public testing::Test {
  protected:
-  std::shared_ptr<EventLoop> loop_ = std::make_shared<EventLoop>(ClockKind::kVirtual, 1.0);
-  std::shared_ptr<MemoryLine> line_ = std::make_shared<MemoryLine>();
+  std::shared_ptr<toolkit::loop::EventLoop> loop_ =
+      std::make_shared<toolkit::loop::EventLoop>(toolkit::loop::ClockKind::kVirtual, 1.0);
+  std::shared_ptr<serial::MemoryLine> line_ = std::make_shared<serial::MemoryLine>();
   std::string device_;
-  LineSettings settings_;
-  std::shared_ptr<PortManager> manager_ =
-      std::make_shared<PortManager>(loop_, [this](const std::string& device, const LineSettings& settings) {
+  serial::LineSettings settings_;
+  std::shared_ptr<serial::PortManager> manager_ = std::make_shared<serial::PortManager>(
+      loop_, [this](const std::string& device, const serial::LineSettings& settings) {
         device_ = device;
         settings_ = settings;
-        return std::make_unique<MemoryTransport>(line_);
+        return std::make_unique<serial::MemoryTransport>(line_);
       });
 };
 
@@ -33,7 +34,7 @@ TEST_F(PortManagerTest, FindsAndOpensTheAssignedDevice) {
   const auto port = manager_->OpenPort(number, "9600,O,8,1");
   EXPECT_TRUE(port->IsOpen());
   EXPECT_EQ(device_, "/dev/tester");
-  EXPECT_EQ(settings_, (LineSettings{9600, Parity::kOdd, 8, StopBits::kOne}));
+  EXPECT_EQ(settings_, (serial::LineSettings{9600, serial::Parity::kOdd, 8, serial::StopBits::kOne}));
 }
 
 TEST_F(PortManagerTest, KeepsThePortNumberOnReassignment) {
@@ -64,4 +65,4 @@ TEST_F(PortManagerTest, ReturnsTheReasonOfTheLastFailure) {
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

@@ -8,7 +8,7 @@
 #include "tests/support/WireLines.h"
 #include "toolkit/loop/EventLoop.h"
 
-namespace bench {
+namespace host {
 namespace {
 
 using orvik::HostError;
@@ -18,7 +18,8 @@ class PortTest : public testing::Test {
  protected:
   PortTest() {
     heard_ = line_->Sent().Subscribe([this](std::string_view bytes) { sent_ += bytes; });
-    port_ = Port::Create(std::make_unique<MemoryTransport>(line_), loop_, wire_, "memory 9600,O,8,1");
+    port_ = serial::Port::Create(std::make_unique<serial::MemoryTransport>(line_), loop_, wire_,
+                                 "memory 9600,O,8,1");
   }
 
   std::string Take() { return port_->TakeMessage()->Mnemonic(); }
@@ -33,10 +34,11 @@ class PortTest : public testing::Test {
     return 0;
   }
 
-  std::shared_ptr<EventLoop> loop_ = std::make_shared<EventLoop>(ClockKind::kVirtual, 1.0);
-  std::shared_ptr<Wire> wire_ = std::make_shared<Wire>();
+  std::shared_ptr<toolkit::loop::EventLoop> loop_ =
+      std::make_shared<toolkit::loop::EventLoop>(toolkit::loop::ClockKind::kVirtual, 1.0);
+  std::shared_ptr<serial::Wire> wire_ = std::make_shared<serial::Wire>();
   support::WireLines record_{*wire_};
-  std::shared_ptr<MemoryLine> line_ = std::make_shared<MemoryLine>();
+  std::shared_ptr<serial::MemoryLine> line_ = std::make_shared<serial::MemoryLine>();
   orvik::platform::Subscription heard_;
   std::string sent_;
   std::shared_ptr<orvik::IPort> port_;
@@ -70,14 +72,14 @@ TEST_F(PortTest, DiscardsAndCountsInvalidLines) {
   line_->Deliver("a\x01z\r\n" + std::string(1025, 'x') + "\r\nx,\"a\r\nok\r\n");
   EXPECT_EQ(port_->ReceivedCount(), 1);
   EXPECT_EQ(Take(), "ok");
-  EXPECT_EQ(std::dynamic_pointer_cast<Port>(port_)->LinesDropped(), 3u);
-  EXPECT_EQ(record_.Count(WireRecord::Kind::kDropped), 3u);
+  EXPECT_EQ(std::dynamic_pointer_cast<serial::Port>(port_)->LinesDropped(), 3u);
+  EXPECT_EQ(record_.Count(serial::WireRecord::Kind::kDropped), 3u);
 }
 
 TEST_F(PortTest, LimitsTheQueue) {
-  for (std::size_t i = 0; i < Port::kMaxWaiting + 5; ++i) line_->Deliver("m\r\n");
-  EXPECT_EQ(port_->ReceivedCount(), static_cast<std::int32_t>(Port::kMaxWaiting));
-  EXPECT_EQ(std::dynamic_pointer_cast<Port>(port_)->LinesDropped(), 5u);
+  for (std::size_t i = 0; i < serial::Port::kMaxWaiting + 5; ++i) line_->Deliver("m\r\n");
+  EXPECT_EQ(port_->ReceivedCount(), static_cast<std::int32_t>(serial::Port::kMaxWaiting));
+  EXPECT_EQ(std::dynamic_pointer_cast<serial::Port>(port_)->LinesDropped(), 5u);
 }
 
 TEST_F(PortTest, RecordsRepliesReceivedBeforeACommand) {
@@ -92,7 +94,7 @@ TEST_F(PortTest, RecordsRepliesReceivedBeforeACommand) {
   port_->Send(port_->CreateMessage("D", {}));
   std::vector<bool> waiting;
   for (const auto& line : record_.All()) {
-    if (line.kind == WireRecord::Kind::kSent) waiting.push_back(line.replyWaiting);
+    if (line.kind == serial::WireRecord::Kind::kSent) waiting.push_back(line.replyWaiting);
   }
   EXPECT_EQ(waiting, (std::vector<bool>{false, true, true, false}));
 }
@@ -104,7 +106,7 @@ TEST_F(PortTest, KeepsReceivedMessagesWhenUnplugged) {
   EXPECT_EQ(port_->ReceivedCount(), 1);
   EXPECT_EQ(Take(), "last");
   EXPECT_EQ(ErrorOf([&] { port_->Send(port_->CreateMessage("A", {})); }), HostError::kDeviceError);
-  EXPECT_EQ(record_.Count(WireRecord::Kind::kFailed), 1u);
+  EXPECT_EQ(record_.Count(serial::WireRecord::Kind::kFailed), 1u);
   EXPECT_TRUE(record_.Sent().empty());
 }
 
@@ -115,7 +117,7 @@ TEST_F(PortTest, ClosesOnce) {
   EXPECT_FALSE(port_->IsOpen());
   EXPECT_FALSE(line_->Connected());
   EXPECT_EQ(port_->ReceivedCount(), 0);
-  EXPECT_EQ(record_.Count(WireRecord::Kind::kClosed), 1u);
+  EXPECT_EQ(record_.Count(serial::WireRecord::Kind::kClosed), 1u);
 }
 
 TEST_F(PortTest, ClosesItsLineWhenReleased) {
@@ -124,8 +126,8 @@ TEST_F(PortTest, ClosesItsLineWhenReleased) {
 }
 
 TEST_F(PortTest, MayBeReleasedByAReceivedMessage) {
-  const auto watch = wire_->Subscribe([this](const WireRecord& record) {
-    if (record.kind == WireRecord::Kind::kReceived) port_.reset();
+  const auto watch = wire_->Subscribe([this](const serial::WireRecord& record) {
+    if (record.kind == serial::WireRecord::Kind::kReceived) port_.reset();
   });
   line_->Deliver("one\r\ntwo\r\n");
   EXPECT_FALSE(port_);
@@ -133,13 +135,13 @@ TEST_F(PortTest, MayBeReleasedByAReceivedMessage) {
 }
 
 TEST_F(PortTest, AllowsOneNearEndOfALine) {
-  EXPECT_EQ(ErrorOf([&] { MemoryTransport second(line_); }), HostError::kDeviceError);
+  EXPECT_EQ(ErrorOf([&] { serial::MemoryTransport second(line_); }), HostError::kDeviceError);
   line_->Unplug();
-  MemoryTransport second(line_);
+  serial::MemoryTransport second(line_);
   EXPECT_TRUE(second.IsOpen());
   port_.reset();  // the old near end closes, the new one stays
   EXPECT_TRUE(second.IsOpen());
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

@@ -8,7 +8,7 @@
 #include "OrvikTypeLib/HostError.h"
 #include "host/serial/WireLog.h"
 
-namespace bench {
+namespace host {
 namespace {
 
 class WireLogTest : public testing::Test {
@@ -27,7 +27,8 @@ class WireLogTest : public testing::Test {
     return text.str();
   }
 
-  static WireRecord Record(WireRecord::Kind kind, std::string_view text, bool replyWaiting = false) {
+  static serial::WireRecord Record(serial::WireRecord::Kind kind, std::string_view text,
+                                   bool replyWaiting = false) {
     return {kind, {}, text, nullptr, replyWaiting};
   }
 
@@ -35,15 +36,15 @@ class WireLogTest : public testing::Test {
 };
 
 TEST_F(WireLogTest, WritesTimeDirectionAndText) {
-  WireLog log(Path());
-  log.Write(Record(WireRecord::Kind::kOpened, "/dev/x 9600,O,8,1"));
-  log.Write(Record(WireRecord::Kind::kSent, "STST,410,0"));
-  log.Write(Record(WireRecord::Kind::kReceived,
+  serial::WireLog log(Path());
+  log.Write(Record(serial::WireRecord::Kind::kOpened, "/dev/x 9600,O,8,1"));
+  log.Write(Record(serial::WireRecord::Kind::kSent, "STST,410,0"));
+  log.Write(Record(serial::WireRecord::Kind::kReceived,
                    "gres,610,0,12,0,\xB5"
                    "A"));
-  log.Write(Record(WireRecord::Kind::kDropped, "a\x01"));
-  log.Write(Record(WireRecord::Kind::kSent, "GRES,410,0", true));
-  log.Write(Record(WireRecord::Kind::kFailed, "the line has failed"));
+  log.Write(Record(serial::WireRecord::Kind::kDropped, "a\x01"));
+  log.Write(Record(serial::WireRecord::Kind::kSent, "GRES,410,0", true));
+  log.Write(Record(serial::WireRecord::Kind::kFailed, "the line has failed"));
   const std::string time = "\\d{4}-\\d\\d-\\d\\dT\\d\\d:\\d\\d:\\d\\d\\.\\d{6}Z ";
   const std::regex expected(time + "note /dev/x 9600,O,8,1\n" + time + "sent STST,410,0\n" + time +
                             "recv gres,610,0,12,0,\u00B5A\n" + time + "lost a\\\\x01\n" + time +
@@ -53,15 +54,15 @@ TEST_F(WireLogTest, WritesTimeDirectionAndText) {
 }
 
 TEST_F(WireLogTest, AppendsToAnEarlierLog) {
-  WireLog(Path()).Note("first");
-  WireLog(Path()).Note("second");
+  serial::WireLog(Path()).Note("first");
+  serial::WireLog(Path()).Note("second");
   const auto text = Contents(Path());
   EXPECT_NE(text.find("first"), std::string::npos);
   EXPECT_LT(text.find("first"), text.find("second"));
 }
 
 TEST_F(WireLogTest, RotatesAndKeepsTheNewestLines) {
-  WireLog log(Path(), 2000);
+  serial::WireLog log(Path(), 2000);
   for (int i = 0; i < 1000; ++i) log.Note("line " + std::to_string(i));
   EXPECT_LE(std::filesystem::file_size(Path()), 2000u);
   EXPECT_LE(std::filesystem::file_size(Path() + ".1"), 2000u);
@@ -74,7 +75,7 @@ TEST_F(WireLogTest, RotatesAndKeepsTheNewestLines) {
 
 TEST_F(WireLogTest, NamesAFileThatCannotBeWritten) {
   try {
-    WireLog log(folder_ / "absent" / "x.log");
+    serial::WireLog log(folder_ / "absent" / "x.log");
     FAIL();
   } catch (const orvik::HostError& error) {
     EXPECT_NE(error.Description().find("absent/x.log"), std::string::npos);
@@ -87,7 +88,7 @@ TEST_F(WireLogTest, NeverChangesAFileWithOtherContent) {
                                "2026-11-22 my own notes", "2026-11-22T10:00:00.12345"}) {
     std::ofstream(Path()) << contents;
     try {
-      WireLog log(Path());
+      serial::WireLog log(Path());
       ADD_FAILURE() << contents;
     } catch (const orvik::HostError& error) {
       EXPECT_NE(error.Description().find(Path() + ": the file has other content"), std::string::npos);
@@ -99,24 +100,24 @@ TEST_F(WireLogTest, NeverChangesAFileWithOtherContent) {
 
 TEST_F(WireLogTest, AppendsToAnEmptyFile) {
   std::ofstream(Path()).flush();
-  WireLog(Path()).Note("first");
+  serial::WireLog(Path()).Note("first");
   EXPECT_NE(Contents(Path()).find("note first"), std::string::npos);
 }
 
 TEST_F(WireLogTest, NeverReplacesAnOlderFileWithOtherContent) {
   std::ofstream(Path() + ".1") << "mine";
-  WireLog log(Path(), 100);
+  serial::WireLog log(Path(), 100);
   for (int i = 0; i < 10; ++i) log.Note("line");
   EXPECT_EQ(Contents(Path() + ".1"), "mine");
   EXPECT_NE(log.Failure().find(".1 exists and is not a wire log"), std::string::npos) << log.Failure();
 }
 
 TEST_F(WireLogTest, DoesNotThrowOnAFullDisk) {
-  WireLog log("/dev/full");
+  serial::WireLog log("/dev/full");
   log.Note("x");
   EXPECT_NE(log.Failure(), "");
   log.Note("y");
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

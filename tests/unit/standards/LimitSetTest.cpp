@@ -4,12 +4,12 @@
 #include "tests/unit/host/Errors.h"
 #include "tests/unit/host/TestFolder.h"
 
-namespace bench {
+namespace host {
 namespace {
 
-using test::ErrorText;
-using test::Holds;
-using test::TestFolder;
+using host::test::ErrorText;
+using host::test::Holds;
+using host::test::TestFolder;
 
 constexpr char kGood[] =
     "<LimitSet Version='1' Standard='Own' Edition='2026' Class='I' Type='BF'>\n"
@@ -21,7 +21,7 @@ constexpr char kGood[] =
 
 TEST(LimitSetTest, IsReadAsItStands) {
   TestFolder folder;
-  const auto set = ReadLimitSet(folder.Write("own-set.xml", kGood));
+  const auto set = standards::ReadLimitSet(folder.Write("own-set.xml", kGood));
   EXPECT_EQ(set.Name(), "own-set");
   EXPECT_EQ(set.standard, "Own");
   EXPECT_EQ(set.Description(), "2026, class I, type BF");
@@ -42,7 +42,7 @@ TEST(LimitSetTest, IsReadAsItStands) {
 
 TEST(LimitSetTest, ClassAndTypeMayBeMissing) {
   TestFolder folder;
-  const auto set = ReadLimitSet(folder.Write(
+  const auto set = standards::ReadLimitSet(folder.Write(
       "a.xml",
       "<LimitSet Version='1' Standard='S' Edition='1'><Figure Tests='1' Low='0' Unit='V' Source='s'/>"
       "</LimitSet>"));
@@ -65,9 +65,9 @@ TEST_P(BadLimitSet, IsRefusedWithFileLineAndReason) {
   ASSERT_NE(at, std::string::npos);
   text.replace(at, std::string(GetParam().from).size(), GetParam().to);
   const auto file = folder.Write("bad.xml", text);
-  const auto error = ErrorText([&] { ReadLimitSet(file); });
-  EXPECT_TRUE(Holds(error, file.string() + ", line "));
-  EXPECT_TRUE(Holds(error, GetParam().told));
+  const auto error = test::ErrorText([&] { standards::ReadLimitSet(file); });
+  EXPECT_TRUE(test::Holds(error, file.string() + ", line "));
+  EXPECT_TRUE(test::Holds(error, GetParam().told));
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -105,11 +105,14 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(LimitSetTest, OneOfAnotherKindOrWithoutFiguresIsRefused) {
   TestFolder folder;
   const auto other = folder.Write("other.xml", "\n<OrvikDocument Version='1'/>");
-  EXPECT_TRUE(Holds(ErrorText([&] { ReadLimitSet(other); }), "other.xml, line 2: this is not a set of limits"));
+  EXPECT_TRUE(test::Holds(test::ErrorText([&] { standards::ReadLimitSet(other); }),
+                          "other.xml, line 2: this is not a set of limits"));
   const auto empty = folder.Write("empty.xml", "<LimitSet Version='1' Standard='S' Edition='1'/>");
-  EXPECT_TRUE(Holds(ErrorText([&] { ReadLimitSet(empty); }), "empty.xml, line 1: the set has no figures"));
-  EXPECT_TRUE(Holds(ErrorText([&] { ReadLimitSet(folder.Path() / "none.xml"); }), "none.xml"));
+  EXPECT_TRUE(test::Holds(test::ErrorText([&] { standards::ReadLimitSet(empty); }),
+                          "empty.xml, line 1: the set has no figures"));
+  EXPECT_TRUE(
+      test::Holds(test::ErrorText([&] { standards::ReadLimitSet(folder.Path() / "none.xml"); }), "none.xml"));
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

@@ -4,12 +4,12 @@
 #include "tests/unit/host/Errors.h"
 #include "tests/unit/host/TestFolder.h"
 
-namespace bench {
+namespace host {
 namespace {
 
-using test::ErrorText;
-using test::Holds;
-using test::TestFolder;
+using host::test::ErrorText;
+using host::test::Holds;
+using host::test::TestFolder;
 
 std::string SetText(const std::string& standard) {
   return "<LimitSet Version='1' Standard='" + standard +
@@ -19,7 +19,7 @@ std::string SetText(const std::string& standard) {
 class LimitSetsTest : public testing::Test {
  protected:
   TestFolder first_, second_;
-  LimitSets sets_{{first_.Path(), second_.Path(), first_.Path() / "absent"}};
+  standards::LimitSets sets_{{first_.Path(), second_.Path(), first_.Path() / "absent"}};
 };
 
 TEST_F(LimitSetsTest, AllAreListedFolderByFolderAndByName) {
@@ -32,7 +32,7 @@ TEST_F(LimitSetsTest, AllAreListedFolderByFolderAndByName) {
   EXPECT_EQ(all[0].set->standard, "A");
   EXPECT_EQ(all[1].set->standard, "B");
   EXPECT_FALSE(all[2].set);
-  EXPECT_TRUE(Holds(all[2].fault, "aa.xml, line 1"));
+  EXPECT_TRUE(test::Holds(all[2].fault, "aa.xml, line 1"));
 }
 
 TEST_F(LimitSetsTest, IsFoundByNameInEachFolderAndByPath) {
@@ -46,18 +46,18 @@ TEST_F(LimitSetsTest, IsFoundByNameInEachFolderAndByPath) {
 }
 
 TEST_F(LimitSetsTest, WhatIsNotThereIsNamed) {
-  EXPECT_TRUE(Holds(ErrorText([&] { sets_.Find("none"); }), "unknown set of limits \"none\""));
-  EXPECT_TRUE(Holds(ErrorText([&] { sets_.Find("/nowhere/none.xml"); }), "/nowhere/none.xml"));
+  EXPECT_TRUE(test::Holds(test::ErrorText([&] { sets_.Find("none"); }), "unknown set of limits \"none\""));
+  EXPECT_TRUE(test::Holds(test::ErrorText([&] { sets_.Find("/nowhere/none.xml"); }), "/nowhere/none.xml"));
 }
 
 TEST_F(LimitSetsTest, TwoOfOneNameAreNeverTakenForEachOther) {
   first_.Write("a.xml", SetText("A"));
   second_.Write("a.xml", SetText("B"));
-  const auto error = ErrorText([&] { sets_.Find("a"); });
-  EXPECT_TRUE(Holds(error, (first_.Path() / "a.xml").string()));
-  EXPECT_TRUE(Holds(error, (second_.Path() / "a.xml").string()));
+  const auto error = test::ErrorText([&] { sets_.Find("a"); });
+  EXPECT_TRUE(test::Holds(error, (first_.Path() / "a.xml").string()));
+  EXPECT_TRUE(test::Holds(error, (second_.Path() / "a.xml").string()));
   EXPECT_EQ(sets_.Find((second_.Path() / "a.xml").string()).standard, "B");
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

@@ -7,7 +7,7 @@
 
 #include "host/standards/LimitSets.h"
 
-namespace bench {
+namespace host {
 namespace {
 
 /// What the catalogue says of a single test.
@@ -31,9 +31,9 @@ std::map<std::int32_t, CatalogueTest> Catalogue() {
 
 bool Has(const std::string& text, const std::string& part) { return text.find(part) != std::string::npos; }
 
-std::vector<LimitSet> Shipped() {
-  std::vector<LimitSet> sets;
-  for (const auto& entry : LimitSets({SOURCE_PATH "/packaging/standards"}).All()) {
+std::vector<standards::LimitSet> Shipped() {
+  std::vector<standards::LimitSet> sets;
+  for (const auto& entry : standards::LimitSets({SOURCE_PATH "/packaging/standards"}).All()) {
     EXPECT_TRUE(entry.set) << entry.fault;
     if (entry.set) sets.push_back(*entry.set);
   }
@@ -148,4 +148,4 @@ TEST(ShippedSets, ATestWithoutAFigureHasItsReason) {
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

@@ -2,7 +2,7 @@
 
 #include "host/standards/Units.h"
 
-namespace bench {
+namespace host {
 namespace {
 
 struct Conversion {
@@ -16,7 +16,8 @@ class UnitsTest : public testing::TestWithParam<Conversion> {};
 
 TEST_P(UnitsTest, IsTold) {
   const auto& [number, from, to, result] = GetParam();
-  EXPECT_EQ(InUnit(number, from, to).value_or(""), result) << number << " " << from << " in " << to;
+  EXPECT_EQ(standards::InUnit(number, from, to).value_or(""), result)
+      << number << " " << from << " in " << to;
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -52,19 +53,19 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(UnitsTest, SameUnitWhateverTheMicroSign) {
   EXPECT_TRUE(
-      SameUnit("\xC2\xB5"
-               "A",
-               "\xCE\xBC"
-               "A"));
-  EXPECT_TRUE(SameUnit("uA",
-                       "\xC2\xB5"
-                       "A"));
-  EXPECT_TRUE(SameUnit("N", "N"));
-  EXPECT_FALSE(SameUnit("mOhm", "MOhm"));
-  EXPECT_FALSE(SameUnit("mA", "mV"));
-  EXPECT_FALSE(SameUnit("N", "V"));
-  EXPECT_FALSE(SameUnit("", "V"));
+      standards::SameUnit("\xC2\xB5"
+                          "A",
+                          "\xCE\xBC"
+                          "A"));
+  EXPECT_TRUE(standards::SameUnit("uA",
+                                  "\xC2\xB5"
+                                  "A"));
+  EXPECT_TRUE(standards::SameUnit("N", "N"));
+  EXPECT_FALSE(standards::SameUnit("mOhm", "MOhm"));
+  EXPECT_FALSE(standards::SameUnit("mA", "mV"));
+  EXPECT_FALSE(standards::SameUnit("N", "V"));
+  EXPECT_FALSE(standards::SameUnit("", "V"));
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

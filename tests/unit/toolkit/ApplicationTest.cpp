@@ -1,6 +1,6 @@
 #include "tests/unit/toolkit/ToolkitTest.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 namespace {
 
 using ApplicationTest = ToolkitTest;
@@ -86,7 +86,7 @@ TEST_F(ApplicationTest, WakeRaisesWoken) {
 }
 
 TEST_F(ApplicationTest, IsAnEventLoopForDevices) {
-  ILoop& loop = *app;
+  loop::ILoop& loop = *app;
   int calls = 0;
   loop.CallAt(1s, [&] { ++calls; });
   const auto forgotten = loop.CallAt(1s, [&] { calls += 10; });
@@ -117,4 +117,4 @@ TEST_F(ApplicationTest, MayBeOutlivedByAForm) {
 }
 
 }  // namespace
-}  // namespace bench::headless
+}  // namespace toolkit::headless

@@ -1,6 +1,6 @@
 #include "tests/unit/toolkit/ToolkitTest.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 namespace {
 
 class ButtonTest : public ToolkitTest {
@@ -58,4 +58,4 @@ TEST_F(ButtonTest, GrowsWithItsCaption) {
 }
 
 }  // namespace
-}  // namespace bench::headless
+}  // namespace toolkit::headless

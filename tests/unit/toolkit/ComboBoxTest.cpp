@@ -1,6 +1,6 @@
 #include "tests/unit/toolkit/ToolkitTest.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 namespace {
 
 class ComboBoxTest : public ToolkitTest {
@@ -84,4 +84,4 @@ TEST_F(ComboBoxTest, KeepsTypedTextWhenCleared) {
 }
 
 }  // namespace
-}  // namespace bench::headless
+}  // namespace toolkit::headless

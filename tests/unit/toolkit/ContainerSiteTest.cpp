@@ -1,6 +1,6 @@
 #include "tests/unit/toolkit/ToolkitTest.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 namespace {
 
 class ContainerSiteTest : public ToolkitTest {
@@ -177,4 +177,4 @@ TEST_F(DockingTest, RejectsOtherWindows) {
 }
 
 }  // namespace
-}  // namespace bench::headless
+}  // namespace toolkit::headless

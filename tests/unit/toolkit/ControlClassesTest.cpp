@@ -5,7 +5,7 @@
 #include "tests/unit/toolkit/ControlTest.h"
 #include "toolkit/controls/ControlClasses.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 namespace {
 
 using orvik::As;
@@ -48,11 +48,11 @@ TEST_F(ControlClassesTest, RejectOtherClasses) {
 }
 
 TEST_F(ControlClassesTest, DoNotOwnTheHost) {
-  std::weak_ptr<Host> weak = host;
+  std::weak_ptr<host::document::Host> weak = host;
   host.reset();
   EXPECT_TRUE(weak.expired());
   ExpectHostError(429, classes::kToolbar, [&] { form->AddControl(classes::kToolbar, "ctl"); });
 }
 
 }  // namespace
-}  // namespace bench::headless
+}  // namespace toolkit::headless

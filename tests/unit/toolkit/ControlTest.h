@@ -13,7 +13,7 @@
 #include "tests/unit/toolkit/ToolkitTest.h"
 #include "toolkit/controls/ControlClasses.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 
 /// The real host with its controls on the headless toolkit.
 class ControlTest : public ToolkitTest {
@@ -22,8 +22,8 @@ class ControlTest : public ToolkitTest {
     std::string pattern = (std::filesystem::temp_directory_path() / "keld-controls-XXXXXX").string();
     if (!mkdtemp(pattern.data())) throw std::runtime_error("no temporary folder can be made: " + pattern);
     folder = pattern;
-    host = Host::Create({folder, {}, {}, {}}, app);
-    ConnectControls(*app, *host);
+    host = host::document::Host::Create({folder, {}, {}, {}}, app);
+    controls::ConnectControls(*app, *host);
   }
   ~ControlTest() override {
     std::error_code ignored;
@@ -48,9 +48,9 @@ class ControlTest : public ToolkitTest {
   }
 
   std::filesystem::path folder;
-  std::shared_ptr<Host> host;
+  std::shared_ptr<host::document::Host> host;
   std::shared_ptr<platform::IForm> form = Shown("FForm");
   std::shared_ptr<platform::IContainerSite> site;
 };
 
-}  // namespace bench::headless
+}  // namespace toolkit::headless

@@ -11,7 +11,7 @@
 #include "OrvikTypeLib/HostError.h"
 #include "toolkit/loop/EventLoop.h"
 
-namespace bench {
+namespace host {
 namespace {
 
 using orvik::platform::Time;
@@ -19,7 +19,7 @@ using namespace std::chrono_literals;
 
 class VirtualLoop : public testing::Test {
  protected:
-  EventLoop loop{ClockKind::kVirtual, 1};
+  toolkit::loop::EventLoop loop{toolkit::loop::ClockKind::kVirtual, 1};
   std::vector<std::string> log;
 };
 
@@ -32,16 +32,16 @@ TEST_F(VirtualLoop, StartsAtZeroAndDoesNotAdvance) {
 TEST_F(VirtualLoop, WaitsUntilTheNextCall) {
   loop.CallAt(5s, [&] { log.push_back("five"); });
   loop.CallAt(3s, [&] { log.push_back("three"); });
-  EXPECT_EQ(loop.Wait(1h), WaitOutcome::kProcessed);
+  EXPECT_EQ(loop.Wait(1h), toolkit::loop::WaitOutcome::kProcessed);
   EXPECT_EQ(loop.Now(), 3s);
   EXPECT_EQ(log, (std::vector<std::string>{"three"}));
-  EXPECT_EQ(loop.Wait(1h), WaitOutcome::kProcessed);
+  EXPECT_EQ(loop.Wait(1h), toolkit::loop::WaitOutcome::kProcessed);
   EXPECT_EQ(loop.Now(), 5s);
 }
 
 TEST_F(VirtualLoop, WaitsUntilAnEarlierDeadline) {
   loop.CallAt(5s, [&] { log.push_back("five"); });
-  EXPECT_EQ(loop.Wait(2s), WaitOutcome::kNothing);
+  EXPECT_EQ(loop.Wait(2s), toolkit::loop::WaitOutcome::kNothing);
   EXPECT_EQ(loop.Now(), 2s);
   EXPECT_TRUE(log.empty());
 }
@@ -51,23 +51,23 @@ TEST_F(VirtualLoop, IsMonotonic) {
   loop.Wait(1s);
   EXPECT_EQ(loop.Now(), 2s);
   loop.CallAt(1s, [&] { log.push_back("late"); });
-  EXPECT_EQ(loop.Wait(1h), WaitOutcome::kProcessed);
+  EXPECT_EQ(loop.Wait(1h), toolkit::loop::WaitOutcome::kProcessed);
   EXPECT_EQ(loop.Now(), 2s);
 }
 
 TEST_F(VirtualLoop, DoesNotAdvanceForPendingWork) {
   loop.CallAt(1s, [&] { log.push_back("call"); });
   loop.Post([&] { log.push_back("posted"); });
-  EXPECT_EQ(loop.Wait(1h), WaitOutcome::kProcessed);
+  EXPECT_EQ(loop.Wait(1h), toolkit::loop::WaitOutcome::kProcessed);
   EXPECT_EQ(loop.Now(), Time(0));
   EXPECT_EQ(log, (std::vector<std::string>{"posted"}));
 }
 
 TEST_F(VirtualLoop, ReportsWhenNothingIsLeft) {
-  EXPECT_EQ(loop.Wait(Time::max()), WaitOutcome::kNothingLeft);
+  EXPECT_EQ(loop.Wait(Time::max()), toolkit::loop::WaitOutcome::kNothingLeft);
   EXPECT_EQ(loop.Now(), Time(0));
   loop.CallAt(1s, [] {});
-  EXPECT_EQ(loop.Wait(Time::max()), WaitOutcome::kProcessed);
+  EXPECT_EQ(loop.Wait(Time::max()), toolkit::loop::WaitOutcome::kProcessed);
 }
 
 TEST_F(VirtualLoop, RunsPostedWorkThenDueCalls) {
@@ -101,7 +101,7 @@ TEST_F(VirtualLoop, IsFairToCallsRenewedInThePast) {
 }
 
 TEST_F(VirtualLoop, DoesNotRunAForgottenCall) {
-  ILoop::Id second = 0;
+  toolkit::loop::ILoop::Id second = 0;
   loop.CallAt(1s, [&] { loop.Forget(second); });
   second = loop.CallAt(1s, [&] { log.push_back("second"); });
   loop.Wait(1h);
@@ -154,23 +154,23 @@ TEST_F(VirtualLoop, RaisesWokenOnce) {
   const auto woken = loop.Woken().Subscribe([&] { log.push_back("woken"); });
   loop.Wake();
   loop.Wake();
-  EXPECT_EQ(loop.Wait(1h), WaitOutcome::kProcessed);
+  EXPECT_EQ(loop.Wait(1h), toolkit::loop::WaitOutcome::kProcessed);
   EXPECT_EQ(log, (std::vector<std::string>{"woken"}));
   EXPECT_EQ(loop.Now(), Time(0));
 }
 
 TEST(Clock, RejectsAnInvalidScale) {
   for (const double scale : {0.0, -1.0, 1.0 / 0.0, 0.0 / 0.0})
-    EXPECT_THROW(EventLoop(ClockKind::kReal, scale), orvik::HostError);
+    EXPECT_THROW(toolkit::loop::EventLoop(toolkit::loop::ClockKind::kReal, scale), orvik::HostError);
 }
 
 TEST(Clock, SleepsTheScaledTimeRoundedUp) {
-  const Clock clock(ClockKind::kReal, 1000);
+  const toolkit::loop::Clock clock(toolkit::loop::ClockKind::kReal, 1000);
   const auto sleep = clock.SleepUntil(clock.Now() + 1000s);
   EXPECT_LE(sleep, 1s + 1us);
   EXPECT_GT(sleep, 0s);
   EXPECT_EQ(clock.SleepUntil(Time(0)), 0ns);
-  EXPECT_EQ(Clock(ClockKind::kReal, 1).SleepUntil(Time::max()), 1h);
+  EXPECT_EQ(toolkit::loop::Clock(toolkit::loop::ClockKind::kReal, 1).SleepUntil(Time::max()), 1h);
 }
 
 /// A pipe whose ends go with it.
@@ -196,7 +196,7 @@ struct Pipe {
 
 class RealLoop : public testing::Test {
  protected:
-  EventLoop loop{ClockKind::kReal, 1};
+  toolkit::loop::EventLoop loop{toolkit::loop::ClockKind::kReal, 1};
   std::vector<std::string> log;
 };
 
@@ -236,19 +236,19 @@ TEST_F(RealLoop, EndsTheWaitForAByte) {
     log.push_back("byte");
   });
   pipe.Write();
-  EXPECT_EQ(loop.Wait(Time::max()), WaitOutcome::kProcessed);
+  EXPECT_EQ(loop.Wait(Time::max()), toolkit::loop::WaitOutcome::kProcessed);
   EXPECT_EQ(log, (std::vector<std::string>{"byte"}));
 }
 
 TEST_F(RealLoop, ReportsAHangUp) {
   Pipe pipe;
-  ILoop::Id id = 0;
+  toolkit::loop::ILoop::Id id = 0;
   id = loop.WatchReadable(pipe.ends[0], [&] {
     loop.Forget(id);
     log.push_back("hung up");
   });
   pipe.CloseWriter();
-  EXPECT_EQ(loop.Wait(Time::max()), WaitOutcome::kProcessed);
+  EXPECT_EQ(loop.Wait(Time::max()), toolkit::loop::WaitOutcome::kProcessed);
   EXPECT_FALSE(loop.Process());
   EXPECT_EQ(log, (std::vector<std::string>{"hung up"}));
 }
@@ -266,7 +266,7 @@ TEST_F(RealLoop, DoesNotWatchAForgottenDescriptor) {
 TEST_F(RealLoop, SkipsADescriptorForgottenInACallback) {
   Pipe first;
   Pipe second;
-  ILoop::Id other = 0;
+  toolkit::loop::ILoop::Id other = 0;
   loop.WatchReadable(first.ends[0], [&] {
     first.Read();
     loop.Forget(other);
@@ -314,7 +314,7 @@ TEST_F(RealLoop, IsWokenByAnotherThread) {
   EXPECT_EQ(log.size(), 1U);
 }
 
-EventLoop* signalled = nullptr;
+toolkit::loop::EventLoop* signalled = nullptr;
 
 TEST_F(RealLoop, IsWokenByASignalHandler) {
   const auto woken = loop.Woken().Subscribe([&] { log.push_back("woken"); });
@@ -345,7 +345,7 @@ TEST_F(RealLoop, KeepsAWakeUpDuringWork) {
 }
 
 TEST(ScaledLoop, RunsFasterByTheScale) {
-  EventLoop loop(ClockKind::kReal, 100000);
+  toolkit::loop::EventLoop loop(toolkit::loop::ClockKind::kReal, 100000);
   const auto begin = std::chrono::steady_clock::now();
   const Time deadline = loop.Now() + 1000s;
   while (loop.Now() < deadline) loop.Wait(deadline);
@@ -354,4 +354,4 @@ TEST(ScaledLoop, RunsFasterByTheScale) {
 }
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

@@ -1,6 +1,6 @@
 #include "tests/unit/toolkit/ToolkitTest.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 namespace {
 
 /// Where the focus is, and who hears of it.
@@ -135,4 +135,4 @@ TEST_F(FocusTest, CanBePassedToAUserControl) {
 }
 
 }  // namespace
-}  // namespace bench::headless
+}  // namespace toolkit::headless

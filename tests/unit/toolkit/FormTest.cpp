@@ -1,6 +1,6 @@
 #include "tests/unit/toolkit/ToolkitTest.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 namespace {
 
 using Log = std::vector<std::string>;
@@ -268,4 +268,4 @@ TEST_F(FormTest, GrowsButDoesNotShrinkWhenShown) {
 }
 
 }  // namespace
-}  // namespace bench::headless
+}  // namespace toolkit::headless

@@ -1,6 +1,6 @@
 #include "tests/unit/toolkit/ToolkitTest.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 namespace {
 
 class ListViewTest : public ToolkitTest {
@@ -134,4 +134,4 @@ TEST_F(ListViewTest, HoldsManyRows) {
 }
 
 }  // namespace
-}  // namespace bench::headless
+}  // namespace toolkit::headless

@@ -1,6 +1,6 @@
 #include "tests/unit/toolkit/ToolkitTest.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 namespace {
 
 /// Forms that are shown modally, and what that does to the others.
@@ -185,4 +185,4 @@ TEST_F(ModalTest, EndsAtOnceIfHiddenInPumped) {
 }
 
 }  // namespace
-}  // namespace bench::headless
+}  // namespace toolkit::headless

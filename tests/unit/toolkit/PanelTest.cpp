@@ -1,6 +1,6 @@
 #include "tests/unit/toolkit/ToolkitTest.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 namespace {
 
 class PanelTest : public ToolkitTest {
@@ -181,4 +181,4 @@ TEST_F(PanelTest, RemembersColourAndToolTip) {
 }
 
 }  // namespace
-}  // namespace bench::headless
+}  // namespace toolkit::headless

@@ -1,6 +1,6 @@
 #include "tests/unit/toolkit/ToolkitTest.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 namespace {
 
 /// The header of a bitmap of that size.
@@ -55,4 +55,4 @@ TEST_F(PictureBoxTest, LimitsTheSizeInTheHeader) {
 }
 
 }  // namespace
-}  // namespace bench::headless
+}  // namespace toolkit::headless

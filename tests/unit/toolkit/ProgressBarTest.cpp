@@ -1,6 +1,6 @@
 #include "tests/unit/toolkit/ToolkitTest.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 namespace {
 
 class ProgressBarTest : public ToolkitTest {
@@ -30,4 +30,4 @@ TEST_F(ProgressBarTest, RejectsAnInvalidRange) {
 }
 
 }  // namespace
-}  // namespace bench::headless
+}  // namespace toolkit::headless

@@ -1,7 +1,7 @@
 #include "tests/unit/toolkit/ToolkitTest.h"
 #include "toolkit/headless/Tabs.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 namespace {
 
 class TabsTest : public ToolkitTest {
@@ -86,4 +86,4 @@ TEST_F(TabsTest, StopsTimersOnPagesWithTheForm) {
 }
 
 }  // namespace
-}  // namespace bench::headless
+}  // namespace toolkit::headless

@@ -1,6 +1,6 @@
 #include "tests/unit/toolkit/ToolkitTest.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 namespace {
 
 class TextBoxTest : public ToolkitTest {
@@ -56,4 +56,4 @@ TEST_F(TextBoxTest, CanHaveSeveralLines) {
 }
 
 }  // namespace
-}  // namespace bench::headless
+}  // namespace toolkit::headless

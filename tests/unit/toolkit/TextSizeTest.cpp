@@ -4,7 +4,7 @@
 
 #include "toolkit/headless/TextSize.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 namespace {
 
 TEST(TextSize, CountsCharactersAndNotBytes) {
@@ -38,4 +38,4 @@ TEST(TextSize, BreaksLongTexts) {
 }
 
 }  // namespace
-}  // namespace bench::headless
+}  // namespace toolkit::headless

@@ -7,21 +7,21 @@
 
 #include "toolkit/loop/TimerQueue.h"
 
-namespace bench {
+namespace host {
 namespace {
 
 using orvik::platform::Time;
 
 class Calls : public testing::Test {
  protected:
-  TimerQueue::Id Add(int when, int name) {
+  toolkit::loop::TimerQueue::Id Add(int when, int name) {
     return queue.Add(Time(when), [this, name] { ran.push_back(name); });
   }
   void RunDue(int now) {
     while (const auto call = queue.TakeDue(Time(now), queue.Mark())) call();
   }
 
-  TimerQueue queue;
+  toolkit::loop::TimerQueue queue;
   std::vector<int> ran;
 };
 
@@ -75,7 +75,7 @@ TEST_F(Calls, DoNotRunWhenAddedAfterTheMark) {
 
 TEST_F(Calls, MayBeAddedDuringARemoval) {
   struct Readder {
-    TimerQueue* queue;
+    toolkit::loop::TimerQueue* queue;
     ~Readder() {
       queue->Add(Time(1), [] {});
     }
@@ -91,9 +91,9 @@ TEST_P(RandomCalls, BehaveAsASortedList) {
   SCOPED_TRACE("seed " + std::to_string(GetParam()));
   std::mt19937 random(GetParam());
   const auto pick = [&](int most) { return std::uniform_int_distribution<int>(0, most)(random); };
-  TimerQueue queue;
+  toolkit::loop::TimerQueue queue;
   std::multimap<int, int> expected;
-  std::vector<std::pair<TimerQueue::Id, std::multimap<int, int>::iterator>> live;
+  std::vector<std::pair<toolkit::loop::TimerQueue::Id, std::multimap<int, int>::iterator>> live;
   int last = -1;
   for (int step = 0; step < 2000; ++step) {
     const int choice = pick(9);
@@ -124,4 +124,4 @@ TEST_P(RandomCalls, BehaveAsASortedList) {
 INSTANTIATE_TEST_SUITE_P(Seeds, RandomCalls, testing::Range(1U, 21U));
 
 }  // namespace
-}  // namespace bench
+}  // namespace host

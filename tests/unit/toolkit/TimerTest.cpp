@@ -2,7 +2,7 @@
 
 #include "tests/unit/toolkit/ToolkitTest.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 namespace {
 
 class TimerTest : public ToolkitTest {
@@ -140,4 +140,4 @@ TEST(RealTimer, TicksInOrder) {
 }
 
 }  // namespace
-}  // namespace bench::headless
+}  // namespace toolkit::headless

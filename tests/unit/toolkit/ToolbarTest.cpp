@@ -1,7 +1,7 @@
 #include "tests/unit/toolkit/ToolkitTest.h"
 #include "toolkit/headless/Toolbar.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 namespace {
 
 class ToolbarTest : public ToolkitTest {
@@ -93,4 +93,4 @@ TEST_F(ToolbarTest, KeepsToolTips) {
 }
 
 }  // namespace
-}  // namespace bench::headless
+}  // namespace toolkit::headless

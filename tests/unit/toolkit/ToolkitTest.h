@@ -29,7 +29,7 @@ inline void PrintTo(const Size& size, std::ostream* out) { *out << size.width <<
 
 }  // namespace orvik::platform
 
-namespace bench::headless {
+namespace toolkit::headless {
 
 namespace platform = orvik::platform;
 using namespace std::chrono_literals;
@@ -111,4 +111,4 @@ class ToolkitTest : public testing::Test {
   std::vector<platform::Subscription> subscriptions;
 };
 
-}  // namespace bench::headless
+}  // namespace toolkit::headless

@@ -1,6 +1,6 @@
 #include "tests/unit/toolkit/ToolkitTest.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 namespace {
 
 class TreeViewTest : public ToolkitTest {
@@ -65,4 +65,4 @@ TEST_F(TreeViewTest, MayBeClearedByAHandler) {
 }
 
 }  // namespace
-}  // namespace bench::headless
+}  // namespace toolkit::headless

@@ -6,7 +6,7 @@
 #include "OrvikTypeLib/IStandardColl.h"
 #include "tests/unit/toolkit/ControlTest.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 namespace {
 
 using orvik::As;
@@ -17,7 +17,7 @@ constexpr char kKey[] = "NO LIMIT KEY";
 /// An element's limits: the host's own standards in the host's own collection.
 class Limits : public orvik::ILimitData {
  public:
-  Limits(const std::shared_ptr<Host>& host, std::string unit)
+  Limits(const std::shared_ptr<host::document::Host>& host, std::string unit)
       : host_(host),
         unit_(std::move(unit)),
         standards_(As<orvik::IStandardColl>(host->CreateObject(classes::kStandardColl))) {}
@@ -55,7 +55,7 @@ class Limits : public orvik::ILimitData {
   }
 
   // The host keeps the windows, which keep the view and with it these limits.
-  std::weak_ptr<Host> host_;
+  std::weak_ptr<host::document::Host> host_;
   std::string unit_;
   std::shared_ptr<orvik::IStandardColl> standards_;
 };
@@ -367,4 +367,4 @@ TEST_F(XLimitViewTest, TranslatesEveryText) {
 }
 
 }  // namespace
-}  // namespace bench::headless
+}  // namespace toolkit::headless

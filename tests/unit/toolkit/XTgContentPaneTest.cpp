@@ -4,7 +4,7 @@
 #include "tests/unit/toolkit/ControlTest.h"
 #include "toolkit/headless/Tabs.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 namespace {
 
 namespace classes = orvik::HostClasses;
@@ -75,4 +75,4 @@ TEST_F(XTgContentPaneTest, NeedsToBePlaced) {
 }
 
 }  // namespace
-}  // namespace bench::headless
+}  // namespace toolkit::headless

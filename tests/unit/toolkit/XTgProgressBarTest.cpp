@@ -1,7 +1,7 @@
 #include "OrvikTypeLib/ITgProgressBar.h"
 #include "tests/unit/toolkit/ControlTest.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 namespace {
 
 class XTgProgressBarTest : public ControlTest {
@@ -32,4 +32,4 @@ TEST_F(XTgProgressBarTest, NeedsToBePlaced) {
 }
 
 }  // namespace
-}  // namespace bench::headless
+}  // namespace toolkit::headless

@@ -3,7 +3,7 @@
 #include "tests/unit/toolkit/ControlTest.h"
 #include "toolkit/headless/Toolbar.h"
 
-namespace bench::headless {
+namespace toolkit::headless {
 namespace {
 
 class Listener : public virtual orvik::ITgToolbarEvents {
@@ -121,4 +121,4 @@ TEST_F(XTgToolbarTest, NeedsToBePlaced) {
 }
 
 }  // namespace
-}  // namespace bench::headless
+}  // namespace toolkit::headless

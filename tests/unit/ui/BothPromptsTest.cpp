@@ -20,12 +20,12 @@ class BothPromptsTest : public support::PromptTest<Prompt> {
   BothPromptsTest() { SetText(*this->prompt_); }
 };
 
-using Prompts = testing::Types<keld::FYesNoPrompt, keld::FPretestPrompt>;
+using Prompts = testing::Types<keld::ui::FYesNoPrompt, keld::ui::FPretestPrompt>;
 
 struct PromptNames {
   template <class Prompt>
   static std::string GetName(int) {
-    return std::is_same_v<Prompt, keld::FYesNoPrompt> ? "FYesNoPrompt" : "FPretestPrompt";
+    return std::is_same_v<Prompt, keld::ui::FYesNoPrompt> ? "FYesNoPrompt" : "FPretestPrompt";
   }
 };
 

@@ -7,7 +7,7 @@ namespace {
 
 using support::Numbers;
 
-using FPretestPromptTest = support::PromptTest<keld::FPretestPrompt>;
+using FPretestPromptTest = support::PromptTest<keld::ui::FPretestPrompt>;
 
 TEST_F(FPretestPromptTest, TranslatesTitleAndButtonForItsModule) {
   const support::TemporaryFolder folder;

@@ -57,7 +57,7 @@ TEST_F(FTestGuideCommandsTest, SetsTheStatusThenClearsTheResultView) {
 TEST_F(FTestGuideCommandsTest, StopsTheTestThenSetsTheStatus) {
   const auto language = support::WatchLanguage(bench_.Host());
   const auto element = Element();
-  const auto link = keld::CKELDInstrument::Create();
+  const auto link = keld::instrument::CKELDInstrument::Create();
   const auto guide = Driving(element, link);
   bool said = false;
   language->onText = [&](const std::string& text) {
@@ -93,9 +93,9 @@ TEST_F(FTestGuideCommandsTest, PlayRepeatsATestPassedInAnEarlierOpening) {
     EXPECT_EQ(controller_->finished, finished);
   }
   controller_->navigation.clear();
-  const auto guide = keld::FTestGuide::Create();
+  const auto guide = keld::ui::FTestGuide::Create();
   for (const auto& finished : {Codes{7, 7, 7}, Codes{7, 7, 7, 7}}) {
-    const auto link = keld::CKELDInstrument::Create();
+    const auto link = keld::instrument::CKELDInstrument::Create();
     guide->Initialize(element, controller_);
     element->InitAutoRun(link, guide, controller_);
     Command(guide, 202);
@@ -151,7 +151,7 @@ TEST_F(FTestGuideCommandsTest, IgnoresOtherButtonsDuringARun) {
 
 TEST_F(FTestGuideCommandsTest, LocksTheChoiceOfTesterDuringARun) {
   // The lead resistance of another tester would make a protective earth look better than it is.
-  const auto data = keld::CKELDData::Shared();
+  const auto data = keld::instrument::CKELDData::Shared();
   data->SetSerialNumber("another");
   data->SetCalibValue(1000);
   data->SetSerialNumber("");
@@ -176,7 +176,7 @@ TEST_F(FTestGuideCommandsTest, LocksTheChoiceOfTesterDuringARun) {
 
 TEST_F(FTestGuideCommandsTest, IgnoresOtherCommandsDuringARun) {
   const auto element = Element();
-  const auto guide = Driving(element, keld::CKELDInstrument::Create());
+  const auto guide = Driving(element, keld::instrument::CKELDInstrument::Create());
   bool running = false;
   When("STST", [&] {
     running = guide->Running();
@@ -223,7 +223,7 @@ TEST_F(FTestGuideCommandsTest, MayBeReleasedInsideAnyCommand) {
     auto guide = Driving(element, nullptr);
     guide->Form()->Show();
     const auto screen = GuideScreen(guide->Form());
-    const std::weak_ptr<keld::FTestGuide> weak = std::exchange(guide, nullptr);
+    const std::weak_ptr<keld::ui::FTestGuide> weak = std::exchange(guide, nullptr);
     // Only the element holds the guide now, and releases it inside the call.
     controller_->onTold = [&](const std::string& what) {
       if (!what.starts_with("navigate")) return;
@@ -260,7 +260,7 @@ TEST_F(FTestGuideCommandsTest, CalibratesInAWindowOfTheGuide) {
       EXPECT_EQ(App().Forms().size(), 1U) << "the calibration window is unloaded";
     });
     EXPECT_EQ(active, "FCalibrateLeads");
-    EXPECT_EQ(keld::CKELDData::Shared()->CalibValue(), save ? 123 : 0);
+    EXPECT_EQ(keld::instrument::CKELDData::Shared()->CalibValue(), save ? 123 : 0);
   }
 }
 

@@ -14,7 +14,7 @@ using FTestGuideTest = ui::GuideTest;
 
 TEST_F(FTestGuideTest, SetsACaptionIfThereIsNone) {
   EXPECT_EQ(Opened(Element())->Form()->Caption(), "TEST GUIDE");
-  const auto named = keld::FTestGuide::Create();
+  const auto named = keld::ui::FTestGuide::Create();
   named->Form()->SetCaption("Mine");
   named->Initialize(Element(), controller_);
   EXPECT_EQ(named->Form()->Caption(), "Mine");
@@ -27,7 +27,7 @@ TEST_F(FTestGuideTest, ShowsTheTestAndTheInstrumentData) {
   EXPECT_EQ(pane->TestElement(), element);
   EXPECT_NE(GuideScreen(guide->Form()).Pane("xtwWizard")->Guidance().find("Mains voltage"),
             std::string::npos);
-  EXPECT_TRUE(orvik::As<keld::XKELDData>(pane->Tab("tab:MtiData")));
+  EXPECT_TRUE(orvik::As<keld::instrument::XKELDData>(pane->Tab("tab:MtiData")));
   std::shared_ptr<orvik::platform::ITabs> tabs;
   for (const auto& control : GuideScreen(guide->Form()).Site("xstShowMTI")->Panel()->Controls()) {
     if (auto found = orvik::As<orvik::platform::ITabs>(control)) tabs = found;
@@ -37,14 +37,14 @@ TEST_F(FTestGuideTest, ShowsTheTestAndTheInstrumentData) {
   EXPECT_EQ(tabs->PageCaption("tab:MtiData"), "MTI Data");
   const auto picture = keld::FindResource("tab:MtiData");
   ASSERT_FALSE(picture.empty());
-  EXPECT_EQ(std::dynamic_pointer_cast<bench::headless::Tabs>(tabs)->PageBitmap("tab:MtiData"),
+  EXPECT_EQ(std::dynamic_pointer_cast<toolkit::headless::Tabs>(tabs)->PageBitmap("tab:MtiData"),
             (std::vector<std::byte>(picture.begin(), picture.end())));
 }
 
 TEST_F(FTestGuideTest, RefreshesTheInstrumentDataWhenOpened) {
-  const auto guide = keld::FTestGuide::Create();
+  const auto guide = keld::ui::FTestGuide::Create();
   guide->Load();
-  keld::CKELDData::Shared()->SetFirmwareVersion("9.9");
+  keld::instrument::CKELDData::Shared()->SetFirmwareVersion("9.9");
   guide->Initialize(Element(), controller_);
   EXPECT_EQ(GuideScreen(guide->Form()).InstrumentField<orvik::platform::ITextBox>("txtFwVer")->Text(), "9.9");
 }
@@ -74,12 +74,12 @@ TEST_F(FTestGuideTest, OffersTheButtonsOfTheConfiguration) {
 TEST_F(FTestGuideTest, ShowsTheNextStandardOnARightClick) {
   controller_->standards = Standards({"A", "B"});
   const auto element = Element();
-  const auto result = keld::CKELDResultData::Create();
-  const auto measurement = keld::CKELDMeasurement::Create();
+  const auto result = keld::results::CKELDResultData::Create();
+  const auto measurement = keld::instrument::CKELDMeasurement::Create();
   measurement->AddValue(230.0, "V", "", "");
   result->SetMeasurement(measurement);
   element->BaseElement()->SetResult(result);
-  const auto limits = orvik::As<keld::CKELDLimitData>(element->Limits());
+  const auto limits = orvik::As<keld::results::CKELDLimitData>(element->Limits());
   limits->AddStandard(Standard("A", "240"));
   limits->AddStandard(Standard("B", "250"));
 
@@ -98,7 +98,7 @@ TEST_F(FTestGuideTest, ShowsTheNextStandardOnARightClick) {
 }
 
 TEST_F(FTestGuideTest, OpensWithoutAControllerOrStandards) {
-  keld::FTestGuide::Create()->Initialize(Element(), nullptr);
+  keld::ui::FTestGuide::Create()->Initialize(Element(), nullptr);
   controller_->standards = nullptr;
   Opened(Element());
 }
@@ -116,7 +116,7 @@ TEST_F(FTestGuideTest, RefreshesItsDataAndItsWindow) {
 TEST_F(FTestGuideTest, KeepsNeitherElementNorControllerAlive) {
   auto element = Element();
   auto controller = std::make_shared<support::RecordingController>();
-  const auto guide = keld::FTestGuide::Create();
+  const auto guide = keld::ui::FTestGuide::Create();
   guide->Initialize(element, controller);
   const std::weak_ptr<orvik::ITestElement> weakElement = element;
   const std::weak_ptr<support::RecordingController> weakController = controller;
@@ -148,7 +148,7 @@ TEST_F(FTestGuideTest, EndsItsModalDisplayWhenHiddenOrUnloaded) {
 }
 
 TEST_F(FTestGuideTest, CanBeClosedWithoutATest) {
-  const auto guide = keld::FTestGuide::Create();
+  const auto guide = keld::ui::FTestGuide::Create();
   guide->Load();
   guide->Form()->Show();
   guide->Form()->Close();

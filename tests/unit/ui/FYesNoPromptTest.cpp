@@ -6,7 +6,7 @@
 
 namespace {
 
-using keld::FYesNoPrompt;
+using keld::ui::FYesNoPrompt;
 using support::Numbers;
 
 class FYesNoPromptTest : public support::PromptTest<FYesNoPrompt> {

@@ -31,8 +31,8 @@ class GuideInEveryLanguageTest : public ui::GuideTest,
 
   const Commands kReady{101, 102, 103, 202, 301, 302, 501, 900};
   // Not from the catalogue, whose names are translated.
-  const std::shared_ptr<keld::CKELDTestElement> element_ = [] {
-    auto element = keld::CKELDTestElement::Create();
+  const std::shared_ptr<keld::model::CKELDTestElement> element_ = [] {
+    auto element = keld::model::CKELDTestElement::Create();
     element->Initialize("KELD(IN)", 7, 210);
     return element;
   }();
@@ -160,7 +160,7 @@ TEST_P(GuideInEveryLanguageTest, CalibratesAndSavesOrCancels) {
       EXPECT_EQ(App().Forms().size(), 1U);
     });
     EXPECT_EQ(windows_, Texts{"FCalibrateLeads"});
-    EXPECT_EQ(keld::CKELDData::Shared()->CalibValue(), save ? 123 : 0);
+    EXPECT_EQ(keld::instrument::CKELDData::Shared()->CalibValue(), save ? 123 : 0);
     EXPECT_FALSE(bench_.Tester().InRemoteMode());
   }
 }
@@ -176,7 +176,7 @@ TEST_P(GuideInEveryLanguageTest, AnswersAQuestionByButtonOrKey) {
   };
   onWindow_ = [](const auto&) {};
   for (const auto& [answer, option] : answers) {
-    const auto prompt = keld::FYesNoPrompt::Create();
+    const auto prompt = keld::ui::FYesNoPrompt::Create();
     Codes options;
     const auto answered = prompt->YesNoOption().Subscribe([&](std::int32_t o) { options.push_back(o); });
     prompt->SetPrompt("20999::Go on?");
@@ -193,7 +193,7 @@ TEST_P(GuideInEveryLanguageTest, AnswersAQuestionByButtonOrKey) {
 TEST_P(GuideInEveryLanguageTest, ShowsAnInstructionUntilAcknowledged) {
   onWindow_ = [](const auto&) {};
   for (const bool close : {false, true}) {
-    const auto prompt = keld::FPretestPrompt::Create();
+    const auto prompt = keld::ui::FPretestPrompt::Create();
     prompt->SetPrompt("Connect the lead.", "tag");
     EXPECT_EQ(prompt->Form()->Find("lblPrompt")->Caption(), "Connect the lead.");
     EXPECT_EQ(prompt->Form()->Find("cmdOK")->Caption(), Shown("1::&OK"));

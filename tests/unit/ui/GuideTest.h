@@ -99,41 +99,42 @@ class GuideTest : public testing::Test {
     });
   }
 
-  bench::headless::Application& App() { return bench_.Application(); }
+  toolkit::headless::Application& App() { return bench_.Application(); }
 
-  std::shared_ptr<keld::CKELDTestElement> Element(std::int32_t testId = 210) {
-    auto element = orvik::As<keld::CKELDTestElement>(bench_.CreateTest(testId));
+  std::shared_ptr<keld::model::CKELDTestElement> Element(std::int32_t testId = 210) {
+    auto element = orvik::As<keld::model::CKELDTestElement>(bench_.CreateTest(testId));
     element->SetID(7);
     return element;
   }
 
   /// A guide opened for the element, not shown.
-  std::shared_ptr<keld::FTestGuide> Opened(const std::shared_ptr<orvik::ITestElement>& element) {
-    auto guide = keld::FTestGuide::Create();
+  std::shared_ptr<keld::ui::FTestGuide> Opened(const std::shared_ptr<orvik::ITestElement>& element) {
+    auto guide = keld::ui::FTestGuide::Create();
     guide->Initialize(element, controller_);
     return guide;
   }
   /// A guide opened for an element that the test drives.
-  std::shared_ptr<keld::FTestGuide> Driving(const std::shared_ptr<keld::CKELDTestElement>& element,
-                                            const std::shared_ptr<keld::CKELDInstrument>& link) {
+  std::shared_ptr<keld::ui::FTestGuide> Driving(
+      const std::shared_ptr<keld::model::CKELDTestElement>& element,
+      const std::shared_ptr<keld::instrument::CKELDInstrument>& link) {
     auto guide = Opened(element);
     element->InitAutoRun(link, guide, controller_);
     return guide;
   }
-  static void Command(const std::shared_ptr<keld::FTestGuide>& guide, int command) {
+  static void Command(const std::shared_ptr<keld::ui::FTestGuide>& guide, int command) {
     orvik::As<orvik::ITgToolbarEvents>(guide)->OnCommand(command);
   }
   static void Press(const std::shared_ptr<orvik::platform::IForm>& form, const std::string& button) {
     orvik::Required(orvik::As<orvik::platform::IButton>(form->Find(button))).Click();
   }
   /// Gives the element and the run a standard whose limit the simulated reading exceeds.
-  void GiveFailingLimit(const std::shared_ptr<keld::CKELDTestElement>& element) {
-    orvik::As<keld::CKELDLimitData>(element->Limits())->AddStandard(Standard("A", "1"));
+  void GiveFailingLimit(const std::shared_ptr<keld::model::CKELDTestElement>& element) {
+    orvik::As<keld::results::CKELDLimitData>(element->Limits())->AddStandard(Standard("A", "1"));
     controller_->standards = Standards({"A"});
   }
 
   static void SetOptions(const orvik::ITestElement& element, std::int32_t options) {
-    orvik::As<keld::CKELDTestConfiguration>(element.Configuration())->SetOptions(options);
+    orvik::As<keld::configuration::CKELDTestConfiguration>(element.Configuration())->SetOptions(options);
   }
 
   /// Performs the element; the operator acts once the guide is on the screen, then leaves it.
@@ -154,13 +155,13 @@ class GuideTest : public testing::Test {
 
   /// Calls `act` once, after the command was sent.
   void When(const std::string& command, std::function<void()> act) {
-    whens_.push_back(bench_.Ports().TheWire()->Subscribe(
-        [this, command, act, done = false](const bench::WireRecord& record) mutable {
-          if (done || record.kind != bench::WireRecord::Kind::kSent || !record.text.starts_with(command))
-            return;
-          done = true;
-          App().Post([act] { Operate(act); });
-        }));
+    whens_.push_back(bench_.Ports().TheWire()->Subscribe([this, command, act, done = false](
+                                                             const host::serial::WireRecord& record) mutable {
+      if (done || record.kind != host::serial::WireRecord::Kind::kSent || !record.text.starts_with(command))
+        return;
+      done = true;
+      App().Post([act] { Operate(act); });
+    }));
   }
 
   /// Answers every question whether to end the test.

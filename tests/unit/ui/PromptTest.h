@@ -24,21 +24,21 @@ using Numbers = std::vector<std::int32_t>;
 
 /// Subscribes to the status notices of either prompt.
 template <class Told>
-orvik::platform::Subscription OnStatus(keld::FYesNoPrompt& prompt, Told told) {
+orvik::platform::Subscription OnStatus(keld::ui::FYesNoPrompt& prompt, Told told) {
   return prompt.YesNoStatusChanged().Subscribe([told](std::int32_t status, const auto&) { told(status); });
 }
 template <class Told>
-orvik::platform::Subscription OnStatus(keld::FPretestPrompt& prompt, Told told) {
+orvik::platform::Subscription OnStatus(keld::ui::FPretestPrompt& prompt, Told told) {
   return prompt.PromptStatus().Subscribe([told](std::int32_t status) { told(status); });
 }
 
 /// Sets the text as a caller does.
-inline void SetText(keld::FYesNoPrompt& prompt) { prompt.SetPrompt("20999::Go on?"); }
-inline void SetText(keld::FPretestPrompt& prompt) { prompt.SetPrompt("Connect the lead.", ""); }
+inline void SetText(keld::ui::FYesNoPrompt& prompt) { prompt.SetPrompt("20999::Go on?"); }
+inline void SetText(keld::ui::FPretestPrompt& prompt) { prompt.SetPrompt("Connect the lead.", ""); }
 
 /// The affirmative button.
-inline const char* FirstButton(const keld::FYesNoPrompt&) { return "cmdAccept"; }
-inline const char* FirstButton(const keld::FPretestPrompt&) { return "cmdOK"; }
+inline const char* FirstButton(const keld::ui::FYesNoPrompt&) { return "cmdAccept"; }
+inline const char* FirstButton(const keld::ui::FPretestPrompt&) { return "cmdOK"; }
 
 inline void ClickOn(const orvik::platform::IForm& form, const std::string& button) {
   orvik::Required(orvik::As<orvik::platform::IButton>(form.Find(button))).Click();
@@ -46,7 +46,7 @@ inline void ClickOn(const orvik::platform::IForm& form, const std::string& butto
 
 /// From now on the host translates text 3 to "KELD 3" for the plug-in and to "orvik 3" for itself. Call it
 /// before the plug-in translates a text.
-inline void SpeakByModule(bench::Host& host, const std::filesystem::path& folder) {
+inline void SpeakByModule(host::document::Host& host, const std::filesystem::path& folder) {
   for (const std::string module : {"KELD", "orvik"}) {
     std::ofstream file(folder / (module + ".xx.po"));
     file << "msgid \"\"\nmsgstr \"Content-Type: text/plain; charset=UTF-8\\n\"\n\n";
@@ -54,7 +54,7 @@ inline void SpeakByModule(bench::Host& host, const std::filesystem::path& folder
       file << "msgctxt \"" << number << "\"\nmsgid \"x\"\nmsgstr \"" << module << " " << number << "\"\n\n";
   }
   host.Register(orvik::HostClasses::kLanguageService, [folder] {
-    return std::make_shared<bench::LanguageService>("xx", std::vector<std::filesystem::path>{folder});
+    return std::make_shared<host::LanguageService>("xx", std::vector<std::filesystem::path>{folder});
   });
 }
 
