@@ -16,7 +16,7 @@ std::string Tr(std::string_view english, const std::vector<std::string>& values 
 
 /// Marks an English text that is told in the chosen language later, as `Tr(text)`, and kept in English until
 /// then: a status, say, that programs read too.
-constexpr const char* Marked(const char* english) { return english; }
+constexpr const char* TrNoop(const char* english) { return english; }
 
 /// Chooses the language of the whole process; the files read are orvik-bench.LANGUAGE.po of the folders.
 /// @param language as for `LanguageService`; empty for English

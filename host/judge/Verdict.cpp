@@ -11,14 +11,14 @@ namespace host::judge {
 namespace {
 
 // Each in the order of its enumeration.
-constexpr std::array kVerdicts{Marked("failed"),         Marked("doubtful"),   Marked("aborted"),
-                               Marked("not tested"),     Marked("not judged"), Marked("recorded"),
-                               Marked("not applicable"), Marked("passed")};
-constexpr std::array kOutcomes{Marked("passed"), Marked("failed"), Marked("incomplete")};
-constexpr std::array kStatuses{Marked("not tested"), Marked("passed"), Marked("failed"),
-                               Marked("not applicable"), Marked("aborted")};
-constexpr std::array kLimitVerdicts{Marked("not judged"), Marked("passed"), Marked("failed"),
-                                    Marked("failed"), Marked("not judged")};
+constexpr std::array kVerdicts{TrNoop("failed"),         TrNoop("doubtful"),   TrNoop("aborted"),
+                               TrNoop("not tested"),     TrNoop("not judged"), TrNoop("recorded"),
+                               TrNoop("not applicable"), TrNoop("passed")};
+constexpr std::array kOutcomes{TrNoop("passed"), TrNoop("failed"), TrNoop("incomplete")};
+constexpr std::array kStatuses{TrNoop("not tested"), TrNoop("passed"), TrNoop("failed"),
+                               TrNoop("not applicable"), TrNoop("aborted")};
+constexpr std::array kLimitVerdicts{TrNoop("not judged"), TrNoop("passed"), TrNoop("failed"),
+                                    TrNoop("failed"), TrNoop("not judged")};
 static_assert(kVerdicts.size() == static_cast<std::size_t>(Verdict::kPassed) + 1);
 static_assert(kOutcomes.size() == static_cast<std::size_t>(Outcome::kIncomplete) + 1);
 static_assert(kStatuses.size() == static_cast<std::size_t>(orvik::ResultStatus::kAborted) + 1);

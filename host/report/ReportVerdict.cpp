@@ -40,14 +40,14 @@ struct Kind {
 /// What reports show for a verdict.
 const Kind& KindOf(Verdict verdict) {
   static const std::map<Verdict, Kind> kKindOf{
-      {Verdict::kFailed, {report::Standing::kFailed, Marked("%%1 failed")}},
-      {Verdict::kNotTested, {report::Standing::kNotTested, Marked("%%1 not tested")}},
-      {Verdict::kAborted, {report::Standing::kAborted, Marked("%%1 aborted")}},
-      {Verdict::kDoubtful, {report::Standing::kDoubtful, Marked("%%1 doubtful")}},
-      {Verdict::kNotJudged, {report::Standing::kNotJudged, Marked("%%1 not judged")}},
-      {Verdict::kRecorded, {report::Standing::kRecorded, Marked("%%1 recorded only")}},
-      {Verdict::kNotApplicable, {report::Standing::kNotApplicable, Marked("%%1 not applicable")}},
-      {Verdict::kPassed, {report::Standing::kPassed, Marked("%%1 passed")}}};
+      {Verdict::kFailed, {report::Standing::kFailed, TrNoop("%%1 failed")}},
+      {Verdict::kNotTested, {report::Standing::kNotTested, TrNoop("%%1 not tested")}},
+      {Verdict::kAborted, {report::Standing::kAborted, TrNoop("%%1 aborted")}},
+      {Verdict::kDoubtful, {report::Standing::kDoubtful, TrNoop("%%1 doubtful")}},
+      {Verdict::kNotJudged, {report::Standing::kNotJudged, TrNoop("%%1 not judged")}},
+      {Verdict::kRecorded, {report::Standing::kRecorded, TrNoop("%%1 recorded only")}},
+      {Verdict::kNotApplicable, {report::Standing::kNotApplicable, TrNoop("%%1 not applicable")}},
+      {Verdict::kPassed, {report::Standing::kPassed, TrNoop("%%1 passed")}}};
   return kKindOf.at(verdict);
 }
 

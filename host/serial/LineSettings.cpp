@@ -69,11 +69,11 @@ LineSettings ParseLineSettings(const std::string& text) {
     Refuse(text, Tr("four fields are needed, such as \"9600,O,8,1\" (rate, parity, data bits, stop bits)"));
   return {ReadRate(fields[0], text),
           ReadChoice(kParityChoices, fields[1], text,
-                     Marked("the parity \"%%1\" is not one of N, E, O, M and S")),
+                     TrNoop("the parity \"%%1\" is not one of N, E, O, M and S")),
           ReadChoice(kDataBitsChoices, fields[2], text,
-                     Marked("the data bits \"%%1\" are not one of 5, 6, 7 and 8")),
+                     TrNoop("the data bits \"%%1\" are not one of 5, 6, 7 and 8")),
           ReadChoice(kStopBitsChoices, fields[3], text,
-                     Marked("the stop bits \"%%1\" are not one of 1, 1.5 and 2"))};
+                     TrNoop("the stop bits \"%%1\" are not one of 1, 1.5 and 2"))};
 }
 
 }  // namespace host::serial

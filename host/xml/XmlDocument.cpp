@@ -14,18 +14,18 @@ constexpr char kIndent[] = "  ";
 
 /// What the parser says of a malformed text; here for the list of texts to translate.
 [[maybe_unused]] constexpr const char* kParserFaults[] = {
-    Marked("Could not determine tag type"),
-    Marked("Error parsing document declaration/processing instruction"),
-    Marked("Error parsing comment"),
-    Marked("Error parsing CDATA section"),
-    Marked("Error parsing document type declaration"),
-    Marked("Error parsing PCDATA section"),
-    Marked("Error parsing start element tag"),
-    Marked("Error parsing element attribute"),
-    Marked("Error parsing end element tag"),
-    Marked("Start-end tags mismatch"),
-    Marked("No document element found"),
-    Marked("Could not allocate memory")};
+    TrNoop("Could not determine tag type"),
+    TrNoop("Error parsing document declaration/processing instruction"),
+    TrNoop("Error parsing comment"),
+    TrNoop("Error parsing CDATA section"),
+    TrNoop("Error parsing document type declaration"),
+    TrNoop("Error parsing PCDATA section"),
+    TrNoop("Error parsing start element tag"),
+    TrNoop("Error parsing element attribute"),
+    TrNoop("Error parsing end element tag"),
+    TrNoop("Start-end tags mismatch"),
+    TrNoop("No document element found"),
+    TrNoop("Could not allocate memory")};
 
 /// Fragments are parsed so that text beside the root element is seen, and refused, instead of dropped.
 constexpr unsigned kParseFlags = pugi::parse_default | pugi::parse_comments | pugi::parse_pi |

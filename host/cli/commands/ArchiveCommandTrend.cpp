@@ -53,8 +53,8 @@ std::vector<std::string> LineOf(const archive::TrendPoint& point) {
 std::string LeftOutText(const archive::Trend& trend) {
   std::string text;
   if (trend.otherKind > 0)
-    text += Tr(trend.simulated ? Marked("Real readings left out: %%1")
-                               : Marked("Simulated readings left out (--simulated shows them): %%1"),
+    text += Tr(trend.simulated ? TrNoop("Real readings left out: %%1")
+                               : TrNoop("Simulated readings left out (--simulated shows them): %%1"),
                {std::to_string(trend.otherKind)}) +
             "\n";
   if (trend.notCurrent > 0)

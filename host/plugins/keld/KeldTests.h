@@ -29,8 +29,8 @@ constexpr bool CorrectedByLeads(std::int32_t testId) { return testId == 410 || t
 inline constexpr std::int32_t kMostLeadMilliohms = 500;
 
 /// The value filters of a sequence. The last two give it a value.
-inline constexpr std::array kFilters{Marked("No values"), Marked("All values"), Marked("Maximum value"),
-                                     Marked("Minimum value")};
+inline constexpr std::array kFilters{TrNoop("No values"), TrNoop("All values"), TrNoop("Maximum value"),
+                                     TrNoop("Minimum value")};
 inline constexpr std::string_view kMaximumFilter = kFilters[2];
 inline constexpr std::string_view kMinimumFilter = kFilters[3];
 

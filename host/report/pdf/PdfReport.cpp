@@ -46,7 +46,7 @@ class Session {
     if (!QCoreApplication::instance()) application_.emplace(count_, words_.data());
     if (QFontDatabase::families().isEmpty())
       throw Messages::Refusal(
-          Marked("no fonts are installed; install a package of fonts such as fonts-liberation"));
+          TrNoop("no fonts are installed; install a package of fonts such as fonts-liberation"));
   }
 
  private:
