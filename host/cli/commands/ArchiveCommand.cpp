@@ -16,18 +16,16 @@
 namespace host::cli {
 
 CLI::App* ArchiveCommand::Declare(CLI::App& program) {
-  auto* archive = program.add_subcommand("archive", Tr("Keep finished documents, and ask about them later"));
+  auto* archive = program.add_subcommand("archive", Tr("Archive finished documents and query them later"));
   archive
       ->add_option("--archive", location_,
                    Tr("The archive: a file, or postgresql://USER@HOST/DATABASE; otherwise ORVIK_ARCHIVE, or "
                       "archive.sqlite in the state folder"))
       ->type_name("FILE|URL");
   archive->footer(
-      Tr("Examples:\n"
-         "  orvik-bench archive add pump-7.orvik\n"
-         "  orvik-bench archive list --asset PUMP-7\n"
-         "  orvik-bench archive trend --asset PUMP-7 --test 410 --to pump-7.svg\n"
-         "  orvik-bench archive --archive postgresql://bench@server/orvik list --since 2026-01-01"));
+      Examples({"orvik-bench archive add pump-7.orvik", "orvik-bench archive list --asset PUMP-7",
+                "orvik-bench archive trend --asset PUMP-7 --test 410 --to pump-7.svg",
+                "orvik-bench archive --archive postgresql://bench@server/orvik list --since 2026-01-01"}));
   archive->require_subcommand(0, 1);
   const auto add = [&](std::unique_ptr<Command> command, const std::vector<std::string>& examples) {
     auto* declared = command->Declare(*archive);

@@ -30,11 +30,11 @@ std::string KeyOf(archive::Archive::Added added) {
 }  // namespace
 
 CLI::App* ArchiveCommandAdd::Declare(CLI::App& archive) {
-  auto* command = archive.add_subcommand("add", Tr("Take finished documents into the archive"));
+  auto* command = archive.add_subcommand("add", Tr("Add finished documents to the archive"));
   command->add_option("FILE", files_, Tr("The documents"))->required();
   command->add_flag("--incomplete", incomplete_,
-                    Tr("Take documents too in which something has no result; they are marked"));
-  command->add_flag("--simulated", simulated_, Tr("Take documents of simulated runs too; they are marked"));
+                    Tr("Also add documents with missing results; they are marked"));
+  command->add_flag("--simulated", simulated_, Tr("Also add documents of simulated runs; they are marked"));
   command->add_flag("--json", json_, Tr("Print one JSON object"));
   return command;
 }

@@ -14,7 +14,7 @@ namespace host::cli {
 
 CLI::App* ArchiveCommandExport::Declare(CLI::App& archive) {
   auto* command = archive.add_subcommand("export", Tr("Write a document of the archive as the file it was"));
-  WholeNumbers(command->add_option("ID", id_, Tr("Its number, as \"archive list\" shows it")),
+  WholeNumbers(command->add_option("ID", id_, Tr("Number of the document, as \"archive list\" shows it")),
                std::numeric_limits<std::int64_t>::max())
       ->required();
   command->add_option("--to", to_, Tr("The file to write, which must not exist yet"))

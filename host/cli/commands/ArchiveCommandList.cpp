@@ -45,15 +45,18 @@ std::vector<std::string> LineOf(const archive::ArchiveEntry& entry) {
 
 CLI::App* ArchiveCommandList::Declare(CLI::App& archive) {
   auto* command = archive.add_subcommand("list", Tr("List the documents of the archive, the newest first"));
-  command->add_option("--asset", asset_, Tr("Those of this asset"));
-  command->add_option("--serial", serial_, Tr("Those of equipment with this serial number"));
+  command->add_option("--asset", asset_, Tr("Only documents of this asset"));
+  command->add_option("--serial", serial_, Tr("Only documents of equipment with this serial number"));
   command
-      ->add_option("--since", since_,
-                   Tr("Those run on this date or later, such as 2026-01-31 or 2026-01-31T08:00Z; UTC"))
+      ->add_option(
+          "--since", since_,
+          Tr("Only documents run on this date or later, such as 2026-01-31 or 2026-01-31T08:00Z; UTC"))
       ->type_name("DATE");
-  command->add_option("--outcome", outcome_, Tr("Those that ended so: passed, failed or incomplete"))
+  command
+      ->add_option("--outcome", outcome_,
+                   Tr("Only documents with this outcome: passed, failed or incomplete"))
       ->type_name("passed|failed|incomplete");
-  limitOption_ = WholeNumbers(command->add_option("--limit", limit_, Tr("Only so many")));
+  limitOption_ = WholeNumbers(command->add_option("--limit", limit_, Tr("At most this many documents")));
   limitOption_->type_name("N");
   command->add_flag("--json", json_, Tr("Print one JSON object"));
   return command;

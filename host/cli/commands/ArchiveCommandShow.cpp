@@ -43,7 +43,7 @@ std::string HeadOf(const archive::ArchiveEntry& entry) {
 
 CLI::App* ArchiveCommandShow::Declare(CLI::App& archive) {
   auto* command = archive.add_subcommand("show", Tr("Print a document of the archive and its results"));
-  WholeNumbers(command->add_option("ID", id_, Tr("Its number, as \"archive list\" shows it")),
+  WholeNumbers(command->add_option("ID", id_, Tr("Number of the document, as \"archive list\" shows it")),
                std::numeric_limits<std::int64_t>::max())
       ->required();
   command->add_flag("--json", json_, Tr("Print one JSON object"));

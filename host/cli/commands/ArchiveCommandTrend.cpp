@@ -74,8 +74,7 @@ CLI::App* ArchiveCommandTrend::Declare(CLI::App& archive) {
       ->required()
       ->type_name("TESTID");
   command->add_option("--to", to_, Tr("The picture to write (.svg)"))->type_name("OUT.svg");
-  command->add_flag("--simulated", simulated_,
-                    Tr("The readings of simulated testers; without it they are left out"));
+  command->add_flag("--simulated", simulated_, Tr("Show readings of simulated testers instead of real ones"));
   command->add_flag("--json", json_, Tr("Print one JSON object"));
   return command;
 }

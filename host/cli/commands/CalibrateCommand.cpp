@@ -77,8 +77,7 @@ Json JsonOf(const run::LeadCalibration& stored, const std::string& type) {
 
 CLI::App* CalibrateCommand::Declare(CLI::App& program) {
   auto* command = program.add_subcommand(
-      "calibrate",
-      Tr("Measure the resistance of the test leads, which protective-earth readings are corrected by"));
+      "calibrate", Tr("Measure the resistance of the test leads, to correct protective-earth readings"));
   tester_.Declare(*command);
   const auto* serial = command->add_option(
       "--serial", serial_, Tr("Store the value under this serial number instead of the tester's own"));
@@ -89,7 +88,7 @@ CLI::App* CalibrateCommand::Declare(CLI::App& program) {
   command->footer(Examples(
       {"orvik-bench calibrate --port /dev/ttyUSB0", "orvik-bench calibrate --simulate --time-scale 20",
        "orvik-bench calibrate --list"},
-      Tr("Put the clip of the test lead at the ground of the tester's power socket first. The value is "
+      Tr("First connect the clip of the test lead to the ground of the tester's power socket. The value is "
          "stored "
          "with its date under the tester's serial number; protective-earth readings are corrected by it. A "
          "value that test leads cannot have (below 0 or above 500 mOhm) is not stored.")));

@@ -74,15 +74,15 @@ CLI::App* ConfigCommand::Declare(CLI::App& program) {
       kLeads, leads_, Tr("Leads that the test measures: all of them at once, one lead, or none"));
   leads->type_name("all|none|1|2|3|4|5|6|7|8|9|10");
   auto* allowNa = command->add_flag("--allow-na")->description(Tr("Offer \"not applicable\" in the guide"));
-  auto* noNa = command->add_flag("--no-na")->description(Tr("Do not offer it"));
+  auto* noNa = command->add_flag("--no-na")->description(Tr("Do not offer \"not applicable\""));
   auto* allowSkip = command->add_flag("--allow-skip")->description(Tr("Offer \"skip\" in the guide"));
-  auto* noSkip = command->add_flag("--no-skip")->description(Tr("Do not offer it"));
+  auto* noSkip = command->add_flag("--no-skip")->description(Tr("Do not offer \"skip\""));
   allowNa->excludes(noNa);
   allowSkip->excludes(noSkip);
-  auto* sum = WholeNumbers(command->add_option(kOptions, settings_,
-                                               Tr("All of that as one number, the sum of: 1 \"not "
-                                                  "applicable\" is offered, 2 \"skip\" is offered, 4 to "
-                                                  "2048 leads 1 to 10, 4096 all leads")));
+  auto* sum = WholeNumbers(
+      command->add_option(kOptions, settings_,
+                          Tr("All of these as one number, the sum of: 1 to offer \"not applicable\", 2 to "
+                             "offer \"skip\", 4 to 2048 for leads 1 to 10, 4096 for all leads")));
   sum->type_name("N");
   for (auto* word : {leads, allowNa, noNa, allowSkip, noSkip}) sum->excludes(word);
   command

@@ -35,14 +35,14 @@ CLI::App* EditCommand::Declare(CLI::App& program) {
       "edit", Tr("Show or change the equipment under test and the comment of a document"));
   command->add_option("FILE", file_, Tr("The document"))->required();
   AddEquipmentOptions(*command, equipment_);
-  command->add_option("--comment", comment_, Tr("A remark about the document; it changes no result"))
+  command->add_option("--comment", comment_, Tr("A comment on the document; it does not affect results"))
       ->type_name("TEXT");
   command->footer(Examples(
       {"orvik-bench edit pump-7.orvik", "orvik-bench edit pump-7.orvik --asset PUMP-7 --serial 2209-117",
        "orvik-bench edit pump-7.orvik --comment \"after repair of the mains inlet\"",
        "orvik-bench edit pump-7.orvik --comment \"\""},
-      Tr("A result counts for the equipment that it was measured on: with another asset number, "
-         "serial number, maker or model it no longer does. To test the next device, use \"new "
+      Tr("A result counts only for the equipment it was measured on: after a change of asset number, serial "
+         "number, maker or model it no longer counts. To test the next device, use \"new "
          "--from\".")));
   command_ = command;
   return command;

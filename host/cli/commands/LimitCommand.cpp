@@ -56,32 +56,34 @@ CLI::App* LimitCommand::Declare(CLI::App& program) {
   WholeNumbers(command->add_option(kElement, elements_, Tr("Identifiers of the elements")))->type_name("ID");
   command
       ->add_option(kFrom, set_,
-                   Tr("Take the limits of all elements from this set; \"standards\" lists "
-                      "the sets. With --element, of those elements and all below them. Limits of an earlier "
-                      "set of the same standard are replaced"))
+                   Tr("Set the limits of all elements from this set; \"standards\" lists the sets. With "
+                      "--element, only of those elements and all below them. Replaces limits of an earlier "
+                      "set of the same standard"))
       ->type_name("SET");
-  command->add_flag(kAlso, also_, Tr("Keep the limits of earlier sets: a reading must hold them all"));
+  command->add_flag(kAlso, also_,
+                    Tr("Keep the limits of earlier sets: a reading must be within all of them"));
   command->add_option(kStandard, entered_.standard, Tr("Name of the standard, such as \"IEC 62353\""))
       ->type_name("NAME");
   command->add_option(kDescription, entered_.description,
-                      Tr("Which standard of that name, such as \"class I, BF\""));
+                      Tr("Description of the standard, such as \"class I, BF\""));
   command->add_option(kLow, entered_.low, Tr("Lower bound, inclusive; a number"))->type_name("LOW");
   command->add_option(kHigh, entered_.high, Tr("Upper bound, inclusive; a number"))->type_name("HIGH");
   command->add_option(kUnit, entered_.unit,
                       Tr("Unit of the bounds; otherwise the unit that the element is recorded in"));
   command->add_flag(kRecordOnly, recordOnly_,
-                    Tr("Mark the elements: their readings are recorded and not judged. Setting a limit later "
+                    Tr("Mark the elements as record-only: their readings are recorded but not judged. "
+                       "Setting a limit later "
                        "removes the mark"));
   command->add_flag(kRemove, remove_,
                     Tr("Remove the elements' limits of --standard; without it all limits, and the mark"));
-  command->footer(Examples(
-      {"orvik-bench limit pump-7.orvik --from iec-62353-class-1-bf",
-       "orvik-bench limit pump-7.orvik --element 2 --standard \"IEC 62353\" --high 300 --unit mOhm",
-       "orvik-bench limit pump-7.orvik --element 3 4 --standard \"House rule\" --low 50 --unit MOhm",
-       "orvik-bench limit pump-7.orvik --element 1 --record-only",
-       "orvik-bench limit pump-7.orvik --element 2 --remove --standard \"IEC 62353\""},
-      Tr("A reading that no limit judged does not count as passed. Where a reading is only to be recorded, "
-         "such as that of the mains voltage, say so with --record-only.")));
+  command->footer(
+      Examples({"orvik-bench limit pump-7.orvik --from iec-62353-class-1-bf",
+                "orvik-bench limit pump-7.orvik --element 2 --standard \"IEC 62353\" --high 300 --unit mOhm",
+                "orvik-bench limit pump-7.orvik --element 3 4 --standard \"House rule\" --low 50 --unit MOhm",
+                "orvik-bench limit pump-7.orvik --element 1 --record-only",
+                "orvik-bench limit pump-7.orvik --element 2 --remove --standard \"IEC 62353\""},
+               Tr("A reading that no limit applies to does not count as passed. Use --record-only for a "
+                  "reading that is only recorded, such as the mains voltage.")));
   command_ = command;
   return command;
 }

@@ -17,21 +17,21 @@ namespace host::cli {
 CLI::App* MoveCommand::Declare(CLI::App& program) {
   auto* command = program.add_subcommand("move", Tr("Change the order in which a document is tested"));
   command->add_option("FILE", file_, Tr("The document"))->required();
-  WholeNumbers(command->add_option("--element", element_,
-                                   Tr("Identifier of the element to move; a sequence takes its tests along")))
+  WholeNumbers(
+      command->add_option("--element", element_,
+                          Tr("Identifier of the element to move; a sequence is moved with its tests")))
       ->required()
       ->type_name("ID");
   auto* before = command->add_option("--before", before_, Tr("Test it before this element"));
   auto* after = command->add_option("--after", after_, Tr("Test it after this element"));
   for (auto* option : {before, after}) WholeNumbers(option)->type_name("ID");
-  auto* end = command->add_flag("--to-end", toEnd_, Tr("Test it last of the document"));
+  auto* end = command->add_flag("--to-end", toEnd_, Tr("Test it last in the document"));
   before->excludes(after)->excludes(end);
   after->excludes(end);
-  command->footer(Examples(
-      {"orvik-bench move pump-7.orvik --element 3 --before 1",
-       "orvik-bench move pump-7.orvik --element 2 --to-end"},
-      Tr("Beside an element that is in a sequence, the moved one becomes part of the sequence. Identifiers "
-         "stay.")));
+  command->footer(Examples({"orvik-bench move pump-7.orvik --element 3 --before 1",
+                            "orvik-bench move pump-7.orvik --element 2 --to-end"},
+                           Tr("Moved next to an element of a sequence, an element becomes part of that "
+                              "sequence. Identifiers do not change.")));
   return command;
 }
 

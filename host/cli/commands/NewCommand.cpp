@@ -20,8 +20,9 @@ CLI::App* NewCommand::Declare(CLI::App& program) {
   WholeNumbers(command->add_option("--add", tests_, Tr("Tests of the catalogue, in the order of testing")))
       ->type_name("TESTID");
   command
-      ->add_option("--from", from_,
-                   Tr("Take tests, settings, limits and marks of this document, without its results"))
+      ->add_option(
+          "--from", from_,
+          Tr("Copy tests, settings, limits and record-only marks from this document, without its results"))
       ->type_name("DOCUMENT");
   AddEquipmentOptions(*command, equipment_);
   command->footer(Examples(

@@ -28,26 +28,24 @@ CLI::App* ReportCommand::Declare(CLI::App& program) {
       program.add_subcommand("report", Tr("Write a document as a report: HTML, PDF or plain text"));
   command->add_option("FILE", file_, Tr("The document"))->required();
   command
-      ->add_option(
-          "--to", to_,
-          Tr("The report to write; its ending, .html, .pdf or .txt, sets the format. - is the standard "
-             "output"))
+      ->add_option("--to", to_,
+                   Tr("The report to write; its extension, .html, .pdf or .txt, sets the format. - is the "
+                      "standard output"))
       ->required()
       ->type_name("OUT");
   command
       ->add_option(
           "--format", format_,
-          Tr("Format of the report, with any ending of its name; otherwise plain text on the standard "
-             "output"))
+          Tr("Format of the report, whatever the extension; without it, the standard output gets plain text"))
       ->type_name("html|pdf|txt");
   auto* run = WholeNumbers(command->add_option(
       "--run", run_,
-      Tr("Report this run as it was done, regardless of what counts now; \"show --runs\" lists them")));
+      Tr("Report this run as it was recorded, regardless of what counts now; \"show --runs\" lists them")));
   run->type_name("N");
   command
       ->add_option(
           "--standard", standards_,
-          Tr("Judge by this standard only; may be given again. The output names the standards left out"))
+          Tr("Judge by this standard only; may be repeated. The output names the standards left out"))
       ->allow_extra_args(false)
       ->type_name("NAME")
       ->excludes(run);

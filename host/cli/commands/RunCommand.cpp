@@ -13,6 +13,7 @@
 #include "host/bench/RunSelection.h"
 #include "host/bench/RunSession.h"
 #include "host/bench/UnsavedChanges.h"
+#include "host/cli/help/Examples.h"
 #include "host/cli/options/NumberOption.h"
 #include "host/cli/output/AskOperator.h"
 #include "host/cli/output/Colour.h"
@@ -43,36 +44,36 @@ CLI::App* RunCommand::Declare(CLI::App& program) {
   command->add_option("FILE", options_.file, Tr("The document"))->required();
   options_.tester.Declare(*command);
   WholeNumbers(
-      command->add_option("--element", options_.elements, Tr("Run this element; may be given again")))
+      command->add_option("--element", options_.elements, Tr("Run only this element; may be repeated")))
       ->allow_extra_args(false)
       ->type_name("ID");
-  command->add_option("--standard", options_.standards, Tr("Judge by this standard; may be given again"))
+  command->add_option("--standard", options_.standards, Tr("Judge by this standard only; may be repeated"))
       ->allow_extra_args(false)
       ->type_name("NAME");
   command->add_flag("--resume", options_.resume, Tr("Continue with the elements that have no result yet"));
-  command->add_option("--operator", options_.operatorKind, Tr("Who presses the guide's buttons: auto or ask"))
+  command
+      ->add_option("--operator", options_.operatorKind,
+                   Tr("Who presses the guide's buttons: auto (the program) or ask (the operator)"))
       ->type_name("auto|ask");
   command
       ->add_option("--by", options_.by,
                    Tr("Name of the operator, for the report; otherwise that of the account"))
       ->type_name("NAME");
   const auto* json = command->add_flag("--json", options_.json, Tr("Print one JSON object at the end"));
-  command->add_flag("--events", options_.events, Tr("Print one JSON object a line as things happen"))
+  command->add_flag("--events", options_.events, Tr("Print events as they happen, one JSON object per line"))
       ->excludes(const_cast<CLI::Option*>(json));
-  command->add_option("--wire-log", options_.wireLog, Tr("Log of the wire; otherwise FILE.wire.log"))
+  command
+      ->add_option("--wire-log", options_.wireLog,
+                   Tr("Log the serial traffic to this file; otherwise FILE.wire.log"))
       ->type_name("LOG");
-  command->footer(
-      Tr("Examples:\n"
-         "  orvik-bench run pump-7.orvik --port /dev/ttyUSB0\n"
-         "  orvik-bench run pump-7.orvik --port /dev/ttyUSB0 --operator ask\n"
-         "  orvik-bench run pump-7.orvik --simulate broken-earth --time-scale 20\n"
-         "  orvik-bench run pump-7.orvik --port /dev/ttyUSB0 --resume\n"
-         "\n"
-         "The document is saved after each element. Ctrl-C stops: the session with the tester is closed, the "
-         "document\n"
-         "saved, and --resume goes on later. Exit status 0: all passed, recorded or not applicable, 1: "
-         "something failed its\n"
-         "limits, 2: something was not completed, is doubtful or not judged."));
+  command->footer(Examples({"orvik-bench run pump-7.orvik --port /dev/ttyUSB0",
+                            "orvik-bench run pump-7.orvik --port /dev/ttyUSB0 --operator ask",
+                            "orvik-bench run pump-7.orvik --simulate broken-earth --time-scale 20",
+                            "orvik-bench run pump-7.orvik --port /dev/ttyUSB0 --resume"},
+                           Tr("The document is saved after each element. Ctrl-C stops the run: the session "
+                              "with the tester is closed and the document saved; --resume continues later. "
+                              "Exit status 0: all passed, recorded or not applicable, 1: something failed "
+                              "its limits, 2: something was not completed, is doubtful or not judged.")));
   return command;
 }
 

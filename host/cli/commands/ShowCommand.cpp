@@ -28,7 +28,7 @@ CLI::App* ShowCommand::Declare(CLI::App& program) {
   command
       ->add_option(
           "--standard", standards_,
-          Tr("Judge by this standard only; may be given again. The output names the standards left out"))
+          Tr("Judge by this standard only; may be repeated. The output names the standards left out"))
       ->allow_extra_args(false)
       ->type_name("NAME")
       ->excludes(runs)

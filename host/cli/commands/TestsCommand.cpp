@@ -9,6 +9,7 @@
 #include "host/base/Tr.h"
 #include "host/bench/CatalogueEntries.h"
 #include "host/bench/InputError.h"
+#include "host/cli/help/Examples.h"
 #include "host/cli/output/DocumentJson.h"
 
 namespace host::cli {
@@ -34,10 +35,7 @@ nlohmann::ordered_json JsonOf(const std::vector<bench::CatalogueEntry>& entries)
 CLI::App* TestsCommand::Declare(CLI::App& program) {
   auto* command = program.add_subcommand("tests", Tr("Print the catalogue of tests"));
   command->add_flag("--json", json_, Tr("Print one JSON object"));
-  command->footer(
-      Tr("Examples:\n"
-         "  orvik-bench tests\n"
-         "  orvik-bench tests --json"));
+  command->footer(Examples({"orvik-bench tests", "orvik-bench tests --json"}));
   return command;
 }
 

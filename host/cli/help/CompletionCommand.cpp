@@ -6,6 +6,7 @@
 #include "host/base/Tr.h"
 #include "host/bench/InputError.h"
 #include "host/cli/help/Completion.h"
+#include "host/cli/help/Examples.h"
 
 namespace host::cli {
 
@@ -15,8 +16,7 @@ CLI::App* CompletionCommand::Declare(CLI::App& program) {
       program.add_subcommand("completion", Tr("Print a script that completes commands and options"));
   command->add_option("SHELL", shell_, Tr("bash, zsh or fish"))->required()->type_name("bash|zsh|fish");
   command->footer(
-      Tr("Example:\n"
-         "  orvik-bench completion bash > ~/.local/share/bash-completion/completions/orvik-bench"));
+      Examples({"orvik-bench completion bash > ~/.local/share/bash-completion/completions/orvik-bench"}));
   return command;
 }
 

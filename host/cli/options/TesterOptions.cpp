@@ -10,7 +10,7 @@ namespace host::cli {
 void DeclareTimeScale(CLI::App& command, double& timeScale) {
   command
       .add_option("--time-scale", timeScale,
-                  Tr("Divide every pause and time-out; for simulated testers only"))
+                  Tr("Divide every pause and time-out by X; for simulated testers only"))
       ->type_name("X")
       ->check([](const std::string& typed) {
         bench::RequireTimeScale(typed);
