@@ -59,14 +59,11 @@ class LargeDocument {
   /// The least that judging and that loading took.
   std::pair<double, double> SecondsToJudgeAndLoad() {
     const auto document = Open();
-    if (host::judge::Judge(*document, *rig_.Only().Host().Elements()).outcome !=
-        host::judge::Outcome::kPassed)
-      throw std::runtime_error("the document has not passed as it was measured");
+    const auto& elements = *rig_.Only().Host().Elements();
+    if (host::judge::Judge(*document, elements).outcome != host::judge::Outcome::kPassed)
+      throw std::runtime_error("the copied document is not judged passed like the measured one");
     const auto [judged, loaded] = LeastOfEach(
-        kJudgeRounds,
-        [&] {
-          return SecondsOf([&] { return host::judge::Judge(*document, *rig_.Only().Host().Elements()); });
-        },
+        kJudgeRounds, [&] { return SecondsOf([&] { return host::judge::Judge(*document, elements); }); },
         [&] { return SecondsOf([&] { return Open(); }); });
     return {judged, loaded};
   }
