@@ -45,11 +45,70 @@ TEST_P(Container, RaisesOnlyHostErrorsForWrongArguments) {
   EXPECT_EQ(Identifiers(*tests), before);
 }
 
-TEST_F(KeldPlugInLoaded, RefusesToCopyOrSaveBeyondAThousandLevels) {
-  const auto newGroup = [this] { return library_.New<orvik::ITestContainer>("orvikKELD.CKELDSequence"); };
-  auto outermost = newGroup();
+class Sequence : public KeldPlugInLoaded {
+ protected:
+  std::shared_ptr<orvik::ITestElement> Child(std::int32_t id) {
+    auto element = library_.NewTest(210);
+    element->SetID(id);
+    return element;
+  }
+  std::shared_ptr<orvik::ITestContainer> NewGroup() {
+    return library_.New<orvik::ITestContainer>("orvikKELD.CKELDSequence");
+  }
+};
+
+TEST_F(Sequence, IsAnElementAndAContainer) {
+  const auto group = library_.NewTest(400);
+  const auto container = orvik::As<orvik::ITestContainer>(group);
+  ASSERT_TRUE(container);
+  EXPECT_EQ(Identifiers(*container), (std::vector<std::int32_t>{410, 420}));
+  EXPECT_EQ(container->item(1)->Parent(), group);
+  EXPECT_EQ(container->FindElement(420), container->item(2));
+  EXPECT_FALSE(orvik::As<orvik::ITestContainer>(library_.NewTest(410)));
+}
+
+TEST_F(Sequence, AddsAndRemovesChildrenInOrder) {
+  const auto group = NewGroup();
+  group->Add(Child(1), {}, {});
+  group->Add(Child(2), {}, {});
+  group->Add(Child(3), std::int32_t{2}, {});
+  group->Add(Child(4), {}, std::int32_t{1});
+  EXPECT_EQ(Identifiers(*group), (std::vector<std::int32_t>{1, 4, 3, 2}));
+  EXPECT_EQ(group->item(2)->Parent(), orvik::As<orvik::ITestElement>(group));
+  const auto walk = group->NewEnum();
+  walk->Next();
+  group->Remove(group->item(2));
+  EXPECT_EQ(walk->Next()->ID(), 3) << "a child removed during the walk is skipped";
+}
+
+TEST_F(Sequence, LogsWhatItCannotAdd) {
+  const auto group = NewGroup();
+  EXPECT_NO_THROW(group->Add(nullptr, {}, {}));
+  EXPECT_NO_THROW(group->Add(orvik::As<orvik::ITestElement>(group), {}, {}));
+  EXPECT_EQ(group->Count(), 0);
+  EXPECT_EQ(library_.ErrorLines().size(), 2U);
+}
+
+TEST_F(Sequence, ClonesAndSavesItsChildren) {
+  const auto group = library_.NewTest(400);
+  const auto copy = group->Clone();
+  const auto copied = orvik::As<orvik::ITestContainer>(copy);
+  ASSERT_TRUE(copied);
+  EXPECT_EQ(Identifiers(*copied), (std::vector<std::int32_t>{410, 420}));
+  EXPECT_EQ(copied->item(1)->Parent(), copy);
+  copied->Remove(copied->item(1));
+  EXPECT_EQ(orvik::As<orvik::ITestContainer>(group)->Count(), 2);
+
+  const auto loaded = NewGroup();
+  orvik::As<orvik::ITestElement>(loaded)->Load(group->Save(library_.NewNode()), nullptr);
+  EXPECT_EQ(Identifiers(*loaded), (std::vector<std::int32_t>{410, 420}));
+  EXPECT_EQ(loaded->item(1)->ClassID(), "orvikKELD.CKELDTestElement");
+}
+
+TEST_F(Sequence, RefusesToCopyOrSaveBeyondAThousandLevels) {
+  auto outermost = NewGroup();
   for (int level = 0; level < 3'000; ++level) {
-    const auto above = newGroup();
+    const auto above = NewGroup();
     above->Add(orvik::As<orvik::ITestElement>(outermost), {}, {});
     outermost = above;
   }
@@ -59,7 +118,7 @@ TEST_F(KeldPlugInLoaded, RefusesToCopyOrSaveBeyondAThousandLevels) {
   EXPECT_FALSE(outermost->FindElement(-1));
 }
 
-TEST_F(KeldPlugInLoaded, ChildrenOutliveTheirGroup) {
+TEST_F(Sequence, IsOutlivedByItsChildren) {
   auto group = library_.NewTest(400);
   const auto child = orvik::As<orvik::ITestContainer>(group)->item(1);
   const std::weak_ptr<orvik::ITestElement> watched = group;
