@@ -5,10 +5,13 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <stdexcept>
 #include <string>
 #include <string_view>
 #include <system_error>
+
+#include "tests/support/ReadFile.h"
 
 namespace support {
 
@@ -34,6 +37,13 @@ class TemporaryFolder {
   std::string Write(const std::string& name, std::string_view content) const {
     std::ofstream(Path(name), std::ios::binary) << content;
     return Path(name);
+  }
+  /// The content of a file; empty if it cannot be read.
+  std::string Read(const std::string& name) const { return ReadFile(path_ / name); }
+  /// The number of entries.
+  std::size_t Count() const {
+    const std::filesystem::directory_iterator entries(path_);
+    return static_cast<std::size_t>(std::distance(begin(entries), end(entries)));
   }
 
  private:

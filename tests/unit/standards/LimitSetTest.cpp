@@ -1,15 +1,15 @@
 #include <gtest/gtest.h>
 
 #include "host/standards/LimitSet.h"
-#include "tests/unit/host/Errors.h"
-#include "tests/unit/host/TestFolder.h"
+#include "tests/support/Errors.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace host {
 namespace {
 
-using host::test::ErrorText;
-using host::test::Holds;
-using host::test::TestFolder;
+using support::ErrorText;
+using support::Holds;
+using support::TemporaryFolder;
 
 constexpr char kGood[] =
     "<LimitSet Version='1' Standard='Own' Edition='2026' Class='I' Type='BF'>\n"
@@ -20,7 +20,7 @@ constexpr char kGood[] =
     "</LimitSet>\n";
 
 TEST(LimitSetTest, IsReadAsItStands) {
-  TestFolder folder;
+  TemporaryFolder folder;
   const auto set = standards::ReadLimitSet(folder.Write("own-set.xml", kGood));
   EXPECT_EQ(set.Name(), "own-set");
   EXPECT_EQ(set.standard, "Own");
@@ -41,7 +41,7 @@ TEST(LimitSetTest, IsReadAsItStands) {
 }
 
 TEST(LimitSetTest, ClassAndTypeMayBeMissing) {
-  TestFolder folder;
+  TemporaryFolder folder;
   const auto set = standards::ReadLimitSet(folder.Write(
       "a.xml",
       "<LimitSet Version='1' Standard='S' Edition='1'><Figure Tests='1' Low='0' Unit='V' Source='s'/>"
@@ -59,15 +59,15 @@ struct Bad {
 class BadLimitSet : public testing::TestWithParam<Bad> {};
 
 TEST_P(BadLimitSet, IsRefusedWithFileLineAndReason) {
-  TestFolder folder;
+  TemporaryFolder folder;
   std::string text = kGood;
   const auto at = text.find(GetParam().from);
   ASSERT_NE(at, std::string::npos);
   text.replace(at, std::string(GetParam().from).size(), GetParam().to);
-  const auto file = folder.Write("bad.xml", text);
-  const auto error = test::ErrorText([&] { standards::ReadLimitSet(file); });
-  EXPECT_TRUE(test::Holds(error, file.string() + ", line "));
-  EXPECT_TRUE(test::Holds(error, GetParam().told));
+  const std::filesystem::path file = folder.Write("bad.xml", text);
+  const auto error = support::ErrorText([&] { standards::ReadLimitSet(file); });
+  EXPECT_TRUE(support::Holds(error, file.string() + ", line "));
+  EXPECT_TRUE(support::Holds(error, GetParam().told));
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -103,15 +103,16 @@ INSTANTIATE_TEST_SUITE_P(
     [](const auto& tested) { return std::string(tested.param.name); });
 
 TEST(LimitSetTest, OneOfAnotherKindOrWithoutFiguresIsRefused) {
-  TestFolder folder;
-  const auto other = folder.Write("other.xml", "\n<OrvikDocument Version='1'/>");
-  EXPECT_TRUE(test::Holds(test::ErrorText([&] { standards::ReadLimitSet(other); }),
-                          "other.xml, line 2: this is not a set of limits"));
-  const auto empty = folder.Write("empty.xml", "<LimitSet Version='1' Standard='S' Edition='1'/>");
-  EXPECT_TRUE(test::Holds(test::ErrorText([&] { standards::ReadLimitSet(empty); }),
-                          "empty.xml, line 1: the set has no figures"));
-  EXPECT_TRUE(
-      test::Holds(test::ErrorText([&] { standards::ReadLimitSet(folder.Path() / "none.xml"); }), "none.xml"));
+  TemporaryFolder folder;
+  const std::filesystem::path other = folder.Write("other.xml", "\n<OrvikDocument Version='1'/>");
+  EXPECT_TRUE(support::Holds(support::ErrorText([&] { standards::ReadLimitSet(other); }),
+                             "other.xml, line 2: this is not a set of limits"));
+  const std::filesystem::path empty =
+      folder.Write("empty.xml", "<LimitSet Version='1' Standard='S' Edition='1'/>");
+  EXPECT_TRUE(support::Holds(support::ErrorText([&] { standards::ReadLimitSet(empty); }),
+                             "empty.xml, line 1: the set has no figures"));
+  EXPECT_TRUE(support::Holds(support::ErrorText([&] { standards::ReadLimitSet(folder.Path() / "none.xml"); }),
+                             "none.xml"));
 }
 
 }  // namespace

@@ -1,15 +1,15 @@
 #include <gtest/gtest.h>
 
 #include "host/standards/LimitSets.h"
-#include "tests/unit/host/Errors.h"
-#include "tests/unit/host/TestFolder.h"
+#include "tests/support/Errors.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace host {
 namespace {
 
-using host::test::ErrorText;
-using host::test::Holds;
-using host::test::TestFolder;
+using support::ErrorText;
+using support::Holds;
+using support::TemporaryFolder;
 
 std::string SetText(const std::string& standard) {
   return "<LimitSet Version='1' Standard='" + standard +
@@ -18,7 +18,7 @@ std::string SetText(const std::string& standard) {
 
 class LimitSetsTest : public testing::Test {
  protected:
-  TestFolder first_, second_;
+  TemporaryFolder first_, second_;
   standards::LimitSets sets_{{first_.Path(), second_.Path(), first_.Path() / "absent"}};
 };
 
@@ -32,30 +32,32 @@ TEST_F(LimitSetsTest, AllAreListedFolderByFolderAndByName) {
   EXPECT_EQ(all[0].set->standard, "A");
   EXPECT_EQ(all[1].set->standard, "B");
   EXPECT_FALSE(all[2].set);
-  EXPECT_TRUE(test::Holds(all[2].fault, "aa.xml, line 1"));
+  EXPECT_TRUE(support::Holds(all[2].fault, "aa.xml, line 1"));
 }
 
 TEST_F(LimitSetsTest, IsFoundByNameInEachFolderAndByPath) {
   first_.Write("a.xml", SetText("A"));
   second_.Write("b.xml", SetText("B"));
-  TestFolder elsewhere;
+  TemporaryFolder elsewhere;
   EXPECT_EQ(sets_.Find("a").standard, "A");
   EXPECT_EQ(sets_.Find("b").standard, "B");
-  EXPECT_EQ(sets_.Find(elsewhere.Write("c.xml", SetText("C")).string()).standard, "C");
-  EXPECT_EQ(sets_.Find(elsewhere.Write("d", SetText("D")).string()).standard, "D");
+  EXPECT_EQ(sets_.Find(elsewhere.Write("c.xml", SetText("C"))).standard, "C");
+  EXPECT_EQ(sets_.Find(elsewhere.Write("d", SetText("D"))).standard, "D");
 }
 
 TEST_F(LimitSetsTest, WhatIsNotThereIsNamed) {
-  EXPECT_TRUE(test::Holds(test::ErrorText([&] { sets_.Find("none"); }), "unknown set of limits \"none\""));
-  EXPECT_TRUE(test::Holds(test::ErrorText([&] { sets_.Find("/nowhere/none.xml"); }), "/nowhere/none.xml"));
+  EXPECT_TRUE(
+      support::Holds(support::ErrorText([&] { sets_.Find("none"); }), "unknown set of limits \"none\""));
+  EXPECT_TRUE(
+      support::Holds(support::ErrorText([&] { sets_.Find("/nowhere/none.xml"); }), "/nowhere/none.xml"));
 }
 
 TEST_F(LimitSetsTest, TwoOfOneNameAreNeverTakenForEachOther) {
   first_.Write("a.xml", SetText("A"));
   second_.Write("a.xml", SetText("B"));
-  const auto error = test::ErrorText([&] { sets_.Find("a"); });
-  EXPECT_TRUE(test::Holds(error, (first_.Path() / "a.xml").string()));
-  EXPECT_TRUE(test::Holds(error, (second_.Path() / "a.xml").string()));
+  const auto error = support::ErrorText([&] { sets_.Find("a"); });
+  EXPECT_TRUE(support::Holds(error, (first_.Path() / "a.xml").string()));
+  EXPECT_TRUE(support::Holds(error, (second_.Path() / "a.xml").string()));
   EXPECT_EQ(sets_.Find((second_.Path() / "a.xml").string()).standard, "B");
 }
 
