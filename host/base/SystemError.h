@@ -4,8 +4,7 @@
 
 namespace host {
 
-/// What the system's error number (`errno`) says, in the language that was chosen; in the system's own words
-/// for one that is rare.
+/// The C library's English text of an error number (`errno`).
 std::string SystemError(int error);
 
 }  // namespace host

@@ -12,21 +12,6 @@ namespace {
 constexpr int kIndentedLevels = 256;
 constexpr char kIndent[] = "  ";
 
-/// What the parser says of a malformed text; here for the list of texts to translate.
-[[maybe_unused]] constexpr const char* kParserFaults[] = {
-    TrNoop("Could not determine tag type"),
-    TrNoop("Error parsing document declaration/processing instruction"),
-    TrNoop("Error parsing comment"),
-    TrNoop("Error parsing CDATA section"),
-    TrNoop("Error parsing document type declaration"),
-    TrNoop("Error parsing PCDATA section"),
-    TrNoop("Error parsing start element tag"),
-    TrNoop("Error parsing element attribute"),
-    TrNoop("Error parsing end element tag"),
-    TrNoop("Start-end tags mismatch"),
-    TrNoop("No document element found"),
-    TrNoop("Could not allocate memory")};
-
 /// Fragments are parsed so that text beside the root element is seen, and refused, instead of dropped.
 constexpr unsigned kParseFlags = pugi::parse_default | pugi::parse_comments | pugi::parse_pi |
                                  pugi::parse_doctype | pugi::parse_ws_pcdata_single | pugi::parse_fragment;
@@ -80,7 +65,7 @@ Fault Checked(std::string_view text, const pugi::xml_document& document, Load lo
   const auto reference = FindReferenceToNothing(text);
   const pugi::xml_parse_result result = load();
   if (!result)
-    return {static_cast<std::size_t>(result.offset < 0 ? 0 : result.offset), Tr(result.description())};
+    return {static_cast<std::size_t>(result.offset < 0 ? 0 : result.offset), result.description()};
   if (nul != std::string_view::npos) return {nul, Tr("there is a NUL byte")};
   if (reference != std::string_view::npos)
     return {reference, Tr("the reference stands for no character; remove it")};
