@@ -154,7 +154,7 @@ void SqliteDatabase::Fail(int code) const {
     case SQLITE_CORRUPT:
       throw ArchiveError(Kind::kBadInput,
                          Tr("%%1 is not an archive, or is damaged: %%2 (it was not changed; restore a copy, "
-                            " or move it away and add the documents again)",
+                            "or move it away and add the documents again)",
                             {name_, reason}));
     case SQLITE_BUSY:
     case SQLITE_LOCKED:
