@@ -23,7 +23,7 @@ void Log(orvik::IErrorLog& log, const std::string& source, const orvik::Variant&
   log.LogEntry(source, static_cast<std::int32_t>(0x8004A22CU), "CKELDPlugin", 3, value, {}, {}, {}, {});
 }
 
-TEST(ErrorLog, EntryIsOneLineWithAllItTells) {
+TEST(ErrorLog, WritesAnEntryOnOneLine) {
   TemporaryFolder folder;
   ErrorLog log(folder.Path(), ErrorLog::kDefaultLimit, Fixed);
   log.LogEntry("KELD(IN)", static_cast<std::int32_t>(0x8004A22CU), "CKELDPlugin", 3, "x", std::int32_t{7}, {},
@@ -50,7 +50,7 @@ TEST(ErrorLog, FieldsCannotForgeLines) {
   EXPECT_TRUE(support::Holds(text, "\t\xEF\xBF\xBD\n"));
 }
 
-TEST(ErrorLog, EntriesOfAnEarlierRunStay) {
+TEST(ErrorLog, KeepsEarlierEntries) {
   TemporaryFolder folder;
   {
     ErrorLog log(folder.Path(), ErrorLog::kDefaultLimit, Fixed);
@@ -62,7 +62,7 @@ TEST(ErrorLog, EntriesOfAnEarlierRunStay) {
   EXPECT_TRUE(support::Holds(folder.Read("error.log"), "second"));
 }
 
-TEST(ErrorLog, FullFileMovesAsideAndTheOldestGoes) {
+TEST(ErrorLog, RotatesAFullFileAndDeletesTheOldest) {
   TemporaryFolder folder;
   ErrorLog log(folder.Path(), 100, Fixed);
   for (const auto* source : {"one", "two", "three", "four"}) Log(log, source);
@@ -79,7 +79,7 @@ TEST(ErrorLog, EntryLargerThanTheLimitIsWrittenWhole) {
   EXPECT_TRUE(support::Holds(folder.Read("error.log"), std::string(1000, 'x')));
 }
 
-TEST(ErrorLog, TwoProgramsLoseNoEntryAndMixNone) {
+TEST(ErrorLog, TwoProgramsNeitherLoseNorMixEntries) {
   TemporaryFolder folder;
   constexpr int kPrograms = 4;
   constexpr int kEntries = 25;
@@ -112,7 +112,7 @@ TEST(ErrorLog, TwoProgramsLoseNoEntryAndMixNone) {
   EXPECT_EQ(count, kPrograms * kEntries);
 }
 
-TEST(ErrorLog, EntryThatCannotBeWrittenIsLostAndSaysWhy) {
+TEST(ErrorLog, ReportsWhyAnEntryCannotBeWritten) {
   TemporaryFolder folder;
   ErrorLog log(folder.Write("file", "") + "/below");
   EXPECT_EQ(log.Failure(), "");

@@ -19,7 +19,7 @@ using support::ErrorText;
 using support::Holds;
 using support::TemporaryFolder;
 
-TEST(Files, ReplacedFileHasTheNewContentsAndNothingElseIsLeft) {
+TEST(Files, ReplacingLeavesOnlyTheNewFile) {
   TemporaryFolder folder;
   const std::filesystem::path file = folder.Write("a.txt", "old");
   ReplaceFile(file, "new and longer");
@@ -35,7 +35,7 @@ TEST(Files, ReplacingKeepsThePermissions) {
   EXPECT_EQ(FileMode(file), 0640U);
 }
 
-TEST(Files, LeftoverOfACrashIsOverwritten) {
+TEST(Files, OverwritesTheTemporaryFileOfACrash) {
   TemporaryFolder folder;
   const std::filesystem::path file = folder.Write("a.txt", "old");
   folder.Write("a.txt.new", "half of something much longer than what comes now");
@@ -74,7 +74,7 @@ TEST(Files, WriteProtectedFileIsNotReplaced) {
   EXPECT_EQ(folder.Count(), 1U);
 }
 
-TEST(Files, MachinesErrorsAreToldFromWrongNames) {
+TEST(Files, DistinguishesMachineErrorsFromWrongNames) {
   for (const int error : {ENOSPC, EDQUOT, EFBIG, EIO, EMFILE})
     EXPECT_THROW(ThrowFileError("f", "%%1 cannot be written", error, "x"), StorageError) << error;
   for (const int error : {ENOENT, ENOTDIR, EACCES, EPERM, EROFS, EISDIR, 0}) {
@@ -85,14 +85,14 @@ TEST(Files, MachinesErrorsAreToldFromWrongNames) {
   }
 }
 
-TEST(Files, MissingFileAndFolderAreNamed) {
+TEST(Files, NamesAMissingFileOrFolder) {
   EXPECT_TRUE(support::Holds(support::ErrorText([] { ReadFile("/nowhere/a.txt"); }), "/nowhere/a.txt"));
   EXPECT_TRUE(
       support::Holds(support::ErrorText([] { ReplaceFile("/nowhere/a.txt", "x"); }), "/nowhere/a.txt"));
   EXPECT_TRUE(support::Holds(support::ErrorText([] { CreateFolder("/proc/nowhere"); }), "/proc/nowhere"));
 }
 
-TEST(Files, FolderAndPipeAreNoFiles) {
+TEST(Files, RejectsFoldersAndPipes) {
   TemporaryFolder folder;
   EXPECT_TRUE(support::Holds(support::ErrorText([&] { ReadFile(folder.Path()); }), "is no file"));
   const auto pipe = folder.Path() / "pipe";

@@ -23,7 +23,7 @@ std::string Po(const std::string& number, const std::string& text) {
   return "msgctxt \"" + number + "\"\nmsgid \"x\"\nmsgstr \"" + text + "\"\n\n";
 }
 
-TEST(LanguageService, ShowsTheTextAfterTheColonsWithoutATranslation) {
+TEST(LanguageService, ShowsTheEnglishTextWithoutATranslation) {
   const LanguageService service("", {});
   EXPECT_EQ(service.Translate("20702::No values", "KELD", {}), "No values");
   EXPECT_EQ(service.Translate("::", "KELD", {}), "");
@@ -31,13 +31,13 @@ TEST(LanguageService, ShowsTheTextAfterTheColonsWithoutATranslation) {
   EXPECT_EQ(service.Translate("99999999999::huge", "KELD", {}), "huge");
 }
 
-TEST(LanguageService, TextOfAnotherFormStays) {
+TEST(LanguageService, KeepsTextOfAnotherForm) {
   const LanguageService service("", {});
   for (const auto* text : {"", "plain", "Ratio::x", "12:x", "-1::x", " 1::x"})
     EXPECT_EQ(service.Translate(text, "KELD", {}), text);
 }
 
-TEST(LanguageService, ValuesStandInTheirPlacesAndTheTwoBlanksStay) {
+TEST(LanguageService, InsertsValuesAndKeepsTheTwoBlanks) {
   const LanguageService service("", {});
   EXPECT_EQ(
       service.Translate(kNotSupported, "KELD", {"Earth leakage", "NC"}),
@@ -45,7 +45,7 @@ TEST(LanguageService, ValuesStandInTheirPlacesAndTheTwoBlanksStay) {
       "Applicable.");
 }
 
-TEST(LanguageService, ValuesAreReplacedLiterallyAndOnce) {
+TEST(LanguageService, InsertsValuesLiterallyAndOnce) {
   EXPECT_EQ(WithValues("%%1 and %%2", {"%%2", "%%1"}), "%%2 and %%1");
   EXPECT_EQ(WithValues("%%1%%1", {"$&\\1"}), "$&\\1$&\\1");
   EXPECT_EQ(WithValues("%%2", {"only one"}), "%%2");
@@ -66,7 +66,7 @@ TEST(LanguageService, TranslatesByNumberAndModule) {
   EXPECT_EQ(service.Translate("20702::No values", "OTHER", {}), "host");
 }
 
-TEST(LanguageService, RegionOverwritesTheGeneralLanguage) {
+TEST(LanguageService, RegionOverridesTheGeneralLanguage) {
   TemporaryFolder folder;
   folder.Write("KELD.pt.po", Po("1", "um") + Po("2", "dois"));
   folder.Write("KELD.pt_BR.po", Po("2", "dois BR"));
@@ -75,12 +75,12 @@ TEST(LanguageService, RegionOverwritesTheGeneralLanguage) {
   EXPECT_EQ(service.Translate("2::two", "KELD", {}), "dois BR");
 }
 
-TEST(LanguageService, MissingFolderMeansEnglish) {
+TEST(LanguageService, UsesEnglishWithoutAFolder) {
   const LanguageService service("da", {"/nowhere"});
   EXPECT_EQ(service.Translate("1::one", "KELD", {}), "one");
 }
 
-TEST(LanguageService, MalformedFileAndLanguageAreRefused) {
+TEST(LanguageService, RejectsAMalformedFileOrLanguage) {
   TemporaryFolder folder;
   folder.Write("KELD.da.po", "rubbish");
   EXPECT_TRUE(support::Holds(support::ErrorText([&] { LanguageService("da", {folder.Path()}); }),
@@ -90,7 +90,7 @@ TEST(LanguageService, MalformedFileAndLanguageAreRefused) {
   EXPECT_EQ(support::ErrorText([&] { LanguageService("C.UTF-8", {folder.Path()}); }), "");
 }
 
-TEST(LanguageService, RewritesCaptionsInTheLanguageStringFormAndNoOthers) {
+TEST(LanguageService, TranslatesOnlyCaptionsWithATextNumber) {
   TemporaryFolder folder;
   folder.Write("KELD.da.po", Po("200", "GUIDE") + Po("20774", "Ledning 1"));
   const LanguageService service("da", {folder.Path()});
@@ -115,7 +115,7 @@ TEST(LanguageService, RewritesCaptionsInTheLanguageStringFormAndNoOthers) {
   EXPECT_EQ(combo->Items(), std::vector<std::string>{"1::item"});
 }
 
-TEST(LanguageService, EmptyPanelIsRefused) {
+TEST(LanguageService, RejectsAnEmptyPanel) {
   const LanguageService service("", {});
   EXPECT_EQ(support::ErrorNumber([&] { service.TranslateControls("KELD", nullptr); }),
             orvik::HostError::kEmptyReference);

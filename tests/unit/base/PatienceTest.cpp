@@ -27,7 +27,7 @@ class PatienceTest : public ::testing::Test {
   std::vector<std::string> remarks_;
 };
 
-TEST_F(PatienceTest, HasNoneUnlessItIsSet) {
+TEST_F(PatienceTest, DoesNotWaitByDefault) {
   int attempts = 0;
   EXPECT_THROW(WaitUntilFree([&] {
                  ++attempts;
@@ -37,7 +37,7 @@ TEST_F(PatienceTest, HasNoneUnlessItIsSet) {
   EXPECT_EQ(attempts, 1);
 }
 
-TEST_F(PatienceTest, TriesAgainUntilItIsFreeAndRemarksOnce) {
+TEST_F(PatienceTest, RetriesUntilFreeAndReportsOnce) {
   Wait(hours(1));
   int attempts = 0;
   const auto result = WaitUntilFree([&]() -> int {
@@ -49,13 +49,13 @@ TEST_F(PatienceTest, TriesAgainUntilItIsFreeAndRemarksOnce) {
   EXPECT_EQ(remarks_, std::vector<std::string>{"held"});
 }
 
-TEST_F(PatienceTest, EndsWithTheErrorWhenTheTimeIsUsedUp) {
+TEST_F(PatienceTest, RethrowsTheErrorAfterTheTimeout) {
   Wait(milliseconds(1));
   EXPECT_THROW(WaitUntilFree([] { Hold("held"); }), BusyError);
   EXPECT_FALSE(Patience::WaitsFor("another")) << "the time is one for all";
 }
 
-TEST_F(PatienceTest, PassesOtherErrorsOnAtOnce) {
+TEST_F(PatienceTest, RethrowsOtherErrorsAtOnce) {
   Wait(hours(1));
   EXPECT_THROW(WaitUntilFree([] { throw StorageError(75, "test", "full"); }), StorageError);
   EXPECT_TRUE(remarks_.empty());

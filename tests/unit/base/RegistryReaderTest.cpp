@@ -24,7 +24,7 @@ class RegistryReaderTest : public ::testing::Test {
   support::TemporaryFolder folder_;
 };
 
-TEST_F(RegistryReaderTest, MissingKeyDoesNotOpen) {
+TEST_F(RegistryReaderTest, DoesNotOpenAMissingKey) {
   auto reader = Reader();
   EXPECT_FALSE(reader.OpenKey(kHive, "Software\\X"));
   EXPECT_FALSE(reader.IsOpen());
@@ -33,7 +33,7 @@ TEST_F(RegistryReaderTest, MissingKeyDoesNotOpen) {
   EXPECT_EQ(support::ErrorNumber([&] { reader.WriteValue("v", "1"); }), HostError::kInvalidArgument);
 }
 
-TEST_F(RegistryReaderTest, CreatedKeyIsOpenAndThereForOthers) {
+TEST_F(RegistryReaderTest, CreatedKeyIsOpenAndVisibleToOthers) {
   auto reader = Reader();
   EXPECT_TRUE(reader.CreateKey(kHive, "Software\\X"));
   EXPECT_TRUE(reader.IsOpen());
@@ -45,7 +45,7 @@ TEST_F(RegistryReaderTest, CreatedKeyIsOpenAndThereForOthers) {
   EXPECT_EQ(other.ValueNames(), std::vector<std::string>{"v"});
 }
 
-TEST_F(RegistryReaderTest, AGuardedKeyIsWrittenByItsGuard) {
+TEST_F(RegistryReaderTest, WritesAGuardedKeyThroughItsGuard) {
   const auto store = std::make_shared<RegistryStore>(folder_.Path());
   RegistryReader reader(store, std::make_shared<ErrorLog>(folder_.Path()));
   std::vector<std::string> seen;
@@ -74,7 +74,7 @@ TEST_F(RegistryReaderTest, FailedOpenClosesTheKeyThatWasOpen) {
   EXPECT_FALSE(reader.IsOpen());
 }
 
-TEST_F(RegistryReaderTest, DamagedStoreDoesNotOpenAndIsLogged) {
+TEST_F(RegistryReaderTest, LogsADamagedStoreAndDoesNotOpen) {
   folder_.Write("registry.json", "{ cut");
   auto reader = Reader();
   EXPECT_FALSE(reader.OpenKey(kHive, "Software\\X"));
@@ -83,7 +83,7 @@ TEST_F(RegistryReaderTest, DamagedStoreDoesNotOpenAndIsLogged) {
   EXPECT_EQ(folder_.Read("registry.json"), "{ cut");
 }
 
-TEST_F(RegistryReaderTest, FailedWriteIsLoggedAndPassedOn) {
+TEST_F(RegistryReaderTest, LogsAndRethrowsAFailedWrite) {
   auto reader = Reader();
   ASSERT_TRUE(reader.CreateKey(kHive, "Software\\X"));
   std::filesystem::permissions(folder_.Path() / "registry.json", std::filesystem::perms::owner_read);

@@ -26,7 +26,7 @@ constexpr auto kStoreHive = static_cast<std::int32_t>(0x80000002U);
 constexpr char kStoreKey[] = "Software\\Telvane\\orvik\\KELD(IN)";
 constexpr char kInner[] = "Software\\Telvane\\orvik\\KELD(IN)\\MTI";
 
-TEST(RegistryStore, IsEmptyWithoutAFileAndMakesNone) {
+TEST(RegistryStore, IsEmptyWithoutAFileAndCreatesNone) {
   TemporaryFolder folder;
   const RegistryStore store(folder.Path());
   EXPECT_FALSE(store.HasKey(kStoreHive, kStoreKey));
@@ -35,7 +35,7 @@ TEST(RegistryStore, IsEmptyWithoutAFileAndMakesNone) {
   EXPECT_EQ(folder.Count(), 0U);
 }
 
-TEST(RegistryStore, ValuesComeBackInAnotherProgram) {
+TEST(RegistryStore, ReadsValuesOfAnotherProgram) {
   TemporaryFolder folder;
   RegistryStore(folder.Path()).Write(kStoreHive, kStoreKey, "LastMTI", "A\\\"\xC3\xB8\n17");
   RegistryStore(folder.Path()).Write(kStoreHive, kInner, "A17", std::int32_t{-35});
@@ -44,7 +44,7 @@ TEST(RegistryStore, ValuesComeBackInAnotherProgram) {
   EXPECT_EQ(store.Read(kStoreHive, kInner, "A17"), Variant(std::int32_t{-35}));
 }
 
-TEST(RegistryStore, IsEmptyAndCannotBeWrittenWithoutAFolder) {
+TEST(RegistryStore, IsEmptyAndReadOnlyWithoutAFolder) {
   RegistryStore store({});
   EXPECT_FALSE(store.HasKey(0, "Key"));
   EXPECT_EQ(store.Read(0, "Key", "v"), orvik::Variant());
@@ -55,7 +55,7 @@ TEST(RegistryStore, IsEmptyAndCannotBeWrittenWithoutAFolder) {
   EXPECT_FALSE(std::filesystem::exists("registry.json"));
 }
 
-TEST(RegistryStore, StateFolderIsCreatedByTheFirstWrite) {
+TEST(RegistryStore, FirstWriteCreatesTheStateFolder) {
   TemporaryFolder folder;
   RegistryStore store(folder.Path() / "a" / "b");
   store.CreateKey(kStoreHive, kStoreKey);
@@ -74,7 +74,7 @@ TEST(RegistryStore, KeyAboveAKeyExists) {
   EXPECT_FALSE(store.HasKey(static_cast<std::int32_t>(0x80000001U), kStoreKey));
 }
 
-TEST(RegistryStore, KeysAndNamesAreToldApartToTheLetter) {
+TEST(RegistryStore, KeysAndNamesAreCaseSensitive) {
   TemporaryFolder folder;
   RegistryStore store(folder.Path());
   store.Write(kStoreHive, kInner, "a17", std::int32_t{1});
@@ -83,21 +83,21 @@ TEST(RegistryStore, KeysAndNamesAreToldApartToTheLetter) {
   EXPECT_EQ(store.Read(kStoreHive, kInner, "A17"), Variant(std::int32_t{2}));
 }
 
-TEST(RegistryStore, SpareBackslashesDoNotMakeAnotherKey) {
+TEST(RegistryStore, IgnoresExtraBackslashesInKeys) {
   TemporaryFolder folder;
   RegistryStore store(folder.Path());
   store.Write(kStoreHive, "\\Software\\\\X\\", "v", "1");
   EXPECT_EQ(store.Read(kStoreHive, "Software\\X", "v"), Variant("1"));
 }
 
-TEST(RegistryStore, NamesAreInAlphabeticalOrder) {
+TEST(RegistryStore, ListsNamesAlphabetically) {
   TemporaryFolder folder;
   RegistryStore store(folder.Path());
   for (const auto* name : {"b", "C", "a"}) store.Write(kStoreHive, kInner, name, std::int32_t{1});
   EXPECT_EQ(store.Names(kStoreHive, kInner), (std::vector<std::string>{"C", "a", "b"}));
 }
 
-TEST(RegistryStore, OtherKindsOfValuesAreRefused) {
+TEST(RegistryStore, RejectsOtherTypesOfValues) {
   TemporaryFolder folder;
   RegistryStore store(folder.Path());
   for (const Variant& value : {Variant(), Variant(1.5), Variant(std::vector<std::string>{"a"})})
@@ -108,7 +108,7 @@ TEST(RegistryStore, OtherKindsOfValuesAreRefused) {
   EXPECT_FALSE(store.HasKey(kStoreHive, kStoreKey));
 }
 
-TEST(RegistryStore, WhatOthersPutIntoTheFileIsKept) {
+TEST(RegistryStore, KeepsUnknownEntriesOfTheFile) {
   TemporaryFolder folder;
   folder.Write("registry.json", R"({"format": "orvik registry", "version": 1, "extra": [1, 2],
     "keys": {"HKEY_LOCAL_MACHINE\\X": {"odd": [true], "n": 7}}})");
@@ -119,7 +119,7 @@ TEST(RegistryStore, WhatOthersPutIntoTheFileIsKept) {
   EXPECT_EQ(store.Read(kStoreHive, "X", "n"), Variant(std::int32_t{7}));
 }
 
-TEST(RegistryStore, ValuesOfAnotherKindInTheFileAreNamed) {
+TEST(RegistryStore, NamesValuesOfAnotherTypeInTheFile) {
   TemporaryFolder folder;
   folder.Write("registry.json", R"({"format": "orvik registry", "version": 1,
     "keys": {"HKEY_LOCAL_MACHINE\\X": {"big": 2147483648, "real": 1.5, "flag": true, "min": -2147483648}}})");
@@ -134,7 +134,7 @@ TEST(RegistryStore, ValuesOfAnotherKindInTheFileAreNamed) {
 
 class DamagedRegistry : public ::testing::TestWithParam<std::string> {};
 
-TEST_P(DamagedRegistry, IsRefusedByNameAndLeftAsItIs) {
+TEST_P(DamagedRegistry, IsRejectedByNameAndNotChanged) {
   TemporaryFolder folder;
   folder.Write("registry.json", GetParam());
   RegistryStore store(folder.Path());
@@ -160,7 +160,7 @@ INSTANTIATE_TEST_SUITE_P(
                       R"({"format": "orvik registry", "version": 1, "keys": {"X": 1}})",
                       std::string(100000, '['), "{\"a\":" + std::string(100000, '[')));
 
-TEST(RegistryStore, FolderInTheFilesPlaceIsRefused) {
+TEST(RegistryStore, RejectsAFolderOfThatName) {
   TemporaryFolder folder;
   std::filesystem::create_directory(folder.Path() / "registry.json");
   const RegistryStore store(folder.Path());
@@ -168,7 +168,7 @@ TEST(RegistryStore, FolderInTheFilesPlaceIsRefused) {
       support::Holds(support::ErrorText([&] { store.HasKey(kStoreHive, kStoreKey); }), "registry.json"));
 }
 
-TEST(RegistryStore, HeldLockIsReportedAndNothingIsWritten) {
+TEST(RegistryStore, ReportsAHeldLockAndWritesNothing) {
   TemporaryFolder folder;
   RegistryStore store(folder.Path());
   store.Write(kStoreHive, kStoreKey, "v", "old");
@@ -182,7 +182,7 @@ TEST(RegistryStore, HeldLockIsReportedAndNothingIsWritten) {
   EXPECT_EQ(store.Read(kStoreHive, kStoreKey, "v"), Variant("new"));
 }
 
-TEST(RegistryStore, ChangeOfAnotherProgramIsSeen) {
+TEST(RegistryStore, SeesAChangeByAnotherProgram) {
   TemporaryFolder folder;
   const RegistryStore reader(folder.Path());
   RegistryStore writer(folder.Path());
@@ -192,7 +192,7 @@ TEST(RegistryStore, ChangeOfAnotherProgramIsSeen) {
   }
 }
 
-TEST(RegistryStore, TwoProgramsLoseNothingOfEachOther) {
+TEST(RegistryStore, TwoProgramsLoseNoChanges) {
   TemporaryFolder folder;
   constexpr int kPrograms = 4;
   constexpr int kValues = 25;
@@ -220,7 +220,7 @@ TEST(RegistryStore, TwoProgramsLoseNothingOfEachOther) {
   EXPECT_EQ(RegistryStore(folder.Path()).Names(kStoreHive, kInner).size(), std::size_t{kPrograms * kValues});
 }
 
-TEST(RegistryStore, ProgramKilledWhileItWritesLeavesAWholeFile) {
+TEST(RegistryStore, KilledWriterLeavesACompleteFile) {
   std::mt19937 random(support::Seed());
   TemporaryFolder folder;
   RegistryStore(folder.Path()).Write(kStoreHive, kStoreKey, "kept", "kept");
@@ -252,7 +252,7 @@ TEST(RegistryStore, ProgramKilledWhileItWritesLeavesAWholeFile) {
   }
 }
 
-TEST(RegistryStore, StandInIsReadAndMakesTheKeyExistButIsNotWritten) {
+TEST(RegistryStore, ReadsAnOverrideWithoutWritingIt) {
   TemporaryFolder folder;
   RegistryStore store(folder.Path());
   store.StandIn(kStoreHive, kStoreKey, "Configuration", "<catalogue/>");

@@ -6,7 +6,7 @@ namespace host {
 namespace {
 
 // FIPS 180-4 and its examples.
-TEST(Sha256, DigestsAsTheStandardSays) {
+TEST(Sha256, MatchesTheExamplesOfTheStandard) {
   EXPECT_EQ(host::Sha256(""), "e3b0c44298fc1c149afbf4c8996fb92427ae41e4649b934ca495991b7852b855");
   EXPECT_EQ(host::Sha256("abc"), "ba7816bf8f01cfea414140de5dae2223b00361a396177a9cb410ff61f20015ad");
   EXPECT_EQ(host::Sha256("abcdbcdecdefdefgefghfghighijhijkijkljklmklmnlmnomnopnopq"),

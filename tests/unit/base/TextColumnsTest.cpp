@@ -5,7 +5,7 @@
 namespace host {
 namespace {
 
-TEST(TextColumns, StandUnderOneAnotherWhateverTheLanguage) {
+TEST(TextColumns, AlignInEveryLanguage) {
   EXPECT_EQ(
       Columned(
           {{"Nr.", "Ergebnis", "Seriennummer"}, {"7", "nicht bestanden", "A"}, {"12", "\u5408\u683C", "B"}},
@@ -15,11 +15,11 @@ TEST(TextColumns, StandUnderOneAnotherWhateverTheLanguage) {
       " 12  \u5408\u683C             B\n");
 }
 
-TEST(TextColumns, AVeryLongCellMovesItsOwnLineAlone) {
+TEST(TextColumns, AVeryLongCellShiftsOnlyItsOwnLine) {
   EXPECT_EQ(Columned({{"a", "b"}, {"longer than five", "c"}}, {}, 5), "a  b\nlonger than five  c\n");
 }
 
-TEST(TextColumns, NoBlanksStandAtAnEnd) {
+TEST(TextColumns, HaveNoTrailingBlanks) {
   EXPECT_EQ(Columned({{"a", "", "c"}, {"a", "", ""}, {}}), "a    c\na\n\n");
 }
 

@@ -35,7 +35,7 @@ TEST(Text, LowerCaseLeavesOtherBytesAlone) {
   EXPECT_EQ(LowerAscii("OrvikKELD.\xC3\x84[Z"), "orvikkeld.\xC3\x84[z");
 }
 
-TEST(Text, CaseIsThatOfTheLettersAToZ) {
+TEST(Text, IgnoresTheCaseOfAsciiLettersOnly) {
   EXPECT_TRUE(SameApartFromCase("OrvikTypeLib.Limit", "orviktypelib.LIMIT"));
   EXPECT_FALSE(SameApartFromCase("Limit", "Limits"));
   EXPECT_FALSE(SameApartFromCase("Ä", "ä"));
@@ -44,7 +44,7 @@ TEST(Text, CaseIsThatOfTheLettersAToZ) {
   EXPECT_NE(HashApartFromCase()("limit"), HashApartFromCase()("limits"));
 }
 
-TEST(Text, TheFirstByteThatIsNotUtf8IsFound) {
+TEST(Text, FindsTheFirstInvalidUtf8Byte) {
   EXPECT_EQ(InvalidUtf8(""), std::string_view::npos);
   EXPECT_EQ(InvalidUtf8("5 µA ≤ 10 µA"), std::string_view::npos);
   EXPECT_EQ(InvalidUtf8("abc\xFF"), 3U);
@@ -53,12 +53,12 @@ TEST(Text, TheFirstByteThatIsNotUtf8IsFound) {
   EXPECT_EQ(InvalidUtf8(std::string_view("a\0b", 3)), 1U);
 }
 
-TEST(Text, ValidUtf8StaysAsItIs) {
+TEST(Text, DoesNotChangeValidUtf8) {
   const std::string text = "a\xC3\xB8\xE2\x84\xA6\xF0\x9F\x94\x8C";
   EXPECT_EQ(ValidUtf8(text), text);
 }
 
-TEST(Text, BytesThatAreNotUtf8BecomeReplacementCharacters) {
+TEST(Text, ReplacesInvalidUtf8) {
   const std::string mark = "\xEF\xBF\xBD";
   EXPECT_EQ(ValidUtf8("a\xFFz"), "a" + mark + "z");
   EXPECT_EQ(ValidUtf8(std::string("a\0z", 3)), "a" + mark + "z");

@@ -50,7 +50,7 @@ TEST(TranslationFile, FuzzyAndEmptyEntriesCountAsNotTranslated) {
 
 TEST(TranslationFile, EmptyFileHasNoTexts) { EXPECT_TRUE(ReadTranslations("", "x").empty()); }
 
-TEST(TranslationFile, ByteOrderMarkIsPassedOver) {
+TEST(TranslationFile, IgnoresAByteOrderMark) {
   EXPECT_EQ(ReadTranslations("\xEF\xBB\xBFmsgctxt \"1\"\nmsgid \"a\"\nmsgstr \"A\"\n", "x").at(1), "A");
 }
 
@@ -61,7 +61,7 @@ struct MalformedTranslation {
 
 class MalformedTranslations : public ::testing::TestWithParam<MalformedTranslation> {};
 
-TEST_P(MalformedTranslations, AreRefusedWithFileAndLine) {
+TEST_P(MalformedTranslations, IsRejectedWithFileAndLine) {
   const auto text = support::ErrorText([] { ReadTranslations(GetParam().text, "KELD.da.po"); });
   EXPECT_TRUE(support::Holds(text, "KELD.da.po, " + std::string(GetParam().place))) << GetParam().text;
 }

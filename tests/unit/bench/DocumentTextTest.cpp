@@ -44,7 +44,7 @@ void ExpectShown(const std::string& text, std::ptrdiff_t lines, std::size_t plac
   EXPECT_EQ(found, places) << text;
 }
 
-TEST(DocumentText, WhatComesFromOutsideMovesNoCursorAndMakesNoLine) {
+TEST(DocumentText, EscapesControlCharacters) {
   report::DocumentView document;
   document.path = std::string("/tmp/") + kForged + ".orvik";
   document.equipment = {kForged, kForged, kForged, kForged};
@@ -70,7 +70,7 @@ TEST(DocumentText, AReadingThatDoesNotCountIsNotShown) {
   EXPECT_EQ(report::ReadingText(element), "-");
 }
 
-TEST(ProgressLinesText, WhatComesFromOutsideMovesNoCursorAndMakesNoLine) {
+TEST(ProgressLinesText, EscapesControlCharacters) {
   app::VirtualLine line;
   std::ostringstream out;
   cli::ProgressLines progress(out, -1, line.SharedLoop(), 1);

@@ -19,7 +19,7 @@ class ExchangeViewTest : public testing::Test {
       line_.Wire().Subscribe([this](const serial::WireRecord& record) { view_.Take(record); });
 };
 
-TEST_F(ExchangeViewTest, CountsHowOftenACommandIsSentInVain) {
+TEST_F(ExchangeViewTest, CountsUnansweredAttempts) {
   line_.Open();
   EXPECT_EQ(AttemptAfterSending({"410", "0"}), 1);
   EXPECT_EQ(AttemptAfterSending({"410", "0"}), 2);
@@ -29,7 +29,7 @@ TEST_F(ExchangeViewTest, CountsHowOftenACommandIsSentInVain) {
 }
 
 // Test 210 is ended by the command that starts it.
-TEST_F(ExchangeViewTest, ThereIsNoFourthAttempt) {
+TEST_F(ExchangeViewTest, NeverShowsAFourthAttempt) {
   line_.Open();
   for (const int attempt : {1, 2, 3, 1, 2, 3}) EXPECT_EQ(AttemptAfterSending({"210", "0"}), attempt);
 }

@@ -19,7 +19,7 @@ class RunEstimateTest : public testing::Test {
   orvik::platform::Subscription heard_;
 };
 
-TEST_F(RunEstimateTest, NothingIsLeftOfWhatWasNotPlanned) {
+TEST_F(RunEstimateTest, IgnoresElementsThatWereNotPlanned) {
   EXPECT_EQ(estimate_.Left(line_.Now()), 0s);
   EXPECT_EQ(estimate_.Text(line_.Now(), 1.0), "");
   estimate_.Plan({1});
@@ -57,7 +57,7 @@ TEST_F(RunEstimateTest, ARepeatedCommandIsNoProgress) {
   EXPECT_EQ(estimate_.Left(line_.Now()), 5 * 3500ms);
 }
 
-TEST_F(RunEstimateTest, NeverBelowNothing) {
+TEST_F(RunEstimateTest, IsNeverNegative) {
   estimate_.Plan({1});
   estimate_.Reach(1);
   line_.Open();
@@ -65,7 +65,7 @@ TEST_F(RunEstimateTest, NeverBelowNothing) {
   EXPECT_EQ(estimate_.Left(line_.Now()), 0s);
 }
 
-TEST_F(RunEstimateTest, TellsMinutesAndSecondsOfTheWall) {
+TEST_F(RunEstimateTest, ShowsMinutesAndSecondsOfRealTime) {
   estimate_.Plan({9});
   estimate_.Reach(1);
   line_.Open();

@@ -23,7 +23,7 @@ TEST_F(StopProgressTest, WithoutASessionOnlyTheDocumentIsLeft) {
   EXPECT_EQ(stop_.Text(), "Already stopping: the document is being saved.");
 }
 
-TEST_F(StopProgressTest, TwoCommandsCloseTheSessionOnceTheTestsOwnHasItsReply) {
+TEST_F(StopProgressTest, TwoCommandsCloseTheSessionAfterTheLastReply) {
   line_.Open();
   line_.Send("GRES", {"410", "0"});
   stop_.Begin();
@@ -85,7 +85,7 @@ TEST_F(StopProgressTest, EachAttemptShortensWhatIsLeft) {
   EXPECT_EQ(stop_.Remaining(), 0s);
 }
 
-TEST_F(StopProgressTest, SaysWhatItWaitsForInSecondsOfTheWall) {
+TEST_F(StopProgressTest, ShowsTheWaitInSecondsOfRealTime) {
   line_.Open();
   line_.Send("IREM");
   stop_.Begin();

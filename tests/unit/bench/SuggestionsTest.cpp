@@ -9,7 +9,7 @@ const std::vector<std::string> kCommands{"tests",     "new",   "add",    "remove
                                          "limit",     "check", "config", "run",    "show", "report",
                                          "standards", "gui",   "help",   "archive"};
 
-TEST(Suggestions, FindWhatWasMeantByAMistypedCommand) {
+TEST(Suggestions, FindTheIntendedCommand) {
   const std::vector<std::pair<const char*, const char*>> typed{
       {"rnu", "run"},     {"ru", "run"},        {"runn", "run"},        {"shwo", "show"},
       {"RUN", "run"},     {"reprot", "report"}, {"stand", "standards"}, {"confg", "config"},
@@ -23,7 +23,7 @@ TEST(Suggestions, LeaveOtherWordsAlone) {
   EXPECT_EQ(cli::Nearest(std::string(100000, 'r'), kCommands), "");
 }
 
-TEST(Suggestions, FindOptionsWhateverTheirDashes) {
+TEST(Suggestions, FindOptionsWithAnyDashes) {
   const std::vector<std::string> options{"-h", "--help", "--element", "--low", "--high"};
   EXPECT_EQ(cli::Nearest("--elemnt", options), "--element");
   EXPECT_EQ(cli::Nearest("-element", options), "--element");
@@ -31,7 +31,7 @@ TEST(Suggestions, FindOptionsWhateverTheirDashes) {
   EXPECT_EQ(cli::Nearest("--lwo", options), "--low");
 }
 
-TEST(Suggestions, AreAskedAsAQuestion) {
+TEST(Suggestions, ArePhrasedAsAQuestion) {
   EXPECT_EQ(cli::UnknownCommand("rnu", kCommands), "unknown command \"rnu\": did you mean \"run\"?");
   EXPECT_EQ(cli::UnknownCommand("fly", kCommands), "unknown command \"fly\"");
 }

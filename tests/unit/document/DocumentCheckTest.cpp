@@ -46,7 +46,7 @@ class DocumentCheckTest : public support::HostFixture {
   }
 };
 
-TEST_F(DocumentCheckTest, NothingIsWrongWithWhatTheProgramWrites) {
+TEST_F(DocumentCheckTest, FindsNothingInASavedDocument) {
   const auto document = document::Document::Create(host_, folder_.Path() / "a.orvik");
   document->AddTest(100);
   document->Find(2)->Limits()->CreateStandard("S", "")->Limit(1)->SetBounds("1", "2");
@@ -55,7 +55,7 @@ TEST_F(DocumentCheckTest, NothingIsWrongWithWhatTheProgramWrites) {
   EXPECT_EQ(told.notes, std::vector<std::string>{});
 }
 
-TEST_F(DocumentCheckTest, EverythingIsToldNotOnlyTheFirstThing) {
+TEST_F(DocumentCheckTest, ReportsEveryProblem) {
   const auto told = Check(With(Test("1") + "\n" + Test("1") + "\n  " +
                                Test("x", "<ResultItem><Status>7</Status></ResultItem>") + "\n" +
                                Group("3", "\n" + Test("4",
@@ -174,7 +174,7 @@ class FaultyDocument : public DocumentCheckTest, public testing::WithParamInterf
   }
 };
 
-TEST_P(FaultyDocument, IsToldWithItsPlaceAndNothingElseIs) {
+TEST_P(FaultyDocument, IsReportedAloneWithItsPlace) {
   const auto told = Check(GetParam().text);
   ASSERT_EQ(told.wrong.size(), 1U) << (told.wrong.empty() ? "" : told.wrong.back());
   EXPECT_TRUE(support::Holds(told.wrong[0], GetParam().told));
@@ -191,7 +191,7 @@ TEST_F(DocumentCheckTest, BytesThatAreNotUtf8AreReportedOnceALine) {
   EXPECT_TRUE(support::Holds(told.wrong[1], "3:10 there are bytes that are not UTF-8"));
 }
 
-TEST_F(DocumentCheckTest, AnotherEncodingIsANote) {
+TEST_F(DocumentCheckTest, ReportsAnotherEncodingAsANote) {
   const auto told = Check(
       "<?xml version='1.0' encoding='iso-8859-1'?>\n"
       "<OrvikDocument Version='1'><Equipment Asset='\xE6'/></OrvikDocument>");
@@ -200,7 +200,7 @@ TEST_F(DocumentCheckTest, AnotherEncodingIsANote) {
             std::vector<std::string>{"1:1 the file is in the encoding \"iso-8859-1\"; saving writes UTF-8"});
 }
 
-TEST_F(DocumentCheckTest, WhatIsNotKnownIsANote) {
+TEST_F(DocumentCheckTest, ReportsUnknownXmlAsANote) {
   const auto told = Check(
       "<OrvikDocument Version='1' Extra='e'>\n<Equipment Room='r'/>\n<Signature/>\n<Elements>" +
       Test("1",
@@ -220,14 +220,14 @@ TEST_F(DocumentCheckTest, KnowsTheMarksOfAnElement) {
   EXPECT_EQ(told.notes, std::vector<std::string>{});
 }
 
-TEST_F(DocumentCheckTest, WhatStandsBeforeTheFaultIsLookedAtToo) {
+TEST_F(DocumentCheckTest, AlsoChecksXmlBeforeAFault) {
   const auto told = Check(With(Test("1") + "\n" + Test("1") + "\n<TestElement TestID='110'\n"));
   ASSERT_EQ(told.wrong.size(), 2U);
   EXPECT_TRUE(support::Holds(told.wrong[0], "3:1 the identifier 1 is used twice"));
   EXPECT_TRUE(support::Holds(told.wrong[1], "nothing behind this place could be looked at"));
 }
 
-TEST_F(DocumentCheckTest, NestingOfAnyDepthIsToldOnce) {
+TEST_F(DocumentCheckTest, ReportsTooDeepNestingOnce) {
   std::string text;
   for (int level = 1; level <= 5000; ++level)
     text += "<TestElement ID='" + std::to_string(level) +
@@ -238,7 +238,7 @@ TEST_F(DocumentCheckTest, NestingOfAnyDepthIsToldOnce) {
   EXPECT_TRUE(support::Holds(told.wrong[0], "nested more than " + std::to_string(elements::kDeepestNesting)));
 }
 
-TEST_F(DocumentCheckTest, NothingWrongMeansThatItCanBeOpened) {
+TEST_F(DocumentCheckTest, ADocumentWithoutProblemsCanBeOpened) {
   std::mt19937 random(support::Seed());
   const auto document = document::Document::Create(host_, folder_.Path() / "a.orvik");
   document->AddTest(100);

@@ -93,7 +93,7 @@ TEST_F(DocumentEditTest, RemovesWithAllBelow) {
   EXPECT_EQ(document_->AddTest(110)->ID(), 4) << "the identifier of a removed element was given again";
 }
 
-TEST_F(DocumentEditTest, AnIdentifierThatARecordNamesIsNotGivenAgain) {
+TEST_F(DocumentEditTest, NeverReusesAnIdentifierOfARecord) {
   const std::string runs =
       "<Runs><Run Number='1' Simulated='0' TimeScale='1'><Takes Elements='1 7'/></Run>"
       "<Run Number='2' Simulated='0' TimeScale='1'><Takes Elements='6'/></Run></Runs>";
@@ -104,7 +104,7 @@ TEST_F(DocumentEditTest, AnIdentifierThatARecordNamesIsNotGivenAgain) {
   }
 }
 
-TEST_F(DocumentEditTest, TheCommentReadsBackAndIsNotPartOfTheEquipment) {
+TEST_F(DocumentEditTest, SavesTheCommentApartFromTheEquipment) {
   EXPECT_EQ(document_->Text().find("Comment"), std::string::npos);
   const auto equipment = document_->equipment;
   document_->comment = "<1 & 2>";
@@ -114,7 +114,7 @@ TEST_F(DocumentEditTest, TheCommentReadsBackAndIsNotPartOfTheEquipment) {
   EXPECT_EQ(again->Text(), document_->Text());
 }
 
-TEST_F(DocumentEditTest, ThePlanOfAnotherDocumentIsTakenWithoutItsResults) {
+TEST_F(DocumentEditTest, CopiesAPlanWithoutResults) {
   const auto other = Opened(
       "<OrvikDocument Version='1'><Equipment Asset='A'/><Elements>"
       "<TestElement ID='9' TestID='200' PlugInID='SAMPLE' Class='Sample.Sequence' Seen='1'>"

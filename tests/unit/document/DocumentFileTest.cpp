@@ -24,7 +24,7 @@ using support::Holds;
 using support::TemporaryFolder;
 using Use = document::DocumentFile::Use;
 
-TEST(DocumentFile, NewFileComesIntoBeingWithTheFirstWrite) {
+TEST(DocumentFile, FirstWriteCreatesTheFile) {
   TemporaryFolder folder;
   auto file = document::DocumentFile::New(folder.Path() / "a.orvik");
   EXPECT_EQ(folder.Count(), 0U);
@@ -36,7 +36,7 @@ TEST(DocumentFile, NewFileComesIntoBeingWithTheFirstWrite) {
   EXPECT_EQ(folder.Count(), 1U);
 }
 
-TEST(DocumentFile, NewFileNeverReplacesOneThatIsThere) {
+TEST(DocumentFile, NewFileNeverReplacesAnExistingOne) {
   TemporaryFolder folder;
   folder.Write("a.orvik", "there");
   EXPECT_TRUE(
@@ -76,14 +76,14 @@ TEST(DocumentFile, NewFileIsLockedFromItsFirstWrite) {
                              "open in another program"));
 }
 
-TEST(DocumentFile, FileForReadingCannotBeWritten) {
+TEST(DocumentFile, RejectsWritingAFileOpenedForReading) {
   TemporaryFolder folder;
   auto file = document::DocumentFile::Existing(folder.Write("a.orvik", "old"), Use::kRead);
   EXPECT_TRUE(support::Holds(support::ErrorText([&] { file.Write("new"); }), "reading only"));
   EXPECT_EQ(folder.Read("a.orvik"), "old");
 }
 
-TEST(DocumentFile, ChangeByAProgramThatDoesNotLockIsNoticed) {
+TEST(DocumentFile, DetectsAChangeByAProgramWithoutALock) {
   TemporaryFolder folder;
   const std::filesystem::path path = folder.Write("a.orvik", "old");
   auto file = document::DocumentFile::Existing(path, Use::kWrite);
@@ -95,7 +95,7 @@ TEST(DocumentFile, ChangeByAProgramThatDoesNotLockIsNoticed) {
   EXPECT_TRUE(support::Holds(support::ErrorText([&] { file.Write("new"); }), "changed by another program"));
 }
 
-TEST(DocumentFile, LinkIsFollowed) {
+TEST(DocumentFile, FollowsALink) {
   TemporaryFolder folder;
   const std::filesystem::path path = folder.Write("real.orvik", "old");
   std::filesystem::create_symlink(path, folder.Path() / "link.orvik");
@@ -104,7 +104,7 @@ TEST(DocumentFile, LinkIsFollowed) {
   EXPECT_TRUE(std::filesystem::is_symlink(folder.Path() / "link.orvik"));
 }
 
-TEST(DocumentFile, MissingFileIsNamed) {
+TEST(DocumentFile, NamesAMissingFile) {
   EXPECT_TRUE(support::Holds(
       support::ErrorText([] { document::DocumentFile::Existing("/nowhere/a.orvik", Use::kRead); }),
       "/nowhere/a.orvik"));
@@ -133,14 +133,14 @@ TEST(DocumentFile, RefusesAWriteProtectedFile) {
   EXPECT_EQ(folder.Count(), 1U);
 }
 
-TEST(DocumentFile, SecondProgramIsToldToTryAgain) {
+TEST(DocumentFile, TellsASecondProgramToTryAgain) {
   TemporaryFolder folder;
   const std::filesystem::path path = folder.Write("a.orvik", "old");
   const auto first = document::DocumentFile::Existing(path, Use::kWrite);
   EXPECT_THROW(document::DocumentFile::Existing(path, Use::kWrite), BusyError);
 }
 
-TEST(DocumentFile, OfProgramsThatCreateOneNameOneSucceeds) {
+TEST(DocumentFile, OnlyOneProgramCreatesAName) {
   constexpr int kPrograms = 8;
   TemporaryFolder folder;
   std::vector<pid_t> programs;
@@ -167,7 +167,7 @@ TEST(DocumentFile, NewFileHasNoNameUntilItIsComplete) {
   EXPECT_EQ(folder.Count(), 0U) << "a program that is killed now leaves nothing";
 }
 
-TEST(DocumentFile, NewFileWithAnEarlyNameIsGoneUnlessItGetsItsOwn) {
+TEST(DocumentFile, RemovesAnUnusedFileWithAnEarlyName) {
   TemporaryFolder folder;
   const auto path = folder.Path() / "a.orvik";
   const auto create = [&] { return FreshFile::ForNewName(path, "contents", FreshFile::Names::kEarly); };
@@ -195,7 +195,7 @@ TEST(DocumentFile, FailedWriteOfANewFileLeavesNothing) {
   EXPECT_EQ(folder.Count(), 0U);
 }
 
-TEST(DocumentFile, GoesOnAfterAFailedFlushOfTheFolder) {
+TEST(DocumentFile, ContinuesAfterAFailedFlushOfTheFolder) {
   TemporaryFolder folder;
   const std::filesystem::path path = folder.Write("a.orvik", "old");
   auto file = document::DocumentFile::Existing(path, Use::kWrite);
@@ -210,7 +210,7 @@ TEST(DocumentFile, GoesOnAfterAFailedFlushOfTheFolder) {
   EXPECT_EQ(folder.Read("a.orvik"), "newer");
 }
 
-TEST(DocumentFile, ProgramKilledWhileItWritesLeavesTheOldOrTheNewFile) {
+TEST(DocumentFile, KilledWriterLeavesTheOldOrTheNewFile) {
   std::mt19937 random(support::Seed());
   TemporaryFolder folder;
   const std::filesystem::path path = folder.Write("a.orvik", std::string(50000, 'a'));

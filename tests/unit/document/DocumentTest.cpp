@@ -79,7 +79,7 @@ TEST_F(DocumentTest, EverythingReadsBack) {
   EXPECT_EQ(again->Text(), document->Text());
 }
 
-TEST_F(DocumentTest, IdentifiersAreGivenInDocumentOrderFromOne) {
+TEST_F(DocumentTest, NumbersElementsInDocumentOrderFromOne) {
   const auto document = New();
   document->AddTest(110);
   const auto group = document->AddTest(100);
@@ -95,7 +95,7 @@ TEST_F(DocumentTest, IdentifiersAreGivenInDocumentOrderFromOne) {
   EXPECT_EQ(document->Find(8), nullptr);
 }
 
-TEST_F(DocumentTest, IdentifiersGoOnAfterTheHighestThatWasRead) {
+TEST_F(DocumentTest, NumbersContinueAfterTheHighestLoaded) {
   const auto document = Opened(
       "<OrvikDocument Version='1'><Elements><TestElement ID='3' TestID='110' PlugInID='SAMPLE'/>"
       "<TestElement ID='9' TestID='1' PlugInID='GONE'><TestElement ID='41' TestID='1'/></TestElement>"
@@ -117,7 +117,7 @@ TEST_F(DocumentTest, UnknownTestIsNamed) {
   EXPECT_TRUE(support::Holds(support::ErrorText([&] { New()->AddTest(411); }), "no test 411"));
 }
 
-TEST_F(DocumentTest, AddedTestIsACopyOfTheCatalogues) {
+TEST_F(DocumentTest, AddsACopyOfTheCataloguesTest) {
   const auto document = New();
   document->AddTest(110)->Information()->SetDisplayName("changed");
   EXPECT_EQ(document->AddTest(110)->Information()->DisplayName(), "Voltage");
@@ -144,7 +144,7 @@ TEST_F(DocumentTest, OtherEncodingsAreReadAndSavedAsUtf8) {
   }
 }
 
-TEST_F(DocumentTest, NestingBeyondTheBoundIsRefusedWithoutTryingIt) {
+TEST_F(DocumentTest, RejectsTooDeepNestingBeforeLoading) {
   for (const int levels : {elements::kDeepestNesting + 1, 10000}) {
     std::string text = "<OrvikDocument Version='1'><Elements>";
     for (int level = 1; level <= levels; ++level)
@@ -162,7 +162,7 @@ TEST_F(DocumentTest, DeepestAllowedDocumentReadsBack) {
   EXPECT_EQ(Reopen()->Text(), document->Text());
 }
 
-TEST_F(DocumentTest, DocumentThatIsTooDeepIsNotSavedAndTheFileStays) {
+TEST_F(DocumentTest, DoesNotSaveATooDeepDocument) {
   const auto document = New();
   document->AddTest(110);
   document->Save();
@@ -173,7 +173,7 @@ TEST_F(DocumentTest, DocumentThatIsTooDeepIsNotSavedAndTheFileStays) {
   EXPECT_EQ(folder_.Read("a.orvik"), before);
 }
 
-TEST_F(DocumentTest, DeepPartsThatItDoesNotKnowAreKept) {
+TEST_F(DocumentTest, KeepsDeepUnknownXml) {
   std::string deep;
   for (int i = 0; i < 10000; ++i) deep += "<x>";
   for (int i = 0; i < 10000; ++i) deep += "</x>";
@@ -182,7 +182,7 @@ TEST_F(DocumentTest, DeepPartsThatItDoesNotKnowAreKept) {
   EXPECT_EQ(Reopen("again.orvik")->Text(), document->Text());
 }
 
-TEST_F(DocumentTest, DeepPartsThatItDoesNotKnowAreKeptBesideElements) {
+TEST_F(DocumentTest, KeepsDeepUnknownXmlBesideElements) {
   std::string deep;
   for (int i = 0; i < 300; ++i) deep += "<x>";
   for (int i = 0; i < 300; ++i) deep += "</x>";
@@ -197,7 +197,7 @@ TEST_F(DocumentTest, DeepPartsThatItDoesNotKnowAreKeptBesideElements) {
   EXPECT_EQ(again->Text(), text);
 }
 
-TEST_F(DocumentTest, WhatItDoesNotKnowIsWrittenBack) {
+TEST_F(DocumentTest, KeepsUnknownXml) {
   const auto text =
       Opened(
           "<!--top--><OrvikDocument Version='1' Extra='e'><Equipment Asset='a' Room='r'><Photo/></Equipment>"
@@ -209,7 +209,7 @@ TEST_F(DocumentTest, WhatItDoesNotKnowIsWrittenBack) {
     EXPECT_TRUE(support::Holds(text, part));
 }
 
-TEST_F(DocumentTest, LineBreaksInAnEmptyElementAreNoContent) {
+TEST_F(DocumentTest, IgnoresLineBreaksInAnEmptyElement) {
   const auto text = Opened(
                         "<OrvikDocument Version='1'>\n  <Equipment Asset='a'>\n  </Equipment>\n"
                         "  <More>\n  </More>\n</OrvikDocument>")
@@ -219,7 +219,7 @@ TEST_F(DocumentTest, LineBreaksInAnEmptyElementAreNoContent) {
   EXPECT_EQ(Opened(text)->Text(), text);
 }
 
-TEST_F(DocumentTest, ReferencesThatMeanThemselvesAreWrittenBack) {
+TEST_F(DocumentTest, KeepsReferencesInCommentsAndText) {
   const auto text = Opened(
                         "<OrvikDocument Version='1'><!--&#0;--><Photo><![CDATA[&#xD800;]]></Photo>"
                         "<More Kept='&#;&#x;&#0&#x1;&#9;&#x1F600;&#00065;&amp;#0;'/></OrvikDocument>")
@@ -240,7 +240,7 @@ TEST_F(DocumentTest, SavingTwiceGivesTheSameText) {
 }
 
 // Elements are written one after the other; the text is that of the whole tree.
-TEST_F(DocumentTest, ElementsStandInThePlaceWhereTheyBelong) {
+TEST_F(DocumentTest, WritesElementsInTheirPlace) {
   const std::string element =
       "    <TestElement ID=\"%\" TestID=\"1\" PlugInID=\"gone\" Class=\"gone.Test\">\n"
       "      <Information DisplayName=\"5 &lt; 6 &amp; 7\" />\n"
@@ -280,7 +280,7 @@ TEST_F(DocumentTest, TwoProgramsCannotBothOpenItForWriting) {
   EXPECT_NE(Reopen(), nullptr);
 }
 
-TEST_F(DocumentTest, GoesOnUnderAnotherName) {
+TEST_F(DocumentTest, SavesUnderAnotherName) {
   const auto document = New();
   document->Save();
   document->equipment.asset = "moved";
@@ -367,7 +367,7 @@ std::string Described(const document::Document& document) {
   return text;
 }
 
-TEST_F(DocumentTest, AnyDocumentReadsBackAsItWas) {
+TEST_F(DocumentTest, AnyDocumentIsReadBackUnchanged) {
   std::mt19937 random(support::Seed());
   for (int round = 0; round < 100; ++round) {
     const auto name = std::to_string(round) + ".orvik";

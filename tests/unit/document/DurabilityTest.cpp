@@ -52,7 +52,7 @@ std::vector<std::string> Safely(const std::string& file, const TemporaryFolder& 
   return {"flush " + file + ".new", "rename " + file + ".new " + file, "flush " + NameOf(folder.Path())};
 }
 
-TEST(Durability, ADocumentIsOnTheDiskWhenItIsSaved) {
+TEST(Durability, FlushesASavedDocument) {
   TemporaryFolder folder;
   auto file =
       document::DocumentFile::Existing(folder.Write("a.orvik", "old"), document::DocumentFile::Use::kWrite);
@@ -61,7 +61,7 @@ TEST(Durability, ADocumentIsOnTheDiskWhenItIsSaved) {
   EXPECT_EQ(Done(), Safely("a.orvik", folder));
 }
 
-TEST(Durability, ANewDocumentIsOnTheDiskWhenItIsSaved) {
+TEST(Durability, FlushesANewDocument) {
   TemporaryFolder folder;
   auto file = document::DocumentFile::New(folder.Path() / "a.orvik");
   Done().clear();
@@ -72,7 +72,7 @@ TEST(Durability, ANewDocumentIsOnTheDiskWhenItIsSaved) {
   EXPECT_EQ(Done().back(), "flush " + NameOf(folder.Path()));
 }
 
-TEST(Durability, ASettingIsOnTheDiskWhenItIsWritten) {
+TEST(Durability, FlushesASetting) {
   TemporaryFolder folder;
   RegistryStore store(folder.Path());
   Done().clear();
@@ -80,7 +80,7 @@ TEST(Durability, ASettingIsOnTheDiskWhenItIsWritten) {
   EXPECT_EQ(Done(), Safely("registry.json", folder));
 }
 
-TEST(Durability, AnEntryOfTheErrorLogIsOnTheDiskUnlessItRepeatsTheOneBefore) {
+TEST(Durability, FlushesErrorLogEntriesUnlessRepeated) {
   TemporaryFolder folder;
   ErrorLog log(folder.Path());
   Done().clear();

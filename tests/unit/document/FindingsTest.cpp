@@ -6,7 +6,7 @@
 namespace host {
 namespace {
 
-TEST(Findings, AreToldAsTheyStandInTheText) {
+TEST(Findings, AreSortedByTheirPlaceInTheText) {
   const std::string text = "<A>\n <B>\xC3\xB8<C/></B>\n</A>";
   pugi::xml_document xml;
   xml::Parse(text, xml);

@@ -21,7 +21,7 @@ namespace classes = orvik::HostClasses;
 
 class HostTest : public support::HostFixture {};
 
-TEST_F(HostTest, CreatesItsClassesWithoutRegardToCase) {
+TEST_F(HostTest, CreatesClassesIgnoringCase) {
   for (const auto* id :
        {classes::kTestElement, classes::kTestContainer, classes::kStandardColl, classes::kStandard,
         classes::kLimit, classes::kServiceRecord, classes::kInstrumentRecord, classes::kLanguageService,
@@ -64,7 +64,7 @@ TEST_F(HostTest, ClassesOfLibrariesAreCreatedToo) {
   EXPECT_NE(Make<orvik::ITestElement>(sample::kSequence), nullptr);
 }
 
-TEST_F(HostTest, CatalogueStandsInForTheOneInTheRegistry) {
+TEST_F(HostTest, GivenCatalogueReplacesTheRegistrys) {
   const auto other = document::Host::Create({folder_.Path(), "", "<TemplateData/>", {}}, nullptr);
   const auto reader = orvik::As<orvik::IRegistryReader>(other->CreateObject(classes::kRegistryReader));
   constexpr auto kHive = static_cast<std::int32_t>(0x80000002U);
@@ -75,7 +75,7 @@ TEST_F(HostTest, CatalogueStandsInForTheOneInTheRegistry) {
   EXPECT_FALSE(plain->OpenKey(kHive, "Software\\Telvane\\orvik\\KELD(IN)"));
 }
 
-TEST_F(HostTest, LanguageIsTheOneOfTheSettings) {
+TEST_F(HostTest, UsesTheLanguageOfTheSettings) {
   folder_.Write("KELD.da.po", "msgctxt \"1\"\nmsgid \"x\"\nmsgstr \"dansk\"\n");
   const auto danish = document::Host::Create({folder_.Path(), "da", {}, {folder_.Path()}}, nullptr);
   const auto service = orvik::As<orvik::ILanguageService>(danish->CreateObject(classes::kLanguageService));
@@ -92,7 +92,7 @@ TEST_F(HostTest, ClosedHostHasNoPlugIns) {
             HostError::kClassNotRegistered);
 }
 
-TEST_F(HostTest, HostGoesWithItsLastReference) {
+TEST_F(HostTest, IsReleasedWithItsLastReference) {
   const std::weak_ptr<document::Host> weak = host_;
   const auto element = Element(1);
   host_->Close();
@@ -113,7 +113,7 @@ TEST_F(HostTest, BaseElementIsFoundBehindItsOuterOne) {
   EXPECT_EQ(orvik::As<sample::ISampleTest>(copy)->BaseElement, host_->Elements()->BaseOf(copy));
 }
 
-TEST_F(HostTest, BaseElementIsFoundWhateverTextsTheOuterOneShows) {
+TEST_F(HostTest, BaseElementIsFoundWithAnyOuterTexts) {
   const auto element = Element(1);
   const auto other = Element(2);
   const auto sample = orvik::As<sample::ISampleTest>(element);
@@ -135,7 +135,7 @@ TEST_F(HostTest, BaseElementIsFoundWhateverTextsTheOuterOneShows) {
   EXPECT_EQ(host_->Elements()->BaseOf(element), nullptr);
 }
 
-TEST_F(HostTest, WhoeverKeepsTheTextsDoesNotKeepTheElement) {
+TEST_F(HostTest, TextsDoNotKeepTheElementAlive) {
   auto element = Element(1);
   const std::weak_ptr<orvik::ITestElement> weak = element;
   const std::weak_ptr<orvik::IBaseElement> base = orvik::As<sample::ISampleTest>(element)->BaseElement;
@@ -163,7 +163,7 @@ TEST_F(HostTest, BaseElementsOfManyAreFoundWhileSomeAreReleased) {
   }
 }
 
-TEST_F(HostTest, FilesThatAreNoPlugInAreRefusedByName) {
+TEST_F(HostTest, RejectsFilesThatAreNotPlugInsByName) {
   const std::filesystem::path text = folder_.Write("notes.so", "just text");
   EXPECT_TRUE(support::Holds(support::ErrorText([&] { host_->OpenPlugIn(text); }),
                              "notes.so cannot be used as a plug-in"));

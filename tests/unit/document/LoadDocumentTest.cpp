@@ -121,7 +121,7 @@ TEST_F(LoadDocument, ReportsTheLineOfAFault) {
   EXPECT_TRUE(support::Holds(Refusal(DocumentText(good) + DocumentText(good)), "second root element"));
 }
 
-TEST_F(LoadDocument, RefusesAnIdentifierUsedTwice) {
+TEST_F(LoadDocument, RejectsADuplicateIdentifier) {
   EXPECT_TRUE(support::Holds(Refusal(DocumentText(ElementText(7) + ElementText(3) + ElementText(3))),
                              "the identifier 3 is used twice"));
   EXPECT_TRUE(support::Holds(Refusal(DocumentText(ElementText(7) + ElementText(3) + ElementText(7))),
@@ -129,7 +129,7 @@ TEST_F(LoadDocument, RefusesAnIdentifierUsedTwice) {
   EXPECT_EQ(Opened(DocumentText(ElementText(7) + ElementText(3) + ElementText(5)))->Elements()->Count(), 3);
 }
 
-TEST_F(LoadDocument, RefusesASecondSection) {
+TEST_F(LoadDocument, RejectsASecondSection) {
   const std::string sections[] = {"  <Equipment Asset=\"1\" />\n", "  <Standards />\n", "  <Instruments />\n",
                                   "  <Runs />\n"};
   for (const auto& section : sections) {

@@ -15,7 +15,7 @@ struct DocumentFault {
 
 class MalformedDocument : public support::HostFixture, public ::testing::WithParamInterface<DocumentFault> {};
 
-TEST_P(MalformedDocument, IsRefusedWithFileAndReasonAndLeftAsItIs) {
+TEST_P(MalformedDocument, IsRejectedWithReasonAndNotChanged) {
   folder_.Write("given.orvik", GetParam().text);
   const auto text = support::ErrorText([&] {
     document::Document::Open(host_, folder_.Path() / "given.orvik", document::DocumentFile::Use::kRead);

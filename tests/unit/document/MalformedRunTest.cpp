@@ -13,7 +13,7 @@ struct RunFault {
 
 class MalformedRun : public support::HostFixture, public ::testing::WithParamInterface<RunFault> {};
 
-TEST_P(MalformedRun, IsRefusedWithItsLine) {
+TEST_P(MalformedRun, IsRejectedWithItsLine) {
   const auto text = std::string("<OrvikDocument Version='1'>\n<Elements/>\n<Runs>\n") + GetParam().run +
                     "\n</Runs></OrvikDocument>";
   folder_.Write("given.orvik", text);

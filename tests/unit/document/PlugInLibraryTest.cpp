@@ -55,7 +55,7 @@ TEST_F(PlugInLibraryTest, CanBeClosedAndOpenedAgain) {
   }
 }
 
-TEST_F(PlugInLibraryTest, ObjectsMayBeReleasedAfterTheLibraryWasClosed) {
+TEST_F(PlugInLibraryTest, ObjectsMayOutliveTheOpenLibrary) {
   auto element = host_->OpenPlugIn(PLUGIN_PATH)->CreateTest(100);
   host_->Close();
   element.reset();

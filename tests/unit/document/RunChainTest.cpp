@@ -47,7 +47,7 @@ std::string Another(pugi::xml_attribute attribute) {
   return value + "1";
 }
 
-TEST(RunChain, AnyOtherAttributeShows) {
+TEST(RunChain, DetectsAnyChangedAttribute) {
   pugi::xml_document original;
   original.load_string(ThreeRuns().c_str());
   const auto all = Parts(RunAt(original.child("Runs"), 2)).attributes.size();
@@ -65,7 +65,7 @@ TEST(RunChain, AnyOtherAttributeShows) {
   }
 }
 
-TEST(RunChain, AnyOtherTextShows) {
+TEST(RunChain, DetectsAnyChangedText) {
   pugi::xml_document original;
   original.load_string(ThreeRuns().c_str());
   const auto all = Parts(RunAt(original.child("Runs"), 2)).texts.size();
@@ -80,7 +80,7 @@ TEST(RunChain, AnyOtherTextShows) {
   }
 }
 
-TEST(RunChain, AnyElementRemovedAddedOrMovedShows) {
+TEST(RunChain, DetectsARemovedAddedOrMovedElement) {
   pugi::xml_document original;
   original.load_string(ThreeRuns().c_str());
   const auto all = Parts(RunAt(original.child("Runs"), 2)).elements.size();
@@ -122,7 +122,7 @@ TEST(RunChain, AnyElementRemovedAddedOrMovedShows) {
             shows);
 }
 
-TEST(RunChain, ARunRemovedMovedOrRepeatedShows) {
+TEST(RunChain, DetectsARemovedMovedOrRepeatedRun) {
   const auto without = [](int number) {
     return Changed([&](pugi::xml_node section) { section.remove_child(RunAt(section, number)); });
   };
@@ -140,7 +140,7 @@ TEST(RunChain, ARunRemovedMovedOrRepeatedShows) {
             (States{"intact", "intact", "intact, gap"}));
 }
 
-TEST(RunChain, AMissingRunShowsForEver) {
+TEST(RunChain, DetectsAMissingRunAfterLaterRuns) {
   for (const int missing : {2, 3}) {
     auto runs =
         Loaded(Changed([&](pugi::xml_node section) { section.remove_child(RunAt(section, missing)); }));
@@ -155,7 +155,7 @@ TEST(RunChain, AMissingRunShowsForEver) {
   }
 }
 
-TEST(RunChain, LayoutAndCommentsDoNotMatter) {
+TEST(RunChain, IgnoresLayoutAndComments) {
   EXPECT_EQ(StatesIn(Changed([](pugi::xml_node) {})), AllIntact(3));
   EXPECT_EQ(StatesIn(Changed([](pugi::xml_node section) {
               for (auto element : Parts(RunAt(section, 2)).elements) {
@@ -168,7 +168,7 @@ TEST(RunChain, LayoutAndCommentsDoNotMatter) {
 }
 
 // A later program may say more of a run; it stays, and shows.
-TEST(RunChain, KeepsWhatAnotherProgramAdded) {
+TEST(RunChain, KeepsUnknownXml) {
   const auto text = Changed([](pugi::xml_node section) {
     section.append_attribute("Room") = "7";
     section.append_child("Weather").append_attribute("Is") = "fine";

@@ -84,7 +84,7 @@ TEST(Runs, ReadsBackEveryEndAndEveryText) {
   }
 }
 
-TEST(Runs, KeepsTheEarlierOnesWhileOneGoesOn) {
+TEST(Runs, KeepsEarlierRunsDuringARun) {
   auto runs = Loaded(ThreeRuns());
   EXPECT_FALSE(runs.Current());
   auto& open = runs.Open(document::RunRecord{});
@@ -108,7 +108,7 @@ TEST(Runs, KeepsTheEarlierOnesWhileOneGoesOn) {
   EXPECT_EQ(StatesIn(TextOf(runs)), AllIntact(5));
 }
 
-TEST(Runs, GoesOnAfterARunThatWasKilled) {
+TEST(Runs, ContinuesAfterAKilledRun) {
   document::Runs killed;
   Add(killed, MakeRun("Ann"));
   killed.Open(MakeRun("Bob")).end = document::RunRecord::End::kNone;
@@ -121,7 +121,7 @@ TEST(Runs, GoesOnAfterARunThatWasKilled) {
   EXPECT_EQ(StatesIn(TextOf(runs)), AllIntact(3));
 }
 
-TEST(Runs, EveryIdentifierThatARunNamesIsTaken) {
+TEST(Runs, FindsTheHighestIdentifierOfARun) {
   const std::string head = "<Runs><Run Number='1' Simulated='0' TimeScale='1'>";
   const std::string test = "<Test Element='9' TestID='1' Settings='0' Status='0' By='tester'/>";
   EXPECT_EQ(Loaded(head + "<Takes Elements='1 7 2'/></Run></Runs>").HighestElement(), 7);
@@ -143,7 +143,7 @@ TEST_F(DocumentRuns, AreTheSameBytesWhenSavedAgain) {
   for (const auto& run : again->Runs().All()) EXPECT_TRUE(run.intact) << run.number;
 }
 
-TEST_F(DocumentRuns, OfAFileThatIsReadWholeAreTheSame) {
+TEST_F(DocumentRuns, AreTheSameInAFileReadAsAWhole) {
   const auto document = document::Document::Create(host_, folder_.Path() / "a.orvik");
   document->AddTest(110);
   Add(document->Runs(), MakeRun("Ann"));

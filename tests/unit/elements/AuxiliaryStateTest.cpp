@@ -21,7 +21,7 @@ std::string Saved(const elements::AuxiliaryState& state) {
   return text.str();
 }
 
-TEST(AuxiliaryState, KeepsWhatAnotherProgramWrites) {
+TEST(AuxiliaryState, KeepsUnknownXml) {
   const std::string text =
       R"(<Auxiliary Print="1" Room="7"><Doubt Since="3">first</Doubt><Weather/></Auxiliary>)";
   elements::AuxiliaryState state, copy;

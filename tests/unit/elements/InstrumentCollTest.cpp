@@ -61,7 +61,7 @@ TEST(InstrumentColl, PropertyThatWasNeverSetIsEmpty) {
   EXPECT_EQ(instruments::InstrumentRecord().Property("calib"), "");
 }
 
-TEST(InstrumentColl, WhatItDoesNotKnowIsWrittenBack) {
+TEST(InstrumentColl, KeepsUnknownXml) {
   const std::string text =
       "<Instruments a=\"1\"><Instrument Index=\"1\" TypeName=\"\" MTIType=\"\" SerialNumber=\"\" "
       "FirmwareVersion=\"\" b=\"2\"><Extra/></Instrument><Other/></Instruments>";

@@ -60,7 +60,7 @@ TEST_F(TestContainerTest, AddsBeforeAndAfterAnotherChild) {
   EXPECT_EQ(Ids(container), (Order{3, 1, 4, 2}));
 }
 
-TEST_F(TestContainerTest, AddedChildHasTheOuterElementAsParent) {
+TEST_F(TestContainerTest, AddedChildHasTheContainerAsParent) {
   const auto sequence = Sequence(1);
   const auto child = Element(2);
   In(host_->Elements()->BaseOf(sequence))->Add(child, {}, {});
@@ -77,7 +77,7 @@ TEST_F(TestContainerTest, ChildAddedAgainIsMoved) {
   EXPECT_EQ(Ids(container), (Order{2, 1, 3}));
 }
 
-TEST_F(TestContainerTest, ChildOfAnotherContainerChangesOver) {
+TEST_F(TestContainerTest, MovesAChildOfAnotherContainer) {
   const auto first = Sequence(1);
   const auto second = Sequence(2);
   const auto child = Element(3);
@@ -88,7 +88,7 @@ TEST_F(TestContainerTest, ChildOfAnotherContainerChangesOver) {
   EXPECT_EQ(child->Parent(), second);
 }
 
-TEST_F(TestContainerTest, RefusesWhatStandsAboveIt) {
+TEST_F(TestContainerTest, RejectsItsOwnAncestors) {
   const auto top = Sequence(1);
   const auto middle = Sequence(2);
   const auto bottom = Sequence(3);
@@ -121,7 +121,7 @@ TEST_F(TestContainerTest, FindsTheFirstElementInDocumentOrderAtAnyDepth) {
   EXPECT_EQ(In(top)->FindElement(99), nullptr);
 }
 
-TEST_F(TestContainerTest, RemoveTakesAChildOutAndPassesOverOthers) {
+TEST_F(TestContainerTest, RemoveIgnoresElementsThatAreNotChildren) {
   const auto container = WithChildren(3);
   const auto child = container->item(2);
   container->Remove(child);
@@ -208,7 +208,7 @@ TEST_F(TestContainerTest, SavedTreeReadsBackWithItsClasses) {
   EXPECT_EQ(In(loaded)->FindElement(2)->Parent(), loaded);
 }
 
-TEST_F(TestContainerTest, LoadedElementsGetWhatOnlyTheCatalogueKnows) {
+TEST_F(TestContainerTest, LoadedElementsGetDataOfTheCatalogue) {
   const auto top = Sequence(1, 100);
   In(top)->Add(Element(2, 120), {}, {});
   In(top)->Add(Sequence(3, 200), {}, {});
@@ -233,7 +233,7 @@ TEST_F(TestContainerTest, ElementOutsideTheCatalogueIsCreatedByItsClass) {
   EXPECT_EQ(In(loaded)->item(2)->ClassID(), sample::kSequence) << "saved as a sequence, it stays one";
 }
 
-TEST_F(TestContainerTest, ElementOfAnUnknownPlugInIsKeptAsItIs) {
+TEST_F(TestContainerTest, KeepsAnElementOfAnUnknownPlugIn) {
   const std::string unknown =
       "<TestElement ID=\"5\" TestID=\"7\" PlugInID=\"GONE\" Class=\"gone.Test\" x=\"1\">\n"
       "      <Information DisplayName=\"Old test\" />\n"
@@ -254,14 +254,14 @@ TEST_F(TestContainerTest, ElementOfAnUnknownPlugInIsKeptAsItIs) {
   EXPECT_EQ(support::ErrorNumber([&] { element->Perform(nullptr); }), HostError::kNoSuchProperty);
 }
 
-TEST_F(TestContainerTest, TenThousandLevelsAreSearchedAndLetGo) {
+TEST_F(TestContainerTest, SearchesAndReleasesTenThousandLevels) {
   auto top = Chain(10000);
   EXPECT_EQ(In(top)->FindElement(10000)->ID(), 10000);
   EXPECT_EQ(In(top)->FindElement(10001), nullptr);
   top.reset();
 }
 
-TEST_F(TestContainerTest, TenThousandLevelsBuiltFromBelowAreLetGo) {
+TEST_F(TestContainerTest, ReleasesTenThousandLevelsBuiltFromBelow) {
   auto current = Sequence(1);
   for (std::int32_t id = 2; id <= 10000; ++id) {
     auto above = Sequence(id);
@@ -271,7 +271,7 @@ TEST_F(TestContainerTest, TenThousandLevelsBuiltFromBelowAreLetGo) {
   current.reset();
 }
 
-TEST_F(TestContainerTest, AThousandLevelsAreClonedSavedAndLoaded) {
+TEST_F(TestContainerTest, ClonesSavesAndLoadsAThousandLevels) {
   const auto top = Chain(elements::kDeepestNesting);
   const auto text = Saved(top);
   EXPECT_TRUE(support::Holds(text, "ID=\"1000\""));
@@ -284,7 +284,7 @@ TEST_F(TestContainerTest, AThousandLevelsAreClonedSavedAndLoaded) {
   EXPECT_TRUE(host_->Elements()->Trouble().All().empty());
 }
 
-TEST_F(TestContainerTest, DeeperTreesAreRefusedBeforeAnythingIsDone) {
+TEST_F(TestContainerTest, RejectsDeeperTreesBeforeAnyChange) {
   const auto base = host_->Elements()->BaseOf(Chain(1));
   const auto top = Chain(elements::kDeepestNesting + 2);
   const auto inside = host_->Elements()->BaseOf(top);
@@ -296,7 +296,7 @@ TEST_F(TestContainerTest, DeeperTreesAreRefusedBeforeAnythingIsDone) {
   EXPECT_FALSE(host_->Elements()->Trouble().All().empty()) << "noted for the document";
 }
 
-TEST_F(TestContainerTest, DeepOperationCanBeRepeatedAfterARefusal) {
+TEST_F(TestContainerTest, DeepOperationWorksAgainAfterARejection) {
   const auto deep = host_->Elements()->BaseOf(Chain(elements::kDeepestNesting + 2));
   for (int i = 0; i < 3; ++i) EXPECT_NE(support::ErrorNumber([&] { deep->Clone(); }), 0);
   EXPECT_NE(Chain(elements::kDeepestNesting)->Clone(), nullptr);

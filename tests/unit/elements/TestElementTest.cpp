@@ -153,7 +153,7 @@ TEST_F(TestElementTest, LoadedElementAnswersWhatWasSaved) {
   EXPECT_EQ(element->Result()->Comment(), "fine");
 }
 
-TEST_F(TestElementTest, WhatItDoesNotKnowIsWrittenBack) {
+TEST_F(TestElementTest, KeepsUnknownXml) {
   const auto text =
       Reloaded(R"(<TestElement ID="9" TestID="110" PlugInID="SAMPLE" Class="sample.Element" New="1">
     <!--by hand-->
@@ -182,7 +182,7 @@ TEST_F(TestElementTest, LoadingAgainKeepsNothingOfBefore) {
   EXPECT_EQ(element->ID(), 2);
 }
 
-TEST_F(TestElementTest, LeftoversOfAResultGoWithTheResult) {
+TEST_F(TestElementTest, UnknownXmlOfAResultIsRemovedWithIt) {
   xml::XmlDocument document;
   ASSERT_TRUE(
       document.LoadFromString("<TestElement ID='2' TestID='110'><ResultItem><Status>1</Status>"
@@ -194,7 +194,7 @@ TEST_F(TestElementTest, LeftoversOfAResultGoWithTheResult) {
   EXPECT_FALSE(support::Holds(Saved(element), "Signature"));
 }
 
-TEST_F(TestElementTest, FaultsAreNotedEvenWhenThePlugInPassesOverThem) {
+TEST_F(TestElementTest, RecordsFaultsThatThePlugInIgnores) {
   for (const auto* text :
        {"<TestElement/>", "<TestElement ID='x' TestID='1'/>", "<TestElement ID='1'/>",
         "<Other ID='1' TestID='1'/>",
@@ -233,7 +233,7 @@ TEST_F(TestElementTest, CloneIsDeepAndKnowsNoParent) {
   EXPECT_TRUE(support::Holds(Saved(element), kWhole));
 }
 
-TEST_F(TestElementTest, ResultOfAnUnknownClassIsNotLostInSilence) {
+TEST_F(TestElementTest, ReportsAResultOfAnUnknownClass) {
   const auto base = Base();
   base->SetResult(std::make_shared<sample::SampleResult>());
   EXPECT_NE(base->Clone(), nullptr);
@@ -261,7 +261,7 @@ TEST_F(TestElementTest, ReportShowsNameConfigurationLimitsAndResult) {
   EXPECT_NE(at("Status 0 of 4"), std::string::npos);
 }
 
-TEST_F(TestElementTest, HostThatIsGoneIsAnErrorAndNoCrash) {
+TEST_F(TestElementTest, UseAfterTheHostWasReleasedIsAnError) {
   auto element = sample::CreateElement(host_);
   const auto base = host_->Elements()->BaseOf(element);
   base->SetResult(std::make_shared<sample::SampleResult>());

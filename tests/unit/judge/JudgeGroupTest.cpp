@@ -77,7 +77,7 @@ TEST(JudgeGroup, IsOlderThanAChildThatWasRunAgain) {
   EXPECT_THAT(group.Codes(), ElementsAre("older-than-child"));
 }
 
-TEST(JudgeGroup, PutsItsValueToItsOwnLimit) {
+TEST(JudgeGroup, ComparesItsValueWithItsOwnLimit) {
   auto group = PassedGroup(Filter::kMaximum, 123);
   group.Element(1).standards = {CaseBuilder::Limit("mOhm", {}, 150)};
   EXPECT_EQ(group.Verdict(), Verdict::kPassed);
@@ -119,7 +119,7 @@ TEST(JudgeGroup, DoubtsTheSummaryOfAnotherFilter) {
   EXPECT_EQ(group.Verdict(), Verdict::kDoubtful);
 }
 
-TEST(JudgeGroup, IsNotJudgedByALimitThatHasNoValueToJudge) {
+TEST(JudgeGroup, IsNotJudgedByALimitWithoutAValue) {
   auto group = PassedGroup();
   group.Element(1).standards = {CaseBuilder::Limit("mOhm", {}, 150)};
   EXPECT_EQ(group.Verdict(), Verdict::kNotJudged);
@@ -149,7 +149,7 @@ TEST(JudgeGroup, FollowsTheOperatorWhoSetItAside) {
   EXPECT_EQ(group.Verdict(2), Verdict::kNotApplicable);
 }
 
-TEST(JudgeGroup, FailsWhenThePlugInFailedItForALimitOfThatTime) {
+TEST(JudgeGroup, FailsWhatThePlugInFailedByAnEarlierLimit) {
   auto group = PassedGroup(Filter::kMaximum, 123);
   std::get<RecordedTest>(group.runs[0].steps.back()).status = 2;
   group.Element(1).result->status = group.Element(1).result->measurementStatus = 2;

@@ -109,7 +109,7 @@ TEST(Judge, LeavesOutStandardsThatAreNotSelectedAndNamesThem) {
 
 // --- current
 
-TEST(Judge, CountsNothingThatWasNotRecordedByARun) {
+TEST(Judge, IgnoresAResultWithoutARun) {
   auto earth = PassedEarth();
   earth.runs.clear();
   EXPECT_EQ(earth.Verdict(), Verdict::kNotTested);
@@ -118,14 +118,14 @@ TEST(Judge, CountsNothingThatWasNotRecordedByARun) {
   EXPECT_THAT(earth.Codes(), ElementsAre("never-run"));
 }
 
-TEST(Judge, CountsNothingThatALaterRunTookUpAndDidNotFinish) {
+TEST(Judge, IgnoresAResultThatALaterRunStartedAgain) {
   auto earth = PassedEarth();
   earth.Begin({1}).end = host::document::RunRecord::End::kNone;
   EXPECT_EQ(earth.Verdict(), Verdict::kNotTested);
   EXPECT_THAT(earth.Codes(), ElementsAre("not-finished"));
 }
 
-TEST(Judge, CountsNothingThatTheSameRunTookUpAgain) {
+TEST(Judge, IgnoresAResultThatTheSameRunStartedAgain) {
   auto earth = PassedEarth();
   earth.runs.back().steps.emplace_back(host::document::RecordedTakes{{1}});
   EXPECT_EQ(earth.Verdict(), Verdict::kNotTested);
@@ -209,7 +209,7 @@ TEST(Judge, DoubtsEverythingUpToAChangedRecord) {
   EXPECT_EQ(earth.Verdict(), Verdict::kPassed);
 }
 
-TEST(Judge, FailsAReadingOfAChangedRecordAllTheSame) {
+TEST(Judge, FailsAReadingOfAChangedRecord) {
   auto earth = PassedEarth();
   earth.runs[0].intact = false;
   earth.Element(1).standards[0].limits[0].high = 100;
@@ -312,7 +312,7 @@ TEST(Judge, DoubtsAnOverload) {
   EXPECT_EQ(earth.Judged(1).limits[0].verdict, host::judge::LimitVerdict::kNotComparable);
 }
 
-TEST(Judge, FailsAnOverloadThatThePlugInFailedForBeingOne) {
+TEST(Judge, FailsAnOverloadThatThePlugInFailed) {
   auto earth = PassedEarth();
   auto& test = std::get<RecordedTest>(earth.runs[0].steps.back());
   test.said = {"gres,410,0,0.123,1,Ohm"};
@@ -351,7 +351,7 @@ TEST(Judge, DoubtsAReadingBelowTheTestLeads) {
   EXPECT_EQ(earth.Verdict(), Verdict::kPassed);
 }
 
-TEST(Judge, DoubtsTestLeadsThatNobodyHas) {
+TEST(Judge, DoubtsImpossibleTestLeads) {
   for (const auto leads : {501, -1}) {
     CaseBuilder earth;
     earth.Add(1, 410, "mOhm").standards = {CaseBuilder::Limit("mOhm", {}, 2000)};
@@ -421,7 +421,7 @@ TEST(Judge, JudgesByEachOfTwoLimitsOfOneStandard) {
 
 // --- not applicable, skipped, aborted
 
-TEST(Judge, BelievesTheOperatorThatATestDoesNotApply) {
+TEST(Judge, AcceptsNotApplicableFromTheOperator) {
   CaseBuilder earth;
   earth.Add(1, 410, "mOhm").standards = {CaseBuilder::Limit("mOhm", {}, 300)};
   earth.Begin({1});
@@ -470,7 +470,7 @@ TEST(Judge, DoubtsARefusalThatHasADoubt) {
   EXPECT_EQ(earth.Verdict(), Verdict::kDoubtful);
 }
 
-TEST(Judge, TellsSkippedFromEndedWithoutAResult) {
+TEST(Judge, DistinguishesSkippedFromEndedWithoutAResult) {
   CaseBuilder earth;
   earth.Add(1, 410, "mOhm");
   earth.Begin({1});

@@ -34,7 +34,7 @@ TEST(ReportTable, ColumnFormatNamesAlignmentRuleAndWidth) {
   EXPECT_FALSE(columns[5].ruled);
 }
 
-TEST(ReportTable, MalformedColumnFormatsAreRefused) {
+TEST(ReportTable, RejectsMalformedColumnFormats) {
   for (const auto* format :
        {"", ";", "<100", "100;", "<;", "<x;", "<-1;", "<100|;", "<100||<100;", "*100;", "<!+1;"})
     EXPECT_TRUE(support::Holds(support::ErrorText([&] { report::ParseFormat(format); }), "malformed"))
@@ -57,19 +57,19 @@ TEST(ReportTable, GroupsCarryStyles) {
   EXPECT_EQ(rows[0][2], (report::Cell{{"x", true, false}, {" y", false, false}}));
 }
 
-TEST(ReportTable, BlanksOfTheTextStay) {
+TEST(ReportTable, KeepsBlanksOfTheText) {
   EXPECT_EQ(report::PlainText(report::ParseRows("      text;", 1)[0][0]), "      text");
   EXPECT_EQ(report::PlainText(report::ParseRows("{\\b  two};", 1)[0][0]), " two")
       << "one blank belongs to the control";
 }
 
-TEST(ReportTable, MalformedRowsAreRefused) {
+TEST(ReportTable, RejectsMalformedRows) {
   for (const auto* rows : {"a", "a|b", "{a;", "a};", "{{a}};", "{a|b};", "\\b a;", "{\\u a};", "a;b", "a\\"})
     EXPECT_TRUE(support::Holds(support::ErrorText([&] { report::ParseRows(rows, 9); }), "malformed")) << rows;
   EXPECT_TRUE(support::Holds(support::ErrorText([] { report::ParseRows("a|b|c;", 2); }), "more cells"));
 }
 
-TEST(ReportTable, EscapedTextComesOutUnchangedWhateverItHolds) {
+TEST(ReportTable, EscapedTextIsReadBackUnchanged) {
   std::mt19937 random(support::Seed());
   const std::string letters = "|;{}\\ab i<>&\"\n \xC3\xB8";
   for (int round = 0; round < 5000; ++round) {
@@ -82,13 +82,13 @@ TEST(ReportTable, EscapedTextComesOutUnchangedWhateverItHolds) {
   }
 }
 
-TEST(ReportObject, KnowsTheUsableWidthAndNoOtherMetric) {
+TEST(ReportObject, HasOnlyTheUsableWidth) {
   const report::ReportObject report;
   EXPECT_EQ(report.Metric(10), 9637) << "170 mm in twips";
   EXPECT_EQ(support::ErrorNumber([&] { report.Metric(9); }), HostError::kInvalidArgument);
 }
 
-TEST(ReportObject, LayoutHoldsForTheTablesThatFollow) {
+TEST(ReportObject, LayoutAppliesToLaterTables) {
   report::ReportObject report;
   report.AddTable("<1;", "", "a;");
   report.SetTableBorder(7);
@@ -104,7 +104,7 @@ TEST(ReportObject, LayoutHoldsForTheTablesThatFollow) {
   }
 }
 
-TEST(ReportObject, RefusedTableIsNotAdded) {
+TEST(ReportObject, DoesNotAddARejectedTable) {
   report::ReportObject report;
   EXPECT_NE(support::ErrorNumber([&] { report.AddTable("<1;", "a|b;", ""); }), 0);
   EXPECT_TRUE(report.Tables().empty());

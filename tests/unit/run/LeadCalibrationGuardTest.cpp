@@ -151,7 +151,7 @@ TEST_F(LeadCalibrationGuardTest, ClosesTheDialogWithAReason) {
   EXPECT_LT(bench_.Application().Now(), std::chrono::minutes(1));
 }
 
-TEST_F(LeadCalibrationGuardTest, ATesterWithoutTheTestEndsTheDialog) {
+TEST_F(LeadCalibrationGuardTest, ClosesTheDialogIfTheTesterLacksTheTest) {
   bench_.Line().AnswerBy([this](const std::string& command) {
     if (command == "IREM") return bench_.Line().Reply("irem,KELD(IN),SIM-0001,3.10");
     bench_.Line().Reply(command == "EREM" ? "erem" : "ERRM,6002");
@@ -163,7 +163,7 @@ TEST_F(LeadCalibrationGuardTest, ATesterWithoutTheTestEndsTheDialog) {
   EXPECT_LT(bench_.Application().Now(), std::chrono::minutes(1));
 }
 
-TEST_F(LeadCalibrationGuardTest, AMuteTesterEndsTheDialog) {
+TEST_F(LeadCalibrationGuardTest, ClosesTheDialogIfTheTesterIsSilent) {
   bench_.Line().AnswerBy([](const std::string&) {});
   Calibrate();
   ASSERT_EQ(reasons_.size(), 1U);
@@ -190,7 +190,7 @@ TEST_F(LeadCalibrationGuardTest, AStopWhileMeasuringStoresNothing) {
   EXPECT_TRUE(reasons_.empty());
 }
 
-TEST_F(LeadCalibrationGuardTest, AnOperatorWhoCancelsHearsNothing) {
+TEST_F(LeadCalibrationGuardTest, CancellingShowsNoMessage) {
   pressing_ = false;
   Calibrate();
   EXPECT_EQ(Stored(), -1);

@@ -41,7 +41,7 @@ TEST_F(RunControllerTest, ADoubtfulResultStaysDoubtfulUntilItIsMeasuredAgain) {
   EXPECT_EQ(Verdict(2), "passed");
 }
 
-TEST_F(RunControllerTest, AnElementThatARunTookUpAndDidNotMeasureHasNoResult) {
+TEST_F(RunControllerTest, AStartedElementNotMeasuredHasNoResult) {
   AddLimited(410);
   Run();
   EXPECT_EQ(Verdict(1), "passed");
@@ -50,7 +50,7 @@ TEST_F(RunControllerTest, AnElementThatARunTookUpAndDidNotMeasureHasNoResult) {
   EXPECT_EQ(Verdict(1), "not tested: not-finished");
 }
 
-TEST_F(RunControllerTest, AReadingInAnotherUnitThanItsLimitsIsNotComparedByNumber) {
+TEST_F(RunControllerTest, DoesNotCompareDifferentUnitsByNumber) {
   AddLimited(610);
   Read("610", "0.9,0,mA");  // 900 times a thousandth of the limit's unit
   Run();
@@ -135,7 +135,7 @@ TEST_F(RunControllerTest, MeasuresNothingAgainThatIsNotOnRecord) {
   EXPECT_EQ(Verdict(1), "not tested: not-finished");
 }
 
-TEST_F(RunControllerTest, AResultThatChangesWhileTheSessionIsClosedDoesNotCount) {
+TEST_F(RunControllerTest, AResultChangedWhileClosingDoesNotCount) {
   AddLimited(410);
   // The tester's last word of the session makes the test "not applicable", passed or failed as it was.
   Answer("STST,210,0", "ERRM,6002");
@@ -148,7 +148,7 @@ TEST_F(RunControllerTest, AResultThatChangesWhileTheSessionIsClosedDoesNotCount)
             "afterwards");
 }
 
-TEST_F(RunControllerTest, ATestThatIsLackingOnlyWhenItsResultIsAskedForDoesNotCount) {
+TEST_F(RunControllerTest, ATestRejectedAtItsResultDoesNotCount) {
   Add(410);
   Answer("GRES,410,0", "ERRM,+6002.0");
   Run();
@@ -182,7 +182,7 @@ TEST_F(RunControllerTest, ASequenceDoesNotCountWhenATestOfItDoesNot) {
   }
 }
 
-TEST_F(RunControllerTest, RefusesNavigationThatIsNotThere) {
+TEST_F(RunControllerTest, RejectsUnknownNavigation) {
   orvik::IRunController& controller = *parts_.controller;
   EXPECT_THROW(controller.NavigationRequest(5), orvik::HostError);
   EXPECT_THROW(controller.NavigationRequest(-1), orvik::HostError);
@@ -226,7 +226,7 @@ TEST_F(RunControllerTest, SettingAsideForgetsTheDoubtsOfTheMeasurement) {
 }
 
 // Another test's reading says nothing of one that the operator sets aside.
-TEST_F(RunControllerTest, SettingAsideTakesNothingFromTheTestBefore) {
+TEST_F(RunControllerTest, SettingAsideKeepsTheTestBefore) {
   AddLimited(410);
   AddLimited(420);
   host::run::StoreLeads(*bench_.Host().Registry(), "SIM-0001", 290, "2026-11-01T08:00:00+01:00");
@@ -241,7 +241,7 @@ TEST_F(RunControllerTest, SettingAsideTakesNothingFromTheTestBefore) {
   EXPECT_EQ(Verdict(2), "not applicable: set-aside-by-operator");
 }
 
-TEST_F(RunControllerTest, AMuteTesterEndsTheRunAfterItsBoundedWaits) {
+TEST_F(RunControllerTest, ASilentTesterEndsTheRunAfterItsTimeouts) {
   AddLimited(410);
   AddLimited(420);
   bench_.Line().AnswerBy([](const std::string&) {});

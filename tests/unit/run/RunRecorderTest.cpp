@@ -439,7 +439,7 @@ TEST_F(RunRecorderTest, AFinishedRunIsNeverChanged) {
   EXPECT_TRUE(OnDisk()->Runs().All()[0].intact);
 }
 
-TEST_F(RunRecorderTest, AnElementThatNoRunTookUpIsTakenUpWhenItIsMeasured) {
+TEST_F(RunRecorderTest, StartsAMeasuredElementOutsideTheRun) {
   AddLimited(410);
   AddLimited(420);
   Run({1});

@@ -41,7 +41,7 @@ TEST_F(RunSelectionTest, ResumesWhatHasNoResult) {
   EXPECT_EQ(Unfinished(), Ids());
 }
 
-TEST_F(RunSelectionTest, ResumesAfterAnAbortWhatWasAborted) {
+TEST_F(RunSelectionTest, ResumesAbortedElements) {
   for (const std::int32_t test : {410, 420, 610}) AddLimited(test);
   EXPECT_EQ(RunByHand({{host::plugins::keld::guide::kPlay, host::plugins::keld::guide::kNext},
                        {host::plugins::keld::guide::kPlay, host::plugins::keld::guide::kAbort}}),
@@ -49,7 +49,7 @@ TEST_F(RunSelectionTest, ResumesAfterAnAbortWhatWasAborted) {
   EXPECT_EQ(Unfinished(), (Ids{2, 3}));
 }
 
-TEST_F(RunSelectionTest, ResumesWhatIsDoubtfulOrSkippedAndNotWhatIsDecided) {
+TEST_F(RunSelectionTest, ResumesDoubtfulAndSkippedElements) {
   for (const std::int32_t test : {410, 420, 610, 620}) AddLimited(test);
   Read("410", "0.1,1,Ohm");
   Read("420", "1.85,0,Ohm");
@@ -70,7 +70,7 @@ TEST_F(RunSelectionTest, ResumesAnInterruptedRunAlone) {
   EXPECT_EQ(Unfinished(), Ids{2}) << "3 was never asked for";
 }
 
-TEST_F(RunSelectionTest, TheStandardsOfOneRunAreNotThoseOfTheNext) {
+TEST_F(RunSelectionTest, DoesNotKeepStandardsForTheNextRun) {
   AddLimited(410);
   support::SetLimit(*document_, bench_.Host(), 1, "", "200", "house rule");
   Select({"house rule"});
@@ -82,7 +82,7 @@ TEST_F(RunSelectionTest, TheStandardsOfOneRunAreNotThoseOfTheNext) {
   EXPECT_THROW(Select({"other"}), host::bench::InputError);
 }
 
-TEST_F(RunSelectionTest, RefusesElementsThatAreNotThere) {
+TEST_F(RunSelectionTest, RejectsMissingElements) {
   EXPECT_THROW(host::bench::SelectedElements(*document_, {"a.orvik", {}, {}, false}),
                host::bench::InputError);
   AddLimited(410);

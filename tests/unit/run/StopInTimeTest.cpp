@@ -188,7 +188,7 @@ class StopInTimeTest : public testing::TestWithParam<Row> {
   }
 };
 
-TEST_P(StopInTimeTest, TheFirstByteOfTheClosingIsOnItsWayWhenThePauseAllowsIt) {
+TEST_P(StopInTimeTest, ClosesTheSessionAsSoonAsThePauseAllows) {
   const auto& settings = GetParam().settings;
   const Outcome undisturbed = StoppedRun(settings).Perform();
   Check(undisturbed, undisturbed);

@@ -48,13 +48,13 @@ TEST_F(StopSignalsTest, AreDeliveredOnceWhileMessagesAreProcessed) {
   }
 }
 
-TEST_F(StopSignalsTest, AReaderWhoHasGoneEndsNothing) {
+TEST_F(StopSignalsTest, AClosedReaderDoesNotEndTheProgram) {
   const Disposition usual(SIGPIPE, SIG_DFL);
   const run::StopSignals signals(application_, [](int) {});
   EXPECT_EQ(HandlerOf(SIGPIPE), SIG_IGN);
 }
 
-TEST_F(StopSignalsTest, EachDoesAfterwardsWhatItDidBefore) {
+TEST_F(StopSignalsTest, RestoreTheEarlierHandlers) {
   const Handler own = [](int) {};
   const Disposition interrupt(SIGINT, own), terminate(SIGTERM, SIG_DFL), hangUp(SIGHUP, SIG_DFL),
       pipe(SIGPIPE, SIG_IGN);

@@ -48,7 +48,7 @@ TEST_F(VirtualBenchTest, TheTestersPausesAreKept) {
   for (std::size_t i = 1; i < sent.size(); ++i) EXPECT_GE(sent[i] - sent[i - 1], 3'500'000) << i;
 }
 
-TEST_F(VirtualBenchTest, AScriptAnswersInTheTestersPlace) {
+TEST_F(VirtualBenchTest, AScriptRepliesInsteadOfTheTester) {
   bench_.Line().AnswerBy([&](const std::string&) { bench_.Line().Reply("ERRM,1003"); });
   const auto element = Perform();
   EXPECT_EQ(bench_.Wire().Sent(), Texts{"IREM"});

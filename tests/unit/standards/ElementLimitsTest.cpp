@@ -19,7 +19,7 @@ class ElementLimitsTest : public support::HostFixture {
   }
 };
 
-TEST_F(ElementLimitsTest, TheUnitIsToldWithoutLeavingATrace) {
+TEST_F(ElementLimitsTest, ReturnsTheUnitWithoutAChange) {
   const auto element = Element(1);
   EXPECT_EQ(standards::RecordedUnit(*element->Limits()), "V");
   EXPECT_EQ(element->Limits()->Standards()->Count(), 0);
@@ -28,7 +28,7 @@ TEST_F(ElementLimitsTest, TheUnitIsToldWithoutLeavingATrace) {
   EXPECT_EQ(element->Limits()->Standards()->Count(), 1);
 }
 
-TEST_F(ElementLimitsTest, AnOlderLimitOfTheSameStandardIsReplacedUnitAndAll) {
+TEST_F(ElementLimitsTest, ReplacesAnOlderLimitAndItsUnit) {
   const auto element = Element(1);
   auto& limits = *element->Limits();
   EXPECT_EQ(Bounds(standards::SetLimit(limits, {"S", "d", "1", "2", ""})), "1..2 V");
@@ -40,14 +40,14 @@ TEST_F(ElementLimitsTest, AnOlderLimitOfTheSameStandardIsReplacedUnitAndAll) {
   EXPECT_EQ(limits.Standards()->Count(), 2);
 }
 
-TEST_F(ElementLimitsTest, BoundsAreToldInTheUnitThatTheElementIsRecordedIn) {
+TEST_F(ElementLimitsTest, ReturnsBoundsInTheElementsUnit) {
   const auto element = Element(1);
   auto& limits = *element->Limits();
   EXPECT_EQ(Bounds(standards::SetLimit(limits, {"S", "", "0.1", "0.3", "kV"})), "100..300 V");
   EXPECT_EQ(limits.Standards()->item(1)->Evaluate(200, limits.Standards()->item(1)->Limit(1)->Key(), {}), 1);
 }
 
-TEST_F(ElementLimitsTest, WhatDoesNotFitIsRefusedAndChangesNothing) {
+TEST_F(ElementLimitsTest, RejectsAWrongUnitWithoutAChange) {
   const auto element = Element(1);
   auto& limits = *element->Limits();
   standards::SetLimit(limits, {"S", "", "", "7", ""});
@@ -63,7 +63,7 @@ TEST_F(ElementLimitsTest, WhatDoesNotFitIsRefusedAndChangesNothing) {
   EXPECT_EQ(Bounds(limits.Standards()->item(1)->Limit(1)), "..7 V");
 }
 
-TEST_F(ElementLimitsTest, AStandardThatHasLostItsLimitGetsOne) {
+TEST_F(ElementLimitsTest, AddsALimitToAStandardWithoutOne) {
   const auto element = Element(1);
   auto& limits = *element->Limits();
   const auto standard = Make<orvik::IStandard>("OrvikTypeLib.Standard");

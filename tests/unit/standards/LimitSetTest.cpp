@@ -19,7 +19,7 @@ constexpr char kGood[] =
     "  <LeftOut What='the rest' Why='not there'/>\n"
     "</LimitSet>\n";
 
-TEST(LimitSetTest, IsReadAsItStands) {
+TEST(LimitSetTest, ReadsEveryField) {
   TemporaryFolder folder;
   const auto set = standards::ReadLimitSet(folder.Write("own-set.xml", kGood));
   EXPECT_EQ(set.Name(), "own-set");
@@ -58,7 +58,7 @@ struct Bad {
 
 class BadLimitSet : public testing::TestWithParam<Bad> {};
 
-TEST_P(BadLimitSet, IsRefusedWithFileLineAndReason) {
+TEST_P(BadLimitSet, IsRejectedWithFileLineAndReason) {
   TemporaryFolder folder;
   std::string text = kGood;
   const auto at = text.find(GetParam().from);
@@ -102,7 +102,7 @@ INSTANTIATE_TEST_SUITE_P(
         Bad{"NotUtf8", "with cord", "with \xE6 cord", "line 2: there are bytes that are not UTF-8"}),
     [](const auto& tested) { return std::string(tested.param.name); });
 
-TEST(LimitSetTest, OneOfAnotherKindOrWithoutFiguresIsRefused) {
+TEST(LimitSetTest, RejectsOtherDocumentsAndEmptySets) {
   TemporaryFolder folder;
   const std::filesystem::path other = folder.Write("other.xml", "\n<OrvikDocument Version='1'/>");
   EXPECT_TRUE(support::Holds(support::ErrorText([&] { standards::ReadLimitSet(other); }),

@@ -22,7 +22,7 @@ class LimitSetsTest : public testing::Test {
   standards::LimitSets sets_{{first_.Path(), second_.Path(), first_.Path() / "absent"}};
 };
 
-TEST_F(LimitSetsTest, AllAreListedFolderByFolderAndByName) {
+TEST_F(LimitSetsTest, AreListedByFolderAndName) {
   first_.Write("b.xml", SetText("B"));
   first_.Write("a.xml", SetText("A"));
   first_.Write("notes.txt", "no set");
@@ -45,14 +45,14 @@ TEST_F(LimitSetsTest, IsFoundByNameInEachFolderAndByPath) {
   EXPECT_EQ(sets_.Find(elsewhere.Write("d", SetText("D"))).standard, "D");
 }
 
-TEST_F(LimitSetsTest, WhatIsNotThereIsNamed) {
+TEST_F(LimitSetsTest, NamesAMissingSet) {
   EXPECT_TRUE(
       support::Holds(support::ErrorText([&] { sets_.Find("none"); }), "unknown set of limits \"none\""));
   EXPECT_TRUE(
       support::Holds(support::ErrorText([&] { sets_.Find("/nowhere/none.xml"); }), "/nowhere/none.xml"));
 }
 
-TEST_F(LimitSetsTest, TwoOfOneNameAreNeverTakenForEachOther) {
+TEST_F(LimitSetsTest, TwoOfTheSameNameAreNeverConfused) {
   first_.Write("a.xml", SetText("A"));
   second_.Write("a.xml", SetText("B"));
   const auto error = support::ErrorText([&] { sets_.Find("a"); });

@@ -31,7 +31,7 @@ TEST(Limit, BoundsAreInclusive) {
   EXPECT_EQ(limit->Evaluate(std::nextafter(0.3F, 1.0F), {}), 2);
 }
 
-TEST(Limit, BoundThatIsNotSetIsNotChecked) {
+TEST(Limit, IgnoresABoundThatIsNotSet) {
   EXPECT_EQ(Between("", "")->Evaluate(1e30F, {}), 0);
   EXPECT_EQ(Between("5", "")->Evaluate(4, {}), 2);
   EXPECT_EQ(Between("5", "")->Evaluate(1e30F, {}), 1);
@@ -39,7 +39,7 @@ TEST(Limit, BoundThatIsNotSetIsNotChecked) {
   EXPECT_EQ(Between("", "5")->Evaluate(6, {}), 2);
 }
 
-TEST(Limit, ValueThatIsNoNumberNeverPasses) {
+TEST(Limit, ValueThatIsNotANumberNeverPasses) {
   const auto nan = std::numeric_limits<float>::quiet_NaN();
   const auto infinity = std::numeric_limits<float>::infinity();
   for (const auto& limit : {Between("5", ""), Between("", "5"), Between("1", "5")}) {
@@ -63,7 +63,7 @@ TEST(Limit, TextsAreKeptAsEntered) {
   EXPECT_EQ(limit->Unit(), "mOhm");
 }
 
-TEST(Limit, RefusedBoundsLeaveThoseThereWere) {
+TEST(Limit, KeepsItsBoundsWhenOthersAreRejected) {
   const auto limit = Between("1", "2");
   for (const auto* text : {"abc", "0,3", "1 2", "inf", "nan", "%", "1%%", "1e999", "--1"}) {
     EXPECT_EQ(support::ErrorNumber([&] { limit->SetBounds(text, ""); }), HostError::kInvalidArgument) << text;
@@ -89,7 +89,7 @@ TEST(Limit, PercentageIsRelativeToTheNominalValue) {
   EXPECT_EQ(limit->Evaluate(254, {}), 2);
 }
 
-TEST(Limit, GivenNominalStandsInForItsOwn) {
+TEST(Limit, GivenNominalReplacesItsOwn) {
   const auto limit = Between("", "");
   limit->SetNominal(230.0);
   limit->SetBounds("90%", "");
@@ -97,7 +97,7 @@ TEST(Limit, GivenNominalStandsInForItsOwn) {
   EXPECT_EQ(limit->Evaluate(98, 110.0), 2);
 }
 
-TEST(Limit, PercentageWithoutNominalIsRefused) {
+TEST(Limit, RejectsAPercentageWithoutANominal) {
   const auto limit = Between("", "");
   EXPECT_TRUE(
       support::Holds(support::ErrorText([&] { limit->SetBounds("", "110%"); }), "needs a nominal value"));
@@ -107,7 +107,7 @@ TEST(Limit, PercentageWithoutNominalIsRefused) {
   EXPECT_EQ(limit->Nominal(), Variant(230.0));
 }
 
-TEST(Limit, NominalThatTurnsTheBoundsRoundIsRefused) {
+TEST(Limit, RejectsANominalThatReversesTheBounds) {
   const auto limit = Between("", "");
   limit->SetNominal(230.0);
   limit->SetBounds("90%", "110%");
@@ -148,7 +148,7 @@ TEST(Limit, SavedLimitReadsBack) {
   EXPECT_EQ(loaded.HighBound(), limit->HighBound());
 }
 
-TEST(Limit, MalformedSavedLimitsAreRefused) {
+TEST(Limit, RejectsMalformedSavedLimits) {
   for (const auto* text :
        {"<Limit Low='x'/>", "<Limit High='110%'/>", "<Limit Low='2' High='1'/>", "<Limit Nominal='n'/>"}) {
     pugi::xml_document document;

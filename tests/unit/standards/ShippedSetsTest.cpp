@@ -72,7 +72,7 @@ std::optional<int> Iec62353(const CatalogueTest& test, bool one, const std::stri
   return std::nullopt;
 }
 
-TEST(ShippedSets, AreThereForBothStandardsBothClassesAndAllTypes) {
+TEST(ShippedSets, ExistForAllStandardsClassesAndTypes) {
   std::set<std::string> names;
   for (const auto& set : Shipped()) {
     names.insert(set.Name());
@@ -86,7 +86,7 @@ TEST(ShippedSets, AreThereForBothStandardsBothClassesAndAllTypes) {
   EXPECT_EQ(names.size(), 12U);
 }
 
-TEST(ShippedSets, EveryTestHasTheFigureOfTheStandardAndNoOther) {
+TEST(ShippedSets, EveryTestHasExactlyTheStandardsFigure) {
   const auto catalogue = Catalogue();
   ASSERT_GT(catalogue.size(), 40U);
   for (const auto& set : Shipped()) {

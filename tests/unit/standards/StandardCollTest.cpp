@@ -56,7 +56,7 @@ TEST_F(StandardCollTest, FindsByBothTexts) {
   EXPECT_EQ(coll->Find("iec", "class I"), nullptr);
 }
 
-TEST_F(StandardCollTest, RemovesAStandardAndPassesOverOthers) {
+TEST_F(StandardCollTest, RemovesAStandardAndIgnoresOthers) {
   const auto coll = Coll();
   const auto first = Standard("a", "");
   coll->Add(first);
@@ -67,7 +67,7 @@ TEST_F(StandardCollTest, RemovesAStandardAndPassesOverOthers) {
   EXPECT_EQ(coll->Count(), 0);
 }
 
-TEST_F(StandardCollTest, EmptyStandardIsRefused) {
+TEST_F(StandardCollTest, RejectsAnEmptyStandard) {
   const auto coll = Coll();
   EXPECT_EQ(support::ErrorNumber([&] { coll->Add(nullptr); }), HostError::kTypeMismatch);
   EXPECT_EQ(coll->Count(), 0);
@@ -110,7 +110,7 @@ TEST_F(StandardCollTest, LoadReadsFromANodeOfAnyName) {
   EXPECT_EQ(coll->Count(), 2) << "a load adds";
 }
 
-TEST_F(StandardCollTest, MalformedStandardsAreRefused) {
+TEST_F(StandardCollTest, RejectsMalformedStandards) {
   for (const auto* text :
        {"<S><Standard Number='x'/></S>", "<S><Standard><Limit High='abc'/></Standard></S>"}) {
     xml::XmlDocument document;
@@ -135,7 +135,7 @@ TEST_F(StandardCollTest, PrintsTheLimitsOfTheKey) {
             "+-------------------------+-----------+------------+------+\n");
 }
 
-TEST_F(StandardCollTest, PrintsNothingWithoutLimitsOfTheKeyAndRefusesAShortHeader) {
+TEST_F(StandardCollTest, PrintsNothingWithoutLimitsOfTheKey) {
   const auto coll = Coll();
   coll->Add(Standard("other", "", "1", "2", "OTHER KEY"));
   const auto report = std::make_shared<report::ReportObject>();

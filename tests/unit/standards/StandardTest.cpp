@@ -34,7 +34,7 @@ TEST(Standard, WithoutLimitsThereIsNothingToCheck) {
   EXPECT_EQ(standard.Evaluate(1, kLimitKey, {}), 0);
 }
 
-TEST(Standard, LimitsOfAnotherKeyAreNotLookedAt) {
+TEST(Standard, IgnoresLimitsOfAnotherKey) {
   standards::Standard standard;
   standard.AddLimit(MakeLimit("OTHER", "", "1"));
   EXPECT_EQ(standard.Evaluate(99, kLimitKey, {}), 0);
@@ -42,7 +42,7 @@ TEST(Standard, LimitsOfAnotherKeyAreNotLookedAt) {
   EXPECT_EQ(standard.Evaluate(1, "OTHER", {}), 1);
 }
 
-TEST(Standard, OneBrokenBoundFailsTheStandard) {
+TEST(Standard, OneExceededBoundFailsTheStandard) {
   standards::Standard standard;
   standard.AddLimit(MakeLimit(kLimitKey, "", "10"));
   standard.AddLimit(MakeLimit(kLimitKey, "5", ""));
@@ -52,7 +52,7 @@ TEST(Standard, OneBrokenBoundFailsTheStandard) {
   EXPECT_EQ(standard.Evaluate(11, kLimitKey, {}), 2);
 }
 
-TEST(Standard, NominalValueIsHandedToTheLimits) {
+TEST(Standard, PassesTheNominalValueToTheLimits) {
   standards::Standard standard;
   const auto limit = MakeLimit(kLimitKey, "", "");
   limit->SetNominal(100.0);

@@ -14,7 +14,7 @@ struct Conversion {
 
 class UnitsTest : public testing::TestWithParam<Conversion> {};
 
-TEST_P(UnitsTest, IsTold) {
+TEST_P(UnitsTest, IsConverted) {
   const auto& [number, from, to, result] = GetParam();
   EXPECT_EQ(standards::InUnit(number, from, to).value_or(""), result)
       << number << " " << from << " in " << to;
@@ -51,7 +51,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Conversion{"abc", "V", "V", ""}, Conversion{"110%", "V", "mV", ""},
                     Conversion{"1e308", "MOhm", "mOhm", ""}));
 
-TEST(UnitsTest, SameUnitWhateverTheMicroSign) {
+TEST(UnitsTest, TreatsBothMicroSignsAlike) {
   EXPECT_TRUE(
       standards::SameUnit("\xC2\xB5"
                           "A",

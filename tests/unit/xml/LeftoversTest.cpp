@@ -31,14 +31,14 @@ TEST(Leftovers, KeepWhatIsNotNamed) {
 }
 
 // Which of the two is meant cannot be known.
-TEST(Leftovers, KnownAttributeThatStandsTwiceIsRefused) {
+TEST(Leftovers, RejectADuplicateKnownAttribute) {
   const auto document = ParsedWithComments("<a k='1' x='2' k='3'/>");
   xml::Leftovers leftovers;
   EXPECT_THROW(leftovers.Take(document.document_element(), {"k"}, {}), xml::XmlError);
   EXPECT_NO_THROW(leftovers.Take(document.document_element(), {"x"}, {}));
 }
 
-TEST(Leftovers, ValuesGoWhereTheReaderWantsThem) {
+TEST(Leftovers, ReturnTheValuesOfKnownAttributes) {
   const auto document = ParsedWithComments("<a b='2' x='3' a='1'/>");
   const char *first = "none", *second = "none", *third = "none";
   xml::Leftovers leftovers;
@@ -66,7 +66,7 @@ TEST(Leftovers, TakingAgainReplacesWhatWasKept) {
   EXPECT_TRUE(leftovers.Empty());
 }
 
-TEST(Leftovers, AttributeThatIsThereByNowStays) {
+TEST(Leftovers, DoNotOverwriteAnAttribute) {
   xml::Leftovers leftovers;
   leftovers.Take(ParsedWithComments("<a x='old'/>").document_element(), {}, {});
   EXPECT_EQ(Restored(leftovers, "<a x='new'/>"), "<a x=\"new\"/>");

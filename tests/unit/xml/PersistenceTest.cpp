@@ -21,7 +21,7 @@ TEST(Persistence, ValueIsTheTextOfItsNode) {
   EXPECT_EQ(document.Root()->ChildCount(), 1);
 }
 
-TEST(Persistence, EmptyValueIsRefusedAndNotReadAsZero) {
+TEST(Persistence, RejectsAnEmptyValue) {
   xml::XmlDocument document;
   xml::Persistence persistence;
   const auto node = persistence.WriteValue(document.CreateRoot("Measurement"), "");
@@ -40,7 +40,7 @@ TEST(Persistence, StatusHasANameOnlyWhenThereIsOne) {
   EXPECT_EQ(persistence.WriteStatus(root, "Electrical", -1)->Attribute("Name"), "Electrical");
 }
 
-TEST(Persistence, StatusThatIsNoNumberIsRefused) {
+TEST(Persistence, RejectsAStatusThatIsNotANumber) {
   xml::XmlDocument document;
   xml::Persistence persistence;
   const auto node = document.CreateRoot("Status");

@@ -34,7 +34,7 @@ struct Malformed {
 
 class MalformedXml : public ::testing::TestWithParam<Malformed> {};
 
-TEST_P(MalformedXml, IsRefusedWithItsPlaceAndLeavesTheDocumentEmpty) {
+TEST_P(MalformedXml, IsRejectedWithItsPlace) {
   xml::XmlDocument document;
   ASSERT_TRUE(document.LoadFromString("<good/>"));
   EXPECT_FALSE(document.LoadFromString(GetParam().text));
@@ -53,7 +53,7 @@ INSTANTIATE_TEST_SUITE_P(
                       Malformed{"<a/>\n<![CDATA[x]]>", "line 2"}, Malformed{"<!DOCTYPE a><a/>", "line 1"},
                       Malformed{"<a><!-- never closed", "line 1"}, Malformed{"<a", "line 1"}));
 
-TEST(XmlDocument, NulByteIsRefused) {
+TEST(XmlDocument, RejectsANulByte) {
   xml::XmlDocument document;
   EXPECT_FALSE(document.LoadFromString(std::string("<a>\0</a>", 8)));
   EXPECT_NE(document.LastError(), "");
@@ -101,7 +101,7 @@ std::string RandomText(std::mt19937& random) {
   return text;
 }
 
-TEST(XmlDocument, AnyTextComesBackUnchanged) {
+TEST(XmlDocument, AnyTextIsReadBackUnchanged) {
   std::mt19937 random(support::Seed());
   for (int round = 0; round < 2000; ++round) {
     const auto text = RandomText(random);
@@ -125,7 +125,7 @@ std::string Nested(int levels) {
   return text;
 }
 
-TEST(XmlDocument, TenThousandLevelsAreLoadedSearchedSavedAndLetGo) {
+TEST(XmlDocument, HandlesTenThousandLevels) {
   xml::XmlDocument document;
   ASSERT_TRUE(document.LoadFromString(Nested(10000)));
   EXPECT_EQ(document.FindElement("last")->Name(), "last");
@@ -137,7 +137,7 @@ TEST(XmlDocument, TenThousandLevelsAreLoadedSearchedSavedAndLetGo) {
   EXPECT_NE(again.FindElement("last"), nullptr);
 }
 
-TEST(XmlDocument, AMillionLevelsDoNotEndTheProgram) {
+TEST(XmlDocument, SurvivesAMillionLevels) {
   xml::XmlDocument document;
   ASSERT_TRUE(document.LoadFromString(Nested(1000000)));
   EXPECT_NE(document.FindElement("last"), nullptr);

@@ -31,7 +31,7 @@ struct Encoded {
 
 class XmlEncodingTest : public ::testing::TestWithParam<Encoded> {};
 
-TEST_P(XmlEncodingTest, ReadsAsTheTextThatWasMeant) {
+TEST_P(XmlEncodingTest, IsConvertedToUtf8) {
   const auto decoded = xml::Decode(GetParam().bytes);
   EXPECT_EQ(decoded.fault.reason, "");
   EXPECT_EQ(decoded.text, GetParam().text);
@@ -78,7 +78,7 @@ INSTANTIATE_TEST_SUITE_P(
                 }()}),
     [](const auto& tested) { return std::string(tested.param.name); });
 
-TEST(XmlEncoding, RefusesWhatItCannotReadAndSaysWhere) {
+TEST(XmlEncoding, RejectsInvalidBytesWithTheirPlace) {
   const struct {
     std::string bytes;
     std::size_t line;

@@ -51,7 +51,7 @@ TEST(XmlNode, GivesEachChildElementInOrder) {
   root->FindChild("b")->ForEachChild([](const auto&, const auto&) { FAIL(); });
 }
 
-TEST(XmlNode, AVisitorThatKeepsChildrenHasThemAll) {
+TEST(XmlNode, AVisitorMayKeepChildren) {
   std::vector<std::shared_ptr<orvik::IXmlNode>> kept;
   Parsed("<a><b x='1'/><c x='2'/><d/><e x='4'/></a>")->ForEachChild([&](const auto& name, const auto& child) {
     if (name != "d") kept.push_back(child);
@@ -77,7 +77,7 @@ TEST(XmlNode, AVisitorMayMoveAChildAndStopByAnError) {
   EXPECT_TRUE(last->FindChild("b"));
 }
 
-TEST(XmlReference, StandsForTheNodeThatItWasLedTo) {
+TEST(XmlReference, RefersToTheNodeOfTheLastCall) {
   const auto root = Parsed("<a><b/><c/></a>");
   const auto& raw = xml::XmlNode::Of(root);
   xml::XmlReference reference(raw.Document());
@@ -87,7 +87,7 @@ TEST(XmlReference, StandsForTheNodeThatItWasLedTo) {
   EXPECT_EQ(kept->Name(), "c");
 }
 
-TEST(XmlNode, NamesAreMatchedToTheLetter) {
+TEST(XmlNode, MatchesNamesExactly) {
   const auto root = Parsed("<a><Value/><value/></a>");
   EXPECT_EQ(root->FindChild("value")->Name(), "value");
   EXPECT_EQ(root->FindChild("VALUE"), nullptr);
@@ -111,7 +111,7 @@ TEST(XmlNode, SetTextReplacesTheTextAndKeepsTheChildren) {
   EXPECT_EQ(root->Text(), "");
 }
 
-TEST(XmlNode, AppendMovesANodeToTheEndAndLeavesTheLastOneThere) {
+TEST(XmlNode, AppendMovesANodeToTheEnd) {
   const auto root = Parsed("<a><b/><c/></a>");
   root->Append(root->FirstChild());
   EXPECT_EQ(root->FirstChild()->Name(), "c");
@@ -121,7 +121,7 @@ TEST(XmlNode, AppendMovesANodeToTheEndAndLeavesTheLastOneThere) {
   EXPECT_EQ(root->FirstChild()->NextSibling()->Name(), "b");
 }
 
-TEST(XmlNode, AppendRefusesEmptyForeignAndEnclosingNodes) {
+TEST(XmlNode, AppendRejectsEmptyForeignAndEnclosingNodes) {
   const auto root = Parsed("<a><b/></a>");
   EXPECT_EQ(support::ErrorNumber([&] { root->Append(nullptr); }), HostError::kEmptyReference);
   EXPECT_EQ(support::ErrorNumber([&] { root->Append(Parsed("<c/>")); }), HostError::kInvalidArgument);
@@ -129,7 +129,7 @@ TEST(XmlNode, AppendRefusesEmptyForeignAndEnclosingNodes) {
   EXPECT_EQ(root->ChildCount(), 1);
 }
 
-TEST(XmlNode, NamesThatNoFileCanHoldAreRefused) {
+TEST(XmlNode, RejectsInvalidNames) {
   const auto root = Parsed("<a/>");
   for (const auto* name : {"", "1a", "a b", "<", "a>", "-x", "a\"b"}) {
     EXPECT_EQ(support::ErrorNumber([&] { root->AddChild(name); }), HostError::kInvalidArgument) << name;
@@ -141,7 +141,7 @@ TEST(XmlNode, NamesThatNoFileCanHoldAreRefused) {
   EXPECT_EQ(root->Name(), "gr\xC3\xB8n");
 }
 
-TEST(XmlNode, NumberAttributeTellsWhatIsWrong) {
+TEST(XmlNode, NumberAttributeReportsTheFault) {
   const auto root = Parsed("<a ID='12' X='1x'/>");
   const auto node = xml::XmlNode::Of(root).Raw();
   EXPECT_EQ(xml::NumberAttribute(node, "ID"), 12);
