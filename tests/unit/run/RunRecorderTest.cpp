@@ -439,7 +439,7 @@ TEST_F(RunRecorderTest, AFinishedRunIsNeverChanged) {
   EXPECT_TRUE(OnDisk()->Runs().All()[0].intact);
 }
 
-TEST_F(RunRecorderTest, StartsAMeasuredElementOutsideTheRun) {
+TEST_F(RunRecorderTest, RecordsOnlyTheElementsOfTheRun) {
   AddLimited(410);
   AddLimited(420);
   Run({1});

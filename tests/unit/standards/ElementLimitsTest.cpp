@@ -47,7 +47,7 @@ TEST_F(ElementLimitsTest, ReturnsBoundsInTheElementsUnit) {
   EXPECT_EQ(limits.Standards()->item(1)->Evaluate(200, limits.Standards()->item(1)->Limit(1)->Key(), {}), 1);
 }
 
-TEST_F(ElementLimitsTest, RejectsAWrongUnitWithoutAChange) {
+TEST_F(ElementLimitsTest, RejectsInvalidEntriesWithoutAChange) {
   const auto element = Element(1);
   auto& limits = *element->Limits();
   standards::SetLimit(limits, {"S", "", "", "7", ""});

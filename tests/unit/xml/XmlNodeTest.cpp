@@ -77,7 +77,7 @@ TEST(XmlNode, AVisitorMayMoveAChildAndStopByAnError) {
   EXPECT_TRUE(last->FindChild("b"));
 }
 
-TEST(XmlReference, RefersToTheNodeOfTheLastCall) {
+TEST(XmlReference, KeptReferenceKeepsItsNode) {
   const auto root = Parsed("<a><b/><c/></a>");
   const auto& raw = xml::XmlNode::Of(root);
   xml::XmlReference reference(raw.Document());
