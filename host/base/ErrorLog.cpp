@@ -114,7 +114,7 @@ void ErrorLog::RotateBefore(std::size_t added) const {
   std::error_code error;
   const auto size = std::filesystem::file_size(file_, error);
   if (error || size == 0 || size + added <= limit_) return;
-  // The oldest file may not be there yet; a file that cannot be moved goes on growing instead of being lost.
+  // The oldest file may not be there yet; a file that cannot be moved keeps growing instead of being lost.
   std::filesystem::rename(Numbered(file_, 1), Numbered(file_, 2), error);
   std::filesystem::rename(file_, Numbered(file_, 1), error);
 }

@@ -14,10 +14,10 @@ namespace host {
 /// number in hexadecimal and signed decimal, place, level, values. Tabs, line ends and other control
 /// characters in a field are written as "\t", "\n", "\x1b"; a backslash is doubled.
 ///
-/// An entry is on disk when the call returns; one that repeats the entry before it is written, and comes to
-/// the disk when the system likes. A full file becomes "error.log.1", that one "error.log.2"; the oldest
-/// goes. Several programs may write at once. An entry that cannot be written is lost, and `Failure` says why:
-/// whatever wanted to log an error goes on.
+/// An entry is flushed to disk when the call returns. A repetition of the entry before it is written, but
+/// not flushed. A full file becomes "error.log.1", that one "error.log.2"; the oldest
+/// is deleted. Several programs may write at once. An entry that cannot be written is lost, and `Failure`
+/// says why: logging never throws.
 class ErrorLog final : public orvik::IErrorLog {
  public:
   using Clock = std::function<std::chrono::system_clock::time_point()>;

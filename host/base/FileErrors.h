@@ -13,8 +13,8 @@ class BusyError : public orvik::HostError {
   using HostError::HostError;
 };
 
-/// The machine could not carry it out, whatever was named: the disk is full or broken, or the program has run
-/// out of files or memory.
+/// The machine failed, independently of the file: the disk is full or broken, or the program has run out
+/// of files or memory.
 class StorageError : public orvik::HostError {
  public:
   using HostError::HostError;

@@ -83,7 +83,7 @@ void RequireWritable(const std::filesystem::path& file) {
   const auto mode = FileMode(file);
   if (!mode) return;
   constexpr mode_t kAnybodyMayWrite = 0222;
-  // The superuser may write what nobody may: the bits say what was meant.
+  // The superuser may write any file, so check the permission bits instead.
   const bool meant = (*mode & kAnybodyMayWrite) != 0;
   if (meant && faccessat(AT_FDCWD, file.c_str(), W_OK, AT_EACCESS) == 0) return;
   ThrowFileError(file, Tr("%%1 is write-protected"), 0,

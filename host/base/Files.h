@@ -42,14 +42,14 @@ std::string ReadDescriptor(int descriptor, const std::filesystem::path& file);
 /// Writes all of it at the file's end or place.
 void WriteDescriptor(int descriptor, std::string_view contents, const std::filesystem::path& file);
 
-/// The file's permission bits; none when it is not there.
+/// The file's permission bits; none for a missing file.
 std::optional<mode_t> FileMode(const std::filesystem::path& file);
 
-/// Refuses a write-protected file. Replacing one needs the permissions of its folder alone; who protects a
-/// file means that file. A file that is not there is not refused.
+/// Throws for a write-protected file: replacing a file only needs write permission for its folder, but
+/// protecting it means that it must not change. A missing file is accepted.
 void RequireWritable(const std::filesystem::path& file);
 
-/// Brings the folder in which the file stands to the disk, so that its name is there after a crash.
+/// Flushes the file's folder to disk, so that its name survives a crash.
 void SyncFolderOf(const std::filesystem::path& file);
 
 /// Replaces the file by one with these contents, on disk when the call returns: a crash leaves the old or the
@@ -59,10 +59,10 @@ void ReplaceFile(const std::filesystem::path& file, std::string_view contents);
 /// Creates the folder and its parents.
 void CreateFolder(const std::filesystem::path& folder);
 
-/// Holds a lock file for as long as it lives; a program that ends without letting go loses it too.
+/// Holds a lock file during its lifetime; the system releases the lock when the program ends.
 class FileLock {
  public:
-  /// Waits until nobody else holds the lock, at most for `patience` and that of the program; then
+  /// Waits until the lock is free, at most for `patience` and that of the program; then
   /// `BusyError`.
   FileLock(const std::filesystem::path& lockFile, std::chrono::milliseconds patience);
 

@@ -8,8 +8,8 @@
 
 namespace host {
 
-/// How long this program waits in all for what another program holds: documents, settings, archives, ports.
-/// Not at all unless it was set. One for the program.
+/// The total time that this program waits for resources of other programs: documents, settings, archives,
+/// ports. Zero unless set. There is one for the whole program.
 class Patience {
  public:
   using Remark = std::function<void(const std::string& reason)>;
@@ -23,7 +23,7 @@ class Patience {
   static bool WaitsFor(const std::string& reason);
 };
 
-/// The result of the attempt, which is made again while it ends with `BusyError` and the patience lasts.
+/// The result of `attempt`, which is repeated on `BusyError` until the patience is used up.
 template <class Attempt>
 auto WaitUntilFree(Attempt attempt) {
   while (true) {

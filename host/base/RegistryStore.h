@@ -19,7 +19,7 @@ namespace host {
 
 /// The settings of all programs of this host: the file "registry.json" in the state folder.
 ///
-/// Keys are told apart to the letter, so that two testers never share a value. Writes are durable when the
+/// Keys are case-sensitive, so that two testers never share a value. Writes are durable when the
 /// call returns, and two programs may write at once: each reads, changes and replaces the file under a lock.
 /// A file that is cut short, garbled or of another kind is never touched: every call fails with `HostError`
 /// 75 that names it. What is in the file beyond what this class knows is kept.

@@ -86,7 +86,7 @@ bool SameApartFromCase(std::string_view one, std::string_view other) {
                     [](char left, char right) { return Lower(left) == Lower(right); });
 }
 
-// Class identifiers differ in their ends: eight letters tell them well enough.
+// Class identifiers differ in their ends: eight letters distinguish them well enough.
 std::size_t HashApartFromCase::operator()(std::string_view text) const {
   std::uint64_t hash = 0xCBF29CE484222325U ^ text.size();  // FNV-1a
   for (const char letter : text.substr(text.size() - std::min<std::size_t>(text.size(), 8)))

@@ -29,7 +29,7 @@ struct EqualApartFromCase {
   }
 };
 
-/// The 32-bit number that the whole text stands for (decimal, optional sign); none for anything else.
+/// The 32-bit number that the whole text represents (decimal, optional sign); none for anything else.
 std::optional<std::int32_t> WholeNumber(std::string_view text);
 
 using orvik::FiniteNumber;

@@ -39,7 +39,7 @@ bool Holds(const std::array<Range, Count>& ranges, char32_t letter) {
                      [letter](const Range& range) { return range.first <= letter && letter <= range.last; });
 }
 
-/// Takes the first letter off the text; a byte that begins none is told as U+FFFD.
+/// Takes the first letter off the text; an invalid byte is returned as U+FFFD.
 char32_t TakeLetter(std::string_view& text) {
   const auto lead = static_cast<unsigned char>(text.front());
   text.remove_prefix(1);

@@ -14,13 +14,13 @@ namespace host {
 ///     Tr("element %%1: it takes no limits", {id})
 std::string Tr(std::string_view english, const std::vector<std::string>& values = {});
 
-/// Marks an English text that is told in the chosen language later, as `Tr(text)`, and kept in English until
+/// Marks an English text that is translated later, by `Tr(text)`, and stored in English until
 /// then: a status, say, that programs read too.
 constexpr const char* TrNoop(const char* english) { return english; }
 
 /// Chooses the language of the whole process; the files read are orvik-bench.LANGUAGE.po of the folders.
 /// @param language as for `LanguageService`; empty for English
-/// @throws HostError 75 when a file is malformed, 5 when the language is no name
+/// @throws HostError 75 when a file is malformed, 5 when the language is invalid
 void ChooseLanguage(const std::string& language, const std::vector<std::filesystem::path>& folders);
 
 }  // namespace host

@@ -8,13 +8,14 @@
 
 namespace host {
 
-/// Tells the date and time of day, such as "2026-11-21T14:03:22+01:00": local time and its distance from UTC.
+/// Returns the date and time of day, such as "2026-11-21T14:03:22+01:00": local time and its distance from
+/// UTC.
 using WallClock = std::function<std::string()>;
 
 /// The time of day of this machine, in its time zone.
 std::string LocalTimeText();
 
-/// A moment as `WallClock` tells it, taken apart.
+/// The parts of a text from `WallClock`.
 struct Moment {
   std::int64_t utc = 0;  ///< seconds since 1970
   std::string day;       ///< "2026-11-21", local
@@ -22,7 +23,7 @@ struct Moment {
   std::string zone;      ///< "+01:00"
 };
 
-/// None for a text that is no such moment.
+/// None for a text of another form.
 std::optional<Moment> MomentOf(std::string_view text);
 
 }  // namespace host

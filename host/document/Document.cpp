@@ -178,7 +178,7 @@ std::string Document::Text() const {
   return text;
 }
 
-// A few elements after the other, so that a large document never stands in memory as a whole tree beside its
+// A few elements after the other, so that a large document is never in memory as a whole tree beside its
 // text.
 std::string Document::WrittenText() const {
   const auto frame = xml::Write(*Frame());

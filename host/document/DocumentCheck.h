@@ -11,7 +11,7 @@ class ElementFactory;
 
 namespace host::document {
 
-/// Looks through a document as it is in its file and tells everything that is wrong with it, not only the
+/// Checks a document as it is in its file and reports every problem, not only the
 /// first thing. What the document's loader keeps without knowing it is a note.
 /// @param factory knows the plug-ins, their classes and their catalogues
 std::vector<Finding> CheckDocument(const std::string& bytes, elements::ElementFactory& factory);

@@ -27,10 +27,10 @@ class Findings {
   void Note(pugi::xml_node where, std::string text) { Add(false, PlaceOf(where), std::move(text)); }
   void Note(std::size_t offset, std::string text) { Add(false, offset, std::move(text)); }
 
-  /// All of them as they stand in the text.
+  /// All of them, in the order of the text.
   std::vector<Finding> InOrder() const;
 
-  /// The line in which the node stands.
+  /// The line of the node.
   std::string LineOf(pugi::xml_node node) const;
 
  private:

@@ -28,7 +28,7 @@ class PlugInLibrary;
 
 /// The reference host: its classes by identifier, its services, and the plug-ins that it has opened.
 ///
-/// An opened library holds the host, so whoever opened one calls `Close` before letting go of the host.
+/// An opened library holds the host, so call `Close` after opening one, before releasing the host.
 /// User-interface thread only.
 class Host final : public orvik::IHost {
  public:
@@ -40,7 +40,7 @@ class Host final : public orvik::IHost {
     std::filesystem::path stateFolder;
     /// Language of texts, for example "da"; empty for English.
     std::string language;
-    /// Catalogue text that stands in for the one in the registry.
+    /// Catalogue text that replaces the one in the registry.
     std::optional<std::string> catalogue = {};
     /// Folders with translations (MODULE.LANGUAGE.po).
     std::vector<std::filesystem::path> translationFolders = {};
@@ -61,7 +61,7 @@ class Host final : public orvik::IHost {
   void AddClasses(std::shared_ptr<orvik::IClassLibrary> classes);
 
   /// Opens a plug-in library, creates its plug-in object (the class whose identifier ends with "Plugin") and
-  /// initialises it. `HostError` when the file is no plug-in library of this contract's version.
+  /// initialises it. `HostError` when the file is not a plug-in library of this contract's version.
   std::shared_ptr<orvik::IPlugIn> OpenPlugIn(const std::filesystem::path& library);
 
   /// Lets go of all plug-ins, then closes their libraries. Objects of theirs may be released later, not used.

@@ -11,11 +11,11 @@
 namespace host::document {
 
 /// A plug-in library that has been loaded and opened; closed with this object. Its code stays mapped, so that
-/// a reference that somebody lets go of later does not jump into nothing.
+/// a reference that is released later does not call unloaded code.
 class PlugInLibrary {
  public:
-  /// `HostError` 429 when the file cannot be loaded, is no plug-in library, was built for another version of
-  /// the contract, or refuses to open.
+  /// `HostError` 429 when the file cannot be loaded, is not a plug-in library, was built for another version
+  /// of the contract, or refuses to open.
   PlugInLibrary(const std::filesystem::path& file, const std::shared_ptr<orvik::IHost>& host);
   PlugInLibrary(const PlugInLibrary&) = delete;
   PlugInLibrary& operator=(const PlugInLibrary&) = delete;

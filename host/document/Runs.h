@@ -30,9 +30,9 @@ class Runs {
   /// The highest identifier of an element that any run names: it is never given again. 0 without runs.
   std::int32_t HighestElement() const;
 
-  /// Appends a run, which gets its number here. It goes on, and may change, until `Close`.
+  /// Appends a run, which gets its number here. It is open, and may change, until `Close`.
   RunRecord& Open(RunRecord run);
-  /// The run that goes on; null when none does.
+  /// The open run; null if there is none.
   RunRecord* Current() { return open_ ? &all_.back() : nullptr; }
   /// The run is over: from here on nothing changes it.
   void Close();

@@ -8,7 +8,7 @@ namespace host::document {
 
 class Findings;
 
-/// Looks through saved standards with their limits.
+/// Checks saved standards with their limits.
 /// @param unit the unit that readings are recorded in and compared with the bounds; none when it is not known
 void CheckStandards(pugi::xml_node standards, const std::optional<std::string>& unit, Findings& findings);
 

@@ -6,12 +6,12 @@
 
 namespace host::xml {
 
-/// What a loader found in a node and does not know: attributes, elements, comments. Kept, and written back,
-/// so that a file which another version or another program has added to loses nothing.
+/// The attributes, elements and comments of a node that its loader does not know. They are written back, so
+/// that additions of another version or program are never lost.
 class Leftovers {
  public:
-  /// An attribute that its reader knows, and where its value goes, as long as the node lives; where there is
-  /// no such attribute, nothing goes there.
+  /// An attribute that its reader knows, and the pointer that receives its value, which is valid as long as
+  /// the node. The pointer does not change if the attribute is missing.
   struct Attribute {
     // Not explicit, so that lists of attributes are lists of names.
     // NOLINTNEXTLINE(google-explicit-constructor)
@@ -30,18 +30,18 @@ class Leftovers {
   ~Leftovers() = default;
 
   /// Replaces what is kept by all of the node that is not named here. `XmlError` when a known attribute
-  /// stands there twice.
+  /// occurs twice.
   void Take(pugi::xml_node node, std::initializer_list<Attribute> knownAttributes,
             std::initializer_list<const char*> knownElements);
 
-  /// The same for the attributes alone; a reader that goes through the children itself adds what it does not
-  /// know.
+  /// The same for the attributes alone; a reader that visits the children itself calls `Add` for those
+  /// that it does not know.
   void TakeAttributes(pugi::xml_node node, std::initializer_list<Attribute> known);
 
   /// Keeps one more child.
   void Add(pugi::xml_node child);
 
-  /// Adds to the node what is kept; an attribute that the node has by now stays as it is.
+  /// Adds the kept XML to the node; attributes that the node already has are not overwritten.
   void Restore(pugi::xml_node node) const;
 
   bool Empty() const { return !kept_; }

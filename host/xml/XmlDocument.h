@@ -30,7 +30,7 @@ class XmlDocument final : public orvik::IXmlDocument {
   std::string error_;
 };
 
-/// Why a text is no XML document, and the byte at which that shows.
+/// Why a text is not well-formed XML, and the byte where the fault was found.
 struct Fault {
   std::size_t offset = 0;
   std::string reason;
@@ -50,7 +50,7 @@ struct Parsed {
 /// The same without a copy of the text: the document owns the text, and changes it.
 Parsed ParseInPlace(std::string text);
 
-/// The number of the line, from 1, in which the byte stands.
+/// The number of the line, from 1, of the byte.
 std::size_t LineOf(std::string_view text, std::size_t offset);
 
 /// The document as text, UTF-8, indented by two blanks. Beyond 256 levels it is not indented: the blanks

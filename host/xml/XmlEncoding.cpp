@@ -80,7 +80,7 @@ class Converter {
 
   bool Known() const { return handle_ != reinterpret_cast<iconv_t>(-1); }
 
-  /// Appends what the bytes stand for; false at the first that stand for nothing.
+  /// Appends the converted bytes; false at the first invalid ones.
   bool Append(std::string& bytes, std::size_t from, std::string& text) const {
     char* rest = bytes.data() + from;
     std::size_t left = bytes.size() - from;

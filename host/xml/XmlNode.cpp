@@ -38,7 +38,7 @@ constexpr bool StartsName(unsigned char letter) {
          letter == ':' || letter >= 0x80;
 }
 
-/// Whether a letter can stand in a name: names are checked whenever something is written.
+/// Whether a letter is valid in a name; names are checked at every write.
 constexpr auto kInName = [] {
   std::array<bool, 256> table{};
   for (unsigned letter = 0; letter < table.size(); ++letter)
@@ -127,7 +127,7 @@ std::shared_ptr<XmlNode> XmlNode::Create(std::shared_ptr<pugi::xml_document> doc
 
 const XmlNode& XmlNode::Of(const std::shared_ptr<orvik::IXmlNode>& node) {
   const auto& any = orvik::Required(node);
-  // The class is final, so that its type tells.
+  // The class is final, so comparing the type is enough.
   if (typeid(any) != typeid(XmlNode))
     throw orvik::HostError(orvik::HostError::kTypeMismatch, kNodeSource,
                            Tr("the node is not one of this host's"));

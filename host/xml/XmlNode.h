@@ -48,8 +48,8 @@ class XmlNode final : public orvik::IXmlNode {
   pugi::xml_node node_;
 };
 
-/// A reference that goes from node to node of a document. Whoever keeps it keeps the node that it was given
-/// for: a new reference goes on.
+/// A reusable reference to the nodes of a document. A caller that keeps the returned reference keeps its
+/// node: the next call then creates a new one.
 class XmlReference {
  public:
   explicit XmlReference(std::shared_ptr<pugi::xml_document> document) : document_(std::move(document)) {}
@@ -63,7 +63,7 @@ class XmlReference {
   XmlNode* node_ = nullptr;
 };
 
-/// A fault in what a node holds, and where the node stands in the source it was read from.
+/// A fault in what a node holds, and where the node is in the source it was read from.
 class XmlError final : public orvik::HostError {
  public:
   XmlError(pugi::xml_node node, const std::string& description)
@@ -101,16 +101,16 @@ pugi::xml_node NextInDocument(pugi::xml_node element, pugi::xml_node top);
 std::string Text(pugi::xml_node element);
 void SetText(pugi::xml_node element, const std::string& text);
 
-/// Adds or replaces an attribute. What no file can hold (NUL, bytes that are not UTF-8) becomes U+FFFD.
+/// Adds or replaces an attribute. NUL and invalid UTF-8 become U+FFFD.
 void SetAttribute(pugi::xml_node element, const char* name, const std::string& value);
 
 /// Adds an attribute to an element that has none of that name.
 void AddAttribute(pugi::xml_node element, const char* name, const std::string& value);
 
-/// The complaint of an attribute that stands a second time in its element.
+/// The message for an attribute that occurs twice in its element.
 std::string AttributeTwice(pugi::xml_attribute attribute);
 
-/// Adds an element; `HostError` 5 for a text that is no tag.
+/// Adds an element; `HostError` 5 for an invalid tag.
 pugi::xml_node AddElement(pugi::xml_node parent, const std::string& name);
 
 /// Whether the text can be a tag or the name of an attribute.
