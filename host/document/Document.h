@@ -17,7 +17,7 @@
 #include "host/document/ElementPlace.h"
 #include "host/document/Equipment.h"
 #include "host/document/Runs.h"
-#include "host/xml/Leftovers.h"
+#include "host/xml/UnknownXml.h"
 #include "host/xml/XmlDocument.h"
 
 namespace host::elements {
@@ -139,7 +139,7 @@ class Document {
   document::Runs runs_;
   std::int32_t highestId_ = 0;
   std::optional<std::size_t> savedMark_;
-  xml::Leftovers topLeftovers_, rootLeftovers_, equipmentLeftovers_, elementsLeftovers_;
+  xml::UnknownXml topLeftovers_, rootLeftovers_, equipmentLeftovers_, elementsLeftovers_;
 };
 
 }  // namespace host::document

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "host/document/RunRecord.h"
-#include "host/xml/Leftovers.h"
+#include "host/xml/UnknownXml.h"
 
 namespace host::document {
 
@@ -48,7 +48,7 @@ class Runs {
   pugi::xml_node finished_;
   /// The digest of the last finished run, as the file names it.
   std::string last_;
-  xml::Leftovers besideRuns_;
+  xml::UnknownXml besideRuns_;
 };
 
 }  // namespace host::document

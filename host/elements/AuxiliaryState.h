@@ -3,7 +3,7 @@
 #include <pugixml.hpp>
 
 #include "OrvikTypeLib/IAuxiliaryState.h"
-#include "host/xml/Leftovers.h"
+#include "host/xml/UnknownXml.h"
 
 namespace host::elements {
 
@@ -28,7 +28,7 @@ class AuxiliaryState final : public orvik::IAuxiliaryState {
 
   bool printElement_ = true;
   bool recordOnly_ = false;
-  xml::Leftovers leftovers_;
+  xml::UnknownXml leftovers_;
 };
 
 }  // namespace host::elements

@@ -5,7 +5,7 @@
 #include <string>
 
 #include "OrvikTypeLib/IInformationRecord.h"
-#include "host/xml/Leftovers.h"
+#include "host/xml/UnknownXml.h"
 
 namespace host::elements {
 
@@ -28,7 +28,7 @@ class InformationRecord final : public orvik::IInformationRecord {
   std::string firstText_;
   std::string displayName_;
   std::optional<std::string> secondText_;
-  xml::Leftovers leftovers_;
+  xml::UnknownXml leftovers_;
 };
 
 }  // namespace host::elements

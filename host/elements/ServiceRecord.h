@@ -3,7 +3,7 @@
 #include <string>
 
 #include "OrvikTypeLib/IServiceRecord.h"
-#include "host/xml/Leftovers.h"
+#include "host/xml/UnknownXml.h"
 
 namespace host::elements {
 
@@ -22,7 +22,7 @@ class ServiceRecord final : public orvik::IServiceRecord {
   std::string name_;
   std::string code_;
   std::string value_;
-  xml::Leftovers leftovers_;
+  xml::UnknownXml leftovers_;
 };
 
 }  // namespace host::elements

@@ -8,7 +8,7 @@
 #include "host/elements/AuxiliaryState.h"
 #include "host/elements/ElementFactory.h"
 #include "host/elements/InformationRecord.h"
-#include "host/xml/Leftovers.h"
+#include "host/xml/UnknownXml.h"
 
 namespace host::xml {
 class XmlReference;
@@ -122,9 +122,9 @@ class TestElement : public orvik::IBaseElement {
   std::shared_ptr<orvik::IConfigData> configuration_;
   std::shared_ptr<orvik::ILimitData> limits_;
   std::shared_ptr<orvik::IResultData> result_;
-  xml::Leftovers leftovers_;
-  xml::Leftovers configurationLeftovers_;
-  xml::Leftovers resultLeftovers_;
+  xml::UnknownXml leftovers_;
+  xml::UnknownXml configurationLeftovers_;
+  xml::UnknownXml resultLeftovers_;
 };
 
 }  // namespace host::elements

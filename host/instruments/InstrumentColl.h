@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "OrvikTypeLib/IInstrumentColl.h"
-#include "host/xml/Leftovers.h"
+#include "host/xml/UnknownXml.h"
 
 namespace host::instruments {
 
@@ -25,7 +25,7 @@ class InstrumentColl final : public orvik::IInstrumentColl {
   void IInstrumentColl_Add(std::shared_ptr<orvik::IInstrumentRecord> Record) override;
 
   std::vector<std::shared_ptr<InstrumentRecord>> records_;
-  xml::Leftovers leftovers_;
+  xml::UnknownXml leftovers_;
 };
 
 }  // namespace host::instruments

@@ -7,7 +7,7 @@
 #include <string>
 
 #include "OrvikTypeLib/IInstrumentRecord.h"
-#include "host/xml/Leftovers.h"
+#include "host/xml/UnknownXml.h"
 
 namespace host::instruments {
 
@@ -42,7 +42,7 @@ class InstrumentRecord final : public orvik::IInstrumentRecord {
   std::string typeName_, mtiType_, serialNumber_, firmwareVersion_;
   std::int32_t index_ = 0;
   std::map<std::string, std::string> properties_;
-  xml::Leftovers leftovers_;
+  xml::UnknownXml leftovers_;
 };
 
 }  // namespace host::instruments

@@ -6,7 +6,7 @@
 #include <string>
 
 #include "OrvikTypeLib/ILimit.h"
-#include "host/xml/Leftovers.h"
+#include "host/xml/UnknownXml.h"
 
 namespace host::standards {
 
@@ -53,7 +53,7 @@ class Limit final : public orvik::ILimit {
   std::string key_, unit_, lowText_, highText_;
   std::optional<Bound> low_, high_;
   std::optional<double> nominal_;
-  xml::Leftovers leftovers_;
+  xml::UnknownXml leftovers_;
 };
 
 }  // namespace host::standards

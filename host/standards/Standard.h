@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "OrvikTypeLib/IStandard.h"
-#include "host/xml/Leftovers.h"
+#include "host/xml/UnknownXml.h"
 
 namespace host::standards {
 
@@ -38,7 +38,7 @@ class Standard final : public orvik::IStandard {
   std::string description_;
   std::int32_t number_ = 1;
   std::vector<std::shared_ptr<standards::Limit>> limits_;
-  xml::Leftovers leftovers_;
+  xml::UnknownXml leftovers_;
 };
 
 }  // namespace host::standards

@@ -5,7 +5,7 @@
 
 #include "OrvikTypeLib/ILanguageService.h"
 #include "OrvikTypeLib/IStandardColl.h"
-#include "host/xml/Leftovers.h"
+#include "host/xml/UnknownXml.h"
 
 namespace host::standards {
 
@@ -32,7 +32,7 @@ class StandardColl final : public orvik::IStandardColl {
 
   std::shared_ptr<orvik::ILanguageService> language_;
   std::vector<std::shared_ptr<standards::Standard>> standards_;
-  xml::Leftovers leftovers_;
+  xml::UnknownXml leftovers_;
 };
 
 }  // namespace host::standards

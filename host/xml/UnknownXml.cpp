@@ -1,4 +1,4 @@
-#include "host/xml/Leftovers.h"
+#include "host/xml/UnknownXml.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -26,7 +26,7 @@ class InOrder {
 
  private:
   static const char* NameOf(const char* known) { return known; }
-  static const char* NameOf(const Leftovers::Attribute& known) { return known.name; }
+  static const char* NameOf(const UnknownXml::Attribute& known) { return known.name; }
 
   const Known* begin_;
   const Known* end_;
@@ -41,9 +41,9 @@ bool IsLayout(pugi::xml_node node) {
 
 }  // namespace
 
-Leftovers::Leftovers(const Leftovers& other) { *this = other; }
+UnknownXml::UnknownXml(const UnknownXml& other) { *this = other; }
 
-Leftovers& Leftovers::operator=(const Leftovers& other) {
+UnknownXml& UnknownXml::operator=(const UnknownXml& other) {
   if (this == &other) return *this;
   kept_.reset();
   if (other.kept_) {
@@ -53,7 +53,7 @@ Leftovers& Leftovers::operator=(const Leftovers& other) {
   return *this;
 }
 
-pugi::xml_node Leftovers::Holder() {
+pugi::xml_node UnknownXml::Holder() {
   if (!kept_) {
     kept_ = std::make_unique<pugi::xml_document>();
     kept_->append_child("Kept");
@@ -61,8 +61,8 @@ pugi::xml_node Leftovers::Holder() {
   return kept_->first_child();
 }
 
-void Leftovers::Take(pugi::xml_node node, std::initializer_list<Attribute> knownAttributes,
-                     std::initializer_list<const char*> knownElements) {
+void UnknownXml::Take(pugi::xml_node node, std::initializer_list<Attribute> knownAttributes,
+                      std::initializer_list<const char*> knownElements) {
   TakeAttributes(node, knownAttributes);
   InOrder<const char*> elements({knownElements.begin(), knownElements.size()});
   for (auto child = node.first_child(); child; child = child.next_sibling()) {
@@ -71,7 +71,7 @@ void Leftovers::Take(pugi::xml_node node, std::initializer_list<Attribute> known
   }
 }
 
-void Leftovers::TakeAttributes(pugi::xml_node node, std::initializer_list<Attribute> known) {
+void UnknownXml::TakeAttributes(pugi::xml_node node, std::initializer_list<Attribute> known) {
   kept_.reset();
   InOrder<Attribute> attributes({known.begin(), known.size()});
   std::uint32_t seen = 0;
@@ -89,11 +89,11 @@ void Leftovers::TakeAttributes(pugi::xml_node node, std::initializer_list<Attrib
   }
 }
 
-void Leftovers::Add(pugi::xml_node child) {
+void UnknownXml::Add(pugi::xml_node child) {
   if (child.type() != pugi::node_declaration && !IsLayout(child)) Holder().append_copy(child);
 }
 
-void Leftovers::Restore(pugi::xml_node node) const {
+void UnknownXml::Restore(pugi::xml_node node) const {
   if (!kept_) return;
   const auto holder = kept_->first_child();
   for (const auto attribute : holder.attributes()) {

@@ -8,7 +8,7 @@ namespace host::xml {
 
 /// The attributes, elements and comments of a node that its loader does not know. They are written back, so
 /// that additions of another version or program are never lost.
-class Leftovers {
+class UnknownXml {
  public:
   /// An attribute that its reader knows, and the pointer that receives its value, which is valid as long as
   /// the node. The pointer does not change if the attribute is missing.
@@ -22,12 +22,12 @@ class Leftovers {
     const char** value = nullptr;
   };
 
-  Leftovers() = default;
-  Leftovers(const Leftovers& other);
-  Leftovers& operator=(const Leftovers& other);
-  Leftovers(Leftovers&&) noexcept = default;
-  Leftovers& operator=(Leftovers&&) noexcept = default;
-  ~Leftovers() = default;
+  UnknownXml() = default;
+  UnknownXml(const UnknownXml& other);
+  UnknownXml& operator=(const UnknownXml& other);
+  UnknownXml(UnknownXml&&) noexcept = default;
+  UnknownXml& operator=(UnknownXml&&) noexcept = default;
+  ~UnknownXml() = default;
 
   /// Replaces what is kept by all of the node that is not named here. `XmlError` when a known attribute
   /// occurs twice.

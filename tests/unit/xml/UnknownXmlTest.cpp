@@ -2,13 +2,13 @@
 
 #include <sstream>
 
-#include "host/xml/Leftovers.h"
+#include "host/xml/UnknownXml.h"
 #include "host/xml/XmlNode.h"
 
 namespace host {
 namespace {
 
-std::string Restored(const xml::Leftovers& leftovers, const char* into = "<a/>") {
+std::string Restored(const xml::UnknownXml& leftovers, const char* into = "<a/>") {
   pugi::xml_document document;
   document.load_string(into);
   leftovers.Restore(document.document_element());
@@ -23,25 +23,25 @@ pugi::xml_document ParsedWithComments(const char* text) {
   return document;
 }
 
-TEST(Leftovers, KeepWhatIsNotNamed) {
+TEST(UnknownXml, KeepWhatIsNotNamed) {
   const auto document = ParsedWithComments("<a k='1' x='2'><known/><new><deep/></new><!--note-->text</a>");
-  xml::Leftovers leftovers;
+  xml::UnknownXml leftovers;
   leftovers.Take(document.document_element(), {"k"}, {"known"});
   EXPECT_EQ(Restored(leftovers), "<a x=\"2\"><new><deep/></new><!--note-->text</a>");
 }
 
 // Which of the two is meant cannot be known.
-TEST(Leftovers, RejectADuplicateKnownAttribute) {
+TEST(UnknownXml, RejectADuplicateKnownAttribute) {
   const auto document = ParsedWithComments("<a k='1' x='2' k='3'/>");
-  xml::Leftovers leftovers;
+  xml::UnknownXml leftovers;
   EXPECT_THROW(leftovers.Take(document.document_element(), {"k"}, {}), xml::XmlError);
   EXPECT_NO_THROW(leftovers.Take(document.document_element(), {"x"}, {}));
 }
 
-TEST(Leftovers, ReturnTheValuesOfKnownAttributes) {
+TEST(UnknownXml, ReturnTheValuesOfKnownAttributes) {
   const auto document = ParsedWithComments("<a b='2' x='3' a='1'/>");
   const char *first = "none", *second = "none", *third = "none";
-  xml::Leftovers leftovers;
+  xml::UnknownXml leftovers;
   leftovers.TakeAttributes(document.document_element(), {{"a", first}, {"b", second}, {"c", third}});
   EXPECT_STREQ(first, "1");
   EXPECT_STREQ(second, "2");
@@ -49,16 +49,16 @@ TEST(Leftovers, ReturnTheValuesOfKnownAttributes) {
   EXPECT_EQ(Restored(leftovers), "<a x=\"3\"/>");
 }
 
-TEST(Leftovers, NothingIsKeptOfAKnownNode) {
+TEST(UnknownXml, NothingIsKeptOfAKnownNode) {
   const auto document = ParsedWithComments("<a k='1'><known/></a>");
-  xml::Leftovers leftovers;
+  xml::UnknownXml leftovers;
   leftovers.Take(document.document_element(), {"k"}, {"known"});
   EXPECT_TRUE(leftovers.Empty());
   EXPECT_EQ(Restored(leftovers), "<a/>");
 }
 
-TEST(Leftovers, TakingAgainReplacesWhatWasKept) {
-  xml::Leftovers leftovers;
+TEST(UnknownXml, TakingAgainReplacesWhatWasKept) {
+  xml::UnknownXml leftovers;
   leftovers.Take(ParsedWithComments("<a x='1'/>").document_element(), {}, {});
   leftovers.Take(ParsedWithComments("<a y='1'/>").document_element(), {}, {});
   EXPECT_EQ(Restored(leftovers), "<a y=\"1\"/>");
@@ -66,16 +66,16 @@ TEST(Leftovers, TakingAgainReplacesWhatWasKept) {
   EXPECT_TRUE(leftovers.Empty());
 }
 
-TEST(Leftovers, DoNotOverwriteAnAttribute) {
-  xml::Leftovers leftovers;
+TEST(UnknownXml, DoNotOverwriteAnAttribute) {
+  xml::UnknownXml leftovers;
   leftovers.Take(ParsedWithComments("<a x='old'/>").document_element(), {}, {});
   EXPECT_EQ(Restored(leftovers, "<a x='new'/>"), "<a x=\"new\"/>");
 }
 
-TEST(Leftovers, CopiesAreIndependent) {
-  xml::Leftovers first;
+TEST(UnknownXml, CopiesAreIndependent) {
+  xml::UnknownXml first;
   first.Take(ParsedWithComments("<a x='1'/>").document_element(), {}, {});
-  xml::Leftovers second = first;
+  xml::UnknownXml second = first;
   first = {};
   EXPECT_TRUE(first.Empty());
   EXPECT_EQ(Restored(second), "<a x=\"1\"/>");
