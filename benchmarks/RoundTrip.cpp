@@ -84,7 +84,7 @@ double MedianMicroseconds(const std::function<void()>& trip) {
 
 /// The least that any program needs for it: write, wait, read.
 double Bare(const std::string& device) {
-  const host::serial::UniqueFd opened(open(device.c_str(), O_RDWR | O_NOCTTY | O_CLOEXEC));
+  const host::UniqueFd opened(open(device.c_str(), O_RDWR | O_NOCTTY | O_CLOEXEC));
   return MedianMicroseconds([&] {
     if (write(opened.Get(), kCommand.data(), kCommand.size()) < 0)
       throw std::runtime_error("the pseudo-terminal takes no bytes");

@@ -2,7 +2,7 @@
 
 #include "benchmarks/Measurements.h"
 #include "benchmarks/Repeat.h"
-#include "host/serial/UniqueFd.h"
+#include "host/base/UniqueFd.h"
 #include "tests/support/Process.h"
 #include "tests/support/TemporaryFolder.h"
 
@@ -14,7 +14,7 @@ constexpr double kMilliseconds = 1000;
 
 /// Has the system forget the file's contents, so that the next start reads them from the disk.
 void ForgetContents(const std::filesystem::path& file) {
-  const host::serial::UniqueFd opened(open(file.c_str(), O_RDONLY | O_CLOEXEC));
+  const host::UniqueFd opened(open(file.c_str(), O_RDONLY | O_CLOEXEC));
   if (opened) posix_fadvise(opened.Get(), 0, 0, POSIX_FADV_DONTNEED);
 }
 

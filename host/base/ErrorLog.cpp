@@ -101,9 +101,9 @@ void ErrorLog::Append(const std::string& line, bool toDisk) const {
   lockFile += ".lock";
   const FileLock lock(lockFile, kLockPatience);
   RotateBefore(line.size());
-  const FileDescriptor descriptor(
+  const UniqueFd descriptor(
       open(file_.c_str(), O_WRONLY | O_APPEND | O_CREAT | O_NOFOLLOW | O_CLOEXEC, 0666));
-  if (!descriptor.Valid())
+  if (!descriptor)
     ThrowFileError(file_, Tr("%%1 cannot be opened"), errno, Tr("check the folder and your permissions"));
   WriteDescriptor(descriptor.Get(), line, file_);
   if (toDisk && fsync(descriptor.Get()) != 0)

@@ -17,18 +17,9 @@
 
 namespace host {
 
-FileDescriptor& FileDescriptor::operator=(FileDescriptor&& other) noexcept {
-  std::swap(descriptor_, other.descriptor_);
-  return *this;
-}
-
-FileDescriptor::~FileDescriptor() {
-  if (descriptor_ >= 0) close(descriptor_);
-}
-
 std::string ReadFile(const std::filesystem::path& file) {
-  const FileDescriptor descriptor(open(file.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
-  if (!descriptor.Valid())
+  const UniqueFd descriptor(open(file.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+  if (!descriptor)
     ThrowFileError(file, Tr("%%1 cannot be opened"), errno, Tr("check the name and your permissions"));
   return ReadDescriptor(descriptor.Get(), file);
 }
@@ -74,8 +65,8 @@ std::optional<mode_t> FileMode(const std::filesystem::path& file) {
 
 void SyncFolderOf(const std::filesystem::path& file) {
   const auto folder = file.has_parent_path() ? file.parent_path() : std::filesystem::path(".");
-  const FileDescriptor descriptor(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-  if (!descriptor.Valid() || fsync(descriptor.Get()) != 0)
+  const UniqueFd descriptor(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  if (!descriptor || fsync(descriptor.Get()) != 0)
     ThrowFileError(folder, Tr("%%1 cannot be brought to the disk"), errno, Tr("check the disk"));
 }
 
@@ -105,8 +96,8 @@ void CreateFolder(const std::filesystem::path& folder) {
 }
 
 FileLock::FileLock(const std::filesystem::path& lockFile, std::chrono::milliseconds patience) {
-  descriptor_ = FileDescriptor(open(lockFile.c_str(), O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC, 0666));
-  if (!descriptor_.Valid())
+  descriptor_ = UniqueFd(open(lockFile.c_str(), O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC, 0666));
+  if (!descriptor_)
     ThrowFileError(lockFile, Tr("%%1 cannot be opened"), errno, Tr("check the folder and your permissions"));
   const auto deadline = std::chrono::steady_clock::now() + patience;
   WaitUntilFree([&] {

@@ -8,28 +8,11 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <utility>
+
+#include "host/base/UniqueFd.h"
 
 /// Durable files. Every error is a `HostError` 75 that names the file and says what to do.
 namespace host {
-
-/// Owns an open file.
-class FileDescriptor {
- public:
-  FileDescriptor() = default;
-  explicit FileDescriptor(int descriptor) : descriptor_(descriptor) {}
-  FileDescriptor(FileDescriptor&& other) noexcept : descriptor_(std::exchange(other.descriptor_, -1)) {}
-  FileDescriptor& operator=(FileDescriptor&& other) noexcept;
-  FileDescriptor(const FileDescriptor&) = delete;
-  FileDescriptor& operator=(const FileDescriptor&) = delete;
-  ~FileDescriptor();
-
-  bool Valid() const { return descriptor_ >= 0; }
-  int Get() const { return descriptor_; }
-
- private:
-  int descriptor_ = -1;
-};
 
 /// Files beyond this size are refused: nothing that this host reads is that large.
 inline constexpr std::uintmax_t kLargestFile = 512U * 1024 * 1024;
@@ -69,7 +52,7 @@ class FileLock {
  private:
   bool TryLock(const std::filesystem::path& lockFile) const;
 
-  FileDescriptor descriptor_;
+  UniqueFd descriptor_;
 };
 
 /// How long the host waits for another program that is writing one of its files.

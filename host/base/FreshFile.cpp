@@ -36,9 +36,9 @@ FreshFile FreshFile::Beside(const std::filesystem::path& file, std::string_view 
 
 FreshFile FreshFile::ForNewName(const std::filesystem::path& file, std::string_view contents, Names names) {
   if (names == Names::kLate) {
-    FreshFile nameless(
-        {}, FileDescriptor(open(FolderOf(file).c_str(), O_RDWR | O_TMPFILE | O_CLOEXEC, kUsualMode)));
-    if (nameless.descriptor_.Valid()) {
+    FreshFile nameless({},
+                       UniqueFd(open(FolderOf(file).c_str(), O_RDWR | O_TMPFILE | O_CLOEXEC, kUsualMode)));
+    if (nameless.descriptor_) {
       nameless.Fill(file, contents, {});
       return nameless;
     }
@@ -50,8 +50,8 @@ FreshFile FreshFile::ForNewName(const std::filesystem::path& file, std::string_v
 }
 
 FreshFile FreshFile::Named(const std::filesystem::path& name, const std::filesystem::path& file) {
-  FileDescriptor descriptor(open(name.c_str(), O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC, kUsualMode));
-  if (!descriptor.Valid())
+  UniqueFd descriptor(open(name.c_str(), O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC, kUsualMode));
+  if (!descriptor)
     ThrowFileError(file, Tr("%%1 cannot be written"), errno, Tr("check the folder and your permissions"));
   return {name, std::move(descriptor)};
 }
@@ -72,14 +72,14 @@ void FreshFile::Fill(const std::filesystem::path& file, std::string_view content
     ThrowFileError(file, Tr("%%1 cannot be brought to the disk"), errno, Tr("check the disk"));
 }
 
-FileDescriptor FreshFile::Replace(const std::filesystem::path& file) && {
+UniqueFd FreshFile::Replace(const std::filesystem::path& file) && {
   if (rename(name_.c_str(), file.c_str()) != 0)
     ThrowFileError(file, Tr("%%1 cannot be replaced"), errno, Tr("check the folder and your permissions"));
   name_.clear();
   return std::move(descriptor_);
 }
 
-FileDescriptor FreshFile::TakeNewName(const std::filesystem::path& file) && {
+UniqueFd FreshFile::TakeNewName(const std::filesystem::path& file) && {
   const int error = Link(file);
   if (error == EEXIST)
     ThrowFileError(file, Tr("%%1 is there already"), 0, Tr("choose another name, or remove the file first"));

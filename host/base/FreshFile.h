@@ -34,12 +34,12 @@ class FreshFile {
   int Descriptor() const { return descriptor_.Get(); }
 
   /// Gives it the name in the place of the file that has it. The name is not flushed yet: `SyncFolderOf`.
-  FileDescriptor Replace(const std::filesystem::path& file) &&;
+  UniqueFd Replace(const std::filesystem::path& file) &&;
   /// Gives it the name, which must be free: otherwise refused. Not flushed either.
-  FileDescriptor TakeNewName(const std::filesystem::path& file) &&;
+  UniqueFd TakeNewName(const std::filesystem::path& file) &&;
 
  private:
-  FreshFile(std::filesystem::path name, FileDescriptor descriptor)
+  FreshFile(std::filesystem::path name, UniqueFd descriptor)
       : name_(std::move(name)), descriptor_(std::move(descriptor)) {}
 
   static FreshFile Named(const std::filesystem::path& name, const std::filesystem::path& file);
@@ -47,7 +47,7 @@ class FreshFile {
   int Link(const std::filesystem::path& file);
 
   std::filesystem::path name_;  ///< that it has so far; empty for none
-  FileDescriptor descriptor_;
+  UniqueFd descriptor_;
 };
 
 }  // namespace host

@@ -74,8 +74,8 @@ void SimulatedTester::Start(const std::string& profile, double timeScale) {
   if (!profile.empty()) command.insert(command.end(), {"--profile", profile});
   int ends[2];
   if (pipe2(ends, O_CLOEXEC) != 0) throw IncompleteError(Tr("a pipe could not be created"));
-  output_ = serial::UniqueFd(ends[0]);
-  const serial::UniqueFd theirs(ends[1]);
+  output_ = UniqueFd(ends[0]);
+  const UniqueFd theirs(ends[1]);
   const pid_t self = getpid();
   process_ = fork();
   if (process_ < 0) throw IncompleteError(Tr("a process could not be started"));

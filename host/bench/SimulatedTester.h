@@ -5,7 +5,7 @@
 #include <array>
 #include <string>
 
-#include "host/serial/UniqueFd.h"
+#include "host/base/UniqueFd.h"
 
 namespace host::bench {
 
@@ -35,7 +35,7 @@ class SimulatedTester {
 
   const std::string link_;
   pid_t process_ = -1;
-  serial::UniqueFd output_;
+  UniqueFd output_;
 };
 
 }  // namespace host::bench

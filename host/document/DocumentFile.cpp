@@ -23,8 +23,8 @@ DocumentFile::Use constexpr kWrite = DocumentFile::Use::kWrite;
 }  // namespace
 
 std::optional<DocumentFile::Stamp> DocumentFile::StampOf(const std::filesystem::path& file) {
-  const FileDescriptor descriptor(open(file.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
-  return descriptor.Valid() ? StampOf(descriptor.Get()) : std::nullopt;
+  const UniqueFd descriptor(open(file.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+  return descriptor ? StampOf(descriptor.Get()) : std::nullopt;
 }
 
 std::optional<DocumentFile::Stamp> DocumentFile::StampOf(int descriptor) {
@@ -55,8 +55,8 @@ DocumentFile DocumentFile::Existing(const std::filesystem::path& file, Use use) 
 
 bool DocumentFile::TryOpen(Use use) {
   use_ = use;
-  descriptor_ = FileDescriptor(open(path_.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
-  if (!descriptor_.Valid())
+  descriptor_ = UniqueFd(open(path_.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+  if (!descriptor_)
     ThrowFileError(path_, Tr("%%1 cannot be opened"), errno, Tr("check the name and your permissions"));
   if (use == kWrite) Lock(descriptor_.Get());
   stamp_ = StampOf(descriptor_.Get());

@@ -47,7 +47,7 @@ class DocumentFile {
   void Lock(int descriptor) const;
 
   std::filesystem::path path_;
-  FileDescriptor descriptor_;
+  UniqueFd descriptor_;
   Use use_ = Use::kRead;
   /// The file as this object left it; none while it has not been created.
   std::optional<Stamp> stamp_;

@@ -3,8 +3,8 @@
 #include <string>
 #include <string_view>
 
+#include "host/base/UniqueFd.h"
 #include "host/serial/LineSettings.h"
-#include "host/serial/UniqueFd.h"
 
 namespace host::serial {
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "host/serial/UniqueFd.h"
+#include "host/base/UniqueFd.h"
 #include "host/serial/Wire.h"
 
 namespace host::serial {

@@ -24,7 +24,7 @@ namespace support {
 
 namespace {
 
-using host::serial::UniqueFd;
+using host::UniqueFd;
 
 constexpr std::chrono::minutes kPatience(2);
 

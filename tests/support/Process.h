@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "host/serial/UniqueFd.h"
+#include "host/base/UniqueFd.h"
 
 namespace support {
 
@@ -65,7 +65,7 @@ class Process {
 
  private:
   struct Stream {
-    host::serial::UniqueFd from;
+    host::UniqueFd from;
     std::string text;
   };
 
@@ -73,7 +73,7 @@ class Process {
 
   pid_t process_ = -1;
   Clock::time_point started_;
-  host::serial::UniqueFd in_;
+  host::UniqueFd in_;
   Stream out_, error_;
 };
 

@@ -9,7 +9,7 @@
 #include <stdexcept>
 #include <string>
 
-#include "host/serial/UniqueFd.h"
+#include "host/base/UniqueFd.h"
 
 namespace support {
 
@@ -22,7 +22,7 @@ class PseudoTerminal {
         ptsname_r(near_.Get(), name, sizeof name) != 0)
       throw std::runtime_error("no pseudo-terminal to be had");
     path_ = name;
-    far_ = host::serial::UniqueFd(open(name, O_RDWR | O_NOCTTY | O_CLOEXEC));
+    far_ = host::UniqueFd(open(name, O_RDWR | O_NOCTTY | O_CLOEXEC));
     termios mode{};
     tcgetattr(far_.Get(), &mode);
     cfmakeraw(&mode);
@@ -58,8 +58,8 @@ class PseudoTerminal {
   }
 
  private:
-  host::serial::UniqueFd near_;
-  host::serial::UniqueFd far_;
+  host::UniqueFd near_;
+  host::UniqueFd far_;
   std::string path_;
 };
 

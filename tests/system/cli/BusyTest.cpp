@@ -13,8 +13,8 @@ class BusyTest : public CliTest {
   BusyTest() : file_(NewDocument({"410"})) {}
 
   /// Holds the file as another program does that has it open for writing.
-  static host::serial::UniqueFd Hold(const std::string& file) {
-    host::serial::UniqueFd held(open(file.c_str(), O_RDWR | O_NOCTTY | O_CLOEXEC));
+  static host::UniqueFd Hold(const std::string& file) {
+    host::UniqueFd held(open(file.c_str(), O_RDWR | O_NOCTTY | O_CLOEXEC));
     EXPECT_EQ(flock(held.Get(), LOCK_EX | LOCK_NB), 0) << file;
     return held;
   }

@@ -27,7 +27,7 @@ class GuiProgramTest : public testing::Test {
   }
   /// Whether a program has the document open for writing.
   static bool Held(const std::string& file) {
-    const host::serial::UniqueFd descriptor(open(file.c_str(), O_RDONLY | O_CLOEXEC));
+    const host::UniqueFd descriptor(open(file.c_str(), O_RDONLY | O_CLOEXEC));
     return flock(descriptor.Get(), LOCK_EX | LOCK_NB) != 0;
   }
 

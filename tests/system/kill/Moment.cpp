@@ -39,7 +39,7 @@ class Watch {
   }
 
  private:
-  host::serial::UniqueFd events_;
+  host::UniqueFd events_;
   int count_ = 0;
 };
 

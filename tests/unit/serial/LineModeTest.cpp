@@ -8,9 +8,7 @@ namespace {
 
 class LineModeTest : public testing::Test {
  protected:
-  serial::UniqueFd Open() {
-    return serial::UniqueFd(open(terminal_.Path().c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK));
-  }
+  UniqueFd Open() { return UniqueFd(open(terminal_.Path().c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK)); }
 
   support::PseudoTerminal terminal_;
 };
@@ -53,7 +51,7 @@ TEST_F(LineModeTest, ChecksTheParityOfInput) {
 }
 
 TEST_F(LineModeTest, RejectsOtherDevices) {
-  serial::UniqueFd nothing(open("/dev/null", O_RDWR));
+  UniqueFd nothing(open("/dev/null", O_RDWR));
   EXPECT_NE(serial::SetLineMode(nothing.Get(), serial::ParseLineSettings("9600,O,8,1"), false), "");
 }
 

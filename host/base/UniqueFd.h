@@ -4,7 +4,7 @@
 
 #include <utility>
 
-namespace host::serial {
+namespace host {
 
 /// Owns a file descriptor.
 class UniqueFd {
@@ -33,4 +33,4 @@ class UniqueFd {
   int descriptor_ = -1;
 };
 
-}  // namespace host::serial
+}  // namespace host
