@@ -74,6 +74,14 @@ TEST_F(RegistryReaderTest, FailedOpenClosesTheKeyThatWasOpen) {
   EXPECT_FALSE(reader.IsOpen());
 }
 
+TEST_F(RegistryReaderTest, FailedCreationClosesTheKeyThatWasOpen) {
+  auto reader = Reader();
+  ASSERT_TRUE(reader.CreateKey(kHive, "Software\\X"));
+  std::filesystem::permissions(folder_.Path() / "registry.json", std::filesystem::perms::owner_read);
+  EXPECT_FALSE(reader.CreateKey(kHive, "Software\\Y"));
+  EXPECT_FALSE(reader.IsOpen());
+}
+
 TEST_F(RegistryReaderTest, LogsADamagedStoreAndDoesNotOpen) {
   folder_.Write("registry.json", "{ cut");
   auto reader = Reader();
