@@ -135,7 +135,7 @@ void TestElement::IBaseElement_SetLimits(std::shared_ptr<orvik::ILimitData> Limi
 
 void TestElement::IBaseElement_SetResult(std::shared_ptr<orvik::IResultData> Result) {
   // Unknown XML next to a result belongs to that result; drop it when the result changes.
-  if (Result != result_) resultLeftovers_ = {};
+  if (Result != result_) unknownResult_ = {};
   result_ = std::move(Result);
 }
 
@@ -178,8 +178,8 @@ void TestElement::CopyTo(TestElement& copy) const {
   if (limits_) copy.limits_ = limits_->Clone();
   if (result_) copy.result_ = CopyOfResult();
   copy.leftovers_ = leftovers_;
-  copy.configurationLeftovers_ = configurationLeftovers_;
-  copy.resultLeftovers_ = resultLeftovers_;
+  copy.unknownConfiguration_ = unknownConfiguration_;
+  copy.unknownResult_ = unknownResult_;
   CloneChildren(copy);
 }
 
@@ -248,7 +248,7 @@ bool TestElement::LoadPart(pugi::xml_node part, xml::XmlReference& reference,
     LoadAuxiliary(part);
   } else if (is(tags::kConfiguration) && configuration_) {
     configuration_->Load(reference.To(part));
-    configurationLeftovers_.Take(part, {}, {tags::kPlugInData});
+    unknownConfiguration_.Take(part, {}, {tags::kPlugInData});
   } else if (is(tags::kExpectedResult) && limits_) {
     limits_->Load(reference.To(part), context);
   } else if (is(tags::kResultItem) && !outer_.expired()) {
@@ -271,8 +271,8 @@ void TestElement::LoadAuxiliary(pugi::xml_node node) {
 void TestElement::LoadResult(const std::shared_ptr<orvik::IXmlNode>& node,
                              const std::shared_ptr<IObject>& context) {
   orvik::Required(result_).Load(node, context);
-  resultLeftovers_.Take(xml::XmlNode::Of(node).Raw(), {tags::kMTI},
-                        {tags::kStatus, tags::kServiceRecord, tags::kComment, tags::kMeasurement});
+  unknownResult_.Take(xml::XmlNode::Of(node).Raw(), {tags::kMTI},
+                      {tags::kStatus, tags::kServiceRecord, tags::kComment, tags::kMeasurement});
 }
 
 std::shared_ptr<orvik::IXmlNode> TestElement::ITestElement_Save(
@@ -299,7 +299,7 @@ void TestElement::SaveTo(const std::shared_ptr<orvik::IXmlNode>& node) const {
   if (configuration_) {
     const auto configuration = node->AddChild(tags::kConfiguration);
     configuration_->Save(configuration);
-    configurationLeftovers_.Restore(xml::XmlNode::Of(configuration).Raw());
+    unknownConfiguration_.Restore(xml::XmlNode::Of(configuration).Raw());
   }
   if (limits_) limits_->Save(node);
   if (result_) SaveResult(node);
@@ -312,7 +312,7 @@ void TestElement::SaveResult(const std::shared_ptr<orvik::IXmlNode>& node) const
   if (!saved)
     throw HostError(HostError::kInvalidArgument, kElementSource,
                     Tr("the result of element %%1 could not be saved", {std::to_string(id_)}));
-  resultLeftovers_.Restore(xml::XmlNode::Of(saved).Raw());
+  unknownResult_.Restore(xml::XmlNode::Of(saved).Raw());
 }
 
 }  // namespace host::elements

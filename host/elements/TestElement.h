@@ -123,8 +123,8 @@ class TestElement : public orvik::IBaseElement {
   std::shared_ptr<orvik::ILimitData> limits_;
   std::shared_ptr<orvik::IResultData> result_;
   xml::UnknownXml leftovers_;
-  xml::UnknownXml configurationLeftovers_;
-  xml::UnknownXml resultLeftovers_;
+  xml::UnknownXml unknownConfiguration_;
+  xml::UnknownXml unknownResult_;
 };
 
 }  // namespace host::elements

@@ -93,7 +93,9 @@ TEST(RunChain, DetectsARemovedAddedOrMovedElement) {
       // A test that names a tester needs one.
       if (what != "Tester") element.parent().remove_child(element);
     });
-    if (what != "Tester") EXPECT_EQ(StatesIn(removed), shows) << "without " << what;
+    if (what != "Tester") {
+      EXPECT_EQ(StatesIn(removed), shows) << "without " << what;
+    }
     EXPECT_EQ(StatesIn(Changed([&](pugi::xml_node section) {
                 auto element = Parts(RunAt(section, 2)).elements[place];
                 element.parent().insert_copy_after(element, element);

@@ -13,7 +13,7 @@ class CKELDTestElementRunTest : public support::DrivenTest {
       "Can not find a KELD attached to this system. Make sure that the cable is properly connected, and that "
       "the unit is powered on.";
 
-  void UseLeads(double milliohms) {
+  void UseLeads(std::int32_t milliohms) {
     instrument::CKELDData::Shared()->SetSerialNumber("0815");
     instrument::CKELDData::Shared()->SetCalibValue(milliohms);
   }

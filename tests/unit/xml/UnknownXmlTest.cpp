@@ -8,10 +8,10 @@
 namespace host {
 namespace {
 
-std::string Restored(const xml::UnknownXml& leftovers, const char* into = "<a/>") {
+std::string Restored(const xml::UnknownXml& unknown, const char* into = "<a/>") {
   pugi::xml_document document;
   document.load_string(into);
-  leftovers.Restore(document.document_element());
+  unknown.Restore(document.document_element());
   std::ostringstream text;
   document.document_element().print(text, "", pugi::format_raw);
   return text.str();
@@ -25,51 +25,51 @@ pugi::xml_document ParsedWithComments(const char* text) {
 
 TEST(UnknownXml, KeepWhatIsNotNamed) {
   const auto document = ParsedWithComments("<a k='1' x='2'><known/><new><deep/></new><!--note-->text</a>");
-  xml::UnknownXml leftovers;
-  leftovers.Take(document.document_element(), {"k"}, {"known"});
-  EXPECT_EQ(Restored(leftovers), "<a x=\"2\"><new><deep/></new><!--note-->text</a>");
+  xml::UnknownXml unknown;
+  unknown.Take(document.document_element(), {"k"}, {"known"});
+  EXPECT_EQ(Restored(unknown), "<a x=\"2\"><new><deep/></new><!--note-->text</a>");
 }
 
 // Which of the two is meant cannot be known.
 TEST(UnknownXml, RejectADuplicateKnownAttribute) {
   const auto document = ParsedWithComments("<a k='1' x='2' k='3'/>");
-  xml::UnknownXml leftovers;
-  EXPECT_THROW(leftovers.Take(document.document_element(), {"k"}, {}), xml::XmlError);
-  EXPECT_NO_THROW(leftovers.Take(document.document_element(), {"x"}, {}));
+  xml::UnknownXml unknown;
+  EXPECT_THROW(unknown.Take(document.document_element(), {"k"}, {}), xml::XmlError);
+  EXPECT_NO_THROW(unknown.Take(document.document_element(), {"x"}, {}));
 }
 
 TEST(UnknownXml, ReturnTheValuesOfKnownAttributes) {
   const auto document = ParsedWithComments("<a b='2' x='3' a='1'/>");
   const char *first = "none", *second = "none", *third = "none";
-  xml::UnknownXml leftovers;
-  leftovers.TakeAttributes(document.document_element(), {{"a", first}, {"b", second}, {"c", third}});
+  xml::UnknownXml unknown;
+  unknown.TakeAttributes(document.document_element(), {{"a", first}, {"b", second}, {"c", third}});
   EXPECT_STREQ(first, "1");
   EXPECT_STREQ(second, "2");
   EXPECT_STREQ(third, "none");
-  EXPECT_EQ(Restored(leftovers), "<a x=\"3\"/>");
+  EXPECT_EQ(Restored(unknown), "<a x=\"3\"/>");
 }
 
 TEST(UnknownXml, NothingIsKeptOfAKnownNode) {
   const auto document = ParsedWithComments("<a k='1'><known/></a>");
-  xml::UnknownXml leftovers;
-  leftovers.Take(document.document_element(), {"k"}, {"known"});
-  EXPECT_TRUE(leftovers.Empty());
-  EXPECT_EQ(Restored(leftovers), "<a/>");
+  xml::UnknownXml unknown;
+  unknown.Take(document.document_element(), {"k"}, {"known"});
+  EXPECT_TRUE(unknown.Empty());
+  EXPECT_EQ(Restored(unknown), "<a/>");
 }
 
 TEST(UnknownXml, TakingAgainReplacesWhatWasKept) {
-  xml::UnknownXml leftovers;
-  leftovers.Take(ParsedWithComments("<a x='1'/>").document_element(), {}, {});
-  leftovers.Take(ParsedWithComments("<a y='1'/>").document_element(), {}, {});
-  EXPECT_EQ(Restored(leftovers), "<a y=\"1\"/>");
-  leftovers.Take({}, {}, {});
-  EXPECT_TRUE(leftovers.Empty());
+  xml::UnknownXml unknown;
+  unknown.Take(ParsedWithComments("<a x='1'/>").document_element(), {}, {});
+  unknown.Take(ParsedWithComments("<a y='1'/>").document_element(), {}, {});
+  EXPECT_EQ(Restored(unknown), "<a y=\"1\"/>");
+  unknown.Take({}, {}, {});
+  EXPECT_TRUE(unknown.Empty());
 }
 
 TEST(UnknownXml, DoNotOverwriteAnAttribute) {
-  xml::UnknownXml leftovers;
-  leftovers.Take(ParsedWithComments("<a x='old'/>").document_element(), {}, {});
-  EXPECT_EQ(Restored(leftovers, "<a x='new'/>"), "<a x=\"new\"/>");
+  xml::UnknownXml unknown;
+  unknown.Take(ParsedWithComments("<a x='old'/>").document_element(), {}, {});
+  EXPECT_EQ(Restored(unknown, "<a x='new'/>"), "<a x=\"new\"/>");
 }
 
 TEST(UnknownXml, CopiesAreIndependent) {
