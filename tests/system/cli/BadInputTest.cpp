@@ -3,151 +3,128 @@
 namespace cli {
 namespace {
 
-struct BadInput {
-  const char* name;
-  std::vector<std::string> words;  ///< "@x" stands for the file x in the test's folder
-  std::vector<std::string> told;   ///< what the message names
-};
+class BadInputTest : public CliTest, public testing::WithParamInterface<Refusal> {};
 
-std::ostream& operator<<(std::ostream& out, const BadInput& input) { return out << input.name; }
-
-class BadInputTest : public CliTest, public testing::WithParamInterface<BadInput> {
- protected:
-  std::string Resolved(const std::string& word) const { return word[0] == '@' ? Path(word.substr(1)) : word; }
-};
-
-TEST_P(BadInputTest, EndsWithThreeAndNamesWhatIsWrong) {
+TEST_P(BadInputTest, EndsWithThree_NamesTheFault) {
   NewDocument({"410"});
   Write("garbled.orvik", "<OrvikDocument>\n<Elements>\n</OrvikDocument>\n");
   Write("garbled.xml", "<TemplateData>\n<TestElement>\n</TemplateData>\n");
   Write("other.xml", "<Other/>");
   Write("text", "text");
-  const auto document = Contents(Path("d.orvik"));
-  Words words;
-  for (const auto& word : GetParam().words) words.push_back(Resolved(word));
-  const auto refused = Bench(words);
-  EXPECT_EQ(refused.status, 3) << refused.error;
-  EXPECT_EQ(refused.out, "");
-  EXPECT_EQ(refused.error.find("\n\n"), std::string::npos) << refused.error;
-  for (const auto& told : GetParam().told)
-    EXPECT_NE(refused.error.find(Resolved(told)), std::string::npos)
-        << told << " is not in: " << refused.error;
-  EXPECT_EQ(Contents(Path("d.orvik")), document) << "the document was changed";
+  ExpectRefused(GetParam().words, GetParam().named);
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Table, BadInputTest,
     testing::Values(
-        BadInput{"NoCommand", {}, {"--help"}}, BadInput{"UnknownCommand", {"fly"}, {"fly"}},
-        BadInput{"UnknownOption", {"tests", "--fast"}, {"--fast"}},
-        BadInput{"CatalogueAbsent", {"tests", "--catalogue", "@none.xml"}, {"@none.xml"}},
-        BadInput{"CatalogueGarbled", {"tests", "--catalogue", "@garbled.xml"}, {"@garbled.xml", "line 3"}},
-        BadInput{"CatalogueOther", {"tests", "--catalogue", "@other.xml"}, {"@other.xml", "TemplateData"}},
-        BadInput{"StateIsAFile", {"run", "@d.orvik", "--simulate", "--state", "@text"}, {"@text"}},
-        BadInput{"NewEmptyName", {"new", "", "--add", "410"}, {"FILE", "empty"}},
-        BadInput{"ShowEmptyName", {"show", ""}, {"FILE", "empty"}},
-        BadInput{"StateEmptyName", {"show", "@d.orvik", "--state", ""}, {"--state", "empty"}},
-        BadInput{
+        Refusal{"NoCommand", {}, {"--help"}}, Refusal{"UnknownCommand", {"fly"}, {"fly"}},
+        Refusal{"UnknownOption", {"tests", "--fast"}, {"--fast"}},
+        Refusal{"CatalogueAbsent", {"tests", "--catalogue", "@none.xml"}, {"@none.xml"}},
+        Refusal{"CatalogueGarbled", {"tests", "--catalogue", "@garbled.xml"}, {"@garbled.xml", "line 3"}},
+        Refusal{"CatalogueOther", {"tests", "--catalogue", "@other.xml"}, {"@other.xml", "TemplateData"}},
+        Refusal{"StateIsAFile", {"run", "@d.orvik", "--simulate", "--state", "@text"}, {"@text"}},
+        Refusal{"NewEmptyName", {"new", "", "--add", "410"}, {"FILE", "empty"}},
+        Refusal{"ShowEmptyName", {"show", ""}, {"FILE", "empty"}},
+        Refusal{"StateEmptyName", {"show", "@d.orvik", "--state", ""}, {"--state", "empty"}},
+        Refusal{
             "WireLogEmptyName", {"run", "@d.orvik", "--simulate", "--wire-log", ""}, {"--wire-log", "empty"}},
-        BadInput{"SetEmptyName", {"limit", "@d.orvik", "--from", ""}, {"--from", "empty"}},
-        BadInput{"ArchiveEmptyName", {"archive", "list", "--archive", ""}, {"--archive", "empty"}},
-        BadInput{"ExportEmptyName", {"archive", "export", "1", "--to", ""}, {"--to", "empty"}},
-        BadInput{"NewWithoutTests", {"new", "@n.orvik"}, {"--add"}},
-        BadInput{"NewWithNoNumber", {"new", "@n.orvik", "--add", "x"}, {"--add", "x"}},
-        BadInput{
+        Refusal{"SetEmptyName", {"limit", "@d.orvik", "--from", ""}, {"--from", "empty"}},
+        Refusal{"ArchiveEmptyName", {"archive", "list", "--archive", ""}, {"--archive", "empty"}},
+        Refusal{"ExportEmptyName", {"archive", "export", "1", "--to", ""}, {"--to", "empty"}},
+        Refusal{"NewWithoutTests", {"new", "@n.orvik"}, {"--add"}},
+        Refusal{"NewWithNoNumber", {"new", "@n.orvik", "--add", "x"}, {"--add", "x"}},
+        Refusal{
             "NewWithAList", {"new", "@n.orvik", "--add", "410,910"}, {"--add 410,910: ", ": --add 410 910"}},
-        BadInput{"NewWithAnotherList",
-                 {"new", "@n.orvik", "--add", "410", "610; 910"},
-                 {"--add 610; 910: ", ": --add 610 910"}},
-        BadInput{"RunWithAList",
-                 {"run", "@d.orvik", "--simulate", "--element", "1,2"},
-                 {"--element 1,2: ", ": --element 1 --element 2"}},
-        BadInput{
-            "NewWithAFraction", {"new", "@n.orvik", "--add", "410.0"}, {"--add 410.0: ", "whole number"}},
-        BadInput{"NewInHexadecimal", {"new", "@n.orvik", "--add", "0x19A"}, {"--add 0x19A: ", "digits"}},
-        BadInput{"NewWithNothing", {"new", "@n.orvik", "--add", ""}, {"--add : ", "whole number"}},
-        BadInput{"NewBeyondAllNumbers",
-                 {"new", "@n.orvik", "--add", "99999999999999999999"},
-                 {"--add 99999999999999999999: ", "up to 2147483647"}},
-        BadInput{"LimitElementNoNumber",
-                 {"limit", "@d.orvik", "--element", "one", "--standard", "S", "--high", "1"},
-                 {"--element one: ", "whole number"}},
-        BadInput{"LimitElementsInAList",
-                 {"limit", "@d.orvik", "--element", "1,2", "--standard", "S", "--high", "1"},
-                 {"--element 1,2: ", ": --element 1 2"}},
-        BadInput{
+        Refusal{"NewWithAnotherList",
+                {"new", "@n.orvik", "--add", "410", "610; 910"},
+                {"--add 610; 910: ", ": --add 610 910"}},
+        Refusal{"RunWithAList",
+                {"run", "@d.orvik", "--simulate", "--element", "1,2"},
+                {"--element 1,2: ", ": --element 1 --element 2"}},
+        Refusal{"NewWithAFraction", {"new", "@n.orvik", "--add", "410.0"}, {"--add 410.0: ", "whole number"}},
+        Refusal{"NewInHexadecimal", {"new", "@n.orvik", "--add", "0x19A"}, {"--add 0x19A: ", "digits"}},
+        Refusal{"NewWithNothing", {"new", "@n.orvik", "--add", ""}, {"--add : ", "whole number"}},
+        Refusal{"NewBeyondAllNumbers",
+                {"new", "@n.orvik", "--add", "99999999999999999999"},
+                {"--add 99999999999999999999: ", "up to 2147483647"}},
+        Refusal{"LimitElementNoNumber",
+                {"limit", "@d.orvik", "--element", "one", "--standard", "S", "--high", "1"},
+                {"--element one: ", "whole number"}},
+        Refusal{"LimitElementsInAList",
+                {"limit", "@d.orvik", "--element", "1,2", "--standard", "S", "--high", "1"},
+                {"--element 1,2: ", ": --element 1 2"}},
+        Refusal{
             "ConfigElementNoNumber", {"config", "@d.orvik", "--element", "a"}, {"--element a: ", "whole"}},
-        BadInput{"ConfigOptionsNoNumber",
-                 {"config", "@d.orvik", "--element", "1", "--options", "skip"},
-                 {"--options skip: ", "whole number"}},
-        BadInput{"RunTimeScaleNoNumber",
-                 {"run", "@d.orvik", "--simulate", "--time-scale", "0,5"},
-                 {"--time-scale 0,5: ", "from 0.001 to 1000000"}},
-        BadInput{"GuiTimeScaleNoNumber",
-                 {"gui", "--time-scale", "fast"},
-                 {"--time-scale fast: ", "from 0.001 to 1000000"}},
-        BadInput{"ArchiveShowNoNumber", {"archive", "show", "first"}, {"ID first: ", "whole number"}},
-        BadInput{"ArchiveListNoNumber", {"archive", "list", "--limit", "ten"}, {"--limit ten: ", "whole"}},
-        BadInput{"ArchiveTrendNoNumber",
-                 {"archive", "trend", "--asset", "A", "--test", "earth"},
-                 {"--test earth: ", "whole number"}},
-        BadInput{"NewWithUnknownTest", {"new", "@n.orvik", "--add", "411"}, {"--add 411"}},
-        BadInput{"NewInNoFolder", {"new", "@none/n.orvik", "--add", "410"}, {"@none/n.orvik"}},
-        BadInput{"DocumentAbsent", {"show", "@none.orvik"}, {"@none.orvik"}},
-        BadInput{"DocumentGarbled", {"show", "@garbled.orvik"}, {"@garbled.orvik", "line 3"}},
-        BadInput{"DocumentIsAFolder", {"show", "@"}, {"is no file"}},
-        BadInput{"LimitWithoutBound",
-                 {"limit", "@d.orvik", "--element", "1", "--standard", "S"},
-                 {"--low", "--high"}},
-        BadInput{"LimitOfNoElement",
-                 {"limit", "@d.orvik", "--element", "9", "--standard", "S", "--high", "1"},
-                 {"--element 9"}},
-        BadInput{"LimitNoNumber",
-                 {"limit", "@d.orvik", "--element", "1", "--standard", "S", "--high", "abc"},
-                 {"--high", "abc"}},
-        BadInput{"LimitCrossed",
-                 {"limit", "@d.orvik", "--element", "1", "--standard", "S", "--low", "5", "--high", "1"},
-                 {"--low"}},
-        BadInput{"LimitPercentage",
-                 {"limit", "@d.orvik", "--element", "1", "--standard", "S", "--high", "10%"},
-                 {"--high", "percent"}},
-        BadInput{"ConfigOptions",
-                 {"config", "@d.orvik", "--element", "1", "--options", "9000"},
-                 {"--options 9000"}},
-        BadInput{
+        Refusal{"ConfigOptionsNoNumber",
+                {"config", "@d.orvik", "--element", "1", "--options", "skip"},
+                {"--options skip: ", "whole number"}},
+        Refusal{"RunTimeScaleNoNumber",
+                {"run", "@d.orvik", "--simulate", "--time-scale", "0,5"},
+                {"--time-scale 0,5: ", "from 0.001 to 1000000"}},
+        Refusal{"GuiTimeScaleNoNumber",
+                {"gui", "--time-scale", "fast"},
+                {"--time-scale fast: ", "from 0.001 to 1000000"}},
+        Refusal{"ArchiveShowNoNumber", {"archive", "show", "first"}, {"ID first: ", "whole number"}},
+        Refusal{"ArchiveListNoNumber", {"archive", "list", "--limit", "ten"}, {"--limit ten: ", "whole"}},
+        Refusal{"ArchiveTrendNoNumber",
+                {"archive", "trend", "--asset", "A", "--test", "earth"},
+                {"--test earth: ", "whole number"}},
+        Refusal{"NewWithUnknownTest", {"new", "@n.orvik", "--add", "411"}, {"--add 411"}},
+        Refusal{"NewInNoFolder", {"new", "@none/n.orvik", "--add", "410"}, {"@none/n.orvik"}},
+        Refusal{"DocumentAbsent", {"show", "@none.orvik"}, {"@none.orvik"}},
+        Refusal{"DocumentGarbled", {"show", "@garbled.orvik"}, {"@garbled.orvik", "line 3"}},
+        Refusal{"DocumentIsAFolder", {"show", "@"}, {"is no file"}},
+        Refusal{"LimitWithoutBound",
+                {"limit", "@d.orvik", "--element", "1", "--standard", "S"},
+                {"--low", "--high"}},
+        Refusal{"LimitOfNoElement",
+                {"limit", "@d.orvik", "--element", "9", "--standard", "S", "--high", "1"},
+                {"--element 9"}},
+        Refusal{"LimitNoNumber",
+                {"limit", "@d.orvik", "--element", "1", "--standard", "S", "--high", "abc"},
+                {"--high", "abc"}},
+        Refusal{"LimitCrossed",
+                {"limit", "@d.orvik", "--element", "1", "--standard", "S", "--low", "5", "--high", "1"},
+                {"--low"}},
+        Refusal{"LimitPercentage",
+                {"limit", "@d.orvik", "--element", "1", "--standard", "S", "--high", "10%"},
+                {"--high", "percent"}},
+        Refusal{"ConfigOptions",
+                {"config", "@d.orvik", "--element", "1", "--options", "9000"},
+                {"--options 9000"}},
+        Refusal{
             "ConfigFilter", {"config", "@d.orvik", "--element", "1", "--filter", "Best"}, {"--filter Best"}},
-        BadInput{"ConfigEmptyFilter",
-                 {"config", "@d.orvik", "--element", "1", "--filter", ""},
-                 {"--filter : ", "Maximum value"}},
-        BadInput{"RunWithoutTester", {"run", "@d.orvik"}, {"--port", "--simulate"}},
-        BadInput{"RunWithTwoTesters", {"run", "@d.orvik", "--port", "/dev/null", "--simulate"}, {"--port"}},
-        BadInput{
+        Refusal{"ConfigEmptyFilter",
+                {"config", "@d.orvik", "--element", "1", "--filter", ""},
+                {"--filter : ", "Maximum value"}},
+        Refusal{"RunWithoutTester", {"run", "@d.orvik"}, {"--port", "--simulate"}},
+        Refusal{"RunWithTwoTesters", {"run", "@d.orvik", "--port", "/dev/null", "--simulate"}, {"--port"}},
+        Refusal{
             "RunNoSuchDevice", {"run", "@d.orvik", "--port", "@none"}, {"--port", "@none", "does not exist"}},
-        BadInput{"RunNoDevice",
-                 {"run", "@d.orvik", "--port", "@text"},
-                 {"--port", "@text", "is not a serial device"}},
-        BadInput{"RunNoElement", {"run", "@d.orvik", "--simulate", "--element", "7"}, {"--element 7"}},
-        BadInput{"RunNoProfile", {"run", "@d.orvik", "--simulate", "@none"}, {"--simulate", "@none"}},
-        BadInput{
+        Refusal{"RunNoDevice",
+                {"run", "@d.orvik", "--port", "@text"},
+                {"--port", "@text", "is not a serial device"}},
+        Refusal{"RunNoElement", {"run", "@d.orvik", "--simulate", "--element", "7"}, {"--element 7"}},
+        Refusal{"RunNoProfile", {"run", "@d.orvik", "--simulate", "@none"}, {"--simulate", "@none"}},
+        Refusal{
             "RunTimeScaleZero", {"run", "@d.orvik", "--simulate", "--time-scale", "0"}, {"--time-scale 0"}},
-        BadInput{
-            "RunTimeScaleText", {"run", "@d.orvik", "--simulate", "--time-scale", "x"}, {"--time-scale"}},
-        BadInput{"RunOperator", {"run", "@d.orvik", "--simulate", "--operator", "me"}, {"--operator me"}},
-        BadInput{"RunJsonAndEvents", {"run", "@d.orvik", "--simulate", "--json", "--events"}, {"--events"}},
-        BadInput{"RunWireLog",
-                 {"run", "@d.orvik", "--simulate", "--wire-log", "@none/log"},
-                 {"@none/log", "--wire-log"}},
-        BadInput{"RunWireLogIsTheDocument",
-                 {"run", "@d.orvik", "--simulate", "--wire-log", "@d.orvik"},
-                 {"@d.orvik: the file has other content", "--wire-log"}},
-        BadInput{"RunWireLogIsAText",
-                 {"run", "@d.orvik", "--simulate", "--wire-log", "@text"},
-                 {"@text: the file has other content", "--wire-log"}},
-        BadInput{"WaitNegative", {"tests", "--wait", "-1"}, {"--wait -1"}},
-        BadInput{"WaitNoNumber", {"tests", "--wait", "long"}, {"--wait long: ", "whole number"}},
-        BadInput{"ReportOfAnotherKind", {"report", "@d.orvik", "--to", "@x.doc"}, {"--to", "@x.doc"}},
-        BadInput{"Language", {"tests", "--lang", "../x"}, {"../x"}}),
-    [](const auto& tested) { return std::string(tested.param.name); });
+        Refusal{"RunTimeScaleText", {"run", "@d.orvik", "--simulate", "--time-scale", "x"}, {"--time-scale"}},
+        Refusal{"RunOperator", {"run", "@d.orvik", "--simulate", "--operator", "me"}, {"--operator me"}},
+        Refusal{"RunJsonAndEvents", {"run", "@d.orvik", "--simulate", "--json", "--events"}, {"--events"}},
+        Refusal{"RunWireLog",
+                {"run", "@d.orvik", "--simulate", "--wire-log", "@none/log"},
+                {"@none/log", "--wire-log"}},
+        Refusal{"RunWireLogIsTheDocument",
+                {"run", "@d.orvik", "--simulate", "--wire-log", "@d.orvik"},
+                {"@d.orvik: the file has other content", "--wire-log"}},
+        Refusal{"RunWireLogIsAText",
+                {"run", "@d.orvik", "--simulate", "--wire-log", "@text"},
+                {"@text: the file has other content", "--wire-log"}},
+        Refusal{"WaitNegative", {"tests", "--wait", "-1"}, {"--wait -1"}},
+        Refusal{"WaitNoNumber", {"tests", "--wait", "long"}, {"--wait long: ", "whole number"}},
+        Refusal{"ReportOfAnotherKind", {"report", "@d.orvik", "--to", "@x.doc"}, {"--to", "@x.doc"}},
+        Refusal{"Language", {"tests", "--lang", "../x"}, {"../x"}}),
+    kNamed);
 
 }  // namespace
 }  // namespace cli

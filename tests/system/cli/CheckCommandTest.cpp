@@ -15,30 +15,28 @@ class CheckCommandTest : public CliTest {
   }
 };
 
-TEST_F(CheckCommandTest, NothingIsWrongWithADocumentThatWasRun) {
+TEST_F(CheckCommandTest, FindsNoProblemAfterARun) {
   const auto file = NewDocument({"400", "1220"});
-  EXPECT_EQ(Bench({"limit", file, "--from", "iec-62353-class-1-bf"}).status, 0);
-  EXPECT_EQ(Bench({"run", file, "--simulate", "sound-class-1", "--time-scale", kTimeScale}).status, 0);
+  Done({"limit", file, "--from", "iec-62353-class-1-bf"});
+  Done({"run", file, "--simulate", "sound-class-1", "--time-scale", kTimeScale});
   const auto checked = Bench({"check", file});
   EXPECT_EQ(checked.status, 0);
   EXPECT_EQ(checked.out, file + ": no problems found\n");
-  const auto json = nlohmann::json::parse(Bench({"check", file, "--json"}).out);
+  const auto json = Json({"check", file, "--json"});
   EXPECT_EQ(json["wrong"], 0);
   EXPECT_TRUE(json["findings"].empty());
 }
 
-TEST_F(CheckCommandTest, NotesAloneAreNothingWrong) {
+TEST_F(CheckCommandTest, NotesAreNotProblems) {
   const auto file = NewDocument({"410"});
   Change(file, "<Instruments", "<Signature>x</Signature>\n  <Instruments");
   const auto checked = Bench({"check", file});
   EXPECT_EQ(checked.status, 0);
-  EXPECT_NE(checked.out.find("column 3: note: the element \"Signature\" is not known; it is kept"),
-            std::string::npos)
-      << checked.out;
-  EXPECT_NE(checked.out.find("no problems found"), std::string::npos);
+  EXPECT_THAT(checked.out, HasSubstr("column 3: note: the element \"Signature\" is not known; it is kept"));
+  EXPECT_THAT(checked.out, HasSubstr("no problems found"));
 }
 
-TEST_F(CheckCommandTest, EverythingThatIsWrongIsToldWithItsPlace) {
+TEST_F(CheckCommandTest, ReportsEveryProblemWithItsPlace) {
   const auto file = NewDocument({"410", "420"});
   SetLimit(file, "1", "300");
   Change(file, "ID=\"2\" TestID=\"420\"", "ID=\"1\" TestID=\"421\"");
@@ -46,10 +44,10 @@ TEST_F(CheckCommandTest, EverythingThatIsWrongIsToldWithItsPlace) {
   const auto before = Contents(file);
   const auto checked = Bench({"check", file});
   EXPECT_EQ(checked.status, 3);
-  for (const char* told : {"is used twice", "the catalogue has no test 421", "\"30O\" is not a number",
+  for (const char* part : {"is used twice", "the catalogue has no test 421", "\"30O\" is not a number",
                            "the bounds are in Ohm", "4 problems found"})
-    EXPECT_NE(checked.out.find(told), std::string::npos) << told << " is not in\n" << checked.out;
-  const auto json = nlohmann::json::parse(Bench({"check", file, "--json"}).out);
+    EXPECT_THAT(checked.out, HasSubstr(part));
+  const auto json = Json({"check", file, "--json"});
   EXPECT_EQ(json["wrong"], 4);
   for (const auto& found : json["findings"]) {
     EXPECT_EQ(found["kind"], "wrong");
@@ -59,7 +57,7 @@ TEST_F(CheckCommandTest, EverythingThatIsWrongIsToldWithItsPlace) {
   EXPECT_EQ(Contents(file), before);
 }
 
-TEST_F(CheckCommandTest, ANewerDocumentIsRefusedByEveryCommandAndKept) {
+TEST_F(CheckCommandTest, NewerDocument_IsRefusedByEveryCommand) {
   const auto file = NewDocument({"410"});
   Change(file, "OrvikDocument Version=\"1\"", "OrvikDocument Version=\"2\"");
   const auto before = Contents(file);
@@ -68,17 +66,16 @@ TEST_F(CheckCommandTest, ANewerDocumentIsRefusedByEveryCommandAndKept) {
                              Words{"config", file, "--element", "1", "--options", "1"}}) {
     const auto refused = Bench(words);
     EXPECT_EQ(refused.status, 3) << words[0];
-    EXPECT_NE((refused.out + refused.error).find("newer version of this program (format 2"),
-              std::string::npos)
-        << words[0] << ": " << refused.out << refused.error;
+    EXPECT_THAT(refused.out + refused.error, HasSubstr("newer version of this program (format 2"))
+        << words[0];
   }
   EXPECT_EQ(Contents(file), before);
 }
 
-TEST_F(CheckCommandTest, AFileThatIsNotThereIsNamed) {
+TEST_F(CheckCommandTest, NamesAMissingFile) {
   const auto refused = Bench({"check", Path("none.orvik")});
   EXPECT_EQ(refused.status, 3);
-  EXPECT_NE(refused.error.find("none.orvik"), std::string::npos);
+  EXPECT_THAT(refused.error, HasSubstr("none.orvik"));
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <cstdlib>
@@ -17,15 +18,29 @@
 namespace cli {
 
 using support::Finished;
+using testing::HasSubstr;
+using testing::Not;
 
-/// The real program, in a folder and with a state of its own.
+/// A command line that must be refused.
+struct Refusal {
+  const char* name;
+  std::vector<std::string> words;  ///< "@x" is the file x in the test's folder
+  std::vector<std::string> named;  ///< parts of the message, "@x" as in `words`
+};
+
+inline std::ostream& operator<<(std::ostream& out, const Refusal& refusal) { return out << refusal.name; }
+
+/// Names a case of a table.
+constexpr auto kNamed = [](const auto& tested) { return std::string(tested.param.name); };
+
+/// The real program, with its own folder and state.
 class CliTest : public testing::Test {
  protected:
   using Words = std::vector<std::string>;
 
   CliTest() {
     setenv("ORVIK_STATE", Path("state").c_str(), 1);
-    // The machine's language has no say.
+    // The machine's language must not matter.
     setenv("LC_ALL", "C", 1);
     unsetenv("ORVIK_LANG");
   }
@@ -39,38 +54,62 @@ class CliTest : public testing::Test {
     return std::make_unique<support::Process>(ORVIK_BENCH_PATH, std::move(arguments));
   }
   Finished Bench(Words arguments) const { return Start(std::move(arguments))->Wait(); }
+  /// What the command prints, which must succeed.
+  std::string Done(const Words& words) const {
+    const auto done = Bench(words);
+    EXPECT_EQ(done.status, 0) << done.error;
+    return done.out;
+  }
+  /// What the command prints as JSON, whatever its status.
+  nlohmann::json Json(const Words& words) const { return nlohmann::json::parse(Bench(words).out); }
+
+  static Words Join(Words words, const Words& more) {
+    words.insert(words.end(), more.begin(), more.end());
+    return words;
+  }
+
+  /// The command is refused with a message that names these, and d.orvik is unchanged.
+  void ExpectRefused(Words words, const Words& named) const {
+    const auto resolved = [this](const std::string& word) {
+      return word.starts_with("@") ? Path(word.substr(1)) : word;
+    };
+    const auto before = Contents(Path("d.orvik"));
+    for (auto& word : words) word = resolved(word);
+    const auto refused = Bench(words);
+    EXPECT_EQ(refused.status, 3) << refused.error;
+    EXPECT_EQ(refused.out, "");
+    EXPECT_THAT(refused.error, Not(HasSubstr("\n\n")));
+    for (const auto& part : named) EXPECT_THAT(refused.error, HasSubstr(resolved(part)));
+    EXPECT_EQ(Contents(Path("d.orvik")), before) << "the document was changed";
+  }
 
   /// A document with these tests; returns its path.
   std::string NewDocument(const Words& tests) const {
     const auto file = Path("d.orvik");
-    Words words{"new", file, "--add"};
-    words.insert(words.end(), tests.begin(), tests.end());
-    const auto made = Bench(words);
-    EXPECT_EQ(made.status, 0) << made.error;
+    Done(Join({"new", file, "--add"}, tests));
     return file;
   }
 
   /// The words that run the document on a simulated tester.
   static Words Simulated(const std::string& file, const std::string& profile, const Words& more = {}) {
-    Words words{"run", file, "--simulate", profile, "--time-scale", kTimeScale};
-    words.insert(words.end(), more.begin(), more.end());
-    return words;
+    return Join({"run", file, "--simulate", profile, "--time-scale", kTimeScale}, more);
+  }
+  /// Runs the document on sound equipment.
+  Finished RunSound(const std::string& file, const Words& more = {}) const {
+    return Bench(Simulated(file, "sound-class-1", more));
   }
 
   void SetLimit(const std::string& file, const std::string& element, const std::string& high) const {
-    const auto set = Bench({"limit", file, "--element", element, "--standard", "IEC 62353", "--high", high});
-    EXPECT_EQ(set.status, 0) << set.error;
+    Done({"limit", file, "--element", element, "--standard", "IEC 62353", "--high", high});
   }
 
-  /// Limits that every reading of a sound piece of equipment holds.
+  /// Sets limits that every reading of sound equipment is within.
   void SetWideLimits(const std::string& file, const Words& elements) const {
     for (const auto& element : elements) SetLimit(file, element, "100000");
   }
 
   nlohmann::json Show(const std::string& file) const {
-    const auto shown = Bench({"show", file, "--json"});
-    EXPECT_EQ(shown.status, 0) << shown.error;
-    return nlohmann::json::parse(shown.out);
+    return nlohmann::json::parse(Done({"show", file, "--json"}));
   }
 
   void Write(const std::string& name, const std::string& text) const { std::ofstream(Path(name)) << text; }
@@ -88,7 +127,7 @@ class CliTest : public testing::Test {
     return sent;
   }
 
-  /// The text of the command that was sent in that place, from 0; empty when there were fewer.
+  /// The command sent at that place, from 0; empty if fewer were sent.
   static std::string SentIn(const std::string& wireLog, std::size_t place) {
     const auto sent = SentIn(wireLog);
     return place < sent.size() ? sent[place] : "";

@@ -7,17 +7,17 @@ namespace {
 
 class DocumentCommandsTest : public CliTest {};
 
-TEST_F(DocumentCommandsTest, TestsPrintsTheCatalogue) {
+TEST_F(DocumentCommandsTest, Tests_PrintsTheCatalogue) {
   const auto text = Bench({"tests"});
   EXPECT_EQ(text.status, 0) << text.error;
-  EXPECT_NE(text.out.find("410"), std::string::npos);
-  EXPECT_NE(text.out.find("mOhm"), std::string::npos);
-  const auto json = nlohmann::json::parse(Bench({"tests", "--json"}).out);
+  EXPECT_THAT(text.out, HasSubstr("410"));
+  EXPECT_THAT(text.out, HasSubstr("mOhm"));
+  const auto json = Json({"tests", "--json"});
   EXPECT_EQ(json["tests"][0]["testId"], 100);
   EXPECT_EQ(json["tests"][0]["kind"], "sequence");
 }
 
-TEST_F(DocumentCommandsTest, TestsPrintsACatalogueOfAnyDepth) {
+TEST_F(DocumentCommandsTest, Tests_PrintsACatalogueOfAnyDepth) {
   std::string entries, ends;
   for (int level = 0; level < 3000; ++level) {
     entries += R"(<TestElement ID="100">)";
@@ -29,21 +29,21 @@ TEST_F(DocumentCommandsTest, TestsPrintsACatalogueOfAnyDepth) {
   EXPECT_LT(text.out.size(), 3000U * 100);
 }
 
-TEST_F(DocumentCommandsTest, ACatalogueFileStandsInForTheRegistry) {
+TEST_F(DocumentCommandsTest, CatalogueFile_ReplacesTheRegistry) {
   Write("own.xml",
         R"(<TemplateData><TestElement ID="410"><Type LID=""/><Name LID="1::Mine"/><Parameter LID=""/>
                       <Unit LID="2::mOhm"/></TestElement></TemplateData>)");
   for (const auto& words : {Words{"--catalogue", Path("own.xml"), "tests", "--json"},
                             Words{"tests", "--json", "--catalogue", Path("own.xml")}}) {
-    const auto json = nlohmann::json::parse(Bench(words).out);
+    const auto json = Json(words);
     ASSERT_EQ(json["tests"].size(), 1u);
     EXPECT_EQ(json["tests"][0]["name"], "Mine");
     EXPECT_EQ(json["tests"][0]["unit"], "mOhm");
   }
-  EXPECT_GT(nlohmann::json::parse(Bench({"tests", "--json"}).out)["tests"].size(), 1u);
+  EXPECT_GT(Json({"tests", "--json"})["tests"].size(), 1u);
 }
 
-TEST_F(DocumentCommandsTest, NewPrintsTheIdentifiers) {
+TEST_F(DocumentCommandsTest, New_PrintsTheIdentifiers) {
   const auto made = Bench({"new", Path("a.orvik"), "--add", "210", "400", "--asset", "A7"});
   EXPECT_EQ(made.status, 0) << made.error;
   EXPECT_EQ(made.out,
@@ -60,10 +60,10 @@ TEST_F(DocumentCommandsTest, NewPrintsTheIdentifiers) {
 }
 
 // A document that was changed by hand after its run: nothing counts that is not what the run recorded.
-TEST_F(DocumentCommandsTest, NothingPassesThatTheRunDidNotRecord) {
+TEST_F(DocumentCommandsTest, ChangedResult_DoesNotPass) {
   const auto file = NewDocument({"410"});
   SetLimit(file, "1", "300");
-  ASSERT_EQ(Bench(Simulated(file, "sound-class-1")).status, 0);
+  ASSERT_EQ(RunSound(file).status, 0);
   const auto text = std::regex_replace(Contents(file), std::regex("\n *"), "\n");
   struct Change {
     const char *from, *to, *verdict, *code;
@@ -104,7 +104,7 @@ TEST_F(DocumentCommandsTest, NothingPassesThatTheRunDidNotRecord) {
     const auto shown = Show(file);
     EXPECT_EQ(shown["outcome"], "incomplete");
     EXPECT_EQ(shown["elements"][0]["verdict"], verdict) << shown["elements"][0];
-    EXPECT_NE(shown["elements"][0]["reasons"].dump().find(code), std::string::npos) << shown["elements"][0];
+    EXPECT_THAT(shown["elements"][0]["reasons"].dump(), HasSubstr(code)) << shown["elements"][0];
     EXPECT_EQ(Bench({"check", file}).status, wrong ? 3 : 0) << Bench({"check", file}).out;
   }
 }
@@ -112,63 +112,62 @@ TEST_F(DocumentCommandsTest, NothingPassesThatTheRunDidNotRecord) {
 TEST_F(DocumentCommandsTest, NumbersWithLeadingZerosAreDecimal) {
   const auto made = Bench({"new", Path("z.orvik"), "--add", "0410", "910"});
   EXPECT_EQ(made.status, 0) << made.error;
-  EXPECT_NE(made.out.find(" 410 "), std::string::npos) << made.out;
+  EXPECT_THAT(made.out, HasSubstr(" 410 "));
 }
 
-TEST_F(DocumentCommandsTest, NewNeverOverwrites) {
+TEST_F(DocumentCommandsTest, New_NeverOverwrites) {
   Write("a.orvik", "mine");
   const auto refused = Bench({"new", Path("a.orvik"), "--add", "210"});
   EXPECT_EQ(refused.status, 3);
-  EXPECT_NE(refused.error.find("a.orvik"), std::string::npos);
+  EXPECT_THAT(refused.error, HasSubstr("a.orvik"));
   EXPECT_EQ(Contents(Path("a.orvik")), "mine");
 }
 
-TEST_F(DocumentCommandsTest, LimitTakesNegativeBoundsAndReplacesOlderOnes) {
+TEST_F(DocumentCommandsTest, Limit_AcceptsNegativeAndReplacesOlderBounds) {
   const auto file = NewDocument({"410"});
   const auto first =
       Bench({"limit", file, "--element", "1", "--standard", "S", "--low", "-5", "--high", "7"});
   EXPECT_EQ(first.status, 0) << first.error;
-  EXPECT_NE(first.out.find("at least -5 at most 7 mOhm"), std::string::npos) << first.out;
-  EXPECT_EQ(Bench({"limit", file, "--element", "1", "--standard", "S", "--high", "8"}).status, 0);
+  EXPECT_THAT(first.out, HasSubstr("at least -5 at most 7 mOhm"));
+  Done({"limit", file, "--element", "1", "--standard", "S", "--high", "8"});
   const auto text = Contents(file);
-  EXPECT_EQ(text.find("-5"), std::string::npos);
+  EXPECT_THAT(text, Not(HasSubstr("-5")));
 }
 
-TEST_F(DocumentCommandsTest, ConfigShowsAndChangesSettings) {
+TEST_F(DocumentCommandsTest, Config_ShowsAndChangesSettings) {
   const auto file = NewDocument({"910", "400"});
   EXPECT_EQ(Bench({"config", file, "--element", "1", "--options", "4"}).out,
             "element 1: options 4 (leads: 1; buttons: none)\n");
-  EXPECT_EQ(Bench({"config", file, "--element", "2", "--filter", "Maximum value"}).status, 0);
-  EXPECT_NE(Bench({"config", file, "--element", "2"}).out.find("Maximum value"), std::string::npos);
+  Done({"config", file, "--element", "2", "--filter", "Maximum value"});
+  EXPECT_THAT(Bench({"config", file, "--element", "2"}).out, HasSubstr("Maximum value"));
   SetWideLimits(file, {"1", "3", "4"});
-  EXPECT_EQ(Bench(Simulated(file, "sound-class-1")).status, 0);
+  EXPECT_EQ(RunSound(file).status, 0);
   EXPECT_EQ(SentIn(file + ".wire.log", 1), "STST,910,1");
   EXPECT_EQ(Show(file)["elements"][1]["measurement"]["value"], 123.0);
 }
 
 // Saved as an empty text, which the element reads back as 0.
-TEST_F(DocumentCommandsTest, ASequenceWithoutAValueShowsNoneEitherWhenItIsOpenedAgain) {
+TEST_F(DocumentCommandsTest, ReopenedSequence_HasNoValue) {
   const auto file = NewDocument({"400"});
   SetWideLimits(file, {"2", "3"});
-  ASSERT_EQ(Bench(Simulated(file, "sound-class-1")).status, 0);
+  ASSERT_EQ(RunSound(file).status, 0);
   EXPECT_TRUE(Show(file)["elements"][0]["measurement"]["value"].is_null()) << Show(file);
-  EXPECT_NE(Bench({"show", file}).out.find("   1  passed          -  "), std::string::npos);
+  EXPECT_THAT(Bench({"show", file}).out, HasSubstr("   1  passed          -  "));
 }
 
-TEST_F(DocumentCommandsTest, AReadingBelowTheTestLeadsIsDoubtful) {
+TEST_F(DocumentCommandsTest, ReadingBelowTheTestLeads_IsDoubtful) {
   Write("leads", "based-on = sound-class-1\n410 = 400 mOhm\n");
-  ASSERT_EQ(Bench({"calibrate", "--simulate", Path("leads"), "--time-scale", kTimeScale}).status, 0);
+  Done({"calibrate", "--simulate", Path("leads"), "--time-scale", kTimeScale});
   const auto file = NewDocument({"400"});
   SetLimit(file, "2", "200");
-  EXPECT_EQ(Bench(Simulated(file, "sound-class-1")).status, 2);
+  EXPECT_EQ(RunSound(file).status, 2);
   const auto element = Show(file)["elements"][1];
   EXPECT_EQ(element["measurement"]["value"], 0.0);
-  EXPECT_NE(element["doubts"].dump().find("123 mOhm is less than the 400 mOhm of the test leads"),
-            std::string::npos)
+  EXPECT_THAT(element["doubts"].dump(), HasSubstr("123 mOhm is less than the 400 mOhm of the test leads"))
       << element;
 }
 
-TEST_F(DocumentCommandsTest, ReportWritesWhatWasMeasured) {
+TEST_F(DocumentCommandsTest, Report_ContainsTheReadings) {
   Write("over", "based-on = sound-class-1\n420 = 0.001 Ohm overload\n");
   const auto file = Path("a.orvik");
   EXPECT_EQ(Bench({"new", file, "--add", "410", "420", "--asset", "A|7;{}"}).status, 0);
@@ -177,12 +176,12 @@ TEST_F(DocumentCommandsTest, ReportWritesWhatWasMeasured) {
   const auto written = Bench({"report", file, "--to", Path("a.txt")});
   EXPECT_EQ(written.status, 0) << written.error;
   const auto text = Contents(Path("a.txt"));
-  for (const char* told : {"A|7;{}", "INCOMPLETE", "SIM-0001", "123 mOhm", "OL", "doubtful", "passed"})
-    EXPECT_NE(text.find(told), std::string::npos) << told << " is not in:\n" << text;
+  for (const char* part : {"A|7;{}", "INCOMPLETE", "SIM-0001", "123 mOhm", "OL", "doubtful", "passed"})
+    EXPECT_THAT(text, HasSubstr(part));
 }
 
 // A limit that opening would otherwise drop: the element would count as not tested, without a word.
-TEST_F(DocumentCommandsTest, AFaultInAnElementOfTheRealPlugInIsRefused) {
+TEST_F(DocumentCommandsTest, FaultyElement_IsRefused) {
   const auto file = NewDocument({"410", "1010"});
   SetLimit(file, "1", "300");
   const auto good = Contents(file);
@@ -200,19 +199,16 @@ TEST_F(DocumentCommandsTest, AFaultInAnElementOfTheRealPlugInIsRefused) {
     for (const auto* command : {"show", "check"}) {
       const auto refused = Bench({command, Path("d.orvik")});
       EXPECT_EQ(refused.status, 3) << command << from;
-      EXPECT_NE((refused.out + refused.error).find("d.orvik, line " + std::to_string(line)),
-                std::string::npos)
-          << refused.out << refused.error;
-      EXPECT_NE((refused.out + refused.error).find(reason), std::string::npos)
-          << refused.out << refused.error;
+      EXPECT_THAT(refused.out + refused.error, HasSubstr("d.orvik, line " + std::to_string(line)));
+      EXPECT_THAT(refused.out + refused.error, HasSubstr(reason));
     }
     EXPECT_EQ(Contents(Path("d.orvik")), text);
   }
 }
 
 TEST_F(DocumentCommandsTest, HelpAndVersionEndWithZero) {
-  EXPECT_EQ(Bench({"--help"}).status, 0);
-  EXPECT_EQ(Bench({"run", "--help"}).status, 0);
+  Done({"--help"});
+  Done({"run", "--help"});
   EXPECT_EQ(Bench({"--version"}).out, "orvik-bench 2.2.0.2\n");
 }
 

@@ -5,7 +5,7 @@ namespace {
 
 class HelpTest : public CliTest {};
 
-TEST_F(HelpTest, HelpOfACommandIsItsOwnHelp) {
+TEST_F(HelpTest, HelpCommand_PrintsTheHelpOfACommand) {
   for (const Words& words :
        {Words{}, Words{"run"}, Words{"archive"}, Words{"archive", "list"}, Words{"help"}}) {
     auto asked = words, option = words;
@@ -17,30 +17,30 @@ TEST_F(HelpTest, HelpOfACommandIsItsOwnHelp) {
   }
 }
 
-TEST_F(HelpTest, HelpOfAnUnknownCommandIsRefused) {
+TEST_F(HelpTest, HelpCommand_RefusesAnUnknownCommand) {
   const auto refused = Bench({"help", "archive", "lsit"});
   EXPECT_EQ(refused.status, 3);
   EXPECT_EQ(refused.error, "orvik-bench: unknown command \"lsit\": did you mean \"list\"?\n");
 }
 
-TEST_F(HelpTest, TheVersionHasAShortOption) {
+TEST_F(HelpTest, Version_HasAShortOption) {
   EXPECT_EQ(Bench({"-V"}).out, Bench({"--version"}).out);
-  EXPECT_EQ(Bench({"-V"}).status, 0);
+  Done({"-V"});
 }
 
 struct Mistyped {
   const char* name;
   std::vector<std::string> words;
-  const char* told;
+  const char* message;
 };
 
 class MistypedTest : public HelpTest, public testing::WithParamInterface<Mistyped> {};
 
-TEST_P(MistypedTest, IsRefusedWithWhatWasMeant) {
+TEST_P(MistypedTest, IsRefused_SuggestsTheNearest) {
   const auto refused = Bench(GetParam().words);
   EXPECT_EQ(refused.status, 3);
   EXPECT_EQ(refused.out, "");
-  EXPECT_EQ(refused.error, "orvik-bench: " + std::string(GetParam().told) + " shows the options\n");
+  EXPECT_EQ(refused.error, "orvik-bench: " + std::string(GetParam().message) + " shows the options\n");
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -68,7 +68,7 @@ INSTANTIATE_TEST_SUITE_P(
         Mistyped{"OneTooMany",
                  {"tests", "more"},
                  R"(The following argument was not expected: more; "orvik-bench tests --help")"}),
-    [](const auto& tested) { return std::string(tested.param.name); });
+    kNamed);
 
 }  // namespace
 }  // namespace cli

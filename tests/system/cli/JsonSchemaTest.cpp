@@ -22,7 +22,7 @@ void CollectMute(const nlohmann::json& node, const std::string& place, std::vect
   for (const auto& [name, below] : node.items()) CollectMute(below, place + "/" + name, mute);
 }
 
-TEST(Schemas, TellSomethingOfEveryField) {
+TEST(Schemas, DescribeEveryField) {
   std::size_t schemas = 0;
   for (const auto& file :
        std::filesystem::directory_iterator(std::string(SOURCE_PATH) + "/packaging/schemas")) {
@@ -36,7 +36,7 @@ TEST(Schemas, TellSomethingOfEveryField) {
   EXPECT_GE(schemas, 11u);
 }
 
-TEST(Schemas, OfTheArchiveAgreeWithThatOfADocument) {
+TEST(Schemas, ArchiveAgreesWithDocument) {
   const auto document = Schema("document").Text()["properties"];
   auto shown = Schema("archive-show").Text()["properties"];
   shown.erase("archive");
@@ -63,7 +63,7 @@ class JsonSchemaTest : public CliTest {
   }
 };
 
-TEST_F(JsonSchemaTest, ASchemaRefusesWhatItDoesNotTell) {
+TEST_F(JsonSchemaTest, Schema_RefusesUnknownFields) {
   const Schema document("document");
   EXPECT_NE(document.Broken(nlohmann::json::parse(R"({"document": "a"})")), "");
   EXPECT_NE(document.Broken(nlohmann::json::parse(
@@ -77,7 +77,7 @@ TEST_F(JsonSchemaTest, DocumentBeforeAndAfterItsRun) {
   const auto file = NewDocument({"400", "410"});
   Keeps("document", Bench({"show", file, "--json"}).out);
   SetLimit(file, "4", "100");
-  Keeps("document", Bench(Simulated(file, "sound-class-1", {"--json"})).out);
+  Keeps("document", RunSound(file, {"--json"}).out);
   Keeps("document", Bench({"show", file, "--json"}).out);
   Keeps("runs", Bench({"show", file, "--runs", "--json"}).out);
   Keeps("run", Bench({"show", file, "--run", "1", "--json"}).out);
@@ -98,7 +98,7 @@ TEST_F(JsonSchemaTest, EventsOfALostTester) {
   ASSERT_TRUE(run->AwaitOutput("STST,410,0"));
   tester.Signal(SIGKILL);
   const auto ended = run->Wait();
-  EXPECT_NE(ended.out.find("port-failed"), std::string::npos) << ended.out;
+  EXPECT_THAT(ended.out, HasSubstr("port-failed"));
   LinesKeep("events", ended.out);
 }
 
@@ -129,9 +129,9 @@ TEST_F(JsonSchemaTest, SetsOfLimits) {
 
 TEST_F(JsonSchemaTest, TheArchive) {
   const auto file = Path("a.orvik");
-  ASSERT_EQ(Bench({"new", file, "--add", "410", "--asset", "PUMP-7"}).status, 0);
-  ASSERT_EQ(Bench({"limit", file, "--from", "iec-62353-class-1-bf"}).status, 0);
-  ASSERT_EQ(Bench(Simulated(file, "sound-class-1")).status, 0);
+  Done({"new", file, "--add", "410", "--asset", "PUMP-7"});
+  Done({"limit", file, "--from", "iec-62353-class-1-bf"});
+  ASSERT_EQ(RunSound(file).status, 0);
   Keeps("archive-add", Bench({"archive", "add", "--simulated", file, Path("none.orvik"), "--json"}).out);
   Keeps("archive-list", Bench({"archive", "list", "--json"}).out);
   Keeps("archive-show", Bench({"archive", "show", "1", "--json"}).out);

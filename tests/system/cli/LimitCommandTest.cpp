@@ -5,16 +5,9 @@ namespace {
 
 class LimitCommandTest : public CliTest {
  protected:
-  /// Sets limits or marks; the command must end with 0. Returns what it printed.
+  /// Sets limits or marks; returns what the command printed.
   std::string Limit(const std::string& file, const Words& more) const {
-    Words words{"limit", file};
-    words.insert(words.end(), more.begin(), more.end());
-    const auto done = Bench(words);
-    EXPECT_EQ(done.status, 0) << done.error;
-    return done.out;
-  }
-  static bool Holds(const std::string& text, const std::string& part) {
-    return text.find(part) != std::string::npos;
+    return Done(Join({"limit", file}, more));
   }
 };
 
@@ -26,70 +19,69 @@ TEST_F(LimitCommandTest, SetsALimitForSeveralElements) {
             "element 2 (Protective earth, without mains cord): S, d: at most 200 mOhm\n");
 }
 
-TEST_F(LimitCommandTest, ASetReplacesTheFiguresOfAnEarlierSetOfTheStandard) {
+TEST_F(LimitCommandTest, Set_ReplacesAnEarlierSetOfTheStandard) {
   const auto file = NewDocument({"410", "740"});
   Limit(file, {"--from", "iec-62353-class-1-bf"});
   const auto applied = Limit(file, {"--from", "iec-62353-class-2-bf"});
-  EXPECT_TRUE(Holds(applied, "2  Enclosure leakage, NC, mains reversed                  at most 100 µA\n"))
-      << applied;
-  EXPECT_TRUE(Holds(applied, "removed: IEC 62353, 2014, class I, type BF: at most 300 mOhm; not judged"))
-      << applied;
-  EXPECT_FALSE(Holds(Contents(file), "class I,"));
+  EXPECT_THAT(applied,
+              HasSubstr("2  Enclosure leakage, NC, mains reversed                  at most 100 µA\n"));
+  EXPECT_THAT(applied, HasSubstr("removed: IEC 62353, 2014, class I, type BF: at most 300 mOhm; not judged"));
+  EXPECT_THAT(Contents(file), Not(HasSubstr("class I,")));
   const auto back = Limit(file, {"--from", "iec-62353-class-1-cf", "--element", "1"});
-  EXPECT_TRUE(Holds(Contents(file), "class II,")) << "element 2 was not named: " << back;
+  EXPECT_THAT(Contents(file), HasSubstr("class II,")) << "element 2 was not named: " << back;
 }
 
-TEST_F(LimitCommandTest, ASetReplacesAFigureInItsLine) {
+TEST_F(LimitCommandTest, Set_NamesAReplacedFigure) {
   const auto file = NewDocument({"410"});
   Limit(file, {"--from", "iec-62353-class-1-bf"});
-  EXPECT_TRUE(Holds(Limit(file, {"--from", "iec-62353-class-1-cf"}),
-                    "at most 300 mOhm; replaces IEC 62353, 2014, class I, type BF: at most 300 mOhm\n"));
+  EXPECT_THAT(Limit(file, {"--from", "iec-62353-class-1-cf"}),
+              HasSubstr("at most 300 mOhm; replaces IEC 62353, 2014, class I, type BF: at most 300 mOhm\n"));
 }
 
-TEST_F(LimitCommandTest, AlsoKeepsTheFiguresOfAnEarlierSet) {
+TEST_F(LimitCommandTest, Also_KeepsAnEarlierSet) {
   const auto file = NewDocument({"410"});
   Limit(file, {"--from", "iec-62353-class-1-bf"});
   const auto second = Limit(file, {"--from", "iec-62353-class-1-cf", "--also"});
-  EXPECT_TRUE(Holds(second, "judged by IEC 62353, 2014, class I, type BF: at most 300 mOhm too")) << second;
-  EXPECT_TRUE(Holds(Contents(file), "type BF"));
-  EXPECT_TRUE(Holds(Contents(file), "type CF"));
+  EXPECT_THAT(second, HasSubstr("judged by IEC 62353, 2014, class I, type BF: at most 300 mOhm too"));
+  EXPECT_THAT(Contents(file), HasSubstr("type BF"));
+  EXPECT_THAT(Contents(file), HasSubstr("type CF"));
 }
 
-TEST_F(LimitCommandTest, ASetLeavesOtherStandardsAndLimitsSetByHand) {
+TEST_F(LimitCommandTest, Set_KeepsOtherStandardsAndManualLimits) {
   const auto file = NewDocument({"410"});
   Limit(file, {"--element", "1", "--standard", "IEC 62353", "--high", "100"});
   Limit(file, {"--element", "1", "--standard", "House", "--description", "1", "--high", "50"});
   const auto applied = Limit(file, {"--from", "iec-62353-class-1-bf"});
-  EXPECT_TRUE(Holds(applied, "judged by IEC 62353: at most 100 mOhm too")) << applied;
-  EXPECT_TRUE(Holds(Contents(file), "High=\"100\""));
-  EXPECT_TRUE(Holds(Contents(file), "High=\"50\""));
+  EXPECT_THAT(applied, HasSubstr("judged by IEC 62353: at most 100 mOhm too"));
+  EXPECT_THAT(Contents(file), HasSubstr("High=\"100\""));
+  EXPECT_THAT(Contents(file), HasSubstr("High=\"50\""));
 }
 
-TEST_F(LimitCommandTest, RecordOnlyMarksAndALimitTakesTheMarkAway) {
+TEST_F(LimitCommandTest, RecordOnly_IsRemovedByALimit) {
   const auto file = NewDocument({"210", "410"});
   EXPECT_EQ(Limit(file, {"--element", "1", "2", "--record-only"}),
             "element 1 (Mains voltage): recorded, not judged\n"
             "element 2 (Protective earth, with mains cord): recorded, not judged\n");
-  EXPECT_TRUE(Holds(Contents(file), "RecordOnly=\"1\""));
-  EXPECT_TRUE(Holds(Limit(file, {"--element", "1", "--standard", "S", "--low", "200"}),
-                    "S: at least 200 V; no longer record-only\n"));
-  EXPECT_TRUE(
-      Holds(Limit(file, {"--from", "iec-62353-class-1-b"}), "at most 300 mOhm; no longer record-only\n"));
-  EXPECT_FALSE(Holds(Contents(file), "RecordOnly"));
+  EXPECT_THAT(Contents(file), HasSubstr("RecordOnly=\"1\""));
+  EXPECT_THAT(Limit(file, {"--element", "1", "--standard", "S", "--low", "200"}),
+              HasSubstr("S: at least 200 V; no longer record-only\n"));
+  EXPECT_THAT(Limit(file, {"--from", "iec-62353-class-1-b"}),
+              HasSubstr("at most 300 mOhm; no longer record-only\n"));
+  EXPECT_THAT(Contents(file), Not(HasSubstr("RecordOnly")));
 }
 
-TEST_F(LimitCommandTest, RecordOnlyIsRefusedBesideALimit) {
+TEST_F(LimitCommandTest, RecordOnly_IsRefusedBesideALimit) {
   const auto file = NewDocument({"210", "410"});
   SetLimit(file, "2", "300");
   const auto before = Contents(file);
   const auto refused = Bench({"limit", file, "--element", "1", "2", "--record-only"});
   EXPECT_EQ(refused.status, 3);
-  EXPECT_TRUE(Holds(refused.error, "element 2")) << refused.error;
-  EXPECT_TRUE(Holds(refused.error, "--element 2 --remove")) << refused.error;
+  EXPECT_THAT(refused.error, HasSubstr("element 2"));
+  EXPECT_THAT(refused.error, HasSubstr("--element 2 --remove"));
   EXPECT_EQ(Contents(file), before);
 }
 
-TEST_F(LimitCommandTest, RemoveTakesOneStandardOrAllAndTheMark) {
+TEST_F(LimitCommandTest, Remove_RemovesOneStandardOrAll) {
   const auto file = NewDocument({"410", "210"});
   Limit(file, {"--from", "iec-62353-class-1-bf"});
   Limit(file, {"--element", "1", "--standard", "House", "--high", "50"});
@@ -97,77 +89,64 @@ TEST_F(LimitCommandTest, RemoveTakesOneStandardOrAllAndTheMark) {
       Limit(file, {"--element", "1", "--remove", "--standard", "IEC 62353"}),
       "element 1 (Protective earth, with mains cord): removed: IEC 62353, 2014, class I, type BF: at most "
       "300 mOhm\n");
-  EXPECT_TRUE(Holds(Contents(file), "House"));
+  EXPECT_THAT(Contents(file), HasSubstr("House"));
   Limit(file, {"--element", "2", "--record-only"});
   const auto all = Limit(file, {"--element", "1", "2", "--remove"});
-  EXPECT_TRUE(Holds(all, "element 1 (Protective earth, with mains cord): removed: House: at most 50 mOhm\n"));
-  EXPECT_TRUE(Holds(all, "element 2 (Mains voltage): no longer record-only\n")) << all;
-  EXPECT_TRUE(Holds(all, "element 2 (Mains voltage): not judged: it needs a limit or --record-only\n"));
-  EXPECT_FALSE(Holds(Contents(file), "<Limit "));
-  EXPECT_FALSE(Holds(Contents(file), "RecordOnly"));
+  EXPECT_THAT(all,
+              HasSubstr("element 1 (Protective earth, with mains cord): removed: House: at most 50 mOhm\n"));
+  EXPECT_THAT(all, HasSubstr("element 2 (Mains voltage): no longer record-only\n"));
+  EXPECT_THAT(all, HasSubstr("element 2 (Mains voltage): not judged: it needs a limit or --record-only\n"));
+  EXPECT_THAT(Contents(file), Not(HasSubstr("<Limit ")));
+  EXPECT_THAT(Contents(file), Not(HasSubstr("RecordOnly")));
 }
 
-TEST_F(LimitCommandTest, RemoveWithADescriptionTakesThatOneAlone) {
+TEST_F(LimitCommandTest, Remove_WithADescriptionRemovesThatOne) {
   const auto file = NewDocument({"410"});
   Limit(file, {"--from", "iec-62353-class-1-bf"});
   Limit(file, {"--from", "iec-62353-class-1-cf", "--also"});
   Limit(file,
         {"--element", "1", "--remove", "--standard", "IEC 62353", "--description", "2014, class I, type BF"});
-  EXPECT_FALSE(Holds(Contents(file), "type BF"));
-  EXPECT_TRUE(Holds(Contents(file), "type CF"));
+  EXPECT_THAT(Contents(file), Not(HasSubstr("type BF")));
+  EXPECT_THAT(Contents(file), HasSubstr("type CF"));
 }
 
-TEST_F(LimitCommandTest, ALimitOfAFurtherStandardCountsAtOnce) {
+TEST_F(LimitCommandTest, NewLimit_JudgesAtOnce) {
   const auto file = NewDocument({"410"});
   SetLimit(file, "1", "300");
-  ASSERT_EQ(Bench(Simulated(file, "sound-class-1")).status, 0);
+  ASSERT_EQ(RunSound(file).status, 0);
   const auto set = Limit(file, {"--element", "1", "--standard", "House", "--high", "50"});
-  EXPECT_TRUE(Holds(set, "element 1 ")) << set;
-  EXPECT_TRUE(Holds(set, "(was: passed)")) << set;
+  EXPECT_THAT(set, HasSubstr("element 1 "));
+  EXPECT_THAT(set, HasSubstr("(was: passed)"));
   EXPECT_NE(Show(file)["outcome"], "passed");
 }
 
-struct LimitRefusal {
-  const char* name;
-  std::vector<std::string> words;
-  std::vector<std::string> told;
-};
-
-class RefusedChange : public LimitCommandTest, public testing::WithParamInterface<LimitRefusal> {};
+class RefusedChange : public LimitCommandTest, public testing::WithParamInterface<Refusal> {};
 
 TEST_P(RefusedChange, NamesTheOptionAndChangesNothing) {
   const auto file = NewDocument({"410", "210"});
   SetLimit(file, "1", "300");
-  const auto before = Contents(file);
-  Words words{"limit", file};
-  words.insert(words.end(), GetParam().words.begin(), GetParam().words.end());
-  const auto refused = Bench(words);
-  EXPECT_EQ(refused.status, 3) << refused.out;
-  EXPECT_EQ(refused.out, "");
-  for (const auto& told : GetParam().told)
-    EXPECT_TRUE(Holds(refused.error, told)) << told << " is not in: " << refused.error;
-  EXPECT_EQ(Contents(file), before);
+  ExpectRefused(Join({"limit", file}, GetParam().words), GetParam().named);
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Table, RefusedChange,
     testing::Values(
-        LimitRefusal{
+        Refusal{
             "AlsoWithoutASet", {"--element", "1", "--standard", "S", "--high", "1", "--also"}, {"--also"}},
-        LimitRefusal{"RecordOnlyAndALimit", {"--element", "2", "--record-only", "--high", "1"}, {"--high"}},
-        LimitRefusal{"RecordOnlyAndRemove", {"--element", "2", "--record-only", "--remove"}, {"--remove"}},
-        LimitRefusal{"RecordOnlyOfNoElement", {"--record-only"}, {"--element"}},
-        LimitRefusal{"RemoveAndABound", {"--element", "1", "--remove", "--low", "1"}, {"--low", "--remove"}},
-        LimitRefusal{"RemoveOfNoElement", {"--remove"}, {"--element"}},
-        LimitRefusal{"RemoveNothing", {"--element", "1", "2", "--remove"}, {"element 2", "no limits"}},
-        LimitRefusal{"RemoveAnotherStandard", {"--element", "1", "--remove", "--standard", "X"}, {"\"X\""}},
-        LimitRefusal{
+        Refusal{"RecordOnlyAndALimit", {"--element", "2", "--record-only", "--high", "1"}, {"--high"}},
+        Refusal{"RecordOnlyAndRemove", {"--element", "2", "--record-only", "--remove"}, {"--remove"}},
+        Refusal{"RecordOnlyOfNoElement", {"--record-only"}, {"--element"}},
+        Refusal{"RemoveAndABound", {"--element", "1", "--remove", "--low", "1"}, {"--low", "--remove"}},
+        Refusal{"RemoveOfNoElement", {"--remove"}, {"--element"}},
+        Refusal{"RemoveNothing", {"--element", "1", "2", "--remove"}, {"element 2", "no limits"}},
+        Refusal{"RemoveAnotherStandard", {"--element", "1", "--remove", "--standard", "X"}, {"\"X\""}},
+        Refusal{
             "RemoveADescriptionAlone", {"--element", "1", "--remove", "--description", "d"}, {"--standard"}},
-        LimitRefusal{"FromAndRemove", {"--from", "iec-62353-class-1-b", "--remove"}, {"--from", "--remove"}},
-        LimitRefusal{"LaterElementIsNotThere",
-                     {"--element", "1", "9", "--standard", "S", "--high", "1"},
-                     {"--element 9"}}),
-    [](const auto& tested) { return std::string(tested.param.name); });
+        Refusal{"FromAndRemove", {"--from", "iec-62353-class-1-b", "--remove"}, {"--from", "--remove"}},
+        Refusal{"LaterElementIsNotThere",
+                {"--element", "1", "9", "--standard", "S", "--high", "1"},
+                {"--element 9"}}),
+    kNamed);
 
 }  // namespace
 }  // namespace cli

@@ -26,14 +26,14 @@ class ManualTest : public CliTest {
   }
 };
 
-TEST_F(ManualTest, HelpTeachesEveryCommandWithAnExample) {
+TEST_F(ManualTest, Help_HasAnExampleOfEveryCommand) {
   const auto commands = Commands();
   EXPECT_GE(commands.size(), 9u);
   for (const auto& command : commands) {
     const auto help = Bench({command, "--help"});
     EXPECT_EQ(help.status, 0) << command;
     const auto examples = help.out.substr(std::min(help.out.find("Example"), help.out.size()));
-    EXPECT_NE(examples.find("\n  orvik-bench " + command + " "), std::string::npos)
+    EXPECT_THAT(examples, HasSubstr("\n  orvik-bench " + command + " "))
         << command << " has no example of its own:\n"
         << help.out;
     for (std::size_t at = 0, end; at < help.out.size(); at = end + 1) {
@@ -43,36 +43,35 @@ TEST_F(ManualTest, HelpTeachesEveryCommandWithAnExample) {
   }
 }
 
-TEST_F(ManualTest, EveryCommandOfTheArchiveHasAnExampleOfItsOwn) {
+TEST_F(ManualTest, Help_HasAnExampleOfEveryArchiveCommand) {
   ASSERT_EQ(Bench({"manual", Path("man")}).status, 0);
   const auto page = Contents(Path("man/orvik-bench-archive.1"));
   for (const std::string command : {"add", "list", "show", "export", "trend"}) {
     const auto help = Bench({"archive", command, "--help"}).out;
     const auto examples = help.substr(std::min(help.find("Example"), help.size()));
-    EXPECT_NE(examples.find("\n  orvik-bench archive " + command + " "), std::string::npos) << help;
-    EXPECT_NE(page.find("\n  orvik\\-bench archive " + command + " "), std::string::npos) << page;
+    EXPECT_THAT(examples, HasSubstr("\n  orvik-bench archive " + command + " ")) << help;
+    EXPECT_THAT(page, HasSubstr("\n  orvik\\-bench archive " + command + " "));
   }
 }
 
-TEST_F(ManualTest, HelpThatCannotBeWrittenIsNotDone) {
+TEST_F(ManualTest, UnwritableOutput_EndsWithTwo) {
   for (const std::string asked : {"--help", "--version", "run --help", "tests"}) {
     const auto line = std::string(ORVIK_BENCH_PATH) + " " + asked + " > /dev/full";
     const auto told = support::RunShell(line);
     EXPECT_EQ(told.status, 2) << asked;
-    EXPECT_NE(told.error.find("the standard output cannot be written"), std::string::npos) << asked;
+    EXPECT_THAT(told.error, HasSubstr("the standard output cannot be written")) << asked;
   }
 }
 
-TEST_F(ManualTest, HelpSaysWhichOptionsGoWithEveryCommand) {
+TEST_F(ManualTest, Help_NamesTheOptionsOfEveryCommand) {
   const std::string ofAll =
       "\"orvik-bench --help\" explains: --state DIR, --catalogue FILE, --lang L, --wait SECONDS\n";
   for (const std::string command : {"run", "show", "standards"})
-    EXPECT_NE(Bench({command, "--help"}).out.find(ofAll), std::string::npos) << command;
-  EXPECT_NE(Bench({"archive", "add", "--help"}).out.find("explains: --archive FILE|URL\n"),
-            std::string::npos);
+    EXPECT_THAT(Bench({command, "--help"}).out, HasSubstr(ofAll)) << command;
+  EXPECT_THAT(Bench({"archive", "add", "--help"}).out, HasSubstr("explains: --archive FILE|URL\n"));
 }
 
-TEST_F(ManualTest, EveryCommandHasAPageThatTheTypesetterTakes) {
+TEST_F(ManualTest, EveryCommand_HasAValidManualPage) {
   const auto made = Bench({"manual", Path("man")});
   ASSERT_EQ(made.status, 0) << made.error;
   auto commands = Commands();
@@ -82,7 +81,7 @@ TEST_F(ManualTest, EveryCommandHasAPageThatTheTypesetterTakes) {
     const auto text = Contents(page);
     ASSERT_FALSE(text.empty()) << page;
     for (const auto* section : {".SH NAME", ".SH SYNOPSIS", ".SH OPTIONS", ".SH NOTES AND EXAMPLES"})
-      EXPECT_NE(text.find(section), std::string::npos) << page << " lacks " << section;
+      EXPECT_THAT(text, HasSubstr(section)) << page;
   }
   Words lint{"-T", "lint", "-W", "warning"};
   lint.insert(lint.end(), pages.begin(), pages.end());
@@ -94,7 +93,7 @@ TEST_F(ManualTest, EveryCommandHasAPageThatTheTypesetterTakes) {
   }
 }
 
-TEST_F(ManualTest, APageShowsWhatTheHelpShows) {
+TEST_F(ManualTest, Page_ShowsTheHelp) {
   ASSERT_EQ(Bench({"manual", Path("man")}).status, 0);
   const auto shown = support::Run("/usr/bin/mandoc", {"-T", "utf8", Path("man/orvik-bench-run.1")});
   std::string plain;  // bold and underlined letters are overstruck
@@ -107,7 +106,7 @@ TEST_F(ManualTest, APageShowsWhatTheHelpShows) {
   for (const auto* text :
        {"orvik-bench run FILE [OPTION]...", "--port DEVICE", "--operator auto|ask",
         "Divide every pause and time-out", "orvik-bench run pump-7.orvik --port /dev/ttyUSB0"})
-    EXPECT_NE(plain.find(text), std::string::npos) << "\"" << text << "\" is missing in\n" << plain;
+    EXPECT_THAT(plain, HasSubstr(text));
 }
 
 class CompletionTest : public CliTest {
@@ -125,7 +124,7 @@ class CompletionTest : public CliTest {
   }
 };
 
-TEST_F(CompletionTest, OffersCommandsOptionsAndTheWordsThatAnOptionTakes) {
+TEST_F(CompletionTest, OffersCommandsOptionsAndTheirValues) {
   EXPECT_EQ(Offered({"orvik-bench", "sho"}), "show\n");
   EXPECT_EQ(Offered({"orvik-bench", "run", "a.orvik", "--resu"}), "--resume\n");
   EXPECT_EQ(Offered({"orvik-bench", "run", "a.orvik", "--stat"}), "--state\n");
@@ -142,7 +141,7 @@ TEST_F(CompletionTest, OffersFilesAndFolders) {
   EXPECT_EQ(Offered({"orvik-bench", "tests", "--catalogue", Path("pump.")}), Path("pump.orvik") + "\n");
 }
 
-TEST_F(CompletionTest, OffersDocumentsAndTheFoldersOnTheWay) {
+TEST_F(CompletionTest, OffersDocumentsAndFolders) {
   for (const auto* name : {"pump.orvik", "pump.pdf", "pump.orvik.wire.log"}) Write(name, "");
   std::filesystem::create_directory(Path("pumps"));
   const auto both = Path("pump.orvik") + "\n" + Path("pumps") + "\n";
@@ -151,7 +150,7 @@ TEST_F(CompletionTest, OffersDocumentsAndTheFoldersOnTheWay) {
   EXPECT_EQ(Offered({"orvik-bench", "new", Path("next.orvik"), "--from", Path("pu")}), both);
 }
 
-TEST_F(CompletionTest, OffersTheElementsOfTheDocumentOnTheLine) {
+TEST_F(CompletionTest, OffersTheElementsOfTheDocument) {
   const auto file = Path("my pump.orvik");
   ASSERT_EQ(Bench({"new", file, "--add", "400", "610"}).status, 0);
   const std::string bench = ORVIK_BENCH_PATH;
@@ -173,17 +172,17 @@ TEST_F(CompletionTest, ListsElementsWithTheirNames) {
   EXPECT_EQ(listed, "1  (Earth leakage, NC)\n");
 }
 
-TEST_F(CompletionTest, ANameWithBlanksIsOne) {
+TEST_F(CompletionTest, KeepsANameWithBlanksTogether) {
   Write("my pump.orvik", "");
   EXPECT_EQ(Offered({"orvik-bench", "show", Path("my")}), Path("my pump.orvik") + "\n");
 }
 
-TEST_F(CompletionTest, AnOptionsValueMayFollowAnEqualsSign) {
+TEST_F(CompletionTest, CompletesAValueAfterAnEqualsSign) {
   EXPECT_EQ(Offered({"orvik-bench", "run", "--operator", "="}), "auto\nask\n");
   EXPECT_EQ(Offered({"orvik-bench", "run", "--operator", "=", "as"}), "ask\n");
 }
 
-TEST_F(CompletionTest, OffersWhatAnArgumentMayBe) {
+TEST_F(CompletionTest, OffersTheValuesOfAnArgument) {
   EXPECT_EQ(Offered({"orvik-bench", "completion", ""}), "bash\nzsh\nfish\n");
   EXPECT_EQ(Offered({"orvik-bench", "help", "arch"}), "archive\n");
   EXPECT_EQ(Offered({"orvik-bench", "config", "a.orvik", "--leads", "a"}), "all\n");
@@ -195,31 +194,31 @@ TEST_F(CompletionTest, OffersWhatAnArgumentMayBe) {
   EXPECT_EQ(Offered({"orvik-bench", "limit", "--from", "iec-62353-class-1-c"}), "iec-62353-class-1-cf\n");
 }
 
-TEST_F(CompletionTest, OptionsOfTheCommandAboveMayFollow) {
+TEST_F(CompletionTest, OffersOptionsOfTheCommandAbove) {
   EXPECT_EQ(Offered({"orvik-bench", "archive", "add", "--arc"}), "--archive\n");
   Write("a.sqlite", "");
   EXPECT_EQ(Offered({"orvik-bench", "archive", "add", "--archive", Path("a.s")}), Path("a.sqlite") + "\n");
 }
 
 // They are the search path and the settings of zsh: without a search path no command is found.
-TEST_F(CompletionTest, NoVariableIsOneThatZshKnows) {
+TEST_F(CompletionTest, AvoidsTheVariablesOfZsh) {
   const auto script = Bench({"completion", "zsh"}).out;
   for (const auto* name :
        {" path=", " path ", "$path", " options=", " options ", "$options", " words=", "$words"})
-    EXPECT_EQ(script.find(name), std::string::npos) << name;
+    EXPECT_THAT(script, Not(HasSubstr(name)));
 }
 
-TEST_F(CompletionTest, EveryShellThatIsNamedHasAScript) {
+TEST_F(CompletionTest, HasAScriptForEveryShell) {
   EXPECT_EQ(Bench({"completion", "zsh"}).status, 0);
   const auto fish = Bench({"completion", "fish"});
   EXPECT_EQ(fish.status, 0);
-  EXPECT_NE(fish.out.find("-l operator -x -a 'auto ask'"), std::string::npos) << fish.out;
-  EXPECT_NE(fish.out.find("-l element -x -a '(__orvik_bench_elements)'"), std::string::npos) << fish.out;
-  EXPECT_NE(fish.out.find("-a '(__orvik_bench_documents)'"), std::string::npos) << fish.out;
-  EXPECT_NE(fish.out.find("-l help -d"), std::string::npos) << "a flag takes no value: " << fish.out;
+  EXPECT_THAT(fish.out, HasSubstr("-l operator -x -a 'auto ask'"));
+  EXPECT_THAT(fish.out, HasSubstr("-l element -x -a '(__orvik_bench_elements)'"));
+  EXPECT_THAT(fish.out, HasSubstr("-a '(__orvik_bench_documents)'"));
+  EXPECT_THAT(fish.out, HasSubstr("-l help -d")) << "a flag takes no value";
   const auto unknown = Bench({"completion", "tcsh"});
   EXPECT_EQ(unknown.status, 3);
-  EXPECT_NE(unknown.error.find("bash, zsh, fish"), std::string::npos) << unknown.error;
+  EXPECT_THAT(unknown.error, HasSubstr("bash, zsh, fish"));
 }
 
 }  // namespace

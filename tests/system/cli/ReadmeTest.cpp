@@ -36,7 +36,7 @@ class ReadmeTest : public CliTest {
   }
 };
 
-TEST_F(ReadmeTest, FromNothingToAPdfInAtMostFiveCommandsThatPrintWhatIsShown) {
+TEST_F(ReadmeTest, QuickStart_PrintsWhatTheReadmeShows) {
   const auto shown = ShownCommands();
   ASSERT_GE(shown.size(), 3u);
   EXPECT_LE(shown.size(), 5u);

@@ -8,23 +8,23 @@ namespace {
 
 class RunCommandTest : public CliTest {};
 
-TEST_F(RunCommandTest, ADocumentThatPassesEndsWithZero) {
+TEST_F(RunCommandTest, Passed_EndsWithZero) {
   const auto file = NewDocument({"410", "400"});
   SetWideLimits(file, {"1", "3", "4"});
-  const auto run = Bench(Simulated(file, "sound-class-1"));
+  const auto run = RunSound(file);
   EXPECT_EQ(run.status, 0) << run.error;
-  EXPECT_NE(run.out.find("[1/2] 410 Protective earth, with mains cord"), std::string::npos) << run.out;
-  EXPECT_NE(run.out.find("d.orvik: passed"), std::string::npos) << run.out;
-  EXPECT_NE(run.out.find("divided by 10"), std::string::npos) << run.out;
+  EXPECT_THAT(run.out, HasSubstr("[1/2] 410 Protective earth, with mains cord"));
+  EXPECT_THAT(run.out, HasSubstr("d.orvik: passed"));
+  EXPECT_THAT(run.out, HasSubstr("divided by 10"));
   EXPECT_EQ(SentIn(file + ".wire.log"),
             (Words{"IREM", "STST,410,0", "GRES,410,0", "STST,210,0", "EREM", "IREM", "STST,410,0",
                    "GRES,410,0", "STST,420,0", "GRES,420,0", "STST,210,0", "EREM"}));
 }
 
-TEST_F(RunCommandTest, ALimitThatIsBrokenEndsWithOne) {
+TEST_F(RunCommandTest, ExceededLimit_EndsWithOne) {
   const auto file = NewDocument({"410"});
   SetLimit(file, "1", "100");
-  const auto run = Bench(Simulated(file, "sound-class-1", {"--json"}));
+  const auto run = RunSound(file, {"--json"});
   EXPECT_EQ(run.status, 1) << run.error;
   const auto json = nlohmann::json::parse(run.out);
   EXPECT_EQ(json["outcome"], "failed");
@@ -32,16 +32,16 @@ TEST_F(RunCommandTest, ALimitThatIsBrokenEndsWithOne) {
   EXPECT_EQ(Show(file), json);
 }
 
-TEST_F(RunCommandTest, AValueOnTheBoundPasses) {
+TEST_F(RunCommandTest, ValueOnTheBound_Passes) {
   const auto file = NewDocument({"410"});
   SetLimit(file, "1", "123");
-  EXPECT_EQ(Bench(Simulated(file, "sound-class-1")).status, 0);
+  EXPECT_EQ(RunSound(file).status, 0);
 }
 
-TEST_F(RunCommandTest, JsonTellsEverythingOfEachElement) {
+TEST_F(RunCommandTest, Json_ContainsEachElement) {
   const auto file = NewDocument({"400"});
   SetWideLimits(file, {"2", "3"});
-  const auto run = Bench(Simulated(file, "sound-class-1", {"--json", "--by", "M. Holm"}));
+  const auto run = RunSound(file, {"--json", "--by", "M. Holm"});
   ASSERT_EQ(run.status, 0) << run.error;
   const auto json = nlohmann::json::parse(run.out);
   const auto instrument = nlohmann::json::parse(
@@ -65,10 +65,10 @@ TEST_F(RunCommandTest, JsonTellsEverythingOfEachElement) {
   EXPECT_EQ(test, expected);
 }
 
-TEST_F(RunCommandTest, EventsAreOneObjectALine) {
+TEST_F(RunCommandTest, Events_AreOneObjectALine) {
   const auto file = NewDocument({"410"});
   SetWideLimits(file, {"1"});
-  const auto run = Bench(Simulated(file, "sound-class-1", {"--events"}));
+  const auto run = RunSound(file, {"--events"});
   ASSERT_EQ(run.status, 0) << run.error;
   std::istringstream lines(run.out);
   Words events;
@@ -79,7 +79,7 @@ TEST_F(RunCommandTest, EventsAreOneObjectALine) {
   EXPECT_EQ(events, expected);
 }
 
-TEST_F(RunCommandTest, AnOverloadedReadingIsNeverCountedAsPassed) {
+TEST_F(RunCommandTest, OverloadedReading_NeverPasses) {
   Write("over", "based-on = sound-class-1\n410 = 0.001 Ohm overload\n");
   const auto file = NewDocument({"410"});
   SetLimit(file, "1", "300");
@@ -87,106 +87,104 @@ TEST_F(RunCommandTest, AnOverloadedReadingIsNeverCountedAsPassed) {
   EXPECT_EQ(run.status, 2) << run.error;
   const auto json = nlohmann::json::parse(run.out);
   EXPECT_EQ(json["outcome"], "incomplete");
-  EXPECT_NE(json["elements"][0]["doubts"].dump().find("OL"), std::string::npos);
+  EXPECT_THAT(json["elements"][0]["doubts"].dump(), HasSubstr("OL"));
   EXPECT_EQ(Show(file)["outcome"], "incomplete") << "the doubt is not kept in the document";
-  EXPECT_NE(Bench({"show", file}).out.find("OL"), std::string::npos);
+  EXPECT_THAT(Bench({"show", file}).out, HasSubstr("OL"));
 }
 
-TEST_F(RunCommandTest, ATestThatTheTesterLacksIsNotApplicable) {
+TEST_F(RunCommandTest, UnsupportedTest_IsNotApplicable) {
   Write("lacks", "based-on = sound-class-1\nlacks = 410\n");
   const auto file = NewDocument({"410", "210"});
   SetWideLimits(file, {"2"});
   const auto run = Bench(Simulated(file, Path("lacks")));
   EXPECT_EQ(run.status, 0) << run.error;
-  EXPECT_NE(run.out.find("does not support the test"), std::string::npos) << run.out;
+  EXPECT_THAT(run.out, HasSubstr("does not support the test"));
   EXPECT_EQ(Show(file)["elements"][0]["serviceCode"], "NA");
 }
 
-TEST_F(RunCommandTest, RunsTheElementsThatAreNamed) {
+TEST_F(RunCommandTest, RunsTheNamedElements) {
   const auto file = NewDocument({"410", "420", "210"});
   SetWideLimits(file, {"1", "2", "3"});
-  const auto run = Bench(Simulated(file, "sound-class-1", {"--element", "3", "--element", "2"}));
+  const auto run = RunSound(file, {"--element", "3", "--element", "2"});
   EXPECT_EQ(run.status, 0) << run.error;
   EXPECT_EQ(SentIn(file + ".wire.log"), (Words{"IREM", "STST,210,0", "GRES,210,0", "STST,210,0", "EREM",
                                                "IREM", "STST,420,0", "GRES,420,0", "STST,210,0", "EREM"}));
   EXPECT_EQ(Show(file)["outcome"], "incomplete");
 }
 
-TEST_F(RunCommandTest, ResumeGoesOnWithWhatHasNoResult) {
+TEST_F(RunCommandTest, Resume_RunsElementsWithoutResult) {
   const auto file = NewDocument({"410", "420"});
   SetWideLimits(file, {"1", "2"});
-  EXPECT_EQ(Bench(Simulated(file, "sound-class-1", {"--element", "1"})).status, 0);
+  EXPECT_EQ(RunSound(file, {"--element", "1"}).status, 0);
   std::filesystem::remove(file + ".wire.log");
-  EXPECT_EQ(Bench(Simulated(file, "sound-class-1", {"--resume"})).status, 0);
+  EXPECT_EQ(RunSound(file, {"--resume"}).status, 0);
   EXPECT_EQ(SentIn(file + ".wire.log"), (Words{"IREM", "STST,420,0", "GRES,420,0", "STST,210,0", "EREM"}));
-  const auto again = Bench(Simulated(file, "sound-class-1", {"--resume"}));
+  const auto again = RunSound(file, {"--resume"});
   EXPECT_EQ(again.status, 0);
-  EXPECT_NE(again.out.find("nothing is left to run"), std::string::npos);
+  EXPECT_THAT(again.out, HasSubstr("nothing is left to run"));
 }
 
-TEST_F(RunCommandTest, ResumePassesOverWhatPassedOrFailedItsLimits) {
+TEST_F(RunCommandTest, Resume_SkipsPassedAndFailedElements) {
   const auto file = NewDocument({"410", "420", "210"});
   SetLimit(file, "1", "300");
   SetLimit(file, "2", "10");
-  EXPECT_EQ(Bench(Simulated(file, "sound-class-1", {"--element", "1", "--element", "2"})).status, 1);
+  EXPECT_EQ(RunSound(file, {"--element", "1", "--element", "2"}).status, 1);
   std::filesystem::remove(file + ".wire.log");
-  const auto resumed = Bench(Simulated(file, "sound-class-1", {"--resume"}));
+  const auto resumed = RunSound(file, {"--resume"});
   EXPECT_EQ(resumed.status, 1) << resumed.error;
   EXPECT_EQ(SentIn(file + ".wire.log"), (Words{"IREM", "STST,210,0", "GRES,210,0", "STST,210,0", "EREM"}));
 }
 
-TEST_F(RunCommandTest, LimitsThatAreSetAfterTheRunJudgeItEverywhere) {
+TEST_F(RunCommandTest, LimitsSetAfterTheRun_JudgeIt) {
   const auto file = NewDocument({"410"});
   SetLimit(file, "1", "300");
-  EXPECT_EQ(Bench(Simulated(file, "sound-class-1")).status, 0);
-  EXPECT_EQ(Bench({"limit", file, "--element", "1", "--standard", "Further", "--high", "100"}).status, 0);
+  EXPECT_EQ(RunSound(file).status, 0);
+  Done({"limit", file, "--element", "1", "--standard", "Further", "--high", "100"});
   const auto shown = Show(file);
   EXPECT_EQ(shown["outcome"], "failed");
   EXPECT_EQ(shown["elements"][0]["failedStandards"], nlohmann::json({"Further"}));
   EXPECT_EQ(shown["elements"][0]["reasons"][0]["code"], "above-limit");
-  EXPECT_NE(Bench({"show", file}).out.find("Further: 123 mOhm exceeds the limit of 100 mOhm"),
-            std::string::npos);
-  EXPECT_EQ(Bench(Simulated(file, "sound-class-1", {"--resume"})).status, 1) << "there is nothing to resume";
+  EXPECT_THAT(Bench({"show", file}).out, HasSubstr("Further: 123 mOhm exceeds the limit of 100 mOhm"));
+  EXPECT_EQ(RunSound(file, {"--resume"}).status, 1) << "there is nothing to resume";
 }
 
-TEST_F(RunCommandTest, JudgesByTheStandardThatIsNamed) {
+TEST_F(RunCommandTest, JudgesByTheNamedStandard) {
   const auto file = NewDocument({"410"});
   SetLimit(file, "1", "100");
-  EXPECT_EQ(Bench({"limit", file, "--element", "1", "--standard", "Own", "--high", "200"}).status, 0);
-  EXPECT_EQ(Bench(Simulated(file, "sound-class-1", {"--standard", "Own"})).status, 0);
-  EXPECT_EQ(Bench(Simulated(file, "sound-class-1")).status, 1);
-  const auto absent = Bench(Simulated(file, "sound-class-1", {"--standard", "None"}));
+  Done({"limit", file, "--element", "1", "--standard", "Own", "--high", "200"});
+  EXPECT_EQ(RunSound(file, {"--standard", "Own"}).status, 0);
+  EXPECT_EQ(RunSound(file).status, 1);
+  const auto absent = RunSound(file, {"--standard", "None"});
   EXPECT_EQ(absent.status, 3);
-  EXPECT_NE(absent.error.find("\"IEC 62353\", \"Own\""), std::string::npos) << absent.error;
+  EXPECT_THAT(absent.error, HasSubstr("\"IEC 62353\", \"Own\""));
 }
 
-TEST_F(RunCommandTest, AMuteTesterEndsTheRunAsIncomplete) {
+TEST_F(RunCommandTest, SilentTester_EndsTheRunAsIncomplete) {
   const support::PseudoTerminal nobody;
   const auto file = NewDocument({"410", "420"});
   const auto run = Bench({"run", file, "--port", nobody.Path(), "--time-scale", "100"});
   EXPECT_EQ(run.status, 2);
   EXPECT_EQ(SentIn(file + ".wire.log"), (Words{"IREM", "IREM", "IREM"}));
-  EXPECT_NE(run.out.find("attempt 3 of 3"), std::string::npos) << run.out;
-  EXPECT_NE(run.out.find("Can not find a KELD"), std::string::npos) << run.out;
-  EXPECT_NE(run.out.find("no tester answers"), std::string::npos) << run.out;
+  EXPECT_THAT(run.out, HasSubstr("attempt 3 of 3"));
+  EXPECT_THAT(run.out, HasSubstr("Can not find a KELD"));
+  EXPECT_THAT(run.out, HasSubstr("no tester answers"));
 }
 
-TEST_F(RunCommandTest, ADeviceThatIsHeldIsNamed) {
+TEST_F(RunCommandTest, LockedDevice_IsNamed) {
   const support::PseudoTerminal terminal;
   const auto file = NewDocument({"410"});
   const auto holder = Start({"run", file, "--port", terminal.Path(), "--events"});
   ASSERT_TRUE(holder->AwaitOutput("port-opened"));
   const auto second = Path("e.orvik");
-  EXPECT_EQ(Bench({"new", second, "--add", "410"}).status, 0);
+  Done({"new", second, "--add", "410"});
   const auto refused = Bench({"run", second, "--port", terminal.Path()});
   EXPECT_EQ(refused.status, 5);
-  EXPECT_NE(refused.error.find("--port: serial device " + terminal.Path() + ": is held by another program"),
-            std::string::npos)
-      << refused.error;
+  EXPECT_THAT(refused.error,
+              HasSubstr("--port: serial device " + terminal.Path() + ": is held by another program"));
 }
 
 // As "run … | head -2".
-TEST_F(RunCommandTest, AReaderWhoHasGoneLeavesNoSessionOpen) {
+TEST_F(RunCommandTest, ClosedOutput_LeavesNoSessionOpen) {
   const auto file = NewDocument({"410", "420"});
   std::string line = ORVIK_BENCH_PATH;
   for (const auto& word : Simulated(file, "sound-class-1", {"--events"})) line += " '" + word + "'";
@@ -197,17 +195,15 @@ TEST_F(RunCommandTest, AReaderWhoHasGoneLeavesNoSessionOpen) {
   EXPECT_EQ(Show(file)["elements"][1]["statusText"], "passed");
 }
 
-TEST_F(RunCommandTest, AWireLogThatCannotBeWrittenIsReported) {
+TEST_F(RunCommandTest, UnwritableWireLog_IsReported) {
   const auto file = NewDocument({"410"});
   SetLimit(file, "1", "300");
-  const auto run = Bench(Simulated(file, "sound-class-1", {"--wire-log", "/dev/full"}));
+  const auto run = RunSound(file, {"--wire-log", "/dev/full"});
   EXPECT_EQ(run.status, 0) << run.error;
-  EXPECT_NE(run.out.find("The wire log /dev/full could not be written: No space left on device"),
-            std::string::npos)
-      << run.out;
+  EXPECT_THAT(run.out, HasSubstr("The wire log /dev/full could not be written: No space left on device"));
 }
 
-TEST_F(RunCommandTest, AnUnpluggedTesterEndsTheRunAndKeepsWhatWasDone) {
+TEST_F(RunCommandTest, UnpluggedTester_EndsTheRunAndKeepsResults) {
   const auto file = NewDocument({"410", "420"});
   const auto link = Path("tester");
   support::Process tester(KELD_SIM_PATH, {"--link", link, "--time-scale", kTimeScale});
@@ -217,14 +213,14 @@ TEST_F(RunCommandTest, AnUnpluggedTesterEndsTheRunAndKeepsWhatWasDone) {
   tester.Signal(SIGKILL);
   const auto ended = run->Wait();
   EXPECT_EQ(ended.status, 2) << ended.out;
-  EXPECT_NE(ended.out.find("port-failed"), std::string::npos) << ended.out;
+  EXPECT_THAT(ended.out, HasSubstr("port-failed"));
   const auto shown = Show(file);
   EXPECT_EQ(shown["elements"][0]["statusText"], "passed");
   EXPECT_EQ(shown["elements"][1]["statusText"], "not tested");
 }
 
 // Somebody has put another file in the document's place: that one stays, and so do the results.
-TEST_F(RunCommandTest, ResultsThatCannotBeSavedAreKeptBesideTheDocument) {
+TEST_F(RunCommandTest, UnsavedResults_AreKeptBesideTheDocument) {
   const auto file = NewDocument({"410", "420"});
   const auto run = Start(Simulated(file, "sound-class-1", {"--events"}));
   ASSERT_TRUE(run->AwaitOutput("GRES,410,0")) << run->Output();
@@ -232,8 +228,8 @@ TEST_F(RunCommandTest, ResultsThatCannotBeSavedAreKeptBesideTheDocument) {
   std::filesystem::rename(Path("other"), file);
   const auto ended = run->Wait();
   EXPECT_EQ(ended.status, 2) << ended.out << ended.error;
-  EXPECT_NE(ended.out.find("was changed by another program"), std::string::npos) << ended.out;
-  EXPECT_NE(ended.out.find("The results are in " + file + ".unsaved"), std::string::npos) << ended.out;
+  EXPECT_THAT(ended.out, HasSubstr("was changed by another program"));
+  EXPECT_THAT(ended.out, HasSubstr("The results are in " + file + ".unsaved"));
   EXPECT_EQ(SentIn(file + ".wire.log").back(), "EREM");
   EXPECT_EQ(Contents(file), "another file");
   const auto kept = Show(file + ".unsaved");
@@ -261,7 +257,7 @@ TEST_P(Interruption, ClosesTheSessionAndSaves) {
   ASSERT_GE(sent.size(), 2u);
   EXPECT_EQ(sent[sent.size() - 2], "STST,210,0");
   EXPECT_EQ(sent.back(), "EREM");
-  EXPECT_NE(ended.out.find("erem"), std::string::npos) << ended.out;
+  EXPECT_THAT(ended.out, HasSubstr("erem"));
   const auto shown = Show(file);
   EXPECT_EQ(shown["outcome"], "incomplete");
   EXPECT_EQ(shown["elements"][1]["status"], 0);
@@ -281,7 +277,7 @@ TEST_P(EndingSignal, ClosesTheSessionAndSaves) {
 }
 
 // With "nohup" the terminal may go.
-TEST_F(RunCommandTest, ARunThatOutlivesItsTerminalGoesOn) {
+TEST_F(RunCommandTest, Nohup_ContinuesAfterTheTerminal) {
   const auto file = NewDocument({"410"});
   SetWideLimits(file, {"1"});
   std::string line = "trap '' HUP; exec " ORVIK_BENCH_PATH;
@@ -298,7 +294,7 @@ INSTANTIATE_TEST_SUITE_P(Signals, EndingSignal, testing::Values(SIGINT, SIGTERM,
 INSTANTIATE_TEST_SUITE_P(Moments, Interruption,
                          testing::Values("irem,", "STST,410,0", "stst,410,0", "GRES,410,0", "gres,410,0"));
 
-TEST_F(RunCommandTest, TheOperatorIsAskedAtTheTerminal) {
+TEST_F(RunCommandTest, AsksTheOperatorAtTheTerminal) {
   const auto file = NewDocument({"410"});
   SetWideLimits(file, {"1"});
   const auto run = Start(Simulated(file, "sound-class-1", {"--operator", "ask"}));
@@ -310,7 +306,7 @@ TEST_F(RunCommandTest, TheOperatorIsAskedAtTheTerminal) {
   EXPECT_EQ(ended.status, 0) << ended.out << ended.error;
 }
 
-TEST_F(RunCommandTest, EachGuideAtTheTerminalNamesItsTest) {
+TEST_F(RunCommandTest, TerminalGuide_NamesItsTest) {
   const auto file = NewDocument({"410", "210"});
   const auto run = Start(Simulated(file, "sound-class-1", {"--operator", "ask"}));
   ASSERT_TRUE(run->AwaitOutput("410 Protective earth, with mains cord [play")) << run->Output();
@@ -320,7 +316,7 @@ TEST_F(RunCommandTest, EachGuideAtTheTerminalNamesItsTest) {
   EXPECT_EQ(run->Wait().status, 2);
 }
 
-TEST_F(RunCommandTest, NotApplicableAtTheTerminalIsConfirmed) {
+TEST_F(RunCommandTest, TerminalNotApplicable_IsConfirmed) {
   const auto file = NewDocument({"410"});
   const auto run = Start(Simulated(file, "sound-class-1", {"--operator", "ask"}));
   const std::string question =
@@ -343,7 +339,7 @@ TEST_F(RunCommandTest, NotApplicableAtTheTerminalIsConfirmed) {
   EXPECT_EQ(Show(file)["elements"][0]["statusText"], "not applicable");
 }
 
-TEST_F(RunCommandTest, EmptyLineAtTheTerminalAnswersNoQuestion) {
+TEST_F(RunCommandTest, EmptyLineAtTheTerminal_AnswersNoQuestion) {
   const auto file = NewDocument({"410"});
   const auto run = Start(Simulated(file, "sound-class-1", {"--operator", "ask"}));
   ASSERT_TRUE(run->AwaitOutput("[play")) << run->Output();
@@ -357,7 +353,7 @@ TEST_F(RunCommandTest, EmptyLineAtTheTerminalAnswersNoQuestion) {
   EXPECT_EQ(run->Wait().status, 2);
 }
 
-TEST_F(RunCommandTest, TheOperatorCanAbort) {
+TEST_F(RunCommandTest, Operator_CanAbort) {
   const auto file = NewDocument({"410", "420"});
   const auto run = Start(Simulated(file, "sound-class-1", {"--operator", "ask"}));
   ASSERT_TRUE(run->AwaitOutput("play")) << run->Output();
@@ -372,7 +368,7 @@ TEST_F(RunCommandTest, TheOperatorCanAbort) {
   EXPECT_EQ(Show(file)["elements"][0]["statusText"], "aborted");
 }
 
-TEST_F(RunCommandTest, TheEndOfTheInputStopsAnAskedRun) {
+TEST_F(RunCommandTest, EndOfInput_StopsAnAskedRun) {
   const auto file = NewDocument({"410"});
   const auto run = Start(Simulated(file, "sound-class-1", {"--operator", "ask"}));
   ASSERT_TRUE(run->AwaitOutput("play")) << run->Output();

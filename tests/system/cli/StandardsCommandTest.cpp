@@ -31,13 +31,13 @@ class StandardsCommandTest : public CliTest {
   }
 };
 
-TEST_F(StandardsCommandTest, ListsTheShippedAndTheOwnSets) {
+TEST_F(StandardsCommandTest, ListsShippedAndOwnSets) {
   WriteOwn("mine.xml", Own());
   const auto listed = Bench({"standards"});
   EXPECT_EQ(listed.status, 0) << listed.error;
-  EXPECT_NE(listed.out.find("iec-62353-class-1-bf"), std::string::npos) << listed.out;
-  EXPECT_NE(listed.out.find(Path("state/standards")), std::string::npos) << listed.out;
-  const auto sets = nlohmann::json::parse(Bench({"standards", "--json"}).out)["standards"];
+  EXPECT_THAT(listed.out, HasSubstr("iec-62353-class-1-bf"));
+  EXPECT_THAT(listed.out, HasSubstr(Path("state/standards")));
+  const auto sets = Json({"standards", "--json"})["standards"];
   ASSERT_EQ(sets.size(), 13U);
   EXPECT_EQ(sets[0]["set"], "iec-60601-1-class-1-b");
   EXPECT_EQ(sets[0]["standard"], "IEC 60601-1");
@@ -49,13 +49,12 @@ TEST_F(StandardsCommandTest, ListsTheShippedAndTheOwnSets) {
   EXPECT_EQ(sets[12]["file"], Path("state/standards/mine.xml"));
 }
 
-TEST_F(StandardsCommandTest, ABadSetIsToldAndTheOthersAreListed) {
+TEST_F(StandardsCommandTest, ReportsABadSet_ListsTheOthers) {
   WriteOwn("bad.xml", "<LimitSet>\n");
   const auto listed = Bench({"standards"});
   EXPECT_EQ(listed.status, 3);
-  EXPECT_NE(listed.error.find(Path("state/standards/bad.xml") + ", line "), std::string::npos)
-      << listed.error;
-  EXPECT_NE(listed.out.find("iec-62353-class-2-cf"), std::string::npos);
+  EXPECT_THAT(listed.error, HasSubstr(Path("state/standards/bad.xml") + ", line "));
+  EXPECT_THAT(listed.out, HasSubstr("iec-62353-class-2-cf"));
   const auto json = Bench({"standards", "--json"});
   EXPECT_EQ(json.status, 3);
   EXPECT_TRUE(nlohmann::json::parse(json.out)["standards"][12].contains("fault"));
@@ -64,17 +63,17 @@ TEST_F(StandardsCommandTest, ABadSetIsToldAndTheOthersAreListed) {
 TEST_F(StandardsCommandTest, ShowsTheFiguresOfASetWithTheirSources) {
   const auto shown = Bench({"standards", "iec-62353-class-1-bf"});
   EXPECT_EQ(shown.status, 0) << shown.error;
-  for (const char* told :
+  for (const char* part :
        {"at most 300 mOhm", "tests 410", "IEC 62353:2014, 5.3.2.2", "Left out:", "Table 2"})
-    EXPECT_NE(shown.out.find(told), std::string::npos) << told << " is not in\n" << shown.out;
-  const auto json = nlohmann::json::parse(Bench({"standards", "iec-62353-class-1-bf", "--json"}).out);
+    EXPECT_THAT(shown.out, HasSubstr(part));
+  const auto json = Json({"standards", "iec-62353-class-1-bf", "--json"});
   EXPECT_EQ(json["figures"][0]["high"], 300.0);
   EXPECT_EQ(json["figures"][0]["low"], nullptr);
   EXPECT_EQ(json["figures"][0]["tests"][0], 410);
   EXPECT_FALSE(json["leftOut"].empty());
 }
 
-TEST_F(StandardsCommandTest, AppliesASetToEveryElementThatItKnows) {
+TEST_F(StandardsCommandTest, AppliesASetToEveryElementItCovers) {
   const auto file = WholeDocument();
   const auto applied = Bench({"limit", file, "--from", "iec-60601-1-class-1-cf"});
   EXPECT_EQ(applied.status, 0) << applied.error;
@@ -85,19 +84,19 @@ TEST_F(StandardsCommandTest, AppliesASetToEveryElementThatItKnows) {
   EXPECT_EQ(Count(applied.out, "not judged: it needs a limit or --record-only"), 3U) << applied.out;
   const auto unknown = applied.out.substr(applied.out.find("Not covered by this set:"));
   for (const char* name : {"Mains voltage", "Insulation, mains part", "Insulation, applied parts"})
-    EXPECT_NE(unknown.find(name), std::string::npos) << name << " is not in\n" << unknown;
-  EXPECT_NE(text.find("Description=\"2005+A1:2012, class I, type CF\""), std::string::npos);
+    EXPECT_THAT(unknown, HasSubstr(name));
+  EXPECT_THAT(text, HasSubstr("Description=\"2005+A1:2012, class I, type CF\""));
 }
 
-TEST_F(StandardsCommandTest, ApplyingTwiceChangesNothingMore) {
+TEST_F(StandardsCommandTest, ApplyingTwice_ChangesNothing) {
   const auto file = WholeDocument();
-  EXPECT_EQ(Bench({"limit", file, "--from", "iec-62353-class-1-bf"}).status, 0);
+  Done({"limit", file, "--from", "iec-62353-class-1-bf"});
   const auto once = Contents(file);
-  EXPECT_EQ(Bench({"limit", file, "--from", "iec-62353-class-1-bf"}).status, 0);
+  Done({"limit", file, "--from", "iec-62353-class-1-bf"});
   EXPECT_EQ(Contents(file), once);
 }
 
-TEST_F(StandardsCommandTest, ElementNarrowsItToABranch) {
+TEST_F(StandardsCommandTest, ElementOption_SelectsABranch) {
   const auto file = NewDocument({"410", "400"});
   const auto applied = Bench({"limit", file, "--from", "iec-62353-class-1-b", "--element", "2"});
   EXPECT_EQ(applied.status, 0) << applied.error;
@@ -106,33 +105,27 @@ TEST_F(StandardsCommandTest, ElementNarrowsItToABranch) {
   EXPECT_LT(text.find("TestID=\"400\""), text.find("<Limit ")) << "element 1 has got a limit";
 }
 
-TEST_F(StandardsCommandTest, OwnSetsAreTakenByNameAndByPathAndConverted) {
+TEST_F(StandardsCommandTest, AppliesOwnSetsByNameAndPath_Converted) {
   WriteOwn("mine.xml", Own());
   Write("elsewhere.xml", Own());
   for (const auto& set : {std::string("mine"), Path("elsewhere.xml")}) {
     const auto file = NewDocument({"410"});
     const auto applied = Bench({"limit", file, "--from", set});
     EXPECT_EQ(applied.status, 0) << applied.error;
-    EXPECT_NE(applied.out.find("at most 250 mOhm"), std::string::npos) << applied.out;
-    EXPECT_NE(Contents(file).find("Unit=\"mOhm\" High=\"250\""), std::string::npos);
+    EXPECT_THAT(applied.out, HasSubstr("at most 250 mOhm"));
+    EXPECT_THAT(Contents(file), HasSubstr("Unit=\"mOhm\" High=\"250\""));
     std::filesystem::remove(file);
   }
 }
 
-TEST_F(StandardsCommandTest, AFailedLimitOfASetFailsTheRun) {
+TEST_F(StandardsCommandTest, FailedLimitOfASet_FailsTheRun) {
   const auto file = NewDocument({"410"});
-  EXPECT_EQ(Bench({"limit", file, "--from", "iec-62353-class-1-bf"}).status, 0);
-  EXPECT_EQ(Bench(Simulated(file, "sound-class-1")).status, 0);
+  Done({"limit", file, "--from", "iec-62353-class-1-bf"});
+  EXPECT_EQ(RunSound(file).status, 0);
   Write("broken", "based-on = sound-class-1\n410 = 0.301 Ohm\n");
   EXPECT_EQ(Bench(Simulated(file, Path("broken"))).status, 1);
   EXPECT_EQ(Show(file)["elements"][0]["failedStandards"][0], "IEC 62353");
 }
-
-struct Refusal {
-  const char* name;
-  std::vector<std::string> words;
-  std::vector<std::string> told;
-};
 
 class RefusedLimits : public StandardsCommandTest, public testing::WithParamInterface<Refusal> {};
 
@@ -145,15 +138,7 @@ TEST_P(RefusedLimits, NameTheReasonAndChangeNothing) {
         "<LimitSet Version='1' Standard='S' Edition='1'><Figure Tests='410' High='1' Unit='Ohm' "
         "Source='s'/><Figure Tests='210' High='1' Unit='A' Source='s'/></LimitSet>");
   Write("bad.xml", "<LimitSet Version='1' Standard='S' Edition='1'>\n<Figure/></LimitSet>");
-  const auto before = Contents(file);
-  std::vector<std::string> words{"limit", file};
-  for (const auto& word : GetParam().words) words.push_back(word[0] == '@' ? Path(word.substr(1)) : word);
-  const auto refused = Bench(words);
-  EXPECT_EQ(refused.status, 3);
-  EXPECT_EQ(refused.out, "");
-  for (const auto& told : GetParam().told)
-    EXPECT_NE(refused.error.find(told), std::string::npos) << told << " is not in: " << refused.error;
-  EXPECT_EQ(Contents(file), before);
+  ExpectRefused(Join({"limit", file}, GetParam().words), GetParam().named);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -176,27 +161,27 @@ INSTANTIATE_TEST_SUITE_P(
         Refusal{"SingleUnit",
                 {"--element", "1", "--standard", "S", "--high", "1", "--unit", "A"},
                 {"--unit", "A", "mOhm"}}),
-    [](const auto& tested) { return std::string(tested.param.name); });
+    kNamed);
 
-TEST_F(StandardsCommandTest, ASingleLimitInAnotherUnitIsConverted) {
+TEST_F(StandardsCommandTest, SingleLimit_IsConvertedToTheUnit) {
   const auto file = NewDocument({"410"});
   const auto set =
       Bench({"limit", file, "--element", "1", "--standard", "S", "--high", "0.3", "--unit", "Ohm"});
   EXPECT_EQ(set.status, 0) << set.error;
-  EXPECT_NE(set.out.find("at most 300 mOhm"), std::string::npos) << set.out;
-  EXPECT_NE(Contents(file).find("Unit=\"mOhm\" High=\"300\""), std::string::npos);
+  EXPECT_THAT(set.out, HasSubstr("at most 300 mOhm"));
+  EXPECT_THAT(Contents(file), HasSubstr("Unit=\"mOhm\" High=\"300\""));
 }
 
-TEST_F(StandardsCommandTest, AnElementRecordedWithoutAUnitTakesNoBoundInOne) {
+TEST_F(StandardsCommandTest, ElementWithoutAUnit_RefusesABoundWithOne) {
   Write("own.xml",
         R"(<TemplateData><TestElement ID="410"><Type LID=""/><Name LID="1::Mine"/><Parameter LID=""/>
                       <Unit LID=""/></TestElement></TemplateData>)");
   const auto file = Path("d.orvik");
-  EXPECT_EQ(Bench({"new", file, "--add", "410", "--catalogue", Path("own.xml")}).status, 0);
+  Done({"new", file, "--add", "410", "--catalogue", Path("own.xml")});
   const auto refused =
       Bench({"limit", file, "--from", "iec-62353-class-1-b", "--catalogue", Path("own.xml")});
   EXPECT_EQ(refused.status, 3);
-  EXPECT_NE(refused.error.find("without a unit"), std::string::npos) << refused.error;
+  EXPECT_THAT(refused.error, HasSubstr("without a unit"));
 }
 
 }  // namespace

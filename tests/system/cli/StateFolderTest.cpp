@@ -31,7 +31,7 @@ class StateFolderTest : public CliTest {
   }
 };
 
-TEST_F(StateFolderTest, CommandsThatReadMakeNone) {
+TEST_F(StateFolderTest, ReadingCommands_CreateNone) {
   for (const auto& words : ReadingCommands()) {
     const auto ended = Bench(words);
     EXPECT_EQ(ended.status, 0) << words[0] << ": " << ended.error;
@@ -40,7 +40,7 @@ TEST_F(StateFolderTest, CommandsThatReadMakeNone) {
   EXPECT_FALSE(std::filesystem::exists(Path("state")));
 }
 
-TEST_F(StateFolderTest, CommandsThatReadWorkWithoutAnyInTheEnvironment) {
+TEST_F(StateFolderTest, ReadingCommands_WorkWithoutEnvironment) {
   std::string clean = "unset ORVIK_STATE XDG_STATE_HOME HOME; exec " ORVIK_BENCH_PATH;
   for (const auto& words : ReadingCommands()) {
     auto line = clean;
@@ -52,7 +52,7 @@ TEST_F(StateFolderTest, CommandsThatReadWorkWithoutAnyInTheEnvironment) {
 }
 
 // Not even the superuser finds a folder there.
-TEST_F(StateFolderTest, CommandsThatReadWorkBelowAFile) {
+TEST_F(StateFolderTest, ReadingCommands_WorkBelowAFile) {
   Write("text", "text");
   setenv("ORVIK_STATE", Path("text/state").c_str(), 1);
   for (const auto& words :
@@ -61,23 +61,23 @@ TEST_F(StateFolderTest, CommandsThatReadWorkBelowAFile) {
     const auto ended = Bench(words);
     EXPECT_EQ(ended.status, 0) << words[0] << ": " << ended.error;
   }
-  EXPECT_NE(Bench({"tests"}).error.find("the shipped catalogue is used"), std::string::npos);
+  EXPECT_THAT(Bench({"tests"}).error, HasSubstr("the shipped catalogue is used"));
 }
 
-TEST_F(StateFolderTest, CommandsThatReadWorkWithAReadOnlyFolder) {
+TEST_F(StateFolderTest, ReadingCommands_WorkWithAReadOnlyFolder) {
   ASSERT_EQ(mkdir(Path("state").c_str(), 0555), 0);
   for (const auto& words : ReadingCommands()) EXPECT_EQ(Bench(words).status, 0) << words[0];
   EXPECT_TRUE(std::filesystem::is_empty(Path("state")));
 }
 
 // The resistance of the test leads is among the settings.
-TEST_F(StateFolderTest, ARunRefusesDamagedSettings) {
+TEST_F(StateFolderTest, Run_RefusesDamagedSettings) {
   std::filesystem::create_directory(Path("state"));
   Write("state/registry.json", "{ cut");
-  const auto refused = Bench(Simulated(file_, "sound-class-1"));
+  const auto refused = RunSound(file_);
   EXPECT_EQ(refused.status, 3);
-  EXPECT_NE(refused.error.find("registry.json cannot be used"), std::string::npos) << refused.error;
-  EXPECT_EQ(Bench({"show", file_}).status, 0);
+  EXPECT_THAT(refused.error, HasSubstr("registry.json cannot be used"));
+  Done({"show", file_});
 }
 
 }  // namespace

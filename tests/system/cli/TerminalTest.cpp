@@ -18,30 +18,30 @@ class TerminalTest : public CliTest {
   }
 };
 
-TEST_F(TerminalTest, ShowsPlaceCommandAttemptAndTimeLeftWhileItWaits) {
+TEST_F(TerminalTest, ShowsPlaceCommandAttemptAndTimeLeft) {
   const auto shown = Shown("xterm", "");
-  EXPECT_NE(shown.find("[1/2] STST,410,0, attempt 1 of 3: reply within "), std::string::npos) << shown;
-  EXPECT_NE(shown.find("\r\033[Kd.orvik: "), std::string::npos) << "progress stands before the result";
-  EXPECT_NE(shown.find("next command in "), std::string::npos) << shown;
-  EXPECT_NE(shown.find(" | about 0:0"), std::string::npos) << shown;
-  EXPECT_NE(shown.find(" left | 210 Mains voltage"), std::string::npos) << shown;
+  EXPECT_THAT(shown, HasSubstr("[1/2] STST,410,0, attempt 1 of 3: reply within "));
+  EXPECT_THAT(shown, HasSubstr("\r\033[Kd.orvik: ")) << "progress stands before the result";
+  EXPECT_THAT(shown, HasSubstr("next command in "));
+  EXPECT_THAT(shown, HasSubstr(" | about 0:0"));
+  EXPECT_THAT(shown, HasSubstr(" left | 210 Mains voltage"));
 }
 
-TEST_F(TerminalTest, ColoursStandBesideTheWords) {
+TEST_F(TerminalTest, ColoursTheWords) {
   const auto shown = Shown("xterm", "");
-  EXPECT_NE(shown.find("\033[1;31mfailed"), std::string::npos) << shown;
-  EXPECT_NE(shown.find("\033[32mpassed"), std::string::npos) << shown;
+  EXPECT_THAT(shown, HasSubstr("\033[1;31mfailed"));
+  EXPECT_THAT(shown, HasSubstr("\033[32mpassed"));
 }
 
-TEST_F(TerminalTest, NoColoursWhenTheyAreNotWanted) {
-  EXPECT_EQ(Shown("xterm", "1").find("\033[1;31m"), std::string::npos);
+TEST_F(TerminalTest, NoColours_WhenTurnedOff) {
+  EXPECT_THAT(Shown("xterm", "1"), Not(HasSubstr("\033[1;31m")));
   std::filesystem::remove(Path("d.orvik"));
-  EXPECT_EQ(Shown("dumb", "").find("\033[1;31m"), std::string::npos);
+  EXPECT_THAT(Shown("dumb", ""), Not(HasSubstr("\033[1;31m")));
 }
 
-TEST_F(TerminalTest, NeitherColoursNorARedrawnLineInAFile) {
+TEST_F(TerminalTest, NoControlCodes_InAFile) {
   const auto file = NewDocument({"410"});
-  const auto run = Bench(Simulated(file, "sound-class-1"));
+  const auto run = RunSound(file);
   EXPECT_EQ((run.out + run.error).find('\033'), std::string::npos) << run.out;
   EXPECT_EQ((run.out + run.error).find('\r'), std::string::npos) << run.out;
 }

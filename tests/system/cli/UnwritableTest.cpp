@@ -22,14 +22,14 @@ class UnwritableTest : public CliTest {
   }
 };
 
-TEST_F(UnwritableTest, ANewDocumentOnAFullDiskEndsWithTwoAndLeavesNothing) {
+TEST_F(UnwritableTest, New_OnAFullDiskLeavesNoFile) {
   const auto ended = OnAFullDisk({"new", Path("a.orvik"), "--add", "410"});
   EXPECT_EQ(ended.status, 2) << ended.error;
-  EXPECT_NE(ended.error.find("a.orvik cannot be written: File too large"), std::string::npos) << ended.error;
+  EXPECT_THAT(ended.error, HasSubstr("a.orvik cannot be written: File too large"));
   EXPECT_EQ(Files(), 0U);
 }
 
-TEST_F(UnwritableTest, AFullDiskEndsEveryCommandThatWritesWithTwo) {
+TEST_F(UnwritableTest, WritingCommands_OnAFullDiskEndWithTwo) {
   const auto file = NewDocument({"410"});
   const auto before = Contents(file);
   const auto files = Files();
@@ -47,24 +47,23 @@ TEST_F(UnwritableTest, AFullDiskEndsEveryCommandThatWritesWithTwo) {
   EXPECT_EQ(Files(), files);
 }
 
-TEST_F(UnwritableTest, ARunOnAFullDiskEndsWithTwo) {
+TEST_F(UnwritableTest, Run_OnAFullDiskEndsWithTwo) {
   const auto file = NewDocument({"410"});
   const auto before = Contents(file);
   const auto ended = OnAFullDisk(Simulated(file, "sound-class-1"));
   EXPECT_EQ(ended.status, 2) << ended.out << ended.error;
-  EXPECT_NE((ended.out + ended.error).find(file + " cannot be written: File too large"), std::string::npos)
-      << ended.out << ended.error;
+  EXPECT_THAT(ended.out + ended.error, HasSubstr(file + " cannot be written: File too large"));
   EXPECT_EQ(Contents(file), before);
 }
 
-TEST_F(UnwritableTest, AnOutputThatIsFullEndsWithTwo) {
+TEST_F(UnwritableTest, FullOutput_EndsWithTwo) {
   const auto file = NewDocument({"410"});
   const auto ended = support::RunShell("exec " ORVIK_BENCH_PATH " show '" + file + "' >/dev/full");
   EXPECT_EQ(ended.status, 2);
-  EXPECT_NE(ended.error.find("standard output"), std::string::npos) << ended.error;
+  EXPECT_THAT(ended.error, HasSubstr("standard output"));
 }
 
-TEST_F(UnwritableTest, AWriteProtectedDocumentIsReadAndNeverReplaced) {
+TEST_F(UnwritableTest, WriteProtectedDocument_IsReadNeverReplaced) {
   const auto file = NewDocument({"410"});
   ASSERT_EQ(chmod(file.c_str(), 0444), 0);
   const auto before = Contents(file);
@@ -73,7 +72,7 @@ TEST_F(UnwritableTest, AWriteProtectedDocumentIsReadAndNeverReplaced) {
         Words{"config", file, "--element", "1", "--options", "3"}, Simulated(file, "sound-class-1")}) {
     const auto refused = Bench(words);
     EXPECT_EQ(refused.status, 3) << words[0];
-    EXPECT_NE(refused.error.find(file + " is write-protected"), std::string::npos) << refused.error;
+    EXPECT_THAT(refused.error, HasSubstr(file + " is write-protected"));
   }
   for (const auto& words :
        {Words{"show", file}, Words{"check", file}, Words{"config", file, "--element", "1"},
