@@ -7,7 +7,7 @@
 
 namespace languages {
 
-/// The languages that the system is delivered in, beside English.
+/// The delivered languages beside English.
 inline const std::array<std::string, 4> kAll{"de", "es", "fr", "zh"};
 inline const std::array<std::string, 3> kModules{"KELD", "orvik", "orvik-bench"};
 
@@ -24,8 +24,7 @@ struct Entry {
   bool fuzzy = false;
 };
 
-/// All entries but the header, untranslated ones too. The reader is this test's own: the program's leaves
-/// those out.
+/// All entries but the header, untranslated ones too. The program's own reader omits those.
 std::vector<Entry> EntriesOf(const std::filesystem::path& file);
 
 std::string Contents(const std::filesystem::path& file);

@@ -7,6 +7,8 @@
 
 namespace {
 
+using testing::HasSubstr;
+
 /// How the help begins in each language.
 constexpr char kEnglish[] = "Usage: ";
 constexpr char kGerman[] = "Aufruf: ";
@@ -23,29 +25,27 @@ class ProgramLanguage : public cli::CliTest {
   }
 
   void Set(const char* name, const char* value) { setenv(name, value, 1); }
-  bool HelpHolds(const std::string& text, Words arguments = {"--help"}) const {
-    const auto told = Bench(std::move(arguments));
-    EXPECT_EQ(told.status, 0) << told.error;
-    return told.out.find(text) != std::string::npos;
+  bool HelpHolds(const std::string& text, const Words& arguments = {"--help"}) const {
+    return Done(arguments).find(text) != std::string::npos;
   }
 };
 
-TEST_F(ProgramLanguage, IsEnglishWhenNothingIsSaid) { EXPECT_TRUE(HelpHolds(kEnglish)); }
+TEST_F(ProgramLanguage, IsEnglishByDefault) { EXPECT_TRUE(HelpHolds(kEnglish)); }
 
-TEST_F(ProgramLanguage, IsThatOfTheOptionWhereverItStands) {
+TEST_F(ProgramLanguage, FollowsTheOption_AtAnyPlace) {
   EXPECT_TRUE(HelpHolds(kGerman, {"--lang", "de", "--help"}));
   EXPECT_TRUE(HelpHolds(kGerman, {"--help", "--lang=de"}));
   EXPECT_TRUE(HelpHolds(kGerman, {"run", "--help", "--lang", "de"}));
 }
 
-TEST_F(ProgramLanguage, TheOptionGoesBeforeTheEnvironment) {
+TEST_F(ProgramLanguage, OptionOverridesTheEnvironment) {
   Set("ORVIK_LANG", "es");
   EXPECT_TRUE(HelpHolds(kGerman, {"--lang", "de", "--help"}));
   EXPECT_TRUE(HelpHolds(kEnglish, {"--lang", "en", "--help"}));
   EXPECT_TRUE(HelpHolds(kEnglish, {"--lang", "C", "--help"}));
 }
 
-TEST_F(ProgramLanguage, TheFirstVariableThatIsSetDecides) {
+TEST_F(ProgramLanguage, FollowsTheFirstVariableThatIsSet) {
   Set("LANG", "de_DE.UTF-8");
   EXPECT_TRUE(HelpHolds(kGerman));
   Set("LC_MESSAGES", "C");
@@ -55,32 +55,32 @@ TEST_F(ProgramLanguage, TheFirstVariableThatIsSetDecides) {
   Set("ORVIK_LANG", "de_AT");
   EXPECT_TRUE(HelpHolds(kGerman));
   Set("ORVIK_LANG", "");
-  EXPECT_TRUE(HelpHolds(kSpanish)) << "an empty one is as good as none";
+  EXPECT_TRUE(HelpHolds(kSpanish)) << "an empty variable counts as unset";
 }
 
-TEST_F(ProgramLanguage, AnEnvironmentThatNamesNoneIsEnglishSilently) {
+TEST_F(ProgramLanguage, UnknownEnvironment_IsEnglishSilently) {
   for (const char* language :
        {"POSIX", "C.UTF-8", "xx_XX.UTF-8", "../../etc/passwd", "de/../es", ".", "%s"}) {
     Set("LC_ALL", language);
-    const auto told = Bench({"--help"});
-    EXPECT_EQ(told.status, 0) << language;
-    EXPECT_EQ(told.error, "") << language;
-    EXPECT_NE(told.out.find(kEnglish), std::string::npos) << language;
+    const auto shown = Bench({"--help"});
+    EXPECT_EQ(shown.status, 0) << language;
+    EXPECT_EQ(shown.error, "") << language;
+    EXPECT_THAT(shown.out, HasSubstr(kEnglish)) << language;
   }
 }
 
-TEST_F(ProgramLanguage, AnOptionWithoutTranslationsIsRefusedWithThoseThereAre) {
+TEST_F(ProgramLanguage, UnknownOption_NamesTheLanguages) {
   for (const std::string language : {"xx", "../de", "", "de/"}) {
-    const auto told = Bench({"--lang", language, "--help"});
-    EXPECT_EQ(told.status, 3) << language;
-    EXPECT_EQ(told.out, "") << language;
-    EXPECT_NE(told.error.find("de, en, es, fr, zh"), std::string::npos) << told.error;
+    const auto shown = Bench({"--lang", language, "--help"});
+    EXPECT_EQ(shown.status, 3) << language;
+    EXPECT_EQ(shown.out, "") << language;
+    EXPECT_THAT(shown.error, HasSubstr("de, en, es, fr, zh"));
   }
 }
 
-TEST_F(ProgramLanguage, TheRefusalIsToldInTheLanguageOfTheEnvironment) {
+TEST_F(ProgramLanguage, Refusal_IsInTheLanguageOfTheEnvironment) {
   Set("LANG", "de_DE.UTF-8");
-  EXPECT_NE(Bench({"--lang", "xx", "tests"}).error.find("keine Übersetzungen"), std::string::npos);
+  EXPECT_THAT(Bench({"--lang", "xx", "tests"}).error, HasSubstr("keine Übersetzungen"));
 }
 
 /// A wrong command line, and a part of the message in English and in German. The sentences of the parser
@@ -93,15 +93,15 @@ struct Mistake {
 
 class MistakeInGerman : public ProgramLanguage, public testing::WithParamInterface<Mistake> {};
 
-TEST_P(MistakeInGerman, IsToldInGerman) {
+TEST_P(MistakeInGerman, IsReportedInGerman) {
   auto words = GetParam().words;
   const auto english = Bench(words);
   EXPECT_EQ(english.status, 3);
-  EXPECT_NE(english.error.find(GetParam().english), std::string::npos) << english.error;
+  EXPECT_THAT(english.error, HasSubstr(GetParam().english));
   Set("ORVIK_LANG", "de");
   const auto german = Bench(words);
   EXPECT_EQ(german.status, 3);
-  EXPECT_NE(german.error.find(GetParam().german), std::string::npos) << german.error;
+  EXPECT_THAT(german.error, HasSubstr(GetParam().german));
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -126,25 +126,25 @@ INSTANTIATE_TEST_SUITE_P(
             "NoFile", {"show", "nosuch.orvik"}, "cannot be opened: No such file", "nicht geöffnet werden"}),
     [](const auto& given) { return given.param.name; });
 
-/// The commands, as the program tells them.
+/// The commands in a help text.
 std::vector<std::string> CommandsOf(const std::string& help, const std::string& heading) {
   std::vector<std::string> commands;
   auto at = help.find("\n" + heading + ":\n");
   if (at == std::string::npos) return commands;
   std::istringstream lines(help.substr(at + heading.size() + 3));
   for (std::string line; std::getline(lines, line) && line.starts_with("  ");) {
-    // A description that does not fit beside the name stands alone in its line.
+    // A description that does not fit beside the name is on its own line.
     if (line[2] != ' ') commands.push_back(line.substr(2, line.find(' ', 2) - 2));
   }
   return commands;
 }
 
-/// Whether an option stands alone in the line, with the words that it takes: "  --outcome passed|failed".
+/// Whether the line has only an option with its values: "  --outcome passed|failed".
 bool NamesWordsAlone(const std::string& line) {
   return line.starts_with("  --") && line.find('|') != std::string::npos && line.find("  ", 2) == line.npos;
 }
 
-/// The lines of a help that are texts: command lines, and an option's words, are typed as they stand.
+/// The translatable lines of a help text: not command lines, nor the values of an option.
 std::vector<std::string> TextsOf(const std::string& help) {
   std::vector<std::string> texts;
   std::istringstream lines(help);
@@ -157,16 +157,16 @@ std::vector<std::string> TextsOf(const std::string& help) {
 
 class HelpIn : public ProgramLanguage, public testing::WithParamInterface<std::string> {
  protected:
-  /// Looks at the help of the command and of those below it.
+  /// Checks the help of the command and of its subcommands.
   void Look(Words command) {
     auto words = command;
     words.emplace_back("--help");
     const auto english = Bench(words);
     words.insert(words.end(), {"--lang", GetParam()});
-    const auto told = Bench(words);
-    EXPECT_EQ(told.status, 0) << told.error;
-    EXPECT_EQ(told.error, "");
-    const auto texts = TextsOf(told.out);
+    const auto shown = Bench(words);
+    EXPECT_EQ(shown.status, 0) << shown.error;
+    EXPECT_EQ(shown.error, "");
+    const auto texts = TextsOf(shown.out);
     const auto englishTexts = TextsOf(english.out);
     EXPECT_GT(texts.size(), 4U);
     for (const auto& text : texts)
@@ -181,7 +181,7 @@ class HelpIn : public ProgramLanguage, public testing::WithParamInterface<std::s
   int looked_ = 0;
 };
 
-TEST_P(HelpIn, IsThatLanguageForEveryCommand) {
+TEST_P(HelpIn, TranslatesEveryCommand) {
   Look({});
   EXPECT_GT(looked_, 8);
 }
@@ -198,7 +198,7 @@ TEST_P(HelpIn, KeepsItsColumns) {
   while (std::getline(lines, line) && !line.starts_with("  FILE ")) continue;
   const auto at = line.rfind(description);
   ASSERT_NE(at, std::string::npos) << line;
-  // The label before it says in that language that the word is required, in wide letters perhaps.
+  // The label before it is translated, perhaps in wide letters.
   EXPECT_EQ(host::CellsOf(line.substr(0, at)), 30U) << line;
 }
 

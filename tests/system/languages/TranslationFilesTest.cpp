@@ -24,11 +24,7 @@ std::vector<File> Files() {
   return files;
 }
 
-support::Finished RunTool(const std::string& program, std::vector<std::string> arguments) {
-  return support::Run(program, std::move(arguments));
-}
-
-/// How often each placeholder stands in the text.
+/// How often each placeholder is in the text.
 std::map<std::string, int> PlaceholdersOf(const std::string& text) {
   std::map<std::string, int> found;
   for (auto at = text.find("%%"); at != std::string::npos; at = text.find("%%", at + 2))
@@ -39,7 +35,7 @@ std::map<std::string, int> PlaceholdersOf(const std::string& text) {
 std::string LeadingBlanks(const std::string& text) { return text.substr(0, text.find_first_not_of(" \n")); }
 std::string TrailingBlanks(const std::string& text) { return text.substr(text.find_last_not_of(" \n") + 1); }
 
-/// The words that are the same in English and in the language, or are no words of a language at all.
+/// Words that are the same in English and in the language, or belong to no language.
 bool MayBeTheSame(const std::string& language, const std::string& text) {
   static const std::set<std::string> kEverywhere{"OK",
                                                  "&OK",
@@ -90,7 +86,7 @@ TEST_P(TranslationFile, KeepsPlaceholdersAndBlanks) {
   }
 }
 
-TEST_P(TranslationFile, ClosesEachBracketAsItOpensIt) {
+TEST_P(TranslationFile, ClosesEveryBracket) {
   const auto count = [](const std::string& text, const std::string& bracket) {
     int found = 0;
     for (auto at = text.find(bracket); at != std::string::npos; at = text.find(bracket, at + 1)) ++found;
@@ -102,15 +98,16 @@ TEST_P(TranslationFile, ClosesEachBracketAsItOpensIt) {
   }
 }
 
-TEST_P(TranslationFile, LeavesNothingInEnglish) {
+TEST_P(TranslationFile, TranslatesEveryText) {
   for (const auto& entry : languages::EntriesOf(Path())) {
     if (entry.translated == entry.english) {
-      EXPECT_TRUE(MayBeTheSame(GetParam().language, entry.english)) << Place(entry) << " reads as in English";
+      EXPECT_TRUE(MayBeTheSame(GetParam().language, entry.english))
+          << Place(entry) << " is the same as in English";
     }
   }
 }
 
-TEST_P(TranslationFile, NamesOptionsAndCommandsAsTheyAreTyped) {
+TEST_P(TranslationFile, KeepsOptionsAndCommands) {
   for (const auto& entry : languages::EntriesOf(Path())) {
     // An option such as "--wire-log", a file's ending, a variable of the environment.
     for (auto at = entry.english.find("--"); at != std::string::npos; at = entry.english.find("--", at + 2)) {
@@ -125,8 +122,9 @@ TEST_P(TranslationFile, NamesOptionsAndCommandsAsTheyAreTyped) {
   }
 }
 
-TEST_P(TranslationFile, PassesTheLanguageToolsOwnCheck) {
-  const auto checked = RunTool("/usr/bin/msgfmt", {"--check", "--output-file=/dev/null", Path().string()});
+TEST_P(TranslationFile, PassesMsgfmt) {
+  const auto checked =
+      support::Run("/usr/bin/msgfmt", {"--check", "--output-file=/dev/null", Path().string()});
   EXPECT_EQ(checked.status, 0) << checked.error;
   EXPECT_EQ(checked.error, "");
 }
@@ -135,8 +133,8 @@ INSTANTIATE_TEST_SUITE_P(All, TranslationFile, testing::ValuesIn(Files()), [](co
   return (given.param.module == "orvik-bench" ? "bench" : given.param.module) + "_" + given.param.language;
 });
 
-/// Units are compared: a limit in a translated unit would no longer fit the reading.
-TEST(Translations, LeaveUnitsAsTheyAre) {
+/// Units are compared: a limit in a translated unit would no longer match the reading.
+TEST(Translations, KeepUnits) {
   const std::set<std::string> units{"V", "mOhm", "MOhm", "µA"};
   for (const auto& language : languages::kAll) {
     std::size_t seen = 0;
@@ -149,8 +147,8 @@ TEST(Translations, LeaveUnitsAsTheyAre) {
   }
 }
 
-/// Tests are told apart by their names in lists and reports.
-TEST(Translations, GiveDifferentTextsDifferentNames) {
+/// Names identify tests in lists and reports.
+TEST(Translations, KeepNamesDistinct) {
   for (const auto& language : languages::kAll) {
     std::map<std::string, std::string> names;
     for (const auto& entry : languages::EntriesOf(languages::Folder() / ("KELD." + language + ".po"))) {
@@ -163,11 +161,11 @@ TEST(Translations, GiveDifferentTextsDifferentNames) {
   }
 }
 
-TEST(Translations, HaveTheTextsOfTheSources) {
+TEST(Translations, MatchTheTextsOfTheSources) {
   support::TemporaryFolder folder;
   const auto copy = folder.Path() / "translations";
   std::filesystem::copy(languages::Folder(), copy, std::filesystem::copy_options::recursive);
-  const auto collected = RunTool((languages::Folder() / "update").string(), {copy.string()});
+  const auto collected = support::Run((languages::Folder() / "update").string(), {copy.string()});
   ASSERT_EQ(collected.status, 0) << collected.error;
   for (const auto& file : std::filesystem::directory_iterator(copy)) {
     const auto name = file.path().filename();

@@ -24,7 +24,7 @@ class GuideIn : public ui::GuideTest, public testing::WithParamInterface<GuideTe
   GuideIn() { Speak(bench_.Host(), GetParam().language); }
 };
 
-TEST_P(GuideIn, ShowsThatLanguage) {
+TEST_P(GuideIn, ShowsTheLanguage) {
   Perform(Element(410), [&](const ui::GuideScreen& guide) {
     EXPECT_EQ(guide.Form().Caption(), GetParam().title);
     EXPECT_EQ(guide.Buttons()->CommandCaption(202), GetParam().play);
@@ -46,7 +46,7 @@ TEST(SetUpDialogInGerman, ShowsTheSettingsOfASequence) {
   support::ConfigurationDialog<keld::model::CKELDSequence> open(600);
   EXPECT_EQ(open.list->Items(), (Texts{"Keine Werte", "Alle Werte", "Größter Wert", "Kleinster Wert"}));
   EXPECT_EQ(open.control->GetControl("lblAssign")->Caption(), "Werte der Prüfungen der Gruppe:");
-  // The settings are numbers: what is chosen does not depend on the language.
+  // Settings are numbers, so the choice does not depend on the language.
   open.list->Choose(2);
   EXPECT_EQ(open.configuration->ValueFilter(), 3);
 }
@@ -59,7 +59,7 @@ TEST(SetUpDialogInChinese, ShowsTheSettingsOfASequence) {
   EXPECT_EQ(open.control->GetControl("lblGeneralSettings")->Caption(), "常规设置：");
 }
 
-/// The catalogue is told in the language; the unit, which limits are compared by, is not.
+/// Names are translated; units are not, since limits are compared by them.
 TEST(CatalogueInLanguages, HasTranslatedNamesAndTheSameUnits) {
   const std::vector<std::pair<std::string, std::string>> names{
       {"de", "Schutzleiter, mit Netzleitung"},
