@@ -15,7 +15,7 @@
 namespace history {
 namespace {
 
-/// Takes what is printed for as long as it lives.
+/// Captures what is printed during its lifetime.
 class Printed {
  public:
   explicit Printed(std::ostream& stream) : stream_(stream), before_(stream.rdbuf(text_.rdbuf())) {}

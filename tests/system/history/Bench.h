@@ -13,23 +13,23 @@
 
 namespace history {
 
-/// The real programs' parts, which do what a history says: documents in files, the plug-in, the run's parts
+/// Executes a history with the real parts of the programs: documents in files, the plug-in, the run's parts
 /// and the simulated tester on a line in memory, on the virtual clock.
 class Bench {
  public:
   Bench();
   ~Bench();
 
-  /// As before the first operation: no documents, no settings.
+  /// Restores the initial state: no documents, no settings.
   void Clear();
 
-  /// Does the operation; for a run writes down in the world what really happens.
+  /// Executes the operation; for a run, records in the world what really happens.
   /// @param byCommand through the program's command line where there is one, instead of the procedures behind
   /// it
-  /// @return why it was refused, or what it must not have done; none when all is well
+  /// @return the refusal or a violation; none if all is well
   std::optional<std::string> Perform(const Operation& operation, World& world, bool byCommand);
 
-  /// The document as its file has it.
+  /// The document as in its file.
   std::shared_ptr<host::document::Document> Open(const std::string& file);
   std::filesystem::path PathOf(const std::string& file) const { return folder_ / file; }
   host::document::Host& Host() { return bench_.Host(); }

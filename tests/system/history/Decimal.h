@@ -8,8 +8,7 @@
 
 namespace history {
 
-/// A number as people and testers write it: exact, so that the oracle rounds nothing. For figures of at most
-/// 15 digits between 1e-12 and 1e12.
+/// An exact decimal number, so that the oracle does not round. For at most 15 digits between 1e-12 and 1e12.
 class Decimal {
  public:
   /// @param digits,exponent digits times ten to that power
@@ -32,7 +31,7 @@ class Decimal {
   int exponent_;
 };
 
-/// Of what a unit is a unit, and its power of ten: "mOhm" is {'R', -3}.
+/// The quantity and power of ten of a unit: "mOhm" is {'R', -3}.
 struct Unit {
   char quantity = 0;
   int exponent = 0;

@@ -29,7 +29,7 @@ class Dice {
   Thing One(std::initializer_list<Thing> things) {
     return *std::next(things.begin(), Below(things.size()));
   }
-  /// The place of one of the weights, each as likely as it is large.
+  /// The index of a weight, drawn with a probability in proportion to it.
   template <class Weights>
   std::size_t ByWeight(const Weights& weights) {
     int all = 0;

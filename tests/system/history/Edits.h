@@ -11,13 +11,13 @@
 
 namespace history {
 
-/// What the commands do that change a document or the settings, by the same procedures as they.
+/// Changes documents and settings by the procedures of the commands.
 class EditsOf {
  public:
   /// @param folder of the documents, with "/" at its end
   EditsOf(support::VirtualBench& bench, std::string folder) : bench_(bench), folder_(std::move(folder)) {}
 
-  /// Throws what the procedures throw when they refuse it.
+  /// Throws what the procedures throw on a refusal.
   void Perform(const Operation& operation);
 
  private:

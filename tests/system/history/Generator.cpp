@@ -35,7 +35,7 @@ Operation Generator::Draw(const World& world) {
     operation.file = file_;
     return operation;
   }
-  // First a plan with limits, then a run, and then all of it.
+  // First a plan with limits, then a run, then any operation.
   const bool planning = state.runs == 0 && drawn_ < 4;
   const std::array<std::pair<int, int>, 7> weights{{{0, planning ? 5 : 6},    // plan
                                                     {0, planning ? 12 : 14},  // limits

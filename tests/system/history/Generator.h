@@ -10,15 +10,15 @@
 
 namespace history {
 
-/// Draws histories in which what must not happen is likely to happen: a plan, a run, and then changes of all
-/// kinds and more runs.
+/// Draws histories in which violations are likely: a plan, a run, and then changes of all kinds and more
+/// runs.
 class Generator {
  public:
   explicit Generator(std::uint64_t seed) : dice_(seed), length_(5 + dice_.Below(11)) {}
 
-  /// How many operations the history has.
+  /// The number of operations of the history.
   int Length() const { return length_; }
-  /// The next operation, which means something in this world.
+  /// The next operation, possible in this world.
   Operation Next(const World& world);
 
  private:

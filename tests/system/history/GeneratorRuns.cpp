@@ -3,7 +3,7 @@
 #include "tests/system/history/Generator.h"
 #include "tests/system/history/Tests.h"
 
-// What a history draws of runs, testers and other programs.
+// Draws runs, testers and changes by other programs.
 namespace history {
 namespace {
 
@@ -91,7 +91,7 @@ Operation Generator::Run(const DocumentState& document) {
     for (int elements = 1 + dice_.Below(2); elements > 0; --elements)
       run.elements.push_back(elements == 1 || dice_.Chance(50) ? AnyElement(document).id
                                                                : document.plan.elements.front().id);
-  // The same once more: what was measured first no longer counts.
+  // The same element again: its first result no longer counts.
   if (!run.elements.empty() && dice_.Chance(25)) run.elements.push_back(run.elements.front());
   if (dice_.Chance(10)) run.standards = {dice_.One<std::string>({"IEC 62353", "House rule", "IEC 60601-1"})};
   run.simulated = document.simulated.value_or(dice_.Chance(8));
@@ -113,7 +113,7 @@ Operation Generator::Tampered(const DocumentState& document) {
   operation.kind = Operation::Kind::kTamper;
   auto& tampering = operation.tampering;
   tampering.kind = static_cast<Kind>(dice_.Below(static_cast<std::size_t>(Kind::kEquipment) + 1));
-  // Most of what can be changed is where something was done.
+  // Most changes hit elements that were run.
   if (!document.records.empty() && dice_.Chance(40))
     tampering.kind = dice_.One({Kind::kResultStatus, Kind::kResultValue});
   else if (document.runs > 1 && dice_.Chance(60))

@@ -1,11 +1,9 @@
 #include <gtest/gtest.h>
-#include <unistd.h>
 
-#include <charconv>
-#include <cstdlib>
 #include <iostream>
 
 #include "tests/support/Seed.h"
+#include "tests/support/TestScale.h"
 #include "tests/system/history/Generator.h"
 #include "tests/system/history/Player.h"
 #include "tests/system/history/Shrink.h"
@@ -13,48 +11,31 @@
 namespace history {
 namespace {
 
+/// ORVIK_HISTORIES overrides it; 0 is unlimited.
 constexpr int kHistories = 3000;
-/// They are played in so many parts, each a test, which can run at the same time.
+/// Histories are divided into tests, which can run at the same time.
 constexpr int kParts = 4;
-/// Where a part of histories without end begins.
+/// Distance between the first histories of two parts, if unlimited.
 constexpr int kPartsApart = 1'000'000;
-/// One of so many goes through the command line.
+/// One of this many uses the command line.
 constexpr int kByCommandEvery = 16;
-
-/// How many are wanted; 0 for as many as there is time for.
-int HistoriesWanted() {
-  const char* given = std::getenv("ORVIK_HISTORIES");
-  if (!given) return kHistories;
-  const std::string text = given;
-  int histories = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), histories);
-  if (error != std::errc{} || end != text.data() + text.size() || histories < 0)
-    throw std::runtime_error("ORVIK_HISTORIES is \"" + text +
-                             "\"; give it a whole number, 0 for no end, or leave it out");
-  return histories;
-}
-
-/// Documents are made in memory, where flushing takes no time.
-void UseFilesInMemory() {
-  constexpr char kFolder[] = "/dev/shm";
-  if (access(kFolder, W_OK) == 0) setenv("TMPDIR", kFolder, 1);
-}
 
 class Histories {
  public:
   explicit Histories(unsigned seed) : seed_(seed) {}
 
-  /// Plays the history of that number; what goes wrong with it, shrunk and as commands, or none.
+  /// Plays the history with that number.
+  /// @return the fault, with the shrunk history as commands; none if all is well
   std::optional<std::string> Play(int number) {
     const bool byCommand = number % kByCommandEvery == 0;
-    // Mixed, or the dice of one history would fall as those of the next, one throw later.
+    // Mixed, or one history would have the random numbers of the next, shifted by one.
     Generator generator(Dice(seed_).Next() ^ Dice(static_cast<std::uint64_t>(number)).Next());
     std::vector<Operation> history;
     player_.Begin(byCommand);
     for (int step = 0; step < generator.Length(); ++step) {
       history.push_back(generator.Next(player_.Now()));
       if (player_.Step(history.back()))
-        return Told(
+        return Report(
             Shrunk(history, [&](const std::vector<Operation>& shorter) { return Again(shorter, byCommand); }),
             byCommand);
     }
@@ -71,7 +52,7 @@ class Histories {
     return {};
   }
 
-  std::string Told(const std::vector<Operation>& history, bool byCommand) {
+  std::string Report(const std::vector<Operation>& history, bool byCommand) {
     std::string text = "\n";
     for (const auto& operation : history) text += "  " + TextOf(operation) + "\n";
     return text + "then " + Again(history, byCommand).value_or("nothing, the second time");
@@ -84,12 +65,12 @@ class Histories {
 
 class HistoryTest : public testing::TestWithParam<int> {};
 
-TEST_P(HistoryTest, SaysOfEveryHistoryWhatWasMeasured) {
-  const int wanted = HistoriesWanted();
+TEST_P(HistoryTest, ReportsWhatWasMeasured) {
+  const int wanted = support::NumberFromEnvironment("ORVIK_HISTORIES", kHistories, 0);
   const int first = wanted == 0 ? GetParam() * kPartsApart : wanted * GetParam() / kParts;
   const int end = wanted * (GetParam() + 1) / kParts;
   const auto seed = support::Seed();
-  UseFilesInMemory();
+  support::UseFilesInMemory();
   Histories histories(seed);
   int played = 0;
   for (int number = first; (wanted == 0 || number < end) && !HasFailure(); ++number, ++played)
@@ -103,7 +84,7 @@ TEST_P(HistoryTest, SaysOfEveryHistoryWhatWasMeasured) {
   for (const auto& [outcome, count] : seen.outcomes) std::cout << " " << count << " " << outcome;
   std::cout << std::endl;
 
-  // Otherwise it would show little.
+  // The histories must contain every verdict often enough.
   if (played < 500) return;
   EXPECT_GT(seen.exact * 10, seen.elements * 8);
   for (const auto* verdict :

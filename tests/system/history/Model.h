@@ -7,10 +7,10 @@
 
 namespace history {
 
-/// Whether the operation can be done in this world: whether the document, elements and places are there.
+/// Whether the operation is possible in this world: the document, elements and places exist.
 bool Applies(const Operation& operation, const World& world);
 
-/// What the operation changes of the world, as its help says; runs and tampering excepted.
+/// Applies the operation to the world, as its help says; not for runs and tampering.
 void Apply(const Operation& operation, World& world);
 
 /// A set of limits that histories use.

@@ -8,8 +8,8 @@
 
 #include "tests/system/history/Plan.h"
 
-/// What a person, a tester or another program does, complete in itself: a history is a list of operations
-/// that still means something when some of them are left out.
+/// What a person, a tester or another program does. A history is a list of operations; it stays meaningful if
+/// some of them are omitted.
 namespace history {
 
 /// What the operator presses in one guide.
@@ -34,7 +34,7 @@ struct Behaviour {
 
 struct TesterSetup {
   std::string serial = "T-1";
-  std::string laterSerial;  ///< of the tester that is there from the second session on; empty for the same
+  std::string laterSerial;  ///< of the tester from the second session on; empty for the same
   std::string type = "KELD(IN)";
   std::vector<Behaviour> behaviours;
   std::string faults;           ///< lines of a fault script
@@ -76,7 +76,7 @@ struct Tampering {
   Kind kind = Kind::kReformat;
   int element = 0;
   std::uint32_t which = 0;  ///< which of those there are
-  std::string value;        ///< what is put in
+  std::string value;        ///< the new value
 };
 
 struct Operation {
@@ -121,7 +121,7 @@ struct Operation {
   Tampering tampering;
 };
 
-/// The command's arguments without the program's name; empty for what no command does.
+/// The command's arguments without the program's name; empty if no command does this.
 /// @param folder of the documents
 std::vector<std::string> ArgumentsOf(const Operation& operation, const std::string& folder);
 

@@ -22,7 +22,7 @@ bool LeadsAreDoubtful(const Record& record) {
          Decimal(record.leads) - *milliohms > Decimal(kSpreadOfLeads);
 }
 
-/// The number that the plug-in may have made of a line that claims to be a reading; none when it could be
+/// The number that the plug-in may have parsed from a line that looks like a reading; none if it could be
 /// any.
 std::optional<Decimal> NumberIn(const std::string& line) {
   std::size_t place = 0;
@@ -55,7 +55,7 @@ Verdicts Oracle::Allowed(const Element& element, const Said& said) const {
   if (record->resultChanges > 0 || inDoubt) allowed.insert(kNotTested);
   if (record->resultChanges > 1 || inDoubt) allowed.insert(kDoubtful);
   if (inDoubt) {
-    // What came last may be hidden.
+    // The last record may be hidden.
     if (FailedBefore(element)) allowed.insert(kFailed);
     for (const auto& done : {kPassed, kRecorded, kNotApplicable}) allowed.erase(done);
   }
@@ -68,7 +68,7 @@ Verdicts Oracle::ByRecord(const Element& element, const Record& record, const Sa
   if (record.how == Record::How::kAborted) return {kAborted};
   if (element.group && OlderThanAChild(element, record)) return {kNotTested};
   if (record.how == Record::How::kNotApplicable) {
-    // Set aside at once, none of them is the older one; a test that another group had then may be either.
+    // All were set aside at once, so none is older; a test that then was in another group may be.
     if (HasMovedIn(element, record)) return {kNotApplicable, kNotTested};
     return {kNotApplicable};
   }
@@ -90,7 +90,7 @@ Verdicts Oracle::OfTest(const Element& element, const Record& record) const {
   if (exact) return allowed;
   allowed.insert(kDoubtful);
   if (record.spoiled || record.doubtful || record.interrupted) allowed.insert(kNotTested);
-  // What was said in place of the true reading is a reading all the same; but nothing passes by it.
+  // A false reading is a reading too, but cannot make anything pass.
   if (record.spoiled && !record.doubtful && element.limits.empty())
     allowed.insert(element.recordOnly ? kRecorded : kNotJudged);
   if (record.interrupted) allowed.insert(kAborted);
@@ -119,7 +119,7 @@ std::string Oracle::Exactly(const Element& element, const Record& record) const 
   return element.recordOnly ? kRecorded : kNotJudged;
 }
 
-/// Whether anything that the tester said breaks a limit that there is, or was, even as a bare number.
+/// Whether any reply of the tester exceeds a present or former limit, even as a bare number.
 bool Oracle::CouldHaveFailed(const Element& element, const Record& record) const {
   auto limits = record.limits;
   limits.insert(limits.end(), element.limits.begin(), element.limits.end());
@@ -131,7 +131,7 @@ bool Oracle::CouldHaveFailed(const Element& element, const Record& record) const
     }
     for (const auto& limit : limits) {
       for (const int power : {0, 3, -3}) {
-        // Compared as it is, whatever the limit's unit, or less the leads.
+        // Compared regardless of the limit's unit, with or without the leads.
         const auto bare = number->TimesPowerOfTen(power);
         const auto less = std::max(bare - Decimal(record.leads), Decimal(0));
         if ((limit.low && bare < *limit.low) || (limit.high && bare > *limit.high)) return true;

@@ -12,8 +12,8 @@ namespace history {
 /// Verdicts by their names, such as "not tested".
 using Verdicts = std::set<std::string>;
 
-/// What may be said of each element of a document, by what was really measured. Has no part in common with
-/// the program's judge and its record of runs.
+/// The permitted verdicts of each element of a document, by what was really measured. Shares no code with the
+/// program's judge and its record of runs.
 class Oracle {
  public:
   /// The program's verdict of an element.
@@ -21,7 +21,7 @@ class Oracle {
 
   explicit Oracle(const DocumentState& document) : document_(document) {}
 
-  /// One verdict where everything is known; more where a disturbance may or may not have done harm.
+  /// One verdict if everything is known; several if a disturbance may or may not have had an effect.
   /// @param said verdicts that were checked before; a group follows its children
   Verdicts Allowed(const Element& element, const Said& said) const;
 
@@ -38,7 +38,7 @@ class Oracle {
   Verdicts OfGroup(const Element& group, const Record& record, const Said& said) const;
   bool HasMovedIn(const Element& group, const Record& record) const;
   bool OlderThanAChild(const Element& group, const Record& record) const;
-  /// What the group's filter makes of the readings that count.
+  /// The result of the group's filter for the readings that count.
   struct Summary {
     std::optional<Amount> amount;
     bool known = true, mixed = false;

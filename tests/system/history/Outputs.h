@@ -8,14 +8,14 @@
 
 namespace history {
 
-/// Whether JSON, text and report say the same of a document as its verdict: what differs, or none.
+/// Compares JSON, text and report of a document with its verdict; returns the difference, or none.
 std::optional<std::string> OutputsDiffer(const host::report::DocumentView& view,
                                          const host::document::Document& document,
                                          host::document::Host& host);
 
-/// Whether `show`, `report`, `check` and `archive add` say the same as the verdict, on the command line.
-/// @param tampered whether another program has changed the file: `check` may find that, and it passes all the
-/// same
+/// Compares `show`, `report`, `check` and `archive add` on the command line with the verdict.
+/// @param tampered whether another program has changed the file: `check` may report that, even if the
+/// document passes
 std::optional<std::string> CommandsDiffer(const host::report::DocumentView& view, Bench& program,
                                           bool tampered);
 

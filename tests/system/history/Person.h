@@ -11,11 +11,11 @@
 
 namespace history {
 
-/// Presses the guide's buttons as a history says: one entry in one guide after the other, then play and next.
-/// Says yes to questions and acknowledges messages.
+/// Presses the guide's buttons as a history says: one entry for each guide, then play and next. Answers
+/// questions with yes and acknowledges messages.
 class Person final : public host::run::IOperator {
  public:
-  /// Hears what is about to be pressed, and whether in a guide that waits for it.
+  /// Called before a button is pressed, and whether the guide waits for it.
   using Listener = std::function<void(Press press, bool inWaitingGuide)>;
 
   Person(std::shared_ptr<orvik::platform::IApplication> application, std::vector<Press> presses,

@@ -8,7 +8,7 @@
 
 #include "tests/system/history/Decimal.h"
 
-/// What a document plans, as the history has it from its own commands; never read from a file.
+/// The plan of a document, derived from the commands of the history, never from a file.
 namespace history {
 
 /// Asset, serial, maker, model.
@@ -18,9 +18,9 @@ struct Limit {
   std::string standard, description;
   std::optional<Decimal> low, high;  ///< inclusive
   std::string unit;
-  bool foreign = false;  ///< another program has put in its unit or key: the plug-in compares otherwise
+  bool foreign = false;  ///< another program has changed its unit or key: the plug-in compares differently
 
-  /// Whether the amount breaks it; none when the two cannot be compared.
+  /// Whether the amount exceeds it; none if the two cannot be compared.
   std::optional<bool> BrokenBy(const Amount& amount) const;
 };
 
@@ -34,7 +34,7 @@ struct Element {
   std::vector<Limit> limits;  ///< at most one of a standard and description
   std::vector<Element> children;
 
-  /// Gives it the limit in place of the one of the same standard and description.
+  /// Adds the limit, or replaces the one of the same standard and description.
   void SetLimit(const Limit& limit);
 };
 
@@ -44,7 +44,7 @@ struct Plan {
 
   Element* Find(int id);
   const Element* Find(int id) const { return const_cast<Plan*>(this)->Find(id); }
-  /// What holds the element; null at the top.
+  /// The parent of the element; null at the top.
   const Element* ParentOf(int id) const;
   /// All elements in document order, parents before children.
   std::vector<const Element*> All() const;

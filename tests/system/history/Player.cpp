@@ -14,7 +14,7 @@
 namespace history {
 namespace {
 
-/// What all commands say is looked at after every so many operations.
+/// All commands are checked after every this many operations.
 constexpr int kCommandsEvery = 4;
 
 std::string TextOf(const Verdicts& verdicts) {
@@ -41,7 +41,7 @@ std::vector<std::string> RunsIn(const std::filesystem::path& file) {
   return runs;
 }
 
-/// Parents and tests too: an identifier that is given twice would make one result count for another test.
+/// Includes parents and tests: a reused identifier would make one result count for another test.
 std::string StructureOf(const host::judge::JudgedDocument& judged) {
   std::string text;
   for (const auto& element : judged.elements)
@@ -116,7 +116,7 @@ std::optional<std::string> Player::TamperWith(const Operation& operation) {
   try {
     bench_.Open(operation.file);
   } catch (const orvik::HostError& error) {
-    // A file that is no document any more: somebody gets the old one back.
+    // The file is no longer a document: the old one is restored.
     if (error.Number() != orvik::HostError::kPathError)
       return "refused with another error: " + error.Description();
     document = known;
@@ -153,7 +153,7 @@ std::optional<std::string> Player::Check(const std::string& file) {
   ++counts_.outcomes[outcome];
   if (outcome != OutcomeOf(judged))
     return "outcome \"" + outcome + "\", and should be \"" + OutcomeOf(judged) + "\"";
-  if (judged.simulated != known.anySimulated) return std::string("simulated is told wrongly");
+  if (judged.simulated != known.anySimulated) return std::string("simulated is wrong");
   if (auto offence = CheckRuns(file)) return offence;
   if (auto offence = OutputsDiffer(view, *document, bench_.Host())) return offence;
   return byCommand_ && step_ % kCommandsEvery == 0 ? CommandsDiffer(view, bench_, known.tampered)

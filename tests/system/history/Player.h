@@ -11,10 +11,10 @@
 
 namespace history {
 
-/// Plays histories on the bench, and holds what the program says after every operation against the oracle.
+/// Plays histories on the bench, and compares the program with the oracle after every operation.
 class Player {
  public:
-  /// What was seen; enough to say whether a test means something.
+  /// Statistics that show whether a test is meaningful.
   struct Counts {
     long operations = 0, elements = 0, exact = 0;
     std::map<std::string, long> verdicts, outcomes;
@@ -27,8 +27,8 @@ class Player {
   void Begin(bool byCommand);
   const history::World& Now() const { return world_; }
 
-  /// The next operation. What cannot be done in this world is left out.
-  /// @return what must not be; none when all is well
+  /// Executes the next operation; omits one that is impossible in this world.
+  /// @return a violation; none if all is well
   std::optional<std::string> Step(const Operation& operation);
 
   const Counts& Seen() const { return counts_; }

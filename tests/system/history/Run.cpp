@@ -117,7 +117,7 @@ std::vector<orvik::platform::Subscription> RunOf::Tell(support::RunParts& parts,
   return told;
 }
 
-/// Whatever comes late is waited for, so that it does not come into the next run.
+/// Waits for late events, so that they do not enter the next run.
 void RunOf::LetTimePass() {
   const auto end = bench_.Application().Now() + std::chrono::minutes(1);
   while (bench_.Application().Now() < end) bench_.Application().WaitMessages(end);

@@ -15,14 +15,14 @@
 
 namespace history {
 
-/// One run of a history, by the real parts of a run.
+/// Executes one run of a history with the real parts.
 class RunOf {
  public:
   /// @param folder of the documents, with "/" at its end
   RunOf(support::VirtualBench& bench, std::string folder) : bench_(bench), folder_(std::move(folder)) {}
 
-  /// Runs, and writes down in the world what really happens.
-  /// @return what the run must not have done; none when all is well
+  /// Runs, and records in the world what really happens.
+  /// @return a violation by the run; none if all is well
   std::optional<std::string> Perform(const Operation& operation, World& world);
 
  private:

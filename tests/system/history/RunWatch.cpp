@@ -8,7 +8,7 @@
 namespace history {
 namespace {
 
-/// So long the plug-in waits for a reply.
+/// How long the plug-in waits for a reply.
 constexpr std::chrono::milliseconds kWaitForReply{2000};
 
 std::vector<std::string> FieldsOf(const std::string& line) {
@@ -105,7 +105,7 @@ void RunWatch::Reached(int element) {
 }
 
 void RunWatch::Started(int element) {
-  // It is told after the save that holds it, as is a finish.
+  // Reported after the save that contains it, as a finish is.
   if (frozen_) return;
   frozen_ = lastSave_;
   const auto& started = *document_.plan.Find(element);
@@ -125,7 +125,7 @@ void RunWatch::Finished(int element) {
   frozen_ = lastSave_;
   const bool byTester = running_.erase(element) > 0;
   if (!savedSince_)
-    offence_ = "element " + std::to_string(element) + " is told as finished before it is saved";
+    offence_ = "element " + std::to_string(element) + " is reported as finished before it is saved";
   savedSince_ = false;
   ++document_.step;
   const auto& finished = *document_.plan.Find(element);
@@ -210,7 +210,7 @@ void RunWatch::Stopped() {
   if (Over()) return;
   pressed_ = true;
   if (auto* measured = Measured()) measured->interrupted = true;
-  // Stopped, a sequence takes back what its tests have measured.
+  // A stopped sequence discards the readings of its tests.
   for (const int element : running_)
     for (const auto* below : Below(*document_.plan.Find(element))) RecordOf(below->id).interrupted = true;
 }
@@ -240,7 +240,7 @@ void RunWatch::Sent(const std::string& line, bool somethingWaits, Time at) {
 }
 
 void RunWatch::Received(const std::string& line, Time at) {
-  // Remembered by the settings, whatever becomes of the document.
+  // Stored in the settings, even if the document is not saved.
   const auto fields = FieldsOf(line);
   if (fields[0] == "irem" && fields.size() >= 3 && !fields[2].empty()) {
     world_.lastSerial = fields[2];
@@ -256,7 +256,7 @@ void RunWatch::Received(const std::string& line, Time at) {
   auto* measured = Measured();
   if (!measured) return;
   if (line.starts_with("gres")) measured->said.push_back(line);
-  // A refusal while the session is closed takes the result back.
+  // A refusal while the session is closed discards the result.
   const bool over = !running_.contains(leaf_);
   const bool takenBack = over && ((line == "ERRM,1003" && command_.starts_with("STST")) ||
                                   (line == "ERRM,6002" && leaf_ == top_));
@@ -290,7 +290,7 @@ void RunWatch::TakeIdentity(const std::string& line, bool isTrue) {
   }
 }
 
-/// What has to be doubted by all means; whatever else was not true is only told apart.
+/// Faults that must be doubted; other false replies are only recorded as such.
 void RunWatch::Suspect(const std::string& line, Record& record) const {
   record.spoiled = true;
   const auto command = FieldsOf(command_), reply = FieldsOf(line);
@@ -299,7 +299,7 @@ void RunWatch::Suspect(const std::string& line, Record& record) const {
     record.doubtful = true;
   if (line == "ERRM,1003" && command[0] == "STST") record.doubtful = true;
   if (line != "ERRM,6002") return;
-  // The tester's word counts where it was asked for, whatever made it say so.
+  // A refusal by the tester counts if a command asked for it, even if it is not true.
   if (command[0] != "STST") record.doubtful = true;
   if (command[0] == "STST" && running_.contains(leaf_)) record.lacked = true;
 }

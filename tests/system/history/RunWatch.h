@@ -12,30 +12,30 @@
 
 namespace history {
 
-/// Writes down, for the oracle, what really happened in a run: which element was measured when, and what came
-/// over the wire meanwhile. It is told by the test bench, in the order in which it happens.
+/// Records for the oracle what really happened in a run: which element was measured when, and what came over
+/// the wire meanwhile. The test bench reports the events in their order.
 class RunWatch {
  public:
   using Time = std::chrono::microseconds;
 
-  /// @param elements that the run takes up, at the top of the selection
+  /// @param elements of the run, at the top of the selection
   RunWatch(World& world, const std::string& file, const RunSetup& run, const std::vector<int>& elements,
            const TrueTester& tester);
 
-  /// The document has been saved; whether it was the last time, since the program is killed then.
+  /// The document has been saved; the last time if the program is killed then.
   void Saved(bool last);
   void Started(int element);
   void Finished(int element);
   /// The guide of this element is shown next.
   void Reached(int element);
-  /// The operator has said so of the element whose guide is shown.
+  /// The operator has chosen this for the element whose guide is shown.
   void SetAside(Record::How how) { word_ = how; }
-  /// The operator has pressed abort and said yes: in a guide that waits, or at any moment, when it may have
-  /// been in vain.
+  /// The operator has confirmed an abort: in a guide that waits, or at any other moment, when it may have had
+  /// no effect.
   void Aborted(bool inWaitingGuide);
   void Stopped();
 
-  /// What the run must not have done; none when all is well.
+  /// A violation by the run; none if all is well.
   const std::optional<std::string>& Offence() const { return offence_; }
 
   void PortOpened();
@@ -45,7 +45,7 @@ class RunWatch {
   void Dropped();
 
  private:
-  /// After the last save only the news of what it held still counts.
+  /// After the last save only reports of what it contained still count.
   bool Over();
   Record& RecordOf(int element) { return document_.records[element]; }
   Record* Measured() { return leaf_ == 0 || frozen_ ? nullptr : &RecordOf(leaf_); }
@@ -62,7 +62,7 @@ class RunWatch {
   const RunSetup& run_;
   const TrueTester& tester_;
   std::optional<std::string> offence_;
-  bool savedSince_ = false;  ///< since something was heard of the running element
+  bool savedSince_ = false;  ///< since the last report on the running element
   bool begun_ = false, lastSave_ = false, frozen_ = false;
   std::vector<int> tops_;
   std::set<int> running_;
@@ -74,13 +74,13 @@ class RunWatch {
   std::string command_;
   Time sentAt_{};
   bool answered_ = false;
-  int waiting_ = 0;  ///< replies that came when nothing was asked
+  int waiting_ = 0;  ///< replies without a command
   bool plausible_ = true, spoiled_ = false, doubtful_ = false;
 };
 
-/// What the plug-in makes of the reading: less the test leads, in the unit in which it is recorded.
+/// The reading as the plug-in records it: less the test leads, in the recorded unit.
 Amount Corrected(const Amount& read, int testId, int leads);
-/// Whether the number, in the unit of the element, breaks a limit as the plug-in compares them.
+/// Whether the number, in the unit of the element, exceeds a limit as the plug-in compares them.
 bool BreaksByNumber(const Limit& limit, Decimal number, int testId);
 
 }  // namespace history

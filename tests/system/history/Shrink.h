@@ -9,9 +9,8 @@
 
 namespace history {
 
-/// A shorter history in which something still goes wrong: operations are left out, and what is not needed of
-/// runs, for as long as that holds.
-/// @param fails plays a history from the beginning; what goes wrong, or none
+/// Shortens a failing history: omits operations, and parts of runs, as long as it still fails.
+/// @param fails plays a history from the beginning and returns the fault, or none
 std::vector<Operation> Shrunk(
     std::vector<Operation> history,
     const std::function<std::optional<std::string>(const std::vector<Operation>&)>& fails);

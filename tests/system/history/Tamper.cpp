@@ -46,7 +46,7 @@ bool SetText(pugi::xml_node node, const std::string& value) {
   return node.text().set(value.c_str());
 }
 
-/// Runs are gone, or in another order: the last record of an element may be another one.
+/// Runs are removed or reordered: the last record of an element may be another one.
 void OrderRecordsAnew(DocumentState& document) {
   std::map<int, Record> last;
   for (auto& [id, record] : document.records) {
@@ -58,7 +58,7 @@ void OrderRecordsAnew(DocumentState& document) {
     });
     if (past.empty()) continue;
     last[id] = past.back();
-    // The saved result is of another run, and may look the same.
+    // The saved result is from another run, and may look the same.
     if (last[id].run != record.run) last[id].resultChanges = 2;
     past.pop_back();
   }
@@ -71,7 +71,7 @@ bool ChangeResult(const pugi::xml_document& xml, const Tampering& tampering, Doc
   if (!result || record == document.records.end()) return false;
   bool changed = false;
   const std::string status = result.child("Status").text().get();
-  // Where nothing passed or failed, nobody asks for the reading.
+  // The reading is irrelevant unless something passed or failed.
   const bool matters = tampering.kind != Tampering::Kind::kResultValue || status == "1" || status == "2";
   if (tampering.kind == Tampering::Kind::kResultRemoved)
     changed = result.parent().remove_child(result);
@@ -192,8 +192,7 @@ bool Change(const pugi::xml_document& xml, const Tampering& tampering, DocumentS
   }
 }
 
-/// What may come next depends on what the file says of the runs that it holds: their kind, and the
-/// identifiers that they name.
+/// The next operations depend on the runs in the file: their kind, and the identifiers that they name.
 void NoteRuns(const pugi::xml_document& xml, DocumentState& document) {
   document.simulated.reset();
   document.anySimulated = false;

@@ -13,17 +13,17 @@ struct TestKind {
   int testId = 0;
   std::string unit;           ///< in which readings are recorded; empty for a group without one
   std::vector<int> children;  ///< of a group
-  int options = 3;            ///< as the test comes
+  int options = 3;            ///< initial value
   bool byLead = false;        ///< whether it measures one lead, or all
-  bool lessLeads = false;     ///< whether the resistance of the test leads is taken away
-  Amount sound;               ///< what sound equipment has, as the tester sees it
+  bool lessLeads = false;     ///< whether the resistance of the test leads is subtracted
+  Amount sound;               ///< the value of sound equipment, as the tester reads it
 };
 
-/// Those that histories use.
+/// The entries that histories use.
 const std::vector<TestKind>& TestKinds();
 const TestKind& KindOf(int testId);
 
-/// What the tester calls the setting of a test with these options on the wire: a lead, or 0.
+/// The setting of a test with these options on the wire: a lead, or 0.
 int SettingOf(int options);
 /// Of the options, those that decide what is measured.
 constexpr int MeasuringPart(int options) { return options & orvik::OptionBits::kAnyLead; }

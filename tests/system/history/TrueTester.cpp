@@ -45,7 +45,7 @@ void TrueTester::OnReply(const sim::Exchange& exchange, sim::Reply& reply) {
   const auto line = TrueLine(command, bytes.substr(0, bytes.find('\r')));
   replies_[command] = line;
   bytes = line + kLineEnd;
-  // Counted from the beginning of the run, so that the same run goes wrong in the same way again.
+  // Counted from the beginning of the run, so that a repeated run has the same faults.
   const sim::Exchange counted{exchange.command, ++commands_, exchange.line};
   if (script_) script_->OnReply(counted, reply);
   if (random_) random_->OnReply(counted, reply);
@@ -70,7 +70,7 @@ std::string TrueTester::Result(const std::string& command, int testId, int setti
   Reading reading{world_.True(equipment_, testId, setting), false};
   auto unit = UsualUnit(testId);
   if (const auto* other = BehaviourIn(testId, Behaviour::Kind::kInUnit)) unit = other->unit;
-  // A unit of another quantity comes with the same figure.
+  // A unit of another quantity keeps the figure.
   reading.amount = {reading.amount.In(unit).value_or(reading.amount.number), unit};
   reading.overload = BehaviourIn(testId, Behaviour::Kind::kOverload) != nullptr;
   readings_[command] = reading;

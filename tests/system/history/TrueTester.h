@@ -12,14 +12,14 @@
 
 namespace history {
 
-/// Makes the simulated tester read what the equipment of a world really has, behave as a run's setup says,
-/// and then go wrong as it says. Knows which reply would have been the true one.
+/// Makes the simulated tester read the true values of a world, behave as a run's setup says, and have its
+/// faults. Knows the true reply to each command.
 class TrueTester final : public sim::Faults {
  public:
   TrueTester(const World& world, Equipment equipment, const TesterSetup& setup);
 
-  /// The true reply to the last such command, as bytes without their end; empty when the tester was not able
-  /// to give one.
+  /// The true reply to the last such command, as bytes without line end; empty if the tester could not give
+  /// one.
   std::string TrueReplyTo(const std::string& command) const;
   /// The reading in it; none for another reply.
   struct Reading {
@@ -44,7 +44,7 @@ class TrueTester final : public sim::Faults {
   std::map<std::string, Reading> readings_;
 };
 
-/// In which unit the tester says readings that are recorded in this one.
+/// The unit on the wire of readings that are recorded in this one.
 std::string UsualUnit(int testId);
 
 }  // namespace history

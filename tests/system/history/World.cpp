@@ -28,7 +28,7 @@ Amount World::True(const Equipment& of, int testId, int setting) const {
     if (const auto amount = known->second.find({testId, setting}); amount != known->second.end())
       return amount->second;
   auto amount = KindOf(testId).sound;
-  // Each lead reads otherwise, or a wrong lead would not be noticed.
+  // Each lead reads differently, or a wrong lead would not be noticed.
   if (setting > 0) amount.number = Decimal(11 + setting, -1);
   return amount;
 }

@@ -22,8 +22,8 @@ bool AllDone(const std::vector<JudgedElement>& elements) {
                      [](const JudgedElement& element) { return host::judge::IsDone(element.verdict); });
 }
 
-/// A pass counts only when the tester's own reading of this run came over the wire, stands in the result, and
-/// keeps the limit.
+/// A pass counts only if the tester's own reading of this run came over the wire, is in the result, and is
+/// within the limit.
 void CheckPass(const Plan& plan, const JudgedElement& element, const Texts& received, Texts& offences) {
   const std::string name = "element " + std::to_string(element.id) + " passed, ";
   const int truth = plan.truth.at(element.testId);
@@ -40,11 +40,11 @@ void CheckElement(const Plan& plan, const JudgedElement& element, const Texts& r
   const std::string name = "element " + std::to_string(element.id);
   if (element.status < 0 || element.status > 4) offences.push_back(name + " has an unknown status");
   const auto verdict = element.verdict;
-  // Every test has a limit: "not judged" would be one that was forgotten.
+  // Every test has a limit, so "not judged" would be a lost one.
   if (verdict == Verdict::kRecorded || verdict == Verdict::kNotJudged)
     offences.push_back(name + " has a reading that no limit judged");
   if (verdict == Verdict::kNotApplicable)
-    offences.push_back(name + " is not applicable, though it has a limit and nobody set it aside");
+    offences.push_back(name + " is not applicable, though it has a limit and no operator set it aside");
   if (verdict != Verdict::kPassed && element.reasons.empty())
     offences.push_back(name + " has not passed, and nothing says why");
   if (element.group) return;
@@ -59,7 +59,7 @@ void CheckWhole(const Evidence& evidence, Texts& offences) {
   const auto& elements = evidence.elements;
   if ((evidence.outcome == Outcome::kPassed) != AllDone(elements))
     offences.push_back("the outcome is " + host::judge::OutcomeText(evidence.outcome));
-  // The first one is the sequence, where there is one.
+  // The first element may be the sequence.
   if (elements.size() > 1 && elements.front().verdict == Verdict::kPassed && !AllDone(elements))
     offences.push_back("the sequence passed with such children");
   if (evidence.portOpen) offences.push_back("the port is still open");
@@ -68,7 +68,7 @@ void CheckWhole(const Evidence& evidence, Texts& offences) {
     offences.push_back("the saved document reads " + VerdictsOf(evidence.reopened));
 }
 
-/// Nothing went wrong, so everything has to be exact.
+/// Without faults everything must be exact.
 void CheckUndisturbed(const Plan& plan, const Evidence& evidence, Texts& offences) {
   const auto verdict = [&](int testId) {
     return std::string(plan.truth.at(testId) > kHighest ? "failed" : "passed");
@@ -109,7 +109,7 @@ std::vector<std::string> Offences(const Plan& plan, const Evidence& evidence) {
   for (const auto& element : evidence.elements) CheckElement(plan, element, evidence.received, offences);
   CheckWhole(evidence, offences);
   const bool faulty = !plan.script.empty() || plan.faultRate > 0;
-  // Without IREM the session is that of an earlier run, whose end the tester never heard of.
+  // Without IREM the session is that of an earlier run whose end the tester did not receive.
   if (!faulty && Contains(evidence.sent, "IREM") && evidence.inRemoteMode)
     offences.push_back("the session with the tester is still open");
   if (plan.Undisturbed()) CheckUndisturbed(plan, evidence, offences);

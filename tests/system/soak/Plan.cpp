@@ -23,7 +23,7 @@ class Draw {
   std::mt19937_64 engine_;
 };
 
-/// Faults that strike where the random ones do not: for good, or with a reading that looks like a good one.
+/// Faults that random ones do not cause: permanent ones, and readings that look correct.
 std::string OneFault(Draw& draw) {
   static constexpr std::array kCommands{"IREM 1", "STST 1", "GRES 1", "STST 2", "GRES 2", "EREM 1", "ANY"};
   static constexpr std::array kFaults{"hang-up",
@@ -47,7 +47,7 @@ Plan DrawPlan(std::uint64_t seed, int run) {
   Plan plan;
   plan.seed = draw.Seed();
   plan.kind = draw.Chance(60) ? Kind::kTest : Kind::kSequence;
-  // Odd and even readings by turns: one that is left over from the run before is none of this one's.
+  // Odd and even readings in turn, so a reading left over from the previous run is noticed.
   for (const int testId : {410, 420})
     plan.truth[testId] = 2 * (1 + draw.Below(kHighestReading / 2)) + run % 2;
   if (plan.truth[410] == plan.truth[420]) plan.truth[420] += 2;

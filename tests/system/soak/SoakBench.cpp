@@ -12,7 +12,7 @@ namespace soak {
 
 namespace {
 
-/// The tester of one run: what it reads, and what goes wrong.
+/// The tester of one run: its readings and faults.
 class RunFaults final : public sim::Faults {
  public:
   explicit RunFaults(const Plan& plan) : truth_(plan.truth) {
@@ -34,9 +34,8 @@ class RunFaults final : public sim::Faults {
   std::unique_ptr<sim::Faults> faults_;
 };
 
-/// What is known of the tester is kept for the whole process, and a text keeps the room that its longest
-/// content took, a block of its own: each has that from the start, so that a garbled identity later on adds
-/// none.
+/// The tester's identity is kept for the whole process, and a text keeps the capacity of its longest content.
+/// Each gets that capacity at the start, so that a garbled identity later on allocates nothing.
 void GiveTextsRoom() {
   const std::string text(40, 'x');
   keld::instrument::CKELDData::Shared()->TakeIdentity({text, text, text, {}, {}});
@@ -92,7 +91,7 @@ Evidence SoakBench::Run(const Plan& plan, bool save) {
   return evidence;
 }
 
-/// The tester is as it was at the end of the run before, but its cable is plugged in.
+/// The tester stays as the previous run left it, but its cable is plugged in.
 void SoakBench::Disturb(const Plan& plan) {
   bench_.Tester().PlugIn();
   bench_.Tester().UseFaults(std::make_shared<RunFaults>(plan));

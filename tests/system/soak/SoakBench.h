@@ -12,15 +12,15 @@ class Document;
 
 namespace soak {
 
-/// One bench for all the runs, on the virtual clock, with the host's real document, run controller, operator
-/// and wire log.
+/// One bench for all runs, on the virtual clock, with the host's real document, run controller, operator and
+/// wire log.
 class SoakBench {
  public:
   SoakBench();
   ~SoakBench();
 
-  /// A complete run: a document is opened, run and let go of, and whatever comes late is waited for.
-  /// @param save whether the document is saved to the disk as it goes; otherwise it is only made ready for it
+  /// A complete run: opens a document, runs and closes it, and waits for late events.
+  /// @param save whether the document is saved to disk during the run; otherwise it is only serialised
   Evidence Run(const Plan& plan, bool save);
 
  private:

@@ -14,14 +14,14 @@ namespace soak {
 /// What is run: one test, or a sequence of two.
 enum class Kind { kTest, kSequence };
 
-/// One run as it is drawn from its seed.
+/// One run, derived from its seed.
 struct Plan {
   Kind kind = Kind::kTest;
-  /// What the tester reads, in mOhm by test; no two runs in a row read the same.
+  /// Readings of the tester, mOhm by test; they differ from those of the previous run.
   std::map<int, int> truth;
   /// Lines of a fault script; empty for none.
   std::string script;
-  /// Share of the replies that are spoiled at random, 0 to 1.
+  /// Share of randomly corrupted replies, 0 to 1.
   double faultRate = 0;
   /// The call of the message pump at which the operator asks for a stop.
   std::optional<int> stopAt;
@@ -36,7 +36,7 @@ inline constexpr int kHighest = 300;
 /// The plan of the run of that number.
 Plan DrawPlan(std::uint64_t seed, int run);
 
-/// "sequence, faults at 0.31 (seed 17), stop at call 40": enough to tell runs apart in a failure.
+/// "sequence, faults at 0.31 (seed 17), stop at call 40": identifies the run in a failure message.
 std::string TextOf(const Plan& plan);
 
 /// What a run left behind.
@@ -49,18 +49,18 @@ struct Evidence {
   bool inRemoteMode = false;  ///< the tester
   bool portOpen = false;
   std::size_t windows = 0;  ///< still open
-  /// How the elements read when the saved document is opened again; empty when it was not saved.
+  /// The elements of the reopened document; empty if it was not saved.
   std::vector<host::judge::JudgedElement> reopened;
 };
 
-/// What must not be: a pass that was not measured, a verdict that is none of the tester's own reading, a run
-/// that no fault disturbed and that ended otherwise than it should, a window or a port left open.
+/// Violations: a pass that was not measured, a verdict that does not match the tester's own reading, an
+/// undisturbed run with a wrong end, a window or a port left open.
 std::vector<std::string> Offences(const Plan& plan, const Evidence& evidence);
 
-/// How the tester says its reading of a test.
+/// The tester's reply with its reading of a test.
 std::string ReplyTo(int testId, int milliohms);
 
-/// How the elements ended: "doubtful, passed, doubtful".
+/// The verdicts of the elements: "doubtful, passed, doubtful".
 std::string VerdictsOf(const std::vector<host::judge::JudgedElement>& elements);
 
 }  // namespace soak

@@ -1,8 +1,5 @@
 #include <gtest/gtest.h>
-#include <unistd.h>
 
-#include <charconv>
-#include <cstdlib>
 #include <filesystem>
 #include <functional>
 #include <iterator>
@@ -10,6 +7,7 @@
 #include <optional>
 
 #include "tests/support/Seed.h"
+#include "tests/support/TestScale.h"
 #include "tests/system/leaks/Allocations.h"
 #include "tests/system/soak/SoakBench.h"
 
@@ -24,39 +22,20 @@ constexpr int kRunsOfThisBuild = 5000;
 constexpr int kRunsOfThisBuild = 10000;
 #endif
 
-/// Every so many runs are looked at, and as many go before the first look.
+/// Memory is checked every this many runs, the first time after as many.
 constexpr int kBetweenLooks = kRunsOfThisBuild / 10;
-/// Saving, and opening again what was saved, is not the whole of it.
+/// Only every this many runs the document is saved and reopened.
 constexpr int kSavedEvery = 4;
 
-/// Tables and lists keep the room that the greediest run so far has needed. A byte forgotten in each run is
-/// more.
+/// Tables and lists keep the capacity of the largest run so far. One byte leaked in each run is more.
 constexpr std::size_t kRoom = 1024;
-
-int RunsWanted() {
-  const char* given = std::getenv("ORVIK_SOAK_RUNS");
-  if (!given) return kRunsOfThisBuild;
-  const std::string text = given;
-  int runs = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), runs);
-  if (error != std::errc{} || end != text.data() + text.size() || runs < 2 * kBetweenLooks)
-    throw std::runtime_error("ORVIK_SOAK_RUNS is \"" + text + "\"; give it a whole number from " +
-                             std::to_string(2 * kBetweenLooks) + ", or leave it out");
-  return runs;
-}
-
-/// Has temporary folders be made in memory, where flushing takes no time: the process is worn, not the disk.
-void UseFilesInMemory() {
-  constexpr char kFolder[] = "/dev/shm";
-  if (access(kFolder, W_OK) == 0) setenv("TMPDIR", kFolder, 1);
-}
 
 std::size_t OpenHandles() {
   const std::filesystem::directory_iterator handles("/proc/self/fd");
   return static_cast<std::size_t>(std::distance(begin(handles), end(handles)));
 }
 
-/// What the process holds after one and the same run.
+/// Memory of the process after the same run.
 struct Look {
   leaks::Held held;
   std::size_t handles = 0;
@@ -76,7 +55,7 @@ void ExpectFlat(const Look& now, const Look& first, int runs) {
   EXPECT_EQ(now.handles, first.handles) << "handles are left over after " << runs << " runs";
 }
 
-/// One run by its plan; how it ended.
+/// Executes a plan; returns how the run ended.
 host::judge::Outcome RunAndCheck(SoakBench& bench, unsigned seed, int run) {
   const auto plan = DrawPlan(seed, run);
   const auto evidence = bench.Run(plan, run % kSavedEvery == 0);
@@ -86,10 +65,10 @@ host::judge::Outcome RunAndCheck(SoakBench& bench, unsigned seed, int run) {
   return evidence.outcome;
 }
 
-TEST(SoakTest, ManyRunsWithFaultsLeaveNothingAndEndRight) {
-  const int runs = RunsWanted();
+TEST(SoakTest, FaultyRuns_EndCorrectlyWithoutLeaks) {
+  const int runs = support::NumberFromEnvironment("ORVIK_SOAK_RUNS", kRunsOfThisBuild, 2 * kBetweenLooks);
   const auto seed = support::Seed();
-  UseFilesInMemory();
+  support::UseFilesInMemory();
   SoakBench bench;
   std::optional<Look> first;
   std::map<host::judge::Outcome, int> outcomes;
@@ -110,7 +89,7 @@ TEST(SoakTest, ManyRunsWithFaultsLeaveNothingAndEndRight) {
 
 class OffencesTest : public testing::Test {
  protected:
-  /// A run of one test that reads 123 mOhm and is disturbed in some way.
+  /// A disturbed run of one test that reads 123 mOhm.
   OffencesTest() {
     plan_.truth = {{410, 123}, {420, 131}};
     plan_.faultRate = 0.2;
