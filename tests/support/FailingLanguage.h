@@ -52,7 +52,7 @@ class FailingLanguage final : public orvik::ILanguageService {
   const std::shared_ptr<orvik::ILanguageService> real_;
 };
 
-/// From now on the host's language service fails. To be called before the plug-in first asks for it.
+/// Makes the host's language service fail. Call it before the plug-in first asks for the service.
 inline void FailLanguage(host::document::Host& host, LanguageFault fault) {
   std::shared_ptr<orvik::ILanguageService> failing;
   if (fault != LanguageFault::kIsMissing)

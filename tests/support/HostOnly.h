@@ -25,8 +25,7 @@ namespace support {
 /// the plug-in's classes, linked into the test and opened by this host.
 class HostOnly {
  public:
-  /// @param catalogue what stands in for the settings value "Configuration"; without it there is no settings
-  /// key
+  /// @param catalogue the settings value "Configuration"; without it there is no settings key
   explicit HostOnly(std::optional<std::string> catalogue = {})
       : application_(std::make_shared<toolkit::headless::Application>(toolkit::loop::ClockKind::kVirtual)),
         host_(host::document::Host::Create({.stateFolder = folder_.Path(),

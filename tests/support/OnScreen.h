@@ -9,7 +9,7 @@ class Application;
 
 namespace support {
 
-/// Shows the windows of an application until it is let go of. Empty in most test programs; those whose name
+/// Shows the windows of an application until it is destroyed. Empty in most test programs; those whose name
 /// ends in "-qt" run the same tests with every window on a screen, too.
 using ScreenMaker =
     std::function<std::shared_ptr<void>(const std::shared_ptr<toolkit::headless::Application>&)>;

@@ -15,7 +15,7 @@
 #include <stdexcept>
 #include <system_error>
 
-// Debian 12's header leaves this to its users.
+// Not declared by the headers of Debian 12.
 extern "C" {
 #include <sys/pidfd.h>
 }
@@ -56,7 +56,7 @@ std::vector<std::string> EnvironmentWith(const std::map<std::string, std::string
   return variables;
 }
 
-/// What posix_spawn does in the child before the program starts.
+/// Actions of posix_spawn in the child before the program starts.
 struct SpawnSettings {
   SpawnSettings() {
     posix_spawn_file_actions_init(&actions);

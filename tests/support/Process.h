@@ -24,7 +24,7 @@ struct Finished {
 
 /// A program that runs beside this one. Its output is collected. The destructor kills it.
 ///
-/// Waiting throws std::runtime_error after two minutes, which only a program that hangs takes.
+/// Waiting throws std::runtime_error after two minutes, when the program must be hanging.
 class Process {
  public:
   using Clock = std::chrono::steady_clock;

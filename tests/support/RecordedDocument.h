@@ -20,17 +20,17 @@
 
 namespace support {
 
-/// Replies that the test chooses in place of the simulated tester's own, by the beginning of the command.
+/// Replies that replace those of the simulated tester, by the beginning of the command.
 class ChosenReplies final : public sim::Faults {
  public:
-  /// @param command the whole command or its beginning, such as "GRES,410,"; the longest one that fits counts
+  /// @param command the whole command or its beginning, such as "GRES,410,"; the longest match counts
   /// @param reply a line without its end, ISO 8859-1
   void Set(const std::string& command, const std::string& reply) { replies_[command] = reply; }
   void Clear() { replies_.clear(); }
 
  private:
   void OnReply(const sim::Exchange& exchange, sim::Reply& reply) override {
-    // From the end: a longer beginning comes after those that it begins with.
+    // From the end, since a longer beginning sorts after its own prefixes.
     for (auto chosen = replies_.rbegin(); chosen != replies_.rend(); ++chosen) {
       if (!exchange.line.starts_with(chosen->first) || reply.lines.empty()) continue;
       reply.lines.front().bytes = chosen->second + "\r\n";
@@ -70,13 +70,13 @@ struct RunOf {
   /// Pressed in every guide in the place of play and next, such as
   /// `host::plugins::keld::guide::kNotApplicable`.
   std::int32_t button = 0;
-  /// The program is killed when it has saved the document so often; 0: it ends in good order. The document is
-  /// then the one that is on the disk.
+  /// The program is killed after this many saves, and the document is the one on the disk; 0: it ends
+  /// normally.
   int killedAfterSaves = 0;
 };
 
-/// A document whose results are made as a bench makes them: run by the real run controller and the simulated
-/// tester in memory, on the virtual clock, with replies of the test's choice.
+/// A document with results as from a real bench: run by the real run controller and the simulated tester in
+/// memory, on the virtual clock, with replies that the test chooses.
 ///
 ///     RecordedDocument file;
 ///     file.Add(410);                            // element 1
@@ -112,7 +112,7 @@ class RecordedDocument {
   Element Add(std::int32_t testId) { return document_->AddTest(testId); }
   Element Find(std::int32_t element) const { return document_->Find(element); }
 
-  /// Gives the element a limit of the standard, in place of the one that it has, and selects the standard.
+  /// Sets or replaces the limit of the standard on the element, and selects the standard.
   void Limit(std::int32_t element, const std::string& low, const std::string& high,
              const std::string& standard = "IEC 62353", const std::string& description = {}) {
     SetLimit(*document_, Host(), element, low, high, standard, description);
@@ -137,9 +137,9 @@ class RecordedDocument {
   }
   /// The tester lacks the test.
   void Refuses(std::int32_t testId) { Answers("STST," + std::to_string(testId) + ",", "ERRM,6002"); }
-  /// What the tester answers to commands that begin so: "IREM" with "irem,KELD(IN),S-9,3.10".
+  /// The reply to commands with this beginning: "IREM" with "irem,KELD(IN),S-9,3.10".
   void Answers(const std::string& command, const std::string& reply) { replies_->Set(command, reply); }
-  /// The registry holds these test leads for the tester, 0 to 500 mOhm or what a test needs otherwise.
+  /// Stores these test leads for the tester in the registry, 0 to 500 mOhm or an invalid value.
   /// @param measured when, as `WallClock` returns it
   void Leads(const std::string& serial, std::int32_t milliohms, const std::string& measured) {
     host::run::StoreLeads(*Host().Registry(), serial, milliohms, measured);
@@ -163,7 +163,7 @@ class RecordedDocument {
     return end;
   }
 
-  /// The document as the file has it.
+  /// The document as in its file.
   void Reopen() {
     const auto path = document_->Path();
     document_.reset();

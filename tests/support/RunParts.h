@@ -28,7 +28,7 @@ namespace support {
 
 inline constexpr char kStandard[] = "IEC 62353";
 
-/// Gives the element a limit of the standard, in place of the one that it has, and selects the standard.
+/// Sets or replaces the limit of the standard on the element, and selects the standard.
 inline void SetLimit(host::document::Document& document, host::document::Host& host, std::int32_t element,
                      const std::string& low, const std::string& high, const std::string& standard = kStandard,
                      const std::string& description = {}) {
@@ -50,8 +50,7 @@ inline std::vector<std::shared_ptr<orvik::ITestElement>> TopOf(const host::docum
   return elements;
 }
 
-/// All that takes part in the runs of a document beside a bench: the host's real parts, joined as the program
-/// joins them.
+/// All parts of a document's runs beside a bench: the real parts of the host, connected as in the program.
 class RunParts {
  public:
   using Elements = std::vector<std::shared_ptr<orvik::ITestElement>>;
@@ -76,7 +75,7 @@ class RunParts {
   }
   End RunByProgram(const Application& application) { return RunByProgram(application, TopOf(document_)); }
 
-  /// Saves the document; to begin with, to its file.
+  /// Saves the document; initially to its file.
   std::function<void()> save = [this] { document_.Save(); };
   /// The time, as the record has it.
   std::function<std::string()> clock = [] { return std::string("2026-11-22T10:00:00+01:00"); };

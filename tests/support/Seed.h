@@ -9,9 +9,9 @@
 
 namespace support {
 
-/// The seed of a randomised test. It is the same every time, so that two checks of the same sources come to
-/// the same end, unless the environment variable ORVIK_SEED says otherwise: a number, to have a failure
-/// again, or "new", to look for one. It is printed at once, so that it is known even when the test crashes.
+/// The seed of a randomised test. It is constant, so that two checks of the same sources have the same
+/// result. The environment variable ORVIK_SEED overrides it: a number repeats a failure, "new" searches for
+/// one. The seed is printed at once, so that it is known even if the test crashes.
 inline unsigned Seed() {
   unsigned seed = 20261121;
   const char* given = std::getenv("ORVIK_SEED");

@@ -13,11 +13,10 @@
 
 namespace support {
 
-/// The far end of a line in memory: the simulated tester, or a script of the test in its place, on the clock
-/// of a loop.
+/// The far end of a line in memory: the simulated tester or a script of the test, on the clock of a loop.
 class SimulatedLine {
  public:
-  /// Hears each command line in the tester's place, without its end.
+  /// Receives each command line instead of the tester, without line end.
   using Script = std::function<void(const std::string& command)>;
 
   SimulatedLine(std::shared_ptr<toolkit::loop::ILoop> loop, sim::Profile profile)
@@ -34,7 +33,7 @@ class SimulatedLine {
   const std::shared_ptr<host::serial::MemoryLine>& Line() const { return line_; }
   sim::Tester& Tester() { return tester_; }
 
-  /// Puts a script in the tester's place; empty gives the tester the line again.
+  /// Replaces the tester by a script; empty restores the tester.
   void AnswerBy(Script script) { script_ = std::move(script); }
   /// Sends a line, with its end, to the host; after the delay.
   void Reply(const std::string& line, std::chrono::microseconds delay = {}) {

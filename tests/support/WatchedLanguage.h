@@ -14,7 +14,7 @@
 
 namespace support {
 
-/// The host's language service, watched: a test can look around while a text is being translated.
+/// The host's language service with a hook: a test can inspect the state while a text is translated.
 class WatchedLanguage final : public orvik::ILanguageService {
  public:
   explicit WatchedLanguage(std::shared_ptr<orvik::ILanguageService> real) : real_(std::move(real)) {}
@@ -39,7 +39,7 @@ class WatchedLanguage final : public orvik::ILanguageService {
   const std::shared_ptr<orvik::ILanguageService> real_;
 };
 
-/// Watches the host's language service from now on. To be called before the plug-in first asks for it.
+/// Watches the host's language service from now on. Call it before the plug-in first asks for the service.
 inline std::shared_ptr<WatchedLanguage> WatchLanguage(host::document::Host& host) {
   auto watched = std::make_shared<WatchedLanguage>(
       orvik::As<orvik::ILanguageService>(host.CreateObject(orvik::HostClasses::kLanguageService)));

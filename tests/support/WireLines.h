@@ -18,7 +18,7 @@ struct WireLine {
   bool replyWaiting;
 };
 
-/// Keeps everything that happens on a wire.
+/// Records everything on a wire.
 class WireLines {
  public:
   explicit WireLines(host::serial::Wire& wire)

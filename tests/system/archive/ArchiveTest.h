@@ -15,7 +15,7 @@ namespace archive_tests {
 
 enum class Kind { kSqlite, kPostgreSql };
 
-/// A test that holds on both databases; each test has one of its own, empty at first.
+/// A test on both databases; each test starts with an empty one of its own.
 class ArchiveTest : public testing::TestWithParam<Kind> {
  protected:
   ArchiveTest()

@@ -8,7 +8,7 @@
 
 namespace archive_tests {
 
-/// "IEC 62353, class I": at most 300 mOhm, which the value breaks or not.
+/// "IEC 62353, class I": at most 300 mOhm, which the value may exceed.
 inline host::judge::JudgedLimit AtMost300(double value) {
   host::judge::JudgedLimit limit;
   limit.standard = "IEC 62353";

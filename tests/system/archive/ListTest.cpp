@@ -14,7 +14,7 @@ class ListTest : public ArchiveTest {
   ListTest() : archive_(Open()) {
     archive_.Add(Measured("/d/1", "P-7", 120, "2026-03-01T09:30:00Z"));
     archive_.Add(Measured("/d/2", "P-8", 400, "2026-01-01T00:00:00Z"));
-    auto late = Measured("/d/3", "P-7", 130, "");  // counts by the date of adding
+    auto late = Measured("/d/3", "P-7", 130, "");  // sorted by the date of adding
     late.entry.serial = "S-2";
     late.entry.outcome = host::judge::Outcome::kIncomplete;
     late.entry.finished = false;

@@ -39,7 +39,7 @@ std::filesystem::path ProgramFolder() {
   return newest;
 }
 
-/// Whom the server runs as.
+/// The user that the server runs as.
 const passwd& Owner() {
   static const passwd owner = [] {
     const auto* found = geteuid() != 0 ? getpwuid(geteuid()) : getpwnam("postgres");
@@ -50,12 +50,12 @@ const passwd& Owner() {
   return owner;
 }
 
-/// Becomes the program, as the owner; returns only when that fails.
+/// Replaces this process with the program, run as the owner; returns only when that fails.
 void Become(Words words, const std::filesystem::path& log) {
   if (geteuid() == 0 &&
       (setgroups(0, nullptr) != 0 || setgid(Owner().pw_gid) != 0 || setuid(Owner().pw_uid) != 0))
     return;
-  // After the change of user, which takes it back: the server goes with its keeper.
+  // After the change of user, which resets it: the server ends with its keeper.
   prctl(PR_SET_PDEATHSIG, SIGQUIT);
   const int out = open(log.c_str(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0600);
   const int in = open("/dev/null", O_RDONLY | O_CLOEXEC);
@@ -91,12 +91,12 @@ void Run(const Words& words, const std::filesystem::path& log) {
     throw std::runtime_error(words[0] + " failed: " + TextOf(log));
 }
 
-/// Ends the server when the lifeline is let go, and removes the folder. Nothing of the test program is run.
+/// Ends the server when the lifeline is closed, and removes the folder. Runs no code of the test program.
 [[noreturn]] void Keep(int lifeline, pid_t server, const std::filesystem::path& folder) {
   char nothing = 0;
   while (read(lifeline, &nothing, 1) < 0 && errno == EINTR) {
   }
-  kill(server, SIGQUIT);  // at once: nothing in it is wanted any more
+  kill(server, SIGQUIT);  // immediate shutdown: its data are not needed
   waitpid(server, nullptr, 0);
   std::error_code ignored;
   std::filesystem::remove_all(folder, ignored);
@@ -135,8 +135,8 @@ void PostgreSqlServer::Start() {
   if (pipe2(ends, O_CLOEXEC) != 0 || pipe2(answers, O_CLOEXEC) != 0) throw std::runtime_error("no pipe");
   const pid_t first = fork();
   if (first == 0) {
-    // The keeper is nobody's child and in a session of its own, so that what ends the test program's
-    // processes does not end it.
+    // The keeper is detached and in a session of its own, so a signal to the test program's processes does
+    // not end it.
     setsid();
     if (fork() != 0) _exit(0);
     close(ends[1]);

@@ -7,14 +7,14 @@
 
 namespace archive_tests {
 
-/// A PostgreSQL server of this test program's own: its data and its socket are in a temporary folder, it
-/// listens on no network, and keeps nothing on disk for longer than need be. A keeper process ends it and
-/// removes the folder when this program has ended, however that came about.
+/// A PostgreSQL server for this test program, with its data and its socket in a temporary folder and without
+/// a network port. A keeper process ends it and removes the folder after this program has ended, even if it
+/// crashed.
 ///
 /// The server refuses to run as root: then it runs as "postgres", or "nobody".
 class PostgreSqlServer {
  public:
-  /// The server of this program, started when it is first asked for. Throws when that fails.
+  /// The server of this program, started on the first call. Throws when that fails.
   static PostgreSqlServer& Get();
 
   PostgreSqlServer(const PostgreSqlServer&) = delete;

@@ -24,7 +24,7 @@ std::string Contents(const std::string& path) {
   return text.str();
 }
 
-/// The real program, with a state of its own.
+/// The real program, with its own state.
 class WithProgram {
  protected:
   static std::unique_ptr<support::Process> Start(Words words) {
@@ -52,7 +52,7 @@ class ProgramTest : public ArchiveTest, protected WithProgram {
     return nlohmann::json::parse(ended.out);
   }
 
-  /// A document whose test 410 was run to its end, judged by "IEC 62353" (at most 300 mOhm).
+  /// A document with a finished test 410, judged by "IEC 62353" (at most 300 mOhm).
   /// @param ohms what the tester read
   std::string Document(const std::string& name, const std::string& asset, const std::string& ohms = "0.123",
                        const support::RunOf& run = {}) const {
@@ -73,7 +73,7 @@ class ProgramTest : public ArchiveTest, protected WithProgram {
     return file;
   }
 
-  /// Runs a command that must end with 0.
+  /// Runs a command that must succeed.
   void Done(Words words) const {
     words.insert(words.begin(), {"--state", Path("state")});
     const auto ended = Start(std::move(words))->Wait();
@@ -337,7 +337,7 @@ TEST_P(ProgramTest, BusyArchive_EndsWithFiveOrWaits) {
 
 ON_BOTH_DATABASES(ProgramTest);
 
-/// What goes wrong, as the real program reports it.
+/// Errors, as the real program reports them.
 class ErrorTest : public testing::Test, protected WithProgram {
  protected:
   std::string Path(const std::string& name) const { return (state_.Path() / name).string(); }
@@ -389,7 +389,7 @@ TEST_F(ErrorTest, RefusesADatabaseOfAnotherProgram) {
 }
 
 TEST_F(ErrorTest, NamesAFolderThatCannotBeWritten) {
-  // Not even root makes files there.
+  // Even root cannot create files there.
   ASSERT_EQ(Start({"--state", Path("s"), "new", Path("a.orvik"), "--add", "410"})->Wait().status, 0);
   const auto ended = On("/proc/self/archive.sqlite", {"add", "--incomplete", Path("a.orvik")});
   EXPECT_EQ(ended.status, 2);

@@ -15,7 +15,7 @@ using testing::HasSubstr;
 
 class SchemaTest : public ArchiveTest {
  protected:
-  /// Lays out an archive as version 1 of it was, with a document: the statements are those that it wrote.
+  /// Creates an archive of version 1 with a document, by the statements of that version.
   void MakeVersionOne() const {
     const auto database = Database();
     std::ifstream file(SOURCE_PATH "/tests/system/archive/version-1.sql");
@@ -36,7 +36,7 @@ class SchemaTest : public ArchiveTest {
         .Whole();
   }
 
-  /// What the archive cannot be opened for.
+  /// The error when opening the archive.
   std::string Refusal(ArchiveError::Kind kind) const {
     try {
       Open();
@@ -118,7 +118,7 @@ TEST_P(SchemaTest, UpgradesVersionTwo_ResultsDoNotCount) {
 
 TEST_P(SchemaTest, RollsBackAFailedUpgrade) {
   MakeVersionOne();
-  // Keeps the second version's statements from ending well.
+  // Makes the statements of the second version fail.
   Database()->Run("CREATE TABLE orvik_elements_by_test (x BIGINT)", {});
   EXPECT_THROW(Open(), ArchiveError);
   EXPECT_EQ(Version(), 1);

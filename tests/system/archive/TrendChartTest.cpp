@@ -31,7 +31,7 @@ host::archive::TrendPoint Overloaded(host::archive::TrendPoint point) {
   return point;
 }
 
-/// The picture, which must be well-formed and in itself complete.
+/// The picture, which must be well-formed and self-contained.
 std::string Drawn(const std::vector<host::archive::TrendPoint>& points, const std::string& asset = "P-7",
                   bool simulated = false) {
   const auto svg = host::archive::TrendChart({asset, 410, simulated, points, 0, 0});
@@ -59,7 +59,7 @@ TEST(TrendMarks, FollowTheVerdict) {
   const auto marked = [](Verdict verdict, bool overloaded = false) {
     auto point = Point("2024-01-01T00:00:00Z", 100);
     point.element.result.verdict = verdict;
-    point.element.result.status = 1;  // the plug-in's has no say
+    point.element.result.status = 1;  // the plug-in's status is ignored
     return host::archive::MarkOf(overloaded ? Overloaded(point) : point);
   };
   EXPECT_EQ(marked(Verdict::kPassed), Mark::kPassed);

@@ -26,7 +26,7 @@ CatalogueEntry Entry(std::int32_t id, std::int32_t parent, const std::string& na
   return entry;
 }
 
-/// Names differ only at their ends, and the longest stand in groups that are shown closed.
+/// Names differ only at their ends, and the longest are in collapsed groups.
 TEST(AddTestsDialogTest, ShowsCompleteNames) {
   const std::string name = "Patient leakage current AC, single patient lead, SFC open neutral";
   AddTestsDialog dialog({Entry(100, 0, "Complete safety test"), Entry(1500, 100, "Applied part tests"),

@@ -41,7 +41,7 @@ QString TextOf(const QDialog& dialog) {
   return text;
 }
 
-/// What a question that is in the way asks.
+/// The text of an open question.
 std::string OpenQuestion() {
   const auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
   return dialog ? "; instead: " + TextOf(*dialog).toStdString() : "";
@@ -119,7 +119,7 @@ void DesktopTest::Drive(const Steps& steps) {
       ADD_FAILURE() << "this did not happen: " << steps[next].name << OpenQuestion();
       window_->EndByRequest();
     } else if (late && std::chrono::steady_clock::now() > deadline + kPatience) {
-      // Loops within loops: there is no other way out.
+      // Event loops are nested, so nothing else can end the test.
       std::fputs("the program cannot be ended either\n", stderr);
       std::_Exit(1);
     }

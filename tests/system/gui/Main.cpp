@@ -6,7 +6,7 @@
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
   qputenv("QT_QPA_PLATFORM", "offscreen");
-  // The machine's language has no say.
+  // The machine's language must not matter.
   qputenv("LC_ALL", "C.UTF-8");
   qunsetenv("ORVIK_LANG");
   const QApplication application(argc, argv);

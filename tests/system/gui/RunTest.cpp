@@ -159,7 +159,7 @@ TEST_F(RunTest, VerdictCountsRecordedReadings) {
   EXPECT_EQ(Cell(1, kRemark), "record only: not judged by any limit");
   EXPECT_THAT(window_->findChild<QLabel*>("verdictSentence")->text().toStdString(),
               HasSubstr("1 recorded only"));
-  // Nobody has said that the first is good; the second has limits.
+  // The first has no limit and no mark; the second has limits.
   EXPECT_NE(ResultColour(1), ResultColour(2));
   EXPECT_EQ(ResultColour(1),
             host::report::drawing::ColourOf(host::report::Standing::kNotApplicable).name().toStdString());

@@ -1,4 +1,4 @@
-// Which tester the window takes.
+// The choice of a tester in the window.
 #include <gtest/gtest.h>
 
 #include <QApplication>

@@ -23,8 +23,7 @@ namespace {
 using Json = nlohmann::json;
 using Words = std::vector<std::string>;
 
-/// All pauses and time-outs are divided by this: what is tried here is the killing, and a tester that is
-/// taken for mute does no harm.
+/// Divides all pauses and time-outs. A missed reply does no harm: only the killing matters here.
 constexpr char kTimeScale[] = "100";
 
 #ifdef __SANITIZE_ADDRESS__
@@ -38,14 +37,15 @@ int MomentsInAll() {
   return text ? std::atoi(text) : kMoments;
 }
 
-/// A command that is killed, and what must hold afterwards.
+/// A command that is killed, and the check afterwards.
 struct Row {
   const char* name;
   int share;  ///< percent of the moments
   Words words;
-  /// Makes what the command works on.
+  /// Creates the files that the command works on.
   void (*prepare)(const Workplace&);
-  /// @param old the place before the command, @param changed after a whole one
+  /// @param old the place before the command
+  /// @param changed the place after a complete command
   void (*verify)(const Workplace& place, const Finished& ended, const Workplace& old,
                  const Workplace& changed);
 };
@@ -59,12 +59,12 @@ void Require(bool holds, const std::string& what) {
 void PrepareRun(const Workplace& place) {
   place.Bench({"new", "@d.orvik", "--add", "400", "910"});
   place.Bench({"limit", "@d.orvik", "--from", "iec-60601-1-class-1-bf"});
-  // All of it passed a year ago.
+  // An earlier run, in which everything passed.
   place.Bench({"run", "@d.orvik", "--simulate", "sound-class-1", "--time-scale", kTimeScale});
 }
 
-/// From the first command on the results of the run before count no more, whenever the new one is killed.
-void RequireNothingOfTheRunBefore(const Workplace& place, const Json& shown, const Finished& ended) {
+/// From the first command on, results of the earlier run no longer count.
+void RequireNoEarlierResults(const Workplace& place, const Json& shown, const Finished& ended) {
   const auto runs = Json::parse(place.Bench({"show", "@d.orvik", "--runs", "--json"}))["runs"];
   const auto lines = Lines(ended);
   const bool commanded = std::any_of(lines.begin(), lines.end(), [](const std::string& line) {
@@ -75,12 +75,12 @@ void RequireNothingOfTheRunBefore(const Workplace& place, const Json& shown, con
   for (const auto& run : runs) Require(run["intact"] == true, "a record is damaged: " + run.dump());
   for (const auto& element : shown["elements"]) {
     const bool counts = element["verdict"] != "not tested";
-    Require(!counts || element["run"] == current, "a result of the run before counts: " + element.dump());
+    Require(!counts || element["run"] == current, "a result of the earlier run counts: " + element.dump());
   }
-  Require(WasKilled(ended) || current == 2, "the run came to its end without a record");
+  Require(WasKilled(ended) || current == 2, "the run ended without a record");
 }
 
-/// Every element that was told to be finished is in the document as it was told.
+/// The document contains every element as it was reported when it finished.
 void VerifyRun(const Workplace& place, const Finished& ended, const Workplace& old, const Workplace&) {
   place.Bench({"check", "@d.orvik"});
   const auto shown = Json::parse(place.Bench({"show", "@d.orvik", "--json"}));
@@ -94,7 +94,7 @@ void VerifyRun(const Workplace& place, const Finished& ended, const Workplace& o
         std::find_if(all.begin(), all.end(), [&](const Json& one) { return one["id"] == event["element"]; });
     Require(element != all.end(), "not in the document: " + line);
     Require((*element)["status"] == event["status"], "the document has " + element->dump() + " for " + line);
-    // What is found out while the session is closed may make it doubtful, and is named.
+    // A fault while the session is closed may make it doubtful, with a further reason.
     const bool doubtedLater = (*element)["verdict"] == "doubtful" && event["verdict"] != "failed" &&
                               (*element)["reasons"].size() > event["reasons"].size();
     Require(doubtedLater || (*element)["verdict"] == event["verdict"],
@@ -108,7 +108,7 @@ void VerifyRun(const Workplace& place, const Finished& ended, const Workplace& o
               "the document has " + element->dump() + " for " + line);
     }
   }
-  RequireNothingOfTheRunBefore(place, shown, ended);
+  RequireNoEarlierResults(place, shown, ended);
 }
 
 void PrepareLimit(const Workplace& place) {
@@ -116,14 +116,13 @@ void PrepareLimit(const Workplace& place) {
   place.Bench({"limit", "@d.orvik", "--from", "iec-60601-1-class-1-b"});
 }
 
-/// The file is the one before or the one after, to the letter; after, once the command has said so.
+/// The file is unchanged or completely changed; changed if the command reported it.
 void RequireOldOrNew(const Workplace& place, const Finished& ended, const Workplace& old,
                      const Workplace& changed, const std::string& file) {
   const auto contents = place.Contents(file);
   Require(old.Contents(file) != changed.Contents(file), "the row changes nothing");
-  Require(
-      contents == changed.Contents(file) || (contents == old.Contents(file) && ended.out.empty()),
-      file + " is neither as it was nor as it was told to be now, \"" + ended.out + "\"; it is\n" + contents);
+  Require(contents == changed.Contents(file) || (contents == old.Contents(file) && ended.out.empty()),
+          file + " is neither unchanged nor as reported, \"" + ended.out + "\"; it is\n" + contents);
 }
 
 void VerifyLimit(const Workplace& place, const Finished& ended, const Workplace& old,
@@ -132,7 +131,7 @@ void VerifyLimit(const Workplace& place, const Finished& ended, const Workplace&
   place.Bench({"check", "@d.orvik"});
 }
 
-/// The leads of another tester are known already.
+/// Another tester's leads are stored already.
 void PrepareCalibrate(const Workplace& place) {
   place.Bench({"calibrate", "--simulate", "sound-class-1", "--time-scale", kTimeScale, "--serial", "OTHER"});
 }
@@ -141,16 +140,16 @@ void VerifyCalibrate(const Workplace& place, const Finished& ended, const Workpl
                      const Workplace& changed) {
   const auto settings = [](const Workplace& from) {
     auto all = Json::parse(from.Contents("state/registry.json")).flatten();
-    // The time of day differs from run to run: of the date beside a value only the value is compared.
+    // The time differs from run to run, so only the value beside a date is compared.
     for (auto& [name, value] : all.items())
       if (name.find("Leads/") != std::string::npos)
         value = value.get<std::string>().substr(0, value.get<std::string>().find(' '));
     return all;
   };
-  // Several settings are written one after the other: each is as it was or as it is to be.
+  // Several settings are written in turn: each is either old or new.
   const auto before = settings(old), after = settings(changed), now = settings(place);
   Require(before != after, "the row changes nothing");
-  if (!ended.out.empty()) Require(now == after, "the value that was told is not stored");
+  if (!ended.out.empty()) Require(now == after, "the reported value is not stored");
   for (const auto& [name, value] : before.items()) Require(now.contains(name), name + " is lost");
   for (const auto& [name, value] : now.items())
     Require(value == before.value(name, Json()) || value == after.value(name, Json()), name + " is neither");
@@ -163,7 +162,7 @@ void PrepareArchive(const Workplace& place) {
   place.Bench({"archive", "add", "--incomplete", "@a.orvik"});
 }
 
-/// The documents that were told to be added are in the archive, from the first on and none half.
+/// The archive contains every document reported as added, in order and complete.
 void VerifyArchive(const Workplace& place, const Finished& ended, const Workplace& old,
                    const Workplace& changed) {
   const auto read = [](const Workplace& from) {
@@ -173,13 +172,13 @@ void VerifyArchive(const Workplace& place, const Finished& ended, const Workplac
       kept.insert(kept.begin(), document["asset"].get<std::string>() + document["sha256"].get<std::string>());
     return kept;
   };
-  // The same for every moment: the documents are made of the same words.
+  // The same for every moment, since the commands are the same.
   static const auto before = read(old), after = read(changed);
   const auto kept = read(place);
   Require(before.size() < after.size(), "the row changes nothing");
-  Require(kept.size() >= before.size() + Lines(ended).size(), "what was added is not there:\n" + ended.out);
+  Require(kept.size() >= before.size() + Lines(ended).size(), "an added document is missing:\n" + ended.out);
   Require(kept.size() <= after.size() && std::equal(kept.begin(), kept.end(), after.begin()),
-          "the archive holds something else");
+          "the archive contains something else");
   place.Bench({"archive", "export", std::to_string(kept.size()), "--to", "@last.orvik"});
   place.Bench({"check", "@last.orvik"});
 }
@@ -220,10 +219,10 @@ class Killings {
         std::chrono::duration_cast<std::chrono::microseconds>(std::chrono::steady_clock::now() - begin);
     lines_ = static_cast<int>(Lines(whole).size());
     if (whole.status < 0 || whole.status > 2 || lines_ == 0)
-      throw std::runtime_error(std::string(row_.name) + " does not go through: " + whole.error);
+      throw std::runtime_error(std::string(row_.name) + " failed: " + whole.error);
   }
 
-  /// @return how many were killed; the others had come to their end before
+  /// @return how many were killed; the others ended before
   int Perform() {
     std::vector<std::thread> workers;
     for (int worker = 0; worker < kWorkers; ++worker) workers.emplace_back([this, worker] { Work(worker); });
@@ -234,8 +233,8 @@ class Killings {
 
  private:
   static constexpr int kWorkers = 6;
-  /// A command that ends before its moment, since the machine was busier while it was measured, is tried
-  /// again; so often at most.
+  /// Attempts for each moment: a command may end before it if the machine was busier when the duration was
+  /// measured.
   static constexpr int kAttemptsForEach = 4;
 
   void Work(int worker) {
@@ -255,7 +254,7 @@ class Killings {
     const auto place = old_.CopyTo(folder);
     const auto ended = RunUntil(MomentOf(attempt, place), place.Words(row_.words));
     row_.verify(place, ended, old_, changed_);
-    // What a killed one leaves behind stands in nobody's way.
+    // The leftovers of a killed command do not hinder the next one.
     if (attempt % 16 == 0) {
       const auto again = Run(place.Words(row_.words));
       Require(again.status >= 0 && again.status <= 2, "it does not run again: " + again.error);
@@ -263,8 +262,7 @@ class Killings {
     if (WasKilled(ended)) ++killed_;
   }
 
-  /// Many of the moments come soon after a line of output or a change to a file: that is when something can
-  /// be lost.
+  /// Many moments are soon after a line of output or a change to a file, when something can be lost.
   Moment MomentOf(int attempt, const Workplace& place) const {
     std::seed_seq seeds{seed_, static_cast<unsigned>(attempt)};
     std::mt19937 random(seeds);
@@ -301,7 +299,7 @@ class Killings {
 
 class KillTest : public testing::TestWithParam<Row> {};
 
-TEST_P(KillTest, AtAnyMomentLosesNothingAndLeavesNobodyBehind) {
+TEST_P(KillTest, LosesNothingAndLeavesNoProcess) {
   const auto seed = support::Seed();
   const auto moments = MomentsInAll() * GetParam().share / 100;
   std::cout << GetParam().name << ": " << moments << " moments" << std::endl;
@@ -312,7 +310,7 @@ TEST_P(KillTest, AtAnyMomentLosesNothingAndLeavesNobodyBehind) {
   EXPECT_GE(killed, moments);
   std::vector<std::string> names;
   ASSERT_NO_THROW(names = orphans.AwaitEnd());
-  // The testers were running: otherwise nothing would have been shown.
+  // The simulated testers were running, or the test shows nothing.
   const bool simulated = std::count(GetParam().words.begin(), GetParam().words.end(), "--simulate") > 0;
   EXPECT_EQ(std::count(names.begin(), names.end(), "keld-sim") > 0, simulated);
 }
@@ -320,12 +318,12 @@ TEST_P(KillTest, AtAnyMomentLosesNothingAndLeavesNobodyBehind) {
 INSTANTIATE_TEST_SUITE_P(Commands, KillTest, testing::ValuesIn(kRows),
                          [](const auto& tested) { return std::string(tested.param.name); });
 
-TEST(SimulatedTesterTest, EndsWithTheProgramThatStartedIt) {
+TEST(SimulatedTesterTest, EndsWithItsParent) {
   const Orphans orphans;
   const FastFolder folder;
   const Workplace place(folder.Path() / "place");
   place.Bench({"new", "@d.orvik", "--add", "410"});
-  // In the middle of a session: the command that begins it has been sent.
+  // During a session: the command that begins it has been sent.
   const auto ended =
       RunUntil({.lines = 4}, place.Words({"run", "@d.orvik", "--simulate", "sound-class-1", "--events"}));
   EXPECT_TRUE(WasKilled(ended)) << ended.out << ended.error;
@@ -334,7 +332,7 @@ TEST(SimulatedTesterTest, EndsWithTheProgramThatStartedIt) {
   EXPECT_EQ(names, std::vector<std::string>{"keld-sim"});
 }
 
-/// The folder for what is temporary, as the programs see it, for as long as this object lives.
+/// The folder for temporary files of the programs while this object lives.
 class TemporaryPlace {
  public:
   explicit TemporaryPlace(std::string folder) : folder_(std::move(folder)) {
@@ -359,14 +357,14 @@ class TemporaryPlace {
   std::optional<std::string> before_;
 };
 
-TEST(SimulatedTesterTest, LeavesNothingTemporaryHoweverAndWheneverTheProgramIsEnded) {
+TEST(SimulatedTesterTest, LeavesNoTemporaryFiles) {
   for (const int signal : {SIGINT, SIGTERM, SIGHUP, SIGKILL}) {
     const Orphans orphans;
     const FastFolder folder;
     const Workplace place(folder.Path() / "place");
     place.Bench({"new", "@d.orvik", "--add", "410"});
     const TemporaryPlace temporary((folder.Path() / "tmp").string());
-    // The first thing that comes into the folder; shortly before it, maybe, and after it; during the session.
+    // At the first file in the folder, perhaps shortly before, shortly after, and during the session.
     for (const Moment& moment : {Moment{.touches = 1, .folders = {temporary.Folder()}, .signal = signal},
                                  Moment{.delay = std::chrono::milliseconds(10), .signal = signal},
                                  Moment{.touches = 1,

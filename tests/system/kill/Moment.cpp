@@ -11,7 +11,7 @@ namespace {
 
 using support::Process;
 
-/// A program that does not come to its moment in this time hangs; `Wait` says so.
+/// A program that does not reach its moment in this time hangs; `Wait` reports it.
 constexpr std::chrono::minutes kPatience{2};
 
 Process Started(std::vector<std::string> words) {
@@ -56,7 +56,7 @@ Finished RunUntil(const Moment& moment, std::vector<std::string> words) {
     Watch watch(moment.folders);
     program.ReadUntil([&] { return watch.Count() >= moment.touches; }, now() + kPatience, watch.Descriptor());
   }
-  // A program that has ended is still there to be waited for, so the signal reaches no other.
+  // A program that has ended is a zombie until `Wait`, so the signal cannot hit another one.
   if (program.ReadUntil([] { return false; }, now() + moment.delay) == Process::ReadEnd::kTimeout)
     program.Signal(moment.signal);
   return program.Wait();

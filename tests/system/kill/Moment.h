@@ -13,18 +13,18 @@ using support::Finished;
 
 /// When a program is killed.
 struct Moment {
-  /// After so many lines of output; -1 for no matter how many.
+  /// After this many lines of output; -1 for any.
   int lines = -1;
-  /// After so many changes to the files of the folders; -1 for no matter how many.
+  /// After this many changes to files of the folders; -1 for any.
   int touches = -1;
   std::vector<std::string> folders = {};
-  /// So long after that, or after the start.
+  /// This long after that, or after the start.
   std::chrono::microseconds delay{0};
-  /// By this signal. One other than SIGKILL may be taken as a request to end in order.
+  /// With this signal. A program may handle any but SIGKILL and end in order.
   int signal = SIGKILL;
 };
 
-/// Runs a program, its path and arguments, until the moment; kills it then unless it has ended before.
+/// Runs a program, given by path and arguments, and kills it at the moment unless it ends before.
 Finished RunUntil(const Moment& moment, std::vector<std::string> words);
 
 /// Runs a program to its end.

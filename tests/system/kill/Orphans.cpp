@@ -24,7 +24,7 @@ std::string NameOf(pid_t process) {
   return name;
 }
 
-/// The processes whose parent this one is.
+/// The children of this process.
 std::vector<pid_t> Children() {
   std::vector<pid_t> children;
   for (const auto& entry : std::filesystem::directory_iterator("/proc")) {
@@ -33,7 +33,7 @@ std::vector<pid_t> Children() {
     std::ifstream file(entry.path() / "stat");
     std::string text;
     std::getline(file, text);
-    // "PID (name) state parent": the name may hold blanks and brackets.
+    // "PID (name) state parent": the name may contain blanks and parentheses.
     const auto end = text.rfind(") ");
     if (end != std::string::npos && std::stoi(text.substr(end + 4)) == getpid())
       children.push_back(std::stoi(name));

@@ -5,14 +5,14 @@
 
 namespace kill_test {
 
-/// Takes in the programs whose parents are killed, so that none is lost sight of.
+/// Becomes the parent of programs whose own parent is killed, so that the test can wait for them.
 class Orphans {
  public:
   Orphans();
 
-  /// The names of all that were taken in, once they have ended by themselves. Called when no other children
+  /// The names of all these programs, after they have ended by themselves. Call it when no other children
   /// are running.
-  /// @throws std::runtime_error naming one that does not end; it is killed
+  /// @throws std::runtime_error naming a program that does not end; it is killed
   std::vector<std::string> AwaitEnd() const;
 };
 

@@ -9,19 +9,19 @@
 
 namespace kill_test {
 
-/// A folder with a state and documents of its own, in which orvik-bench is run.
+/// A folder with its own state and documents, in which orvik-bench runs.
 class Workplace {
  public:
   explicit Workplace(std::filesystem::path folder);
 
   std::string Path(const std::string& name) const { return (folder_ / name).string(); }
-  /// The words that start orvik-bench on this state.
+  /// The command line that starts orvik-bench with this state.
   std::vector<std::string> Words(const std::vector<std::string>& words) const;
-  /// Runs it to its end; `std::runtime_error` with what it says when it does not end with 0.
+  /// Runs it to its end. Throws `std::runtime_error` with its output unless the status is 0.
   std::string Bench(const std::vector<std::string>& words) const;
   std::string Contents(const std::string& name) const;
 
-  /// The same in another folder.
+  /// Copies it to another folder.
   Workplace CopyTo(const std::filesystem::path& folder) const;
   const std::filesystem::path& Folder() const { return folder_; }
 
@@ -29,8 +29,8 @@ class Workplace {
   std::filesystem::path folder_;
 };
 
-/// A folder in memory where there is one: it is the killing that is tried here and not the disk, and flushes
-/// to a disk would leave hardly any other moment to be killed at.
+/// A folder in memory if possible: the tests kill programs, they do not test the disk. With a real disk
+/// nearly every moment would be a flush.
 class FastFolder {
  public:
   FastFolder();

@@ -7,9 +7,8 @@
 #include <new>
 #include <pugixml.hpp>
 
-// Every block carries its size in front of it. The blocks come from malloc, so the address sanitizer, where
-// it is in use, still guards their ends and finds what is lost; only the pairing of new and delete, which
-// this program replaces, goes unwatched here.
+// Every block is preceded by its size. Blocks come from malloc, so the address sanitizer still checks their
+// bounds and finds leaks. It cannot check that new and delete match, since both are replaced here.
 namespace leaks {
 namespace {
 
@@ -44,7 +43,7 @@ void Give(void* block, std::size_t alignment) noexcept {
   std::free(first - std::max(kHeader, alignment));
 }
 
-// Before main, and so before the first document.
+// Runs before main, and so before the first document.
 const bool xmlIsCounted = [] {
   pugi::set_memory_management_functions([](std::size_t size) { return Take(size, kHeader); },
                                         [](void* block) { Give(block, kHeader); });

@@ -3,11 +3,10 @@
 #include <cstddef>
 #include <ostream>
 
-/// Counts what this program holds from `operator new`, which Allocations.cpp replaces, and from the XML
-/// library.
+/// Counts allocations by `operator new`, which Allocations.cpp replaces, and by the XML library.
 namespace leaks {
 
-/// Blocks that are held now, and the bytes that were asked for with them.
+/// Allocated blocks, and the bytes requested for them.
 struct Held {
   std::size_t blocks = 0;
   std::size_t bytes = 0;

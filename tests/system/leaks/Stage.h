@@ -19,7 +19,7 @@
 
 namespace leaks {
 
-/// A bench that outlives the runs on it, and a watch on one run at a time.
+/// A bench for several runs, each with a watch of its own.
 class Stage {
  public:
   Stage() {
@@ -29,8 +29,8 @@ class Stage {
 
   support::VirtualBench bench;
 
-  /// Goes through the act on a clean bench. Whatever it leaves to be done later is done too.
-  /// @return what it saw
+  /// Runs the act on a clean bench, and everything that it schedules.
+  /// @return the objects seen
   template <class Act>
   Watch Watched(const Act& act) {
     Watch watch;
@@ -83,13 +83,13 @@ class Stage {
     return *element;
   }
 
-  /// Runs the element; nobody else needs to hold it meanwhile.
+  /// Runs the element and keeps it alive meanwhile.
   void Perform() {
     const auto performed = element;
     performed->Perform(controller);
     Look(*host_->watch);
   }
-  /// Lets something happen at one call of the message pump of the run.
+  /// Runs the element and calls `happening` at one call of the run's message pump.
   void PerformWith(int moment, const std::function<void()>& happening) {
     int calls = 0;
     const auto pumped = bench.Application().Pumped().Subscribe([&] {

@@ -22,7 +22,7 @@
 namespace leaks {
 namespace {
 
-/// What an element holds while it runs, and shows to its own classes alone.
+/// What an element owns during a run; only its own classes have access.
 class Inside : public keld::model::CKELDElement {
  public:
   static std::shared_ptr<keld::instrument::CKELDInstrument> LinkOf(const keld::model::CKELDElement& element) {

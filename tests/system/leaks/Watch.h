@@ -14,27 +14,27 @@
 
 namespace leaks {
 
-/// Weak references to the objects of a run, each under the name of its kind.
+/// Weak references to the objects of a run, by kind.
 class Watch {
  public:
   template <class Object>
   void See(const std::string& kind, const std::shared_ptr<Object>& object) {
     if (!object) return;
     auto& seen = seen_[object.get()];
-    // An address may serve one object after another.
+    // A new object may reuse the address of a destroyed one.
     if (!seen.watched.expired()) return;
     if (!seen.kind.empty()) gone_.insert(seen.kind);
     seen = {kind, object};
   }
-  /// An element with all that it owns, and all that stands below it.
+  /// An element, all that it owns, and its children at any depth.
   void SeeElement(const std::shared_ptr<orvik::ITestElement>& element);
-  /// Every window that is loaded, with its controls at any depth.
+  /// Every loaded window, with its controls at any depth.
   void SeeWindows(const orvik::platform::IApplication& application);
   void SeeWindow(const std::shared_ptr<orvik::platform::IForm>& form);
 
-  /// Kinds of what is still there.
+  /// Kinds of the objects that still exist.
   std::vector<std::string> Alive() const;
-  /// Kinds of all that was ever seen.
+  /// Kinds of all objects ever seen.
   std::set<std::string> Kinds() const;
 
  private:
@@ -50,12 +50,12 @@ class Watch {
   std::set<std::string> gone_;
 };
 
-/// The host, with a watch on every object that the plug-in has it create.
+/// The host; reports every object that it creates for the plug-in.
 class WatchedHost final : public virtual orvik::IHost {
  public:
   explicit WatchedHost(std::shared_ptr<orvik::IHost> host) : host_(std::move(host)) {}
 
-  /// Who sees the objects; null for nobody.
+  /// Receives the created objects; may be null.
   Watch* watch = nullptr;
 
  private:

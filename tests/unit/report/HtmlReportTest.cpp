@@ -20,7 +20,7 @@ constexpr std::array kEveryStanding{Standing::kPassed,    Standing::kFailed,   S
                                     Standing::kDoubtful,  Standing::kAborted,  Standing::kNotTested,
                                     Standing::kNotJudged, Standing::kRecorded, Standing::kNotApplicable};
 
-/// The page read as XML, as strictly as it can be.
+/// The page, parsed strictly as XML.
 class ReadPage {
  public:
   explicit ReadPage(const report::Report& report) : text(report::HtmlReport(report)) {
@@ -41,7 +41,7 @@ class ReadPage {
   pugi::xml_document xml;
 };
 
-/// A style without blanks and line ends, which say nothing.
+/// A style sheet without white space.
 std::string Compact(std::string style) {
   std::erase_if(style, [](char letter) { return letter == ' ' || letter == '\n'; });
   return style;

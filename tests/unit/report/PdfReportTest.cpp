@@ -61,7 +61,7 @@ TEST_F(PdfReportTest, PageHeaderHasALineForTesters) {
   auto report = sample::Report();
   report.pageHeader[1] = {"Tester", "KELD(IN) A-1001; KELD(IN) A-1002; KELD(IN) A-1003; KELD(IN) A-1004"};
   EXPECT_THAT(Pages(report).at(0), HasSubstr(report.pageHeader[1].value));
-  // A longer one is cut short; date and operator are there all the same, each in about its half.
+  // Long texts are truncated; date and operator are still shown, each in about half of the width.
   report.pageHeader[1] = {"Tester", "KELD(IN), SIM-0001" + std::string(500, 'W')};
   report.pageHeader[3].value = std::string(500, 'W');
   EXPECT_THAT(Pages(report).at(0), HasSubstr("Tester: KELD(IN), SIM-0001W"));

@@ -6,7 +6,7 @@
 
 namespace sample {
 
-/// Texts that would break an output that takes them for anything else than text.
+/// Texts that break an output without escaping.
 struct Hostile {
   static constexpr char kScript[] = "<script>alert(1)</script>";
   static constexpr char kMarkup[] = "a|b;c\\d{e}";
@@ -124,7 +124,7 @@ inline void AddRuns(host::report::Report& report) {
   for (auto& section : report.sections) section.readings = OneCell("Result then", "failed in run 1");
 }
 
-/// The same text in every place that something from outside can come to.
+/// The same text in every place for text from outside.
 inline host::report::Report Everywhere(const std::string& text) {
   auto report = Report();
   MakePartial(report);

@@ -99,7 +99,7 @@ std::string BarFor(std::optional<double> low, std::optional<double> high, double
 TEST(TextBar, ShowsTheSideOfABound) {
   const auto within = BarFor({}, 300, 100), at = BarFor({}, 300, 300), above = BarFor({}, 300, 301);
   EXPECT_LT(within.find('*'), within.find('|'));
-  EXPECT_EQ(at.find('|'), std::string::npos) << "the value stands on the bound: " << at;
+  EXPECT_EQ(at.find('|'), std::string::npos) << "the value is on the bound: " << at;
   EXPECT_GT(above.find('*'), above.find('|'));
   const auto below = BarFor(207, 253, 206);
   EXPECT_LT(below.find('*'), below.find('|'));

@@ -10,11 +10,11 @@
 #include "tests/system/leaks/Allocations.h"
 #include "tests/system/leaks/Stage.h"
 
-// The proofs that nothing is left can fail.
+// Shows that the leak checks can fail.
 namespace leaks {
 namespace {
 
-TEST(ProofTest, MemoryThatStaysIsCounted) {
+TEST(LeakCheck, CountsHeldMemory) {
   const Held before = HeldNow();
   auto kept = std::make_unique<std::string>(1000, 'x');
   const Held during = HeldNow();
@@ -24,7 +24,7 @@ TEST(ProofTest, MemoryThatStaysIsCounted) {
   EXPECT_EQ(HeldNow(), before);
 }
 
-TEST(ProofTest, AlignedMemoryIsCountedToo) {
+TEST(LeakCheck, CountsAlignedMemory) {
   struct alignas(128) Wide {
     char content[128];
   };
@@ -36,7 +36,7 @@ TEST(ProofTest, AlignedMemoryIsCountedToo) {
   EXPECT_EQ(HeldNow(), before);
 }
 
-TEST(ProofTest, WhatSomebodyHoldsIsSeen) {
+TEST(LeakCheck, FindsHeldObjects) {
   Stage stage;
   std::shared_ptr<orvik::IResultData> held;
   const auto act = [&](Stage& placed) {
@@ -48,11 +48,11 @@ TEST(ProofTest, WhatSomebodyHoldsIsSeen) {
   const auto watched = stage.Watched(act);
   EXPECT_THAT(watched.Alive(), testing::UnorderedElementsAre("result", "measurement", "service record",
                                                              "OrvikTypeLib.ServiceRecord"));
-  // The result does not hold its element.
+  // The result does not keep its element alive.
   EXPECT_FALSE(orvik::As<keld::results::CKELDResultData>(held)->Owner());
 }
 
-TEST(ProofTest, ACircleIsSeenByBoth) {
+TEST(LeakCheck, FindsACircularReference) {
   struct Circle {
     std::shared_ptr<Circle> other;
   };

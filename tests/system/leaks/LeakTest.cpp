@@ -22,8 +22,8 @@
 #include "ui/FPretestPrompt.h"
 #include "ui/FYesNoPrompt.h"
 
-// Whatever a run creates is gone after it. Two proofs: weak references to every object that can be seen, and
-// the memory held before and after, to the byte.
+// A run frees all that it creates. Two checks: weak references to every visible object, and the allocated
+// memory before and after, to the byte.
 namespace leaks {
 namespace {
 
@@ -35,7 +35,7 @@ void Click(const platform::IPanel& panel, const std::string& button) {
   orvik::Required(orvik::As<platform::IButton>(panel.Find(button))).Click();
 }
 
-/// Opens a dialog of an element as a host does, looks at it, and puts it away.
+/// Opens a dialog of an element as a host does, and closes it.
 void OpenDialog(Stage& stage, const std::shared_ptr<orvik::IDialog>& dialog, bool docked) {
   ASSERT_TRUE(dialog);
   stage.See("dialog", dialog);
@@ -51,7 +51,7 @@ void OpenDialog(Stage& stage, const std::shared_ptr<orvik::IDialog>& dialog, boo
     form->Show();
   }
   dialog->Refresh();
-  // A docked dialog's own window is not loaded.
+  // The own window of a docked dialog is not loaded.
   stage.SeeWindow(form);
   if (docked) dialog->UnDock();
   dialog->Unload();
@@ -70,7 +70,7 @@ void OpenEveryDialog(Stage& stage, bool docked) {
   }
 }
 
-/// Operates the calibration window from its opening on.
+/// Operates the calibration window once it opens.
 void Calibrate(Stage& stage) {
   const auto dialog = keld::instrument::FCalibrateLeads::Create();
   stage.See("calibration", dialog);
@@ -121,7 +121,7 @@ void Prompts(Stage& stage) {
     question->SetPrompt("20999::Go on?");
     instruction->SetPrompt("Connect the lead.", "tag");
     if (modal) {
-      // The operator of the stage answers both.
+      // The simulated operator answers both.
       question->ShowModal();
       instruction->ShowModal();
     } else {
@@ -135,7 +135,7 @@ void Prompts(Stage& stage) {
 struct Scenario {
   const char* name;
   std::function<void(Stage&)> act;
-  /// Kinds of objects that it must have been seen to create.
+  /// Kinds of objects that it must create.
   Kinds creates;
 };
 
@@ -350,11 +350,11 @@ const std::vector<Scenario>& Scenarios() {
   return all;
 }
 
-class NothingIsLeftTest : public testing::TestWithParam<Scenario> {};
+class LeakTest : public testing::TestWithParam<Scenario> {};
 
-TEST_P(NothingIsLeftTest, AfterARun) {
+TEST_P(LeakTest, RunFreesItsObjects) {
   Stage stage;
-  // The catalogue and the shared objects live as long as the library is open.
+  // The catalogue and the shared objects live until the library is closed.
   stage.Watched(GetParam().act);
   const auto watched = stage.Watched(GetParam().act);
   EXPECT_EQ(watched.Alive(), std::vector<std::string>());
@@ -363,9 +363,9 @@ TEST_P(NothingIsLeftTest, AfterARun) {
   for (const auto& kind : GetParam().creates) EXPECT_TRUE(kinds.contains(kind)) << "never seen: " << kind;
 }
 
-TEST_P(NothingIsLeftTest, AsMuchMemoryIsHeldAfterEachRun) {
+TEST_P(LeakTest, RunsFreeTheirMemory) {
   Stage stage;
-  // What lives as long as the process, and room that grows once.
+  // Creates what lives as long as the process, and buffers that grow once.
   for (int round = 0; round < 3; ++round) stage.Watched(GetParam().act);
   const Held before = HeldNow();
   for (int round = 1; round <= 4; ++round) {
@@ -375,10 +375,10 @@ TEST_P(NothingIsLeftTest, AsMuchMemoryIsHeldAfterEachRun) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Runs, NothingIsLeftTest, testing::ValuesIn(Scenarios()),
+INSTANTIATE_TEST_SUITE_P(Runs, LeakTest, testing::ValuesIn(Scenarios()),
                          [](const auto& scenario) { return scenario.param.name; });
 
-TEST(WholeBenchTest, LeavesNothing) {
+TEST(WholeBench, FreesItsMemory) {
   const auto bench = [] {
     Stage stage;
     stage.Watched([](Stage& placed) {
