@@ -9,8 +9,8 @@
 #include "host/qt/Conversions.h"
 #include "host/report/HtmlText.h"
 #include "host/report/ReportParts.h"
-#include "host/report/drawing/PdfBar.h"
-#include "host/report/drawing/PdfStyle.h"
+#include "host/report/drawing/DrawBar.h"
+#include "host/report/drawing/PageStyle.h"
 
 namespace host::gui {
 

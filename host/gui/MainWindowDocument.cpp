@@ -4,10 +4,10 @@
 #include "OrvikTypeLib/IDialog.h"
 #include "OrvikTypeLib/IDialogForm.h"
 #include "host/base/Tr.h"
-#include "host/bench/ArchiveCommandEntry.h"
-#include "host/bench/ArchiveCommandOpen.h"
+#include "host/bench/ArchiveEntryOf.h"
 #include "host/bench/CatalogueEntries.h"
 #include "host/bench/InputError.h"
+#include "host/bench/OpenArchive.h"
 #include "host/bench/ProgramFiles.h"
 #include "host/document/ElementText.h"
 #include "host/elements/ElementFactory.h"
@@ -183,7 +183,7 @@ void MainWindow::Report() {
 void MainWindow::AddToArchive() {
   if (session_.Changed()) Save();
   const auto file = session_.TheDocument().Path().string();
-  const auto entry = bench::EntryOf(file, session_.Bench());
+  const auto entry = bench::ArchiveEntryOf(file, session_.Bench());
   if (entry.entry.simulated && Ask(this,
                                    Tr("%%1 was run on a simulated tester; nothing was measured. Add it to "
                                       "the archive all the same? It "

@@ -3,8 +3,8 @@
 #include <QPainter>
 #include <QPixmap>
 
-#include "host/report/drawing/PdfSign.h"
-#include "host/report/drawing/PdfStyle.h"
+#include "host/report/drawing/DrawSign.h"
+#include "host/report/drawing/PageStyle.h"
 
 namespace host::gui {
 

@@ -6,9 +6,9 @@
 #include "OrvikTypeLib/HostError.h"
 #include "host/archive/ArchiveError.h"
 #include "host/base/Tr.h"
-#include "host/bench/ArchiveCommandEntry.h"
-#include "host/bench/ArchiveCommandOpen.h"
+#include "host/bench/ArchiveEntryOf.h"
 #include "host/bench/InputError.h"
+#include "host/bench/OpenArchive.h"
 #include "host/cli/output/DocumentJson.h"
 
 namespace host::cli {
@@ -63,7 +63,7 @@ std::vector<archive::ArchivedDocument> ArchiveCommandAdd::Read(const bench::Glob
   std::vector<archive::ArchivedDocument> documents;
   for (const auto& file : files_) {
     try {
-      auto document = bench::EntryOf(file, workbench);
+      auto document = bench::ArchiveEntryOf(file, workbench);
       if (document.entry.simulated && !simulated_) {
         Refuse(file, Tr("%%1 was not added: it was run on a simulated tester, and nothing was measured "
                         "(--simulated adds it, marked as simulated)",

@@ -5,8 +5,8 @@
 #include <limits>
 
 #include "host/base/Tr.h"
-#include "host/bench/ArchiveCommandEntry.h"
-#include "host/bench/ArchiveCommandOpen.h"
+#include "host/bench/ArchiveEntryOf.h"
+#include "host/bench/OpenArchive.h"
 #include "host/cli/options/NumberOption.h"
 #include "host/document/DocumentFile.h"
 

@@ -6,7 +6,7 @@
 
 #include "host/base/Tr.h"
 #include "host/base/VisibleText.h"
-#include "host/bench/ArchiveCommandOpen.h"
+#include "host/bench/OpenArchive.h"
 #include "host/cli/commands/ArchiveCommandJson.h"
 #include "host/cli/options/NumberOption.h"
 #include "host/cli/output/DocumentJson.h"

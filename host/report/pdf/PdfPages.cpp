@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <stdexcept>
 
-#include "host/report/drawing/PdfText.h"
+#include "host/report/drawing/TextBlock.h"
 
 namespace host::report::pdf {
 namespace {

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "host/report/drawing/PdfStyle.h"
+#include "host/report/drawing/PageStyle.h"
 #include "host/report/pdf/PdfFile.h"
 
 namespace host::report::pdf {

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "host/report/drawing/PdfBar.h"
-#include "host/report/drawing/PdfSign.h"
+#include "host/report/drawing/DrawBar.h"
+#include "host/report/drawing/DrawSign.h"
 
 namespace host::report::pdf {
 namespace {
@@ -22,9 +22,9 @@ PdfTable TextTable(const std::string& text, const drawing::TextStyle& style) {
 /// The verdict on its colour, readable from across the room.
 PdfTable VerdictTable(const report::Verdict& verdict) {
   constexpr double kPadding = 420, kVerdictSign = 1500, kLeft = kPadding + kVerdictSign + 480;
-  const drawing::PdfText word({{verdict.word}}, drawing::kUsable - kLeft - kPadding, {46, true, Qt::white});
-  const drawing::PdfText sentence({{verdict.sentence}}, drawing::kUsable - kLeft - kPadding,
-                                  {14, false, Qt::white});
+  const drawing::TextBlock word({{verdict.word}}, drawing::kUsable - kLeft - kPadding, {46, true, Qt::white});
+  const drawing::TextBlock sentence({{verdict.sentence}}, drawing::kUsable - kLeft - kPadding,
+                                    {14, false, Qt::white});
   const double text = word.Height() + sentence.Height();
   PdfTable table({{drawing::kUsable}}, {});
   table.AddRow({{.text = {},

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "host/report/drawing/PdfSign.h"
+#include "host/report/drawing/DrawSign.h"
 
 namespace host::report::pdf {
 namespace {
@@ -27,7 +27,7 @@ PdfTable::Row PdfTable::Laid(const std::vector<TableCell>& cells) const {
     const double from = left + (i > 0 || grid ? kPadding : 0) + cell.indent;
     left += columns_[i].width;
     const double to = left - (i + 1 < columns_.size() || grid ? kPadding : 0);
-    drawing::PdfText text(cell.text, to - from, cell.style, columns_[i].alignment);
+    drawing::TextBlock text(cell.text, to - from, cell.style, columns_[i].alignment);
     const double height = cell.draw ? cell.height : text.Height();
     row.cells.push_back({cell, text, {from, look_.above, to - from, height}});
     row.height = std::max(row.height, height + 2 * look_.above);

@@ -4,7 +4,7 @@
 #include <optional>
 #include <vector>
 
-#include "host/report/drawing/PdfText.h"
+#include "host/report/drawing/TextBlock.h"
 #include "host/report/pdf/PdfPages.h"
 
 namespace host::report::pdf {
@@ -56,7 +56,7 @@ class PdfTable {
  private:
   struct LaidCell {
     TableCell cell;
-    drawing::PdfText text;
+    drawing::TextBlock text;
     QRectF place;  ///< of the text or the drawing, from the top of the row
   };
   struct Row {

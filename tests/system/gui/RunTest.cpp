@@ -11,7 +11,7 @@
 #include <QTreeWidget>
 
 #include "host/bench/SimulatedTester.h"
-#include "host/report/drawing/PdfStyle.h"
+#include "host/report/drawing/PageStyle.h"
 #include "tester/BuiltInProfiles.h"
 #include "tests/system/gui/DesktopTest.h"
 

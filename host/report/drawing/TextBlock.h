@@ -7,7 +7,7 @@
 #include <string>
 
 #include "host/report/Table.h"
-#include "host/report/drawing/PdfStyle.h"
+#include "host/report/drawing/PageStyle.h"
 
 class QTextLayout;
 
@@ -23,10 +23,10 @@ QFont FontOf(double points, bool bold = false, bool italic = false);
 QString Text(const std::string& utf8);
 
 /// A text broken into lines of a width, ready to be drawn in parts.
-class PdfText {
+class TextBlock {
  public:
-  PdfText(const report::Cell& cell, double width, const TextStyle& style,
-          Qt::AlignmentFlag alignment = Qt::AlignLeft);
+  TextBlock(const report::Cell& cell, double width, const TextStyle& style,
+            Qt::AlignmentFlag alignment = Qt::AlignLeft);
 
   std::size_t Lines() const;
   double Height() const { return HeightOf(0, Lines()); }

@@ -1,4 +1,4 @@
-#include "host/report/drawing/PdfText.h"
+#include "host/report/drawing/TextBlock.h"
 
 #include <QTextLayout>
 #include <algorithm>
@@ -26,7 +26,8 @@ QString Text(const std::string& utf8) {
   return QString::fromStdString(utf8).replace('\n', QChar(QChar::LineSeparator));
 }
 
-PdfText::PdfText(const report::Cell& cell, double width, const TextStyle& style, Qt::AlignmentFlag alignment)
+TextBlock::TextBlock(const report::Cell& cell, double width, const TextStyle& style,
+                     Qt::AlignmentFlag alignment)
     : layout_(std::make_shared<QTextLayout>(Text(report::PlainText(cell)), FontOf(style.points, style.bold))),
       colour_(style.colour) {
   QList<QTextLayout::FormatRange> formats;
@@ -54,22 +55,22 @@ PdfText::PdfText(const report::Cell& cell, double width, const TextStyle& style,
   layout_->endLayout();
 }
 
-std::size_t PdfText::Lines() const { return static_cast<std::size_t>(layout_->lineCount()); }
+std::size_t TextBlock::Lines() const { return static_cast<std::size_t>(layout_->lineCount()); }
 
-double PdfText::HeightOf(std::size_t first, std::size_t count) const {
+double TextBlock::HeightOf(std::size_t first, std::size_t count) const {
   double height = 0;
   for (auto i = first; i < std::min(first + count, Lines()); ++i)
     height += layout_->lineAt(static_cast<int>(i)).height() * kLeading;
   return height;
 }
 
-std::size_t PdfText::Fitting(std::size_t first, double height) const {
+std::size_t TextBlock::Fitting(std::size_t first, double height) const {
   std::size_t count = first < Lines() ? 1 : 0;
   while (first + count < Lines() && HeightOf(first, count + 1) <= height) ++count;
   return count;
 }
 
-void PdfText::Draw(QPainter& painter, QPointF at, std::size_t first, std::size_t count) const {
+void TextBlock::Draw(QPainter& painter, QPointF at, std::size_t first, std::size_t count) const {
   painter.setPen(colour_);
   for (auto i = first; i < std::min(first + count, Lines()); ++i) {
     const auto line = layout_->lineAt(static_cast<int>(i));

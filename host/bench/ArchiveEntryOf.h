@@ -11,7 +11,7 @@ class Workbench;
 
 /// Reads a document with all that the archive keeps of it; the archive itself gives identifier, revision and
 /// hash. `HostError` when it cannot be read.
-archive::ArchivedDocument EntryOf(const std::string& file, Workbench& workbench);
+archive::ArchivedDocument ArchiveEntryOf(const std::string& file, Workbench& workbench);
 
 /// Why the document is not finished; empty when every element has a result of any verdict. Doubtful and not
 /// judged ones are results too, though they never count as passed.

@@ -1,4 +1,4 @@
-#include "host/bench/ArchiveCommandOpen.h"
+#include "host/bench/OpenArchive.h"
 
 #include <cstdlib>
 #include <utility>

@@ -1,4 +1,4 @@
-#include "host/bench/ArchiveCommandEntry.h"
+#include "host/bench/ArchiveEntryOf.h"
 
 #include <unistd.h>
 
@@ -71,7 +71,7 @@ std::string Operators(const std::vector<archive::ArchivedElement>& elements) {
 
 }  // namespace
 
-archive::ArchivedDocument EntryOf(const std::string& file, Workbench& workbench) {
+archive::ArchivedDocument ArchiveEntryOf(const std::string& file, Workbench& workbench) {
   archive::ArchivedDocument entry;
   entry.contents = ReadFile(file);
   const auto document = document::Document::Open(workbench.Host(), file, document::DocumentFile::Use::kRead);

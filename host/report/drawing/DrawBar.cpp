@@ -1,9 +1,9 @@
-#include "host/report/drawing/PdfBar.h"
+#include "host/report/drawing/DrawBar.h"
 
 #include <QFontMetricsF>
 #include <algorithm>
 
-#include "host/report/drawing/PdfText.h"
+#include "host/report/drawing/TextBlock.h"
 
 namespace host::report::drawing {
 namespace {

@@ -1,4 +1,4 @@
-#include "host/report/drawing/PdfSign.h"
+#include "host/report/drawing/DrawSign.h"
 
 #include <QPainterPath>
 
