@@ -30,13 +30,12 @@
 #include "host/cli/commands/ShowCommand.h"
 #include "host/cli/commands/StandardsCommand.h"
 #include "host/cli/commands/TestsCommand.h"
+#include "host/cli/help/CheckArguments.h"
 #include "host/cli/help/CompletionCommand.h"
 #include "host/cli/help/ElementNumbersCommand.h"
-#include "host/cli/help/EmptyNames.h"
 #include "host/cli/help/HelpCommand.h"
 #include "host/cli/help/HelpFormat.h"
 #include "host/cli/help/ManualCommand.h"
-#include "host/cli/help/PlainWords.h"
 #include "host/cli/help/ProgramLanguage.h"
 #include "host/cli/help/UnknownWords.h"
 #include "host/cli/options/NumberOption.h"
@@ -174,8 +173,7 @@ bench::ExitStatus ParseAndRun(int argumentCount, const char* const* arguments) {
   } catch (const CLI::ParseError& error) {
     return Report(bench::ExitStatus::kBadInput, Refusal(program, error));
   }
-  RefuseEmptyNames(program);
-  RefuseControlCharacters(program);
+  CheckArguments(program);
   options.language = language;
   WaitAsAsked(options.wait);
   return RunChosen(entries, options);
