@@ -29,4 +29,20 @@ std::vector<std::string> ReasonTexts(const JudgedElement& element) {
   return texts;
 }
 
+std::string EquipmentText(const document::Equipment& equipment) {
+  std::vector<std::string> parts;
+  for (const auto* part : {&equipment.asset, &equipment.maker, &equipment.model, &equipment.serial})
+    if (!part->empty()) parts.push_back(VisibleText(*part));
+  return Joined(parts, ", ");
+}
+
+std::string TesterLine(const document::RecordedTester& tester) {
+  const auto measured = tester.leadsMeasured.empty()
+                            ? Tr("date not known")
+                            : Tr("measured %%1", {VisibleText(tester.leadsMeasured)});
+  return Tr("Tester %%1, serial number %%2, firmware %%3, test leads %%4 mOhm (%%5)",
+            {VisibleText(tester.type), VisibleText(tester.serial), VisibleText(tester.firmware),
+             std::to_string(tester.leads), measured});
+}
+
 }  // namespace host::report

@@ -3,6 +3,7 @@
 #include "host/base/TextColumns.h"
 #include "host/base/Tr.h"
 #include "host/base/VisibleText.h"
+#include "host/report/DocumentText.h"
 #include "host/report/ReportParts.h"
 
 namespace host::report::parts {
@@ -74,10 +75,8 @@ void AddTesters(std::vector<report::Fact>& facts, const std::vector<document::Re
 std::vector<report::Fact> PageHeader(const document::Equipment& equipment, const std::string& otherwise,
                                      const std::vector<document::RecordedTester>& testers,
                                      const RunTimes& times) {
-  std::vector<std::string> names;
-  for (const auto* part : {&equipment.asset, &equipment.maker, &equipment.model, &equipment.serial})
-    if (!part->empty()) names.push_back(VisibleText(*part));
-  return {{Tr("Equipment"), names.empty() ? VisibleText(otherwise) : Joined(names, ", ")},
+  const auto names = EquipmentText(equipment);
+  return {{Tr("Equipment"), names.empty() ? VisibleText(otherwise) : names},
           {Tr("Tester"), TestersText(testers)},
           {Tr("Tested"), SpanText(times)},
           {Tr("Operator"), OperatorsText(times)}};

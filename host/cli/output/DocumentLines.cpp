@@ -35,23 +35,6 @@ Tone ToneOf(Outcome outcome) {
   return Tone::kOpen;
 }
 
-std::string TesterLine(const document::RecordedTester& tester) {
-  auto line = Tr("Tester %%1, serial number %%2, firmware %%3, test leads %%4 mOhm",
-                 {VisibleText(tester.type), VisibleText(tester.serial), VisibleText(tester.firmware),
-                  std::to_string(tester.leads)});
-  return line + " (" +
-         (tester.leadsMeasured.empty() ? Tr("date not known")
-                                       : Tr("measured %%1", {VisibleText(tester.leadsMeasured)})) +
-         ")";
-}
-
-std::string EquipmentLine(const document::Equipment& equipment) {
-  std::vector<std::string> parts;
-  for (const auto* part : {&equipment.asset, &equipment.maker, &equipment.model, &equipment.serial})
-    if (!part->empty()) parts.push_back(VisibleText(*part));
-  return parts.empty() ? std::string() : Tr("Equipment %%1", {Joined(parts, ", ")}) + "\n";
-}
-
 std::string ElementsOf(const judge::JudgedDocument& document, bool coloured) {
   std::string text;
   std::map<std::int32_t, int> depths;
@@ -83,10 +66,11 @@ std::string TextOf(const report::DocumentView& document, bool coloured) {
       Tr("%%1: %%2", {VisibleText(std::filesystem::path(document.path).filename().string()),
                       Toned(Tr(judge::OutcomeText(judged.outcome)), ToneOf(judged.outcome), coloured)}) +
       "\n";
-  text += EquipmentLine(document.equipment);
+  if (const auto equipment = report::EquipmentText(document.equipment); !equipment.empty())
+    text += Tr("Equipment %%1", {equipment}) + "\n";
   if (!document.comment.empty()) text += Tr("Comment: %%1", {VisibleText(document.comment)}) + "\n";
   if (judged.simulated) text += Tr("SIMULATED: a simulated tester was used; nothing was measured.") + "\n";
-  if (document.instrument) text += TesterLine(*document.instrument) + "\n";
+  if (document.instrument) text += report::TesterLine(*document.instrument) + "\n";
   if (!judged.leftOut.empty())
     text += Tr("Judged by %%1 alone; left out: %%2",
                {VisibleText(Joined(judged.standards, ", ")), VisibleText(Joined(judged.leftOut, ", "))}) +

@@ -6,6 +6,7 @@
 #include "host/bench/InputError.h"
 #include "host/judge/ReasonText.h"
 #include "host/judge/Verdict.h"
+#include "host/report/DocumentText.h"
 #include "host/report/RunOutcome.h"
 
 namespace host::cli {
@@ -15,19 +16,8 @@ namespace {
 using host::VisibleText;
 
 std::string EquipmentText(const document::Equipment& equipment) {
-  std::vector<std::string> parts;
-  for (const auto* part : {&equipment.asset, &equipment.maker, &equipment.model, &equipment.serial})
-    if (!part->empty()) parts.push_back(VisibleText(*part));
-  return parts.empty() ? Tr("not recorded") : Joined(parts, ", ");
-}
-
-std::string TesterText(const document::RecordedTester& tester) {
-  const auto measured = tester.leadsMeasured.empty()
-                            ? Tr("date not known")
-                            : Tr("measured %%1", {VisibleText(tester.leadsMeasured)});
-  return Tr("Tester %%1, serial number %%2, firmware %%3, test leads %%4 mOhm (%%5)",
-            {VisibleText(tester.type), VisibleText(tester.serial), VisibleText(tester.firmware),
-             std::to_string(tester.leads), measured});
+  const auto text = report::EquipmentText(equipment);
+  return text.empty() ? Tr("not recorded") : text;
 }
 
 std::string BoundsText(const document::RecordedLimit& limit) {
@@ -97,7 +87,7 @@ std::string RunText(const document::RunRecord& run, std::size_t count, const rep
       "\n";
   text += Tr("Equipment %%1", {EquipmentText(run.equipment)}) + "\n";
   if (!run.by.empty()) text += Tr("Operator %%1", {VisibleText(run.by)}) + "\n";
-  for (const auto& tester : run.testers) text += TesterText(tester) + "\n";
+  for (const auto& tester : run.testers) text += report::TesterLine(tester) + "\n";
   for (const auto& test : outcomes.Of(run).tests) text += TestText(test);
   return text;
 }
