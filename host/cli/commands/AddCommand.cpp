@@ -1,14 +1,13 @@
 #include "host/cli/commands/AddCommand.h"
 
 #include <CLI/CLI.hpp>
-#include <iostream>
 
 #include "OrvikTypeLib/As.h"
 #include "OrvikTypeLib/ITestContainer.h"
 #include "host/base/Tr.h"
-#include "host/bench/Consequences.h"
 #include "host/bench/DocumentElements.h"
 #include "host/bench/InputError.h"
+#include "host/cli/commands/ChangeDocument.h"
 #include "host/cli/help/Examples.h"
 #include "host/cli/options/NumberOption.h"
 #include "host/document/Document.h"
@@ -46,23 +45,20 @@ document::ElementPlace AddCommand::PlaceIn(const document::Document& document) c
 }
 
 bench::ExitStatus AddCommand::Run(const bench::GlobalOptions& options) {
-  bench::Workbench workbench(options);
-  const auto document = document::Document::Open(workbench.Host(), file_);
-  const bench::Consequences consequences(*document, *workbench.Host());
-  auto place = PlaceIn(*document);
-  std::string list;
-  for (const auto testId : tests_) {
-    if (!workbench.PlugIn().CreateTest(testId))
-      throw bench::InputError(
-          Tr("TESTID %%1: the catalogue has no such test; \"orvik-bench tests\" prints those it has",
-             {std::to_string(testId)}));
-    const auto added = document->AddTest(testId, place);
-    if (place.after != 0) place = document::ElementPlace::After(*added);
-    list += bench::ListOf(added, *workbench.Host()->Elements());
-  }
-  document->Save();
-  std::cout << list << consequences.Text();
-  return bench::ExitStatus::kPassed;
+  return ChangeDocument(options, file_, [&](auto& workbench, auto& document) {
+    auto place = PlaceIn(document);
+    std::string list;
+    for (const auto testId : tests_) {
+      if (!workbench.PlugIn().CreateTest(testId))
+        throw bench::InputError(
+            Tr("TESTID %%1: the catalogue has no such test; \"orvik-bench tests\" prints those it has",
+               {std::to_string(testId)}));
+      const auto added = document.AddTest(testId, place);
+      if (place.after != 0) place = document::ElementPlace::After(*added);
+      list += bench::ListOf(added, *workbench.Host()->Elements());
+    }
+    return list;
+  });
 }
 
 }  // namespace host::cli

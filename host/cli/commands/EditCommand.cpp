@@ -6,7 +6,7 @@
 #include "host/base/TextColumns.h"
 #include "host/base/Tr.h"
 #include "host/base/VisibleText.h"
-#include "host/bench/Consequences.h"
+#include "host/cli/commands/ChangeDocument.h"
 #include "host/cli/help/Examples.h"
 #include "host/cli/options/EquipmentOptions.h"
 
@@ -57,21 +57,17 @@ void EditCommand::Change(document::Document& document) const {
 }
 
 bench::ExitStatus EditCommand::Run(const bench::GlobalOptions& options) {
-  bench::Workbench workbench(options);
   bool changes = false;
   for (const auto* option : {"--asset", "--serial", "--maker", "--model", "--comment"})
     changes = changes || Given(option);
-  const auto document = document::Document::Open(
-      workbench.Host(), file_,
-      changes ? document::DocumentFile::Use::kWrite : document::DocumentFile::Use::kRead);
-  if (!changes) {
-    std::cout << FieldsOf(*document);
-    return bench::ExitStatus::kPassed;
-  }
-  const bench::Consequences consequences(*document, *workbench.Host());
-  Change(*document);
-  document->Save();
-  std::cout << FieldsOf(*document) << consequences.Text();
+  if (changes)
+    return ChangeDocument(options, file_, [&](auto&, auto& document) {
+      Change(document);
+      return FieldsOf(document);
+    });
+  bench::Workbench workbench(options);
+  std::cout << FieldsOf(
+      *document::Document::Open(workbench.Host(), file_, document::DocumentFile::Use::kRead));
   return bench::ExitStatus::kPassed;
 }
 

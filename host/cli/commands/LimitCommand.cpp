@@ -1,7 +1,6 @@
 #include "host/cli/commands/LimitCommand.h"
 
 #include <CLI/CLI.hpp>
-#include <iostream>
 
 #include "OrvikTypeLib/As.h"
 #include "OrvikTypeLib/HostError.h"
@@ -9,13 +8,13 @@
 #include "OrvikTypeLib/ILimitData.h"
 #include "OrvikTypeLib/ITestContainer.h"
 #include "host/base/Tr.h"
-#include "host/bench/Consequences.h"
 #include "host/bench/DocumentElements.h"
 #include "host/bench/InputError.h"
 #include "host/bench/LimitText.h"
 #include "host/bench/ProgramFiles.h"
 #include "host/bench/RecordOnlyMark.h"
 #include "host/bench/SetOfLimits.h"
+#include "host/cli/commands/ChangeDocument.h"
 #include "host/cli/help/Examples.h"
 #include "host/cli/options/NumberOption.h"
 #include "host/document/Document.h"
@@ -90,13 +89,8 @@ CLI::App* LimitCommand::Declare(CLI::App& program) {
 
 bench::ExitStatus LimitCommand::Run(const bench::GlobalOptions& options) {
   Check();
-  bench::Workbench workbench(options);
-  const auto document = document::Document::Open(workbench.Host(), file_);
-  const bench::Consequences consequences(*document, *workbench.Host());
-  const auto lines = Change(workbench, *document, options);
-  document->Save();
-  std::cout << lines << consequences.Text();
-  return bench::ExitStatus::kPassed;
+  return ChangeDocument(
+      options, file_, [&](auto& workbench, auto& document) { return Change(workbench, document, options); });
 }
 
 void LimitCommand::RefuseTogether(const std::string& option, const std::vector<std::string>& others) const {

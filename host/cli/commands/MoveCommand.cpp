@@ -1,12 +1,11 @@
 #include "host/cli/commands/MoveCommand.h"
 
 #include <CLI/CLI.hpp>
-#include <iostream>
 
 #include "host/base/Tr.h"
-#include "host/bench/Consequences.h"
 #include "host/bench/DocumentElements.h"
 #include "host/bench/InputError.h"
+#include "host/cli/commands/ChangeDocument.h"
 #include "host/cli/help/Examples.h"
 #include "host/cli/options/NumberOption.h"
 #include "host/document/Document.h"
@@ -49,16 +48,14 @@ document::ElementPlace MoveCommand::PlaceIn(const document::Document& document) 
 }
 
 bench::ExitStatus MoveCommand::Run(const bench::GlobalOptions& options) {
-  bench::Workbench workbench(options);
-  const auto document = document::Document::Open(workbench.Host(), file_);
-  const auto element = bench::ElementFor(*document, "--element", element_);
-  const bench::Consequences consequences(*document, *workbench.Host());
-  document->Move(element, PlaceIn(*document));
-  document->Save();
-  for (const auto& top : report::TopElements(*document))
-    std::cout << bench::ListOf(top, *workbench.Host()->Elements());
-  std::cout << consequences.Text();
-  return bench::ExitStatus::kPassed;
+  return ChangeDocument(options, file_, [&](auto& workbench, auto& document) {
+    const auto element = bench::ElementFor(document, "--element", element_);
+    document.Move(element, PlaceIn(document));
+    std::string list;
+    for (const auto& top : report::TopElements(document))
+      list += bench::ListOf(top, *workbench.Host()->Elements());
+    return list;
+  });
 }
 
 }  // namespace host::cli

@@ -1,11 +1,10 @@
 #include "host/cli/commands/RemoveCommand.h"
 
 #include <CLI/CLI.hpp>
-#include <iostream>
 
 #include "host/base/Tr.h"
-#include "host/bench/Consequences.h"
 #include "host/bench/DocumentElements.h"
+#include "host/cli/commands/ChangeDocument.h"
 #include "host/cli/help/Examples.h"
 #include "host/cli/options/NumberOption.h"
 #include "host/document/Document.h"
@@ -25,18 +24,15 @@ CLI::App* RemoveCommand::Declare(CLI::App& program) {
 }
 
 bench::ExitStatus RemoveCommand::Run(const bench::GlobalOptions& options) {
-  bench::Workbench workbench(options);
-  const auto document = document::Document::Open(workbench.Host(), file_);
-  const bench::Consequences consequences(*document, *workbench.Host());
-  std::string list;
-  for (const auto& element : bench::ElementsFor(*document, "--element", elements_)) {
-    if (document->Find(element->ID()) != element) continue;  // it went with a sequence that was removed
-    document->Remove(element);
-    list += Tr("removed: %%1", {bench::NameWithNumber(*element, *workbench.Host()->Elements())}) + "\n";
-  }
-  document->Save();
-  std::cout << list << consequences.Text();
-  return bench::ExitStatus::kPassed;
+  return ChangeDocument(options, file_, [&](auto& workbench, auto& document) {
+    std::string list;
+    for (const auto& element : bench::ElementsFor(document, "--element", elements_)) {
+      if (document.Find(element->ID()) != element) continue;  // it went with a sequence that was removed
+      document.Remove(element);
+      list += Tr("removed: %%1", {bench::NameWithNumber(*element, *workbench.Host()->Elements())}) + "\n";
+    }
+    return list;
+  });
 }
 
 }  // namespace host::cli
