@@ -55,7 +55,7 @@ TEST_F(CKELDTestElementRunTest, SendsItsTestModeAsTheSetting) {
 TEST_F(CKELDTestElementRunTest, RecordsTheReading) {
   struct Row {
     std::int32_t testId;
-    double leads;
+    std::int32_t leads;
     const char* expectedUnit;
     const char* reply;
     const char* value;
