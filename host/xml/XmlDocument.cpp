@@ -64,8 +64,7 @@ Fault Checked(std::string_view text, const pugi::xml_document& document, Load lo
   const auto nul = text.find('\0');
   const auto reference = FindReferenceToNothing(text);
   const pugi::xml_parse_result result = load();
-  if (!result)
-    return {static_cast<std::size_t>(result.offset < 0 ? 0 : result.offset), result.description()};
+  if (!result) return {static_cast<std::size_t>(result.offset < 0 ? 0 : result.offset), result.description()};
   if (nul != std::string_view::npos) return {nul, Tr("there is a NUL byte")};
   if (reference != std::string_view::npos)
     return {reference, Tr("the reference stands for no character; remove it")};
