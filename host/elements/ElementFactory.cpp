@@ -5,8 +5,24 @@
 #include "OrvikTypeLib/As.h"
 #include "OrvikTypeLib/ITestContainer.h"
 #include "host/base/Text.h"
+#include "host/elements/InformationRecord.h"
+#include "host/elements/TestElement.h"
 
 namespace host::elements {
+namespace {
+
+/// The short way to a base element: nearly every plug-in's element shows the texts of its base as its own.
+const TestElement* WrappedByTexts(const orvik::ITestElement& element) {
+  try {
+    const auto texts = orvik::As<InformationRecord>(element.Information());
+    const auto* base = texts ? texts->Element() : nullptr;
+    return base && base->IsInside(element) ? base : nullptr;
+  } catch (const orvik::HostError&) {
+    return nullptr;  // the chain does not ask the plug-in
+  }
+}
+
+}  // namespace
 
 void ElementFactory::AddPlugIn(const std::shared_ptr<orvik::IPlugIn>& plugIn) {
   const auto id = orvik::Required(plugIn).ID();
@@ -62,17 +78,12 @@ const ElementFactory::Prototype* ElementFactory::PrototypeOf(const Identity& ide
   return &prototype;
 }
 
-void ElementFactory::SetWrapped(const orvik::ITestElement* outer, std::shared_ptr<orvik::IBaseElement> base) {
-  wrapped_[outer] = base;
-}
-
-void ElementFactory::ForgetWrapped(const orvik::ITestElement* outer) { wrapped_.erase(outer); }
-
 std::shared_ptr<orvik::IBaseElement> ElementFactory::BaseOf(
     const std::shared_ptr<orvik::ITestElement>& element) const {
   if (auto base = orvik::As<orvik::IBaseElement>(element)) return base;
-  const auto found = wrapped_.find(element.get());
-  return found == wrapped_.end() ? nullptr : found->second.lock();
+  const auto* inside = element ? WrappedByTexts(*element) : nullptr;
+  if (!inside) inside = wrapped_.Inside(element.get());
+  return inside ? inside->Self() : nullptr;
 }
 
 }  // namespace host::elements

@@ -6,7 +6,6 @@
 #include <memory>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -14,6 +13,7 @@
 #include "OrvikTypeLib/IObject.h"
 #include "OrvikTypeLib/IPlugIn.h"
 #include "OrvikTypeLib/ITestElement.h"
+#include "host/elements/WrappedElements.h"
 
 namespace host::elements {
 
@@ -72,9 +72,8 @@ class ElementFactory {
   /// The base element behind an element: itself, or the one that it wraps; empty when there is none.
   std::shared_ptr<orvik::IBaseElement> BaseOf(const std::shared_ptr<orvik::ITestElement>& element) const;
 
-  /// Registers the base element that the plug-in's element `outer` wraps; it is not kept alive.
-  void SetWrapped(const orvik::ITestElement* outer, std::shared_ptr<orvik::IBaseElement> base);
-  void ForgetWrapped(const orvik::ITestElement* outer);
+  /// The base elements that plug-ins' elements wrap; they are not kept alive.
+  WrappedElements& Wrapped() { return wrapped_; }
 
   Problems& Trouble() { return problems_; }
 
@@ -104,7 +103,7 @@ class ElementFactory {
   std::vector<std::shared_ptr<orvik::IPlugIn>> plugIns_;
   /// Copies of catalogue entries, without children; an empty one for a test that is not in the catalogue.
   std::map<Entry, Prototype, EntryOrder> prototypes_;
-  std::unordered_map<const orvik::ITestElement*, std::weak_ptr<orvik::IBaseElement>> wrapped_;
+  WrappedElements wrapped_;
   Problems problems_;
 };
 

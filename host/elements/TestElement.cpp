@@ -31,7 +31,7 @@ std::shared_ptr<orvik::IXmlNode> ScratchRoot(const std::string& name) {
 
 }  // namespace
 
-TestElement::~TestElement() { LeaveFactory(); }
+TestElement::~TestElement() { information_->ForgetElement(); }
 
 std::shared_ptr<orvik::IBaseElement> TestElement::Self() const {
   const auto self = std::const_pointer_cast<IObject>(weak_from_this().lock());
@@ -73,13 +73,8 @@ void TestElement::ITestElement_Initialize(const std::string& sPlugInID, std::int
   testId_ = lTestID;
 }
 
-void TestElement::LeaveFactory() {
-  if (const auto factory = factory_.lock(); factory && wrappedBy_) factory->ForgetWrapped(wrappedBy_);
-  wrappedBy_ = nullptr;
-}
-
 void TestElement::ITestElement_Terminate() {
-  LeaveFactory();
+  wrapped_.Leave();
   outer_.reset();
 }
 
@@ -145,10 +140,10 @@ std::shared_ptr<orvik::IAuxiliaryState> TestElement::IBaseElement_Auxiliary() co
 }
 
 void TestElement::IBaseElement_SetOuter(std::shared_ptr<ITestElement> iteOuter) {
-  LeaveFactory();
+  wrapped_.Leave();
   outer_ = iteOuter;
-  wrappedBy_ = iteOuter.get();
-  if (const auto factory = factory_.lock(); factory && iteOuter) factory->SetWrapped(wrappedBy_, Self());
+  if (const auto factory = factory_.lock(); factory && iteOuter)
+    wrapped_.Join(factory->Wrapped(), iteOuter.get());
   OuterChanged();
 }
 

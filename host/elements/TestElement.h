@@ -33,6 +33,11 @@ class TestElement : public orvik::IBaseElement {
   explicit TestElement(std::weak_ptr<ElementFactory> factory) : factory_(std::move(factory)) {}
   ~TestElement() override;
 
+  /// Whether `element` wraps this one.
+  bool IsInside(const ITestElement& element) const { return outer_.lock().get() == &element; }
+  /// Null during destruction.
+  std::shared_ptr<IBaseElement> Self() const;
+
  protected:
   /// This element as others see it: the plug-in's element that wraps it, else this one.
   std::shared_ptr<ITestElement> Shown() const;
@@ -95,8 +100,6 @@ class TestElement : public orvik::IBaseElement {
   std::shared_ptr<orvik::IAuxiliaryState> IBaseElement_Auxiliary() const override;
   void IBaseElement_SetOuter(std::shared_ptr<ITestElement> iteOuter) override;
 
-  std::shared_ptr<IBaseElement> Self() const;
-  void LeaveFactory();
   void CopyTo(TestElement& copy) const;
   std::shared_ptr<orvik::IResultData> CopyOfResult() const;
   void LoadElement(const std::shared_ptr<orvik::IXmlNode>& node, const std::shared_ptr<IObject>& context);
@@ -115,8 +118,8 @@ class TestElement : public orvik::IBaseElement {
   std::string plugInId_;
   std::weak_ptr<ITestElement> parent_;
   std::weak_ptr<ITestElement> outer_;
-  const ITestElement* wrappedBy_ = nullptr;  ///< as the factory has it
-  std::shared_ptr<InformationRecord> information_ = std::make_shared<InformationRecord>();
+  WrappedElements::Link wrapped_{*this};
+  std::shared_ptr<InformationRecord> information_ = std::make_shared<InformationRecord>(this);
   /// Created on first use: few elements differ from the default.
   mutable std::shared_ptr<AuxiliaryState> auxiliary_;
   std::shared_ptr<orvik::IConfigData> configuration_;
