@@ -140,7 +140,7 @@ inline std::string TextOf(const Variant& vValue) {
   return {};
 }
 
-/// The same for a value that is no longer needed: its text, possibly a whole catalogue, is not copied.
+/// As above, but moves the text out of the value: it can be a whole catalogue.
 inline std::string TextOf(Variant&& vValue) {
   if (auto* psValue = std::get_if<std::string>(&vValue)) return std::move(*psValue);
   return TextOf(std::as_const(vValue));

@@ -14,7 +14,7 @@ namespace host::bench {
 archive::Archive OpenArchiveToAsk(const std::string& location, const GlobalOptions& options);
 archive::Archive OpenArchiveToAdd(const std::string& location, const GlobalOptions& options);
 
-/// The document of that identifier; `InputError` when there is none.
+/// The document with that identifier; throws `InputError` if it is missing.
 archive::ArchivedDocument Fetched(archive::Archive& archive, std::int64_t id);
 
 }  // namespace host::bench

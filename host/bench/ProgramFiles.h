@@ -30,7 +30,7 @@ std::filesystem::path Simulator();
 /// Where registry and error log live: `option` (--state) when it is not empty, else ORVIK_STATE, else the
 /// folder "orvik" of the XDG state directory. None when the environment names none of them.
 std::optional<std::filesystem::path> FindStateFolder(const std::string& option);
-/// The same for callers that need one: `InputError` when there is none.
+/// As above, but throws `InputError` if it is missing.
 std::filesystem::path StateFolder(const std::string& option);
 
 }  // namespace host::bench::files

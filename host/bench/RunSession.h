@@ -33,7 +33,7 @@ class RunSession {
   RunSession(Workbench& workbench, document::Document& document, serial::WireLog& log, RunReporter& reporter,
              const TesterConnection& tester, const std::string& by);
 
-  /// What `reporter` is told is judged by these standards; without any by every one that an element names.
+  /// `reporter` gets verdicts by these standards; if empty, by every standard of the element.
   void JudgeBy(std::vector<std::string> standards) { standards_ = std::move(standards); }
   /// The run's stop request, for the operator of the guide.
   run::StopRequest& Stop() { return stop_; }

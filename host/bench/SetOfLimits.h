@@ -25,7 +25,7 @@ enum class EarlierSets { kReplaced, kKept };
 
 /// Sets the limits of the set on the elements and all below them. Limits of the same set are replaced. So are
 /// those of an earlier set of the same standard (such as class II before class I), unless they are kept. A
-/// limit without a description was set by hand and stays. An element that gets a limit is no longer
+/// limit without a description was set by hand and is kept. An element that gets a limit is no longer
 /// record-only. When the set covers none of the elements, nothing changes and `applied` is empty.
 /// `InputError` naming the element when its unit does not fit; elements may then have changed already.
 AppliedLimits ApplyLimitSet(const standards::LimitSet& set,

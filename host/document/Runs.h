@@ -32,7 +32,7 @@ class Runs {
 
   /// Appends a run, which gets its number here. It is open, and may change, until `Close`.
   RunRecord& Open(RunRecord run);
-  /// The open run; null if there is none.
+  /// The open run, or null.
   RunRecord* Current() { return open_ ? &all_.back() : nullptr; }
   /// The run is over: from here on nothing changes it.
   void Close();

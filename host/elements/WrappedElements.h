@@ -37,7 +37,7 @@ class WrappedElements {
   WrappedElements& operator=(const WrappedElements&) = delete;
   ~WrappedElements();
 
-  /// The element that `outer` wraps; null if there is none. Linear.
+  /// The element that `outer` wraps, or null. Takes linear time.
   TestElement* Inside(const orvik::ITestElement* outer) const;
 
  private:

@@ -61,7 +61,7 @@ void CheckIdentity(const serial::Message& reply, std::vector<document::Reason>& 
     doubts.push_back({"other-tester", {fields[0], plugins::keld::kInstrument}});
 }
 
-/// The number of an error reply, parsed as leniently as the plug-in does; 0 when there is none.
+/// The number of an error reply, parsed as leniently as the plug-in does; 0 if it has no number.
 int ErrorNumber(const serial::Message& reply) {
   const auto& fields = reply.Parameters();
   if (fields.empty()) return 0;
